@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+
+namespace Orvane {
+
+/// Passes every call on to another client. Derive and override the one member to watch, change or refuse:
+///
+///     class QuietClient : public ForwardingClient
+///     {
+///         using ForwardingClient::ForwardingClient;
+///         void IStyleEditorClient_RedrawMap() override { }
+///     };
+class ForwardingClient : public IStyleEditorClient
+{
+public:
+    /// client: not owned; outlives this object.
+    explicit ForwardingClient(IStyleEditorClient& client) : m_client(client) { }
+
+protected:
+    IShellServices* IStyleEditorClient_GetShellServices() override { return m_client.GetShellServices(); }
+    void IStyleEditorClient_ShowEditor(QWidget* form) override { m_client.ShowEditor(form); }
+    void IStyleEditorClient_EditorClosed(QWidget* form) override { m_client.EditorClosed(form); }
+    QString IStyleEditorClient_ReadSetting(QWidget* form, const QString& key) override
+    {
+        return m_client.ReadSetting(form, key);
+    }
+    void IStyleEditorClient_WriteSetting(QWidget* form, const QString& key, const QString& value) override
+    {
+        m_client.WriteSetting(form, key, value);
+    }
+    ILayerDatabase& IStyleEditorClient_Database() override { return m_client.Database(); }
+    std::unique_ptr<IRecordset> IStyleEditorClient_LayersTable() override { return m_client.LayersTable(); }
+    qint32 IStyleEditorClient_StoredScaleToDialog(double storedScale) const override
+    {
+        return m_client.StoredScaleToDialog(storedScale);
+    }
+    double IStyleEditorClient_DialogScaleToStored(qint32 scaleIndex) const override
+    {
+        return m_client.DialogScaleToStored(scaleIndex);
+    }
+    void IStyleEditorClient_BeginLayerEdit(IRecordset& layers) override { m_client.BeginLayerEdit(layers); }
+    void IStyleEditorClient_LayerChanged(qint32 layerID) override { m_client.LayerChanged(layerID); }
+    QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override
+    {
+        return m_client.LayerDisplayName(layerID);
+    }
+    void IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name) override
+    {
+        m_client.RenameLayer(layerID, name);
+    }
+    void IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name) override
+    {
+        m_client.RenameGroup(groupID, name);
+    }
+    QStringList IStyleEditorClient_GetSchemeNames() override { return m_client.GetSchemeNames(); }
+    QString IStyleEditorClient_GetCurrentScheme() override { return m_client.GetCurrentScheme(); }
+    void IStyleEditorClient_LoadScheme(const QString& name) override { m_client.LoadScheme(name); }
+    void IStyleEditorClient_CreateScheme(const QString& name) override { m_client.CreateScheme(name); }
+    void IStyleEditorClient_SaveScheme(const QString& name) override { m_client.SaveScheme(name); }
+    void IStyleEditorClient_DeleteScheme(const QString& name) override { m_client.DeleteScheme(name); }
+    void IStyleEditorClient_SaveSchemesToStartup() override { m_client.SaveSchemesToStartup(); }
+    PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override
+    {
+        return m_client.PromptText(request);
+    }
+    qint32 IStyleEditorClient_CreateLayer() override { return m_client.CreateLayer(); }
+    void IStyleEditorClient_DeleteLayer(qint32 layerID) override { m_client.DeleteLayer(layerID); }
+    bool IStyleEditorClient_IsCodeAssigned(qint16 code) override { return m_client.IsCodeAssigned(code); }
+    QString IStyleEditorClient_StyleCommandPrefix() const override { return m_client.StyleCommandPrefix(); }
+    bool IStyleEditorClient_QuickModesAllowed() const override { return m_client.QuickModesAllowed(); }
+    std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override
+    {
+        return m_client.RendererStyles();
+    }
+    QString IStyleEditorClient_ThemeName(QWidget* form) const override { return m_client.ThemeName(form); }
+    void IStyleEditorClient_RedrawMap() override { m_client.RedrawMap(); }
+
+    /// The client behind, for overrides.
+    IStyleEditorClient& Wrapped() const { return m_client; }
+
+private:
+    IStyleEditorClient& m_client;
+};
+
+} // namespace Orvane

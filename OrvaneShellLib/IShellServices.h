@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/MonochromeBitmap.h>
+#include <OrvaneShellLib/PromptRequest.h>
+
+#include <QString>
+
+class QWidget;
+
+namespace Orvane {
+
+/// Services of the host's shell: scales, patterns, modal windows. Implemented by the host, which owns it and
+/// keeps it alive as long as the component holds it.
+///
+/// All calls are made on the user-interface thread. What a member raises reaches the person through the
+/// component's error message, or the host through the call that led to it.
+class IShellServices
+{
+public:
+    virtual ~IShellServices() = default;
+    IShellServices(const IShellServices&) = delete;
+    IShellServices& operator=(const IShellServices&) = delete;
+
+    /// The denominator that a scale index stands for, e.g. 50000 for 1:50000. index: 1 to 255; others as the
+    /// host likes.
+    double ScaleFromIndex(qint32 index) const { return IShellServices_ScaleFromIndex(index); }
+
+    /// The index whose denominator is nearest to the one given; the inverse of ScaleFromIndex.
+    qint32 IndexFromScale(double denominator) const { return IShellServices_IndexFromScale(denominator); }
+
+    /// The bitmap of a pattern. kind: 7 for fill patterns, whose numbers are 0 to 31.
+    MonochromeBitmap FillPattern(int kind, int number) const
+    {
+        return IShellServices_FillPattern(kind, number);
+    }
+
+    /// Shows the form modally, in front of the window that is active, and returns when it is closed through
+    /// CloseModal or by the person. The form stays the caller's.
+    void ShowModal(QWidget* form) { IShellServices_ShowModal(form); }
+
+    /// Ends the ShowModal of that form. Does nothing when the form is not shown modally.
+    void CloseModal(QWidget* form) { IShellServices_CloseModal(form); }
+
+    /// Opens the host's value entry popup over a text control and puts the value entered into the control's
+    /// "text" property; returns when the popup has closed. title: translated. minimum and maximum: inclusive.
+    void EnterValue(QWidget* control, EntryKind kind, double minimum, double maximum, const QString& title)
+    {
+        IShellServices_EnterValue(control, kind, minimum, maximum, title);
+    }
+
+    /// The background colour of lists, as a BGR integer (red in the low byte).
+    qint32 ListBackColour() const { return IShellServices_ListBackColour(); }
+
+protected:
+    IShellServices() = default;
+
+private:
+    virtual double IShellServices_ScaleFromIndex(qint32 index) const = 0;
+    virtual qint32 IShellServices_IndexFromScale(double denominator) const = 0;
+    virtual MonochromeBitmap IShellServices_FillPattern(int kind, int number) const = 0;
+    virtual void IShellServices_ShowModal(QWidget* form) = 0;
+    virtual void IShellServices_CloseModal(QWidget* form) = 0;
+    virtual void IShellServices_EnterValue(
+        QWidget* control, EntryKind kind, double minimum, double maximum, const QString& title)
+        = 0;
+    virtual qint32 IShellServices_ListBackColour() const = 0;
+};
+
+} // namespace Orvane

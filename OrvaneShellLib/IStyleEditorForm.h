@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/RendererStyle.h>
+
+#include <QString>
+
+#include <vector>
+
+namespace Orvane {
+
+class IStyleFilter;
+
+/// What a host may ask of an editor beyond IStyleEditor. Reached by dynamic_cast from the form or from
+/// IStyleEditor.
+///
+/// All calls are made on the user-interface thread. A call passes on unchanged what the host's own members
+/// raise.
+class IStyleEditorForm
+{
+public:
+    virtual ~IStyleEditorForm() = default;
+    IStyleEditorForm(const IStyleEditorForm&) = delete;
+    IStyleEditorForm& operator=(const IStyleEditorForm&) = delete;
+
+    /// The ID under which the editor was created.
+    QString EditorID() const { return IStyleEditorForm_EditorID(); }
+
+    /// Reads the one layer from the database and brings its node into view in the flat list; for layers that
+    /// the host made. A layer that does not exist changes nothing.
+    void AddNewLayer(qint32 layerID) { IStyleEditorForm_AddNewLayer(layerID); }
+
+    /// Shows the dialog for a quick look, without restoring its view state.
+    void Popup() { IStyleEditorForm_Popup(); }
+
+    /// Stores the code that the panel shows into the layer. A layer that does not exist changes nothing.
+    void SetLayerCode(qint32 layerID) { IStyleEditorForm_SetLayerCode(layerID); }
+
+    /// Renames the layer through IStyleEditorClient::RenameLayer and shows the new name at all its nodes.
+    void SetLayerName(qint32 layerID, const QString& name) { IStyleEditorForm_SetLayerName(layerID, name); }
+
+    /// The host's renderer styles, read once for the life of the dialog.
+    const std::vector<RendererStyle>& LoadRendererStyles() { return IStyleEditorForm_LoadRendererStyles(); }
+
+    /// The filter of the flat list; nullptr when every layer is shown. Not owned.
+    const IStyleFilter* Filter() const { return IStyleEditorForm_Filter(); }
+
+    /// Stores the filter and, once the dialog is initialised, reads the flat list anew.
+    void Filter(const IStyleFilter* filter) { IStyleEditorForm_Filter(filter); }
+
+    /// Closes the dialog and drops edits that were not applied, without asking.
+    void UnloadWithoutApply() { IStyleEditorForm_UnloadWithoutApply(); }
+
+protected:
+    IStyleEditorForm() = default;
+
+private:
+    virtual QString IStyleEditorForm_EditorID() const = 0;
+    virtual void IStyleEditorForm_AddNewLayer(qint32 layerID) = 0;
+    virtual void IStyleEditorForm_Popup() = 0;
+    virtual void IStyleEditorForm_SetLayerCode(qint32 layerID) = 0;
+    virtual void IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name) = 0;
+    virtual const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() = 0;
+    virtual const IStyleFilter* IStyleEditorForm_Filter() const = 0;
+    virtual void IStyleEditorForm_Filter(const IStyleFilter* filter) = 0;
+    virtual void IStyleEditorForm_UnloadWithoutApply() = 0;
+};
+
+} // namespace Orvane

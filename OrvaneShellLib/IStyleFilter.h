@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+namespace Orvane {
+
+/// Says which layers an editor's flat list shows, and whether the editor opens on its groups. Implemented by
+/// the host, which keeps it alive as long as an editor holds it.
+class IStyleFilter
+{
+public:
+    virtual ~IStyleFilter() = default;
+    IStyleFilter(const IStyleFilter&) = delete;
+    IStyleFilter& operator=(const IStyleFilter&) = delete;
+
+    /// True when the editor is to open on its Groups tab.
+    bool ShowsGroups() const { return IStyleFilter_ShowsGroups(); }
+
+    /// True when the flat list shows the layer. pseudo is the layer's Pseudo column. Called once a row of
+    /// each load.
+    bool IsLayerShown(qint32 layerID, bool pseudo) const
+    {
+        return IStyleFilter_IsLayerShown(layerID, pseudo);
+    }
+
+protected:
+    IStyleFilter() = default;
+
+private:
+    virtual bool IStyleFilter_ShowsGroups() const = 0;
+    virtual bool IStyleFilter_IsLayerShown(qint32 layerID, bool pseudo) const = 0;
+};
+
+} // namespace Orvane

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Orvane {
+
+/// What a person may enter.
+enum class EntryKind {
+    Text,
+    Integer, ///< a whole number within the minimum and maximum given
+};
+
+/// What IStyleEditorClient::PromptText asks for.
+struct PromptRequest {
+    QString title; ///< translated
+    QString defaultText; ///< shown selected when the prompt opens
+    EntryKind kind = EntryKind::Text;
+    double minimum = 0; ///< of an integer; unused for a text
+    double maximum = 0; ///< of an integer; unused for a text
+    int width = 0; ///< of the entry, in average characters; 0 leaves it to the host
+};
+
+/// What the person made of it.
+struct PromptAnswer {
+    bool accepted = false; ///< false when the prompt was cancelled; text is then empty
+    QString text; ///< as entered, untrimmed
+};
+
+} // namespace Orvane
