@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3_stmt;
+
+namespace Orvane {
+
+/// The columns of a statement's rows by name, compared without case.
+///
+/// Rows are read in loops that name the same columns in the same order: each name that was asked for
+/// remembers its follower, so that nearly every look-up is one short comparison.
+class ColumnMap
+{
+public:
+    /// Takes the columns of a prepared statement.
+    void Read(sqlite3_stmt* statement);
+
+    int Count() const { return int(m_columns.size()); }
+    /// The column's position, from 0; -1 when there is none. Of two columns with one name the first is meant.
+    int Find(std::string_view name);
+    const std::string& Name(int position) const { return m_columns[size_t(position)].name; }
+    /// True for the columns that hold a colour as 32 bits, which may be stored as an unsigned number.
+    bool IsColour(int position) const { return m_columns[size_t(position)].isColour; }
+
+private:
+    struct Column {
+        std::string name;
+        bool isColour = false;
+    };
+    struct Spelling {
+        std::string name;
+        int position = -1;
+        size_t follower = 0;
+    };
+
+    size_t FindSpelling(std::string_view name);
+    int FindColumn(std::string_view name) const;
+
+    std::vector<Column> m_columns;
+    std::vector<Spelling> m_spellings; // as callers spell them, each one's case included
+    size_t m_last = 0;
+};
+
+/// True when two ASCII names are equal without case.
+bool SameName(std::string_view left, std::string_view right);
+
+} // namespace Orvane

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+namespace Orvane {
+
+class SqliteConnection;
+
+/// The tables of a layer database file, in all versions that were ever written.
+namespace LayerSchema {
+
+/// Marks a file as a layer database: "ORVN", in the header's application ID.
+inline constexpr quint32 ApplicationID = 0x4F52564E;
+/// Version 1 has the three tables and the two indexes that rows are sought by; version 2 adds the indexes
+/// that make lists and groups fast.
+inline constexpr qint32 CurrentVersion = 2;
+
+/// Marks an empty database as a layer database and makes its tables.
+void Create(SqliteConnection& connection);
+
+/// Raises DatabaseTooNew for a database of a newer version.
+void CheckVersion(SqliteConnection& connection);
+
+/// Brings a database of an older version to the current one, all or nothing.
+void Migrate(SqliteConnection& connection);
+
+/// Raises NotALayerDatabase when a table or a column that every version has is missing.
+void Check(SqliteConnection& connection);
+
+} // namespace LayerSchema
+
+} // namespace Orvane

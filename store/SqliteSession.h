@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/OpenRows.h"
+#include "store/SqliteConnection.h"
+#include "store/StatementPool.h"
+#include "store/TableAccess.h"
+#include "store/TransactionStack.h"
+
+namespace Orvane {
+
+/// All that one open layer database consists of; cursors work with it.
+struct SqliteSession {
+    SqliteSession(const QString& path, SqliteConnection::Access access, const StoreOptions& options)
+        : connection(path, access, options)
+    {
+    }
+
+    SqliteConnection connection;
+    OpenRows openRows;
+    TransactionStack transactions{connection, openRows};
+    StatementCache statements{connection};
+    TableAccess layers{connection, "Layers", "LayerIDIDX", "LayerID"};
+    TableAccess groups{connection, "LayerGroups", "IDIDX", "ID"};
+};
+
+} // namespace Orvane
