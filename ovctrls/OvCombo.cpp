@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "ovctrls/OvCombo.h"
+
+#include "ovctrls/OvComboDelegate.h"
+
+#include <QEvent>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int commandsRole = Qt::UserRole;
+constexpr int numberRole = Qt::UserRole + 1;
+constexpr double twipsPerInch = 1440;
+
+int ToTwips(int pixels, int dotsPerInch)
+{
+    return int(std::lround(pixels * twipsPerInch / dotsPerInch));
+}
+
+} // namespace
+
+OvCombo::OvCombo(QWidget* parent) : QComboBox(parent)
+{
+    setItemDelegate(new OvComboDelegate(this));
+    // Without a placeholder the first item that is added would be selected at once.
+    setPlaceholderText(QStringLiteral(" "));
+    // Some styles open lists as menus, which show all rows whatever DropDownRows says.
+    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+void OvCombo::SetRenderer(const StyleStringRenderer& renderer)
+{
+    m_renderer = renderer;
+    FindTabColumn();
+    update();
+}
+
+void OvCombo::Clear()
+{
+    clear();
+    m_newIndex = -1;
+    m_tabColumn = 0;
+}
+
+void OvCombo::Insert(const QString& item, int position)
+{
+    m_newIndex = std::clamp(position, 0, count());
+    insertItem(m_newIndex, m_renderer.PlainText(item), item);
+    m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(item, font()));
+}
+
+QString OvCombo::List(int index) const
+{
+    return itemData(index, commandsRole).toString();
+}
+
+qint32 OvCombo::ItemData(int index) const
+{
+    return itemData(index, numberRole).toInt();
+}
+
+void OvCombo::SetItemData(int index, qint32 value)
+{
+    setItemData(index, value, numberRole);
+}
+
+void OvCombo::SetItemDescription(int index, const QString& description)
+{
+    setItemText(index, description);
+}
+
+void OvCombo::SetListIndex(int index)
+{
+    if (index >= -1 && index < count())
+        setCurrentIndex(index);
+}
+
+void OvCombo::SetDropDownRows(int rows)
+{
+    setMaxVisibleItems(std::max(rows, 1));
+}
+
+int OvCombo::WidthInTwips() const
+{
+    return ToTwips(width(), logicalDpiX());
+}
+
+int OvCombo::HeightInTwips() const
+{
+    return ToTwips(height(), logicalDpiY());
+}
+
+void OvCombo::PaintItem(QPainter& painter, const QRect& rectangle, int index, bool isSelected)
+{
+    QFont plain = font();
+    plain.setUnderline(false);
+    PaintContent(painter, rectangle, index, {plain, TextColour(isSelected), m_tabColumn});
+}
+
+void OvCombo::PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look)
+{
+    if (index < 0 || index >= count())
+        return;
+    if (m_renderer.IsUserDrawn(List(index)))
+        emit DrawItem(painter, index, rectangle);
+    else
+        m_renderer.Paint(painter, rectangle, List(index), look);
+}
+
+void OvCombo::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText.clear();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect content
+        = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    PaintContent(painter, content, currentIndex(), {font(), TextColour(false), m_tabColumn});
+}
+
+void OvCombo::changeEvent(QEvent* event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        FindTabColumn();
+}
+
+QColor OvCombo::TextColour(bool isSelected) const
+{
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    return palette().color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+void OvCombo::FindTabColumn()
+{
+    m_tabColumn = 0;
+    for (int index = 0; index < count(); ++index)
+        m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(List(index), font()));
+}
+
+} // namespace Orvane

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace Orvane {
+
+class OvCombo;
+
+/// Paints the drop-down list of an OvCombo: background, selection and focus by the style, the content by the
+/// combo box.
+class OvComboDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// The combo box owns the delegate.
+    explicit OvComboDelegate(OvCombo* combo);
+
+    void
+    paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// As high as the closed box without its frame, and a little for the selection around it.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    OvCombo* m_combo;
+};
+
+} // namespace Orvane

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class QToolButton;
+
+namespace Orvane {
+
+/// Two small buttons, one above the other, that step a single-precision value within a range. The text beside
+/// them is the form's: listen to Change to write the value there, call SetValue when the text has changed.
+///
+///     WidthSpin->SetRange(0, 100);
+///     WidthSpin->SetBoundText(bedThickness);
+///     connect(WidthSpin, &OvSpin::Change, this, [this](float value) { ... });
+class OvSpin : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(float MinValue READ MinValue WRITE setMinValue)
+    Q_PROPERTY(float MaxValue READ MaxValue WRITE setMaxValue)
+    Q_PROPERTY(float Value READ Value WRITE setValue NOTIFY Change USER true)
+    Q_PROPERTY(float Step READ Step WRITE setStep)
+
+public:
+    explicit OvSpin(QWidget* parent = nullptr);
+
+    float Value() const { return m_value; }
+    /// Clamps to the range and tells Change when that differs from the present value. What is no number is
+    /// ignored.
+    void SetValue(float value);
+    void setValue(float value) { SetValue(value); } // the name that form compilers call
+
+    /// The ends of the range, 0 and 100 at first. A value outside a new range is clamped. Where the minimum
+    /// is above the maximum, the maximum holds.
+    float MinValue() const { return m_minimum; }
+    void setMinValue(float minimum);
+    float MaxValue() const { return m_maximum; }
+    void setMaxValue(float maximum);
+    void SetRange(float minimum, float maximum);
+
+    /// By how much a button steps; 1 at first.
+    float Step() const { return m_step; }
+    void setStep(float step) { m_step = step; }
+
+    /// The text control whose Up and Down keys and wheel step the value, too; nullptr for none. Not owned,
+    /// and never written to.
+    void SetBoundText(QWidget* control);
+    QWidget* BoundText() const { return m_boundText; }
+
+public slots:
+    void StepUp();
+    void StepDown();
+
+signals:
+    /// The value has changed, by the person or by the program.
+    void Change(float value);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    QToolButton* NewButton(const char* name, Qt::ArrowType arrow, const char* english);
+    void StepBy(int steps);
+    bool StepByKey(int key);
+    bool StepByWheel(int angle);
+    void ShowEnds();
+
+    QToolButton* m_up;
+    QToolButton* m_down;
+    QPointer<QWidget> m_boundText;
+    float m_value = 0;
+    float m_minimum = 0;
+    float m_maximum = 100;
+    float m_step = 1;
+};
+
+} // namespace Orvane
