@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace Orvane {
+
+/// Numbers of the errors that the host kit raises itself; those of the database pass through unchanged.
+enum class HostError {
+    UnknownScheme = 10001, ///< no layer scheme has that name
+    DuplicateScheme = 10002, ///< a layer scheme of that name exists already
+    LastScheme = 10003, ///< the only layer scheme cannot be deleted
+    NoStartupDatabase = 10004, ///< the host named no file for the startup database
+};
+
+} // namespace Orvane

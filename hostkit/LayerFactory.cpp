@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/LayerFactory.h"
+
+#include "hostkit/FillPatterns.h"
+#include "hostkit/LayerNames.h"
+#include "hostkit/StoredScale.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <limits>
+
+namespace Orvane {
+
+namespace {
+
+constexpr qint32 Black = 0;
+constexpr qint32 Transparent = qint32(0xFF000000);
+constexpr qint16 ThinnestLine = 0;
+
+bool HasRow(ILayerDatabase& database, const QString& query)
+{
+    return !database.OpenRecordset(query)->AtEOF();
+}
+
+} // namespace
+
+qint32 LayerFactory::Create()
+{
+    const QString name = UnusedName();
+    StoreTransaction transaction(m_database);
+    const qint32 layerID = NextLayerID();
+    Insert(layerID, name);
+    transaction.Commit();
+    m_names.Set(layerID, name);
+    return layerID;
+}
+
+void LayerFactory::Delete(qint32 layerID)
+{
+    StoreTransaction transaction(m_database);
+    m_database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
+    // The layer's values in schemes refer to this row and go with it.
+    m_database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
+    transaction.Commit();
+    m_names.Remove(layerID);
+}
+
+bool LayerFactory::CanDelete(qint32 layerID)
+{
+    return HasRow(
+        m_database,
+        QStringLiteral("SELECT LayerID FROM Layers WHERE LayerID = %1 AND COALESCE(SystemLayer, 0) = 0")
+            .arg(layerID));
+}
+
+bool LayerFactory::IsCodeAssigned(qint16 code)
+{
+    return HasRow(m_database, QStringLiteral("SELECT LayerID FROM Layers WHERE Code = %1 LIMIT 1").arg(code));
+}
+
+qint32 LayerFactory::NextLayerID()
+{
+    const auto highest
+        = m_database.OpenRecordset(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
+    return ToInt32(ToDouble(highest->Field("Highest")) + 1);
+}
+
+qint16 LayerFactory::LowestFreeCode()
+{
+    const auto taken = m_database.OpenRecordset(
+        QStringLiteral("SELECT DISTINCT Code FROM Layers WHERE Code >= 0 ORDER BY Code"));
+    qint32 code = 0;
+    for (; !taken->AtEOF() && ToDouble(taken->Field("Code")) <= code; taken->MoveNext()) {
+        if (ToDouble(taken->Field("Code")) == code)
+            ++code;
+    }
+    return code <= std::numeric_limits<qint16>::max() ? qint16(code) : NoCode;
+}
+
+QString LayerFactory::UnusedName()
+{
+    const QSet<QString> taken = m_names.All();
+    const QString first = tr("New layer");
+    QString name = first;
+    for (int number = 2; taken.contains(name); ++number)
+        name = tr("%1 %2", "a new layer's name and its number").arg(first).arg(number);
+    return name;
+}
+
+void LayerFactory::Insert(qint32 layerID, const QString& name)
+{
+    m_database.Execute(
+        QStringLiteral("INSERT INTO Layers (LayerID, Name, Code, Visible, Selectable, locked, Hitable, "
+                       "SnapRequired, Enquirable,"
+                       " Color, FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, "
+                       "MinVisScale, MaxVisScale,"
+                       " Priority, Style, OverrideMode, SystemLayer, Pseudo)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16, ?17, "
+                       "?18, 0, 0, 0, 0)"),
+        {layerID, name, LowestFreeCode(), true, true, false, true, false, true, Black, Black, Transparent,
+         qint16(0), qint16(FillPatterns::Hollow), ThinnestLine, StoredScale::NoMinimum,
+         qint32(StoredScale::NoMaximum), DefaultPriority});
+}
+
+} // namespace Orvane

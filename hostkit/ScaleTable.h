@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <array>
+
+namespace Orvane {
+
+/// The 255 scales that a person can choose from: index 1 is 1:100, index 255 is 1:200,000,000, each step
+/// about six per cent. Every denominator is a whole, readable number (105, 2500, 52500), strictly greater
+/// than the one before, and the usual map scales (1, 2, 2.5 and 5 times a power of ten) are all among them.
+class ScaleTable
+{
+public:
+    static constexpr qint32 FirstIndex = 1;
+    static constexpr qint32 LastIndex = 255;
+
+    ScaleTable();
+
+    /// The denominator of an index. An index below 1 gives the first scale's, above 255 the last one's.
+    double Denominator(qint32 index) const;
+
+    /// The index, 1 to 255, whose denominator is nearest; of two equally near the lower one. The inverse of
+    /// Denominator. A denominator that is no number gives 1.
+    qint32 Index(double denominator) const;
+
+private:
+    std::array<double, LastIndex> m_denominators; // [0] belongs to index 1
+};
+
+} // namespace Orvane

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/SchemeColumns.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace Orvane::SchemeColumns {
+
+namespace {
+
+struct Column {
+    const char* name;
+    const char* type;
+};
+
+constexpr std::array<Column, Count> Columns{{
+    {"Visible", "INTEGER"},
+    {"Selectable", "INTEGER"},
+    {"locked", "INTEGER"},
+    {"Hitable", "INTEGER"},
+    {"SnapRequired", "INTEGER"},
+    {"Enquirable", "INTEGER"},
+    {"Color", "INTEGER"},
+    {"FillForeColor", "INTEGER"},
+    {"FillBackColor", "INTEGER"},
+    {"OutlineStyle", "INTEGER"},
+    {"FillStyle", "INTEGER"},
+    {"LineThickness", "INTEGER"},
+    {"MinVisScale", "REAL"},
+    {"MaxVisScale", "REAL"},
+    {"Priority", "INTEGER"},
+    {"Style", "INTEGER"},
+    {"OverrideMode", "INTEGER"},
+}};
+
+// Each column through the form, in which %1 is its name and %2 its type.
+QString Joined(const QString& form, const QString& separator)
+{
+    QStringList pieces;
+    for (const Column& column : Columns) {
+        QString piece = form;
+        piece.replace(QLatin1String("%1"), QLatin1String(column.name));
+        pieces << piece.replace(QLatin1String("%2"), QLatin1String(column.type));
+    }
+    return pieces.join(separator);
+}
+
+} // namespace
+
+QString List()
+{
+    return Joined(QStringLiteral("%1"), QStringLiteral(", "));
+}
+
+QString Assignments()
+{
+    return Joined(QStringLiteral("%1 = LayerSchemeValues.%1"), QStringLiteral(", "));
+}
+
+QString Difference()
+{
+    return u'('
+        + Joined(QStringLiteral("Layers.%1 IS DISTINCT FROM LayerSchemeValues.%1"), QStringLiteral(" OR "))
+        + u')';
+}
+
+QString Parameters(int first)
+{
+    QStringList parameters;
+    for (int column = 0; column < Count; ++column)
+        parameters << u'?' + QString::number(first + column);
+    return parameters.join(QStringLiteral(", "));
+}
+
+QString Definitions()
+{
+    return Joined(QStringLiteral("%1 %2"), QStringLiteral(", "));
+}
+
+const char* Name(int column)
+{
+    return Columns.at(std::size_t(column)).name;
+}
+
+} // namespace Orvane::SchemeColumns

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/StandardClient.h"
+
+#include "hostkit/EditorWindows.h"
+#include "hostkit/HostErrors.h"
+#include "hostkit/HostNotifications.h"
+#include "hostkit/LayerFactory.h"
+#include "hostkit/LayerNames.h"
+#include "hostkit/LayerSchemes.h"
+#include "hostkit/SettingsStore.h"
+#include "hostkit/StartupSchemes.h"
+#include "hostkit/StoredScale.h"
+#include "hostkit/TextPrompt.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace Orvane {
+
+struct StandardClient::Parts {
+    explicit Parts(SqliteLayerDatabase& database)
+        : names(database), factory(database, names), schemes(database)
+    {
+    }
+
+    HostNotifications notifications;
+    EditorWindows windows;
+    std::unique_ptr<SettingsStore> settings; // made at the first use
+    LayerNames names;
+    LayerFactory factory;
+    LayerSchemes schemes;
+    QString startupFile;
+    QSet<qint32> changedLayers; // since the last RedrawMap
+
+    SettingsStore& Settings()
+    {
+        if (!settings)
+            settings = std::make_unique<SettingsStore>();
+        return *settings;
+    }
+
+    void TellSchemes() { emit notifications.SchemesChanged(schemes.Current()); }
+};
+
+namespace {
+
+constexpr qsizetype LongestNameInQuestion = 80; // characters
+
+QString Shortened(const QString& name)
+{
+    if (name.size() <= LongestNameInQuestion)
+        return name;
+    return name.left(LongestNameInQuestion - 1) + QChar(0x2026);
+}
+
+} // namespace
+
+StandardClient::StandardClient(SqliteLayerDatabase& database, IShellServices& shellServices)
+    : m_database(database), m_shellServices(shellServices), m_parts(std::make_unique<Parts>(database))
+{
+}
+
+StandardClient::~StandardClient() = default;
+
+HostNotifications& StandardClient::Notifications()
+{
+    return m_parts->notifications;
+}
+
+void StandardClient::SetMainWindow(QWidget* mainWindow)
+{
+    m_parts->windows.SetMainWindow(mainWindow);
+}
+
+void StandardClient::SetSettingsFile(const QString& path)
+{
+    m_parts->settings = std::make_unique<SettingsStore>(path);
+}
+
+void StandardClient::SetStartupFile(const QString& path)
+{
+    m_parts->startupFile = path;
+}
+
+void StandardClient::LoadSchemesFromStartup()
+{
+    StartupSchemes::Load(m_database, m_parts->startupFile);
+    m_parts->TellSchemes();
+}
+
+bool StandardClient::HasUnsavedSchemeChanges()
+{
+    return m_parts->schemes.DiffersFromCurrent();
+}
+
+void StandardClient::InvalidateLayerNames()
+{
+    m_parts->names.Invalidate();
+}
+
+IShellServices* StandardClient::IStyleEditorClient_GetShellServices()
+{
+    return &m_shellServices;
+}
+
+void StandardClient::IStyleEditorClient_ShowEditor(QWidget* form)
+{
+    m_parts->windows.Show(form);
+    emit m_parts->notifications.EditorShown(form);
+}
+
+void StandardClient::IStyleEditorClient_EditorClosed(QWidget* form)
+{
+    if (m_parts->windows.Forget(form))
+        emit m_parts->notifications.EditorClosed(form);
+}
+
+QString StandardClient::IStyleEditorClient_ReadSetting(QWidget*, const QString& key)
+{
+    return m_parts->Settings().Read(key);
+}
+
+void StandardClient::IStyleEditorClient_WriteSetting(QWidget*, const QString& key, const QString& value)
+{
+    m_parts->Settings().Write(key, value);
+}
+
+ILayerDatabase& StandardClient::IStyleEditorClient_Database()
+{
+    return m_database;
+}
+
+std::unique_ptr<IRecordset> StandardClient::IStyleEditorClient_LayersTable()
+{
+    return m_database.OpenRecordset(QStringLiteral("Layers"));
+}
+
+qint32 StandardClient::IStyleEditorClient_StoredScaleToDialog(double storedScale) const
+{
+    return StoredScale::ToIndex(storedScale, m_shellServices);
+}
+
+double StandardClient::IStyleEditorClient_DialogScaleToStored(qint32 scaleIndex) const
+{
+    return StoredScale::FromIndex(scaleIndex, m_shellServices);
+}
+
+void StandardClient::IStyleEditorClient_BeginLayerEdit(IRecordset& layers)
+{
+    layers.Edit();
+}
+
+void StandardClient::IStyleEditorClient_LayerChanged(qint32 layerID)
+{
+    m_parts->changedLayers.insert(layerID);
+}
+
+QString StandardClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
+{
+    return m_parts->names.Name(layerID);
+}
+
+void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)
+{
+    m_database.Execute(QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name});
+    if (m_database.ChangedRows() == 0)
+        return;
+    m_parts->names.Set(layerID, name);
+    emit m_parts->notifications.LayerRenamed(layerID, name);
+}
+
+void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name)
+{
+    m_database.Execute(QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name});
+    if (m_database.ChangedRows() > 0)
+        emit m_parts->notifications.GroupRenamed(groupID, name);
+}
+
+QStringList StandardClient::IStyleEditorClient_GetSchemeNames()
+{
+    return m_parts->schemes.Names();
+}
+
+QString StandardClient::IStyleEditorClient_GetCurrentScheme()
+{
+    return m_parts->schemes.Current();
+}
+
+void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
+{
+    const QSet<qint32> changed = m_parts->schemes.Load(name);
+    m_parts->TellSchemes();
+    if (!changed.isEmpty())
+        emit m_parts->notifications.LayersChanged(changed);
+}
+
+void StandardClient::IStyleEditorClient_CreateScheme(const QString& name)
+{
+    m_parts->schemes.Create(name);
+    m_parts->TellSchemes();
+}
+
+void StandardClient::IStyleEditorClient_SaveScheme(const QString& name)
+{
+    m_parts->schemes.Save(name);
+    m_parts->TellSchemes();
+}
+
+void StandardClient::IStyleEditorClient_DeleteScheme(const QString& name)
+{
+    m_parts->schemes.Delete(name);
+    m_parts->TellSchemes();
+}
+
+void StandardClient::IStyleEditorClient_SaveSchemesToStartup()
+{
+    if (m_parts->startupFile.isEmpty()) {
+        throw RunTimeError(
+            int(HostError::NoStartupDatabase), tr("This program has no startup database."),
+            QStringLiteral("StandardClient"));
+    }
+    StartupSchemes::Save(m_database, m_parts->startupFile);
+}
+
+PromptAnswer StandardClient::IStyleEditorClient_PromptText(const PromptRequest& request)
+{
+    return TextPrompt(request, DialogParent()).Ask();
+}
+
+qint32 StandardClient::IStyleEditorClient_CreateLayer()
+{
+    const qint32 layerID = m_parts->factory.Create();
+    emit m_parts->notifications.LayerCreated(layerID);
+    return layerID;
+}
+
+void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
+{
+    if (!m_parts->factory.CanDelete(layerID) || !ConfirmDeletion(m_parts->names.Name(layerID)))
+        return;
+    m_parts->factory.Delete(layerID);
+    m_parts->changedLayers.remove(layerID);
+    emit m_parts->notifications.LayerDeleted(layerID);
+}
+
+bool StandardClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
+{
+    return m_parts->factory.IsCodeAssigned(code);
+}
+
+QString StandardClient::IStyleEditorClient_StyleCommandPrefix() const
+{
+    return QStringLiteral("~");
+}
+
+bool StandardClient::IStyleEditorClient_QuickModesAllowed() const
+{
+    return true;
+}
+
+std::vector<RendererStyle> StandardClient::IStyleEditorClient_RendererStyles() const
+{
+    return {};
+}
+
+QString StandardClient::IStyleEditorClient_ThemeName(QWidget*) const
+{
+    return {};
+}
+
+void StandardClient::IStyleEditorClient_RedrawMap()
+{
+    const QSet<qint32> changed = std::exchange(m_parts->changedLayers, {});
+    if (!changed.isEmpty())
+        emit m_parts->notifications.LayersChanged(changed);
+}
+
+bool StandardClient::ConfirmDeletion(const QString& layerName)
+{
+    QMessageBox box(
+        QMessageBox::Question, tr("Delete layer"), tr("Delete the layer \"%1\"?").arg(Shortened(layerName)),
+        QMessageBox::Yes | QMessageBox::No, DialogParent());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+QWidget* StandardClient::DialogParent() const
+{
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : m_parts->windows.MainWindow();
+}
+
+SqliteLayerDatabase& StandardClient::LayerDatabase() const
+{
+    return m_database;
+}
+
+} // namespace Orvane

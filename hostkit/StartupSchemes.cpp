@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/StartupSchemes.h"
+
+#include "hostkit/LayerSchemes.h"
+#include "hostkit/SchemeTransfer.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+#include <QFile>
+
+namespace Orvane::StartupSchemes {
+
+void Save(SqliteLayerDatabase& map, const QString& startupFile)
+{
+    LayerSchemes(map).Current(); // makes the first scheme
+    const auto startup = QFile::exists(startupFile) ? SqliteLayerDatabase::Open(startupFile)
+                                                    : SqliteLayerDatabase::Create(startupFile);
+    StoreTransaction transaction(*startup);
+    SchemeTransfer transfer(map, *startup);
+    transfer.AddMissingLayers();
+    transfer.CopySchemes();
+    transaction.Commit();
+}
+
+void Load(SqliteLayerDatabase& map, const QString& startupFile)
+{
+    if (!QFile::exists(startupFile))
+        return;
+    const auto startup = SqliteLayerDatabase::Open(startupFile, OpenMode::ReadOnly);
+    StoreTransaction transaction(map);
+    SchemeTransfer(*startup, map).CopySchemes();
+    transaction.Commit();
+}
+
+} // namespace Orvane::StartupSchemes

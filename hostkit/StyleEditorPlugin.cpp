@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/StyleEditorPlugin.h"
+
+#include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Orvane {
+
+namespace {
+
+bool IsPath(const QString& pathOrName)
+{
+    return pathOrName.contains(u'/') || pathOrName.contains(u'\\');
+}
+
+} // namespace
+
+StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
+{
+    // Literal texts and widget types of the component live on in the host's containers.
+    m_file.setLoadHints(QLibrary::PreventUnloadHint);
+    Load(pathOrName);
+    CheckContract();
+    CreateLibrary();
+}
+
+StyleEditorPlugin::~StyleEditorPlugin() = default;
+
+QStringList StyleEditorPlugin::SearchFolders()
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    QStringList folders{
+        program.path(), program.absoluteFilePath(QStringLiteral("../lib")),
+        program.absoluteFilePath(QStringLiteral("../lib/orvane"))};
+    return folders + QCoreApplication::libraryPaths();
+}
+
+void StyleEditorPlugin::Load(const QString& pathOrName)
+{
+    QStringList candidates{pathOrName};
+    if (!IsPath(pathOrName)) {
+        candidates.clear();
+        for (const QString& folder : SearchFolders())
+            candidates << folder + u'/' + pathOrName;
+    }
+    QString reason;
+    for (const QString& candidate : candidates) {
+        m_file.setFileName(candidate);
+        if (m_file.load())
+            return;
+        // The reason that counts is that of a file that is there.
+        if (reason.isEmpty() || QFileInfo::exists(m_file.fileName()))
+            reason = m_file.errorString();
+    }
+    m_file.setFileName(pathOrName);
+    Refuse(reason);
+}
+
+void StyleEditorPlugin::CheckContract()
+{
+    const auto version = reinterpret_cast<ContractVersionFunction>(Resolve(ContractVersionSymbol));
+    version(&m_version);
+    if (m_version.major == CurrentContract.major)
+        return;
+    const QString spoken = QStringLiteral("%1.%2").arg(m_version.major).arg(m_version.minor);
+    const QString wanted = QStringLiteral("%1.%2").arg(CurrentContract.major).arg(CurrentContract.minor);
+    Refuse(tr("it speaks version %1 of the contract, this program speaks %2").arg(spoken, wanted));
+}
+
+void StyleEditorPlugin::CreateLibrary()
+{
+    const auto create = reinterpret_cast<CreateLibraryFunction>(Resolve(CreateLibrarySymbol));
+    m_library.reset(create());
+    if (m_library)
+        return;
+    Refuse(tr("it made no entry object"));
+}
+
+QFunctionPointer StyleEditorPlugin::Resolve(const char* symbol)
+{
+    if (const QFunctionPointer function = m_file.resolve(symbol))
+        return function;
+    Refuse(tr("it is no style editor component (\"%1\" is missing)").arg(QLatin1String(symbol)));
+}
+
+void StyleEditorPlugin::Refuse(const QString& reason) const
+{
+    throw RunTimeError(
+        ErrorNumber::PluginFailure,
+        tr("The style editor component \"%1\" cannot be used: %2.").arg(m_file.fileName(), reason),
+        QStringLiteral("StyleEditorPlugin"));
+}
+
+} // namespace Orvane

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/PluginContract.h>
+
+#include <QCoreApplication>
+#include <QLibrary>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace Orvane {
+
+class IStyleEditorLibrary;
+
+/// The component, loaded at run time.
+///
+///     StyleEditorPlugin plugin;             // finds, checks and loads the component
+///     plugin.Library().Initialise(&client);
+///     plugin.Library().NewStyleEditor("Main")->Visible(true);
+///
+/// Nothing but its version is asked of a component before that is known to be this contract's. Destroying
+/// this object destroys the library object with all its editors, so the client must still be alive. The
+/// component's code stays in the process until that ends: texts that it handed over may point into it.
+class StyleEditorPlugin
+{
+    Q_DECLARE_TR_FUNCTIONS(StyleEditorPlugin)
+
+public:
+    /// The component's file name without prefix and suffix.
+    static constexpr char DefaultName[] = "OrvaneLayerControl";
+
+    /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
+    /// Raises PluginFailure when it cannot be loaded, is no such component, or speaks another contract.
+    explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
+    ~StyleEditorPlugin();
+    Q_DISABLE_COPY_MOVE(StyleEditorPlugin)
+
+    /// The component's entry object; owned by this object.
+    IStyleEditorLibrary& Library() const { return *m_library; }
+    /// The contract version that the component speaks.
+    ContractVersion Version() const { return m_version; }
+    /// The file that was loaded.
+    QString FileName() const { return m_file.fileName(); }
+
+    /// Where a plain name is looked for, in this order: beside the program, in ../lib and in
+    /// ../lib/orvane beside it, then in Qt's library paths.
+    static QStringList SearchFolders();
+
+private:
+    void Load(const QString& pathOrName);
+    void CheckContract();
+    void CreateLibrary();
+    QFunctionPointer Resolve(const char* symbol);
+    [[noreturn]] void Refuse(const QString& reason) const;
+
+    QLibrary m_file;
+    ContractVersion m_version;
+    std::unique_ptr<IStyleEditorLibrary> m_library;
+};
+
+} // namespace Orvane

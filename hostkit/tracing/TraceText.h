@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/MonochromeBitmap.h>
+#include <OrvaneShellLib/Value.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <string_view>
+#include <vector>
+
+namespace Orvane {
+
+/// A word that stands in a trace as it is, without quotes: "form", "nothing".
+struct TraceWord {
+    const char* word;
+};
+
+/// How the arguments and results of calls are written in a trace. Texts are quoted, with quotes, backslashes
+/// and control characters escaped, so that a call is always one line; numbers are plain decimal, whatever the
+/// user's locale.
+namespace TraceText {
+
+QString Of(TraceWord word);
+QString Of(const QString& text);
+QString Of(std::string_view text);
+QString Of(bool flag);
+QString Of(qint16 number);
+QString Of(qint32 number);
+QString Of(double number);
+/// True, False, Null, Empty, a number, or a quoted text.
+QString Of(const Value& value);
+/// ["Day", "Night"]
+QString Of(const QStringList& texts);
+/// text or integer
+QString Of(EntryKind kind);
+/// The quoted text, or cancelled.
+QString Of(const PromptAnswer& answer);
+/// [1 "Hachured", 2 "Shaded"]
+QString Of(const std::vector<RendererStyle>& styles);
+/// bitmap 8x8
+QString Of(const MonochromeBitmap& bitmap);
+/// Deleted: a literal would silently become a boolean.
+QString Of(const char*) = delete;
+
+} // namespace TraceText
+
+} // namespace Orvane
