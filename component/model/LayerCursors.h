@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/IRecordset.h>
+
+#include <QtGlobal>
+
+#include <memory>
+#include <vector>
+
+namespace Orvane {
+
+class ILayerDatabase;
+class IStyleEditorClient;
+
+/// Table cursors that seek by ID, and short reads of single rows. All raise what the host and its database
+/// raise.
+
+/// A cursor over Layers that seeks by LayerID.
+std::unique_ptr<IRecordset> OpenLayersByID(IStyleEditorClient& client);
+
+/// A cursor over LayerGroups that seeks by ID.
+std::unique_ptr<IRecordset> OpenGroupsByID(ILayerDatabase& database);
+
+/// Goes to the row with that key; false when there is none.
+bool SeekID(IRecordset& table, qint32 id);
+
+/// The IDs of the group's layers, in the order in which they are loaded and written; those of hidden and of
+/// missing layers among them. Empty for a group that does not exist.
+std::vector<qint32> ReadMemberLayerIDs(IStyleEditorClient& client, qint32 groupID);
+
+/// True when the layer is a system layer: it may not be deleted, renamed or given another code. False for a
+/// layer that does not exist.
+bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID);
+
+/// Stores whether the group's node is shown expanded. Does nothing for a group that does not exist.
+void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded);
+
+} // namespace Orvane
