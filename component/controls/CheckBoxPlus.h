@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/controls/CheckValues.h"
+#include "component/controls/SystemColours.h"
+
+#include <QWidget>
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace Orvane {
+
+class InnerCheckBox;
+class PropertyBag;
+
+/// A check box whose mouse clicks can cycle through three states. It wraps one ordinary check box, "Check1",
+/// which fills it and to which focus, size, mnemonic and accessibility belong.
+///
+///     <widget class="Orvane::CheckBoxPlus" name="chkVisible">
+///      <property name="Caption"><string>&amp;Visible</string></property>
+///      <property name="CycleMode"><number>1</number></property>
+///     </widget>
+///
+/// Each setter changes the box and then reports its key through PropertyChanged, also when the value was the
+/// same: the container saves what it was told. The setters are named as form compilers call them.
+///
+/// A left click sets the value of NextCheckValue when the button goes up, wherever that is. The space bar, a
+/// mnemonic and a screen reader toggle between unchecked and checked; there a greyed box becomes unchecked.
+class CheckBoxPlus : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int BackColor READ BackColor WRITE setBackColor)
+    Q_PROPERTY(QString Value READ ValueText WRITE setValue)
+    Q_PROPERTY(QString Caption READ Caption WRITE setCaption)
+    Q_PROPERTY(int ForeColor READ ForeColor WRITE setForeColor)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
+    Q_PROPERTY(QFont Font READ Font WRITE setFont)
+    Q_PROPERTY(int CycleMode READ CycleMode WRITE setCycleMode)
+    Q_PROPERTY(QString accessibleName READ accessibleName WRITE setAccessibleName)
+
+public:
+    explicit CheckBoxPlus(QWidget* parent = nullptr);
+
+    /// The colour behind the box: BGR, or a system colour. The face colour lets the container show through.
+    qint32 BackColor() const { return m_backColor; }
+    void setBackColor(qint32 colour);
+
+    /// The colour of the caption: BGR, or a system colour.
+    qint32 ForeColor() const { return m_foreColor; }
+    void setForeColor(qint32 colour);
+
+    /// 0 unchecked, 1 checked, 2 greyed; one of CheckValue.
+    qint16 Value() const;
+    QString ValueText() const { return QString::number(Value()); }
+    /// Takes the number in the text; raises Click when it changes the value. Raises 13 (type mismatch) for a
+    /// text that holds no number, 6 (overflow) beyond 16 bits, and 9 for a number that is no CheckValue.
+    void setValue(const QString& text);
+    void setValue(int value) { setValue(QString::number(value)); }
+
+    /// The text beside the box; "&" marks the mnemonic.
+    QString Caption() const;
+    void setCaption(const QString& caption);
+
+    /// The box's own flag; a disabled container does not change it.
+    bool Enabled() const;
+    void setEnabled(bool enabled);
+
+    /// The font of the caption; an underlined one marks an edited property.
+    QFont Font() const;
+    void setFont(const QFont& font);
+
+    /// One of CheckCycle, 0 at first. Raises 6 (overflow) for a number beyond 16 bits.
+    qint16 CycleMode() const { return m_cycleMode; }
+    void setCycleMode(int mode);
+
+    /// Names the box itself, too, for it is what a screen reader meets.
+    void setAccessibleName(const QString& name);
+
+    /// Paints the box anew at once.
+    void Refresh();
+
+    /// Puts colours, Enabled, Font and CycleMode into the bag; Value and Caption are set at run time.
+    void WriteProperties(PropertyBag& bag) const;
+    /// Takes them from the bag; what is missing gets its default, the font that of the container. Reports
+    /// nothing. Raises 6 or 13 for values of a wrong type, and has then changed nothing.
+    void ReadProperties(const PropertyBag& bag);
+
+signals:
+    // Arguments are handed by reference and may be changed. Codes are those of EventArguments.h; x and y are
+    // twips from the upper left corner.
+
+    /// The value has changed, by the person or by the program.
+    void Click();
+    /// Never sent: a double click is two clicks.
+    void DblClick();
+    /// A listener that sets keyCode to 0 keeps the key from the box.
+    void KeyDown(qint16& keyCode, qint16& shift);
+    /// A listener that sets keyAscii to 0 keeps the key from the box.
+    void KeyPress(qint16& keyAscii);
+    void KeyUp(qint16& keyCode, qint16& shift);
+    void MouseDown(qint16& button, qint16& shift, float& x, float& y);
+    void MouseMove(qint16& button, qint16& shift, float& x, float& y);
+    void MouseUp(qint16& button, qint16& shift, float& x, float& y);
+
+    /// A setter was called; key: the name of the property.
+    void PropertyChanged(const QString& key);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void Init();
+    void ShowColours();
+    void SetCheckValue(qint16 value);
+    void OnKeyPressed(const QKeyEvent& event, bool& swallow);
+    void OnKeyReleased(const QKeyEvent& event);
+    void OnMousePressed(const QMouseEvent& event);
+    void OnMouseMoved(const QMouseEvent& event);
+    void OnMouseReleased(const QMouseEvent& event);
+
+    InnerCheckBox* m_check1;
+    qint32 m_backColor = SystemColour::ButtonFace;
+    qint32 m_foreColor = SystemColour::ButtonText;
+    qint16 m_cycleMode = TwoStateCycle;
+    qint16 m_nextValue = Unchecked; // from a mouse down to the mouse up that sets it
+};
+
+} // namespace Orvane

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+#include <QtGlobal>
+
+class QWidget;
+
+namespace Orvane {
+
+/// A length of 1/1440 inch; forms and popups are placed and stored in twips.
+using Twips = qint32;
+
+struct TwipPoint {
+    Twips x = 0;
+    Twips y = 0;
+    bool operator==(const TwipPoint&) const = default;
+};
+
+struct TwipSize {
+    Twips width = 0;
+    Twips height = 0;
+    bool operator==(const TwipSize&) const = default;
+};
+
+/// How many twips a pixel of one screen measures: 1440 / logical dots per inch, 15 at 96 dpi. Needs no whole
+/// number: 110 dpi gives 13.09.
+///
+///     const TwipsPerPixel scale = TwipsPerPixelOf(*this);
+///     resize(scale.ToPixels(storedSize));
+///
+/// Both directions round to the nearest whole number, half to even, and saturate at the 32-bit range. Pixels
+/// survive pixels -> twips -> pixels exactly on every screen below 1440 dpi. Twips survive the other round
+/// trip only through KeepTwips.
+struct TwipsPerPixel {
+    double x = 15;
+    double y = 15;
+
+    Twips WidthToTwips(int pixels) const;
+    Twips HeightToTwips(int pixels) const;
+    int WidthToPixels(Twips twips) const;
+    int HeightToPixels(Twips twips) const;
+
+    TwipPoint ToTwips(QPoint pixels) const;
+    TwipSize ToTwips(QSize pixels) const;
+    QPoint ToPixels(TwipPoint twips) const;
+    QSize ToPixels(TwipSize twips) const;
+
+    /// The size in twips of something now that many pixels large: the remembered size while it still stands
+    /// for these pixels, else the converted one. A stored size that nobody resized is so written back
+    /// exactly.
+    TwipSize KeepTwips(TwipSize remembered, QSize pixels) const;
+};
+
+/// The scale of the screen that the widget is on.
+TwipsPerPixel TwipsPerPixelOf(const QWidget& widget);
+
+/// The bottom right corner of a button in screen twips: where frmDropSlider hangs a popup, right-aligned.
+TwipPoint PopupAnchor(const QWidget& button);
+
+} // namespace Orvane

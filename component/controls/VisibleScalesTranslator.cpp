@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "component/controls/VisibleScalesTranslator.h"
+
+#include "component/entry/Messages.h"
+
+#include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr qint32 noMinimum = 0;
+constexpr qint32 noMaximum = 256;
+constexpr qsizetype prefixLength = 2; // "1:", whatever a translation made of it
+
+} // namespace
+
+QString VisibleScalesTranslator::toString(const Value& value) const
+{
+    if (value.IsNull())
+        return TranslateMsg("various");
+    if (ValuesEqual(value, noMinimum) || ValuesEqual(value, noMaximum))
+        return TranslateMsg("dont care");
+    return TranslateMsg("1:^1", m_services.ScaleFromIndex(ToInt32(value)));
+}
+
+Value VisibleScalesTranslator::FromString(const QString& text) const
+{
+    if (text == TranslateMsg("various"))
+        return Value::Null();
+    if (text == TranslateMsg("dont care"))
+        return qint16(noMinimum);
+    const qint32 denominator = ToInt32(text.mid(prefixLength));
+    return m_services.IndexFromScale(denominator);
+}
+
+} // namespace Orvane

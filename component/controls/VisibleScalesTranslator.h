@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/controls/IUITranslator.h"
+
+namespace Orvane {
+
+class IShellServices;
+
+/// Scale limits: indices 0 to 256 of the host's scale table, shown as "1:50000". Both ends, 0 and 256, mean
+/// "no limit" and show the same text, which always reads back as 0.
+class VisibleScalesTranslator : public IUITranslator
+{
+public:
+    /// services: the host's scale table; not owned, must outlive the translator.
+    explicit VisibleScalesTranslator(const IShellServices& services) : m_services(services) { }
+
+    /// "various" for Null, "dont care" for 0 and 256, else "1:" and the denominator of the 32-bit index.
+    QString toString(const Value& value) const;
+
+    /// Null, the 16-bit integer 0, or the 32-bit index of the denominator that starts at the third character.
+    Value FromString(const QString& text) const;
+
+private:
+    QString IUITranslator_toString(const Value& value) const override { return toString(value); }
+    Value IUITranslator_FromString(const QString& text) const override { return FromString(text); }
+
+    const IShellServices& m_services;
+};
+
+} // namespace Orvane

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "component/controls/frmDropSlider.h"
+
+#include "component/controls/ClickWatcher.h"
+#include "component/controls/IUITranslator.h"
+#include "component/controls/ScreenPlacement.h"
+#include "component/entry/EventGuard.h"
+#include "component/entry/Messages.h"
+#include "ui_frmDropSlider.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QPointer>
+
+namespace Orvane {
+
+namespace {
+
+constexpr Qt::WindowFlags popupFlags = Qt::Dialog | Qt::FramelessWindowHint;
+
+} // namespace
+
+frmDropSlider::frmDropSlider(QWidget* owner)
+    : QDialog(owner, popupFlags), m_ui(std::make_unique<Ui::frmDropSlider>())
+{
+    m_ui->setupUi(this);
+    TranslateForm(*this);
+    Init();
+}
+
+frmDropSlider::~frmDropSlider() = default;
+
+void frmDropSlider::Init()
+{
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmDropSlider::OnConfirm);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QWidget::hide);
+    connect(m_ui->chkVarious, &QCheckBox::toggled, this, &frmDropSlider::OnVariousToggled);
+    connect(m_ui->sldValue, &QSlider::valueChanged, this, &frmDropSlider::OnSliderChanged);
+    // Scrolled: also where the slider is at its end and the value stays.
+    connect(m_ui->sldValue, &QSlider::actionTriggered, this, &frmDropSlider::OnSliderChanged);
+    connect(new ClickWatcher(m_ui->sldValue), &ClickWatcher::Clicked, this, &frmDropSlider::OnSliderClicked);
+}
+
+bool frmDropSlider::Popup(
+    QWidget* owner, const IUITranslator& translator, Twips x, Twips y, const QString&, Value& value,
+    const Value& defaultValue, qint32 minimum, qint32 maximum, bool allowVarious)
+{
+    if (isVisible())
+        return false;
+    SetOwner(owner);
+    // Each change of a control tells its handler, so the order decides what the label and the value become.
+    m_translator = &translator;
+    m_ui->sldValue->setMinimum(minimum);
+    m_ui->sldValue->setMaximum(maximum);
+    m_currentValue = value;
+    m_ui->chkVarious->setEnabled(allowVarious);
+    ShowValue(defaultValue);
+    m_topRight = {x, y};
+    Place();
+    m_confirmed = false;
+    m_ui->sldValue->setFocus();
+    const QPointer self(this);
+    exec();
+    if (!self || !m_confirmed)
+        return false;
+    value = m_ui->chkVarious->isChecked() ? Value::Null() : Value(qint32(m_ui->sldValue->value()));
+    return true;
+}
+
+void frmDropSlider::SetOwner(QWidget* owner)
+{
+    QWidget* window = owner ? owner->window() : nullptr;
+    if (window != parentWidget())
+        setParent(window, popupFlags);
+}
+
+void frmDropSlider::ShowValue(const Value& defaultValue)
+{
+    if (m_currentValue.IsNull()) {
+        m_ui->sldValue->setValue(ToInt32(defaultValue));
+        m_ui->chkVarious->setChecked(true);
+    } else {
+        const qint32 position = ToInt32(m_currentValue);
+        m_ui->chkVarious->setChecked(false);
+        m_ui->sldValue->setValue(position);
+    }
+    // Where neither control moved, the label still speaks through the translator of the last popup.
+    TakeSliderOrNull();
+}
+
+void frmDropSlider::TakeSliderOrNull()
+{
+    m_currentValue = m_ui->chkVarious->isChecked() ? Value::Null() : Value(qint32(m_ui->sldValue->value()));
+    RefreshLabel();
+}
+
+void frmDropSlider::RefreshLabel()
+{
+    const QString text = m_translator->toString(m_currentValue);
+    m_ui->lblValue->setText(text);
+    m_ui->sldValue->setAccessibleDescription(text);
+    if (isVisible())
+        Place();
+}
+
+// While it is open it only grows: a form that changes its width at each step of the slider cannot be looked
+// at.
+void frmDropSlider::Place()
+{
+    // From the inside out, so that a new label text reaches the size hint and the smallest size of the form.
+    m_ui->valueLayout->activate();
+    m_ui->formLayout->activate();
+    const QSize size = isVisible() ? sizeHint().expandedTo(this->size()) : sizeHint();
+    const TwipsPerPixel scale = TwipsPerPixelOf(*this);
+    const QPoint topRight = scale.ToPixels(m_topRight);
+    const QPoint topLeft
+        = scale.ToPixels(TwipPoint{m_topRight.x - scale.WidthToTwips(size.width()), m_topRight.y});
+    setGeometry(MovedInside(QRect(topLeft, size), AvailableAreaAt(topRight)));
+}
+
+void frmDropSlider::OnConfirm()
+{
+    m_confirmed = true;
+    hide();
+}
+
+void frmDropSlider::OnVariousToggled()
+{
+    GuardEvent(this, [this] { TakeSliderOrNull(); });
+}
+
+void frmDropSlider::OnSliderChanged()
+{
+    GuardEvent(this, [this] {
+        m_currentValue = qint32(m_ui->sldValue->value());
+        m_ui->chkVarious->setChecked(false);
+        RefreshLabel();
+    });
+}
+
+void frmDropSlider::OnSliderClicked()
+{
+    m_ui->chkVarious->setChecked(false);
+}
+
+} // namespace Orvane

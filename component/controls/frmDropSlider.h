@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/controls/Twips.h"
+
+#include <OrvaneShellLib/Value.h>
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Orvane {
+
+namespace Ui {
+class frmDropSlider;
+}
+
+class IUITranslator;
+
+/// The popup that edits one whole number with a slider. It stays loaded: Popup shows it and hides it again,
+/// any number of times, with its controls as they were left.
+///
+///     const TwipPoint anchor = PopupAnchor(*cmdEditPriority);
+///     if (slider->Popup(this, priorities, anchor.x, anchor.y, title, value, 1, 1, 255, isVarious))
+///         lblPriority->setText(priorities.toString(value));
+///
+/// The current value is Null while "Various" is checked, else the slider's value, and the label shows it
+/// through the translator. The form belongs to the window of its last owner, as every child window does.
+class frmDropSlider : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit frmDropSlider(QWidget* owner = nullptr);
+    ~frmDropSlider() override;
+
+    /// Edits the value in a modal popup and returns true when the person pressed OK. Then value is Null for
+    /// "Various", else a 32-bit integer; otherwise it stays as it was passed.
+    ///
+    /// owner: the form in front of which it is shown; may be nullptr. x, y: where its right and top edges go,
+    /// in screen twips; it moves left or up where it would leave the screen. caption: not used, the popup
+    /// keeps its own title. defaultValue: where the slider starts when value is Null. minimum, maximum: the
+    /// slider's range, to which values are clamped. allowVarious: whether "Various" may be chosen by hand.
+    ///
+    /// Raises 13 (type mismatch) or 6 (overflow), without showing anything, for a value or a default that is
+    /// no 32-bit integer. Returns false at once while it is open already, and when the form is destroyed
+    /// meanwhile: whoever calls must then count on the owner being gone.
+    bool Popup(
+        QWidget* owner, const IUITranslator& translator, Twips x, Twips y, const QString& caption,
+        Value& value, const Value& defaultValue, qint32 minimum, qint32 maximum, bool allowVarious);
+
+private:
+    void Init();
+    void SetOwner(QWidget* owner);
+    void ShowValue(const Value& defaultValue);
+    void TakeSliderOrNull();
+    void RefreshLabel();
+    void Place();
+    void OnConfirm();
+    void OnVariousToggled();
+    void OnSliderChanged();
+    void OnSliderClicked();
+
+    std::unique_ptr<Ui::frmDropSlider> m_ui;
+    const IUITranslator* m_translator = nullptr; // of the last Popup; not owned, may be gone between popups
+    Value m_currentValue;
+    TwipPoint m_topRight;
+    bool m_confirmed = false;
+};
+
+} // namespace Orvane

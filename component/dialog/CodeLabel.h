@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+namespace Orvane {
+
+/// A label that asks to be edited: on a double click, and on F2, Enter or Space while it has the focus, which
+/// it shows by a frame.
+class CodeLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit CodeLabel(QWidget* parent = nullptr);
+
+    /// Wide enough for any code, whatever it shows.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    /// The person wants to edit what the label shows; never sent while it is disabled.
+    void EditRequested();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace Orvane

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/LayerCommands.h"
+
+#include "component/dialog/CodeLabel.h"
+#include "component/entry/Component.h"
+#include "component/entry/EventGuard.h"
+#include "component/entry/MessageBoxes.h"
+#include "component/entry/Messages.h"
+#include "component/model/LayerCode.h"
+#include "component/model/LayerCursors.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QAbstractButton>
+
+namespace Orvane {
+
+LayerCommands::LayerCommands(const Widgets& widgets, QObject* parent) : QObject(parent), m_widgets(widgets)
+{
+    connect(widgets.cmdNewLayer, &QAbstractButton::clicked, this, [this] {
+        GuardEvent(Owner(), [this] { NewLayer(); });
+    });
+    connect(widgets.cmdDeleteLayer, &QAbstractButton::clicked, this, [this] {
+        GuardEvent(Owner(), [this] { DeleteLayer(); });
+    });
+    connect(widgets.lblCode, &CodeLabel::EditRequested, this, &LayerCommands::EditCode);
+}
+
+void LayerCommands::Show(const std::optional<NodeReference>& node, const LayerStyle& record)
+{
+    const bool isLayer = node && !node->isGroup;
+    m_node = node;
+    m_storedCode = isLayer ? record.lsGet(Slot::Code) : Value::Null();
+    m_widgets.lblCode->setText(m_storedCode.IsNull() ? QString() : ToText(m_storedCode));
+    m_widgets.cmdDeleteLayer->setEnabled(isLayer);
+    m_widgets.lblCode->setEnabled(isLayer && !IsSystemLayer(Client(), node->layerID));
+}
+
+QString LayerCommands::CodeText() const
+{
+    return m_widgets.lblCode->text();
+}
+
+void LayerCommands::NewLayer()
+{
+    emit LayerCreated(Client().CreateLayer());
+}
+
+void LayerCommands::DeleteLayer()
+{
+    if (!m_node || m_node->isGroup)
+        return;
+    const qint32 layerID = m_node->layerID;
+    if (IsSystemLayer(Client(), layerID)) {
+        ShowMessageBox(Owner(), TranslateMsg("You may not delete a 'system layer'"), BoxStyle::OkExclamation);
+        return;
+    }
+    Client().DeleteLayer(layerID);
+    emit DeleteAsked(layerID);
+}
+
+void LayerCommands::EditCode()
+{
+    const PromptAnswer answer = Client().PromptText(
+        {.title = TranslateMsg("Edit code"),
+         .defaultText = CodeText(),
+         .kind = EntryKind::Integer,
+         .minimum = std::numeric_limits<qint16>::min(),
+         .maximum = std::numeric_limits<qint16>::max()});
+    if (answer.accepted && NumberInText(answer.text))
+        SetCode(answer.text.trimmed());
+}
+
+void LayerCommands::SetCode(const QString& answer)
+{
+    const double code = *NumberInText(answer);
+    if (code == LeadingNumber(CodeText()) && !CodeText().isEmpty())
+        return;
+    // The layer's own stored code is assigned too, to itself.
+    const bool isOwn = m_storedCode.IsNumber() && ToDouble(m_storedCode) == code;
+    if (!isOwn && Client().IsCodeAssigned(ToInt16(code))) {
+        ShowMessageBox(
+            Owner(), TranslateMsg("Code ^1 has already been assigned. Please assign another code.", answer),
+            BoxStyle::OkExclamation);
+        return;
+    }
+    m_widgets.lblCode->setText(answer);
+    emit CodeEdited(m_widgets.lblCode);
+}
+
+QWidget* LayerCommands::Owner() const
+{
+    return m_widgets.lblCode->window();
+}
+
+} // namespace Orvane

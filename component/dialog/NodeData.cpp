@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/NodeData.h"
+
+#include "component/dialog/LayerTreeModel.h"
+#include "component/entry/Messages.h"
+
+namespace Orvane {
+
+QVariant NodeData(const NodeReference& node, int role)
+{
+    switch (role) {
+    case LayerTreeModel::NodeKeyRole:
+        return MakeNodeKey(node);
+    case LayerTreeModel::ImageKeyRole:
+        return MakeImageKey(node);
+    case LayerTreeModel::ReferenceRole:
+        return QVariant::fromValue(node);
+    case LayerTreeModel::IsGroupRole:
+        return node.isGroup;
+    case LayerTreeModel::GroupIDRole:
+        return node.groupID;
+    case LayerTreeModel::LayerIDRole:
+        return node.layerID;
+    case LayerTreeModel::QuickModeRole:
+        return int(node.image);
+    default:
+        return {};
+    }
+}
+
+QString QuickModeText(qint16 quickMode)
+{
+    switch (quickMode) {
+    case 1:
+        return TranslateMsg("Normal");
+    case 2:
+        return TranslateMsg("Backdrop");
+    case 4:
+        return TranslateMsg("Hidden");
+    default:
+        return TranslateMsg("various");
+    }
+}
+
+QString NodeToolTip(const QString& text, qint16 quickMode)
+{
+    // A plain text must not be taken for rich text because of a "<" in a name.
+    return QStringLiteral("<qt>%1<br>%2</qt>").arg(text.toHtmlEscaped(), QuickModeText(quickMode));
+}
+
+} // namespace Orvane

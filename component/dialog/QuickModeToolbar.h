@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QtGlobal>
+
+#include <array>
+
+class QToolButton;
+class QWidget;
+
+namespace Orvane {
+
+/// The toolbar mstbQuickMode: "Normal", "Backdrop" and "Hidden", of which a click presses exactly one.
+///
+/// A quick mode is a set of bits, 1 normal, 2 backdrop, 4 hidden; 0, "various", shows no button pressed.
+class QuickModeToolbar : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// buttons: in the order of their bits, checkable; not owned, as is the bar.
+    QuickModeToolbar(QWidget& bar, const std::array<QToolButton*, 3>& buttons, QObject* parent = nullptr);
+
+    /// Shows or hides the buttons: some hosts know no quick modes.
+    void SetAllowed(bool allowed);
+    void SetEnabled(bool enabled);
+
+    /// Presses the buttons of the mode's bits; it is the mode that a click is compared with.
+    void ShowMode(qint16 mode);
+    /// The bits of the buttons that are pressed.
+    qint16 ReadMode() const;
+
+    /// Draws the buttons' images anew, for another palette or size.
+    void RefreshImages();
+
+signals:
+    /// A click chose another mode than the one shown last.
+    void Edited();
+
+private:
+    void OnClicked(const QToolButton* clicked);
+
+    QWidget& m_bar;
+    std::array<QToolButton*, 3> m_buttons;
+    qint16 m_shownMode = 0;
+};
+
+} // namespace Orvane

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/SchemePanel.h"
+
+#include "component/dialog/BusyPointer.h"
+#include "component/entry/Component.h"
+#include "component/entry/EventGuard.h"
+#include "component/entry/MessageBoxes.h"
+#include "component/entry/Messages.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int NameWidth = 20;
+
+} // namespace
+
+SchemePanel::SchemePanel(const Widgets& widgets, QObject* parent) : QObject(parent), m_widgets(widgets)
+{
+    Wire(widgets.cmdNew, &SchemePanel::New);
+    Wire(widgets.cmdSave, &SchemePanel::Save);
+    Wire(widgets.cmdRevert, &SchemePanel::Revert);
+    Wire(widgets.cmdDelete, &SchemePanel::Delete);
+    Wire(widgets.cmdSaveStartup, &SchemePanel::SaveToStartup);
+    connect(widgets.cmbScheme, &QComboBox::textActivated, this, [this](const QString& name) {
+        GuardEvent(Owner(), [&] { SwitchTo(name); });
+    });
+}
+
+void SchemePanel::Fill()
+{
+    const QStringList names = Client().GetSchemeNames();
+    m_widgets.cmbScheme->clear();
+    m_widgets.cmbScheme->addItems(names);
+    ShowCurrent();
+}
+
+void SchemePanel::SwitchTo(const QString& name)
+{
+    if (Client().GetCurrentScheme() == name)
+        return;
+    const QString question = TranslateMsg(
+        "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", name);
+    if (!Confirm(question)) {
+        ShowCurrent();
+        return;
+    }
+    try {
+        Load(name);
+    } catch (...) {
+        ShowCurrent();
+        throw;
+    }
+    ShowCurrent();
+    emit SchemeLoaded();
+}
+
+void SchemePanel::New()
+{
+    for (;;) {
+        const PromptAnswer answer = Client().PromptText(
+            {.title = TranslateMsg("New Scheme"), .defaultText = {}, .width = NameWidth});
+        if (!answer.accepted)
+            return;
+        const QString name = answer.text.trimmed();
+        if (!name.isEmpty()) {
+            Client().CreateScheme(name);
+            Fill();
+            return;
+        }
+        ShowMessageBox(
+            Owner(), TranslateMsg("Please supply a non-blank name, or cancel."), BoxStyle::OkInformation);
+    }
+}
+
+void SchemePanel::Save()
+{
+    const QString name = m_widgets.cmbScheme->currentText();
+    if (Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", name)))
+        Client().SaveScheme(name);
+}
+
+void SchemePanel::Revert()
+{
+    const QString name = m_widgets.cmbScheme->currentText();
+    if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", name)))
+        return;
+    Load(name);
+    emit SchemeLoaded();
+}
+
+void SchemePanel::Delete()
+{
+    const QString name = m_widgets.cmbScheme->currentText();
+    if (m_widgets.cmbScheme->count() <= 1) {
+        ShowMessageBox(
+            Owner(), TranslateMsg("The last layer scheme cannot be deleted."), BoxStyle::OkInformation);
+        return;
+    }
+    if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", name)))
+        return;
+    Load(Neighbour(name));
+    Client().DeleteScheme(name);
+    Fill();
+    if (m_widgets.cmbScheme->currentIndex() < 0)
+        m_widgets.cmbScheme->setCurrentIndex(0);
+    emit SchemeLoaded();
+}
+
+void SchemePanel::SaveToStartup()
+{
+    const QString question
+        = TranslateMsg("Are you sure you wish to save the colour schemes to the startup database?");
+    if (Confirm(question))
+        Client().SaveSchemesToStartup();
+}
+
+void SchemePanel::Wire(QAbstractButton* button, void (SchemePanel::*action)())
+{
+    connect(button, &QAbstractButton::clicked, this, [this, action] {
+        GuardEvent(Owner(), [this, action] { (this->*action)(); });
+    });
+}
+
+void SchemePanel::ShowCurrent()
+{
+    QComboBox& list = *m_widgets.cmbScheme;
+    list.setCurrentIndex(
+        list.findText(Client().GetCurrentScheme(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    const bool isShown = list.currentIndex() >= 0;
+    m_widgets.cmdSave->setEnabled(isShown);
+    m_widgets.cmdRevert->setEnabled(isShown);
+    m_widgets.cmdDelete->setEnabled(isShown);
+}
+
+void SchemePanel::Load(const QString& name)
+{
+    const BusyPointer busy;
+    Client().LoadScheme(name);
+}
+
+bool SchemePanel::Confirm(const QString& question) const
+{
+    return ShowMessageBox(Owner(), question, BoxStyle::YesNoQuestion) == BoxAnswer::Yes;
+}
+
+QString SchemePanel::Neighbour(const QString& name) const
+{
+    const QComboBox& list = *m_widgets.cmbScheme;
+    const int index = list.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return list.itemText(index + 1 < list.count() ? index + 1 : index - 1);
+}
+
+QWidget* SchemePanel::Owner() const
+{
+    return m_widgets.cmbScheme->window();
+}
+
+} // namespace Orvane

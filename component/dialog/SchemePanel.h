@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QAbstractButton;
+class QComboBox;
+class QWidget;
+
+namespace Orvane {
+
+/// The panel picScheme: switches, creates, saves, reverts and deletes the host's layer schemes, and asks
+/// before anything is overwritten. The host's current scheme is the truth; the list only shows it.
+class SchemePanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Widgets {
+        QComboBox* cmbScheme;
+        QAbstractButton* cmdNew;
+        QAbstractButton* cmdSave;
+        QAbstractButton* cmdRevert;
+        QAbstractButton* cmdDelete;
+        QAbstractButton* cmdSaveStartup;
+    };
+
+    /// widgets: not owned; outlive this object.
+    explicit SchemePanel(const Widgets& widgets, QObject* parent = nullptr);
+
+    /// Lists the host's schemes and shows the current one. All members raise what the host raises.
+    void Fill();
+
+    /// Makes the scheme current after a question; shows the current one again when that is refused or fails.
+    void SwitchTo(const QString& name);
+    /// Asks for a name, until it is not blank or the person gives up, and creates a scheme.
+    void New();
+    void Save();
+    void Revert();
+    void Delete();
+    void SaveToStartup();
+
+signals:
+    /// The host has loaded a scheme: every layer may have changed.
+    void SchemeLoaded();
+
+private:
+    void Wire(QAbstractButton* button, void (SchemePanel::*action)());
+    void ShowCurrent();
+    void Load(const QString& name);
+    bool Confirm(const QString& question) const;
+    QString Neighbour(const QString& name) const;
+    QWidget* Owner() const;
+
+    Widgets m_widgets;
+};
+
+} // namespace Orvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+
+namespace Orvane {
+
+/// One side of a window in twips that was restored from a setting, and is written back exactly while nobody
+/// changed it: pixels are coarser than twips, so the stored number must outlive the pixels it stood for.
+///
+///     width.Restore(9001, window.width());           // 600 pixels at 15 twips a pixel
+///     width.TwipsOf(window.width(), 15)              // 9001 while the window is 600 pixels wide
+class TwipsLength
+{
+public:
+    /// These twips stand for these pixels from now on.
+    void Restore(float twips, int pixels) { m_restored = Restored{twips, pixels}; }
+
+    /// The twips that the pixels stand for. twipsPerPixel: of the screen that the window is on.
+    float TwipsOf(int pixels, double twipsPerPixel) const
+    {
+        if (m_restored && m_restored->pixels == pixels)
+            return m_restored->twips;
+        return float(pixels * twipsPerPixel);
+    }
+
+private:
+    struct Restored {
+        float twips;
+        int pixels;
+    };
+
+    std::optional<Restored> m_restored;
+};
+
+} // namespace Orvane

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// What the host may ask of the dialog.
+#include "component/dialog/BusyPointer.h"
+#include "component/dialog/EditorParts.h"
+#include "component/dialog/SelectionEditor.h"
+#include "component/dialog/frmLayerStyles.h"
+#include "component/entry/Component.h"
+#include "component/model/LayerCode.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/IStyleFilter.h>
+
+namespace Orvane {
+
+void frmLayerStyles::IStyleEditor_StyleFilter(const IStyleFilter* filter)
+{
+    m_filter = filter;
+    m_parts->trees.SetFilter(filter);
+}
+
+bool frmLayerStyles::IStyleEditor_Visible() const
+{
+    return isVisible();
+}
+
+void frmLayerStyles::IStyleEditor_Visible(bool visible)
+{
+    if (m_unloaded || visible == isVisible())
+        return;
+    if (!visible) {
+        Hide();
+        return;
+    }
+    EnsureInitialised();
+    RestoreViewState();
+    UpdateCaption();
+    Client().ShowEditor(this);
+}
+
+void frmLayerStyles::IStyleEditor_RefreshGroups()
+{
+    EnsureInitialised();
+    m_selection->SetModified(false);
+    const BusyPointer busy;
+    m_parts->trees.LoadGroups();
+}
+
+void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
+{
+    EnsureInitialised();
+    m_parts->trees.ShowLayer(layerID);
+}
+
+void frmLayerStyles::IStyleEditorForm_Popup()
+{
+    if (m_unloaded)
+        return;
+    if (!isVisible()) {
+        EnsureInitialised();
+        SelectTab(m_tab);
+        Client().ShowEditor(this);
+    }
+    UpdateCaption();
+    if (m_filter && m_filter->ShowsGroups() && m_tab != ListTab::Groups)
+        SelectTab(ListTab::Groups);
+}
+
+void frmLayerStyles::IStyleEditorForm_SetLayerCode(qint32 layerID)
+{
+    Orvane::SetLayerCode(Client(), layerID, m_parts->commands.CodeText());
+}
+
+void frmLayerStyles::IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name)
+{
+    m_parts->trees.SetLayerName(layerID, name);
+}
+
+const std::vector<RendererStyle>& frmLayerStyles::IStyleEditorForm_LoadRendererStyles()
+{
+    if (!m_rendererStyles)
+        m_rendererStyles = Client().RendererStyles();
+    return *m_rendererStyles;
+}
+
+const IStyleFilter* frmLayerStyles::IStyleEditorForm_Filter() const
+{
+    return m_filter;
+}
+
+void frmLayerStyles::IStyleEditorForm_Filter(const IStyleFilter* filter)
+{
+    IStyleEditor_StyleFilter(filter);
+    if (!m_initialised)
+        return;
+    const BusyPointer busy;
+    m_parts->trees.LoadLayers();
+}
+
+void frmLayerStyles::IStyleEditorForm_UnloadWithoutApply()
+{
+    m_selection->SetModified(false);
+    Unload();
+}
+
+} // namespace Orvane

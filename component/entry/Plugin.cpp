@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// The two functions by which a host finds the component.
+#include "component/dialog/frmLayerStyles.h"
+#include "component/entry/MessageFile.h"
+#include "component/entry/StyleEditorLib.h"
+
+#include <OrvaneShellLib/PluginContract.h>
+
+namespace {
+
+std::unique_ptr<Orvane::StyleEditorWindow> MakeEditor()
+{
+    return std::make_unique<Orvane::frmLayerStyles>();
+}
+
+} // namespace
+
+extern "C" {
+
+Q_DECL_EXPORT void OrvaneContractVersion(Orvane::ContractVersion* version)
+{
+    *version = Orvane::CurrentContract;
+}
+
+Q_DECL_EXPORT Orvane::IStyleEditorLibrary* OrvaneCreateStyleEditorLibrary()
+{
+    return new Orvane::StyleEditorLib(MakeEditor, Orvane::ComponentFolder());
+}
+
+} // extern "C"

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "component/entry/StyleEditorLib.h"
+
+#include "component/entry/Component.h"
+#include "component/entry/StyleEditorRegistry.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+
+namespace Orvane {
+
+StyleEditorLib::StyleEditorLib(const StyleEditorFactory& factory, const QString& messageFolder)
+{
+    Component& component = Component::Get();
+    m_editors = component.Registry();
+    if (m_editors)
+        return;
+    m_editors = std::make_shared<StyleEditorRegistry>(factory);
+    component.SetRegistry(m_editors);
+    component.SetMessageFolder(messageFolder);
+    component.LoadMessages();
+}
+
+StyleEditorLib::~StyleEditorLib()
+{
+    Component& component = Component::Get();
+    // Unloaded while this object still answers the host's look-ups.
+    if (m_editors.use_count() == 1)
+        m_editors->UnloadAll();
+    m_editors.reset();
+    if (!component.Registry())
+        component.SetHost(nullptr, nullptr);
+}
+
+IStyleEditor* StyleEditorLib::IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept
+{
+    return m_editors->Find(styleEditorID);
+}
+
+void StyleEditorLib::IStyleEditorLibrary_Initialise(IStyleEditorClient* client)
+{
+    Component& component = Component::Get();
+    component.SetHost(client, nullptr); // whatever the client raises next, the former host is gone
+    component.SetHost(client, client ? client->GetShellServices() : nullptr);
+}
+
+IStyleEditor* StyleEditorLib::IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID)
+{
+    return &m_editors->Create(styleEditorID);
+}
+
+} // namespace Orvane

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/entry/StyleEditorWindow.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace Orvane {
+
+/// The open editors, keyed by ID and kept in the order of their creation; IDs differ in case too.
+///
+/// The registry owns the windows. A window that announces Unloaded leaves the registry at once, so that its
+/// ID is free again, and is deleted when its own code has returned. A window that the host destroys, by
+/// destroying the parent that it gave it, leaves likewise.
+class StyleEditorRegistry : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// factory: makes the windows; never empty.
+    explicit StyleEditorRegistry(StyleEditorFactory factory);
+    /// Deletes all windows, also those that unloaded before: no code of the component is needed later.
+    ~StyleEditorRegistry() override;
+
+    /// The editor with that ID, or nullptr.
+    StyleEditorWindow* Find(const QString& editorID) const noexcept;
+
+    /// Creates and registers a hidden editor. Raises 1234 when the ID is registered already.
+    StyleEditorWindow& Create(const QString& editorID);
+
+    /// Unloads every editor without applying, in the order of their creation. What the host raises meanwhile
+    /// is dropped, and the editor deleted.
+    void UnloadAll() noexcept;
+
+    /// The IDs of the open editors, in the order of their creation.
+    QStringList EditorIDs() const;
+
+private:
+    struct Entry {
+        QString editorID;
+        StyleEditorWindow* window;
+    };
+
+    void Register(const QString& editorID, StyleEditorWindow* window);
+    bool Forget(const QObject* window);
+    void OnUnloaded(StyleEditorWindow* window);
+    void UnloadOne(StyleEditorWindow* window) noexcept;
+
+    StyleEditorFactory m_factory;
+    std::vector<Entry> m_editors;
+    std::vector<QPointer<StyleEditorWindow>> m_unloaded;
+};
+
+} // namespace Orvane

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/styles/PickerList.h"
+#include "component/styles/StepOverCommand.h"
+
+#include <OrvaneShellLib/Value.h>
+
+#include <QObject>
+
+namespace Orvane {
+
+/// One colour list: the standard colours, colours that were added, "Custom Colour..." and, where layers
+/// differ, "[various]".
+///
+/// Colours are BGR integers; a value with any bit of its top byte set means transparent and is listed as
+/// TransparentColour. Members that build or show may raise 6 (overflow), 11 (floating-point fault) and 13
+/// (type mismatch).
+class ColourPicker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the list holds from the beginning.
+    enum class Offer {
+        Colours, ///< for lines, which cannot be transparent
+        ColoursAndTransparent,
+    };
+
+    /// combo: not owned; outlives this object. stylePrefix: what precedes every drawing command.
+    ColourPicker(OvCombo& combo, const QString& stylePrefix, Offer offer);
+
+    /// Fills the list anew; nothing is selected then.
+    void BuildColourList();
+
+    /// Adds a colour, at the end or before the item at the position.
+    void AddColourItem(qint32 colour, qint32 position = PickerList::AtEnd);
+
+    /// Shows a layer's colour; a colour that the list lacks is added before "Custom Colour...", and Null
+    /// shows
+    /// "[various]". The colour dialog starts with this colour.
+    void SetColourSelection(const Value& value);
+
+    /// The colour shown; Null for "[various]".
+    Value GetSelectedColour() const;
+
+    /// Draws and words all items anew, for another size of the combo box or another language. What is listed
+    /// and selected stays.
+    void Rebuild();
+
+    const PickerList& List() const { return m_list; }
+
+signals:
+    /// The list shows another colour, or the same one anew: by the person or by SetColourSelection.
+    void Changed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ShowColour(const Value& value);
+    void AddVariousItem();
+    void AddBeforeCustom(qint32 colour);
+    void OnPicked();
+    void ChooseCustomColour();
+
+    PickerList m_list;
+    StepOverCommand m_stepOver;
+    QString m_stylePrefix;
+    Offer m_offer;
+    Value m_layerValue = Value::Null();
+    Value m_shown = Value::Null();
+};
+
+} // namespace Orvane

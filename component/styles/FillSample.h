@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/MonochromeBitmap.h>
+
+#include <QtGlobal>
+
+class QPainter;
+class QRect;
+
+namespace Orvane {
+
+/// The colours that a layer is drawn with, BGR; a set bit in the top byte means transparent.
+struct FillColours {
+    qint32 line = 0;
+    qint32 fore = 0;
+    qint32 back = 0;
+};
+
+/// One item of the fill style list.
+struct FillSample {
+    qint32 style = 0; ///< 0 solid, 15 hollow, others patterned
+    MonochromeBitmap picture; ///< of a patterned style; one without pixels is painted hollow
+    FillColours colours;
+    qint32 listBack = 0xFFFFFF; ///< background of the list, BGR
+};
+
+/// The fore and back colour that a sample is painted with. Where both are transparent, the line colour stands
+/// on the background of the list; else the background of the list replaces the transparent one.
+FillColours ShownColours(const FillColours& colours, qint32 listBack);
+
+/// Paints an item: the list's background, and on it, 2 pixels inside, the sample in its colours. The left
+/// part, up to left + right / 2 of the sample, shows a pattern in black on white, whatever its colours. An
+/// item of 4 pixels or less in a direction is background only.
+void PaintFillItem(QPainter& painter, const QRect& item, const FillSample& sample);
+
+} // namespace Orvane

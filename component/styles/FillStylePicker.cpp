@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "component/styles/FillStylePicker.h"
+
+#include "component/entry/Component.h"
+#include "component/entry/EventGuard.h"
+#include "component/entry/MessageBoxes.h"
+#include "component/entry/Messages.h"
+#include "component/styles/ItemDescriptions.h"
+#include "component/styles/TranslatedStyleWords.h"
+#include "ovctrls/OvCombo.h"
+
+#include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+namespace Orvane {
+
+namespace {
+
+using Special = PickerList::Special;
+
+constexpr qint16 solidStyle = 0;
+constexpr qint16 hollowStyle = 15;
+constexpr int patternKind = 7;
+constexpr int mostRows = 10;
+
+} // namespace
+
+FillStylePicker::FillStylePicker(OvCombo& combo, const QString& stylePrefix, ReadColours colours)
+    : m_list(combo), m_stylePrefix(stylePrefix), m_colours(std::move(colours))
+{
+    combo.SetRenderer(StyleStringRenderer(stylePrefix));
+    connect(&combo, &OvCombo::activated, this, [this] {
+        GuardEvent(m_list.Combo().window(), [this] { emit Changed(); });
+    });
+    connect(&combo, &OvCombo::DrawItem, this, [this](QPainter& painter, int index, const QRect& item) {
+        GuardPaint([&] { PaintItem(painter, index, item); });
+    });
+}
+
+void FillStylePicker::BuildFillStyleList()
+{
+    m_list.Clear();
+    AddFillStyleItem(solidStyle);
+    AddFillStyleItem(hollowStyle);
+    for (qint16 style = 0; style < FillPictures::Count; ++style) {
+        if (style == solidStyle || style == hollowStyle)
+            continue;
+        LoadPicture(style);
+        AddFillStyleItem(style);
+    }
+    m_list.SetRows(std::min(m_list.Count() + 1, mostRows));
+}
+
+void FillStylePicker::AddFillStyleItem(qint16 style)
+{
+    const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
+    m_list.Add(strings.FillItem(), FillDescription(style), style);
+}
+
+void FillStylePicker::LoadPicture(qint16 style)
+{
+    m_pictures.Load(style);
+    m_pictures.SetPicture(style, ShellServices().FillPattern(patternKind, style));
+}
+
+void FillStylePicker::AddVariousItem()
+{
+    m_list.AddVarious();
+    m_list.SetRows(std::min(m_list.Count() + 1, mostRows));
+}
+
+void FillStylePicker::SetFillStyleSelection(const Value& value)
+{
+    if (value.IsNull()) {
+        AddVariousItem();
+        m_list.Select(Special::Various);
+    } else {
+        const int index = m_list.Find(ToInt32(value));
+        m_list.Select(std::max(index, 0));
+        if (index < 0)
+            ReportUnknownStyle();
+    }
+    emit Changed();
+}
+
+// Queued: while the box waits nothing may be half shown, and the host may close the dialog.
+void FillStylePicker::ReportUnknownStyle()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            QWidget* window = m_list.Combo().window();
+            GuardEvent(window, [window] {
+                ShowMessageBox(window, TranslateMsg("Unknown Fill Style!"), BoxStyle::Ok);
+            });
+        },
+        Qt::QueuedConnection);
+}
+
+Value FillStylePicker::GetSelectedFillStyle() const
+{
+    if (m_list.Selected() < 0 || m_list.IsSelected(Special::Various))
+        return Value::Null();
+    return m_list.SelectedData();
+}
+
+void FillStylePicker::Rebuild()
+{
+    if (m_list.Count() == 0)
+        return;
+    const int selected = m_list.Selected();
+    const bool hadVarious = m_list.IndexOf(Special::Various) >= 0;
+    BuildFillStyleList();
+    if (hadVarious)
+        AddVariousItem();
+    m_list.Select(selected);
+}
+
+void FillStylePicker::RepaintSamples()
+{
+    m_list.Combo().update();
+}
+
+void FillStylePicker::PaintItem(QPainter& painter, int index, const QRect& item)
+{
+    const qint32 style = m_list.Combo().ItemData(index);
+    PaintFillItem(
+        painter, item, {style, m_pictures.Picture(style), m_colours(), ShellServices().ListBackColour()});
+}
+
+} // namespace Orvane

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "component/styles/LineStylePicker.h"
+
+#include "component/entry/EventGuard.h"
+#include "component/styles/ItemDescriptions.h"
+#include "component/styles/TranslatedStyleWords.h"
+#include "ovctrls/OvCombo.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QEvent>
+#include <QPointer>
+
+namespace Orvane {
+
+namespace {
+
+using Special = PickerList::Special;
+
+// Where the width dialog opens: at the combo box, one height below it.
+TwipPoint DialogPlace(const OvCombo& combo)
+{
+    const QPoint topLeft = combo.mapToGlobal(QPoint(0, 2 * combo.height()));
+    return TwipsPerPixelOf(combo).ToTwips(topLeft);
+}
+
+// The line that an item's data stands for.
+LineItem LineOf(qint32 itemData)
+{
+    const SelectedLine line = ReadSelectedLine(0, -1, itemData);
+    return {ToInt16(line.style), ToInt16(line.thickness)};
+}
+
+} // namespace
+
+LineStylePicker::LineStylePicker(OvCombo& combo, const QString& stylePrefix, AskLineWidth askLineWidth)
+    : m_list(combo), m_stepOver(combo, [this] { return m_list.IndexOf(Special::Custom); }),
+      m_stylePrefix(stylePrefix), m_askLineWidth(std::move(askLineWidth))
+{
+    combo.SetRenderer(StyleStringRenderer(stylePrefix));
+    connect(&combo, &OvCombo::activated, this, &LineStylePicker::OnPicked);
+    combo.installEventFilter(this);
+}
+
+void LineStylePicker::BuildLineStyleList()
+{
+    m_list.Clear();
+    for (const LineItem& line : StandardLineItems)
+        AddLineStyleItem(line.style, line.thickness);
+    m_list.RememberLast(Special::LastStandard);
+    m_list.AddSpecial(
+        Special::Custom, StyleStrings(m_stylePrefix, TranslatedStyleWords()).CustomLineCaption());
+}
+
+void LineStylePicker::AddLineStyleItem(qint16 style, qint16 thickness, qint32 position)
+{
+    const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
+    const QString text = strings.LineItemText({style, thickness}, LineExtentOf(m_list.Size()));
+    m_list.Add(text, LineDescription({style, thickness}), LineStyleItemData(style, thickness), position);
+    m_list.SetRows(m_list.Count() + 1);
+}
+
+void LineStylePicker::SetLineStyleSelection(const Value& style, const Value& thickness)
+{
+    if (style.IsNull() || thickness.IsNull()) {
+        ShowVarious();
+    } else {
+        const LineItem line{ToInt16(style), ToInt16(thickness)};
+        const bool isTold = LineOf(LineStyleItemData(line.style, line.thickness)).style == line.style;
+        isTold ? ShowLine(line) : ShowVarious();
+    }
+    m_layerValue = {style, thickness};
+    emit Changed();
+}
+
+void LineStylePicker::ShowLine(const LineItem& line)
+{
+    const qint32 data = LineStyleItemData(line.style, line.thickness);
+    if (m_list.Find(data) < 0)
+        AddBeforeCustom(line);
+    m_list.Select(m_list.Find(data));
+}
+
+void LineStylePicker::ShowVarious()
+{
+    AddVariousItem();
+    m_list.Select(Special::Various);
+}
+
+void LineStylePicker::AddVariousItem()
+{
+    m_list.AddVarious();
+    m_list.SetRows(m_list.Count() + 1);
+}
+
+void LineStylePicker::AddBeforeCustom(const LineItem& line)
+{
+    AddLineStyleItem(line.style, line.thickness, m_list.IndexOf(Special::Custom));
+}
+
+SelectedLine LineStylePicker::GetSelectedLineStyle() const
+{
+    if (m_list.Selected() < 0)
+        return {Value::Null(), Value::Null()};
+    return ReadSelectedLine(m_list.Selected(), m_list.IndexOf(Special::Various), m_list.SelectedData());
+}
+
+void LineStylePicker::Rebuild()
+{
+    if (m_list.Count() == 0)
+        return;
+    const int selected = m_list.Selected();
+    const bool hadVarious = m_list.IndexOf(Special::Various) >= 0;
+    const std::vector<qint32> added = m_list.AddedData();
+    BuildLineStyleList();
+    for (const qint32 data : added)
+        AddBeforeCustom(LineOf(data));
+    if (hadVarious)
+        AddVariousItem();
+    m_list.Select(selected);
+}
+
+// The items are drawn for the size that the combo box had.
+bool LineStylePicker::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        GuardEvent(m_list.Combo().window(), [this] { Rebuild(); });
+    return false;
+}
+
+void LineStylePicker::OnPicked()
+{
+    GuardEvent(m_list.Combo().window(), [this] {
+        if (m_list.IsSelected(Special::Custom))
+            ChooseCustomWidth();
+        else
+            emit Changed();
+    });
+}
+
+void LineStylePicker::ChooseCustomWidth()
+{
+    const QPointer<LineStylePicker> self(this);
+    const TwipPoint place = DialogPlace(m_list.Combo());
+    qint16 thickness = 0;
+    bool isChosen = false;
+    try {
+        isChosen = m_askLineWidth(thickness, place.x, place.y);
+    } catch (...) {
+        if (self)
+            ShowLayerValue();
+        throw;
+    }
+    if (!self)
+        return;
+    if (!isChosen) {
+        ShowLayerValue();
+        return;
+    }
+    ShowLine({0, thickness});
+    emit Changed();
+}
+
+void LineStylePicker::ShowLayerValue()
+{
+    SetLineStyleSelection(m_layerValue.style, m_layerValue.thickness);
+}
+
+} // namespace Orvane

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "component/styles/PickerList.h"
+
+#include "component/controls/Twips.h"
+#include "component/entry/ListHelpers.h"
+#include "component/entry/Messages.h"
+#include "ovctrls/OvCombo.h"
+
+namespace Orvane {
+
+PickerList::PickerList(OvCombo& combo) : m_combo(combo)
+{
+    m_remembered.fill(-1);
+}
+
+ComboSize PickerList::Size() const
+{
+    const TwipsPerPixel scale = TwipsPerPixelOf(m_combo);
+    return {double(m_combo.WidthInTwips()), double(m_combo.HeightInTwips()), scale.x, scale.y};
+}
+
+void PickerList::Clear()
+{
+    m_combo.Clear();
+    m_remembered.fill(-1);
+}
+
+void PickerList::Add(const QString& text, const QString& description, qint32 data, qint32 position)
+{
+    m_combo.Insert(text, position);
+    const int index = m_combo.NewIndex();
+    m_combo.SetItemData(index, data);
+    m_combo.SetItemDescription(index, description);
+    for (int& remembered : m_remembered) {
+        if (remembered >= index)
+            ++remembered;
+    }
+}
+
+void PickerList::AddSpecial(Special item, const QString& text)
+{
+    m_combo.Append(text);
+    RememberLast(item);
+}
+
+void PickerList::SetRows(int rows)
+{
+    m_combo.SetDropDownRows(rows);
+}
+
+void PickerList::AddVarious()
+{
+    if (IndexOf(Special::Various) < 0)
+        AddSpecial(Special::Various, TranslateMsg("[various]"));
+}
+
+void PickerList::RememberLast(Special item)
+{
+    m_remembered[size_t(item)] = Count() - 1;
+}
+
+int PickerList::Count() const
+{
+    return m_combo.ListCount();
+}
+
+int PickerList::Selected() const
+{
+    return m_combo.ListIndex();
+}
+
+void PickerList::Select(int index)
+{
+    m_combo.SetListIndex(index);
+}
+
+qint32 PickerList::SelectedData() const
+{
+    return Selected() < 0 ? 0 : m_combo.ItemData(Selected());
+}
+
+int PickerList::Find(qint32 data) const
+{
+    return FindByItemData(m_combo, data);
+}
+
+std::vector<qint32> PickerList::AddedData() const
+{
+    std::vector<qint32> added;
+    for (int index = IndexOf(Special::LastStandard) + 1; index < IndexOf(Special::Custom); ++index)
+        added.push_back(m_combo.ItemData(index));
+    return added;
+}
+
+} // namespace Orvane

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/styles/StyleStrings.h"
+
+namespace Orvane {
+
+/// The words of picker items in the language of the moment; ask anew whenever a list is built.
+StyleWords TranslatedStyleWords();
+
+} // namespace Orvane

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "component/styles/frmOtherLineStyle.h"
+
+#include "component/controls/ScreenPlacement.h"
+#include "component/entry/Component.h"
+#include "component/entry/EventGuard.h"
+#include "component/entry/Messages.h"
+#include "component/entry/SpinHelpers.h"
+#include "ui_frmOtherLineStyle.h"
+
+#include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QPointer>
+
+#include <cstdlib>
+
+namespace Orvane {
+
+namespace {
+
+// A text with the decimal separator of the person's language, as numbers are read here.
+QString WithPoint(QString text)
+{
+    return text.replace(QLocale().decimalPoint(), QStringLiteral("."));
+}
+
+} // namespace
+
+frmOtherLineStyle::frmOtherLineStyle(QWidget* owner)
+    : QDialog(owner), m_ui(std::make_unique<Ui::frmOtherLineStyle>())
+{
+    m_ui->setupUi(this);
+    TranslateForm(*this);
+    Init();
+}
+
+frmOtherLineStyle::~frmOtherLineStyle() = default;
+
+void frmOtherLineStyle::Init()
+{
+    m_ui->bedThickness->installEventFilter(this);
+    m_ui->WidthSpin->SetRange(0, 100);
+    m_ui->WidthSpin->SetBoundText(m_ui->bedThickness);
+    connect(m_ui->bedThickness, &QLineEdit::textChanged, this, &frmOtherLineStyle::OnTextChanged);
+    connect(m_ui->WidthSpin, &OvSpin::Change, this, &frmOtherLineStyle::OnSpinChanged);
+    connect(m_ui->optPixels, &QAbstractButton::clicked, this, &frmOtherLineStyle::EnableConfirm);
+    connect(m_ui->optMillimetres, &QAbstractButton::clicked, this, &frmOtherLineStyle::EnableConfirm);
+    connect(m_ui->cmdOK, &QAbstractButton::clicked, this, &frmOtherLineStyle::Confirm);
+    connect(m_ui->cmdCancel, &QAbstractButton::clicked, this, &frmOtherLineStyle::reject);
+}
+
+bool frmOtherLineStyle::ChooseLineWidth(qint16& thickness, Twips x, Twips y)
+{
+    if (m_state != State::Closed)
+        return false;
+    Prepare(thickness);
+    Place({x, y});
+    m_cancelled = false;
+    m_state = State::Open;
+    const QPointer self(this);
+    try {
+        ShellServices().ShowModal(this);
+    } catch (...) {
+        if (self)
+            m_state = State::Closed;
+        throw;
+    }
+    if (!self)
+        return false;
+    m_state = State::Closed;
+    if (m_cancelled)
+        return false;
+    thickness = EnteredThickness();
+    return true;
+}
+
+void frmOtherLineStyle::Prepare(qint16 thickness)
+{
+    m_ui->optMillimetres->setChecked(thickness >= 0);
+    m_ui->optPixels->setChecked(thickness < 0);
+    m_ui->bedThickness->setText(ToText(qint32(std::abs(int(thickness)))));
+    m_ui->bedThickness->selectAll();
+    m_ui->bedThickness->setFocus();
+    // Last: showing the width counts as no change.
+    m_ui->cmdOK->setEnabled(false);
+}
+
+void frmOtherLineStyle::Place(TwipPoint topLeft)
+{
+    move(TwipsPerPixelOf(*this).ToPixels(topLeft));
+}
+
+// Only now the frame is known.
+void frmOtherLineStyle::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    move(MovedInside(frameGeometry(), AvailableAreaAt(pos())).topLeft());
+}
+
+qint16 frmOtherLineStyle::EnteredThickness() const
+{
+    const QString text = m_ui->bedThickness->text();
+    return m_ui->optMillimetres->isChecked() ? ToInt16(text) : ToInt16(-ToDouble(text));
+}
+
+// ---- changes
+
+void frmOtherLineStyle::EnableConfirm()
+{
+    m_ui->cmdOK->setEnabled(true);
+}
+
+void frmOtherLineStyle::OnTextChanged()
+{
+    GuardEvent(this, [this] { ApplyText(); });
+}
+
+void frmOtherLineStyle::ApplyText()
+{
+    EnableConfirm();
+    if (const auto number = NumberInText(m_ui->bedThickness->text())) {
+        LimitText(*number);
+        SynchroniseSpin(*m_ui->WidthSpin, *m_ui->bedThickness);
+    } else if (NumberInText(WithPoint(m_ui->bedThickness->text()))) {
+        m_ui->bedThickness->setText(WithPoint(m_ui->bedThickness->text()));
+    }
+}
+
+void frmOtherLineStyle::LimitText(double number)
+{
+    if (number > double(m_ui->WidthSpin->MaxValue()))
+        m_ui->bedThickness->setText(ToText(m_ui->WidthSpin->MaxValue()));
+    else if (number < 0)
+        m_ui->bedThickness->setText(QStringLiteral("0"));
+}
+
+void frmOtherLineStyle::OnSpinChanged()
+{
+    GuardEvent(this, [this] { m_ui->bedThickness->setText(ToText(m_ui->WidthSpin->Value())); });
+}
+
+// ---- what the person does with the dialog
+
+void frmOtherLineStyle::Confirm()
+{
+    const QPointer self(this);
+    m_cancelled = false;
+    m_state = State::Asking;
+    const bool isClosing = GuardEvent(this, [this] {
+        if (!NumberInText(m_ui->bedThickness->text())) {
+            throw RunTimeError(
+                ErrorNumber::TypeMismatch, TranslateMsg("'^1' is not a number.", m_ui->bedThickness->text()));
+        }
+        ShellServices().CloseModal(this);
+    });
+    if (!self || isClosing)
+        return;
+    m_state = State::Open;
+    m_ui->bedThickness->selectAll();
+    m_ui->bedThickness->setFocus();
+}
+
+void frmOtherLineStyle::reject()
+{
+    m_cancelled = true;
+    const QPointer self(this);
+    m_state = State::Asking;
+    const bool isClosing = GuardEvent(this, [this] { ShellServices().CloseModal(this); });
+    if (self && !isClosing)
+        m_state = State::Open;
+}
+
+void frmOtherLineStyle::EnterValue()
+{
+    const QPointer self(this);
+    m_state = State::Asking;
+    GuardEvent(this, [this] {
+        const OvSpin& spin = *m_ui->WidthSpin;
+        ShellServices().EnterValue(
+            m_ui->bedThickness, EntryKind::Integer, double(spin.MinValue()), double(spin.MaxValue()),
+            TranslateMsg("Enter Line Width"));
+    });
+    if (self)
+        m_state = State::Open;
+}
+
+bool frmOtherLineStyle::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() != QEvent::MouseButtonDblClick)
+        return false;
+    EnterValue();
+    return true;
+}
+
+// A menu of its own, such as that of the entry, is no other window.
+bool frmOtherLineStyle::event(QEvent* event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::WindowDeactivate && m_state == State::Open && isVisible()
+        && !QApplication::activePopupWidget())
+        reject();
+    return isHandled;
+}
+
+void frmOtherLineStyle::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        GuardEvent(this, [this] { TranslateForm(*this); });
+}
+
+} // namespace Orvane
