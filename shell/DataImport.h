@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/data/DataSource.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace Orvane {
+
+class MapDocument;
+class Progress;
+
+/// What a look into files found.
+struct FoundData {
+    struct Source {
+        QString path;
+        std::vector<SourceLayer> layers;
+    };
+    std::vector<Source> sources; ///< files with at least one layer
+    QStringList problems; ///< one sentence for each file without
+};
+
+/// Looks into files without reading their features; for any thread. Raises Cancelled.
+FoundData LookInto(const QStringList& paths, Progress& progress);
+
+/// Adds what was found to the map, a group for each file and a layer for each of its layers, each in another
+/// colour, in one transaction. The first data decide the map's coordinate system. Errors are those of the
+/// database; the map is then as before.
+void AddToMap(MapDocument& document, const FoundData& data);
+
+} // namespace Orvane

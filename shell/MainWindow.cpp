@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MainWindow.h"
+
+#include "shell/DataImport.h"
+#include "shell/Guard.h"
+#include "shell/Icons.h"
+#include "shell/MapDocument.h"
+#include "shell/MapSession.h"
+#include "shell/RecentMaps.h"
+#include "shell/RunWithProgress.h"
+#include "shell/drawing/MapCanvas.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
+#include <QSettings>
+#include <QUrl>
+
+#include <chrono>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto MapSuffix = "orvane";
+constexpr auto GeometryKey = "MainWindow/Geometry";
+constexpr auto StateKey = "MainWindow/State";
+constexpr std::chrono::milliseconds MarkAfter{500};
+
+// Four digits are as exact as a screen is.
+double RoundedScale(double denominator)
+{
+    const double step = std::pow(10, std::max(0.0, std::floor(std::log10(denominator)) - 3));
+    return std::round(denominator / step) * step;
+}
+
+// Leaves room for the layer control at the right, where the screen has it.
+void PlaceFirstTime(QWidget& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize size(screen.width() * 62 / 100, screen.height() * 84 / 100);
+    window.resize(size.expandedTo(window.minimumSizeHint()));
+    window.move(screen.left() + screen.width() / 100, screen.top() + screen.height() * 6 / 100);
+}
+
+bool IsMapFile(const QString& path)
+{
+    return QFileInfo(path).suffix() == QLatin1String(MapSuffix);
+}
+
+QStringList LocalFiles(const QMimeData& data)
+{
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+} // namespace
+
+MainWindow::MainWindow(CallTrace* trace)
+    : m_ui(std::make_unique<Ui::MainWindow>()), m_trace(trace), m_layerControl(trace)
+{
+    m_ui->setupUi(this);
+    setWindowIcon(ProgramIcon());
+    setCentralWidget(m_ui->canvas);
+    SetIcons();
+    MakeStatusBar();
+    ConnectActions();
+    ConnectCanvas();
+    RestoreWindow();
+    Use(MapDocument::Untitled());
+}
+
+MainWindow::~MainWindow() = default;
+
+MapCanvas& MainWindow::Canvas()
+{
+    return *m_ui->canvas;
+}
+
+MapDocument& MainWindow::Document()
+{
+    return m_session->Document();
+}
+
+void MainWindow::OpenMap(const QString& path)
+{
+    auto document = MapDocument::Open(path);
+    if (!LeaveMap())
+        return;
+    Use(std::move(document));
+    RecentMaps::Add(Document().Path());
+}
+
+void MainWindow::AddData(const QStringList& paths)
+{
+    FoundData found;
+    RunWithProgress(
+        this, tr("Opening map data"), [&](Progress& progress) { found = LookInto(paths, progress); });
+    const bool controlled = m_layerControl.IsShown();
+    if (!m_layerControl.Close())
+        return;
+    const bool first = !Document().HasLayers();
+    AddToMap(Document(), found);
+    ReadMap();
+    if (first)
+        Canvas().ZoomToAll();
+    if (controlled)
+        m_layerControl.Show();
+    ShowProblems(found.problems.join(QLatin1Char('\n')));
+}
+
+void MainWindow::ShowLayerControl()
+{
+    m_layerControl.Show();
+    m_session->Shell().RaiseEditor();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    bool left = false;
+    Guard(this, [&] { left = LeaveMap(); });
+    event->setAccepted(left);
+    if (left)
+        StoreWindow();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!LocalFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QStringList paths = LocalFiles(*event->mimeData());
+    event->acceptProposedAction();
+    Guard(this, [&] {
+        if (paths.size() == 1 && IsMapFile(paths.first()))
+            OpenMap(paths.first());
+        else
+            AddData(paths);
+    });
+}
+
+void MainWindow::ConnectActions()
+{
+    const auto run = [this](QAction* action, void (MainWindow::*command)()) {
+        connect(
+            action, &QAction::triggered, this, [this, command] { Guard(this, [&] { (this->*command)(); }); });
+    };
+    run(m_ui->actNewMap, &MainWindow::NewMap);
+    run(m_ui->actOpenMap, &MainWindow::AskForMap);
+    run(m_ui->actSaveMapAs, &MainWindow::SaveMapAs);
+    run(m_ui->actOpenData, &MainWindow::AskForData);
+    run(m_ui->actLayerControl, &MainWindow::ShowLayerControl);
+    run(m_ui->actAbout, &MainWindow::ShowAbout);
+    connect(m_ui->actQuit, &QAction::triggered, this, &QWidget::close);
+    connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
+    connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
+    connect(m_ui->actZoomAll, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomToAll);
+    connect(m_ui->menuRecent, &QMenu::aboutToShow, this, &MainWindow::FillRecentMenu);
+}
+
+void MainWindow::ConnectCanvas()
+{
+    connect(m_ui->canvas, &MapCanvas::ViewChanged, this, &MainWindow::ShowScale);
+    connect(m_ui->canvas, &MapCanvas::PointerMoved, this, [this](QPointF map) {
+        m_position->setText(m_positionText.Of(map));
+    });
+    auto* mark = new QTimer(this);
+    mark->setSingleShot(true);
+    mark->setInterval(MarkAfter);
+    connect(mark, &QTimer::timeout, m_drawing, [this] { m_drawing->setText(tr("Drawing...")); });
+    connect(&Canvas().Picture(), &MapPicture::BusyChanged, mark, [this, mark](bool busy) {
+        if (busy)
+            return mark->start();
+        mark->stop();
+        m_drawing->clear();
+    });
+}
+
+void MainWindow::SetIcons()
+{
+    m_ui->actNewMap->setIcon(ShellIcon(IconName::NewMap, palette()));
+    m_ui->actOpenMap->setIcon(ShellIcon(IconName::OpenMap, palette()));
+    m_ui->actOpenData->setIcon(ShellIcon(IconName::OpenData, palette()));
+    m_ui->actZoomIn->setIcon(ShellIcon(IconName::ZoomIn, palette()));
+    m_ui->actZoomOut->setIcon(ShellIcon(IconName::ZoomOut, palette()));
+    m_ui->actZoomAll->setIcon(ShellIcon(IconName::ZoomAll, palette()));
+    m_ui->actLayerControl->setIcon(ShellIcon(IconName::LayerControl, palette()));
+}
+
+void MainWindow::MakeStatusBar()
+{
+    m_drawing = new QLabel(this);
+    m_drawing->setObjectName(QStringLiteral("lblDrawing"));
+    m_position = new QLabel(this);
+    m_position->setObjectName(QStringLiteral("lblPosition"));
+    m_scale = new QLabel(this);
+    m_scale->setObjectName(QStringLiteral("lblScale"));
+    m_scale->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("1:8,888,888,888")));
+    for (QLabel* label : {m_drawing, m_position, m_scale})
+        statusBar()->addPermanentWidget(label);
+}
+
+void MainWindow::NewMap()
+{
+    const QString path = AskForMapFileToWrite(tr("New Map"));
+    if (path.isEmpty() || !LeaveMap())
+        return;
+    Use(MapDocument::Untitled()); // the file to replace may be the one that is open
+    MapDocument::Remove(path);
+    Use(MapDocument::Create(path));
+    RecentMaps::Add(Document().Path());
+}
+
+void MainWindow::AskForMap()
+{
+    const QString path
+        = QFileDialog::getOpenFileName(this, tr("Open Map"), {}, tr("Maps (*.orvane);;All files (*)"));
+    if (!path.isEmpty())
+        OpenMap(path);
+}
+
+void MainWindow::SaveMapAs()
+{
+    const QString path = AskForMapFileToWrite(tr("Save Map As"));
+    if (path.isEmpty() || path == Document().Path() || !m_layerControl.Close())
+        return;
+    Document().SaveCopy(path);
+    Use(MapDocument::Open(path));
+    RecentMaps::Add(path);
+}
+
+void MainWindow::AskForData()
+{
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        this, tr("Open Data"), {},
+        tr("Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv "
+           "*.vrt)"
+           ";;All files (*)"));
+    if (!paths.isEmpty())
+        AddData(paths);
+}
+
+void MainWindow::FillRecentMenu()
+{
+    m_ui->menuRecent->clear();
+    for (const QString& path : RecentMaps::All()) {
+        QAction* action = m_ui->menuRecent->addAction(QFileInfo(path).fileName());
+        action->setStatusTip(path);
+        connect(action, &QAction::triggered, this, [this, path] { Guard(this, [&] { OpenMap(path); }); });
+    }
+    if (m_ui->menuRecent->isEmpty())
+        m_ui->menuRecent->addAction(tr("No maps yet"))->setEnabled(false);
+}
+
+void MainWindow::ShowAbout()
+{
+    QMessageBox::about(
+        this, tr("About Orvane"),
+        tr("<h3>Orvane %1</h3><p>A small desktop map program, the host of the Orvane layer control.</p>")
+            .arg(QCoreApplication::applicationVersion()));
+}
+
+void MainWindow::Use(std::unique_ptr<MapDocument> document)
+{
+    auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
+    m_layerControl.SetClient(&session->Client());
+    m_session = std::move(session);
+    const QString path = Document().Path();
+    setWindowFilePath(path);
+    setWindowTitle(
+        path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
+    ReadMap();
+    Canvas().ZoomToAll();
+}
+
+bool MainWindow::LeaveMap()
+{
+    return m_layerControl.Close() && KeepUntitledMap();
+}
+
+bool MainWindow::KeepUntitledMap()
+{
+    if (!Document().Path().isEmpty() || !Document().HasLayers())
+        return true;
+    const auto answer = QMessageBox::question(
+        this, tr("New map"), tr("This map has no file yet. Keep it?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save)
+        SaveMapAs();
+    return answer == QMessageBox::Discard || !Document().Path().isEmpty();
+}
+
+void MainWindow::ReadMap()
+{
+    const QString problems = m_session->ReadAndShow();
+    m_positionText = PositionText(Document().System());
+    ShowScale();
+    ShowProblems(problems);
+}
+
+void MainWindow::ShowProblems(const QString& problems)
+{
+    if (problems.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Warning, tr("Map data"), problems, QMessageBox::Ok, this);
+    box.setObjectName(QStringLiteral("dlgProblems"));
+    box.exec();
+}
+
+void MainWindow::ShowScale()
+{
+    m_scale->setText(tr("1:%1").arg(QLocale().toString(RoundedScale(Canvas().ScaleDenominator()), 'f', 0)));
+}
+
+void MainWindow::RestoreWindow()
+{
+    const QSettings settings;
+    if (!restoreGeometry(settings.value(QLatin1String(GeometryKey)).toByteArray()))
+        PlaceFirstTime(*this);
+    restoreState(settings.value(QLatin1String(StateKey)).toByteArray());
+}
+
+void MainWindow::StoreWindow()
+{
+    QSettings settings;
+    settings.setValue(QLatin1String(GeometryKey), saveGeometry());
+    settings.setValue(QLatin1String(StateKey), saveState());
+}
+
+QString MainWindow::AskForMapFileToWrite(const QString& title)
+{
+    QFileDialog dialog(this, title, {}, tr("Maps (*.orvane)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QLatin1String(MapSuffix));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace Orvane

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/LayerControl.h"
+#include "shell/data/PositionText.h"
+
+#include <QMainWindow>
+#include <QStringList>
+
+#include <memory>
+
+class QLabel;
+
+namespace Ui {
+class MainWindow;
+}
+
+namespace Orvane {
+
+class CallTrace;
+class MapCanvas;
+class MapDocument;
+class MapSession;
+struct FoundData;
+
+/// Orvane's window: one map, its menus and tools, and the layer control beside it.
+///
+///     MainWindow window;
+///     window.show();
+///     window.OpenMap(path);
+///
+/// OpenMap, AddData and ShowLayerControl raise what goes wrong; the menu commands show it.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    /// trace: writes each call between the map and the layer control; not owned, nullptr for none.
+    explicit MainWindow(CallTrace* trace = nullptr);
+    ~MainWindow() override;
+
+    /// Shows another map file, unless the person keeps the one that is shown. The map stays when the file
+    /// cannot be opened.
+    void OpenMap(const QString& path);
+    /// Adds every layer of these files to the map. Files that cannot be read are named in one message.
+    void AddData(const QStringList& paths);
+    /// Opens the layer control, or brings it to the front.
+    void ShowLayerControl();
+
+    MapCanvas& Canvas();
+    MapDocument& Document();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void ConnectActions();
+    void ConnectCanvas();
+    void SetIcons();
+    void MakeStatusBar();
+    void NewMap();
+    void AskForMap();
+    void SaveMapAs();
+    void AskForData();
+    void FillRecentMenu();
+    void ShowAbout();
+
+    void Use(std::unique_ptr<MapDocument> document);
+    bool LeaveMap();
+    bool KeepUntitledMap();
+    void ReadMap();
+    void ShowProblems(const QString& problems);
+    void ShowScale();
+    void RestoreWindow();
+    void StoreWindow();
+    QString AskForMapFileToWrite(const QString& title);
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    CallTrace* m_trace;
+    std::unique_ptr<MapSession> m_session;
+    LayerControl m_layerControl; // ends before the session, whose client it uses
+    PositionText m_positionText{QString()};
+    QLabel* m_position = nullptr; // owned by the status bar, as the next two
+    QLabel* m_scale = nullptr;
+    QLabel* m_drawing = nullptr;
+};
+
+} // namespace Orvane

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MapDocument.h"
+
+#include "hostkit/StoredScale.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <limits>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto SourcesTable = "CREATE TABLE IF NOT EXISTS LayerSources ("
+                              " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
+                              " Path TEXT NOT NULL, OgrLayer TEXT NOT NULL, Filter TEXT NOT NULL DEFAULT '')";
+constexpr auto SettingsTable
+    = "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)";
+constexpr qint32 NoCode = -1;
+
+QString Text(const IRecordset& row, std::string_view column)
+{
+    const Value value = row.Field(column);
+    return value.IsNull() ? QString() : ToText(value);
+}
+
+// Code -1 is given to as many layers as need it.
+qint32 CodeOrNone(qint32 next)
+{
+    return next <= std::numeric_limits<qint16>::max() ? next : NoCode;
+}
+
+} // namespace
+
+std::unique_ptr<MapDocument> MapDocument::Untitled()
+{
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::CreateInMemory(), {}));
+}
+
+std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Create(absolute), absolute));
+}
+
+std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Open(absolute), absolute));
+}
+
+MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
+    : m_database(std::move(database)), m_path(path)
+{
+    m_database->Execute(QLatin1String(SourcesTable));
+    m_database->Execute(QLatin1String(SettingsTable));
+}
+
+MapDocument::~MapDocument() = default;
+
+void MapDocument::Remove(const QString& path)
+{
+    for (const char* companion : {"", "-wal", "-shm"})
+        QFile::remove(path + QLatin1String(companion));
+}
+
+void MapDocument::SaveCopy(const QString& path) const
+{
+    const QString unfinished = path + QLatin1String(".part");
+    QFile::remove(unfinished);
+    m_database->Execute(QStringLiteral("VACUUM INTO ?1"), {unfinished});
+    Remove(path);
+    QFile::rename(unfinished, path);
+    const auto copy = Open(path);
+    StoreTransaction transaction(copy->Database());
+    for (const LayerSource& source : Sources())
+        copy->SetSource(source.layerID, source.path, source.ogrLayer, source.filter);
+    transaction.Commit();
+}
+
+QString MapDocument::System() const
+{
+    const auto row
+        = m_database->OpenRecordset(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = 'System'"));
+    return row->AtEOF() ? QString() : Text(*row, "Value");
+}
+
+void MapDocument::SetSystem(const QString& system)
+{
+    m_database->Execute(QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES ('System', ?1)"), {system});
+}
+
+qint32 MapDocument::AddLayer(const NewLayer& layer)
+{
+    const qint32 layerID = NextOf(QStringLiteral("max(LayerID)"), QStringLiteral("Layers"));
+    const qint32 code = NextOf(QStringLiteral("max(Code)"), QStringLiteral("Layers"));
+    const double limit = layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum;
+    const DrawingValues& values = layer.values;
+    StoreTransaction transaction(*m_database);
+    m_database->Execute(
+        QStringLiteral(
+            "INSERT INTO Layers (LayerID, Name, Code, Visible, Color, FillForeColor, FillBackColor,"
+            " OutlineStyle, FillStyle, LineThickness, MinVisScale, MaxVisScale, Priority, Style)"
+            " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)"),
+        {layerID, layer.name, CodeOrNone(code), layer.visible, values.color, values.fillForeColor,
+         values.fillBackColor, values.outlineStyle, values.fillStyle, values.lineThickness,
+         layer.minDenominator, limit, layer.priority, values.style});
+    SetSource(layerID, layer.path, layer.ogrLayer, layer.filter);
+    transaction.Commit();
+    return layerID;
+}
+
+qint32 MapDocument::AddGroup(const QString& name, bool expanded)
+{
+    const QString table = QStringLiteral("LayerGroups");
+    const qint32 groupID = NextOf(QStringLiteral("max(ID)"), table);
+    const qint32 ordering = NextOf(QStringLiteral("max(GroupOrdering)"), table);
+    m_database->Execute(
+        QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering, Expanded) VALUES (?1, ?2, ?3, ?4)"),
+        {groupID, name, ordering, expanded});
+    return groupID;
+}
+
+void MapDocument::AddMember(qint32 groupID, qint32 layerID)
+{
+    m_database->Execute(
+        QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID, Ordering) SELECT ?1, ?2, count(*)"
+                       " FROM LayerGroupMembers WHERE GroupID = ?1"),
+        {groupID, layerID});
+}
+
+std::vector<LayerSource> MapDocument::Sources() const
+{
+    std::vector<LayerSource> sources;
+    const auto rows
+        = m_database->OpenRecordset(QStringLiteral("SELECT * FROM LayerSources ORDER BY LayerID"));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        sources.push_back(
+            {ToInt32(rows->Field("LayerID")), AbsolutePath(Text(*rows, "Path")), Text(*rows, "OgrLayer"),
+             Text(*rows, "Filter")});
+    }
+    return sources;
+}
+
+bool MapDocument::HasLayers() const
+{
+    return !m_database->OpenRecordset(QStringLiteral("SELECT LayerID FROM Layers LIMIT 1"))->AtEOF();
+}
+
+qint32 MapDocument::NextOf(const QString& expression, const QString& table) const
+{
+    const QString sql = QStringLiteral("SELECT coalesce(%1, 0) + 1 AS Next FROM %2").arg(expression, table);
+    return ToInt32(m_database->OpenRecordset(sql)->Field("Next"));
+}
+
+void MapDocument::SetSource(
+    qint32 layerID, const QString& path, const QString& ogrLayer, const QString& filter)
+{
+    m_database->Execute(
+        QStringLiteral("INSERT OR REPLACE INTO LayerSources VALUES (?1, ?2, ?3, ?4)"),
+        {layerID, StoredPath(path), ogrLayer, filter.isNull() ? QStringLiteral("") : filter});
+}
+
+QString MapDocument::StoredPath(const QString& path) const
+{
+    if (m_path.isEmpty() || !QFileInfo::exists(path))
+        return path;
+    const QString relative = QFileInfo(m_path).absoluteDir().relativeFilePath(path);
+    return relative.startsWith(QLatin1String("..")) ? path : relative;
+}
+
+QString MapDocument::AbsolutePath(const QString& storedPath) const
+{
+    if (m_path.isEmpty())
+        return storedPath;
+    const QString beside = QFileInfo(m_path).absoluteDir().absoluteFilePath(storedPath);
+    return QFileInfo::exists(beside) ? beside : storedPath;
+}
+
+} // namespace Orvane

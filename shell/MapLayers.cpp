@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MapLayers.h"
+
+#include "shell/MapDocument.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int MaximumPriority = 255;
+constexpr qsizetype FewLayers = 64; // from here on reading all rows at once is faster
+
+// A null column counts as the value given.
+double NumberOr(const IRecordset& row, std::string_view column, double otherwise)
+{
+    const Value value = row.Field(column);
+    return value.IsNull() ? otherwise : ToDouble(value);
+}
+
+int WholeOr(const IRecordset& row, std::string_view column, int otherwise)
+{
+    return int(RoundHalfToEven(NumberOr(row, column, otherwise)));
+}
+
+DrawingValues ValuesOfRow(const IRecordset& row)
+{
+    DrawingValues values;
+    values.color = WholeOr(row, "Color", 0);
+    values.fillForeColor = WholeOr(row, "FillForeColor", 0);
+    values.fillBackColor = WholeOr(row, "FillBackColor", 0);
+    values.outlineStyle = WholeOr(row, "OutlineStyle", 0);
+    values.fillStyle = WholeOr(row, "FillStyle", 0);
+    values.lineThickness = WholeOr(row, "LineThickness", 0);
+    values.style = WholeOr(row, "Style", 0);
+    return values;
+}
+
+DrawMode ModeOfRow(const IRecordset& row)
+{
+    const int mode = WholeOr(row, "OverrideMode", 0);
+    return mode == int(DrawMode::Backdrop) || mode == int(DrawMode::Hidden) ? DrawMode(mode)
+                                                                            : DrawMode::Normal;
+}
+
+} // namespace
+
+MapLayers::MapLayers(const MapDocument& document, const IShellServices& services, double pixelsPerMillimetre)
+    : m_document(document), m_services(services), m_pixelsPerMillimetre(pixelsPerMillimetre)
+{
+}
+
+void MapLayers::ReadAll()
+{
+    std::vector<MapLayer> layers;
+    const auto rows = m_document.Database().OpenRecordset(QStringLiteral("SELECT * FROM Layers"));
+    for (; !rows->AtEOF(); rows->MoveNext())
+        layers.push_back(LayerOfRow(*rows));
+    m_layers = std::move(layers);
+}
+
+void MapLayers::Read(const QSet<qint32>& layerIDs)
+{
+    if (layerIDs.size() > FewLayers)
+        return ReadAll();
+    const auto table = m_document.Database().OpenRecordset(QStringLiteral("Layers"));
+    table->Index("LayerIDIDX");
+    for (const qint32 layerID : layerIDs) {
+        table->Seek("=", layerID);
+        Replace(layerID, *table);
+    }
+}
+
+void MapLayers::TakeFeatures(const SourceContents& contents)
+{
+    for (const auto& [layerID, features] : contents.features)
+        m_features[layerID] = features;
+    for (MapLayer& layer : m_layers) {
+        const auto found = m_features.find(layer.layerID);
+        if (found != m_features.end())
+            layer.features = found->second;
+    }
+}
+
+std::vector<LayerSource> MapLayers::MissingSources() const
+{
+    std::vector<LayerSource> sources = m_document.Sources();
+    std::erase_if(sources, [&](const LayerSource& source) { return m_features.contains(source.layerID); });
+    return sources;
+}
+
+MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
+{
+    MapLayer layer;
+    layer.layerID = ToInt32(row.Field("LayerID"));
+    layer.visible = WholeOr(row, "Visible", 1) != 0;
+    layer.mode = ModeOfRow(row);
+    layer.priority = WholeOr(row, "Priority", MaximumPriority);
+    layer.minDenominator = NumberOr(row, "MinVisScale", 0);
+    const double limit = NumberOr(row, "MaxVisScale", 0);
+    if (limit > 0)
+        layer.maxDenominator = limit;
+    layer.values = ValuesOfRow(row);
+    layer.look = LookOf(layer.values, m_services, m_pixelsPerMillimetre);
+    const auto features = m_features.find(layer.layerID);
+    if (features != m_features.end())
+        layer.features = features->second;
+    return layer;
+}
+
+void MapLayers::Replace(qint32 layerID, const IRecordset& row)
+{
+    const auto known = std::find_if(
+        m_layers.begin(), m_layers.end(), [&](const MapLayer& layer) { return layer.layerID == layerID; });
+    if (row.NoMatch()) {
+        if (known != m_layers.end())
+            m_layers.erase(known);
+        m_features.erase(layerID);
+        return;
+    }
+    if (known == m_layers.end())
+        m_layers.push_back(LayerOfRow(row));
+    else
+        *known = LayerOfRow(row);
+}
+
+} // namespace Orvane

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/data/SourceReader.h"
+#include "shell/drawing/MapLayer.h"
+
+#include <QSet>
+
+#include <vector>
+
+namespace Orvane {
+
+class IRecordset;
+class IShellServices;
+class MapDocument;
+
+/// The layers of a map file as the canvas draws them, kept in step with the database.
+///
+/// Errors of the database are passed on; what is held then stays as it was.
+class MapLayers
+{
+public:
+    /// Neither is owned; both outlive this object. pixelsPerMillimetre: of the screen.
+    MapLayers(const MapDocument& document, const IShellServices& services, double pixelsPerMillimetre);
+
+    const std::vector<MapLayer>& All() const { return m_layers; }
+
+    /// Reads all rows anew.
+    void ReadAll();
+    /// Reads at least these layers' rows anew; a layer whose row is gone leaves the list.
+    void Read(const QSet<qint32>& layerIDs);
+
+    /// Takes over features that were read; those of other layers stay.
+    void TakeFeatures(const SourceContents& contents);
+    /// The sources of layers that have no features yet.
+    std::vector<LayerSource> MissingSources() const;
+
+private:
+    MapLayer LayerOfRow(const IRecordset& row) const;
+    void Replace(qint32 layerID, const IRecordset& row);
+
+    const MapDocument& m_document;
+    const IShellServices& m_services;
+    double m_pixelsPerMillimetre;
+    std::vector<MapLayer> m_layers;
+    std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
+};
+
+} // namespace Orvane

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MapSession.h"
+
+#include "hostkit/HostNotifications.h"
+#include "shell/Guard.h"
+#include "shell/MapDocument.h"
+#include "shell/RunWithProgress.h"
+#include "shell/data/CoordinateSystems.h"
+#include "shell/drawing/MapCanvas.h"
+
+namespace Orvane {
+
+namespace {
+
+constexpr double MillimetresPerInch = 25.4;
+
+} // namespace
+
+MapSession::MapSession(
+    std::unique_ptr<MapDocument> document, MapCanvas& canvas, QWidget& mainWindow, CallTrace* trace)
+    : m_canvas(canvas), m_mainWindow(mainWindow), m_document(std::move(document)),
+      m_layers(*m_document, m_services, canvas.logicalDpiX() / MillimetresPerInch),
+      m_client(m_document->Database(), m_services, mainWindow)
+{
+    if (trace)
+        m_traced = std::make_unique<TracingClient>(m_client, *trace);
+    Connect();
+}
+
+MapSession::~MapSession() = default;
+
+IStyleEditorClient& MapSession::Client()
+{
+    return m_traced ? static_cast<IStyleEditorClient&>(*m_traced) : m_client;
+}
+
+QString MapSession::ReadAndShow()
+{
+    m_client.InvalidateLayerNames();
+    m_layers.ReadAll();
+    const std::vector<LayerSource> sources = m_layers.MissingSources();
+    SourceContents contents;
+    RunWithProgress(
+        &m_mainWindow, tr("Reading map data"), [&, system = m_document->System()](Progress& progress) {
+            contents = ReadSources(sources, system, progress);
+        });
+    m_layers.TakeFeatures(contents);
+    Show();
+    return contents.FailureText();
+}
+
+void MapSession::Connect()
+{
+    const HostNotifications& events = m_client.Notifications();
+    connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
+    connect(
+        &events, &HostNotifications::LayerCreated, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+    connect(
+        &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+}
+
+void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
+{
+    Guard(&m_mainWindow, [&] {
+        m_layers.Read(layerIDs);
+        Show();
+    });
+}
+
+void MapSession::Show()
+{
+    m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+}
+
+} // namespace Orvane

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/data/Box.h"
+#include "shell/data/FeatureSet.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class GDALDataset;
+
+namespace Orvane {
+
+class Progress;
+
+/// The number of the RunTimeError for data that cannot be read.
+inline constexpr int SourceUnreadable = 10101;
+
+/// One layer of a data source.
+struct SourceLayer {
+    QString name; ///< as the source calls it
+    FeatureKind kind = FeatureKind::Area; ///< of a mixed layer: Area
+    QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
+    Box extent; ///< in its own units; empty when the source does not know it
+};
+
+/// A file, or whatever else GDAL's vector drivers open, read only.
+///
+///     DataSource source(path);
+///     for (const SourceLayer& layer : source.Layers())
+///         features = source.Read(layer.name, {}, "EPSG:3857", progress);
+///
+/// One object is used by one thread at a time, another object by any other. Errors are RunTimeError with
+/// SourceUnreadable and a sentence that names the file.
+class DataSource
+{
+public:
+    /// Raises when no driver can open it.
+    explicit DataSource(const QString& path);
+    ~DataSource();
+    DataSource(const DataSource&) = delete;
+    DataSource& operator=(const DataSource&) = delete;
+
+    /// The layers that have geometry, in the source's order.
+    std::vector<SourceLayer> Layers() const;
+
+    /// Reads a layer's geometries into the map's coordinate system. filter: a condition in GDAL's attribute
+    /// filter language, e.g. "continent = 'Asia'"; empty for all features. Raises for an unknown layer, a
+    /// filter that is not understood and damaged data; raises Cancelled.
+    FeatureSet
+    Read(const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress) const;
+
+private:
+    [[noreturn]] void Fail(const QString& reason) const;
+
+    QString m_path;
+    std::unique_ptr<GDALDataset> m_dataset;
+};
+
+} // namespace Orvane

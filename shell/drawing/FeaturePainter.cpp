@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "shell/drawing/FeaturePainter.h"
+
+#include "shell/drawing/Clipping.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr double Tolerance = 0.7; // pixels, of a thin line
+constexpr double TolerancePerWidth = 0.25; // a broad pen hides more
+constexpr double SpeckSize = 1; // pixels
+
+Box Grown(const Box& box, double margin)
+{
+    return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
+}
+
+bool Holds(const Box& outer, const Box& inner)
+{
+    return outer.minX <= inner.minX && outer.minY <= inner.minY && inner.maxX <= outer.maxX
+        && inner.maxY <= outer.maxY;
+}
+
+} // namespace
+
+FeaturePainter::FeaturePainter(QPainter& painter, const MapView& view, const LayerLook& look)
+    : m_painter(painter), m_view(view), m_look(look)
+{
+    m_tolerance = std::max(Tolerance, TolerancePerWidth * look.outline.widthF());
+    const double margin = std::ceil(look.outline.widthF() + 2 * look.symbolRadius) + 2;
+    m_area = QRectF({0, 0}, QSizeF(view.Size())).adjusted(-margin, -margin, margin, margin);
+    m_extent = Grown(view.Extent(), margin * view.UnitsPerPixel());
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void FeaturePainter::Paint(const FeatureSet& features, const std::atomic<bool>& cancelled)
+{
+    m_painter.setPen(m_look.outline);
+    m_painter.setBrush(m_look.fill);
+    for (const FeatureSet::Feature& feature : features.Features()) {
+        if (cancelled)
+            return;
+        if (feature.bounds.Intersects(m_extent))
+            PaintFeature(features, feature);
+    }
+}
+
+void FeaturePainter::PaintFeature(const FeatureSet& features, const FeatureSet::Feature& feature)
+{
+    const bool clip = !Holds(m_extent, feature.bounds);
+    switch (feature.kind) {
+    case FeatureKind::Point:
+        for (quint32 part = feature.firstPart; part < feature.endPart; ++part)
+            PaintSymbols(features.Part(part));
+        return;
+    case FeatureKind::Line:
+        for (quint32 part = feature.firstPart; part < feature.endPart; ++part)
+            PaintLine(features.Part(part), clip);
+        return;
+    case FeatureKind::Area:
+        PaintArea(features, feature, clip);
+        return;
+    }
+}
+
+void FeaturePainter::PaintSymbols(std::span<const QPointF> part)
+{
+    m_painter.save();
+    m_painter.setPen(QPen(Qt::white, 1));
+    m_painter.setBrush(m_look.symbol);
+    for (const QPointF& point : part)
+        m_painter.drawEllipse(m_view.ToPixel(point), m_look.symbolRadius, m_look.symbolRadius);
+    m_painter.restore();
+}
+
+void FeaturePainter::PaintLine(std::span<const QPointF> part, bool clip)
+{
+    if (m_look.outline.style() == Qt::NoPen)
+        return;
+    const QPolygonF line = Simplified(part);
+    if (!clip) {
+        m_painter.drawPolyline(line);
+        return;
+    }
+    QPolygonF run;
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        QPointF from = line[i - 1];
+        QPointF to = line[i];
+        const bool inside = ClipSegment(from, to, m_area);
+        if (!inside || run.isEmpty() || run.last() != from) {
+            m_painter.drawPolyline(run);
+            run.clear();
+        }
+        if (inside)
+            run << (run.isEmpty() ? QPolygonF{from, to} : QPolygonF{to});
+    }
+    m_painter.drawPolyline(run);
+}
+
+void FeaturePainter::PaintArea(const FeatureSet& features, const FeatureSet::Feature& feature, bool clip)
+{
+    const double speck = SpeckSize * m_view.UnitsPerPixel();
+    if (feature.bounds.Width() < speck && feature.bounds.Height() < speck) {
+        PaintSpeck(feature.bounds);
+        return;
+    }
+    QPainterPath rings;
+    for (quint32 part = feature.firstPart; part < feature.endPart; ++part) {
+        const QPolygonF ring = Simplified(features.Part(part));
+        const QPolygonF shown = clip ? ClipRing(ring, m_area) : ring;
+        if (shown.size() < 2)
+            continue;
+        rings.addPolygon(shown);
+        rings.closeSubpath();
+    }
+    m_painter.drawPath(rings);
+}
+
+void FeaturePainter::PaintSpeck(const Box& bounds)
+{
+    const bool outlined = m_look.outline.style() != Qt::NoPen;
+    if (!outlined && m_look.fill.style() == Qt::NoBrush)
+        return;
+    const QPointF pixel = m_view.ToPixel({bounds.minX, bounds.maxY});
+    m_painter.fillRect(
+        QRectF(pixel, QSizeF(SpeckSize, SpeckSize)), outlined ? m_look.outline.color() : m_look.fill.color());
+}
+
+QPolygonF FeaturePainter::Simplified(std::span<const QPointF> part) const
+{
+    QPolygonF kept;
+    for (size_t i = 0; i < part.size(); ++i) {
+        const QPointF pixel = m_view.ToPixel(part[i]);
+        const bool last = i + 1 == part.size();
+        if (i == 0 || last || (pixel - kept.last()).manhattanLength() >= m_tolerance)
+            kept << pixel;
+    }
+    return kept;
+}
+
+} // namespace Orvane

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QBrush>
+#include <QColor>
+#include <QPen>
+#include <QtGlobal>
+
+#include <optional>
+
+namespace Orvane {
+
+class IShellServices;
+
+/// The columns of a Layers row that say how the layer is drawn, as stored.
+struct DrawingValues {
+    qint32 color = 0; ///< BGR; a top byte other than 0: symbols keep their own colour
+    qint32 fillForeColor = 0; ///< BGR; a top byte other than 0: transparent
+    qint32 fillBackColor = 0; ///< BGR; a top byte other than 0: transparent
+    int outlineStyle = 0; ///< 0 solid, 1 to 4 dashed and dotted, 15 none
+    int fillStyle = 0; ///< 0 solid, 15 hollow, else the number of a fill pattern
+    int lineThickness = 0; ///< negative: pixels; 0: thinnest; positive: millimetres
+    qint32 style = 0; ///< renderer style
+
+    bool operator==(const DrawingValues&) const = default;
+};
+
+/// Pens and brushes for one layer. Safe to use in any thread.
+struct LayerLook {
+    QPen outline;
+    QBrush fill;
+    QColor symbol; ///< colour of points
+    double symbolRadius = 3; ///< logical pixels
+};
+
+/// The colour that a BGR integer stands for; nothing when its top byte marks it transparent.
+std::optional<QColor> ColourFromBgr(qint32 bgr);
+
+/// The look that the values ask for. pixelsPerMillimetre: of the screen or the paper, in logical pixels.
+/// Passes on what the services raise.
+LayerLook LookOf(const DrawingValues& values, const IShellServices& services, double pixelsPerMillimetre);
+
+} // namespace Orvane

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/drawing/MapPicture.h"
+#include "shell/drawing/MapView.h"
+
+#include <QTimer>
+#include <QWidget>
+
+namespace Orvane {
+
+/// The window on the map. Drag pans, the wheel zooms at the pointer, a double click zooms in; arrow keys pan,
+/// + and - zoom, Home shows everything.
+///
+/// While a new picture is being drawn the last one is shown moved and stretched, so that the map follows the
+/// hand at once.
+class MapCanvas : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit MapCanvas(QWidget* parent = nullptr);
+
+    /// Draws these layers from now on; the view stays. metresPerUnit: length of a map unit, for the scale.
+    void SetLayers(std::vector<MapLayer> layers, double metresPerUnit);
+    /// The layers as they were set.
+    const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
+
+    const MapView& View() const { return m_view; }
+    void SetView(const MapView& view);
+    /// n of the scale 1:n.
+    double ScaleDenominator() const;
+
+    /// The background painter, whose signals tell what is being drawn.
+    const MapPicture& Picture() const { return m_picture; }
+
+    QSize sizeHint() const override { return {800, 600}; }
+
+public slots:
+    /// Shows everything that there is to show.
+    void ZoomToAll();
+    void ZoomIn();
+    void ZoomOut();
+
+signals:
+    /// The part of the map that is shown changed.
+    void ViewChanged();
+    /// The pointer is over that map point.
+    void PointerMoved(QPointF map);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void DrawAnew();
+    double DenominatorOf(const MapView& view) const;
+    QPointF MiddlePixel() const;
+
+    MapPicture m_picture;
+    MapView m_view;
+    double m_metresPerUnit = 1;
+    QPointF m_dragFrom;
+    bool m_dragging = false;
+    QTimer m_drawSoon; // gathers the many small steps of a drag or a wheel turn
+};
+
+} // namespace Orvane

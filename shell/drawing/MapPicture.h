@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/drawing/MapLayer.h"
+#include "shell/drawing/MapView.h"
+#include "shell/drawing/Sheets.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QObject>
+#include <QThreadPool>
+
+#include <map>
+#include <memory>
+
+namespace Orvane {
+
+/// The picture of a map, drawn in the background and kept up to date with the least drawing: a change of one
+/// layer draws that layer's image anew, a change of order or visibility only lays the images together.
+///
+///     picture.SetLayers(document.Layers());
+///     picture.SetView(view, scaleDenominator, devicePixelRatio());
+///     connect(&picture, &MapPicture::Changed, this, [this] { update(); });
+///
+/// All members belong to the thread that made it; nothing here raises.
+class MapPicture : public QObject
+{
+    Q_OBJECT
+public:
+    explicit MapPicture(QObject* parent = nullptr);
+    /// Cancels what is being drawn and waits for it.
+    ~MapPicture() override;
+
+    /// Replaces the layers, known by their IDs.
+    void SetLayers(std::vector<MapLayer> layers);
+    /// Shows another part of the map. Drawing of the part before is cancelled.
+    void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
+
+    const std::vector<MapLayer>& Layers() const { return m_layers; }
+    /// The last picture; null before the first.
+    const QImage& Image() const { return m_image; }
+    /// The view that Image shows, which may be an earlier one while drawing goes on.
+    const MapView& ImageView() const { return m_imageView; }
+    bool IsBusy() const { return m_pending > 0; }
+
+signals:
+    /// Image is another one.
+    void Changed();
+    void BusyChanged(bool busy);
+    /// A layer was drawn anew.
+    void LayerDrawn(qint32 layerID);
+
+private:
+    using Images = std::map<std::vector<qint32>, SheetImage>;
+
+    void Refresh();
+    void Start(const Sheet& sheet);
+    void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);
+    void Compose();
+    void SetPending(size_t pending);
+
+    std::vector<MapLayer> m_layers;
+    std::vector<Sheet> m_sheets;
+    Images m_images; // of m_view
+    MapView m_view;
+    double m_scaleDenominator = 1;
+    double m_devicePixelRatio = 1;
+    QImage m_image;
+    MapView m_imageView;
+    QElapsedTimer m_sinceShown;
+    QThreadPool m_pool;
+    std::shared_ptr<std::atomic<bool>> m_cancelled;
+    quint64 m_generation = 0;
+    size_t m_pending = 0;
+};
+
+} // namespace Orvane

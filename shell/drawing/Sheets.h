@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/drawing/MapLayer.h"
+#include "shell/drawing/MapView.h"
+
+#include <QImage>
+#include <QPoint>
+
+#include <atomic>
+#include <vector>
+
+class QPainter;
+
+namespace Orvane {
+
+/// Neighbouring layers that share one image; a sheet of one layer as long as there are few layers.
+struct Sheet {
+    std::vector<MapLayer> layers; ///< bottom first; at least one
+    bool backdrop = false; ///< laid down pale
+
+    /// The layers' IDs in order: names the sheet's image.
+    std::vector<qint32> Key() const;
+};
+
+/// What a sheet shows, cut to what its layers can cover.
+struct SheetImage {
+    QImage image; ///< null when nothing is in view
+    QPoint topLeft; ///< logical pixels of the view
+};
+
+/// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID;
+/// without layers that are invisible, hidden, out of scale, out of view or not read. There are about
+/// maxSheets of them at most, however many layers there are, which bounds the memory they take.
+std::vector<Sheet> PlanSheets(
+    const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator, size_t maxSheets = 64);
+
+/// Draws a sheet; for any thread. Stops soon after cancelled becomes true, with part of it drawn.
+SheetImage DrawSheet(
+    const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled);
+
+/// Lays a sheet's image over what the painter holds.
+void PlaceSheet(QPainter& painter, const Sheet& sheet, const SheetImage& image);
+
+} // namespace Orvane

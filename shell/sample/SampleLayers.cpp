@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "shell/sample/SampleLayers.h"
+
+#include "shell/MapDocument.h"
+#include "shell/Palette.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+namespace Orvane {
+
+namespace {
+
+constexpr int HollowFill = 15;
+
+NewLayer LayerFor(const SampleLayer& sample, const QString& path)
+{
+    NewLayer layer;
+    layer.name = QString::fromUtf8(sample.name);
+    layer.values.color = Bgr(sample.line);
+    layer.values.fillForeColor = sample.fill == 0 ? TransparentColour : Bgr(sample.fill);
+    layer.values.fillBackColor = TransparentColour;
+    layer.values.outlineStyle = sample.outlineStyle;
+    layer.values.fillStyle = sample.fill == 0 ? HollowFill : sample.fillStyle;
+    layer.values.lineThickness = sample.thickness;
+    layer.priority = sample.priority;
+    layer.visible = sample.visible;
+    layer.maxDenominator = sample.maxDenominator;
+    layer.path = path;
+    layer.ogrLayer = QString::fromUtf8(sample.ogrLayer);
+    layer.filter = QString::fromUtf8(sample.filter);
+    return layer;
+}
+
+} // namespace
+
+void AddSampleLayers(
+    MapDocument& document, std::span<const SampleLayer> layers,
+    const std::function<QString(const QString& file)>& pathOf)
+{
+    StoreTransaction transaction(document.Database());
+    QString groupName;
+    qint32 groupID = 0;
+    for (const SampleLayer& sample : layers) {
+        const QString path = pathOf(QString::fromUtf8(sample.file));
+        if (path.isEmpty())
+            continue;
+        if (groupName != QString::fromUtf8(sample.group)) {
+            groupName = QString::fromUtf8(sample.group);
+            groupID = document.AddGroup(groupName, groupID == 0);
+        }
+        document.AddMember(groupID, document.AddLayer(LayerFor(sample, path)));
+    }
+    transaction.Commit();
+}
+
+} // namespace Orvane
