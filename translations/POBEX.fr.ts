@@ -1,0 +1,663 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>LayerControl</name>
+    <message>
+        <source>1 pixel</source>
+        <translation>1 pixel</translation>
+    </message>
+    <message>
+        <source>&apos;^1&apos; is not a number.</source>
+        <translation>« ^1 » n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>1:^1</source>
+        <translation>1:^1</translation>
+    </message>
+    <message>
+        <source>&lt;No Name&gt;</source>
+        <translation>&lt;Sans nom&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;none&gt;</source>
+        <translation>&lt;aucune&gt;</translation>
+    </message>
+    <message>
+        <source>[various]</source>
+        <translation>[divers]</translation>
+    </message>
+    <message>
+        <source>^1 (highest)</source>
+        <translation>^1 (la plus haute)</translation>
+    </message>
+    <message>
+        <source>^1 (lowest)</source>
+        <translation>^1 (la plus basse)</translation>
+    </message>
+    <message>
+        <source>A size has no finite value in pixels.</source>
+        <translation>Une taille n’a pas de valeur finie en pixels.</translation>
+    </message>
+    <message>
+        <source>An unexpected error stopped the action.</source>
+        <translation>Une erreur inattendue a interrompu l’action.</translation>
+    </message>
+    <message>
+        <source>An unexpected error stopped the action: ^1</source>
+        <translation>Une erreur inattendue a interrompu l’action : ^1</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Appli&amp;quer</translation>
+    </message>
+    <message>
+        <source>Are you sure you wish to save the colour schemes to the startup database?</source>
+        <translation>Voulez-vous vraiment enregistrer les schémas de couleurs dans la base de données de démarrage ?</translation>
+    </message>
+    <message>
+        <source>&amp;Backdrop</source>
+        <translation>Arrière-&amp;plan</translation>
+    </message>
+    <message>
+        <source>Backdrop</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Back&amp;ground:</source>
+        <translation>Couleur de &amp;fond :</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>Code ^1 has already been assigned. Please assign another code.</source>
+        <translation>Le code ^1 est déjà attribué. Veuillez en attribuer un autre.</translation>
+    </message>
+    <message>
+        <source>C&amp;ode:</source>
+        <translation>Co&amp;de :</translation>
+    </message>
+    <message>
+        <source>Collapse All</source>
+        <translation>Tout réduire</translation>
+    </message>
+    <message>
+        <source>Create a layer.</source>
+        <translation>Créer une couche.</translation>
+    </message>
+    <message>
+        <source>Create a scheme from the current layer setup.</source>
+        <translation>Créer un schéma à partir des réglages actuels des couches.</translation>
+    </message>
+    <message>
+        <source>Current &amp;Scheme:</source>
+        <translation>S&amp;chéma actuel :</translation>
+    </message>
+    <message>
+        <source>Custom Colour...</source>
+        <translation>Couleur personnalisée...</translation>
+    </message>
+    <message>
+        <source>Custom Line Style...</source>
+        <translation>Style de ligne personnalisé...</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Dark green</source>
+        <translation>Vert foncé</translation>
+    </message>
+    <message>
+        <source>Dash-dot line</source>
+        <translation>Ligne en trait-point</translation>
+    </message>
+    <message>
+        <source>Dash-dot-dot line</source>
+        <translation>Ligne en trait-point-point</translation>
+    </message>
+    <message>
+        <source>Dashed line</source>
+        <translation>Ligne en tirets</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete layer scheme &apos;^1&apos;?</source>
+        <translation>Supprimer le schéma de couches « ^1 » ?</translation>
+    </message>
+    <message>
+        <source>Delete the selected layer.</source>
+        <translation>Supprimer la couche sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Delete this scheme.</source>
+        <translation>Supprimer ce schéma.</translation>
+    </message>
+    <message>
+        <source>Display mode</source>
+        <translation>Mode d’affichage</translation>
+    </message>
+    <message>
+        <source>Do not draw the layer for now.</source>
+        <translation>Ne pas dessiner la couche pour l’instant.</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the &apos;^2&apos; ^1?</source>
+        <translation>Voulez-vous appliquer les modifications concernant ^1 « ^2 » ?</translation>
+    </message>
+    <message>
+        <source>dont care</source>
+        <translation>indifférent</translation>
+    </message>
+    <message>
+        <source>Dotted line</source>
+        <translation>Ligne en pointillés</translation>
+    </message>
+    <message>
+        <source>Double-click to enter the width.</source>
+        <translation>Double-cliquez pour saisir l’épaisseur.</translation>
+    </message>
+    <message>
+        <source>Double-click, or press F2, to edit the code.</source>
+        <translation>Double-cliquez ou appuyez sur F2 pour modifier le code.</translation>
+    </message>
+    <message>
+        <source>Draw Priority</source>
+        <translation>Priorité de dessin</translation>
+    </message>
+    <message>
+        <source>Draw symbols in the colours of the layer.</source>
+        <translation>Dessiner les symboles dans les couleurs de la couche.</translation>
+    </message>
+    <message>
+        <source>Draw the layer faintly, behind the others.</source>
+        <translation>Dessiner la couche en clair, derrière les autres.</translation>
+    </message>
+    <message>
+        <source>Draw the layer on the map.</source>
+        <translation>Dessiner la couche sur la carte.</translation>
+    </message>
+    <message>
+        <source>Draw the layer with its own style.</source>
+        <translation>Dessiner la couche avec son propre style.</translation>
+    </message>
+    <message>
+        <source>Drop the changes and show the stored values again.</source>
+        <translation>Abandonner les modifications et réafficher les valeurs enregistrées.</translation>
+    </message>
+    <message>
+        <source>Edit code</source>
+        <translation>Modifier le code</translation>
+    </message>
+    <message>
+        <source>Edit Name</source>
+        <translation>Modifier le nom</translation>
+    </message>
+    <message>
+        <source>En&amp;quirable</source>
+        <translation>Interrogea&amp;ble</translation>
+    </message>
+    <message>
+        <source>Enter Line Width</source>
+        <translation>Saisir la largeur de ligne</translation>
+    </message>
+    <message>
+        <source>ERROR: Group not Found</source>
+        <translation>ERREUR : groupe introuvable</translation>
+    </message>
+    <message>
+        <source>Expand All</source>
+        <translation>Tout développer</translation>
+    </message>
+    <message>
+        <source>Extended Colours</source>
+        <translation>Couleurs étendues</translation>
+    </message>
+    <message>
+        <source>&amp;Fill colour:</source>
+        <translation>Couleur de rempliss&amp;age :</translation>
+    </message>
+    <message>
+        <source>F&amp;ill style:</source>
+        <translation>Mo&amp;tif :</translation>
+    </message>
+    <message>
+        <source>Go back to the last saved values of this scheme.</source>
+        <translation>Revenir aux dernières valeurs enregistrées de ce schéma.</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>le groupe</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>&amp;Hidden</source>
+        <translation>Masqu&amp;ée</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Masquée</translation>
+    </message>
+    <message>
+        <source>Hi&amp;table</source>
+        <translation>&amp;Cliquable</translation>
+    </message>
+    <message>
+        <source>Hollow</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>How the renderer draws the layer.</source>
+        <translation>Façon dont la couche est rendue.</translation>
+    </message>
+    <message>
+        <source>Invalid Name</source>
+        <translation>Nom non valide</translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation>la couche</translation>
+    </message>
+    <message>
+        <source>Layer Control</source>
+        <translation>Contrôle des couches</translation>
+    </message>
+    <message>
+        <source>Layer groups</source>
+        <translation>Groupes de couches</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Line and Fill</source>
+        <translation>Ligne et remplissage</translation>
+    </message>
+    <message>
+        <source>Li&amp;ne colour:</source>
+        <translation>Couleur &amp;de ligne :</translation>
+    </message>
+    <message>
+        <source>Line style ^1</source>
+        <translation>Style de ligne ^1</translation>
+    </message>
+    <message>
+        <source>Line &amp;style:</source>
+        <translation>Style de li&amp;gne :</translation>
+    </message>
+    <message>
+        <source>Line Width</source>
+        <translation>Épaisseur de ligne</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Listes</translation>
+    </message>
+    <message>
+        <source>Loc&amp;ked</source>
+        <translation>Verrou&amp;illée</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Maroon</source>
+        <translation>Bordeaux</translation>
+    </message>
+    <message>
+        <source>Ma&amp;ximum:</source>
+        <translation>Ma&amp;ximum :</translation>
+    </message>
+    <message>
+        <source>&amp;Minimum:</source>
+        <translation>&amp;Minimum :</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>Navy</source>
+        <translation>Bleu marine</translation>
+    </message>
+    <message>
+        <source>New points on the layer must snap to existing ones.</source>
+        <translation>Les nouveaux points de la couche doivent s’accrocher à des points existants.</translation>
+    </message>
+    <message>
+        <source>New Scheme</source>
+        <translation>Nouveau schéma</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>N&amp;ouveau...</translation>
+    </message>
+    <message>
+        <source>Ne&amp;w...</source>
+        <translation>N&amp;ouveau...</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>Norma&amp;l</source>
+        <translation>Norma&amp;l</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
+        <translation>Les objets de la couche répondent aux interrogations. Nécessite une couche cliquable.</translation>
+    </message>
+    <message>
+        <source>Objects of the layer can be selected. Needs a hitable layer.</source>
+        <translation>Les objets de la couche peuvent être sélectionnés. Nécessite une couche cliquable.</translation>
+    </message>
+    <message>
+        <source>Objects of the layer react to the pointer.</source>
+        <translation>Les objets de la couche réagissent au pointeur.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Olive</source>
+        <translation>Olive</translation>
+    </message>
+    <message>
+        <source>Overflow</source>
+        <translation>Dépassement de capacité</translation>
+    </message>
+    <message>
+        <source>Pattern ^1</source>
+        <translation>Motif ^1</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>Veuillez saisir un nom non vide, ou annulez.</translation>
+    </message>
+    <message>
+        <source>P&amp;riority:</source>
+        <translation>P&amp;riorité :</translation>
+    </message>
+    <message>
+        <source>Protect the layer against changes.</source>
+        <translation>Protéger la couche contre les modifications.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>&amp;Revert</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>
+        <translation>Rétablir les dernières valeurs enregistrées du schéma de couches « ^1 » ?</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save all schemes to the startup database, from which new maps begin.</source>
+        <translation>Enregistrer tous les schémas dans la base de données de démarrage, à partir de laquelle les nouvelles cartes sont créées.</translation>
+    </message>
+    <message>
+        <source>Save current layer setup to scheme &apos;^1&apos;?</source>
+        <translation>Enregistrer les réglages actuels des couches dans le schéma « ^1 » ?</translation>
+    </message>
+    <message>
+        <source>Save the current layer setup to this scheme.</source>
+        <translation>Enregistrer les réglages actuels des couches dans ce schéma.</translation>
+    </message>
+    <message>
+        <source>Save to S&amp;tartup</source>
+        <translation>Enregistrer au &amp;démarrage</translation>
+    </message>
+    <message>
+        <source>Schemes</source>
+        <translation>Schémas</translation>
+    </message>
+    <message>
+        <source>Select a layer or a group to see its settings.</source>
+        <translation>Sélectionnez une couche ou un groupe pour voir ses réglages.</translation>
+    </message>
+    <message>
+        <source>S&amp;electable</source>
+        <translation>Sél&amp;ectionnable</translation>
+    </message>
+    <message>
+        <source>Set Draw Priority</source>
+        <translation>Définir la priorité de dessin</translation>
+    </message>
+    <message>
+        <source>Set Maximum Visible Scale</source>
+        <translation>Définir l’échelle visible maximale</translation>
+    </message>
+    <message>
+        <source>Set Minimum Visible Scale</source>
+        <translation>Définir l’échelle visible minimale</translation>
+    </message>
+    <message>
+        <source>Set the largest scale index at which the layer is drawn.</source>
+        <translation>Définir l’indice d’échelle maximal auquel la couche est dessinée.</translation>
+    </message>
+    <message>
+        <source>Set the order in which layers are drawn; 1 is the highest.</source>
+        <translation>Définir l’ordre de dessin des couches ; 1 est la priorité la plus haute.</translation>
+    </message>
+    <message>
+        <source>Set the smallest scale index at which the layer is drawn.</source>
+        <translation>Définir l’indice d’échelle minimal auquel la couche est dessinée.</translation>
+    </message>
+    <message>
+        <source>Show or hide the settings beside the lists.</source>
+        <translation>Afficher ou masquer les réglages à côté des listes.</translation>
+    </message>
+    <message>
+        <source>Show settings</source>
+        <translation>Afficher les réglages</translation>
+    </message>
+    <message>
+        <source>Silver</source>
+        <translation>Argent</translation>
+    </message>
+    <message>
+        <source>Sna&amp;p required</source>
+        <translation>Accroc&amp;hage obligatoire</translation>
+    </message>
+    <message>
+        <source>Solid fill</source>
+        <translation>Remplissage uni</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Step down</source>
+        <translation>Diminuer</translation>
+    </message>
+    <message>
+        <source>Step up</source>
+        <translation>Augmenter</translation>
+    </message>
+    <message>
+        <source>Store the changes.</source>
+        <translation>Enregistrer les modifications.</translation>
+    </message>
+    <message>
+        <source>Style Editor with that ID already exists.</source>
+        <translation>Un éditeur de style portant cet identifiant existe déjà.</translation>
+    </message>
+    <message>
+        <source>St&amp;yle:</source>
+        <translation>St&amp;yle :</translation>
+    </message>
+    <message>
+        <source>Subscript out of range</source>
+        <translation>Indice hors limites</translation>
+    </message>
+    <message>
+        <source>Switch to &apos;^1&apos;? Any unsaved changes to the current scheme will be lost. Continue?</source>
+        <translation>Passer à « ^1 » ? Les modifications non enregistrées du schéma actuel seront perdues. Continuer ?</translation>
+    </message>
+    <message>
+        <source>Switch to another layer scheme.</source>
+        <translation>Passer à un autre schéma de couches.</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Bleu canard</translation>
+    </message>
+    <message>
+        <source>The colour between the lines of patterns.</source>
+        <translation>La couleur entre les lignes des motifs.</translation>
+    </message>
+    <message>
+        <source>The colour of filled areas and of the lines of patterns.</source>
+        <translation>La couleur des surfaces remplies et des lignes des motifs.</translation>
+    </message>
+    <message>
+        <source>The colour of lines and outlines.</source>
+        <translation>La couleur des lignes et des contours.</translation>
+    </message>
+    <message>
+        <source>The last layer scheme cannot be deleted.</source>
+        <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>The layer control has not been initialised.</source>
+        <translation>Le contrôle des couches n’a pas été initialisé.</translation>
+    </message>
+    <message>
+        <source>The pattern of filled areas.</source>
+        <translation>Le motif des surfaces remplies.</translation>
+    </message>
+    <message>
+        <source>The pattern or the width of lines and outlines.</source>
+        <translation>Le motif ou l’épaisseur des lignes et des contours.</translation>
+    </message>
+    <message>
+        <source>The settings of layers are edited on the other tabs.</source>
+        <translation>Les réglages des couches se modifient dans les autres onglets.</translation>
+    </message>
+    <message>
+        <source>The value of a check box is 0, 1 or 2.</source>
+        <translation>La valeur d’une case à cocher est 0, 1 ou 2.</translation>
+    </message>
+    <message>
+        <source>Theme Control: ^1</source>
+        <translation>Contrôle du thème : ^1</translation>
+    </message>
+    <message>
+        <source>Thinnest line</source>
+        <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Transparent</translation>
+    </message>
+    <message>
+        <source>Type mismatch</source>
+        <translation>Type incompatible</translation>
+    </message>
+    <message>
+        <source>Unexpected program flow in frmLayerStyles</source>
+        <translation>Déroulement inattendu du programme dans frmLayerStyles</translation>
+    </message>
+    <message>
+        <source>Unknown Fill Style!</source>
+        <translation>Style de remplissage inconnu !</translation>
+    </message>
+    <message>
+        <source>&amp;Use for symbols</source>
+        <translation>&amp;Utiliser pour les symboles</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Various</source>
+        <translation>Divers</translation>
+    </message>
+    <message>
+        <source>various</source>
+        <translation>divers</translation>
+    </message>
+    <message>
+        <source>&amp;Visible</source>
+        <translation>&amp;Visible</translation>
+    </message>
+    <message>
+        <source>Visible Scale Range</source>
+        <translation>Plage d’échelles visibles</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>É&amp;paisseur :</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>You may not delete a &apos;system layer&apos;</source>
+        <translation>Une « couche système » ne peut pas être supprimée</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,427 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>Orvane</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no data that can be read.</source>
+        <translation>„%1“ enthält keine lesbaren Daten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds nothing to draw.</source>
+        <translation>„%1“ enthält nichts, was gezeichnet werden kann.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
+        <translation>„^1“ kann nicht angelegt werden, weil eine Datei dieses Namens bereits vorhanden ist.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is not a layer database.</source>
+        <translation>„^1“ ist keine Layerdatenbank.</translation>
+    </message>
+    <message>
+        <source>%1 - Orvane</source>
+        <translation>%1 - Orvane</translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Ein kleines Kartenprogramm für den Schreibtisch, das die Layersteuerung von Orvane beherbergt.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>A row of &quot;^1&quot; was changed without beginning an edit.</source>
+        <translation>Eine Zeile von „^1“ wurde geändert, ohne eine Bearbeitung zu beginnen.</translation>
+    </message>
+    <message>
+        <source>A row of &quot;^1&quot; was sought before an index was chosen.</source>
+        <translation>Eine Zeile von „^1“ wurde gesucht, bevor ein Index gewählt war.</translation>
+    </message>
+    <message>
+        <source>A statement on &quot;^1&quot; was given another number of values than it takes.</source>
+        <translation>Einer Anweisung für „^1“ wurde eine falsche Anzahl von Werten übergeben.</translation>
+    </message>
+    <message>
+        <source>A whole number from %1 to %2</source>
+        <translation>Eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>&amp;About Orvane</source>
+        <translation>Ü&amp;ber Orvane</translation>
+    </message>
+    <message>
+        <source>About Orvane</source>
+        <translation>Über Orvane</translation>
+    </message>
+    <message>
+        <source>About this program</source>
+        <translation>Über dieses Programm</translation>
+    </message>
+    <message>
+        <source>Add map data from files to the map</source>
+        <translation>Der Karte Kartendaten aus Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>An empty value cannot be stored in &quot;^1&quot;.</source>
+        <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Begin a new map file</source>
+        <translation>Eine neue Kartendatei beginnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Delete layer</source>
+        <translation>Layer löschen</translation>
+    </message>
+    <message>
+        <source>Delete the layer &quot;%1&quot;?</source>
+        <translation>Layer „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Drawing...</source>
+        <translation>Zeichnen...</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>End Orvane</source>
+        <translation>Orvane beenden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>it has no layer named %1</source>
+        <translation>es gibt darin keinen Layer namens %1</translation>
+    </message>
+    <message>
+        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
+        <translation>sie ist keine Stileditor-Komponente („%1“ fehlt)</translation>
+    </message>
+    <message>
+        <source>it made no entry object</source>
+        <translation>sie hat kein Einstiegsobjekt erzeugt</translation>
+    </message>
+    <message>
+        <source>it speaks version %1 of the contract, this program speaks %2</source>
+        <translation>sie verwendet Version %1 der Schnittstelle, dieses Programm Version %2</translation>
+    </message>
+    <message>
+        <source>&amp;Layer Control</source>
+        <translation>&amp;Layersteuerung</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>&amp;Layer</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Map data</source>
+        <translation>Kartendaten</translation>
+    </message>
+    <message>
+        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
+        <translation>Kartendaten (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane)</source>
+        <translation>Karten (*.orvane)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane);;All files (*)</source>
+        <translation>Karten (*.orvane);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>Neuer Layer</translation>
+    </message>
+    <message>
+        <source>New Map</source>
+        <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New map - Orvane</source>
+        <translation>Neue Karte - Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;New Map...</source>
+        <translation>&amp;Neue Karte...</translation>
+    </message>
+    <message>
+        <source>No maps yet</source>
+        <translation>Noch keine Karten</translation>
+    </message>
+    <message>
+        <source>One statement at a time can be run on &quot;^1&quot;.</source>
+        <translation>In „^1“ kann jeweils nur eine Anweisung ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
+        <translation>In „^1“ kann nur eine Abfrage zum Lesen geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open a map file</source>
+        <translation>Eine Kartendatei öffnen</translation>
+    </message>
+    <message>
+        <source>Open Data</source>
+        <translation>Daten öffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Data...</source>
+        <translation>&amp;Daten öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Map</source>
+        <translation>Karte öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Map...</source>
+        <translation>Karte ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Opening map data</source>
+        <translation>Kartendaten werden geöffnet</translation>
+    </message>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Reading map data</source>
+        <translation>Kartendaten werden gelesen</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;^1&quot; can be sought with &quot;=&quot; only, not with &quot;^2&quot;.</source>
+        <translation>Zeilen von „^1“ können nur mit „=“ gesucht werden, nicht mit „^2“.</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;^1&quot; were used after they were closed.</source>
+        <translation>Zeilen von „^1“ wurden nach dem Schließen verwendet.</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Save Map As</source>
+        <translation>Karte speichern unter</translation>
+    </message>
+    <message>
+        <source>&amp;Save Map As...</source>
+        <translation>Karte &amp;speichern unter...</translation>
+    </message>
+    <message>
+        <source>Show and edit layers, groups and schemes</source>
+        <translation>Layer, Gruppen und Schemas zeigen und bearbeiten</translation>
+    </message>
+    <message>
+        <source>Show less, larger</source>
+        <translation>Weniger in größerer Darstellung zeigen</translation>
+    </message>
+    <message>
+        <source>Show more, smaller</source>
+        <translation>Mehr in kleinerer Darstellung zeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole map</source>
+        <translation>Die ganze Karte zeigen</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Store a copy of the map in another file and go on with it</source>
+        <translation>Eine Kopie der Karte in einer anderen Datei speichern und damit weiterarbeiten</translation>
+    </message>
+    <message>
+        <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
+        <translation>Die Änderungen an „^1“ wurden nach einem Fehler zurückgenommen; beginnen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; cannot be written.</source>
+        <translation>Die Datendatei „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The last layer scheme cannot be deleted.</source>
+        <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; cannot be created: ^2</source>
+        <translation>Die Layerdatenbank „^1“ kann nicht angelegt werden: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; cannot be opened: ^2</source>
+        <translation>Die Layerdatenbank „^1“ kann nicht geöffnet werden: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; does not exist.</source>
+        <translation>Die Layerdatenbank „^1“ ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; has no table &quot;^2&quot; to open.</source>
+        <translation>Die Layerdatenbank „^1“ hat keine Tabelle „^2“.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is damaged. Use a copy of it that was saved earlier.</source>
+        <translation>Die Layerdatenbank „^1“ ist beschädigt. Verwenden Sie eine früher gesicherte Kopie.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is in use by another program. Try again in a moment.</source>
+        <translation>Die Layerdatenbank „^1“ wird von einem anderen Programm verwendet. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is read-only and cannot be changed.</source>
+        <translation>Die Layerdatenbank „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; refused an operation: ^2</source>
+        <translation>Die Layerdatenbank „^1“ hat einen Vorgang abgelehnt: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; was written by a newer version of this program.</source>
+        <translation>Die Layerdatenbank „^1“ wurde von einer neueren Version dieses Programms geschrieben.</translation>
+    </message>
+    <message>
+        <source>The row to change is no longer in &quot;^1&quot;.</source>
+        <translation>Die zu ändernde Zeile ist nicht mehr in „^1“.</translation>
+    </message>
+    <message>
+        <source>The rows of a query on &quot;^1&quot; cannot be sought or edited.</source>
+        <translation>Die Zeilen einer Abfrage von „^1“ können weder gesucht noch bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>The rows read from &quot;^1&quot; cannot be sought by the index &quot;^2&quot;.</source>
+        <translation>Die aus „^1“ gelesenen Zeilen können nicht über den Index „^2“ gesucht werden.</translation>
+    </message>
+    <message>
+        <source>The rows read from &quot;^1&quot; have no column &quot;^2&quot;.</source>
+        <translation>Die aus „^1“ gelesenen Zeilen haben keine Spalte „^2“.</translation>
+    </message>
+    <message>
+        <source>The style editor component &quot;%1&quot; cannot be used: %2.</source>
+        <translation>Die Stileditor-Komponente „%1“ kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>There are no patterns of kind %1.</source>
+        <translation>Es gibt keine Muster der Art %1.</translation>
+    </message>
+    <message>
+        <source>There is a layer scheme named &quot;%1&quot; already.</source>
+        <translation>Ein Layerschema namens „%1“ ist bereits vorhanden.</translation>
+    </message>
+    <message>
+        <source>There is no current row to read or edit in &quot;^1&quot;.</source>
+        <translation>In „^1“ gibt es keine aktuelle Zeile zum Lesen oder Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>There is no fill pattern %1.</source>
+        <translation>Es gibt kein Füllmuster %1.</translation>
+    </message>
+    <message>
+        <source>There is no layer scheme named &quot;%1&quot;.</source>
+        <translation>Es gibt kein Layerschema namens „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk of the layer database &quot;^1&quot;.</source>
+        <translation>Auf dem Datenträger der Layerdatenbank „^1“ ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>There is no transaction to commit in &quot;^1&quot;.</source>
+        <translation>In „^1“ gibt es keine Transaktion, die abgeschlossen werden kann.</translation>
+    </message>
+    <message>
+        <source>This map has no file yet. Keep it?</source>
+        <translation>Diese Karte hat noch keine Datei. Soll sie behalten werden?</translation>
+    </message>
+    <message>
+        <source>This program has no startup database.</source>
+        <translation>Dieses Programm hat keine Startdatenbank.</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;All</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Write each call between the map and the layer control to FILE.</source>
+        <translation>Jeden Aufruf zwischen Karte und Layersteuerung in FILE schreiben.</translation>
+    </message>
+    <message>
+        <source>Open the layer control at once.</source>
+        <translation>Die Layersteuerung sofort öffnen.</translation>
+    </message>
+    <message>
+        <source>Make a sample map in FILE, and open no window.</source>
+        <translation>Eine Beispielkarte in FILE anlegen und kein Fenster öffnen.</translation>
+    </message>
+    <message>
+        <source>Make the sample map of the world data in FOLDER, if it has them.</source>
+        <translation>Die Beispielkarte aus den Weltdaten in FOLDER anlegen, falls dort welche sind.</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.</source>
+        <translation>Orvane, ein kleines Kartenprogramm.</translation>
+    </message>
+    <message>
+        <source>The map file to open.</source>
+        <translation>Die Kartendatei, die geöffnet werden soll.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,427 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>Orvane</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>「%1」を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no data that can be read.</source>
+        <translation>「%1」には読み込めるデータがありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds nothing to draw.</source>
+        <translation>「%1」には描画できるものがありません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
+        <translation>同じ名前のファイルがすでに存在するため、「^1」を作成できません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is not a layer database.</source>
+        <translation>「^1」はレイヤーデータベースではありません。</translation>
+    </message>
+    <message>
+        <source>%1 - Orvane</source>
+        <translation>%1 - Orvane</translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Orvane レイヤーコントロールのホストとなる、小さなデスクトップ地図プログラムです。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>A row of &quot;^1&quot; was changed without beginning an edit.</source>
+        <translation>編集を開始せずに「^1」の行が変更されました。</translation>
+    </message>
+    <message>
+        <source>A row of &quot;^1&quot; was sought before an index was chosen.</source>
+        <translation>インデックスを選択する前に「^1」の行が検索されました。</translation>
+    </message>
+    <message>
+        <source>A statement on &quot;^1&quot; was given another number of values than it takes.</source>
+        <translation>「^1」に対する文に渡された値の個数が正しくありません。</translation>
+    </message>
+    <message>
+        <source>A whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>&amp;About Orvane</source>
+        <translation>Orvane について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About Orvane</source>
+        <translation>Orvane について</translation>
+    </message>
+    <message>
+        <source>About this program</source>
+        <translation>このプログラムについて</translation>
+    </message>
+    <message>
+        <source>Add map data from files to the map</source>
+        <translation>ファイルの地図データを地図に追加します</translation>
+    </message>
+    <message>
+        <source>An empty value cannot be stored in &quot;^1&quot;.</source>
+        <translation>空の値は「^1」に保存できません。</translation>
+    </message>
+    <message>
+        <source>Begin a new map file</source>
+        <translation>新しい地図ファイルを作成します</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Delete layer</source>
+        <translation>レイヤーの削除</translation>
+    </message>
+    <message>
+        <source>Delete the layer &quot;%1&quot;?</source>
+        <translation>レイヤー「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>Drawing...</source>
+        <translation>描画中...</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>東経</translation>
+    </message>
+    <message>
+        <source>End Orvane</source>
+        <translation>Orvane を終了します</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>it has no layer named %1</source>
+        <translation>%1 という名前のレイヤーがありません</translation>
+    </message>
+    <message>
+        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
+        <translation>スタイルエディターのコンポーネントではありません (「%1」がありません)</translation>
+    </message>
+    <message>
+        <source>it made no entry object</source>
+        <translation>エントリーオブジェクトが作成されませんでした</translation>
+    </message>
+    <message>
+        <source>it speaks version %1 of the contract, this program speaks %2</source>
+        <translation>インターフェイスのバージョンは %1 ですが、このプログラムは %2 です</translation>
+    </message>
+    <message>
+        <source>&amp;Layer Control</source>
+        <translation>レイヤーコントロール(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>レイヤー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>Map data</source>
+        <translation>地図データ</translation>
+    </message>
+    <message>
+        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
+        <translation>地図データ (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane)</source>
+        <translation>地図 (*.orvane)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane);;All files (*)</source>
+        <translation>地図 (*.orvane);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>北緯</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>新しいレイヤー</translation>
+    </message>
+    <message>
+        <source>New Map</source>
+        <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New map - Orvane</source>
+        <translation>新しい地図 - Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;New Map...</source>
+        <translation>新しい地図(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>No maps yet</source>
+        <translation>地図はまだありません</translation>
+    </message>
+    <message>
+        <source>One statement at a time can be run on &quot;^1&quot;.</source>
+        <translation>「^1」で一度に実行できる文は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
+        <translation>「^1」で読み取り用に開けるのはクエリだけです。</translation>
+    </message>
+    <message>
+        <source>Open a map file</source>
+        <translation>地図ファイルを開きます</translation>
+    </message>
+    <message>
+        <source>Open Data</source>
+        <translation>データを開く</translation>
+    </message>
+    <message>
+        <source>Open &amp;Data...</source>
+        <translation>データを開く(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Open Map</source>
+        <translation>地図を開く</translation>
+    </message>
+    <message>
+        <source>&amp;Open Map...</source>
+        <translation>地図を開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使った地図(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Opening map data</source>
+        <translation>地図データを開いています</translation>
+    </message>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Reading map data</source>
+        <translation>地図データを読み込んでいます</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;^1&quot; can be sought with &quot;=&quot; only, not with &quot;^2&quot;.</source>
+        <translation>「^1」の行は「=」でのみ検索でき、「^2」では検索できません。</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;^1&quot; were used after they were closed.</source>
+        <translation>「^1」の行が閉じられた後に使用されました。</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>南緯</translation>
+    </message>
+    <message>
+        <source>Save Map As</source>
+        <translation>地図に名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>&amp;Save Map As...</source>
+        <translation>地図に名前を付けて保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Show and edit layers, groups and schemes</source>
+        <translation>レイヤー、グループ、スキームを表示して編集します</translation>
+    </message>
+    <message>
+        <source>Show less, larger</source>
+        <translation>範囲を狭めて大きく表示します</translation>
+    </message>
+    <message>
+        <source>Show more, smaller</source>
+        <translation>範囲を広げて小さく表示します</translation>
+    </message>
+    <message>
+        <source>Show the whole map</source>
+        <translation>地図全体を表示します</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Store a copy of the map in another file and go on with it</source>
+        <translation>地図のコピーを別のファイルに保存し、そのファイルで作業を続けます</translation>
+    </message>
+    <message>
+        <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
+        <translation>エラーのため「^1」への変更は元に戻されました。もう一度やり直してください。</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; cannot be written.</source>
+        <translation>データファイル「%1」に書き込めません。</translation>
+    </message>
+    <message>
+        <source>The last layer scheme cannot be deleted.</source>
+        <translation>最後のレイヤースキームは削除できません。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; cannot be created: ^2</source>
+        <translation>レイヤーデータベース「^1」を作成できません: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; cannot be opened: ^2</source>
+        <translation>レイヤーデータベース「^1」を開けません: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; does not exist.</source>
+        <translation>レイヤーデータベース「^1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; has no table &quot;^2&quot; to open.</source>
+        <translation>レイヤーデータベース「^1」にはテーブル「^2」がありません。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is damaged. Use a copy of it that was saved earlier.</source>
+        <translation>レイヤーデータベース「^1」は破損しています。以前に保存したコピーを使用してください。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is in use by another program. Try again in a moment.</source>
+        <translation>レイヤーデータベース「^1」は別のプログラムで使用中です。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; is read-only and cannot be changed.</source>
+        <translation>レイヤーデータベース「^1」は読み取り専用のため、変更できません。</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; refused an operation: ^2</source>
+        <translation>レイヤーデータベース「^1」が操作を拒否しました: ^2</translation>
+    </message>
+    <message>
+        <source>The layer database &quot;^1&quot; was written by a newer version of this program.</source>
+        <translation>レイヤーデータベース「^1」は、このプログラムのより新しいバージョンで書き込まれています。</translation>
+    </message>
+    <message>
+        <source>The row to change is no longer in &quot;^1&quot;.</source>
+        <translation>変更する行は「^1」にもうありません。</translation>
+    </message>
+    <message>
+        <source>The rows of a query on &quot;^1&quot; cannot be sought or edited.</source>
+        <translation>「^1」に対するクエリの行は、検索も編集もできません。</translation>
+    </message>
+    <message>
+        <source>The rows read from &quot;^1&quot; cannot be sought by the index &quot;^2&quot;.</source>
+        <translation>「^1」から読み込んだ行は、インデックス「^2」で検索できません。</translation>
+    </message>
+    <message>
+        <source>The rows read from &quot;^1&quot; have no column &quot;^2&quot;.</source>
+        <translation>「^1」から読み込んだ行には列「^2」がありません。</translation>
+    </message>
+    <message>
+        <source>The style editor component &quot;%1&quot; cannot be used: %2.</source>
+        <translation>スタイルエディターのコンポーネント「%1」は使用できません: %2。</translation>
+    </message>
+    <message>
+        <source>There are no patterns of kind %1.</source>
+        <translation>種類 %1 のパターンはありません。</translation>
+    </message>
+    <message>
+        <source>There is a layer scheme named &quot;%1&quot; already.</source>
+        <translation>「%1」という名前のレイヤースキームはすでに存在します。</translation>
+    </message>
+    <message>
+        <source>There is no current row to read or edit in &quot;^1&quot;.</source>
+        <translation>「^1」には読み取りまたは編集の対象となる現在の行がありません。</translation>
+    </message>
+    <message>
+        <source>There is no fill pattern %1.</source>
+        <translation>塗りつぶしパターン %1 はありません。</translation>
+    </message>
+    <message>
+        <source>There is no layer scheme named &quot;%1&quot;.</source>
+        <translation>「%1」という名前のレイヤースキームはありません。</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk of the layer database &quot;^1&quot;.</source>
+        <translation>レイヤーデータベース「^1」のディスクに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>There is no transaction to commit in &quot;^1&quot;.</source>
+        <translation>「^1」にはコミットするトランザクションがありません。</translation>
+    </message>
+    <message>
+        <source>This map has no file yet. Keep it?</source>
+        <translation>この地図にはまだファイルがありません。保存しますか?</translation>
+    </message>
+    <message>
+        <source>This program has no startup database.</source>
+        <translation>このプログラムには起動時のデータベースがありません。</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>西経</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;All</source>
+        <translation>全体表示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Write each call between the map and the layer control to FILE.</source>
+        <translation>地図とレイヤーコントロールの間の呼び出しをすべて FILE に書き込みます。</translation>
+    </message>
+    <message>
+        <source>Open the layer control at once.</source>
+        <translation>レイヤーコントロールをすぐに開きます。</translation>
+    </message>
+    <message>
+        <source>Make a sample map in FILE, and open no window.</source>
+        <translation>FILE にサンプル地図を作成し、ウィンドウは開きません。</translation>
+    </message>
+    <message>
+        <source>Make the sample map of the world data in FOLDER, if it has them.</source>
+        <translation>FOLDER に世界のデータがあれば、それからサンプル地図を作成します。</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.</source>
+        <translation>Orvane、小さなデスクトップ地図プログラム。</translation>
+    </message>
+    <message>
+        <source>The map file to open.</source>
+        <translation>開く地図ファイル。</translation>
+    </message>
+</context>
+</TS>
