@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/MemoryHost.h"
+#include "hosts/ValueMatchers.h"
+
+#include <OrvaneShellLib/ForwardingClient.h>
+#include <OrvaneShellLib/ForwardingDatabase.h>
+#include <OrvaneShellLib/ForwardingRecordset.h>
+#include <OrvaneShellLib/ForwardingShellServices.h>
+
+#include <gtest/gtest.h>
+
+using namespace Orvane;
+using namespace Orvane::Testing;
+using testing::ElementsAre;
+
+namespace {
+
+/// A host that has something to answer to every question.
+class BusyHost : public MemoryHost
+{
+public:
+    BusyHost()
+    {
+        AddLayer({.id = 17, .name = "Roads", .code = 5});
+        AddGroup({.id = 3, .name = "Transport"});
+        settings["key"] = QStringLiteral("stored");
+        themeName = QStringLiteral("Night");
+        styleCommandPrefix = QStringLiteral("P;");
+        quickModesAllowed = false;
+        rendererStyles = {{1, QStringLiteral("Dashed")}};
+        promptAnswers = {{true, QStringLiteral("typed")}};
+        layersToCreate = {{.id = 18}};
+    }
+};
+
+void TellEverything(IStyleEditorClient& client)
+{
+    client.ShowEditor(nullptr);
+    client.EditorClosed(nullptr);
+    client.WriteSetting(nullptr, QStringLiteral("other"), QStringLiteral("value"));
+    client.LayerChanged(17);
+    client.RenameLayer(17, QStringLiteral("Streets"));
+    client.RenameGroup(3, QStringLiteral("Traffic"));
+    client.LoadScheme(QStringLiteral("a"));
+    client.CreateScheme(QStringLiteral("b"));
+    client.SaveScheme(QStringLiteral("c"));
+    client.DeleteScheme(QStringLiteral("d"));
+    client.SaveSchemesToStartup();
+    client.DeleteLayer(17);
+    client.RedrawMap();
+}
+
+const QStringList toldEverything{"ShowEditor()",     "EditorClosed()",           "WriteSetting(other, value)",
+                                 "LayerChanged(17)", "RenameLayer(17, Streets)", "RenameGroup(3, Traffic)",
+                                 "LoadScheme(a)",    "CreateScheme(b)",          "SaveScheme(c)",
+                                 "DeleteScheme(d)",  "SaveSchemesToStartup()",   "DeleteLayer(17)",
+                                 "RedrawMap()"};
+
+class Forwarding : public testing::Test
+{
+protected:
+    BusyHost host;
+    ForwardingClient client{host};
+};
+
+} // namespace
+
+TEST_F(Forwarding, TheClientPassesOnWhatItIsTold)
+{
+    TellEverything(client);
+    EXPECT_EQ(host.Calls(), toldEverything);
+}
+
+TEST_F(Forwarding, TheClientGivesTheOthersAnswers)
+{
+    EXPECT_EQ(client.GetShellServices(), &host.Shell());
+    EXPECT_EQ(&client.Database(), &host.Database());
+    EXPECT_EQ(client.ReadSetting(nullptr, QStringLiteral("key")), "stored");
+    EXPECT_EQ(client.StoredScaleToDialog(5000), 5);
+    EXPECT_EQ(client.DialogScaleToStored(5), 5000);
+    EXPECT_EQ(client.LayerDisplayName(17), "Roads");
+    EXPECT_EQ(client.StyleCommandPrefix(), "P;");
+    EXPECT_FALSE(client.QuickModesAllowed());
+    EXPECT_EQ(client.RendererStyles().front().name, "Dashed");
+    EXPECT_EQ(client.ThemeName(nullptr), "Night");
+    EXPECT_THAT(client.GetSchemeNames(), ElementsAre("Standard"));
+    EXPECT_EQ(client.GetCurrentScheme(), "Standard");
+    EXPECT_EQ(client.PromptText({}).text, "typed");
+    EXPECT_EQ(client.CreateLayer(), 18);
+    EXPECT_TRUE(client.IsCodeAssigned(5));
+}
+
+TEST_F(Forwarding, TheClientHandsOutTheOthersCursorForAnEdit)
+{
+    const auto layers = client.LayersTable();
+    layers->Index("LayerIDIDX");
+    layers->Seek("=", 17);
+    client.BeginLayerEdit(*layers);
+    layers->SetField("Visible", false);
+    layers->Update();
+    EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(false));
+}
+
+TEST_F(Forwarding, TheDatabasePassesEverythingOn)
+{
+    ForwardingDatabase database(host.Database());
+    database.BeginTrans();
+    database.CommitTrans();
+    database.Rollback();
+    database.OpenRecordset(QStringLiteral("Layers"));
+    EXPECT_THAT(
+        host.Log().Trace(),
+        ElementsAre("BeginTrans()", "CommitTrans()", "Rollback()", "OpenRecordset(Layers)"));
+}
+
+TEST_F(Forwarding, TheCursorPassesEverythingOn)
+{
+    ForwardingRecordset cursor(host.LayersTable());
+    IRecordset& layers = cursor;
+    layers.Index("LayerIDIDX");
+    layers.Seek("=", 99);
+    EXPECT_TRUE(layers.NoMatch());
+    EXPECT_TRUE(layers.AtEOF());
+    layers.Seek("=", 17);
+    EXPECT_FALSE(layers.NoMatch());
+    layers.Edit();
+    layers.SetField("Name", QStringLiteral("Streets"));
+    layers.Update();
+    EXPECT_THAT(layers.Field("Name"), IsValue(QStringLiteral("Streets")));
+    layers.MoveNext();
+    EXPECT_TRUE(layers.AtEOF());
+    layers.Close();
+    EXPECT_THAT(host.LayerColumn(17, "Name"), IsValue(QStringLiteral("Streets")));
+}
+
+TEST_F(Forwarding, TheShellServicesPassEverythingOn)
+{
+    ForwardingShellServices services(host.Shell());
+    EXPECT_EQ(services.ScaleFromIndex(5), 5000);
+    EXPECT_EQ(services.IndexFromScale(5000), 5);
+    EXPECT_EQ(services.FillPattern(7, 3).rows[0], 3);
+    EXPECT_EQ(services.ListBackColour(), 0xFFFFFF);
+    services.ShowModal(nullptr);
+    services.CloseModal(nullptr);
+    services.EnterValue(nullptr, EntryKind::Integer, 1, 9, QStringLiteral("Width"));
+    EXPECT_THAT(
+        host.Log().Of(CallKind::Shell),
+        ElementsAre(
+            "ScaleFromIndex(5)", "IndexFromScale(5000)", "FillPattern(7, 3)", "ListBackColour()",
+            "ShowModal()", "CloseModal()", "EnterValue(Integer, 1, 9, Width)"));
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/entry/Component.h"
+#include "component/entry/MessageTable.h"
+#include "hosts/ValueMatchers.h"
+#include "support/LinguistFile.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace Orvane::Testing {
+
+/// The number of the RunTimeError that the action raises; 0 when it raises none.
+template <typename Action> int ErrorNumberOf(Action&& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+constexpr int overflow = int(ErrorNumber::Overflow);
+constexpr int subscriptOutOfRange = int(ErrorNumber::SubscriptOutOfRange);
+constexpr int typeMismatch = int(ErrorNumber::TypeMismatch);
+
+/// Shows the translations given while it lives, English afterwards.
+class UsingMessages
+{
+public:
+    explicit UsingMessages(const std::vector<MessagePair>& translations)
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("POBEX.LRT");
+        WriteFile(path, LinguistDocument(translations));
+        Component::Get().Messages().LoadFile(path);
+    }
+    ~UsingMessages() { Component::Get().Messages().LoadFile(QString()); }
+    UsingMessages(const UsingMessages&) = delete;
+    UsingMessages& operator=(const UsingMessages&) = delete;
+};
+
+} // namespace Orvane::Testing

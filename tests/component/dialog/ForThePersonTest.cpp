@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/EditorFixture.h"
+#include "component/entry/Component.h"
+#include "component/entry/MessageTable.h"
+#include "support/PseudoLanguage.h"
+
+#include <OrvaneShellLib/ForwardingClient.h>
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QtTest>
+
+namespace Orvane::Testing {
+
+namespace {
+
+/// Notes whether the busy pointer was shown while the host worked.
+class PointerWatcher : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+    bool wasBusy = false;
+
+private:
+    void IStyleEditorClient_LayerChanged(qint32 layerID) override
+    {
+        wasBusy = QGuiApplication::overrideCursor() != nullptr;
+        ForwardingClient::IStyleEditorClient_LayerChanged(layerID);
+    }
+};
+
+/// Gives the program a font that is half as large again while it lives.
+class LargeFont
+{
+public:
+    LargeFont()
+    {
+        QFont large = m_before;
+        large.setPointSizeF(large.pointSizeF() * 1.5);
+        QApplication::setFont(large);
+    }
+    ~LargeFont() { QApplication::setFont(m_before); }
+
+private:
+    QFont m_before = QApplication::font();
+};
+
+// The toolkit's own arrows, for tabs that have no room.
+bool IsPartOfTabs(const QWidget& control)
+{
+    return qobject_cast<const QTabBar*>(control.parentWidget());
+}
+
+class ForThePerson : public EditorFixture
+{
+protected:
+    void SetUp() override { AddTown(); }
+
+    void OpenOn(const QString& layer)
+    {
+        Open();
+        ClickLayer(layer);
+    }
+
+    /// The names of the visible controls whose text has too little room.
+    QStringList ClippedTexts()
+    {
+        QStringList clipped;
+        for (const QWidget* control : Form()->findChildren<QWidget*>()) {
+            const bool showsText = qobject_cast<const QAbstractButton*>(control)
+                || (qobject_cast<const QLabel*>(control) && control->objectName() != "lblHint")
+                || qobject_cast<const QGroupBox*>(control);
+            if (IsPartOfTabs(*control))
+                continue;
+            if (showsText && control->isVisible() && control->width() < control->minimumSizeHint().width())
+                clipped.append(control->objectName());
+        }
+        return clipped;
+    }
+
+    /// The same on each tab.
+    QStringList ClippedTextsAnywhere()
+    {
+        Open();
+        ClickLayer("Roads");
+        QStringList clipped = ClippedTexts();
+        ClickTab(1);
+        ClickGroup("Transport");
+        clipped += ClippedTexts();
+        ClickTab(3);
+        clipped += ClippedTexts();
+        Close();
+        return clipped;
+    }
+};
+
+TEST_F(ForThePerson, EscapeDropsEditsFirstAndClosesOnlyWithoutAny)
+{
+    OpenOn("Roads");
+    Click("chkVisible");
+    QTest::keyClick(Form(), Qt::Key_Escape);
+    ASSERT_NE(Form(), nullptr);
+    EXPECT_FALSE(CanApply());
+    EXPECT_EQ(CheckState("chkVisible"), 1);
+    QTest::keyClick(Form(), Qt::Key_Escape);
+    EXPECT_EQ(Form(), nullptr);
+}
+
+TEST_F(ForThePerson, EnterNeverClosesTheDialogNorAppliesIt)
+{
+    OpenOn("Roads");
+    Click("chkVisible");
+    for (const char* name : {"chkVisible", "tvLayers2", "cboStyle", "tsLists", "cmdResize"}) {
+        QTest::keyClick(&Find(name), Qt::Key_Return);
+        ASSERT_NE(Form(), nullptr) << name;
+        EXPECT_TRUE(Form()->isVisible()) << name;
+    }
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+}
+
+TEST_F(ForThePerson, NoButtonAnswersEnterOnBehalfOfTheDialog)
+{
+    Open();
+    for (const QPushButton* button : Form()->findChildren<QPushButton*>())
+        EXPECT_FALSE(button->autoDefault() || button->isDefault()) << qPrintable(button->objectName());
+}
+
+TEST_F(ForThePerson, ApplyLeavesTheFocusWhereItWas)
+{
+    OpenOn("Roads");
+    Form()->activateWindow();
+    auto* box = Find("chkVisible").findChild<QCheckBox*>();
+    box->setFocus();
+    Click("chkVisible");
+    Click("cmdApply");
+    EXPECT_EQ(Form()->focusWidget(), box);
+}
+
+TEST_F(ForThePerson, ApplyingByKeyMovesTheFocusToTheList)
+{
+    OpenOn("Roads");
+    Form()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Form()));
+    Click("chkVisible");
+    auto& apply = Find<QPushButton>("cmdApply");
+    apply.setFocus();
+    QTest::keyClick(&apply, Qt::Key_Space);
+    EXPECT_EQ(Form()->focusWidget(), &Find("tvLayers2"));
+}
+
+TEST_F(ForThePerson, ABusyPointerCoversApplying)
+{
+    PointerWatcher client(host);
+    UseClient(client);
+    OpenOn("Roads");
+    Click("chkVisible");
+    Click("cmdApply");
+    EXPECT_TRUE(client.wasBusy);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    Close();
+}
+
+TEST_F(ForThePerson, TheTabKeyReachesEveryControlOnce)
+{
+    OpenOn("Roads");
+    Click("chkVisible");
+    QStringList order;
+    const QWidget* first = &Find("tsLists");
+    for (const QWidget* next = first->nextInFocusChain(); next != first; next = next->nextInFocusChain()) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus)
+            && !next->objectName().isEmpty() && !next->objectName().startsWith("qt_"))
+            order.append(next->objectName());
+    }
+    EXPECT_LT(order.indexOf("tvLayers2"), order.indexOf("cmdNewLayer"));
+    EXPECT_LT(order.indexOf("cmdNewLayer"), order.indexOf("Normal"));
+    EXPECT_LT(order.indexOf("Hidden"), order.indexOf("cboStyle"));
+    EXPECT_LT(order.indexOf("cboStyle"), order.indexOf("cmdEditMinScale"));
+    EXPECT_LT(order.indexOf("cmdEditMinScale"), order.indexOf("cmdEditMaxScale"));
+    EXPECT_LT(order.indexOf("cmdEditPriority"), order.indexOf("cmdApply"));
+    EXPECT_LT(order.indexOf("cmdApply"), order.indexOf("cmdResize"));
+}
+
+TEST_F(ForThePerson, EveryControlHasATextOrAnAccessibleName)
+{
+    Open();
+    for (const QWidget* control : Form()->findChildren<QWidget*>()) {
+        if (control->objectName().startsWith("qt_") || !(control->focusPolicy() & Qt::TabFocus)
+            || control->focusProxy() || control->objectName().isEmpty())
+            continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        const bool hasText = button && !button->text().isEmpty();
+        const QList<QLabel*> labels = Form()->findChildren<QLabel*>();
+        const bool hasBuddy = std::any_of(
+            labels.begin(), labels.end(), [&](const QLabel* label) { return label->buddy() == control; });
+        EXPECT_TRUE(hasText || hasBuddy || !control->accessibleName().isEmpty())
+            << qPrintable(control->objectName());
+    }
+}
+
+TEST_F(ForThePerson, NoTwoControlsOfATabShareAMnemonic)
+{
+    OpenOn("Roads");
+    for (const int tab : {1, 2, 3}) {
+        ClickTab(tab);
+        QStringList keys;
+        for (const QWidget* control : Form()->findChildren<QWidget*>()) {
+            if (!control->isVisible() || !control->isEnabled())
+                continue;
+            const QString text = control->property("text").toString();
+            const QString key = QKeySequence::mnemonic(text).toString();
+            if (!key.isEmpty())
+                keys.append(key);
+        }
+        QStringList unique = keys;
+        unique.removeDuplicates();
+        EXPECT_EQ(unique, keys) << "tab " << tab;
+    }
+}
+
+TEST_F(ForThePerson, EveryTextHasRoom)
+{
+    EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
+}
+
+TEST_F(ForThePerson, EveryTextHasRoomInALargeFont)
+{
+    const LargeFont large;
+    EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
+}
+
+TEST_F(ForThePerson, EveryTextHasRoomWhenItIsLongerByHalf)
+{
+    Library();
+    const PseudoLanguage pseudo;
+    EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
+}
+
+TEST_F(ForThePerson, EveryTextOfTheFormIsTranslated)
+{
+    Library();
+    const PseudoLanguage pseudo;
+    OpenOn("Roads");
+    const QStringList untranslated{"<<", "11", "100", "1:1000"};
+    for (const QWidget* control : Form()->findChildren<QWidget*>()) {
+        if (IsPartOfTabs(*control))
+            continue;
+        const bool isCaption
+            = qobject_cast<const QLabel*>(control) || qobject_cast<const QAbstractButton*>(control);
+        const QString text = isCaption ? control->property("text").toString() : QString();
+        for (const QString& shown : {text, control->toolTip(), control->accessibleName()}) {
+            const bool isOwn = shown.isEmpty() || untranslated.contains(shown);
+            EXPECT_TRUE(isOwn || shown.startsWith('[')) << qPrintable(control->objectName() + ": " + shown);
+        }
+    }
+}
+
+TEST_F(ForThePerson, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
+{
+    Library();
+    {
+        const PseudoLanguage pseudo;
+        OpenOn("Rivers");
+        ChooseScale("cmdEditMaxScale", 256);
+        EXPECT_EQ(TextOf("lblScaleMax"), Pseudo("dont care"));
+    }
+    // The form reads the messages anew, from a folder that holds none: English.
+    QEvent change(QEvent::LanguageChange);
+    QApplication::sendEvent(Form(), &change);
+    EXPECT_EQ(TextOf("lblScaleMax"), "dont care");
+    EXPECT_EQ(TextOf("lblMin"), "&Minimum:");
+    EXPECT_EQ(Form()->windowTitle(), "Layer Control");
+    EXPECT_EQ(Find<QComboBox>("cboStyle").itemText(0), "Standard");
+    EXPECT_TRUE(IsUnderlined("lblScaleMax"));
+    EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(ForThePerson, ALargerFontWhileItIsOpenStillFits)
+{
+    OpenOn("Roads");
+    const LargeFont large;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ClippedTexts().isEmpty(); }))
+        << qPrintable(ClippedTexts().join(' '));
+}
+
+TEST_F(ForThePerson, AValueNeverMakesTheDialogWider)
+{
+    OpenOn("Roads");
+    const int before = Find("picLayerStyle").width();
+    ChooseScale("cmdEditMinScale", 255);
+    QApplication::processEvents();
+    EXPECT_EQ(Find("picLayerStyle").width(), before);
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

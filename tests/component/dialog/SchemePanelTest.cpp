@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/EditorFixture.h"
+
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QtTest>
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Schemes : public EditorFixture
+{
+protected:
+    void SetUp() override
+    {
+        AddTown();
+        host.schemeNames = {"Day", "Night", "Print"};
+        host.currentScheme = "Night";
+        Open();
+        ClickTab(3);
+        host.ClearLog();
+    }
+
+    QComboBox& List() { return Find<QComboBox>("cmbScheme"); }
+
+    QStringList Names()
+    {
+        QStringList names;
+        for (int item = 0; item < List().count(); ++item)
+            names.append(List().itemText(item));
+        return names;
+    }
+
+    void Pick(const QString& name)
+    {
+        List().setCurrentText(name);
+        emit List().textActivated(name);
+    }
+
+    /// The calls that change something.
+    QStringList Deeds()
+    {
+        QStringList calls = NewCalls();
+        calls.removeIf(
+            [](const QString& call) { return call.startsWith("Get") || call.startsWith("Theme"); });
+        return calls;
+    }
+};
+
+TEST_F(Schemes, AreListedInTheHostsOrderAndShowTheCurrentOne)
+{
+    EXPECT_THAT(Names(), ElementsAre("Day", "Night", "Print"));
+    EXPECT_EQ(List().currentText(), "Night");
+}
+
+TEST_F(Schemes, PickingTheCurrentOneAsksNothing)
+{
+    Pick("Night");
+    EXPECT_THAT(Deeds(), IsEmpty());
+}
+
+TEST_F(Schemes, PickingAnotherAsksAndSwitches)
+{
+    MessageBoxRobot person{BoxKey::Yes};
+    Pick("Print");
+    EXPECT_EQ(
+        person.Only().text,
+        "Switch to 'Print'? Any unsaved changes to the current scheme will be lost. Continue?");
+    EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+    EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)"));
+    EXPECT_EQ(List().currentText(), "Print");
+}
+
+TEST_F(Schemes, RefusingShowsTheCurrentOneAgain)
+{
+    MessageBoxRobot person{BoxKey::No};
+    Pick("Print");
+    EXPECT_THAT(Deeds(), IsEmpty());
+    EXPECT_EQ(List().currentText(), "Night");
+}
+
+TEST_F(Schemes, SwitchingShowsTheBusyPointerMeanwhile)
+{
+    bool wasBusy = false;
+    host.OnLoadScheme = [&](const QString&) { wasBusy = QGuiApplication::overrideCursor() != nullptr; };
+    MessageBoxRobot person{BoxKey::Yes};
+    Pick("Day");
+    EXPECT_TRUE(wasBusy);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Schemes, SwitchingReadsTheLayersAnew)
+{
+    host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
+    MessageBoxRobot person{BoxKey::Yes};
+    Pick("Day");
+    ClickTab(2);
+    ClickLayer("Roads");
+    EXPECT_EQ(PressedModes(), 4);
+}
+
+TEST_F(Schemes, ANewOneIsCreatedUnderItsTrimmedName)
+{
+    host.promptAnswers = {{true, "  Winter \t"}};
+    Click("cmdNew");
+    EXPECT_THAT(Deeds(), Contains("CreateScheme(Winter)"));
+    EXPECT_EQ(host.promptRequests.front().title, "New Scheme");
+    EXPECT_EQ(host.promptRequests.front().defaultText, "");
+    EXPECT_EQ(host.promptRequests.front().width, 20);
+    EXPECT_THAT(Names(), Contains("Winter"));
+}
+
+TEST_F(Schemes, ABlankNameIsRefusedUntilOneIsGiven)
+{
+    host.promptAnswers = {{true, "   "}, {true, ""}, {true, "Winter"}};
+    MessageBoxRobot person{BoxKey::Enter, BoxKey::Enter};
+    Click("cmdNew");
+    ASSERT_EQ(person.Boxes().size(), 2u);
+    EXPECT_EQ(person.Boxes().front().text, "Please supply a non-blank name, or cancel.");
+    EXPECT_EQ(person.Boxes().front().icon, QMessageBox::Information);
+    EXPECT_THAT(Deeds(), Contains("CreateScheme(Winter)"));
+}
+
+TEST_F(Schemes, ACancelledNameCreatesNothing)
+{
+    host.promptAnswers = {{true, " "}, {false, ""}};
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdNew");
+    EXPECT_THAT(host.Log().CallsTo("CreateScheme"), IsEmpty());
+}
+
+TEST_F(Schemes, SavingAsksFirst)
+{
+    {
+        MessageBoxRobot person{BoxKey::No};
+        Click("cmdSave");
+        EXPECT_EQ(person.Only().text, "Save current layer setup to scheme 'Night'?");
+    }
+    EXPECT_THAT(Deeds(), IsEmpty());
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdSave");
+    EXPECT_THAT(Deeds(), ElementsAre("SaveScheme(Night)"));
+}
+
+TEST_F(Schemes, RevertingAsksFirst)
+{
+    {
+        MessageBoxRobot person{BoxKey::No};
+        Click("cmdRevert");
+        EXPECT_EQ(person.Only().text, "Revert to the last saved values in layer scheme 'Night'?");
+    }
+    EXPECT_THAT(Deeds(), IsEmpty());
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdRevert");
+    EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Night)"));
+}
+
+TEST_F(Schemes, DeletingFallsBackToTheNextOne)
+{
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdDelete");
+    EXPECT_EQ(person.Only().text, "Delete layer scheme 'Night'?");
+    EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "DeleteScheme(Night)"));
+    EXPECT_THAT(Names(), ElementsAre("Day", "Print"));
+    EXPECT_EQ(List().currentText(), "Print");
+}
+
+TEST_F(Schemes, DeletingTheLastInTheListFallsBackToTheOneBefore)
+{
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Yes};
+    Pick("Print");
+    Click("cmdDelete");
+    EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "LoadScheme(Night)", "DeleteScheme(Print)"));
+}
+
+TEST_F(Schemes, RefusingToDeleteKeepsIt)
+{
+    MessageBoxRobot person{BoxKey::No};
+    Click("cmdDelete");
+    EXPECT_THAT(Deeds(), IsEmpty());
+}
+
+TEST_F(Schemes, TheLastOneCannotBeDeleted)
+{
+    {
+        MessageBoxRobot person{BoxKey::Yes, BoxKey::Yes};
+        Click("cmdDelete");
+        Click("cmdDelete");
+    }
+    host.ClearLog();
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdDelete");
+    EXPECT_EQ(person.Only().text, "The last layer scheme cannot be deleted.");
+    EXPECT_EQ(person.Only().icon, QMessageBox::Information);
+    EXPECT_THAT(Deeds(), IsEmpty());
+}
+
+TEST_F(Schemes, SavingToTheStartupAsksFirst)
+{
+    {
+        MessageBoxRobot person{BoxKey::No};
+        Click("cmdSaveStartup");
+        EXPECT_EQ(
+            person.Only().text, "Are you sure you wish to save the colour schemes to the startup database?");
+    }
+    EXPECT_THAT(Deeds(), IsEmpty());
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdSaveStartup");
+    EXPECT_THAT(Deeds(), ElementsAre("SaveSchemesToStartup()"));
+}
+
+TEST_F(Schemes, ACurrentOneThatIsNotListedOffersNothingToSave)
+{
+    host.schemeNames = {"Day"};
+    host.currentScheme = "Elsewhere";
+    host.promptAnswers = {{true, "Winter"}};
+    Click("cmdNew");
+    EXPECT_EQ(List().currentIndex() >= 0, host.currentScheme == "Winter");
+    EXPECT_EQ(IsEnabled("cmdSave"), host.currentScheme == "Winter");
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

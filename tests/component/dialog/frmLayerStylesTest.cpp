@@ -1,0 +1,490 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/EditorFixture.h"
+
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleFilter.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QToolButton>
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+MATCHER_P(Mentions, part, "mentions " + std::string(part))
+{
+    return arg.contains(QLatin1String(part));
+}
+
+/// Opens on the groups if asked to, and shows layers with odd numbers only.
+class OddLayers : public IStyleFilter
+{
+public:
+    explicit OddLayers(bool showsGroups = false) : m_showsGroups(showsGroups) { }
+
+private:
+    bool IStyleFilter_ShowsGroups() const override { return m_showsGroups; }
+    bool IStyleFilter_IsLayerShown(qint32 layerID, bool) const override { return layerID % 2 == 1; }
+
+    bool m_showsGroups;
+};
+
+class Lifecycle : public EditorFixture
+{
+protected:
+    void SetUp() override { AddTown(); }
+
+    bool IsExpanded() { return Find("picLayerStyle").isVisibleTo(Form()); }
+    int Nodes(const char* tree) { return Find<QTreeView>(tree).model()->rowCount(); }
+};
+
+// ---- showing
+
+TEST_F(Lifecycle, AStoredStateOpensAsItWasLeft)
+{
+    StoreViewState("9000:7000:SCHEMES:NOT EXPANDED");
+    Open();
+    EXPECT_EQ(CurrentTab(), 3);
+    EXPECT_FALSE(IsExpanded());
+    EXPECT_EQ(Form()->size(), QSize(600, 467));
+}
+
+TEST_F(Lifecycle, AnEmptyStateOpensOnTheLayersExpandedAtTheDesignedSize)
+{
+    Open();
+    EXPECT_EQ(CurrentTab(), 2);
+    EXPECT_TRUE(IsExpanded());
+    EXPECT_EQ(Form()->size(), Form()->sizeHint());
+}
+
+TEST_F(Lifecycle, AFilterThatAsksForGroupsOverrulesTheStoredTab)
+{
+    const OddLayers filter(true);
+    StoreViewState("9000:7000:SCHEMES:EXPANDED");
+    Create();
+    Editor().StyleFilter(&filter);
+    Open();
+    EXPECT_EQ(CurrentTab(), 1);
+}
+
+TEST_F(Lifecycle, AnUnknownTabWordOpensOnTheGroups)
+{
+    StoreViewState("9000:7000:NONSENSE:EXPANDED");
+    Open();
+    EXPECT_EQ(CurrentTab(), 1);
+}
+
+TEST_F(Lifecycle, MalformedStatesLeaveTheDesignedSize)
+{
+    for (const char* text :
+         {"abc:7000:LAYERS:EXPANDED", "-9000:-7000:LAYERS:EXPANDED", "nan:inf:LAYERS:EXPANDED", ":::", "9000",
+          "9000,5:7000,5:LAYERS:EXPANDED", "\xD9\xA9:\xD9\xA9:LAYERS:EXPANDED", "0:0:LAYERS:EXPANDED"}) {
+        StoreViewState(QString::fromUtf8(text));
+        Open();
+        EXPECT_EQ(Form()->size(), Form()->sizeHint()) << text;
+        EXPECT_TRUE(IsExpanded()) << text;
+        Close();
+    }
+}
+
+TEST_F(Lifecycle, AHugeStoredSizeFitsTheScreen)
+{
+    StoreViewState("1e30:999999999:LAYERS:EXPANDED");
+    Open();
+    EXPECT_EQ(Form()->size(), Form()->screen()->availableGeometry().size());
+}
+
+TEST_F(Lifecycle, ATinyStoredSizeStillShowsEverything)
+{
+    StoreViewState("1:1:LAYERS:EXPANDED");
+    Open();
+    EXPECT_EQ(Form()->size(), Form()->minimumSizeHint());
+}
+
+TEST_F(Lifecycle, OpensOnAScreenWhereverItStood)
+{
+    Create();
+    Form()->move(-90000, 90000);
+    Open();
+    EXPECT_TRUE(Form()->screen()->availableGeometry().intersects(Form()->geometry()));
+}
+
+TEST_F(Lifecycle, ShowingAVisibleEditorCallsNobody)
+{
+    Open();
+    host.ClearLog();
+    Editor().Visible(true);
+    EXPECT_THAT(host.Calls(), IsEmpty());
+}
+
+TEST_F(Lifecycle, HidingAnEditorThatWasNeverShownDoesNothing)
+{
+    Create();
+    host.ClearLog();
+    Editor().Visible(false);
+    EXPECT_THAT(host.Calls(), IsEmpty());
+    EXPECT_NE(Form(), nullptr);
+}
+
+TEST_F(Lifecycle, AnEditorThatWasNeverShownReadsNothingButWritesItsState)
+{
+    Create();
+    host.ClearLog();
+    EditorForm().UnloadWithoutApply();
+    EXPECT_THAT(
+        host.Calls(), ElementsAre("EditorClosed()", Mentions("WriteSetting(DrawStyleEditor::Main, ")));
+}
+
+TEST_F(Lifecycle, AnEditorUnloadsWithoutAHost)
+{
+    Library().Initialise(&host);
+    auto editor = Library().NewStyleEditor("Lonely");
+    EXPECT_NO_THROW(dynamic_cast<IStyleEditorForm&>(*editor).UnloadWithoutApply());
+}
+
+TEST_F(Lifecycle, TheStateSurvivesManySessionsExactly)
+{
+    for (const char* text :
+         {"9001.25:7003.5:GROUPS:EXPANDED", "9000:7000:SCHEMES:NOT EXPANDED",
+          "8888.125:7777:LAYERS:EXPANDED"}) {
+        StoreViewState(text);
+        for (int session = 0; session < 3; ++session) {
+            Open();
+            Close();
+            EXPECT_EQ(StoredViewState(), text);
+        }
+    }
+}
+
+TEST_F(Lifecycle, PopupShowsWithoutReadingTheState)
+{
+    Create();
+    host.ClearLog();
+    EditorForm().Popup();
+    EXPECT_TRUE(Editor().Visible());
+    EXPECT_THAT(host.Calls(), Not(Contains(Mentions("ReadSetting"))));
+    EXPECT_THAT(host.Calls(), Contains("ShowEditor()"));
+    EXPECT_EQ(Nodes("tvLayers1"), 2);
+}
+
+TEST_F(Lifecycle, PopupOfAVisibleEditorOnlyGoesToTheGroupsThatTheFilterAsksFor)
+{
+    const OddLayers filter(true);
+    Open();
+    EditorForm().Popup();
+    EXPECT_EQ(CurrentTab(), 2);
+    Editor().StyleFilter(&filter);
+    host.ClearLog();
+    EditorForm().Popup();
+    EXPECT_EQ(CurrentTab(), 1);
+    EXPECT_THAT(host.Calls(), Not(Contains("ShowEditor()")));
+}
+
+// ---- the caption
+
+TEST_F(Lifecycle, TheCaptionNamesTheTheme)
+{
+    Open();
+    EXPECT_EQ(Form()->windowTitle(), "Layer Control");
+    host.themeName = "Night";
+    EditorForm().Popup();
+    EXPECT_EQ(Form()->windowTitle(), "Theme Control: Night");
+    host.themeName.clear();
+    EditorForm().Popup();
+    EXPECT_EQ(Form()->windowTitle(), "Layer Control");
+}
+
+// ---- tabs
+
+TEST_F(Lifecycle, ATreeIsReadWhenItsTabIsFirstLookedAt)
+{
+    Open();
+    EXPECT_EQ(host.Queries().size(), 1);
+    ClickTab(1);
+    EXPECT_EQ(Nodes("tvLayers1"), 2);
+    const auto queries = host.Queries().size();
+    ClickTab(2);
+    ClickTab(1);
+    EXPECT_EQ(host.Queries().size(), queries);
+}
+
+TEST_F(Lifecycle, EachTabShowsItsOwnControls)
+{
+    Open();
+    const auto shown = [&](const char* name) { return Find(name).isVisible(); };
+    ClickLayer("Roads");
+    EXPECT_TRUE(shown("tvLayers2") && shown("picLayerControls") && shown("cboStyle"));
+    EXPECT_FALSE(shown("tvLayers1") || shown("picScheme"));
+    ClickTab(1);
+    ClickGroup("Transport");
+    EXPECT_TRUE(shown("tvLayers1") && shown("cboStyle"));
+    EXPECT_FALSE(shown("tvLayers2") || shown("picLayerControls") || shown("picScheme"));
+    ClickTab(3);
+    EXPECT_TRUE(shown("picScheme"));
+    EXPECT_FALSE(shown("tvLayers1") || shown("tvLayers2") || shown("picLayerControls") || shown("cboStyle"));
+}
+
+TEST_F(Lifecycle, TheSchemesTabDisablesWhatEditsALayer)
+{
+    Open();
+    ClickLayer("Roads");
+    ClickTab(3);
+    for (const char* name : {"Normal", "Backdrop", "Hidden", "framPriority", "framVisScaleRange"})
+        EXPECT_FALSE(IsEnabled(name)) << name;
+    ClickTab(2);
+    for (const char* name : {"Normal", "Backdrop", "Hidden", "framPriority", "framVisScaleRange"})
+        EXPECT_TRUE(IsEnabled(name)) << name;
+}
+
+TEST_F(Lifecycle, EachTabKeepsItsOwnSelection)
+{
+    Open();
+    ClickLayer("Roads");
+    ClickTab(1);
+    ClickGroup("Land");
+    EXPECT_EQ(CheckState("chkVisible"), 1);
+    ClickTab(2);
+    EXPECT_EQ(TextOf("lblCode"), "11");
+}
+
+TEST_F(Lifecycle, LeavingATabWithEditsAsksAndNoDropsThem)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    {
+        MessageBoxRobot person{BoxKey::No};
+        ClickTab(3);
+        EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Roads' layer?");
+    }
+    EXPECT_FALSE(CanApply());
+    ClickTab(2);
+    EXPECT_EQ(CheckState("chkVisible"), 1);
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+}
+
+TEST_F(Lifecycle, LeavingATabWithEditsAsksAndYesAppliesThem)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    MessageBoxRobot person{BoxKey::Yes};
+    ClickTab(1);
+    EXPECT_EQ(Stored(1, "Visible"), 0);
+    EXPECT_EQ(CurrentTab(), 1);
+}
+
+TEST_F(Lifecycle, NothingSelectedShowsAHintInsteadOfValues)
+{
+    Open();
+    EXPECT_TRUE(Find("picHideLayerSettings").isVisible());
+    EXPECT_FALSE(Find("chkVisible").isVisible());
+    EXPECT_EQ(TextOf("lblHint"), "Select a layer or a group to see its settings.");
+    EXPECT_FALSE(IsEnabled("Normal"));
+    EXPECT_FALSE(IsEnabled("cmdDeleteLayer"));
+    EXPECT_FALSE(IsEnabled("lblCode"));
+    EXPECT_FALSE(CanApply());
+}
+
+// ---- expansion
+
+TEST_F(Lifecycle, ResizingHidesTheSettingsAndTheirWidth)
+{
+    Open();
+    const QSize before = Form()->size();
+    const QPoint place = Form()->pos();
+    const int settings = Find("picLayerStyle").width();
+    Click("cmdResize");
+    EXPECT_FALSE(IsExpanded());
+    EXPECT_EQ(Find<QToolButton>("cmdResize").text(), ">>");
+    EXPECT_EQ(Form()->size(), QSize(before.width() - settings, before.height()));
+    EXPECT_EQ(Form()->pos(), place);
+    Click("cmdResize");
+    EXPECT_EQ(Find<QToolButton>("cmdResize").text(), "<<");
+    EXPECT_EQ(Form()->size(), before);
+}
+
+TEST_F(Lifecycle, ResizingTwiceRestoresEveryWidth)
+{
+    Open();
+    for (int width = Form()->minimumSizeHint().width(); width < 900; width += 7) {
+        Form()->resize(width, 500);
+        const int before = Form()->width();
+        Click("cmdResize");
+        QApplication::processEvents();
+        Click("cmdResize");
+        EXPECT_EQ(Form()->width(), before);
+    }
+}
+
+TEST_F(Lifecycle, ResizingTwiceKeepsTheStoredTwips)
+{
+    StoreViewState("9001.5:7000.25:LAYERS:EXPANDED");
+    Open();
+    Click("cmdResize");
+    Click("cmdResize");
+    Close();
+    EXPECT_EQ(StoredViewState(), "9001.5:7000.25:LAYERS:EXPANDED");
+}
+
+// ---- what the host may do
+
+TEST_F(Lifecycle, RefreshGroupsDropsEditsAndReadsTheGroupsOnly)
+{
+    Open();
+    ClickTab(1);
+    ClickGroup("Land");
+    Click("chkVisible");
+    host.AddGroup({.id = 30, .name = QString("New"), .ordering = 3, .members = {1}});
+    host.ClearLog();
+    Editor().RefreshGroups();
+    EXPECT_FALSE(CanApply());
+    EXPECT_EQ(Nodes("tvLayers1"), 3);
+    EXPECT_THAT(host.Queries(), Not(Contains(Mentions("ORDER BY Name"))));
+    EXPECT_EQ(CheckState("chkVisible"), 0);
+}
+
+TEST_F(Lifecycle, RefreshGroupsInitialisesAnEditorThatWasNotShown)
+{
+    Create();
+    Editor().RefreshGroups();
+    EXPECT_EQ(Nodes("tvLayers1"), 2);
+    EXPECT_FALSE(Editor().Visible());
+}
+
+TEST_F(Lifecycle, AHandedOverFilterCountsWhenTheListIsNextLookedAt)
+{
+    const OddLayers filter;
+    Open();
+    Editor().StyleFilter(&filter);
+    EXPECT_EQ(EditorForm().Filter(), &filter);
+    EXPECT_EQ(Nodes("tvLayers2"), 4);
+    ClickTab(1);
+    ClickTab(2);
+    EXPECT_EQ(Nodes("tvLayers2"), 2);
+}
+
+TEST_F(Lifecycle, AWrittenFilterCountsAtOnce)
+{
+    const OddLayers filter;
+    Open();
+    EditorForm().Filter(&filter);
+    EXPECT_EQ(Nodes("tvLayers2"), 2);
+    EditorForm().Filter(nullptr);
+    EXPECT_EQ(Nodes("tvLayers2"), 4);
+}
+
+TEST_F(Lifecycle, AFilterWrittenBeforeTheFirstShowReadsNothing)
+{
+    const OddLayers filter;
+    Create();
+    host.ClearLog();
+    EditorForm().Filter(&filter);
+    EXPECT_THAT(host.Queries(), IsEmpty());
+    Open();
+    EXPECT_EQ(Nodes("tvLayers2"), 2);
+}
+
+TEST_F(Lifecycle, TheRendererStylesAreReadOnce)
+{
+    Open();
+    EXPECT_EQ(EditorForm().LoadRendererStyles().size(), 2u);
+    EXPECT_EQ(host.Log().CallsTo("RendererStyles").size(), 1);
+    auto& list = Find<QComboBox>("cboStyle");
+    EXPECT_EQ(list.itemText(0), "Standard");
+    EXPECT_EQ(list.itemData(0), 0);
+    EXPECT_EQ(list.itemText(2), "Sketched");
+    EXPECT_EQ(list.itemData(2), 9);
+}
+
+TEST_F(Lifecycle, SetLayerNameRenamesThroughTheHost)
+{
+    Open();
+    EditorForm().SetLayerName(1, "Streets");
+    EXPECT_THAT(host.Calls(), Contains("RenameLayer(1, Streets)"));
+    ClickLayer("Streets");
+    EXPECT_EQ(TextOf("lblCode"), "11");
+}
+
+TEST_F(Lifecycle, SetLayerCodeStoresTheCodeThatIsShown)
+{
+    Open();
+    ClickLayer("Roads");
+    EditorForm().SetLayerCode(3);
+    EXPECT_EQ(Stored(3, "Code"), 11);
+    EXPECT_NO_THROW(EditorForm().SetLayerCode(999));
+}
+
+TEST_F(Lifecycle, ALayerThatTheHostMadeIsBroughtIntoView)
+{
+    Open();
+    host.AddLayer({.id = 50, .name = "Sewers", .code = qint32(77)});
+    EditorForm().AddNewLayer(50);
+    EXPECT_EQ(TextOf("lblCode"), "77");
+}
+
+TEST_F(Lifecycle, ALayerAddedToAnEditorThatWasNotShownIsThereWhenItIs)
+{
+    Create();
+    EditorForm().AddNewLayer(3);
+    EXPECT_FALSE(Editor().Visible());
+    Open();
+    EXPECT_EQ(Nodes("tvLayers2"), 4);
+    EXPECT_EQ(TextOf("lblCode"), "13");
+}
+
+// ---- closing
+
+TEST_F(Lifecycle, ClosingWithEditsAsksAndYesStoresThem)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    MessageBoxRobot person{BoxKey::Yes};
+    Form()->close();
+    EXPECT_EQ(Form(), nullptr);
+    EXPECT_EQ(Stored(1, "Visible"), 0);
+}
+
+TEST_F(Lifecycle, ClosingWithEditsAsksAndNoDropsThem)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    MessageBoxRobot person{BoxKey::No};
+    Close();
+    EXPECT_EQ(Form(), nullptr);
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+}
+
+TEST_F(Lifecycle, UnloadWithoutApplyAsksNothing)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    EditorForm().UnloadWithoutApply();
+    EXPECT_EQ(Form(), nullptr);
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+}
+
+TEST_F(Lifecycle, TheIdIsFreeAfterClosing)
+{
+    Open();
+    Close();
+    EXPECT_EQ(Form(), nullptr);
+    Open();
+    EXPECT_TRUE(Editor().Visible());
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/MemoryHost.h"
+
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/PluginContract.h>
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QApplication>
+#include <QLibrary>
+#include <QLocale>
+#include <QWidget>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace Orvane {
+
+namespace {
+
+using testing::Contains;
+
+// The component as a host meets it: a file, two functions, and what they give.
+class Plugin : public testing::Test
+{
+protected:
+    ~Plugin() override
+    {
+        m_library.reset();
+        QLocale::setDefault(m_locale);
+    }
+
+    template <typename Function> Function Resolve(const char* symbol)
+    {
+        return reinterpret_cast<Function>(m_file.resolve(symbol));
+    }
+
+    IStyleEditorLibrary& Create()
+    {
+        m_library.reset(); // before another is made, which would share its editors
+        m_library.reset(Resolve<CreateLibraryFunction>(CreateLibrarySymbol)());
+        m_library->Initialise(&m_host);
+        return *m_library;
+    }
+
+    QString ErrorOfADuplicate(const QString& language)
+    {
+        QLocale::setDefault(QLocale(language));
+        Create().NewStyleEditor("Main");
+        try {
+            m_library->NewStyleEditor("Main");
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.Number(), 1234);
+            return error.Description();
+        }
+        return {};
+    }
+
+    QLibrary m_file{QStringLiteral(ORVANE_LIBRARY_DIR "/OrvaneLayerControl")};
+    QLocale m_locale;
+    Testing::MemoryHost m_host;
+    std::unique_ptr<IStyleEditorLibrary> m_library;
+};
+
+} // namespace
+
+TEST_F(Plugin, LoadsAndSpeaksTheContractOfItsSourceTree)
+{
+    ASSERT_TRUE(m_file.load()) << qPrintable(m_file.errorString());
+    const auto contractVersion = Resolve<ContractVersionFunction>(ContractVersionSymbol);
+    ASSERT_NE(contractVersion, nullptr);
+    ContractVersion version;
+    contractVersion(&version);
+    EXPECT_EQ(version.major, CurrentContract.major);
+    EXPECT_EQ(version.minor, CurrentContract.minor);
+}
+
+TEST_F(Plugin, MakesAnEditorThatIsAWidgetAndAForm)
+{
+    IStyleEditor* editor = Create().NewStyleEditor("Main");
+    EXPECT_FALSE(editor->Visible());
+    EXPECT_NE(dynamic_cast<QWidget*>(editor), nullptr);
+    auto* form = dynamic_cast<IStyleEditorForm*>(editor);
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->EditorID(), QString("Main"));
+}
+
+TEST_F(Plugin, RaisesTheErrorsOfTheContractAcrossTheBorder)
+{
+    EXPECT_EQ(ErrorOfADuplicate("en_GB"), QString("Style Editor with that ID already exists."));
+}
+
+TEST_F(Plugin, SpeaksTheLanguageOfTheMessageFileBesideIt)
+{
+    EXPECT_EQ(ErrorOfADuplicate("de_AT"), QString("Ein Stileditor mit dieser ID ist bereits vorhanden."));
+    EXPECT_EQ(
+        ErrorOfADuplicate("fr_FR"), QString("Un éditeur de style portant cet identifiant existe déjà."));
+}
+
+TEST_F(Plugin, LeavesNoWidgetBehindWhenItsLibraryIsReleased)
+{
+    const auto before = QApplication::allWidgets().size();
+    Create().NewStyleEditor("Main")->Visible(true);
+    m_library->NewStyleEditor("Hidden");
+    m_library->GetStyleEditor("Main")->Visible(false);
+    m_library.reset();
+    EXPECT_EQ(QApplication::allWidgets().size(), before);
+    EXPECT_TRUE(m_file.unload());
+}
+
+TEST_F(Plugin, UnloadsAnOpenEditorThroughTheHost)
+{
+    Create().NewStyleEditor("Main")->Visible(true);
+    m_host.ClearLog();
+    m_library.reset();
+    EXPECT_THAT(m_host.Calls(), Contains("EditorClosed()"));
+    EXPECT_THAT(
+        m_host.Log().CallsTo("WriteSetting").join('\n').toStdString(),
+        testing::HasSubstr("DrawStyleEditor::Main"));
+}
+
+} // namespace Orvane

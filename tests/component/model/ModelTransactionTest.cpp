@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "component/model/ModelTransaction.h"
+
+#include "hosts/Errors.h"
+#include "hosts/FailingClient.h"
+#include "hosts/MemoryHost.h"
+#include "hosts/ValueMatchers.h"
+
+#include <gtest/gtest.h>
+
+using namespace Orvane;
+using namespace Orvane::Testing;
+using testing::ElementsAre;
+
+namespace {
+
+class ModelTransactionOf : public testing::Test
+{
+protected:
+    void HideLayer()
+    {
+        const auto layers = host.LayersTable();
+        layers->Index("LayerIDIDX");
+        layers->Seek("=", 17);
+        layers->Edit();
+        layers->SetField("Visible", false);
+        layers->Update();
+    }
+
+    MemoryHost host;
+};
+
+} // namespace
+
+TEST_F(ModelTransactionOf, KeepsWhatWasCommitted)
+{
+    host.AddLayer({.id = 17, .visible = true});
+    {
+        ModelTransaction transaction(host.Database());
+        HideLayer();
+        transaction.Commit();
+    }
+    EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(false));
+    EXPECT_EQ(host.Log().CallsTo("Rollback").size(), 0);
+}
+
+TEST_F(ModelTransactionOf, UndoesWhatWasNotCommitted)
+{
+    host.AddLayer({.id = 17, .visible = true});
+    {
+        ModelTransaction transaction(host.Database());
+        HideLayer();
+    }
+    EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(true));
+}
+
+TEST_F(ModelTransactionOf, RollsBackAfterACommitThatRaised)
+{
+    FailingClient client(host, {"CommitTrans", 1, RunTimeError(10001, "disk full")});
+    const auto error = ErrorOf([&] {
+        ModelTransaction transaction(client.Database());
+        transaction.Commit();
+    });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Number(), 10001);
+    EXPECT_THAT(host.Log().Trace(), ElementsAre("BeginTrans()", "Rollback()"));
+}
+
+TEST_F(ModelTransactionOf, DoesNotRollBackWhatNeverBegan)
+{
+    FailingClient client(host, {"BeginTrans", 1, RunTimeError(10001, "locked")});
+    EXPECT_EQ(ErrorNumberOf([&] { ModelTransaction transaction(client.Database()); }), 10001);
+    EXPECT_TRUE(host.Log().Trace().isEmpty());
+}
+
+TEST_F(ModelTransactionOf, AFailingRollbackDoesNotHideTheErrorBefore)
+{
+    FailingClient client(host, {"Rollback", 1, RunTimeError(10001, "connection lost")});
+    const int number = ErrorNumberOf([&] {
+        ModelTransaction transaction(client.Database());
+        throw RunTimeError(10002, "first");
+    });
+    EXPECT_EQ(number, 10002);
+}

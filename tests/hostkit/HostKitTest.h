@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/ValueMatchers.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+
+class QWidget;
+
+namespace Orvane::Testing {
+
+/// Scenarios on a layer database in memory.
+class HostKitTest : public testing::Test
+{
+protected:
+    HostKitTest();
+
+    SqliteLayerDatabase& Database() { return *m_database; }
+
+    void AddLayer(qint32 layerID, const QString& name, const Value& code = Value::Null());
+    static void
+    AddLayer(SqliteLayerDatabase& database, qint32 layerID, const QString& name, const Value& code);
+    void AddLayers(int count);
+    void Set(qint32 layerID, const char* column, const Value& value);
+    Value Get(qint32 layerID, const char* column);
+    static Value Get(SqliteLayerDatabase& database, qint32 layerID, const char* column);
+    /// How many rows the query answers.
+    int Rows(const QString& query);
+    /// The texts of the statements that the act runs.
+    QStringList StatementsOf(const std::function<void()>& act);
+
+private:
+    std::unique_ptr<SqliteLayerDatabase> m_database;
+};
+
+/// The number of the RunTimeError that the act raises, 0 when it raises none.
+int ErrorOf(const std::function<void()>& act);
+/// Its description.
+QString DescriptionOf(const std::function<void()>& act);
+
+/// Does the person's act at the next modal window, as soon as the event loop that shows it runs. The window
+/// must be closed by the act: the test fails when it is not.
+void WhenModal(const std::function<void(QWidget& window)>& act);
+
+} // namespace Orvane::Testing

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/StyleEditorPlugin.h"
+
+#include "hostkit/HostKitTest.h"
+#include "hosts/MemoryHost.h"
+
+#include <OrvaneShellLib/IStyleEditorLibrary.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace Orvane::Testing {
+namespace {
+
+const QString Setting = QStringLiteral("library");
+
+QString FakeFile(const char* name)
+{
+    return QStringLiteral(FAKE_PLUGIN_FOLDER "/") + QLatin1String(name);
+}
+
+int LoadError(const QString& pathOrName)
+{
+    return ErrorOf([&] { StyleEditorPlugin plugin(pathOrName); });
+}
+
+QString LoadComplaint(const QString& pathOrName)
+{
+    return DescriptionOf([&] { StyleEditorPlugin plugin(pathOrName); });
+}
+
+TEST(StyleEditorPlugin, LoadsAComponentOfItsOwnContract)
+{
+    MemoryHost host;
+    StyleEditorPlugin plugin(FakeFile("fake_plugin_same"));
+    EXPECT_EQ(plugin.Version().major, CurrentContract.major);
+    EXPECT_FALSE(plugin.FileName().isEmpty());
+    plugin.Library().Initialise(&host);
+    EXPECT_EQ(host.settings[Setting], QStringLiteral("initialised"));
+}
+
+TEST(StyleEditorPlugin, DestroysTheLibraryAndLeavesItsTextsReadable)
+{
+    MemoryHost host;
+    {
+        StyleEditorPlugin plugin(FakeFile("fake_plugin_same"));
+        plugin.Library().Initialise(&host);
+    }
+    EXPECT_EQ(host.settings[Setting], QStringLiteral("destroyed"));
+}
+
+TEST(StyleEditorPlugin, LoadsAComponentOfAHigherMinorVersion)
+{
+    StyleEditorPlugin plugin(FakeFile("fake_plugin_newer_minor"));
+    EXPECT_EQ(plugin.Version().minor, CurrentContract.minor + 1);
+}
+
+TEST(StyleEditorPlugin, RefusesAnotherMajorVersionWithBothVersionsInTheText)
+{
+    const QString path = FakeFile("fake_plugin_other_major");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(
+        QStringLiteral("%1.%2").arg(CurrentContract.major).arg(CurrentContract.minor)));
+    EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("%1.0").arg(CurrentContract.major + 1)));
+}
+
+TEST(StyleEditorPlugin, RefusesALibraryThatIsNoComponent)
+{
+    const QString path = FakeFile("fake_plugin_foreign");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(QLatin1String(ContractVersionSymbol)));
+}
+
+TEST(StyleEditorPlugin, RefusesAComponentWithoutAnEntryObject)
+{
+    EXPECT_EQ(LoadError(FakeFile("fake_plugin_empty")), int(ErrorNumber::PluginFailure));
+}
+
+TEST(StyleEditorPlugin, NamesTheFileThatIsMissing)
+{
+    const QString path = FakeFile("no_such_plugin");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(path));
+}
+
+TEST(StyleEditorPlugin, NamesTheComponentThatIsInNoneOfTheFolders)
+{
+    EXPECT_EQ(LoadError(QStringLiteral("NoSuchComponent")), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(QStringLiteral("NoSuchComponent")).contains(QStringLiteral("NoSuchComponent")));
+}
+
+TEST(StyleEditorPlugin, RefusesAFileThatIsNoLibrary)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("libbroken.so")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("not a library");
+    file.close();
+    EXPECT_EQ(LoadError(file.fileName()), int(ErrorNumber::PluginFailure));
+}
+
+TEST(StyleEditorPlugin, LooksBesideTheProgramFirstAndThenInTheLibraryFolders)
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QStringList folders = StyleEditorPlugin::SearchFolders();
+    ASSERT_GE(folders.size(), 3);
+    EXPECT_EQ(QDir(folders[0]), program);
+    EXPECT_EQ(
+        QDir::cleanPath(folders[1]), QDir::cleanPath(program.absoluteFilePath(QStringLiteral("../lib"))));
+}
+
+TEST(StyleEditorPlugin, FindsAPlainNameInTheLibraryPaths)
+{
+    QCoreApplication::addLibraryPath(QStringLiteral(FAKE_PLUGIN_FOLDER));
+    EXPECT_EQ(LoadError(QStringLiteral("fake_plugin_same")), 0);
+    QCoreApplication::removeLibraryPath(QStringLiteral(FAKE_PLUGIN_FOLDER));
+}
+
+} // namespace
+} // namespace Orvane::Testing

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/tracing/TracingLibrary.h"
+
+#include "hostkit/tracing/TracingTest.h"
+
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleFilter.h>
+
+#include <map>
+
+namespace Orvane::Testing {
+namespace {
+
+using testing::ElementsAre;
+
+// An editor that only remembers what it was told.
+class PlainEditor : public IStyleEditor, public IStyleEditorForm
+{
+public:
+    const IStyleFilter* filter = nullptr;
+    bool visible = false;
+
+private:
+    void IStyleEditor_StyleFilter(const IStyleFilter* given) override { filter = given; }
+    bool IStyleEditor_Visible() const override { return visible; }
+    void IStyleEditor_Visible(bool shown) override { visible = shown; }
+    void IStyleEditor_RefreshGroups() override { }
+    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
+    void IStyleEditorForm_AddNewLayer(qint32) override { }
+    void IStyleEditorForm_Popup() override { }
+    void IStyleEditorForm_SetLayerCode(qint32) override { }
+    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
+    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
+    const IStyleFilter* IStyleEditorForm_Filter() const override { return filter; }
+    void IStyleEditorForm_Filter(const IStyleFilter* given) override { filter = given; }
+    void IStyleEditorForm_UnloadWithoutApply() override { }
+
+    std::vector<RendererStyle> m_styles{{1, QStringLiteral("Shaded")}};
+};
+
+class PlainLibrary : public IStyleEditorLibrary
+{
+public:
+    std::map<QString, PlainEditor> editors;
+    IStyleEditorClient* client = nullptr;
+
+private:
+    IStyleEditor* IStyleEditorLibrary_GetStyleEditor(const QString& id) const noexcept override
+    {
+        const auto found = editors.find(id);
+        return found == editors.end() ? nullptr : const_cast<PlainEditor*>(&found->second);
+    }
+    void IStyleEditorLibrary_Initialise(IStyleEditorClient* given) override { client = given; }
+    IStyleEditor* IStyleEditorLibrary_NewStyleEditor(const QString& id) override
+    {
+        if (editors.contains(id))
+            throw RunTimeError(ErrorNumber::DuplicateEditorID, QStringLiteral("exists"));
+        return &editors[id];
+    }
+};
+
+class OddLayersOnly : public IStyleFilter
+{
+    bool IStyleFilter_ShowsGroups() const override { return true; }
+    bool IStyleFilter_IsLayerShown(qint32 layerID, bool) const override { return layerID % 2 == 1; }
+};
+
+const QString Main = QStringLiteral("Main");
+
+class LibraryTrace : public TracingTest
+{
+protected:
+    IStyleEditorLibrary& Library() { return m_traced; }
+    IStyleEditor& MainEditor()
+    {
+        IStyleEditor* editor = Library().NewStyleEditor(Main);
+        Lines();
+        return *editor;
+    }
+
+    PlainLibrary m_library;
+    TracingLibrary m_traced{m_library, m_trace};
+};
+
+TEST_F(LibraryTrace, ShowsTheHostsCallsInOrder)
+{
+    Library().Initialise(&m_host);
+    Library().GetStyleEditor(Main);
+    IStyleEditor* editor = Library().NewStyleEditor(Main);
+    editor->Visible(true);
+    editor->RefreshGroups();
+    std::as_const(*editor).Visible();
+    EXPECT_EQ(m_library.client, &m_host);
+    EXPECT_THAT(
+        Lines(),
+        ElementsAre(
+            QStringLiteral("library.Initialise(client)"),
+            QStringLiteral("library.GetStyleEditor(\"Main\") -> nothing"),
+            QStringLiteral("library.NewStyleEditor(\"Main\")"), QStringLiteral("editor.Visible(true)"),
+            QStringLiteral("editor.RefreshGroups()"), QStringLiteral("editor.Visible() -> true")));
+}
+
+TEST_F(LibraryTrace, ADuplicateEditorIsALineWithItsError)
+{
+    Library().NewStyleEditor(Main);
+    Lines();
+    EXPECT_EQ(ErrorOf([&] { Library().NewStyleEditor(Main); }), 1234);
+    EXPECT_EQ(
+        Lines().constLast(), QStringLiteral("library.NewStyleEditor(\"Main\") -> error 1234 \"exists\""));
+}
+
+TEST_F(LibraryTrace, TheSameEditorIsFoundAgain)
+{
+    IStyleEditor& editor = MainEditor();
+    EXPECT_EQ(Library().GetStyleEditor(Main), &editor);
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("library.GetStyleEditor(\"Main\") -> editor")));
+}
+
+TEST_F(LibraryTrace, AnEditorOfTheSameIDMadeAnewWorks)
+{
+    MainEditor();
+    m_library.editors.clear();
+    MainEditor().Visible(true);
+    EXPECT_TRUE(m_library.editors[Main].visible);
+}
+
+TEST_F(LibraryTrace, ShowsWhatTheComponentAsksTheFilter)
+{
+    OddLayersOnly filter;
+    MainEditor().StyleFilter(&filter);
+    const IStyleFilter* given = m_library.editors[Main].filter;
+    EXPECT_TRUE(given->ShowsGroups());
+    EXPECT_FALSE(given->IsLayerShown(4, true));
+    EXPECT_THAT(
+        Lines(),
+        ElementsAre(
+            QStringLiteral("editor.StyleFilter(filter)"), QStringLiteral("filter.ShowsGroups() -> true"),
+            QStringLiteral("filter.IsLayerShown(4, true) -> false")));
+}
+
+TEST_F(LibraryTrace, TheHostReadsBackItsOwnFilter)
+{
+    OddLayersOnly filter;
+    auto& form = dynamic_cast<IStyleEditorForm&>(MainEditor());
+    form.Filter(&filter);
+    EXPECT_EQ(form.Filter(), &filter);
+    form.Filter(nullptr);
+    EXPECT_EQ(form.Filter(), nullptr);
+    EXPECT_EQ(m_library.editors[Main].filter, nullptr);
+}
+
+TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
+{
+    auto& form = dynamic_cast<IStyleEditorForm&>(MainEditor());
+    EXPECT_EQ(form.EditorID(), Main);
+    form.AddNewLayer(17);
+    form.Popup();
+    form.SetLayerCode(17);
+    form.SetLayerName(17, QStringLiteral("Roads"));
+    EXPECT_EQ(form.LoadRendererStyles().size(), 1u);
+    form.UnloadWithoutApply();
+    EXPECT_THAT(
+        Lines(),
+        ElementsAre(
+            QStringLiteral("form.EditorID() -> \"Main\""), QStringLiteral("form.AddNewLayer(17)"),
+            QStringLiteral("form.Popup()"), QStringLiteral("form.SetLayerCode(17)"),
+            QStringLiteral("form.SetLayerName(17, \"Roads\")"), QStringLiteral("form.LoadRendererStyles()"),
+            QStringLiteral("form.UnloadWithoutApply()")));
+}
+
+} // namespace
+} // namespace Orvane::Testing

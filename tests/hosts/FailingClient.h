@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/FailingDatabase.h"
+
+#include <OrvaneShellLib/ForwardingClient.h>
+
+#include <memory>
+
+namespace Orvane::Testing {
+
+/// Passes everything on to another client and raises as planned, in LayersTable, BeginLayerEdit,
+/// LayerChanged, LayerDisplayName, CreateLayer, DeleteLayer, LoadScheme, RedrawMap, ReadSetting,
+/// WriteSetting, and in any member of its database and its cursors.
+///
+///     FailingClient client(host, {"Update", 3, RunTimeError(ErrorNumber::DatabaseLocked, "locked")});
+class FailingClient : public ForwardingClient
+{
+public:
+    /// client: not owned; outlives this object.
+    FailingClient(IStyleEditorClient& client, PlannedFailure failure);
+    ~FailingClient() override;
+
+protected:
+    ILayerDatabase& IStyleEditorClient_Database() override;
+    std::unique_ptr<IRecordset> IStyleEditorClient_LayersTable() override;
+    void IStyleEditorClient_BeginLayerEdit(IRecordset& layers) override;
+    void IStyleEditorClient_LayerChanged(qint32 layerID) override;
+    QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override;
+    qint32 IStyleEditorClient_CreateLayer() override;
+    void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
+    void IStyleEditorClient_LoadScheme(const QString& name) override;
+    void IStyleEditorClient_RedrawMap() override;
+    QString IStyleEditorClient_ReadSetting(QWidget* form, const QString& key) override;
+    void IStyleEditorClient_WriteSetting(QWidget* form, const QString& key, const QString& value) override;
+
+private:
+    PlannedFailure m_failure;
+    std::unique_ptr<ILayerDatabase> m_database;
+};
+
+} // namespace Orvane::Testing

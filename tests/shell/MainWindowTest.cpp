@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "shell/MainWindow.h"
+
+#include "shell/DataFolder.h"
+#include "shell/MapDocument.h"
+#include "shell/RecentMaps.h"
+#include "shell/drawing/MapCanvas.h"
+#include "store/SqliteLayerDatabase.h"
+#include "support/MessageBoxRobot.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QSettings>
+#include <QTest>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class MainWindowTest : public testing::Test
+{
+protected:
+    MainWindowTest()
+    {
+        QSettings().clear();
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+    }
+
+    QString MakeMap(const QString& name)
+    {
+        const auto document = MapDocument::Create(m_folder.Path(name));
+        NewLayer layer;
+        layer.name = "Square";
+        layer.path = m_folder.WriteSquare("square.geojson");
+        layer.ogrLayer = "square";
+        document->SetSystem("EPSG:4326");
+        document->AddLayer(layer);
+        return document->Path();
+    }
+
+    void Drop(const QStringList& paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &enter);
+        QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &event);
+    }
+
+    QString Label(const char* name) const { return m_window->findChild<QLabel*>(name)->text(); }
+    QAction* Action(const char* name) const { return m_window->findChild<QAction*>(name); }
+
+    DataFolder m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, BeginsWithAMapWithoutAFile)
+{
+    EXPECT_EQ(m_window->Document().Path(), "");
+    EXPECT_FALSE(m_window->Document().HasLayers());
+}
+
+TEST_F(MainWindowTest, OpensAMapAndShowsAllOfIt)
+{
+    m_window->OpenMap(MakeMap("squares.orvane"));
+    EXPECT_TRUE(m_window->windowTitle().startsWith("squares"));
+    ASSERT_EQ(m_window->Canvas().Layers().size(), 1u);
+    const Box shown = m_window->Canvas().View().Extent();
+    EXPECT_LT(shown.minX, 0);
+    EXPECT_GT(shown.maxX, 10);
+    EXPECT_TRUE(Label("lblScale").startsWith("1:"));
+}
+
+TEST_F(MainWindowTest, AMapThatWasOpenedIsAmongTheRecentOnes)
+{
+    const QString first = MakeMap("first.orvane");
+    const QString second = MakeMap("second.orvane");
+    m_window->OpenMap(first);
+    m_window->OpenMap(second);
+    EXPECT_EQ(RecentMaps::All(), QStringList({second, first}));
+    auto* menu = m_window->findChild<QMenu*>("menuRecent");
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), 2);
+    menu->actions()[1]->trigger();
+    EXPECT_EQ(m_window->Document().Path(), first);
+}
+
+TEST_F(MainWindowTest, AFileThatIsNoMapLeavesTheMapThatIsOpen)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    EXPECT_THROW(m_window->OpenMap(m_folder.Write("text.orvane", "no map")), RunTimeError);
+    EXPECT_EQ(m_window->Document().Path(), m_folder.Path("map.orvane"));
+}
+
+TEST_F(MainWindowTest, DroppedDataJoinTheMap)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    Drop({m_folder.WriteSquare("more.geojson", 20, 20), m_folder.WriteSquare("again.geojson", 40, 0)});
+    EXPECT_EQ(m_window->Canvas().Layers().size(), 3u);
+    for (const MapLayer& layer : m_window->Canvas().Layers())
+        EXPECT_TRUE(layer.features) << layer.layerID;
+}
+
+TEST_F(MainWindowTest, ADroppedMapIsOpened)
+{
+    const QString path = MakeMap("map.orvane");
+    Drop({path});
+    EXPECT_EQ(m_window->Document().Path(), path);
+}
+
+TEST_F(MainWindowTest, ADroppedFileThatIsBrokenIsToldInOneMessage)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    MessageBoxRobot person{BoxKey::Enter};
+    Drop(
+        {m_folder.Write("bad.gpkg", "x"), m_folder.Write("worse.shp", "y"),
+         m_folder.WriteSquare("good.geojson")});
+    EXPECT_TRUE(person.Only().text.contains("bad.gpkg"));
+    EXPECT_TRUE(person.Only().text.contains("worse.shp"));
+    EXPECT_EQ(m_window->Canvas().Layers().size(), 2u);
+}
+
+TEST_F(MainWindowTest, TheZoomCommandsWork)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    const MapView all = m_window->Canvas().View();
+    Action("actZoomIn")->trigger();
+    EXPECT_LT(m_window->Canvas().View().UnitsPerPixel(), all.UnitsPerPixel());
+    Action("actZoomOut")->trigger();
+    EXPECT_NEAR(m_window->Canvas().View().UnitsPerPixel(), all.UnitsPerPixel(), 1e-12);
+    Action("actZoomIn")->trigger();
+    Action("actZoomAll")->trigger();
+    EXPECT_EQ(m_window->Canvas().View(), all);
+}
+
+TEST_F(MainWindowTest, ThePositionUnderThePointerIsShown)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    MapCanvas& canvas = m_window->Canvas();
+    QTest::mouseMove(&canvas, canvas.View().ToPixel({5, 5}).toPoint());
+    EXPECT_TRUE(Label("lblPosition").contains("° N")) << qPrintable(Label("lblPosition"));
+}
+
+TEST_F(MainWindowTest, ClosingAMapWithoutAFileAsksAndCancelKeepsIt)
+{
+    m_window->AddData({m_folder.WriteSquare("square.geojson")});
+    {
+        MessageBoxRobot person{BoxKey::Escape};
+        EXPECT_FALSE(m_window->close());
+        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+    }
+    EXPECT_TRUE(m_window->isVisible());
+}
+
+TEST_F(MainWindowTest, ClosingAnEmptyOrStoredMapAsksNothing)
+{
+    EXPECT_TRUE(m_window->close());
+    m_window->show();
+    m_window->OpenMap(MakeMap("map.orvane"));
+    EXPECT_TRUE(m_window->close());
+}
+
+TEST_F(MainWindowTest, TheWindowsPlaceIsKept)
+{
+    m_window->resize(700, 500);
+    m_window->close();
+    EXPECT_EQ(MainWindow().size(), QSize(700, 500));
+}
+
+} // namespace Orvane
