@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "benchmarks/Machine.h"
+
+#include <QSysInfo>
+#include <QtGlobal>
+
+#include <fstream>
+#include <sqlite3.h>
+#include <thread>
+
+namespace Orvane::Benchmarks {
+
+namespace {
+
+// What follows the first line that begins with key, blanks and colon left out.
+std::string LineOf(const char* file, const std::string& key)
+{
+    std::ifstream stream(file);
+    for (std::string line; std::getline(stream, line);) {
+        if (line.rfind(key, 0) == 0) {
+            const size_t begin = line.find_first_not_of(" \t:", key.size());
+            return begin == std::string::npos ? std::string() : line.substr(begin);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+std::string MachineDescription()
+{
+    return "Processor: " + LineOf("/proc/cpuinfo", "model name") + ", "
+        + std::to_string(std::thread::hardware_concurrency()) + " cores\n"
+        + "System: " + QSysInfo::prettyProductName().toStdString() + ", " + QSysInfo::buildAbi().toStdString()
+        + "\nQt " + qVersion() + ", SQLite " + sqlite3_libversion() + ", compiler " + __VERSION__ + "\n";
+}
+
+void ResetPeakMemory()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+double PeakMemoryInMegabytes()
+{
+    const std::string kilobytes = LineOf("/proc/self/status", "VmHWM");
+    return kilobytes.empty() ? 0 : std::stod(kilobytes) / 1024;
+}
+
+} // namespace Orvane::Benchmarks
