@@ -1,0 +1,72 @@
+# SPDX-License-Identifier: MIT
+# Shared by ./dev and the scripts beside this file: packages, steps, counts.
+
+packages_build=(build-essential cmake ninja-build ccache pkg-config git
+    qt6-base-dev libgdal-dev libsqlite3-dev)
+packages_run=(libqt6gui6 fonts-dejavu-core)
+packages_test=(libgtest-dev libgmock-dev fonts-dejavu-core)
+packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
+    python3-gi gir1.2-atspi-2.0)
+packages_bench=(libbenchmark-dev)
+packages_check=(clang-format clang-tidy python3)
+
+export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
+export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
+step() { printf '\n== %s\n' "$*"; }
+
+# quietly LOG COMMAND...: shows the log only when the command fails.
+quietly() {
+    local log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    "$@" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# need PACKAGE...: installs those that are missing, with progress.
+need() {
+    local missing=() package
+    for package in "$@"; do
+        installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    step "Installing: ${missing[*]}"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+sources() {
+    git ls-files --cached --others --exclude-standard '*.h' '*.cpp'
+}
+
+# sum_attribute DIRECTORY NAME: the sum of one attribute over the root elements of the GoogleTest reports.
+sum_attribute() {
+    grep -hoE "<testsuites [^>]*" "$1"/*.xml 2>/dev/null | grep -oE " $2=\"[0-9]+\"" |
+        tr -dc '0-9\n' | awk '{ n += $1 } END { print n + 0 }'
+}
+
+report_counts() { # report_counts DIRECTORY LABEL
+    local tests failed
+    tests=$(sum_attribute "$1" tests)
+    failed=$(sum_attribute "$1" failures)
+    echo "$2: $((tests - failed)) passed, $failed failed"
+}
+
+total_counts() {
+    local tests=0 failed=0 directory
+    for directory in "$@"; do
+        tests=$((tests + $(sum_attribute "$directory" tests)))
+        failed=$((failed + $(sum_attribute "$directory" failures)))
+    done
+    printf '\n%d passed, %d failed\n' $((tests - failed)) "$failed"
+    [ "$tests" -gt 0 ] && [ "$failed" -eq 0 ]
+}
