@@ -9,6 +9,8 @@ enum class HostError {
     DuplicateScheme = 10002, ///< a layer scheme of that name exists already
     LastScheme = 10003, ///< the only layer scheme cannot be deleted
     NoStartupDatabase = 10004, ///< the host named no file for the startup database
+    StepOutdated = 10005, ///< a step cannot be undone or redone: somebody else changed what it did
+    EditsPending = 10006, ///< an open editor holds edits that were not applied yet
 };
 
 } // namespace Orvane

@@ -11,6 +11,7 @@
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"
 #include "hostkit/TextPrompt.h"
+#include "hostkit/UndoHistory.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -27,6 +28,7 @@ struct StandardClient::Parts {
     }
 
     HostNotifications notifications;
+    UndoHistory history;
     EditorWindows windows;
     std::unique_ptr<SettingsStore> settings; // made at the first use
     LayerNames names;
@@ -68,6 +70,11 @@ StandardClient::~StandardClient() = default;
 HostNotifications& StandardClient::Notifications()
 {
     return m_parts->notifications;
+}
+
+UndoHistory& StandardClient::History()
+{
+    return m_parts->history;
 }
 
 void StandardClient::SetMainWindow(QWidget* mainWindow)

@@ -14,6 +14,7 @@ class LayerSchemes;
 class LayerNames;
 class SettingsStore;
 class SqliteLayerDatabase;
+class UndoHistory;
 
 /// A ready-made host application object over a layer database: windows, settings, prompts, names, schemes,
 /// creating and deleting layers. Derive and override only what is your own:
@@ -37,6 +38,9 @@ public:
 
     /// The signals to connect to; owned by this object.
     HostNotifications& Notifications();
+    /// What the person did to layers, groups and schemes, to be undone; a host may add steps of its own.
+    /// Owned by this object.
+    UndoHistory& History();
 
     /// The window in front of which editors and prompts are shown; nullptr for none. Not owned.
     void SetMainWindow(QWidget* mainWindow);

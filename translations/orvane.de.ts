@@ -108,6 +108,22 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
         <source>it has no layer named %1</source>
         <translation>es gibt darin keinen Layer namens %1</translation>
     </message>

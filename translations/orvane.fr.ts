@@ -108,6 +108,22 @@
         <translation>A&amp;ide</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
         <source>it has no layer named %1</source>
         <translation>aucune couche ne s’y nomme %1</translation>
     </message>

@@ -108,6 +108,22 @@
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
         <source>it has no layer named %1</source>
         <translation>%1 という名前のレイヤーがありません</translation>
     </message>
