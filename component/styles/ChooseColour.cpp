@@ -2,7 +2,7 @@
 #include "component/styles/ChooseColour.h"
 
 #include "component/entry/Messages.h"
-#include "component/styles/BgrColour.h"
+#include "samples/BgrColour.h"
 
 #include <QColorDialog>
 #include <QPointer>

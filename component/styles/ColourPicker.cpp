@@ -3,12 +3,12 @@
 
 #include "component/entry/EventGuard.h"
 #include "component/entry/Messages.h"
-#include "component/styles/BgrColour.h"
 #include "component/styles/ChooseColour.h"
 #include "component/styles/ItemDescriptions.h"
 #include "component/styles/StandardColours.h"
 #include "component/styles/TranslatedStyleWords.h"
 #include "ovctrls/OvCombo.h"
+#include "samples/BgrColour.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

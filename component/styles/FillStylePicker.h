@@ -2,8 +2,8 @@
 #pragma once
 
 #include "component/styles/FillPictures.h"
-#include "component/styles/FillSample.h"
 #include "component/styles/PickerList.h"
+#include "samples/FillSample.h"
 
 #include <OrvaneShellLib/Value.h>
 

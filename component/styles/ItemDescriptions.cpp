@@ -2,8 +2,8 @@
 #include "component/styles/ItemDescriptions.h"
 
 #include "component/entry/Messages.h"
-#include "component/styles/BgrColour.h"
 #include "component/styles/StandardColours.h"
+#include "samples/BgrColour.h"
 
 #include <algorithm>
 #include <cstdlib>

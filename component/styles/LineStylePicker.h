@@ -5,7 +5,7 @@
 #include "component/styles/LineItemData.h"
 #include "component/styles/PickerList.h"
 #include "component/styles/StepOverCommand.h"
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <OrvaneShellLib/Value.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/styles/ComboGeometry.h"
+#include "samples/ComboGeometry.h"
 
 #include <QString>
 #include <QtGlobal>

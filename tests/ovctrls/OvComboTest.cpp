@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ovctrls/OvCombo.h"
 
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>

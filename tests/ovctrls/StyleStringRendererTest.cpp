@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ovctrls/StyleStringRenderer.h"
 
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <QApplication>
 #include <QFontMetrics>

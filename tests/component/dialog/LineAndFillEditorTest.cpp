@@ -2,8 +2,8 @@
 #include "component/dialog/LineAndFillEditor.h"
 
 #include "component/dialog/EditorFixture.h"
-#include "component/styles/BgrColour.h"
 #include "ovctrls/OvCombo.h"
+#include "samples/BgrColour.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

@@ -2,7 +2,7 @@
 #include "component/styles/ColourPicker.h"
 
 #include "component/styles/PickersFixture.h"
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

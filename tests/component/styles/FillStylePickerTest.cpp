@@ -2,8 +2,8 @@
 #include "component/styles/FillStylePicker.h"
 
 #include "component/entry/Component.h"
-#include "component/styles/BgrColour.h"
 #include "component/styles/PickersFixture.h"
+#include "samples/BgrColour.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/ForwardingShellServices.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/LineItemData.h"
 
-#include "component/styles/StyleStrings.h"
 #include "hosts/ValueMatchers.h"
+#include "samples/StyleStrings.h"
 
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/StylePickers.h"
 
-#include "component/styles/BgrColour.h"
 #include "component/styles/PickersFixture.h"
+#include "samples/BgrColour.h"
 #include "support/PseudoLanguage.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/styles/ComboGeometry.h"
+#include "samples/ComboGeometry.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <QColor>
 

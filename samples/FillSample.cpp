@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "component/styles/FillSample.h"
+#include "samples/FillSample.h"
 
-#include "component/styles/BgrColour.h"
+#include "samples/BgrColour.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -99,14 +99,20 @@ FillColours ShownColours(const FillColours& colours, qint32 listBack)
     return shown;
 }
 
+void PaintFillSample(QPainter& painter, const QRect& area, const FillSample& sample)
+{
+    const FillColours colours = ShownColours(sample.colours, sample.listBack);
+    PaintSample(painter, area, sample, colours, colours);
+}
+
 void PaintFillItem(QPainter& painter, const QRect& item, const FillSample& sample)
 {
     painter.fillRect(item, QColorFromBgr(sample.listBack));
     const QRect inner = item.adjusted(sampleInset, sampleInset, -sampleInset, -sampleInset);
     if (inner.isEmpty())
         return;
+    PaintFillSample(painter, inner, sample);
     const FillColours colours = ShownColours(sample.colours, sample.listBack);
-    PaintSample(painter, inner, sample, colours, colours);
     PaintSample(painter, BlackOnWhitePart(inner), sample, colours, blackOnWhite);
 }
 

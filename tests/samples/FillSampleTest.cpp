@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "component/styles/FillSample.h"
+#include "samples/FillSample.h"
 
-#include "component/styles/BgrColour.h"
+#include "samples/BgrColour.h"
 
 #include <QImage>
 #include <QPainter>
@@ -196,6 +196,18 @@ TEST_F(FillSampleTest, EachBitCoversWholePixelsOfADenseScreen)
     EXPECT_EQ(At(5, 5), black);
     EXPECT_EQ(At(6, 5), white);
     EXPECT_EQ(At(5, 6), white);
+}
+
+TEST_F(FillSampleTest, AnAreaOfItsOwnShowsTheColoursOnly)
+{
+    m_image.fill(Qt::magenta);
+    QPainter painter(&m_image);
+    PaintFillSample(painter, QRect(5, 3, 40, 20), Patterned());
+    EXPECT_EQ(At(5, 3), red);
+    EXPECT_EQ(At(6, 3), blue);
+    EXPECT_EQ(At(44, 22), blue);
+    EXPECT_EQ(At(4, 3), BgrFromQColor(Qt::magenta));
+    EXPECT_EQ(At(45, 3), BgrFromQColor(Qt::magenta));
 }
 
 } // namespace Orvane::Testing

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/styles/StyleStrings.h"
+#include "samples/StyleStrings.h"
 
 #include <QLocale>
 

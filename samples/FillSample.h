@@ -34,4 +34,8 @@ FillColours ShownColours(const FillColours& colours, qint32 listBack);
 /// item of 4 pixels or less in a direction is background only.
 void PaintFillItem(QPainter& painter, const QRect& item, const FillSample& sample);
 
+/// Paints only the sample, in its colours, over the whole area: what a legend shows. The pattern begins at
+/// the area's upper left corner.
+void PaintFillSample(QPainter& painter, const QRect& area, const FillSample& sample);
+
 } // namespace Orvane
