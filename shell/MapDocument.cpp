@@ -7,7 +7,6 @@
 
 #include <OrvaneShellLib/ValueConversions.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -17,9 +16,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto SourcesTable = "CREATE TABLE IF NOT EXISTS LayerSources ("
-                              " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
-                              " Path TEXT NOT NULL, OgrLayer TEXT NOT NULL, Filter TEXT NOT NULL DEFAULT '')";
 constexpr auto SettingsTable
     = "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)";
 constexpr qint32 NoCode = -1;
@@ -56,9 +52,9 @@ std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
 }
 
 MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
-    : m_database(std::move(database)), m_path(path)
+    : m_database(std::move(database)), m_path(path), m_sources(*m_database, m_path)
 {
-    m_database->Execute(QLatin1String(SourcesTable));
+    m_sources.Create();
     m_database->Execute(QLatin1String(SettingsTable));
 }
 
@@ -80,7 +76,7 @@ void MapDocument::SaveCopy(const QString& path) const
     const auto copy = Open(path);
     StoreTransaction transaction(copy->Database());
     for (const LayerSource& source : Sources())
-        copy->SetSource(source.layerID, source.path, source.ogrLayer, source.filter);
+        copy->SetSource(source);
     transaction.Commit();
 }
 
@@ -111,7 +107,7 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
         {layerID, layer.name, CodeOrNone(code), layer.visible, values.color, values.fillForeColor,
          values.fillBackColor, values.outlineStyle, values.fillStyle, values.lineThickness,
          layer.minDenominator, limit, layer.priority, values.style});
-    SetSource(layerID, layer.path, layer.ogrLayer, layer.filter);
+    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter});
     transaction.Commit();
     return layerID;
 }
@@ -137,15 +133,12 @@ void MapDocument::AddMember(qint32 groupID, qint32 layerID)
 
 std::vector<LayerSource> MapDocument::Sources() const
 {
-    std::vector<LayerSource> sources;
-    const auto rows
-        = m_database->OpenRecordset(QStringLiteral("SELECT * FROM LayerSources ORDER BY LayerID"));
-    for (; !rows->AtEOF(); rows->MoveNext()) {
-        sources.push_back(
-            {ToInt32(rows->Field("LayerID")), AbsolutePath(Text(*rows, "Path")), Text(*rows, "OgrLayer"),
-             Text(*rows, "Filter")});
-    }
-    return sources;
+    return m_sources.All();
+}
+
+void MapDocument::SetSource(const LayerSource& source)
+{
+    m_sources.Set(source);
 }
 
 bool MapDocument::HasLayers() const
@@ -157,30 +150,6 @@ qint32 MapDocument::NextOf(const QString& expression, const QString& table) cons
 {
     const QString sql = QStringLiteral("SELECT coalesce(%1, 0) + 1 AS Next FROM %2").arg(expression, table);
     return ToInt32(m_database->OpenRecordset(sql)->Field("Next"));
-}
-
-void MapDocument::SetSource(
-    qint32 layerID, const QString& path, const QString& ogrLayer, const QString& filter)
-{
-    m_database->Execute(
-        QStringLiteral("INSERT OR REPLACE INTO LayerSources VALUES (?1, ?2, ?3, ?4)"),
-        {layerID, StoredPath(path), ogrLayer, filter.isNull() ? QStringLiteral("") : filter});
-}
-
-QString MapDocument::StoredPath(const QString& path) const
-{
-    if (m_path.isEmpty() || !QFileInfo::exists(path))
-        return path;
-    const QString relative = QFileInfo(m_path).absoluteDir().relativeFilePath(path);
-    return relative.startsWith(QLatin1String("..")) ? path : relative;
-}
-
-QString MapDocument::AbsolutePath(const QString& storedPath) const
-{
-    if (m_path.isEmpty())
-        return storedPath;
-    const QString beside = QFileInfo(m_path).absoluteDir().absoluteFilePath(storedPath);
-    return QFileInfo::exists(beside) ? beside : storedPath;
 }
 
 } // namespace Orvane

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/SourceReader.h"
+#include "shell/SourceTable.h"
 #include "shell/drawing/LayerLook.h"
 
 #include <QString>
@@ -29,8 +29,8 @@ struct NewLayer {
 /// A map file: the layer database, and in it the tables LayerSources, which says where each layer's features
 /// come from, and MapSettings. Changes are stored as they are made.
 ///
-/// Data that lies in the map's folder or below is kept by its relative path, so that both can be moved
-/// together. All calls are made on the user-interface thread; errors are those of the database.
+/// Data that was moved together with the map, or beside it, is found again. All calls are made on the
+/// user-interface thread; errors are those of the database.
 class MapDocument
 {
 public:
@@ -65,17 +65,17 @@ public:
 
     /// Where the layers' features come from, with absolute paths.
     std::vector<LayerSource> Sources() const;
+    /// Gives the layer its data, in place of those it has.
+    void SetSource(const LayerSource& source);
     bool HasLayers() const;
 
 private:
     MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path);
     qint32 NextOf(const QString& expression, const QString& table) const;
-    void SetSource(qint32 layerID, const QString& path, const QString& ogrLayer, const QString& filter);
-    QString StoredPath(const QString& path) const;
-    QString AbsolutePath(const QString& storedPath) const;
 
     std::unique_ptr<SqliteLayerDatabase> m_database;
     QString m_path;
+    SourceTable m_sources;
 };
 
 } // namespace Orvane

@@ -8,6 +8,10 @@
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>„%1“ hat keinen Layer namens „%2“.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; holds no data that can be read.</source>
         <translation>„%1“ enthält keine lesbaren Daten.</translation>
     </message>
@@ -114,6 +118,18 @@
     <message>
         <source>Redo %1</source>
         <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
+        <translation>Zeilen von „%1“, die zu etwas gehören, das in „%2“ fehlt: %3.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>Die Datendatei „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>Die Kartendatei ist beschädigt: %1.</translation>
     </message>
     <message>
         <source>Undo</source>

@@ -8,6 +8,10 @@
         <translation>« %1 » ne peut pas être lu : %2.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; holds no data that can be read.</source>
         <translation>« %1 » ne contient aucune donnée lisible.</translation>
     </message>
@@ -114,6 +118,18 @@
     <message>
         <source>Redo %1</source>
         <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
+        <translation>Lignes de « %1 » qui se rapportent à un élément absent de « %2 » : %3.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>Le fichier de données « %1 » est introuvable.</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>Le fichier de carte est endommagé : %1.</translation>
     </message>
     <message>
         <source>Undo</source>

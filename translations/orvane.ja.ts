@@ -8,6 +8,10 @@
         <translation>「%1」を読み込めません: %2。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; holds no data that can be read.</source>
         <translation>「%1」には読み込めるデータがありません。</translation>
     </message>
@@ -114,6 +118,18 @@
     <message>
         <source>Redo %1</source>
         <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
+        <translation>「%2」にないものを参照している「%1」の行: %3。</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>データファイル「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>地図ファイルが壊れています: %1。</translation>
     </message>
     <message>
         <source>Undo</source>

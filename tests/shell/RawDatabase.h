@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+namespace Orvane::Testing {
+
+/// A database file in the hands of another program, which keeps neither references nor the schema.
+class RawDatabase
+{
+public:
+    explicit RawDatabase(const QString& path)
+    {
+        EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &m_handle), SQLITE_OK);
+    }
+    ~RawDatabase() { sqlite3_close(m_handle); }
+    RawDatabase(const RawDatabase&) = delete;
+    RawDatabase& operator=(const RawDatabase&) = delete;
+
+    void Run(const char* sql)
+    {
+        EXPECT_EQ(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(m_handle) << " in " << sql;
+    }
+
+private:
+    sqlite3* m_handle = nullptr;
+};
+
+} // namespace Orvane::Testing
