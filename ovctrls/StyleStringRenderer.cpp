@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ovctrls/StyleStringRenderer.h"
 
+#include "ovctrls/LinePatterns.h"
 #include "ovctrls/StyleStringParser.h"
 
 #include <QFontDatabase>
@@ -9,14 +10,12 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
 #include <optional>
 
 namespace Orvane {
 
 namespace {
 
-constexpr int noPenStyle = 15;
 constexpr int outlineAlpha = 80; // of 255
 constexpr int lightnessOfPaper = 200; // of 255, as the distance from that of text
 constexpr double smallestPoints = 1;
@@ -25,19 +24,6 @@ constexpr double largestPoints = 200;
 QColor ColourOf(qint32 bgr)
 {
     return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
-}
-
-// From 5 on dashes of their own, so that no two numbers look alike.
-void SetPattern(QPen& pen, int style)
-{
-    static constexpr Qt::PenStyle plain[]
-        = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine, Qt::DashDotDotLine};
-    if (style < int(std::size(plain)))
-        pen.setStyle(plain[style]);
-    else if (style == noPenStyle)
-        pen.setStyle(Qt::NoPen);
-    else if (style < noPenStyle)
-        pen.setDashPattern({double(style), 2, 1, 2});
 }
 
 // Paints the elements of one item one after the other.
@@ -92,7 +78,7 @@ private:
     {
         QPen pen(DrawingColour(drawing.penColour), std::max(drawing.penWidth, 1.0));
         pen.setCapStyle(Qt::FlatCap);
-        SetPattern(pen, drawing.penStyle);
+        SetLinePattern(pen, drawing.penStyle);
         return pen;
     }
 

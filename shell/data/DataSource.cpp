@@ -105,7 +105,7 @@ FeatureSet DataSource::Read(
     GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{layer->GetNextFeature()}) {
         if (const OGRGeometry* geometry = feature->GetGeometryRef())
-            reader.Add(*geometry);
+            reader.Add(*geometry, feature->GetFID());
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
             progress.Report(std::min(1.0, double(count) / expected));

@@ -5,10 +5,10 @@
 
 namespace Orvane {
 
-void FeatureSet::BeginFeature(FeatureKind kind)
+void FeatureSet::BeginFeature(FeatureKind kind, qint64 featureID)
 {
     const auto part = quint32(m_partEnds.size());
-    m_features.push_back({Box(), part, part, kind});
+    m_features.push_back({Box(), featureID, part, part, kind});
 }
 
 void FeatureSet::AddPart(std::span<const QPointF> points)

@@ -17,6 +17,9 @@ enum class FeatureKind : quint8 {
     Area, ///< each part is a closed ring; rings within rings are holes
 };
 
+/// Of a feature that its source cannot name.
+inline constexpr qint64 NoFeatureID = -1;
+
 /// The geometries of one layer in flat arrays, in the map's coordinate system. Filled once, then shared and
 /// never changed, so that any thread may draw it.
 ///
@@ -28,18 +31,22 @@ class FeatureSet
 public:
     struct Feature {
         Box bounds; ///< of all parts
+        qint64 featureID = NoFeatureID; ///< as the source counts its features
         quint32 firstPart = 0; ///< index into the parts
         quint32 endPart = 0; ///< one behind the last part
         FeatureKind kind = FeatureKind::Point;
     };
 
-    /// The parts added from now on belong to a new feature.
-    void BeginFeature(FeatureKind kind);
+    /// The parts added from now on belong to a new feature. featureID: several may share one, as the members
+    /// of a collection do.
+    void BeginFeature(FeatureKind kind, qint64 featureID = NoFeatureID);
     /// Adds a part to the feature begun last. Vertices that are not finite are left out, and so is a part of
     /// none.
     void AddPart(std::span<const QPointF> points);
 
     const std::vector<Feature>& Features() const { return m_features; }
+    /// The source's ID of a feature; NoFeatureID when it came from no source.
+    qint64 FeatureId(size_t index) const { return m_features[index].featureID; }
     std::span<const QPointF> Part(quint32 index) const&;
     /// Deleted: the part would outlive its set.
     std::span<const QPointF> Part(quint32 index) const&& = delete;

@@ -16,8 +16,9 @@ GeometryReader::GeometryReader(
 
 GeometryReader::~GeometryReader() = default;
 
-void GeometryReader::Add(const OGRGeometry& geometry)
+void GeometryReader::Add(const OGRGeometry& geometry, qint64 featureID)
 {
+    m_featureID = featureID;
     if (!geometry.hasCurveGeometry()) {
         AddLinear(geometry);
         return;
@@ -31,23 +32,23 @@ void GeometryReader::AddLinear(const OGRGeometry& geometry)
 {
     switch (wkbFlatten(geometry.getGeometryType())) {
     case wkbPoint:
-        m_features.BeginFeature(FeatureKind::Point);
+        m_features.BeginFeature(FeatureKind::Point, m_featureID);
         m_x.assign(1, geometry.toPoint()->getX());
         m_y.assign(1, geometry.toPoint()->getY());
         if (!geometry.IsEmpty())
             AddCoordinates();
         return;
     case wkbLineString:
-        m_features.BeginFeature(FeatureKind::Line);
+        m_features.BeginFeature(FeatureKind::Line, m_featureID);
         AddCurve(*geometry.toLineString());
         return;
     case wkbPolygon:
     case wkbTriangle:
-        m_features.BeginFeature(FeatureKind::Area);
+        m_features.BeginFeature(FeatureKind::Area, m_featureID);
         AddRings(*geometry.toPolygon());
         return;
     case wkbMultiPolygon:
-        m_features.BeginFeature(FeatureKind::Area);
+        m_features.BeginFeature(FeatureKind::Area, m_featureID);
         for (const OGRPolygon* polygon : geometry.toMultiPolygon())
             AddRings(*polygon);
         return;

@@ -22,8 +22,8 @@ public:
     GeometryReader(FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation);
     ~GeometryReader();
 
-    /// One feature; several for a collection.
-    void Add(const OGRGeometry& geometry);
+    /// One feature; several for a collection. featureID: the source's ID, for all of them.
+    void Add(const OGRGeometry& geometry, qint64 featureID = NoFeatureID);
 
 private:
     void AddLinear(const OGRGeometry& geometry);
@@ -33,6 +33,7 @@ private:
 
     FeatureSet& m_features;
     std::unique_ptr<OGRCoordinateTransformation> m_transformation;
+    qint64 m_featureID = NoFeatureID; // of the feature being read
     std::vector<double> m_x, m_y; // the part being read
     std::vector<QPointF> m_points;
 };

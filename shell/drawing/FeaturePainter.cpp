@@ -21,6 +21,28 @@ Box Grown(const Box& box, double margin)
     return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
 }
 
+// Dots of the device a logical pixel.
+double DotsPerPixel(const QPainter& painter)
+{
+    const QTransform transform = painter.deviceTransform();
+    return std::max(1.0, std::hypot(transform.m11(), transform.m12()));
+}
+
+// Each bit of a pattern covers whole dots, and the patterns move along with the map.
+void AlignPattern(QPainter& painter, QBrush& fill, const MapView& view)
+{
+    const QImage tile = fill.textureImage();
+    if (tile.isNull())
+        return;
+    const double dots = DotsPerPixel(painter);
+    const double scale = std::round(dots) / dots;
+    fill.setTransform(QTransform::fromScale(scale, scale));
+    const QPointF origin = view.ToPixel({0, 0});
+    painter.setBrushOrigin(
+        std::round(std::fmod(origin.x(), tile.width() * scale) * dots) / dots,
+        std::round(std::fmod(origin.y(), tile.height() * scale) * dots) / dots);
+}
+
 bool Holds(const Box& outer, const Box& inner)
 {
     return outer.minX <= inner.minX && outer.minY <= inner.minY && inner.maxX <= outer.maxX
@@ -32,7 +54,8 @@ bool Holds(const Box& outer, const Box& inner)
 FeaturePainter::FeaturePainter(QPainter& painter, const MapView& view, const LayerLook& look)
     : m_painter(painter), m_view(view), m_look(look)
 {
-    m_tolerance = std::max(Tolerance, TolerancePerWidth * look.outline.widthF());
+    m_tolerance = std::max(Tolerance / DotsPerPixel(painter), TolerancePerWidth * look.outline.widthF());
+    AlignPattern(painter, m_look.fill, view);
     const double margin = std::ceil(look.outline.widthF() + 2 * look.symbolRadius) + 2;
     m_area = QRectF({0, 0}, QSizeF(view.Size())).adjusted(-margin, -margin, margin, margin);
     m_extent = Grown(view.Extent(), margin * view.UnitsPerPixel());

@@ -15,7 +15,8 @@ class QPainter;
 
 namespace Orvane {
 
-/// Draws features: clipped to the view, simplified to the pixel. May run in any thread that owns the painter.
+/// Draws features: clipped to the view, simplified to a dot of the painter's device. May run in any thread
+/// that owns the painter.
 class FeaturePainter
 {
 public:
@@ -35,7 +36,7 @@ private:
 
     QPainter& m_painter;
     const MapView m_view;
-    const LayerLook m_look;
+    LayerLook m_look;
     double m_tolerance; // pixels by which a line may be simplified
     QRectF m_area; // the view in pixels, grown by what a pen needs
     Box m_extent; // the same in map units

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/drawing/LayerLook.h"
 
+#include "ovctrls/LinePatterns.h"
+
 #include <OrvaneShellLib/IShellServices.h>
 
 #include <QImage>
@@ -9,7 +11,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int NoOutline = 15;
 constexpr int SolidFill = 0;
 constexpr int HollowFill = 15;
 constexpr int FillPatternKind = 7;
@@ -28,31 +29,15 @@ double PenWidth(int thickness, double pixelsPerMillimetre)
     return thickness == 0 ? 1 : thickness * pixelsPerMillimetre;
 }
 
-Qt::PenStyle PenStyleOf(int outlineStyle)
-{
-    switch (outlineStyle) {
-    case 1:
-        return Qt::DashLine;
-    case 2:
-        return Qt::DotLine;
-    case 3:
-        return Qt::DashDotLine;
-    case 4:
-        return Qt::DashDotDotLine;
-    case NoOutline:
-        return Qt::NoPen;
-    default:
-        return Qt::SolidLine;
-    }
-}
-
 QPen OutlineOf(const DrawingValues& values, double pixelsPerMillimetre)
 {
-    const Qt::PenStyle style = PenStyleOf(values.outlineStyle);
-    const Qt::PenCapStyle cap = style == Qt::SolidLine ? Qt::RoundCap : Qt::FlatCap;
-    return QPen(
-        OpaqueFromBgr(values.color), PenWidth(values.lineThickness, pixelsPerMillimetre), style, cap,
-        Qt::RoundJoin);
+    QPen pen(
+        OpaqueFromBgr(values.color), PenWidth(values.lineThickness, pixelsPerMillimetre), Qt::SolidLine,
+        Qt::RoundCap, Qt::RoundJoin);
+    SetLinePattern(pen, values.outlineStyle);
+    if (pen.style() != Qt::SolidLine)
+        pen.setCapStyle(Qt::FlatCap); // round ones would close the gaps
+    return pen;
 }
 
 // An image and not a bitmap: painting threads may not touch pixmaps.

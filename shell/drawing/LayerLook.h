@@ -17,7 +17,7 @@ struct DrawingValues {
     qint32 color = 0; ///< BGR; a top byte other than 0: symbols keep their own colour
     qint32 fillForeColor = 0; ///< BGR; a top byte other than 0: transparent
     qint32 fillBackColor = 0; ///< BGR; a top byte other than 0: transparent
-    int outlineStyle = 0; ///< 0 solid, 1 to 4 dashed and dotted, 15 none
+    int outlineStyle = 0; ///< as in LinePatterns.h: 0 solid, 1 to 14 dashes and dots, 15 none
     int fillStyle = 0; ///< 0 solid, 15 hollow, else the number of a fill pattern
     int lineThickness = 0; ///< negative: pixels; 0: thinnest; positive: millimetres
     qint32 style = 0; ///< renderer style

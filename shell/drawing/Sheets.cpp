@@ -93,14 +93,25 @@ SheetImage DrawSheet(
     result.image.fill(Qt::transparent);
     QPainter painter(&result.image);
     painter.translate(-area.topLeft());
+    PaintSheet(painter, sheet, view, cancelled);
+    return result;
+}
+
+void PaintSheet(
+    QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled)
+{
     for (const MapLayer& layer : sheet.layers)
         FeaturePainter(painter, view, layer.look).Paint(*layer.features, cancelled);
-    return result;
+}
+
+double SheetOpacity(const Sheet& sheet)
+{
+    return sheet.backdrop ? BackdropOpacity : 1;
 }
 
 void PlaceSheet(QPainter& painter, const Sheet& sheet, const SheetImage& image)
 {
-    painter.setOpacity(sheet.backdrop ? BackdropOpacity : 1);
+    painter.setOpacity(SheetOpacity(sheet));
     if (!image.image.isNull())
         painter.drawImage(image.topLeft, image.image);
 }

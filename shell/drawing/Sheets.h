@@ -39,6 +39,14 @@ std::vector<Sheet> PlanSheets(
 SheetImage DrawSheet(
     const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled);
 
+/// Paints a sheet's layers, for any thread. The painter stands on the view's logical pixels. Stops soon after
+/// cancelled becomes true.
+void PaintSheet(
+    QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled);
+
+/// How strongly a sheet is laid down: 0 to 1, which is opaque.
+double SheetOpacity(const Sheet& sheet);
+
 /// Lays a sheet's image over what the painter holds.
 void PlaceSheet(QPainter& painter, const Sheet& sheet, const SheetImage& image);
 

@@ -55,6 +55,20 @@ TEST_F(DataSourceTest, TellsItsLayersAndTheirSystem)
     EXPECT_EQ(source.Layers()[0].system, "EPSG:4326");
 }
 
+TEST_F(DataSourceTest, EachFeatureKnowsItsIDInTheSource)
+{
+    const QString path = m_folder.WriteGeometries(
+        "points.geojson",
+        {R"({"type":"Point","coordinates":[1,1]})", R"({"type":"Point","coordinates":[2,2]})",
+         R"({"type":"GeometryCollection","geometries":[{"type":"Point","coordinates":[3,3]},
+            {"type":"Point","coordinates":[4,4]}]})"});
+    const FeatureSet all = Read(path);
+    ASSERT_EQ(all.Features().size(), 4u);
+    EXPECT_NE(all.FeatureId(0), all.FeatureId(1));
+    EXPECT_EQ(all.FeatureId(2), all.FeatureId(3));
+    EXPECT_EQ(Read(path, "type = 'b'").FeatureId(0), all.FeatureId(1));
+}
+
 TEST_F(DataSourceTest, ReadsEveryKindOfGeometry)
 {
     const FeatureSet set = Read(m_folder.WriteGeometries(

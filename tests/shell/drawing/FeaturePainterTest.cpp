@@ -105,6 +105,48 @@ TEST_F(FeaturePainterTest, APointIsASymbolInTheLayersColour)
     EXPECT_EQ(At(70, 49), QColor(Qt::white));
 }
 
+TEST_F(FeaturePainterTest, APatternMovesAlongWithTheMap)
+{
+    QImage tile(8, 8, QImage::Format_ARGB32_Premultiplied);
+    tile.fill(Qt::yellow);
+    tile.setPixelColor(0, 0, Qt::black);
+    m_look.fill = QBrush(tile);
+    const auto firstBlack = [this](QPointF centre) {
+        m_image.fill(Qt::white);
+        QPainter painter(&m_image);
+        FeaturePainter(painter, MapView(centre, 1, View.Size()), m_look)
+            .Paint(*Area(-100, -100, 200, 200), m_cancelled);
+        for (int x = 0; x < 8; ++x) {
+            for (int y = 0; y < 8; ++y) {
+                if (m_image.pixelColor(x, y) == QColor(Qt::black))
+                    return QPoint(x, y);
+            }
+        }
+        return QPoint(-1, -1);
+    };
+    const QPoint before = firstBlack({50, 50});
+    EXPECT_EQ(firstBlack({47, 50}), QPoint((before.x() + 3) % 8, before.y()));
+    EXPECT_EQ(firstBlack({50, 52}), QPoint(before.x(), (before.y() + 2) % 8));
+}
+
+TEST_F(FeaturePainterTest, EachBitOfAPatternCoversWholeDots)
+{
+    QImage tile(2, 2, QImage::Format_ARGB32_Premultiplied);
+    tile.fill(Qt::yellow);
+    tile.setPixelColor(0, 0, Qt::black);
+    tile.setPixelColor(1, 1, Qt::black);
+    m_look.fill = QBrush(tile);
+    m_image = QImage(150, 150, QImage::Format_RGB32);
+    m_image.fill(Qt::white);
+    m_image.setDevicePixelRatio(1.5);
+    Paint(*Area(-100, -100, 200, 200));
+    for (int x = 1; x < 140; ++x) {
+        const QColor colour = m_image.pixelColor(x, 20);
+        EXPECT_TRUE(colour == QColor(Qt::black) || colour == QColor(Qt::yellow)) << x;
+        EXPECT_EQ(colour == m_image.pixelColor(x + 2, 20), false) << x;
+    }
+}
+
 TEST_F(FeaturePainterTest, CancelledWorkDrawsNothingMore)
 {
     m_cancelled = true;

@@ -56,8 +56,8 @@ TEST(LayerLook, ANegativeThicknessCountsPixelsAndAPositiveOneMillimetres)
 TEST(LayerLook, TheLineStylesAreToldApart)
 {
     const std::pair<int, Qt::PenStyle> styles[]
-        = {{0, Qt::SolidLine},      {1, Qt::DashLine}, {2, Qt::DotLine},  {3, Qt::DashDotLine},
-           {4, Qt::DashDotDotLine}, {15, Qt::NoPen},   {9, Qt::SolidLine}};
+        = {{0, Qt::SolidLine},      {1, Qt::DashLine}, {2, Qt::DotLine},       {3, Qt::DashDotLine},
+           {4, Qt::DashDotDotLine}, {15, Qt::NoPen},   {9, Qt::CustomDashLine}};
     for (const auto& [stored, drawn] : styles) {
         DrawingValues values;
         values.outlineStyle = stored;
