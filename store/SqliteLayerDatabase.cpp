@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/SqliteLayerDatabase.h"
 
+#include "store/ChangeRecorder.h"
+#include "store/ChangesetApplying.h"
 #include "store/LayerFileCheck.h"
 #include "store/LayerSchema.h"
 #include "store/QueryCursor.h"
@@ -135,6 +137,16 @@ void SqliteLayerDatabase::Execute(const QString& sql, const std::vector<Value>& 
         return;
     }
     m_session->transactions.RunWrite(*statement);
+}
+
+std::unique_ptr<ChangeRecorder> SqliteLayerDatabase::RecordChanges()
+{
+    return std::make_unique<ChangeRecorder>(m_session->connection);
+}
+
+std::optional<Changeset> SqliteLayerDatabase::Apply(const Changeset& changes)
+{
+    return ApplyChangeset(*m_session, changes);
 }
 
 QString SqliteLayerDatabase::Path() const

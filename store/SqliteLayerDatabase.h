@@ -11,10 +11,13 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Orvane {
 
+class ChangeRecorder;
+class Changeset;
 struct SqliteSession;
 
 /// A layer database in an SQLite file, or in memory.
@@ -60,6 +63,14 @@ public:
 
     /// A cursor over a query with parameters. The caller owns it and destroys it before the database.
     std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values = {});
+
+    /// Notes what changes from now on; the caller owns the recorder and destroys it before the database.
+    std::unique_ptr<ChangeRecorder> RecordChanges();
+    /// Makes changes that were recorded in this database, in one transaction, and answers what changed by it:
+    /// more than was asked for where rows went with others that they refer to. Answers nothing, and changes
+    /// nothing, when a row is not as the changes expect it, or another row stands in its place. A row that is
+    /// to go may be gone already.
+    std::optional<Changeset> Apply(const Changeset& changes);
 
     /// The file as it was given; empty in memory.
     QString Path() const;
