@@ -38,6 +38,17 @@ DrawingValues ValuesOfRow(const IRecordset& row)
     return values;
 }
 
+LayerFlags FlagsOfRow(const IRecordset& row)
+{
+    LayerFlags flags;
+    flags.selectable = WholeOr(row, "Selectable", 1) != 0;
+    flags.locked = WholeOr(row, "locked", 0) != 0;
+    flags.hitable = WholeOr(row, "Hitable", 1) != 0;
+    flags.snapRequired = WholeOr(row, "SnapRequired", 0) != 0;
+    flags.enquirable = WholeOr(row, "Enquirable", 1) != 0;
+    return flags;
+}
+
 DrawMode ModeOfRow(const IRecordset& row)
 {
     const int mode = WholeOr(row, "OverrideMode", 0);
@@ -95,7 +106,10 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
 {
     MapLayer layer;
     layer.layerID = ToInt32(row.Field("LayerID"));
+    const Value name = row.Field("Name");
+    layer.name = name.IsNull() ? QString() : ToText(name);
     layer.visible = WholeOr(row, "Visible", 1) != 0;
+    layer.flags = FlagsOfRow(row);
     layer.mode = ModeOfRow(row);
     layer.priority = WholeOr(row, "Priority", MaximumPriority);
     layer.minDenominator = NumberOr(row, "MinVisScale", 0);

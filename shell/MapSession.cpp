@@ -56,6 +56,8 @@ void MapSession::Connect()
     connect(
         &events, &HostNotifications::LayerCreated, this, [this](qint32 layerID) { DrawAgain({layerID}); });
     connect(
+        &events, &HostNotifications::LayerRenamed, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+    connect(
         &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
 }
 

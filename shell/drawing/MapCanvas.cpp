@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/drawing/MapCanvas.h"
 
+#include "shell/Guard.h"
+#include "shell/drawing/MapTool.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -40,7 +43,7 @@ MapCanvas::MapCanvas(QWidget* parent) : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    setCursor(Qt::OpenHandCursor);
+    ShowCursor();
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_drawSoon.setSingleShot(true);
     m_drawSoon.setInterval(DrawDelay);
@@ -52,6 +55,8 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
 {
     m_metresPerUnit = metresPerUnit;
     m_picture.SetLayers(std::move(layers));
+    emit LayersChanged();
+    update();
 }
 
 void MapCanvas::SetView(const MapView& view)
@@ -89,10 +94,38 @@ void MapCanvas::ZoomOut()
     SetView(m_view.ZoomedAt(MiddlePixel(), 1 / ZoomStep));
 }
 
+void MapCanvas::SetTool(MapTool* tool)
+{
+    if (tool == Tool())
+        return;
+    Guard(window(), [&] { m_gestures.SetTool(tool); });
+    ShowCursor();
+    update();
+    emit ToolChanged();
+}
+
+void MapCanvas::AddOverlay(const MapOverlay* overlay)
+{
+    m_overlays.push_back(overlay);
+    update();
+}
+
+void MapCanvas::RemoveOverlay(const MapOverlay* overlay)
+{
+    std::erase(m_overlays, overlay);
+    update();
+}
+
 void MapCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
+    PaintMap(painter);
+    PaintOverlays(painter);
+}
+
+void MapCanvas::PaintMap(QPainter& painter)
+{
     if (m_picture.Image().isNull())
         return;
     const MapView& drawn = m_picture.ImageView();
@@ -102,6 +135,17 @@ void MapCanvas::paintEvent(QPaintEvent*)
     painter.drawImage(QRectF(topLeft, QSizeF(drawn.Size()) * stretch), m_picture.Image());
 }
 
+void MapCanvas::PaintOverlays(QPainter& painter)
+{
+    for (const MapOverlay* overlay : m_overlays) {
+        painter.save();
+        overlay->Paint(painter, m_view);
+        painter.restore();
+    }
+    if (const MapTool* tool = Tool())
+        tool->Paint(painter, m_view);
+}
+
 void MapCanvas::resizeEvent(QResizeEvent*)
 {
     SetView(m_view.Resized(size()));
@@ -109,15 +153,20 @@ void MapCanvas::resizeEvent(QResizeEvent*)
 
 void MapCanvas::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)
-        return;
-    m_dragging = true;
-    m_dragFrom = event->position();
-    setCursor(Qt::ClosedHandCursor);
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.Press(*event); });
+    if (!taken && (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton))
+        BeginPan(event->position());
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event)
 {
+    if (!m_dragging) {
+        Guard(window(), [&] {
+            if (m_gestures.Move(*event) == ToolGestures::Outcome::PanFromPress)
+                BeginPan(m_gestures.PressedAt());
+        });
+    }
     if (m_dragging) {
         SetView(m_view.Panned(event->position() - m_dragFrom));
         m_dragFrom = event->position();
@@ -125,15 +174,18 @@ void MapCanvas::mouseMoveEvent(QMouseEvent* event)
     emit PointerMoved(m_view.ToMap(event->position()));
 }
 
-void MapCanvas::mouseReleaseEvent(QMouseEvent*)
+void MapCanvas::mouseReleaseEvent(QMouseEvent* event)
 {
     m_dragging = false;
-    setCursor(Qt::OpenHandCursor);
+    Guard(window(), [&] { m_gestures.Release(*event); });
+    ShowCursor();
 }
 
 void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.DoubleClick(*event); });
+    if (!taken && event->button() == Qt::LeftButton)
         SetView(m_view.ZoomedAt(event->position(), ZoomStep * ZoomStep));
 }
 
@@ -146,6 +198,10 @@ void MapCanvas::wheelEvent(QWheelEvent* event)
 
 void MapCanvas::keyPressEvent(QKeyEvent* event)
 {
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.Key(*event); });
+    if (taken)
+        return;
     const QPointF direction = ArrowDirection(event->key());
     if (!direction.isNull())
         SetView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
@@ -157,6 +213,24 @@ void MapCanvas::keyPressEvent(QKeyEvent* event)
         ZoomOut();
     else
         QWidget::keyPressEvent(event);
+}
+
+void MapCanvas::leaveEvent(QEvent*)
+{
+    emit PointerLeft();
+}
+
+void MapCanvas::BeginPan(QPointF from)
+{
+    m_dragging = true;
+    m_dragFrom = from;
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void MapCanvas::ShowCursor()
+{
+    const MapTool* tool = Tool();
+    setCursor(tool ? tool->Cursor() : QCursor(Qt::OpenHandCursor));
 }
 
 void MapCanvas::DrawAnew()

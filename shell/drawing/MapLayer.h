@@ -4,8 +4,11 @@
 #include "shell/data/FeatureSet.h"
 #include "shell/drawing/LayerLook.h"
 
+#include <QString>
+
 #include <limits>
 #include <memory>
+#include <tuple>
 
 namespace Orvane {
 
@@ -14,6 +17,17 @@ enum class DrawMode {
     Normal = 0,
     Backdrop = 1, ///< pale, and below every normal layer
     Hidden = 2, ///< not at all
+};
+
+/// What a person may do with a layer's features on the map.
+struct LayerFlags {
+    bool selectable = true;
+    bool locked = false; ///< its features stay where they are
+    bool hitable = true; ///< off: its features are not found under the pointer, whatever the other flags say
+    bool snapRequired = false; ///< measuring lines snap to its features
+    bool enquirable = true;
+
+    bool operator==(const LayerFlags&) const = default;
 };
 
 /// One layer as the map draws it.
@@ -27,6 +41,21 @@ struct MapLayer {
     DrawingValues values;
     LayerLook look; ///< follows from the values
     std::shared_ptr<const FeatureSet> features; ///< nullptr while they cannot be read
+    QString name; ///< the layer's own, without markers
+    LayerFlags flags;
+
+    /// True when the scale 1 : denominator is one that shows the layer.
+    bool IsInScale(double denominator) const
+    {
+        return denominator >= minDenominator && denominator <= maxDenominator;
+    }
+    /// True when the map shows the layer at that scale, as far as the layer itself decides it.
+    bool IsShownAt(double denominator) const
+    {
+        return visible && mode != DrawMode::Hidden && features && IsInScale(denominator);
+    }
+    /// Orders layers as they lie upon each other, the lowest first.
+    auto Height() const { return std::tuple(mode != DrawMode::Backdrop, -priority, layerID); }
 
     /// True when both would be drawn into the same pixels.
     bool LooksLike(const MapLayer& other) const

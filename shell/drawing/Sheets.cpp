@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <cmath>
-#include <tuple>
 
 namespace Orvane {
 
@@ -21,15 +20,7 @@ double MarginPixels(const LayerLook& look)
 
 bool IsDrawn(const MapLayer& layer, const Box& extent, double scaleDenominator)
 {
-    return layer.visible && layer.mode != DrawMode::Hidden && layer.features
-        && layer.features->Bounds().Intersects(extent) && scaleDenominator >= layer.minDenominator
-        && scaleDenominator <= layer.maxDenominator;
-}
-
-// Bottom first.
-auto DrawOrder(const MapLayer& layer)
-{
-    return std::tuple(layer.mode != DrawMode::Backdrop, -layer.priority, layer.layerID);
+    return layer.IsShownAt(scaleDenominator) && layer.features->Bounds().Intersects(extent);
 }
 
 // The pixels that the sheet's layers can touch.
@@ -66,7 +57,7 @@ std::vector<Sheet> PlanSheets(
             drawn.push_back(layer);
     }
     std::sort(drawn.begin(), drawn.end(), [](const MapLayer& a, const MapLayer& b) {
-        return DrawOrder(a) < DrawOrder(b);
+        return a.Height() < b.Height();
     });
 
     const size_t perSheet = (drawn.size() + maxSheets - 1) / maxSheets;

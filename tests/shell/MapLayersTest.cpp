@@ -57,6 +57,19 @@ TEST_F(MapLayersTest, ReadsWhatARowSaysOfDrawing)
     EXPECT_EQ(First().maxDenominator, 2500);
 }
 
+TEST_F(MapLayersTest, ReadsWhatARowSaysOfTheToolsOnTheMap)
+{
+    EXPECT_EQ(First().name, "Roads");
+    EXPECT_EQ(First().flags, LayerFlags());
+    Change("Selectable = 0, locked = 1, Hitable = 0, SnapRequired = -1, Enquirable = 0");
+    m_layers.ReadAll();
+    EXPECT_FALSE(First().flags.selectable);
+    EXPECT_TRUE(First().flags.locked);
+    EXPECT_FALSE(First().flags.hitable);
+    EXPECT_TRUE(First().flags.snapRequired);
+    EXPECT_FALSE(First().flags.enquirable);
+}
+
 TEST_F(MapLayersTest, NullColumnsAreDrawnPlainly)
 {
     Change("Color = NULL, FillStyle = NULL, Priority = NULL, OverrideMode = NULL, Visible = NULL, "
