@@ -43,7 +43,7 @@ check_headers() {
 check_lint() {
     step "Lint"
     sources | grep '\.cpp$' | grep -vE '^(tests|benchmarks)/' |
-        xargs -P "$jobs" -n 1 tools/lint_one.sh "$1" || fail "lint"
+        xargs tools/lint.py "$1" || fail "lint"
 }
 
 check_format
