@@ -9,6 +9,7 @@
 #include "shell/RecentMaps.h"
 #include "shell/RunWithProgress.h"
 #include "shell/drawing/MapCanvas.h"
+#include "shell/output/OutputActions.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -77,6 +78,8 @@ MainWindow::MainWindow(CallTrace* trace)
     SetIcons();
     MakeStatusBar();
     ConnectActions();
+    auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
+    output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     ConnectCanvas();
     RestoreWindow();
     Use(MapDocument::Untitled());

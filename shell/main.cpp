@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/tracing/CallTrace.h"
 #include "messages/CatalogueTranslator.h"
-#include "shell/CommandLine.h"
+#include "shell/CatalogueFile.h"
 #include "shell/Guard.h"
 #include "shell/MainWindow.h"
 #include "shell/RecentMaps.h"
-#include "shell/sample/SampleMap.h"
+#include "shell/command/CommandLine.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
+#include <QTextStream>
 
 #include <cstdio>
 #include <optional>
@@ -18,20 +19,21 @@ using namespace Orvane;
 
 namespace {
 
-// "de" for the first of the person's languages that there is a catalogue for; a null text for none.
-QString CatalogueFile()
+// Translations and names, once there is an application object.
+class Setting
 {
-    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/translations/orvane.");
-    for (const QString& language : QLocale().uiLanguages()) {
-        for (const QString& name : {language, language.section(QLatin1Char('-'), 0, 0)}) {
-            if (name == QLatin1String("en"))
-                return {};
-            if (QFile::exists(folder + name + QLatin1String(".ts")))
-                return folder + name + QLatin1String(".ts");
-        }
+public:
+    Setting() : m_translator(MessageCatalogue::FromFile(CatalogueFile(QLocale().uiLanguages())))
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("Orvane"));
+        QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
+        QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+        QCoreApplication::installTranslator(&m_translator);
     }
-    return {};
-}
+
+private:
+    CatalogueTranslator m_translator;
+};
 
 void OpenFirstMap(MainWindow& window, const QString& asked)
 {
@@ -40,47 +42,64 @@ void OpenFirstMap(MainWindow& window, const QString& asked)
         Guard(&window, [&] { window.OpenMap(map); });
 }
 
-int MakeSample(const CommandLine& line)
+int ShowWindow(const QApplication& application, const WindowRequest& request, const Terminal& terminal)
 {
-    try {
-        MakeSampleMap(line.sampleMap, line.dataFolder);
-        return 0;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "orvane: %s\n", error.what());
-        return 1;
-    }
-}
-
-int ShowWindow(const QApplication& application, const CommandLine& line)
-{
-    QFile traceFile(line.traceFile);
+    QFile traceFile(request.traceFile);
     std::optional<CallTrace> trace;
-    if (!line.traceFile.isEmpty()) {
+    if (!request.traceFile.isEmpty()) {
         if (!traceFile.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-            std::fprintf(
-                stderr, "orvane: %s: %s\n", qPrintable(line.traceFile), qPrintable(traceFile.errorString()));
-            return 1;
+            TellError(terminal, request.traceFile + QStringLiteral(": ") + traceFile.errorString());
+            return ExitCode::Problems;
         }
         trace.emplace(traceFile);
     }
     MainWindow window(trace ? &*trace : nullptr);
     window.show();
-    OpenFirstMap(window, line.map);
-    if (line.layerControl)
+    OpenFirstMap(window, request.map);
+    if (request.layerControl)
         Guard(&window, [&] { window.ShowLayerControl(); });
     return application.exec();
+}
+
+QStringList WordsOf(int argc, char** argv)
+{
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words << QString::fromLocal8Bit(argv[i]);
+    return words;
+}
+
+// Hints about desktops are noise where there is none.
+void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+// Fonts and pictures need a platform, but not a display.
+int RunWithoutWindow(int argc, char** argv, const Terminal& terminal)
+{
+    qInstallMessageHandler(DropHints);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const Setting setting;
+    return std::get<int>(RunCommandLine(QCoreApplication::arguments(), terminal));
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    QTextStream out(stdout);
+    QTextStream errors(stderr);
+    const Terminal terminal{out, errors};
+    if (NeedsNoWindow(WordsOf(argc, argv)))
+        return RunWithoutWindow(argc, argv, terminal);
     const QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Orvane"));
-    QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
-    CatalogueTranslator translator(MessageCatalogue::FromFile(CatalogueFile()));
-    QCoreApplication::installTranslator(&translator);
-    const CommandLine line = ReadCommandLine(application);
-    return line.sampleMap.isEmpty() ? ShowWindow(application, line) : MakeSample(line);
+    const Setting setting;
+    const auto answer = RunCommandLine(QCoreApplication::arguments(), terminal);
+    if (const int* ended = std::get_if<int>(&answer))
+        return *ended;
+    return ShowWindow(application, std::get<WindowRequest>(answer), terminal);
 }

@@ -448,12 +448,312 @@
         <translation>Die Beispielkarte aus den Weltdaten in FOLDER anlegen, falls dort welche sind.</translation>
     </message>
     <message>
-        <source>Orvane, a small desktop map program.</source>
-        <translation>Orvane, ein kleines Kartenprogramm.</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>Die Kartendatei, die geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+Without a window it does these, each with a --help of its own:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             look for what is wrong with a map file</source>
+        <translation>Orvane, ein kleines Kartenprogramm.
+
+Ohne Fenster kann es dies, jeweils mit eigenem --help:
+  orvane MAP --export FILE     eine Karte als PDF, SVG oder PNG zeichnen
+  orvane import DATA --to MAP  Daten zu einer Kartendatei hinzufügen
+  orvane check MAP             nachsehen, was an einer Kartendatei nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Tell the version.</source>
+        <translation>Die Version nennen.</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>Ein Argument fehlt.</translation>
+    </message>
+    <message>
+        <source>There is an argument too many.</source>
+        <translation>Es ist ein Argument zu viel.</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
+        <translation>„orvane %1--help“ zählt auf, was möglich ist.</translation>
+    </message>
+    <message>
+        <source>Mend what can be mended.</source>
+        <translation>Beheben, was sich beheben lässt.</translation>
+    </message>
+    <message>
+        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
+Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
+        <translation>Nachsehen, was an einer Kartendatei nicht stimmt: Schäden, Zeilen, die ins Leere führen, fehlende Daten.
+Rückgabewert: 0 alles in Ordnung, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>Die Kartendatei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is sound.</source>
+        <translation>„%1“ ist in Ordnung.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>Zu „%1“ hinzugefügte Layer: %2</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>Die Kartendatei, zu der hinzugefügt wird; fehlt sie, wird sie angelegt.</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
+Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>Dateien, oder Ordner mit Dateien.</translation>
+    </message>
+    <message>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>„--to MAP“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
+        <translation>Die zu schreibende Datei; ihre Endung .pdf, .svg oder .png sagt, was.</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>Die Layer so zeichnen, wie dieses Schema sie hat; die Kartendatei bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>Im Maßstab 1:N um die Kartenmitte zeichnen.</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
+        <translation>A5 bis A0, Letter, Legal, Tabloid, 200x150mm oder 1600x900px. A4, wenn nichts angegeben ist.</translation>
+    </message>
+    <message>
+        <source>Stand the paper upright.</source>
+        <translation>Das Papier hochkant stellen.</translation>
+    </message>
+    <message>
+        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
+        <translation>Punkte je Zoll; 300, wenn nichts angegeben ist, 96 bei einer Größe in Pixeln.</translation>
+    </message>
+    <message>
+        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
+        <translation>Der Titel; der Name der Karte, wenn nichts angegeben ist, keiner bei &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>Die Legende weglassen.</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>Die Maßstabsleiste weglassen.</translation>
+    </message>
+    <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>Nur die Karte, bis an den Rand der Seite.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of a page.</source>
+        <translation>„%1“ ist keine Seitengröße.</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>Die Exportdatei muss auf .pdf, .svg oder .png enden.</translation>
+    </message>
+    <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>Eine Karte als PDF, SVG oder PNG zeichnen. Die Kartendatei wird nur gelesen.
+Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>Die Seite kann nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
+    </message>
+    <message>
+        <source>its name must end in .pdf, .svg or .png</source>
+        <translation>ihr Name muss auf .pdf, .svg oder .png enden</translation>
+    </message>
+    <message>
+        <source>Export Map</source>
+        <translation>Karte exportieren</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>Karte drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Preview...</source>
+        <translation>&amp;Vorschau...</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>Als Bild: %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Export Map...</source>
+        <translation>Karte &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>Die Karte als PDF, SVG oder PNG schreiben</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>Die Karte drucken, mit Vorschau</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>Die Karte wird gezeichnet</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>Die Karte wurde nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG-Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Auflösung:</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>All that the &amp;window shows, as large as fits</source>
+        <translation>Alles, was das &amp;Fenster zeigt, so groß es passt</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>Im Maßstab &amp;1:</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>Maßstab 1:</translation>
+    </message>
+    <message>
+        <source>Beside the map</source>
+        <translation>Neben der Karte</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>Titel der Karte</translation>
+    </message>
+    <message>
+        <source>&amp;Legend of what is shown</source>
+        <translation>&amp;Legende des Gezeigten</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>Maßsta&amp;bsleiste</translation>
     </message>
 </context>
 </TS>

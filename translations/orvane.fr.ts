@@ -448,12 +448,312 @@
         <translation>Créer la carte d’exemple à partir des données mondiales de FOLDER, s’il y en a.</translation>
     </message>
     <message>
-        <source>Orvane, a small desktop map program.</source>
-        <translation>Orvane, un petit programme de cartographie.</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>Le fichier de carte à ouvrir.</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+Without a window it does these, each with a --help of its own:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             look for what is wrong with a map file</source>
+        <translation>Orvane, un petit logiciel de cartes.
+
+Sans fenêtre, il sait faire ceci, chaque commande ayant son propre --help :
+  orvane MAP --export FILE     dessiner une carte en PDF, SVG ou PNG
+  orvane import DATA --to MAP  ajouter des données à un fichier de carte
+  orvane check MAP             chercher ce qui ne va pas dans un fichier de carte</translation>
+    </message>
+    <message>
+        <source>Tell the version.</source>
+        <translation>Indiquer la version.</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>Il manque un argument.</translation>
+    </message>
+    <message>
+        <source>There is an argument too many.</source>
+        <translation>Il y a un argument de trop.</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
+        <translation>« orvane %1--help » énumère ce qui est possible.</translation>
+    </message>
+    <message>
+        <source>Mend what can be mended.</source>
+        <translation>Réparer ce qui peut l'être.</translation>
+    </message>
+    <message>
+        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
+Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
+        <translation>Chercher ce qui ne va pas dans un fichier de carte : dégâts, lignes qui ne mènent nulle part, données absentes.
+Code de sortie : 0 tout va bien, 1 quelque chose ne va pas, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>Le fichier de carte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is sound.</source>
+        <translation>« %1 » est en bon état.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Il n'y a rien à importer.</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>Couches ajoutées à « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>Le fichier de carte à compléter ; il est créé s'il n'existe pas.</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
+Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
+    </message>
+    <message>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>« --to MAP » manque.</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
+        <translation>Le fichier à écrire ; sa fin .pdf, .svg ou .png dit le format.</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>Dessiner les couches comme dans ce schéma ; le fichier de carte reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>Dessiner à l'échelle 1:N autour du centre de la carte.</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
+        <translation>A5 à A0, Letter, Legal, Tabloid, 200x150mm ou 1600x900px. A4 sans indication.</translation>
+    </message>
+    <message>
+        <source>Stand the paper upright.</source>
+        <translation>Mettre le papier debout.</translation>
+    </message>
+    <message>
+        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
+        <translation>Points par pouce ; 300 sans indication, 96 pour une taille en pixels.</translation>
+    </message>
+    <message>
+        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
+        <translation>Le titre ; le nom de la carte sans indication, aucun pour &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>Omettre la légende.</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>Omettre la barre d'échelle.</translation>
+    </message>
+    <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 demande un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of a page.</source>
+        <translation>« %1 » n'est pas une taille de page.</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>Le fichier à exporter doit se terminer par .pdf, .svg ou .png.</translation>
+    </message>
+    <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>Dessiner une carte en PDF, SVG ou PNG. Le fichier de carte est seulement lu.
+Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>La page ne peut pas être dessinée.</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
+    </message>
+    <message>
+        <source>its name must end in .pdf, .svg or .png</source>
+        <translation>son nom doit se terminer par .pdf, .svg ou .png</translation>
+    </message>
+    <message>
+        <source>Export Map</source>
+        <translation>Exporter la carte</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>Imprimer la carte</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporter...</translation>
+    </message>
+    <message>
+        <source>&amp;Preview...</source>
+        <translation>A&amp;perçu...</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>Taille libre</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>En image : %1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Export Map...</source>
+        <translation>&amp;Exporter la carte...</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimer...</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>Écrire la carte en PDF, SVG ou PNG</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>Imprimer la carte, avec aperçu</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>Dessin de la carte</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>La carte a été écrite dans %1</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>Dessin SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>Image PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier :</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>Ta&amp;ille :</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution :</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>All that the &amp;window shows, as large as fits</source>
+        <translation>Tout ce que montre la &amp;fenêtre, aussi grand que possible</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>À l'échelle &amp;1 :</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>Échelle 1 :</translation>
+    </message>
+    <message>
+        <source>Beside the map</source>
+        <translation>Autour de la carte</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre :</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>Titre de la carte</translation>
+    </message>
+    <message>
+        <source>&amp;Legend of what is shown</source>
+        <translation>&amp;Légende de ce qui est montré</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>&amp;Barre d'échelle</translation>
     </message>
 </context>
 </TS>

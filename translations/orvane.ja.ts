@@ -448,12 +448,312 @@
         <translation>FOLDER に世界のデータがあれば、それからサンプル地図を作成します。</translation>
     </message>
     <message>
-        <source>Orvane, a small desktop map program.</source>
-        <translation>Orvane、小さなデスクトップ地図プログラム。</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>開く地図ファイル。</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+Without a window it does these, each with a --help of its own:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             look for what is wrong with a map file</source>
+        <translation>Orvane は小さなデスクトップ地図プログラムです。
+
+ウィンドウなしで次のことができます。それぞれに --help があります:
+  orvane MAP --export FILE     地図を PDF、SVG、PNG として描く
+  orvane import DATA --to MAP  地図ファイルにデータを追加する
+  orvane check MAP             地図ファイルの問題を調べる</translation>
+    </message>
+    <message>
+        <source>Tell the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>引数が足りません。</translation>
+    </message>
+    <message>
+        <source>There is an argument too many.</source>
+        <translation>引数が多すぎます。</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
+        <translation>「orvane %1--help」で使い方の一覧が表示されます。</translation>
+    </message>
+    <message>
+        <source>Mend what can be mended.</source>
+        <translation>直せるものを直します。</translation>
+    </message>
+    <message>
+        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
+Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
+        <translation>地図ファイルの問題 (破損、参照先のない行、見つからないデータ) を調べます。
+終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>地図ファイル。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is sound.</source>
+        <translation>「%1」に問題はありません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>取り込むものがありません。</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>「%1」に追加したレイヤー: %2</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>追加先の地図ファイル。なければ作成します。</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
+終了コード: 0 すべて追加、1 追加できないものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>ファイル、またはファイルの入ったフォルダー。</translation>
+    </message>
+    <message>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>「--to MAP」がありません。</translation>
+    </message>
+    <message>
+        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
+        <translation>書き出すファイル。拡張子 .pdf、.svg、.png が形式を決めます。</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>このスキームのとおりにレイヤーを描きます。地図ファイルは変わりません。</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>地図の中央を縮尺 1:N で描きます。</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
+        <translation>A5～A0、Letter、Legal、Tabloid、200x150mm、1600x900px など。省略時は A4。</translation>
+    </message>
+    <message>
+        <source>Stand the paper upright.</source>
+        <translation>用紙を縦にします。</translation>
+    </message>
+    <message>
+        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
+        <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
+    </message>
+    <message>
+        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
+        <translation>表題。省略時は地図の名前、&quot;&quot; ならなし。</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>凡例を省きます。</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>縮尺バーを省きます。</translation>
+    </message>
+    <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>地図だけを、ページの端まで描きます。</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 には %2 から %3 までの数が必要です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size of a page.</source>
+        <translation>「%1」はページの大きさではありません。</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>書き出すファイルの拡張子は .pdf、.svg、.png のいずれかです。</translation>
+    </message>
+    <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>地図を PDF、SVG、PNG として描きます。地図ファイルは読むだけです。
+終了コード: 0 すべて描画、1 描けないものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>「%1」を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>ページを描けません。</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>its name must end in .pdf, .svg or .png</source>
+        <translation>名前の末尾は .pdf、.svg、.png のいずれかです</translation>
+    </message>
+    <message>
+        <source>Export Map</source>
+        <translation>地図の書き出し</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>地図の印刷</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Preview...</source>
+        <translation>プレビュー(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>任意の大きさ</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>画像として: %1 × %2 ピクセル</translation>
+    </message>
+    <message>
+        <source>&amp;Export Map...</source>
+        <translation>地図の書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>印刷(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>地図を PDF、SVG、PNG として書き出します</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>プレビューを見てから地図を印刷します</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>地図を描いています</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>地図を %1 に書き出しました</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF 文書 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG 図形 (*.svg)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 画像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>用紙(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Wide</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>大きさ(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>解像度(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>All that the &amp;window shows, as large as fits</source>
+        <translation>ウィンドウに見えている範囲をできるだけ大きく(&amp;W)</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>縮尺(&amp;1) 1:</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>縮尺 1:</translation>
+    </message>
+    <message>
+        <source>Beside the map</source>
+        <translation>地図のほかに</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>表題(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>地図の表題</translation>
+    </message>
+    <message>
+        <source>&amp;Legend of what is shown</source>
+        <translation>見えているものの凡例(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>縮尺バー(&amp;B)</translation>
     </message>
 </context>
 </TS>

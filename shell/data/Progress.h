@@ -24,6 +24,8 @@ public:
 
     void Cancel() { m_cancelled = true; }
     bool IsCancelled() const { return m_cancelled; }
+    /// For workers that look at a flag.
+    const std::atomic<bool>& CancelledFlag() const { return m_cancelled; }
     /// Raises Cancelled when the work is no longer wanted.
     void StopIfCancelled() const
     {

@@ -154,6 +154,7 @@ TextPlaces ComponentTexts()
     TextPlaces places;
     NoteFolder(places, "component", {{"TranslateMsg", 0}, {"QT_TR_NOOP", 0}, {"RunTimeError", 1}});
     NoteFolder(places, "OrvaneShellLib", {{"RunTimeError", 1}});
+    NoteFolder(places, "samples", {{"RunTimeError", 1}});
     NoteFolder(places, "ovctrls", {{"QT_TR_NOOP", 0}}); // shown in the forms of the component
     return places;
 }

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "shell/CatalogueFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace Orvane {
+
+namespace {
+
+QString FileFor(const QString& language)
+{
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const char* folder : {"/translations/", "/../share/orvane/translations/"}) {
+        const QString file = program + QLatin1String(folder) + QStringLiteral("orvane.%1.ts").arg(language);
+        if (QFile::exists(file))
+            return file;
+    }
+    return {};
+}
+
+} // namespace
+
+QString CatalogueFile(const QStringList& languages)
+{
+    for (const QString& language : languages) {
+        for (const QString& name : {language, language.section(QLatin1Char('-'), 0, 0)}) {
+            if (name == QLatin1String("en"))
+                return {};
+            const QString file = FileFor(name);
+            if (!file.isEmpty())
+                return file;
+        }
+    }
+    return {};
+}
+
+} // namespace Orvane

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+namespace Orvane {
+
+/// The message file of the host's own texts for the first of these languages ("de-CH", "de") that there is
+/// one for; a null text for none, and where English comes first. Looks in "translations" beside the program,
+/// as it is built, and in "share/orvane/translations", as it is installed.
+QString CatalogueFile(const QStringList& languages);
+
+} // namespace Orvane

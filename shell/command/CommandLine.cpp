@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/CommandLine.h"
+
+#include "shell/command/CheckCommand.h"
+#include "shell/command/ExportCommand.h"
+#include "shell/command/ImportCommand.h"
+#include "shell/sample/SampleMap.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+// Does one command; what it raises is told, and makes it a failure.
+template <typename Command> int Told(const Terminal& terminal, Command&& command)
+{
+    try {
+        return command();
+    } catch (const std::exception& error) {
+        TellError(terminal, QString::fromUtf8(error.what()));
+        return ExitCode::Problems;
+    }
+}
+
+QString Text(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+QString HelpText()
+{
+    return Text(QT_TRANSLATE_NOOP(
+        "CommandLine",
+        "Orvane, a small desktop map program.\n\n"
+        "Without a window it does these, each with a --help of its own:\n"
+        "  orvane MAP --export FILE     draw a map as PDF, SVG or PNG\n"
+        "  orvane import DATA --to MAP  add data to a map file\n"
+        "  orvane check MAP             look for what is wrong with a map file"));
+}
+
+bool IsExport(const QStringList& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        return argument == QLatin1String("--export") || argument.startsWith(QLatin1String("--export="));
+    });
+}
+
+// The options of the program itself.
+struct WindowOptions {
+    QCommandLineOption version{
+        {QStringLiteral("v"), QStringLiteral("version")},
+        Text(QT_TRANSLATE_NOOP("CommandLine", "Tell the version."))};
+    QCommandLineOption trace{
+        QStringLiteral("trace"),
+        Text(QT_TRANSLATE_NOOP(
+            "CommandLine", "Write each call between the map and the layer control to FILE.")),
+        QStringLiteral("FILE")};
+    QCommandLineOption control{
+        QStringLiteral("layer-control"),
+        Text(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at once."))};
+    QCommandLineOption sample{
+        QStringLiteral("make-sample"),
+        Text(QT_TRANSLATE_NOOP("CommandLine", "Make a sample map in FILE, and open no window.")),
+        QStringLiteral("FILE")};
+    QCommandLineOption data{
+        QStringLiteral("data"),
+        Text(QT_TRANSLATE_NOOP(
+            "CommandLine", "Make the sample map of the world data in FOLDER, if it has them.")),
+        QStringLiteral("FOLDER")};
+};
+
+int TellVersion(const Terminal& terminal)
+{
+    terminal.out << QCoreApplication::applicationName() << ' ' << QCoreApplication::applicationVersion()
+                 << '\n';
+    terminal.out.flush();
+    return ExitCode::Done;
+}
+
+std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments, const Terminal& terminal)
+{
+    const WindowOptions options;
+    CommandReader reader(HelpText());
+    reader.Options().addOptions(
+        {options.version, options.trace, options.control, options.sample, options.data});
+    reader.Options().addPositionalArgument(
+        QStringLiteral("MAP"), Text(QT_TRANSLATE_NOOP("CommandLine", "The map file to open.")),
+        QStringLiteral("[MAP]"));
+    if (const auto ended = reader.Read(arguments, terminal))
+        return *ended;
+    if (reader.IsSet(options.version))
+        return TellVersion(terminal);
+    if (reader.IsSet(options.sample)) {
+        return Told(terminal, [&] {
+            MakeSampleMap(reader.Value(options.sample), reader.Value(options.data));
+            return ExitCode::Done;
+        });
+    }
+    return WindowRequest{reader.Words().value(0), reader.Value(options.trace), reader.IsSet(options.control)};
+}
+
+} // namespace
+
+bool NeedsNoWindow(const QStringList& arguments)
+{
+    static const QStringList commands{QStringLiteral("import"), QStringLiteral("check")};
+    static const QStringList answers{
+        QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("-v"), QStringLiteral("--version"),
+        QStringLiteral("--make-sample")};
+    return commands.contains(arguments.value(1)) || IsExport(arguments)
+        || std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+               return answers.contains(argument.section(QLatin1Char('='), 0, 0));
+           });
+}
+
+std::variant<int, WindowRequest> RunCommandLine(const QStringList& arguments, const Terminal& terminal)
+{
+    if (arguments.value(1) == QLatin1String("import"))
+        return Told(terminal, [&] { return ImportCommand(arguments, terminal); });
+    if (arguments.value(1) == QLatin1String("check"))
+        return Told(terminal, [&] { return CheckCommand(arguments, terminal); });
+    if (IsExport(arguments))
+        return Told(terminal, [&] { return ExportCommand(arguments, terminal); });
+    return ReadWindowRequest(arguments, terminal);
+}
+
+} // namespace Orvane

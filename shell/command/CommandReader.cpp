@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/CommandReader.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+namespace Orvane {
+
+void TellError(const Terminal& terminal, const QString& text)
+{
+    terminal.errors << "orvane: " << text << '\n';
+    terminal.errors.flush();
+}
+
+CommandReader::CommandReader(const QString& description)
+{
+    m_parser.setApplicationDescription(description);
+    m_parser.addHelpOption();
+}
+
+void CommandReader::AddCommand(const QString& name)
+{
+    m_command = name;
+    m_parser.addPositionalArgument(name, QString(), name);
+}
+
+void CommandReader::RequireWords(qsizetype least, qsizetype most)
+{
+    m_leastWords = least;
+    m_mostWords = most;
+}
+
+std::optional<int> CommandReader::Read(const QStringList& arguments, const Terminal& terminal)
+{
+    if (!m_parser.parse(arguments))
+        return Refuse(terminal, m_parser.errorText());
+    if (m_parser.isSet(QStringLiteral("help"))) {
+        terminal.out << m_parser.helpText();
+        terminal.out.flush();
+        return ExitCode::Done;
+    }
+    const qsizetype count = Words().size();
+    if (count < m_leastWords)
+        return Refuse(terminal, QCoreApplication::translate("CommandLine", "An argument is missing."));
+    if (count > m_mostWords)
+        return Refuse(terminal, QCoreApplication::translate("CommandLine", "There is an argument too many."));
+    return std::nullopt;
+}
+
+QStringList CommandReader::Words() const
+{
+    return m_parser.positionalArguments().mid(m_command.isEmpty() ? 0 : 1);
+}
+
+int CommandReader::Refuse(const Terminal& terminal, const QString& mistake) const
+{
+    const QString command = m_command.isEmpty() ? QString() : m_command + QLatin1Char(' ');
+    TellError(terminal, mistake);
+    TellError(
+        terminal,
+        QCoreApplication::translate("CommandLine", "\"orvane %1--help\" lists what can be asked for.")
+            .arg(command));
+    return ExitCode::Usage;
+}
+
+} // namespace Orvane

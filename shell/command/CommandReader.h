@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCommandLineParser>
+#include <QStringList>
+
+#include <optional>
+
+class QTextStream;
+
+namespace Orvane {
+
+/// How a command of the command line ends.
+namespace ExitCode {
+
+inline constexpr int Done = 0;
+inline constexpr int Problems = 1; ///< something could not be done, or is wrong
+inline constexpr int Usage = 2; ///< the command line was not understood
+
+} // namespace ExitCode
+
+/// Where a command writes: results, and what goes wrong. Neither is owned.
+struct Terminal {
+    QTextStream& out;
+    QTextStream& errors;
+};
+
+/// Writes "orvane: ..." to the errors.
+void TellError(const Terminal& terminal, const QString& text);
+
+/// Reads the arguments of one command; adds --help.
+///
+///     CommandReader reader(tr("Check a map file."));
+///     reader.AddCommand(QStringLiteral("check"));
+///     reader.Options().addOption(repair);
+///     if (const auto ended = reader.Read(arguments, terminal))
+///         return *ended;
+class CommandReader
+{
+public:
+    explicit CommandReader(const QString& description);
+
+    QCommandLineParser& Options() { return m_parser; }
+    /// The word that stands before everything else, for the help text.
+    void AddCommand(const QString& name);
+    /// Says how many words there must be beside options and command.
+    void RequireWords(qsizetype least, qsizetype most);
+
+    /// arguments: the program's own name first. Answers the exit code when the command ends here: after
+    /// --help, and after a mistake, which it tells.
+    std::optional<int> Read(const QStringList& arguments, const Terminal& terminal);
+
+    /// The words beside the options, without the command's name.
+    QStringList Words() const;
+    bool IsSet(const QCommandLineOption& option) const { return m_parser.isSet(option); }
+    QString Value(const QCommandLineOption& option) const { return m_parser.value(option); }
+
+    /// Tells a mistake in the arguments; answers ExitCode::Usage.
+    int Refuse(const Terminal& terminal, const QString& mistake) const;
+
+private:
+    QCommandLineParser m_parser;
+    QString m_command;
+    qsizetype m_leastWords = 0;
+    qsizetype m_mostWords = 1;
+};
+
+} // namespace Orvane

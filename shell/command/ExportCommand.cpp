@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/ExportCommand.h"
+
+#include "hostkit/LayerSchemes.h"
+#include "hostkit/StandardShellServices.h"
+#include "shell/MapDocument.h"
+#include "shell/MapLayers.h"
+#include "shell/command/ExportOptions.h"
+#include "shell/command/MapCopy.h"
+#include "shell/data/Progress.h"
+#include "shell/output/MapPage.h"
+#include "shell/output/PageWriter.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <QCoreApplication>
+
+namespace Orvane {
+
+namespace {
+
+Box BoundsOf(const std::vector<MapLayer>& layers)
+{
+    Box bounds;
+    for (const MapLayer& layer : layers) {
+        if (layer.features && layer.visible && layer.mode != DrawMode::Hidden)
+            bounds.Add(layer.features->Bounds());
+    }
+    return bounds;
+}
+
+// One line for each reason, to the errors.
+void TellFailures(const SourceContents& contents, const Terminal& terminal)
+{
+    const QStringList reasons = contents.FailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& reason : reasons)
+        TellError(terminal, reason);
+}
+
+int Export(const ExportRequest& request, const Terminal& terminal)
+{
+    const MapCopy copy(request.map);
+    MapDocument& document = copy.Document();
+    if (!request.scheme.isNull())
+        LayerSchemes(document.Database()).Load(request.scheme);
+    const StandardShellServices services;
+    Progress progress;
+    const SourceContents contents = ReadSources(document.Sources(), document.System(), progress);
+    MapLayers layers(document, services, PagePixelsPerMillimetre);
+    layers.ReadAll();
+    layers.TakeFeatures(contents);
+    const MapPage page(
+        document.Database(), services, {layers.All(), document.System(), BoundsOf(layers.All())},
+        request.page);
+    WritePage(page, request.file, progress);
+    TellFailures(contents, terminal);
+    return contents.failures.empty() ? ExitCode::Done : ExitCode::Problems;
+}
+
+} // namespace
+
+int ExportCommand(const QStringList& arguments, const Terminal& terminal)
+{
+    const auto read = ReadExportOptions(arguments, terminal);
+    if (const int* ended = std::get_if<int>(&read))
+        return *ended;
+    return Export(std::get<ExportRequest>(read), terminal);
+}
+
+} // namespace Orvane

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/ImportCommand.h"
+
+#include "shell/DataImport.h"
+#include "shell/MapDocument.h"
+#include "shell/data/DataFiles.h"
+#include "shell/data/Progress.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <limits>
+
+namespace Orvane {
+
+namespace {
+
+QString Text(const char* text)
+{
+    return QCoreApplication::translate("ImportCommand", text);
+}
+
+QStringList FilesOf(const QStringList& words)
+{
+    QStringList files;
+    for (const QString& word : words)
+        files << (QFileInfo(word).isDir() ? DataFiles::In(word) : QStringList(word));
+    return files;
+}
+
+qsizetype LayerCount(const FoundData& data)
+{
+    qsizetype count = 0;
+    for (const FoundData::Source& source : data.sources)
+        count += qsizetype(source.layers.size());
+    return count;
+}
+
+int Import(const QStringList& files, const QString& map, const Terminal& terminal)
+{
+    Progress progress;
+    const FoundData found = LookInto(files, progress);
+    for (const QString& problem : found.problems)
+        TellError(terminal, problem);
+    if (found.sources.empty()) {
+        TellError(terminal, Text(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
+        return ExitCode::Problems;
+    }
+    const auto document = QFileInfo::exists(map) ? MapDocument::Open(map) : MapDocument::Create(map);
+    AddToMap(*document, found);
+    terminal.out << Text(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
+                        .arg(QFileInfo(map).fileName())
+                        .arg(LayerCount(found))
+                 << '\n';
+    terminal.out.flush();
+    return found.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
+}
+
+} // namespace
+
+int ImportCommand(const QStringList& arguments, const Terminal& terminal)
+{
+    const QCommandLineOption to(
+        QStringLiteral("to"),
+        Text(QT_TRANSLATE_NOOP("ImportCommand", "The map file to add to; it is made when there is none.")),
+        QStringLiteral("MAP"));
+    CommandReader reader(Text(QT_TRANSLATE_NOOP(
+        "ImportCommand",
+        "Add data to a map file: a group for each file, a layer for each of its layers.\n"
+        "Exit code: 0 all was added, 1 something was not, 2 the command was not understood.")));
+    reader.AddCommand(QStringLiteral("import"));
+    reader.RequireWords(1, std::numeric_limits<qsizetype>::max());
+    reader.Options().addOption(to);
+    reader.Options().addPositionalArgument(
+        QStringLiteral("DATA"),
+        Text(QT_TRANSLATE_NOOP("ImportCommand", "Files, or folders with files in them.")),
+        QStringLiteral("DATA..."));
+    if (const auto ended = reader.Read(arguments, terminal))
+        return *ended;
+    if (reader.Value(to).isEmpty())
+        return reader.Refuse(terminal, Text(QT_TRANSLATE_NOOP("ImportCommand", "\"--to MAP\" is missing.")));
+    return Import(FilesOf(reader.Words()), reader.Value(to), terminal);
+}
+
+} // namespace Orvane

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <optional>
+
+class QPrinter;
+
+namespace Orvane {
+
+class MapPage;
+class Progress;
+
+/// The number of the RunTimeError for a page that cannot be written.
+inline constexpr int OutputFailed = 10201;
+
+/// What a page can be written as.
+enum class PageFormat { Pdf, Svg, Png };
+
+/// The format that the file's ending names, in any case; nothing for another ending.
+std::optional<PageFormat> FormatOfFile(const QString& path);
+
+/// Writes the page to a file, in any thread. A file of that name is replaced once all is written, and stays
+/// as it was when anything fails. Raises OutputFailed for an unknown ending, a file that cannot be written
+/// and a picture that is too large; raises Cancelled.
+void WritePage(const MapPage& page, const QString& path, Progress& progress);
+
+/// Prints the page. The page's size should be that of the printer's paintable area, and its margin 0. Raises
+/// OutputFailed when the printer refuses; raises Cancelled.
+void PrintPage(const MapPage& page, QPrinter& printer, Progress& progress);
+
+} // namespace Orvane

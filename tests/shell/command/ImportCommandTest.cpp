@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/ImportCommand.h"
+
+#include "shell/command/CommandFixture.h"
+
+#include <QDir>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class ImportCommandTest : public CommandFixture
+{
+protected:
+    size_t LayersOf(const QString& map) const { return MapDocument::Open(map)->Sources().size(); }
+    const QString m_map = m_folder.Path("map.orvane");
+};
+
+} // namespace
+
+TEST_F(ImportCommandTest, AMapIsMadeOfDataFiles)
+{
+    EXPECT_EQ(
+        Run(
+            {"import", m_folder.WriteSquare("a.geojson"), m_folder.WriteSquare("b.geojson", 20), "--to",
+             m_map}),
+        ExitCode::Done);
+    EXPECT_EQ(LayersOf(m_map), 2u);
+    EXPECT_TRUE(m_out.contains("map.orvane"));
+    EXPECT_TRUE(m_errors.isEmpty()) << m_errors.toStdString();
+}
+
+TEST_F(ImportCommandTest, AnExistingMapGrows)
+{
+    MakeMap("map.orvane");
+    EXPECT_EQ(Run({"import", "--to", m_map, m_folder.WriteSquare("a.geojson")}), ExitCode::Done);
+    EXPECT_EQ(LayersOf(m_map), 2u);
+}
+
+TEST_F(ImportCommandTest, AFolderStandsForTheDataInIt)
+{
+    QDir(m_folder.Path("")).mkdir("data");
+    m_folder.WriteSquare("data/a.geojson");
+    m_folder.WriteSquare("data/b.geojson");
+    m_folder.Write("data/notes.txt", "no data");
+    EXPECT_EQ(Run({"import", m_folder.Path("data"), "--to", m_map}), ExitCode::Done)
+        << m_errors.toStdString();
+    EXPECT_EQ(LayersOf(m_map), 2u);
+}
+
+TEST_F(ImportCommandTest, WhatCannotBeReadIsToldAndTheRestIsAdded)
+{
+    EXPECT_EQ(
+        Run({"import", m_folder.Write("bad.shp", "x"), m_folder.WriteSquare("a.geojson"), "--to", m_map}),
+        ExitCode::Problems);
+    EXPECT_TRUE(m_errors.contains("bad.shp"));
+    EXPECT_EQ(LayersOf(m_map), 1u);
+}
+
+TEST_F(ImportCommandTest, WithNothingToImportNoMapIsMade)
+{
+    EXPECT_EQ(Run({"import", m_folder.Path("none.shp"), "--to", m_map}), ExitCode::Problems);
+    EXPECT_FALSE(QFile::exists(m_map));
+}
+
+TEST_F(ImportCommandTest, AFileThatIsNoMapIsLeftAlone)
+{
+    const QString text = m_folder.Write("text.orvane", "no map");
+    EXPECT_EQ(Run({"import", m_folder.WriteSquare("a.geojson"), "--to", text}), ExitCode::Problems);
+    EXPECT_EQ(Content(text), "no map");
+}
+
+} // namespace Orvane

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "shell/output/OutputActions.h"
+
+#include "shell/DataFolder.h"
+#include "shell/MainWindow.h"
+#include "shell/MapDocument.h"
+#include "shell/output/PageDialog.h"
+#include "support/MessageBoxRobot.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+/// Somebody who answers the dialogs of an output command as they come up.
+class Person : public QObject
+{
+public:
+    /// file: to be typed into the file dialog; empty to cancel there.
+    explicit Person(const QString& file = {}) : m_file(file)
+    {
+        connect(&m_look, &QTimer::timeout, this, [this] { Answer(QApplication::activeModalWidget()); });
+        m_look.start(5);
+    }
+
+    QStringList seen; ///< the dialogs, in their order
+    int pages = 0; ///< of the preview
+
+private:
+    // A dialog that an answer did not close is given up, so that no test waits for ever.
+    void Answer(QWidget* dialog)
+    {
+        auto* shown = qobject_cast<QDialog*>(dialog);
+        if (!shown)
+            return;
+        if (shown == m_answered)
+            return shown->reject();
+        m_answered = shown;
+        if (auto* page = qobject_cast<PageDialog*>(shown))
+            Accept(*page);
+        else if (auto* files = qobject_cast<QFileDialog*>(shown))
+            Choose(*files);
+        else if (auto* preview = qobject_cast<QPrintPreviewDialog*>(shown))
+            Look(*preview);
+    }
+
+    void Accept(PageDialog& page)
+    {
+        seen << "page";
+        QTest::keyClick(&page, Qt::Key_Enter);
+    }
+
+    void Choose(QFileDialog& files)
+    {
+        seen << "file";
+        if (m_file.isEmpty())
+            return files.reject();
+        auto* name = files.findChild<QLineEdit*>("fileNameEdit");
+        name->setText(m_file);
+        QTest::keyClick(name, Qt::Key_Enter);
+    }
+
+    void Look(QPrintPreviewDialog& preview)
+    {
+        seen << "preview";
+        pages = preview.findChild<QPrintPreviewWidget*>()->pageCount();
+        preview.reject();
+    }
+
+    QString m_file;
+    QPointer<QDialog> m_answered;
+    QTimer m_look;
+};
+
+class OutputActionsTest : public testing::Test
+{
+protected:
+    OutputActionsTest()
+    {
+        QSettings().clear();
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+        const auto document = MapDocument::Create(m_folder.Path("town.orvane"));
+        NewLayer layer;
+        layer.name = "Square";
+        layer.values.fillForeColor = 0x0000FF;
+        layer.path = m_folder.WriteSquare("square.geojson");
+        layer.ogrLayer = "square";
+        document->SetSystem("EPSG:4326");
+        document->AddLayer(layer);
+        m_window->OpenMap(document->Path());
+    }
+    ~OutputActionsTest() override { QSettings().clear(); }
+
+    void Trigger(const char* action) const { m_window->findChild<QAction*>(action)->trigger(); }
+
+    DataFolder m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+} // namespace
+
+TEST_F(OutputActionsTest, TheCommandsAreInTheFileMenu)
+{
+    const QList<QAction*> actions = m_window->findChild<QMenu*>("menuFile")->actions();
+    EXPECT_TRUE(actions.contains(m_window->findChild<QAction*>("actExport")));
+    EXPECT_TRUE(actions.contains(m_window->findChild<QAction*>("actPrint")));
+    EXPECT_EQ(actions.last(), m_window->findChild<QAction*>("actQuit"));
+}
+
+TEST_F(OutputActionsTest, TheMapThatIsShownIsExported)
+{
+    QSettings().setValue("Output/Resolution", 50);
+    Person person(m_folder.Path("town.png"));
+    Trigger("actExport");
+    EXPECT_EQ(person.seen, QStringList({"page", "file"}));
+    const QImage image(m_folder.Path("town.png"));
+    EXPECT_EQ(image.size(), QSize(585, 413));
+    EXPECT_EQ(image.pixelColor(200, 210), QColor(Qt::red));
+}
+
+TEST_F(OutputActionsTest, TheFormatAndTheFolderAreRemembered)
+{
+    QSettings().setValue("Output/Resolution", 50);
+    {
+        const Person person(m_folder.Path("first.svg"));
+        Trigger("actExport");
+    }
+    EXPECT_EQ(QSettings().value("Output/Format").toString(), "svg");
+    EXPECT_EQ(QSettings().value("Output/Folder").toString(), QFileInfo(m_folder.Path("x")).absolutePath());
+    const Person person("second");
+    Trigger("actExport");
+    EXPECT_TRUE(QFile::exists(m_folder.Path("second.svg")));
+}
+
+TEST_F(OutputActionsTest, CancellingWritesNothing)
+{
+    const Person person;
+    Trigger("actExport");
+    EXPECT_EQ(person.seen, QStringList({"page", "file"}));
+    EXPECT_TRUE(QDir(m_folder.Path("")).entryList({"*.pdf"}).isEmpty());
+}
+
+TEST_F(OutputActionsTest, WhatCannotBeWrittenIsTold)
+{
+    QFile blocked(m_folder.Path("town.gif"));
+    const Person person(blocked.fileName());
+    MessageBoxRobot reader{BoxKey::Enter};
+    Trigger("actExport");
+    EXPECT_TRUE(reader.Only().text.contains("town.gif")) << reader.Only().text.toStdString();
+    EXPECT_FALSE(blocked.exists());
+}
+
+TEST_F(OutputActionsTest, PrintingShowsAPreviewOfOnePage)
+{
+    const Person person;
+    Trigger("actPrint");
+    EXPECT_EQ(person.seen, QStringList({"page", "preview"}));
+    EXPECT_EQ(person.pages, 1);
+}
+
+} // namespace Orvane
