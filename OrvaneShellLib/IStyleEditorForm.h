@@ -3,7 +3,9 @@
 
 #include <OrvaneShellLib/RendererStyle.h>
 
+#include <QSet>
 #include <QString>
+#include <QtGlobal>
 
 #include <vector>
 
@@ -51,6 +53,11 @@ public:
     /// Closes the dialog and drops edits that were not applied, without asking.
     void UnloadWithoutApply() { IStyleEditorForm_UnloadWithoutApply(); }
 
+    /// Asks IStyleEditorClient::LayerDisplayName for these layers anew and shows the texts at all their
+    /// nodes, as when another scale obscures them. Edits, selection, order and a name that is being edited
+    /// stay; layers that are not listed are skipped.
+    void RefreshLayerNames(const QSet<qint32>& layerIDs) { IStyleEditorForm_RefreshLayerNames(layerIDs); }
+
 protected:
     IStyleEditorForm() = default;
 
@@ -64,6 +71,7 @@ private:
     virtual const IStyleFilter* IStyleEditorForm_Filter() const = 0;
     virtual void IStyleEditorForm_Filter(const IStyleFilter* filter) = 0;
     virtual void IStyleEditorForm_UnloadWithoutApply() = 0;
+    virtual void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) = 0;
 };
 
 } // namespace Orvane

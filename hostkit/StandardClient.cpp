@@ -14,6 +14,7 @@
 #include "hostkit/UndoHistory.h"
 #include "store/SqliteLayerDatabase.h"
 
+#include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
@@ -101,6 +102,16 @@ void StandardClient::LoadSchemesFromStartup()
 bool StandardClient::HasUnsavedSchemeChanges()
 {
     return m_parts->schemes.DiffersFromCurrent();
+}
+
+void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
+{
+    if (layerIDs.isEmpty())
+        return;
+    for (QWidget* window : m_parts->windows.Shown()) {
+        if (auto* editor = dynamic_cast<IStyleEditorForm*>(window))
+            editor->RefreshLayerNames(layerIDs);
+    }
 }
 
 void StandardClient::InvalidateLayerNames()

@@ -4,6 +4,7 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <memory>
 
@@ -53,6 +54,9 @@ public:
     void LoadSchemesFromStartup();
     /// True when the layers differ from the saved values of the current scheme.
     bool HasUnsavedSchemeChanges();
+    /// Shows the listed names of these layers anew in every open editor: for a host whose LayerDisplayName
+    /// depends on more than the name, when its answer for them is another one.
+    void RefreshListedNames(const QSet<qint32>& layerIDs);
     /// Forgets the layers' names; after layers were added or renamed without this object.
     void InvalidateLayerNames();
 

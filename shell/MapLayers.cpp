@@ -86,12 +86,17 @@ void MapLayers::Read(const QSet<qint32>& layerIDs)
 
 void MapLayers::TakeFeatures(const SourceContents& contents)
 {
-    for (const auto& [layerID, features] : contents.features)
+    for (const auto& [layerID, features] : contents.features) {
         m_features[layerID] = features;
+        m_unreadable.remove(layerID);
+    }
+    for (const auto& [layerID, reason] : contents.failures) {
+        m_features.erase(layerID);
+        m_unreadable.insert(layerID);
+    }
     for (MapLayer& layer : m_layers) {
         const auto found = m_features.find(layer.layerID);
-        if (found != m_features.end())
-            layer.features = found->second;
+        layer.features = found != m_features.end() ? found->second : nullptr;
     }
 }
 
@@ -132,6 +137,7 @@ void MapLayers::Replace(qint32 layerID, const IRecordset& row)
         if (known != m_layers.end())
             m_layers.erase(known);
         m_features.erase(layerID);
+        m_unreadable.remove(layerID);
         return;
     }
     if (known == m_layers.end())

@@ -30,10 +30,12 @@ public:
     /// Reads at least these layers' rows anew; a layer whose row is gone leaves the list.
     void Read(const QSet<qint32>& layerIDs);
 
-    /// Takes over features that were read; those of other layers stay.
+    /// Takes over features that were read, and which could not be; those of other layers stay.
     void TakeFeatures(const SourceContents& contents);
     /// The sources of layers that have no features yet.
     std::vector<LayerSource> MissingSources() const;
+    /// The layers whose source could not be read when it was last tried.
+    const QSet<qint32>& Unreadable() const { return m_unreadable; }
 
 private:
     MapLayer LayerOfRow(const IRecordset& row) const;
@@ -44,6 +46,7 @@ private:
     double m_pixelsPerMillimetre;
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
+    QSet<qint32> m_unreadable;
 };
 
 } // namespace Orvane

@@ -8,11 +8,14 @@
 #include "shell/data/CoordinateSystems.h"
 #include "shell/drawing/MapCanvas.h"
 
+#include <chrono>
+
 namespace Orvane {
 
 namespace {
 
 constexpr double MillimetresPerInch = 25.4;
+constexpr std::chrono::milliseconds MarkDelay{150};
 
 } // namespace
 
@@ -20,7 +23,7 @@ MapSession::MapSession(
     std::unique_ptr<MapDocument> document, MapCanvas& canvas, QWidget& mainWindow, CallTrace* trace)
     : m_canvas(canvas), m_mainWindow(mainWindow), m_document(std::move(document)),
       m_layers(*m_document, m_services, canvas.logicalDpiX() / MillimetresPerInch),
-      m_client(m_document->Database(), m_services, mainWindow)
+      m_client(m_document->Database(), m_services, m_states, mainWindow), m_follower(*m_document, mainWindow)
 {
     if (trace)
         m_traced = std::make_unique<TracingClient>(m_client, *trace);
@@ -38,6 +41,7 @@ QString MapSession::ReadAndShow()
 {
     m_client.InvalidateLayerNames();
     m_layers.ReadAll();
+    m_follower.Follow();
     const std::vector<LayerSource> sources = m_layers.MissingSources();
     SourceContents contents;
     RunWithProgress(
@@ -51,6 +55,16 @@ QString MapSession::ReadAndShow()
 
 void MapSession::Connect()
 {
+    m_markSoon.setSingleShot(true);
+    m_markSoon.setInterval(MarkDelay);
+    connect(&m_markSoon, &QTimer::timeout, this, [this] { Guard(&m_mainWindow, [this] { MarkNames(); }); });
+    connect(&m_canvas, &MapCanvas::ViewChanged, &m_markSoon, qOverload<>(&QTimer::start));
+    connect(&m_follower, &SourceFollower::Read, this, [this](const SourceContents& contents) {
+        Guard(&m_mainWindow, [&] {
+            m_layers.TakeFeatures(contents);
+            Show();
+        });
+    });
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(
@@ -72,6 +86,13 @@ void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
 void MapSession::Show()
 {
     m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+    MarkNames();
+}
+
+void MapSession::MarkNames()
+{
+    m_client.RefreshListedNames(
+        m_states.Update(m_layers.All(), m_layers.Unreadable(), m_canvas.ScaleDenominator()));
 }
 
 } // namespace Orvane

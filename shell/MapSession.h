@@ -3,10 +3,13 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/tracing/TracingClient.h"
+#include "shell/LayerStates.h"
 #include "shell/MapLayers.h"
 #include "shell/ShellClient.h"
+#include "shell/SourceFollower.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 
@@ -17,7 +20,8 @@ class MapDocument;
 class CallTrace;
 
 /// One open map: its file, its layers, its client for the component, and the canvas that shows it. What the
-/// component changes is drawn at once.
+/// component changes is drawn at once; data files that come back or change are shown anew; and the layer
+/// control lists which layers the scale or a missing source keeps from the map.
 class MapSession : public QObject
 {
     Q_OBJECT
@@ -41,14 +45,18 @@ private:
     void Connect();
     void DrawAgain(const QSet<qint32>& layerIDs);
     void Show();
+    void MarkNames();
 
     MapCanvas& m_canvas;
     QWidget& m_mainWindow;
     StandardShellServices m_services;
     std::unique_ptr<MapDocument> m_document;
     MapLayers m_layers;
+    LayerStates m_states;
     ShellClient m_client;
     std::unique_ptr<TracingClient> m_traced;
+    SourceFollower m_follower;
+    QTimer m_markSoon; // gathers the many steps of a zoom
 };
 
 } // namespace Orvane

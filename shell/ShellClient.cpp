@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ShellClient.h"
 
+#include "shell/LayerStates.h"
+
 #include <QScreen>
 
 namespace Orvane {
@@ -24,8 +26,9 @@ void PlaceBeside(QWidget& form, const QWidget& mainWindow)
 
 } // namespace
 
-ShellClient::ShellClient(SqliteLayerDatabase& database, IShellServices& services, QWidget& mainWindow)
-    : StandardClient(database, services), m_mainWindow(mainWindow)
+ShellClient::ShellClient(
+    SqliteLayerDatabase& database, IShellServices& services, const LayerStates& states, QWidget& mainWindow)
+    : StandardClient(database, services), m_states(states), m_mainWindow(mainWindow)
 {
     SetMainWindow(&mainWindow);
 }
@@ -43,6 +46,11 @@ void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
     m_editor = form;
     PlaceBeside(*form, m_mainWindow);
     StandardClient::IStyleEditorClient_ShowEditor(form);
+}
+
+QString ShellClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
+{
+    return m_states.Marked(layerID, StandardClient::IStyleEditorClient_LayerDisplayName(layerID));
 }
 
 } // namespace Orvane

@@ -103,6 +103,16 @@ std::vector<qint32> LayerTreeModel::LayersOfGroup(qint32 groupID) const
     return layerIDs;
 }
 
+QSet<qint32> LayerTreeModel::LayersAmong(const QSet<qint32>& layerIDs) const
+{
+    QSet<qint32> listed;
+    for (const LayerEntry& layer : m_layers) {
+        if (layerIDs.contains(layer.layerID))
+            listed.insert(layer.layerID);
+    }
+    return listed;
+}
+
 void LayerTreeModel::SetQuickMode(const std::vector<qint32>& layerIDs, qint16 quickMode)
 {
     std::vector<int> changed;
@@ -123,6 +133,17 @@ void LayerTreeModel::SetLayerText(qint32 layerID, const QString& text)
     for (int number : NumbersOf(layerID)) {
         if (std::exchange(m_layers[size_t(number)].text, text) != text)
             changed.push_back(number);
+    }
+    ReportLayers(changed);
+}
+
+void LayerTreeModel::SetLayerTexts(const QHash<qint32, QString>& texts)
+{
+    std::vector<int> changed;
+    for (size_t number = 0; number < m_layers.size(); ++number) {
+        const auto text = texts.constFind(m_layers[number].layerID);
+        if (text != texts.constEnd() && std::exchange(m_layers[number].text, *text) != *text)
+            changed.push_back(int(number));
     }
     ReportLayers(changed);
 }

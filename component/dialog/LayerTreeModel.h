@@ -5,6 +5,8 @@
 #include "component/model/LayerTreeEntries.h"
 
 #include <QAbstractItemModel>
+#include <QHash>
+#include <QSet>
 
 #include <vector>
 
@@ -45,10 +47,14 @@ public:
     QModelIndex IndexOf(const NodeReference& node) const;
     /// The IDs of the layers that stand under the group, in their order.
     std::vector<qint32> LayersOfGroup(qint32 groupID) const;
+    /// Those of the layers that have a node.
+    QSet<qint32> LayersAmong(const QSet<qint32>& layerIDs) const;
 
     /// Gives all nodes of these layers the image of the quick mode, and their groups the image that follows.
     void SetQuickMode(const std::vector<qint32>& layerIDs, qint16 quickMode);
     void SetLayerText(qint32 layerID, const QString& text);
+    /// Gives the layers these texts, by layer ID, in one command; the others keep theirs.
+    void SetLayerTexts(const QHash<qint32, QString>& texts);
     void SetGroupText(qint32 groupID, const QString& text);
     /// Flat list only: adds the layer at its place by text and returns its index.
     QModelIndex InsertLayer(const LayerEntry& layer);

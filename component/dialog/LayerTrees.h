@@ -4,6 +4,7 @@
 #include "component/dialog/NodeKey.h"
 
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -81,6 +82,9 @@ public:
     void SetGroupImage(qint32 groupID, qint16 quickMode);
     /// Shows the text on all nodes of the layer. The order of the flat list changes with its next load only.
     void SetLayerText(qint32 layerID, const QString& text);
+    /// Shows the layers' display names as the host gives them now, on all their nodes; those that are not
+    /// listed are not asked for.
+    void RefreshLayerTexts(const QSet<qint32>& layerIDs);
 
     /// Reads the layer, lists it in its place of the flat list (whatever the filter says), scrolls to it and
     /// makes it that list's current node. Loads the list first if need be. Does nothing for a layer that is

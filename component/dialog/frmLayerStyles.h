@@ -54,6 +54,7 @@ private:
     const IStyleFilter* IStyleEditorForm_Filter() const override;
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
     void IStyleEditorForm_UnloadWithoutApply() override;
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
 
     void Wire();
     void WireCommands();

@@ -102,4 +102,10 @@ void frmLayerStyles::IStyleEditorForm_UnloadWithoutApply()
     Unload();
 }
 
+void frmLayerStyles::IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs)
+{
+    if (m_initialised && !m_unloaded)
+        m_parts->trees.RefreshLayerTexts(layerIDs);
+}
+
 } // namespace Orvane

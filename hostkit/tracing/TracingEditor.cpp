@@ -117,6 +117,12 @@ void TracingEditor::IStyleEditorForm_UnloadWithoutApply()
     m_trace.Command("form.UnloadWithoutApply", [&] { Form().UnloadWithoutApply(); });
 }
 
+void TracingEditor::IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs)
+{
+    m_trace.Command(
+        "form.RefreshLayerNames", [&] { Form().RefreshLayerNames(layerIDs); }, qint32(layerIDs.size()));
+}
+
 IStyleEditorForm& TracingEditor::Form() const
 {
     return dynamic_cast<IStyleEditorForm&>(m_editor);

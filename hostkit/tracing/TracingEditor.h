@@ -37,6 +37,7 @@ protected:
     const IStyleFilter* IStyleEditorForm_Filter() const override;
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
     void IStyleEditorForm_UnloadWithoutApply() override;
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
 
 private:
     IStyleEditorForm& Form() const;

@@ -2,6 +2,7 @@
 #include "shell/ShellClient.h"
 
 #include "hostkit/StandardShellServices.h"
+#include "shell/LayerStates.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <QScreen>
@@ -28,7 +29,8 @@ protected:
     StandardShellServices m_services;
     QWidget m_window;
     QWidget m_form;
-    ShellClient m_client{*m_database, m_services, m_window};
+    LayerStates m_states;
+    ShellClient m_client{*m_database, m_services, m_states, m_window};
 };
 
 } // namespace

@@ -203,6 +203,22 @@ TEST_F(LayerTreeModelTest, ShowsANewTextOnAllNodesOfTheLayer)
     EXPECT_EQ(TextOf(LayerNode(10, 1)), "Layer 1");
 }
 
+TEST_F(LayerTreeModelTest, ShowsManyNewTextsInOneCommand)
+{
+    FillGroups();
+    QSignalSpy changes(&model, &LayerTreeModel::dataChanged);
+    model.SetLayerTexts({{1, "Layer 1"}, {2, "Rivers"}, {77, "Nowhere"}});
+    EXPECT_EQ(TextOf(LayerNode(10, 2)), "Rivers");
+    EXPECT_EQ(TextOf(LayerNode(20, 2)), "Rivers");
+    EXPECT_EQ(changes.count(), 2); // one for each group
+}
+
+TEST_F(LayerTreeModelTest, KnowsWhichLayersHaveANode)
+{
+    FillGroups();
+    EXPECT_EQ(model.LayersAmong({1, 77}), QSet<qint32>({1}));
+}
+
 TEST_F(LayerTreeModelTest, ShowsANewTextOnItsGroupOnly)
 {
     FillGroups();

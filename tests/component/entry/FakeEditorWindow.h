@@ -36,6 +36,7 @@ private:
     const IStyleFilter* IStyleEditorForm_Filter() const override { return m_filter; }
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override { m_filter = filter; }
     void IStyleEditorForm_UnloadWithoutApply() override;
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
 
     QStringList* m_events;
     const IStyleFilter* m_filter = nullptr;

@@ -35,6 +35,7 @@ private:
     const IStyleFilter* IStyleEditorForm_Filter() const override { return filter; }
     void IStyleEditorForm_Filter(const IStyleFilter* given) override { filter = given; }
     void IStyleEditorForm_UnloadWithoutApply() override { }
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
 
     std::vector<RendererStyle> m_styles{{1, QStringLiteral("Shaded")}};
 };
@@ -159,6 +160,7 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
     form.SetLayerCode(17);
     form.SetLayerName(17, QStringLiteral("Roads"));
     EXPECT_EQ(form.LoadRendererStyles().size(), 1u);
+    form.RefreshLayerNames({17, 18});
     form.UnloadWithoutApply();
     EXPECT_THAT(
         Lines(),
@@ -166,7 +168,7 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
             QStringLiteral("form.EditorID() -> \"Main\""), QStringLiteral("form.AddNewLayer(17)"),
             QStringLiteral("form.Popup()"), QStringLiteral("form.SetLayerCode(17)"),
             QStringLiteral("form.SetLayerName(17, \"Roads\")"), QStringLiteral("form.LoadRendererStyles()"),
-            QStringLiteral("form.UnloadWithoutApply()")));
+            QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()")));
 }
 
 } // namespace

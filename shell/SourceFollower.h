@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/data/SourceReader.h"
+
+#include <QDateTime>
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+class QThread;
+class QWidget;
+
+namespace Orvane {
+
+class MapDocument;
+class Progress;
+
+/// Follows the data files of an open map: what comes back, changes or goes while the map is shown is read
+/// again in the background, once the files are quiet.
+///
+///     SourceFollower follower(document, window);
+///     connect(&follower, &SourceFollower::Read, this, [this](const SourceContents& contents) { ... });
+///     follower.Follow();
+class SourceFollower : public QObject
+{
+    Q_OBJECT
+public:
+    /// document, owner: not owned; outlive this object. owner: errors are shown over it.
+    SourceFollower(const MapDocument& document, QWidget& owner);
+    /// Cancels what is being read and waits for it.
+    ~SourceFollower() override;
+
+    /// Takes the files as they are now for read. Raises errors of the database.
+    void Follow();
+
+signals:
+    /// These layers were read again, or could not be.
+    void Read(const Orvane::SourceContents& contents);
+
+private:
+    struct Stamp {
+        QString path;
+        QDateTime changed; ///< invalid for a missing file
+        qint64 size = 0; ///< bytes
+        bool operator==(const Stamp&) const = default;
+    };
+    using Stamps = std::map<qint32, Stamp>; // by layer ID
+
+    static Stamps StampsOf(const std::vector<LayerSource>& sources);
+    void Watch();
+    void LookAgain();
+    void ReadAgain(std::vector<LayerSource> sources);
+    void Stop();
+
+    const MapDocument& m_document;
+    QWidget& m_owner;
+    QFileSystemWatcher m_watcher;
+    QTimer m_quiet; // files change in many small steps
+    Stamps m_stamps;
+    std::unique_ptr<QThread> m_thread;
+    std::shared_ptr<Progress> m_progress; // of the thread
+};
+
+} // namespace Orvane
