@@ -13,7 +13,7 @@ struct StandardColour {
 };
 
 /// What every colour list offers, in its order.
-constexpr std::array standardColours{
+inline constexpr std::array standardColours{
     StandardColour{0x000000, QT_TR_NOOP("Black")},  StandardColour{0x808080, QT_TR_NOOP("Grey")},
     StandardColour{0xC0C0C0, QT_TR_NOOP("Silver")}, StandardColour{0xFFFFFF, QT_TR_NOOP("White")},
     StandardColour{0xFF0000, QT_TR_NOOP("Blue")},   StandardColour{0x00FF00, QT_TR_NOOP("Green")},
