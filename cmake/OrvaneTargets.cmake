@@ -11,6 +11,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
+set(ORVANE_LANGUAGES de fr ja)
+
 find_program(ORVANE_CCACHE ccache)
 if(ORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
@@ -33,7 +35,7 @@ endif()
 # orvane_target(<target> [WIDGETS | CORE]): house settings, include root, and the precompiled headers of its kind.
 function(orvane_target target)
   cmake_parse_arguments(ARG "WIDGETS;CORE;NO_PCH" "" "" ${ARGN})
-  target_link_libraries(${target} PRIVATE orvane_settings)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:orvane_settings>)
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
   if(ARG_WIDGETS)
     set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)

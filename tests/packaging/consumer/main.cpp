@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorLibrary.h>
+
+#include <QApplication>
+
+#include <cstdio>
+#include <hostkit/StandardClient.h>
+#include <hostkit/StandardShellServices.h>
+#include <hostkit/StyleEditorPlugin.h>
+#include <store/SqliteLayerDatabase.h>
+
+using namespace Orvane;
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    const auto database = SqliteLayerDatabase::CreateInMemory();
+    database->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
+    StandardShellServices services;
+    StandardClient client(*database, services);
+    StyleEditorPlugin plugin(QStringLiteral(PLUGIN_FOLDER "/libOrvaneLayerControl.so"));
+    plugin.Library().Initialise(&client);
+    IStyleEditor* editor = plugin.Library().NewStyleEditor(QStringLiteral("Main"));
+    editor->Visible(true);
+    const bool shown = editor->Visible();
+    editor->Visible(false);
+    std::puts(shown ? "the layer control was shown" : "the layer control was not shown");
+    return shown ? 0 : 1;
+}

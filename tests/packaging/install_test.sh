@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# usage: install_test.sh BUILD_DIRECTORY SOURCE_DIRECTORY
+# Installs into a prefix, moves it, and uses what is there as a person, a desktop and a host author would.
+set -euo pipefail
+build=$1 source=$2
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+export QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$folder/config LC_ALL=C.UTF-8 LANGUAGE=en
+
+fail() {
+    echo "install_test: $*" >&2
+    exit 1
+}
+
+expect() { # expect CODE COMMAND...
+    local wanted=$1 code=0
+    shift
+    "$@" >"$folder/out" 2>&1 || code=$?
+    [ "$code" -eq "$wanted" ] || { cat "$folder/out" >&2; fail "$* ended with $code, not $wanted"; }
+}
+
+cmake --install "$build" --prefix "$folder/first" >"$folder/install.log"
+mv "$folder/first" "$folder/prefix"
+prefix=$folder/prefix
+orvane=$prefix/bin/orvane
+
+for file in lib/orvane/libOrvaneLayerControl.so lib/orvane/de/POBEX.LRT share/applications/orvane.desktop \
+    share/mime/packages/orvane.xml share/icons/hicolor/scalable/apps/orvane.svg share/man/man1/orvane.1 \
+    include/orvane/OrvaneShellLib/IStyleEditorClient.h include/orvane/hostkit/StandardClient.h; do
+    [ -e "$prefix/$file" ] || fail "$file is not installed"
+done
+! grep -rlI "$source" "$prefix/lib" "$prefix/share" || fail "the source folder is named in what is installed"
+
+expect 0 "$orvane" --version
+grep -q "$(cat "$source/VERSION")" "$folder/out" || fail "another version: $(cat "$folder/out")"
+square='{"type":"Polygon","coordinates":[[[0,0],[9,0],[9,9],[0,9],[0,0]]]}'
+printf '{"type":"FeatureCollection","features":[{"type":"Feature","properties":{},"geometry":%s}]}' "$square" \
+    >"$folder/square.geojson"
+expect 0 "$orvane" import "$folder/square.geojson" --to "$folder/map.orvane"
+expect 0 "$orvane" check "$folder/map.orvane"
+expect 0 "$orvane" "$folder/map.orvane" --export "$folder/map.pdf"
+expect 1 "$orvane" check "$folder/none.orvane"
+expect 2 "$orvane" check
+expect 0 env LC_ALL= LANG=de_DE.UTF-8 LANGUAGE=de "$orvane" --help
+grep -q 'Karte' "$folder/out" || fail "the installed texts were not found"
+
+expect 0 cmake -S "$source/tests/packaging/consumer" -B "$folder/consumer" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_BUILD_TYPE=Debug
+expect 0 cmake --build "$folder/consumer"
+expect 0 "$folder/consumer/consumer"
+grep -q "was shown" "$folder/out" || fail "the consumer saw no layer control"
+echo "installed, moved and used: all well"
