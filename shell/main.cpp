@@ -77,14 +77,15 @@ void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message
 }
 
 // Fonts and pictures need a platform, but not a display.
-int RunWithoutWindow(int argc, char** argv, const Terminal& terminal)
+// words: as they were given; the application would take some of them, "--title" for one, for its own.
+int RunWithoutWindow(int argc, char** argv, const QStringList& words, const Terminal& terminal)
 {
     qInstallMessageHandler(DropHints);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const Setting setting;
-    return std::get<int>(RunCommandLine(QCoreApplication::arguments(), terminal));
+    return std::get<int>(RunCommandLine(words, terminal));
 }
 
 } // namespace
@@ -94,8 +95,9 @@ int main(int argc, char** argv)
     QTextStream out(stdout);
     QTextStream errors(stderr);
     const Terminal terminal{out, errors};
-    if (NeedsNoWindow(WordsOf(argc, argv)))
-        return RunWithoutWindow(argc, argv, terminal);
+    const QStringList words = WordsOf(argc, argv);
+    if (NeedsNoWindow(words))
+        return RunWithoutWindow(argc, argv, words, terminal);
     const QApplication application(argc, argv);
     const Setting setting;
     const auto answer = RunCommandLine(QCoreApplication::arguments(), terminal);

@@ -7,6 +7,7 @@ packages_run=(libqt6gui6 fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
+packages_guide=(gdal-bin)
 packages_bench=(libbenchmark-dev)
 packages_check=(clang-format clang-tidy python3)
 

@@ -40,6 +40,8 @@ printf '{"type":"FeatureCollection","features":[{"type":"Feature","properties":{
 expect 0 "$orvane" import "$folder/square.geojson" --to "$folder/map.orvane"
 expect 0 "$orvane" check "$folder/map.orvane"
 expect 0 "$orvane" "$folder/map.orvane" --export "$folder/map.pdf"
+expect 0 "$orvane" "$folder/map.orvane" --export "$folder/map.svg" --title "Our town"
+grep -q 'Our town' "$folder/map.svg" || fail "the title is not on the page"
 expect 1 "$orvane" check "$folder/none.orvane"
 expect 2 "$orvane" check
 expect 0 env LC_ALL= LANG=de_DE.UTF-8 LANGUAGE=de "$orvane" --help

@@ -1,0 +1,195 @@
+# SPDX-License-Identifier: MIT
+"""Does what docs/guide describes, by real mouse and key events, and leaves its pictures.
+
+usage: guide.py PROGRAM WORK_DIRECTORY PICTURE_DIRECTORY
+The work directory holds a folder "town" with data.
+"""
+
+import os
+import pathlib
+import subprocess
+import sys
+
+from desktop import Program, click, extents, picture, pixels, press, type_text, walk, wait_for
+
+FRAME = 26  # pixels that a window manager adds above a window; a few on the other sides
+
+
+class Guide:
+    """Each method is one step of the guide."""
+
+    def __init__(self, program, work, pictures):
+        self.town = work / "town"
+        self.pictures = pictures
+        self.command = program
+        # Begun in the folder with the data: the file dialogs open there.
+        os.chdir(self.town)
+        self.program = Program([str(program)], work)
+
+    def screen(self, name):
+        self.settle()
+        picture(self.pictures / f"{name}.png")
+
+    def part(self, name, window):
+        box = extents(window)
+        geometry = f"{box.width + 8}x{box.height + FRAME + 4}+{max(box.x - 4, 0)}+{max(box.y - FRAME, 0)}"
+        subprocess.run(
+            ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
+        )
+
+    def settle(self):
+        """Waits until the map has stopped changing."""
+        before = pixels(extents(self.canvas))
+
+        def still():
+            nonlocal before
+            now = pixels(extents(self.canvas))
+            same, before = now == before, now
+            return same
+
+        wait_for("a still map", still)
+
+    def active_window(self, part_of_title):
+        """Waits until what is typed goes there."""
+
+        def is_active():
+            answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True)
+            return part_of_title in answer.stdout
+
+        wait_for(f"the active window {part_of_title}", is_active)
+        return self.program.window(part_of_title)
+
+    def answer_file_dialog(self, title, path):
+        self.active_window(title)
+        wait_for("a field for the name", lambda: self.program.find("File name:", within=self.program.window(title)))
+        type_text(str(path))
+        press("Return")
+        wait_for(f"an end of {title}", lambda: not self.program.has_window(title))
+
+    def open_data(self):
+        self.main = self.active_window("Orvane")
+        self.canvas = self.program.find("Map", within=self.main)
+        press("ctrl+d")
+        names = " ".join(f'"{path.name}"' for path in sorted(self.town.glob("*.gpkg")))
+        self.answer_file_dialog("Open Data", names)
+        self.screen("data")
+
+    def store_map(self):
+        press("ctrl+shift+s")
+        self.answer_file_dialog("Save Map As", self.town / "town.orvane")
+        self.main = self.active_window("town - Orvane")
+
+    def open_layer_control(self):
+        press("F4")
+        self.dialog = self.active_window("Layer Control")
+        self.screen("layer-control")
+
+    def control(self, name, role=None):
+        return self.program.find(name, role, within=self.dialog)
+
+    def select(self, layer):
+        tree = self.control("Layers", "tree")
+        rows = [tree.get_child_at_index(i) for i in range(min(tree.get_child_count(), 60))]
+        row = next(row for row in rows if row is not None and row.get_name() == layer)
+        click(row, across=0.3)
+
+    def open_list(self, mnemonic, row):
+        """Opens the list with that mnemonic and goes to the row."""
+        press(mnemonic)
+        press("alt+Down")
+        press("Home", *["Down"] * row)
+
+    def apply(self):
+        click(self.control("Apply", "push button"))
+        self.settle()
+
+    def style_a_layer(self):
+        click(self.control("Layers", "page tab"))
+        self.select("lake")
+        self.open_list("alt+f", 7)
+        press("Return")
+        self.open_list("alt+i", 16)
+        self.screen("fill-styles")
+        press("Return")
+        self.apply()
+        self.screen("styled")
+
+    def has_question(self):
+        return any(node.get_role_name() == "alert" for node in walk(self.program.application()))
+
+    def save_scheme(self):
+        click(self.control("Schemes", "page tab"))
+        click(self.control("Save", "push button"))
+        wait_for("the question", self.has_question)
+        press("Return")
+        wait_for("a saved scheme", lambda: not self.has_question())
+
+    def make_scheme(self, name):
+        click(self.control("Schemes", "page tab"))
+        click(self.control("New...", "push button"))
+        self.active_window("New Scheme")
+        type_text(name)
+        press("Return")
+        wait_for("the scheme", lambda: not self.program.has_window("New Scheme"))
+
+    def hide_layers(self, *layers):
+        click(self.control("Layers", "page tab"))
+        for layer in layers:
+            self.select(layer)
+            click(self.control("Visible", "check box"), across=0.1)
+            self.apply()
+
+    def export(self):
+        press("alt+F4")
+        wait_for("a closed layer control", lambda: not self.program.has_window("Layer Control"))
+        press("ctrl+e")
+        dialog = self.active_window("Export Map")
+        self.part("export", dialog)
+        press("Return")
+        self.answer_file_dialog("Export Map", self.town / "town.pdf")
+
+    def preview(self):
+        press("ctrl+p")
+        self.active_window("Print Map")
+        press("Return")
+        self.active_window("Print Preview")
+        self.screen("preview")
+        press("Escape")
+
+    def quit(self):
+        press("ctrl+q")
+        status = self.program.wait_for_end()
+        if status != 0:
+            raise RuntimeError(f"the program ended with {status}")
+
+    def export_without_a_window(self):
+        for scheme in ("Standard", "Quiet"):
+            target = self.pictures / f"page-{scheme.lower()}.png"
+            arguments = [self.command, self.town / "town.orvane", "--export", target, "--scheme", scheme,
+                         "--resolution", "72", "--title", f"Our town, {scheme.lower()}"]
+            subprocess.run([str(argument) for argument in arguments], check=True)
+
+
+def main():
+    program, work, pictures = (pathlib.Path(argument) for argument in sys.argv[1:4])
+    guide = Guide(program, work, pictures)
+    try:
+        guide.open_data()
+        guide.store_map()
+        guide.open_layer_control()
+        guide.style_a_layer()
+        guide.save_scheme()
+        guide.hide_layers("fields", "bus stops")
+        guide.make_scheme("Quiet")
+        guide.screen("schemes")
+        guide.export()
+        guide.preview()
+        guide.quit()
+        guide.export_without_a_window()
+    except BaseException:
+        picture(work / "where-it-stopped.png")
+        guide.program.process.kill()
+        raise
+
+
+main()

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# usage: guide.sh BUILD_DIRECTORY WORK_DIRECTORY PICTURE_DIRECTORY
+# Makes the pictures of the user guide anew: guide.py does on a desktop of its own what the guide describes.
+set -euo pipefail
+build=$(readlink -f "$1")
+here=$(dirname "$(readlink -f "$0")")
+. "$here/virtual_desktop.sh"
+rm -rf "$2"
+mkdir -p "$2/town" "$3"
+work=$(readlink -f "$2") pictures=$(readlink -f "$3")
+
+# A folder of data, as a person has one: a file for each of some layers of the sample town.
+"$build/bin/orvane" --make-sample "$work/sample.orvane"
+for layer in fields forest lake river "main roads" streets houses "public buildings" "bus stops"; do
+    ogr2ogr -f GPKG "$work/town/$layer.gpkg" "$work/sample.gpkg" "$layer"
+done
+
+start_desktop "$work" 1440x880
+on_desktop "$work" /usr/bin/python3 "$here/guide.py" "$build/bin/orvane" "$work" "$pictures"
+mogrify -strip +dither -colors 96 -define png:compression-level=9 "$pictures"/*.png
+du -ch "$pictures"/*.png | tail -1
