@@ -7,6 +7,7 @@
 #include "shell/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/RecentMaps.h"
+#include "shell/RenderingActions.h"
 #include "shell/RunWithProgress.h"
 #include "shell/drawing/MapCanvas.h"
 #include "shell/output/OutputActions.h"
@@ -81,6 +82,8 @@ MainWindow::MainWindow(CallTrace* trace)
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     ConnectCanvas();
+    m_renderingActions = std::make_unique<RenderingActions>(
+        *this, *m_ui->menuLayers, [this]() -> MapSession& { return *m_session; });
     RestoreWindow();
     Use(MapDocument::Untitled());
 }

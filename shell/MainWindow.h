@@ -21,6 +21,7 @@ class CallTrace;
 class MapCanvas;
 class MapDocument;
 class MapSession;
+class RenderingActions;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -80,6 +81,7 @@ private:
     CallTrace* m_trace;
     std::unique_ptr<MapSession> m_session;
     LayerControl m_layerControl; // ends before the session, whose client it uses
+    std::unique_ptr<RenderingActions> m_renderingActions;
     PositionText m_positionText{QString()};
     QLabel* m_position = nullptr; // owned by the status bar, as the next two
     QLabel* m_scale = nullptr;

@@ -52,9 +52,10 @@ std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
 }
 
 MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
-    : m_database(std::move(database)), m_path(path), m_sources(*m_database, m_path)
+    : m_database(std::move(database)), m_path(path), m_sources(*m_database, m_path), m_renderings(*m_database)
 {
     m_sources.Create();
+    m_renderings.Create();
     m_database->Execute(QLatin1String(SettingsTable));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/RenderingTable.h"
 #include "shell/SourceTable.h"
 #include "shell/drawing/LayerLook.h"
 
@@ -27,7 +28,7 @@ struct NewLayer {
 };
 
 /// A map file: the layer database, and in it the tables LayerSources, which says where each layer's features
-/// come from, and MapSettings. Changes are stored as they are made.
+/// come from, LayerRendering and MapSettings. Changes are stored as they are made.
 ///
 /// Data that was moved together with the map, or beside it, is found again. All calls are made on the
 /// user-interface thread; errors are those of the database.
@@ -67,6 +68,9 @@ public:
     std::vector<LayerSource> Sources() const;
     /// Gives the layer its data, in place of those it has.
     void SetSource(const LayerSource& source);
+    /// What the layers' renderer styles work with.
+    RenderingTable& Renderings() { return m_renderings; }
+    const RenderingTable& Renderings() const { return m_renderings; }
     bool HasLayers() const;
 
 private:
@@ -76,6 +80,7 @@ private:
     std::unique_ptr<SqliteLayerDatabase> m_database;
     QString m_path;
     SourceTable m_sources;
+    RenderingTable m_renderings;
 };
 
 } // namespace Orvane

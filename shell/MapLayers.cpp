@@ -4,7 +4,10 @@
 #include "shell/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
+
+#include <algorithm>
 
 namespace Orvane {
 
@@ -70,6 +73,9 @@ void MapLayers::ReadAll()
     for (; !rows->AtEOF(); rows->MoveNext())
         layers.push_back(LayerOfRow(*rows));
     m_layers = std::move(layers);
+    for (const auto& [layerID, rendering] : m_document.Renderings().All())
+        m_attributes.SetRendering(layerID, rendering);
+    FitAttributes();
 }
 
 void MapLayers::Read(const QSet<qint32>& layerIDs)
@@ -81,7 +87,9 @@ void MapLayers::Read(const QSet<qint32>& layerIDs)
     for (const qint32 layerID : layerIDs) {
         table->Seek("=", layerID);
         Replace(layerID, *table);
+        m_attributes.SetRendering(layerID, m_document.Renderings().Of(layerID));
     }
+    FitAttributes();
 }
 
 void MapLayers::TakeFeatures(const SourceContents& contents)
@@ -98,6 +106,7 @@ void MapLayers::TakeFeatures(const SourceContents& contents)
         const auto found = m_features.find(layer.layerID);
         layer.features = found != m_features.end() ? found->second : nullptr;
     }
+    FitAttributes();
 }
 
 std::vector<LayerSource> MapLayers::MissingSources() const
@@ -105,6 +114,38 @@ std::vector<LayerSource> MapLayers::MissingSources() const
     std::vector<LayerSource> sources = m_document.Sources();
     std::erase_if(sources, [&](const LayerSource& source) { return m_features.contains(source.layerID); });
     return sources;
+}
+
+std::vector<AttributeRequest> MapLayers::MissingAttributes() const
+{
+    const bool isPlain = std::all_of(
+        m_layers.begin(), m_layers.end(), [](const MapLayer& layer) { return layer.values.style == 0; });
+    if (isPlain)
+        return {};
+    return m_attributes.Missing(m_layers, m_document.Sources());
+}
+
+void MapLayers::TakeAttribute(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column)
+{
+    m_attributes.Take(request, std::move(column));
+    FitAttributes();
+}
+
+void MapLayers::ReadMissingAttributes(Progress& progress)
+{
+    for (const AttributeRequest& request : MissingAttributes()) {
+        try {
+            const AttributeColumn column = ReadAttribute(request, progress);
+            TakeAttribute(request, std::make_shared<const AttributeColumn>(column));
+        } catch (const RunTimeError&) { // the map is drawn without
+        }
+    }
+}
+
+void MapLayers::FitAttributes()
+{
+    for (MapLayer& layer : m_layers)
+        m_attributes.Fit(layer, m_services);
 }
 
 MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
@@ -138,6 +179,7 @@ void MapLayers::Replace(qint32 layerID, const IRecordset& row)
             m_layers.erase(known);
         m_features.erase(layerID);
         m_unreadable.remove(layerID);
+        m_attributes.Forget(layerID);
         return;
     }
     if (known == m_layers.end())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/LayerAttributes.h"
 #include "shell/data/SourceReader.h"
 #include "shell/drawing/MapLayer.h"
 
@@ -13,6 +14,7 @@ namespace Orvane {
 class IRecordset;
 class IShellServices;
 class MapDocument;
+class Progress;
 
 /// The layers of a map file as the canvas draws them, kept in step with the database.
 ///
@@ -37,9 +39,18 @@ public:
     /// The layers whose source could not be read when it was last tried.
     const QSet<qint32>& Unreadable() const { return m_unreadable; }
 
+    /// The attributes that renderer styles need and that were not read yet.
+    std::vector<AttributeRequest> MissingAttributes() const;
+    /// Takes over an attribute that was read.
+    void TakeAttribute(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
+    /// Reads the missing attributes in the calling thread; those of sources that cannot be read are left out.
+    /// Raises Cancelled.
+    void ReadMissingAttributes(Progress& progress);
+
 private:
     MapLayer LayerOfRow(const IRecordset& row) const;
     void Replace(qint32 layerID, const IRecordset& row);
+    void FitAttributes();
 
     const MapDocument& m_document;
     const IShellServices& m_services;
@@ -47,6 +58,7 @@ private:
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
     QSet<qint32> m_unreadable;
+    LayerAttributes m_attributes;
 };
 
 } // namespace Orvane

@@ -65,6 +65,14 @@ void MapSession::Connect()
             Show();
         });
     });
+    connect(
+        &m_attributes, &AttributeLoader::Loaded, this,
+        [this](const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column) {
+            Guard(&m_mainWindow, [&] {
+                m_layers.TakeAttribute(request, std::move(column));
+                m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+            });
+        });
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(
@@ -87,6 +95,7 @@ void MapSession::Show()
 {
     m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
     MarkNames();
+    m_attributes.Load(m_layers.MissingAttributes());
 }
 
 void MapSession::MarkNames()

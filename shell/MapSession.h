@@ -3,6 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/tracing/TracingClient.h"
+#include "shell/AttributeLoader.h"
 #include "shell/LayerStates.h"
 #include "shell/MapLayers.h"
 #include "shell/ShellClient.h"
@@ -32,6 +33,8 @@ public:
     ~MapSession() override;
 
     MapDocument& Document() { return *m_document; }
+    /// The layers as they are drawn.
+    const std::vector<MapLayer>& Layers() const { return m_layers.All(); }
     /// The client itself.
     ShellClient& Shell() { return m_client; }
     /// What to hand to the component: the client, traced when there is a trace.
@@ -40,10 +43,11 @@ public:
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database.
     QString ReadAndShow();
+    /// Reads these layers' rows anew and draws them.
+    void DrawAgain(const QSet<qint32>& layerIDs);
 
 private:
     void Connect();
-    void DrawAgain(const QSet<qint32>& layerIDs);
     void Show();
     void MarkNames();
 
@@ -53,6 +57,7 @@ private:
     std::unique_ptr<MapDocument> m_document;
     MapLayers m_layers;
     LayerStates m_states;
+    AttributeLoader m_attributes;
     ShellClient m_client;
     std::unique_ptr<TracingClient> m_traced;
     SourceFollower m_follower;

@@ -2,6 +2,7 @@
 #include "shell/ShellClient.h"
 
 #include "shell/LayerStates.h"
+#include "shell/drawing/RendererStyles.h"
 
 #include <QScreen>
 
@@ -51,6 +52,11 @@ void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 QString ShellClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
 {
     return m_states.Marked(layerID, StandardClient::IStyleEditorClient_LayerDisplayName(layerID));
+}
+
+std::vector<RendererStyle> ShellClient::IStyleEditorClient_RendererStyles() const
+{
+    return RendererStyles::Offered();
 }
 
 } // namespace Orvane

@@ -29,6 +29,9 @@ protected:
     /// The layer's name with the marker of its state.
     QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override;
 
+    /// Those of the map's painter.
+    std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
+
 private:
     const LayerStates& m_states;
     QWidget& m_mainWindow;

@@ -76,6 +76,18 @@
         <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
     </message>
     <message>
+        <source>&amp;Attribute:</source>
+        <translation>&amp;Attribut:</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribute:</source>
+        <translation>A&amp;ttribut:</translation>
+    </message>
+    <message>
+        <source>Automatic (%1)</source>
+        <translation>Automatisch (%1)</translation>
+    </message>
+    <message>
         <source>Begin a new map file</source>
         <translation>Eine neue Kartendatei beginnen</translation>
     </message>
@@ -84,12 +96,32 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
+        <source>Cased lines</source>
+        <translation>Linien mit Rand</translation>
+    </message>
+    <message>
+        <source>Cased lines, labelled</source>
+        <translation>Linien mit Rand, beschriftet</translation>
+    </message>
+    <message>
+        <source>Choose the attributes that label and colour the features of a layer</source>
+        <translation>Wählt die Attribute, die die Objekte eines Layers beschriften und färben</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
         <source>Delete layer</source>
         <translation>Layer löschen</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>Layer „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>&amp;Division:</source>
+        <translation>&amp;Einteilung:</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -104,12 +136,60 @@
         <translation>Orvane beenden</translation>
     </message>
     <message>
+        <source>Equal counts</source>
+        <translation>Gleiche Anzahl</translation>
+    </message>
+    <message>
+        <source>Equal steps</source>
+        <translation>Gleiche Schritte</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
     <message>
+        <source>Graduated</source>
+        <translation>Abgestuft</translation>
+    </message>
+    <message>
+        <source>Graduated, labelled</source>
+        <translation>Abgestuft, beschriftet</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>it has no attribute named %1</source>
+        <translation>es gibt darin kein Attribut namens %1</translation>
+    </message>
+    <message>
+        <source>Labelled</source>
+        <translation>Beschriftet</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>Layerdarstellung</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>Layer&amp;darstellung ...</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Layer:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>&amp;Number of classes:</source>
+        <translation>A&amp;nzahl der Klassen:</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -124,8 +204,16 @@
         <translation>Zeilen von „%1“, die zu etwas gehören, das in „%2“ fehlt: %3.</translation>
     </message>
     <message>
+        <source>Style:</source>
+        <translation>Darstellung:</translation>
+    </message>
+    <message>
         <source>The data file &quot;%1&quot; is missing.</source>
         <translation>Die Datendatei „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>Die Daten dieses Layers können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The map file is damaged: %1.</source>

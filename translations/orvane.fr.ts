@@ -76,6 +76,18 @@
         <translation>Une valeur vide ne peut pas être enregistrée dans « ^1 ».</translation>
     </message>
     <message>
+        <source>&amp;Attribute:</source>
+        <translation>&amp;Attribut :</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribute:</source>
+        <translation>A&amp;ttribut :</translation>
+    </message>
+    <message>
+        <source>Automatic (%1)</source>
+        <translation>Automatique (%1)</translation>
+    </message>
+    <message>
         <source>Begin a new map file</source>
         <translation>Commencer un nouveau fichier de carte</translation>
     </message>
@@ -84,12 +96,32 @@
         <translation>Annuler</translation>
     </message>
     <message>
+        <source>Cased lines</source>
+        <translation>Lignes bordées</translation>
+    </message>
+    <message>
+        <source>Cased lines, labelled</source>
+        <translation>Lignes bordées, étiquetées</translation>
+    </message>
+    <message>
+        <source>Choose the attributes that label and colour the features of a layer</source>
+        <translation>Choisir les attributs qui étiquettent et colorent les objets d’une couche</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Classes</translation>
+    </message>
+    <message>
         <source>Delete layer</source>
         <translation>Supprimer la couche</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>Supprimer la couche « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&amp;Division:</source>
+        <translation>&amp;Répartition :</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -104,12 +136,60 @@
         <translation>Quitter Orvane</translation>
     </message>
     <message>
+        <source>Equal counts</source>
+        <translation>Effectifs égaux</translation>
+    </message>
+    <message>
+        <source>Equal steps</source>
+        <translation>Intervalles égaux</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
     </message>
     <message>
+        <source>Graduated</source>
+        <translation>Gradué</translation>
+    </message>
+    <message>
+        <source>Graduated, labelled</source>
+        <translation>Gradué, étiqueté</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>it has no attribute named %1</source>
+        <translation>aucun attribut ne s’y nomme %1</translation>
+    </message>
+    <message>
+        <source>Labelled</source>
+        <translation>Étiqueté</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>Rendu de la couche</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>&amp;Rendu de la couche...</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Couche :</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>&amp;Number of classes:</source>
+        <translation>&amp;Nombre de classes :</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -124,8 +204,16 @@
         <translation>Lignes de « %1 » qui se rapportent à un élément absent de « %2 » : %3.</translation>
     </message>
     <message>
+        <source>Style:</source>
+        <translation>Style :</translation>
+    </message>
+    <message>
         <source>The data file &quot;%1&quot; is missing.</source>
         <translation>Le fichier de données « %1 » est introuvable.</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>Les données de cette couche ne peuvent pas être lues.</translation>
     </message>
     <message>
         <source>The map file is damaged: %1.</source>

@@ -76,6 +76,18 @@
         <translation>空の値は「^1」に保存できません。</translation>
     </message>
     <message>
+        <source>&amp;Attribute:</source>
+        <translation>属性(&amp;A):</translation>
+    </message>
+    <message>
+        <source>A&amp;ttribute:</source>
+        <translation>属性(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Automatic (%1)</source>
+        <translation>自動 (%1)</translation>
+    </message>
+    <message>
         <source>Begin a new map file</source>
         <translation>新しい地図ファイルを作成します</translation>
     </message>
@@ -84,12 +96,32 @@
         <translation>キャンセル</translation>
     </message>
     <message>
+        <source>Cased lines</source>
+        <translation>縁取り線</translation>
+    </message>
+    <message>
+        <source>Cased lines, labelled</source>
+        <translation>縁取り線、ラベル付き</translation>
+    </message>
+    <message>
+        <source>Choose the attributes that label and colour the features of a layer</source>
+        <translation>レイヤーの地物にラベルと色を付ける属性を選びます</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>階級</translation>
+    </message>
+    <message>
         <source>Delete layer</source>
         <translation>レイヤーの削除</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>レイヤー「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Division:</source>
+        <translation>区分方法(&amp;D):</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -104,12 +136,60 @@
         <translation>Orvane を終了します</translation>
     </message>
     <message>
+        <source>Equal counts</source>
+        <translation>等量</translation>
+    </message>
+    <message>
+        <source>Equal steps</source>
+        <translation>等間隔</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
+        <source>Graduated</source>
+        <translation>段階区分</translation>
+    </message>
+    <message>
+        <source>Graduated, labelled</source>
+        <translation>段階区分、ラベル付き</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>it has no attribute named %1</source>
+        <translation>%1 という名前の属性がありません</translation>
+    </message>
+    <message>
+        <source>Labelled</source>
+        <translation>ラベル付き</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>レイヤーの描画</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>レイヤーの描画(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>レイヤー(&amp;L):</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>&amp;Number of classes:</source>
+        <translation>階級数(&amp;N):</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -124,8 +204,16 @@
         <translation>「%2」にないものを参照している「%1」の行: %3。</translation>
     </message>
     <message>
+        <source>Style:</source>
+        <translation>スタイル:</translation>
+    </message>
+    <message>
         <source>The data file &quot;%1&quot; is missing.</source>
         <translation>データファイル「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>このレイヤーのデータを読み込めません。</translation>
     </message>
     <message>
         <source>The map file is damaged: %1.</source>

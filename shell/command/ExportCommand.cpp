@@ -48,6 +48,7 @@ int Export(const ExportRequest& request, const Terminal& terminal)
     MapLayers layers(document, services, PagePixelsPerMillimetre);
     layers.ReadAll();
     layers.TakeFeatures(contents);
+    layers.ReadMissingAttributes(progress);
     const MapPage page(
         document.Database(), services, {layers.All(), document.System(), BoundsOf(layers.All())},
         request.page);

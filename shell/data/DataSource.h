@@ -6,13 +6,17 @@
 
 #include <QString>
 
+#include <limits>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 class GDALDataset;
+class OGRLayer;
 
 namespace Orvane {
 
+class GdalErrors;
 class Progress;
 
 /// The number of the RunTimeError for data that cannot be read.
@@ -24,6 +28,19 @@ struct SourceLayer {
     FeatureKind kind = FeatureKind::Area; ///< of a mixed layer: Area
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
     Box extent; ///< in its own units; empty when the source does not know it
+};
+
+/// One attribute of a source layer.
+struct SourceField {
+    QString name;
+    bool isNumber = false;
+    bool isText = false; ///< neither: a date, a list, a flag
+};
+
+/// What a feature's attribute holds.
+struct FieldValue {
+    QString text; ///< trimmed, as the source writes it; empty for null
+    double number = std::numeric_limits<double>::quiet_NaN(); ///< not a number for null and for a text
 };
 
 /// A file, or whatever else GDAL's vector drivers open, read only.
@@ -52,7 +69,14 @@ public:
     FeatureSet
     Read(const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress) const;
 
+    /// The attributes of a layer, in the source's order; raises for an unknown layer.
+    std::vector<SourceField> Fields(const QString& layer) const;
+    /// The values of one attribute by feature ID. Raises as Read does, and for an unknown attribute.
+    std::unordered_map<qint64, FieldValue>
+    ReadField(const QString& layer, const QString& filter, const QString& field, Progress& progress) const;
+
 private:
+    OGRLayer& FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const;
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;

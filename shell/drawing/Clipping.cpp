@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/drawing/Clipping.h"
 
+#include <QLineF>
+
 namespace Orvane {
 
 namespace {
@@ -53,6 +55,25 @@ bool ClipSegment(QPointF& from, QPointF& to, const QRectF& area)
     from = begin > 0 ? start + step * begin : start;
     to = end < 1 ? start + step * end : to;
     return true;
+}
+
+std::vector<ClippedRun> ClipLine(const QPolygonF& line, const QRectF& area)
+{
+    std::vector<ClippedRun> runs;
+    double length = 0;
+    bool joins = false; // the run before goes on
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        QPointF from = line[i - 1];
+        QPointF to = line[i];
+        if (ClipSegment(from, to, area)) {
+            if (!joins)
+                runs.push_back({{from}, length + QLineF(line[i - 1], from).length()});
+            runs.back().points << to;
+        }
+        joins = to == line[i] && !runs.empty() && runs.back().points.last() == to;
+        length += QLineF(line[i - 1], line[i]).length();
+    }
+    return runs;
 }
 
 QPolygonF ClipRing(const QPolygonF& ring, const QRectF& area)

@@ -2,6 +2,7 @@
 #include "shell/drawing/FeaturePainter.h"
 
 #include "shell/drawing/Clipping.h"
+#include "shell/drawing/PixelGeometry.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -56,7 +57,7 @@ FeaturePainter::FeaturePainter(QPainter& painter, const MapView& view, const Lay
 {
     m_tolerance = std::max(Tolerance / DotsPerPixel(painter), TolerancePerWidth * look.outline.widthF());
     AlignPattern(painter, m_look.fill, view);
-    const double margin = std::ceil(look.outline.widthF() + 2 * look.symbolRadius) + 2;
+    const double margin = look.Reach();
     m_area = QRectF({0, 0}, QSizeF(view.Size())).adjusted(-margin, -margin, margin, margin);
     m_extent = Grown(view.Extent(), margin * view.UnitsPerPixel());
     m_painter.setRenderHint(QPainter::Antialiasing);
@@ -64,13 +65,21 @@ FeaturePainter::FeaturePainter(QPainter& painter, const MapView& view, const Lay
 
 void FeaturePainter::Paint(const FeatureSet& features, const std::atomic<bool>& cancelled)
 {
+    Paint(features, {}, cancelled);
+}
+
+void FeaturePainter::Paint(
+    const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
+    const std::atomic<bool>& cancelled)
+{
     m_painter.setPen(m_look.outline);
     m_painter.setBrush(m_look.fill);
-    for (const FeatureSet::Feature& feature : features.Features()) {
+    const std::vector<FeatureSet::Feature>& all = features.Features();
+    for (size_t i = 0; i < all.size(); ++i) {
         if (cancelled)
             return;
-        if (feature.bounds.Intersects(m_extent))
-            PaintFeature(features, feature);
+        if (all[i].bounds.Intersects(m_extent) && (!isChosen || isChosen(i)))
+            PaintFeature(features, all[i]);
     }
 }
 
@@ -106,22 +115,20 @@ void FeaturePainter::PaintLine(std::span<const QPointF> part, bool clip)
 {
     if (m_look.outline.style() == Qt::NoPen)
         return;
-    const QPolygonF line = Simplified(part);
-    if (!clip) {
-        m_painter.drawPolyline(line);
-        return;
-    }
-    QPolygonF run;
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        QPointF from = line[i - 1];
-        QPointF to = line[i];
-        const bool inside = ClipSegment(from, to, m_area);
-        if (!inside || run.isEmpty() || run.last() != from) {
-            m_painter.drawPolyline(run);
-            run.clear();
-        }
-        if (inside)
-            run << (run.isEmpty() ? QPolygonF{from, to} : QPolygonF{to});
+    const QPolygonF line = ToPixels(part, m_view, m_tolerance);
+    if (!clip)
+        return PaintRun(line, 0);
+    for (const ClippedRun& run : ClipLine(line, m_area))
+        PaintRun(run.points, run.lengthBefore);
+}
+
+// The dashes stay where they are on the line, wherever the window cuts it.
+void FeaturePainter::PaintRun(const QPolygonF& run, double lengthBefore)
+{
+    if (m_look.outline.style() != Qt::SolidLine) {
+        QPen pen = m_look.outline;
+        pen.setDashOffset(lengthBefore / std::max(1.0, pen.widthF()));
+        m_painter.setPen(pen);
     }
     m_painter.drawPolyline(run);
 }
@@ -135,7 +142,7 @@ void FeaturePainter::PaintArea(const FeatureSet& features, const FeatureSet::Fea
     }
     QPainterPath rings;
     for (quint32 part = feature.firstPart; part < feature.endPart; ++part) {
-        const QPolygonF ring = Simplified(features.Part(part));
+        const QPolygonF ring = ToPixels(features.Part(part), m_view, m_tolerance);
         const QPolygonF shown = clip ? ClipRing(ring, m_area) : ring;
         if (shown.size() < 2)
             continue;
@@ -153,18 +160,6 @@ void FeaturePainter::PaintSpeck(const Box& bounds)
     const QPointF pixel = m_view.ToPixel({bounds.minX, bounds.maxY});
     m_painter.fillRect(
         QRectF(pixel, QSizeF(SpeckSize, SpeckSize)), outlined ? m_look.outline.color() : m_look.fill.color());
-}
-
-QPolygonF FeaturePainter::Simplified(std::span<const QPointF> part) const
-{
-    QPolygonF kept;
-    for (size_t i = 0; i < part.size(); ++i) {
-        const QPointF pixel = m_view.ToPixel(part[i]);
-        const bool last = i + 1 == part.size();
-        if (i == 0 || last || (pixel - kept.last()).manhattanLength() >= m_tolerance)
-            kept << pixel;
-    }
-    return kept;
 }
 
 } // namespace Orvane

@@ -9,6 +9,7 @@
 #include <QRectF>
 
 #include <atomic>
+#include <functional>
 #include <span>
 
 class QPainter;
@@ -25,14 +26,18 @@ public:
 
     /// Draws the set, first feature first. Stops soon after cancelled becomes true.
     void Paint(const FeatureSet& features, const std::atomic<bool>& cancelled);
+    /// The same for some of the features. isChosen: asked with a feature's index; empty for all.
+    void Paint(
+        const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
+        const std::atomic<bool>& cancelled);
 
 private:
     void PaintFeature(const FeatureSet& features, const FeatureSet::Feature& feature);
     void PaintSymbols(std::span<const QPointF> part);
     void PaintLine(std::span<const QPointF> part, bool clip);
+    void PaintRun(const QPolygonF& run, double lengthBefore);
     void PaintArea(const FeatureSet& features, const FeatureSet::Feature& feature, bool clip);
     void PaintSpeck(const Box& bounds);
-    QPolygonF Simplified(std::span<const QPointF> part) const;
 
     QPainter& m_painter;
     const MapView m_view;

@@ -2,10 +2,14 @@
 #include "shell/drawing/LayerLook.h"
 
 #include "ovctrls/LinePatterns.h"
+#include "shell/drawing/RendererStyles.h"
 
 #include <OrvaneShellLib/IShellServices.h>
 
 #include <QImage>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Orvane {
 
@@ -16,6 +20,11 @@ constexpr int HollowFill = 15;
 constexpr int FillPatternKind = 7;
 constexpr int FillPatternCount = 32;
 constexpr QRgb OwnSymbolColour = 0xff4a4a4a;
+constexpr QRgb UnclassedColour = 0xffd9d9d9;
+constexpr double PaleEnd = 0.8; // of the way to white
+constexpr double ThinnestCased = 4; // pixels
+constexpr double EdgePart = 0.15; // of a cased line's width, on either side
+constexpr float LightestText = 0.35f;
 
 QColor OpaqueFromBgr(qint32 bgr)
 {
@@ -72,7 +81,73 @@ QBrush FillOf(const DrawingValues& values, const IShellServices& services)
     return PatternBrush(pattern, fore.value_or(Qt::transparent), back.value_or(Qt::transparent));
 }
 
+// Edges of a pixel on either side at least, and a core between them.
+CasedLine CasedLineOf(const DrawingValues& values, const QPen& outline)
+{
+    const double width = std::max(outline.widthF(), ThinnestCased);
+    CasedLine cased{outline, outline};
+    if (outline.style() != Qt::NoPen)
+        cased.casing = QPen(outline.color(), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    cased.core.setColor(ColourFromBgr(values.fillForeColor).value_or(Qt::white));
+    cased.core.setWidthF(width - 2 * std::max(1.0, width * EdgePart));
+    if (cased.core.style() == Qt::NoPen)
+        cased.core.setStyle(Qt::SolidLine);
+    return cased;
+}
+
+QColor Mixed(const QColor& from, const QColor& to, double part)
+{
+    const auto mix = [part](int a, int b) { return int(std::lround(a + (b - a) * part)); };
+    return QColor(mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue()));
+}
+
+std::pair<QColor, QColor> RampOf(const DrawingValues& values)
+{
+    const std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
+    const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
+    const QColor strong = fore ? *fore : back.value_or(OpaqueFromBgr(values.color));
+    const bool isRamp = fore && back && *fore != *back;
+    return {isRamp ? *back : Mixed(strong, Qt::white, PaleEnd), strong};
+}
+
+qint32 BgrOf(const QColor& colour)
+{
+    return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
+
+// Letters are read on white: what is too light for that is darkened.
+QColor TextColour(const QColor& colour)
+{
+    const double lightness = std::min(colour.lightnessF(), LightestText);
+    return QColor::fromHslF(std::max(0.f, colour.hslHueF()), colour.hslSaturationF(), float(lightness));
+}
+
 } // namespace
+
+double LayerLook::Reach() const
+{
+    const double pen = cased ? std::max(outline.widthF(), cased->casing.widthF()) : outline.widthF();
+    return std::ceil(pen + 2 * symbolRadius) + 2;
+}
+
+std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count)
+{
+    const auto [low, high] = RampOf(values);
+    std::vector<ClassLook> looks;
+    for (int i = 0; i < count; ++i) {
+        const QColor colour = count > 1 ? Mixed(low, high, double(i) / (count - 1)) : high;
+        DrawingValues own = values;
+        own.fillForeColor = BgrOf(colour);
+        looks.push_back({FillOf(own, services), colour});
+    }
+    return looks;
+}
+
+ClassLook UnclassedLook(const DrawingValues& values)
+{
+    const QColor grey = QColor::fromRgb(UnclassedColour);
+    return {values.fillStyle == HollowFill ? QBrush(Qt::NoBrush) : QBrush(grey), grey};
+}
 
 std::optional<QColor> ColourFromBgr(qint32 bgr)
 {
@@ -87,6 +162,9 @@ LayerLook LookOf(const DrawingValues& values, const IShellServices& services, do
     look.outline = OutlineOf(values, pixelsPerMillimetre);
     look.fill = FillOf(values, services);
     look.symbol = ColourFromBgr(values.color).value_or(QColor::fromRgb(OwnSymbolColour));
+    look.text = TextColour(OpaqueFromBgr(values.color));
+    if (RendererStyles::Has(values.style, RendererStyles::Cased))
+        look.cased = CasedLineOf(values, look.outline);
     look.symbolRadius = 2 + PenWidth(values.lineThickness, pixelsPerMillimetre) / 2;
     return look;
 }

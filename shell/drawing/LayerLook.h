@@ -7,6 +7,7 @@
 #include <QtGlobal>
 
 #include <optional>
+#include <vector>
 
 namespace Orvane {
 
@@ -20,21 +21,44 @@ struct DrawingValues {
     int outlineStyle = 0; ///< as in LinePatterns.h: 0 solid, 1 to 14 dashes and dots, 15 none
     int fillStyle = 0; ///< 0 solid, 15 hollow, else the number of a fill pattern
     int lineThickness = 0; ///< negative: pixels; 0: thinnest; positive: millimetres
-    qint32 style = 0; ///< renderer style
+    qint32 style = 0; ///< as in RendererStyles.h
 
     bool operator==(const DrawingValues&) const = default;
 };
 
+/// The pens of a line with edges.
+struct CasedLine {
+    QPen casing; ///< drawn first, under all cores
+    QPen core;
+};
+
+/// How the features of one class differ from their layer.
+struct ClassLook {
+    QBrush fill;
+    QColor colour; ///< of lines, points, and the outlines of hollow areas
+};
+
 /// Pens and brushes for one layer. Safe to use in any thread.
 struct LayerLook {
-    QPen outline;
+    QPen outline; ///< of areas; of lines, too, that are not cased
     QBrush fill;
     QColor symbol; ///< colour of points
     double symbolRadius = 3; ///< logical pixels
+    QColor text; ///< of labels
+    std::optional<CasedLine> cased; ///< for renderer styles with cased lines
+
+    /// The farthest that ink reaches from a feature's geometry, in logical pixels.
+    double Reach() const;
 };
 
 /// The colour that a BGR integer stands for; nothing when its top byte marks it transparent.
 std::optional<QColor> ColourFromBgr(qint32 bgr);
+
+/// The looks of so many classes, the lowest first, in steps from the fill's back colour to its fore colour;
+/// where one is transparent, from pale to strong. Passes on what the services raise.
+std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count);
+/// The look of features that are in no class: grey.
+ClassLook UnclassedLook(const DrawingValues& values);
 
 /// The look that the values ask for. pixelsPerMillimetre: of the screen or the paper, in logical pixels.
 /// Passes on what the services raise.

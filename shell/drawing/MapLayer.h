@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/data/AttributeColumn.h"
 #include "shell/data/FeatureSet.h"
+#include "shell/drawing/Classification.h"
 #include "shell/drawing/LayerLook.h"
 
 #include <QString>
@@ -41,6 +43,9 @@ struct MapLayer {
     DrawingValues values;
     LayerLook look; ///< follows from the values
     std::shared_ptr<const FeatureSet> features; ///< nullptr while they cannot be read
+    std::shared_ptr<const AttributeColumn> labels; ///< nullptr for no labels, and until they are read
+    std::shared_ptr<const Classification> classes; ///< nullptr for no classes, and until they are known
+    std::vector<ClassLook> classLooks; ///< follow from values and classes, one a class
     QString name; ///< the layer's own, without markers
     LayerFlags flags;
 
@@ -60,7 +65,8 @@ struct MapLayer {
     /// True when both would be drawn into the same pixels.
     bool LooksLike(const MapLayer& other) const
     {
-        return values == other.values && features == other.features;
+        return values == other.values && features == other.features && labels == other.labels
+            && classes == other.classes;
     }
 };
 

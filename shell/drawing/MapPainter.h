@@ -29,4 +29,9 @@ bool PaintMap(
     QPainter& painter, const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator,
     const std::atomic<bool>& cancelled);
 
+/// Paints only the labels of the map, for those who paint its layers one by one.
+void PaintMapLabels(
+    QPainter& painter, const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator,
+    const std::atomic<bool>& cancelled);
+
 } // namespace Orvane

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "shell/drawing/Sheets.h"
 
-#include "shell/drawing/FeaturePainter.h"
+#include "shell/drawing/Labels.h"
+#include "shell/drawing/LayerPainter.h"
+#include "shell/drawing/PixelGeometry.h"
 
 #include <QPainter>
 
-#include <cmath>
+#include <algorithm>
+#include <limits>
+#include <span>
 
 namespace Orvane {
 
 namespace {
 
 constexpr double BackdropOpacity = 0.3;
-
-double MarginPixels(const LayerLook& look)
-{
-    return std::ceil(look.outline.widthF() + 2 * look.symbolRadius) + 2;
-}
+constexpr qint32 LabelMark = std::numeric_limits<qint32>::min();
 
 bool IsDrawn(const MapLayer& layer, const Box& extent, double scaleDenominator)
 {
@@ -26,15 +26,32 @@ bool IsDrawn(const MapLayer& layer, const Box& extent, double scaleDenominator)
 // The pixels that the sheet's layers can touch.
 QRect CoveredArea(const Sheet& sheet, const MapView& view)
 {
+    const QRectF window({0, 0}, QSizeF(view.Size()));
+    if (sheet.labels)
+        return window.toRect();
     QRectF covered;
     for (const MapLayer& layer : sheet.layers) {
-        const Box& bounds = layer.features->Bounds();
-        const double margin = MarginPixels(layer.look);
-        const QRectF pixels(
-            view.ToPixel({bounds.minX, bounds.maxY}), view.ToPixel({bounds.maxX, bounds.minY}));
-        covered |= pixels.adjusted(-margin, -margin, margin, margin);
+        const double margin = layer.look.Reach();
+        covered |= ToPixels(layer.features->Bounds(), view).adjusted(-margin, -margin, margin, margin);
     }
-    return (covered & QRectF({0, 0}, QSizeF(view.Size()))).toAlignedRect();
+    return (covered & window).toAlignedRect();
+}
+
+// The layers, bottom first, and above them their labels.
+void AppendSheets(
+    std::vector<Sheet>& sheets, std::span<const MapLayer> layers, bool backdrop, size_t perSheet)
+{
+    for (size_t i = 0; i < layers.size(); ++i) {
+        if (i % perSheet == 0)
+            sheets.push_back({{}, backdrop, false});
+        sheets.back().layers.push_back(layers[i]);
+    }
+    Sheet labels{{}, backdrop, true};
+    std::copy_if(layers.begin(), layers.end(), std::back_inserter(labels.layers), [](const MapLayer& layer) {
+        return layer.labels && !layer.labels->texts.empty();
+    });
+    if (!labels.layers.empty())
+        sheets.push_back(std::move(labels));
 }
 
 } // namespace
@@ -42,6 +59,8 @@ QRect CoveredArea(const Sheet& sheet, const MapView& view)
 std::vector<qint32> Sheet::Key() const
 {
     std::vector<qint32> key;
+    if (labels)
+        key.push_back(LabelMark);
     for (const MapLayer& layer : layers)
         key.push_back(layer.layerID);
     return key;
@@ -60,15 +79,12 @@ std::vector<Sheet> PlanSheets(
         return a.Height() < b.Height();
     });
 
+    const auto firstNormal = std::find_if(
+        drawn.begin(), drawn.end(), [](const MapLayer& layer) { return layer.mode != DrawMode::Backdrop; });
     const size_t perSheet = (drawn.size() + maxSheets - 1) / maxSheets;
     std::vector<Sheet> sheets;
-    for (MapLayer& layer : drawn) {
-        const bool backdrop = layer.mode == DrawMode::Backdrop;
-        const bool full = sheets.empty() || sheets.back().layers.size() >= perSheet;
-        if (full || sheets.back().backdrop != backdrop)
-            sheets.push_back({{}, backdrop});
-        sheets.back().layers.push_back(std::move(layer));
-    }
+    AppendSheets(sheets, {drawn.begin(), firstNormal}, true, perSheet);
+    AppendSheets(sheets, {firstNormal, drawn.end()}, false, perSheet);
     return sheets;
 }
 
@@ -91,8 +107,10 @@ SheetImage DrawSheet(
 void PaintSheet(
     QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled)
 {
+    if (sheet.labels)
+        return PaintLabels(painter, PlaceLabels(sheet.layers, view, cancelled));
     for (const MapLayer& layer : sheet.layers)
-        FeaturePainter(painter, view, layer.look).Paint(*layer.features, cancelled);
+        PaintLayer(painter, layer, view, cancelled);
 }
 
 double SheetOpacity(const Sheet& sheet)

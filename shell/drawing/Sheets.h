@@ -18,8 +18,9 @@ namespace Orvane {
 struct Sheet {
     std::vector<MapLayer> layers; ///< bottom first; at least one
     bool backdrop = false; ///< laid down pale
+    bool labels = false; ///< shows the layers' labels, not their features
 
-    /// The layers' IDs in order: names the sheet's image.
+    /// The layers' IDs in order, behind a mark for labels: names the sheet's image.
     std::vector<qint32> Key() const;
 };
 
@@ -31,7 +32,8 @@ struct SheetImage {
 
 /// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID;
 /// without layers that are invisible, hidden, out of scale, out of view or not read. There are about
-/// maxSheets of them at most, however many layers there are, which bounds the memory they take.
+/// maxSheets of them at most, however many layers there are, which bounds the memory they take. Labels follow
+/// on sheets of their own, above everything; those of backdrop layers above the backdrop.
 std::vector<Sheet> PlanSheets(
     const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator, size_t maxSheets = 64);
 

@@ -36,9 +36,27 @@ std::vector<MapLayer>
 DrawnLayers(const std::vector<MapLayer>& layers, const MapView& view, double denominator)
 {
     std::vector<MapLayer> drawn;
-    for (const Sheet& sheet : PlanSheets(layers, view, denominator))
-        drawn.insert(drawn.end(), sheet.layers.begin(), sheet.layers.end());
+    for (const Sheet& sheet : PlanSheets(layers, view, denominator)) {
+        if (!sheet.labels)
+            drawn.insert(drawn.end(), sheet.layers.begin(), sheet.layers.end());
+    }
     return drawn;
+}
+
+bool HasPatterns(const MapLayer& layer)
+{
+    const auto isPattern = [](const QBrush& fill) { return fill.style() == Qt::TexturePattern; };
+    return isPattern(layer.look.fill)
+        || std::any_of(layer.classLooks.begin(), layer.classLooks.end(), [&](const ClassLook& look) {
+               return isPattern(look.fill);
+           });
+}
+
+void RemoveFills(MapLayer& layer)
+{
+    layer.look.fill = Qt::NoBrush;
+    for (ClassLook& look : layer.classLooks)
+        look.fill = QBrush(Qt::transparent); // without any brush the outline would take the class's colour
 }
 
 double Rounded(double denominator)
@@ -145,16 +163,18 @@ void MapPage::PaintWithPictures(QPainter& painter, const std::atomic<bool>& canc
 {
     const double denominator = ScaleDenominator();
     for (MapLayer layer : DrawnLayers(m_contents.layers, m_view, denominator)) {
-        if (layer.look.fill.style() == Qt::TexturePattern) {
+        layer.labels = nullptr;
+        if (HasPatterns(layer)) {
             MapLayer fill = layer;
             fill.look.outline = Qt::NoPen;
             PaintAsPicture(
                 painter, QRectF({0, 0}, m_layout.map.size()), m_settings.resolution,
                 [&](QPainter& inside) { PaintMap(inside, {fill}, m_view, denominator, cancelled); });
-            layer.look.fill = Qt::NoBrush;
+            RemoveFills(layer);
         }
         PaintMap(painter, {layer}, m_view, denominator, cancelled);
     }
+    PaintMapLabels(painter, m_contents.layers, m_view, denominator, cancelled);
 }
 
 void MapPage::PaintScaleBar(QPainter& painter) const

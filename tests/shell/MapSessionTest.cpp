@@ -6,6 +6,7 @@
 #include "shell/MapDocument.h"
 #include "shell/data/Progress.h"
 #include "shell/drawing/MapCanvas.h"
+#include "shell/drawing/RendererStyles.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 
@@ -151,6 +152,25 @@ TEST_F(MapSessionTest, DataThatAreGoneAreNamedOnce)
     }
     MapSession session(std::move(document), m_canvas, m_canvas, nullptr);
     EXPECT_EQ(session.ReadAndShow().count("gone.gpkg"), 1);
+}
+
+TEST_F(MapSessionTest, AStyleThatNeedsAttributesIsDrawnOnceTheyAreRead)
+{
+    const QImage before = m_canvas.grab().toImage();
+    Apply(2, "Style", RendererStyles::Labelled);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_canvas.Layers()[1].labels != nullptr; }));
+    WaitForPicture();
+    EXPECT_EQ(m_canvas.Layers()[1].labels->attribute, "type");
+    EXPECT_NE(m_canvas.grab().toImage(), before);
+    Apply(2, "Style", 0);
+    WaitForPicture();
+    EXPECT_EQ(m_canvas.grab().toImage(), before);
+}
+
+TEST_F(MapSessionTest, EndingWhileAttributesAreReadIsHarmless)
+{
+    Apply(2, "Style", RendererStyles::Labelled);
+    m_session.reset();
 }
 
 } // namespace Orvane

@@ -105,6 +105,34 @@ TEST_F(FeaturePainterTest, APointIsASymbolInTheLayersColour)
     EXPECT_EQ(At(70, 49), QColor(Qt::white));
 }
 
+TEST_F(FeaturePainterTest, DashesStayOnTheLineWhenTheWindowCutsIt)
+{
+    m_look.outline = QPen(Qt::black, 4, Qt::DashLine, Qt::FlatCap);
+    const auto row = [this](QPointF centre) {
+        m_image.fill(Qt::white);
+        QPainter painter(&m_image);
+        FeaturePainter(painter, MapView(centre, 1, View.Size()), m_look)
+            .Paint(*Line({{-400, 50}, {400, 50}}), m_cancelled);
+        return m_image.copy(0, 50, 100, 1);
+    };
+    EXPECT_EQ(row({50, 50}).copy(7, 0, 90, 1), row({57, 50}).copy(0, 0, 90, 1));
+}
+
+TEST_F(FeaturePainterTest, OnlyChosenFeaturesAreDrawn)
+{
+    FeatureSet set;
+    for (const auto& area : {Area(10, 10, 40, 40), Area(60, 60, 90, 90)}) {
+        set.BeginFeature(FeatureKind::Area);
+        set.AddPart(area->Part(0));
+    }
+    QPainter painter(&m_image);
+    FeaturePainter(painter, View, m_look)
+        .Paint(
+            set, [](size_t index) { return index == 1; }, m_cancelled);
+    EXPECT_EQ(At(25, 25), QColor(Qt::white));
+    EXPECT_EQ(At(75, 75), QColor(Qt::blue));
+}
+
 TEST_F(FeaturePainterTest, APatternMovesAlongWithTheMap)
 {
     QImage tile(8, 8, QImage::Format_ARGB32_Premultiplied);

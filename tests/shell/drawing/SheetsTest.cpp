@@ -145,4 +145,22 @@ TEST(Sheets, AnImageIsCutToWhatItsLayersCanCover)
     EXPECT_EQ(image.image.devicePixelRatio(), 2);
 }
 
+TEST(Sheets, LabelsLieAboveEverythingAndThoseOfTheBackdropAboveTheBackdrop)
+{
+    AttributeColumn column;
+    column.texts = {"A"};
+    const auto labels = std::make_shared<const AttributeColumn>(column);
+    MapLayer backdrop = Layer(1);
+    backdrop.mode = DrawMode::Backdrop;
+    backdrop.labels = labels;
+    MapLayer normal = Layer(2);
+    normal.labels = labels;
+    const std::vector<Sheet> sheets = PlanSheets({backdrop, normal, Layer(3)}, View, Scale);
+    ASSERT_EQ(sheets.size(), 5u);
+    EXPECT_TRUE(sheets[1].labels && sheets[1].backdrop);
+    EXPECT_TRUE(sheets[4].labels && !sheets[4].backdrop);
+    EXPECT_THAT(sheets[4].layers, testing::SizeIs(1));
+    EXPECT_NE(sheets[4].Key(), sheets[2].Key());
+}
+
 } // namespace Orvane
