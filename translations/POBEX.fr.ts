@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>Co&amp;de :</translation>
+        <translation>C&amp;ode :</translation>
     </message>
     <message>
         <source>Collapse All</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Ne&amp;w...</source>
-        <translation>N&amp;ouveau...</translation>
+        <translation>A&amp;jouter...</translation>
     </message>
     <message>
         <source>&amp;No</source>

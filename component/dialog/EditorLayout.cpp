@@ -23,6 +23,13 @@ int WidestValue(const QLabel& label)
     return widest + 2 * (label.frameWidth() + label.margin()) + metrics.horizontalAdvance(QLatin1Char('x'));
 }
 
+// A tool button's own size hint leaves its text hardly any room at the sides.
+QSize RoomySize(const QToolButton& button)
+{
+    const QFontMetrics metrics = button.fontMetrics();
+    return button.sizeHint() + QSize(2 * metrics.horizontalAdvance(QLatin1Char('x')), metrics.height() / 3);
+}
+
 // Layouts hear of a new text only by a posted event, and what is hidden not at all: ask them all anew.
 void ForgetSizes(QWidget& parent)
 {
@@ -55,6 +62,8 @@ void EditorLayout::FitTexts()
 {
     for (QLabel* label : {m_ui.lblScaleMin, m_ui.lblScaleMax, m_ui.lblPriority})
         label->setMinimumWidth(WidestValue(*label));
+    for (QToolButton* button : {m_ui.Normal, m_ui.Backdrop, m_ui.Hidden})
+        button->setMinimumSize(RoomySize(*button));
     m_ui.picLayerStyle->setMinimumWidth(0);
     m_ui.picLayerStyle->setMaximumWidth(QWIDGETSIZE_MAX);
     ForgetSizes(m_form);

@@ -3,6 +3,7 @@
 
 #include "component/controls/DrawPrioritiesTranslator.h"
 #include "component/controls/VisibleScalesTranslator.h"
+#include "component/controls/WheelNeedsFocus.h"
 #include "component/dialog/FlagEditor.h"
 #include "component/dialog/LineAndFillEditor.h"
 #include "component/dialog/PriorityEditor.h"
@@ -51,6 +52,8 @@ void EditorParts::JoinPropertyEditors(const QString& stylePrefix)
     auto rendererStyles = std::make_unique<RendererStyleEditor>(*m_ui.cboStyle);
     m_rendererStyles = rendererStyles.get();
     panel.Join(std::move(rendererStyles));
+    for (QComboBox* list : m_ui.picLayerStyle->window()->findChildren<QComboBox*>())
+        new WheelNeedsFocus(*list);
 }
 
 } // namespace Orvane

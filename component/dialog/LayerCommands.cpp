@@ -13,6 +13,7 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QAbstractButton>
+#include <QPointer>
 
 namespace Orvane {
 
@@ -44,7 +45,10 @@ QString LayerCommands::CodeText() const
 
 void LayerCommands::NewLayer()
 {
-    emit LayerCreated(Client().CreateLayer());
+    const QPointer self(this); // the host may ask the person, and end the dialog meanwhile
+    const qint32 layerID = Client().CreateLayer();
+    if (self)
+        emit LayerCreated(layerID);
 }
 
 void LayerCommands::DeleteLayer()
@@ -56,19 +60,22 @@ void LayerCommands::DeleteLayer()
         ShowMessageBox(Owner(), TranslateMsg("You may not delete a 'system layer'"), BoxStyle::OkExclamation);
         return;
     }
+    const QPointer self(this); // as above
     Client().DeleteLayer(layerID);
-    emit DeleteAsked(layerID);
+    if (self)
+        emit DeleteAsked(layerID);
 }
 
 void LayerCommands::EditCode()
 {
+    const QPointer self(this);
     const PromptAnswer answer = Client().PromptText(
         {.title = TranslateMsg("Edit code"),
          .defaultText = CodeText(),
          .kind = EntryKind::Integer,
          .minimum = std::numeric_limits<qint16>::min(),
          .maximum = std::numeric_limits<qint16>::max()});
-    if (answer.accepted && NumberInText(answer.text))
+    if (self && answer.accepted && NumberInText(answer.text))
         SetCode(answer.text.trimmed());
 }
 

@@ -208,7 +208,8 @@ void LayerTrees::OnNodeChosen(LayerTreeList& list, const NodeReference& node)
 
 void LayerTrees::MoveByPerson(LayerTreeList& list, const NodeReference& node)
 {
-    if (!GuardEvent(&list.View(), [&] { MoveTo(list, node); }))
+    const QPointer<LayerTrees> self(this);
+    if (!GuardEvent(&list.View(), [&] { MoveTo(list, node); }) && self)
         list.RefuseChoice();
 }
 

@@ -41,7 +41,8 @@ bool PressOpener::eventFilter(QObject*, QEvent* event)
 void PressOpener::Open()
 {
     const QPointer<PressOpener> self(this);
-    GuardEvent(m_button.window(), m_open);
+    const std::function<void()> open = m_open; // which runs on when this is gone
+    GuardEvent(m_button.window(), open);
     // The popup took the release, and may have outlived the form.
     if (self)
         m_button.setDown(false);

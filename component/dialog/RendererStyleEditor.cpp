@@ -43,11 +43,10 @@ std::vector<SlotControl> RendererStyleEditor::Controls() const
 void RendererStyleEditor::Show(const LayerStyle& record)
 {
     const Value style = record.lsGet(Slot::RendererStyle);
-    if (style.IsNull())
-        m_list.setCurrentIndex(-1);
-    else
-        SelectByItemData(m_list, ToInt32(style));
-    m_list.setPlaceholderText(style.IsNull() ? TranslateMsg("various") : QString());
+    m_showsVarious = style.IsNull();
+    // Never empty: without a placeholder Qt selects the first entry where none was.
+    m_list.setPlaceholderText(m_showsVarious ? TranslateMsg("various") : ToText(style));
+    m_list.setCurrentIndex(m_showsVarious ? -1 : FindByItemData(m_list, ToInt32(style)));
 }
 
 void RendererStyleEditor::Read(LayerStyle& style) const
@@ -59,7 +58,7 @@ void RendererStyleEditor::Retranslate()
 {
     if (m_list.count() > 0)
         m_list.setItemText(0, TranslateMsg("Standard"));
-    if (!m_list.placeholderText().isEmpty())
+    if (m_showsVarious)
         m_list.setPlaceholderText(TranslateMsg("various"));
 }
 

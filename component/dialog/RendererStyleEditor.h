@@ -29,13 +29,14 @@ public:
 
     std::vector<SlotControl> Controls() const override;
     /// Selects the entry with the record's number; none for "various" and for a number that the host does not
-    /// know, which then stays as it is stored.
+    /// know, which is shown as such and stays as it is stored.
     void Show(const LayerStyle& record) override;
     void Read(LayerStyle& style) const override;
     void Retranslate() override;
 
 private:
     QComboBox& m_list;
+    bool m_showsVarious = false;
 };
 
 } // namespace Orvane

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QPointer>
 
 namespace Orvane {
 
@@ -46,8 +47,10 @@ void SchemePanel::SwitchTo(const QString& name)
         return;
     const QString question = TranslateMsg(
         "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", name);
+    const QPointer self(this); // the host may end the dialog while the question waits
     if (!Confirm(question)) {
-        ShowCurrent();
+        if (self)
+            ShowCurrent();
         return;
     }
     try {
@@ -62,10 +65,11 @@ void SchemePanel::SwitchTo(const QString& name)
 
 void SchemePanel::New()
 {
-    for (;;) {
+    const QPointer self(this); // as above
+    while (self) {
         const PromptAnswer answer = Client().PromptText(
             {.title = TranslateMsg("New Scheme"), .defaultText = {}, .width = NameWidth});
-        if (!answer.accepted)
+        if (!self || !answer.accepted)
             return;
         const QString name = answer.text.trimmed();
         if (!name.isEmpty()) {

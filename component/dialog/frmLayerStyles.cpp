@@ -134,7 +134,7 @@ void frmLayerStyles::changeEvent(QEvent* event)
 {
     StyleEditorWindow::changeEvent(event);
     GuardEvent(this, [&] {
-        if (event->type() == QEvent::LanguageChange)
+        if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
             Retranslate();
         else if (
             m_initialised && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
@@ -230,23 +230,32 @@ void frmLayerStyles::OnTabChanged(int index)
     const ListTab tab = ListTab(index + 1);
     if (tab == m_tab)
         return;
-    GuardEvent(this, [&] { ShowTab(tab); });
-    m_ui->tsLists->setCurrentIndex(int(m_tab) - 1);
+    // A question is not asked from within an event of the tabs: they may be gone when the answer comes.
+    const auto connection = m_selection->IsModified() ? Qt::QueuedConnection : Qt::DirectConnection;
+    QMetaObject::invokeMethod(
+        this, [this, tab] { GuardEvent(this, [this, tab] { SelectTab(tab); }); }, connection);
 }
 
 void frmLayerStyles::SelectTab(ListTab tab)
 {
-    ShowTab(tab);
-    m_ui->tsLists->setCurrentIndex(int(tab) - 1);
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([this, tab] { ShowTab(tab); });
+    if (self)
+        m_ui->tsLists->setCurrentIndex(int(m_tab) - 1);
+    errors.Rethrow();
 }
 
 // The edits belong to the node of the tab that is left.
 void frmLayerStyles::ShowTab(ListTab tab)
 {
-    if (tab == ListTab::Schemes && !m_selection->ConfirmPendingChanges())
-        return;
-    if (tab != ListTab::Schemes)
+    const QPointer self(this);
+    if (tab == ListTab::Schemes)
+        m_selection->ConfirmPendingChanges();
+    else
         m_parts->trees.ShowList(ListOf(tab));
+    if (!self || m_unloaded)
+        return;
     m_tab = tab;
     m_selection->SetTab(tab);
     m_parts->layout.ShowTab(tab);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the host may ask of the dialog.
-#include "component/dialog/BusyPointer.h"
 #include "component/dialog/EditorParts.h"
+#include "component/dialog/FirstError.h"
 #include "component/dialog/SelectionEditor.h"
 #include "component/dialog/frmLayerStyles.h"
 #include "component/entry/Component.h"
@@ -40,9 +40,13 @@ void frmLayerStyles::IStyleEditor_Visible(bool visible)
 void frmLayerStyles::IStyleEditor_RefreshGroups()
 {
     EnsureInitialised();
+    const bool hadEdits = m_selection->IsModified();
     m_selection->SetModified(false);
-    const BusyPointer busy;
-    m_parts->trees.LoadGroups();
+    FirstError errors;
+    errors.Try([this] { m_parts->trees.LoadGroups(); });
+    if (hadEdits)
+        errors.Try([this] { m_selection->Load(); }); // else they would come back with the next ones
+    errors.Rethrow();
 }
 
 void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
@@ -90,10 +94,8 @@ const IStyleFilter* frmLayerStyles::IStyleEditorForm_Filter() const
 void frmLayerStyles::IStyleEditorForm_Filter(const IStyleFilter* filter)
 {
     IStyleEditor_StyleFilter(filter);
-    if (!m_initialised)
-        return;
-    const BusyPointer busy;
-    m_parts->trees.LoadLayers();
+    if (m_initialised)
+        m_parts->trees.LoadLayers();
 }
 
 void frmLayerStyles::IStyleEditorForm_UnloadWithoutApply()

@@ -153,7 +153,6 @@ TEST_F(Applying, AGroupThatChangedBehindTheDialogIsReportedOnce)
 {
     SelectTransport();
     ASSERT_EQ(PressedModes(), 0);
-    Click("chkLocked");
     // Another program gives both layers one mode: the group's image follows, the buttons do not.
     host.SetLayerColumn(2, "OverrideMode", qint32(0));
     auto* trees = Find<QTreeView>("tvLayers1").model();

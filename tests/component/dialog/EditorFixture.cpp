@@ -174,6 +174,7 @@ void EditorFixture::ClickTab(int tab)
 {
     auto& tabs = Find<QTabBar>("tsLists");
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab - 1).center());
+    QCoreApplication::sendPostedEvents(); // a question about edits is asked after the event
 }
 
 void EditorFixture::ClickNode(QTreeView& tree, const QString& text)

@@ -2,6 +2,7 @@
 #include "component/dialog/EditorFixture.h"
 #include "component/entry/Component.h"
 #include "component/entry/MessageTable.h"
+#include "support/LinguistFile.h"
 #include "support/PseudoLanguage.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
@@ -52,6 +53,29 @@ private:
     QFont m_before = QApplication::font();
 };
 
+/// Makes the component speak the language of one of its catalogues while it lives; English without a name.
+class Catalogue
+{
+public:
+    explicit Catalogue(const QString& language)
+    {
+        const QString file = QStringLiteral("translations/POBEX.%1.ts").arg(language);
+        Component::Get().Messages().LoadFile(language.isEmpty() ? QString() : SourcePath(file));
+    }
+    ~Catalogue() { Component::Get().Messages().LoadFile(QString()); }
+    Catalogue(const Catalogue&) = delete;
+    Catalogue& operator=(const Catalogue&) = delete;
+};
+
+void TurnWheel(QWidget& control)
+{
+    const QPointF place = control.rect().center();
+    QWheelEvent event(
+        place, control.mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&control, &event);
+}
+
 // The toolkit's own arrows, for tabs that have no room.
 bool IsPartOfTabs(const QWidget& control)
 {
@@ -85,10 +109,28 @@ protected:
         return clipped;
     }
 
-    /// The same on each tab.
+    /// The captions of the visible controls whose mnemonic another one has too.
+    QStringList SharedMnemonics()
+    {
+        QHash<QString, QStringList> captions;
+        for (const QWidget* control : Form()->findChildren<QWidget*>()) {
+            const QString text = control->property("text").toString();
+            const QString key = QKeySequence::mnemonic(text).toString();
+            if (control->isVisible() && !key.isEmpty())
+                captions[key].append(text);
+        }
+        captions.removeIf([](const auto& entry) { return entry.value().size() < 2; });
+        QStringList shared;
+        for (const QStringList& some : captions)
+            shared += some;
+        return shared;
+    }
+
+    /// The names of the controls of all tabs whose text has too little room.
     QStringList ClippedTextsAnywhere()
     {
         Open();
+        ClickTab(2);
         ClickLayer("Roads");
         QStringList clipped = ClippedTexts();
         ClickTab(1);
@@ -204,23 +246,52 @@ TEST_F(ForThePerson, EveryControlHasATextOrAnAccessibleName)
     }
 }
 
-TEST_F(ForThePerson, NoTwoControlsOfATabShareAMnemonic)
+TEST_F(ForThePerson, NoTwoControlsOfATabShareAMnemonicInAnyLanguage)
 {
-    OpenOn("Roads");
-    for (const int tab : {1, 2, 3}) {
-        ClickTab(tab);
-        QStringList keys;
-        for (const QWidget* control : Form()->findChildren<QWidget*>()) {
-            if (!control->isVisible() || !control->isEnabled())
-                continue;
-            const QString text = control->property("text").toString();
-            const QString key = QKeySequence::mnemonic(text).toString();
-            if (!key.isEmpty())
-                keys.append(key);
+    Library();
+    for (const char* language : {"", "de", "fr", "ja"}) {
+        const Catalogue catalogue(language);
+        StoreViewState({});
+        OpenOn("Roads");
+        for (const int tab : {1, 2, 3}) {
+            ClickTab(tab);
+            if (tab == 1)
+                ClickGroup("Transport");
+            EXPECT_EQ(SharedMnemonics(), QStringList()) << language << " on tab " << tab;
         }
-        QStringList unique = keys;
-        unique.removeDuplicates();
-        EXPECT_EQ(unique, keys) << "tab " << tab;
+        Close();
+    }
+}
+
+TEST_F(ForThePerson, EveryTextHasRoomInEveryLanguage)
+{
+    Library();
+    for (const char* language : {"de", "fr", "ja"}) {
+        const Catalogue catalogue(language);
+        EXPECT_EQ(ClippedTextsAnywhere(), QStringList()) << language;
+    }
+}
+
+TEST_F(ForThePerson, TheWheelChangesNoListThatHasNotTheFocus)
+{
+    host.schemeNames = {"Standard", "Night"};
+    OpenOn("Roads");
+    const auto texts = [this] {
+        QStringList shown;
+        for (const QComboBox* list : Form()->findChildren<QComboBox*>())
+            shown.append(list->currentText());
+        return shown;
+    };
+    for (const int tab : {3, 2}) {
+        ClickTab(tab);
+        const QStringList before = texts();
+        MessageBoxRobot nobody{};
+        for (QComboBox* list : Form()->findChildren<QComboBox*>()) {
+            list->clearFocus();
+            TurnWheel(*list);
+        }
+        EXPECT_EQ(texts(), before);
+        EXPECT_FALSE(CanApply());
     }
 }
 

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/PropertyPanel.h"
 
-#include "component/dialog/EditorFixture.h"
 #include "component/dialog/FlagEditor.h"
-#include "component/dialog/ScaleRangeEditor.h"
+#include "component/dialog/PanelFixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QSlider>
-#include <QToolButton>
 #include <QtTest>
 
 namespace Orvane::Testing {
@@ -18,35 +15,6 @@ namespace {
 
 using testing::ElementsAre;
 
-class Panel : public EditorFixture
-{
-protected:
-    void SetUp() override
-    {
-        AddTown();
-        host.AddLayer({.id = 5, .name = "Scaled", .minVisScale = 10000.0, .maxVisScale = 20000.0});
-        host.AddLayer({.id = 6, .name = "Low", .minVisScale = 0.0, .maxVisScale = 5000.0});
-        Open();
-        ClickLayer("Roads");
-    }
-
-    void SelectTransport()
-    {
-        ClickTab(1);
-        ClickGroup("Transport");
-    }
-
-    std::vector<int> StatesOfClicks(const char* box, int clicks)
-    {
-        std::vector<int> states;
-        for (; clicks > 0; --clicks) {
-            Click(box);
-            states.push_back(CheckState(box));
-        }
-        return states;
-    }
-};
-
 TEST(CheckStateToValue, GivesTheThreeValuesAndNothingForAnyOther)
 {
     EXPECT_THAT(CheckStateToValue(0), IsValue(false));
@@ -54,12 +22,6 @@ TEST(CheckStateToValue, GivesTheThreeValuesAndNothingForAnyOther)
     EXPECT_TRUE(CheckStateToValue(2).IsNull());
     EXPECT_TRUE(CheckStateToValue(3).IsEmpty());
     EXPECT_TRUE(CheckStateToValue(-1).IsEmpty());
-}
-
-TEST(NullDefault, StandsInForNullOnly)
-{
-    EXPECT_THAT(NullDefault(Value::Null(), qint32(257)), IsValue(qint32(257)));
-    EXPECT_THAT(NullDefault(qint16(0), qint32(257)), IsValue(qint16(0)));
 }
 
 TEST_F(Panel, EachControlCarriesItsSlot)
@@ -97,6 +59,19 @@ TEST_F(Panel, ShowsWhatDiffersInAGroupAsVarious)
     EXPECT_EQ(TextOf("lblPriority"), "100");
     EXPECT_EQ(Find<QComboBox>("cboStyle").currentIndex(), -1);
     EXPECT_FALSE(CanApply());
+}
+
+TEST_F(Panel, ARendererStyleThatIsNotListedIsNamedByItsNumberAndStays)
+{
+    host.SetLayerColumn(2, "Style", qint32(5));
+    SelectTransport(); // "various" first
+    ClickTab(2);
+    ClickLayer("Rivers");
+    EXPECT_EQ(Find<QComboBox>("cboStyle").currentIndex(), -1);
+    EXPECT_EQ(Find<QComboBox>("cboStyle").placeholderText(), "5");
+    Click("chkVisible");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(2, "Style"), 5);
 }
 
 // ---- boxes
@@ -185,189 +160,6 @@ TEST_F(Panel, AnUnhitableLayerDisablesThemFromTheStart)
     Click("chkLocked");
     Click("cmdApply");
     EXPECT_FALSE(IsEnabled("chkSelectable") || IsEnabled("chkEnquirable"));
-}
-
-// ---- scales
-
-TEST_F(Panel, AMinimumAboveTheMaximumTakesItAlong)
-{
-    ClickLayer("Low");
-    ChooseScale("cmdEditMinScale", 10);
-    EXPECT_EQ(TextOf("lblScaleMin"), "1:10000");
-    EXPECT_EQ(TextOf("lblScaleMax"), "1:10000");
-    EXPECT_TRUE(IsUnderlined("lblScaleMin") && IsUnderlined("lblScaleMax"));
-}
-
-TEST_F(Panel, AMaximumBelowTheMinimumTakesItAlong)
-{
-    ClickLayer("Scaled");
-    ChooseScale("cmdEditMaxScale", 3);
-    EXPECT_EQ(TextOf("lblScaleMax"), "1:3000");
-    EXPECT_EQ(TextOf("lblScaleMin"), "1:3000");
-}
-
-TEST_F(Panel, LimitsThatDoNotCrossAreLeftAlone)
-{
-    ClickLayer("Scaled");
-    ChooseScale("cmdEditMinScale", 20);
-    EXPECT_EQ(TextOf("lblScaleMax"), "1:20000");
-    EXPECT_FALSE(IsUnderlined("lblScaleMax"));
-    ChooseScale("cmdEditMaxScale", 20);
-    EXPECT_EQ(TextOf("lblScaleMin"), "1:20000");
-}
-
-// "dont care" reads back as 0, below every minimum.
-TEST_F(Panel, AnUnlimitedMaximumTakesOverAMinimumOfOneOrMore)
-{
-    EXPECT_EQ(TextOf("lblScaleMax"), "dont care");
-    ChooseScale("cmdEditMinScale", 1);
-    EXPECT_EQ(TextOf("lblScaleMax"), "1:1000");
-}
-
-TEST_F(Panel, AnUnlimitedMaximumStaysWithAMinimumOfNone)
-{
-    ClickLayer("Scaled");
-    ChooseScale("cmdEditMaxScale", 256);
-    EXPECT_EQ(TextOf("lblScaleMax"), "dont care");
-    ChooseScale("cmdEditMinScale", 0);
-    EXPECT_EQ(TextOf("lblScaleMax"), "dont care");
-    EXPECT_EQ(TextOf("lblScaleMin"), "dont care");
-}
-
-TEST_F(Panel, AVariousMaximumIsNeverTouched)
-{
-    SelectTransport();
-    ChooseScale("cmdEditMinScale", 255);
-    EXPECT_EQ(TextOf("lblScaleMin"), "1:255000");
-    EXPECT_EQ(TextOf("lblScaleMax"), "various");
-    EXPECT_FALSE(IsUnderlined("lblScaleMax"));
-}
-
-TEST_F(Panel, AVariousMinimumIsNeverTouched)
-{
-    SelectTransport();
-    ChooseScale("cmdEditMaxScale", 1);
-    EXPECT_EQ(TextOf("lblScaleMin"), "various");
-}
-
-TEST_F(Panel, ConfirmingVariousLeavesTheLabelUnmarked)
-{
-    SelectTransport();
-    ASSERT_TRUE(EditWithSlider("cmdEditMinScale", [](QWidget& slider) {
-        EXPECT_TRUE(slider.findChild<QCheckBox*>("chkVarious")->isEnabled());
-        QTest::mouseClick(slider.findChild<QWidget*>("cmdOK"), Qt::LeftButton);
-    }));
-    EXPECT_EQ(TextOf("lblScaleMin"), "various");
-    EXPECT_FALSE(IsUnderlined("lblScaleMin"));
-    EXPECT_FALSE(CanApply());
-}
-
-TEST_F(Panel, VariousCanBeChosenOnlyWhereTheLayersDiffer)
-{
-    for (const char* button : {"cmdEditMinScale", "cmdEditMaxScale", "cmdEditPriority"}) {
-        ASSERT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
-            EXPECT_FALSE(slider.findChild<QCheckBox*>("chkVarious")->isEnabled()) << button;
-            QTest::keyClick(&slider, Qt::Key_Escape);
-        }));
-    }
-}
-
-TEST_F(Panel, AnAbandonedSliderChangesNothing)
-{
-    ASSERT_TRUE(EditWithSlider("cmdEditMinScale", [](QWidget& slider) {
-        slider.findChild<QSlider*>("sldValue")->setValue(9);
-        QTest::mouseClick(slider.findChild<QWidget*>("cmdCancel"), Qt::LeftButton);
-    }));
-    EXPECT_EQ(TextOf("lblScaleMin"), "dont care");
-    EXPECT_FALSE(CanApply());
-}
-
-TEST_F(Panel, EachSliderHasItsRange)
-{
-    const std::vector<std::tuple<const char*, int, int>> ranges{
-        {"cmdEditMinScale", 0, 255}, {"cmdEditMaxScale", 1, 256}, {"cmdEditPriority", 1, 255}};
-    for (const auto& [button, minimum, maximum] : ranges) {
-        int seenMinimum = -1;
-        int seenMaximum = -1;
-        ASSERT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
-            auto* value = slider.findChild<QSlider*>("sldValue");
-            seenMinimum = value->minimum();
-            seenMaximum = value->maximum();
-            QTest::keyClick(&slider, Qt::Key_Escape);
-        }));
-        EXPECT_EQ(seenMinimum, minimum) << button;
-        EXPECT_EQ(seenMaximum, maximum) << button;
-    }
-}
-
-TEST_F(Panel, VariousValuesStartTheSliderAtItsDefault)
-{
-    host.SetLayerColumn(2, "Priority", qint32(7));
-    SelectTransport();
-    const std::vector<std::pair<const char*, int>> defaults{
-        {"cmdEditMinScale", 0}, {"cmdEditMaxScale", 256}, {"cmdEditPriority", 1}};
-    for (const auto& [button, expected] : defaults) {
-        int position = -1;
-        ASSERT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
-            position = slider.findChild<QSlider*>("sldValue")->value();
-            QTest::keyClick(&slider, Qt::Key_Escape);
-        }));
-        EXPECT_EQ(position, expected) << button;
-    }
-}
-
-TEST_F(Panel, APriorityTouchesNoOtherLabel)
-{
-    ChooseScale("cmdEditPriority", 1);
-    EXPECT_EQ(TextOf("lblPriority"), "1 (highest)");
-    EXPECT_TRUE(IsUnderlined("lblPriority"));
-    EXPECT_FALSE(IsUnderlined("lblScaleMin") || IsUnderlined("lblScaleMax"));
-    EXPECT_TRUE(CanApply());
-}
-
-TEST_F(Panel, TheSliderOpensOnThePressAndOnKeys)
-{
-    for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
-        bool opened = false;
-        auto& button = Find<QToolButton>("cmdEditPriority");
-        QTimer::singleShot(0, &button, [&] {
-            opened = QApplication::activeModalWidget() != nullptr;
-            if (opened)
-                QApplication::activeModalWidget()->close();
-        });
-        QTest::keyPress(&button, Qt::Key(key));
-        QApplication::processEvents();
-        EXPECT_TRUE(opened) << key;
-        EXPECT_FALSE(button.isDown());
-        QTest::keyRelease(&button, Qt::Key(key));
-    }
-}
-
-TEST_F(Panel, TheSliderOpensBeforeTheMouseIsReleased)
-{
-    auto& button = Find<QToolButton>("cmdEditPriority");
-    bool opened = false;
-    QTimer::singleShot(0, &button, [&] {
-        opened = QApplication::activeModalWidget() != nullptr;
-        if (opened)
-            QApplication::activeModalWidget()->close();
-    });
-    QTest::mousePress(&button, Qt::LeftButton);
-    QApplication::processEvents();
-    EXPECT_TRUE(opened);
-    QTest::mouseRelease(&button, Qt::LeftButton);
-}
-
-TEST_F(Panel, OneSliderServesAllThreeProperties)
-{
-    std::vector<QWidget*> sliders;
-    for (const char* button : {"cmdEditMinScale", "cmdEditMaxScale", "cmdEditPriority"}) {
-        ASSERT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
-            sliders.push_back(&slider);
-            QTest::keyClick(&slider, Qt::Key_Escape);
-        }));
-    }
-    EXPECT_THAT(sliders, ElementsAre(sliders.front(), sliders.front(), sliders.front()));
 }
 
 // ---- the renderer style

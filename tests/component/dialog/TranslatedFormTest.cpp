@@ -68,11 +68,11 @@ protected:
         }
     }
 
-    void Speak(const QString& language)
+    void Speak(const QString& language, QEvent::Type type = QEvent::LanguageChange)
     {
         QLocale::setDefault(QLocale(language));
         Component::Get().SetMessageFolder(m_folder.path());
-        QEvent change(QEvent::LanguageChange);
+        QEvent change(type);
         QApplication::sendEvent(Form(), &change);
     }
 
@@ -127,6 +127,21 @@ TEST_F(TranslatedForm, FollowsAChangeOfLanguageWhileItIsOpen)
     Speak("en_GB");
     EXPECT_EQ(Find<QAbstractButton>("cmdApply").text(), QString("&Apply"));
     EXPECT_EQ(Find<QTabBar>("tsLists").tabText(0), QString("Groups"));
+}
+
+TEST_F(TranslatedForm, FollowsAChangeOfTheLocaleAlone)
+{
+    WriteFile(
+        m_folder.filePath("de/POBEX.LRT"),
+        LinguistDocument({{"&Apply", "An&wenden"}, {"dont care", "beliebig"}, {"1:^1", "1:^1"}}));
+    Open();
+    ClickLayer("Roads");
+    Speak("de_DE", QEvent::LocaleChange);
+    EXPECT_EQ(Find<QAbstractButton>("cmdApply").text(), QString("An&wenden"));
+    EXPECT_EQ(TextOf("lblScaleMax"), QString("beliebig"));
+    EXPECT_FALSE(CanApply());
+    Speak("en_GB", QEvent::LocaleChange);
+    EXPECT_EQ(TextOf("lblScaleMax"), QString("dont care"));
 }
 
 } // namespace Orvane::Testing
