@@ -21,6 +21,10 @@ public:
     FailingClient(IStyleEditorClient& client, PlannedFailure failure);
     ~FailingClient() override;
 
+    /// Plans another failure in place of the one before.
+    void Plan(PlannedFailure failure) { m_failure = std::move(failure); }
+    bool HasFailed() const { return m_failure.HasCome(); }
+
 protected:
     ILayerDatabase& IStyleEditorClient_Database() override;
     std::unique_ptr<IRecordset> IStyleEditorClient_LayersTable() override;

@@ -27,6 +27,9 @@ public:
             throw m_error;
     }
 
+    /// True once it has raised.
+    bool HasCome() const { return m_callsToGo <= 0; }
+
 private:
     std::string m_member;
     int m_callsToGo;

@@ -44,6 +44,17 @@ void MemoryHost::RemoveGroupRow(qint32 groupID)
     m_store->RemoveRows("LayerGroups", "ID", groupID);
 }
 
+void MemoryHost::RemoveMembers(qint32 layerID)
+{
+    m_store->RemoveRows("LayerGroupMembers", "LayerID", layerID);
+}
+
+void MemoryHost::RemoveGroup(qint32 groupID)
+{
+    m_store->RemoveRows("LayerGroupMembers", "GroupID", groupID);
+    RemoveGroupRow(groupID);
+}
+
 void MemoryHost::SetLayerColumn(qint32 layerID, const char* column, const Value& value)
 {
     m_store->SetLayerColumn(layerID, column, value);
@@ -246,7 +257,7 @@ qint32 MemoryHost::IStyleEditorClient_CreateLayer()
 void MemoryHost::IStyleEditorClient_DeleteLayer(qint32 layerID)
 {
     Note("DeleteLayer", {layerID});
-    m_store->RemoveRows("LayerGroupMembers", "LayerID", layerID);
+    RemoveMembers(layerID);
     RemoveLayerRow(layerID);
 }
 

@@ -40,6 +40,10 @@ public:
     /// Takes the row away and leaves what refers to it.
     void RemoveLayerRow(qint32 layerID);
     void RemoveGroupRow(qint32 groupID);
+    /// Takes the layer out of all groups.
+    void RemoveMembers(qint32 layerID);
+    /// Takes the row away with those that refer to it.
+    void RemoveGroup(qint32 groupID);
     void SetLayerColumn(qint32 layerID, const char* column, const Value& value);
     void SetGroupColumn(qint32 groupID, const char* column, const Value& value);
     /// The stored value; Empty when there is no such row.

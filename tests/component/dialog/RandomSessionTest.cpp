@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/session/SessionDeeds.h"
+#include "component/dialog/session/SessionFixture.h"
+
+#include <OrvaneShellLib/IStyleEditorForm.h>
+
+#include <numeric>
+
+namespace Orvane::Testing {
+
+namespace {
+
+using namespace Paper;
+
+constexpr int stepsOfASession = 700;
+const QString fault = QStringLiteral("The host is out of order.");
+
+/// A call that may fail, and the latest time at which it does.
+struct Weakness {
+    const char* member;
+    int latestCall;
+};
+
+constexpr std::array weaknesses{
+    Weakness{"Seek", 3},         Weakness{"SetField", 10},    Weakness{"Update", 3},
+    Weakness{"Field", 60},       Weakness{"LayersTable", 4},  Weakness{"BeginLayerEdit", 3},
+    Weakness{"LayerChanged", 3}, Weakness{"RedrawMap", 1},    Weakness{"BeginTrans", 2},
+    Weakness{"CommitTrans", 2},  Weakness{"OpenRecordset", 3}};
+
+std::vector<Deed> AllDeeds()
+{
+    std::vector<Deed> deeds;
+    for (const auto& some : {EditingDeeds(), ListDeeds(), SchemeDeeds(), HostDeeds(), StrangerDeeds()})
+        deeds.insert(deeds.end(), some.begin(), some.end());
+    return deeds;
+}
+
+class RandomSession : public SessionFixture, public testing::WithParamInterface<unsigned>
+{
+protected:
+    RandomSession() : SessionFixture(GetParam()) { }
+
+    void ActAndCheck(int step)
+    {
+        const Deed& deed = NextDeed();
+        const testing::ScopedTrace trace(__FILE__, __LINE__, std::to_string(step) + ": " + deed.name);
+        deed.act(*this);
+        Check();
+    }
+
+    /// True when the failure came.
+    bool ApplyWithAFailure(int step)
+    {
+        const Weakness& weakness = dice.OneOf(weaknesses);
+        const testing::ScopedTrace trace(
+            __FILE__, __LINE__, std::to_string(step) + ": apply and fail in " + weakness.member);
+        client.Plan({weakness.member, 1 + dice.Below(weakness.latestCall), RunTimeError(10001, fault)});
+        const Map before = map;
+        const Panel edits = dialog.panel;
+        Click("cmdApply");
+        dialog.Apply();
+        const bool hasFailed = client.HasFailed();
+        if (hasFailed) {
+            dialog.TakeBoxes();
+            EXPECT_EQ(person.TakeBoxes(), QStringList(fault));
+            CheckRows(before, *edits.node);
+            CheckEdits(edits);
+        }
+        StartAnew(hasFailed);
+        Check();
+        return hasFailed;
+    }
+
+private:
+    const Deed& NextDeed()
+    {
+        const int all = std::accumulate(
+            m_deeds.begin(), m_deeds.end(), 0, [](int sum, const Deed& deed) { return sum + deed.weight; });
+        int left = dice.Below(all);
+        return *std::find_if(
+            m_deeds.begin(), m_deeds.end(), [&](const Deed& deed) { return (left -= deed.weight) < 0; });
+    }
+
+    // A group is written whole or not at all; of a layer, the code is stored after the rest.
+    void CheckRows(const Map& before, const Node& node)
+    {
+        const Map actual = ReadMap(host.PlainDatabase());
+        Map withoutCode = map;
+        const auto layer = withoutCode.layers.find(node.layerID);
+        if (!node.isGroup && layer != withoutCode.layers.end())
+            layer->second.columns[Code] = before.layers.at(node.layerID).columns[Code];
+        EXPECT_TRUE(actual == before || actual == map || actual == withoutCode)
+            << qPrintable(Differences(before, actual).join('\n'));
+    }
+
+    // Edits stay whole, or nothing is shown: never another node's values.
+    void CheckEdits(const Panel& edits)
+    {
+        dialog.isModified = CanApply();
+        dialog.panel = dialog.isModified ? edits : Panel();
+        CheckPanel();
+    }
+
+    std::vector<Deed> m_deeds = AllDeeds();
+};
+
+TEST_P(RandomSession, LeavesInTheDatabaseWhatThePersonDid)
+{
+    OpenEditor();
+    for (int step = 0; step < stepsOfASession && !HasFailure(); ++step)
+        ActAndCheck(step);
+    EditorForm().UnloadWithoutApply();
+    EXPECT_TRUE(Differences(map, ReadMap(host.PlainDatabase())).isEmpty());
+}
+
+TEST_P(RandomSession, KeepsRowsAndEditsWholeWhenTheHostFails)
+{
+    OpenEditor();
+    int failures = 0;
+    for (int step = 0; step < stepsOfASession && !HasFailure(); ++step) {
+        if (dialog.isModified && dice.Chance(20))
+            failures += ApplyWithAFailure(step);
+        else
+            ActAndCheck(step);
+    }
+    EXPECT_GT(failures, 5);
+    EditorForm().UnloadWithoutApply();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomSession, testing::Values(5u, 13u, 37u, 40u));
+
+} // namespace
+
+} // namespace Orvane::Testing

@@ -1,0 +1,375 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/session/PaperDialog.h"
+
+#include <algorithm>
+
+namespace Orvane::Testing::Paper {
+
+namespace {
+
+bool IsSingle(int mode)
+{
+    return mode == 1 || mode == 2 || mode == 4;
+}
+
+} // namespace
+
+// ---- lists
+
+bool Dialog::IsHidden(qint32 layerID) const
+{
+    const auto layer = m_map.layers.find(layerID);
+    return layer == m_map.layers.end() || layer->second.columns[Code] <= -2;
+}
+
+Entry Dialog::EntryOf(qint32 layerID) const
+{
+    const Layer& layer = m_map.layers.at(layerID);
+    const double overrideMode = layer.columns[OverrideMode];
+    return {layerID, overrideMode == 1 ? 2 : overrideMode == 2 ? 4 : 1, layer.name};
+}
+
+std::vector<Branch> Dialog::ReadGroups() const
+{
+    std::vector<Branch> branches;
+    for (const auto& [groupID, group] : m_map.groups) {
+        Branch branch{groupID, group.name.isEmpty() ? QStringLiteral("<No Name>") : group.name, {}};
+        for (qint32 layerID : group.members) {
+            if (!IsHidden(layerID))
+                branch.entries.push_back(EntryOf(layerID));
+        }
+        if (!branch.entries.empty())
+            branches.push_back(std::move(branch));
+    }
+    return branches;
+}
+
+std::vector<Branch> Dialog::ReadLayers() const
+{
+    Branch all;
+    for (const auto& [layerID, layer] : m_map.layers) {
+        if (!IsHidden(layerID) && !filteredOut.count(layerID))
+            all.entries.push_back(EntryOf(layerID));
+    }
+    return all.entries.empty() ? std::vector<Branch>() : std::vector{all};
+}
+
+std::vector<Branch> Dialog::Read(ListNumber number) const
+{
+    return number == Groups ? ReadGroups() : ReadLayers();
+}
+
+void Dialog::EnsureLoaded(ListNumber number, Answer answer)
+{
+    if (lists[number].isStale || lists[number].branches.empty())
+        LoadList(number, answer);
+}
+
+// A current node that is listed no more though it exists may take its edits before it goes.
+void Dialog::LoadList(ListNumber number, Answer answer)
+{
+    List& list = lists[number];
+    const std::optional<Node> before = list.current;
+    List fresh{false, Read(number), before};
+    const bool exists = before
+        && (before->isGroup ? m_map.groups.count(before->groupID) : m_map.layers.count(before->layerID));
+    if (before && number == shownList && exists && !fresh.Holds(*before)) {
+        Ask(answer);
+        fresh.branches = Read(number);
+    }
+    if (before && !fresh.Holds(*before))
+        fresh.current = m_look(number);
+    list = fresh;
+    if (before && list.current != before && number == shownList)
+        Load();
+}
+
+void Dialog::ForgetLists()
+{
+    for (List& list : lists)
+        list.isStale = true;
+}
+
+std::optional<Node> Dialog::CurrentNode() const
+{
+    const List& list = lists[shownList];
+    return list.current && list.Holds(*list.current) ? list.current : std::nullopt;
+}
+
+// ---- the panel
+
+std::vector<const Layer*> Dialog::LayersOf(const Node& node) const
+{
+    std::vector<const Layer*> layers;
+    const auto add = [&](qint32 layerID) {
+        if (const auto found = m_map.layers.find(layerID); found != m_map.layers.end())
+            layers.push_back(&found->second);
+    };
+    if (!node.isGroup)
+        add(node.layerID);
+    else if (const auto group = m_map.groups.find(node.groupID); group != m_map.groups.end())
+        std::for_each(group->second.members.begin(), group->second.members.end(), add);
+    return layers;
+}
+
+void Dialog::Load()
+{
+    panel = {};
+    isModified = false;
+    panel.node = CurrentNode();
+    if (!panel.node)
+        return;
+    const auto layers = LayersOf(*panel.node);
+    panel.record = CommonValues(layers);
+    panel.shown = AsShown(panel.record);
+    panel.loadedMode = panel.mode = lists[shownList].ModeOf(*panel.node);
+    if (panel.node->isGroup)
+        return;
+    panel.canEditCode = layers.empty() || !layers.front()->isSystem;
+    if (!layers.empty()) {
+        panel.storedCode = layers.front()->columns[Code];
+        panel.code = QString::number(*panel.storedCode);
+    }
+}
+
+void Dialog::Mark(Property property)
+{
+    const bool isLine = property == LineStyle || property == Thickness;
+    const bool differs = isLine ? panel.shown[LineStyle] != panel.record[LineStyle]
+            || panel.shown[Thickness] != panel.record[Thickness]
+                                : panel.shown[property] != panel.record[property];
+    const Property marked = isLine ? LineStyle : property;
+    if (!differs) {
+        panel.marked.erase(marked);
+        return;
+    }
+    panel.marked.insert(marked);
+    isModified = true;
+}
+
+void Dialog::SetFlag(Property flag)
+{
+    const bool needsHitable = flag == IsSelectable || flag == IsEnquirable;
+    if (needsHitable && panel.shown[IsHitable] == 0.0)
+        return;
+    std::optional<double>& shown = panel.shown[flag];
+    const bool offersVarious = !panel.record[flag];
+    if (!shown)
+        shown = 0;
+    else if (*shown == 0)
+        shown = 1;
+    else
+        shown = offersVarious ? std::nullopt : std::optional<double>(0);
+    Mark(flag);
+}
+
+void Dialog::SetValues(const std::vector<std::pair<Property, std::optional<double>>>& values)
+{
+    for (const auto& [property, value] : values)
+        panel.shown[property] = value;
+    Mark(values.front().first);
+}
+
+void Dialog::SetMinScale(std::optional<double> index)
+{
+    SetValues({{MinScale, index}});
+    if (index && panel.shown[MaxScale].value_or(257) < *index)
+        SetValues({{MaxScale, index}});
+}
+
+void Dialog::SetMaxScale(std::optional<double> index)
+{
+    SetValues({{MaxScale, index == 256.0 ? 0.0 : index}});
+    if (index && panel.shown[MinScale].value_or(0) > *index)
+        SetValues({{MinScale, index}});
+}
+
+void Dialog::SetMode(int mode)
+{
+    panel.mode = mode;
+    isModified = isModified || mode != panel.loadedMode;
+}
+
+void Dialog::EnterCode(const QString& text)
+{
+    const double code = text.toDouble();
+    if (!panel.code.isEmpty() && panel.code.toDouble() == code)
+        return;
+    if (panel.storedCode != code && m_map.HasCode(code)) {
+        m_boxes.append(
+            QStringLiteral("Code %1 has already been assigned. Please assign another code.").arg(text));
+        return;
+    }
+    panel.code = text;
+    panel.isCodeMarked = true;
+    isModified = true;
+}
+
+// ---- deeds
+
+void Dialog::Ask(Answer answer)
+{
+    if (!isModified || !panel.node)
+        return;
+    const QString kind = panel.node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
+    const QString name = CurrentNode() ? lists[shownList].TextOf(*CurrentNode()) : QString();
+    m_boxes.append(QStringLiteral("Do you wish to apply the changes to the '%1' %2?").arg(name, kind));
+    if (answer == Answer::Yes)
+        Apply();
+}
+
+void Dialog::Apply()
+{
+    const std::optional<Node> node = CurrentNode();
+    if (!isModified || !node)
+        return;
+    const auto write = [this](qint32 layerID) {
+        const auto found = m_map.layers.find(layerID);
+        if (found == m_map.layers.end())
+            return;
+        Write(found->second, panel.shown);
+        if (IsSingle(panel.mode))
+            found->second.columns[OverrideMode] = panel.mode / 2; // 1, 2, 4 are stored as 0, 1, 2
+    };
+    List& list = lists[shownList];
+    const bool newMode = panel.mode != list.ModeOf(*node);
+    std::vector<qint32> imaged{node->layerID};
+    if (node->isGroup) {
+        const auto group = m_map.groups.find(node->groupID);
+        if (group != m_map.groups.end())
+            std::for_each(group->second.members.begin(), group->second.members.end(), write);
+        imaged.clear();
+        for (const Branch& branch : list.branches) {
+            for (const Entry& entry : branch.entries) {
+                if (branch.groupID == node->groupID)
+                    imaged.push_back(entry.layerID);
+            }
+        }
+    } else {
+        write(node->layerID);
+        SetLayerCode(node->layerID);
+    }
+    if (newMode && IsSingle(panel.mode)) {
+        for (qint32 layerID : imaged) {
+            lists[Groups].SetMode(layerID, panel.mode);
+            lists[Layers].SetMode(layerID, panel.mode);
+        }
+    }
+    const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
+    ++redraws;
+    Load();
+    if (isUnexpected)
+        m_boxes.append(QStringLiteral("Unexpected program flow in frmLayerStyles"));
+}
+
+void Dialog::SetLayerCode(qint32 layerID)
+{
+    if (const auto found = m_map.layers.find(layerID); found != m_map.layers.end())
+        found->second.columns[Code] = panel.code.toDouble();
+}
+
+void Dialog::ShowTab(int wanted, Answer answer)
+{
+    const ListNumber wantedList = wanted == 1 ? Groups : Layers;
+    if (wanted == 3 || wantedList != shownList)
+        Ask(answer);
+    tab = wanted;
+    if (wanted != 3) {
+        shownList = wantedList;
+        EnsureLoaded(wantedList, answer);
+    }
+    Load();
+}
+
+void Dialog::Choose(const Node& node, Answer answer)
+{
+    List& list = lists[shownList];
+    if (list.current == node)
+        return;
+    Ask(answer);
+    list.current = node;
+    Load();
+}
+
+void Dialog::Rename(const Node& node, const QString& name)
+{
+    if (node.isGroup) {
+        m_map.groups.at(node.groupID).name = name;
+        for (Branch& branch : lists[Groups].branches) {
+            if (branch.groupID == node.groupID)
+                branch.text = name;
+        }
+        return;
+    }
+    m_map.layers.at(node.layerID).name = name;
+    for (List& list : lists)
+        list.SetText(node.layerID, name);
+}
+
+void Dialog::DeleteLayer()
+{
+    if (!panel.node || panel.node->isGroup)
+        return;
+    const qint32 layerID = panel.node->layerID;
+    const auto layer = m_map.layers.find(layerID);
+    if (layer != m_map.layers.end() && layer->second.isSystem) {
+        m_boxes.append(QStringLiteral("You may not delete a 'system layer'"));
+        return;
+    }
+    m_map.RemoveLayer(layerID);
+    isModified = false;
+    ForgetLists();
+    ShowTab(tab, Answer::No);
+}
+
+void Dialog::Open(int storedTab)
+{
+    lists = {};
+    panel = {};
+    isModified = false;
+    filteredOut.clear();
+    shownList = Groups;
+    ShowTab(storedTab, Answer::No);
+}
+
+void Dialog::AddNewLayer(qint32 layerID, Answer answer)
+{
+    List& list = lists[Layers];
+    const std::optional<Node> before = list.current;
+    EnsureLoaded(Layers, answer);
+    const bool wentOn = list.current != before;
+    if (IsHidden(layerID))
+        return;
+    const Node node{false, 0, layerID};
+    if (list.branches.empty())
+        list.branches.emplace_back();
+    const Entry entry = EntryOf(layerID);
+    if (!list.Holds(node))
+        list.branches.front().entries.push_back(entry);
+    for (List& each : lists) {
+        each.SetText(layerID, entry.text);
+        each.SetMode(layerID, entry.mode);
+    }
+    if (list.current == node && !wentOn) // else the look was at what this call led to
+        return;
+    if (shownList == Layers)
+        Ask(answer);
+    list.current = node;
+    if (shownList == Layers)
+        Load();
+}
+
+void Dialog::RefreshGroups()
+{
+    const bool hadEdits = std::exchange(isModified, false);
+    LoadList(Groups, Answer::No);
+    if (hadEdits)
+        Load();
+}
+
+void Dialog::ReadLayersAnew(Answer answer)
+{
+    LoadList(Layers, answer);
+}
+
+} // namespace Orvane::Testing::Paper

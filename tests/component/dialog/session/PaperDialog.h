@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/session/PaperList.h"
+#include "component/dialog/session/PaperMap.h"
+
+#include <functional>
+#include <set>
+
+namespace Orvane::Testing::Paper {
+
+enum ListNumber { Groups, Layers };
+
+/// What the settings show.
+struct Panel {
+    std::optional<Node> node;
+    Values record;
+    Values shown;
+    std::set<int> marked; ///< properties
+    QString code;
+    std::optional<double> storedCode;
+    bool isCodeMarked = false;
+    bool canEditCode = false;
+    int loadedMode = 0;
+    int mode = 0;
+
+    bool operator==(const Panel&) const = default;
+};
+
+/// What the layer control should show and do, kept on paper: each deed of the person or of the host changes
+/// the map and the screen as the dialog should.
+///
+///     dialog.Choose(node, Answer::Yes);
+///     EXPECT_EQ(dialog.TakeBoxes(), boxesSeen);
+///
+/// What a question is answered is told beforehand; the texts of the message boxes are kept for comparison.
+class Dialog
+{
+public:
+    enum class Answer { Yes, No };
+    /// Which node the real dialog went to when the current one was gone: any neighbour will do.
+    using LookAtNode = std::function<std::optional<Node>(ListNumber)>;
+
+    Dialog(Map& map, LookAtNode look) : m_map(map), m_look(std::move(look)) { }
+
+    // What is on the screen.
+
+    int tab = 2; ///< 1 groups, 2 layers, 3 schemes
+    ListNumber shownList = Groups;
+    std::array<List, 2> lists;
+    Panel panel;
+    bool isModified = false;
+    int redraws = 0; ///< of all times
+    std::set<qint32> filteredOut;
+
+    /// The current node of the list shown, while it is listed.
+    std::optional<Node> CurrentNode() const;
+    bool CanEdit() const { return tab != 3 && panel.node; }
+    /// The texts of the message boxes since the last call.
+    QStringList TakeBoxes() { return std::exchange(m_boxes, {}); }
+    /// A message box that the person gets to see.
+    void Tell(const QString& text) { m_boxes.append(text); }
+
+    // What the person does.
+
+    void ShowTab(int wanted, Answer answer);
+    void Choose(const Node& node, Answer answer);
+    void Apply();
+    void Load();
+    void SetFlag(Property flag);
+    /// The person sees the value on the control now; nothing for "various".
+    void SetValues(const std::vector<std::pair<Property, std::optional<double>>>& values);
+    void SetMinScale(std::optional<double> index);
+    void SetMaxScale(std::optional<double> index);
+    void SetMode(int mode);
+    void EnterCode(const QString& text);
+    void Rename(const Node& node, const QString& name);
+    void DeleteLayer();
+
+    // What the host does.
+
+    void Open(int storedTab);
+    /// The edits may be applied first.
+    void Close(Answer answer) { Ask(answer); }
+    void AddNewLayer(qint32 layerID, Answer answer);
+    void RefreshGroups();
+    void ReadLayersAnew(Answer answer);
+    void SetLayerCode(qint32 layerID);
+    void ForgetLists();
+
+private:
+    void Ask(Answer answer);
+    void EnsureLoaded(ListNumber number, Answer answer);
+    void LoadList(ListNumber number, Answer answer);
+    std::vector<Branch> Read(ListNumber number) const;
+    std::vector<Branch> ReadGroups() const;
+    std::vector<Branch> ReadLayers() const;
+    bool IsHidden(qint32 layerID) const;
+    Entry EntryOf(qint32 layerID) const;
+    std::vector<const Layer*> LayersOf(const Node& node) const;
+    void Mark(Property property);
+
+    Map& m_map;
+    LookAtNode m_look;
+    QStringList m_boxes;
+};
+
+} // namespace Orvane::Testing::Paper

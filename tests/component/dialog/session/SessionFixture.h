@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/EditorFixture.h"
+#include "component/dialog/session/PaperDialog.h"
+#include "hosts/FailingClient.h"
+
+#include <random>
+
+namespace Orvane::Testing {
+
+/// Chooses by a seed, the same on each machine.
+class Dice
+{
+public:
+    explicit Dice(unsigned seed) : m_engine(seed) { }
+
+    /// From 0 to count - 1.
+    int Below(int count) { return int(m_engine() % unsigned(count)); }
+    bool Chance(int percent) { return Below(100) < percent; }
+    template <typename Container> const auto& OneOf(const Container& container)
+    {
+        return *std::next(container.begin(), Below(int(container.size())));
+    }
+
+private:
+    std::mt19937 m_engine;
+};
+
+/// Answers every message box that opens while it lives, a question as it was told to, and keeps the texts.
+class AnsweringPerson : public QObject
+{
+public:
+    AnsweringPerson();
+
+    Paper::Dialog::Answer answer = Paper::Dialog::Answer::No;
+    QStringList TakeBoxes() { return std::exchange(m_boxes, {}); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QStringList m_boxes;
+};
+
+/// A layer control over a map of a dozen layers, and beside both what they should be on paper.
+class SessionFixture : public EditorFixture
+{
+public:
+    using EditorFixture::Click;
+    using EditorFixture::ClickTab;
+    using EditorFixture::Editor;
+    using EditorFixture::EditorForm;
+    using EditorFixture::EditWithSlider;
+    using EditorFixture::Find;
+    using EditorFixture::Form;
+    using EditorFixture::host;
+
+    explicit SessionFixture(unsigned seed);
+
+    void OpenEditor();
+    /// Shows the settings if they are hidden; false when there is nothing that could be edited.
+    bool CanEdit();
+    /// What the person will say to a question, now known on paper too.
+    Paper::Dialog::Answer DecideAnswer();
+    void Settle();
+
+    QTreeView& Tree(Paper::ListNumber number);
+    std::optional<Paper::Node> SelectedNode(Paper::ListNumber number);
+    static Paper::Node NodeAt(const QModelIndex& index);
+
+    /// Compares the database, the lists, the settings and the message boxes with the paper.
+    void Check();
+    /// The settings alone.
+    void CheckPanel();
+    /// After a planned failure: no more of them, and where it has come in the middle of something, puts down
+    /// what is stored and listed now.
+    void StartAnew(bool hasFailed);
+
+    /// An ID that no layer and no group has had.
+    qint32 NewID() { return ++m_lastID; }
+    QString NewName() { return QStringLiteral("Name %1").arg(++m_names); }
+
+    Dice dice;
+    Paper::Map map;
+    Paper::Dialog dialog;
+    AnsweringPerson person;
+    FailingClient client;
+
+private:
+    void FillMap();
+    void CheckLists();
+    void CheckControls();
+    void CheckMarks();
+
+    int m_names = 0;
+    qint32 m_lastID = 12;
+    int m_redraws = 0;
+};
+
+} // namespace Orvane::Testing
