@@ -15,7 +15,7 @@ std::vector<JobSize> SizesOf(Job job)
 {
     std::vector<JobSize> sizes;
     for (const int layers : {1000, 10000, 100000}) {
-        if (job == Job::OpenFlatList || job == Job::OpenGroupedTree) {
+        if (job != Job::SelectGroup && job != Job::ApplyToGroup) {
             sizes.push_back({layers, 0});
             continue;
         }
@@ -51,6 +51,8 @@ const char* NameOf(Job job)
         return "Select group";
     case Job::ApplyToGroup:
         return "Apply to group";
+    case Job::ScrollFlatList:
+        return "Scroll flat list";
     }
     return "";
 }

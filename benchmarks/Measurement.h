@@ -21,6 +21,7 @@ enum class Job {
     OpenGroupedTree,
     SelectGroup,
     ApplyToGroup, ///< one flag was changed; all properties that the layers share are written
+    ScrollFlatList, ///< fifty pages from top to bottom, each painted
 };
 
 /// How a job is done at one level. Made once for each size, outside the measured time; called for each run.
