@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MapLayers.h"
 
+#include "hostkit/StoredScale.h"
 #include "shell/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
@@ -158,7 +159,8 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
     layer.flags = FlagsOfRow(row);
     layer.mode = ModeOfRow(row);
     layer.priority = WholeOr(row, "Priority", MaximumPriority);
-    layer.minDenominator = NumberOr(row, "MinVisScale", 0);
+    const double minimum = NumberOr(row, "MinVisScale", 0);
+    layer.minDenominator = minimum < StoredScale::NoMaximum ? minimum : 0; // beyond every scale: no limit
     const double limit = NumberOr(row, "MaxVisScale", 0);
     if (limit > 0)
         layer.maxDenominator = limit;

@@ -21,8 +21,6 @@ std::vector<double> SortedFinite(std::span<const double> numbers)
 // Where class `index` of `count` begins. sorted: not empty.
 double LimitOf(const std::vector<double>& sorted, ClassDivision division, int index, int count)
 {
-    if (index == count)
-        return sorted.back();
     if (division == ClassDivision::Quantiles)
         return sorted[sorted.size() * size_t(index) / size_t(count)];
     const double part = double(index) / count;
@@ -35,13 +33,12 @@ Classification::Classification(std::span<const double> numbers, ClassDivision di
 {
     const std::vector<double> sorted = SortedFinite(numbers);
     const int wanted = std::clamp(count, MinCount, MaxCount);
-    for (int i = 0; i <= wanted && !sorted.empty(); ++i) {
+    for (int i = 0; i < wanted && !sorted.empty(); ++i) {
         const double limit = LimitOf(sorted, division, i, wanted);
         if (m_limits.empty() || limit > m_limits.back())
             m_limits.push_back(limit);
     }
-    if (m_limits.size() < 2) // nothing, or the same number everywhere
-        m_limits.resize(sorted.empty() ? 1 : 2, sorted.empty() ? 0 : sorted.back());
+    m_limits.push_back(sorted.empty() ? 0 : sorted.back());
     for (const double number : numbers)
         m_classes.push_back(qint8(ClassOfNumber(number)));
 }
@@ -50,8 +47,8 @@ int Classification::ClassOfNumber(double number) const
 {
     if (!std::isfinite(number) || Count() == 0)
         return NoClass;
-    const auto above = std::upper_bound(m_limits.begin(), m_limits.end(), number);
-    return std::clamp(int(above - m_limits.begin()) - 1, 0, Count() - 1);
+    const auto above = std::upper_bound(m_limits.begin(), m_limits.end() - 1, number);
+    return int(above - m_limits.begin()) - 1;
 }
 
 } // namespace Orvane

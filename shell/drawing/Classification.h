@@ -37,7 +37,7 @@ public:
 private:
     int ClassOfNumber(double number) const;
 
-    std::vector<double> m_limits; // one more than there are classes
+    std::vector<double> m_limits; // where each class begins, and the greatest number
     std::vector<qint8> m_classes; // one a feature
 };
 

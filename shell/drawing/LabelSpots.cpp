@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace Orvane::LabelSpots {
 
@@ -133,8 +134,7 @@ std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size)
     QRectF bounds;
     for (const QPolygonF& ring : rings)
         bounds |= ring.boundingRect();
-    std::vector<LabelSpot> spots;
-    double best = -1e9;
+    std::vector<std::pair<double, LabelSpot>> scored;
     for (int row = 0; row < Rows; ++row) {
         const double y = bounds.top() + bounds.height() * (row + 0.5) / Rows;
         const Gap gap = WidestInside(rings, {y - size.height() / 2, y, y + size.height() / 2});
@@ -143,11 +143,14 @@ std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size)
         // room beyond twice the text counts less than being in the middle
         const double room = std::min(gap.Width() / size.width(), 2.0);
         const double score = room - 2 * std::abs(y - bounds.center().y()) / bounds.height();
-        if (score > best) {
-            best = score;
-            spots = {{QPointF((gap.left + gap.right) / 2, y)}};
-        }
+        scored.emplace_back(score, LabelSpot{QPointF((gap.left + gap.right) / 2, y)});
     }
+    std::stable_sort(scored.begin(), scored.end(), [](const auto& one, const auto& other) {
+        return one.first > other.first;
+    });
+    std::vector<LabelSpot> spots;
+    for (const auto& [score, spot] : scored)
+        spots.push_back(spot);
     return spots;
 }
 

@@ -26,7 +26,7 @@ std::vector<LabelSpot> AroundPoint(QPointF point, double radius, QSizeF size);
 /// text. width: of the pen.
 std::vector<LabelSpot> AlongLine(const QPolygonF& line, double width, QSizeF size);
 
-/// Inside the rings' area, holes left out, as near to its middle as the text fits; at most one.
+/// Inside the rings' area, holes left out: where there is room, and near to its middle.
 std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size);
 
 } // namespace LabelSpots

@@ -80,6 +80,18 @@ TEST_F(MapLayersTest, NullColumnsAreDrawnPlainly)
     EXPECT_EQ(First().maxDenominator, std::numeric_limits<double>::infinity());
 }
 
+TEST_F(MapLayersTest, TheLimitBeyondEveryScaleIsNoneInEitherColumn)
+{
+    Change("MinVisScale = 2000000000, MaxVisScale = 2000000000");
+    m_layers.ReadAll();
+    EXPECT_TRUE(First().IsInScale(1));
+    EXPECT_TRUE(First().IsInScale(1e9));
+    Change("MinVisScale = 0, MaxVisScale = 0");
+    m_layers.ReadAll();
+    EXPECT_TRUE(First().IsInScale(1));
+    EXPECT_TRUE(First().IsInScale(1e9));
+}
+
 TEST_F(MapLayersTest, AnUnknownModeCountsAsNormal)
 {
     Change("OverrideMode = 17");
