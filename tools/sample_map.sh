@@ -21,4 +21,4 @@ mkdir -p "$sample/data"
 find "$sample/fetch" \( -name 'world_map.gpkg' -o -name 'naturalearth_*.*' -o -name 'ne_110m_*.*' \) -type f \
     -exec cp -t "$sample/data" {} + 2>/dev/null || true
 rm -rf "$sample/fetch"
-QT_QPA_PLATFORM=offscreen "$build/bin/orvane" --make-sample "$map" --data "$sample/data"
+QT_QPA_PLATFORM=offscreen "$build/bin/make_sample_map" "$map" "$sample/data"

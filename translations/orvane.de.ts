@@ -528,14 +528,6 @@
         <translation>Die Layersteuerung sofort öffnen.</translation>
     </message>
     <message>
-        <source>Make a sample map in FILE, and open no window.</source>
-        <translation>Eine Beispielkarte in FILE anlegen und kein Fenster öffnen.</translation>
-    </message>
-    <message>
-        <source>Make the sample map of the world data in FOLDER, if it has them.</source>
-        <translation>Die Beispielkarte aus den Weltdaten in FOLDER anlegen, falls dort welche sind.</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>Die Kartendatei, die geöffnet werden soll.</translation>
     </message>

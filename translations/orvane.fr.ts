@@ -528,14 +528,6 @@
         <translation>Ouvrir aussitôt le contrôle des couches.</translation>
     </message>
     <message>
-        <source>Make a sample map in FILE, and open no window.</source>
-        <translation>Créer une carte d’exemple dans FILE sans ouvrir de fenêtre.</translation>
-    </message>
-    <message>
-        <source>Make the sample map of the world data in FOLDER, if it has them.</source>
-        <translation>Créer la carte d’exemple à partir des données mondiales de FOLDER, s’il y en a.</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>Le fichier de carte à ouvrir.</translation>
     </message>

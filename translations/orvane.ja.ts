@@ -528,14 +528,6 @@
         <translation>レイヤーコントロールをすぐに開きます。</translation>
     </message>
     <message>
-        <source>Make a sample map in FILE, and open no window.</source>
-        <translation>FILE にサンプル地図を作成し、ウィンドウは開きません。</translation>
-    </message>
-    <message>
-        <source>Make the sample map of the world data in FOLDER, if it has them.</source>
-        <translation>FOLDER に世界のデータがあれば、それからサンプル地図を作成します。</translation>
-    </message>
-    <message>
         <source>The map file to open.</source>
         <translation>開く地図ファイル。</translation>
     </message>

@@ -4,7 +4,6 @@
 #include "shell/command/CheckCommand.h"
 #include "shell/command/ExportCommand.h"
 #include "shell/command/ImportCommand.h"
-#include "shell/sample/SampleMap.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -62,15 +61,6 @@ struct WindowOptions {
     QCommandLineOption control{
         QStringLiteral("layer-control"),
         Text(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at once."))};
-    QCommandLineOption sample{
-        QStringLiteral("make-sample"),
-        Text(QT_TRANSLATE_NOOP("CommandLine", "Make a sample map in FILE, and open no window.")),
-        QStringLiteral("FILE")};
-    QCommandLineOption data{
-        QStringLiteral("data"),
-        Text(QT_TRANSLATE_NOOP(
-            "CommandLine", "Make the sample map of the world data in FOLDER, if it has them.")),
-        QStringLiteral("FOLDER")};
 };
 
 int TellVersion(const Terminal& terminal)
@@ -85,8 +75,7 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
 {
     const WindowOptions options;
     CommandReader reader(HelpText());
-    reader.Options().addOptions(
-        {options.version, options.trace, options.control, options.sample, options.data});
+    reader.Options().addOptions({options.version, options.trace, options.control});
     reader.Options().addPositionalArgument(
         QStringLiteral("MAP"), Text(QT_TRANSLATE_NOOP("CommandLine", "The map file to open.")),
         QStringLiteral("[MAP]"));
@@ -94,12 +83,6 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
         return *ended;
     if (reader.IsSet(options.version))
         return TellVersion(terminal);
-    if (reader.IsSet(options.sample)) {
-        return Told(terminal, [&] {
-            MakeSampleMap(reader.Value(options.sample), reader.Value(options.data));
-            return ExitCode::Done;
-        });
-    }
     return WindowRequest{reader.Words().value(0), reader.Value(options.trace), reader.IsSet(options.control)};
 }
 
@@ -109,8 +92,7 @@ bool NeedsNoWindow(const QStringList& arguments)
 {
     static const QStringList commands{QStringLiteral("import"), QStringLiteral("check")};
     static const QStringList answers{
-        QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("-v"), QStringLiteral("--version"),
-        QStringLiteral("--make-sample")};
+        QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("-v"), QStringLiteral("--version")};
     return commands.contains(arguments.value(1)) || IsExport(arguments)
         || std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
                return answers.contains(argument.section(QLatin1Char('='), 0, 0));

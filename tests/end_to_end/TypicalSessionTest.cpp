@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "examples/sample_maps/SampleMap.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/tracing/CallTrace.h"
 #include "shell/MainWindow.h"
 #include "shell/MapDocument.h"
 #include "shell/drawing/MapCanvas.h"
-#include "shell/sample/SampleMap.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

@@ -166,6 +166,7 @@ TextPlaces HostTexts()
         {"tr", 0}, {"QT_TR_NOOP", 0}, {"translate", 1}, {"QT_TRANSLATE_NOOP", 1}};
     NoteFolder(places, "hostkit", calls);
     NoteFolder(places, "shell", calls);
+    NoteFolder(places, "examples", calls);
     NoteFolder(places, "store", calls);
     return places;
 }

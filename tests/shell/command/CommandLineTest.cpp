@@ -15,8 +15,7 @@ class CommandLineTest : public CommandFixture
 
 TEST_F(CommandLineTest, CommandsHelpAndVersionNeedNoWindow)
 {
-    for (const char* word :
-         {"import", "check", "--help", "-h", "--version", "--export=a.pdf", "--make-sample=a"})
+    for (const char* word : {"import", "check", "--help", "-h", "--version", "--export=a.pdf"})
         EXPECT_TRUE(NeedsNoWindow({"orvane", word})) << word;
     EXPECT_TRUE(NeedsNoWindow({"orvane", "map.orvane", "--export", "a.pdf"}));
     EXPECT_FALSE(NeedsNoWindow({"orvane"}));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/TownGround.h"
+#include "examples/sample_maps/TownGround.h"
 
 #include <algorithm>
 #include <cmath>

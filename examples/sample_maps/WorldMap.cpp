@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "examples/sample_maps/GeoPackageWriter.h"
+#include "examples/sample_maps/SampleLayers.h"
+#include "examples/sample_maps/SampleMap.h"
 #include "shell/MapDocument.h"
-#include "shell/sample/GeoPackageWriter.h"
-#include "shell/sample/SampleLayers.h"
-#include "shell/sample/SampleMap.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/GeoPackageWriter.h"
+#include "examples/sample_maps/GeoPackageWriter.h"
 
 #include "shell/data/GdalErrors.h"
 

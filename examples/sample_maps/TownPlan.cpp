@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/TownPlan.h"
+#include "examples/sample_maps/TownPlan.h"
 
-#include "shell/sample/TownGround.h"
+#include "examples/sample_maps/TownGround.h"
 
 #include <QPolygonF>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/SampleLayers.h"
+#include "examples/sample_maps/SampleLayers.h"
 
 #include "shell/MapDocument.h"
 #include "shell/Palette.h"

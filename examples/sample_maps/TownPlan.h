@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "examples/sample_maps/GeoPackageWriter.h"
 #include "shell/data/FeatureSet.h"
-#include "shell/sample/GeoPackageWriter.h"
 
 #include <map>
 #include <string>

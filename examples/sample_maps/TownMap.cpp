@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "examples/sample_maps/GeoPackageWriter.h"
+#include "examples/sample_maps/SampleLayers.h"
+#include "examples/sample_maps/SampleMap.h"
+#include "examples/sample_maps/TownPlan.h"
 #include "shell/MapDocument.h"
-#include "shell/sample/GeoPackageWriter.h"
-#include "shell/sample/SampleLayers.h"
-#include "shell/sample/SampleMap.h"
-#include "shell/sample/TownPlan.h"
 
 #include <array>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/SampleMap.h"
+#include "examples/sample_maps/SampleMap.h"
 
 #include "shell/MapDocument.h"
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "shell/sample/SampleMap.h"
+#include "examples/sample_maps/SampleMap.h"
 
+#include "examples/sample_maps/GeoPackageWriter.h"
+#include "examples/sample_maps/TownPlan.h"
 #include "shell/DataFolder.h"
 #include "shell/MapDocument.h"
 #include "shell/data/DataSource.h"
 #include "shell/data/Progress.h"
 #include "shell/data/SourceReader.h"
-#include "shell/sample/GeoPackageWriter.h"
-#include "shell/sample/TownPlan.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
