@@ -12,7 +12,7 @@ QString FileFor(const QString& language)
 {
     const QString program = QCoreApplication::applicationDirPath();
     for (const char* folder : {"/translations/", "/../share/orvane/translations/"}) {
-        const QString file = program + QLatin1String(folder) + QStringLiteral("orvane.%1.ts").arg(language);
+        QString file = program + QLatin1String(folder) + QStringLiteral("orvane.%1.ts").arg(language);
         if (QFile::exists(file))
             return file;
     }
@@ -27,7 +27,7 @@ QString CatalogueFile(const QStringList& languages)
         for (const QString& name : {language, language.section(QLatin1Char('-'), 0, 0)}) {
             if (name == QLatin1String("en"))
                 return {};
-            const QString file = FileFor(name);
+            QString file = FileFor(name);
             if (!file.isEmpty())
                 return file;
         }

@@ -14,10 +14,15 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace Orvane {
 
 namespace {
 
+constexpr double Room = 0.02; // of the map, on each side of it
+
+// What is drawn, with some room around it.
 Box BoundsOf(const std::vector<MapLayer>& layers)
 {
     Box bounds;
@@ -25,7 +30,8 @@ Box BoundsOf(const std::vector<MapLayer>& layers)
         if (layer.features && layer.visible && layer.mode != DrawMode::Hidden)
             bounds.Add(layer.features->Bounds());
     }
-    return bounds;
+    const double room = bounds.IsEmpty() ? 0 : Room * std::max(bounds.Width(), bounds.Height());
+    return {bounds.minX - room, bounds.minY - room, bounds.maxX + room, bounds.maxY + room};
 }
 
 // One line for each reason, to the errors.
