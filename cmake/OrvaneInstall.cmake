@@ -45,6 +45,7 @@ if(ORVANE_BUILD_SHELL)
   install(FILES "${packaging}/orvane-mime.xml" DESTINATION share/mime/packages RENAME orvane.xml)
   install(FILES "${packaging}/orvane.svg" DESTINATION share/icons/hicolor/scalable/apps)
   install(FILES "${packaging}/orvane-map.svg" DESTINATION share/icons/hicolor/scalable/mimetypes)
+  install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION share/doc/orvane RENAME copyright)
   install(FILES "${packaging}/orvane.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endif()
 

@@ -8,6 +8,7 @@
 #include "shell/MapSession.h"
 #include "shell/RecentMaps.h"
 #include "shell/RenderingActions.h"
+#include "shell/RoundedScale.h"
 #include "shell/RunWithProgress.h"
 #include "shell/drawing/MapCanvas.h"
 #include "shell/output/OutputActions.h"
@@ -26,7 +27,6 @@
 #include <QUrl>
 
 #include <chrono>
-#include <cmath>
 
 namespace Orvane {
 
@@ -36,13 +36,6 @@ constexpr auto MapSuffix = "orvane";
 constexpr auto GeometryKey = "MainWindow/Geometry";
 constexpr auto StateKey = "MainWindow/State";
 constexpr std::chrono::milliseconds MarkAfter{500};
-
-// Four digits are as exact as a screen is.
-double RoundedScale(double denominator)
-{
-    const double step = std::pow(10, std::max(0.0, std::floor(std::log10(denominator)) - 3));
-    return std::round(denominator / step) * step;
-}
 
 // Leaves room for the layer control at the right, where the screen has it.
 void PlaceFirstTime(QWidget& window)

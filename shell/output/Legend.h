@@ -17,8 +17,9 @@ class IShellServices;
 /// One row of a legend.
 struct LegendRow {
     QString text;
-    bool heading = false; ///< the name of a group; the rest is then of no meaning
-    bool indented = false; ///< belongs to the heading above
+    bool heading = false; ///< the name of a group
+    bool sample = true; ///< false: text only
+    int indent = 0; ///< how many rows above this one it belongs to
     bool backdrop = false; ///< drawn pale
     FeatureKind kind = FeatureKind::Area; ///< what the layer's first feature is
     DrawingValues values;
@@ -30,14 +31,14 @@ struct LegendRow {
         LegendRow row;
         row.text = text;
         row.heading = true;
+        row.sample = false;
         return row;
     }
 };
 
 /// The legend of these layers: groups in the order of the layer control with their layers below them, each
-/// layer once, layers without a group at the end. A group of which one layer only is listed has no heading.
-/// Passes on errors of the
-/// database and the services.
+/// layer once, layers without a group at the end. A graduated layer is followed by its classes. A group of
+/// which one layer only is listed has no heading. Passes on errors of the database and the services.
 std::vector<LegendRow>
 LegendOf(ILayerDatabase& database, const IShellServices& services, const std::vector<MapLayer>& layers);
 

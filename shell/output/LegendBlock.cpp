@@ -28,13 +28,13 @@ QFont FontOf(const LegendRow& row)
 
 double Indent(const LegendRow& row)
 {
-    return row.indented ? Gap : 0;
+    return row.indent * Gap;
 }
 
 // From the row's left edge to its text.
 double TextStart(const LegendRow& row)
 {
-    return row.heading ? 0 : Indent(row) + SampleWidth + Gap;
+    return Indent(row) + (row.sample ? SampleWidth + Gap : 0);
 }
 
 double WidthOf(const LegendRow& row)
@@ -102,7 +102,7 @@ void LegendBlock::Paint(QPainter& painter, const QRectF& room) const
 void LegendBlock::PaintRow(QPainter& painter, const QRectF& place, const LegendRow& row) const
 {
     painter.save();
-    if (!row.heading) {
+    if (row.sample) {
         const QPointF corner(place.left() + Indent(row), place.top() + (RowHeight - SampleHeight) / 2);
         painter.save();
         painter.translate(corner);

@@ -59,6 +59,22 @@ void PaintLine(QPainter& painter, const QRect& area, const DrawingValues& values
     painter.restore();
 }
 
+// A solid line as broad as the pen.
+void PaintStroke(QPainter& painter, const QRect& area, const QPen& pen)
+{
+    DrawingValues values;
+    values.lineThickness = -int(Whole(pen.widthF()));
+    LayerLook look;
+    look.outline = pen;
+    PaintLine(painter, area, values, look);
+}
+
+void PaintCasedLine(QPainter& painter, const QRect& area, const CasedLine& cased)
+{
+    PaintStroke(painter, area, cased.casing);
+    PaintStroke(painter, area, cased.core);
+}
+
 void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
 {
     const DrawingValues& values = row.values;
@@ -101,7 +117,10 @@ void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& ro
         PaintPoint(painter, area, row.look);
         break;
     case FeatureKind::Line:
-        PaintLine(painter, area, row.values, row.look);
+        if (row.look.cased)
+            PaintCasedLine(painter, area, *row.look.cased);
+        else
+            PaintLine(painter, area, row.values, row.look);
         break;
     case FeatureKind::Area:
         PaintArea(painter, area, row);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/MapPage.h"
 
+#include "shell/RoundedScale.h"
 #include "shell/data/CoordinateSystems.h"
 #include "shell/data/GroundScale.h"
 #include "shell/drawing/MapPainter.h"
@@ -57,12 +58,6 @@ void RemoveFills(MapLayer& layer)
     layer.look.fill = Qt::NoBrush;
     for (ClassLook& look : layer.classLooks)
         look.fill = QBrush(Qt::transparent); // without any brush the outline would take the class's colour
-}
-
-double Rounded(double denominator)
-{
-    const double step = std::pow(10, std::max(0.0, std::floor(std::log10(denominator)) - 3));
-    return std::round(denominator / step) * step;
 }
 
 // For devices that cannot clip: what was painted over the map's edge is covered again.
@@ -193,7 +188,7 @@ QString MapPage::ScaleText() const
     if (std::abs(m_groundMetresPerUnit / m_metresPerUnit - 1) > HonestWithin)
         return {};
     return QCoreApplication::translate("MapPage", "1:%1")
-        .arg(QLocale().toString(Rounded(ScaleDenominator()), 'f', 0));
+        .arg(QLocale().toString(RoundedScale(ScaleDenominator()), 'f', 0));
 }
 
 void MapPage::PaintTitle(QPainter& painter) const

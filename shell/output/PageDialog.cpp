@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/PageDialog.h"
 
+#include "shell/RoundedScale.h"
 #include "shell/output/Papers.h"
 #include "ui_PageDialog.h"
 
 #include <QLocale>
 #include <QPushButton>
-
-#include <cmath>
 
 namespace Orvane {
 
@@ -24,7 +23,7 @@ PageDialog::PageDialog(Purpose purpose, const QString& mapName, double scaleDeno
     m_ui->setupUi(this);
     FillPapers();
     m_ui->txtTitle->setText(mapName);
-    m_ui->spnScale->setValue(std::round(scaleDenominator));
+    m_ui->spnScale->setValue(RoundedScale(scaleDenominator));
     const bool exports = purpose == Purpose::Export;
     setWindowTitle(exports ? tr("Export Map") : tr("Print Map"));
     m_ui->grpPage->setVisible(exports);

@@ -115,6 +115,15 @@ TEST(LegendSample, ALineOfMillimetresIsTrueOnPaper)
     EXPECT_NEAR(PixelsDown(Painted(Row(FeatureKind::Line, Drawn(0, 2)), 10), Qt::red), expected, 2);
 }
 
+TEST(LegendSample, ACasedLineHasItsCoreBetweenItsEdges)
+{
+    LegendRow row = Row(FeatureKind::Line, Drawn(0, -6));
+    row.look.cased = CasedLine{QPen(Qt::blue, 6), QPen(Qt::yellow, 4)};
+    const QImage image = Painted(row, 10);
+    EXPECT_EQ(PixelsDown(image, Qt::yellow), 40);
+    EXPECT_EQ(PixelsDown(image, Qt::blue), 20);
+}
+
 TEST(LegendSample, ThePatternsOfLinesDiffer)
 {
     QList<QImage> images;

@@ -42,7 +42,9 @@ protected:
     {
         std::vector<std::string> texts;
         for (const LegendRow& row : Rows())
-            texts.push_back((row.heading ? "# " : row.indented ? "- " : "") + row.text.toStdString());
+            texts.push_back(
+                (row.heading ? "# " : std::string(size_t(row.indent), '-') + (row.indent ? " " : ""))
+                + row.text.toStdString());
         return texts;
     }
 
@@ -100,6 +102,34 @@ TEST_F(LegendTest, ARowKnowsTheKindOfItsFeaturesAndItsPattern)
     EXPECT_EQ(rows[0].kind, FeatureKind::Line);
     EXPECT_TRUE(rows[0].backdrop);
     EXPECT_EQ(rows[0].fillPattern.width, 8);
+}
+
+TEST_F(LegendTest, TheClassesOfAGraduatedLayerStandBelowIt)
+{
+    AddTo(m_document->AddGroup("Land", true), "People");
+    MapLayer& layer = m_layers.back();
+    const std::vector<double> numbers{1, 2, 10, 20};
+    layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
+    layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
+    const std::vector<LegendRow> rows = Rows();
+    EXPECT_THAT(Texts(), ElementsAre("People", "- 1 – 10.5", "- 10.5 – 20"));
+    EXPECT_FALSE(rows[0].sample);
+    EXPECT_TRUE(rows[1].sample);
+    EXPECT_EQ(rows[1].values.fillForeColor, 0x00FFFF);
+    EXPECT_EQ(rows[2].values.fillForeColor, 0x0000FF);
+    EXPECT_EQ(rows[2].values.color, layer.values.color) << "areas keep their outline";
+}
+
+TEST_F(LegendTest, TheClassesOfLinesDifferInTheirColour)
+{
+    Add("Roads");
+    MapLayer& layer = m_layers.back();
+    layer.features = Line({{0, 0}, {1, 1}});
+    const std::vector<double> numbers{1, 2};
+    layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
+    layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
+    EXPECT_EQ(Rows()[1].look.outline.color(), QColor(Qt::yellow));
+    EXPECT_EQ(Rows()[2].look.outline.color(), QColor(Qt::red));
 }
 
 TEST_F(LegendTest, AMapWithoutLayersHasNone)

@@ -118,10 +118,10 @@ TEST_F(PageDialogTest, AnOwnSizeOutlivesALookAtThePapers)
 
 TEST_F(PageDialogTest, TheScaleOfTheWindowIsOfferedAndAnotherCanBeTyped)
 {
-    EXPECT_EQ(Of<QDoubleSpinBox>("spnScale").value(), 12346);
+    EXPECT_EQ(Of<QDoubleSpinBox>("spnScale").value(), 12350);
     EXPECT_FALSE(Of<QDoubleSpinBox>("spnScale").isEnabled());
     Click<QRadioButton>("optScale");
-    EXPECT_EQ(m_dialog->Settings().scaleDenominator, 12346);
+    EXPECT_EQ(m_dialog->Settings().scaleDenominator, 12350);
     TypeInto("spnScale", "50000");
     EXPECT_EQ(m_dialog->Settings().scaleDenominator, 50000);
 }
