@@ -125,7 +125,7 @@ public:
 private:
     QString CopyWith(const QString& path, qint32 groupID) const
     {
-        const QString copy = m_folder.filePath(QStringLiteral("map.ovl"));
+        QString copy = m_folder.filePath(QStringLiteral("map.ovl"));
         QFile::copy(path, copy);
         SqliteLayerDatabase::Open(copy)->Execute(
             QStringLiteral("UPDATE LayerGroups SET Pseudo = 0 WHERE ID = ?1"), {groupID});
