@@ -58,6 +58,13 @@ public:
     /// stay; layers that are not listed are skipped.
     void RefreshLayerNames(const QSet<qint32>& layerIDs) { IStyleEditorForm_RefreshLayerNames(layerIDs); }
 
+    /// True while the controls hold edits that were not applied.
+    bool HasPendingEdits() const { return IStyleEditorForm_HasPendingEdits(); }
+
+    /// Reads lists, schemes and panel anew, after the host changed the database by itself. Current nodes and
+    /// scroll positions stay, and so do edits that were not applied.
+    void Refresh() { IStyleEditorForm_Refresh(); }
+
 protected:
     IStyleEditorForm() = default;
 
@@ -72,6 +79,8 @@ private:
     virtual void IStyleEditorForm_Filter(const IStyleFilter* filter) = 0;
     virtual void IStyleEditorForm_UnloadWithoutApply() = 0;
     virtual void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) = 0;
+    virtual bool IStyleEditorForm_HasPendingEdits() const = 0;
+    virtual void IStyleEditorForm_Refresh() = 0;
 };
 
 } // namespace Orvane

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/EditorWindows.h"
 
+#include <OrvaneShellLib/IStyleEditorForm.h>
+
 #include <QWindow>
 
 #include <algorithm>
+#include <exception>
 
 namespace Orvane {
 
@@ -33,6 +36,31 @@ std::vector<QWidget*> EditorWindows::Shown() const
             shown.push_back(form);
     }
     return shown;
+}
+
+bool EditorWindows::HavePendingEdits() const
+{
+    const std::vector<QWidget*> forms = Shown();
+    return std::any_of(forms.begin(), forms.end(), [](QWidget* form) {
+        const auto* editor = dynamic_cast<IStyleEditorForm*>(form);
+        return editor && editor->HasPendingEdits();
+    });
+}
+
+void EditorWindows::RefreshEditors() const
+{
+    std::exception_ptr firstError;
+    for (const QPointer<QWidget>& form : std::vector(m_forms)) {
+        try {
+            if (auto* editor = dynamic_cast<IStyleEditorForm*>(form.data()))
+                editor->Refresh();
+        } catch (...) {
+            if (!firstError)
+                firstError = std::current_exception();
+        }
+    }
+    if (firstError)
+        std::rethrow_exception(firstError);
 }
 
 } // namespace Orvane

@@ -23,6 +23,11 @@ public:
     /// The forms that are shown, in the order of their showing.
     std::vector<QWidget*> Shown() const;
 
+    /// True when an editor holds edits that were not applied yet.
+    bool HavePendingEdits() const;
+    /// Has every editor read the database anew. The first error is raised when all have been asked.
+    void RefreshEditors() const;
+
 private:
     QPointer<QWidget> m_mainWindow;
     std::vector<QPointer<QWidget>> m_forms;

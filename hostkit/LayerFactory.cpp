@@ -2,7 +2,9 @@
 #include "hostkit/LayerFactory.h"
 
 #include "hostkit/FillPatterns.h"
+#include "hostkit/LayerDeletion.h"
 #include "hostkit/LayerNames.h"
+#include "hostkit/SchemeTables.h"
 #include "hostkit/StoredScale.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
@@ -22,6 +24,15 @@ constexpr qint16 ThinnestLine = 0;
 bool HasRow(ILayerDatabase& database, const QString& query)
 {
     return !database.OpenRecordset(query)->AtEOF();
+}
+
+QStringList NamesOf(SqliteLayerDatabase& database, const QString& query, qint32 layerID)
+{
+    QStringList names;
+    const auto rows = database.OpenQuery(query, {layerID});
+    for (; !rows->AtEOF(); rows->MoveNext())
+        names << (rows->Field("Name").IsNull() ? QString() : ToText(rows->Field("Name")));
+    return names;
 }
 
 } // namespace
@@ -45,6 +56,25 @@ void LayerFactory::Delete(qint32 layerID)
     m_database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
     transaction.Commit();
     m_names.Remove(layerID);
+}
+
+LayerDeletion LayerFactory::WhatGoes(qint32 layerID)
+{
+    LayerDeletion deletion;
+    deletion.layer = m_names.Name(layerID);
+    deletion.groups = NamesOf(
+        m_database,
+        QStringLiteral("SELECT Name FROM LayerGroups JOIN LayerGroupMembers ON GroupID = ID"
+                       " WHERE LayerID = ?1 ORDER BY GroupOrdering, ID"),
+        layerID);
+    if (SchemeTables(m_database).HaveSchemes()) {
+        deletion.schemes = NamesOf(
+            m_database,
+            QStringLiteral("SELECT Name FROM LayerSchemes JOIN LayerSchemeValues USING (SchemeID)"
+                           " WHERE LayerID = ?1 ORDER BY SchemeID"),
+            layerID);
+    }
+    return deletion;
 }
 
 bool LayerFactory::CanDelete(qint32 layerID)

@@ -8,6 +8,7 @@ namespace Orvane {
 
 class LayerNames;
 class SqliteLayerDatabase;
+struct LayerDeletion;
 
 /// Creates and deletes layers' rows.
 class LayerFactory
@@ -30,6 +31,9 @@ public:
     /// Removes the layer, its memberships and its values in all schemes, in one transaction. A layer that
     /// does not exist changes nothing.
     void Delete(qint32 layerID);
+
+    /// What goes when the layer is deleted.
+    LayerDeletion WhatGoes(qint32 layerID);
 
     /// True when the layer exists and is no system layer.
     bool CanDelete(qint32 layerID);

@@ -4,37 +4,73 @@
 #include "hostkit/EditorWindows.h"
 #include "hostkit/HostErrors.h"
 #include "hostkit/HostNotifications.h"
+#include "hostkit/LayerDeletion.h"
 #include "hostkit/LayerFactory.h"
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
+#include "hostkit/LayerSteps.h"
+#include "hostkit/NameInText.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"
 #include "hostkit/TextPrompt.h"
-#include "hostkit/UndoHistory.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
-#include <QMessageBox>
 
 namespace Orvane {
 
+namespace {
+
+constexpr qsizetype LongestName = 40; // characters
+
+QString Short(const QString& name)
+{
+    return NameInText(name, LongestName);
+}
+
+/// The scheme that the last step left, until the event loop runs again: deleting it then is one step with
+/// leaving it, as the person pressed one button.
+class LeftScheme
+{
+public:
+    void Set(const QString& name)
+    {
+        m_name = name;
+        QMetaObject::invokeMethod(
+            &m_context, [this] { m_name.clear(); }, Qt::QueuedConnection);
+    }
+    ChangeStep::Joins Deletion(const QString& name)
+    {
+        const QString left = std::exchange(m_name, {});
+        return !left.isEmpty() && left == name ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No;
+    }
+
+private:
+    QObject m_context;
+    QString m_name;
+};
+
+} // namespace
+
 struct StandardClient::Parts {
     explicit Parts(SqliteLayerDatabase& database)
-        : names(database), factory(database, names), schemes(database)
+        : names(database), factory(database, names), schemes(database),
+          steps(database, names, windows, notifications)
     {
     }
 
     HostNotifications notifications;
-    UndoHistory history;
     EditorWindows windows;
     std::unique_ptr<SettingsStore> settings; // made at the first use
     LayerNames names;
     LayerFactory factory;
     LayerSchemes schemes;
+    LayerSteps steps;
+    LeftScheme leftScheme;
     QString startupFile;
     QSet<qint32> changedLayers; // since the last RedrawMap
 
@@ -47,19 +83,6 @@ struct StandardClient::Parts {
 
     void TellSchemes() { emit notifications.SchemesChanged(schemes.Current()); }
 };
-
-namespace {
-
-constexpr qsizetype LongestNameInQuestion = 80; // characters
-
-QString Shortened(const QString& name)
-{
-    if (name.size() <= LongestNameInQuestion)
-        return name;
-    return name.left(LongestNameInQuestion - 1) + QChar(0x2026);
-}
-
-} // namespace
 
 StandardClient::StandardClient(SqliteLayerDatabase& database, IShellServices& shellServices)
     : m_database(database), m_shellServices(shellServices), m_parts(std::make_unique<Parts>(database))
@@ -75,7 +98,12 @@ HostNotifications& StandardClient::Notifications()
 
 UndoHistory& StandardClient::History()
 {
-    return m_parts->history;
+    return m_parts->steps.History();
+}
+
+void StandardClient::RecordStep(const std::function<QString()>& act)
+{
+    m_parts->steps.Record(act);
 }
 
 void StandardClient::SetMainWindow(QWidget* mainWindow)
@@ -95,7 +123,11 @@ void StandardClient::SetStartupFile(const QString& path)
 
 void StandardClient::LoadSchemesFromStartup()
 {
-    StartupSchemes::Load(m_database, m_parts->startupFile);
+    m_parts->schemes.Current(); // makes the first scheme, which is no step
+    RecordStep([this] {
+        StartupSchemes::Load(m_database, m_parts->startupFile);
+        return tr("Loading of the Startup Schemes");
+    });
     m_parts->TellSchemes();
 }
 
@@ -168,6 +200,7 @@ double StandardClient::IStyleEditorClient_DialogScaleToStored(qint32 scaleIndex)
 
 void StandardClient::IStyleEditorClient_BeginLayerEdit(IRecordset& layers)
 {
+    m_parts->steps.BeginEdits();
     layers.Edit();
 }
 
@@ -183,8 +216,13 @@ QString StandardClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
 
 void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)
 {
-    m_database.Execute(QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name});
-    if (m_database.ChangedRows() == 0)
+    bool isThere = false;
+    RecordStep([&] {
+        m_database.Execute(QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name});
+        isThere = m_database.ChangedRows() > 0;
+        return tr("Renaming of \"%1\"").arg(Short(name));
+    });
+    if (!isThere)
         return;
     m_parts->names.Set(layerID, name);
     emit m_parts->notifications.LayerRenamed(layerID, name);
@@ -192,8 +230,13 @@ void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QStrin
 
 void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name)
 {
-    m_database.Execute(QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name});
-    if (m_database.ChangedRows() > 0)
+    bool isThere = false;
+    RecordStep([&] {
+        m_database.Execute(QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name});
+        isThere = m_database.ChangedRows() > 0;
+        return tr("Renaming of the Group \"%1\"").arg(Short(name));
+    });
+    if (isThere)
         emit m_parts->notifications.GroupRenamed(groupID, name);
 }
 
@@ -209,7 +252,14 @@ QString StandardClient::IStyleEditorClient_GetCurrentScheme()
 
 void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
 {
-    const QSet<qint32> changed = m_parts->schemes.Load(name);
+    const QString left = m_parts->schemes.Current();
+    QSet<qint32> changed;
+    RecordStep([&] {
+        changed = m_parts->schemes.Load(name);
+        return tr("Loading of the Scheme \"%1\"").arg(Short(name));
+    });
+    if (left != name)
+        m_parts->leftScheme.Set(left);
     m_parts->TellSchemes();
     if (!changed.isEmpty())
         emit m_parts->notifications.LayersChanged(changed);
@@ -217,19 +267,32 @@ void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
 
 void StandardClient::IStyleEditorClient_CreateScheme(const QString& name)
 {
-    m_parts->schemes.Create(name);
+    m_parts->schemes.Current();
+    RecordStep([&] {
+        m_parts->schemes.Create(name);
+        return tr("Creation of the Scheme \"%1\"").arg(Short(name));
+    });
     m_parts->TellSchemes();
 }
 
 void StandardClient::IStyleEditorClient_SaveScheme(const QString& name)
 {
-    m_parts->schemes.Save(name);
+    m_parts->schemes.Current();
+    RecordStep([&] {
+        m_parts->schemes.Save(name);
+        return tr("Saving of the Scheme \"%1\"").arg(Short(name));
+    });
     m_parts->TellSchemes();
 }
 
 void StandardClient::IStyleEditorClient_DeleteScheme(const QString& name)
 {
-    m_parts->schemes.Delete(name);
+    m_parts->schemes.Current();
+    const auto remove = [&] {
+        m_parts->schemes.Delete(name);
+        return tr("Deletion of the Scheme \"%1\"").arg(Short(name));
+    };
+    m_parts->steps.Record(remove, m_parts->leftScheme.Deletion(name));
     m_parts->TellSchemes();
 }
 
@@ -250,16 +313,26 @@ PromptAnswer StandardClient::IStyleEditorClient_PromptText(const PromptRequest& 
 
 qint32 StandardClient::IStyleEditorClient_CreateLayer()
 {
-    const qint32 layerID = m_parts->factory.Create();
+    qint32 layerID = 0;
+    RecordStep([&] {
+        layerID = m_parts->factory.Create();
+        return tr("Creation of \"%1\"").arg(Short(m_parts->names.Name(layerID)));
+    });
     emit m_parts->notifications.LayerCreated(layerID);
     return layerID;
 }
 
 void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
 {
-    if (!m_parts->factory.CanDelete(layerID) || !ConfirmDeletion(m_parts->names.Name(layerID)))
+    if (!m_parts->factory.CanDelete(layerID))
         return;
-    m_parts->factory.Delete(layerID);
+    const LayerDeletion deletion = m_parts->factory.WhatGoes(layerID);
+    if (!ConfirmDeletion(deletion))
+        return;
+    RecordStep([&] {
+        m_parts->factory.Delete(layerID);
+        return tr("Deletion of \"%1\"").arg(Short(deletion.layer));
+    });
     m_parts->changedLayers.remove(layerID);
     emit m_parts->notifications.LayerDeleted(layerID);
 }
@@ -291,19 +364,15 @@ QString StandardClient::IStyleEditorClient_ThemeName(QWidget*) const
 
 void StandardClient::IStyleEditorClient_RedrawMap()
 {
+    m_parts->steps.EndEdits();
     const QSet<qint32> changed = std::exchange(m_parts->changedLayers, {});
     if (!changed.isEmpty())
         emit m_parts->notifications.LayersChanged(changed);
 }
 
-bool StandardClient::ConfirmDeletion(const QString& layerName)
+bool StandardClient::ConfirmDeletion(const LayerDeletion& deletion)
 {
-    QMessageBox box(
-        QMessageBox::Question, tr("Delete layer"), tr("Delete the layer \"%1\"?").arg(Shortened(layerName)),
-        QMessageBox::Yes | QMessageBox::No, DialogParent());
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
+    return deletion.Confirm(DialogParent());
 }
 
 QWidget* StandardClient::DialogParent() const

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QSet>
 
+#include <functional>
 #include <memory>
 
 namespace Orvane {
@@ -16,6 +17,7 @@ class LayerNames;
 class SettingsStore;
 class SqliteLayerDatabase;
 class UndoHistory;
+struct LayerDeletion;
 
 /// A ready-made host application object over a layer database: windows, settings, prompts, names, schemes,
 /// creating and deleting layers. Derive and override only what is your own:
@@ -42,6 +44,13 @@ public:
     /// What the person did to layers, groups and schemes, to be undone; a host may add steps of its own.
     /// Owned by this object.
     UndoHistory& History();
+    /// Does the act and keeps what it changed in the layer database, the host's own tables included, as one
+    /// step of the history. act: changes all or nothing, tells it by itself, and answers what it did in words
+    /// that can follow "Undo": "Change of Roads". What it raises is passed on.
+    ///
+    /// When the step is undone or redone, it is told by the signals of Notifications() that suit the rows,
+    /// and open editors read them anew. Raises HostError::EditsPending then while an editor holds edits.
+    void RecordStep(const std::function<QString()>& act);
 
     /// The window in front of which editors and prompts are shown; nullptr for none. Not owned.
     void SetMainWindow(QWidget* mainWindow);
@@ -104,8 +113,8 @@ protected:
     /// Emits LayersChanged with the layers noted since the last call, if there are any.
     void IStyleEditorClient_RedrawMap() override;
 
-    /// Asks the person whether the layer of that name is to be deleted; true deletes it.
-    virtual bool ConfirmDeletion(const QString& layerName);
+    /// Asks the person whether the layer is to be deleted with all that goes with it; true deletes it.
+    virtual bool ConfirmDeletion(const LayerDeletion& deletion);
 
     /// The window to show a question in front of: the active one, else the main window; nullptr for none.
     QWidget* DialogParent() const;

@@ -43,8 +43,12 @@ void UndoHistory::Clear()
 
 void UndoHistory::Run(Direction direction)
 {
+    if (m_running)
+        return;
+    if (m_beforeStep)
+        m_beforeStep();
     const bool undoes = direction == Direction::Undo;
-    if (m_running || !(undoes ? CanUndo() : CanRedo()))
+    if (!(undoes ? CanUndo() : CanRedo()))
         return;
     const QScopedValueRollback running(m_running, true);
     RunStep(direction, undoes ? m_done - 1 : m_done);

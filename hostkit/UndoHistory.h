@@ -45,6 +45,9 @@ public:
     /// Forgets all steps.
     void Clear();
 
+    /// The action is called at the beginning of each Undo and Redo, before the step is chosen; what it raises
+    /// stops them. An empty function ends that.
+    void SetBeforeStep(std::function<void()> action) { m_beforeStep = std::move(action); }
     /// The action is called at the end of each Undo and Redo that did something, when the history stands
     /// already where it belongs; what it raises is passed on. An empty function ends that.
     void SetAfterStep(std::function<void()> action) { m_afterStep = std::move(action); }
@@ -62,6 +65,7 @@ private:
     std::vector<std::unique_ptr<IUndoStep>> m_steps; // the oldest first
     size_t m_done = 0; // so many of them are done, those behind are undone
     bool m_running = false;
+    std::function<void()> m_beforeStep;
     std::function<void()> m_afterStep;
 };
 

@@ -55,6 +55,8 @@ private:
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
     void IStyleEditorForm_UnloadWithoutApply() override;
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
+    bool IStyleEditorForm_HasPendingEdits() const override;
+    void IStyleEditorForm_Refresh() override;
 
     void Wire();
     void WireCommands();

@@ -110,4 +110,24 @@ void frmLayerStyles::IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& laye
         m_parts->trees.RefreshLayerTexts(layerIDs);
 }
 
+bool frmLayerStyles::IStyleEditorForm_HasPendingEdits() const
+{
+    return m_selection->IsModified();
+}
+
+void frmLayerStyles::IStyleEditorForm_Refresh()
+{
+    if (!m_initialised || m_unloaded)
+        return;
+    m_parts->trees.MarkStale(LayerTrees::List::Groups);
+    m_parts->trees.MarkStale(LayerTrees::List::Layers);
+    FirstError errors;
+    errors.Try([this] { m_parts->schemes.Fill(); });
+    errors.Try([this] { UpdateCaption(); });
+    errors.Try([this] { LoadList(); });
+    if (!m_selection->IsModified())
+        errors.Try([this] { m_selection->Load(); });
+    errors.Rethrow();
+}
+
 } // namespace Orvane

@@ -123,6 +123,16 @@ void TracingEditor::IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layer
         "form.RefreshLayerNames", [&] { Form().RefreshLayerNames(layerIDs); }, qint32(layerIDs.size()));
 }
 
+bool TracingEditor::IStyleEditorForm_HasPendingEdits() const
+{
+    return m_trace.Question("form.HasPendingEdits", [&] { return Form().HasPendingEdits(); });
+}
+
+void TracingEditor::IStyleEditorForm_Refresh()
+{
+    m_trace.Command("form.Refresh", [&] { Form().Refresh(); });
+}
+
 IStyleEditorForm& TracingEditor::Form() const
 {
     return dynamic_cast<IStyleEditorForm&>(m_editor);

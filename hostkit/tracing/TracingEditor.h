@@ -38,6 +38,8 @@ protected:
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
     void IStyleEditorForm_UnloadWithoutApply() override;
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
+    bool IStyleEditorForm_HasPendingEdits() const override;
+    void IStyleEditorForm_Refresh() override;
 
 private:
     IStyleEditorForm& Form() const;

@@ -37,6 +37,8 @@ private:
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override { m_filter = filter; }
     void IStyleEditorForm_UnloadWithoutApply() override;
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
+    bool IStyleEditorForm_HasPendingEdits() const override { return modified; }
+    void IStyleEditorForm_Refresh() override { }
 
     QStringList* m_events;
     const IStyleFilter* m_filter = nullptr;

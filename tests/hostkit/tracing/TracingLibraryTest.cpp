@@ -36,6 +36,8 @@ private:
     void IStyleEditorForm_Filter(const IStyleFilter* given) override { filter = given; }
     void IStyleEditorForm_UnloadWithoutApply() override { }
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
+    bool IStyleEditorForm_HasPendingEdits() const override { return visible; }
+    void IStyleEditorForm_Refresh() override { visible = true; }
 
     std::vector<RendererStyle> m_styles{{1, QStringLiteral("Shaded")}};
 };
@@ -162,13 +164,18 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
     EXPECT_EQ(form.LoadRendererStyles().size(), 1u);
     form.RefreshLayerNames({17, 18});
     form.UnloadWithoutApply();
+    EXPECT_FALSE(form.HasPendingEdits());
+    form.Refresh();
+    EXPECT_TRUE(form.HasPendingEdits());
     EXPECT_THAT(
         Lines(),
         ElementsAre(
             QStringLiteral("form.EditorID() -> \"Main\""), QStringLiteral("form.AddNewLayer(17)"),
             QStringLiteral("form.Popup()"), QStringLiteral("form.SetLayerCode(17)"),
             QStringLiteral("form.SetLayerName(17, \"Roads\")"), QStringLiteral("form.LoadRendererStyles()"),
-            QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()")));
+            QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()"), QStringLiteral("form.HasPendingEdits() -> false"),
+            QStringLiteral("form.Refresh()"), QStringLiteral("form.HasPendingEdits() -> true")));
+>>>>>>> 7d10bb3 (Keep what the host kit changes as steps to undo and redo)
 }
 
 } // namespace

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/NameInText.h"
+
+#include <gtest/gtest.h>
+
+namespace Orvane::Testing {
+namespace {
+
+TEST(NameInText, AShortNameStaysAsItIs)
+{
+    EXPECT_EQ(NameInText(QStringLiteral("Roads & \"Ways\""), 40), QStringLiteral("Roads & \"Ways\""));
+}
+
+TEST(NameInText, LinesBecomeOne)
+{
+    EXPECT_EQ(NameInText(QStringLiteral(" Roads\r\n\tand\u2028ways "), 40), QStringLiteral("Roads and ways"));
+}
+
+TEST(NameInText, ALongNameEndsInAnEllipsis)
+{
+    EXPECT_EQ(NameInText(QStringLiteral("abcdef"), 6), QStringLiteral("abcdef"));
+    EXPECT_EQ(NameInText(QStringLiteral("abcdefg"), 6), QString::fromUtf8("abcde…"));
+    EXPECT_EQ(NameInText(QString(10000, u'x'), 40).size(), 40);
+}
+
+TEST(NameInText, ASignOfTwoHalvesIsNotCut)
+{
+    EXPECT_EQ(NameInText(QString::fromUtf8("abcd\U0001F6E3fgh"), 6), QString::fromUtf8("abcd…"));
+}
+
+TEST(NameInText, NoBlankStandsBeforeTheEllipsis)
+{
+    EXPECT_EQ(NameInText(QStringLiteral("abcd efgh"), 6), QString::fromUtf8("abcd…"));
+}
+
+} // namespace
+} // namespace Orvane::Testing
