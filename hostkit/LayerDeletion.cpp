@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/LayerDeletion.h"
 
-#include "hostkit/NameInText.h"
+#include "messages/NameInText.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>

@@ -7,7 +7,7 @@
 #include "hostkit/LayerChanges.h"
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
-#include "hostkit/NameInText.h"
+#include "messages/NameInText.h"
 #include "store/ChangeRecorder.h"
 #include "store/SqliteLayerDatabase.h"
 

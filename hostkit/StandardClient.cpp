@@ -9,7 +9,7 @@
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/LayerSteps.h"
-#include "hostkit/NameInText.h"
+#include "messages/NameInText.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"

@@ -71,6 +71,21 @@ void PaintData(QPainter& painter)
         painter.drawArc(QRectF(4, bottom, 16, 6), 180 * 16, 180 * 16);
 }
 
+// An arrow that turns back to the left, or to the right.
+void PaintTurn(QPainter& painter, bool right)
+{
+    if (right) {
+        painter.translate(Size, 0);
+        painter.scale(-1, 1);
+    }
+    QPainterPath path(QPointF(4, 9));
+    path.lineTo(14, 9);
+    path.arcTo(QRectF(9, 9, 11, 10), 90, -180);
+    path.lineTo(9, 19);
+    painter.drawPath(path);
+    painter.drawPolyline(QPolygonF{{9, 4}, {4, 9}, {9, 14}});
+}
+
 void Paint(QPainter& painter, IconName name)
 {
     switch (name) {
@@ -88,6 +103,10 @@ void Paint(QPainter& painter, IconName name)
         return PaintFrame(painter);
     case IconName::LayerControl:
         return PaintLayers(painter);
+    case IconName::Undo:
+        return PaintTurn(painter, false);
+    case IconName::Redo:
+        return PaintTurn(painter, true);
     }
 }
 

@@ -8,7 +8,7 @@ class QPalette;
 namespace Orvane {
 
 /// The shell's own pictures, painted in the palette's colours so that they suit light and dark themes.
-enum class IconName { NewMap, OpenMap, OpenData, ZoomIn, ZoomOut, ZoomAll, LayerControl };
+enum class IconName { NewMap, OpenMap, OpenData, ZoomIn, ZoomOut, ZoomAll, LayerControl, Undo, Redo };
 
 QIcon ShellIcon(IconName name, const QPalette& palette);
 

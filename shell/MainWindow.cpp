@@ -2,6 +2,7 @@
 #include "shell/MainWindow.h"
 
 #include "shell/DataImport.h"
+#include "shell/EditActions.h"
 #include "shell/Guard.h"
 #include "shell/Icons.h"
 #include "shell/MapDocument.h"
@@ -71,6 +72,7 @@ MainWindow::MainWindow(CallTrace* trace)
     setCentralWidget(m_ui->canvas);
     SetIcons();
     MakeStatusBar();
+    m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
@@ -111,7 +113,10 @@ void MainWindow::AddData(const QStringList& paths)
     if (!m_layerControl.Close())
         return;
     const bool first = !Document().HasLayers();
-    AddToMap(Document(), found);
+    m_session->Shell().RecordStep([&] {
+        AddToMap(Document(), found);
+        return tr("Opening of Map Data");
+    });
     ReadMap();
     if (first)
         Canvas().ZoomToAll();
@@ -195,6 +200,8 @@ void MainWindow::SetIcons()
     m_ui->actNewMap->setIcon(ShellIcon(IconName::NewMap, palette()));
     m_ui->actOpenMap->setIcon(ShellIcon(IconName::OpenMap, palette()));
     m_ui->actOpenData->setIcon(ShellIcon(IconName::OpenData, palette()));
+    m_ui->actUndo->setIcon(ShellIcon(IconName::Undo, palette()));
+    m_ui->actRedo->setIcon(ShellIcon(IconName::Redo, palette()));
     m_ui->actZoomIn->setIcon(ShellIcon(IconName::ZoomIn, palette()));
     m_ui->actZoomOut->setIcon(ShellIcon(IconName::ZoomOut, palette()));
     m_ui->actZoomAll->setIcon(ShellIcon(IconName::ZoomAll, palette()));
@@ -279,6 +286,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
     m_layerControl.SetClient(&session->Client());
     m_session = std::move(session);
+    m_edits->Follow(m_session->Shell().History());
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

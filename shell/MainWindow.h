@@ -18,6 +18,7 @@ class MainWindow;
 namespace Orvane {
 
 class CallTrace;
+class EditActions;
 class MapCanvas;
 class MapDocument;
 class MapSession;
@@ -79,6 +80,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     CallTrace* m_trace;
+    std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<MapSession> m_session;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderingActions;

@@ -4,6 +4,14 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be read: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
@@ -104,12 +112,28 @@
         <translation>Linien mit Rand, beschriftet</translation>
     </message>
     <message>
+        <source>Change of %1 Layers</source>
+        <translation>Änderung an %1 Layern</translation>
+    </message>
+    <message>
+        <source>Change of &quot;%1&quot;</source>
+        <translation>Änderung an „%1“</translation>
+    </message>
+    <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
         <translation>Wählt die Attribute, die die Objekte eines Layers beschriften und färben</translation>
     </message>
     <message>
         <source>Classes</source>
         <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>Creation of &quot;%1&quot;</source>
+        <translation>Anlegen von „%1“</translation>
+    </message>
+    <message>
+        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <translation>Anlegen des Schemas „%1“</translation>
     </message>
     <message>
         <source>Delete layer</source>
@@ -122,6 +146,14 @@
     <message>
         <source>&amp;Division:</source>
         <translation>&amp;Einteilung:</translation>
+    </message>
+    <message>
+        <source>Deletion of &quot;%1&quot;</source>
+        <translation>Löschen von „%1“</translation>
+    </message>
+    <message>
+        <source>Deletion of the Scheme &quot;%1&quot;</source>
+        <translation>Löschen des Schemas „%1“</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -158,6 +190,62 @@
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>It leaves its groups: %1.</source>
+        <translation>Er verlässt seine Gruppen: %1.</translation>
+    </message>
+    <message>
+        <source>Its data file stays. You can undo the deletion.</source>
+        <translation>Seine Datendatei bleibt. Das Löschen kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Its saved values go from the layer schemes: %1.</source>
+        <translation>Seine gespeicherten Werte verschwinden aus den Layerschemas: %1.</translation>
+    </message>
+    <message>
+        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <translation>Laden des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Loading of the Startup Schemes</source>
+        <translation>Laden der Startschemas</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back last</source>
+        <translation>Die zuletzt zurückgenommene Änderung noch einmal machen</translation>
+    </message>
+    <message>
+        <source>New Code of &quot;%1&quot;</source>
+        <translation>Neuer Code von „%1“</translation>
+    </message>
+    <message>
+        <source>Opening of Map Data</source>
+        <translation>Öffnen von Kartendaten</translation>
+    </message>
+    <message>
+        <source>Renaming of &quot;%1&quot;</source>
+        <translation>Umbenennen von „%1“</translation>
+    </message>
+    <message>
+        <source>Renaming of the Group &quot;%1&quot;</source>
+        <translation>Umbenennen der Gruppe „%1“</translation>
+    </message>
+    <message>
+        <source>Saving of the Scheme &quot;%1&quot;</source>
+        <translation>Speichern des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Take back the last change of layers, groups and schemes</source>
+        <translation>Die letzte Änderung an Layern, Gruppen und Schemas zurücknehmen</translation>
+    </message>
+    <message>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>

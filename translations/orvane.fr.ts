@@ -4,6 +4,14 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 more</source>
+        <translation>%1 autres</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be read: %2.</source>
         <translation>« %1 » ne peut pas être lu : %2.</translation>
     </message>
@@ -104,12 +112,28 @@
         <translation>Lignes bordées, étiquetées</translation>
     </message>
     <message>
+        <source>Change of %1 Layers</source>
+        <translation>Modification de %1 couches</translation>
+    </message>
+    <message>
+        <source>Change of &quot;%1&quot;</source>
+        <translation>Modification de « %1 »</translation>
+    </message>
+    <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
         <translation>Choisir les attributs qui étiquettent et colorent les objets d’une couche</translation>
     </message>
     <message>
         <source>Classes</source>
         <translation>Classes</translation>
+    </message>
+    <message>
+        <source>Creation of &quot;%1&quot;</source>
+        <translation>Création de « %1 »</translation>
+    </message>
+    <message>
+        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <translation>Création du schéma « %1 »</translation>
     </message>
     <message>
         <source>Delete layer</source>
@@ -122,6 +146,14 @@
     <message>
         <source>&amp;Division:</source>
         <translation>&amp;Répartition :</translation>
+    </message>
+    <message>
+        <source>Deletion of &quot;%1&quot;</source>
+        <translation>Suppression de « %1 »</translation>
+    </message>
+    <message>
+        <source>Deletion of the Scheme &quot;%1&quot;</source>
+        <translation>Suppression du schéma « %1 »</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -158,6 +190,62 @@
     <message>
         <source>&amp;Help</source>
         <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>It leaves its groups: %1.</source>
+        <translation>Elle quitte ses groupes : %1.</translation>
+    </message>
+    <message>
+        <source>Its data file stays. You can undo the deletion.</source>
+        <translation>Son fichier de données reste. La suppression peut être annulée.</translation>
+    </message>
+    <message>
+        <source>Its saved values go from the layer schemes: %1.</source>
+        <translation>Ses valeurs enregistrées disparaissent des schémas de couches : %1.</translation>
+    </message>
+    <message>
+        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <translation>Chargement du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Loading of the Startup Schemes</source>
+        <translation>Chargement des schémas de démarrage</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back last</source>
+        <translation>Refaire la dernière modification annulée</translation>
+    </message>
+    <message>
+        <source>New Code of &quot;%1&quot;</source>
+        <translation>Nouveau code de « %1 »</translation>
+    </message>
+    <message>
+        <source>Opening of Map Data</source>
+        <translation>Ouverture de données cartographiques</translation>
+    </message>
+    <message>
+        <source>Renaming of &quot;%1&quot;</source>
+        <translation>Renommage de « %1 »</translation>
+    </message>
+    <message>
+        <source>Renaming of the Group &quot;%1&quot;</source>
+        <translation>Renommage du groupe « %1 »</translation>
+    </message>
+    <message>
+        <source>Saving of the Scheme &quot;%1&quot;</source>
+        <translation>Enregistrement du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Take back the last change of layers, groups and schemes</source>
+        <translation>Annuler la dernière modification des couches, groupes et schémas</translation>
+    </message>
+    <message>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>

@@ -4,6 +4,14 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 more</source>
+        <translation>他%1個</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be read: %2.</source>
         <translation>「%1」を読み込めません: %2。</translation>
     </message>
@@ -104,12 +112,28 @@
         <translation>縁取り線、ラベル付き</translation>
     </message>
     <message>
+        <source>Change of %1 Layers</source>
+        <translation>%1個のレイヤーの変更</translation>
+    </message>
+    <message>
+        <source>Change of &quot;%1&quot;</source>
+        <translation>「%1」の変更</translation>
+    </message>
+    <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
         <translation>レイヤーの地物にラベルと色を付ける属性を選びます</translation>
     </message>
     <message>
         <source>Classes</source>
         <translation>階級</translation>
+    </message>
+    <message>
+        <source>Creation of &quot;%1&quot;</source>
+        <translation>「%1」の作成</translation>
+    </message>
+    <message>
+        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の作成</translation>
     </message>
     <message>
         <source>Delete layer</source>
@@ -122,6 +146,14 @@
     <message>
         <source>&amp;Division:</source>
         <translation>区分方法(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Deletion of &quot;%1&quot;</source>
+        <translation>「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Deletion of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の削除</translation>
     </message>
     <message>
         <source>Drawing...</source>
@@ -158,6 +190,62 @@
     <message>
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>It leaves its groups: %1.</source>
+        <translation>属しているグループから外れます: %1。</translation>
+    </message>
+    <message>
+        <source>Its data file stays. You can undo the deletion.</source>
+        <translation>データファイルは残ります。削除は元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Its saved values go from the layer schemes: %1.</source>
+        <translation>保存された値がレイヤースキームからなくなります: %1。</translation>
+    </message>
+    <message>
+        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の読み込み</translation>
+    </message>
+    <message>
+        <source>Loading of the Startup Schemes</source>
+        <translation>起動時スキームの読み込み</translation>
+    </message>
+    <message>
+        <source>Make the change again that was taken back last</source>
+        <translation>最後に取り消した変更をもう一度行います</translation>
+    </message>
+    <message>
+        <source>New Code of &quot;%1&quot;</source>
+        <translation>「%1」の新しいコード</translation>
+    </message>
+    <message>
+        <source>Opening of Map Data</source>
+        <translation>地図データを開く操作</translation>
+    </message>
+    <message>
+        <source>Renaming of &quot;%1&quot;</source>
+        <translation>「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Renaming of the Group &quot;%1&quot;</source>
+        <translation>グループ「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Saving of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の保存</translation>
+    </message>
+    <message>
+        <source>Take back the last change of layers, groups and schemes</source>
+        <translation>レイヤー、グループ、スキームへの最後の変更を取り消します</translation>
+    </message>
+    <message>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>

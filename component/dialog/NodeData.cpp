@@ -3,8 +3,15 @@
 
 #include "component/dialog/LayerTreeModel.h"
 #include "component/entry/Messages.h"
+#include "messages/NameInText.h"
 
 namespace Orvane {
+
+namespace {
+
+constexpr qsizetype LongestToolTip = 120; // characters
+
+} // namespace
 
 QVariant NodeData(const NodeReference& node, int role)
 {
@@ -45,7 +52,8 @@ QString QuickModeText(qint16 quickMode)
 QString NodeToolTip(const QString& text, qint16 quickMode)
 {
     // A plain text must not be taken for rich text because of a "<" in a name.
-    return QStringLiteral("<qt>%1<br>%2</qt>").arg(text.toHtmlEscaped(), QuickModeText(quickMode));
+    const QString name = NameInText(text, LongestToolTip).toHtmlEscaped();
+    return QStringLiteral("<qt>%1<br>%2</qt>").arg(name, QuickModeText(quickMode));
 }
 
 } // namespace Orvane

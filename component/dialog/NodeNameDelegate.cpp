@@ -6,6 +6,7 @@
 #include "component/entry/Component.h"
 #include "component/entry/EventGuard.h"
 #include "component/entry/Messages.h"
+#include "messages/NameInText.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -15,6 +16,8 @@
 namespace Orvane {
 
 namespace {
+
+constexpr qsizetype LongestListed = 300; // characters; more than any list is wide
 
 /// The editor remembers the name that it began with.
 class NameEditor : public QLineEdit
@@ -73,6 +76,7 @@ void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const 
 void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    option->text = NameInText(option->text, LongestListed); // all rows are as high as the first
     const NodeReference node = ReferenceAt(index);
     const bool active = option->state & QStyle::State_Active;
     const int side = qMax(option->decorationSize.height(), option->fontMetrics.height());

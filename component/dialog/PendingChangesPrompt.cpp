@@ -3,10 +3,17 @@
 
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
+#include "messages/NameInText.h"
 
 #include <utility>
 
 namespace Orvane {
+
+namespace {
+
+constexpr qsizetype LongestName = 80; // characters
+
+} // namespace
 
 PendingChangesPrompt::PendingChangesPrompt(std::function<void()> apply, std::function<void()> cancel)
     : m_apply(std::move(apply)), m_cancel(std::move(cancel))
@@ -16,7 +23,8 @@ PendingChangesPrompt::PendingChangesPrompt(std::function<void()> apply, std::fun
 void PendingChangesPrompt::Ask(QWidget* owner, bool isGroup, const QString& nodeText) const
 {
     const QString kind = isGroup ? TranslateMsg("group") : TranslateMsg("layer");
-    const QString question = TranslateMsg("Do you wish to apply the changes to the '^2' ^1?", kind, nodeText);
+    const QString question = TranslateMsg(
+        "Do you wish to apply the changes to the '^2' ^1?", kind, NameInText(nodeText, LongestName));
     const BoxAnswer answer = ShowMessageBox(owner, question, BoxStyle::YesNo);
     ActOn(answer == BoxAnswer::Yes ? Answer::Yes : Answer::No);
 }

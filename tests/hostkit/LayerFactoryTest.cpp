@@ -2,6 +2,7 @@
 #include "hostkit/LayerFactory.h"
 
 #include "hostkit/HostKitTest.h"
+#include "hostkit/LayerDeletion.h"
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
 
@@ -96,6 +97,28 @@ TEST_F(Factory, DeletingALayerTakesItsRowsEverywhere)
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM Layers")), 1);
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM LayerGroupMembers")), 1);
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM LayerSchemeValues")), 1);
+}
+
+TEST_F(Factory, TellsWhatGoesWithALayer)
+{
+    AddLayers(2);
+    Database().Execute(QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering)"
+                                      " VALUES (5, 'Second', 2), (6, 'First', 1), (7, 'Other', 0)"));
+    Database().Execute(
+        QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID) VALUES (5, 1), (6, 1), (7, 2)"));
+    LayerSchemes(Database()).Create(QStringLiteral("Night"));
+    const LayerDeletion deletion = m_factory.WhatGoes(1);
+    EXPECT_EQ(deletion.layer, QStringLiteral("Layer 1"));
+    EXPECT_THAT(deletion.groups, testing::ElementsAre(QStringLiteral("First"), QStringLiteral("Second")));
+    EXPECT_THAT(deletion.schemes, testing::ElementsAre(QStringLiteral("Standard"), QStringLiteral("Night")));
+}
+
+TEST_F(Factory, WithoutGroupsAndSchemesOnlyTheLayerGoes)
+{
+    AddLayers(1);
+    const LayerDeletion deletion = m_factory.WhatGoes(1);
+    EXPECT_TRUE(deletion.groups.isEmpty());
+    EXPECT_TRUE(deletion.schemes.isEmpty());
 }
 
 TEST_F(Factory, DeletingIsOneTransaction)

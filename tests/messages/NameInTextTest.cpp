@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "hostkit/NameInText.h"
+#include "messages/NameInText.h"
 
 #include <gtest/gtest.h>
 
 namespace Orvane::Testing {
 namespace {
 
-TEST(NameInText, AShortNameStaysAsItIs)
+TEST(NameInText, AnOrdinaryNameStaysAsItIs)
 {
+    EXPECT_EQ(NameInText(QStringLiteral(" Roads  1 "), 40), QStringLiteral(" Roads  1 "));
     EXPECT_EQ(NameInText(QStringLiteral("Roads & \"Ways\""), 40), QStringLiteral("Roads & \"Ways\""));
 }
 
 TEST(NameInText, LinesBecomeOne)
 {
-    EXPECT_EQ(NameInText(QStringLiteral(" Roads\r\n\tand\u2028ways "), 40), QStringLiteral("Roads and ways"));
+    EXPECT_EQ(
+        NameInText(QStringLiteral("Roads\nand\tall\u2028ways\r"), 40), QStringLiteral("Roads and all ways "));
 }
 
 TEST(NameInText, ALongNameEndsInAnEllipsis)
@@ -26,11 +28,6 @@ TEST(NameInText, ALongNameEndsInAnEllipsis)
 TEST(NameInText, ASignOfTwoHalvesIsNotCut)
 {
     EXPECT_EQ(NameInText(QString::fromUtf8("abcd\U0001F6E3fgh"), 6), QString::fromUtf8("abcd…"));
-}
-
-TEST(NameInText, NoBlankStandsBeforeTheEllipsis)
-{
-    EXPECT_EQ(NameInText(QStringLiteral("abcd efgh"), 6), QString::fromUtf8("abcd…"));
 }
 
 } // namespace

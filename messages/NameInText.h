@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace Orvane {
+
+/// A name as one line of at most so many characters, for lists, menus and questions: line breaks and other
+/// control characters become blanks, and a longer name ends in an ellipsis. Ordinary names stay as they are.
+QString NameInText(const QString& name, qsizetype longest);
+
+} // namespace Orvane
