@@ -75,12 +75,17 @@ void MapSession::Connect()
         });
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
-    connect(
-        &events, &HostNotifications::LayerCreated, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+    connect(&events, &HostNotifications::LayerCreated, this, &MapSession::ReadNewLayer);
     connect(
         &events, &HostNotifications::LayerRenamed, this, [this](qint32 layerID) { DrawAgain({layerID}); });
     connect(
         &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+}
+
+// A layer may come with data: of a source, or back from its deletion.
+void MapSession::ReadNewLayer()
+{
+    Guard(&m_mainWindow, [this] { ReadAndShow(); });
 }
 
 void MapSession::DrawAgain(const QSet<qint32>& layerIDs)

@@ -48,6 +48,7 @@ public:
 
 private:
     void Connect();
+    void ReadNewLayer();
     void Show();
     void MarkNames();
 

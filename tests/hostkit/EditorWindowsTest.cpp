@@ -32,6 +32,7 @@ private:
     const IStyleFilter* IStyleEditorForm_Filter() const override { return nullptr; }
     void IStyleEditorForm_Filter(const IStyleFilter*) override { }
     void IStyleEditorForm_UnloadWithoutApply() override { }
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
     bool IStyleEditorForm_HasPendingEdits() const override { return pending; }
     void IStyleEditorForm_Refresh() override
     {

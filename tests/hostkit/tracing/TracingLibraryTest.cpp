@@ -173,9 +173,9 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
             QStringLiteral("form.EditorID() -> \"Main\""), QStringLiteral("form.AddNewLayer(17)"),
             QStringLiteral("form.Popup()"), QStringLiteral("form.SetLayerCode(17)"),
             QStringLiteral("form.SetLayerName(17, \"Roads\")"), QStringLiteral("form.LoadRendererStyles()"),
-            QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()"), QStringLiteral("form.HasPendingEdits() -> false"),
-            QStringLiteral("form.Refresh()"), QStringLiteral("form.HasPendingEdits() -> true")));
->>>>>>> 7d10bb3 (Keep what the host kit changes as steps to undo and redo)
+            QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()"),
+            QStringLiteral("form.HasPendingEdits() -> false"), QStringLiteral("form.Refresh()"),
+            QStringLiteral("form.HasPendingEdits() -> true")));
 }
 
 } // namespace

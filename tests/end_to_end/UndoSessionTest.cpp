@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "end_to_end/TownWindow.h"
+#include "shell/DataFolder.h"
+#include "shell/drawing/MapCanvas.h"
+
+#include <QComboBox>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+using testing::Contains;
+using testing::Not;
+
+constexpr auto Layer = "Fields";
+
+class UndoSession : public TownWindow
+{
+protected:
+    void SetUp() override
+    {
+        TownWindow::SetUp();
+        SettingsStore().Write("DrawStyleEditor::Main", "9000:7000:LAYERS:EXPANDED");
+        OpenLayerControl();
+    }
+
+    void TearDown() override
+    {
+        if (Form())
+            Form()->close();
+    }
+
+    void Undo() { Trigger("actUndo"); }
+    void Redo() { Trigger("actRedo"); }
+    QString UndoText() { return m_window->findChild<QAction*>("actUndo")->toolTip(); }
+    bool CanUndo() { return m_window->findChild<QAction*>("actUndo")->isEnabled(); }
+
+    static QCheckBox& VisibleBox() { return *Find(Form(), "chkVisible").findChild<QCheckBox*>(); }
+    static bool IsTicked() { return VisibleBox().isChecked(); }
+
+    static QString CurrentLayer()
+    {
+        return Find<QTreeView>(Form(), "tvLayers2").currentIndex().data().toString();
+    }
+
+    static void ClickGroup(const QString& name)
+    {
+        auto& tree = Find<QTreeView>(Form(), "tvLayers1");
+        const QModelIndexList found = tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, name);
+        ASSERT_EQ(found.size(), 1);
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(found[0]).center());
+    }
+
+    QImage Map()
+    {
+        MapCanvas& canvas = m_window->Canvas();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return !canvas.Picture().IsBusy() && canvas.Picture().ImageView() == canvas.View(); }));
+        return canvas.grab().toImage();
+    }
+};
+
+} // namespace
+
+TEST_F(UndoSession, AnAppliedChangeGoesBackInMapPanelAndFile)
+{
+    const QImage before = Map();
+    SwitchVisible(Layer);
+    const QImage after = Map();
+    EXPECT_NE(after, before);
+    EXPECT_EQ(UndoText(), "Undo Change of \"Fields\"");
+    Undo();
+    EXPECT_EQ(Map(), before);
+    EXPECT_TRUE(IsTicked());
+    EXPECT_TRUE(ToBoolean(Stored(Layer, "Visible")));
+    EXPECT_EQ(CurrentLayer(), Layer);
+    Redo();
+    EXPECT_EQ(Map(), after);
+    EXPECT_FALSE(IsTicked());
+}
+
+TEST_F(UndoSession, TheKeysWorkInTheLayerControl)
+{
+    SwitchVisible(Layer);
+    Form()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Form()));
+    QTest::keyClick(&Find(Form(), "tvLayers2"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(ToBoolean(Stored(Layer, "Visible")));
+    QTest::keyClick(&Find(Form(), "tvLayers2"), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_FALSE(ToBoolean(Stored(Layer, "Visible")));
+}
+
+TEST_F(UndoSession, EditsThatAreNotAppliedAreNotLost)
+{
+    SwitchVisible(Layer);
+    ClickVisible(Form());
+    ASSERT_TRUE(IsTicked());
+    MessageBoxRobot person{BoxKey::Enter};
+    Undo();
+    EXPECT_TRUE(person.Only().text.contains("not applied")) << qPrintable(person.Only().text);
+    EXPECT_TRUE(IsTicked());
+    EXPECT_TRUE(Find(Form(), "cmdApply").isEnabled());
+    EXPECT_TRUE(CanUndo());
+    Press(Form(), "cmdCancel");
+    Undo();
+    EXPECT_TRUE(ToBoolean(Stored(Layer, "Visible")));
+}
+
+TEST_F(UndoSession, AGroupGoesBackAtOnce)
+{
+    ClickTab(Form(), 1);
+    const auto group = Database().OpenQuery(
+        "SELECT LayerGroups.Name FROM LayerGroups JOIN LayerGroupMembers ON GroupID = ID"
+        " JOIN Layers USING (LayerID) WHERE Layers.Name = ?1",
+        {QString(Layer)});
+    const int visible = Count("Layers WHERE Visible <> 0");
+    ClickGroup(ToText(group->Field("Name")));
+    for (int click = 0; click < 2 && VisibleBox().checkState() != Qt::Unchecked; ++click)
+        ClickVisible(Form());
+    Press(Form(), "cmdApply");
+    ASSERT_LT(Count("Layers WHERE Visible <> 0"), visible - 1);
+    Undo();
+    EXPECT_EQ(Count("Layers WHERE Visible <> 0"), visible);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(UndoSession, ARenamedLayerIsListedUnderItsOldName)
+{
+    ClickLayer(Form(), Layer);
+    auto& tree = Find<QTreeView>(Form(), "tvLayers2");
+    QTest::keyClick(&tree, Qt::Key_F2);
+    auto* name = tree.findChild<QLineEdit*>();
+    ASSERT_NE(name, nullptr);
+    name->setText("Green Acres");
+    QTest::keyClick(name, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return CanUndo(); }));
+    EXPECT_THAT(Listed(Form()), Contains("Green Acres"));
+    Undo();
+    EXPECT_THAT(Listed(Form()), Contains(Layer));
+    EXPECT_THAT(Listed(Form()), Not(Contains("Green Acres")));
+    EXPECT_EQ(CurrentLayer(), Layer);
+}
+
+TEST_F(UndoSession, ADeletedLayerComesBackWithItsFeatures)
+{
+    const QImage before = Map();
+    ClickLayer(Form(), Layer);
+    const int members = Count("LayerGroupMembers");
+    {
+        MessageBoxRobot person{BoxKey::Yes};
+        Press(Form(), "cmdDeleteLayer");
+        EXPECT_TRUE(person.Only().text.contains(Layer));
+    }
+    EXPECT_THAT(Listed(Form()), Not(Contains(Layer)));
+    EXPECT_NE(CurrentLayer(), "");
+    EXPECT_NE(Map(), before);
+    Undo();
+    EXPECT_THAT(Listed(Form()), Contains(Layer));
+    EXPECT_EQ(Count("LayerGroupMembers"), members);
+    EXPECT_EQ(Map(), before);
+    Redo();
+    EXPECT_THAT(Listed(Form()), Not(Contains(Layer)));
+}
+
+TEST_F(UndoSession, ADeletedSchemeIsBackAndCurrentAtOnce)
+{
+    ClickTab(Form(), 3);
+    AnswerPrompt("Night");
+    Press(Form(), "cmdNew");
+    auto& schemes = Find<QComboBox>(Form(), "cmbScheme");
+    ASSERT_EQ(schemes.currentText(), "Night");
+    {
+        MessageBoxRobot person{BoxKey::Yes};
+        Press(Form(), "cmdDelete");
+    }
+    ASSERT_EQ(schemes.count(), 1);
+    EXPECT_EQ(UndoText(), "Undo Deletion of the Scheme \"Night\"");
+    Undo();
+    EXPECT_EQ(schemes.count(), 2);
+    EXPECT_EQ(schemes.currentText(), "Night");
+    Undo();
+    EXPECT_EQ(schemes.count(), 1);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(UndoSession, OpenedDataGoAndComeBackWithTheirFeatures)
+{
+    Form()->close();
+    const DataFolder data;
+    const QImage before = Map();
+    const int layers = Count("Layers");
+    const int groups = Count("LayerGroups");
+    m_window->AddData({data.WriteSquare("square.geojson")});
+    m_window->Canvas().ZoomToAll();
+    const QImage after = Map();
+    EXPECT_EQ(UndoText(), "Undo Opening of Map Data");
+    Undo();
+    EXPECT_EQ(Count("Layers"), layers);
+    EXPECT_EQ(Count("LayerGroups"), groups);
+    EXPECT_EQ(Count("LayerSources"), layers);
+    Redo();
+    EXPECT_EQ(Count("Layers"), layers + 1);
+    EXPECT_EQ(Map(), after);
+}
+
+TEST_F(UndoSession, AnotherMapHasAHistoryOfItsOwn)
+{
+    SwitchVisible(Layer);
+    EXPECT_TRUE(CanUndo());
+    MakeTownMap(PathOf("other.orvane"));
+    m_window->OpenMap(PathOf("other.orvane"));
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(UndoSession, WhatAnotherProgramChangedIsNotTouched)
+{
+    SwitchVisible(Layer);
+    {
+        const auto other = SqliteLayerDatabase::Open(MapPath());
+        other->Execute("UPDATE Layers SET Visible = 5 WHERE Name = 'Fields'");
+    }
+    MessageBoxRobot person{BoxKey::Enter};
+    Undo();
+    EXPECT_TRUE(person.Only().text.contains("another program")) << qPrintable(person.Only().text);
+    EXPECT_EQ(ToInt32(Stored(Layer, "Visible")), 5);
+    EXPECT_FALSE(CanUndo());
+}
+
+} // namespace Orvane
