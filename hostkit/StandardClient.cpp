@@ -9,11 +9,11 @@
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/LayerSteps.h"
-#include "messages/NameInText.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"
 #include "hostkit/TextPrompt.h"
+#include "messages/NameInText.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>

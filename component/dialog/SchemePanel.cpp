@@ -6,6 +6,7 @@
 #include "component/entry/EventGuard.h"
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
+#include "messages/NameInText.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
@@ -18,6 +19,12 @@ namespace Orvane {
 namespace {
 
 constexpr int NameWidth = 20;
+constexpr qsizetype LongestName = 80; // characters in a question
+
+QString Shown(const QString& name)
+{
+    return NameInText(name, LongestName);
+}
 
 } // namespace
 
@@ -46,7 +53,7 @@ void SchemePanel::SwitchTo(const QString& name)
     if (Client().GetCurrentScheme() == name)
         return;
     const QString question = TranslateMsg(
-        "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", name);
+        "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", Shown(name));
     const QPointer self(this); // the host may end the dialog while the question waits
     if (!Confirm(question)) {
         if (self)
@@ -85,14 +92,14 @@ void SchemePanel::New()
 void SchemePanel::Save()
 {
     const QString name = m_widgets.cmbScheme->currentText();
-    if (Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", name)))
+    if (Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", Shown(name))))
         Client().SaveScheme(name);
 }
 
 void SchemePanel::Revert()
 {
     const QString name = m_widgets.cmbScheme->currentText();
-    if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", name)))
+    if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", Shown(name))))
         return;
     Load(name);
     emit SchemeLoaded();
@@ -106,7 +113,7 @@ void SchemePanel::Delete()
             Owner(), TranslateMsg("The last layer scheme cannot be deleted."), BoxStyle::OkInformation);
         return;
     }
-    if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", name)))
+    if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", Shown(name))))
         return;
     Load(Neighbour(name));
     Client().DeleteScheme(name);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "examples/sample_maps/SampleMap.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "shell/MainWindow.h"
 #include "shell/MapDocument.h"
 #include "shell/MapSession.h"
-#include "shell/sample/SampleMap.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 
