@@ -69,9 +69,12 @@ class Guide:
     def open_data(self):
         self.main = self.active_window("Orvane")
         self.canvas = self.program.find("Map", within=self.main)
+        empty = pixels(extents(self.canvas))
         press("ctrl+d")
         names = " ".join(f'"{path.name}"' for path in sorted(self.town.glob("*.gpkg")))
         self.answer_file_dialog("Open Data", names)
+        self.active_window("Orvane")
+        wait_for("a map", lambda: pixels(extents(self.canvas)) != empty)
         self.screen("data")
 
     def store_map(self):
@@ -147,6 +150,8 @@ class Guide:
         self.part("export", dialog)
         press("Return")
         self.answer_file_dialog("Export Map", self.town / "town.pdf")
+        wait_for("the file", (self.town / "town.pdf").exists)
+        self.active_window("town - Orvane")
 
     def preview(self):
         press("ctrl+p")

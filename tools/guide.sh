@@ -11,7 +11,7 @@ mkdir -p "$2/town" "$3"
 work=$(readlink -f "$2") pictures=$(readlink -f "$3")
 
 # A folder of data, as a person has one: a file for each of some layers of the sample town.
-"$build/bin/make_sample_map" "$work/sample.orvane"
+QT_QPA_PLATFORM=offscreen "$build/bin/make_sample_map" "$work/sample.orvane"
 for layer in fields forest lake river "main roads" streets houses "public buildings" "bus stops"; do
     ogr2ogr -f GPKG "$work/town/$layer.gpkg" "$work/sample.gpkg" "$layer"
 done
