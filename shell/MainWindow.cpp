@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainWindow.h"
 
+#include "shell/DataActions.h"
 #include "shell/DataImport.h"
 #include "shell/EditActions.h"
 #include "shell/Guard.h"
@@ -8,6 +9,7 @@
 #include "shell/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/RecentMaps.h"
+#include "shell/RecentMapsMenu.h"
 #include "shell/RenderingActions.h"
 #include "shell/RoundedScale.h"
 #include "shell/RunWithProgress.h"
@@ -73,6 +75,9 @@ MainWindow::MainWindow(CallTrace* trace)
     SetIcons();
     MakeStatusBar();
     m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
+    m_data = std::make_unique<DataActions>(
+        *m_ui->menuFile, m_ui->actOpenData, *this, [this]() -> MapSession& { return *m_session; });
+    m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
@@ -122,7 +127,7 @@ void MainWindow::AddData(const QStringList& paths)
         Canvas().ZoomToAll();
     if (controlled)
         m_layerControl.Show();
-    ShowProblems(found.problems.join(QLatin1Char('\n')));
+    m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
 }
 
 void MainWindow::ShowLayerControl()
@@ -174,7 +179,12 @@ void MainWindow::ConnectActions()
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
     connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
     connect(m_ui->actZoomAll, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomToAll);
-    connect(m_ui->menuRecent, &QMenu::aboutToShow, this, &MainWindow::FillRecentMenu);
+    connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
+    connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
+    connect(m_data.get(), &DataActions::DataChanged, this, [this] {
+        m_positionText = PositionText(Document().System());
+        ShowScale();
+    });
 }
 
 void MainWindow::ConnectCanvas()
@@ -227,8 +237,7 @@ void MainWindow::NewMap()
     if (path.isEmpty() || !LeaveMap())
         return;
     Use(MapDocument::Untitled()); // the file to replace may be the one that is open
-    MapDocument::Remove(path);
-    Use(MapDocument::Create(path));
+    Use(MapDocument::CreateOver(path));
     RecentMaps::Add(Document().Path());
 }
 
@@ -261,18 +270,6 @@ void MainWindow::AskForData()
         AddData(paths);
 }
 
-void MainWindow::FillRecentMenu()
-{
-    m_ui->menuRecent->clear();
-    for (const QString& path : RecentMaps::All()) {
-        QAction* action = m_ui->menuRecent->addAction(QFileInfo(path).fileName());
-        action->setStatusTip(path);
-        connect(action, &QAction::triggered, this, [this, path] { Guard(this, [&] { OpenMap(path); }); });
-    }
-    if (m_ui->menuRecent->isEmpty())
-        m_ui->menuRecent->addAction(tr("No maps yet"))->setEnabled(false);
-}
-
 void MainWindow::ShowAbout()
 {
     QMessageBox::about(
@@ -287,6 +284,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     m_layerControl.SetClient(&session->Client());
     m_session = std::move(session);
     m_edits->Follow(m_session->Shell().History());
+    m_data->Follow(*m_session);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
@@ -317,16 +315,7 @@ void MainWindow::ReadMap()
     const QString problems = m_session->ReadAndShow();
     m_positionText = PositionText(Document().System());
     ShowScale();
-    ShowProblems(problems);
-}
-
-void MainWindow::ShowProblems(const QString& problems)
-{
-    if (problems.isEmpty())
-        return;
-    QMessageBox box(QMessageBox::Warning, tr("Map data"), problems, QMessageBox::Ok, this);
-    box.setObjectName(QStringLiteral("dlgProblems"));
-    box.exec();
+    m_data->ShowProblems(problems);
 }
 
 void MainWindow::ShowScale()

@@ -18,11 +18,13 @@ class MainWindow;
 namespace Orvane {
 
 class CallTrace;
+class DataActions;
 class EditActions;
 class MapCanvas;
 class MapDocument;
 class MapSession;
 class RenderingActions;
+class RecentMapsMenu;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -65,14 +67,12 @@ private:
     void AskForMap();
     void SaveMapAs();
     void AskForData();
-    void FillRecentMenu();
     void ShowAbout();
 
     void Use(std::unique_ptr<MapDocument> document);
     bool LeaveMap();
     bool KeepUntitledMap();
     void ReadMap();
-    void ShowProblems(const QString& problems);
     void ShowScale();
     void RestoreWindow();
     void StoreWindow();
@@ -82,6 +82,8 @@ private:
     CallTrace* m_trace;
     std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<MapSession> m_session;
+    std::unique_ptr<DataActions> m_data;
+    std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderingActions;
     PositionText m_positionText{QString()};

@@ -5,12 +5,16 @@
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
 #include <limits>
+#include <system_error>
 
 namespace Orvane {
 
@@ -32,6 +36,35 @@ qint32 CodeOrNone(qint32 next)
     return next <= std::numeric_limits<qint16>::max() ? next : NoCode;
 }
 
+// A map file under another name until it is whole; what was begun and not put in place is removed.
+class UnfinishedFile
+{
+public:
+    explicit UnfinishedFile(const QString& path) : m_path(path) { MapDocument::Remove(Path()); }
+    ~UnfinishedFile() { MapDocument::Remove(Path()); }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+    QString Path() const { return m_path + QLatin1String(".part"); }
+
+    void PutInPlace() const
+    {
+        for (const char* companion : {"-wal", "-shm"}) // of the file that is there
+            QFile::remove(m_path + QLatin1String(companion));
+        std::error_code error;
+        std::filesystem::rename(Path().toStdU16String(), m_path.toStdU16String(), error);
+        if (error) {
+            throw RunTimeError(
+                ErrorNumber::DatabaseFailure,
+                QCoreApplication::translate("MapDocument", "\"%1\" cannot be stored: %2")
+                    .arg(QFileInfo(m_path).fileName(), QString::fromLocal8Bit(error.message().c_str())));
+        }
+    }
+
+private:
+    QString m_path;
+};
+
 } // namespace
 
 std::unique_ptr<MapDocument> MapDocument::Untitled()
@@ -43,6 +76,16 @@ std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Create(absolute), absolute));
+}
+
+std::unique_ptr<MapDocument> MapDocument::CreateOver(const QString& path)
+{
+    {
+        const UnfinishedFile unfinished(path);
+        Create(unfinished.Path());
+        unfinished.PutInPlace();
+    }
+    return Open(path);
 }
 
 std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
@@ -69,28 +112,58 @@ void MapDocument::Remove(const QString& path)
 
 void MapDocument::SaveCopy(const QString& path) const
 {
-    const QString unfinished = path + QLatin1String(".part");
-    QFile::remove(unfinished);
-    m_database->Execute(QStringLiteral("VACUUM INTO ?1"), {unfinished});
-    Remove(path);
-    QFile::rename(unfinished, path);
-    const auto copy = Open(path);
-    StoreTransaction transaction(copy->Database());
-    for (const LayerSource& source : Sources())
-        copy->SetSource(source);
-    transaction.Commit();
+    const UnfinishedFile unfinished(path);
+    m_database->Execute(QStringLiteral("VACUUM INTO ?1"), {unfinished.Path()});
+    {
+        // Paths are kept from the folder that the copy is in, which is the one that it will be in.
+        const auto copy = Open(unfinished.Path());
+        StoreTransaction transaction(copy->Database());
+        for (const LayerSource& source : Sources())
+            copy->SetSource(source);
+        copy->SetBackdrop(Backdrop());
+        transaction.Commit();
+    }
+    unfinished.PutInPlace();
 }
 
 QString MapDocument::System() const
 {
-    const auto row
-        = m_database->OpenRecordset(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = 'System'"));
-    return row->AtEOF() ? QString() : Text(*row, "Value");
+    return Setting(QStringLiteral("System"));
 }
 
 void MapDocument::SetSystem(const QString& system)
 {
-    m_database->Execute(QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES ('System', ?1)"), {system});
+    SetSetting(QStringLiteral("System"), system);
+}
+
+QString MapDocument::Backdrop() const
+{
+    const SourcePaths::Place place{
+        Setting(QStringLiteral("Backdrop")), Setting(QStringLiteral("BackdropRelative"))};
+    return place.path.isEmpty() ? QString() : SourcePaths(m_path).Find(place);
+}
+
+void MapDocument::SetBackdrop(const QString& path)
+{
+    const SourcePaths::Place place = path.isEmpty() ? SourcePaths::Place() : SourcePaths(m_path).Store(path);
+    StoreTransaction transaction(*m_database);
+    SetSetting(QStringLiteral("Backdrop"), place.path);
+    SetSetting(QStringLiteral("BackdropRelative"), place.relative);
+    transaction.Commit();
+}
+
+QString MapDocument::Setting(const QString& name) const
+{
+    const auto row
+        = m_database->OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
+    return row->AtEOF() ? QString() : Text(*row, "Value");
+}
+
+void MapDocument::SetSetting(const QString& name, const QString& value)
+{
+    m_database->Execute(
+        QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES (?1, ?2)"),
+        {name, value.isNull() ? QStringLiteral("") : value});
 }
 
 qint32 MapDocument::AddLayer(const NewLayer& layer)

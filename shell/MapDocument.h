@@ -39,6 +39,8 @@ public:
     static std::unique_ptr<MapDocument> Untitled();
     /// Makes a new file; raises when there is one already.
     static std::unique_ptr<MapDocument> Create(const QString& path);
+    /// Makes a new file in place of one that is not open. When it cannot be made the old one stays.
+    static std::unique_ptr<MapDocument> CreateOver(const QString& path);
     /// Opens a map file.
     static std::unique_ptr<MapDocument> Open(const QString& path);
     ~MapDocument();
@@ -46,7 +48,8 @@ public:
     /// Removes a map file that is not open, with what SQLite keeps beside it; a missing one changes nothing.
     static void Remove(const QString& path);
 
-    /// Stores a copy in a new file, which replaces one of that name.
+    /// Stores a copy in a new file, which replaces one of that name. When it cannot be stored, and raises,
+    /// that one stays.
     void SaveCopy(const QString& path) const;
 
     SqliteLayerDatabase& Database() const { return *m_database; }
@@ -56,6 +59,10 @@ public:
     /// The coordinate system that the map is shown in; empty until the first data come.
     QString System() const;
     void SetSystem(const QString& system);
+
+    /// The picture under all layers, as an absolute path; empty for none.
+    QString Backdrop() const;
+    void SetBackdrop(const QString& path);
 
     /// Adds the layer on top of the list and returns its ID.
     qint32 AddLayer(const NewLayer& layer);
@@ -75,6 +82,8 @@ public:
 
 private:
     MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path);
+    QString Setting(const QString& name) const;
+    void SetSetting(const QString& name, const QString& value);
     qint32 NextOf(const QString& expression, const QString& table) const;
 
     std::unique_ptr<SqliteLayerDatabase> m_database;

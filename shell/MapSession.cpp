@@ -7,6 +7,11 @@
 #include "shell/RunWithProgress.h"
 #include "shell/data/CoordinateSystems.h"
 #include "shell/drawing/MapCanvas.h"
+#include "shell/drawing/RasterBackdrop.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <chrono>
 
@@ -30,7 +35,10 @@ MapSession::MapSession(
     Connect();
 }
 
-MapSession::~MapSession() = default;
+MapSession::~MapSession()
+{
+    m_canvas.SetBackdrop(nullptr);
+}
 
 IStyleEditorClient& MapSession::Client()
 {
@@ -50,7 +58,52 @@ QString MapSession::ReadAndShow()
         });
     m_layers.TakeFeatures(contents);
     Show();
-    return contents.FailureText();
+    QStringList problems = {contents.FailureText(), OpenBackdrop()};
+    problems.removeAll(QString());
+    return problems.join(QLatin1Char('\n'));
+}
+
+// Why it cannot be shown; empty when it is, or there is none.
+QString MapSession::OpenBackdrop()
+{
+    const QString path = m_document->Backdrop();
+    std::shared_ptr<const RasterBackdrop> backdrop = m_canvas.Picture().Backdrop();
+    if (!backdrop || backdrop->Source().Path() != path)
+        backdrop.reset();
+    QString problem;
+    try {
+        if (!path.isEmpty() && !backdrop)
+            backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+    } catch (const RunTimeError& error) {
+        problem = error.Description();
+    }
+    m_canvas.SetBackdrop(backdrop);
+    return problem;
+}
+
+void MapSession::SetBackdrop(const QString& path)
+{
+    std::shared_ptr<const RasterBackdrop> backdrop;
+    const bool first = m_document->System().isEmpty();
+    if (!path.isEmpty()) {
+        RunWithProgress(
+            &m_mainWindow, tr("Opening the picture"), [&, system = m_document->System()](Progress&) {
+                backdrop = std::make_shared<const RasterBackdrop>(path, system);
+            });
+    }
+    StoreTransaction transaction(m_document->Database());
+    if (backdrop && first) {
+        const RasterSource& source = backdrop->Source();
+        m_document->SetSystem(SystemToShow(source.System(), source.Extent()));
+        backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+    }
+    m_document->SetBackdrop(path);
+    transaction.Commit();
+    m_canvas.SetBackdrop(backdrop);
+    if (backdrop && first) {
+        Show();
+        m_canvas.ZoomToAll();
+    }
 }
 
 void MapSession::Connect()
@@ -73,6 +126,8 @@ void MapSession::Connect()
                 m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
             });
         });
+    connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
+    connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(&events, &HostNotifications::LayerCreated, this, &MapSession::ReadNewLayer);

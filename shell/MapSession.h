@@ -46,9 +46,20 @@ public:
     /// Reads these layers' rows anew and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
 
+    /// Lays a picture under the map and keeps it with the map; an empty path takes it away. Raises, with the
+    /// map as it was, for a file that is no georeferenced picture, and errors of the database.
+    void SetBackdrop(const QString& path);
+
+signals:
+    /// The map's file is no longer where it was; what is open can still be saved under another name.
+    void MapFileGone();
+    /// Data that were shown cannot be read any more.
+    void DataFailed(const QString& reason);
+
 private:
     void Connect();
     void ReadNewLayer();
+    QString OpenBackdrop();
     void Show();
     void MarkNames();
 

@@ -14,9 +14,16 @@ constexpr auto Key = "RecentMaps";
 
 QStringList All()
 {
-    QStringList paths = QSettings().value(QLatin1String(Key)).toStringList();
-    paths.removeIf([](const QString& path) { return !QFileInfo::exists(path); });
-    return paths;
+    return QSettings().value(QLatin1String(Key)).toStringList();
+}
+
+QString Latest()
+{
+    for (const QString& path : All()) {
+        if (QFileInfo::exists(path))
+            return path;
+    }
+    return {};
 }
 
 void Add(const QString& path)
@@ -25,6 +32,13 @@ void Add(const QString& path)
     paths.removeAll(path);
     paths.prepend(path);
     QSettings().setValue(QLatin1String(Key), QStringList(paths.mid(0, Most)));
+}
+
+void Remove(const QString& path)
+{
+    QStringList paths = All();
+    paths.removeAll(path);
+    QSettings().setValue(QLatin1String(Key), paths);
 }
 
 } // namespace Orvane::RecentMaps

@@ -10,10 +10,13 @@ namespace RecentMaps {
 
 inline constexpr int Most = 8;
 
-/// Those that still exist, as absolute paths.
+/// As absolute paths, those included that are gone meanwhile.
 QStringList All();
+/// The latest that still exists; empty for none.
+QString Latest();
 /// Puts the map first.
 void Add(const QString& path);
+void Remove(const QString& path);
 
 } // namespace RecentMaps
 

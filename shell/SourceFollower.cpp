@@ -11,6 +11,7 @@
 #include <QThread>
 
 #include <chrono>
+#include <utility>
 
 namespace Orvane {
 
@@ -90,6 +91,15 @@ void SourceFollower::Watch()
         m_watcher.addPaths(missing.values());
 }
 
+void SourceFollower::LookForMap()
+{
+    const QString path = m_document.Path();
+    const bool isThere = path.isEmpty() || QFileInfo::exists(path);
+    const bool wasThere = std::exchange(m_mapIsThere, isThere);
+    if (wasThere && !isThere)
+        emit MapFileGone();
+}
+
 void SourceFollower::LookAgain()
 {
     std::vector<LayerSource> sources = m_document.Sources();
@@ -102,6 +112,7 @@ void SourceFollower::LookAgain()
     Watch();
     if (!sources.empty())
         ReadAgain(std::move(sources));
+    LookForMap();
 }
 
 void SourceFollower::ReadAgain(std::vector<LayerSource> sources)

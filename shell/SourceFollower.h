@@ -41,6 +41,8 @@ public:
 signals:
     /// These layers were read again, or could not be.
     void Read(const Orvane::SourceContents& contents);
+    /// The map's own file is no longer there; told once, until it is back.
+    void MapFileGone();
 
 private:
     struct Stamp {
@@ -53,6 +55,7 @@ private:
 
     static Stamps StampsOf(const std::vector<LayerSource>& sources);
     void Watch();
+    void LookForMap();
     void LookAgain();
     void ReadAgain(std::vector<LayerSource> sources);
     void Stop();
@@ -62,6 +65,7 @@ private:
     QFileSystemWatcher m_watcher;
     QTimer m_quiet; // files change in many small steps
     Stamps m_stamps;
+    bool m_mapIsThere = true;
     std::unique_ptr<QThread> m_thread;
     std::shared_ptr<Progress> m_progress; // of the thread
 };

@@ -37,7 +37,7 @@ private:
 
 void OpenFirstMap(MainWindow& window, const QString& asked)
 {
-    const QString map = asked.isEmpty() ? RecentMaps::All().value(0) : asked;
+    const QString map = asked.isEmpty() ? RecentMaps::Latest() : asked;
     if (!map.isEmpty())
         Guard(&window, [&] { window.OpenMap(map); });
 }

@@ -4,6 +4,18 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be stored: %2</source>
+        <translation>„%1“ kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no picture.</source>
+        <translation>„%1“ enthält kein Bild.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
+        <translation>„%1“ fehlt in „%2“.</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 weitere</translation>
     </message>
@@ -38,6 +50,10 @@
     <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;Find Missing Data...</source>
+        <translation>Fehlende Daten s&amp;uchen...</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -180,6 +196,14 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
+        <source>Find Missing Data</source>
+        <translation>Fehlende Daten suchen</translation>
+    </message>
+    <message>
+        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
+        <translation>Georeferenzierte Bilder (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Alle Dateien (*)</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>Abgestuft</translation>
     </message>
@@ -204,6 +228,10 @@
         <translation>Seine gespeicherten Werte verschwinden aus den Layerschemas: %1.</translation>
     </message>
     <message>
+        <source>Lay a picture under all layers of the map</source>
+        <translation>Ein Bild unter alle Layer der Karte legen</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>Laden des Schemas „%1“</translation>
     </message>
@@ -212,16 +240,52 @@
         <translation>Laden der Startschemas</translation>
     </message>
     <message>
+        <source>Look in a folder for the data files that the map misses</source>
+        <translation>In einem Ordner nach Datendateien suchen, die der Karte fehlen</translation>
+    </message>
+    <message>
+        <source>Looking for map data</source>
+        <translation>Kartendaten werden gesucht</translation>
+    </message>
+    <message>
         <source>Make the change again that was taken back last</source>
         <translation>Die zuletzt zurückgenommene Änderung noch einmal machen</translation>
+    </message>
+    <message>
+        <source>Map file</source>
+        <translation>Kartendatei</translation>
     </message>
     <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>Neuer Code von „%1“</translation>
     </message>
     <message>
+        <source>None of the missing files is in &quot;%1&quot;.</source>
+        <translation>Keine der fehlenden Dateien liegt in „%1“.</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
         <source>Opening of Map Data</source>
         <translation>Öffnen von Kartendaten</translation>
+    </message>
+    <message>
+        <source>Opening the picture</source>
+        <translation>Das Bild wird geöffnet</translation>
+    </message>
+    <message>
+        <source>R&amp;emove Raster Backdrop</source>
+        <translation>Rasterhintergrund &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Raster &amp;Backdrop...</source>
+        <translation>Raster&amp;hintergrund...</translation>
+    </message>
+    <message>
+        <source>Raster Backdrop</source>
+        <translation>Rasterhintergrund</translation>
     </message>
     <message>
         <source>Renaming of &quot;%1&quot;</source>
@@ -236,6 +300,10 @@
         <translation>Speichern des Schemas „%1“</translation>
     </message>
     <message>
+        <source>Show the map without the picture</source>
+        <translation>Die Karte ohne das Bild zeigen</translation>
+    </message>
+    <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>Die letzte Änderung an Layern, Gruppen und Schemas zurücknehmen</translation>
     </message>
@@ -244,8 +312,20 @@
         <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
+        <translation>Die Karte „%1“ ist nicht mehr vorhanden. Sie wurde aus der Liste entfernt.</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>Die Kartendatei „%1“ wurde verschoben oder gelöscht. Änderungen bleiben nur erhalten, wenn Sie die Karte unter einem anderen Namen speichern.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
+    </message>
+    <message>
+        <source>it does not say where its pixels lie</source>
+        <translation>es fehlt die Angabe, wo seine Pixel liegen</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>
@@ -322,6 +402,10 @@
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>sie ist keine Stileditor-Komponente („%1“ fehlt)</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>es ist zu groß für den Speicher dieses Rechners</translation>
     </message>
     <message>
         <source>it made no entry object</source>

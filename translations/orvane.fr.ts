@@ -4,6 +4,18 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be stored: %2</source>
+        <translation>« %1 » ne peut pas être enregistré : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no picture.</source>
+        <translation>« %1 » ne contient pas d’image.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
+        <translation>« %1 » est absent de « %2 ».</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 autres</translation>
     </message>
@@ -38,6 +50,10 @@
     <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;Find Missing Data...</source>
+        <translation>Recherc&amp;her les données manquantes...</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -180,6 +196,14 @@
         <translation>&amp;Fichier</translation>
     </message>
     <message>
+        <source>Find Missing Data</source>
+        <translation>Rechercher les données manquantes</translation>
+    </message>
+    <message>
+        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
+        <translation>Images géoréférencées (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>Gradué</translation>
     </message>
@@ -204,6 +228,10 @@
         <translation>Ses valeurs enregistrées disparaissent des schémas de couches : %1.</translation>
     </message>
     <message>
+        <source>Lay a picture under all layers of the map</source>
+        <translation>Placer une image sous toutes les couches de la carte</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>Chargement du schéma « %1 »</translation>
     </message>
@@ -212,16 +240,52 @@
         <translation>Chargement des schémas de démarrage</translation>
     </message>
     <message>
+        <source>Look in a folder for the data files that the map misses</source>
+        <translation>Chercher dans un dossier les fichiers de données qui manquent à la carte</translation>
+    </message>
+    <message>
+        <source>Looking for map data</source>
+        <translation>Recherche des données cartographiques</translation>
+    </message>
+    <message>
         <source>Make the change again that was taken back last</source>
         <translation>Refaire la dernière modification annulée</translation>
+    </message>
+    <message>
+        <source>Map file</source>
+        <translation>Fichier de carte</translation>
     </message>
     <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>Nouveau code de « %1 »</translation>
     </message>
     <message>
+        <source>None of the missing files is in &quot;%1&quot;.</source>
+        <translation>Aucun des fichiers manquants ne se trouve dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Ouvrir un fichier récent</translation>
+    </message>
+    <message>
         <source>Opening of Map Data</source>
         <translation>Ouverture de données cartographiques</translation>
+    </message>
+    <message>
+        <source>Opening the picture</source>
+        <translation>Ouverture de l’image</translation>
+    </message>
+    <message>
+        <source>R&amp;emove Raster Backdrop</source>
+        <translation>Retirer le fond ras&amp;ter</translation>
+    </message>
+    <message>
+        <source>Raster &amp;Backdrop...</source>
+        <translation>&amp;Fond raster...</translation>
+    </message>
+    <message>
+        <source>Raster Backdrop</source>
+        <translation>Fond raster</translation>
     </message>
     <message>
         <source>Renaming of &quot;%1&quot;</source>
@@ -236,6 +300,10 @@
         <translation>Enregistrement du schéma « %1 »</translation>
     </message>
     <message>
+        <source>Show the map without the picture</source>
+        <translation>Afficher la carte sans l’image</translation>
+    </message>
+    <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>Annuler la dernière modification des couches, groupes et schémas</translation>
     </message>
@@ -244,8 +312,20 @@
         <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
+        <translation>La carte « %1 » n’existe plus. Elle a été retirée de la liste.</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>Le fichier de carte « %1 » a été déplacé ou supprimé. Vos modifications ne seront conservées que si vous enregistrez la carte sous un autre nom.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
+    </message>
+    <message>
+        <source>it does not say where its pixels lie</source>
+        <translation>il n’indique pas où se situent ses pixels</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>
@@ -322,6 +402,10 @@
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>ce n’est pas un composant d’édition de style (« %1 » est absent)</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>il est trop volumineux pour la mémoire de cet ordinateur</translation>
     </message>
     <message>
         <source>it made no entry object</source>

@@ -4,6 +4,18 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be stored: %2</source>
+        <translation>「%1」を保存できません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no picture.</source>
+        <translation>「%1」には画像がありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」にありません。</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>他%1個</translation>
     </message>
@@ -38,6 +50,10 @@
     <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
+    </message>
+    <message>
+        <source>&amp;Find Missing Data...</source>
+        <translation>見つからないデータを検索(&amp;F)...</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -180,6 +196,14 @@
         <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
+        <source>Find Missing Data</source>
+        <translation>見つからないデータの検索</translation>
+    </message>
+    <message>
+        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
+        <translation>地理参照付き画像 (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;すべてのファイル (*)</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>段階区分</translation>
     </message>
@@ -204,6 +228,10 @@
         <translation>保存された値がレイヤースキームからなくなります: %1。</translation>
     </message>
     <message>
+        <source>Lay a picture under all layers of the map</source>
+        <translation>地図のすべてのレイヤーの下に画像を敷きます</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
     </message>
@@ -212,16 +240,52 @@
         <translation>起動時スキームの読み込み</translation>
     </message>
     <message>
+        <source>Look in a folder for the data files that the map misses</source>
+        <translation>地図に足りないデータファイルをフォルダーから探します</translation>
+    </message>
+    <message>
+        <source>Looking for map data</source>
+        <translation>地図データを検索しています</translation>
+    </message>
+    <message>
         <source>Make the change again that was taken back last</source>
         <translation>最後に取り消した変更をもう一度行います</translation>
+    </message>
+    <message>
+        <source>Map file</source>
+        <translation>地図ファイル</translation>
     </message>
     <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>「%1」の新しいコード</translation>
     </message>
     <message>
+        <source>None of the missing files is in &quot;%1&quot;.</source>
+        <translation>見つからないファイルは「%1」にありません。</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>最近使った地図を開く</translation>
+    </message>
+    <message>
         <source>Opening of Map Data</source>
         <translation>地図データを開く操作</translation>
+    </message>
+    <message>
+        <source>Opening the picture</source>
+        <translation>画像を開いています</translation>
+    </message>
+    <message>
+        <source>R&amp;emove Raster Backdrop</source>
+        <translation>ラスター背景を削除(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Raster &amp;Backdrop...</source>
+        <translation>ラスター背景(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Raster Backdrop</source>
+        <translation>ラスター背景</translation>
     </message>
     <message>
         <source>Renaming of &quot;%1&quot;</source>
@@ -236,6 +300,10 @@
         <translation>スキーム「%1」の保存</translation>
     </message>
     <message>
+        <source>Show the map without the picture</source>
+        <translation>画像なしで地図を表示します</translation>
+    </message>
+    <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>レイヤー、グループ、スキームへの最後の変更を取り消します</translation>
     </message>
@@ -244,8 +312,20 @@
         <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
+        <translation>地図「%1」はもうありません。一覧から削除しました。</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>地図ファイル「%1」は移動または削除されました。変更は、別の名前で地図を保存した場合にのみ残ります。</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
+    </message>
+    <message>
+        <source>it does not say where its pixels lie</source>
+        <translation>画素の位置が記されていません</translation>
     </message>
     <message>
         <source>it has no attribute named %1</source>
@@ -322,6 +402,10 @@
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>スタイルエディターのコンポーネントではありません (「%1」がありません)</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>このコンピューターのメモリには大きすぎます</translation>
     </message>
     <message>
         <source>it made no entry object</source>

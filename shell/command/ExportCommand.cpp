@@ -12,6 +12,8 @@
 #include "shell/output/PageWriter.h"
 #include "store/SqliteLayerDatabase.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -42,6 +44,24 @@ void TellFailures(const SourceContents& contents, const Terminal& terminal)
         TellError(terminal, reason);
 }
 
+// The picture under the map, or why it cannot be shown; neither where there is none.
+struct OpenedBackdrop {
+    std::shared_ptr<const RasterBackdrop> picture;
+    QString failure;
+};
+
+OpenedBackdrop OpenBackdrop(const MapDocument& document)
+{
+    const QString path = document.Backdrop();
+    try {
+        if (path.isEmpty())
+            return {};
+        return {std::make_shared<const RasterBackdrop>(path, document.System()), {}};
+    } catch (const RunTimeError& error) {
+        return {nullptr, error.Description()};
+    }
+}
+
 int Export(const ExportRequest& request, const Terminal& terminal)
 {
     const MapCopy copy(request.map);
@@ -55,12 +75,18 @@ int Export(const ExportRequest& request, const Terminal& terminal)
     layers.ReadAll();
     layers.TakeFeatures(contents);
     layers.ReadMissingAttributes(progress);
+    const OpenedBackdrop backdrop = OpenBackdrop(document);
+    Box area = BoundsOf(layers.All());
+    if (area.IsEmpty() && backdrop.picture)
+        area = backdrop.picture->Extent();
     const MapPage page(
-        document.Database(), services, {layers.All(), document.System(), BoundsOf(layers.All())},
+        document.Database(), services, {layers.All(), document.System(), area, backdrop.picture},
         request.page);
     WritePage(page, request.file, progress);
     TellFailures(contents, terminal);
-    return contents.failures.empty() ? ExitCode::Done : ExitCode::Problems;
+    if (!backdrop.failure.isEmpty())
+        TellError(terminal, backdrop.failure);
+    return contents.failures.empty() && backdrop.failure.isEmpty() ? ExitCode::Done : ExitCode::Problems;
 }
 
 } // namespace

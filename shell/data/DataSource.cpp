@@ -3,6 +3,7 @@
 
 #include "shell/data/CoordinateSystems.h"
 #include "shell/data/GdalErrors.h"
+#include "shell/data/GdalSetup.h"
 #include "shell/data/GeometryReader.h"
 #include "shell/data/Progress.h"
 
@@ -11,8 +12,9 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <cmath>
+#include <cpl_conv.h>
 #include <gdal_priv.h>
-#include <mutex>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
@@ -22,15 +24,9 @@ namespace {
 
 constexpr GIntBig FeaturesBetweenReports = 64;
 
-void RegisterDriversOnce()
-{
-    static std::once_flag once;
-    std::call_once(once, [] { GDALAllRegister(); });
-}
-
 std::unique_ptr<GDALDataset> Open(const QString& path)
 {
-    RegisterDriversOnce();
+    PrepareGdal();
     constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
     return std::unique_ptr<GDALDataset>(GDALDataset::Open(path.toUtf8().constData(), flags));
 }
@@ -54,7 +50,21 @@ Box ExtentOf(OGRLayer& layer)
     OGREnvelope envelope;
     if (layer.GetExtent(&envelope, FALSE) != OGRERR_NONE)
         return {};
-    return {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
+    const Box box = {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
+    return std::isfinite(box.Width()) && std::isfinite(box.Height()) ? box : Box();
+}
+
+// What one layer may take of the computer's memory.
+double MostBytes()
+{
+    const auto all = double(CPLGetUsablePhysicalRAM());
+    return all > 0 ? all / 4 : 4e9;
+}
+
+double BytesOf(const FeatureSet& features)
+{
+    return double(features.VertexCount()) * sizeof(QPointF)
+        + double(features.Features().size()) * sizeof(FeatureSet::Feature);
 }
 
 // Attributes alone are read several times as fast, where the driver can.
@@ -94,6 +104,9 @@ FieldValue ValueOf(OGRFeature& feature, int index, bool isNumber)
 
 DataSource::DataSource(const QString& path) : m_path(path)
 {
+    const QString whyNot = WhyNotOpened(path);
+    if (!whyNot.isEmpty())
+        throw RunTimeError(SourceUnreadable, whyNot);
     const GdalErrors errors;
     m_dataset = Open(path);
     if (!m_dataset)
@@ -141,12 +154,15 @@ FeatureSet DataSource::Read(
     FeatureSet features;
     GeometryReader reader(features, TransformationTo(mapSystem, layer.GetSpatialRef()));
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
+    const double mostBytes = MostBytes();
     GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (const OGRGeometry* geometry = feature->GetGeometryRef())
             reader.Add(*geometry, feature->GetFID());
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
+            if (BytesOf(features) > mostBytes)
+                Fail(QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
             progress.Report(std::min(1.0, double(count) / expected));
         }
     }

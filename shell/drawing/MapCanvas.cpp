@@ -59,6 +59,11 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
     update();
 }
 
+void MapCanvas::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
+{
+    m_picture.SetBackdrop(std::move(backdrop));
+}
+
 void MapCanvas::SetView(const MapView& view)
 {
     if (view == m_view)
@@ -81,6 +86,8 @@ void MapCanvas::ZoomToAll()
         if (layer.features)
             bounds.Add(layer.features->Bounds());
     }
+    if (bounds.IsEmpty() && m_picture.Backdrop())
+        bounds = m_picture.Backdrop()->Extent();
     SetView(MapView::Fitting(bounds, size()));
 }
 

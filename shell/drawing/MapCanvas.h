@@ -30,6 +30,9 @@ public:
     /// The layers as they were set.
     const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
 
+    /// Lays a picture under all layers; nullptr for none.
+    void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
+
     const MapView& View() const { return m_view; }
     void SetView(const MapView& view);
     /// n of the scale 1:n.

@@ -65,6 +65,16 @@ void MapPicture::SetLayers(std::vector<MapLayer> layers)
     Refresh();
 }
 
+void MapPicture::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
+{
+    if (backdrop == m_backdrop)
+        return;
+    m_backdrop = std::move(backdrop);
+    m_backdropImage = {};
+    m_backdropDrawn = false;
+    Refresh();
+}
+
 void MapPicture::SetView(const MapView& view, double scaleDenominator, double devicePixelRatio)
 {
     if (view == m_view && devicePixelRatio == m_devicePixelRatio && !m_image.isNull())
@@ -73,6 +83,7 @@ void MapPicture::SetView(const MapView& view, double scaleDenominator, double de
     m_scaleDenominator = scaleDenominator;
     m_devicePixelRatio = devicePixelRatio;
     m_images.clear();
+    m_backdropDrawn = false;
     Refresh();
 }
 
@@ -92,10 +103,13 @@ void MapPicture::Refresh()
     }
     m_images = std::move(kept);
     m_sinceShown.start();
-    SetPending(missing.size());
+    const bool backdropMissing = m_backdrop && !m_backdropDrawn;
+    SetPending(missing.size() + (backdropMissing ? 1 : 0));
     for (const Sheet* sheet : missing)
         Start(*sheet);
-    if (missing.empty())
+    if (backdropMissing)
+        StartBackdrop();
+    if (m_pending == 0)
         Compose();
 }
 
@@ -118,6 +132,42 @@ void MapPicture::Take(quint64 generation, const Sheet& sheet, const SheetImage& 
     m_images[sheet.Key()] = image;
     for (const MapLayer& layer : sheet.layers)
         emit LayerDrawn(layer.layerID);
+    Finish();
+}
+
+void MapPicture::StartBackdrop()
+{
+    m_pool.start([this, backdrop = m_backdrop, view = m_view, ratio = m_devicePixelRatio,
+                  cancelled = m_cancelled, generation = m_generation] {
+        QImage image;
+        QString failure;
+        try {
+            image = backdrop->Draw(view, ratio, *cancelled);
+        } catch (const std::exception& error) {
+            failure = QString::fromUtf8(error.what());
+        }
+        QMetaObject::invokeMethod(
+            this, [this, generation, image, failure] { TakeBackdrop(generation, image, failure); },
+            Qt::QueuedConnection);
+    });
+}
+
+void MapPicture::TakeBackdrop(quint64 generation, const QImage& image, const QString& failure)
+{
+    if (generation != m_generation)
+        return;
+    m_backdropImage = image;
+    m_backdropView = m_view;
+    m_backdropDrawn = true;
+    if (!failure.isEmpty())
+        m_backdrop.reset();
+    Finish();
+    if (!failure.isEmpty())
+        emit BackdropFailed(failure);
+}
+
+void MapPicture::Finish()
+{
     SetPending(m_pending - 1);
     if (m_pending == 0 || m_sinceShown.elapsed() > UnfinishedAfter)
         Compose();
@@ -131,6 +181,7 @@ void MapPicture::Compose()
     m_image.setDevicePixelRatio(m_devicePixelRatio);
     m_image.fill(Qt::white);
     QPainter painter(&m_image);
+    PlaceBackdrop(painter);
     for (const Sheet& sheet : m_sheets) {
         const auto found = m_images.find(sheet.Key());
         if (found != m_images.end())
@@ -138,6 +189,16 @@ void MapPicture::Compose()
     }
     painter.end();
     emit Changed();
+}
+
+// Until the view's own image is there the last one is shown moved and stretched.
+void MapPicture::PlaceBackdrop(QPainter& painter) const
+{
+    if (m_backdropImage.isNull())
+        return;
+    const QPointF topLeft = m_view.ToPixel(m_backdropView.ToMap({0, 0}));
+    const double stretch = m_backdropView.UnitsPerPixel() / m_view.UnitsPerPixel();
+    painter.drawImage(QRectF(topLeft, QSizeF(m_backdropView.Size()) * stretch), m_backdropImage);
 }
 
 void MapPicture::SetPending(size_t pending)

@@ -3,6 +3,7 @@
 
 #include "shell/drawing/MapLayer.h"
 #include "shell/drawing/MapView.h"
+#include "shell/drawing/RasterBackdrop.h"
 #include "shell/drawing/Sheets.h"
 
 #include <QElapsedTimer>
@@ -12,6 +13,8 @@
 
 #include <map>
 #include <memory>
+
+class QPainter;
 
 namespace Orvane {
 
@@ -33,10 +36,13 @@ public:
 
     /// Replaces the layers, known by their IDs.
     void SetLayers(std::vector<MapLayer> layers);
+    /// Lays a picture under all layers; nullptr for none.
+    void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
     /// Shows another part of the map. Drawing of the part before is cancelled.
     void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
 
     const std::vector<MapLayer>& Layers() const { return m_layers; }
+    const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
     /// The last picture; null before the first.
     const QImage& Image() const { return m_image; }
     /// The view that Image shows, which may be an earlier one while drawing goes on.
@@ -49,6 +55,8 @@ signals:
     void BusyChanged(bool busy);
     /// A layer was drawn anew.
     void LayerDrawn(qint32 layerID);
+    /// The picture under the layers cannot be read; told once a picture.
+    void BackdropFailed(const QString& reason);
 
 private:
     using Images = std::map<std::vector<qint32>, SheetImage>;
@@ -56,12 +64,20 @@ private:
     void Refresh();
     void Start(const Sheet& sheet);
     void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);
+    void StartBackdrop();
+    void TakeBackdrop(quint64 generation, const QImage& image, const QString& failure);
+    void Finish();
     void Compose();
+    void PlaceBackdrop(QPainter& painter) const;
     void SetPending(size_t pending);
 
     std::vector<MapLayer> m_layers;
     std::vector<Sheet> m_sheets;
     Images m_images; // of m_view
+    std::shared_ptr<const RasterBackdrop> m_backdrop;
+    QImage m_backdropImage; // shows m_backdropView
+    MapView m_backdropView;
+    bool m_backdropDrawn = false; // for m_view
     MapView m_view;
     double m_scaleDenominator = 1;
     double m_devicePixelRatio = 1;

@@ -147,6 +147,8 @@ void MapPage::PaintMapFrame(QPainter& painter, const std::atomic<bool>& cancelle
 
 void MapPage::PaintLayers(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
+    if (m_contents.backdrop)
+        m_contents.backdrop->Paint(painter, m_view, cancelled);
     if (KnowsPatterns(painter))
         PaintMap(painter, m_contents.layers, m_view, ScaleDenominator(), cancelled);
     else

@@ -4,9 +4,11 @@
 #include "shell/data/Box.h"
 #include "shell/drawing/MapLayer.h"
 #include "shell/drawing/MapView.h"
+#include "shell/drawing/RasterBackdrop.h"
 #include "shell/output/PageLayout.h"
 
 #include <atomic>
+#include <memory>
 #include <vector>
 
 class QPainter;
@@ -21,6 +23,7 @@ struct PageContents {
     std::vector<MapLayer> layers; ///< of any screen: their looks are made anew for paper
     QString system; ///< coordinate system of the map
     Box area; ///< to be shown whole, or around its middle where the settings name a scale
+    std::shared_ptr<const RasterBackdrop> backdrop = nullptr; ///< under all layers; nullptr for none
 };
 
 /// A map with title, legend and scale bar, composed for one page; then painted any number of times.

@@ -107,7 +107,7 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
     return {
         document.Database(),
         m_services,
-        {m_canvas.Layers(), document.System(), m_canvas.View().Extent()},
+        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), m_canvas.Picture().Backdrop()},
         settings};
 }
 

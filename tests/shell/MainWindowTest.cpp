@@ -4,6 +4,7 @@
 #include "shell/DataFolder.h"
 #include "shell/MapDocument.h"
 #include "shell/RecentMaps.h"
+#include "shell/data/Progress.h"
 #include "shell/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
@@ -16,8 +17,11 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QSettings>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -101,6 +105,51 @@ TEST_F(MainWindowTest, AMapThatWasOpenedIsAmongTheRecentOnes)
     ASSERT_EQ(menu->actions().size(), 2);
     menu->actions()[1]->trigger();
     EXPECT_EQ(m_window->Document().Path(), first);
+}
+
+TEST_F(MainWindowTest, ARecentMapThatIsGoneIsTakenOffTheListWithAMessage)
+{
+    const QString path = MakeMap("gone.orvane");
+    RecentMaps::Add(path);
+    ASSERT_TRUE(QFile::remove(path));
+    auto* menu = m_window->findChild<QMenu*>("menuRecent");
+    emit menu->aboutToShow();
+    MessageBoxRobot person{BoxKey::Enter};
+    menu->actions()[0]->trigger();
+    EXPECT_TRUE(person.Only().text.contains("gone.orvane"));
+    EXPECT_TRUE(RecentMaps::All().isEmpty());
+}
+
+TEST_F(MainWindowTest, AMapFileThatGoesWhileItIsOpenIsTold)
+{
+    const QString path = MakeMap("map.orvane");
+    m_window->OpenMap(path);
+    MessageBoxRobot person{BoxKey::Escape};
+    ASSERT_TRUE(QFile::rename(path, m_folder.Path("away.orvane")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !person.Boxes().empty(); }));
+    EXPECT_TRUE(person.Only().text.contains("map.orvane"));
+}
+
+TEST_F(MainWindowTest, AThousandFilesCanBeCancelledWhileTheyAreOpened)
+{
+    QStringList paths;
+    for (int i = 0; i < 1000; ++i)
+        paths << m_folder.WriteSquare(QString::number(i) + ".geojson");
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        if (dialog && dialog->isVisible())
+            dialog->findChild<QPushButton*>()->click();
+    });
+    person.start(1);
+    bool cancelled = false;
+    try {
+        m_window->AddData(paths);
+    } catch (const Cancelled&) {
+        cancelled = true;
+    }
+    EXPECT_EQ(m_window->Canvas().Layers().size(), cancelled ? 0u : 1000u);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(MainWindowTest, AFileThatIsNoMapLeavesTheMapThatIsOpen)

@@ -154,6 +154,27 @@ TEST_F(MapDocumentTest, ACopyReplacesAFileOfThatName)
     EXPECT_FALSE(MapDocument::Open(m_folder.Path("copy.orvane"))->HasLayers());
 }
 
+TEST_F(MapDocumentTest, ACopyThatCannotBeStoredLeavesTheFileThatIsThere)
+{
+    QDir(m_folder.Path("")).mkpath("closed");
+    const QString path = m_folder.Write("closed/map.orvane", "precious");
+    const QString folder = m_folder.Path("closed/map.orvane.part/in the way");
+    ASSERT_TRUE(QDir().mkpath(folder)); // as good as a full disk, for any user
+    EXPECT_THROW(MapDocument::Untitled()->SaveCopy(path), RunTimeError);
+    EXPECT_THROW(MapDocument::CreateOver(path), RunTimeError);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "precious");
+}
+
+TEST_F(MapDocumentTest, ANewMapReplacesTheOldOneWithAllItLeft)
+{
+    MapDocument::Create(m_folder.Path("map.orvane"))->AddLayer(LayerOf("a"));
+    m_folder.Write("map.orvane-wal", "left behind");
+    EXPECT_FALSE(MapDocument::CreateOver(m_folder.Path("map.orvane"))->HasLayers());
+    EXPECT_EQ(MapDocument::Open(m_folder.Path("map.orvane"))->Path(), m_folder.Path("map.orvane"));
+}
+
 TEST_F(MapDocumentTest, AFileThatIsNoMapIsRefusedAndStays)
 {
     const QString path = m_folder.Write("text.orvane", "not a map");

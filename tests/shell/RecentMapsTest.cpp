@@ -47,11 +47,21 @@ TEST_F(RecentMapsTest, OnlyTheLatestFewAreKept)
     EXPECT_EQ(RecentMaps::All().first(), Map(RecentMaps::Most + 3));
 }
 
-TEST_F(RecentMapsTest, AMapThatIsGoneIsNotListed)
+TEST_F(RecentMapsTest, TheLatestIsOneThatIsStillThere)
+{
+    EXPECT_EQ(RecentMaps::Latest(), "");
+    RecentMaps::Add(Map(1));
+    RecentMaps::Add(Map(2));
+    QFile::remove(m_folder.Path("2.orvane"));
+    EXPECT_EQ(RecentMaps::Latest(), m_folder.Path("1.orvane"));
+    EXPECT_EQ(RecentMaps::All().size(), 2);
+}
+
+TEST_F(RecentMapsTest, AMapCanBeTakenOffTheList)
 {
     const QString path = Map(1);
     RecentMaps::Add(path);
-    QFile::remove(path);
+    RecentMaps::Remove(path);
     EXPECT_TRUE(RecentMaps::All().isEmpty());
 }
 

@@ -36,7 +36,7 @@ protected:
         Box area;
         for (const MapLayer& layer : m_layers)
             area.Add(layer.features->Bounds());
-        return {m_document->Database(), m_services, {m_layers, "EPSG:32632", area}, settings};
+        return {m_document->Database(), m_services, {m_layers, "EPSG:32632", area, nullptr}, settings};
     }
 
     /// Nothing but a map of a square page.

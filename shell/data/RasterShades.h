@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+
+#include <array>
+#include <vector>
+
+class GDALDataset;
+
+namespace Orvane {
+
+/// How a raster's values become colours: by its palette, as red, green and blue, or in shades of grey.
+class RasterShades
+{
+public:
+    /// Looks at the raster, and at its values where they are no bytes.
+    explicit RasterShades(GDALDataset& raster);
+
+    /// False for values that only name colours.
+    bool MayBlend() const { return m_palette.empty(); }
+
+    /// Reads these pixels of the raster, warped and with an alpha band at its end, and puts them into the
+    /// image from there on. False when they cannot be read.
+    bool Read(GDALDataset& warped, const QRect& pixels, QImage& image, QPoint to) const;
+
+private:
+    QRgb ColourOf(const float* values) const;
+    int Shade(float value) const;
+
+    std::vector<QRgb> m_palette;
+    std::array<int, 3> m_bands = {1, 1, 1}; // for red, green and blue, from 1
+    bool m_isBytes = true;
+    double m_least = 0;
+    double m_greatest = 255;
+};
+
+} // namespace Orvane

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <functional>
+#include <gdal_priv.h>
+#include <gtest/gtest.h>
+#include <ogr_spatialref.h>
+
+namespace Orvane::Testing {
+
+/// What WriteRaster writes.
+struct RasterSpec {
+    int width = 100;
+    int height = 100;
+    int bands = 1;
+    GDALDataType type = GDT_Byte;
+    std::array<double, 6> transform = {0, 0.1, 0, 10, 0, -0.1}; ///< 0 to 10 degrees east and north
+    const char* system = "EPSG:4326"; ///< nullptr for none
+    bool isPlaced = true; ///< false: says nothing of where it lies
+};
+
+/// Writes a GeoTIFF whose values come from a function of column, row and band, which counts from 1.
+inline void
+WriteRaster(const QString& path, const RasterSpec& spec, const std::function<double(int, int, int)>& value)
+{
+    GDALAllRegister();
+    GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("GTiff");
+    const std::unique_ptr<GDALDataset> file(
+        driver->Create(path.toUtf8().constData(), spec.width, spec.height, spec.bands, spec.type, nullptr));
+    ASSERT_TRUE(file);
+    auto transform = spec.transform;
+    if (spec.isPlaced)
+        file->SetGeoTransform(transform.data());
+    OGRSpatialReference system;
+    if (spec.system && system.SetFromUserInput(spec.system) == OGRERR_NONE)
+        file->SetSpatialRef(&system);
+    std::vector<double> line(size_t(spec.width));
+    for (int band = 1; band <= spec.bands; ++band) {
+        for (int row = 0; row < spec.height; ++row) {
+            for (int column = 0; column < spec.width; ++column)
+                line[size_t(column)] = value(column, row, band);
+            EXPECT_EQ(
+                file->GetRasterBand(band)->RasterIO(
+                    GF_Write, 0, row, spec.width, 1, line.data(), spec.width, 1, GDT_Float64, 0, 0, nullptr),
+                CE_None);
+        }
+    }
+}
+
+} // namespace Orvane::Testing
