@@ -86,6 +86,98 @@ void PaintTurn(QPainter& painter, bool right)
     painter.drawPolyline(QPolygonF{{9, 4}, {4, 9}, {9, 14}});
 }
 
+void PaintHand(QPainter& painter)
+{
+    QPainterPath hand({7, 14});
+    hand.lineTo(4.6, 11.4);
+    hand.cubicTo(3, 9.6, 5, 8, 6.6, 9.4);
+    hand.lineTo(8, 10.8);
+    for (const double left : {8.0, 11.0, 14.0, 17.0}) {
+        const double tip = left == 8.0 ? 4.6 : left == 17.0 ? 6.2 : 3.2;
+        hand.lineTo(left, tip);
+        hand.cubicTo(left, tip - 1.8, left + 2.6, tip - 1.8, left + 2.6, tip);
+        hand.lineTo(left + 2.6, 10.6);
+        hand.lineTo(left + 3, 10.6);
+    }
+    hand.lineTo(20, 14);
+    hand.cubicTo(20, 19, 17, 21.5, 13, 21.5);
+    hand.cubicTo(10, 21.5, 8.6, 18.4, 7, 14);
+    painter.drawPath(hand);
+}
+
+void PaintQuestion(QPainter& painter)
+{
+    painter.drawEllipse(QPointF(12, 12), 9.5, 9.5);
+    painter.drawLine(QPointF(12, 11), QPointF(12, 17));
+    painter.setBrush(painter.pen().color());
+    painter.drawEllipse(QPointF(12, 7.2), 0.7, 0.7);
+}
+
+QPolygonF Arrow(QPointF tip)
+{
+    return QPolygonF{{0, 0}, {0, 13}, {3.2, 10}, {5.2, 14.6}, {7.2, 13.7}, {5.3, 9.2}, {9.4, 9}}.translated(
+        tip);
+}
+
+void PaintSelect(QPainter& painter)
+{
+    QPen dashed = painter.pen();
+    const QPen solid = dashed;
+    dashed.setDashPattern({2, 2});
+    painter.setPen(dashed);
+    painter.drawRect(QRectF(2.5, 2.5, 15, 13));
+    painter.setPen(solid);
+    painter.setBrush(solid.color());
+    painter.drawPolygon(Arrow({11.5, 8}));
+}
+
+void PaintDots(QPainter& painter, const QPolygonF& points)
+{
+    painter.setBrush(painter.pen().color());
+    for (const QPointF& point : points)
+        painter.drawEllipse(point, 1.4, 1.4);
+}
+
+void PaintRuler(QPainter& painter)
+{
+    painter.drawPolygon(QPolygonF{{2, 16}, {16, 2}, {22, 8}, {8, 22}});
+    for (const double along : {0.0, 3.5, 7.0, 10.5})
+        painter.drawLine(QPointF(5 + along, 13 - along), QPointF(5 + along, 13 - along) + QPointF(2.4, 2.4));
+}
+
+void PaintMeasuredArea(QPainter& painter)
+{
+    const QPolygonF corners{{4, 18}, {6, 5}, {18, 4}, {20, 14}, {12, 20}};
+    QColor tint = painter.pen().color();
+    tint.setAlpha(60);
+    painter.setBrush(tint);
+    painter.drawPolygon(corners);
+    PaintDots(painter, corners);
+}
+
+void PaintMove(QPainter& painter)
+{
+    for (const double angle : {0.0, 90.0, 180.0, 270.0}) {
+        painter.save();
+        painter.translate(12, 12);
+        painter.rotate(angle);
+        painter.drawLine(QPointF(3, 0), QPointF(10, 0));
+        painter.drawPolyline(QPolygonF{{7, -3}, {10, 0}, {7, 3}});
+        painter.restore();
+    }
+    PaintDots(painter, QPolygonF{{12, 12}});
+}
+
+void PaintPointOut(QPainter& painter)
+{
+    QColor tint = painter.pen().color();
+    tint.setAlpha(60);
+    painter.setBrush(tint);
+    painter.drawPolygon(QPolygonF{{3, 9}, {8, 3}, {17, 5}, {18, 13}, {8, 16}});
+    painter.setBrush(painter.pen().color());
+    painter.drawPolygon(Arrow({12, 9}));
+}
+
 void Paint(QPainter& painter, IconName name)
 {
     switch (name) {
@@ -107,6 +199,20 @@ void Paint(QPainter& painter, IconName name)
         return PaintTurn(painter, false);
     case IconName::Redo:
         return PaintTurn(painter, true);
+    case IconName::Pan:
+        return PaintHand(painter);
+    case IconName::Identify:
+        return PaintQuestion(painter);
+    case IconName::Select:
+        return PaintSelect(painter);
+    case IconName::MeasureLine:
+        return PaintRuler(painter);
+    case IconName::MeasureArea:
+        return PaintMeasuredArea(painter);
+    case IconName::MoveFeature:
+        return PaintMove(painter);
+    case IconName::PointOut:
+        return PaintPointOut(painter);
     }
 }
 

@@ -8,7 +8,24 @@ class QPalette;
 namespace Orvane {
 
 /// The shell's own pictures, painted in the palette's colours so that they suit light and dark themes.
-enum class IconName { NewMap, OpenMap, OpenData, ZoomIn, ZoomOut, ZoomAll, LayerControl, Undo, Redo };
+enum class IconName {
+    NewMap,
+    OpenMap,
+    OpenData,
+    ZoomIn,
+    ZoomOut,
+    ZoomAll,
+    LayerControl,
+    Pan,
+    Identify,
+    Select,
+    MeasureLine,
+    MeasureArea,
+    MoveFeature,
+    PointOut,
+    Undo,
+    Redo
+};
 
 QIcon ShellIcon(IconName name, const QPalette& palette);
 

@@ -15,6 +15,7 @@
 #include "shell/RunWithProgress.h"
 #include "shell/drawing/MapCanvas.h"
 #include "shell/output/OutputActions.h"
+#include "shell/tools/ToolActions.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -78,6 +79,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_data = std::make_unique<DataActions>(
         *m_ui->menuFile, m_ui->actOpenData, *this, [this]() -> MapSession& { return *m_session; });
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
+    m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
@@ -285,6 +287,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     m_session = std::move(session);
     m_edits->Follow(m_session->Shell().History());
     m_data->Follow(*m_session);
+    m_tools->Use(*m_session);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
@@ -313,6 +316,7 @@ bool MainWindow::KeepUntitledMap()
 void MainWindow::ReadMap()
 {
     const QString problems = m_session->ReadAndShow();
+    m_tools->SetSystem(Document().System());
     m_positionText = PositionText(Document().System());
     ShowScale();
     m_data->ShowProblems(problems);

@@ -25,6 +25,7 @@ class MapDocument;
 class MapSession;
 class RenderingActions;
 class RecentMapsMenu;
+class ToolActions;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -81,6 +82,7 @@ private:
     std::unique_ptr<Ui::MainWindow> m_ui;
     CallTrace* m_trace;
     std::unique_ptr<EditActions> m_edits;
+    std::unique_ptr<ToolActions> m_tools;
     std::unique_ptr<MapSession> m_session;
     std::unique_ptr<DataActions> m_data;
     std::unique_ptr<RecentMapsMenu> m_recent;

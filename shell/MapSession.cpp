@@ -106,6 +106,12 @@ void MapSession::SetBackdrop(const QString& path)
     }
 }
 
+void MapSession::TakeFeatures(const SourceContents& contents)
+{
+    m_layers.TakeFeatures(contents);
+    Show();
+}
+
 void MapSession::Connect()
 {
     m_markSoon.setSingleShot(true);

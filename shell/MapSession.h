@@ -49,6 +49,8 @@ public:
     /// Lays a picture under the map and keeps it with the map; an empty path takes it away. Raises, with the
     /// map as it was, for a file that is no georeferenced picture, and errors of the database.
     void SetBackdrop(const QString& path);
+    /// Shows these features in place of those that the layers had.
+    void TakeFeatures(const SourceContents& contents);
 
 signals:
     /// The map's file is no longer where it was; what is open can still be saved under another name.

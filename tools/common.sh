@@ -2,7 +2,7 @@
 # Shared by ./dev and the scripts beside this file: packages, steps, counts.
 
 packages_build=(build-essential cmake ninja-build ccache pkg-config git
-    qt6-base-dev qt6-svg-dev libgdal-dev libsqlite3-dev)
+    qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libsqlite3-dev)
 packages_run=(libqt6gui6 fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core

@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be changed: %2.</source>
+        <translation>„%1“ kann nicht geändert werden: %2.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>„%1“ kann nicht gespeichert werden: %2</translation>
     </message>
@@ -16,8 +20,44 @@
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
     <message>
+        <source>%1 is here but asks for no snap.</source>
+        <translation>%1 ist hier, verlangt aber keinen Fang.</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden at this scale.</source>
+        <translation>%1 ist hier, aber in diesem Maßstab ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden by its quick mode.</source>
+        <translation>%1 ist hier, aber durch seinen Schnellmodus ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>%1 is here but locked.</source>
+        <translation>%1 ist hier, aber gesperrt.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not enquirable.</source>
+        <translation>%1 ist hier, aber nicht abfragbar.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not hitable.</source>
+        <translation>%1 ist hier, aber nicht anklickbar.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not selectable.</source>
+        <translation>%1 ist hier, aber nicht auswählbar.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not visible.</source>
+        <translation>%1 ist hier, aber nicht sichtbar.</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>Wert &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -54,6 +94,30 @@
     <message>
         <source>&amp;Find Missing Data...</source>
         <translation>Fehlende Daten s&amp;uchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Highlight Under Pointer</source>
+        <translation>Unter dem Zeiger &amp;hervorheben</translation>
+    </message>
+    <message>
+        <source>&amp;Identify</source>
+        <translation>&amp;Abfragen</translation>
+    </message>
+    <message>
+        <source>&amp;Move Feature</source>
+        <translation>&amp;Objekt verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Pan and Zoom</source>
+        <translation>&amp;Verschieben und Zoomen</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -108,6 +172,14 @@
         <translation>A&amp;ttribut:</translation>
     </message>
     <message>
+        <source>Area: %1, perimeter: %2</source>
+        <translation>Fläche: %1, Umfang: %2</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
         <source>Automatic (%1)</source>
         <translation>Automatisch (%1)</translation>
     </message>
@@ -144,6 +216,18 @@
         <translation>Klassen</translation>
     </message>
     <message>
+        <source>Click a feature to see its attributes.</source>
+        <translation>Klicken zeigt die Attribute eines Objekts.</translation>
+    </message>
+    <message>
+        <source>Click a feature with the Identify tool.</source>
+        <translation>Klicken Sie mit dem Werkzeug „Abfragen“ auf ein Objekt.</translation>
+    </message>
+    <message>
+        <source>Click to set a vertex, double-click to end.</source>
+        <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
+    </message>
+    <message>
         <source>Creation of &quot;%1&quot;</source>
         <translation>Anlegen von „%1“</translation>
     </message>
@@ -172,6 +256,22 @@
         <translation>Löschen des Schemas „%1“</translation>
     </message>
     <message>
+        <source>Drag a feature of a layer that is not locked to another place</source>
+        <translation>Ein Objekt eines nicht gesperrten Layers an eine andere Stelle ziehen</translation>
+    </message>
+    <message>
+        <source>Drag a feature to move it.</source>
+        <translation>Ziehen verschiebt ein Objekt.</translation>
+    </message>
+    <message>
+        <source>Drag the feature of %1 to move it.</source>
+        <translation>Ziehen verschiebt das Objekt von %1.</translation>
+    </message>
+    <message>
+        <source>Drag the map, zoom with the wheel</source>
+        <translation>Die Karte ziehen, mit dem Rad zoomen</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>Zeichnen...</translation>
     </message>
@@ -194,6 +294,18 @@
     <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Feature %1</source>
+        <translation>Objekt %1</translation>
+    </message>
+    <message>
+        <source>Feature Attributes</source>
+        <translation>Objektattribute</translation>
+    </message>
+    <message>
+        <source>Features found: %1</source>
+        <translation>Gefundene Objekte: %1</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -232,6 +344,10 @@
         <translation>Ein Bild unter alle Layer der Karte legen</translation>
     </message>
     <message>
+        <source>Length: %1</source>
+        <translation>Länge: %1</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>Laden des Schemas „%1“</translation>
     </message>
@@ -252,12 +368,60 @@
         <translation>Die zuletzt zurückgenommene Änderung noch einmal machen</translation>
     </message>
     <message>
+        <source>Map Tools</source>
+        <translation>Kartenwerkzeuge</translation>
+    </message>
+    <message>
         <source>Map file</source>
         <translation>Kartendatei</translation>
     </message>
     <message>
+        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
+        <translation>Das Objekt anklickbarer Layer unter dem Zeiger markieren, mit jedem Werkzeug</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Area</source>
+        <translation>&amp;Fläche messen</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Length</source>
+        <translation>&amp;Länge messen</translation>
+    </message>
+    <message>
+        <source>Measure a line; its vertices snap to layers that ask for it</source>
+        <translation>Eine Linie messen; ihre Stützpunkte rasten an Layern ein, die es verlangen</translation>
+    </message>
+    <message>
+        <source>Measure an area; its vertices snap to layers that ask for it</source>
+        <translation>Eine Fläche messen; ihre Stützpunkte rasten an Layern ein, die es verlangen</translation>
+    </message>
+    <message>
+        <source>Move in %1</source>
+        <translation>Verschieben in %1</translation>
+    </message>
+    <message>
+        <source>Moved a feature of %1.</source>
+        <translation>Ein Objekt von %1 wurde verschoben.</translation>
+    </message>
+    <message>
+        <source>Moving a feature of %1. Esc lets go.</source>
+        <translation>Ein Objekt von %1 wird verschoben. Esc lässt es los.</translation>
+    </message>
+    <message>
+        <source>Moving the feature</source>
+        <translation>Das Objekt wird verschoben</translation>
+    </message>
+    <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>Neuer Code von „%1“</translation>
+    </message>
+    <message>
+        <source>No layer here.</source>
+        <translation>Hier ist kein Layer.</translation>
+    </message>
+    <message>
+        <source>No selectable feature in the rectangle.</source>
+        <translation>Kein auswählbares Objekt im Rechteck.</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
@@ -288,6 +452,10 @@
         <translation>Rasterhintergrund</translation>
     </message>
     <message>
+        <source>Reading attributes</source>
+        <translation>Attribute werden gelesen</translation>
+    </message>
+    <message>
         <source>Renaming of &quot;%1&quot;</source>
         <translation>Umbenennen von „%1“</translation>
     </message>
@@ -300,12 +468,32 @@
         <translation>Speichern des Schemas „%1“</translation>
     </message>
     <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>Objekte auswählbarer Layer durch Klick oder Rechteck auswählen; Strg fügt hinzu</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>Ausgewählte Objekte: %1</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>Das Fenster mit den Attributen abgefragter Objekte zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>Die Attribute von Objekten abfragbarer Layer zeigen</translation>
+    </message>
+    <message>
         <source>Show the map without the picture</source>
         <translation>Die Karte ohne das Bild zeigen</translation>
     </message>
     <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>Die letzte Änderung an Layern, Gruppen und Schemas zurücknehmen</translation>
+    </message>
+    <message>
+        <source>The feature was changed by somebody else and stays where it is.</source>
+        <translation>Das Objekt wurde von jemand anderem geändert und bleibt, wo es ist.</translation>
     </message>
     <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
@@ -322,6 +510,10 @@
     <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>it does not say where its pixels lie</source>
@@ -856,6 +1048,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
     <message>
+        <source>its format is read only</source>
+        <translation>ihr Format kann nur gelesen werden</translation>
+    </message>
+    <message>
         <source>its name must end in .pdf, .svg or .png</source>
         <translation>ihr Name muss auf .pdf, .svg oder .png enden</translation>
     </message>
@@ -964,6 +1160,14 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>mm</translation>
     </message>
     <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>off the earth</source>
+        <translation>außerhalb der Erde</translation>
+    </message>
+    <message>
         <source>pixels</source>
         <translation>Pixel</translation>
     </message>
@@ -1006,6 +1210,18 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Scale &amp;bar</source>
         <translation>Maßsta&amp;bsleiste</translation>
+    </message>
+    <message>
+        <source>the feature is no longer there</source>
+        <translation>das Objekt ist nicht mehr vorhanden</translation>
+    </message>
+    <message>
+        <source>the feature would leave the earth</source>
+        <translation>das Objekt würde die Erde verlassen</translation>
+    </message>
+    <message>
+        <source>the file is read only</source>
+        <translation>die Datei ist schreibgeschützt</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be changed: %2.</source>
+        <translation>« %1 » ne peut pas être modifié : %2.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>« %1 » ne peut pas être enregistré : %2</translation>
     </message>
@@ -16,8 +20,44 @@
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
     <message>
+        <source>%1 is here but asks for no snap.</source>
+        <translation>%1 est ici mais ne demande pas d’accrochage.</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden at this scale.</source>
+        <translation>%1 est ici mais masqué à cette échelle.</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden by its quick mode.</source>
+        <translation>%1 est ici mais masqué par son mode rapide.</translation>
+    </message>
+    <message>
+        <source>%1 is here but locked.</source>
+        <translation>%1 est ici mais verrouillé.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not enquirable.</source>
+        <translation>%1 est ici mais non interrogeable.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not hitable.</source>
+        <translation>%1 est ici mais non cliquable.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not selectable.</source>
+        <translation>%1 est ici mais non sélectionnable.</translation>
+    </message>
+    <message>
+        <source>%1 is here but not visible.</source>
+        <translation>%1 est ici mais non visible.</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 autres</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>&amp;Copier la valeur</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -54,6 +94,30 @@
     <message>
         <source>&amp;Find Missing Data...</source>
         <translation>Recherc&amp;her les données manquantes...</translation>
+    </message>
+    <message>
+        <source>&amp;Highlight Under Pointer</source>
+        <translation>Su&amp;rligner sous le pointeur</translation>
+    </message>
+    <message>
+        <source>&amp;Identify</source>
+        <translation>&amp;Identifier</translation>
+    </message>
+    <message>
+        <source>&amp;Move Feature</source>
+        <translation>Déplacer un &amp;objet</translation>
+    </message>
+    <message>
+        <source>&amp;Pan and Zoom</source>
+        <translation>&amp;Déplacer et zoomer</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Outils</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -108,6 +172,14 @@
         <translation>A&amp;ttribut :</translation>
     </message>
     <message>
+        <source>Area: %1, perimeter: %2</source>
+        <translation>Surface : %1, périmètre : %2</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
         <source>Automatic (%1)</source>
         <translation>Automatique (%1)</translation>
     </message>
@@ -144,6 +216,18 @@
         <translation>Classes</translation>
     </message>
     <message>
+        <source>Click a feature to see its attributes.</source>
+        <translation>Cliquez sur un objet pour voir ses attributs.</translation>
+    </message>
+    <message>
+        <source>Click a feature with the Identify tool.</source>
+        <translation>Cliquez sur un objet avec l’outil Identifier.</translation>
+    </message>
+    <message>
+        <source>Click to set a vertex, double-click to end.</source>
+        <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
+    </message>
+    <message>
         <source>Creation of &quot;%1&quot;</source>
         <translation>Création de « %1 »</translation>
     </message>
@@ -172,6 +256,22 @@
         <translation>Suppression du schéma « %1 »</translation>
     </message>
     <message>
+        <source>Drag a feature of a layer that is not locked to another place</source>
+        <translation>Faire glisser un objet d’une couche non verrouillée vers un autre endroit</translation>
+    </message>
+    <message>
+        <source>Drag a feature to move it.</source>
+        <translation>Faites glisser un objet pour le déplacer.</translation>
+    </message>
+    <message>
+        <source>Drag the feature of %1 to move it.</source>
+        <translation>Faites glisser l’objet de %1 pour le déplacer.</translation>
+    </message>
+    <message>
+        <source>Drag the map, zoom with the wheel</source>
+        <translation>Faire glisser la carte, zoomer avec la molette</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>Dessin...</translation>
     </message>
@@ -194,6 +294,18 @@
     <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Feature %1</source>
+        <translation>Objet %1</translation>
+    </message>
+    <message>
+        <source>Feature Attributes</source>
+        <translation>Attributs de l’objet</translation>
+    </message>
+    <message>
+        <source>Features found: %1</source>
+        <translation>Objets trouvés : %1</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -232,6 +344,10 @@
         <translation>Placer une image sous toutes les couches de la carte</translation>
     </message>
     <message>
+        <source>Length: %1</source>
+        <translation>Longueur : %1</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>Chargement du schéma « %1 »</translation>
     </message>
@@ -252,12 +368,60 @@
         <translation>Refaire la dernière modification annulée</translation>
     </message>
     <message>
+        <source>Map Tools</source>
+        <translation>Outils de carte</translation>
+    </message>
+    <message>
         <source>Map file</source>
         <translation>Fichier de carte</translation>
     </message>
     <message>
+        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
+        <translation>Marquer l’objet des couches cliquables sous le pointeur, avec tout outil</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Area</source>
+        <translation>Mesurer une s&amp;urface</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Length</source>
+        <translation>Mesurer une &amp;longueur</translation>
+    </message>
+    <message>
+        <source>Measure a line; its vertices snap to layers that ask for it</source>
+        <translation>Mesurer une ligne ; ses sommets s’accrochent aux couches qui le demandent</translation>
+    </message>
+    <message>
+        <source>Measure an area; its vertices snap to layers that ask for it</source>
+        <translation>Mesurer une surface ; ses sommets s’accrochent aux couches qui le demandent</translation>
+    </message>
+    <message>
+        <source>Move in %1</source>
+        <translation>Déplacement dans %1</translation>
+    </message>
+    <message>
+        <source>Moved a feature of %1.</source>
+        <translation>Un objet de %1 a été déplacé.</translation>
+    </message>
+    <message>
+        <source>Moving a feature of %1. Esc lets go.</source>
+        <translation>Déplacement d’un objet de %1. Échap le relâche.</translation>
+    </message>
+    <message>
+        <source>Moving the feature</source>
+        <translation>Déplacement de l’objet</translation>
+    </message>
+    <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>Nouveau code de « %1 »</translation>
+    </message>
+    <message>
+        <source>No layer here.</source>
+        <translation>Aucune couche ici.</translation>
+    </message>
+    <message>
+        <source>No selectable feature in the rectangle.</source>
+        <translation>Aucun objet sélectionnable dans le rectangle.</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
@@ -288,6 +452,10 @@
         <translation>Fond raster</translation>
     </message>
     <message>
+        <source>Reading attributes</source>
+        <translation>Lecture des attributs</translation>
+    </message>
+    <message>
         <source>Renaming of &quot;%1&quot;</source>
         <translation>Renommage de « %1 »</translation>
     </message>
@@ -300,12 +468,32 @@
         <translation>Enregistrement du schéma « %1 »</translation>
     </message>
     <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>Sélectionner des objets des couches sélectionnables par clic ou rectangle ; Ctrl ajoute</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>Objets sélectionnés : %1</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>Afficher ou masquer le panneau des attributs des objets identifiés</translation>
+    </message>
+    <message>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>Afficher les attributs des objets des couches interrogeables</translation>
+    </message>
+    <message>
         <source>Show the map without the picture</source>
         <translation>Afficher la carte sans l’image</translation>
     </message>
     <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>Annuler la dernière modification des couches, groupes et schémas</translation>
+    </message>
+    <message>
+        <source>The feature was changed by somebody else and stays where it is.</source>
+        <translation>L’objet a été modifié par quelqu’un d’autre et reste où il est.</translation>
     </message>
     <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
@@ -322,6 +510,10 @@
     <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>it does not say where its pixels lie</source>
@@ -856,6 +1048,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
     <message>
+        <source>its format is read only</source>
+        <translation>son format est en lecture seule</translation>
+    </message>
+    <message>
         <source>its name must end in .pdf, .svg or .png</source>
         <translation>son nom doit se terminer par .pdf, .svg ou .png</translation>
     </message>
@@ -964,6 +1160,14 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>mm</translation>
     </message>
     <message>
+        <source>no value</source>
+        <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>off the earth</source>
+        <translation>hors de la Terre</translation>
+    </message>
+    <message>
         <source>pixels</source>
         <translation>pixels</translation>
     </message>
@@ -1006,6 +1210,18 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Scale &amp;bar</source>
         <translation>&amp;Barre d'échelle</translation>
+    </message>
+    <message>
+        <source>the feature is no longer there</source>
+        <translation>l’objet n’existe plus</translation>
+    </message>
+    <message>
+        <source>the feature would leave the earth</source>
+        <translation>l’objet quitterait la Terre</translation>
+    </message>
+    <message>
+        <source>the file is read only</source>
+        <translation>le fichier est en lecture seule</translation>
     </message>
 </context>
 </TS>

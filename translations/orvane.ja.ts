@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&quot;%1&quot; cannot be changed: %2.</source>
+        <translation>「%1」は変更できません: %2。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>「%1」を保存できません: %2</translation>
     </message>
@@ -16,8 +20,44 @@
         <translation>「%1」が「%2」にありません。</translation>
     </message>
     <message>
+        <source>%1 is here but asks for no snap.</source>
+        <translation>%1 はここにありますが、スナップの対象ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden at this scale.</source>
+        <translation>%1 はここにありますが、この縮尺では表示されません。</translation>
+    </message>
+    <message>
+        <source>%1 is here but hidden by its quick mode.</source>
+        <translation>%1 はここにありますが、クイックモードで非表示になっています。</translation>
+    </message>
+    <message>
+        <source>%1 is here but locked.</source>
+        <translation>%1 はここにありますが、ロックされています。</translation>
+    </message>
+    <message>
+        <source>%1 is here but not enquirable.</source>
+        <translation>%1 はここにありますが、照会できません。</translation>
+    </message>
+    <message>
+        <source>%1 is here but not hitable.</source>
+        <translation>%1 はここにありますが、クリックできません。</translation>
+    </message>
+    <message>
+        <source>%1 is here but not selectable.</source>
+        <translation>%1 はここにありますが、選択できません。</translation>
+    </message>
+    <message>
+        <source>%1 is here but not visible.</source>
+        <translation>%1 はここにありますが、表示されていません。</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>他%1個</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>値をコピー(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -54,6 +94,30 @@
     <message>
         <source>&amp;Find Missing Data...</source>
         <translation>見つからないデータを検索(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Highlight Under Pointer</source>
+        <translation>ポインター下を強調表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Identify</source>
+        <translation>属性照会(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Move Feature</source>
+        <translation>地物を移動(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Pan and Zoom</source>
+        <translation>移動とズーム(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>ツール(&amp;T)</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -108,6 +172,14 @@
         <translation>属性(&amp;T):</translation>
     </message>
     <message>
+        <source>Area: %1, perimeter: %2</source>
+        <translation>面積: %1、周長: %2</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
         <source>Automatic (%1)</source>
         <translation>自動 (%1)</translation>
     </message>
@@ -144,6 +216,18 @@
         <translation>階級</translation>
     </message>
     <message>
+        <source>Click a feature to see its attributes.</source>
+        <translation>地物をクリックすると属性が表示されます。</translation>
+    </message>
+    <message>
+        <source>Click a feature with the Identify tool.</source>
+        <translation>「属性照会」ツールで地物をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Click to set a vertex, double-click to end.</source>
+        <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
+    </message>
+    <message>
         <source>Creation of &quot;%1&quot;</source>
         <translation>「%1」の作成</translation>
     </message>
@@ -172,6 +256,22 @@
         <translation>スキーム「%1」の削除</translation>
     </message>
     <message>
+        <source>Drag a feature of a layer that is not locked to another place</source>
+        <translation>ロックされていないレイヤーの地物を別の場所へドラッグします</translation>
+    </message>
+    <message>
+        <source>Drag a feature to move it.</source>
+        <translation>地物をドラッグして移動します。</translation>
+    </message>
+    <message>
+        <source>Drag the feature of %1 to move it.</source>
+        <translation>%1 の地物をドラッグして移動します。</translation>
+    </message>
+    <message>
+        <source>Drag the map, zoom with the wheel</source>
+        <translation>地図をドラッグで移動し、ホイールでズームします</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>描画中...</translation>
     </message>
@@ -194,6 +294,18 @@
     <message>
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Feature %1</source>
+        <translation>地物 %1</translation>
+    </message>
+    <message>
+        <source>Feature Attributes</source>
+        <translation>地物の属性</translation>
+    </message>
+    <message>
+        <source>Features found: %1</source>
+        <translation>見つかった地物: %1</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -232,6 +344,10 @@
         <translation>地図のすべてのレイヤーの下に画像を敷きます</translation>
     </message>
     <message>
+        <source>Length: %1</source>
+        <translation>長さ: %1</translation>
+    </message>
+    <message>
         <source>Loading of the Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
     </message>
@@ -252,12 +368,60 @@
         <translation>最後に取り消した変更をもう一度行います</translation>
     </message>
     <message>
+        <source>Map Tools</source>
+        <translation>地図ツール</translation>
+    </message>
+    <message>
         <source>Map file</source>
         <translation>地図ファイル</translation>
     </message>
     <message>
+        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
+        <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Area</source>
+        <translation>面積の計測(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Measure &amp;Length</source>
+        <translation>長さの計測(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Measure a line; its vertices snap to layers that ask for it</source>
+        <translation>線を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
+    </message>
+    <message>
+        <source>Measure an area; its vertices snap to layers that ask for it</source>
+        <translation>面を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
+    </message>
+    <message>
+        <source>Move in %1</source>
+        <translation>%1 での移動</translation>
+    </message>
+    <message>
+        <source>Moved a feature of %1.</source>
+        <translation>%1 の地物を移動しました。</translation>
+    </message>
+    <message>
+        <source>Moving a feature of %1. Esc lets go.</source>
+        <translation>%1 の地物を移動中です。Esc で中止します。</translation>
+    </message>
+    <message>
+        <source>Moving the feature</source>
+        <translation>地物を移動しています</translation>
+    </message>
+    <message>
         <source>New Code of &quot;%1&quot;</source>
         <translation>「%1」の新しいコード</translation>
+    </message>
+    <message>
+        <source>No layer here.</source>
+        <translation>ここにはレイヤーがありません。</translation>
+    </message>
+    <message>
+        <source>No selectable feature in the rectangle.</source>
+        <translation>矩形の中に選択できる地物がありません。</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
@@ -288,6 +452,10 @@
         <translation>ラスター背景</translation>
     </message>
     <message>
+        <source>Reading attributes</source>
+        <translation>属性を読み込んでいます</translation>
+    </message>
+    <message>
         <source>Renaming of &quot;%1&quot;</source>
         <translation>「%1」の名前の変更</translation>
     </message>
@@ -300,12 +468,32 @@
         <translation>スキーム「%1」の保存</translation>
     </message>
     <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>選択可能なレイヤーの地物をクリックまたは矩形で選択します。Ctrl で追加します</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>選択された地物: %1</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>照会した地物の属性パネルを表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>照会可能なレイヤーの地物の属性を表示します</translation>
+    </message>
+    <message>
         <source>Show the map without the picture</source>
         <translation>画像なしで地図を表示します</translation>
     </message>
     <message>
         <source>Take back the last change of layers, groups and schemes</source>
         <translation>レイヤー、グループ、スキームへの最後の変更を取り消します</translation>
+    </message>
+    <message>
+        <source>The feature was changed by somebody else and stays where it is.</source>
+        <translation>地物は他の人によって変更されたため、そのままにします。</translation>
     </message>
     <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
@@ -322,6 +510,10 @@
     <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
     </message>
     <message>
         <source>it does not say where its pixels lie</source>
@@ -856,6 +1048,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
     </message>
     <message>
+        <source>its format is read only</source>
+        <translation>この形式は読み取り専用です</translation>
+    </message>
+    <message>
         <source>its name must end in .pdf, .svg or .png</source>
         <translation>名前の末尾は .pdf、.svg、.png のいずれかです</translation>
     </message>
@@ -964,6 +1160,14 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>mm</translation>
     </message>
     <message>
+        <source>no value</source>
+        <translation>値なし</translation>
+    </message>
+    <message>
+        <source>off the earth</source>
+        <translation>地球の範囲外</translation>
+    </message>
+    <message>
         <source>pixels</source>
         <translation>ピクセル</translation>
     </message>
@@ -1006,6 +1210,18 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Scale &amp;bar</source>
         <translation>縮尺バー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>the feature is no longer there</source>
+        <translation>地物がもうありません</translation>
+    </message>
+    <message>
+        <source>the feature would leave the earth</source>
+        <translation>地物が地球の範囲外に出てしまいます</translation>
+    </message>
+    <message>
+        <source>the file is read only</source>
+        <translation>ファイルは読み取り専用です</translation>
     </message>
 </context>
 </TS>

@@ -206,6 +206,20 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
     return values;
 }
 
+std::vector<FeatureAttribute> DataSource::Attributes(const QString& layerName, qint64 featureID) const
+{
+    const GdalErrors quiet;
+    OGRLayer* layer = m_dataset->GetLayerByName(layerName.toUtf8().constData());
+    const OGRFeatureUniquePtr feature(layer ? layer->GetFeature(featureID) : nullptr);
+    std::vector<FeatureAttribute> attributes;
+    for (int i = 0; feature && i < feature->GetFieldCount(); ++i) {
+        attributes.push_back(
+            {QString::fromUtf8(feature->GetFieldDefnRef(i)->GetNameRef()),
+             QString::fromUtf8(feature->GetFieldAsString(i)), feature->IsFieldSetAndNotNull(i) == 0});
+    }
+    return attributes;
+}
+
 void DataSource::Fail(const QString& reason) const
 {
     const QString name = QFileInfo(m_path).fileName();

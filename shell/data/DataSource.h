@@ -43,6 +43,13 @@ struct FieldValue {
     double number = std::numeric_limits<double>::quiet_NaN(); ///< not a number for null and for a text
 };
 
+/// One attribute of a feature, for a person to read.
+struct FeatureAttribute {
+    QString name;
+    QString value; ///< as the source writes it
+    bool isNull = false;
+};
+
 /// A file, or whatever else GDAL's vector drivers open, read only.
 ///
 ///     DataSource source(path);
@@ -74,6 +81,9 @@ public:
     /// The values of one attribute by feature ID. Raises as Read does, and for an unknown attribute.
     std::unordered_map<qint64, FieldValue>
     ReadField(const QString& layer, const QString& filter, const QString& field, Progress& progress) const;
+    /// The attributes of one feature, in the source's order; none when there is no feature of that ID any
+    /// more.
+    std::vector<FeatureAttribute> Attributes(const QString& layer, qint64 featureID) const;
 
 private:
     OGRLayer& FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const;

@@ -36,6 +36,7 @@ bool ToolGestures::Press(const QMouseEvent& event)
         return event.button() == Qt::RightButton;
     m_state = State::Pressed;
     m_pressedAt = event.position();
+    m_modifiers = event.modifiers();
     return true;
 }
 
@@ -58,7 +59,7 @@ ToolGestures::Outcome ToolGestures::BeginDrag(const QMouseEvent& event)
     if (way < QApplication::startDragDistance())
         return Outcome::Nothing;
     m_state = State::Idle;
-    if (!m_tool->DragBegin(m_pressedAt, event.modifiers()))
+    if (!m_tool->DragBegin(m_pressedAt, m_modifiers))
         return Outcome::PanFromPress;
     m_state = State::Dragging;
     m_tool->DragTo(event.position());
@@ -73,7 +74,7 @@ void ToolGestures::Release(const QMouseEvent& event)
     if (state == State::Dragging)
         m_tool->DragEnd(event.position());
     else if (state == State::Pressed)
-        m_tool->Click(m_pressedAt, event.modifiers());
+        m_tool->Click(m_pressedAt, m_modifiers);
 }
 
 bool ToolGestures::DoubleClick(const QMouseEvent& event)

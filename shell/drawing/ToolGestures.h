@@ -45,6 +45,7 @@ private:
     QPointer<MapTool> m_tool;
     State m_state = State::Idle;
     QPointF m_pressedAt;
+    Qt::KeyboardModifiers m_modifiers; // at the press
 };
 
 } // namespace Orvane

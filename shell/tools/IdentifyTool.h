@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/data/DataSource.h"
+#include "shell/drawing/MapTool.h"
+#include "shell/tools/FeatureKey.h"
+
+#include <functional>
+#include <vector>
+
+namespace Orvane {
+
+class MapCanvas;
+
+/// A feature that was asked for, with what its source says of it.
+struct IdentifiedFeature {
+    FeatureKey key;
+    QString layerName;
+    std::vector<FeatureAttribute> attributes;
+};
+
+/// Asks the features under the pointer for their attributes, of enquirable layers only.
+class IdentifyTool : public MapTool
+{
+    Q_OBJECT
+public:
+    /// Reads the attributes of these features, in their order; may raise.
+    using Reader = std::function<std::vector<std::vector<FeatureAttribute>>(const std::vector<FeatureKey>&)>;
+
+    /// canvas: not owned; outlives this object.
+    IdentifyTool(MapCanvas& canvas, Reader reader);
+
+    QCursor Cursor() const override { return Qt::WhatsThisCursor; }
+    void Begin() override;
+    void Click(QPointF pixel, Qt::KeyboardModifiers modifiers) override;
+    bool DoubleClick(QPointF) override { return true; }
+
+signals:
+    /// What is at the place of the last click, topmost first; empty for nothing.
+    void Identified(const std::vector<Orvane::IdentifiedFeature>& features);
+
+private:
+    MapCanvas& m_canvas;
+    Reader m_reader;
+};
+
+} // namespace Orvane

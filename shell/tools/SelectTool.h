@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/drawing/MapTool.h"
+#include "shell/tools/ToolRules.h"
+
+#include <QRectF>
+
+#include <optional>
+
+namespace Orvane {
+
+class FeatureSelection;
+class MapCanvas;
+
+/// Selects features of selectable layers: a click the topmost one, a drag all that its rectangle touches.
+/// With Ctrl a click adds or takes away, and a drag adds. A click beside everything, or Esc, clears.
+class SelectTool : public MapTool
+{
+    Q_OBJECT
+public:
+    /// Neither is owned; both outlive this object.
+    SelectTool(MapCanvas& canvas, FeatureSelection& selection);
+
+    QCursor Cursor() const override { return Qt::PointingHandCursor; }
+    void End() override { m_band.reset(); }
+    void Click(QPointF pixel, Qt::KeyboardModifiers modifiers) override;
+    bool DoubleClick(QPointF) override { return true; }
+    bool DragBegin(QPointF from, Qt::KeyboardModifiers modifiers) override;
+    void DragTo(QPointF pixel) override;
+    void DragEnd(QPointF pixel) override;
+    bool Key(const QKeyEvent& event) override;
+    void Paint(QPainter& painter, const MapView& view) const override;
+
+private:
+    ToolSearch Search() const;
+    void TellCount();
+
+    MapCanvas& m_canvas;
+    FeatureSelection& m_selection;
+    std::optional<QRectF> m_band; // pixels, from its first corner; none while nothing is dragged
+    bool m_adding = false;
+};
+
+} // namespace Orvane

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/Icons.h"
+#include "shell/tools/FeatureSelection.h"
+#include "shell/tools/Highlight.h"
+#include "shell/tools/HoverHighlight.h"
+#include "shell/tools/IdentifyTool.h"
+#include "shell/tools/MeasureTool.h"
+#include "shell/tools/MoveTool.h"
+#include "shell/tools/SelectTool.h"
+
+#include <QObject>
+
+class QActionGroup;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+namespace Orvane {
+
+class IdentifyPanel;
+class MapSession;
+class StatusText;
+
+/// The map tools of a window: their commands, the panel and the status text that they speak through.
+///
+///     ToolActions tools(window, canvas, *menuTools, *toolBar);
+///     tools.Use(session);
+class ToolActions : public QObject
+{
+    Q_OBJECT
+public:
+    /// Fills the menu and the tool bar, and adds a panel and a status text to the window. None is owned; the
+    /// window outlives this object.
+    ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QToolBar& toolBar);
+    ~ToolActions() override;
+
+    /// The tools work on this map from now on; what they showed of the one before is gone. session: not
+    /// owned; outlives this object, or another one is used before it ends.
+    void Use(MapSession& session);
+    /// The map's coordinate system is this one now, as in CoordinateSystems.h.
+    void SetSystem(const QString& system);
+
+    const FeatureSelection& Selection() const { return m_selection; }
+
+private:
+    struct Command;
+
+    QAction* AddCommand(const Command& command);
+    void AddTool(const Command& command, MapTool* tool);
+    void AddTools();
+    void AddToggles();
+    void ConnectTools();
+    void ShowIdentified(const std::vector<IdentifiedFeature>& features);
+    std::vector<std::vector<FeatureAttribute>> ReadAttributes(const std::vector<FeatureKey>& keys);
+    void Move(const FeatureKey& key, QPointF offset);
+
+    QMainWindow& m_window;
+    MapCanvas& m_canvas;
+    QMenu& m_menu;
+    QToolBar& m_toolBar;
+    MapSession* m_session = nullptr;
+    FeatureSelection m_selection;
+    Highlight m_selected;
+    Highlight m_identified;
+    HoverHighlight m_hover;
+    IdentifyTool m_identify;
+    SelectTool m_select;
+    MeasureTool m_measureLine;
+    MeasureTool m_measureArea;
+    MoveTool m_move;
+    IdentifyPanel* m_panel; // owned by the window, as the status text
+    StatusText* m_status;
+    QActionGroup* m_group;
+};
+
+} // namespace Orvane
