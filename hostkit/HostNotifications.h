@@ -30,6 +30,8 @@ signals:
     void GroupRenamed(qint32 groupID, const QString& name);
     /// Another scheme is current, or the set of schemes changed.
     void SchemesChanged(const QString& currentScheme);
+    /// The scheme's saved values are those of the layers now; follows SchemesChanged and LayersChanged.
+    void SchemeLoaded(const QString& scheme);
     /// The form is shown as a window.
     void EditorShown(QWidget* form);
     /// The form is about to be hidden or destroyed.

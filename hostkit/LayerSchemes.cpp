@@ -44,21 +44,20 @@ QString DifferingLayersQuery()
     return QStringLiteral("SELECT Layers.LayerID FROM Layers, LayerSchemeValues WHERE") + DifferingLayers();
 }
 
-QString UnknownLayersQuery()
+// The layers that scheme ?1 has other values for, or none.
+QString DifferingOrUnknownQuery()
 {
-    return QStringLiteral("SELECT LayerID FROM Layers WHERE NOT EXISTS (SELECT 1 FROM LayerSchemeValues"
-                          " WHERE SchemeID = ?1 AND LayerSchemeValues.LayerID = Layers.LayerID)");
+    return QStringLiteral("SELECT Layers.LayerID FROM Layers LEFT JOIN LayerSchemeValues"
+                          " ON LayerSchemeValues.SchemeID = ?1"
+                          " AND LayerSchemeValues.LayerID = Layers.LayerID"
+                          " WHERE (LayerSchemeValues.LayerID IS NULL OR ")
+        + SchemeColumns::Difference() + u')';
 }
 
-bool HasRow(SqliteLayerDatabase& database, const QString& query, qint32 schemeID)
-{
-    return !database.OpenQuery(query + QStringLiteral(" LIMIT 1"), {schemeID})->AtEOF();
-}
-
-QSet<qint32> LayersThatDiffer(SqliteLayerDatabase& database, qint32 schemeID)
+QSet<qint32> LayersOf(SqliteLayerDatabase& database, const QString& query, qint32 schemeID)
 {
     QSet<qint32> layerIDs;
-    const auto layers = database.OpenQuery(DifferingLayersQuery(), {schemeID});
+    const auto layers = database.OpenQuery(query, {schemeID});
     for (; !layers->AtEOF(); layers->MoveNext())
         layerIDs.insert(ToInt32(layers->Field("LayerID")));
     return layerIDs;
@@ -76,6 +75,11 @@ QString LayerSchemes::Current()
     return IsReadable() ? m_tables.CurrentName() : tr("Standard");
 }
 
+QString LayerSchemes::CurrentName()
+{
+    return m_tables.HaveSchemes() ? m_tables.CurrentName() : tr("Standard");
+}
+
 void LayerSchemes::Create(const QString& name)
 {
     StoreTransaction transaction(m_database);
@@ -91,15 +95,15 @@ void LayerSchemes::Create(const QString& name)
 void LayerSchemes::Save(const QString& name)
 {
     StoreTransaction transaction(m_database);
-    StoreValues(ExistingID(name));
+    StoreValues(IDOf(name));
     transaction.Commit();
 }
 
 QSet<qint32> LayerSchemes::Load(const QString& name)
 {
     StoreTransaction transaction(m_database);
-    const qint32 schemeID = ExistingID(name);
-    QSet<qint32> changed = LayersThatDiffer(m_database, schemeID);
+    const qint32 schemeID = IDOf(name);
+    QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(), schemeID);
     m_database.Execute(
         QStringLiteral("UPDATE Layers SET ") + SchemeColumns::Assignments()
             + QStringLiteral(" FROM LayerSchemeValues WHERE") + DifferingLayers(),
@@ -112,7 +116,7 @@ QSet<qint32> LayerSchemes::Load(const QString& name)
 void LayerSchemes::Delete(const QString& name)
 {
     StoreTransaction transaction(m_database);
-    const qint32 schemeID = ExistingID(name);
+    const qint32 schemeID = IDOf(name);
     if (m_tables.Names().size() == 1)
         Raise(HostError::LastScheme, tr("The last layer scheme cannot be deleted."));
     const bool wasCurrent = m_tables.CurrentName() == name;
@@ -122,13 +126,25 @@ void LayerSchemes::Delete(const QString& name)
     transaction.Commit();
 }
 
-bool LayerSchemes::DiffersFromCurrent()
+QSet<qint32> LayerSchemes::LayersThatDiffer()
 {
-    if (!IsReadable())
-        return false;
-    const qint32 schemeID = m_tables.IDOf(m_tables.CurrentName());
-    return HasRow(m_database, UnknownLayersQuery(), schemeID)
-        || HasRow(m_database, DifferingLayersQuery(), schemeID);
+    if (!m_tables.HaveSchemes())
+        return {};
+    return LayersOf(m_database, DifferingOrUnknownQuery(), CurrentID());
+}
+
+QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
+{
+    QSet<qint32> differing;
+    if (!m_tables.HaveSchemes())
+        return differing;
+    const qint32 schemeID = CurrentID();
+    const QString query = DifferingOrUnknownQuery() + QStringLiteral(" AND Layers.LayerID = ?2");
+    for (const qint32 layerID : layerIDs) {
+        if (!m_database.OpenQuery(query, {schemeID, layerID})->AtEOF())
+            differing.insert(layerID);
+    }
+    return differing;
 }
 
 bool LayerSchemes::IsReadable()
@@ -153,13 +169,18 @@ void LayerSchemes::MakeStandard()
     m_tables.MakeCurrent(schemeID);
 }
 
-qint32 LayerSchemes::ExistingID(const QString& name)
+qint32 LayerSchemes::IDOf(const QString& name)
 {
     MakeStandard();
     const qint32 schemeID = m_tables.IDOf(name);
     if (schemeID == SchemeTables::NoScheme)
         Raise(HostError::UnknownScheme, tr("There is no layer scheme named \"%1\".").arg(name));
     return schemeID;
+}
+
+qint32 LayerSchemes::CurrentID()
+{
+    return m_tables.IDOf(m_tables.CurrentName());
 }
 
 void LayerSchemes::StoreValues(qint32 schemeID)

@@ -33,6 +33,9 @@ public:
     /// The name of the current scheme; there always is one.
     QString Current();
 
+    /// As Current, but makes no scheme: for a mere look at a map.
+    QString CurrentName();
+
     /// Creates a scheme from the layers as they are and makes it current. Raises HostError::DuplicateScheme.
     void Create(const QString& name);
     /// Stores the layers as they are into the scheme. Raises HostError::UnknownScheme.
@@ -44,13 +47,19 @@ public:
     /// they are. Raises HostError::UnknownScheme, and HostError::LastScheme for the only one.
     void Delete(const QString& name);
 
-    /// True when a layer's values are not those of the current scheme, or the scheme does not know a layer.
-    bool DiffersFromCurrent();
+    /// The number of the scheme in the database's tables. Raises HostError::UnknownScheme.
+    qint32 IDOf(const QString& name);
+
+    /// The layers whose values are not those of the current scheme, or that it does not know; none in a
+    /// database without schemes, which stays so.
+    QSet<qint32> LayersThatDiffer();
+    /// Those of these layers, each sought by its ID.
+    QSet<qint32> LayersThatDiffer(const QSet<qint32>& layerIDs);
 
 private:
     bool IsReadable();
     void MakeStandard();
-    qint32 ExistingID(const QString& name);
+    qint32 CurrentID();
     void StoreValues(qint32 schemeID);
 
     SqliteLayerDatabase& m_database;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/SchemeColumns.h"
 
+#include "hostkit/StoredScale.h"
+
 #include <QStringList>
 
 #include <array>
+#include <string_view>
 
 namespace Orvane::SchemeColumns {
 
@@ -46,11 +49,28 @@ QString Joined(const QString& form, const QString& separator)
     return pieces.join(separator);
 }
 
+// What is compared of a column: both stored forms of "no limit" are one, as applying turns one into the
+// other.
+QString Compared(const char* table, const Column& column)
+{
+    const QString value = QLatin1String(table) + QLatin1String(column.name);
+    if (column.name != std::string_view("MaxVisScale"))
+        return value;
+    return QStringLiteral("CASE WHEN %1 >= %2 THEN 0 ELSE %1 END")
+        .arg(value)
+        .arg(qint64(StoredScale::NoMaximum));
+}
+
 } // namespace
 
 QString List()
 {
     return Joined(QStringLiteral("%1"), QStringLiteral(", "));
+}
+
+QString SavedList()
+{
+    return Joined(QStringLiteral("LayerSchemeValues.%1"), QStringLiteral(", "));
 }
 
 QString Assignments()
@@ -60,9 +80,12 @@ QString Assignments()
 
 QString Difference()
 {
-    return u'('
-        + Joined(QStringLiteral("Layers.%1 IS DISTINCT FROM LayerSchemeValues.%1"), QStringLiteral(" OR "))
-        + u')';
+    QStringList differences;
+    for (const Column& column : Columns) {
+        differences << QStringLiteral("%1 IS DISTINCT FROM %2")
+                           .arg(Compared("Layers.", column), Compared("LayerSchemeValues.", column));
+    }
+    return u'(' + differences.join(QStringLiteral(" OR ")) + u')';
 }
 
 QString Parameters(int first)
@@ -81,6 +104,11 @@ QString Definitions()
 const char* Name(int column)
 {
     return Columns.at(std::size_t(column)).name;
+}
+
+bool IsWhole(int column)
+{
+    return Columns.at(std::size_t(column)).type == std::string_view("INTEGER");
 }
 
 } // namespace Orvane::SchemeColumns

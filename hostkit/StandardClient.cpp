@@ -9,6 +9,9 @@
 #include "hostkit/LayerNames.h"
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/LayerSteps.h"
+#include "hostkit/SchemeDifferences.h"
+#include "hostkit/SchemeExchange.h"
+#include "hostkit/SchemeFile.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"
@@ -61,6 +64,21 @@ struct StandardClient::Parts {
         : names(database), factory(database, names), schemes(database),
           steps(database, names, windows, notifications)
     {
+        ListenToOwnSignals();
+    }
+
+    // Whoever changes layers tells it by these signals; first of all listeners, so that others may ask.
+    void ListenToOwnSignals()
+    {
+        const auto note = [this](qint32 layerID) { differences.Note({layerID}); };
+        QObject::connect(
+            &notifications, &HostNotifications::LayersChanged, &notifications,
+            [this](const QSet<qint32>& layerIDs) { differences.Note(layerIDs); });
+        QObject::connect(&notifications, &HostNotifications::LayerCreated, &notifications, note);
+        QObject::connect(&notifications, &HostNotifications::LayerDeleted, &notifications, note);
+        QObject::connect(&notifications, &HostNotifications::SchemesChanged, &notifications, [this] {
+            differences.Forget();
+        });
     }
 
     HostNotifications notifications;
@@ -71,6 +89,7 @@ struct StandardClient::Parts {
     LayerSchemes schemes;
     LayerSteps steps;
     LeftScheme leftScheme;
+    SchemeDifferences differences{schemes};
     QString startupFile;
     QSet<qint32> changedLayers; // since the last RedrawMap
 
@@ -131,9 +150,26 @@ void StandardClient::LoadSchemesFromStartup()
     m_parts->TellSchemes();
 }
 
-bool StandardClient::HasUnsavedSchemeChanges()
+qsizetype StandardClient::UnsavedSchemeChanges()
 {
-    return m_parts->schemes.DiffersFromCurrent();
+    return m_parts->differences.Count();
+}
+
+void StandardClient::ExportScheme(const QString& name, const QString& path)
+{
+    SchemeFile::Write(path, SchemeExchange::Export(m_database, name));
+}
+
+SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
+{
+    m_parts->schemes.Current(); // makes the tables, which no step undoes
+    SchemeImport report;
+    RecordStep([&] {
+        report = SchemeExchange::Import(m_database, scheme);
+        return tr("Import of the Scheme \"%1\"").arg(Short(scheme.name));
+    });
+    m_parts->TellSchemes();
+    return report;
 }
 
 void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
@@ -149,6 +185,7 @@ void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
 void StandardClient::InvalidateLayerNames()
 {
     m_parts->names.Invalidate();
+    m_parts->differences.Forget();
 }
 
 IShellServices* StandardClient::IStyleEditorClient_GetShellServices()
@@ -263,6 +300,7 @@ void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
     m_parts->TellSchemes();
     if (!changed.isEmpty())
         emit m_parts->notifications.LayersChanged(changed);
+    emit m_parts->notifications.SchemeLoaded(name);
 }
 
 void StandardClient::IStyleEditorClient_CreateScheme(const QString& name)

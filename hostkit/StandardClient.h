@@ -18,6 +18,8 @@ class SettingsStore;
 class SqliteLayerDatabase;
 class UndoHistory;
 struct LayerDeletion;
+struct SchemeDocument;
+struct SchemeImport;
 
 /// A ready-made host application object over a layer database: windows, settings, prompts, names, schemes,
 /// creating and deleting layers. Derive and override only what is your own:
@@ -62,11 +64,23 @@ public:
     /// Gives the map the schemes of the startup database; for a new map, once it has its layers.
     void LoadSchemesFromStartup();
     /// True when the layers differ from the saved values of the current scheme.
-    bool HasUnsavedSchemeChanges();
+    bool HasUnsavedSchemeChanges() { return UnsavedSchemeChanges() > 0; }
+    /// How many layers do, or are not known to it. Cheap after the first time: only layers that the signals
+    /// of Notifications() named since are compared.
+    qsizetype UnsavedSchemeChanges();
+
+    /// Writes the saved values of the scheme into a file, as SchemeFile.h says. Raises
+    /// HostError::UnknownScheme and SchemeFileUnwritable.
+    void ExportScheme(const QString& name, const QString& path);
+    /// Stores the scheme into the map, where it replaces one of its name, and reports what did not match. The
+    /// layers and the current scheme stay as they are. In one transaction.
+    SchemeImport ImportScheme(const SchemeDocument& scheme);
+
     /// Shows the listed names of these layers anew in every open editor: for a host whose LayerDisplayName
     /// depends on more than the name, when its answer for them is another one.
     void RefreshListedNames(const QSet<qint32>& layerIDs);
-    /// Forgets the layers' names; after layers were added or renamed without this object.
+    /// Forgets the layers' names, and which of them differ from the scheme; after layers were added or
+    /// changed without this object.
     void InvalidateLayerNames();
 
 protected:

@@ -6,13 +6,16 @@
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace Orvane::StartupSchemes {
 
 void Save(SqliteLayerDatabase& map, const QString& startupFile)
 {
     LayerSchemes(map).Current(); // makes the first scheme
+    QDir().mkpath(QFileInfo(startupFile).absolutePath());
     const auto startup = QFile::exists(startupFile) ? SqliteLayerDatabase::Open(startupFile)
                                                     : SqliteLayerDatabase::Create(startupFile);
     StoreTransaction transaction(*startup);

@@ -11,8 +11,8 @@ class SqliteLayerDatabase;
 /// matched by code and name, as LayerMatch.h says.
 namespace StartupSchemes {
 
-/// Writes all schemes of the map to the startup file, in one transaction. The file is made when it is
-/// missing; layers that it does not know are added; its schemes of other names stay.
+/// Writes all schemes of the map to the startup file, in one transaction. The file and its folder are
+/// made when they are missing; layers that it does not know are added; its schemes of other names stay.
 void Save(SqliteLayerDatabase& map, const QString& startupFile);
 
 /// Gives the map the schemes of the startup file, in one transaction; those of the same name are replaced.

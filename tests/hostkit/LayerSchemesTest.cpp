@@ -289,21 +289,48 @@ TEST_F(Schemes, ASaveThatFailsKeepsTheSavedValues)
     EXPECT_THAT(Hue(1), IsNumber(10));
 }
 
-TEST_F(Schemes, TellWhetherTheLayersDifferFromTheCurrentOne)
+TEST_F(Schemes, TellWhichLayersDifferFromTheCurrentOne)
 {
     AddLayers(2);
-    EXPECT_FALSE(m_schemes.DiffersFromCurrent());
+    m_schemes.Names();
+    EXPECT_TRUE(m_schemes.LayersThatDiffer().isEmpty());
     SetHue(2, 99);
-    EXPECT_TRUE(m_schemes.DiffersFromCurrent());
+    EXPECT_EQ(m_schemes.LayersThatDiffer(), QSet<qint32>{2});
+    EXPECT_EQ(m_schemes.LayersThatDiffer({1, 2, 7}), QSet<qint32>{2});
+    EXPECT_TRUE(m_schemes.LayersThatDiffer({1}).isEmpty());
     m_schemes.Save(Standard);
-    EXPECT_FALSE(m_schemes.DiffersFromCurrent());
+    EXPECT_TRUE(m_schemes.LayersThatDiffer().isEmpty());
 }
 
 TEST_F(Schemes, ALayerThatTheSchemeDoesNotKnowIsADifference)
 {
     m_schemes.Names();
     AddLayers(1);
-    EXPECT_TRUE(m_schemes.DiffersFromCurrent());
+    EXPECT_EQ(m_schemes.LayersThatDiffer(), QSet<qint32>{1});
+    EXPECT_EQ(m_schemes.LayersThatDiffer({1}), QSet<qint32>{1});
+}
+
+TEST_F(Schemes, TheTwoStoredFormsOfNoMaximumScaleAreNoDifference)
+{
+    AddLayers(1);
+    Set(1, "MaxVisScale", 2000000000);
+    m_schemes.Names();
+    Set(1, "MaxVisScale", 0);
+    EXPECT_TRUE(m_schemes.LayersThatDiffer().isEmpty());
+    Set(1, "MaxVisScale", 50000);
+    EXPECT_EQ(m_schemes.LayersThatDiffer(), QSet<qint32>{1});
+    Set(1, "MaxVisScale", Value::Null());
+    EXPECT_EQ(m_schemes.LayersThatDiffer(), QSet<qint32>{1});
+}
+
+TEST_F(Schemes, AMereLookMakesNone)
+{
+    AddLayers(1);
+    EXPECT_EQ(m_schemes.CurrentName(), Standard);
+    EXPECT_TRUE(m_schemes.LayersThatDiffer().isEmpty());
+    EXPECT_EQ(Rows(QStringLiteral("SELECT name FROM sqlite_master WHERE name = 'LayerSchemes'")), 0);
+    m_schemes.Create(Night);
+    EXPECT_EQ(m_schemes.CurrentName(), Night);
 }
 
 TEST_F(Schemes, AReadOnlyMapShowsTheStandardSchemeAndCannotSave)
@@ -315,7 +342,8 @@ TEST_F(Schemes, AReadOnlyMapShowsTheStandardSchemeAndCannotSave)
     LayerSchemes schemes(*database);
     EXPECT_THAT(schemes.Names(), ElementsAre(Standard));
     EXPECT_EQ(schemes.Current(), Standard);
-    EXPECT_FALSE(schemes.DiffersFromCurrent());
+    EXPECT_TRUE(schemes.LayersThatDiffer().isEmpty());
+    EXPECT_TRUE(schemes.LayersThatDiffer({1}).isEmpty());
     EXPECT_EQ(ErrorOf([&] { schemes.Save(Standard); }), int(ErrorNumber::DatabaseReadOnly));
 }
 
