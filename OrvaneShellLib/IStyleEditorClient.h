@@ -112,7 +112,8 @@ public:
     /// Asks the person for a text or a whole number, modally.
     PromptAnswer PromptText(const PromptRequest& request) { return IStyleEditorClient_PromptText(request); }
 
-    /// Creates a layer and returns its ID.
+    /// Creates a layer and returns its ID; 0, which no layer has, when the person gave up: then nothing
+    /// happens.
     qint32 CreateLayer() { return IStyleEditorClient_CreateLayer(); }
 
     /// Deletes the layer; the host asks first if it wants to. The layer may be there still afterwards.

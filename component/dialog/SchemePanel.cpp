@@ -2,6 +2,7 @@
 #include "component/dialog/SchemePanel.h"
 
 #include "component/dialog/BusyPointer.h"
+#include "component/dialog/FirstError.h"
 #include "component/entry/Component.h"
 #include "component/entry/EventGuard.h"
 #include "component/entry/MessageBoxes.h"
@@ -60,14 +61,10 @@ void SchemePanel::SwitchTo(const QString& name)
             ShowCurrent();
         return;
     }
-    try {
-        Load(name);
-    } catch (...) {
-        ShowCurrent();
-        throw;
-    }
-    ShowCurrent();
-    emit SchemeLoaded();
+    FirstError errors;
+    errors.Try([&] { Load(name); });
+    errors.Try([this] { ShowCurrent(); });
+    errors.Rethrow();
 }
 
 void SchemePanel::New()
@@ -80,8 +77,7 @@ void SchemePanel::New()
             return;
         const QString name = answer.text.trimmed();
         if (!name.isEmpty()) {
-            Client().CreateScheme(name);
-            Fill();
+            ChangeSchemes([&] { Client().CreateScheme(name); });
             return;
         }
         ShowMessageBox(
@@ -101,8 +97,10 @@ void SchemePanel::Revert()
     const QString name = m_widgets.cmbScheme->currentText();
     if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", Shown(name))))
         return;
-    Load(name);
-    emit SchemeLoaded();
+    FirstError errors;
+    errors.Try([&] { Load(name); });
+    errors.Try([this] { ShowCurrent(); });
+    errors.Rethrow();
 }
 
 void SchemePanel::Delete()
@@ -115,12 +113,12 @@ void SchemePanel::Delete()
     }
     if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", Shown(name))))
         return;
-    Load(Neighbour(name));
-    Client().DeleteScheme(name);
-    Fill();
+    ChangeSchemes([&] {
+        Load(Neighbour(name));
+        Client().DeleteScheme(name);
+    });
     if (m_widgets.cmbScheme->currentIndex() < 0)
         m_widgets.cmbScheme->setCurrentIndex(0);
-    emit SchemeLoaded();
 }
 
 void SchemePanel::SaveToStartup()
@@ -149,10 +147,22 @@ void SchemePanel::ShowCurrent()
     m_widgets.cmdDelete->setEnabled(isShown);
 }
 
+// The list shows the host's schemes afterwards, also when the change has failed half way.
+void SchemePanel::ChangeSchemes(const std::function<void()>& change)
+{
+    FirstError errors;
+    errors.Try(change);
+    errors.Try([this] { Fill(); });
+    errors.Rethrow();
+}
+
 void SchemePanel::Load(const QString& name)
 {
-    const BusyPointer busy;
-    Client().LoadScheme(name);
+    {
+        const BusyPointer busy;
+        Client().LoadScheme(name);
+    }
+    emit SchemeLoaded();
 }
 
 bool SchemePanel::Confirm(const QString& question) const

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 class QAbstractButton;
 class QComboBox;
 class QWidget;
@@ -48,6 +50,7 @@ signals:
 private:
     void Wire(QAbstractButton* button, void (SchemePanel::*action)());
     void ShowCurrent();
+    void ChangeSchemes(const std::function<void()>& change);
     void Load(const QString& name);
     bool Confirm(const QString& question) const;
     QString Neighbour(const QString& name) const;

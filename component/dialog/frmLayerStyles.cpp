@@ -270,8 +270,9 @@ void frmLayerStyles::ShowTab(ListTab tab)
 void frmLayerStyles::LoadList()
 {
     if (m_tab == ListTab::Schemes)
-        return;
-    m_parts->trees.EnsureLoaded(ListOf(m_tab));
+        m_parts->schemes.Fill();
+    else
+        m_parts->trees.EnsureLoaded(ListOf(m_tab));
 }
 
 void frmLayerStyles::OnDeleteAsked(qint32 layerID)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QTimer>
@@ -37,10 +38,16 @@ protected:
         return names;
     }
 
+    // Opens the list with the mouse and goes to the entry by keys.
     void Pick(const QString& name)
     {
-        List().setCurrentText(name);
-        emit List().textActivated(name);
+        QTest::mouseClick(&List(), Qt::LeftButton, {}, List().rect().center());
+        QAbstractItemView& entries = *List().view();
+        ASSERT_TRUE(entries.isVisible());
+        QTest::keyClick(&entries, Qt::Key_Home);
+        for (int row = List().findText(name); row > 0; --row)
+            QTest::keyClick(&entries, Qt::Key_Down);
+        QTest::keyClick(&entries, Qt::Key_Return);
     }
 
     /// The calls that change something.
@@ -213,6 +220,57 @@ TEST_F(Schemes, SavingToTheStartupAsksFirst)
     MessageBoxRobot person{BoxKey::Yes};
     Click("cmdSaveStartup");
     EXPECT_THAT(Deeds(), ElementsAre("SaveSchemesToStartup()"));
+}
+
+TEST_F(Schemes, KeysSwitchToo)
+{
+    MessageBoxRobot person{BoxKey::Yes};
+    List().setFocus();
+    QTest::keyClick(&List(), Qt::Key_Down);
+    EXPECT_TRUE(person.Only().text.contains("'Print'"));
+    EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)"));
+}
+
+TEST_F(Schemes, FillingAsksAndCallsNothing)
+{
+    MessageBoxRobot nobody{};
+    ClickTab(2);
+    ClickTab(3);
+    EXPECT_THAT(Deeds(), IsEmpty());
+}
+
+TEST_F(Schemes, ThoseThatTheHostHasMeanwhileAreListedWhenTheTabIsLookedAtAgain)
+{
+    ClickTab(2);
+    host.schemeNames = {"Day", "Dusk"};
+    host.currentScheme = "Dusk";
+    ClickTab(3);
+    EXPECT_THAT(Names(), ElementsAre("Day", "Dusk"));
+    EXPECT_EQ(List().currentText(), "Dusk");
+}
+
+TEST_F(Schemes, AnyTextIsAName)
+{
+    for (const QString& name :
+         {QString("O'Neill's \"best\" & ^1"), QString::fromUtf8("🗺 карта"), QString::fromUtf8("שלום"),
+          QString("a\nb"), QString("<b>bold</b>"), QString(10000, 'x')}) {
+        host.promptAnswers = {{true, name}};
+        Click("cmdNew");
+        EXPECT_THAT(Names(), Contains(name));
+        MessageBoxRobot person{BoxKey::Yes};
+        Pick(name == host.currentScheme ? QString("Day") : name);
+        EXPECT_EQ(person.Only().format, Qt::PlainText);
+        EXPECT_LT(person.Only().text.size(), 200);
+        EXPECT_EQ(List().currentText(), host.currentScheme);
+    }
+}
+
+TEST_F(Schemes, AVeryLongNameLeavesTheWindowsWidth)
+{
+    const int before = Form()->minimumSizeHint().width();
+    host.promptAnswers = {{true, QString(10000, 'x')}};
+    Click("cmdNew");
+    EXPECT_EQ(Form()->minimumSizeHint().width(), before);
 }
 
 TEST_F(Schemes, ACurrentOneThatIsNotListedOffersNothingToSave)

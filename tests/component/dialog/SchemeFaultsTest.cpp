@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/EditorFixture.h"
+
+#include <OrvaneShellLib/ForwardingClient.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QtTest>
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::ElementsAre;
+
+const QString Fault = QStringLiteral("The host is out of order.");
+
+// Raises in the scheme call that is named, before the call is passed on.
+class FaultySchemes : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+    QString faulty;
+
+private:
+    void Enter(const char* member) const
+    {
+        if (faulty == QLatin1String(member))
+            throw RunTimeError(10001, Fault);
+    }
+
+    void IStyleEditorClient_LoadScheme(const QString& name) override
+    {
+        Enter("LoadScheme");
+        ForwardingClient::IStyleEditorClient_LoadScheme(name);
+    }
+    void IStyleEditorClient_CreateScheme(const QString& name) override
+    {
+        Enter("CreateScheme");
+        ForwardingClient::IStyleEditorClient_CreateScheme(name);
+    }
+    void IStyleEditorClient_DeleteScheme(const QString& name) override
+    {
+        Enter("DeleteScheme");
+        ForwardingClient::IStyleEditorClient_DeleteScheme(name);
+    }
+    void IStyleEditorClient_SaveSchemesToStartup() override
+    {
+        Enter("SaveSchemesToStartup");
+        ForwardingClient::IStyleEditorClient_SaveSchemesToStartup();
+    }
+};
+
+class SchemeFaults : public EditorFixture
+{
+protected:
+    void SetUp() override
+    {
+        AddTown();
+        host.schemeNames = {"Day", "Night", "Print"};
+        host.currentScheme = "Night";
+        UseClient(m_client);
+        Open();
+        ClickTab(3);
+    }
+
+    QComboBox& List() { return Find<QComboBox>("cmbScheme"); }
+
+    void Pick(const QString& name)
+    {
+        QTest::mouseClick(&List(), Qt::LeftButton, {}, List().rect().center());
+        QAbstractItemView& entries = *List().view();
+        ASSERT_TRUE(entries.isVisible());
+        QTest::keyClick(&entries, Qt::Key_Home);
+        for (int row = List().findText(name); row > 0; --row)
+            QTest::keyClick(&entries, Qt::Key_Down);
+        QTest::keyClick(&entries, Qt::Key_Return);
+    }
+
+    FaultySchemes m_client{host};
+};
+
+TEST_F(SchemeFaults, ASwitchThatFailsShowsTheHostsSchemeAndRestoresThePointer)
+{
+    m_client.faulty = "LoadScheme";
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    Pick("Print");
+    ASSERT_EQ(person.Boxes().size(), 2u);
+    EXPECT_TRUE(person.Boxes()[1].text.contains(Fault));
+    EXPECT_EQ(List().currentText(), "Night");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SchemeFaults, ARevertThatFailsRestoresThePointer)
+{
+    m_client.faulty = "LoadScheme";
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    Click("cmdRevert");
+    EXPECT_EQ(person.Boxes().size(), 2u);
+    EXPECT_EQ(List().currentText(), "Night");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SchemeFaults, ADeletionThatFailsHalfWayShowsTheHostsScheme)
+{
+    m_client.faulty = "DeleteScheme";
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    Click("cmdDelete");
+    EXPECT_TRUE(person.Boxes().back().text.contains(Fault));
+    EXPECT_EQ(host.currentScheme, "Print");
+    EXPECT_EQ(List().currentText(), "Print");
+    EXPECT_EQ(List().count(), 3);
+}
+
+TEST_F(SchemeFaults, ALayerChangedByADeletionThatFailsIsReadAnew)
+{
+    host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
+    m_client.faulty = "DeleteScheme";
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    Click("cmdDelete");
+    ClickTab(2);
+    ClickLayer("Roads");
+    EXPECT_EQ(PressedModes(), 4);
+}
+
+TEST_F(SchemeFaults, ASchemeThatCannotBeCreatedIsNotListed)
+{
+    m_client.faulty = "CreateScheme";
+    host.promptAnswers = {{true, "Winter"}};
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdNew");
+    EXPECT_EQ(List().findText("Winter"), -1);
+    EXPECT_EQ(List().currentText(), "Night");
+}
+
+TEST_F(SchemeFaults, AStartupDatabaseThatCannotBeWrittenIsTold)
+{
+    m_client.faulty = "SaveSchemesToStartup";
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    Click("cmdSaveStartup");
+    EXPECT_TRUE(person.Boxes().back().text.contains(Fault));
+}
+
+} // namespace
+
+} // namespace Orvane::Testing
