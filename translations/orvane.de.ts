@@ -56,6 +56,10 @@
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>A newer program has written it.</source>
+        <translation>Ein neueres Programm hat sie geschrieben.</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>Wert &amp;kopieren</translation>
     </message>
@@ -104,6 +108,38 @@
         <translation>&amp;Abfragen</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>Import des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>Sie enthält keine Layer.</translation>
+    </message>
+    <message>
+        <source>It is no JSON text at byte %1.</source>
+        <translation>Sie ist bei Byte %1 kein JSON-Text.</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>Sie ist kein Layerschema.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Sie ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It names no scheme.</source>
+        <translation>Sie nennt kein Schema.</translation>
+    </message>
+    <message>
+        <source>It names no version.</source>
+        <translation>Sie nennt keine Version.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>&amp;Objekt verschieben</translation>
     </message>
@@ -114,6 +150,18 @@
     <message>
         <source>&amp;Select</source>
         <translation>Au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
+        <translation>Der Layer „%1“ enthält als „%2“ keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>Die Schemadatei „%1“ kann nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>Die Schemadatei „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>&amp;Tools</source>

@@ -56,6 +56,10 @@
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>A newer program has written it.</source>
+        <translation>Il a été écrit par un programme plus récent.</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>&amp;Copier la valeur</translation>
     </message>
@@ -104,6 +108,38 @@
         <translation>&amp;Identifier</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>Importation du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>Il ne contient aucune couche.</translation>
+    </message>
+    <message>
+        <source>It is no JSON text at byte %1.</source>
+        <translation>Ce n’est pas un texte JSON à l’octet %1.</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>Ce n’est pas un schéma de couches.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Il est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>It names no scheme.</source>
+        <translation>Il ne nomme aucun schéma.</translation>
+    </message>
+    <message>
+        <source>It names no version.</source>
+        <translation>Il n’indique pas de version.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>La couche %1 n’a pas de « %2 » valide.</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>Déplacer un &amp;objet</translation>
     </message>
@@ -114,6 +150,18 @@
     <message>
         <source>&amp;Select</source>
         <translation>&amp;Sélectionner</translation>
+    </message>
+    <message>
+        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
+        <translation>La couche « %1 » ne contient pas de nombre pour « %2 ».</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>Le fichier de schéma « %1 » ne peut pas être lu. %2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>Le fichier de schéma « %1 » ne peut pas être écrit : %2.</translation>
     </message>
     <message>
         <source>&amp;Tools</source>

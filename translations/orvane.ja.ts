@@ -56,6 +56,10 @@
         <translation>他%1個</translation>
     </message>
     <message>
+        <source>A newer program has written it.</source>
+        <translation>より新しいプログラムで書かれています。</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>値をコピー(&amp;C)</translation>
     </message>
@@ -104,6 +108,38 @@
         <translation>属性照会(&amp;I)</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の読み込み</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>レイヤがありません。</translation>
+    </message>
+    <message>
+        <source>It is no JSON text at byte %1.</source>
+        <translation>%1 バイト目で JSON テキストではありません。</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>レイヤスキームではありません。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>大きすぎます。</translation>
+    </message>
+    <message>
+        <source>It names no scheme.</source>
+        <translation>スキームの名前がありません。</translation>
+    </message>
+    <message>
+        <source>It names no version.</source>
+        <translation>バージョンが書かれていません。</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>レイヤ %1 の「%2」が正しくありません。</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>地物を移動(&amp;M)</translation>
     </message>
@@ -114,6 +150,18 @@
     <message>
         <source>&amp;Select</source>
         <translation>選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
+        <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>スキームファイル「%1」を読み込めません。%2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>スキームファイル「%1」に書き込めません: %2。</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
