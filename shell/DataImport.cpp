@@ -49,6 +49,8 @@ int PriorityOf(FeatureKind kind)
     return 170;
 }
 
+} // namespace
+
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 {
     const Colours& colours = Cycle[number % Cycle.size()];
@@ -62,8 +64,6 @@ NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
     layer.ogrLayer = found.name;
     return layer;
 }
-
-} // namespace
 
 FoundData LookInto(const QStringList& paths, Progress& progress)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/MapDocument.h"
 #include "shell/data/DataSource.h"
 
 #include <QString>
@@ -10,7 +11,6 @@
 
 namespace Orvane {
 
-class MapDocument;
 class Progress;
 
 /// What a look into files found.
@@ -25,6 +25,10 @@ struct FoundData {
 
 /// Looks into files without reading their features; for any thread. Raises Cancelled.
 FoundData LookInto(const QStringList& paths, Progress& progress);
+
+/// A new layer with the data of a source's layer, in the colours that the number gives; points over lines
+/// over areas.
+NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
 
 /// Adds what was found to the map, a group for each file and a layer for each of its layers, each in another
 /// colour, in one transaction. The first data decide the map's coordinate system. Errors are those of the

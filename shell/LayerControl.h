@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/PseudoFilter.h"
+#include <QString>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace Orvane {
 
@@ -11,11 +13,12 @@ class CallTrace;
 class IStyleEditor;
 class IStyleEditorClient;
 class IStyleEditorLibrary;
+class IStyleFilter;
 class StyleEditorPlugin;
 class TracingLibrary;
 
-/// The layer control of the shell: loads the component when it is first asked for, and shows its one editor,
-/// which has the ID "Main".
+/// The layer control of the shell: loads the component when it is first asked for, and shows its editors: the
+/// one on all layers, which has the ID "Main", and others of other IDs and filters.
 ///
 /// Raises what loading the component raises, and what the component passes on.
 class LayerControl
@@ -23,7 +26,7 @@ class LayerControl
 public:
     /// trace: not owned; nullptr for none.
     explicit LayerControl(CallTrace* trace = nullptr);
-    /// Ends the editor without applying, and unloads the component. The client must still be alive.
+    /// Ends the editors without applying, and unloads the component. The client must still be alive.
     ~LayerControl();
     LayerControl(const LayerControl&) = delete;
     LayerControl& operator=(const LayerControl&) = delete;
@@ -31,21 +34,38 @@ public:
     /// The client that the next editor works with; not owned. Only while no editor is open.
     void SetClient(IStyleEditorClient* client);
 
-    /// Opens the editor; does nothing when it is shown.
+    /// Opens the editor on all layers; does nothing when it is shown.
     void Show();
-    /// Closes the editor, which asks about edits that were not applied. False when it stays open.
+    /// Opens an editor of that ID whose flat list shows what the filter lets through; an editor that is shown
+    /// gets the new filter and keeps its edits.
+    void Show(const QString& editorID, std::shared_ptr<const IStyleFilter> filter);
+    /// Closes all editors, each of which asks about edits that were not applied. False when one stays open.
     bool Close();
+    /// Closes one editor, as above; true also when there is none of that ID.
+    bool Close(const QString& editorID);
+    /// True when an editor is shown.
     bool IsShown() const;
+    bool IsShown(const QString& editorID) const;
+
+    /// Acts while no editor is open, and opens again those that were, also when the act raises. False,
+    /// without having acted, when one of them stays open.
+    bool WithEditorsClosed(const std::function<void()>& act);
 
 private:
-    IStyleEditor* Editor() const;
-    IStyleEditor* NewEditor();
+    struct Entry {
+        QString editorID;
+        std::shared_ptr<const IStyleFilter> filter;
+    };
+
+    IStyleEditor* Editor(const QString& editorID) const;
+    IStyleEditor* NewEditor(const Entry& entry);
+    std::vector<Entry> Shown() const;
     void Load();
 
-    const PseudoFilter m_filter;
     CallTrace* m_trace;
     IStyleEditorClient* m_client = nullptr;
     IStyleEditorClient* m_initialisedWith = nullptr;
+    std::vector<Entry> m_entries; // of all editors that were ever opened; filters outlive the editors
     std::unique_ptr<StyleEditorPlugin> m_plugin;
     std::unique_ptr<TracingLibrary> m_tracing;
     IStyleEditorLibrary* m_library = nullptr; // one of the two above

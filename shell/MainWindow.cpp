@@ -13,6 +13,8 @@
 #include "shell/RenderingActions.h"
 #include "shell/RoundedScale.h"
 #include "shell/RunWithProgress.h"
+#include "shell/SchemeActions.h"
+#include "shell/ThemeActions.h"
 #include "shell/drawing/MapCanvas.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
@@ -80,6 +82,8 @@ MainWindow::MainWindow(CallTrace* trace)
         *m_ui->menuFile, m_ui->actOpenData, *this, [this]() -> MapSession& { return *m_session; });
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
+    m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
+    m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
@@ -116,26 +120,26 @@ void MainWindow::AddData(const QStringList& paths)
     FoundData found;
     RunWithProgress(
         this, tr("Opening map data"), [&](Progress& progress) { found = LookInto(paths, progress); });
-    const bool controlled = m_layerControl.IsShown();
-    if (!m_layerControl.Close())
-        return;
-    const bool first = !Document().HasLayers();
-    m_session->Shell().RecordStep([&] {
-        AddToMap(Document(), found);
-        return tr("Opening of Map Data");
+    const bool added = m_layerControl.WithEditorsClosed([&] {
+        const bool first = !Document().HasLayers();
+        m_session->Shell().RecordStep([&] {
+            AddToMap(Document(), found);
+            return tr("Opening of Map Data");
+        });
+        if (first)
+            m_session->BeginSchemes();
+        ReadMap();
+        if (first)
+            Canvas().ZoomToAll();
     });
-    ReadMap();
-    if (first)
-        Canvas().ZoomToAll();
-    if (controlled)
-        m_layerControl.Show();
-    m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
+    if (added)
+        m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
 }
 
 void MainWindow::ShowLayerControl()
 {
     m_layerControl.Show();
-    m_session->Shell().RaiseEditor();
+    m_session->Shell().RaiseEditor(QStringLiteral("Main"));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -288,6 +292,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     m_edits->Follow(m_session->Shell().History());
     m_data->Follow(*m_session);
     m_tools->Use(*m_session);
+    m_schemes->Use(*m_session);
+    m_themes->Use(*m_session);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

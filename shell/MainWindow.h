@@ -26,6 +26,8 @@ class MapSession;
 class RenderingActions;
 class RecentMapsMenu;
 class ToolActions;
+class SchemeActions;
+class ThemeActions;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -53,6 +55,7 @@ public:
 
     MapCanvas& Canvas();
     MapDocument& Document();
+    MapSession& Session() { return *m_session; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -83,6 +86,8 @@ private:
     CallTrace* m_trace;
     std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<ToolActions> m_tools;
+    std::unique_ptr<SchemeActions> m_schemes;
+    std::unique_ptr<ThemeActions> m_themes;
     std::unique_ptr<MapSession> m_session;
     std::unique_ptr<DataActions> m_data;
     std::unique_ptr<RecentMapsMenu> m_recent;

@@ -2,7 +2,10 @@
 #include "shell/MapSession.h"
 
 #include "hostkit/HostNotifications.h"
+#include "hostkit/LayerSchemes.h"
+#include "hostkit/StartupSchemes.h"
 #include "shell/Guard.h"
+#include "shell/LayerCreation.h"
 #include "shell/MapDocument.h"
 #include "shell/RunWithProgress.h"
 #include "shell/data/CoordinateSystems.h"
@@ -13,6 +16,9 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QDir>
+#include <QStandardPaths>
+
 #include <chrono>
 
 namespace Orvane {
@@ -21,6 +27,12 @@ namespace {
 
 constexpr double MillimetresPerInch = 25.4;
 constexpr std::chrono::milliseconds MarkDelay{150};
+
+QString StartupFile()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return folder.filePath(QStringLiteral("startup.orvane"));
+}
 
 } // namespace
 
@@ -32,6 +44,9 @@ MapSession::MapSession(
 {
     if (trace)
         m_traced = std::make_unique<TracingClient>(m_client, *trace);
+    m_client.SetStartupFile(StartupFile());
+    m_client.SetLayerMaker(
+        [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
     Connect();
 }
 
@@ -43,6 +58,15 @@ MapSession::~MapSession()
 IStyleEditorClient& MapSession::Client()
 {
     return m_traced ? static_cast<IStyleEditorClient&>(*m_traced) : m_client;
+}
+
+// No step of its own: undoing the data's coming takes the values with it.
+void MapSession::BeginSchemes()
+{
+    StartupSchemes::Load(m_document->Database(), StartupFile());
+    LayerSchemes schemes(m_document->Database());
+    schemes.Load(schemes.Current());
+    schemes.Save(schemes.Current());
 }
 
 QString MapSession::ReadAndShow()
@@ -58,6 +82,7 @@ QString MapSession::ReadAndShow()
         });
     m_layers.TakeFeatures(contents);
     Show();
+    emit LayersRead();
     QStringList problems = {contents.FailureText(), OpenBackdrop()};
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));

@@ -40,6 +40,11 @@ public:
     /// What to hand to the component: the client, traced when there is a trace.
     IStyleEditorClient& Client();
 
+    /// Begins the schemes of a map that has its first layers: those of the startup database, whose current
+    /// one the layers follow as far as it knows them, or else one of the layers as they are. Before
+    /// ReadAndShow.
+    void BeginSchemes();
+
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database.
     QString ReadAndShow();
@@ -57,6 +62,8 @@ signals:
     void MapFileGone();
     /// Data that were shown cannot be read any more.
     void DataFailed(const QString& reason);
+    /// All layers were read anew.
+    void LayersRead();
 
 private:
     void Connect();

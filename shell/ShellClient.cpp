@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/ShellClient.h"
 
+#include "hostkit/HostNotifications.h"
 #include "shell/LayerStates.h"
 #include "shell/drawing/RendererStyles.h"
+
+#include <OrvaneShellLib/IStyleEditorForm.h>
 
 #include <QScreen>
 
@@ -11,9 +14,10 @@ namespace Orvane {
 namespace {
 
 constexpr int Gap = 8; // pixels
+constexpr int Step = 28; // pixels between the windows of two editors
 
 // A window that was never shown has no frame yet; its frame will be like the main window's.
-void PlaceBeside(QWidget& form, const QWidget& mainWindow)
+void PlaceBeside(QWidget& form, const QWidget& mainWindow, int number)
 {
     const QRect screen = mainWindow.screen()->availableGeometry();
     const QRect frame = mainWindow.frameGeometry();
@@ -21,8 +25,14 @@ void PlaceBeside(QWidget& form, const QWidget& mainWindow)
     const int rightmost = screen.right() - size.width() - Gap;
     const int lowest = screen.bottom() - size.height();
     form.move(
-        qMax(screen.left(), qMin(frame.right() + Gap, rightmost)),
-        qMax(screen.top(), qMin(frame.top(), lowest)));
+        qMax(screen.left(), qMin(frame.right() + Gap, rightmost) - number * Step),
+        qMax(screen.top(), qMin(frame.top() + number * Step, lowest)));
+}
+
+QString EditorIDOf(QWidget* form)
+{
+    const auto* editor = dynamic_cast<IStyleEditorForm*>(form);
+    return editor ? editor->EditorID() : QString();
 }
 
 } // namespace
@@ -34,18 +44,50 @@ ShellClient::ShellClient(
     SetMainWindow(&mainWindow);
 }
 
-void ShellClient::RaiseEditor()
+void ShellClient::RaiseEditor(const QString& editorID)
 {
-    if (!m_editor)
+    const QPointer<QWidget> form = m_editors.value(editorID);
+    if (!form)
         return;
-    m_editor->raise();
-    m_editor->activateWindow();
+    form->raise();
+    form->activateWindow();
+}
+
+void ShellClient::SetThemeNames(std::function<QString(const QString& editorID)> nameOf)
+{
+    m_themeNameOf = std::move(nameOf);
+}
+
+void ShellClient::SetLayerMaker(std::function<qint32(QWidget* owner)> make)
+{
+    m_makeLayer = std::move(make);
+}
+
+qint32 ShellClient::IStyleEditorClient_CreateLayer()
+{
+    if (!m_makeLayer)
+        return StandardClient::IStyleEditorClient_CreateLayer();
+    QWidget* owner = DialogParent();
+    const QString editorID = EditorIDOf(owner);
+    const qint32 layerID = m_makeLayer(owner);
+    if (layerID != 0) {
+        InvalidateLayerNames();
+        m_creatingEditor = editorID;
+        emit Notifications().LayerCreated(layerID);
+        m_creatingEditor.clear();
+    }
+    return layerID;
 }
 
 void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 {
-    m_editor = form;
-    PlaceBeside(*form, m_mainWindow);
+    const QString editorID = EditorIDOf(form);
+    const auto place = m_places.constFind(editorID);
+    if (place != m_places.constEnd())
+        form->move(*place);
+    else
+        PlaceBeside(*form, m_mainWindow, int(m_editors.size()));
+    m_editors.insert(editorID, form);
     StandardClient::IStyleEditorClient_ShowEditor(form);
 }
 
@@ -57,6 +99,19 @@ QString ShellClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
 std::vector<RendererStyle> ShellClient::IStyleEditorClient_RendererStyles() const
 {
     return RendererStyles::Offered();
+}
+
+void ShellClient::IStyleEditorClient_EditorClosed(QWidget* form)
+{
+    const QString editorID = EditorIDOf(form);
+    if (m_editors.remove(editorID))
+        m_places.insert(editorID, form->pos());
+    StandardClient::IStyleEditorClient_EditorClosed(form);
+}
+
+QString ShellClient::IStyleEditorClient_ThemeName(QWidget* form) const
+{
+    return m_themeNameOf ? m_themeNameOf(EditorIDOf(form)) : QString();
 }
 
 } // namespace Orvane

@@ -56,12 +56,52 @@
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>A layer from map &amp;data</source>
+        <translation>Layer aus &amp;Kartendaten</translation>
+    </message>
+    <message>
         <source>A newer program has written it.</source>
         <translation>Ein neueres Programm hat sie geschrieben.</translation>
     </message>
     <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>&amp;Leerer Layer</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>Du&amp;rchsuchen...</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>Wert &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>Da&amp;tendatei:</translation>
+    </message>
+    <message>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Theme</source>
+        <translation>Thema &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>Thema löschen</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -96,8 +136,36 @@
         <translation>%1 - Orvane</translation>
     </message>
     <message>
+        <source>Export Scheme</source>
+        <translation>Schema exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export Scheme...</source>
+        <translation>Schema &amp;exportieren...</translation>
+    </message>
+    <message>
         <source>&amp;Find Missing Data...</source>
         <translation>Fehlende Daten s&amp;uchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Geometry:</source>
+        <translation>&amp;Geometrie:</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>GeoPackage-&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackages (*.gpkg)</translation>
+    </message>
+    <message>
+        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
+        <translation>Sollen die Layer die Werte erhalten, die im Schema „%1“ gespeichert sind?</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -108,8 +176,20 @@
         <translation>&amp;Abfragen</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
-        <translation>Import des Schemas „%1“</translation>
+        <source>Import Scheme</source>
+        <translation>Schema importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Import Scheme...</source>
+        <translation>Schema &amp;importieren...</translation>
+    </message>
+    <message>
+        <source>In the file, not in the map:</source>
+        <translation>In der Datei, nicht in der Karte:</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>In der Karte, nicht in der Datei:</translation>
     </message>
     <message>
         <source>It holds no layers.</source>
@@ -136,24 +216,160 @@
         <translation>Sie nennt keine Version.</translation>
     </message>
     <message>
+        <source>&amp;Keep Layers</source>
+        <translation>Layer be&amp;halten</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>Layerschemata (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>Layerschemata (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>Layer weichen vom Schema „%1“ ab. Soll es vor dem Wechsel zu „%2“ gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>Layer der Datei, die diese Karte nicht hat: %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>Layer dieser Karte, die die Datei nicht hat und die ihre Werte behalten: %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>Layer, die vom Schema „%1“ abweichen: %2</translation>
+    </message>
+    <message>
+        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
+        <translation>Layer, die das Schema „%1“ nicht kennt und so gelassen hat, wie sie sind: %2</translation>
+    </message>
+    <message>
+        <source>Layers with values: %1</source>
+        <translation>Layer mit Werten: %1</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>Kartendaten</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
         <translation>&amp;Objekt verschieben</translation>
     </message>
     <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>Neuer Layer</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>Neues Thema</translation>
+    </message>
+    <message>
+        <source>&amp;New Theme from Visible Layers...</source>
+        <translation>&amp;Neues Thema aus sichtbaren Layern...</translation>
+    </message>
+    <message>
+        <source>No layer can be made in the file &quot;%1&quot;.</source>
+        <translation>In der Datei „%1“ kann kein Layer angelegt werden.</translation>
+    </message>
+    <message>
+        <source>No layer of this map is visible.</source>
+        <translation>Kein Layer dieser Karte ist sichtbar.</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>Noch keine Themen</translation>
+    </message>
+    <message>
         <source>&amp;Pan and Zoom</source>
         <translation>&amp;Verschieben und Zoomen</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>Bitte geben Sie einen Namen ein, oder brechen Sie ab.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Revert Scheme</source>
+        <translation>Zum gespeicherten Schema zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Revert to Saved Scheme</source>
+        <translation>Zum gespeicherten Schema &amp;zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme</source>
+        <translation>Schema &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save Scheme</source>
+        <translation>Schema speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme &quot;%1&quot;</source>
+        <translation>Schema „%1“ &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
+        <translation>Layer so, wie sie sind, im Schema „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>Schema: %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>Schema: %1 *</translation>
+    </message>
+    <message>
+        <source>&amp;Schemes</source>
+        <translation>&amp;Schemata</translation>
     </message>
     <message>
         <source>&amp;Select</source>
         <translation>Au&amp;swählen</translation>
     </message>
     <message>
+        <source>Switch Scheme</source>
+        <translation>Schema wechseln</translation>
+    </message>
+    <message>
+        <source>S&amp;witch to It</source>
+        <translation>&amp;Dorthin wechseln</translation>
+    </message>
+    <message>
         <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
         <translation>Der Layer „%1“ enthält als „%2“ keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
+        <translation>Die Layer sind so, wie sie im Schema „%1“ gespeichert wurden.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>Das Schema „%1“ wurde exportiert.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>Das Schema „%1“ wurde importiert.</translation>
     </message>
     <message>
         <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
@@ -162,6 +378,18 @@
     <message>
         <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
         <translation>Die Schemadatei „%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation>&amp;Themen</translation>
+    </message>
+    <message>
+        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
+        <translation>Es gibt bereits ein Schema „%1“. Soll es durch das der Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
+        <translation>Es gibt bereits ein Thema „%1“. Soll es die jetzt sichtbaren Layer erhalten?</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -376,6 +604,10 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>Import des Schemas „%1“</translation>
+    </message>
+    <message>
         <source>It leaves its groups: %1.</source>
         <translation>Er verlässt seine Gruppen: %1.</translation>
     </message>
@@ -560,6 +792,10 @@
         <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>Jetzt &amp;anwenden</translation>
+    </message>
+    <message>
         <source>Value</source>
         <translation>Wert</translation>
     </message>
@@ -589,7 +825,7 @@
     </message>
     <message>
         <source>&amp;Layer:</source>
-        <translation>&amp;Layer:</translation>
+        <translation>La&amp;yer:</translation>
     </message>
     <message>
         <source>None</source>

@@ -56,12 +56,52 @@
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>A layer from map &amp;data</source>
+        <translation>Une couche de &amp;données cartographiques</translation>
+    </message>
+    <message>
         <source>A newer program has written it.</source>
         <translation>Il a été écrit par un programme plus récent.</translation>
     </message>
     <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>Une couche &amp;vide</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Surfaces</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>Pa&amp;rcourir...</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>Par&amp;courir...</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>&amp;Copier la valeur</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>F&amp;ichier de données :</translation>
+    </message>
+    <message>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Theme</source>
+        <translation>&amp;Supprimer un thème</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>Supprimer un thème</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -96,8 +136,36 @@
         <translation>%1 - Orvane</translation>
     </message>
     <message>
+        <source>Export Scheme</source>
+        <translation>Exporter le schéma</translation>
+    </message>
+    <message>
+        <source>&amp;Export Scheme...</source>
+        <translation>E&amp;xporter le schéma...</translation>
+    </message>
+    <message>
         <source>&amp;Find Missing Data...</source>
         <translation>Recherc&amp;her les données manquantes...</translation>
+    </message>
+    <message>
+        <source>&amp;Geometry:</source>
+        <translation>&amp;Géométrie :</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>&amp;Fichier GeoPackage :</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackages (*.gpkg)</translation>
+    </message>
+    <message>
+        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
+        <translation>Donner aux couches les valeurs enregistrées dans le schéma « %1 » ?</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -108,8 +176,20 @@
         <translation>&amp;Identifier</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
-        <translation>Importation du schéma « %1 »</translation>
+        <source>Import Scheme</source>
+        <translation>Importer un schéma</translation>
+    </message>
+    <message>
+        <source>&amp;Import Scheme...</source>
+        <translation>&amp;Importer un schéma...</translation>
+    </message>
+    <message>
+        <source>In the file, not in the map:</source>
+        <translation>Dans le fichier, pas dans la carte :</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>Dans la carte, pas dans le fichier :</translation>
     </message>
     <message>
         <source>It holds no layers.</source>
@@ -136,24 +216,160 @@
         <translation>Il n’indique pas de version.</translation>
     </message>
     <message>
+        <source>&amp;Keep Layers</source>
+        <translation>&amp;Garder les couches</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>La couche %1 n’a pas de « %2 » valide.</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>Schémas de couches (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>Schémas de couches (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>Des couches diffèrent du schéma « %1 ». L’enregistrer avant de passer à « %2 » ?</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>Couches du fichier absentes de cette carte : %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>Couches de cette carte absentes du fichier, qui gardent leurs valeurs : %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>Couches qui diffèrent du schéma « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
+        <translation>Couches que le schéma « %1 » ne connaît pas et a laissées telles quelles : %2</translation>
+    </message>
+    <message>
+        <source>Layers with values: %1</source>
+        <translation>Couches avec des valeurs : %1</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>Données cartographiques</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
         <translation>Déplacer un &amp;objet</translation>
     </message>
     <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>Nouvelle couche</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>Nouveau thème</translation>
+    </message>
+    <message>
+        <source>&amp;New Theme from Visible Layers...</source>
+        <translation>&amp;Nouveau thème à partir des couches visibles...</translation>
+    </message>
+    <message>
+        <source>No layer can be made in the file &quot;%1&quot;.</source>
+        <translation>Aucune couche ne peut être créée dans le fichier « %1 ».</translation>
+    </message>
+    <message>
+        <source>No layer of this map is visible.</source>
+        <translation>Aucune couche de cette carte n’est visible.</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>Aucun thème pour l’instant</translation>
+    </message>
+    <message>
         <source>&amp;Pan and Zoom</source>
         <translation>&amp;Déplacer et zoomer</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>Veuillez saisir un nom, ou annulez.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Revert Scheme</source>
+        <translation>Revenir au schéma enregistré</translation>
+    </message>
+    <message>
+        <source>&amp;Revert to Saved Scheme</source>
+        <translation>&amp;Revenir au schéma enregistré</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme</source>
+        <translation>&amp;Enregistrer le schéma</translation>
+    </message>
+    <message>
+        <source>Save Scheme</source>
+        <translation>Enregistrer le schéma</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme &quot;%1&quot;</source>
+        <translation>&amp;Enregistrer le schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
+        <translation>Enregistrer les couches telles quelles dans le schéma « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>Schéma : %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>Schéma : %1 *</translation>
+    </message>
+    <message>
+        <source>&amp;Schemes</source>
+        <translation>Sché&amp;mas</translation>
     </message>
     <message>
         <source>&amp;Select</source>
         <translation>&amp;Sélectionner</translation>
     </message>
     <message>
+        <source>Switch Scheme</source>
+        <translation>Changer de schéma</translation>
+    </message>
+    <message>
+        <source>S&amp;witch to It</source>
+        <translation>&amp;Passer à ce schéma</translation>
+    </message>
+    <message>
         <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
         <translation>La couche « %1 » ne contient pas de nombre pour « %2 ».</translation>
+    </message>
+    <message>
+        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
+        <translation>Les couches sont telles qu’enregistrées dans le schéma « %1 ».</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>Le schéma « %1 » a été exporté.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>Le schéma « %1 » a été importé.</translation>
     </message>
     <message>
         <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
@@ -162,6 +378,18 @@
     <message>
         <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
         <translation>Le fichier de schéma « %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation>&amp;Thèmes</translation>
+    </message>
+    <message>
+        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
+        <translation>Il existe déjà un schéma « %1 ». Le remplacer par celui du fichier ?</translation>
+    </message>
+    <message>
+        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
+        <translation>Il existe déjà un thème « %1 ». Lui donner les couches visibles maintenant ?</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -376,6 +604,10 @@
         <translation>A&amp;ide</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>Importation du schéma « %1 »</translation>
+    </message>
+    <message>
         <source>It leaves its groups: %1.</source>
         <translation>Elle quitte ses groupes : %1.</translation>
     </message>
@@ -560,6 +792,10 @@
         <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>&amp;Utiliser maintenant</translation>
+    </message>
+    <message>
         <source>Value</source>
         <translation>Valeur</translation>
     </message>
@@ -589,7 +825,7 @@
     </message>
     <message>
         <source>&amp;Layer:</source>
-        <translation>&amp;Couche :</translation>
+        <translation>Couc&amp;he :</translation>
     </message>
     <message>
         <source>None</source>

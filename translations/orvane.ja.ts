@@ -56,12 +56,52 @@
         <translation>他%1個</translation>
     </message>
     <message>
+        <source>A layer from map &amp;data</source>
+        <translation>地図データのレイヤ(&amp;D)</translation>
+    </message>
+    <message>
         <source>A newer program has written it.</source>
         <translation>より新しいプログラムで書かれています。</translation>
     </message>
     <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>空のレイヤ(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>参照(&amp;R)...</translation>
+    </message>
+    <message>
         <source>&amp;Copy Value</source>
         <translation>値をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>データファイル(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Theme</source>
+        <translation>テーマを削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>テーマを削除</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -96,8 +136,36 @@
         <translation>%1 - Orvane</translation>
     </message>
     <message>
+        <source>Export Scheme</source>
+        <translation>スキームを書き出し</translation>
+    </message>
+    <message>
+        <source>&amp;Export Scheme...</source>
+        <translation>スキームを書き出し(&amp;E)...</translation>
+    </message>
+    <message>
         <source>&amp;Find Missing Data...</source>
         <translation>見つからないデータを検索(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>&amp;Geometry:</source>
+        <translation>ジオメトリ(&amp;G):</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>GeoPackage ファイル(&amp;F):</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackage (*.gpkg)</translation>
+    </message>
+    <message>
+        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
+        <translation>レイヤをスキーム「%1」に保存された値に戻しますか?</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -108,8 +176,20 @@
         <translation>属性照会(&amp;I)</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
-        <translation>スキーム「%1」の読み込み</translation>
+        <source>Import Scheme</source>
+        <translation>スキームを読み込み</translation>
+    </message>
+    <message>
+        <source>&amp;Import Scheme...</source>
+        <translation>スキームを読み込み(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>In the file, not in the map:</source>
+        <translation>ファイルにあり、地図にないもの:</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>地図にあり、ファイルにないもの:</translation>
     </message>
     <message>
         <source>It holds no layers.</source>
@@ -136,24 +216,160 @@
         <translation>バージョンが書かれていません。</translation>
     </message>
     <message>
+        <source>&amp;Keep Layers</source>
+        <translation>レイヤを変えない(&amp;K)</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>レイヤ %1 の「%2」が正しくありません。</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>レイヤスキーム (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>レイヤスキーム (*.json);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>スキーム「%1」と異なるレイヤがあります。「%2」に切り替える前に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>この地図にないファイル内のレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>ファイルにないため値を変えないこの地図のレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>スキーム「%1」と異なるレイヤ: %2</translation>
+    </message>
+    <message>
+        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
+        <translation>スキーム「%1」にないため変更しなかったレイヤ: %2</translation>
+    </message>
+    <message>
+        <source>Layers with values: %1</source>
+        <translation>値のあるレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>線</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>地図データ</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
         <translation>地物を移動(&amp;M)</translation>
     </message>
     <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>新しいレイヤ</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>新しいテーマ</translation>
+    </message>
+    <message>
+        <source>&amp;New Theme from Visible Layers...</source>
+        <translation>表示中のレイヤから新しいテーマ(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>No layer can be made in the file &quot;%1&quot;.</source>
+        <translation>ファイル「%1」にレイヤを作成できません。</translation>
+    </message>
+    <message>
+        <source>No layer of this map is visible.</source>
+        <translation>この地図には表示中のレイヤがありません。</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>テーマはまだありません</translation>
+    </message>
+    <message>
         <source>&amp;Pan and Zoom</source>
         <translation>移動とズーム(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>名前を入力するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Revert Scheme</source>
+        <translation>スキームを元に戻す</translation>
+    </message>
+    <message>
+        <source>&amp;Revert to Saved Scheme</source>
+        <translation>保存したスキームに戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme</source>
+        <translation>スキームを保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save Scheme</source>
+        <translation>スキームを保存</translation>
+    </message>
+    <message>
+        <source>&amp;Save Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」を保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
+        <translation>現在のレイヤをスキーム「%1」に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>スキーム: %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>スキーム: %1 *</translation>
+    </message>
+    <message>
+        <source>&amp;Schemes</source>
+        <translation>スキーム(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Select</source>
         <translation>選択(&amp;S)</translation>
     </message>
     <message>
+        <source>Switch Scheme</source>
+        <translation>スキームの切り替え</translation>
+    </message>
+    <message>
+        <source>S&amp;witch to It</source>
+        <translation>このスキームに切り替え(&amp;W)</translation>
+    </message>
+    <message>
         <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
         <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
+        <translation>レイヤはスキーム「%1」に保存されたとおりです。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>スキーム「%1」を書き出しました。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>スキーム「%1」を読み込みました。</translation>
     </message>
     <message>
         <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
@@ -162,6 +378,18 @@
     <message>
         <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
         <translation>スキームファイル「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>&amp;Themes</source>
+        <translation>テーマ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
+        <translation>スキーム「%1」はすでにあります。ファイルのもので置き換えますか?</translation>
+    </message>
+    <message>
+        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
+        <translation>テーマ「%1」はすでにあります。現在表示中のレイヤに置き換えますか?</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -376,6 +604,10 @@
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
+        <source>Import of the Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の読み込み</translation>
+    </message>
+    <message>
         <source>It leaves its groups: %1.</source>
         <translation>属しているグループから外れます: %1。</translation>
     </message>
@@ -560,6 +792,10 @@
         <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>今すぐ使う(&amp;U)</translation>
+    </message>
+    <message>
         <source>Value</source>
         <translation>値</translation>
     </message>
@@ -589,7 +825,7 @@
     </message>
     <message>
         <source>&amp;Layer:</source>
-        <translation>レイヤー(&amp;L):</translation>
+        <translation>レイヤ(&amp;L):</translation>
     </message>
     <message>
         <source>None</source>

@@ -54,12 +54,12 @@ TEST_F(ShellClientTest, TheEditorStaysOnTheScreen)
 
 TEST_F(ShellClientTest, AnEditorThatIsGoneCannotBeRaisedAndThatIsHarmless)
 {
-    m_client.RaiseEditor();
+    m_client.RaiseEditor("");
     {
         QWidget passing;
         static_cast<IStyleEditorClient&>(m_client).ShowEditor(&passing);
     }
-    m_client.RaiseEditor();
+    m_client.RaiseEditor("");
     EXPECT_FALSE(m_form.isVisible());
 }
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace Orvane {
+
+class SqliteLayerDatabase;
+
+/// The themes of a map: named sets of its layers, kept in the map file's own tables Themes and ThemeLayers,
+/// which are made with the first theme. A deleted layer leaves all themes. Each operation is one transaction.
+class MapThemes
+{
+public:
+    struct Theme {
+        qint32 id = 0;
+        QString name;
+    };
+
+    /// database: not owned; outlives this object.
+    explicit MapThemes(SqliteLayerDatabase& database) : m_database(database) { }
+
+    /// All themes, ordered by name for a person.
+    std::vector<Theme> All() const;
+    /// The theme of exactly that name.
+    std::optional<Theme> Find(const QString& name) const;
+    /// Empty for a theme that does not exist.
+    QString NameOf(qint32 themeID) const;
+    QSet<qint32> LayersOf(qint32 themeID) const;
+
+    /// True when a layer is visible: not hidden by its quick mode either, and one that the layer control
+    /// lists.
+    bool HasVisibleLayers() const;
+    /// Makes a theme of the visible layers and returns its ID; one of that name gets them instead of its own.
+    qint32 StoreVisibleLayers(const QString& name);
+    /// Adds the layer to the theme, unless it is there.
+    void AddLayer(qint32 themeID, qint32 layerID);
+    /// Removes the theme; its layers stay.
+    void Remove(qint32 themeID);
+
+private:
+    bool HasTables() const;
+    void MakeTables();
+
+    SqliteLayerDatabase& m_database;
+};
+
+} // namespace Orvane

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "end_to_end/TownScene.h"
+#include "shell/drawing/MapCanvas.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class NewLayers : public TownScene
+{
+protected:
+    void SetUp() override
+    {
+        TownScene::SetUp();
+        OpenLayerControl();
+        m_before = Count("Layers");
+    }
+
+    void TearDown() override
+    {
+        if (Form())
+            Form()->close();
+    }
+
+    // The person's answers to the questions for a new layer.
+    static void Answer(const std::function<void(QDialog& dialog)>& act, QDialogButtonBox::StandardButton end)
+    {
+        WhenAsked([=](QDialog& dialog) {
+            act(dialog);
+            QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(end), Qt::LeftButton);
+            if (!dialog.isVisible())
+                return;
+            ADD_FAILURE() << "the dialog stayed open";
+            dialog.reject();
+        });
+    }
+
+    static void Type(QDialog& dialog, const char* field, const QString& text)
+    {
+        auto* line = dialog.findChild<QLineEdit*>(QLatin1String(field));
+        line->selectAll();
+        QTest::keyClicks(line, text);
+    }
+
+    static void TypeSource(QDialog& dialog, const QString& path)
+    {
+        QTest::mouseClick(dialog.findChild<QRadioButton*>("optSource"), Qt::LeftButton, {}, QPoint(8, 8));
+        Type(dialog, "edtSource", path);
+    }
+
+    int m_before = 0;
+};
+
+} // namespace
+
+TEST_F(NewLayers, AnEmptyLayerIsMadeShownAndStored)
+{
+    Answer(
+        [](QDialog& dialog) {
+            Type(dialog, "edtName", "Kiosks");
+            dialog.findChild<QComboBox*>("cmbKind")->setCurrentIndex(1);
+        },
+        QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    EXPECT_TRUE(Listed(Form()).contains("Kiosks"));
+    EXPECT_EQ(Count("Layers"), m_before + 1);
+    EXPECT_EQ(Count("LayerSources WHERE OgrLayer = 'Kiosks'"), 1);
+    EXPECT_TRUE(QFile::exists(PathOf("town-layers.gpkg")));
+    EXPECT_EQ(m_window->Canvas().Layers().size(), size_t(m_before + 1));
+}
+
+TEST_F(NewLayers, ALayerIsMadeOfAFileAndDrawn)
+{
+    QFile file(PathOf("square.geojson"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"type":"Polygon","coordinates":[[[0,0],[1,0],[1,1],[0,0]]]})");
+    file.close();
+    Answer([&](QDialog& dialog) { TypeSource(dialog, PathOf("square.geojson")); }, QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    ASSERT_TRUE(Listed(Form()).contains("square")) << qPrintable(Listed(Form()).join('\n'));
+    const MapLayer& drawn = m_window->Canvas().Layers().back();
+    ASSERT_TRUE(drawn.features);
+    EXPECT_EQ(drawn.features->Features().size(), 1u);
+}
+
+TEST_F(NewLayers, CancellingMakesNothing)
+{
+    const QStringList listed = Listed(Form());
+    Answer([](QDialog& dialog) { Type(dialog, "edtName", "Kiosks"); }, QDialogButtonBox::Cancel);
+    MessageBoxRobot nobody{};
+    Press(Form(), "cmdNewLayer");
+    EXPECT_EQ(Listed(Form()), listed);
+    EXPECT_EQ(Count("Layers"), m_before);
+    EXPECT_FALSE(QFile::exists(PathOf("town-layers.gpkg")));
+}
+
+TEST_F(NewLayers, CancellingKeepsTheEditsOfTheCurrentLayer)
+{
+    ClickLayer(Form(), "Fields");
+    ClickVisible(Form());
+    Answer([](QDialog&) {}, QDialogButtonBox::Cancel);
+    Press(Form(), "cmdNewLayer");
+    EXPECT_TRUE(Find(Form(), "cmdApply").isEnabled());
+    Press(Form(), "cmdCancel");
+}
+
+TEST_F(NewLayers, WithoutANameOrAFileThereIsNothingToAccept)
+{
+    Answer(
+        [](QDialog& dialog) {
+            QPushButton* accept = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            EXPECT_FALSE(accept->isEnabled());
+            Type(dialog, "edtName", "   ");
+            EXPECT_FALSE(accept->isEnabled());
+            Type(dialog, "edtName", "Kiosks");
+            EXPECT_TRUE(accept->isEnabled());
+            QTest::mouseClick(dialog.findChild<QRadioButton*>("optSource"), Qt::LeftButton, {}, QPoint(8, 8));
+            EXPECT_FALSE(accept->isEnabled());
+        },
+        QDialogButtonBox::Cancel);
+    Press(Form(), "cmdNewLayer");
+}
+
+TEST_F(NewLayers, AFileThatHoldsNoMapDataIsToldInTheDialog)
+{
+    Answer(
+        [&](QDialog& dialog) {
+            QFile file(PathOf("notes.txt"));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.close();
+            TypeSource(dialog, file.fileName());
+            EXPECT_TRUE(dialog.findChild<QLabel*>("lblProblem")->text().contains("notes.txt"));
+            EXPECT_FALSE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+        },
+        QDialogButtonBox::Cancel);
+    Press(Form(), "cmdNewLayer");
+}
+
+TEST_F(NewLayers, WhatCannotBeMadeIsToldAndAskedAgain)
+{
+    QFile file(PathOf("text.gpkg"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("a shopping list");
+    file.close();
+    MessageBoxRobot person{BoxKey::Enter};
+    person.BeforeAnswer([](QMessageBox&) {
+        Answer(
+            [](QDialog& dialog) { EXPECT_EQ(dialog.findChild<QLineEdit*>("edtName")->text(), "Kiosks"); },
+            QDialogButtonBox::Cancel);
+    });
+    Answer(
+        [&](QDialog& dialog) {
+            Type(dialog, "edtName", "Kiosks");
+            Type(dialog, "edtPackage", PathOf("text.gpkg"));
+        },
+        QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    EXPECT_TRUE(person.Only().text.contains("text.gpkg"));
+    EXPECT_EQ(Count("Layers"), m_before);
+}
+
+TEST_F(NewLayers, ALayerOfAThemesEditorJoinsTheTheme)
+{
+    AnswerPrompt("Town");
+    Choose("menuThemes", "New Theme");
+    QWidget* theme = Form("Theme Control: Town");
+    theme->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(theme));
+    Answer([](QDialog& dialog) { Type(dialog, "edtName", "Kiosks"); }, QDialogButtonBox::Ok);
+    Press(theme, "cmdNewLayer");
+    EXPECT_TRUE(Listed(theme).contains("Kiosks"));
+    EXPECT_EQ(Count("ThemeLayers, Layers WHERE ThemeLayers.LayerID = Layers.LayerID AND Name = 'Kiosks'"), 1);
+    theme->close();
+}
+
+} // namespace Orvane

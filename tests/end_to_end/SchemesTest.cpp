@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "end_to_end/TownScene.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QStatusBar>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+constexpr auto Layer = "Fields";
+
+class SchemesOfTheMap : public TownScene
+{
+protected:
+    void SetUp() override
+    {
+        TownScene::SetUp();
+        Client().CreateScheme("Night");
+        m_day = Client().GetSchemeNames().value(1);
+        Client().LoadScheme(m_day);
+    }
+
+    IStyleEditorClient& Client() { return m_window->Session().Client(); }
+    QString Status() { return LabelText("lblScheme"); }
+    bool IsVisible() { return ToBoolean(Stored(Layer, "Visible")); }
+
+    void Change()
+    {
+        SwitchVisible(Layer);
+        Form()->close();
+    }
+
+    // Names the file in the dialog that opens next.
+    static void AnswerFile(const QString& path)
+    {
+        WhenAsked([path](QDialog& dialog) {
+            auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
+            line->setText(path);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+    }
+
+    void Export(const QString& file)
+    {
+        AnswerFile(PathOf(file));
+        Choose("menuSchemes", "Export");
+    }
+
+    void Import(const QString& file)
+    {
+        AnswerFile(PathOf(file));
+        Choose("menuSchemes", "Import");
+    }
+
+    // The entry of the menu that is marked as current.
+    QString Marked()
+    {
+        auto* menu = m_window->findChild<QMenu*>("menuSchemes");
+        emit menu->aboutToShow();
+        QStringList marked;
+        for (const QAction* action : menu->actions()) {
+            if (action->isChecked())
+                marked << action->text();
+        }
+        return marked.join('|');
+    }
+
+    QString m_day; // the name of the first scheme
+};
+
+} // namespace
+
+TEST_F(SchemesOfTheMap, TheStatusBarShowsTheCurrentOne)
+{
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+}
+
+TEST_F(SchemesOfTheMap, AnAppliedChangeShowsThatItIsNotSaved)
+{
+    Change();
+    EXPECT_EQ(Status(), "Scheme: " + m_day + " *");
+    EXPECT_TRUE(m_window->findChild<QLabel*>("lblScheme")->accessibleName().contains("1"));
+    Change();
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+}
+
+TEST_F(SchemesOfTheMap, TheMenuListsThemWithAMarkAtTheCurrentOne)
+{
+    const QStringList entries = Entries("menuSchemes");
+    EXPECT_EQ(entries.mid(0, 2), QStringList({"Night", m_day}));
+    EXPECT_EQ(Marked(), m_day);
+}
+
+TEST_F(SchemesOfTheMap, SwitchingWithNothingUnsavedAsksNothing)
+{
+    MessageBoxRobot nobody{};
+    Choose("menuSchemes", "Night");
+    EXPECT_EQ(Status(), "Scheme: Night");
+    EXPECT_EQ(Marked(), "Night");
+}
+
+TEST_F(SchemesOfTheMap, SwitchingFromUnsavedChangesAsksAndEscapeStays)
+{
+    Change();
+    MessageBoxRobot person{BoxKey::Escape};
+    Choose("menuSchemes", "Night");
+    EXPECT_TRUE(person.Only().text.contains(m_day) && person.Only().text.contains("Night"));
+    EXPECT_EQ(Status(), "Scheme: " + m_day + " *");
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(SchemesOfTheMap, SavingOnTheWayKeepsTheChangesInTheirScheme)
+{
+    Change();
+    {
+        MessageBoxRobot person{BoxKey::Enter}; // Save
+        Choose("menuSchemes", "Night");
+    }
+    EXPECT_EQ(Status(), "Scheme: Night");
+    EXPECT_TRUE(IsVisible());
+    Choose("menuSchemes", m_day);
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(SchemesOfTheMap, SwitchingShowsTheNewValuesInTheOpenEditor)
+{
+    Change();
+    Client().SaveScheme(m_day);
+    OpenLayerControl();
+    Choose("menuSchemes", "Night");
+    ASSERT_TRUE(Form());
+    ClickLayer(Form(), Layer);
+    EXPECT_TRUE(Find(Form(), "chkVisible").findChild<QCheckBox*>()->isChecked());
+    ClickTab(Form(), 3);
+    EXPECT_EQ(Find<QComboBox>(Form(), "cmbScheme").currentText(), "Night");
+    Form()->close();
+}
+
+TEST_F(SchemesOfTheMap, SwitchingAsksAboutEditsThatWereNotApplied)
+{
+    OpenLayerControl();
+    ClickLayer(Form(), Layer);
+    ClickVisible(Form());
+    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter}; // apply, and save
+    Choose("menuSchemes", "Night");
+    ASSERT_EQ(person.Boxes().size(), 2u);
+    EXPECT_TRUE(person.Boxes()[0].text.contains("apply")) << qPrintable(person.Boxes()[0].text);
+    EXPECT_TRUE(person.Boxes()[1].text.contains(m_day)) << qPrintable(person.Boxes()[1].text);
+    EXPECT_EQ(Status(), "Scheme: Night");
+    EXPECT_TRUE(IsVisible());
+    Form()->close();
+    Choose("menuSchemes", m_day);
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(SchemesOfTheMap, SaveAndRevertAskFirst)
+{
+    Change();
+    {
+        MessageBoxRobot person{BoxKey::No, BoxKey::No};
+        Choose("menuSchemes", "Save Scheme");
+        Choose("menuSchemes", "Revert");
+    }
+    EXPECT_EQ(Status(), "Scheme: " + m_day + " *");
+    {
+        MessageBoxRobot person{BoxKey::Yes};
+        Choose("menuSchemes", "Revert");
+    }
+    EXPECT_TRUE(IsVisible());
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+    Change();
+    MessageBoxRobot person{BoxKey::Yes};
+    Choose("menuSchemes", "Save Scheme");
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(SchemesOfTheMap, LayersThatTheLoadedSchemeDoesNotKnowAreReported)
+{
+    Database().Execute("INSERT INTO Layers (Name, Code) VALUES ('Later', 9000)");
+    Client().SaveScheme(m_day);
+    Choose("menuSchemes", "Night");
+    const QString message = m_window->statusBar()->currentMessage();
+    EXPECT_TRUE(message.contains("Night") && message.contains(": 1")) << qPrintable(message);
+    EXPECT_EQ(Status(), "Scheme: Night *");
+}
+
+TEST_F(SchemesOfTheMap, ASchemeWanderedThroughAFileIsTheSameScheme)
+{
+    Client().LoadScheme("Night");
+    Change();
+    Client().SaveScheme("Night");
+    Export("night.json");
+    ASSERT_TRUE(QFile::exists(PathOf("night.json")));
+    Client().LoadScheme(m_day);
+    Client().DeleteScheme("Night");
+    MessageBoxRobot person{BoxKey::Enter};
+    Import("night.json");
+    EXPECT_TRUE(person.Only().text.contains("Night"));
+    EXPECT_TRUE(IsVisible());
+    Choose("menuSchemes", "Night");
+    EXPECT_FALSE(IsVisible());
+}
+
+TEST_F(SchemesOfTheMap, AnImportReplacesASchemeOnlyOnYes)
+{
+    Client().LoadScheme("Night");
+    Export("night.json");
+    Change();
+    Client().SaveScheme("Night");
+    MessageBoxRobot person{BoxKey::No};
+    Import("night.json");
+    EXPECT_TRUE(person.Only().text.contains("already"));
+    EXPECT_EQ(Status(), "Scheme: Night");
+}
+
+TEST_F(SchemesOfTheMap, ADamagedFileIsToldAndChangesNothing)
+{
+    QFile file(PathOf("night.json"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"format\": \"orvane-scheme\", \"version\": 1, \"name\": \"Night\", \"layers\": [{}]}");
+    file.close();
+    const QStringList before = Client().GetSchemeNames();
+    MessageBoxRobot person{BoxKey::Enter};
+    Import("night.json");
+    EXPECT_TRUE(person.Only().text.contains("night.json")) << qPrintable(person.Only().text);
+    EXPECT_EQ(Client().GetSchemeNames(), before);
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+}
+
+TEST_F(SchemesOfTheMap, NewMapsBeginWithTheSchemesOfTheStartupDatabase)
+{
+    Change();
+    Client().SaveScheme(m_day);
+    Client().SaveSchemesToStartup();
+    const QString data = ToText(Database().OpenRecordset("SELECT Path FROM LayerSources")->Field("Path"));
+    const QString path = QFileInfo(MapPath()).absoluteDir().absoluteFilePath(data);
+    m_window->OpenMap(MapPath());
+    Client().LoadScheme("Night");
+    auto fresh = std::make_unique<MainWindow>();
+    fresh->AddData({path});
+    IStyleEditorClient& client = fresh->Session().Client();
+    EXPECT_TRUE(client.GetSchemeNames().contains("Night"));
+    EXPECT_EQ(fresh->findChild<QLabel*>("lblScheme")->text(), "Scheme: " + client.GetCurrentScheme());
+}
+
+TEST_F(SchemesOfTheMap, ANewMapsFirstDataAreInItsScheme)
+{
+    auto fresh = std::make_unique<MainWindow>();
+    const QString data = ToText(Database().OpenRecordset("SELECT Path FROM LayerSources")->Field("Path"));
+    fresh->AddData({QFileInfo(MapPath()).absoluteDir().absoluteFilePath(data)});
+    EXPECT_EQ(fresh->findChild<QLabel*>("lblScheme")->text(), "Scheme: Standard");
+}
+
+} // namespace Orvane
