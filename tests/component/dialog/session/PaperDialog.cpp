@@ -361,10 +361,8 @@ void Dialog::AddNewLayer(qint32 layerID, Answer answer)
 
 void Dialog::RefreshGroups()
 {
-    const bool hadEdits = std::exchange(isModified, false);
+    isModified = false;
     LoadList(Groups, Answer::No);
-    if (hadEdits)
-        Load();
 }
 
 void Dialog::ReadLayersAnew(Answer answer)
