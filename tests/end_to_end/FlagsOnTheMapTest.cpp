@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSettings>
 #include <QTest>
@@ -99,6 +100,15 @@ protected:
         QTest::mouseMove(&canvas, Pixel(to));
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, Pixel(to));
     }
+    // Sent to the map itself: a pointer that is really moved may come upon the layer control's window.
+    void Hover(QPointF map)
+    {
+        MapCanvas& canvas = m_window->Canvas();
+        const QPointF pixel(Pixel(map));
+        QMouseEvent event(
+            QEvent::MouseMove, pixel, canvas.mapToGlobal(pixel), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &event);
+    }
     std::string Status() { return m_window->findChild<StatusText*>("lblToolStatus")->Text().toStdString(); }
     double West() { return m_window->Canvas().Layers().at(0).features->Bounds().minX; }
     int ListedFeatures() { return m_window->findChild<QTreeWidget*>("tvIdentified")->topLevelItemCount(); }
@@ -144,10 +154,10 @@ TEST_F(FlagsOnTheMap, UntickingSelectableEndsSelectingAndDropsTheSelection)
 TEST_F(FlagsOnTheMap, UntickingHitableEndsPointingOutSelectingAndIdentifying)
 {
     Take("actPointOut");
-    QTest::mouseMove(&m_window->Canvas(), Pixel(Inside));
+    Hover(Inside);
     EXPECT_EQ(Status(), "Square");
     Toggle("chkHitable");
-    QTest::mouseMove(&m_window->Canvas(), Pixel({6, 6}));
+    Hover({6, 6});
     EXPECT_EQ(Status(), "Square is here but not hitable.");
     Take("actPointOut");
     for (const char* tool : {"actSelect", "actIdentify"}) {
