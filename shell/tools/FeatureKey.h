@@ -3,8 +3,8 @@
 
 #include <QtGlobal>
 
-#include <compare>
 #include <set>
+#include <tuple>
 
 namespace Orvane {
 
@@ -13,7 +13,11 @@ struct FeatureKey {
     qint32 layerID = 0;
     qint64 featureID = 0; ///< as the source counts its features
 
-    auto operator<=>(const FeatureKey&) const = default;
+    bool operator==(const FeatureKey&) const = default;
+    bool operator<(const FeatureKey& other) const
+    {
+        return std::tie(layerID, featureID) < std::tie(other.layerID, other.featureID);
+    }
 };
 
 using FeatureKeys = std::set<FeatureKey>;
