@@ -53,7 +53,7 @@ QString Joined(const QString& form, const QString& separator)
 // other.
 QString Compared(const char* table, const Column& column)
 {
-    const QString value = QLatin1String(table) + QLatin1String(column.name);
+    QString value = QLatin1String(table) + QLatin1String(column.name);
     if (column.name != std::string_view("MaxVisScale"))
         return value;
     return QStringLiteral("CASE WHEN %1 >= %2 THEN 0 ELSE %1 END")

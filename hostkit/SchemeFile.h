@@ -12,7 +12,7 @@ namespace Orvane {
 namespace SchemeFile {
 
 /// Larger files are refused unread: a scheme of 100,000 layers has a third of it.
-inline constexpr qint64 LargestFile = 128 * 1024 * 1024; // bytes
+inline constexpr qint64 LargestFile = qint64(128) * 1024 * 1024; // bytes
 
 /// Raises HostError::SchemeFileUnreadable with the file's name and what is wrong with it.
 SchemeDocument Read(const QString& path);
