@@ -5,7 +5,7 @@ namespace Orvane {
 
 QString ShownName(const QString& name, qsizetype maximum)
 {
-    const QString line = name.simplified();
+    QString line = name.simplified();
     if (line.size() <= maximum)
         return line;
     QString beginning = line.left(maximum - 1);

@@ -83,7 +83,7 @@ QString CreateEmptyLayer(const QString& path, const QString& name, FeatureKind k
     const GdalErrors quiet;
     const bool isNew = !QFile::exists(path);
     auto dataset = OpenOrMake(path);
-    const QString table = dataset ? UnusedName(*dataset, name) : QString();
+    QString table = dataset ? UnusedName(*dataset, name) : QString();
     if (dataset && AddLayer(*dataset, table, kind, system))
         return table;
     dataset.reset();
