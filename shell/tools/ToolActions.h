@@ -12,6 +12,7 @@
 
 #include <QObject>
 
+class QAction;
 class QActionGroup;
 class QMainWindow;
 class QMenu;
