@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "end_to_end/TownScene.h"
+#include "end_to_end/TownWindow.h"
 #include "shell/drawing/MapCanvas.h"
 
 #include <QComboBox>
@@ -13,12 +13,12 @@ using namespace Testing;
 
 namespace {
 
-class NewLayers : public TownScene
+class NewLayers : public TownWindow
 {
 protected:
     void SetUp() override
     {
-        TownScene::SetUp();
+        TownWindow::SetUp();
         OpenLayerControl();
         m_before = Count("Layers");
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "end_to_end/TownScene.h"
+#include "end_to_end/TownWindow.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -13,12 +13,12 @@ namespace {
 
 constexpr auto Layer = "Fields";
 
-class SchemesOfTheMap : public TownScene
+class SchemesOfTheMap : public TownWindow
 {
 protected:
     void SetUp() override
     {
-        TownScene::SetUp();
+        TownWindow::SetUp();
         Client().CreateScheme("Night");
         m_day = Client().GetSchemeNames().value(1);
         Client().LoadScheme(m_day);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "end_to_end/TownScene.h"
+#include "end_to_end/TownWindow.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
@@ -9,7 +9,7 @@ using namespace Testing;
 
 namespace {
 
-class Themes : public TownScene
+class Themes : public TownWindow
 {
 protected:
     // A theme of all layers but the fields.
