@@ -149,6 +149,7 @@ std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size)
         return one.first > other.first;
     });
     std::vector<LabelSpot> spots;
+    spots.reserve(scored.size());
     for (const auto& [score, spot] : scored)
         spots.push_back(spot);
     return spots;

@@ -11,6 +11,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace Orvane {
@@ -205,8 +206,8 @@ PlaceLabels(std::span<const MapLayer> layers, const MapView& view, const std::at
     LabelPlacer placer(view);
     for (const MapLayer& layer : layers)
         placer.KeepClearOfSymbols(layer);
-    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer)
-        placer.Place(*layer, cancelled);
+    for (const MapLayer& layer : std::views::reverse(layers))
+        placer.Place(layer, cancelled);
     return placer.Take();
 }
 
