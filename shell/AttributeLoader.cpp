@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/AttributeLoader.h"
 
-#include "shell/data/Progress.h"
+#include "mapkit/data/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/AttributeColumn.h"
+#include "mapkit/data/AttributeColumn.h"
 
 #include <QObject>
 #include <QThreadPool>

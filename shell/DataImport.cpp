@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/DataImport.h"
 
-#include "shell/MapDocument.h"
-#include "shell/Palette.h"
-#include "shell/data/CoordinateSystems.h"
-#include "shell/data/Progress.h"
+#include "mapkit/data/CoordinateSystems.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/Palette.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/MapDocument.h"
-#include "shell/data/DataSource.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <QString>
 #include <QStringList>

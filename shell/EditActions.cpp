@@ -2,7 +2,7 @@
 #include "shell/EditActions.h"
 
 #include "hostkit/UndoHistory.h"
-#include "shell/Guard.h"
+#include "mapkit/Guard.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/LayerAttributes.h"
 
-#include "shell/drawing/RendererStyles.h"
+#include "mapkit/drawing/RendererStyles.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/LayerRendering.h"
-#include "shell/drawing/MapLayer.h"
+#include "mapkit/drawing/LayerRendering.h"
+#include "mapkit/drawing/MapLayer.h"
 
 #include <map>
 #include <memory>

@@ -2,13 +2,13 @@
 #include "shell/LayerCreation.h"
 
 #include "hostkit/StandardClient.h"
+#include "mapkit/Guard.h"
+#include "mapkit/data/CoordinateSystems.h"
+#include "mapkit/data/EmptyLayer.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/DataImport.h"
-#include "shell/Guard.h"
-#include "shell/MapDocument.h"
 #include "shell/NewLayerDialog.h"
 #include "shell/ShownName.h"
-#include "shell/data/CoordinateSystems.h"
-#include "shell/data/EmptyLayer.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 

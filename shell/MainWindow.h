@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/data/PositionText.h"
 #include "shell/LayerControl.h"
-#include "shell/data/PositionText.h"
 
 #include <QMainWindow>
 #include <QStringList>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MapCheck.h"
 
+#include "mapkit/data/DataSource.h"
+#include "mapkit/document/SourceTable.h"
 #include "shell/DanglingRows.h"
-#include "shell/SourceTable.h"
-#include "shell/data/DataSource.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 

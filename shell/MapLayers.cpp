@@ -2,7 +2,7 @@
 #include "shell/MapLayers.h"
 
 #include "hostkit/StoredScale.h"
-#include "shell/MapDocument.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

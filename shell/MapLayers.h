@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/data/SourceReader.h"
+#include "mapkit/drawing/MapLayer.h"
 #include "shell/LayerAttributes.h"
-#include "shell/data/SourceReader.h"
-#include "shell/drawing/MapLayer.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MissingData.h"
 
-#include "shell/MapDocument.h"
-#include "shell/data/Progress.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/NewLayerDialog.h"
 
-#include "shell/Guard.h"
+#include "mapkit/Guard.h"
 #include "shell/ShownName.h"
 #include "ui_NewLayerDialog.h"
 

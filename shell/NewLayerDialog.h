@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/DataSource.h"
+#include "mapkit/data/DataSource.h"
 
 #include <QDialog>
 #include <QString>

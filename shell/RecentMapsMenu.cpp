@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RecentMapsMenu.h"
 
-#include "shell/Guard.h"
+#include "mapkit/Guard.h"
 #include "shell/RecentMaps.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RenderingActions.h"
 
-#include "shell/Guard.h"
-#include "shell/MapDocument.h"
+#include "mapkit/Guard.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/RenderingDialog.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RenderingDialog.h"
 
-#include "shell/Guard.h"
-#include "shell/MapDocument.h"
-#include "shell/data/DataSource.h"
-#include "shell/drawing/RendererStyles.h"
+#include "mapkit/Guard.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/RendererStyles.h"
 #include "ui_RenderingDialog.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

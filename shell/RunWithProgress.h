@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/Progress.h"
+#include "mapkit/data/Progress.h"
 
 #include <QString>
 

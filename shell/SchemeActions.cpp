@@ -4,7 +4,7 @@
 #include "hostkit/HostNotifications.h"
 #include "hostkit/SchemeExchange.h"
 #include "hostkit/SchemeFile.h"
-#include "shell/Guard.h"
+#include "mapkit/Guard.h"
 #include "shell/LayerControl.h"
 #include "shell/MapSession.h"
 #include "shell/SchemeReport.h"

@@ -3,8 +3,8 @@
 
 #include "hostkit/HostNotifications.h"
 #include "hostkit/LayerSchemes.h"
-#include "shell/Guard.h"
-#include "shell/MapDocument.h"
+#include "mapkit/Guard.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/ShownName.h"
 

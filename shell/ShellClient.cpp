@@ -2,8 +2,8 @@
 #include "shell/ShellClient.h"
 
 #include "hostkit/HostNotifications.h"
+#include "mapkit/drawing/RendererStyles.h"
 #include "shell/LayerStates.h"
-#include "shell/drawing/RendererStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/SourceFollower.h"
 
-#include "shell/Guard.h"
-#include "shell/MapDocument.h"
-#include "shell/data/Progress.h"
+#include "mapkit/Guard.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <QDir>
 #include <QFileInfo>

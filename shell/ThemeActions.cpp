@@ -2,9 +2,9 @@
 #include "shell/ThemeActions.h"
 
 #include "hostkit/HostNotifications.h"
-#include "shell/Guard.h"
+#include "mapkit/Guard.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/LayerControl.h"
-#include "shell/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/MapThemes.h"
 #include "shell/ShownName.h"

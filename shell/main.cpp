@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/tracing/CallTrace.h"
+#include "mapkit/Guard.h"
 #include "messages/CatalogueTranslator.h"
 #include "shell/CatalogueFile.h"
-#include "shell/Guard.h"
 #include "shell/MainWindow.h"
 #include "shell/RecentMaps.h"
 #include "shell/command/CommandLine.h"

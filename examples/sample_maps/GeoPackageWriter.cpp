@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examples/sample_maps/GeoPackageWriter.h"
 
-#include "shell/data/GdalErrors.h"
+#include "mapkit/data/GdalErrors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

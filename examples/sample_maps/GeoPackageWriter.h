@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/FeatureSet.h"
+#include "mapkit/data/FeatureSet.h"
 
 #include <QString>
 

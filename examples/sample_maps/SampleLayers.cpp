@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "examples/sample_maps/SampleLayers.h"
 
-#include "shell/MapDocument.h"
-#include "shell/Palette.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/Palette.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 

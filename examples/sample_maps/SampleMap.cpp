@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examples/sample_maps/SampleMap.h"
 
-#include "shell/MapDocument.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include "examples/sample_maps/SampleLayers.h"
 #include "examples/sample_maps/SampleMap.h"
 #include "examples/sample_maps/TownPlan.h"
-#include "shell/MapDocument.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "examples/sample_maps/GeoPackageWriter.h"
-#include "shell/data/FeatureSet.h"
+#include "mapkit/data/FeatureSet.h"
 
 #include <map>
 #include <string>

@@ -2,7 +2,7 @@
 #include "examples/sample_maps/GeoPackageWriter.h"
 #include "examples/sample_maps/SampleLayers.h"
 #include "examples/sample_maps/SampleMap.h"
-#include "shell/MapDocument.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <QDir>
 #include <QFileInfo>

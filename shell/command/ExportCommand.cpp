@@ -3,13 +3,13 @@
 
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/StandardShellServices.h"
-#include "shell/MapDocument.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/output/MapPage.h"
+#include "mapkit/output/PageWriter.h"
 #include "shell/MapLayers.h"
 #include "shell/command/ExportOptions.h"
 #include "shell/command/MapCopy.h"
-#include "shell/data/Progress.h"
-#include "shell/output/MapPage.h"
-#include "shell/output/PageWriter.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

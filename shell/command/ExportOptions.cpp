@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ExportOptions.h"
 
+#include "mapkit/output/PageWriter.h"
 #include "shell/command/PaperSize.h"
-#include "shell/output/PageWriter.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/output/PageSettings.h"
 #include "shell/command/CommandReader.h"
-#include "shell/output/PageSettings.h"
 
 #include <variant>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/MapCopy.h"
 
-#include "shell/MapDocument.h"
-#include "shell/SourceTable.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/document/SourceTable.h"
 #include "store/CopyLayerFile.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/PaperSize.h"
 
-#include "shell/output/Papers.h"
+#include "mapkit/output/Papers.h"
 
 #include <QRegularExpression>
 

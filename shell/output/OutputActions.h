@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hostkit/StandardShellServices.h"
-#include "shell/output/MapPage.h"
+#include "mapkit/output/MapPage.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/PageChoices.h"
 
-#include "shell/output/Papers.h"
+#include "mapkit/output/Papers.h"
 
 #include <QSettings>
 

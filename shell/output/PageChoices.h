@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/output/PageSettings.h"
+#include "mapkit/output/PageSettings.h"
 
 namespace Orvane {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/PageDialog.h"
 
-#include "shell/RoundedScale.h"
-#include "shell/output/Papers.h"
+#include "mapkit/drawing/RoundedScale.h"
+#include "mapkit/output/Papers.h"
 #include "ui_PageDialog.h"
 
 #include <QLocale>

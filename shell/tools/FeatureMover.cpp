@@ -3,10 +3,10 @@
 
 #include "hostkit/HostErrors.h"
 #include "hostkit/UndoHistory.h"
-#include "shell/MapDocument.h"
+#include "mapkit/data/SourceEditor.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/MapSession.h"
 #include "shell/RunWithProgress.h"
-#include "shell/data/SourceEditor.h"
 #include "shell/tools/FeatureSubset.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/SourceReader.h"
+#include "mapkit/data/SourceReader.h"
 #include "shell/tools/FeatureKey.h"
 
 #include <QByteArray>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapLayer.h"
+#include "mapkit/drawing/MapLayer.h"
 #include "shell/tools/FeatureKey.h"
 
 #include <QObject>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapTool.h"
-#include "shell/drawing/MapView.h"
+#include "mapkit/drawing/MapTool.h"
+#include "mapkit/drawing/MapView.h"
 #include "shell/tools/FeatureKey.h"
 
 #include <QColor>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/HitTest.h"
 
-#include "shell/drawing/Clipping.h"
+#include "mapkit/drawing/Clipping.h"
 
 #include <algorithm>
 #include <cmath>

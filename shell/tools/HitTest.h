@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapLayer.h"
-#include "shell/drawing/MapView.h"
+#include "mapkit/drawing/MapLayer.h"
+#include "mapkit/drawing/MapView.h"
 
 #include <QPointF>
 #include <QRectF>

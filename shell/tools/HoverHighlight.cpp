@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/HoverHighlight.h"
 
-#include "shell/Guard.h"
-#include "shell/drawing/MapCanvas.h"
+#include "mapkit/Guard.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/tools/ToolRules.h"
 
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/DataSource.h"
-#include "shell/drawing/MapTool.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/drawing/MapTool.h"
 #include "shell/tools/FeatureKey.h"
 
 #include <functional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/data/EarthMeasure.h"
-#include "shell/drawing/MapTool.h"
+#include "mapkit/data/EarthMeasure.h"
+#include "mapkit/drawing/MapTool.h"
 
 #include <QPolygonF>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/MoveTool.h"
 
-#include "shell/drawing/FeaturePainter.h"
-#include "shell/drawing/MapCanvas.h"
+#include "mapkit/drawing/FeaturePainter.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/tools/FeatureSubset.h"
 #include "shell/tools/ToolRules.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapLayer.h"
-#include "shell/drawing/MapTool.h"
+#include "mapkit/drawing/MapLayer.h"
+#include "mapkit/drawing/MapTool.h"
 #include "shell/tools/FeatureKey.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/SelectTool.h"
 
-#include "shell/drawing/MapCanvas.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/tools/FeatureSelection.h"
 
 #include <QKeyEvent>

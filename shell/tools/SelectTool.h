@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapTool.h"
+#include "mapkit/drawing/MapTool.h"
 #include "shell/tools/ToolRules.h"
 
 #include <QRectF>

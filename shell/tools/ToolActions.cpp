@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/ToolActions.h"
 
-#include "shell/MapDocument.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MapSession.h"
 #include "shell/RunWithProgress.h"
-#include "shell/drawing/MapCanvas.h"
 #include "shell/tools/FeatureMover.h"
 #include "shell/tools/IdentifyPanel.h"
 #include "shell/tools/StatusText.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/SettingsStore.h"
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
-#include "shell/MapDocument.h"
-#include "shell/drawing/MapCanvas.h"
 #include "shell/tools/MeasureTool.h"
 #include "shell/tools/StatusText.h"
 

@@ -2,8 +2,8 @@
 #include "end_to_end/PropertiesOnTheMap.h"
 
 #include "hostkit/SettingsStore.h"
-#include "shell/MapDocument.h"
-#include "shell/drawing/MapCanvas.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
 #include "shell/MainWindow.h"
 
 #include <QColor>

@@ -3,9 +3,9 @@
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/tracing/CallTrace.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
-#include "shell/MapDocument.h"
-#include "shell/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

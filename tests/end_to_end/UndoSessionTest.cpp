@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/TownWindow.h"
-#include "shell/DataFolder.h"
-#include "shell/drawing/MapCanvas.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/drawing/MapCanvas.h"
 
 #include <QComboBox>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A picture under the map: kept in the file, drawn under the layers.
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/DataImport.h"
-#include "shell/MapDocument.h"
 #include "shell/MapSession.h"
-#include "shell/RasterFile.h"
-#include "shell/data/Progress.h"
-#include "shell/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

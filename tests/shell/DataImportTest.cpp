@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/DataImport.h"
 
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
-#include "shell/data/Progress.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ValueConversions.h>

@@ -2,8 +2,8 @@
 #include "shell/LayerAttributes.h"
 
 #include "hostkit/StandardShellServices.h"
-#include "shell/Drawings.h"
-#include "shell/drawing/RendererStyles.h"
+#include "mapkit/Drawings.h"
+#include "mapkit/drawing/RendererStyles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainWindow.h"
 
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/RecentMaps.h"
-#include "shell/data/Progress.h"
-#include "shell/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

@@ -2,9 +2,9 @@
 #include "shell/MapCheck.h"
 
 #include "hostkit/LayerSchemes.h"
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
-#include "shell/RawDatabase.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/RawDatabase.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -2,8 +2,8 @@
 #include "shell/MapLayers.h"
 
 #include "hostkit/StandardShellServices.h"
-#include "shell/Drawings.h"
-#include "shell/MapDocument.h"
+#include "mapkit/Drawings.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <gtest/gtest.h>

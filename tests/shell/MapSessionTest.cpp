@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MapSession.h"
 
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/drawing/RendererStyles.h"
 #include "shell/DataImport.h"
-#include "shell/MapDocument.h"
-#include "shell/data/Progress.h"
-#include "shell/drawing/MapCanvas.h"
-#include "shell/drawing/RendererStyles.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

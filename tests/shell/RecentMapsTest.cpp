@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RecentMaps.h"
 
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
 
 #include <QSettings>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RenderingDialog.h"
 
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
-#include "shell/drawing/RendererStyles.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/RendererStyles.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/SourceFollower.h"
 
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
 
 #include <QDir>
 #include <QSignalSpy>

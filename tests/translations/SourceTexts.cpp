@@ -165,6 +165,7 @@ TextPlaces HostTexts()
     const std::vector<ShowingCall> calls{
         {"tr", 0}, {"QT_TR_NOOP", 0}, {"translate", 1}, {"QT_TRANSLATE_NOOP", 1}};
     NoteFolder(places, "hostkit", calls);
+    NoteFolder(places, "mapkit", calls);
     NoteFolder(places, "shell", calls);
     NoteFolder(places, "examples", calls);
     NoteFolder(places, "store", calls);

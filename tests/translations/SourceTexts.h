@@ -24,8 +24,8 @@ using TextPlaces = QMap<QString, QStringList>;
 /// What the component shows: TranslateMsg, QT_TR_NOOP, forms, and descriptions of errors.
 TextPlaces ComponentTexts();
 
-/// What hosts made of store/, hostkit/ and shell/ show: tr, translate, QT_TR_NOOP, QT_TRANSLATE_NOOP and
-/// forms.
+/// What hosts made of store/, hostkit/, mapkit/ and shell/ show: tr, translate, QT_TR_NOOP, QT_TRANSLATE_NOOP
+/// and forms.
 TextPlaces HostTexts();
 
 } // namespace Orvane::Testing

@@ -3,11 +3,11 @@
 
 #include "examples/sample_maps/GeoPackageWriter.h"
 #include "examples/sample_maps/TownPlan.h"
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
-#include "shell/data/DataSource.h"
-#include "shell/data/Progress.h"
-#include "shell/data/SourceReader.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/data/Progress.h"
+#include "mapkit/data/SourceReader.h"
+#include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/command/CommandLine.h"
 
 #include <QTextStream>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/OutputActions.h"
 
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
-#include "shell/MapDocument.h"
 #include "shell/output/PageDialog.h"
 #include "support/MessageBoxRobot.h"
 

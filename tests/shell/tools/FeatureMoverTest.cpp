@@ -3,11 +3,11 @@
 
 #include "examples/sample_maps/GeoPackageWriter.h"
 #include "hostkit/UndoHistory.h"
-#include "shell/DataFolder.h"
-#include "shell/MapDocument.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/data/SourceEditor.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MapSession.h"
-#include "shell/data/SourceEditor.h"
-#include "shell/drawing/MapCanvas.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/ToolActions.h"
 
-#include "shell/DataFolder.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
-#include "shell/MapDocument.h"
-#include "shell/drawing/MapCanvas.h"
 #include "shell/tools/StatusText.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/drawing/MapCanvas.h"
-#include "shell/drawing/MapTool.h"
+#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/drawing/MapTool.h"
 
 #include <QApplication>
 #include <QMouseEvent>

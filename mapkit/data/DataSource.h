@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/data/Box.h"
+#include "mapkit/data/FeatureSet.h"
+
+#include <QString>
+
+#include <limits>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+class GDALDataset;
+class OGRLayer;
+
+namespace Orvane {
+
+class GdalErrors;
+class Progress;
+
+/// The number of the RunTimeError for data that cannot be read.
+inline constexpr int SourceUnreadable = 10101;
+
+/// One layer of a data source.
+struct SourceLayer {
+    QString name; ///< as the source calls it
+    FeatureKind kind = FeatureKind::Area; ///< of a mixed layer: Area
+    QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
+    Box extent; ///< in its own units; empty when the source does not know it
+};
+
+/// One attribute of a source layer.
+struct SourceField {
+    QString name;
+    bool isNumber = false;
+    bool isText = false; ///< neither: a date, a list, a flag
+};
+
+/// What a feature's attribute holds.
+struct FieldValue {
+    QString text; ///< trimmed, as the source writes it; empty for null
+    double number = std::numeric_limits<double>::quiet_NaN(); ///< not a number for null and for a text
+};
+
+/// One attribute of a feature, for a person to read.
+struct FeatureAttribute {
+    QString name;
+    QString value; ///< as the source writes it
+    bool isNull = false;
+};
+
+/// A file, or whatever else GDAL's vector drivers open, read only.
+///
+///     DataSource source(path);
+///     for (const SourceLayer& layer : source.Layers())
+///         features = source.Read(layer.name, {}, "EPSG:3857", progress);
+///
+/// One object is used by one thread at a time, another object by any other. Errors are RunTimeError with
+/// SourceUnreadable and a sentence that names the file.
+class DataSource
+{
+public:
+    /// Raises when no driver can open it.
+    explicit DataSource(const QString& path);
+    ~DataSource();
+    DataSource(const DataSource&) = delete;
+    DataSource& operator=(const DataSource&) = delete;
+
+    /// The layers that have geometry, in the source's order.
+    std::vector<SourceLayer> Layers() const;
+
+    /// Reads a layer's geometries into the map's coordinate system. filter: a condition in GDAL's attribute
+    /// filter language, e.g. "continent = 'Asia'"; empty for all features. Raises for an unknown layer, a
+    /// filter that is not understood and damaged data; raises Cancelled.
+    FeatureSet
+    Read(const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress) const;
+
+    /// The attributes of a layer, in the source's order; raises for an unknown layer.
+    std::vector<SourceField> Fields(const QString& layer) const;
+    /// The values of one attribute by feature ID. Raises as Read does, and for an unknown attribute.
+    std::unordered_map<qint64, FieldValue>
+    ReadField(const QString& layer, const QString& filter, const QString& field, Progress& progress) const;
+    /// The attributes of one feature, in the source's order; none when there is no feature of that ID any
+    /// more.
+    std::vector<FeatureAttribute> Attributes(const QString& layer, qint64 featureID) const;
+
+private:
+    OGRLayer& FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const;
+    [[noreturn]] void Fail(const QString& reason) const;
+
+    QString m_path;
+    std::unique_ptr<GDALDataset> m_dataset;
+};
+
+} // namespace Orvane

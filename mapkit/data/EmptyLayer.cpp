@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/EmptyLayer.h"
+
+#include "mapkit/data/GdalErrors.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gdal_priv.h>
+#include <memory>
+#include <ogr_spatialref.h>
+#include <ogrsf_frmts.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr qsizetype LongestTableName = 60; // characters
+
+OGRwkbGeometryType TypeOf(FeatureKind kind)
+{
+    switch (kind) {
+    case FeatureKind::Point:
+        return wkbPoint;
+    case FeatureKind::Line:
+        return wkbLineString;
+    case FeatureKind::Area:
+        break;
+    }
+    return wkbPolygon;
+}
+
+std::unique_ptr<GDALDataset> OpenOrMake(const QString& path)
+{
+    GDALAllRegister();
+    const QByteArray file = path.toUtf8();
+    if (QFile::exists(path)) {
+        const char* drivers[] = {"GPKG", nullptr};
+        return std::unique_ptr<GDALDataset>(static_cast<GDALDataset*>(
+            GDALOpenEx(file.constData(), GDAL_OF_VECTOR | GDAL_OF_UPDATE, drivers, nullptr, nullptr)));
+    }
+    GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("GPKG");
+    return std::unique_ptr<GDALDataset>(
+        driver ? driver->Create(file.constData(), 0, 0, 0, GDT_Unknown, nullptr) : nullptr);
+}
+
+// A table's name may not begin with a special character.
+QString TableName(const QString& name)
+{
+    const QString line = name.simplified();
+    const bool beginsWell
+        = !line.isEmpty() && (line.front().isLetterOrNumber() || line.front().isSurrogate());
+    return (beginsWell ? line : QStringLiteral("layer ") + line).left(LongestTableName);
+}
+
+QString UnusedName(GDALDataset& dataset, const QString& name)
+{
+    const QString first = TableName(name);
+    QString unused = first;
+    for (int number = 2; dataset.GetLayerByName(unused.toUtf8().constData()); ++number)
+        unused = first + QLatin1Char(' ') + QString::number(number);
+    return unused;
+}
+
+bool AddLayer(GDALDataset& dataset, const QString& name, FeatureKind kind, const QString& system)
+{
+    OGRSpatialReference reference;
+    if (reference.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
+        return false;
+    reference.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRLayer* layer = dataset.CreateLayer(name.toUtf8().constData(), &reference, TypeOf(kind));
+    OGRFieldDefn field("name", OFTString);
+    return layer && layer->CreateField(&field) == OGRERR_NONE && layer->SyncToDisk() == OGRERR_NONE;
+}
+
+} // namespace
+
+QString CreateEmptyLayer(const QString& path, const QString& name, FeatureKind kind, const QString& system)
+{
+    const GdalErrors quiet;
+    const bool isNew = !QFile::exists(path);
+    auto dataset = OpenOrMake(path);
+    QString table = dataset ? UnusedName(*dataset, name) : QString();
+    if (dataset && AddLayer(*dataset, table, kind, system))
+        return table;
+    dataset.reset();
+    if (isNew)
+        QFile::remove(path);
+    throw RunTimeError(
+        LayerUncreatable,
+        QCoreApplication::translate("EmptyLayer", "No layer can be made in the file \"%1\".")
+            .arg(QFileInfo(path).fileName()));
+}
+
+} // namespace Orvane

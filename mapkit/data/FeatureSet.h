@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/data/Box.h"
+
+#include <QPointF>
+#include <QtGlobal>
+
+#include <span>
+#include <vector>
+
+namespace Orvane {
+
+enum class FeatureKind : quint8 {
+    Point, ///< each vertex of each part is a symbol
+    Line, ///< each part is a line string
+    Area, ///< each part is a closed ring; rings within rings are holes
+};
+
+/// Of a feature that its source cannot name.
+inline constexpr qint64 NoFeatureID = -1;
+
+/// The geometries of one layer in flat arrays, in the map's coordinate system. Filled once, then shared and
+/// never changed, so that any thread may draw it.
+///
+///     FeatureSet roads;
+///     roads.BeginFeature(FeatureKind::Line);
+///     roads.AddPart(points);
+class FeatureSet
+{
+public:
+    struct Feature {
+        Box bounds; ///< of all parts
+        qint64 featureID = NoFeatureID; ///< as the source counts its features
+        quint32 firstPart = 0; ///< index into the parts
+        quint32 endPart = 0; ///< one behind the last part
+        FeatureKind kind = FeatureKind::Point;
+    };
+
+    /// The parts added from now on belong to a new feature. featureID: several may share one, as the members
+    /// of a collection do.
+    void BeginFeature(FeatureKind kind, qint64 featureID = NoFeatureID);
+    /// Adds a part to the feature begun last. Vertices that are not finite are left out, and so is a part of
+    /// none.
+    void AddPart(std::span<const QPointF> points);
+
+    const std::vector<Feature>& Features() const { return m_features; }
+    /// The source's ID of a feature; NoFeatureID when it came from no source.
+    qint64 FeatureId(size_t index) const { return m_features[index].featureID; }
+    std::span<const QPointF> Part(quint32 index) const&;
+    /// Deleted: the part would outlive its set.
+    std::span<const QPointF> Part(quint32 index) const&& = delete;
+    /// Of all features; empty when there are none.
+    const Box& Bounds() const { return m_bounds; }
+    size_t VertexCount() const { return m_points.size(); }
+
+private:
+    std::vector<QPointF> m_points;
+    std::vector<size_t> m_partEnds;
+    std::vector<Feature> m_features;
+    Box m_bounds;
+};
+
+} // namespace Orvane

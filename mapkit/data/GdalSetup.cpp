@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/GdalSetup.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <cerrno>
+#include <cpl_conv.h>
+#include <cpl_http.h>
+#include <cpl_vsi_virtual.h>
+#include <gdal_priv.h>
+#include <mutex>
+#include <ogr_srs_api.h>
+
+namespace Orvane {
+
+namespace {
+
+// GDAL leaves these out whenever drivers are registered, by us or by anybody else.
+constexpr auto RemoteDrivers
+    = "AmigoCloud Carto CSW DAAS EEDA EEDAI Elasticsearch GMLAS GNMFile GNMDatabase GPSBabel HTTP "
+      "MSSQLSpatial"
+      " MySQL NGW OAPIF ODBC OGCAPI OGR_OGDI PLMOSAIC PLSCENES PostGISRaster PostgreSQL STACIT STACTA WCS WFS"
+      " WMS WMTS";
+
+constexpr auto LocalFileSystems
+    = {"/vsigzip/", "/vsimem/", "/vsisparse/", "/vsisubfile/", "/vsitar/", "/vsizip/"};
+
+// A file system in which nothing can be found.
+class ClosedFileSystem : public VSIFilesystemHandler
+{
+public:
+    using VSIFilesystemHandler::Open;
+    VSIVirtualHandle* Open(const char*, const char*, bool, CSLConstList) override
+    {
+        errno = ENOENT;
+        return nullptr;
+    }
+    int Stat(const char*, VSIStatBufL*, int) override
+    {
+        errno = ENOENT;
+        return -1;
+    }
+};
+
+bool IsLocal(const char* prefix)
+{
+    return std::any_of(LocalFileSystems.begin(), LocalFileSystems.end(), [&](const char* local) {
+        return qstrcmp(prefix, local) == 0;
+    });
+}
+
+// GDAL cannot end a handler that is replaced; it stays reachable here.
+void CloseFileSystems()
+{
+    static std::vector<VSIFilesystemHandler*> replaced;
+    char** prefixes = VSIGetFileSystemsPrefixes();
+    for (char** prefix = prefixes; prefix && *prefix; ++prefix) {
+        if (IsLocal(*prefix))
+            continue;
+        replaced.push_back(VSIFileManager::GetHandler(*prefix));
+        VSIFileManager::InstallHandler(*prefix, new ClosedFileSystem); // GDAL's from here on
+    }
+    CSLDestroy(prefixes);
+}
+
+// Some drivers for files also take addresses. Without an answer GDAL would go on to fetch.
+CPLHTTPResult*
+FetchNothing(const char*, CSLConstList, GDALProgressFunc, void*, CPLHTTPFetchWriteFunc, void*, void*)
+{
+    auto* refusal = static_cast<CPLHTTPResult*>(CPLCalloc(1, sizeof(CPLHTTPResult))); // the caller's
+    refusal->nStatus = 1;
+    refusal->pszErrBuf = CPLStrdup("Data are not fetched from the network");
+    CPLError(CE_Failure, CPLE_AppDefined, "%s", refusal->pszErrBuf);
+    return refusal;
+}
+
+} // namespace
+
+void PrepareGdal()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        CPLSetConfigOption("GDAL_SKIP", RemoteDrivers);
+        CPLSetConfigOption("GDAL_VRT_ENABLE_PYTHON", "NO");
+        CPLSetConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
+        OSRSetPROJEnableNetwork(0);
+        CPLHTTPSetFetchCallback(FetchNothing, nullptr);
+        GDALAllRegister();
+        CloseFileSystems();
+    });
+}
+
+QString WhyNotOpened(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        return QCoreApplication::translate("DataSource", "\"%1\" is missing from \"%2\".")
+            .arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+    }
+    if (!file.isFile() && !file.isDir()) {
+        return QCoreApplication::translate("DataSource", "\"%1\" holds no data that can be read.")
+            .arg(file.fileName());
+    }
+    return {};
+}
+
+} // namespace Orvane

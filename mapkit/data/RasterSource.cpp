@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/RasterSource.h"
+
+#include "mapkit/data/CoordinateSystems.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/data/GdalErrors.h"
+#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/RasterShades.h"
+#include "mapkit/data/RasterWarp.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QMutexLocker>
+
+#include <array>
+#include <cmath>
+#include <gdal_priv.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int RowsAtOnce = 64; // between looks whether drawing was cancelled
+
+[[noreturn]] void Fail(const QString& path, const QString& reason)
+{
+    const QString known = QCoreApplication::translate("DataSource", "\"%1\" cannot be read: %2.");
+    throw RunTimeError(SourceUnreadable, known.arg(QFileInfo(path).fileName(), reason));
+}
+
+std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
+{
+    const QString whyNot = WhyNotOpened(path);
+    if (!whyNot.isEmpty())
+        throw RunTimeError(SourceUnreadable, whyNot);
+    const GdalErrors errors;
+    constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
+    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(path.toUtf8().constData(), flags));
+    if (dataset && dataset->GetRasterCount() > 0)
+        return dataset;
+    const QString nothing = QCoreApplication::translate("RasterSource", "\"%1\" holds no picture.");
+    if (errors.First().isEmpty())
+        throw RunTimeError(SourceUnreadable, nothing.arg(QFileInfo(path).fileName()));
+    Fail(path, errors.First());
+}
+
+bool IsPlaced(GDALDataset& dataset)
+{
+    std::array<double, 6> transform = {};
+    return dataset.GetGeoTransform(transform.data()) == CE_None || dataset.GetGCPCount() > 0;
+}
+
+// The pixels of an image of that size that the picture covers.
+QRect CoveredPixels(const Box& picture, const Box& extent, QSize pixels)
+{
+    const double perX = pixels.width() / extent.Width();
+    const double perY = pixels.height() / extent.Height();
+    const int left = int(std::floor((std::max(picture.minX, extent.minX) - extent.minX) * perX));
+    const int right = int(std::ceil((std::min(picture.maxX, extent.maxX) - extent.minX) * perX));
+    const int top = int(std::floor((extent.maxY - std::min(picture.maxY, extent.maxY)) * perY));
+    const int bottom = int(std::ceil((extent.maxY - std::max(picture.minY, extent.minY)) * perY));
+    return QRect(left, top, right - left, bottom - top).intersected(QRect({}, pixels));
+}
+
+Box MapArea(const QRect& area, const Box& extent, QSize pixels)
+{
+    const double unitsX = extent.Width() / pixels.width();
+    const double unitsY = extent.Height() / pixels.height();
+    return {
+        extent.minX + area.left() * unitsX, extent.maxY - (area.top() + area.height()) * unitsY,
+        extent.minX + (area.left() + area.width()) * unitsX, extent.maxY - area.top() * unitsY};
+}
+
+} // namespace
+
+RasterSource::RasterSource(const QString& path) : m_path(path)
+{
+    PrepareGdal();
+    m_dataset = OpenRaster(path);
+    const GdalErrors quiet;
+    if (!IsPlaced(*m_dataset))
+        Fail(path, QCoreApplication::translate("RasterSource", "it does not say where its pixels lie"));
+    m_shades = std::make_unique<const RasterShades>(*m_dataset);
+}
+
+RasterSource::~RasterSource()
+{
+    const GdalErrors quiet;
+    m_dataset.reset();
+}
+
+QString RasterSource::System() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return SystemText(m_dataset->GetSpatialRef());
+}
+
+Box RasterSource::Extent() const
+{
+    return ExtentIn(System());
+}
+
+Box RasterSource::ExtentIn(const QString& mapSystem) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const GdalErrors quiet;
+    return PlaceRaster(*m_dataset, mapSystem).extent;
+}
+
+QImage RasterSource::Draw(
+    const QString& mapSystem, const Box& extent, QSize pixels, const std::atomic<bool>& cancelled) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const GdalErrors errors;
+    const RasterPlace place = PlaceRaster(*m_dataset, mapSystem);
+    if (cancelled || !place.extent.Intersects(extent))
+        return {};
+    const QRect area = CoveredPixels(place.extent, extent, pixels);
+    if (area.isEmpty())
+        return {};
+    const auto warped = WarpRaster(
+        *m_dataset, place, {mapSystem, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
+    if (!warped)
+        Fail(m_path, errors.First());
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int row = 0; row < area.height() && !cancelled; row += RowsAtOnce) {
+        const QRect rows(0, row, area.width(), std::min(RowsAtOnce, area.height() - row));
+        if (!m_shades->Read(*warped, rows, image, area.topLeft() + rows.topLeft()))
+            Fail(m_path, errors.First());
+    }
+    return cancelled ? QImage() : image;
+}
+
+} // namespace Orvane

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/RasterWarp.h"
+
+#include <QStringList>
+
+#include <array>
+#include <cmath>
+#include <cpl_conv.h>
+#include <cpl_string.h>
+#include <gdal_alg.h>
+#include <gdal_priv.h>
+#include <gdal_utils.h>
+
+namespace Orvane {
+
+namespace {
+
+CPLStringList Arguments(const QStringList& texts)
+{
+    CPLStringList list;
+    for (const QString& text : texts)
+        list.AddString(text.toUtf8().constData());
+    return list;
+}
+
+QString Number(double value)
+{
+    return QString::number(value, 'g', 17);
+}
+
+bool HasSystem(GDALDataset& raster)
+{
+    return raster.GetSpatialRef() || raster.GetGCPSpatialRef();
+}
+
+using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
+using WarpOptions = std::unique_ptr<GDALWarpAppOptions, decltype(&GDALWarpAppOptionsFree)>;
+
+// Lets go of a dataset that others may still read from.
+struct Releaser {
+    void operator()(GDALDataset* dataset) const { dataset->ReleaseRef(); }
+};
+
+// Every nth pixel of each nth row; GDAL takes them from overviews where there are some.
+std::unique_ptr<GDALDataset, Releaser> Thinned(GDALDataset& raster, int step)
+{
+    const auto part = [step](int size) { return QString::number(std::max(1, size / step)); };
+    CPLStringList arguments = Arguments(
+        {QStringLiteral("-of"), QStringLiteral("VRT"), QStringLiteral("-outsize"),
+         part(raster.GetRasterXSize()), part(raster.GetRasterYSize())});
+    const TranslateOptions options(
+        GDALTranslateOptionsNew(arguments.List(), nullptr), GDALTranslateOptionsFree);
+    return std::unique_ptr<GDALDataset, Releaser>(
+        GDALDataset::FromHandle(GDALTranslate("", GDALDataset::ToHandle(&raster), options.get(), nullptr)));
+}
+
+QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool blend)
+{
+    QStringList list = {"-of", "VRT", "-dstalpha", "-ovr", "NONE", "-r", blend ? "bilinear" : "near"};
+    if (!target.system.isEmpty())
+        list << "-t_srs" << target.system;
+    if (!target.system.isEmpty() && !HasSystem(raster))
+        list << "-s_srs" << target.system;
+    const Box& box = target.extent;
+    list << "-te" << Number(box.minX) << Number(box.minY) << Number(box.maxX) << Number(box.maxY);
+    list << "-ts" << QString::number(target.pixels.width()) << QString::number(target.pixels.height());
+    return list;
+}
+
+} // namespace
+
+RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem)
+{
+    const QByteArray system = HasSystem(raster) ? mapSystem.toUtf8() : QByteArray();
+    CPLStringList options;
+    if (!system.isEmpty())
+        options.SetNameValue("DST_SRS", system.constData());
+    void* transformer
+        = GDALCreateGenImgProjTransformer2(GDALDataset::ToHandle(&raster), nullptr, options.List());
+    if (!transformer)
+        return {};
+    std::array<double, 6> transform = {};
+    std::array<double, 4> box = {};
+    int width = 0;
+    int height = 0;
+    const CPLErr result = GDALSuggestedWarpOutput2(
+        GDALDataset::ToHandle(&raster), GDALGenImgProjTransform, transformer, transform.data(), &width,
+        &height, box.data(), 0);
+    GDALDestroyGenImgProjTransformer(transformer);
+    const bool known = result == CE_None
+        && std::all_of(box.begin(), box.end(), [](double value) { return std::isfinite(value); });
+    return known ? RasterPlace{{box[0], box[1], box[2], box[3]}, std::abs(transform[1])} : RasterPlace();
+}
+
+std::unique_ptr<GDALDataset>
+WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& target, bool blend)
+{
+    const double wanted = target.extent.Width() / target.pixels.width();
+    const double step = std::clamp(wanted / place.unitsPerPixel, 1.0, 1e6);
+    const auto thinned = Thinned(raster, int(step));
+    if (!thinned)
+        return nullptr;
+    // Beyond the edge of a world projection a place would be shown a second time.
+    const CPLConfigOptionSetter onEarthOnly("CHECK_WITH_INVERT_PROJ", "YES", false);
+    CPLStringList arguments = Arguments(WarpArguments(raster, target, blend));
+    const WarpOptions options(GDALWarpAppOptionsNew(arguments.List(), nullptr), GDALWarpAppOptionsFree);
+    GDALDatasetH source = GDALDataset::ToHandle(thinned.get());
+    return std::unique_ptr<GDALDataset>( // keeps what it reads from
+        GDALDataset::FromHandle(GDALWarp("", nullptr, 1, &source, options.get(), nullptr)));
+}
+
+} // namespace Orvane

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/data/Box.h"
+
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+class GDALDataset;
+
+namespace Orvane {
+
+/// Where a raster lies in a map.
+struct RasterPlace {
+    Box extent; ///< map units; empty when it cannot be shown in the map's system
+    double unitsPerPixel = 0; ///< map units that one of its pixels covers
+};
+
+/// Part of a map, to be filled with pixels.
+struct RasterTarget {
+    QString system;
+    Box extent;
+    QSize pixels;
+};
+
+/// Finds the raster's place in a map of that system. A raster without a system is taken to be in it.
+RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem);
+
+/// A virtual raster of the target's size whose pixels are computed when they are read, from source pixels
+/// thinned to about its resolution. Its last band is 0 where there is no picture. blend: pixels may be mixed
+/// with their neighbours. raster: outlives it. nullptr where GDAL refuses.
+std::unique_ptr<GDALDataset>
+WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& target, bool blend);
+
+} // namespace Orvane

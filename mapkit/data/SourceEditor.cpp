@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/SourceEditor.h"
+
+#include "mapkit/data/CoordinateSystems.h"
+#include "mapkit/data/GdalErrors.h"
+#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/GeometryReader.h"
+#include "mapkit/data/SourceReader.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QFileInfo>
+
+#include <cmath>
+#include <gdal_priv.h>
+#include <ogr_spatialref.h>
+#include <ogrsf_frmts.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr double LargestLatitude = 90; // degrees
+constexpr double Tolerance = 1; // map units
+
+std::unique_ptr<GDALDataset> OpenForUpdate(const QString& path)
+{
+    PrepareGdal();
+    constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_UPDATE;
+    return std::unique_ptr<GDALDataset>(GDALDataset::Open(path.toUtf8().constData(), flags));
+}
+
+OGRGeometryUniquePtr FromBinary(const QByteArray& binary)
+{
+    OGRGeometry* geometry = nullptr;
+    OGRGeometryFactory::createFromWkb(binary.constData(), nullptr, &geometry, size_t(binary.size()));
+    return OGRGeometryUniquePtr(geometry);
+}
+
+QByteArray ToBinary(const OGRGeometry& geometry)
+{
+    QByteArray binary(qsizetype(geometry.WkbSize()), Qt::Uninitialized);
+    geometry.exportToWkb(wkbNDR, reinterpret_cast<unsigned char*>(binary.data()), wkbVariantIso);
+    return binary;
+}
+
+class Shift : public OGRDefaultGeometryVisitor
+{
+public:
+    explicit Shift(QPointF offset) : m_offset(offset) { }
+
+    using OGRDefaultGeometryVisitor::visit;
+    void visit(OGRPoint* point) override
+    {
+        point->setX(point->getX() + m_offset.x());
+        point->setY(point->getY() + m_offset.y());
+    }
+
+private:
+    QPointF m_offset;
+};
+
+// True when there is nothing to transform, too.
+bool Transform(OGRGeometry& geometry, OGRCoordinateTransformation* transformation)
+{
+    return !transformation || geometry.transform(transformation) == OGRERR_NONE;
+}
+
+OGREnvelope ExtentOf(const OGRGeometry& geometry)
+{
+    OGREnvelope extent;
+    geometry.getEnvelope(&extent);
+    return extent;
+}
+
+// Beyond its edge a projection gives positions that lead back to another place.
+bool LeadsBack(const OGRGeometry& geometry, OGRCoordinateTransformation* toMap, const OGREnvelope& there)
+{
+    const OGRGeometryUniquePtr again(geometry.clone());
+    if (!Transform(*again, toMap))
+        return false;
+    const OGREnvelope now = ExtentOf(*again);
+    return std::abs(now.MinX - there.MinX) < Tolerance && std::abs(now.MinY - there.MinY) < Tolerance
+        && std::abs(now.MaxX - there.MaxX) < Tolerance && std::abs(now.MaxY - there.MaxY) < Tolerance;
+}
+
+bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference* system)
+{
+    const OGREnvelope extent = ExtentOf(geometry);
+    return !system || !system->IsGeographic()
+        || (extent.MinY >= -LargestLatitude && extent.MaxY <= LargestLatitude);
+}
+
+} // namespace
+
+SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path)
+{
+    if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())
+        Fail(tr("the file is read only"));
+    const GdalErrors errors;
+    m_dataset = OpenForUpdate(m_path);
+    if (!m_dataset)
+        Fail(errors.First().isEmpty() ? tr("its format is read only") : errors.First());
+    m_layer = m_dataset->GetLayerByName(source.ogrLayer.toUtf8().constData());
+    if (!m_layer)
+        Fail(QCoreApplication::translate("DataSource", "it has no layer named %1").arg(source.ogrLayer));
+    if (!m_layer->TestCapability(OLCRandomWrite))
+        Fail(tr("its format is read only"));
+}
+
+SourceEditor::~SourceEditor()
+{
+    const GdalErrors quiet;
+    m_dataset.reset();
+}
+
+QByteArray SourceEditor::Geometry(qint64 featureID) const
+{
+    const GdalErrors quiet;
+    const OGRFeatureUniquePtr feature(m_layer->GetFeature(featureID));
+    const OGRGeometry* geometry = feature ? feature->GetGeometryRef() : nullptr;
+    if (!geometry)
+        Fail(tr("the feature is no longer there"));
+    return ToBinary(*geometry);
+}
+
+QByteArray SourceEditor::Moved(const QByteArray& binary, QPointF offset, const QString& mapSystem) const
+{
+    const GdalErrors quiet;
+    const OGRGeometryUniquePtr geometry = FromBinary(binary);
+    const auto toMap = TransformationTo(mapSystem, m_layer->GetSpatialRef());
+    const std::unique_ptr<OGRCoordinateTransformation> back(toMap ? toMap->GetInverse() : nullptr);
+    bool moved = geometry && Transform(*geometry, toMap.get());
+    if (moved) {
+        Shift shift(offset);
+        geometry->accept(&shift);
+        const OGREnvelope there = ExtentOf(*geometry);
+        moved = Transform(*geometry, back.get()) && LeadsBack(*geometry, toMap.get(), there);
+    }
+    if (!moved || !IsOnEarth(*geometry, m_layer->GetSpatialRef()))
+        Fail(tr("the feature would leave the earth"));
+    return ToBinary(*geometry);
+}
+
+FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const QString& mapSystem) const
+{
+    const GdalErrors quiet;
+    FeatureSet features;
+    GeometryReader reader(features, TransformationTo(mapSystem, m_layer->GetSpatialRef()));
+    if (const OGRGeometryUniquePtr geometry = FromBinary(binary))
+        reader.Add(*geometry, featureID);
+    return features;
+}
+
+void SourceEditor::SetGeometry(qint64 featureID, const QByteArray& binary)
+{
+    const GdalErrors errors;
+    const OGRFeatureUniquePtr feature(m_layer->GetFeature(featureID));
+    if (!feature)
+        Fail(tr("the feature is no longer there"));
+    OGRGeometryUniquePtr geometry = FromBinary(binary);
+    if (geometry)
+        geometry->assignSpatialReference(m_layer->GetSpatialRef());
+    feature->SetGeometryDirectly(geometry.release());
+    if (m_layer->SetFeature(feature.get()) != OGRERR_NONE)
+        Fail(errors.First());
+}
+
+void SourceEditor::Save()
+{
+    const GdalErrors errors;
+    m_layer = nullptr;
+    m_dataset.reset(); // several drivers write only now
+    if (!errors.First().isEmpty())
+        Fail(errors.First());
+}
+
+void SourceEditor::Fail(const QString& reason) const
+{
+    const QString sentence = tr("\"%1\" cannot be changed: %2.");
+    throw RunTimeError(SourceUnchangeable, sentence.arg(QFileInfo(m_path).fileName(), reason));
+}
+
+} // namespace Orvane

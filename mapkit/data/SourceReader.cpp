@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/SourceReader.h"
+
+#include "mapkit/data/DataSource.h"
+#include "mapkit/data/Progress.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int MostLines = 8;
+
+// Keeps the last file open, as the sources come ordered by file.
+class OpenSource
+{
+public:
+    const DataSource& At(const QString& path)
+    {
+        if (!m_source || path != m_path) {
+            m_source.reset();
+            m_source = std::make_unique<DataSource>(path);
+            m_path = path;
+        }
+        return *m_source;
+    }
+
+private:
+    QString m_path;
+    std::unique_ptr<DataSource> m_source;
+};
+
+} // namespace
+
+QString SourceContents::FailureText() const
+{
+    QStringList lines;
+    for (const auto& [layerID, reason] : failures) {
+        if (!lines.contains(reason))
+            lines << reason;
+    }
+    const qsizetype more = lines.size() - MostLines;
+    if (more > 0) {
+        lines.resize(MostLines);
+        lines << QCoreApplication::translate("SourceReader", "... and %1 more.").arg(more);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+SourceContents ReadSources(std::vector<LayerSource> sources, const QString& mapSystem, Progress& progress)
+{
+    std::stable_sort(sources.begin(), sources.end(), [](const LayerSource& a, const LayerSource& b) {
+        return a.path < b.path;
+    });
+    SourceContents contents;
+    OpenSource open;
+    double done = 0;
+    for (const LayerSource& source : sources) {
+        try {
+            progress.StopIfCancelled();
+            auto features = open.At(source.path).Read(source.ogrLayer, source.filter, mapSystem, progress);
+            contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
+        } catch (const RunTimeError& error) {
+            contents.failures[source.layerID] = error.Description();
+        } catch (const Cancelled&) {
+            return contents;
+        }
+        progress.Report(++done / double(sources.size()));
+    }
+    return contents;
+}
+
+} // namespace Orvane

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/document/MapDocument.h"
+
+#include "hostkit/StoredScale.h"
+#include "store/SqliteLayerDatabase.h"
+#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <limits>
+#include <system_error>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto SettingsTable
+    = "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)";
+constexpr qint32 NoCode = -1;
+
+QString Text(const IRecordset& row, std::string_view column)
+{
+    const Value value = row.Field(column);
+    return value.IsNull() ? QString() : ToText(value);
+}
+
+// Code -1 is given to as many layers as need it.
+qint32 CodeOrNone(qint32 next)
+{
+    return next <= std::numeric_limits<qint16>::max() ? next : NoCode;
+}
+
+// A map file under another name until it is whole; what was begun and not put in place is removed.
+class UnfinishedFile
+{
+public:
+    explicit UnfinishedFile(const QString& path) : m_path(path) { MapDocument::Remove(Path()); }
+    ~UnfinishedFile() { MapDocument::Remove(Path()); }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+    QString Path() const { return m_path + QLatin1String(".part"); }
+
+    void PutInPlace() const
+    {
+        for (const char* companion : {"-wal", "-shm"}) // of the file that is there
+            QFile::remove(m_path + QLatin1String(companion));
+        std::error_code error;
+        std::filesystem::rename(Path().toStdU16String(), m_path.toStdU16String(), error);
+        if (error) {
+            throw RunTimeError(
+                ErrorNumber::DatabaseFailure,
+                QCoreApplication::translate("MapDocument", "\"%1\" cannot be stored: %2")
+                    .arg(QFileInfo(m_path).fileName(), QString::fromLocal8Bit(error.message().c_str())));
+        }
+    }
+
+private:
+    QString m_path;
+};
+
+} // namespace
+
+std::unique_ptr<MapDocument> MapDocument::Untitled()
+{
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::CreateInMemory(), {}));
+}
+
+std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Create(absolute), absolute));
+}
+
+std::unique_ptr<MapDocument> MapDocument::CreateOver(const QString& path)
+{
+    {
+        const UnfinishedFile unfinished(path);
+        Create(unfinished.Path());
+        unfinished.PutInPlace();
+    }
+    return Open(path);
+}
+
+std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Open(absolute), absolute));
+}
+
+MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
+    : m_database(std::move(database)), m_path(path), m_sources(*m_database, m_path), m_renderings(*m_database)
+{
+    m_sources.Create();
+    m_renderings.Create();
+    m_database->Execute(QLatin1String(SettingsTable));
+}
+
+MapDocument::~MapDocument() = default;
+
+void MapDocument::Remove(const QString& path)
+{
+    for (const char* companion : {"", "-wal", "-shm"})
+        QFile::remove(path + QLatin1String(companion));
+}
+
+void MapDocument::SaveCopy(const QString& path) const
+{
+    const UnfinishedFile unfinished(path);
+    m_database->Execute(QStringLiteral("VACUUM INTO ?1"), {unfinished.Path()});
+    {
+        // Paths are kept from the folder that the copy is in, which is the one that it will be in.
+        const auto copy = Open(unfinished.Path());
+        StoreTransaction transaction(copy->Database());
+        for (const LayerSource& source : Sources())
+            copy->SetSource(source);
+        copy->SetBackdrop(Backdrop());
+        transaction.Commit();
+    }
+    unfinished.PutInPlace();
+}
+
+QString MapDocument::System() const
+{
+    return Setting(QStringLiteral("System"));
+}
+
+void MapDocument::SetSystem(const QString& system)
+{
+    SetSetting(QStringLiteral("System"), system);
+}
+
+QString MapDocument::Backdrop() const
+{
+    const SourcePaths::Place place{
+        Setting(QStringLiteral("Backdrop")), Setting(QStringLiteral("BackdropRelative"))};
+    return place.path.isEmpty() ? QString() : SourcePaths(m_path).Find(place);
+}
+
+void MapDocument::SetBackdrop(const QString& path)
+{
+    const SourcePaths::Place place = path.isEmpty() ? SourcePaths::Place() : SourcePaths(m_path).Store(path);
+    StoreTransaction transaction(*m_database);
+    SetSetting(QStringLiteral("Backdrop"), place.path);
+    SetSetting(QStringLiteral("BackdropRelative"), place.relative);
+    transaction.Commit();
+}
+
+QString MapDocument::Setting(const QString& name) const
+{
+    const auto row
+        = m_database->OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
+    return row->AtEOF() ? QString() : Text(*row, "Value");
+}
+
+void MapDocument::SetSetting(const QString& name, const QString& value)
+{
+    m_database->Execute(
+        QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES (?1, ?2)"),
+        {name, value.isNull() ? QStringLiteral("") : value});
+}
+
+qint32 MapDocument::AddLayer(const NewLayer& layer)
+{
+    const qint32 layerID = NextOf(QStringLiteral("max(LayerID)"), QStringLiteral("Layers"));
+    const qint32 code = NextOf(QStringLiteral("max(Code)"), QStringLiteral("Layers"));
+    const double limit = layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum;
+    const DrawingValues& values = layer.values;
+    StoreTransaction transaction(*m_database);
+    m_database->Execute(
+        QStringLiteral(
+            "INSERT INTO Layers (LayerID, Name, Code, Visible, Color, FillForeColor, FillBackColor,"
+            " OutlineStyle, FillStyle, LineThickness, MinVisScale, MaxVisScale, Priority, Style)"
+            " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)"),
+        {layerID, layer.name, CodeOrNone(code), layer.visible, values.color, values.fillForeColor,
+         values.fillBackColor, values.outlineStyle, values.fillStyle, values.lineThickness,
+         layer.minDenominator, limit, layer.priority, values.style});
+    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter});
+    transaction.Commit();
+    return layerID;
+}
+
+qint32 MapDocument::AddGroup(const QString& name, bool expanded)
+{
+    const QString table = QStringLiteral("LayerGroups");
+    const qint32 groupID = NextOf(QStringLiteral("max(ID)"), table);
+    const qint32 ordering = NextOf(QStringLiteral("max(GroupOrdering)"), table);
+    m_database->Execute(
+        QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering, Expanded) VALUES (?1, ?2, ?3, ?4)"),
+        {groupID, name, ordering, expanded});
+    return groupID;
+}
+
+void MapDocument::AddMember(qint32 groupID, qint32 layerID)
+{
+    m_database->Execute(
+        QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID, Ordering) SELECT ?1, ?2, count(*)"
+                       " FROM LayerGroupMembers WHERE GroupID = ?1"),
+        {groupID, layerID});
+}
+
+std::vector<LayerSource> MapDocument::Sources() const
+{
+    return m_sources.All();
+}
+
+void MapDocument::SetSource(const LayerSource& source)
+{
+    m_sources.Set(source);
+}
+
+bool MapDocument::HasLayers() const
+{
+    return !m_database->OpenRecordset(QStringLiteral("SELECT LayerID FROM Layers LIMIT 1"))->AtEOF();
+}
+
+qint32 MapDocument::NextOf(const QString& expression, const QString& table) const
+{
+    const QString sql = QStringLiteral("SELECT coalesce(%1, 0) + 1 AS Next FROM %2").arg(expression, table);
+    return ToInt32(m_database->OpenRecordset(sql)->Field("Next"));
+}
+
+} // namespace Orvane

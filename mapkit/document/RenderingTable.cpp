@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/document/RenderingTable.h"
+
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto Definition
+    = "CREATE TABLE IF NOT EXISTS LayerRendering ("
+      " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
+      " LabelAttribute TEXT NOT NULL DEFAULT '', ClassAttribute TEXT NOT NULL DEFAULT '',"
+      " Division INTEGER NOT NULL DEFAULT 0, ClassCount INTEGER NOT NULL DEFAULT 5)";
+
+QString NotNull(const QString& text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+LayerRendering RenderingOfRow(const IRecordset& row)
+{
+    LayerRendering rendering;
+    rendering.labelAttribute = ToText(row.Field("LabelAttribute"));
+    rendering.classAttribute = ToText(row.Field("ClassAttribute"));
+    if (ToInt32(row.Field("Division")) == int(ClassDivision::EqualSteps))
+        rendering.division = ClassDivision::EqualSteps;
+    rendering.classCount = std::clamp(
+        int(ToInt32(row.Field("ClassCount"))), Classification::MinCount, Classification::MaxCount);
+    return rendering;
+}
+
+} // namespace
+
+void RenderingTable::Create()
+{
+    m_database.Execute(QLatin1String(Definition));
+}
+
+std::map<qint32, LayerRendering> RenderingTable::All() const
+{
+    std::map<qint32, LayerRendering> all;
+    const auto rows = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering"));
+    for (; !rows->AtEOF(); rows->MoveNext())
+        all[ToInt32(rows->Field("LayerID"))] = RenderingOfRow(*rows);
+    return all;
+}
+
+LayerRendering RenderingTable::Of(qint32 layerID) const
+{
+    const auto row
+        = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering WHERE LayerID = ?1"), {layerID});
+    return row->AtEOF() ? LayerRendering() : RenderingOfRow(*row);
+}
+
+void RenderingTable::Set(qint32 layerID, const LayerRendering& rendering)
+{
+    m_database.Execute(
+        QStringLiteral("INSERT OR REPLACE INTO LayerRendering"
+                       " (LayerID, LabelAttribute, ClassAttribute, Division, ClassCount)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5)"),
+        {layerID, NotNull(rendering.labelAttribute), NotNull(rendering.classAttribute),
+         int(rendering.division), rendering.classCount});
+}
+
+} // namespace Orvane

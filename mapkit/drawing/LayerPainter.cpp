@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/drawing/LayerPainter.h"
+
+#include "mapkit/drawing/FeaturePainter.h"
+
+namespace Orvane {
+
+namespace {
+
+// Some of the features, drawn in one look; the passes of a layer lie on one another.
+struct Pass {
+    LayerLook look;
+    std::function<bool(size_t feature)> isChosen; // empty for all
+};
+
+bool IsLine(const MapLayer& layer, size_t feature)
+{
+    return layer.features->Features()[feature].kind == FeatureKind::Line;
+}
+
+int ClassOf(const MapLayer& layer, size_t feature)
+{
+    return layer.classes->ClassOf(feature);
+}
+
+LayerLook ForLines(const LayerLook& look, const QPen& pen)
+{
+    LayerLook lines = look;
+    lines.outline = pen;
+    return lines;
+}
+
+// What has an inside keeps the layer's outline; all else takes the class's colour.
+LayerLook AreasOfClass(const MapLayer& layer, const ClassLook& own)
+{
+    LayerLook look = layer.look;
+    look.fill = own.fill;
+    if (own.fill.style() == Qt::NoBrush)
+        look.outline.setColor(own.colour);
+    return look;
+}
+
+LayerLook LinesOfClass(const MapLayer& layer, const ClassLook& own)
+{
+    LayerLook look = ForLines(layer.look, layer.look.cased ? layer.look.cased->core : layer.look.outline);
+    look.outline.setColor(own.colour);
+    look.symbol = own.colour;
+    return look;
+}
+
+void AppendClass(std::vector<Pass>& passes, const MapLayer& layer, const ClassLook& own, int index)
+{
+    const auto isArea
+        = [&layer](size_t feature) { return layer.features->Features()[feature].kind == FeatureKind::Area; };
+    passes.push_back({AreasOfClass(layer, own), [&layer, isArea, index](size_t feature) {
+                          return isArea(feature) && ClassOf(layer, feature) == index;
+                      }});
+    passes.push_back({LinesOfClass(layer, own), [&layer, isArea, index](size_t feature) {
+                          return !isArea(feature) && ClassOf(layer, feature) == index;
+                      }});
+}
+
+std::vector<Pass> GraduatedPasses(const MapLayer& layer)
+{
+    std::vector<Pass> passes;
+    AppendClass(passes, layer, UnclassedLook(layer.values), Classification::NoClass);
+    for (size_t i = 0; i < layer.classLooks.size(); ++i)
+        AppendClass(passes, layer, layer.classLooks[i], int(i));
+    return passes;
+}
+
+// All casings lie below all cores, so that lines that meet run into one another.
+Pass CasingPass(const MapLayer& layer)
+{
+    return {ForLines(layer.look, layer.look.cased->casing), [&layer](size_t feature) {
+                return IsLine(layer, feature);
+            }};
+}
+
+std::vector<Pass> PlainPasses(const MapLayer& layer)
+{
+    if (!layer.look.cased)
+        return {{layer.look, {}}};
+    return {
+        {layer.look, [&layer](size_t feature) { return !IsLine(layer, feature); }},
+        {ForLines(layer.look, layer.look.cased->core),
+         [&layer](size_t feature) { return IsLine(layer, feature); }}};
+}
+
+std::vector<Pass> PassesOf(const MapLayer& layer)
+{
+    std::vector<Pass> passes;
+    if (layer.look.cased)
+        passes.push_back(CasingPass(layer));
+    const bool isGraduated = layer.classes && layer.classes->Count() > 0;
+    for (Pass& pass : isGraduated ? GraduatedPasses(layer) : PlainPasses(layer))
+        passes.push_back(std::move(pass));
+    return passes;
+}
+
+} // namespace
+
+void PaintLayer(
+    QPainter& painter, const MapLayer& layer, const MapView& view, const std::atomic<bool>& cancelled)
+{
+    for (const Pass& pass : PassesOf(layer))
+        FeaturePainter(painter, view, pass.look).Paint(*layer.features, pass.isChosen, cancelled);
+}
+
+} // namespace Orvane

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/data/AttributeColumn.h"
+#include "mapkit/data/FeatureSet.h"
+#include "mapkit/drawing/Classification.h"
+#include "mapkit/drawing/LayerLook.h"
+
+#include <QString>
+
+#include <limits>
+#include <memory>
+#include <tuple>
+
+namespace Orvane {
+
+/// How a layer takes part in the map, as Layers.OverrideMode stores it.
+enum class DrawMode {
+    Normal = 0,
+    Backdrop = 1, ///< pale, and below every normal layer
+    Hidden = 2, ///< not at all
+};
+
+/// What a person may do with a layer's features on the map.
+struct LayerFlags {
+    bool selectable = true;
+    bool locked = false; ///< its features stay where they are
+    bool hitable = true; ///< off: its features are not found under the pointer, whatever the other flags say
+    bool snapRequired = false; ///< measuring lines snap to its features
+    bool enquirable = true;
+
+    bool operator==(const LayerFlags&) const = default;
+};
+
+/// One layer as the map draws it.
+struct MapLayer {
+    qint32 layerID = 0;
+    bool visible = true;
+    DrawMode mode = DrawMode::Normal;
+    int priority = 0; ///< 1 is drawn on top, 255 at the bottom
+    double minDenominator = 0; ///< shown at scales from 1 : this ...
+    double maxDenominator = std::numeric_limits<double>::infinity(); ///< ... to 1 : this
+    DrawingValues values;
+    LayerLook look; ///< follows from the values
+    std::shared_ptr<const FeatureSet> features; ///< nullptr while they cannot be read
+    std::shared_ptr<const AttributeColumn> labels; ///< nullptr for no labels, and until they are read
+    std::shared_ptr<const Classification> classes; ///< nullptr for no classes, and until they are known
+    std::vector<ClassLook> classLooks; ///< follow from values and classes, one a class
+    QString name; ///< the layer's own, without markers
+    LayerFlags flags;
+
+    /// True when the scale 1 : denominator is one that shows the layer.
+    bool IsInScale(double denominator) const
+    {
+        return denominator >= minDenominator && denominator <= maxDenominator;
+    }
+    /// True when the map shows the layer at that scale, as far as the layer itself decides it.
+    bool IsShownAt(double denominator) const
+    {
+        return visible && mode != DrawMode::Hidden && features && IsInScale(denominator);
+    }
+    /// Orders layers as they lie upon each other, the lowest first.
+    auto Height() const { return std::tuple(mode != DrawMode::Backdrop, -priority, layerID); }
+
+    /// True when both would be drawn into the same pixels.
+    bool LooksLike(const MapLayer& other) const
+    {
+        return values == other.values && features == other.features && labels == other.labels
+            && classes == other.classes;
+    }
+};
+
+} // namespace Orvane

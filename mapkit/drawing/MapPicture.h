@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/drawing/MapLayer.h"
+#include "mapkit/drawing/MapView.h"
+#include "mapkit/drawing/RasterBackdrop.h"
+#include "mapkit/drawing/Sheets.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QObject>
+#include <QThreadPool>
+
+#include <map>
+#include <memory>
+
+class QPainter;
+
+namespace Orvane {
+
+/// The picture of a map, drawn in the background and kept up to date with the least drawing: a change of one
+/// layer draws that layer's image anew, a change of order or visibility only lays the images together.
+///
+///     picture.SetLayers(document.Layers());
+///     picture.SetView(view, scaleDenominator, devicePixelRatio());
+///     connect(&picture, &MapPicture::Changed, this, [this] { update(); });
+///
+/// All members belong to the thread that made it; nothing here raises.
+class MapPicture : public QObject
+{
+    Q_OBJECT
+public:
+    explicit MapPicture(QObject* parent = nullptr);
+    /// Cancels what is being drawn and waits for it.
+    ~MapPicture() override;
+
+    /// Replaces the layers, known by their IDs.
+    void SetLayers(std::vector<MapLayer> layers);
+    /// Lays a picture under all layers; nullptr for none.
+    void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
+    /// Shows another part of the map. Drawing of the part before is cancelled.
+    void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
+
+    const std::vector<MapLayer>& Layers() const { return m_layers; }
+    const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
+    /// The last picture; null before the first.
+    const QImage& Image() const { return m_image; }
+    /// The view that Image shows, which may be an earlier one while drawing goes on.
+    const MapView& ImageView() const { return m_imageView; }
+    bool IsBusy() const { return m_pending > 0; }
+
+signals:
+    /// Image is another one.
+    void Changed();
+    void BusyChanged(bool busy);
+    /// A layer was drawn anew.
+    void LayerDrawn(qint32 layerID);
+    /// The picture under the layers cannot be read; told once a picture.
+    void BackdropFailed(const QString& reason);
+
+private:
+    using Images = std::map<std::vector<qint32>, SheetImage>;
+
+    void Refresh();
+    void Start(const Sheet& sheet);
+    void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);
+    void StartBackdrop();
+    void TakeBackdrop(quint64 generation, const QImage& image, const QString& failure);
+    void Finish();
+    void Compose();
+    void PlaceBackdrop(QPainter& painter) const;
+    void SetPending(size_t pending);
+
+    std::vector<MapLayer> m_layers;
+    std::vector<Sheet> m_sheets;
+    Images m_images; // of m_view
+    std::shared_ptr<const RasterBackdrop> m_backdrop;
+    QImage m_backdropImage; // shows m_backdropView
+    MapView m_backdropView;
+    bool m_backdropDrawn = false; // for m_view
+    MapView m_view;
+    double m_scaleDenominator = 1;
+    double m_devicePixelRatio = 1;
+    QImage m_image;
+    MapView m_imageView;
+    QElapsedTimer m_sinceShown;
+    QThreadPool m_pool;
+    std::shared_ptr<std::atomic<bool>> m_cancelled;
+    quint64 m_generation = 0;
+    size_t m_pending = 0;
+};
+
+} // namespace Orvane

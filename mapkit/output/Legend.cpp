@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/output/Legend.h"
+
+#include "samples/BgrColour.h"
+
+#include <OrvaneShellLib/ILayerDatabase.h>
+#include <OrvaneShellLib/IRecordset.h>
+#include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QHash>
+#include <QLocale>
+#include <QSet>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int FillPatternKind = 7;
+constexpr int LastFillStyle = 31;
+constexpr int SolidFill = 0;
+constexpr int HollowFill = 15;
+
+// A layer in several groups is listed by the first of them.
+constexpr auto ListedLayers
+    = "SELECT Layers.LayerID AS LayerID, Layers.Name AS LayerName, LayerGroups.ID AS GroupID,"
+      " LayerGroups.Name AS GroupName FROM Layers"
+      " LEFT JOIN LayerGroupMembers ON LayerGroupMembers.LayerID = Layers.LayerID"
+      " LEFT JOIN LayerGroups ON LayerGroups.ID = LayerGroupMembers.GroupID"
+      " ORDER BY LayerGroups.ID IS NULL, LayerGroups.GroupOrdering, LayerGroups.ID,"
+      " LayerGroupMembers.Ordering, Layers.Name, Layers.LayerID";
+
+QString Text(const IRecordset& row, std::string_view column)
+{
+    const Value value = row.Field(column);
+    return value.IsNull() ? QString() : ToText(value);
+}
+
+bool IsPatterned(int fillStyle)
+{
+    return fillStyle > SolidFill && fillStyle <= LastFillStyle && fillStyle != HollowFill;
+}
+
+LegendRow RowOf(const MapLayer& layer, const QString& name, const IShellServices& services)
+{
+    LegendRow row;
+    row.text = name;
+    row.backdrop = layer.mode == DrawMode::Backdrop;
+    row.values = layer.values;
+    row.look = layer.look;
+    if (IsPatterned(layer.values.fillStyle))
+        row.fillPattern = services.FillPattern(FillPatternKind, layer.values.fillStyle);
+    if (layer.features && !layer.features->Features().empty())
+        row.kind = layer.features->Features().front().kind;
+    return row;
+}
+
+QString LimitText(double limit)
+{
+    return QLocale().toString(limit, 'g', 6);
+}
+
+// How a class differs from its layer, as the map draws it.
+LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
+{
+    LegendRow row = layer;
+    const qint32 colour = BgrFromQColor(look.colour);
+    row.values.fillForeColor = colour;
+    row.look.symbol = look.colour;
+    if (row.look.cased)
+        row.look.cased->core.setColor(look.colour);
+    if (row.kind != FeatureKind::Area || look.fill.style() == Qt::NoBrush) {
+        row.values.color = colour;
+        row.look.outline.setColor(look.colour);
+    }
+    return row;
+}
+
+// The layer's row, and those of its classes below it.
+void AddLayer(std::vector<LegendRow>& rows, const LegendRow& row, const MapLayer& layer)
+{
+    rows.push_back(row);
+    const size_t count = layer.classes ? layer.classLooks.size() : 0;
+    rows.back().sample = count == 0;
+    for (size_t i = 0; i < count; ++i) {
+        rows.push_back(RowOfClass(row, layer.classLooks[i]));
+        const double lower = layer.classes->LowerLimit(int(i));
+        rows.back().text
+            = LimitText(lower) + QStringLiteral(" – ") + LimitText(layer.classes->UpperLimit(int(i)));
+        rows.back().indent = 1;
+    }
+}
+
+// The rows of one group, or of what belongs to none.
+struct Block {
+    Value groupID;
+    QString name;
+    int layers = 0;
+    std::vector<LegendRow> rows;
+};
+
+void AddBlock(std::vector<LegendRow>& legend, Block&& block)
+{
+    const bool headed = !block.groupID.IsNull() && block.layers > 1;
+    if (headed)
+        legend.push_back(LegendRow::Heading(block.name));
+    for (LegendRow& row : block.rows) {
+        row.indent += headed ? 1 : 0;
+        legend.push_back(std::move(row));
+    }
+}
+
+bool Continues(const Block& block, const Value& groupID)
+{
+    return ValuesEqual(block.groupID, groupID) || (block.groupID.IsNull() && groupID.IsNull());
+}
+
+} // namespace
+
+std::vector<LegendRow>
+LegendOf(ILayerDatabase& database, const IShellServices& services, const std::vector<MapLayer>& layers)
+{
+    QHash<qint32, const MapLayer*> left;
+    for (const MapLayer& layer : layers)
+        left.insert(layer.layerID, &layer);
+    std::vector<LegendRow> legend;
+    Block block{Value::Null(), {}, 0, {}};
+    const auto rows = database.OpenRecordset(QString::fromLatin1(ListedLayers));
+    for (; !rows->AtEOF() && !left.isEmpty(); rows->MoveNext()) {
+        const MapLayer* layer = left.take(ToInt32(rows->Field("LayerID")));
+        if (!layer)
+            continue;
+        const Value groupID = rows->Field("GroupID");
+        if (!Continues(block, groupID)) {
+            AddBlock(legend, std::move(block));
+            block = {groupID, Text(*rows, "GroupName"), 0, {}};
+        }
+        ++block.layers;
+        AddLayer(block.rows, RowOf(*layer, Text(*rows, "LayerName"), services), *layer);
+    }
+    AddBlock(legend, std::move(block));
+    return legend;
+}
+
+} // namespace Orvane

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/drawing/MapLayer.h"
+
+#include <OrvaneShellLib/MonochromeBitmap.h>
+
+#include <QString>
+
+#include <vector>
+
+namespace Orvane {
+
+class ILayerDatabase;
+class IShellServices;
+
+/// One row of a legend.
+struct LegendRow {
+    QString text;
+    bool heading = false; ///< the name of a group
+    bool sample = true; ///< false: text only
+    int indent = 0; ///< how many rows above this one it belongs to
+    bool backdrop = false; ///< drawn pale
+    FeatureKind kind = FeatureKind::Area; ///< what the layer's first feature is
+    DrawingValues values;
+    LayerLook look; ///< follows from the values
+    MonochromeBitmap fillPattern; ///< of a patterned fill style
+
+    static LegendRow Heading(const QString& text)
+    {
+        LegendRow row;
+        row.text = text;
+        row.heading = true;
+        row.sample = false;
+        return row;
+    }
+};
+
+/// The legend of these layers: groups in the order of the layer control with their layers below them, each
+/// layer once, layers without a group at the end. A graduated layer is followed by its classes. A group of
+/// which one layer only is listed has no heading. Passes on errors of the database and the services.
+std::vector<LegendRow>
+LegendOf(ILayerDatabase& database, const IShellServices& services, const std::vector<MapLayer>& layers);
+
+} // namespace Orvane

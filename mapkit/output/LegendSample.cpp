@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/output/LegendSample.h"
+
+#include "mapkit/drawing/FeaturePainter.h"
+#include "mapkit/output/PageFonts.h"
+#include "mapkit/output/PageSettings.h"
+#include "mapkit/output/PatternPictures.h"
+#include "ovctrls/StyleStringRenderer.h"
+#include "samples/BgrColour.h"
+#include "samples/FillSample.h"
+#include "samples/StyleStrings.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr qint32 Paper = 0xFFFFFF;
+constexpr double BackdropOpacity = 0.3; // as the map lays backdrops down
+constexpr int SampleResolution = 288; // three dots a pattern bit
+constexpr double WidestOutline = 0.25; // of the sample's height
+
+qint16 Whole(double number)
+{
+    return qint16(std::clamp(std::round(number), 1.0, 32000.0));
+}
+
+// Page pixels that one unit of the line's drawing commands stands for: the commands know widths of whole
+// units only, and patterns of width 1.
+double UnitOf(const DrawingValues& values, const LayerLook& look)
+{
+    if (values.outlineStyle != 0)
+        return std::max(look.outline.widthF(), 1.0);
+    return values.lineThickness > 0 ? PagePixelsPerMillimetre : 1;
+}
+
+void PaintLine(QPainter& painter, const QRect& area, const DrawingValues& values, const LayerLook& look)
+{
+    if (values.outlineStyle == NoLineStyle)
+        return;
+    const double unit = UnitOf(values, look);
+    const QRect inUnits(0, 0, Whole(area.width() / unit), Whole(area.height() / unit));
+    const LineExtent extent{
+        qint16(inUnits.height() + 2), qint16(inUnits.width()), qint16(inUnits.height() / 2)};
+    const LineItem line{qint16(values.outlineStyle), Whole(std::abs(values.lineThickness))};
+    const LineItem shown{
+        line.style, values.lineThickness > 0 ? line.thickness : qint16(values.lineThickness)};
+    // What stands before the tab is the width in words.
+    const QString commands = StyleStrings({}, {}).LineItemText(shown, extent).section(QLatin1Char('\t'), -1);
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.translate(area.topLeft());
+    painter.scale(unit, unit);
+    StyleStringRenderer().Paint(painter, inUnits, commands, {PageFonts::Text(), look.outline.color(), 0});
+    painter.restore();
+}
+
+// A solid line as broad as the pen.
+void PaintStroke(QPainter& painter, const QRect& area, const QPen& pen)
+{
+    DrawingValues values;
+    values.lineThickness = -int(Whole(pen.widthF()));
+    LayerLook look;
+    look.outline = pen;
+    PaintLine(painter, area, values, look);
+}
+
+void PaintCasedLine(QPainter& painter, const QRect& area, const CasedLine& cased)
+{
+    PaintStroke(painter, area, cased.casing);
+    PaintStroke(painter, area, cased.core);
+}
+
+void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
+{
+    const DrawingValues& values = row.values;
+    const FillColours colours{values.color, values.fillForeColor, values.fillBackColor};
+    const FillSample sample{values.fillStyle, row.fillPattern, colours, Paper};
+    const auto paint = [&](QPainter& onto) { PaintFillSample(onto, area, sample); };
+    if (KnowsPatterns(painter))
+        paint(painter);
+    else
+        PaintAsPicture(painter, area, SampleResolution, paint);
+    QPen outline = row.look.outline;
+    outline.setWidthF(std::min(outline.widthF(), area.height() * WidestOutline));
+    outline.setJoinStyle(Qt::MiterJoin);
+    const double half = outline.style() == Qt::NoPen ? 0 : outline.widthF() / 2;
+    painter.setPen(outline);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(area).adjusted(half, half, -half, -half));
+}
+
+void PaintPoint(QPainter& painter, const QRect& area, const LayerLook& look)
+{
+    FeatureSet point;
+    point.BeginFeature(FeatureKind::Point);
+    point.AddPart(std::vector<QPointF>{{0, 0}});
+    const std::atomic<bool> cancelled = false;
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.translate(area.topLeft());
+    FeaturePainter(painter, MapView({0, 0}, 1, area.size()), look).Paint(point, cancelled);
+}
+
+} // namespace
+
+void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& row)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(row.backdrop ? BackdropOpacity : 1);
+    switch (row.kind) {
+    case FeatureKind::Point:
+        PaintPoint(painter, area, row.look);
+        break;
+    case FeatureKind::Line:
+        if (row.look.cased)
+            PaintCasedLine(painter, area, *row.look.cased);
+        else
+            PaintLine(painter, area, row.values, row.look);
+        break;
+    case FeatureKind::Area:
+        PaintArea(painter, area, row);
+        break;
+    }
+    painter.restore();
+}
+
+} // namespace Orvane

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/RasterSource.h"
+
+#include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
+#include "mapkit/data/DataSource.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+constexpr auto Degrees = "EPSG:4326";
+const Box World{0, 0, 10, 10}; // what the pictures cover
+
+class RasterSourceTest : public testing::Test
+{
+protected:
+    QString Path() const { return m_folder.Path("photo.tif"); }
+
+    QImage Draw(const Box& extent, QSize pixels, const char* system = Degrees)
+    {
+        return RasterSource(Path()).Draw(system, extent, pixels, m_cancelled);
+    }
+
+    QString ErrorOf(const QString& path)
+    {
+        try {
+            RasterSource source(path);
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.Number(), SourceUnreadable);
+            return error.Description();
+        }
+        ADD_FAILURE() << "no error";
+        return {};
+    }
+
+    DataFolder m_folder;
+    std::atomic<bool> m_cancelled = false;
+};
+
+// West is red, east is blue.
+double Halves(int column, int, int band)
+{
+    const bool west = column < 50;
+    return (band == 1 && west) || (band == 3 && !west) ? 255 : 0;
+}
+
+} // namespace
+
+TEST_F(RasterSourceTest, DrawsColoursWhereTheyLie)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    const QImage image = Draw(World, {200, 200});
+    ASSERT_EQ(image.size(), QSize(200, 200));
+    EXPECT_EQ(image.pixelColor(50, 100), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(150, 100), QColor(Qt::blue));
+}
+
+TEST_F(RasterSourceTest, IsTransparentWhereThereIsNoPicture)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    const QImage image = Draw({-10, 0, 10, 10}, {200, 100});
+    EXPECT_EQ(qAlpha(image.pixel(50, 50)), 0);
+    EXPECT_EQ(image.pixelColor(120, 50), QColor(Qt::red));
+}
+
+TEST_F(RasterSourceTest, WarpsIntoTheMapsSystem)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    const RasterSource source(Path());
+    const Box extent = source.ExtentIn("EPSG:3857");
+    EXPECT_NEAR(extent.maxX, 1113194.9, 20000);
+    EXPECT_EQ(source.Extent(), World);
+    EXPECT_EQ(source.System(), "EPSG:4326");
+    const QImage image = Draw(extent, {100, 100}, "EPSG:3857");
+    EXPECT_EQ(image.pixelColor(25, 50), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(75, 50), QColor(Qt::blue));
+}
+
+TEST_F(RasterSourceTest, NothingIsDrawnBesideTheGlobe)
+{
+    WriteRaster(Path(), {.transform = {-180, 3.6, 0, 90, 0, -1.8}}, [](int, int, int) { return 99; });
+    const Box globe = RasterSource(Path()).ExtentIn("EPSG:8857");
+    const QImage image = Draw(globe, {300, 150}, "EPSG:8857");
+    EXPECT_EQ(qAlpha(image.pixel(150, 75)), 255);
+    EXPECT_EQ(qAlpha(image.pixel(3, 3)), 0);
+    EXPECT_EQ(qAlpha(image.pixel(296, 146)), 0);
+}
+
+TEST_F(RasterSourceTest, APictureWithoutASystemLiesInTheMaps)
+{
+    WriteRaster(Path(), {.bands = 3, .transform = {0, 10, 0, 1000, 0, -10}, .system = nullptr}, Halves);
+    EXPECT_EQ(RasterSource(Path()).System(), "");
+    const QImage image = Draw({0, 0, 1000, 1000}, {100, 100}, "EPSG:32632");
+    EXPECT_EQ(image.pixelColor(25, 50), QColor(Qt::red));
+}
+
+TEST_F(RasterSourceTest, ShowsHeightsInShadesOfGrey)
+{
+    WriteRaster(Path(), {.type = GDT_Float32}, [](int column, int, int) { return 1000 + column * 10; });
+    const QImage image = Draw(World, {100, 100});
+    EXPECT_LT(qRed(image.pixel(2, 50)), 20);
+    EXPECT_GT(qRed(image.pixel(97, 50)), 235);
+    EXPECT_EQ(qRed(image.pixel(50, 50)), qBlue(image.pixel(50, 50)));
+    EXPECT_EQ(qAlpha(image.pixel(50, 50)), 255);
+}
+
+TEST_F(RasterSourceTest, HeightsThatAreAllTheSameAreDrawn)
+{
+    WriteRaster(Path(), {.type = GDT_Int16}, [](int, int, int) { return 7; });
+    EXPECT_EQ(qAlpha(Draw(World, {50, 50}).pixel(25, 25)), 255);
+}
+
+TEST_F(RasterSourceTest, ShowsTheColoursOfAPalette)
+{
+    WriteRaster(Path(), {}, [](int column, int, int) { return column < 50 ? 1 : 2; });
+    {
+        const std::unique_ptr<GDALDataset> file(
+            GDALDataset::Open(Path().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_UPDATE));
+        GDALColorTable table;
+        const GDALColorEntry green{0, 255, 0, 255};
+        table.SetColorEntry(1, &green);
+        file->GetRasterBand(1)->SetColorTable(&table);
+    }
+    EXPECT_EQ(Draw(World, {100, 100}).pixelColor(25, 50), QColor(0, 255, 0));
+}
+
+TEST_F(RasterSourceTest, ReadsLittleOfAHugePicture)
+{
+    GDALAllRegister();
+    CPLStringList options;
+    options.SetNameValue("SPARSE_OK", "TRUE").SetNameValue("TILED", "YES").SetNameValue("BIGTIFF", "YES");
+    {
+        const std::unique_ptr<GDALDataset> file(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+            Path().toUtf8().constData(), 100000, 100000, 1, GDT_Byte, options.List()));
+        std::array<double, 6> transform = {0, 0.0001, 0, 10, 0, -0.0001};
+        file->SetGeoTransform(transform.data());
+    }
+    EXPECT_EQ(Draw(World, {64, 64}).size(), QSize(64, 64));
+}
+
+TEST_F(RasterSourceTest, NothingInViewIsNoImage)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    EXPECT_TRUE(Draw({50, 50, 60, 60}, {100, 100}).isNull());
+}
+
+TEST_F(RasterSourceTest, CancelledDrawingEnds)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    m_cancelled = true;
+    EXPECT_TRUE(Draw(World, {100, 100}).isNull());
+}
+
+TEST_F(RasterSourceTest, APictureThatDoesNotSayWhereItLiesIsRefused)
+{
+    WriteRaster(Path(), {.system = nullptr, .isPlaced = false}, Halves);
+    EXPECT_TRUE(ErrorOf(Path()).contains("photo.tif"));
+}
+
+TEST_F(RasterSourceTest, BrokenFilesAreNamed)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    QFile whole(Path());
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(ErrorOf(m_folder.Write("cut.tif", whole.read(50))).contains("cut.tif"));
+    EXPECT_TRUE(ErrorOf(m_folder.Write("text.tif", "no picture")).contains("text.tif"));
+    EXPECT_TRUE(ErrorOf(m_folder.Write("empty.png", "")).contains("empty.png"));
+    EXPECT_TRUE(ErrorOf(m_folder.Path("missing.tif")).contains("missing.tif"));
+}
+
+TEST_F(RasterSourceTest, APictureThatIsCutShortIsAnErrorWhenItIsDrawn)
+{
+    WriteRaster(Path(), {.width = 1000, .height = 1000, .bands = 3}, Halves);
+    ASSERT_TRUE(QFile::resize(Path(), 500000));
+    EXPECT_THROW(Draw({0, -90, 100, 10}, {1000, 1000}), RunTimeError);
+}
+
+TEST_F(RasterSourceTest, AVirtualPictureThatReadsItselfEnds)
+{
+    const QString path = m_folder.Write(
+        "self.vrt",
+        R"(<VRTDataset rasterXSize="10" rasterYSize="10"><GeoTransform>0,1,0,10,0,-1</GeoTransform>)"
+        R"(<VRTRasterBand dataType="Byte" band="1"><SimpleSource>)"
+        R"(<SourceFilename relativeToVRT="1">self.vrt</SourceFilename><SourceBand>1</SourceBand>)"
+        R"(<SrcRect xOff="0" yOff="0" xSize="10" ySize="10"/><DstRect xOff="0" yOff="0" xSize="10" ySize="10"/>)"
+        R"(</SimpleSource></VRTRasterBand></VRTDataset>)");
+    try {
+        RasterSource(path).Draw(Degrees, World, {20, 20}, m_cancelled);
+    } catch (const RunTimeError& error) {
+        EXPECT_TRUE(error.Description().contains("self.vrt"));
+    }
+}
+
+} // namespace Orvane

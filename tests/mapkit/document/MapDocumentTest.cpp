@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/document/MapDocument.h"
+
+#include "mapkit/DataFolder.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class MapDocumentTest : public testing::Test
+{
+protected:
+    NewLayer LayerOf(const QString& path) const
+    {
+        NewLayer layer;
+        layer.name = "Roads";
+        layer.path = path;
+        layer.ogrLayer = "roads";
+        layer.filter = "kind = 1";
+        return layer;
+    }
+
+    static int Count(MapDocument& document, const QString& table)
+    {
+        return ToInt32(document.Database().OpenRecordset("SELECT count(*) AS N FROM " + table)->Field("N"));
+    }
+
+    DataFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(MapDocumentTest, ALayerKeepsWhatItBeganWith)
+{
+    const auto document = MapDocument::Untitled();
+    NewLayer layer = LayerOf("/data/roads.gpkg");
+    layer.values.color = 0x112233;
+    layer.priority = 7;
+    const qint32 layerID = document->AddLayer(layer);
+    const auto row = document->Database().OpenRecordset("SELECT * FROM Layers");
+    EXPECT_EQ(ToInt32(row->Field("LayerID")), layerID);
+    EXPECT_EQ(ToText(row->Field("Name")), "Roads");
+    EXPECT_EQ(ToInt32(row->Field("Color")), 0x112233);
+    EXPECT_EQ(ToInt32(row->Field("Priority")), 7);
+    EXPECT_EQ(ToInt32(row->Field("MinVisScale")), 0);
+    EXPECT_GT(ToDouble(row->Field("MaxVisScale")), 1e9);
+}
+
+TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
+{
+    const auto document = MapDocument::Untitled();
+    const qint32 layerID = document->AddLayer(LayerOf("/data/roads.gpkg"));
+    ASSERT_EQ(document->Sources().size(), 1u);
+    const LayerSource source = document->Sources()[0];
+    EXPECT_EQ(source.layerID, layerID);
+    EXPECT_EQ(source.path, "/data/roads.gpkg");
+    EXPECT_EQ(source.ogrLayer, "roads");
+    EXPECT_EQ(source.filter, "kind = 1");
+}
+
+TEST_F(MapDocumentTest, LayersGetCodesOfTheirOwnWhileThereAreAny)
+{
+    const auto document = MapDocument::Untitled();
+    document->AddLayer(LayerOf("a"));
+    document->AddLayer(LayerOf("b"));
+    document->Database().Execute("UPDATE Layers SET Code = 32767 WHERE LayerID = 2");
+    document->AddLayer(LayerOf("c"));
+    const auto rows = document->Database().OpenRecordset("SELECT Code FROM Layers ORDER BY LayerID DESC");
+    EXPECT_EQ(ToInt32(rows->Field("Code")), -1);
+}
+
+TEST_F(MapDocumentTest, ADeletedLayerTakesItsSourceAlong)
+{
+    const auto document = MapDocument::Untitled();
+    document->AddLayer(LayerOf("a"));
+    document->Database().Execute("DELETE FROM Layers");
+    EXPECT_TRUE(document->Sources().empty());
+}
+
+TEST_F(MapDocumentTest, GroupsAndMembersKeepTheOrderInWhichTheyCame)
+{
+    const auto document = MapDocument::Untitled();
+    const qint32 first = document->AddGroup("First", true);
+    const qint32 second = document->AddGroup("Second", false);
+    const qint32 below = document->AddLayer(LayerOf("a"));
+    const qint32 above = document->AddLayer(LayerOf("b"));
+    document->AddMember(second, above);
+    document->AddMember(second, below);
+    document->AddMember(first, below);
+    const auto rows = document->Database().OpenRecordset(
+        "SELECT LayerGroupMembers.* FROM LayerGroupMembers, LayerGroups WHERE ID = GroupID"
+        " ORDER BY GroupOrdering, Ordering");
+    std::vector<std::pair<qint32, qint32>> members;
+    for (; !rows->AtEOF(); rows->MoveNext())
+        members.emplace_back(ToInt32(rows->Field("GroupID")), ToInt32(rows->Field("LayerID")));
+    EXPECT_EQ(members, (decltype(members){{first, below}, {second, above}, {second, below}}));
+}
+
+TEST_F(MapDocumentTest, TheSystemIsKeptInTheFile)
+{
+    EXPECT_EQ(MapDocument::Untitled()->System(), "");
+    MapDocument::Create(m_folder.Path("map.orvane"))->SetSystem("EPSG:3857");
+    EXPECT_EQ(MapDocument::Open(m_folder.Path("map.orvane"))->System(), "EPSG:3857");
+}
+
+TEST_F(MapDocumentTest, DataThatMoveAlongWithTheMapAreFoundAgain)
+{
+    QDir(m_folder.Path("")).mkpath("old/data");
+    const QString data = m_folder.WriteSquare("old/data/square.geojson");
+    MapDocument::Create(m_folder.Path("old/map.orvane"))->AddLayer(LayerOf(data));
+    ASSERT_TRUE(QDir(m_folder.Path("")).rename("old", "new"));
+    EXPECT_EQ(
+        MapDocument::Open(m_folder.Path("new/map.orvane"))->Sources()[0].path,
+        m_folder.Path("new/data/square.geojson"));
+}
+
+TEST_F(MapDocumentTest, DataElsewhereKeepTheirPath)
+{
+    QDir(m_folder.Path("")).mkpath("maps");
+    const QString data = m_folder.WriteSquare("square.geojson");
+    const auto document = MapDocument::Create(m_folder.Path("maps/map.orvane"));
+    document->AddLayer(LayerOf(data));
+    EXPECT_EQ(document->Sources()[0].path, data);
+}
+
+TEST_F(MapDocumentTest, ACopyHoldsEverythingAndStillFindsItsData)
+{
+    QDir(m_folder.Path("")).mkpath("elsewhere");
+    const QString data = m_folder.WriteSquare("square.geojson");
+    const auto document = MapDocument::Create(m_folder.Path("map.orvane"));
+    document->AddLayer(LayerOf(data));
+    document->AddGroup("Group", true);
+    document->SaveCopy(m_folder.Path("elsewhere/copy.orvane"));
+    const auto copy = MapDocument::Open(m_folder.Path("elsewhere/copy.orvane"));
+    EXPECT_EQ(Count(*copy, "Layers"), 1);
+    EXPECT_EQ(Count(*copy, "LayerGroups"), 1);
+    EXPECT_EQ(copy->Sources()[0].path, data);
+}
+
+TEST_F(MapDocumentTest, ACopyReplacesAFileOfThatName)
+{
+    m_folder.Write("copy.orvane", "anything");
+    MapDocument::Untitled()->SaveCopy(m_folder.Path("copy.orvane"));
+    EXPECT_FALSE(MapDocument::Open(m_folder.Path("copy.orvane"))->HasLayers());
+}
+
+TEST_F(MapDocumentTest, ACopyThatCannotBeStoredLeavesTheFileThatIsThere)
+{
+    QDir(m_folder.Path("")).mkpath("closed");
+    const QString path = m_folder.Write("closed/map.orvane", "precious");
+    const QString folder = m_folder.Path("closed/map.orvane.part/in the way");
+    ASSERT_TRUE(QDir().mkpath(folder)); // as good as a full disk, for any user
+    EXPECT_THROW(MapDocument::Untitled()->SaveCopy(path), RunTimeError);
+    EXPECT_THROW(MapDocument::CreateOver(path), RunTimeError);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "precious");
+}
+
+TEST_F(MapDocumentTest, ANewMapReplacesTheOldOneWithAllItLeft)
+{
+    MapDocument::Create(m_folder.Path("map.orvane"))->AddLayer(LayerOf("a"));
+    m_folder.Write("map.orvane-wal", "left behind");
+    EXPECT_FALSE(MapDocument::CreateOver(m_folder.Path("map.orvane"))->HasLayers());
+    EXPECT_EQ(MapDocument::Open(m_folder.Path("map.orvane"))->Path(), m_folder.Path("map.orvane"));
+}
+
+TEST_F(MapDocumentTest, AFileThatIsNoMapIsRefusedAndStays)
+{
+    const QString path = m_folder.Write("text.orvane", "not a map");
+    EXPECT_THROW(MapDocument::Open(path), RunTimeError);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "not a map");
+}
+
+} // namespace Orvane
