@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """usage: lint.py BUILD_DIRECTORY SOURCE...: clang-tidy over the sources.
 
-Most of its time goes into what a source includes, so sources of one kind are read together. A batch with a
-finding, or whose sources cannot be read together, is halved until a single source remains, which is reported.
+Most of its time goes into what a source includes, so sources of one kind are read together, those apart whose
+names collide. A batch with a finding is halved until a single source remains, which is reported.
 A source is skipped when nothing it reads has changed since it passed.
 """
 import concurrent.futures
@@ -15,7 +15,7 @@ import subprocess
 import sys
 import tempfile
 
-BATCH = 12
+BATCH = 16
 SKIPPED = {"-c", "-MD", "-fpch-preprocess", "-Winvalid-pch"}
 SKIPPED_WITH_VALUE = {"-o", "-MF", "-MT", "-include"}
 
@@ -62,8 +62,7 @@ def key_of(source, flags, read):
     return digest.hexdigest()
 
 
-def tidy(sources, flags):
-    """None when clean, else what clang-tidy said."""
+def run_tidy(sources, flags, *options):
     with tempfile.NamedTemporaryFile("w", suffix=".cpp") as together:
         if len(sources) == 1:
             main = sources[0]
@@ -73,10 +72,31 @@ def tidy(sources, flags):
                 path = os.path.abspath(source)
                 together.write(f'#line 1 "{path}"\n' + open(source).read() + "\n")
             together.flush()
-        run = subprocess.run(
-            ["clang-tidy", "--quiet", "--config-file=.clang-tidy", main, "--", *flags, "-I."],
+        return subprocess.run(
+            ["clang-tidy", "--quiet", "--config-file=.clang-tidy", *options, main, "--", *flags, "-I."],
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+
+
+def tidy(sources, flags):
+    """None when clean, else what clang-tidy said."""
+    run = run_tidy(sources, flags)
     return None if run.returncode == 0 else run.stdout
+
+
+def colliding(sources, flags):
+    """Those that cannot be read after the ones before them, because a name is taken."""
+    said = run_tidy(sources, (*flags, "-ferror-limit=0"), "--checks=-*,clang-diagnostic-*").stdout
+    at_fault = {line.split(":")[0] for line in said.splitlines() if ": error: " in line}
+    return [source for source in sources if os.path.abspath(source) in at_fault]
+
+
+def readable_batches(sources, flags):
+    while len(sources) > 1:
+        apart = [source for source in colliding(sources, flags) if source != sources[0]]
+        yield [source for source in sources if source not in apart]
+        sources = apart
+    if sources:
+        yield sources
 
 
 class Lint:
@@ -88,6 +108,10 @@ class Lint:
 
     def stamp(self, source):
         return os.path.join(self.stamps, self.keys[source])
+
+    def check_together(self, sources, flags):
+        for batch in readable_batches(sources, flags):
+            self.check(batch, flags)
 
     def check(self, sources, flags):
         said = tidy(sources, flags)
@@ -103,9 +127,11 @@ class Lint:
 
 
 def batches(groups):
+    """Neighbours, whose helpers are likely to share names, go to different batches."""
     for flags, sources in groups.items():
-        for start in range(0, len(sources), BATCH):
-            yield sources[start:start + BATCH], flags
+        count = -(-len(sources) // BATCH)
+        for start in range(count):
+            yield sources[start::count], flags
 
 
 def main():
@@ -119,7 +145,7 @@ def main():
         if not os.path.exists(lint.stamp(source)):
             groups.setdefault(flags, []).append(source)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        for done in [pool.submit(lint.check, *batch) for batch in batches(groups)]:
+        for done in [pool.submit(lint.check_together, *batch) for batch in batches(groups)]:
             done.result()
     print("\n".join(lint.findings), end="")
     return 1 if lint.findings else 0
