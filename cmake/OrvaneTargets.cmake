@@ -64,6 +64,9 @@ function(orvane_test name)
     target_link_libraries(${name} PRIVATE test_main_core)
   endif()
   target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+  if(ORVANE_SANITIZE)
+    target_compile_options(${name} PRIVATE -O0) # the tests themselves are quick, compiling them is not
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tools/lsan.supp:print_suppressions=0"
