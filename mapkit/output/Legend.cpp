@@ -12,6 +12,8 @@
 #include <QLocale>
 #include <QSet>
 
+#include <cmath>
+
 namespace Orvane {
 
 namespace {
@@ -55,9 +57,12 @@ LegendRow RowOf(const MapLayer& layer, const QString& name, const IShellServices
     return row;
 }
 
+// Six digits, but no exponent for what a person can read without one.
 QString LimitText(double limit)
 {
-    return QLocale().toString(limit, 'g', 6);
+    const double size = std::abs(limit);
+    const bool isLong = size >= 1e6 && size < 1e15;
+    return isLong ? QLocale().toString(limit, 'f', 0) : QLocale().toString(limit, 'g', 6);
 }
 
 // How a class differs from its layer, as the map draws it.

@@ -120,6 +120,16 @@ TEST_F(LegendTest, TheClassesOfAGraduatedLayerStandBelowIt)
     EXPECT_EQ(rows[2].values.color, layer.values.color) << "areas keep their outline";
 }
 
+TEST_F(LegendTest, TheLimitsOfClassesAreWrittenOut)
+{
+    Add("Inhabitants");
+    MapLayer& layer = m_layers.back();
+    const std::vector<double> numbers{0.5, 1397715000};
+    layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
+    layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
+    EXPECT_THAT(Texts(), ElementsAre("Inhabitants", "- 0.5 – 698,857,500", "- 698,857,500 – 1,397,715,000"));
+}
+
 TEST_F(LegendTest, TheClassesOfLinesDifferInTheirColour)
 {
     Add("Roads");
