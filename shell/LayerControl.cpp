@@ -9,6 +9,9 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 
+#include <QApplication>
+#include <QPointer>
+
 #include <algorithm>
 
 namespace Orvane {
@@ -83,6 +86,7 @@ bool LayerControl::IsShown(const QString& editorID) const
 bool LayerControl::WithEditorsClosed(const std::function<void()>& act)
 {
     const std::vector<Entry> shown = Shown();
+    const QPointer<QWidget> active = QApplication::activeWindow();
     if (!Close())
         return false;
     std::exception_ptr failure;
@@ -93,6 +97,8 @@ bool LayerControl::WithEditorsClosed(const std::function<void()>& act)
     }
     for (const Entry& entry : shown)
         Show(entry.editorID, entry.filter);
+    if (active && active->isVisible() && !shown.empty())
+        active->activateWindow();
     if (failure)
         std::rethrow_exception(failure);
     return true;

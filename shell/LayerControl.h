@@ -47,8 +47,8 @@ public:
     bool IsShown() const;
     bool IsShown(const QString& editorID) const;
 
-    /// Acts while no editor is open, and opens again those that were, also when the act raises. False,
-    /// without having acted, when one of them stays open.
+    /// Acts while no editor is open, and opens again those that were, also when the act raises; the window
+    /// that was active stays so. False, without having acted, when one of them stays open.
     bool WithEditorsClosed(const std::function<void()>& act);
 
 private:

@@ -140,6 +140,17 @@ TEST_F(SchemesOfTheMap, SwitchingShowsTheNewValuesInTheOpenEditor)
     Form()->close();
 }
 
+TEST_F(SchemesOfTheMap, SwitchingFromTheMenuLeavesTheKeysToTheMainWindow)
+{
+    OpenLayerControl();
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    Choose("menuSchemes", "Night");
+    ASSERT_TRUE(Form());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    Form()->close();
+}
+
 TEST_F(SchemesOfTheMap, SwitchingAsksAboutEditsThatWereNotApplied)
 {
     OpenLayerControl();
