@@ -17,11 +17,24 @@ constexpr int Gap = 8; // pixels
 constexpr int Step = 28; // pixels between the windows of two editors
 
 // A window that was never shown has no frame yet; its frame will be like the main window's.
+// What the window manager adds around a window, as far as it is known.
+QSize FrameOf(const QWidget& window)
+{
+    return window.frameGeometry().size() - window.size();
+}
+
+// A large font makes the settings higher than a small screen; they scroll then.
+void FitToScreen(QWidget& form, const QWidget& mainWindow)
+{
+    const QSize screen = mainWindow.screen()->availableSize();
+    form.resize(form.size().boundedTo(screen - FrameOf(mainWindow)));
+}
+
 void PlaceBeside(QWidget& form, const QWidget& mainWindow, int number)
 {
     const QRect screen = mainWindow.screen()->availableGeometry();
     const QRect frame = mainWindow.frameGeometry();
-    const QSize size = form.size() + frame.size() - mainWindow.size();
+    const QSize size = form.size() + FrameOf(mainWindow);
     const int rightmost = screen.right() - size.width() - Gap;
     const int lowest = screen.bottom() - size.height();
     form.move(
@@ -82,6 +95,7 @@ qint32 ShellClient::IStyleEditorClient_CreateLayer()
 void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 {
     const QString editorID = EditorIDOf(form);
+    FitToScreen(*form, m_mainWindow);
     const auto place = m_places.constFind(editorID);
     if (place != m_places.constEnd())
         form->move(*place);

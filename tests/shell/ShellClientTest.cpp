@@ -52,6 +52,14 @@ TEST_F(ShellClientTest, TheEditorStaysOnTheScreen)
     EXPECT_EQ(shown.intersected(screen), shown);
 }
 
+TEST_F(ShellClientTest, AnEditorThatIsLargerThanTheScreenIsMadeToFit)
+{
+    const QRect screen = m_window.screen()->availableGeometry();
+    m_form.resize(screen.size() * 2);
+    ShowForm();
+    EXPECT_EQ(m_form.frameGeometry().intersected(screen), m_form.frameGeometry());
+}
+
 TEST_F(ShellClientTest, AnEditorThatIsGoneCannotBeRaisedAndThatIsHarmless)
 {
     m_client.RaiseEditor("");
