@@ -2,7 +2,7 @@
 #include "shell/CatalogueFile.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 
 namespace Orvane {
 
@@ -33,6 +33,11 @@ QString CatalogueFile(const QStringList& languages)
         }
     }
     return {};
+}
+
+QString CatalogueLanguage(const QString& file)
+{
+    return file.isEmpty() ? QString() : QFileInfo(file).completeBaseName().section(QLatin1Char('.'), 1);
 }
 
 } // namespace Orvane

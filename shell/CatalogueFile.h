@@ -10,4 +10,7 @@ namespace Orvane {
 /// as it is built, and in "share/orvane/translations", as it is installed.
 QString CatalogueFile(const QStringList& languages);
 
+/// The language of such a file, as its name tells it ("de"); a null text where there is no file.
+QString CatalogueLanguage(const QString& file);
+
 } // namespace Orvane

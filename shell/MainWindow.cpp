@@ -8,6 +8,7 @@
 #include "shell/DataActions.h"
 #include "shell/DataImport.h"
 #include "shell/EditActions.h"
+#include "shell/EmptyMapHint.h"
 #include "shell/Icons.h"
 #include "shell/MapSession.h"
 #include "shell/RecentMaps.h"
@@ -30,6 +31,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
+#include <QToolBar>
 #include <QUrl>
 
 #include <chrono>
@@ -42,13 +44,24 @@ constexpr auto MapSuffix = "orvane";
 constexpr auto GeometryKey = "MainWindow/Geometry";
 constexpr auto StateKey = "MainWindow/State";
 constexpr std::chrono::milliseconds MarkAfter{500};
+constexpr int BarGap = 4; // pixels between tool bars, at most
+
+// So that no tool hides behind an arrow.
+QSize SizeOfTools(const QWidget& window)
+{
+    QSize tools(0, 0);
+    for (const QToolBar* bar : window.findChildren<QToolBar*>())
+        tools += QSize(bar->sizeHint().width() + BarGap, 0);
+    return tools;
+}
 
 // Leaves room for the layer control at the right, where the screen has it.
 void PlaceFirstTime(QWidget& window)
 {
     const QRect screen = window.screen()->availableGeometry();
     const QSize size(screen.width() * 62 / 100, screen.height() * 84 / 100);
-    window.resize(size.expandedTo(window.minimumSizeHint()));
+    window.resize(
+        size.expandedTo(window.minimumSizeHint()).expandedTo(SizeOfTools(window)).boundedTo(screen.size()));
     window.move(screen.left() + screen.width() / 100, screen.top() + screen.height() * 6 / 100);
 }
 
@@ -77,6 +90,7 @@ MainWindow::MainWindow(CallTrace* trace)
     setCentralWidget(m_ui->canvas);
     SetIcons();
     MakeStatusBar();
+    m_hint = std::make_unique<EmptyMapHint>(Canvas());
     m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
     m_data = std::make_unique<DataActions>(
         *m_ui->menuFile, m_ui->actOpenData, *this, [this]() -> MapSession& { return *m_session; });

@@ -20,6 +20,7 @@ namespace Orvane {
 class CallTrace;
 class DataActions;
 class EditActions;
+class EmptyMapHint;
 class MapCanvas;
 class MapDocument;
 class MapSession;
@@ -84,6 +85,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     CallTrace* m_trace;
+    std::unique_ptr<EmptyMapHint> m_hint;
     std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<ToolActions> m_tools;
     std::unique_ptr<SchemeActions> m_schemes;

@@ -4,6 +4,7 @@
 #include "messages/CatalogueTranslator.h"
 #include "shell/CatalogueFile.h"
 #include "shell/MainWindow.h"
+#include "shell/QtTexts.h"
 #include "shell/RecentMaps.h"
 #include "shell/command/CommandLine.h"
 
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <cstdio>
 #include <optional>
@@ -23,15 +25,21 @@ namespace {
 class Setting
 {
 public:
-    Setting() : m_translator(MessageCatalogue::FromFile(CatalogueFile(QLocale().uiLanguages())))
+    Setting() : Setting(CatalogueFile(QLocale().uiLanguages())) { }
+
+private:
+    // What is installed last is asked first.
+    explicit Setting(const QString& catalogue) : m_translator(MessageCatalogue::FromFile(catalogue))
     {
         QCoreApplication::setOrganizationName(QStringLiteral("Orvane"));
         QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
         QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+        if (LoadQtTexts(m_qtTranslator, CatalogueLanguage(catalogue)))
+            QCoreApplication::installTranslator(&m_qtTranslator);
         QCoreApplication::installTranslator(&m_translator);
     }
 
-private:
+    QTranslator m_qtTranslator;
     CatalogueTranslator m_translator;
 };
 

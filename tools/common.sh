@@ -3,8 +3,8 @@
 
 packages_build=(build-essential cmake ninja-build ccache pkg-config git
     qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libsqlite3-dev)
-packages_run=(libqt6gui6 fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev fonts-dejavu-core)
+packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
+packages_test=(libgtest-dev libgmock-dev qt6-translations-l10n fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)

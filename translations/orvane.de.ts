@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>&amp;Schemes</source>
-        <translation>&amp;Schemata</translation>
+        <translation>&amp;Schemas</translation>
     </message>
     <message>
         <source>&amp;Select</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>Layer &amp;Rendering...</source>
-        <translation>Layer&amp;darstellung ...</translation>
+        <translation>Layer&amp;darstellung...</translation>
     </message>
     <message>
         <source>&amp;Layer:</source>
@@ -1506,6 +1506,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>the file is read only</source>
         <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>Diese Karte ist leer. Wählen Sie Datei &gt; Daten öffnen... oder ziehen Sie Datendateien hierher.</translation>
     </message>
 </context>
 </TS>

@@ -1507,5 +1507,9 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <source>the file is read only</source>
         <translation>le fichier est en lecture seule</translation>
     </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>Cette carte est vide. Choisissez Fichier &gt; Ouvrir des données... ou déposez ici des fichiers de données.</translation>
+    </message>
 </context>
 </TS>

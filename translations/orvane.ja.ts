@@ -1507,5 +1507,9 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <source>the file is read only</source>
         <translation>ファイルは読み取り専用です</translation>
     </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>この地図は空です。［ファイル］&gt;［データを開く...］を選ぶか、データファイルをここにドロップしてください。</translation>
+    </message>
 </context>
 </TS>

@@ -26,4 +26,10 @@ TEST(CatalogueFile, EnglishNeedsNone)
     EXPECT_TRUE(CatalogueFile({"xx"}).isNull());
 }
 
+TEST(CatalogueFile, ItsNameTellsItsLanguage)
+{
+    EXPECT_EQ(CatalogueLanguage(CatalogueFile({"fr-CH"})), "fr");
+    EXPECT_TRUE(CatalogueLanguage(CatalogueFile({"en"})).isNull());
+}
+
 } // namespace Orvane

@@ -22,6 +22,7 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -80,6 +81,12 @@ TEST_F(MainWindowTest, BeginsWithAMapWithoutAFile)
 {
     EXPECT_EQ(m_window->Document().Path(), "");
     EXPECT_FALSE(m_window->Document().HasLayers());
+}
+
+TEST_F(MainWindowTest, IsAtFirstWideEnoughForItsTools)
+{
+    for (const QToolBar* bar : m_window->findChildren<QToolBar*>())
+        EXPECT_GE(bar->width(), bar->sizeHint().width()) << qPrintable(bar->objectName());
 }
 
 TEST_F(MainWindowTest, OpensAMapAndShowsAllOfIt)
