@@ -143,11 +143,14 @@ TEST_F(SchemesOfTheMap, SwitchingShowsTheNewValuesInTheOpenEditor)
 TEST_F(SchemesOfTheMap, SwitchingFromTheMenuLeavesTheKeysToTheMainWindow)
 {
     OpenLayerControl();
+    const auto hasKeys = [this] { return QApplication::activeWindow() == m_window.get(); };
     m_window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    ASSERT_TRUE(QTest::qWaitFor(hasKeys));
     Choose("menuSchemes", "Night");
     ASSERT_TRUE(Form());
-    EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(Form()));
+    QApplication::processEvents();
+    EXPECT_TRUE(hasKeys());
     Form()->close();
 }
 
