@@ -142,9 +142,7 @@ void MainWindow::AddData(const QStringList& paths)
         });
         if (first)
             m_session->BeginSchemes();
-        ReadMap();
-        if (first)
-            Canvas().ZoomToAll();
+        ReadMap(first ? Zoom::ToAll : Zoom::Stays);
     });
     if (added)
         m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
@@ -312,8 +310,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     setWindowFilePath(path);
     setWindowTitle(
         path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
-    ReadMap();
-    Canvas().ZoomToAll();
+    ReadMap(Zoom::ToAll);
 }
 
 bool MainWindow::LeaveMap()
@@ -333,9 +330,11 @@ bool MainWindow::KeepUntitledMap()
     return answer == QMessageBox::Discard || !Document().Path().isEmpty();
 }
 
-void MainWindow::ReadMap()
+void MainWindow::ReadMap(Zoom zoom)
 {
     const QString problems = m_session->ReadAndShow();
+    if (zoom == Zoom::ToAll)
+        Canvas().ZoomToAll();
     m_tools->SetSystem(Document().System());
     m_positionText = PositionText(Document().System());
     ShowScale();

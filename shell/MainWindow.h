@@ -64,6 +64,8 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    enum class Zoom { Stays, ToAll };
+
     void ConnectActions();
     void ConnectCanvas();
     void SetIcons();
@@ -77,7 +79,7 @@ private:
     void Use(std::unique_ptr<MapDocument> document);
     bool LeaveMap();
     bool KeepUntitledMap();
-    void ReadMap();
+    void ReadMap(Zoom zoom);
     void ShowScale();
     void RestoreWindow();
     void StoreWindow();

@@ -16,6 +16,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -81,6 +82,22 @@ TEST_F(MainWindowTest, BeginsWithAMapWithoutAFile)
 {
     EXPECT_EQ(m_window->Document().Path(), "");
     EXPECT_FALSE(m_window->Document().HasLayers());
+}
+
+TEST_F(MainWindowTest, TellsOfMissingDataInFrontOfTheRestOfTheMap)
+{
+    const QString path = MakeMap("map.orvane");
+    NewLayer gone;
+    gone.name = "Gone";
+    gone.path = m_folder.Path("gone.geojson");
+    gone.ogrLayer = "gone";
+    MapDocument::Open(path)->AddLayer(gone);
+    MessageBoxRobot person{BoxKey::Escape};
+    double right = 0;
+    person.BeforeAnswer([&](QMessageBox&) { right = m_window->Canvas().View().Extent().maxX; });
+    m_window->OpenMap(path);
+    EXPECT_TRUE(person.Only().text.contains("gone.geojson"));
+    EXPECT_EQ(right, m_window->Canvas().View().Extent().maxX);
 }
 
 TEST_F(MainWindowTest, IsAtFirstWideEnoughForItsTools)
