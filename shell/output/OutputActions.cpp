@@ -17,8 +17,10 @@
 #include <QMenu>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QToolBar>
 
 namespace Orvane {
 
@@ -29,11 +31,21 @@ constexpr auto FormatKey = "Output/Format";
 constexpr auto UsualFormat = "pdf";
 constexpr double FrameMargin = 0.5; // millimetres: the printer's own margin stands around it
 constexpr int MessageStays = 8000; // milliseconds
+constexpr int PreviewMargins = 24; // pixels
 
 // "pdf" of "PDF document (*.pdf)".
 QString EndingOf(const QString& filter)
 {
     return filter.section(QStringLiteral("*."), 1).chopped(1);
+}
+
+// Wide enough for its tools, of which the printer is the last.
+QSize SizeOf(const QPrintPreviewDialog& preview)
+{
+    const auto* tools = preview.findChild<QToolBar*>();
+    const int width = tools ? tools->sizeHint().width() + PreviewMargins : 0;
+    const QSize screen = preview.screen()->availableSize();
+    return preview.sizeHint().expandedTo({width, preview.height()}).boundedTo(screen);
 }
 
 } // namespace
@@ -82,6 +94,7 @@ void OutputActions::PrintMap()
     printer.setPageOrientation(QPageLayout::Landscape);
     QPrintPreviewDialog preview(&printer, &m_window);
     preview.setObjectName(QStringLiteral("dlgPreview"));
+    preview.resize(SizeOf(preview));
     const PageSettings settings = dialog.Settings();
     connect(&preview, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter* paper) {
         Guard(&m_window, [&] { Paint(*paper, settings); });

@@ -19,6 +19,7 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 
 namespace Orvane {
 
@@ -39,6 +40,7 @@ public:
 
     QStringList seen; ///< the dialogs, in their order
     int pages = 0; ///< of the preview
+    bool showsAllTools = false; ///< the preview
 
 private:
     // A dialog that an answer did not close is given up, so that no test waits for ever.
@@ -77,6 +79,8 @@ private:
     void Look(QPrintPreviewDialog& preview)
     {
         seen << "preview";
+        const auto* tools = preview.findChild<QToolBar*>();
+        showsAllTools = tools->width() >= tools->sizeHint().width();
         pages = preview.findChild<QPrintPreviewWidget*>()->pageCount();
         preview.reject();
     }
@@ -171,6 +175,7 @@ TEST_F(OutputActionsTest, PrintingShowsAPreviewOfOnePage)
     Trigger("actPrint");
     EXPECT_EQ(person.seen, QStringList({"page", "preview"}));
     EXPECT_EQ(person.pages, 1);
+    EXPECT_TRUE(person.showsAllTools);
 }
 
 } // namespace Orvane
