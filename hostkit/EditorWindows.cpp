@@ -20,7 +20,8 @@ void EditorWindows::Show(QWidget* form)
     }
     form->show();
     form->raise();
-    form->activateWindow();
+    if (!form->testAttribute(Qt::WA_ShowWithoutActivating))
+        form->activateWindow();
 }
 
 bool EditorWindows::Forget(QWidget* form)

@@ -95,6 +95,7 @@ qint32 ShellClient::IStyleEditorClient_CreateLayer()
 void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 {
     const QString editorID = EditorIDOf(form);
+    form->setAttribute(Qt::WA_ShowWithoutActivating); // RaiseEditor gives the keys to who asked for it
     FitToScreen(*form, m_mainWindow);
     const auto place = m_places.constFind(editorID);
     if (place != m_places.constEnd())

@@ -60,6 +60,12 @@ TEST_F(ShellClientTest, AnEditorThatIsLargerThanTheScreenIsMadeToFit)
     EXPECT_EQ(m_form.frameGeometry().intersected(screen), m_form.frameGeometry());
 }
 
+TEST_F(ShellClientTest, AnEditorThatComesBackByItselfTakesNoKeys)
+{
+    ShowForm();
+    EXPECT_TRUE(m_form.testAttribute(Qt::WA_ShowWithoutActivating));
+}
+
 TEST_F(ShellClientTest, AnEditorThatIsGoneCannotBeRaisedAndThatIsHarmless)
 {
     m_client.RaiseEditor("");
