@@ -28,14 +28,15 @@ LayerCommands::LayerCommands(const Widgets& widgets, QObject* parent) : QObject(
     connect(widgets.lblCode, &CodeLabel::EditRequested, this, &LayerCommands::EditCode);
 }
 
-void LayerCommands::Show(const std::optional<NodeReference>& node, const LayerStyle& record)
+void LayerCommands::Show(
+    const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer)
 {
     const bool isLayer = node && !node->isGroup;
     m_node = node;
     m_storedCode = isLayer ? record.lsGet(Slot::Code) : Value::Null();
     m_widgets.lblCode->setText(m_storedCode.IsNull() ? QString() : ToText(m_storedCode));
     m_widgets.cmdDeleteLayer->setEnabled(isLayer);
-    m_widgets.lblCode->setEnabled(isLayer && !IsSystemLayer(Client(), node->layerID));
+    m_widgets.lblCode->setEnabled(isLayer && !isSystemLayer);
 }
 
 QString LayerCommands::CodeText() const

@@ -32,9 +32,9 @@ public:
     /// widgets: not owned; outlive this object.
     explicit LayerCommands(const Widgets& widgets, QObject* parent = nullptr);
 
-    /// Shows the code of the node with that record and offers what can be done with it. Raises what the host
-    /// raises.
-    void Show(const std::optional<NodeReference>& node, const LayerStyle& record);
+    /// Shows the code of the node with that record and offers what can be done with it. isSystemLayer: its
+    /// code cannot be edited.
+    void Show(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
 
     /// The code as the label shows it; empty when there is none.
     QString CodeText() const;

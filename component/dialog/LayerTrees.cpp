@@ -245,7 +245,9 @@ void LayerTrees::SetLayerImage(qint32 layerID, qint16 quickMode)
 
 void LayerTrees::SetGroupImage(qint32 groupID, qint16 quickMode)
 {
-    const std::vector<qint32> layerIDs = m_groups->Model().LayersOfGroup(groupID);
+    std::vector<qint32> layerIDs = m_groups->Model().LayersOfGroup(groupID);
+    const std::vector<qint32> members = ReadMemberLayerIDs(Client(), groupID); // some may not be listed yet
+    layerIDs.insert(layerIDs.end(), members.begin(), members.end());
     m_groups->Model().SetQuickMode(layerIDs, quickMode);
     m_layers->Model().SetQuickMode(layerIDs, quickMode);
 }
@@ -263,6 +265,7 @@ void LayerTrees::RefreshLayerTexts(const QSet<qint32>& layerIDs)
         for (qint32 layerID : list->Model().LayersAmong(layerIDs))
             texts.insert(layerID, QString());
     }
+    const BusyPointer busy;
     for (auto text = texts.begin(); text != texts.end(); ++text)
         *text = DecorateLayerName(Client().LayerDisplayName(text.key()));
     m_groups->Model().SetLayerTexts(texts);
@@ -271,7 +274,10 @@ void LayerTrees::RefreshLayerTexts(const QSet<qint32>& layerIDs)
 
 void LayerTrees::ShowLayer(qint32 layerID)
 {
+    const QPointer<LayerTrees> self(this); // as in MoveTo
     EnsureLoaded(List::Layers);
+    if (!self)
+        return;
     const std::optional<LayerEntry> layer = ReadOneLayer(Client(), layerID);
     if (!layer)
         return;
@@ -328,6 +334,7 @@ void LayerTrees::EditCurrentName()
 
 void LayerTrees::ExpandAll(LayerTreeList& list, bool expanded)
 {
+    const BusyPointer busy;
     StoreGroupsExpanded(Client(), list.GroupsWithout(expanded), expanded);
     list.SetAllExpanded(expanded);
 }

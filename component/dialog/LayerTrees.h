@@ -78,7 +78,8 @@ public:
 
     /// Gives all nodes of the layer the image of the quick mode (1, 2 or 4); images of groups follow.
     void SetLayerImage(qint32 layerID, qint16 quickMode);
-    /// Gives the group, its layers and their other nodes in both trees the image of the quick mode.
+    /// Gives the group, the layers that are listed under it or stored as its members, and their other nodes
+    /// in both trees the image of the quick mode.
     void SetGroupImage(qint32 groupID, qint16 quickMode);
     /// Shows the text on all nodes of the layer. The order of the flat list changes with its next load only.
     void SetLayerText(qint32 layerID, const QString& text);

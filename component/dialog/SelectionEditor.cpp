@@ -9,6 +9,7 @@
 #include "component/entry/Component.h"
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
+#include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleLoading.h"
 #include "ui_frmLayerStyles.h"
 
@@ -19,17 +20,6 @@
 namespace Orvane {
 
 namespace {
-
-LayerStyle ReadRecord(const std::optional<NodeReference>& node)
-{
-    const BusyPointer busy;
-    LayerStyle record;
-    if (node && node->isGroup)
-        LoadGroupStyle(Client(), node->groupID, record);
-    else if (node)
-        LoadLayerStyle(Client(), node->layerID, record);
-    return record;
-}
 
 PanelEdits ReadEdits(EditorParts& parts)
 {
@@ -76,23 +66,43 @@ void SelectionEditor::Load()
 
 void SelectionEditor::Cancel()
 {
-    const std::optional<NodeReference> node = m_parts.trees.CurrentNode();
-    Show(node, ReadRecord(node));
+    const Selection selection = Read(m_parts.trees.CurrentNode());
+    try {
+        Show(selection);
+    } catch (...) {
+        ShowNothing();
+        throw;
+    }
 }
 
 void SelectionEditor::ShowNothing()
 {
-    Show(std::nullopt, LayerStyle());
+    Show(Selection());
 }
 
-void SelectionEditor::Show(const std::optional<NodeReference>& node, const LayerStyle& record)
+// All that may fail in the host, before the first control changes.
+SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReference>& node)
 {
+    const BusyPointer busy;
+    Selection selection{.node = node, .record = {}};
+    if (node && node->isGroup) {
+        LoadGroupStyle(Client(), node->groupID, selection.record);
+    } else if (node) {
+        LoadLayerStyle(Client(), node->layerID, selection.record);
+        selection.isSystemLayer = IsSystemLayer(Client(), node->layerID);
+    }
+    return selection;
+}
+
+void SelectionEditor::Show(const Selection& selection)
+{
+    const std::optional<NodeReference>& node = selection.node;
     m_current = node;
-    m_record = record;
-    m_parts.panel.Show(record);
+    m_record = selection.record;
+    m_parts.panel.Show(m_record);
     m_parts.quickModes.ShowMode(node ? node->image : qint16(0));
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
-    m_parts.commands.Show(node, record);
+    m_parts.commands.Show(node, m_record, selection.isSystemLayer);
     ShowCover();
     SetModified(false);
 }
@@ -107,12 +117,17 @@ void SelectionEditor::ShowCover() const
         m_parts.layout.ShowCover(EditorLayout::Cover::None);
 }
 
-void SelectionEditor::Apply()
+bool SelectionEditor::HoldsCurrentNode() const
 {
     const std::optional<NodeReference> node = m_parts.trees.CurrentNode();
-    if (!m_modified || !node)
+    return node && m_current && IsSameNode(*node, *m_current);
+}
+
+void SelectionEditor::Apply()
+{
+    if (!m_modified || !HoldsCurrentNode())
         return;
-    const bool isExpected = Write(*node);
+    const bool isExpected = Write(*m_parts.trees.CurrentNode());
     Load();
     if (!isExpected)
         ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
@@ -132,7 +147,7 @@ bool SelectionEditor::Write(const NodeReference& node)
 
 bool SelectionEditor::ConfirmPendingChanges()
 {
-    if (!m_modified || !m_current)
+    if (!m_modified || !HoldsCurrentNode())
         return true;
     const QPointer<SelectionEditor> self(this);
     const PendingChangesPrompt prompt([this] { Apply(); }, [this] { Cancel(); });

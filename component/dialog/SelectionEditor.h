@@ -43,7 +43,8 @@ public:
 
     /// Shows the dialog's current node. When it cannot be read nothing is shown, not another node's values.
     void Load();
-    /// Reads the current node anew, which drops all edits; they stay when that fails.
+    /// Reads the current node anew, which drops all edits; they stay when it cannot be read. What was read
+    /// but cannot be shown shows nothing.
     void Cancel();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
@@ -57,8 +58,17 @@ public:
     bool ConfirmPendingChanges();
 
 private:
-    void Show(const std::optional<NodeReference>& node, const LayerStyle& record);
+    struct Selection {
+        std::optional<NodeReference> node;
+        LayerStyle record;
+        bool isSystemLayer = false;
+    };
+
+    static Selection Read(const std::optional<NodeReference>& node);
+    void Show(const Selection& selection);
     void ShowCover() const;
+    /// Edits go to the node that they were made for, or nowhere.
+    bool HoldsCurrentNode() const;
     bool Write(const NodeReference& node);
 
     QWidget& m_form;

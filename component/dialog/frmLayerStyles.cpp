@@ -52,6 +52,7 @@ frmLayerStyles::~frmLayerStyles() = default;
 void frmLayerStyles::Wire()
 {
     connect(m_ui->tsLists, &QTabBar::currentChanged, this, &frmLayerStyles::OnTabChanged);
+    connect(m_ui->tsLists, &QTabBar::tabBarClicked, this, &frmLayerStyles::OnTabClicked);
     connect(m_ui->cmdApply, &QAbstractButton::clicked, this, [this] {
         GuardEvent(this, [this] { m_selection->Apply(); });
     });
@@ -196,9 +197,12 @@ void frmLayerStyles::Hide()
 {
     if (!ConfirmUnload())
         return;
+    const QPointer self(this);
+    m_closing = true;
     FirstError errors;
     errors.Try([this] { Client().EditorClosed(this); });
-    errors.Try([this] { Unload(); });
+    if (self)
+        errors.Try([this] { Unload(); });
     errors.Rethrow();
 }
 
@@ -228,12 +232,23 @@ void frmLayerStyles::Unload()
 void frmLayerStyles::OnTabChanged(int index)
 {
     const ListTab tab = ListTab(index + 1);
-    if (tab == m_tab)
-        return;
-    // A question is not asked from within an event of the tabs: they may be gone when the answer comes.
+    if (tab != m_tab)
+        DoFromTabs([this, tab] { SelectTab(tab); });
+}
+
+// The shown tab again: a list that could not be read, or is stale, is tried anew.
+void frmLayerStyles::OnTabClicked(int index)
+{
+    if (ListTab(index + 1) == m_tab && m_tab != ListTab::Schemes)
+        DoFromTabs([this] { LoadList(); });
+}
+
+// A question is not asked from within an event of the tabs: they may be gone when the answer comes.
+void frmLayerStyles::DoFromTabs(const std::function<void()>& act)
+{
     const auto connection = m_selection->IsModified() ? Qt::QueuedConnection : Qt::DirectConnection;
     QMetaObject::invokeMethod(
-        this, [this, tab] { GuardEvent(this, [this, tab] { SelectTab(tab); }); }, connection);
+        this, [this, act] { GuardEvent(this, act); }, connection);
 }
 
 void frmLayerStyles::SelectTab(ListTab tab)
@@ -250,6 +265,7 @@ void frmLayerStyles::SelectTab(ListTab tab)
 void frmLayerStyles::ShowTab(ListTab tab)
 {
     const QPointer self(this);
+    const bool leavesNode = tab == ListTab::Schemes || ListOf(tab) != m_parts->trees.ShownList();
     if (tab == ListTab::Schemes)
         m_selection->ConfirmPendingChanges();
     else
@@ -259,9 +275,12 @@ void frmLayerStyles::ShowTab(ListTab tab)
     m_tab = tab;
     m_selection->SetTab(tab);
     m_parts->layout.ShowTab(tab);
+    if (leavesNode)
+        m_selection->SetModified(false); // or reading the list would ask about them as if they were its own
     FirstError errors;
     errors.Try([this] { LoadList(); });
-    errors.Try([this] { m_selection->Load(); });
+    if (self && !m_unloaded)
+        errors.Try([this] { m_selection->Load(); });
     errors.Rethrow();
 }
 

@@ -3,6 +3,7 @@
 
 #include "component/entry/StyleEditorWindow.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -73,6 +74,8 @@ private:
     void Unload();
 
     void OnTabChanged(int index);
+    void OnTabClicked(int index);
+    void DoFromTabs(const std::function<void()>& act);
     void SelectTab(ListTab tab);
     void ShowTab(ListTab tab);
 
@@ -88,6 +91,7 @@ private:
     const IStyleFilter* m_filter = nullptr;
     ListTab m_tab;
     bool m_initialised = false;
+    bool m_closing = false; ///< the host was told, and may hide again
     bool m_unloaded = false;
 };
 

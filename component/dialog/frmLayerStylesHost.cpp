@@ -10,6 +10,8 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/IStyleFilter.h>
 
+#include <QPointer>
+
 namespace Orvane {
 
 void frmLayerStyles::IStyleEditor_StyleFilter(const IStyleFilter* filter)
@@ -25,7 +27,7 @@ bool frmLayerStyles::IStyleEditor_Visible() const
 
 void frmLayerStyles::IStyleEditor_Visible(bool visible)
 {
-    if (m_unloaded || visible == isVisible())
+    if (m_unloaded || m_closing || visible == isVisible())
         return;
     if (!visible) {
         Hide();
@@ -116,11 +118,12 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
         return;
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
+    const QPointer self(this); // the list may ask about edits, and the host end the dialog meanwhile
     FirstError errors;
     errors.Try([this] { m_parts->schemes.Fill(); });
     errors.Try([this] { UpdateCaption(); });
     errors.Try([this] { LoadList(); });
-    if (!m_selection->IsModified())
+    if (self && !m_unloaded && !m_selection->IsModified())
         errors.Try([this] { m_selection->Load(); });
     errors.Rethrow();
 }

@@ -166,6 +166,33 @@ TEST_F(Applying, AGroupThatChangedBehindTheDialogIsReportedOnce)
     EXPECT_EQ(Stored(2, "OverrideMode"), 0);
 }
 
+TEST_F(Applying, RedrawsAfterTheCommit)
+{
+    SelectTransport();
+    Click("chkLocked");
+    host.ClearLog();
+    Click("cmdApply");
+    const QStringList trace = host.Log().Trace();
+    const qsizetype commit = trace.indexOf(host.Log().CallsTo("CommitTrans").value(0));
+    ASSERT_GE(commit, 0);
+    EXPECT_GT(trace.indexOf(host.Log().CallsTo("RedrawMap").value(0)), commit);
+}
+
+TEST_F(Applying, AMemberThatTheTreeDoesNotKnowGetsItsImageToo)
+{
+    SelectTransport();
+    host.AddMember(10, 3, 9);
+    Click("Hidden");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(3, "OverrideMode"), 2);
+    ClickTab(2);
+    ClickLayer("Parcels");
+    EXPECT_EQ(PressedModes(), 4);
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(3, "OverrideMode"), 2);
+}
+
 } // namespace
 
 } // namespace Orvane::Testing

@@ -1,137 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/frmDropSlider.h"
-#include "component/dialog/EditorFixture.h"
-
-#include <OrvaneShellLib/ForwardingClient.h>
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorForm.h>
-#include <OrvaneShellLib/IStyleFilter.h>
+#include "component/dialog/EndedMeanwhileFixture.h"
 
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
-#include <QTimer>
 #include <QtTest>
 
 namespace Orvane::Testing {
 
 namespace {
-
-/// Does something while it prompts, creates or deletes, or fails where it writes.
-class BusyClient : public ForwardingClient
-{
-public:
-    using ForwardingClient::ForwardingClient;
-    std::function<void()> meanwhile = [] {};
-    bool isFaulty = false;
-
-private:
-    PromptAnswer IStyleEditorClient_PromptText(const PromptRequest&) override
-    {
-        meanwhile();
-        return {true, QStringLiteral("77")};
-    }
-    qint32 IStyleEditorClient_CreateLayer() override
-    {
-        meanwhile();
-        return ForwardingClient::IStyleEditorClient_CreateLayer();
-    }
-    void IStyleEditorClient_DeleteLayer(qint32) override { meanwhile(); }
-    void IStyleEditorClient_BeginLayerEdit(IRecordset& layers) override
-    {
-        if (isFaulty)
-            throw RunTimeError(10001, QStringLiteral("The host is out of order."));
-        ForwardingClient::IStyleEditorClient_BeginLayerEdit(layers);
-    }
-};
-
-/// Shows no layer, and the groups first.
-class NoLayers : public IStyleFilter
-{
-    bool IStyleFilter_ShowsGroups() const override { return true; }
-    bool IStyleFilter_IsLayerShown(qint32, bool) const override { return false; }
-};
-
-/// Does something when a window of that class opens.
-template <typename Window> class WhenOpened : public QObject
-{
-public:
-    explicit WhenOpened(const std::function<void()>& act) : m_act(act) { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show && dynamic_cast<Window*>(watched))
-            QTimer::singleShot(0, this, m_act);
-        return false;
-    }
-
-private:
-    std::function<void()> m_act;
-};
-
-enum class Ending { HostDeletesTheForm, UnloadWithoutApply, LibraryIsReleased };
-
-class EndedMeanwhile : public EditorFixture
-{
-public:
-    using EditorFixture::Click;
-    using EditorFixture::ClickLayer;
-    using EditorFixture::ClickTab;
-    using EditorFixture::Editor;
-    using EditorFixture::EditorForm;
-    using EditorFixture::Find;
-    using EditorFixture::Form;
-    using EditorFixture::host;
-
-    void SetUp() override
-    {
-        AddTown();
-        host.schemeNames = {"Day", "Night"};
-        host.currentScheme = "Day";
-        UseClient(client);
-    }
-
-    void OpenWithEdits()
-    {
-        Open();
-        ClickLayer("Roads");
-        Click("chkVisible");
-        form = Form();
-    }
-
-    void OpenOnSchemes()
-    {
-        Open();
-        ClickTab(3);
-        form = Form();
-    }
-
-    void End()
-    {
-        if (ending == Ending::HostDeletesTheForm)
-            delete Form();
-        else if (ending == Ending::UnloadWithoutApply)
-            EditorForm().UnloadWithoutApply();
-        else
-            TearDown();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    /// Ends the dialog at the first message box.
-    template <typename Action> void AtTheBox(Action&& act)
-    {
-        MessageBoxRobot nobody{};
-        nobody.BeforeAnswer([this](QMessageBox&) { End(); });
-        act();
-        QCoreApplication::processEvents();
-        EXPECT_EQ(nobody.Boxes().size(), 1u);
-    }
-
-    BusyClient client{host};
-    QPointer<QWidget> form;
-    Ending ending = Ending::HostDeletesTheForm;
-};
 
 using Situation = void (*)(EndedMeanwhile& test);
 
@@ -190,6 +68,33 @@ void PopupQuestion(EndedMeanwhile& test)
     test.OpenWithEdits();
     test.Editor().StyleFilter(&filter);
     test.AtTheBox([&] { test.EditorForm().Popup(); });
+}
+
+void AddedLayerWhileTheCurrentIsFiltered(EndedMeanwhile& test)
+{
+    const NoLayers filter;
+    test.OpenWithEdits();
+    test.Editor().StyleFilter(&filter);
+    test.AtTheBox([&] { test.EditorForm().AddNewLayer(3); });
+}
+
+void RefreshWhileTheCurrentIsFiltered(EndedMeanwhile& test)
+{
+    const NoLayers filter;
+    test.OpenWithEdits();
+    test.Editor().StyleFilter(&filter);
+    test.AtTheBox([&] { test.EditorForm().Refresh(); });
+}
+
+void RefreshOfAnEmptiedGroup(EndedMeanwhile& test)
+{
+    test.Open();
+    test.ClickTab(1);
+    test.ClickGroup("Land");
+    test.Click("chkVisible");
+    test.form = test.Form();
+    test.host.RemoveMembers(3);
+    test.AtTheBox([&] { test.EditorForm().Refresh(); });
 }
 
 void ErrorOfApply(EndedMeanwhile& test)
@@ -336,7 +241,7 @@ void SchemeQuestions(EndedMeanwhile& test)
     }
 }
 
-constexpr std::array<std::pair<const char*, Situation>, 25> situations{
+constexpr std::array<std::pair<const char*, Situation>, 28> situations{
     {{"NodeQuestion", NodeQuestion},
      {"GroupsTabQuestion", GroupsTabQuestion},
      {"SchemesTabQuestion", SchemesTabQuestion},
@@ -346,6 +251,9 @@ constexpr std::array<std::pair<const char*, Situation>, 25> situations{
      {"AddedLayerQuestion", AddedLayerQuestion},
      {"FilterQuestion", FilterQuestion},
      {"PopupQuestion", PopupQuestion},
+     {"AddedLayerWhileTheCurrentIsFiltered", AddedLayerWhileTheCurrentIsFiltered},
+     {"RefreshWhileTheCurrentIsFiltered", RefreshWhileTheCurrentIsFiltered},
+     {"RefreshOfAnEmptiedGroup", RefreshOfAnEmptiedGroup},
      {"ErrorOfApply", ErrorOfApply},
      {"ErrorOfApplyBeforeAnotherNode", ErrorOfApplyBeforeAnotherNode},
      {"ErrorOfApplyBeforeAnotherTab", ErrorOfApplyBeforeAnotherTab},

@@ -250,7 +250,6 @@ TEST_F(HostFaults, ATabWhoseListCannotBeReadStaysEmptyAndCanBeTriedAgain)
     }
     EXPECT_EQ(CurrentTab(), 1);
     client.faulty.clear();
-    ClickTab(2);
     ClickTab(1);
     ClickGroup("Transport");
     EXPECT_EQ(TextOf("lblPriority"), "100");
@@ -279,7 +278,9 @@ TEST_F(HostFaults, AFailedApplyKeepsTheEditorOpen)
     EXPECT_TRUE(Form()->isVisible() && CanApply());
     {
         MessageBoxRobot person{BoxKey::Yes};
+        host.ClearLog();
         EXPECT_THROW(Close(), RunTimeError);
+        EXPECT_THAT(host.Log().CallsTo("EditorClosed"), testing::IsEmpty());
     }
     ASSERT_NE(Form(), nullptr);
     EXPECT_TRUE(Form()->isVisible() && CanApply());
@@ -318,6 +319,35 @@ TEST_F(HostFaults, FailingCommandsAreToldAndChangeNothing)
         EXPECT_EQ(TextOf("lblCode"), "11") << member;
         EXPECT_FALSE(CanApply()) << member;
     }
+}
+
+TEST_F(HostFaults, ACancelThatFailsHalfWayKeepsTheEditsOrShowsNothing)
+{
+    for (const int call : {1, 2}) {
+        FailingClient failing(host, {"none", 1, RunTimeError(10001, Fault)});
+        UseClient(failing);
+        OpenWithEdits();
+        failing.Plan({"LayersTable", call, RunTimeError(10001, Fault)});
+        {
+            MessageBoxRobot person{BoxKey::Enter};
+            Click("cmdCancel");
+        }
+        EXPECT_TRUE(CanApply()) << call;
+        EXPECT_TRUE(IsUnderlined("chkVisible")) << call;
+        EXPECT_EQ(CheckState("chkVisible"), 0) << call;
+        EditorForm().UnloadWithoutApply();
+        TearDown();
+    }
+}
+
+TEST_F(HostFaults, ALayerWhoseValuesCannotBeShownShowsNothing)
+{
+    OpenWithEdits();
+    host.SetLayerColumn(1, "OutlineStyle", qint32(70000));
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdCancel");
+    EXPECT_FALSE(Find("chkVisible").isVisible());
+    EXPECT_FALSE(CanApply());
 }
 
 } // namespace

@@ -162,6 +162,113 @@ TEST_F(Lifecycle, TheIdIsFreeAfterClosing)
     EXPECT_TRUE(Editor().Visible());
 }
 
+TEST_F(Lifecycle, AHostMayHideAgainWhenItIsToldOfTheClosing)
+{
+    Open();
+    host.OnEditorClosed = [this](QWidget*) {
+        if (Form())
+            Editor().Visible(false);
+    };
+    host.ClearLog();
+    Close();
+    EXPECT_EQ(Form(), nullptr);
+    EXPECT_LE(host.Log().CallsTo("EditorClosed").size(), 2);
+    EXPECT_EQ(host.Log().CallsTo("WriteSetting").size(), 1);
+}
+
+TEST_F(Lifecycle, ReleasingTheLibraryDropsTheEditsOfAnOpenEditor)
+{
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    const MessageBoxRobot nobody{};
+    TearDown();
+    EXPECT_TRUE(nobody.Boxes().empty());
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+}
+
+// ---- lists that changed behind the dialog
+
+TEST_F(Lifecycle, LeavingAListWithEditsAsksOnceThoughTheOtherListLostItsNode)
+{
+    const OddLayers filter;
+    Open();
+    ClickLayer("Rivers");
+    ClickTab(1);
+    ClickGroup("Transport");
+    Click("chkLocked");
+    Editor().StyleFilter(&filter);
+    {
+        MessageBoxRobot person{BoxKey::No};
+        ClickTab(2);
+        EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Transport' group?");
+    }
+    EXPECT_FALSE(CanApply());
+    EXPECT_EQ(CurrentTab(), 2);
+    EXPECT_EQ(Stored(2, "locked"), 1);
+}
+
+TEST_F(Lifecycle, LeavingTheLayersAsksOnceThoughTheCurrentGroupIsListedNoMore)
+{
+    Open();
+    ClickTab(1);
+    ClickGroup("Transport");
+    ClickTab(2);
+    ClickLayer("Parcels");
+    host.SetGroupColumn(10, "Pseudo", true);
+    EditorForm().Refresh();
+    Click("chkLocked");
+    MessageBoxRobot person{BoxKey::No};
+    ClickTab(1);
+    EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Parcels' layer?");
+    EXPECT_FALSE(CanApply());
+    EXPECT_EQ(Stored(1, "locked"), 0);
+    EXPECT_EQ(Stored(2, "locked"), 1);
+}
+
+TEST_F(Lifecycle, RefreshGroupsFollowsAGroupThatVanished)
+{
+    Open();
+    ClickTab(1);
+    ClickGroup("Land");
+    host.RemoveGroup(20);
+    Editor().RefreshGroups();
+    auto& tree = Find<QTreeView>("tvLayers1");
+    const QModelIndex neighbour = tree.currentIndex();
+    ASSERT_TRUE(neighbour.isValid());
+    const bool isRivers = neighbour.data().toString() == "Rivers";
+    EXPECT_TRUE(isRivers || neighbour.data().toString() == "Transport");
+    EXPECT_EQ(CheckState("chkVisible"), isRivers ? 0 : 2);
+    EXPECT_EQ(TextOf("lblScaleMin"), isRivers ? "1:5000" : "various");
+    EXPECT_FALSE(CanApply());
+}
+
+TEST_F(Lifecycle, RefreshGroupsChangesOnlyTheTreeWhileTheLayersAreShown)
+{
+    Open();
+    ClickTab(1);
+    ClickGroup("Land");
+    ClickTab(2);
+    ClickLayer("Rivers");
+    host.RemoveGroup(20);
+    host.SetLayerColumn(2, "Priority", qint32(7));
+    host.ClearLog();
+    Editor().RefreshGroups();
+    EXPECT_EQ(Nodes("tvLayers1"), 1);
+    EXPECT_EQ(CurrentTab(), 2);
+    EXPECT_EQ(TextOf("lblCode"), "12");
+    EXPECT_EQ(TextOf("lblPriority"), "100") << "the layer was not read anew";
+}
+
+TEST_F(Lifecycle, AClickOnTheShownTabReadsAListThatIsStale)
+{
+    const OddLayers filter;
+    Open();
+    Editor().StyleFilter(&filter);
+    ClickTab(2);
+    EXPECT_EQ(Nodes("tvLayers2"), 2);
+}
+
 } // namespace
 
 } // namespace Orvane::Testing

@@ -35,6 +35,8 @@ void ClickTab(SessionFixture& session)
     session.Settle();
     if (tab != session.dialog.tab)
         session.dialog.ShowTab(tab, answer);
+    else
+        session.dialog.ClickShownTab(answer);
 }
 
 void ClickNode(SessionFixture& session)

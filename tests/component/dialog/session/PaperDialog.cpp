@@ -209,10 +209,10 @@ void Dialog::EnterCode(const QString& text)
 
 void Dialog::Ask(Answer answer)
 {
-    if (!isModified || !panel.node)
+    if (!isModified || !panel.node || panel.node != CurrentNode())
         return;
     const QString kind = panel.node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
-    const QString name = CurrentNode() ? lists[shownList].TextOf(*CurrentNode()) : QString();
+    const QString name = lists[shownList].TextOf(*panel.node);
     m_boxes.append(QStringLiteral("Do you wish to apply the changes to the '%1' %2?").arg(name, kind));
     if (answer == Answer::Yes)
         Apply();
@@ -221,7 +221,7 @@ void Dialog::Ask(Answer answer)
 void Dialog::Apply()
 {
     const std::optional<Node> node = CurrentNode();
-    if (!isModified || !node)
+    if (!isModified || !node || panel.node != node)
         return;
     const auto write = [this](qint32 layerID) {
         const auto found = m_map.layers.find(layerID);
@@ -236,9 +236,11 @@ void Dialog::Apply()
     std::vector<qint32> imaged{node->layerID};
     if (node->isGroup) {
         const auto group = m_map.groups.find(node->groupID);
-        if (group != m_map.groups.end())
-            std::for_each(group->second.members.begin(), group->second.members.end(), write);
         imaged.clear();
+        if (group != m_map.groups.end()) {
+            std::for_each(group->second.members.begin(), group->second.members.end(), write);
+            imaged.assign(group->second.members.begin(), group->second.members.end());
+        }
         for (const Branch& branch : list.branches) {
             for (const Entry& entry : branch.entries) {
                 if (branch.groupID == node->groupID)
@@ -271,14 +273,22 @@ void Dialog::SetLayerCode(qint32 layerID)
 void Dialog::ShowTab(int wanted, Answer answer)
 {
     const ListNumber wantedList = wanted == 1 ? Groups : Layers;
-    if (wanted == 3 || wantedList != shownList)
+    if (wanted == 3 || wantedList != shownList) {
         Ask(answer);
+        isModified = false;
+    }
     tab = wanted;
     if (wanted != 3) {
         shownList = wantedList;
         EnsureLoaded(wantedList, answer);
     }
     Load();
+}
+
+void Dialog::ClickShownTab(Answer answer)
+{
+    if (tab != 3)
+        EnsureLoaded(shownList, answer);
 }
 
 void Dialog::Choose(const Node& node, Answer answer)

@@ -64,6 +64,7 @@ public:
     // What the person does.
 
     void ShowTab(int wanted, Answer answer);
+    void ClickShownTab(Answer answer);
     void Choose(const Node& node, Answer answer);
     void Apply();
     void Load();
