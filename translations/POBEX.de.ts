@@ -500,6 +500,10 @@
         <translation>Die Einstellungen neben den Listen ein- oder ausblenden.</translation>
     </message>
     <message>
+        <source>Hide settings</source>
+        <translation>Einstellungen verbergen</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>Einstellungen zeigen</translation>
     </message>

@@ -500,6 +500,10 @@
         <translation>Afficher ou masquer les réglages à côté des listes.</translation>
     </message>
     <message>
+        <source>Hide settings</source>
+        <translation>Masquer les réglages</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>Afficher les réglages</translation>
     </message>

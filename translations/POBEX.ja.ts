@@ -500,6 +500,10 @@
         <translation>リストの横の設定を表示または非表示にします。</translation>
     </message>
     <message>
+        <source>Hide settings</source>
+        <translation>設定を隠す</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>設定を表示</translation>
     </message>

@@ -4,6 +4,8 @@
 #include "component/entry/Messages.h"
 #include "ui_frmLayerStyles.h"
 
+#include <QScreen>
+
 #include <algorithm>
 #include <utility>
 
@@ -76,7 +78,7 @@ void EditorLayout::FitTexts()
 void EditorLayout::TakeDesignedSize()
 {
     m_form.layout()->activate();
-    m_form.resize(m_form.sizeHint());
+    m_form.resize(m_form.sizeHint().boundedTo(m_form.screen()->availableGeometry().size()));
 }
 
 void EditorLayout::SetExpanded(bool expanded)
@@ -121,6 +123,8 @@ void EditorLayout::ShowExpansion()
 {
     m_ui.picLayerStyle->setVisible(m_expanded);
     m_ui.cmdResize->setText(m_expanded ? QStringLiteral("<<") : QStringLiteral(">>"));
+    m_ui.cmdResize->setAccessibleName(
+        m_expanded ? TranslateMsg("Hide settings") : TranslateMsg("Show settings"));
 }
 
 int EditorLayout::SettingsWidth() const

@@ -29,7 +29,7 @@ public:
     /// Gives the settings the width that their texts need in the present language and font; it stays until
     /// the next call, so that no value shown makes the dialog wider.
     void FitTexts();
-    /// Gives the dialog the size that its contents ask for.
+    /// Gives the dialog the size that its contents ask for, as far as the screen has room for it.
     void TakeDesignedSize();
 
     /// True while the settings stand beside the lists.

@@ -19,7 +19,7 @@ PriorityEditor::PriorityEditor(const Widgets& widgets, const IUITranslator& tran
 
 std::vector<SlotControl> PriorityEditor::Controls() const
 {
-    return {{Slot::DrawPriority, m_widgets.lblPriority}};
+    return {{Slot::DrawPriority, m_widgets.lblPriority, m_widgets.cmdEditPriority}};
 }
 
 void PriorityEditor::Show(const LayerStyle& record)

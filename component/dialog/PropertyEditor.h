@@ -16,6 +16,8 @@ class LayerStyle;
 struct SlotControl {
     qint16 slot = 0;
     QWidget* control = nullptr;
+    /// What edits the control's value and has the focus, where that is another control: it speaks for it.
+    QWidget* speaker = nullptr;
 };
 
 /// One group of controls on the property panel, which edits some slots of the selection record.

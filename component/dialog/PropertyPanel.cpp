@@ -4,7 +4,9 @@
 #include "component/entry/Messages.h"
 
 #include <QFont>
+#include <QLabel>
 #include <QScopedValueRollback>
+#include <QStringList>
 #include <QVariant>
 #include <QWidget>
 
@@ -18,9 +20,6 @@ void Underline(QWidget& control, bool underlined)
     if (underlined)
         mark.setUnderline(true);
     control.setFont(mark);
-    // An underline says nothing to someone who listens.
-    QWidget& spoken = control.focusProxy() ? *control.focusProxy() : control;
-    spoken.setAccessibleDescription(underlined ? TranslateMsg("changed") : QString());
 }
 
 } // namespace
@@ -36,7 +35,12 @@ void PropertyPanel::Join(std::unique_ptr<PropertyEditor> editor)
     editor->SetChangeHandler([this](QWidget* control) {
         if (!m_showing)
             MarkControlChanged(control, ControlValueChanged(control));
+        Speak(*control);
     });
+    for (const SlotControl& entry : editor->Controls()) {
+        if (entry.speaker)
+            m_speakers.insert(entry.control, entry.speaker);
+    }
     m_editors.push_back(std::move(editor));
 }
 
@@ -100,18 +104,35 @@ void PropertyPanel::MarkControlChanged(QWidget* control, bool changed)
 {
     if (m_marked.contains(control) != changed)
         Underline(*control, changed);
-    if (!changed) {
+    if (changed)
+        m_marked.insert(control);
+    else
         m_marked.remove(control);
-        return;
-    }
-    m_marked.insert(control);
-    emit Edited();
+    Speak(*control);
+    if (changed)
+        emit Edited();
 }
 
 void PropertyPanel::ClearMarks()
 {
-    for (QWidget* control : std::exchange(m_marked, {}))
+    for (QWidget* control : std::exchange(m_marked, {})) {
         Underline(*control, false);
+        Speak(*control);
+    }
+}
+
+// An underline says nothing to someone who listens, nor does the text of a label that never has the focus.
+void PropertyPanel::Speak(QWidget& control) const
+{
+    QWidget* speaker = m_speakers.value(&control);
+    QStringList state;
+    if (const auto* label = qobject_cast<const QLabel*>(&control); speaker && label)
+        state.append(label->text());
+    if (m_marked.contains(&control))
+        state.append(TranslateMsg("changed"));
+    if (!speaker)
+        speaker = control.focusProxy() ? control.focusProxy() : &control;
+    speaker->setAccessibleDescription(state.join(QStringLiteral(", ")));
 }
 
 } // namespace Orvane

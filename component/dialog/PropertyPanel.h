@@ -4,6 +4,7 @@
 #include "component/dialog/PropertyEditor.h"
 #include "component/model/LayerStyle.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -52,8 +53,9 @@ public:
     /// True when the control shows another value than the record for the slot in its Tag.
     bool ControlValueChanged(const QWidget* control) const;
 
-    /// Underlines the control, or takes the line away. A control that is not one of an editor may be marked
-    /// too; Show clears it with the others.
+    /// Underlines the control and has it spoken as changed, or takes both away; the value of a label is
+    /// spoken by what edits it. A control that is not one of an editor may be marked too; Show clears it
+    /// with the others.
     void MarkControlChanged(QWidget* control, bool changed);
 
     /// Shows all values anew after a change of language; edits and their marks stay.
@@ -66,10 +68,12 @@ signals:
 
 private:
     void ClearMarks();
+    void Speak(QWidget& control) const;
 
     std::vector<std::unique_ptr<PropertyEditor>> m_editors;
     LayerStyle m_record;
     QSet<QWidget*> m_marked;
+    QHash<QWidget*, QWidget*> m_speakers; ///< of labels
     bool m_showing = false;
 };
 

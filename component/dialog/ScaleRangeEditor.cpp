@@ -36,7 +36,9 @@ ScaleRangeEditor::ScaleRangeEditor(const Widgets& widgets, const IUITranslator& 
 
 std::vector<SlotControl> ScaleRangeEditor::Controls() const
 {
-    return {{Slot::MinVisScale, m_widgets.lblScaleMin}, {Slot::MaxVisScale, m_widgets.lblScaleMax}};
+    return {
+        {Slot::MinVisScale, m_widgets.lblScaleMin, m_widgets.cmdEditMinScale},
+        {Slot::MaxVisScale, m_widgets.lblScaleMax, m_widgets.cmdEditMaxScale}};
 }
 
 void ScaleRangeEditor::Show(const LayerStyle& record)

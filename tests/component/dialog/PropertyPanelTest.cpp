@@ -213,6 +213,34 @@ TEST_F(Panel, ALabelThatCannotBeReadIsToldToThePerson)
     EXPECT_EQ(person.Only().text, "Type mismatch");
 }
 
+TEST_F(Panel, AButtonSpeaksTheValueThatItEditsAndWhetherItChanged)
+{
+    ClickLayer("Rivers");
+    const auto spoken = [this](const char* button) { return Find(button).accessibleDescription(); };
+    EXPECT_EQ(spoken("cmdEditMinScale"), "1:5000");
+    EXPECT_EQ(spoken("cmdEditMaxScale"), "1:20000");
+    EXPECT_EQ(spoken("cmdEditPriority"), "100");
+    ChooseScale("cmdEditMinScale", 8);
+    ChooseScale("cmdEditMinScale", 9);
+    EXPECT_EQ(spoken("cmdEditMinScale"), "1:9000, changed");
+    EXPECT_EQ(spoken("cmdEditMaxScale"), "1:20000");
+    Click("cmdCancel");
+    EXPECT_EQ(spoken("cmdEditMinScale"), "1:5000");
+}
+
+TEST_F(Panel, AnEmptyCaptionReadsAsNull)
+{
+    Find<QLabel>("lblPriority").clear();
+    Find<QLabel>("lblScaleMin").clear();
+    Click("chkLocked");
+    host.ClearLog();
+    Click("cmdApply");
+    const QStringList written = host.Log().CallsTo("SetField");
+    EXPECT_FALSE(written.filter("locked").isEmpty());
+    EXPECT_TRUE(written.filter("Priority").isEmpty());
+    EXPECT_TRUE(written.filter("MinVisScale").isEmpty());
+}
+
 } // namespace
 
 } // namespace Orvane::Testing

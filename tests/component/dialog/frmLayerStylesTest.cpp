@@ -4,9 +4,11 @@
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QScreen>
 #include <QToolButton>
+#include <QtTest>
 
 namespace Orvane::Testing {
 
@@ -34,6 +36,50 @@ TEST_F(Lifecycle, AnEmptyStateOpensOnTheLayersExpandedAtTheDesignedSize)
     EXPECT_EQ(CurrentTab(), 2);
     EXPECT_TRUE(IsExpanded());
     EXPECT_EQ(Form()->size(), Form()->sizeHint());
+}
+
+TEST_F(Lifecycle, AnEmptyStateWithAFilterForGroupsOpensOnThem)
+{
+    const OddLayers filter(true);
+    Create();
+    Editor().StyleFilter(&filter);
+    Open();
+    EXPECT_EQ(CurrentTab(), 1);
+    EXPECT_TRUE(IsExpanded());
+    EXPECT_EQ(Form()->size(), Form()->sizeHint());
+}
+
+TEST_F(Lifecycle, RestoringASizeKeepsThePlace)
+{
+    StoreViewState("9000:7000:LAYERS:EXPANDED");
+    Create();
+    Form()->move(60, 40);
+    Open();
+    EXPECT_EQ(Form()->pos(), QPoint(60, 40));
+    EXPECT_EQ(Form()->size(), QSize(600, 467));
+}
+
+TEST_F(Lifecycle, AMaximisedDialogStoresItsNormalSize)
+{
+    StoreViewState("9000:7000:LAYERS:EXPANDED");
+    Open();
+    Form()->showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Form()->width() > 600; }));
+    Close();
+    EXPECT_EQ(StoredViewState(), "9000:7000:LAYERS:EXPANDED");
+}
+
+TEST_F(Lifecycle, TheDesignedSizeFitsTheScreen)
+{
+    const QFont before = QApplication::font();
+    QFont huge = before;
+    huge.setPointSizeF(before.pointSizeF() * 4);
+    QApplication::setFont(huge);
+    Open();
+    const QSize screen = Form()->screen()->availableGeometry().size();
+    EXPECT_GT(Form()->sizeHint().width(), screen.width());
+    EXPECT_EQ(Form()->size(), screen.expandedTo(Form()->minimumSizeHint()));
+    QApplication::setFont(before);
 }
 
 TEST_F(Lifecycle, AFilterThatAsksForGroupsOverrulesTheStoredTab)
@@ -144,6 +190,17 @@ TEST_F(Lifecycle, PopupShowsWithoutReadingTheState)
     EXPECT_THAT(host.Calls(), Not(Contains(Mentions("ReadSetting"))));
     EXPECT_THAT(host.Calls(), Contains("ShowEditor()"));
     EXPECT_EQ(Nodes("tvLayers1"), 2);
+}
+
+TEST_F(Lifecycle, PopupShowsBeforeItReadsTheCaption)
+{
+    Create();
+    host.ClearLog();
+    EditorForm().Popup();
+    const QStringList calls = host.Calls();
+    const qsizetype shown = calls.indexOf("ShowEditor()");
+    ASSERT_GE(shown, 0);
+    EXPECT_GT(calls.indexOf("ThemeName()"), shown);
 }
 
 TEST_F(Lifecycle, PopupOfAVisibleEditorOnlyGoesToTheGroupsThatTheFilterAsksFor)
@@ -276,10 +333,12 @@ TEST_F(Lifecycle, ResizingHidesTheSettingsAndTheirWidth)
     Click("cmdResize");
     EXPECT_FALSE(IsExpanded());
     EXPECT_EQ(Find<QToolButton>("cmdResize").text(), ">>");
+    EXPECT_EQ(Find("cmdResize").accessibleName(), "Show settings");
     EXPECT_EQ(Form()->size(), QSize(before.width() - settings, before.height()));
     EXPECT_EQ(Form()->pos(), place);
     Click("cmdResize");
     EXPECT_EQ(Find<QToolButton>("cmdResize").text(), "<<");
+    EXPECT_EQ(Find("cmdResize").accessibleName(), "Hide settings");
     EXPECT_EQ(Form()->size(), before);
 }
 
