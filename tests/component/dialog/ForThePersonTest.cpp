@@ -5,7 +5,6 @@
 #include "support/LinguistFile.h"
 #include "support/PseudoLanguage.h"
 
-#include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
@@ -21,21 +20,6 @@
 namespace Orvane::Testing {
 
 namespace {
-
-/// Notes whether the busy pointer was shown while the host worked.
-class PointerWatcher : public ForwardingClient
-{
-public:
-    using ForwardingClient::ForwardingClient;
-    bool wasBusy = false;
-
-private:
-    void IStyleEditorClient_LayerChanged(qint32 layerID) override
-    {
-        wasBusy = QGuiApplication::overrideCursor() != nullptr;
-        ForwardingClient::IStyleEditorClient_LayerChanged(layerID);
-    }
-};
 
 /// Gives the program a font that is half as large again while it lives.
 class LargeFont
@@ -142,92 +126,6 @@ protected:
         return clipped;
     }
 };
-
-TEST_F(ForThePerson, EscapeDropsEditsFirstAndClosesOnlyWithoutAny)
-{
-    OpenOn("Roads");
-    Click("chkVisible");
-    QTest::keyClick(Form(), Qt::Key_Escape);
-    ASSERT_NE(Form(), nullptr);
-    EXPECT_FALSE(CanApply());
-    EXPECT_EQ(CheckState("chkVisible"), 1);
-    QTest::keyClick(Form(), Qt::Key_Escape);
-    EXPECT_EQ(Form(), nullptr);
-}
-
-TEST_F(ForThePerson, EnterNeverClosesTheDialogNorAppliesIt)
-{
-    OpenOn("Roads");
-    Click("chkVisible");
-    for (const char* name : {"chkVisible", "tvLayers2", "cboStyle", "tsLists", "cmdResize"}) {
-        QTest::keyClick(&Find(name), Qt::Key_Return);
-        ASSERT_NE(Form(), nullptr) << name;
-        EXPECT_TRUE(Form()->isVisible()) << name;
-    }
-    EXPECT_EQ(Stored(1, "Visible"), 1);
-}
-
-TEST_F(ForThePerson, NoButtonAnswersEnterOnBehalfOfTheDialog)
-{
-    Open();
-    for (const QPushButton* button : Form()->findChildren<QPushButton*>())
-        EXPECT_FALSE(button->autoDefault() || button->isDefault()) << qPrintable(button->objectName());
-}
-
-TEST_F(ForThePerson, ApplyLeavesTheFocusWhereItWas)
-{
-    OpenOn("Roads");
-    Form()->activateWindow();
-    auto* box = Find("chkVisible").findChild<QCheckBox*>();
-    box->setFocus();
-    Click("chkVisible");
-    Click("cmdApply");
-    EXPECT_EQ(Form()->focusWidget(), box);
-}
-
-TEST_F(ForThePerson, ApplyingByKeyMovesTheFocusToTheList)
-{
-    OpenOn("Roads");
-    Form()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Form()));
-    Click("chkVisible");
-    auto& apply = Find<QPushButton>("cmdApply");
-    apply.setFocus();
-    QTest::keyClick(&apply, Qt::Key_Space);
-    EXPECT_EQ(Form()->focusWidget(), &Find("tvLayers2"));
-}
-
-TEST_F(ForThePerson, ABusyPointerCoversApplying)
-{
-    PointerWatcher client(host);
-    UseClient(client);
-    OpenOn("Roads");
-    Click("chkVisible");
-    Click("cmdApply");
-    EXPECT_TRUE(client.wasBusy);
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    Close();
-}
-
-TEST_F(ForThePerson, TheTabKeyReachesEveryControlOnce)
-{
-    OpenOn("Roads");
-    Click("chkVisible");
-    QStringList order;
-    const QWidget* first = &Find("tsLists");
-    for (const QWidget* next = first->nextInFocusChain(); next != first; next = next->nextInFocusChain()) {
-        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus)
-            && !next->objectName().isEmpty() && !next->objectName().startsWith("qt_"))
-            order.append(next->objectName());
-    }
-    EXPECT_LT(order.indexOf("tvLayers2"), order.indexOf("cmdNewLayer"));
-    EXPECT_LT(order.indexOf("cmdNewLayer"), order.indexOf("Normal"));
-    EXPECT_LT(order.indexOf("Hidden"), order.indexOf("cboStyle"));
-    EXPECT_LT(order.indexOf("cboStyle"), order.indexOf("cmdEditMinScale"));
-    EXPECT_LT(order.indexOf("cmdEditMinScale"), order.indexOf("cmdEditMaxScale"));
-    EXPECT_LT(order.indexOf("cmdEditPriority"), order.indexOf("cmdApply"));
-    EXPECT_LT(order.indexOf("cmdApply"), order.indexOf("cmdResize"));
-}
 
 TEST_F(ForThePerson, EveryControlHasATextOrAnAccessibleName)
 {

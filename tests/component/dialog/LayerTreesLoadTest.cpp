@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/LayerTreesLoadFixture.h"
 #include "hosts/FailingClient.h"
+#include "hosts/PatchingClient.h"
 
 #include <QSignalSpy>
 
@@ -14,6 +15,7 @@ using testing::Not;
 namespace Orvane {
 
 using Testing::FailingClient;
+using Testing::PatchingClient;
 
 TEST_F(LayerTreesLoadTest, ShowsGroupsExpandedAsStored)
 {
@@ -32,6 +34,15 @@ TEST_F(LayerTreesLoadTest, ShowsAGroupWithoutName)
     host.AddGroup({.id = 3, .name = QString(), .ordering = 3, .members = {31}});
     Open(List::Groups);
     EXPECT_THAT(Lines(groups), Contains("<No Name>"));
+}
+
+TEST_F(LayerTreesLoadTest, ShowsAGroupThatIsNotFound)
+{
+    PatchingClient client(host, {{"GroupID", qint32(404)}});
+    UseClient(client);
+    trees.LoadGroups();
+    EXPECT_THAT(Lines(groups), Contains("ERROR: Group not Found"));
+    UseClient(host);
 }
 
 TEST_F(LayerTreesLoadTest, ReadsAListOnlyWhenItHasNoNodesOrIsStale)

@@ -201,6 +201,75 @@ TEST_F(Panel, OneSliderServesAllThreeProperties)
     EXPECT_THAT(sliders, ElementsAre(sliders.front(), sliders.front(), sliders.front()));
 }
 
+TEST_F(Panel, EachSliderOffersVariousForItsOwnSlotOnly)
+{
+    host.AddLayer({.id = 7, .name = "Near", .minVisScale = 1000.0, .maxVisScale = 20000.0});
+    host.AddLayer({.id = 8, .name = "Far", .minVisScale = 5000.0, .maxVisScale = 20000.0});
+    host.AddGroup({.id = 30, .name = QString("Mixed"), .ordering = 3, .members = {7, 8}});
+    const auto offered = [this] {
+        SelectTransport(); // reads what comes next anew
+        ClickGroup("Mixed");
+        std::vector<bool> various;
+        for (const char* button : {"cmdEditMinScale", "cmdEditMaxScale", "cmdEditPriority"}) {
+            EXPECT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
+                various.push_back(slider.findChild<QCheckBox*>("chkVarious")->isEnabled());
+                QTest::keyClick(&slider, Qt::Key_Escape);
+            }));
+        }
+        return various;
+    };
+    EXPECT_THAT(offered(), ElementsAre(true, false, false));
+    host.SetLayerColumn(8, "MinVisScale", 1000.0);
+    host.SetLayerColumn(8, "MaxVisScale", 30000.0);
+    EXPECT_THAT(offered(), ElementsAre(false, true, false));
+    host.SetLayerColumn(8, "MaxVisScale", 20000.0);
+    host.SetLayerColumn(8, "Priority", qint32(7));
+    EXPECT_THAT(offered(), ElementsAre(false, false, true));
+}
+
+TEST_F(Panel, TheSliderStartsWhereTheLabelStands)
+{
+    const auto start = [this](const char* button) {
+        int position = -1;
+        EXPECT_TRUE(EditWithSlider(button, [&](QWidget& slider) {
+            position = slider.findChild<QSlider*>("sldValue")->value();
+            QTest::keyClick(&slider, Qt::Key_Escape);
+        }));
+        return position;
+    };
+    EXPECT_EQ(start("cmdEditMaxScale"), 1) << "\"dont care\" reads back as 0, below the least";
+    ClickLayer("Rivers");
+    EXPECT_EQ(start("cmdEditMinScale"), 5);
+    EXPECT_EQ(start("cmdEditMaxScale"), 20);
+    EXPECT_EQ(start("cmdEditPriority"), 100);
+    ChooseScale("cmdEditMinScale", 8);
+    EXPECT_EQ(start("cmdEditMinScale"), 8);
+}
+
+TEST_F(Panel, EachSliderHangsUnderItsOwnButtonAndSaysItsLabel)
+{
+    Form()->move(0, 0);
+    ClickLayer("Rivers");
+    const std::vector<std::pair<const char*, const char*>> pairs{
+        {"cmdEditMinScale", "lblScaleMin"},
+        {"cmdEditMaxScale", "lblScaleMax"},
+        {"cmdEditPriority", "lblPriority"}};
+    for (const auto& [name, label] : pairs) {
+        const QWidget& button = Find(name);
+        const QRect place(button.mapToGlobal(QPoint()), button.size());
+        QRect popup;
+        QString text;
+        ASSERT_TRUE(EditWithSlider(name, [&](QWidget& slider) {
+            popup = slider.geometry();
+            text = slider.findChild<QLabel*>("lblValue")->text();
+            QTest::keyClick(&slider, Qt::Key_Escape);
+        }));
+        EXPECT_EQ(popup.right(), place.right()) << name;
+        EXPECT_EQ(popup.top(), place.bottom() + 1) << name;
+        EXPECT_EQ(text, TextOf(label)) << name;
+    }
+}
+
 } // namespace
 
 } // namespace Orvane::Testing

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "component/dialog/QuickModeToolbar.h"
+
 #include "component/dialog/EditorFixture.h"
 
+#include <QSignalSpy>
 #include <QToolButton>
 
 namespace Orvane::Testing {
@@ -137,6 +140,29 @@ TEST_F(QuickModes, HiddenButtonsStillKeepTheStoredMode)
     Click("chkLocked");
     Click("cmdApply");
     EXPECT_EQ(Stored(2, "OverrideMode"), 1);
+}
+
+TEST(QuickModeToolbarTest, PressesExactlyTheBitsOfTheMode)
+{
+    QWidget bar;
+    std::array<QToolButton*, 3> buttons{};
+    for (QToolButton*& button : buttons) {
+        button = new QToolButton(&bar);
+        button->setCheckable(true);
+    }
+    QuickModeToolbar toolbar(bar, buttons);
+    const QSignalSpy edits(&toolbar, &QuickModeToolbar::Edited);
+    for (qint16 mode = 0; mode < 8; ++mode) {
+        toolbar.ShowMode(mode);
+        for (int bit = 0; bit < 3; ++bit)
+            EXPECT_EQ(buttons[size_t(bit)]->isChecked(), bool(mode & (1 << bit))) << mode;
+        EXPECT_EQ(toolbar.ReadMode(), mode);
+    }
+    EXPECT_EQ(edits.count(), 0);
+    toolbar.ShowMode(3);
+    buttons[0]->click();
+    EXPECT_EQ(toolbar.ReadMode(), 1);
+    EXPECT_EQ(edits.count(), 1);
 }
 
 } // namespace
