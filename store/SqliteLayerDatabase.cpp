@@ -62,6 +62,7 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
     UseCache(session->connection);
     LayerSchema::Create(session->connection);
     UseWriteAheadLog(session->connection);
+    LayerSchema::Check(session->connection); // with a first read the file counts as open
     return session;
 }
 
