@@ -2,6 +2,8 @@
 #include "mapkit/document/MapDocument.h"
 
 #include "hostkit/StoredScale.h"
+#include "mapkit/document/BackdropPlace.h"
+#include "store/LayerFileUse.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
@@ -90,8 +92,14 @@ std::unique_ptr<MapDocument> MapDocument::CreateOver(const QString& path)
 
 std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Open(absolute), absolute));
+    return OpenCopy(path, path);
+}
+
+std::unique_ptr<MapDocument> MapDocument::OpenCopy(const QString& copy, const QString& original)
+{
+    auto database = SqliteLayerDatabase::Open(QFileInfo(copy).absoluteFilePath());
+    const QString path = QFileInfo(original).absoluteFilePath();
+    return std::unique_ptr<MapDocument>(new MapDocument(std::move(database), path));
 }
 
 MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
@@ -138,9 +146,7 @@ void MapDocument::SetSystem(const QString& system)
 
 QString MapDocument::Backdrop() const
 {
-    const SourcePaths::Place place{
-        Setting(QStringLiteral("Backdrop")), Setting(QStringLiteral("BackdropRelative"))};
-    return place.path.isEmpty() ? QString() : SourcePaths(m_path).Find(place);
+    return FindBackdrop(*m_database, m_path);
 }
 
 void MapDocument::SetBackdrop(const QString& path)

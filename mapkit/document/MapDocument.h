@@ -43,6 +43,9 @@ public:
     static std::unique_ptr<MapDocument> CreateOver(const QString& path);
     /// Opens a map file.
     static std::unique_ptr<MapDocument> Open(const QString& path);
+    /// Opens a copy of a map file in the original's name: its data are sought, and kept, from where the
+    /// original lies, and Path() is that one.
+    static std::unique_ptr<MapDocument> OpenCopy(const QString& copy, const QString& original);
     ~MapDocument();
 
     /// Removes a map file that is not open, with what SQLite keeps beside it; a missing one changes nothing.

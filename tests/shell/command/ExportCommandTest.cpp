@@ -2,6 +2,7 @@
 #include "shell/command/ExportCommand.h"
 
 #include "hostkit/LayerSchemes.h"
+#include "mapkit/RasterFile.h"
 #include "shell/command/CommandFixture.h"
 #include "store/SqliteLayerDatabase.h"
 
@@ -120,6 +121,26 @@ TEST_F(ExportCommandTest, WhatIsNoMapIsAProblem)
     EXPECT_TRUE(m_errors.contains("none.orvane")) << m_errors.toStdString();
     EXPECT_EQ(
         Run({m_folder.Write("text.orvane", "x"), "--export", m_folder.Path("a.pdf")}), ExitCode::Problems);
+}
+
+TEST_F(ExportCommandTest, DataAndBackdropThatWereMovedAlongWithTheMapAreDrawn)
+{
+    QDir(m_folder.Path("")).mkpath("old/data");
+    const QString picture = m_folder.Path("old/data/green.tif");
+    WriteRaster(picture, {.bands = 3}, [](int, int, int band) { return band == 2 ? 255 : 0; });
+    {
+        const auto document = MapDocument::Open(MakeMap("old/map.orvane"));
+        LayerSource source = document->Sources().at(0);
+        source.path = m_folder.WriteSquare("old/data/square.geojson", 5);
+        document->SetSource(source);
+        document->SetBackdrop(picture);
+    }
+    ASSERT_TRUE(QFile::rename(m_folder.Path("old"), m_folder.Path("new")));
+    const QImage image = Exported(m_folder.Path("new/map.orvane"));
+    EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::red)) << m_errors.toStdString();
+    const QRgb beside = image.pixel(2, 100);
+    EXPECT_GT(qGreen(beside), qRed(beside)) << "the backdrop, which the square only half covers";
+    EXPECT_TRUE(m_errors.isEmpty()) << m_errors.toStdString();
 }
 
 TEST_F(ExportCommandTest, DataThatAreGoneAreToldAndTheRestIsDrawn)
