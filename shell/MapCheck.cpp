@@ -2,6 +2,8 @@
 #include "shell/MapCheck.h"
 
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/RasterSource.h"
+#include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/SourceTable.h"
 #include "shell/DanglingRows.h"
 #include "store/SqliteLayerDatabase.h"
@@ -82,18 +84,35 @@ void AddUnreadable(Problems& problems, const QString& path, const std::set<QStri
     }
 }
 
+void AddMissingFile(Problems& problems, const QString& path)
+{
+    const QString text = Translate(QT_TRANSLATE_NOOP("MapCheck", "The data file \"%1\" is missing."));
+    problems.push_back({Kind::MissingData, text.arg(path), false});
+}
+
+void AddBackdrop(Problems& problems, const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    if (!QFileInfo::exists(path))
+        return AddMissingFile(problems, path);
+    try {
+        const RasterSource picture(path);
+    } catch (const RunTimeError& error) {
+        problems.push_back({Kind::UnreadableData, error.Description(), false});
+    }
+}
+
 void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
 {
     std::map<QString, std::set<QString>> layerNames;
     for (const LayerSource& source : sources)
         layerNames[source.path].insert(source.ogrLayer);
     for (const auto& [path, names] : layerNames) {
-        if (QFileInfo::exists(path)) {
+        if (QFileInfo::exists(path))
             AddUnreadable(problems, path, names);
-            continue;
-        }
-        const QString text = Translate(QT_TRANSLATE_NOOP("MapCheck", "The data file \"%1\" is missing."));
-        problems.push_back({Kind::MissingData, text.arg(path), false});
+        else
+            AddMissingFile(problems, path);
     }
 }
 
@@ -103,6 +122,7 @@ Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path)
     AddDamage(problems, database);
     AddDanglingRows(problems, database);
     AddMissingData(problems, SourceTable(database, path).All());
+    AddBackdrop(problems, FindBackdrop(database, path));
     return problems;
 }
 

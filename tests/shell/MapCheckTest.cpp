@@ -3,6 +3,7 @@
 
 #include "hostkit/LayerSchemes.h"
 #include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
 #include "mapkit/RawDatabase.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
@@ -201,6 +202,18 @@ TEST_F(MapCheckTest, AFileCutShortIsAnErrorAndStays)
     const QByteArray before = Bytes();
     EXPECT_THROW(RepairMap(m_map), RunTimeError);
     EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(MapCheckTest, ABackdropThatIsMissingOrNoPictureIsAProblem)
+{
+    const QString picture = m_folder.Path("photo.tif");
+    WriteRaster(picture, {}, [](int, int, int) { return 1; });
+    MapDocument::Open(m_map)->SetBackdrop(picture);
+    EXPECT_TRUE(CheckMap(m_map).empty());
+    ASSERT_TRUE(QFile::remove(picture));
+    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
+    m_folder.Write("photo.tif", "no picture");
+    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::UnreadableData));
 }
 
 } // namespace Orvane
