@@ -27,4 +27,9 @@ QString NameInText(const QString& name, qsizetype longest)
     return line;
 }
 
+QString NameInMenu(const QString& name)
+{
+    return NameInText(name).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 } // namespace Orvane

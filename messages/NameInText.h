@@ -7,6 +7,9 @@ namespace Orvane {
 
 /// A name as one line of at most so many characters, for lists, menus and questions: line breaks and other
 /// control characters become blanks, and a longer name ends in an ellipsis. Ordinary names stay as they are.
-QString NameInText(const QString& name, qsizetype longest);
+QString NameInText(const QString& name, qsizetype longest = 60);
+
+/// The same for a menu, where an ampersand would mark a letter.
+QString NameInMenu(const QString& name);
 
 } // namespace Orvane

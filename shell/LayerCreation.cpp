@@ -6,9 +6,9 @@
 #include "mapkit/data/CoordinateSystems.h"
 #include "mapkit/data/EmptyLayer.h"
 #include "mapkit/document/MapDocument.h"
+#include "messages/NameInText.h"
 #include "shell/DataImport.h"
 #include "shell/NewLayerDialog.h"
-#include "shell/ShownName.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
@@ -52,7 +52,7 @@ qint32 LayerCreation::Make(const NewLayerDialog& wishes)
         StoreTransaction transaction(m_document.Database());
         layerID = wishes.IsEmptyLayer() ? MakeEmpty(wishes) : MakeFromSource(wishes);
         transaction.Commit();
-        return tr("Creation of \"%1\"").arg(ShownName(wishes.Name(), 40));
+        return tr("Creation of \"%1\"").arg(NameInText(wishes.Name(), 40));
     });
     return layerID;
 }

@@ -2,7 +2,7 @@
 #include "shell/NewLayerDialog.h"
 
 #include "mapkit/Guard.h"
-#include "shell/ShownName.h"
+#include "messages/NameInText.h"
 #include "ui_NewLayerDialog.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -100,7 +100,7 @@ void NewLayerDialog::ShowSource()
     m_ui->cmbSourceLayer->clear();
     m_ui->lblProblem->setText(ReadSource());
     for (const SourceLayer& layer : m_layers)
-        m_ui->cmbSourceLayer->addItem(ShownName(layer.name));
+        m_ui->cmbSourceLayer->addItem(NameInText(layer.name));
     UpdateEnabled();
 }
 

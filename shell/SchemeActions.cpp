@@ -5,11 +5,11 @@
 #include "hostkit/SchemeExchange.h"
 #include "hostkit/SchemeFile.h"
 #include "mapkit/Guard.h"
+#include "messages/NameInText.h"
 #include "shell/LayerControl.h"
 #include "shell/MapSession.h"
 #include "shell/SchemeReport.h"
 #include "shell/SchemeStatus.h"
-#include "shell/ShownName.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -46,7 +46,7 @@ public:
 // The scheme's name, as far as a file may have it.
 QString FileNameFor(const QString& scheme)
 {
-    QString name = ShownName(scheme);
+    QString name = NameInText(scheme);
     for (QChar& character : name) {
         if (QStringLiteral("/\\:*?\"<>|").contains(character))
             character = QLatin1Char('_');
@@ -100,7 +100,7 @@ void SchemeActions::Fill()
     const QString current = Current();
     FillList(m_session->Client().GetSchemeNames(), current);
     const bool differs = m_session->Shell().HasUnsavedSchemeChanges();
-    m_save->setText(tr("&Save Scheme \"%1\"").arg(MenuName(current)));
+    m_save->setText(tr("&Save Scheme \"%1\"").arg(NameInMenu(current)));
     m_save->setEnabled(differs);
     m_revert->setEnabled(differs);
 }
@@ -109,7 +109,7 @@ void SchemeActions::FillList(const QStringList& names, const QString& current)
 {
     qDeleteAll(m_schemes->actions());
     for (const QString& name : names) {
-        auto* action = new QAction(MenuName(name), m_schemes);
+        auto* action = new QAction(NameInMenu(name), m_schemes);
         action->setCheckable(true);
         action->setChecked(name == current);
         connect(
@@ -145,7 +145,7 @@ bool SchemeActions::MayLeaveCurrent(const QString& next)
         return true;
     const QString question = tr("Layers differ from the scheme \"%1\". Save it before switching to \"%2\"?");
     QMessageBox box(
-        QMessageBox::Question, tr("Switch Scheme"), question.arg(ShownName(Current()), ShownName(next)),
+        QMessageBox::Question, tr("Switch Scheme"), question.arg(NameInText(Current()), NameInText(next)),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);
@@ -158,7 +158,7 @@ bool SchemeActions::MayLeaveCurrent(const QString& next)
 void SchemeActions::Save()
 {
     const QString name = Current();
-    const QString question = tr("Save the layers as they are to the scheme \"%1\"?").arg(ShownName(name));
+    const QString question = tr("Save the layers as they are to the scheme \"%1\"?").arg(NameInText(name));
     if (Confirm(m_window, tr("Save Scheme"), question))
         m_session->Client().SaveScheme(name);
 }
@@ -167,7 +167,7 @@ void SchemeActions::Revert()
 {
     const QString name = Current();
     const QString question
-        = tr("Give the layers the values that were saved in the scheme \"%1\"?").arg(ShownName(name));
+        = tr("Give the layers the values that were saved in the scheme \"%1\"?").arg(NameInText(name));
     if (Confirm(m_window, tr("Revert Scheme"), question))
         ChangeLayers([&] { Load(name); });
 }
@@ -184,7 +184,7 @@ void SchemeActions::Export()
         return;
     const BusyPointer busy;
     m_session->Shell().ExportScheme(name, dialog.selectedFiles().value(0));
-    m_statusBar.showMessage(tr("The scheme \"%1\" was exported.").arg(ShownName(name)), MessageTime);
+    m_statusBar.showMessage(tr("The scheme \"%1\" was exported.").arg(NameInText(name)), MessageTime);
 }
 
 void SchemeActions::Import()
@@ -210,7 +210,7 @@ bool SchemeActions::MayReplace(const QString& name)
     return !m_session->Client().GetSchemeNames().contains(name)
         || Confirm(
             m_window, tr("Import Scheme"),
-            tr("There is a scheme \"%1\" already. Replace it by the one of the file?").arg(ShownName(name)));
+            tr("There is a scheme \"%1\" already. Replace it by the one of the file?").arg(NameInText(name)));
 }
 
 void SchemeActions::Report(const SchemeImport& import)
@@ -231,7 +231,7 @@ void SchemeActions::TellLayersLeftAlone(const QString& scheme)
     if (count > 0) {
         m_statusBar.showMessage(
             tr("Layers that the scheme \"%1\" does not know and left as they are: %2")
-                .arg(ShownName(scheme), QLocale().toString(count)),
+                .arg(NameInText(scheme), QLocale().toString(count)),
             MessageTime);
     }
 }

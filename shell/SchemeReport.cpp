@@ -2,7 +2,7 @@
 #include "shell/SchemeReport.h"
 
 #include "hostkit/SchemeExchange.h"
-#include "shell/ShownName.h"
+#include "messages/NameInText.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -34,7 +34,7 @@ void AppendList(QStringList& lines, const QString& title, const QStringList& nam
         lines << QString();
     lines << title;
     for (const QString& name : names.mid(0, MostNames))
-        lines << QLatin1String("    ") + ShownName(name);
+        lines << QLatin1String("    ") + NameInText(name);
     if (names.size() > MostNames)
         lines << Texts::tr("... and %1 more.").arg(Number(names.size() - MostNames));
 }
@@ -44,7 +44,7 @@ void AppendList(QStringList& lines, const QString& title, const QStringList& nam
 QString ReportText(const SchemeImport& import)
 {
     QStringList lines{
-        Texts::tr("The scheme \"%1\" was imported.").arg(ShownName(import.name)), QString(),
+        Texts::tr("The scheme \"%1\" was imported.").arg(NameInText(import.name)), QString(),
         Texts::tr("Layers with values: %1").arg(Number(import.matched))};
     if (!import.onlyInFile.isEmpty())
         lines << Texts::tr("Layers of the file that this map does not have: %1")

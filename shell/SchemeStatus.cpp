@@ -5,8 +5,8 @@
 #include "hostkit/LayerSchemes.h"
 #include "mapkit/Guard.h"
 #include "mapkit/document/MapDocument.h"
+#include "messages/NameInText.h"
 #include "shell/MapSession.h"
-#include "shell/ShownName.h"
 
 #include <QLocale>
 
@@ -46,8 +46,8 @@ void SchemeStatus::Refresh()
 
 void SchemeStatus::ShowScheme(const QString& scheme, qsizetype differing)
 {
-    const QString name = ShownName(scheme, LongestName);
-    const QString whole = ShownName(scheme, 400);
+    const QString name = NameInText(scheme, LongestName);
+    const QString whole = NameInText(scheme, 400);
     QString words;
     if (differing == 0)
         words = tr("The layers are as they were saved in the scheme \"%1\".").arg(whole);

@@ -4,10 +4,10 @@
 #include "hostkit/HostNotifications.h"
 #include "mapkit/Guard.h"
 #include "mapkit/document/MapDocument.h"
+#include "messages/NameInText.h"
 #include "shell/LayerControl.h"
 #include "shell/MapSession.h"
 #include "shell/MapThemes.h"
-#include "shell/ShownName.h"
 #include "shell/ThemeFilter.h"
 
 #include <OrvaneShellLib/PromptRequest.h>
@@ -82,7 +82,7 @@ void ThemeActions::Fill()
     for (const MapThemes::Theme& theme : themes) {
         const auto add = [&](QMenu& menu, void (ThemeActions::*command)(qint32)) {
             connect(
-                menu.addAction(MenuName(theme.name)), &QAction::triggered, this,
+                menu.addAction(NameInMenu(theme.name)), &QAction::triggered, this,
                 [=, this, id = theme.id] { Guard(&m_window, [&] { (this->*command)(id); }); });
         };
         add(m_menu, &ThemeActions::Open);
@@ -135,14 +135,14 @@ bool ThemeActions::MayReplace(const QString& name)
         || Confirm(
             m_window, tr("New Theme"),
             tr("There is a theme \"%1\" already. Give it the layers that are visible now?")
-                .arg(ShownName(name)));
+                .arg(NameInText(name)));
 }
 
 void ThemeActions::Delete(qint32 themeID)
 {
     MapThemes themes(m_session->Document().Database());
     const QString question
-        = tr("Delete the theme \"%1\"? Its layers stay in the map.").arg(ShownName(themes.NameOf(themeID)));
+        = tr("Delete the theme \"%1\"? Its layers stay in the map.").arg(NameInText(themes.NameOf(themeID)));
     if (Confirm(m_window, tr("Delete Theme"), question) && m_control.Close(EditorIDOf(themeID)))
         themes.Remove(themeID);
 }

@@ -30,5 +30,10 @@ TEST(NameInText, ASignOfTwoHalvesIsNotCut)
     EXPECT_EQ(NameInText(QString::fromUtf8("abcd\U0001F6E3fgh"), 6), QString::fromUtf8("abcd…"));
 }
 
+TEST(NameInText, InAMenuItMarksNoLetter)
+{
+    EXPECT_EQ(NameInMenu(QStringLiteral("Roads & Rivers")), QStringLiteral("Roads && Rivers"));
+}
+
 } // namespace
 } // namespace Orvane::Testing
