@@ -98,6 +98,14 @@ LayerSource SourceOf(MapSession& session, qint32 layerID)
 
 } // namespace
 
+void FeatureMover::Check(const FeatureKey& key)
+{
+    const LayerSource source = SourceOf(m_session, key.layerID);
+    RunWithProgress(&m_window, tr("Moving the feature"), [&](Progress&) {
+        SourceEditor(source).Geometry(key.featureID);
+    });
+}
+
 void FeatureMover::Move(const FeatureKey& key, QPointF offset)
 {
     GeometryChange change{SourceOf(m_session, key.layerID), key.featureID, {}, {}};

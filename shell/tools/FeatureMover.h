@@ -26,6 +26,8 @@ public:
     /// its progress over the window.
     FeatureMover(MapSession& session, QWidget& window) : m_session(session), m_window(window) { }
 
+    /// Raises why the feature cannot be moved, if so.
+    void Check(const FeatureKey& key);
     /// Moves the feature by so many map units east and north, as one step that can be undone. On an error
     /// nothing is moved.
     void Move(const FeatureKey& key, QPointF offset);

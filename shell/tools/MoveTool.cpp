@@ -6,6 +6,8 @@
 #include "shell/tools/FeatureSubset.h"
 #include "shell/tools/ToolRules.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -29,7 +31,7 @@ LayerLook GhostLook(const LayerLook& layer)
 
 } // namespace
 
-MoveTool::MoveTool(MapCanvas& canvas, Mover mover) : m_canvas(canvas), m_mover(std::move(mover))
+MoveTool::MoveTool(MapCanvas& canvas, Hand hand) : m_canvas(canvas), m_hand(std::move(hand))
 {
 }
 
@@ -58,11 +60,24 @@ bool MoveTool::DragBegin(QPointF from, Qt::KeyboardModifiers)
     }
     const Hit& hit = hits.front();
     const qint64 featureID = hit.layer->features->FeatureId(hit.feature);
-    m_grabbed = Grabbed{{hit.layer->layerID, featureID}, *hit.layer, m_canvas.View().ToMap(from), {}};
-    m_grabbed->layer.features
-        = std::make_shared<const FeatureSet>(SubsetOf(*hit.layer->features, {featureID}));
-    emit StatusChanged(tr("Moving a feature of %1. Esc lets go.").arg(hit.layer->name));
+    Grabbed grabbed{{hit.layer->layerID, featureID}, *hit.layer, m_canvas.View().ToMap(from), {}};
+    grabbed.layer.features = std::make_shared<const FeatureSet>(SubsetOf(*hit.layer->features, {featureID}));
+    if (!MayMove(grabbed.key)) // it may take a while, in which the map is read anew
+        return true;
+    emit StatusChanged(tr("Moving a feature of %1. Esc lets go.").arg(grabbed.layer.name));
+    m_grabbed = std::move(grabbed);
     return true;
+}
+
+bool MoveTool::MayMove(const FeatureKey& key)
+{
+    try {
+        m_hand.check(key);
+        return true;
+    } catch (const RunTimeError& error) {
+        emit StatusChanged(error.Description());
+        return false;
+    }
 }
 
 void MoveTool::DragTo(QPointF pixel)
@@ -80,7 +95,7 @@ void MoveTool::DragEnd(QPointF pixel)
         return;
     const Grabbed moved = *m_grabbed;
     LetGo();
-    m_mover(moved.key, moved.offset);
+    m_hand.move(moved.key, moved.offset);
     emit StatusChanged(tr("Moved a feature of %1.").arg(moved.layer.name));
 }
 

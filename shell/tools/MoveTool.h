@@ -13,15 +13,19 @@ namespace Orvane {
 class MapCanvas;
 
 /// Moves the topmost feature under the pointer, of a layer that is not locked, by dragging it. Esc lets go.
+/// What cannot be moved is told when the drag begins.
 class MoveTool : public MapTool
 {
     Q_OBJECT
 public:
-    /// Moves the feature by so many map units; may raise.
-    using Mover = std::function<void(const FeatureKey& key, QPointF offset)>;
+    /// What a feature is moved with.
+    struct Hand {
+        std::function<void(const FeatureKey& key)> check; ///< raises why it cannot be moved
+        std::function<void(const FeatureKey& key, QPointF offset)> move; ///< by map units; may raise
+    };
 
     /// canvas: not owned; outlives this object.
-    MoveTool(MapCanvas& canvas, Mover mover);
+    MoveTool(MapCanvas& canvas, Hand hand);
 
     QCursor Cursor() const override { return Qt::SizeAllCursor; }
     void Begin() override;
@@ -42,10 +46,11 @@ private:
         QPointF offset;
     };
 
+    bool MayMove(const FeatureKey& key);
     void LetGo();
 
     MapCanvas& m_canvas;
-    Mover m_mover;
+    Hand m_hand;
     std::optional<Grabbed> m_grabbed;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/ToolActions.h"
 
+#include "hostkit/UndoHistory.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/MapCanvas.h"
 #include "shell/MapSession.h"
@@ -40,7 +41,12 @@ ToolActions::ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QT
       m_identify(canvas, [this](const std::vector<FeatureKey>& keys) { return ReadAttributes(keys); }),
       m_select(canvas, m_selection), m_measureLine(canvas, MeasureTool::Kind::Line),
       m_measureArea(canvas, MeasureTool::Kind::Area),
-      m_move(canvas, [this](const FeatureKey& key, QPointF offset) { Move(key, offset); }),
+      m_move(
+          canvas,
+          {[this](const FeatureKey& key) { FeatureMover(*m_session, m_window).Check(key); },
+           [this](const FeatureKey& key, QPointF offset) {
+               FeatureMover(*m_session, m_window).Move(key, offset);
+           }}),
       m_panel(new IdentifyPanel(&window)), m_status(new StatusText(window.statusBar())),
       m_group(new QActionGroup(this))
 {
@@ -65,12 +71,20 @@ void ToolActions::Use(MapSession& session)
     m_panel->Clear();
     m_status->SetText({});
     SetSystem(session.Document().System());
+    connect(&session.Shell().History(), &UndoHistory::Changed, this, &ToolActions::ForgetMove);
 }
 
 void ToolActions::SetSystem(const QString& system)
 {
     m_measureLine.SetSystem(system);
     m_measureArea.SetSystem(system);
+}
+
+// What was told of a move is no longer so when it is undone.
+void ToolActions::ForgetMove()
+{
+    if (m_canvas.Tool() == &m_move)
+        m_move.Begin();
 }
 
 void ToolActions::AddTools()
@@ -188,11 +202,6 @@ std::vector<std::vector<FeatureAttribute>> ToolActions::ReadAttributes(const std
         }
     });
     return attributes;
-}
-
-void ToolActions::Move(const FeatureKey& key, QPointF offset)
-{
-    FeatureMover(*m_session, m_window).Move(key, offset);
 }
 
 } // namespace Orvane

@@ -55,7 +55,7 @@ private:
     void ConnectTools();
     void ShowIdentified(const std::vector<IdentifiedFeature>& features);
     std::vector<std::vector<FeatureAttribute>> ReadAttributes(const std::vector<FeatureKey>& keys);
-    void Move(const FeatureKey& key, QPointF offset);
+    void ForgetMove();
 
     QMainWindow& m_window;
     MapCanvas& m_canvas;

@@ -85,6 +85,13 @@ TEST_F(FeatureMoverTest, MovesTheFeatureInTheSourceAndOnTheMapInEveryLayerThatSh
     EXPECT_THAT(Wests(1), ElementsAre(0, 130));
 }
 
+TEST_F(FeatureMoverTest, CheckingAFeatureThatCanBeMovedChangesNothing)
+{
+    FeatureMover(*m_session, m_canvas).Check({1, 2});
+    EXPECT_THAT(StoredWests(), ElementsAre(0, 100));
+    EXPECT_FALSE(History().CanUndo());
+}
+
 TEST_F(FeatureMoverTest, AMoveIsOneStepThatCanBeUndoneAndRedone)
 {
     Move(2, {30, 0});
@@ -134,6 +141,7 @@ TEST_F(FeatureMoverTest, ASourceThatCannotBeChangedLeavesMapAndHistoryAsTheyAre)
     const qint32 layerID = m_session->Document().AddLayer(layer);
     EXPECT_EQ(m_session->ReadAndShow(), "");
     const auto before = m_canvas.Layers().back().features;
+    EXPECT_THROW(FeatureMover(*m_session, m_canvas).Check({layerID, 0}), RunTimeError);
     EXPECT_THROW(FeatureMover(*m_session, m_canvas).Move({layerID, 0}, {5, 5}), RunTimeError);
     EXPECT_EQ(m_canvas.Layers().back().features, before);
     EXPECT_FALSE(History().CanUndo());

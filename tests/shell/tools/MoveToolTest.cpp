@@ -32,11 +32,18 @@ protected:
     MapLayer m_houses;
     std::vector<Moved> m_moved;
     bool m_fails = false;
-    MoveTool m_tool{m_canvas, [this](const FeatureKey& key, QPointF offset) {
-                        if (m_fails)
-                            throw RunTimeError(5, "It is read only.");
-                        m_moved.push_back({key, offset});
-                    }};
+    bool m_isReadOnly = false;
+    MoveTool m_tool{
+        m_canvas,
+        {[this](const FeatureKey&) {
+             if (m_isReadOnly)
+                 throw RunTimeError(5, "It is read only.");
+         },
+         [this](const FeatureKey& key, QPointF offset) {
+             if (m_fails)
+                 throw RunTimeError(5, "The disk is full.");
+             m_moved.push_back({key, offset});
+         }}};
 };
 
 } // namespace
@@ -71,6 +78,31 @@ TEST_F(MoveToolTest, ALockedLayerStaysAndTheMapStaysToo)
     EXPECT_EQ(m_canvas.View(), before);
 }
 
+TEST_F(MoveToolTest, ALockedLayerIsToldWhenTheDragBegins)
+{
+    m_houses.flags.locked = true;
+    Show({m_houses});
+    QTest::mousePress(&m_canvas, Qt::LeftButton, {}, Pixel(15, 15));
+    QTest::mouseMove(&m_canvas, Pixel(25, 15));
+    EXPECT_EQ(m_status, "Houses is here but locked.");
+    QTest::mouseRelease(&m_canvas, Qt::LeftButton, {}, Pixel(25, 15));
+    EXPECT_EQ(m_status, "Houses is here but locked.");
+}
+
+TEST_F(MoveToolTest, ASourceThatIsReadOnlyIsToldWhenTheDragBeginsAndNothingMoves)
+{
+    m_isReadOnly = true;
+    const MapView view = m_canvas.View();
+    const QColor before = ColourAt(50, 30);
+    BeginDrag({15, 15}, {45, 25});
+    EXPECT_EQ(m_status, "It is read only.");
+    EXPECT_EQ(ColourAt(50, 30), before) << "no ghost";
+    QTest::mouseRelease(&m_canvas, Qt::LeftButton, {}, Pixel(45, 25));
+    EXPECT_THAT(m_moved, IsEmpty());
+    EXPECT_EQ(m_canvas.View(), view);
+    EXPECT_EQ(m_status, "It is read only.");
+}
+
 TEST_F(MoveToolTest, ADragBesideEverythingMovesTheMap)
 {
     const QPointF centre = m_canvas.View().Centre();
@@ -103,7 +135,7 @@ TEST_F(MoveToolTest, WhatCannotBeWrittenIsToldAndTheGhostIsGone)
     const QColor before = ColourAt(50, 30);
     MessageBoxRobot person{BoxKey::Enter};
     Drag({15, 15}, {45, 25});
-    EXPECT_EQ(person.Only().text, "It is read only.");
+    EXPECT_EQ(person.Only().text, "The disk is full.");
     EXPECT_EQ(ColourAt(50, 30), before);
     EXPECT_NE(m_status, "Moved a feature of Houses.");
 }

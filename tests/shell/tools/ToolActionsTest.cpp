@@ -135,6 +135,43 @@ TEST_F(ToolActionsTest, AFeatureIsMovedInItsFile)
     EXPECT_NEAR(canvas.Layers()[0].features->Bounds().minX, moved, 1e-6);
 }
 
+TEST_F(ToolActionsTest, AMoveThatWasUndoneIsNoLongerTold)
+{
+    Action("actMoveFeature")->trigger();
+    MapCanvas& canvas = m_window->Canvas();
+    const QPoint from = canvas.View().ToPixel({5, 5}).toPoint();
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&canvas, from + QPoint(30, 0));
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, from + QPoint(60, 0));
+    EXPECT_EQ(Status(), "Moved a feature of Square.");
+    Action("actUndo")->trigger();
+    EXPECT_NEAR(canvas.Layers()[0].features->Bounds().minX, 0, 1e-6);
+    EXPECT_EQ(Status(), "Drag a feature to move it.");
+}
+
+TEST_F(ToolActionsTest, AFileThatIsReadOnlyIsToldBeforeTheFeatureFollowsThePointer)
+{
+    NewLayer layer;
+    layer.name = "Places";
+    layer.priority = 1;
+    layer.path = m_folder.Write(
+        "places.gpx",
+        R"(<?xml version="1.0"?><gpx version="1.1" creator="x" xmlns="http://www.topografix.com/GPX/1/1">)"
+        R"(<wpt lat="5" lon="5"><name>Here</name></wpt></gpx>)");
+    layer.ogrLayer = "waypoints";
+    m_window->Document().AddLayer(layer);
+    m_window->OpenMap(m_folder.Path("map.orvane"));
+    Action("actMoveFeature")->trigger();
+    MapCanvas& canvas = m_window->Canvas();
+    const QPoint from = canvas.View().ToPixel({5, 5}).toPoint();
+    QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&canvas, from + QPoint(30, 0));
+    const QString refusal = Status();
+    QTest::mouseRelease(&canvas, Qt::LeftButton, {}, from + QPoint(60, 0));
+    EXPECT_TRUE(refusal.contains("places.gpx")) << qPrintable(refusal);
+    EXPECT_EQ(Status(), refusal);
+}
+
 TEST_F(ToolActionsTest, AnotherMapStartsWithoutSelectionAndResults)
 {
     Action("actSelect")->trigger();
