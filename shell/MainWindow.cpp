@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainWindow.h"
 
+#include "hostkit/UndoHistory.h"
 #include "mapkit/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/MapCanvas.h"
@@ -143,6 +144,8 @@ void MainWindow::AddData(const QStringList& paths)
         if (first)
             m_session->BeginSchemes();
         ReadMap(first ? Zoom::ToAll : Zoom::Stays);
+        if (m_session->HasUnreadLayers()) // the person cancelled
+            m_session->Shell().History().Undo();
     });
     if (added)
         m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));

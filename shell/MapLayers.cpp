@@ -60,6 +60,11 @@ DrawMode ModeOfRow(const IRecordset& row)
                                                                             : DrawMode::Normal;
 }
 
+bool IsSameData(const LayerSource& one, const LayerSource& other)
+{
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter;
+}
+
 } // namespace
 
 MapLayers::MapLayers(const MapDocument& document, const IShellServices& services, double pixelsPerMillimetre)
@@ -77,6 +82,18 @@ void MapLayers::ReadAll()
     for (const auto& [layerID, rendering] : m_document.Renderings().All())
         m_attributes.SetRendering(layerID, rendering);
     FitAttributes();
+}
+
+void MapLayers::DropFeaturesOfOtherData()
+{
+    for (const LayerSource& source : m_document.Sources()) {
+        const auto [known, isNew] = m_sources.try_emplace(source.layerID, source);
+        if (isNew || IsSameData(known->second, source))
+            continue;
+        known->second = source;
+        m_features.erase(source.layerID);
+        m_unreadable.remove(source.layerID);
+    }
 }
 
 void MapLayers::Read(const QSet<qint32>& layerIDs)

@@ -32,6 +32,9 @@ public:
     /// Reads at least these layers' rows anew; a layer whose row is gone leaves the list.
     void Read(const QSet<qint32>& layerIDs);
 
+    /// Gives up the features of layers that have other data than when this was called last: an ID of a layer
+    /// that is gone may have come to a new one. Before ReadAll.
+    void DropFeaturesOfOtherData();
     /// Takes over features that were read, and which could not be; those of other layers stay.
     void TakeFeatures(const SourceContents& contents);
     /// The sources of layers that have no features yet.
@@ -57,6 +60,7 @@ private:
     double m_pixelsPerMillimetre;
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
+    std::map<qint32, LayerSource> m_sources; // known so far; also of layers that are gone
     QSet<qint32> m_unreadable;
     LayerAttributes m_attributes;
 };

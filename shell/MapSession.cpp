@@ -19,6 +19,7 @@
 #include <QDir>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <chrono>
 
 namespace Orvane {
@@ -72,6 +73,7 @@ void MapSession::BeginSchemes()
 QString MapSession::ReadAndShow()
 {
     m_client.InvalidateLayerNames();
+    m_layers.DropFeaturesOfOtherData();
     m_layers.ReadAll();
     m_follower.Follow();
     const std::vector<LayerSource> sources = m_layers.MissingSources();
@@ -86,6 +88,14 @@ QString MapSession::ReadAndShow()
     QStringList problems = {contents.FailureText(), OpenBackdrop()};
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
+}
+
+bool MapSession::HasUnreadLayers() const
+{
+    const std::vector<LayerSource> missing = m_layers.MissingSources();
+    return std::any_of(missing.begin(), missing.end(), [this](const LayerSource& source) {
+        return !m_layers.Unreadable().contains(source.layerID);
+    });
 }
 
 // Why it cannot be shown; empty when it is, or there is none.

@@ -48,6 +48,8 @@ public:
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database.
     QString ReadAndShow();
+    /// True when reading was cancelled before it came to each layer.
+    bool HasUnreadLayers() const;
     /// Reads these layers' rows anew and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
 
