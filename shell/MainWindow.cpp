@@ -12,6 +12,7 @@
 #include "shell/EmptyMapHint.h"
 #include "shell/Icons.h"
 #include "shell/MapSession.h"
+#include "shell/MapSharing.h"
 #include "shell/RecentMaps.h"
 #include "shell/RecentMapsMenu.h"
 #include "shell/RenderingActions.h"
@@ -45,6 +46,7 @@ constexpr auto MapSuffix = "orvane";
 constexpr auto GeometryKey = "MainWindow/Geometry";
 constexpr auto StateKey = "MainWindow/State";
 constexpr std::chrono::milliseconds MarkAfter{500};
+constexpr int MessageTime = 8000; // milliseconds
 constexpr int BarGap = 4; // pixels between tool bars, at most
 
 // So that no tool hides behind an arrow.
@@ -98,6 +100,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
+    m_sharing = std::make_unique<MapSharing>(*this, [this] { return ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
@@ -123,10 +126,10 @@ MapDocument& MainWindow::Document()
 
 void MainWindow::OpenMap(const QString& path)
 {
-    auto document = MapDocument::Open(path);
-    if (!LeaveMap())
+    if ((!Document().IsAt(path) && !m_sharing->MayOpen(path)) || !LeaveMap())
         return;
-    Use(std::move(document));
+    LetGoOf(path);
+    Use(MapDocument::Open(path));
     RecentMaps::Add(Document().Path());
 }
 
@@ -257,7 +260,7 @@ void MainWindow::NewMap()
     const QString path = AskForMapFileToWrite(tr("New Map"));
     if (path.isEmpty() || !LeaveMap())
         return;
-    Use(MapDocument::Untitled()); // the file to replace may be the one that is open
+    LetGoOf(path);
     Use(MapDocument::CreateOver(path));
     RecentMaps::Add(Document().Path());
 }
@@ -273,7 +276,7 @@ void MainWindow::AskForMap()
 void MainWindow::SaveMapAs()
 {
     const QString path = AskForMapFileToWrite(tr("Save Map As"));
-    if (path.isEmpty() || path == Document().Path() || !m_layerControl.Close())
+    if (path.isEmpty() || Document().IsAt(path) || !m_layerControl.Close())
         return;
     Document().SaveCopy(path);
     Use(MapDocument::Open(path));
@@ -309,6 +312,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     m_tools->Use(*m_session);
     m_schemes->Use(*m_session);
     m_themes->Use(*m_session);
+    m_sharing->Follow(Document());
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
@@ -331,6 +335,23 @@ bool MainWindow::KeepUntitledMap()
     if (answer == QMessageBox::Save)
         SaveMapAs();
     return answer == QMessageBox::Discard || !Document().Path().isEmpty();
+}
+
+// A file that is opened twice in one program, or replaced while it is open, would lose its locks.
+void MainWindow::LetGoOf(const QString& path)
+{
+    if (Document().IsAt(path))
+        Use(MapDocument::Untitled());
+}
+
+bool MainWindow::ShowMapAgain()
+{
+    const Zoom zoom = Canvas().Layers().empty() ? Zoom::ToAll : Zoom::Stays;
+    const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(zoom); });
+    if (shown)
+        statusBar()->showMessage(
+            tr("The map was changed in another window and is shown as it is now."), MessageTime);
+    return shown;
 }
 
 void MainWindow::ReadMap(Zoom zoom)

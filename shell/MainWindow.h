@@ -24,6 +24,7 @@ class EmptyMapHint;
 class MapCanvas;
 class MapDocument;
 class MapSession;
+class MapSharing;
 class RenderingActions;
 class RecentMapsMenu;
 class ToolActions;
@@ -46,8 +47,8 @@ public:
     explicit MainWindow(CallTrace* trace = nullptr);
     ~MainWindow() override;
 
-    /// Shows another map file, unless the person keeps the one that is shown. The map stays when the file
-    /// cannot be opened.
+    /// Shows another map file, unless the person keeps the one that is shown, or wants none that is open
+    /// elsewhere. The map stays when another file cannot be opened.
     void OpenMap(const QString& path);
     /// Adds every layer of these files to the map. Files that cannot be read are named in one message.
     void AddData(const QStringList& paths);
@@ -78,6 +79,8 @@ private:
 
     void Use(std::unique_ptr<MapDocument> document);
     bool LeaveMap();
+    void LetGoOf(const QString& path);
+    bool ShowMapAgain();
     bool KeepUntitledMap();
     void ReadMap(Zoom zoom);
     void ShowScale();
@@ -92,6 +95,7 @@ private:
     std::unique_ptr<ToolActions> m_tools;
     std::unique_ptr<SchemeActions> m_schemes;
     std::unique_ptr<ThemeActions> m_themes;
+    std::unique_ptr<MapSharing> m_sharing;
     std::unique_ptr<MapSession> m_session;
     std::unique_ptr<DataActions> m_data;
     std::unique_ptr<RecentMapsMenu> m_recent;

@@ -20,6 +20,10 @@
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>„%1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
         <source>%1 is here but asks for no snap.</source>
         <translation>%1 ist hier, verlangt aber keinen Fang.</translation>
     </message>
@@ -362,6 +366,14 @@
     <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>Die Layer sind so, wie sie im Schema „%1“ gespeichert wurden.</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>Die Karte „%1“ ist in einem anderen Fenster oder Programm geöffnet. Soll sie auch hier geöffnet werden?</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and is shown as it is now.</source>
+        <translation>Die Karte wurde in einem anderen Fenster geändert und wird so gezeigt, wie sie jetzt ist.</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
@@ -1166,6 +1178,10 @@
     <message>
         <source>Zoom to &amp;All</source>
         <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
+        <translation>Was in einem Fenster geändert wird, ist sofort gespeichert und erscheint im anderen, sobald Sie dorthin wechseln.</translation>
     </message>
     <message>
         <source>Write each call between the map and the layer control to FILE.</source>

@@ -20,6 +20,10 @@
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>« %1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
+    </message>
+    <message>
         <source>%1 is here but asks for no snap.</source>
         <translation>%1 est ici mais ne demande pas d’accrochage.</translation>
     </message>
@@ -362,6 +366,14 @@
     <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>Les couches sont telles qu’enregistrées dans le schéma « %1 ».</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>La carte « %1 » est ouverte dans une autre fenêtre ou un autre programme. L’ouvrir ici aussi ?</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and is shown as it is now.</source>
+        <translation>La carte a été modifiée dans une autre fenêtre et s’affiche telle qu’elle est maintenant.</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
@@ -1166,6 +1178,10 @@
     <message>
         <source>Zoom to &amp;All</source>
         <translation>Zoom sur &amp;tout</translation>
+    </message>
+    <message>
+        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
+        <translation>Ce qui est modifié dans une fenêtre est enregistré aussitôt et s’affiche dans l’autre dès que vous y passez.</translation>
     </message>
     <message>
         <source>Write each call between the map and the layer control to FILE.</source>

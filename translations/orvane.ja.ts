@@ -20,6 +20,10 @@
         <translation>「%1」が「%2」にありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>「%1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
+    </message>
+    <message>
         <source>%1 is here but asks for no snap.</source>
         <translation>%1 はここにありますが、スナップの対象ではありません。</translation>
     </message>
@@ -362,6 +366,14 @@
     <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>レイヤはスキーム「%1」に保存されたとおりです。</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>地図「%1」は別のウィンドウまたはプログラムで開かれています。ここでも開きますか?</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and is shown as it is now.</source>
+        <translation>地図は別のウィンドウで変更されたため、現在の状態で表示しています。</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
@@ -1166,6 +1178,10 @@
     <message>
         <source>Zoom to &amp;All</source>
         <translation>全体表示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
+        <translation>一方のウィンドウでの変更はすぐに保存され、もう一方に移ったときに表示されます。</translation>
     </message>
     <message>
         <source>Write each call between the map and the layer control to FILE.</source>

@@ -42,7 +42,11 @@ qint32 CodeOrNone(qint32 next)
 class UnfinishedFile
 {
 public:
-    explicit UnfinishedFile(const QString& path) : m_path(path) { MapDocument::Remove(Path()); }
+    explicit UnfinishedFile(const QString& path) : m_path(path)
+    {
+        RefuseWhileOpen();
+        MapDocument::Remove(Path());
+    }
     ~UnfinishedFile() { MapDocument::Remove(Path()); }
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
@@ -64,6 +68,20 @@ public:
     }
 
 private:
+    // Who has the old file open would go on writing into what is no longer there.
+    void RefuseWhileOpen() const
+    {
+        if (!IsLayerFileInUse(m_path))
+            return;
+        throw RunTimeError(
+            ErrorNumber::DatabaseLocked,
+            QCoreApplication::translate(
+                "MapDocument",
+                "\"%1\" is open in another window or program and cannot be replaced. "
+                "Close it there, or choose another name.")
+                .arg(QFileInfo(m_path).fileName()));
+    }
+
     QString m_path;
 };
 
@@ -132,6 +150,12 @@ void MapDocument::SaveCopy(const QString& path) const
         transaction.Commit();
     }
     unfinished.PutInPlace();
+}
+
+bool MapDocument::IsAt(const QString& path) const
+{
+    const QString there = QFileInfo(path).canonicalFilePath(); // empty where there is no file
+    return !there.isEmpty() && there == QFileInfo(m_path).canonicalFilePath();
 }
 
 QString MapDocument::System() const

@@ -39,7 +39,7 @@ public:
     static std::unique_ptr<MapDocument> Untitled();
     /// Makes a new file; raises when there is one already.
     static std::unique_ptr<MapDocument> Create(const QString& path);
-    /// Makes a new file in place of one that is not open. When it cannot be made the old one stays.
+    /// Makes a new file in place of one. When it cannot be made, or the old one is open anywhere, that stays.
     static std::unique_ptr<MapDocument> CreateOver(const QString& path);
     /// Opens a map file.
     static std::unique_ptr<MapDocument> Open(const QString& path);
@@ -51,13 +51,15 @@ public:
     /// Removes a map file that is not open, with what SQLite keeps beside it; a missing one changes nothing.
     static void Remove(const QString& path);
 
-    /// Stores a copy in a new file, which replaces one of that name. When it cannot be stored, and raises,
-    /// that one stays.
+    /// Stores a copy in a new file, which replaces one of that name. When it cannot be stored, or that one is
+    /// open anywhere, it raises, and that one stays.
     void SaveCopy(const QString& path) const;
 
     SqliteLayerDatabase& Database() const { return *m_database; }
     /// Absolute; empty for an untitled map.
     const QString& Path() const { return m_path; }
+    /// True when that path, however it is written, leads to this map's file.
+    bool IsAt(const QString& path) const;
 
     /// The coordinate system that the map is shown in; empty until the first data come.
     QString System() const;

@@ -167,6 +167,27 @@ TEST_F(MapDocumentTest, ACopyThatCannotBeStoredLeavesTheFileThatIsThere)
     EXPECT_EQ(file.readAll(), "precious");
 }
 
+TEST_F(MapDocumentTest, AMapThatIsOpenIsNotReplacedAndGoesOn)
+{
+    const QString path = m_folder.Path("map.orvane");
+    const auto open = MapDocument::Create(path);
+    EXPECT_THROW(MapDocument::Untitled()->SaveCopy(path), RunTimeError);
+    EXPECT_THROW(MapDocument::CreateOver(path), RunTimeError);
+    open->AddLayer(LayerOf("a"));
+    EXPECT_TRUE(MapDocument::Open(path)->HasLayers());
+    EXPECT_EQ(QDir(m_folder.Path("")).entryList({"*.part*"}), QStringList());
+}
+
+TEST_F(MapDocumentTest, APathLeadsToTheMapHoweverItIsWritten)
+{
+    const auto document = MapDocument::Create(m_folder.Path("map.orvane"));
+    ASSERT_TRUE(QFile::link(document->Path(), m_folder.Path("link.orvane")));
+    EXPECT_TRUE(document->IsAt(document->Path()));
+    EXPECT_TRUE(document->IsAt(m_folder.Path("./link.orvane")));
+    EXPECT_FALSE(document->IsAt(m_folder.Path("other.orvane")));
+    EXPECT_FALSE(MapDocument::Untitled()->IsAt({}));
+}
+
 TEST_F(MapDocumentTest, ANewMapReplacesTheOldOneWithAllItLeft)
 {
     MapDocument::Create(m_folder.Path("map.orvane"))->AddLayer(LayerOf("a"));
