@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QSettings>
 #include <QSlider>
 #include <QTest>
@@ -35,6 +36,13 @@ QByteArray Square(int west, int south, int size)
         = [](int x, int y) { return "[" + QByteArray::number(x) + "," + QByteArray::number(y) + "]"; };
     return "[[" + at(west, south) + "," + at(west + size, south) + "," + at(west + size, south + size) + ","
         + at(west, south + size) + "," + at(west, south) + "]]";
+}
+
+bool IsNear(QRgb pixel, qint32 colour)
+{
+    return std::abs(qRed(pixel) - (colour & 0xff)) <= BlendedAway
+        && std::abs(qGreen(pixel) - ((colour >> 8) & 0xff)) <= BlendedAway
+        && std::abs(qBlue(pixel) - ((colour >> 16) & 0xff)) <= BlendedAway;
 }
 
 // Moves the drop-down slider that opens while this lives, and presses OK.
@@ -155,6 +163,30 @@ void PropertiesOnTheMap::Pick(const char* name, qint32 number)
     WalkTo(list, [&] { return list.currentData(NumberRole) == number; });
 }
 
+void PropertiesOnTheMap::EnterThickness(const QString& millimetres)
+{
+    bool entered = false;
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog || dialog->objectName() != "frmOtherLineStyle")
+            return;
+        hand.stop();
+        auto* unit = dialog->findChild<QWidget*>("optMillimetres");
+        QTest::mouseClick(unit, Qt::LeftButton, {}, QPoint(8, unit->height() / 2));
+        auto* width = dialog->findChild<QLineEdit*>("bedThickness");
+        width->selectAll();
+        QTest::keyClicks(width, millimetres);
+        entered = true;
+        QTest::mouseClick(dialog->findChild<QWidget*>("cmdOK"), Qt::LeftButton);
+    });
+    hand.start(0);
+    auto& list = static_cast<QComboBox&>(Control("cmbLineStyles"));
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_C); // "Custom Line Style..."
+    EXPECT_TRUE(QTest::qWaitFor([&] { return entered; }));
+}
+
 void PropertiesOnTheMap::PickStyle(const QString& name)
 {
     auto& list = static_cast<QComboBox&>(Control("cboStyle"));
@@ -179,17 +211,25 @@ QImage PropertiesOnTheMap::Map()
 int PropertiesOnTheMap::Pixels(qint32 colour)
 {
     const QImage map = Map();
-    const auto isNear = [colour](QRgb pixel) {
-        return std::abs(qRed(pixel) - (colour & 0xff)) <= BlendedAway
-            && std::abs(qGreen(pixel) - ((colour >> 8) & 0xff)) <= BlendedAway
-            && std::abs(qBlue(pixel) - ((colour >> 16) & 0xff)) <= BlendedAway;
-    };
     int count = 0;
     for (int y = 0; y < map.height(); ++y) {
         for (int x = 0; x < map.width(); ++x)
-            count += isNear(map.pixel(x, y));
+            count += IsNear(map.pixel(x, y), colour);
     }
     return count;
+}
+
+int PropertiesOnTheMap::ThicknessAt(QPointF place, qint32 colour)
+{
+    const QImage map = Map();
+    const QPoint middle = m_window->Canvas().View().ToPixel(place).toPoint();
+    int top = middle.y();
+    while (top > 0 && IsNear(map.pixel(middle.x(), top - 1), colour))
+        --top;
+    int bottom = top;
+    while (bottom < map.height() && IsNear(map.pixel(middle.x(), bottom), colour))
+        ++bottom;
+    return bottom - top;
 }
 
 void PropertiesOnTheMap::SetScale(double denominator)

@@ -45,6 +45,8 @@ protected:
     /// line style or 20 times the thickness.
     void Pick(const char* list, qint32 number);
     void PickStyle(const QString& name);
+    /// Chooses "Custom Line Style..." by its first letter, types the millimetres and presses OK.
+    void EnterThickness(const QString& millimetres);
     /// Opens the slider behind the button, moves it with the keys, and presses OK.
     void Slide(const char* button, const std::vector<Qt::Key>& keys);
     void Apply() { Click("cmdApply"); }
@@ -53,6 +55,8 @@ protected:
     QImage Map();
     /// Pixels of the map in which at least half is of that full colour; colour: BGR.
     int Pixels(qint32 colour);
+    /// How many pixels of that full colour lie above one another around a place; colour: BGR.
+    int ThicknessAt(QPointF map, qint32 colour);
     /// Shows the map at that scale.
     void SetScale(double denominator);
     void ShowAll();

@@ -129,6 +129,19 @@ TEST_F(PropertiesOnTheMap, LineThickness)
     EXPECT_LE(Pixels(Red), 8 * thinnest);
 }
 
+TEST_F(PropertiesOnTheMap, LineThicknessInMillimetres)
+{
+    Select("lines");
+    EnterThickness("3");
+    Apply();
+    const double pixels = 3 * m_window->Canvas().logicalDpiX() / 25.4;
+    EXPECT_NEAR(ThicknessAt({15, 14}, Red), pixels, 1.5);
+    SetScale(1e6);
+    m_window->Canvas().SetView(
+        MapView({15, 14}, m_window->Canvas().View().UnitsPerPixel(), m_window->Canvas().View().Size()));
+    EXPECT_NEAR(ThicknessAt({15, 14}, Red), pixels, 1.5) << "as thick at any scale";
+}
+
 TEST_F(PropertiesOnTheMap, UseForSymbols)
 {
     const int before = Pixels(Magenta);
@@ -172,6 +185,27 @@ TEST_F(PropertiesOnTheMap, MinimumVisibleScale)
     Slide("cmdEditMinScale", {Qt::Key_Home});
     Apply();
     EXPECT_GT(Pixels(Green), 50) << "no limit";
+}
+
+TEST_F(PropertiesOnTheMap, BothEndsOfTheScaleRangeAreWithoutLimit)
+{
+    Select("areas");
+    Slide("cmdEditMinScale", {Qt::Key_Home, Qt::Key_Right});
+    Slide("cmdEditMaxScale", {Qt::Key_End, Qt::Key_Left});
+    Apply();
+    SetScale(80);
+    EXPECT_EQ(Pixels(Green) + Pixels(Blue), 0) << "closer than 1:100";
+    SetScale(220e6);
+    EXPECT_EQ(Pixels(Green) + Pixels(Blue), 0) << "farther away than 1:200,000,000";
+    SetScale(40e6);
+    EXPECT_GT(Pixels(Green), 50) << "between the two";
+    Slide("cmdEditMinScale", {Qt::Key_Home});
+    Slide("cmdEditMaxScale", {Qt::Key_End});
+    Apply();
+    for (const double scale : {20.0, 80.0, 40e6, 220e6}) {
+        SetScale(scale);
+        EXPECT_GT(Pixels(Green) + Pixels(Blue), 0) << scale;
+    }
 }
 
 TEST_F(PropertiesOnTheMap, DrawPriority)
