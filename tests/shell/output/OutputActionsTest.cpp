@@ -98,7 +98,7 @@ protected:
         QSettings().clear();
         m_window = std::make_unique<MainWindow>();
         m_window->show();
-        const auto document = MapDocument::Create(m_folder.Path("town.orvane"));
+        auto document = MapDocument::Create(m_folder.Path("town.orvane"));
         NewLayer layer;
         layer.name = "Square";
         layer.values.fillForeColor = 0x0000FF;
@@ -106,7 +106,8 @@ protected:
         layer.ogrLayer = "square";
         document->SetSystem("EPSG:4326");
         document->AddLayer(layer);
-        m_window->OpenMap(document->Path());
+        document.reset();
+        m_window->OpenMap(m_folder.Path("town.orvane"));
     }
     ~OutputActionsTest() override { QSettings().clear(); }
 
