@@ -21,7 +21,8 @@ public:
     ILayerDatabase& operator=(const ILayerDatabase&) = delete;
 
     /// Opens a cursor: on a query when source is an SQL text (it begins with SELECT), else on the table of
-    /// that name. The caller owns the cursor and destroys it before the database.
+    /// that name, which is "Layers" or "LayerGroups". Never nullptr. The caller owns the cursor and destroys
+    /// it before the database.
     std::unique_ptr<IRecordset> OpenRecordset(const QString& source)
     {
         return ILayerDatabase_OpenRecordset(source);

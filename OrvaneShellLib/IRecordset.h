@@ -50,6 +50,7 @@ public:
     Value Field(std::string_view columnName) const { return IRecordset_Field(columnName); }
 
     /// Sets a column of the row being edited; nothing is stored before Update. Only between Edit and Update.
+    /// Raises 13 (type mismatch) for Empty, which is no value of a column.
     void SetField(std::string_view columnName, const Value& value) { IRecordset_SetField(columnName, value); }
 
     /// Begins an edit of the current row.

@@ -14,7 +14,8 @@ namespace Orvane {
 /// keeps it alive as long as the component holds it.
 ///
 /// All calls are made on the user-interface thread. What a member raises reaches the person through the
-/// component's error message, or the host through the call that led to it.
+/// component's error message, or the host through the call that led to it; what is raised while a list is
+/// painted leaves that sample unpainted.
 class IShellServices
 {
 public:
@@ -43,7 +44,8 @@ public:
     void CloseModal(QWidget* form) { IShellServices_CloseModal(form); }
 
     /// Opens the host's value entry popup over a text control and puts the value entered into the control's
-    /// "text" property; returns when the popup has closed. title: translated. minimum and maximum: inclusive.
+    /// "text" property; returns when the popup has closed. Cancelled, it leaves the text. title: translated.
+    /// minimum and maximum: inclusive.
     void EnterValue(QWidget* control, EntryKind kind, double minimum, double maximum, const QString& title)
     {
         IShellServices_EnterValue(control, kind, minimum, maximum, title);

@@ -26,7 +26,9 @@ public:
     bool Visible() const { return IStyleEditor_Visible(); }
 
     /// true shows the dialog with its stored view state, through IStyleEditorClient::ShowEditor; false closes
-    /// it, which ends the editor. Asking for the state it is in does nothing.
+    /// it: the person is asked about edits that were not applied, and then the editor ends, so that this
+    /// pointer is good no longer. When applying fails it stays open, and the error is raised. Asking for the
+    /// state it is in does nothing.
     void Visible(bool visible) { IStyleEditor_Visible(visible); }
 
     /// Drops edits that were not applied and reads the groups anew. The flat list and the panel stay.

@@ -41,13 +41,13 @@ public:
     /// The form is about to be hidden or unloaded: the host forgets it. May be called twice for one form.
     void EditorClosed(QWidget* form) { IStyleEditorClient_EditorClosed(form); }
 
-    /// The text stored under the key, empty when there is none.
+    /// The text stored under the key, empty when there is none. key: "DrawStyleEditor::" and the editor's ID.
     QString ReadSetting(QWidget* form, const QString& key)
     {
         return IStyleEditorClient_ReadSetting(form, key);
     }
 
-    /// Stores the text under the key, for this person and beyond this run.
+    /// Stores the text under the key, for this person and beyond this run. Called after EditorClosed, too.
     void WriteSetting(QWidget* form, const QString& key, const QString& value)
     {
         IStyleEditorClient_WriteSetting(form, key, value);
@@ -56,16 +56,18 @@ public:
     /// The layer database; the host's, and alive as long as the client.
     ILayerDatabase& Database() { return IStyleEditorClient_Database(); }
 
-    /// A table cursor over Layers. The caller's.
+    /// A table cursor over Layers, never nullptr. The caller's.
     std::unique_ptr<IRecordset> LayersTable() { return IStyleEditorClient_LayersTable(); }
 
-    /// The scale index (0 to 256) for a value of the MinVisScale or MaxVisScale column.
+    /// The scale index (0 to 256) for a value of the MinVisScale or MaxVisScale column. 0 and 256 mean "no
+    /// limit".
     qint32 StoredScaleToDialog(double storedScale) const
     {
         return IStyleEditorClient_StoredScaleToDialog(storedScale);
     }
 
-    /// The value to store in a scale column for a scale index; the inverse of StoredScaleToDialog.
+    /// The value to store in a scale column for a scale index; the inverse of StoredScaleToDialog. Of a
+    /// maximum it is rounded half to even to 32 bits; beyond them the apply raises 6 (overflow).
     double DialogScaleToStored(qint32 scaleIndex) const
     {
         return IStyleEditorClient_DialogScaleToStored(scaleIndex);
@@ -75,35 +77,37 @@ public:
     void BeginLayerEdit(IRecordset& layers) { IStyleEditorClient_BeginLayerEdit(layers); }
 
     /// The layer's properties were set and are stored next. The host may note it, and must not read the row
-    /// yet.
+    /// yet. When storing then fails, or a group's transaction is rolled back, the row stays as it was.
     void LayerChanged(qint32 layerID) { IStyleEditorClient_LayerChanged(layerID); }
 
     /// The text under which the layer is listed: its name, which may carry "(Obscured)" or "(Suppressed)".
     QString LayerDisplayName(qint32 layerID) { return IStyleEditorClient_LayerDisplayName(layerID); }
 
-    /// Stores a new name of the layer.
+    /// Stores a new name of the layer. One that does not exist changes nothing.
     void RenameLayer(qint32 layerID, const QString& name) { IStyleEditorClient_RenameLayer(layerID, name); }
 
-    /// Stores a new name of the group.
+    /// Stores a new name of the group. One that does not exist changes nothing.
     void RenameGroup(qint32 groupID, const QString& name) { IStyleEditorClient_RenameGroup(groupID, name); }
 
     /// The names of all layer schemes, in the order to list them.
     QStringList GetSchemeNames() { return IStyleEditorClient_GetSchemeNames(); }
 
-    /// The name of the current scheme.
+    /// The name of the current scheme, one of GetSchemeNames; with any other the editor can neither save,
+    /// revert nor delete.
     QString GetCurrentScheme() { return IStyleEditorClient_GetCurrentScheme(); }
 
-    /// Makes the scheme current and gives the layers its saved values. May take long; the component shows a
-    /// busy pointer.
+    /// Makes the scheme current and gives the layers its saved values. The host redraws by itself. May take
+    /// long; the component shows a busy pointer.
     void LoadScheme(const QString& name) { IStyleEditorClient_LoadScheme(name); }
 
-    /// Creates a scheme of that name from the layers as they are.
+    /// Creates a scheme of that name, which has no blanks around it, from the layers as they are. Raises when
+    /// there is one of that name. Whether it becomes the current one is the host's choice.
     void CreateScheme(const QString& name) { IStyleEditorClient_CreateScheme(name); }
 
     /// Stores the layers as they are into the scheme.
     void SaveScheme(const QString& name) { IStyleEditorClient_SaveScheme(name); }
 
-    /// Removes the scheme.
+    /// Removes the scheme; never the last one, and another was loaded before.
     void DeleteScheme(const QString& name) { IStyleEditorClient_DeleteScheme(name); }
 
     /// Writes all schemes to the startup database, from which new maps begin.

@@ -17,7 +17,8 @@ class IStyleFilter;
 /// IStyleEditor.
 ///
 /// All calls are made on the user-interface thread. A call passes on unchanged what the host's own members
-/// raise.
+/// raise. AddNewLayer, Popup and Filter may ask the person about edits that were not applied, and the editor
+/// may be gone when they return.
 class IStyleEditorForm
 {
 public:
@@ -35,7 +36,8 @@ public:
     /// Shows the dialog for a quick look, without restoring its view state.
     void Popup() { IStyleEditorForm_Popup(); }
 
-    /// Stores the code that the panel shows into the layer. A layer that does not exist changes nothing.
+    /// Stores the code that the panel shows into the layer: the number that its text begins with, 0 for none.
+    /// Raises 6 for a number beyond a double. A layer that does not exist changes nothing.
     void SetLayerCode(qint32 layerID) { IStyleEditorForm_SetLayerCode(layerID); }
 
     /// Renames the layer through IStyleEditorClient::RenameLayer and shows the new name at all its nodes.
@@ -50,7 +52,7 @@ public:
     /// Stores the filter and, once the dialog is initialised, reads the flat list anew.
     void Filter(const IStyleFilter* filter) { IStyleEditorForm_Filter(filter); }
 
-    /// Closes the dialog and drops edits that were not applied, without asking.
+    /// Closes the dialog and drops edits that were not applied, without asking. The editor is gone then.
     void UnloadWithoutApply() { IStyleEditorForm_UnloadWithoutApply(); }
 
     /// Asks IStyleEditorClient::LayerDisplayName for these layers anew and shows the texts at all their

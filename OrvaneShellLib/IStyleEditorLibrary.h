@@ -9,7 +9,9 @@ class IStyleEditor;
 class IStyleEditorClient;
 
 /// The component's entry object. The host gets it from the plug-in's factory, owns it, and ends every editor
-/// by destroying it: edits that were not applied are dropped without a question.
+/// by destroying it: edits that were not applied are dropped without a question. It is not destroyed from
+/// within a call that the component makes into the host. Several of them share host and editors; the last one
+/// destroyed ends the editors.
 ///
 /// All calls are made on the user-interface thread.
 class IStyleEditorLibrary
@@ -26,7 +28,8 @@ public:
     }
 
     /// Takes the host's application object and asks it for its shell services. Before the first
-    /// NewStyleEditor; a second call replaces both. Both stay the host's and outlive this object.
+    /// NewStyleEditor; a second call replaces both, for open editors too. Both stay the host's and outlive
+    /// this object. Passes on what GetShellServices raises. Without a client every use of the host raises 91.
     void Initialise(IStyleEditorClient* client) { IStyleEditorLibrary_Initialise(client); }
 
     /// Creates a hidden editor and registers it under the ID. Owned by the component. Raises 1234 when the ID

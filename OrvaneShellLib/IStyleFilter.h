@@ -6,7 +6,8 @@
 namespace Orvane {
 
 /// Says which layers an editor's flat list shows, and whether the editor opens on its groups. Implemented by
-/// the host, which keeps it alive as long as an editor holds it.
+/// the host, which keeps it alive as long as an editor holds it. Called on the user-interface thread. What a
+/// member raises is passed on, and the list stays as it was.
 class IStyleFilter
 {
 public:

@@ -19,6 +19,7 @@ inline constexpr ContractVersion CurrentContract{1, 0};
 
 /// The names of the two functions that the component exports with C linkage, and their types. The host calls
 /// the first before the second. The library object is the caller's to delete, before the plug-in is unloaded.
+/// The first raises nothing, the second std::bad_alloc at most, and it never answers nullptr.
 inline constexpr char ContractVersionSymbol[] = "OrvaneContractVersion";
 inline constexpr char CreateLibrarySymbol[] = "OrvaneCreateStyleEditorLibrary";
 using ContractVersionFunction = void (*)(ContractVersion* version);
