@@ -16,8 +16,8 @@ public:
     void SetMainWindow(QWidget* mainWindow) { m_mainWindow = mainWindow; }
     QWidget* MainWindow() const { return m_mainWindow; }
 
-    /// Shows the form as a window, or brings it to the front, and gives it the keys unless it has the attribute
-    /// Qt::WA_ShowWithoutActivating. The form stays the caller's.
+    /// Shows the form as a window, or brings it to the front, and gives it the keys unless it has the
+    /// attribute Qt::WA_ShowWithoutActivating. The form stays the caller's.
     void Show(QWidget* form);
     /// Forgets the form; false when it is not known.
     bool Forget(QWidget* form);

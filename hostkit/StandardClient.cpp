@@ -7,11 +7,10 @@
 #include "hostkit/LayerDeletion.h"
 #include "hostkit/LayerFactory.h"
 #include "hostkit/LayerNames.h"
-#include "hostkit/LayerSchemes.h"
 #include "hostkit/LayerSteps.h"
-#include "hostkit/SchemeDifferences.h"
 #include "hostkit/SchemeExchange.h"
 #include "hostkit/SchemeFile.h"
+#include "hostkit/SchemeSteps.h"
 #include "hostkit/SettingsStore.h"
 #include "hostkit/StartupSchemes.h"
 #include "hostkit/StoredScale.h"
@@ -28,57 +27,18 @@ namespace Orvane {
 
 namespace {
 
-constexpr qsizetype LongestName = 40; // characters
-
 QString Short(const QString& name)
 {
-    return NameInText(name, LongestName);
+    return NameInText(name, LayerSteps::LongestName);
 }
-
-/// The scheme that the last step left, until the event loop runs again: deleting it then is one step with
-/// leaving it, as the person pressed one button.
-class LeftScheme
-{
-public:
-    void Set(const QString& name)
-    {
-        m_name = name;
-        QMetaObject::invokeMethod(
-            &m_context, [this] { m_name.clear(); }, Qt::QueuedConnection);
-    }
-    ChangeStep::Joins Deletion(const QString& name)
-    {
-        const QString left = std::exchange(m_name, {});
-        return !left.isEmpty() && left == name ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No;
-    }
-
-private:
-    QObject m_context;
-    QString m_name;
-};
 
 } // namespace
 
 struct StandardClient::Parts {
     explicit Parts(SqliteLayerDatabase& database)
-        : names(database), factory(database, names), schemes(database),
-          steps(database, names, windows, notifications)
+        : names(database), factory(database, names), steps(database, names, windows, notifications),
+          schemes(database, steps, notifications)
     {
-        ListenToOwnSignals();
-    }
-
-    // Whoever changes layers tells it by these signals; first of all listeners, so that others may ask.
-    void ListenToOwnSignals()
-    {
-        const auto note = [this](qint32 layerID) { differences.Note({layerID}); };
-        QObject::connect(
-            &notifications, &HostNotifications::LayersChanged, &notifications,
-            [this](const QSet<qint32>& layerIDs) { differences.Note(layerIDs); });
-        QObject::connect(&notifications, &HostNotifications::LayerCreated, &notifications, note);
-        QObject::connect(&notifications, &HostNotifications::LayerDeleted, &notifications, note);
-        QObject::connect(&notifications, &HostNotifications::SchemesChanged, &notifications, [this] {
-            differences.Forget();
-        });
     }
 
     HostNotifications notifications;
@@ -86,10 +46,8 @@ struct StandardClient::Parts {
     std::unique_ptr<SettingsStore> settings; // made at the first use
     LayerNames names;
     LayerFactory factory;
-    LayerSchemes schemes;
     LayerSteps steps;
-    LeftScheme leftScheme;
-    SchemeDifferences differences{schemes};
+    SchemeSteps schemes;
     QString startupFile;
     QSet<qint32> changedLayers; // since the last RedrawMap
 
@@ -99,8 +57,6 @@ struct StandardClient::Parts {
             settings = std::make_unique<SettingsStore>();
         return *settings;
     }
-
-    void TellSchemes() { emit notifications.SchemesChanged(schemes.Current()); }
 };
 
 StandardClient::StandardClient(SqliteLayerDatabase& database, IShellServices& shellServices)
@@ -142,17 +98,12 @@ void StandardClient::SetStartupFile(const QString& path)
 
 void StandardClient::LoadSchemesFromStartup()
 {
-    m_parts->schemes.Current(); // makes the first scheme, which is no step
-    RecordStep([this] {
-        StartupSchemes::Load(m_database, m_parts->startupFile);
-        return tr("Loading of the Startup Schemes");
-    });
-    m_parts->TellSchemes();
+    m_parts->schemes.LoadFromStartup(m_parts->startupFile);
 }
 
 qsizetype StandardClient::UnsavedSchemeChanges()
 {
-    return m_parts->differences.Count();
+    return m_parts->schemes.UnsavedChanges();
 }
 
 void StandardClient::ExportScheme(const QString& name, const QString& path)
@@ -162,14 +113,7 @@ void StandardClient::ExportScheme(const QString& name, const QString& path)
 
 SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
 {
-    m_parts->schemes.Current(); // makes the tables, which no step undoes
-    SchemeImport report;
-    RecordStep([&] {
-        report = SchemeExchange::Import(m_database, scheme);
-        return tr("Import of the Scheme \"%1\"").arg(Short(scheme.name));
-    });
-    m_parts->TellSchemes();
-    return report;
+    return m_parts->schemes.Import(scheme);
 }
 
 void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
@@ -185,7 +129,7 @@ void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
 void StandardClient::InvalidateLayerNames()
 {
     m_parts->names.Invalidate();
-    m_parts->differences.Forget();
+    m_parts->schemes.ForgetDifferences();
 }
 
 IShellServices* StandardClient::IStyleEditorClient_GetShellServices()
@@ -289,49 +233,22 @@ QString StandardClient::IStyleEditorClient_GetCurrentScheme()
 
 void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
 {
-    const QString left = m_parts->schemes.Current();
-    QSet<qint32> changed;
-    RecordStep([&] {
-        changed = m_parts->schemes.Load(name);
-        return tr("Loading of the Scheme \"%1\"").arg(Short(name));
-    });
-    if (left != name)
-        m_parts->leftScheme.Set(left);
-    m_parts->TellSchemes();
-    if (!changed.isEmpty())
-        emit m_parts->notifications.LayersChanged(changed);
-    emit m_parts->notifications.SchemeLoaded(name);
+    m_parts->schemes.Load(name);
 }
 
 void StandardClient::IStyleEditorClient_CreateScheme(const QString& name)
 {
-    m_parts->schemes.Current();
-    RecordStep([&] {
-        m_parts->schemes.Create(name);
-        return tr("Creation of the Scheme \"%1\"").arg(Short(name));
-    });
-    m_parts->TellSchemes();
+    m_parts->schemes.Create(name);
 }
 
 void StandardClient::IStyleEditorClient_SaveScheme(const QString& name)
 {
-    m_parts->schemes.Current();
-    RecordStep([&] {
-        m_parts->schemes.Save(name);
-        return tr("Saving of the Scheme \"%1\"").arg(Short(name));
-    });
-    m_parts->TellSchemes();
+    m_parts->schemes.Save(name);
 }
 
 void StandardClient::IStyleEditorClient_DeleteScheme(const QString& name)
 {
-    m_parts->schemes.Current();
-    const auto remove = [&] {
-        m_parts->schemes.Delete(name);
-        return tr("Deletion of the Scheme \"%1\"").arg(Short(name));
-    };
-    m_parts->steps.Record(remove, m_parts->leftScheme.Deletion(name));
-    m_parts->TellSchemes();
+    m_parts->schemes.Delete(name);
 }
 
 void StandardClient::IStyleEditorClient_SaveSchemesToStartup()

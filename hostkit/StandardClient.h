@@ -12,7 +12,6 @@
 namespace Orvane {
 
 class HostNotifications;
-class LayerSchemes;
 class LayerNames;
 class SettingsStore;
 class SqliteLayerDatabase;
