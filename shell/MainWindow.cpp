@@ -5,7 +5,6 @@
 #include "mapkit/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/MapCanvas.h"
-#include "mapkit/drawing/RoundedScale.h"
 #include "shell/DataActions.h"
 #include "shell/DataImport.h"
 #include "shell/EditActions.h"
@@ -13,12 +12,14 @@
 #include "shell/Icons.h"
 #include "shell/MapSession.h"
 #include "shell/MapSharing.h"
+#include "shell/MapStatus.h"
 #include "shell/RecentMaps.h"
 #include "shell/RecentMapsMenu.h"
 #include "shell/RenderingActions.h"
 #include "shell/RunWithProgress.h"
 #include "shell/SchemeActions.h"
 #include "shell/ThemeActions.h"
+#include "shell/WindowPlace.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
 #include "ui_MainWindow.h"
@@ -27,46 +28,16 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
-#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QScreen>
-#include <QSettings>
-#include <QToolBar>
 #include <QUrl>
-
-#include <chrono>
 
 namespace Orvane {
 
 namespace {
 
 constexpr auto MapSuffix = "orvane";
-constexpr auto GeometryKey = "MainWindow/Geometry";
-constexpr auto StateKey = "MainWindow/State";
-constexpr std::chrono::milliseconds MarkAfter{500};
 constexpr int MessageTime = 8000; // milliseconds
-constexpr int BarGap = 4; // pixels between tool bars, at most
-
-// So that no tool hides behind an arrow.
-QSize SizeOfTools(const QWidget& window)
-{
-    QSize tools(0, 0);
-    for (const QToolBar* bar : window.findChildren<QToolBar*>())
-        tools += QSize(bar->sizeHint().width() + BarGap, 0);
-    return tools;
-}
-
-// Leaves room for the layer control at the right, where the screen has it.
-void PlaceFirstTime(QWidget& window)
-{
-    const QRect screen = window.screen()->availableGeometry();
-    const QSize size(screen.width() * 62 / 100, screen.height() * 84 / 100);
-    window.resize(
-        size.expandedTo(window.minimumSizeHint()).expandedTo(SizeOfTools(window)).boundedTo(screen.size()));
-    window.move(screen.left() + screen.width() / 100, screen.top() + screen.height() * 6 / 100);
-}
 
 bool IsMapFile(const QString& path)
 {
@@ -92,7 +63,7 @@ MainWindow::MainWindow(CallTrace* trace)
     setWindowIcon(ProgramIcon());
     setCentralWidget(m_ui->canvas);
     SetIcons();
-    MakeStatusBar();
+    m_status = new MapStatus(*statusBar(), Canvas());
     m_hint = std::make_unique<EmptyMapHint>(Canvas());
     m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
     m_data = std::make_unique<DataActions>(
@@ -105,10 +76,9 @@ MainWindow::MainWindow(CallTrace* trace)
     ConnectActions();
     auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
     output->AddTo(*m_ui->menuFile, m_ui->actQuit);
-    ConnectCanvas();
     m_renderingActions = std::make_unique<RenderingActions>(
         *this, *m_ui->menuLayers, [this]() -> MapSession& { return *m_session; });
-    RestoreWindow();
+    WindowPlace::Restore(*this);
     Use(MapDocument::Untitled());
 }
 
@@ -166,7 +136,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     Guard(this, [&] { left = LeaveMap(); });
     event->setAccepted(left);
     if (left)
-        StoreWindow();
+        WindowPlace::Store(*this);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -205,28 +175,8 @@ void MainWindow::ConnectActions()
     connect(m_ui->actZoomAll, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomToAll);
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
-    connect(m_data.get(), &DataActions::DataChanged, this, [this] {
-        m_positionText = PositionText(Document().System());
-        ShowScale();
-    });
-}
-
-void MainWindow::ConnectCanvas()
-{
-    connect(m_ui->canvas, &MapCanvas::ViewChanged, this, &MainWindow::ShowScale);
-    connect(m_ui->canvas, &MapCanvas::PointerMoved, this, [this](QPointF map) {
-        m_position->setText(m_positionText.Of(map));
-    });
-    auto* mark = new QTimer(this);
-    mark->setSingleShot(true);
-    mark->setInterval(MarkAfter);
-    connect(mark, &QTimer::timeout, m_drawing, [this] { m_drawing->setText(tr("Drawing...")); });
-    connect(&Canvas().Picture(), &MapPicture::BusyChanged, mark, [this, mark](bool busy) {
-        if (busy)
-            return mark->start();
-        mark->stop();
-        m_drawing->clear();
-    });
+    connect(
+        m_data.get(), &DataActions::DataChanged, this, [this] { m_status->SetSystem(Document().System()); });
 }
 
 void MainWindow::SetIcons()
@@ -240,19 +190,6 @@ void MainWindow::SetIcons()
     m_ui->actZoomOut->setIcon(ShellIcon(IconName::ZoomOut, palette()));
     m_ui->actZoomAll->setIcon(ShellIcon(IconName::ZoomAll, palette()));
     m_ui->actLayerControl->setIcon(ShellIcon(IconName::LayerControl, palette()));
-}
-
-void MainWindow::MakeStatusBar()
-{
-    m_drawing = new QLabel(this);
-    m_drawing->setObjectName(QStringLiteral("lblDrawing"));
-    m_position = new QLabel(this);
-    m_position->setObjectName(QStringLiteral("lblPosition"));
-    m_scale = new QLabel(this);
-    m_scale->setObjectName(QStringLiteral("lblScale"));
-    m_scale->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("1:8,888,888,888")));
-    for (QLabel* label : {m_drawing, m_position, m_scale})
-        statusBar()->addPermanentWidget(label);
 }
 
 void MainWindow::NewMap()
@@ -360,29 +297,8 @@ void MainWindow::ReadMap(Zoom zoom)
     if (zoom == Zoom::ToAll)
         Canvas().ZoomToAll();
     m_tools->SetSystem(Document().System());
-    m_positionText = PositionText(Document().System());
-    ShowScale();
+    m_status->SetSystem(Document().System());
     m_data->ShowProblems(problems);
-}
-
-void MainWindow::ShowScale()
-{
-    m_scale->setText(tr("1:%1").arg(QLocale().toString(RoundedScale(Canvas().ScaleDenominator()), 'f', 0)));
-}
-
-void MainWindow::RestoreWindow()
-{
-    const QSettings settings;
-    if (!restoreGeometry(settings.value(QLatin1String(GeometryKey)).toByteArray()))
-        PlaceFirstTime(*this);
-    restoreState(settings.value(QLatin1String(StateKey)).toByteArray());
-}
-
-void MainWindow::StoreWindow()
-{
-    QSettings settings;
-    settings.setValue(QLatin1String(GeometryKey), saveGeometry());
-    settings.setValue(QLatin1String(StateKey), saveState());
 }
 
 QString MainWindow::AskForMapFileToWrite(const QString& title)

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/PositionText.h"
 #include "shell/LayerControl.h"
 
 #include <QMainWindow>
 #include <QStringList>
 
 #include <memory>
-
-class QLabel;
 
 namespace Ui {
 class MainWindow;
@@ -25,6 +22,7 @@ class MapCanvas;
 class MapDocument;
 class MapSession;
 class MapSharing;
+class MapStatus;
 class RenderingActions;
 class RecentMapsMenu;
 class ToolActions;
@@ -68,9 +66,7 @@ private:
     enum class Zoom { Stays, ToAll };
 
     void ConnectActions();
-    void ConnectCanvas();
     void SetIcons();
-    void MakeStatusBar();
     void NewMap();
     void AskForMap();
     void SaveMapAs();
@@ -83,9 +79,6 @@ private:
     bool ShowMapAgain();
     bool KeepUntitledMap();
     void ReadMap(Zoom zoom);
-    void ShowScale();
-    void RestoreWindow();
-    void StoreWindow();
     QString AskForMapFileToWrite(const QString& title);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
@@ -101,10 +94,7 @@ private:
     std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderingActions;
-    PositionText m_positionText{QString()};
-    QLabel* m_position = nullptr; // owned by the status bar, as the next two
-    QLabel* m_scale = nullptr;
-    QLabel* m_drawing = nullptr;
+    MapStatus* m_status = nullptr; // owned by the status bar
 };
 
 } // namespace Orvane
