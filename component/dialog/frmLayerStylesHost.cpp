@@ -5,6 +5,7 @@
 #include "component/dialog/SelectionEditor.h"
 #include "component/dialog/frmLayerStyles.h"
 #include "component/entry/Component.h"
+#include "component/entry/ErrorTexts.h"
 #include "component/model/LayerCode.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -27,48 +28,56 @@ bool frmLayerStyles::IStyleEditor_Visible() const
 
 void frmLayerStyles::IStyleEditor_Visible(bool visible)
 {
-    if (m_unloaded || m_closing || visible == isVisible())
-        return;
-    if (!visible) {
-        Hide();
-        return;
-    }
-    EnsureInitialised();
-    RestoreViewState();
-    UpdateCaption();
-    Client().ShowEditor(this);
+    WithTranslatedErrors([&] {
+        if (m_unloaded || m_closing || visible == isVisible())
+            return;
+        if (!visible) {
+            Hide();
+            return;
+        }
+        EnsureInitialised();
+        RestoreViewState();
+        UpdateCaption();
+        Client().ShowEditor(this);
+    });
 }
 
 void frmLayerStyles::IStyleEditor_RefreshGroups()
 {
-    EnsureInitialised();
-    m_selection->SetModified(false);
-    m_parts->trees.LoadGroups();
+    WithTranslatedErrors([&] {
+        EnsureInitialised();
+        m_selection->SetModified(false);
+        m_parts->trees.LoadGroups();
+    });
 }
 
 void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
 {
-    EnsureInitialised();
-    m_parts->trees.ShowLayer(layerID);
+    WithTranslatedErrors([&] {
+        EnsureInitialised();
+        m_parts->trees.ShowLayer(layerID);
+    });
 }
 
 void frmLayerStyles::IStyleEditorForm_Popup()
 {
-    if (m_unloaded)
-        return;
-    if (!isVisible()) {
-        EnsureInitialised();
-        SelectTab(m_tab);
-        Client().ShowEditor(this);
-    }
-    UpdateCaption();
-    if (m_filter && m_filter->ShowsGroups() && m_tab != ListTab::Groups)
-        SelectTab(ListTab::Groups);
+    WithTranslatedErrors([&] {
+        if (m_unloaded)
+            return;
+        if (!isVisible()) {
+            EnsureInitialised();
+            SelectTab(m_tab);
+            Client().ShowEditor(this);
+        }
+        UpdateCaption();
+        if (m_filter && m_filter->ShowsGroups() && m_tab != ListTab::Groups)
+            SelectTab(ListTab::Groups);
+    });
 }
 
 void frmLayerStyles::IStyleEditorForm_SetLayerCode(qint32 layerID)
 {
-    Orvane::SetLayerCode(Client(), layerID, m_parts->commands.CodeText());
+    WithTranslatedErrors([&] { Orvane::SetLayerCode(Client(), layerID, m_parts->commands.CodeText()); });
 }
 
 void frmLayerStyles::IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name)
@@ -90,9 +99,11 @@ const IStyleFilter* frmLayerStyles::IStyleEditorForm_Filter() const
 
 void frmLayerStyles::IStyleEditorForm_Filter(const IStyleFilter* filter)
 {
-    IStyleEditor_StyleFilter(filter);
-    if (m_initialised)
-        m_parts->trees.LoadLayers();
+    WithTranslatedErrors([&] {
+        IStyleEditor_StyleFilter(filter);
+        if (m_initialised)
+            m_parts->trees.LoadLayers();
+    });
 }
 
 void frmLayerStyles::IStyleEditorForm_UnloadWithoutApply()
@@ -114,18 +125,20 @@ bool frmLayerStyles::IStyleEditorForm_HasPendingEdits() const
 
 void frmLayerStyles::IStyleEditorForm_Refresh()
 {
-    if (!m_initialised || m_unloaded)
-        return;
-    m_parts->trees.MarkStale(LayerTrees::List::Groups);
-    m_parts->trees.MarkStale(LayerTrees::List::Layers);
-    const QPointer self(this); // the list may ask about edits, and the host end the dialog meanwhile
-    FirstError errors;
-    errors.Try([this] { m_parts->schemes.Fill(); });
-    errors.Try([this] { UpdateCaption(); });
-    errors.Try([this] { LoadList(); });
-    if (self && !m_unloaded && !m_selection->IsModified())
-        errors.Try([this] { m_selection->Load(); });
-    errors.Rethrow();
+    WithTranslatedErrors([&] {
+        if (!m_initialised || m_unloaded)
+            return;
+        m_parts->trees.MarkStale(LayerTrees::List::Groups);
+        m_parts->trees.MarkStale(LayerTrees::List::Layers);
+        const QPointer self(this); // the list may ask about edits, and the host end the dialog meanwhile
+        FirstError errors;
+        errors.Try([this] { m_parts->schemes.Fill(); });
+        errors.Try([this] { UpdateCaption(); });
+        errors.Try([this] { LoadList(); });
+        if (self && !m_unloaded && !m_selection->IsModified())
+            errors.Try([this] { m_selection->Load(); });
+        errors.Rethrow();
+    });
 }
 
 } // namespace Orvane

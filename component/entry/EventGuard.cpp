@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/EventGuard.h"
 
+#include "component/entry/ErrorTexts.h"
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
-
-#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
 #include <QScopedValueRollback>
@@ -16,7 +15,7 @@ namespace {
 QString TextOf(const std::exception& error)
 {
     if (const auto* known = dynamic_cast<const RunTimeError*>(&error))
-        return TranslateMsg(known->Description());
+        return TranslatedDescription(known->Description());
     return TranslateMsg("An unexpected error stopped the action: ^1", QString::fromUtf8(error.what()));
 }
 

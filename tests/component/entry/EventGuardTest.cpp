@@ -52,6 +52,14 @@ TEST(GuardEvent, TranslatesTheDescription)
     EXPECT_EQ(person.Only().text, Testing::Pseudo("Overflow"));
 }
 
+TEST(GuardEvent, TranslatesAnErrorThatNamesAColumn)
+{
+    const Testing::PseudoLanguage pseudo;
+    MessageBoxRobot person{BoxKey::Enter};
+    GuardEvent(nullptr, [] { throw RunTimeError(ErrorNumber::TypeMismatch, "Type mismatch (Priority)"); });
+    EXPECT_EQ(person.Only().text, Testing::Pseudo("Type mismatch") + " (Priority)");
+}
+
 TEST(GuardEvent, NamesAnotherExceptionByItsOwnWords)
 {
     MessageBoxRobot person{BoxKey::Enter};
