@@ -51,20 +51,17 @@ void SchemePanel::Fill()
 
 void SchemePanel::SwitchTo(const QString& name)
 {
-    if (Client().GetCurrentScheme() == name)
+    if (Client().GetCurrentScheme() == name) {
+        EnableButtons();
         return;
+    }
     const QString question = TranslateMsg(
         "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", Shown(name));
     const QPointer self(this); // the host may end the dialog while the question waits
-    if (!Confirm(question)) {
-        if (self)
-            ShowCurrent();
-        return;
-    }
-    FirstError errors;
-    errors.Try([&] { Load(name); });
-    errors.Try([this] { ShowCurrent(); });
-    errors.Rethrow();
+    if (Confirm(question))
+        LoadAndShow(name);
+    else if (self)
+        ShowCurrent();
 }
 
 void SchemePanel::New()
@@ -77,7 +74,10 @@ void SchemePanel::New()
             return;
         const QString name = answer.text.trimmed();
         if (!name.isEmpty()) {
-            ChangeSchemes([&] { Client().CreateScheme(name); });
+            ChangeSchemes([&] {
+                const BusyPointer busy;
+                Client().CreateScheme(name);
+            });
             return;
         }
         ShowMessageBox(
@@ -88,8 +88,10 @@ void SchemePanel::New()
 void SchemePanel::Save()
 {
     const QString name = m_widgets.cmbScheme->currentText();
-    if (Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", Shown(name))))
-        Client().SaveScheme(name);
+    if (!Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", Shown(name))))
+        return;
+    const BusyPointer busy;
+    Client().SaveScheme(name);
 }
 
 void SchemePanel::Revert()
@@ -97,10 +99,7 @@ void SchemePanel::Revert()
     const QString name = m_widgets.cmbScheme->currentText();
     if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", Shown(name))))
         return;
-    FirstError errors;
-    errors.Try([&] { Load(name); });
-    errors.Try([this] { ShowCurrent(); });
-    errors.Rethrow();
+    LoadAndShow(name);
 }
 
 void SchemePanel::Delete()
@@ -113,20 +112,26 @@ void SchemePanel::Delete()
     }
     if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", Shown(name))))
         return;
+    const QPointer self(this);
     ChangeSchemes([&] {
         Load(Neighbour(name));
-        Client().DeleteScheme(name);
+        if (self)
+            Client().DeleteScheme(name);
     });
-    if (m_widgets.cmbScheme->currentIndex() < 0)
+    if (self && m_widgets.cmbScheme->currentIndex() < 0) {
         m_widgets.cmbScheme->setCurrentIndex(0);
+        EnableButtons();
+    }
 }
 
 void SchemePanel::SaveToStartup()
 {
     const QString question
         = TranslateMsg("Are you sure you wish to save the colour schemes to the startup database?");
-    if (Confirm(question))
-        Client().SaveSchemesToStartup();
+    if (!Confirm(question))
+        return;
+    const BusyPointer busy;
+    Client().SaveSchemesToStartup();
 }
 
 void SchemePanel::Wire(QAbstractButton* button, void (SchemePanel::*action)())
@@ -141,7 +146,12 @@ void SchemePanel::ShowCurrent()
     QComboBox& list = *m_widgets.cmbScheme;
     list.setCurrentIndex(
         list.findText(Client().GetCurrentScheme(), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    const bool isShown = list.currentIndex() >= 0;
+    EnableButtons();
+}
+
+void SchemePanel::EnableButtons()
+{
+    const bool isShown = m_widgets.cmbScheme->currentIndex() >= 0;
     m_widgets.cmdSave->setEnabled(isShown);
     m_widgets.cmdRevert->setEnabled(isShown);
     m_widgets.cmdDelete->setEnabled(isShown);
@@ -150,19 +160,33 @@ void SchemePanel::ShowCurrent()
 // The list shows the host's schemes afterwards, also when the change has failed half way.
 void SchemePanel::ChangeSchemes(const std::function<void()>& change)
 {
+    const QPointer self(this);
     FirstError errors;
     errors.Try(change);
-    errors.Try([this] { Fill(); });
+    if (self)
+        errors.Try([this] { Fill(); });
     errors.Rethrow();
 }
 
 void SchemePanel::Load(const QString& name)
 {
+    const QPointer self(this);
     {
         const BusyPointer busy;
         Client().LoadScheme(name);
     }
-    emit SchemeLoaded();
+    if (self)
+        emit SchemeLoaded();
+}
+
+void SchemePanel::LoadAndShow(const QString& name)
+{
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([&] { Load(name); });
+    if (self)
+        errors.Try([this] { ShowCurrent(); });
+    errors.Rethrow();
 }
 
 bool SchemePanel::Confirm(const QString& question) const

@@ -50,6 +50,8 @@ signals:
 private:
     void Wire(QAbstractButton* button, void (SchemePanel::*action)());
     void ShowCurrent();
+    void EnableButtons();
+    void LoadAndShow(const QString& name);
     void ChangeSchemes(const std::function<void()>& change);
     void Load(const QString& name);
     bool Confirm(const QString& question) const;

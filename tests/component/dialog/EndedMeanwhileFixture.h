@@ -15,7 +15,7 @@
 
 namespace Orvane::Testing {
 
-/// Does something while it prompts, creates or deletes, or fails where it writes.
+/// Does something while it prompts, creates, deletes or loads, or fails where it writes.
 class BusyClient : public ForwardingClient
 {
 public:
@@ -35,6 +35,8 @@ private:
         return ForwardingClient::IStyleEditorClient_CreateLayer();
     }
     void IStyleEditorClient_DeleteLayer(qint32) override { meanwhile(); }
+    void IStyleEditorClient_LoadScheme(const QString&) override { meanwhile(); }
+    void IStyleEditorClient_CreateScheme(const QString&) override { meanwhile(); }
     void IStyleEditorClient_BeginLayerEdit(IRecordset& layers) override
     {
         if (isFaulty)

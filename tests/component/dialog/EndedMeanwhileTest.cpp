@@ -241,7 +241,37 @@ void SchemeQuestions(EndedMeanwhile& test)
     }
 }
 
-constexpr std::array<std::pair<const char*, Situation>, 28> situations{
+void SchemeLoading(EndedMeanwhile& test)
+{
+    for (const char* button : {"cmdRevert", "cmdDelete"}) {
+        test.OpenOnSchemes();
+        test.client.meanwhile = [&] { test.End(); };
+        const MessageBoxRobot person{BoxKey::Yes};
+        test.Click(button);
+        EXPECT_FALSE(test.form) << button;
+    }
+}
+
+void SchemeSwitching(EndedMeanwhile& test)
+{
+    test.OpenOnSchemes();
+    test.client.meanwhile = [&] { test.End(); };
+    const MessageBoxRobot person{BoxKey::Yes};
+    QTest::keyPress(&test.Find("cmbScheme"), Qt::Key_Down);
+}
+
+void SchemeCreating(EndedMeanwhile& test)
+{
+    test.OpenOnSchemes();
+    bool isAsked = false;
+    test.client.meanwhile = [&] {
+        if (std::exchange(isAsked, true))
+            test.End();
+    };
+    test.Click("cmdNew");
+}
+
+constexpr std::array<std::pair<const char*, Situation>, 31> situations{
     {{"NodeQuestion", NodeQuestion},
      {"GroupsTabQuestion", GroupsTabQuestion},
      {"SchemesTabQuestion", SchemesTabQuestion},
@@ -269,7 +299,10 @@ constexpr std::array<std::pair<const char*, Situation>, 28> situations{
      {"Deleting", Deleting},
      {"SchemeName", SchemeName},
      {"SchemeSwitch", SchemeSwitch},
-     {"SchemeQuestions", SchemeQuestions}}};
+     {"SchemeQuestions", SchemeQuestions},
+     {"SchemeLoading", SchemeLoading},
+     {"SchemeSwitching", SchemeSwitching},
+     {"SchemeCreating", SchemeCreating}}};
 
 class Ended : public EndedMeanwhile, public testing::WithParamInterface<std::tuple<Ending, size_t>>
 {

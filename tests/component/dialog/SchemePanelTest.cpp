@@ -102,6 +102,44 @@ TEST_F(Schemes, SwitchingShowsTheBusyPointerMeanwhile)
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(Schemes, SwitchingRefreshesTheCaption)
+{
+    host.OnLoadScheme = [&](const QString&) { host.themeName = "Rivers"; };
+    MessageBoxRobot person{BoxKey::Yes};
+    Pick("Day");
+    EXPECT_EQ(Form()->windowTitle(), "Theme Control: Rivers");
+}
+
+TEST_F(Schemes, ASwitchShowsWhatTheHostMadeCurrent)
+{
+    host.OnLoadScheme = [&](const QString&) { host.currentScheme = "Day"; };
+    MessageBoxRobot person{BoxKey::Yes};
+    Pick("Print");
+    EXPECT_EQ(List().currentText(), "Day");
+}
+
+TEST_F(Schemes, RevertingIsBusyAndThePointerThatWasThereComesBack)
+{
+    QGuiApplication::setOverrideCursor(Qt::CrossCursor);
+    Qt::CursorShape meanwhile = Qt::ArrowCursor;
+    host.OnLoadScheme = [&](const QString&) { meanwhile = QGuiApplication::overrideCursor()->shape(); };
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdRevert");
+    EXPECT_EQ(meanwhile, Qt::WaitCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::CrossCursor);
+    QGuiApplication::restoreOverrideCursor();
+}
+
+TEST_F(Schemes, ADeletionSelectsAnEntryThatExistsAndItsButtonsWork)
+{
+    host.OnLoadScheme = [&](const QString&) { host.currentScheme = "Elsewhere"; };
+    MessageBoxRobot person{BoxKey::Yes};
+    Click("cmdDelete");
+    EXPECT_EQ(List().currentIndex(), 0);
+    for (const char* button : {"cmdSave", "cmdRevert", "cmdDelete"})
+        EXPECT_TRUE(Find(button).isEnabled()) << button;
+}
+
 TEST_F(Schemes, SwitchingReadsTheLayersAnew)
 {
     host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
@@ -148,6 +186,7 @@ TEST_F(Schemes, SavingAsksFirst)
         MessageBoxRobot person{BoxKey::No};
         Click("cmdSave");
         EXPECT_EQ(person.Only().text, "Save current layer setup to scheme 'Night'?");
+        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
     }
     EXPECT_THAT(Deeds(), IsEmpty());
     MessageBoxRobot person{BoxKey::Yes};
@@ -161,6 +200,7 @@ TEST_F(Schemes, RevertingAsksFirst)
         MessageBoxRobot person{BoxKey::No};
         Click("cmdRevert");
         EXPECT_EQ(person.Only().text, "Revert to the last saved values in layer scheme 'Night'?");
+        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
     }
     EXPECT_THAT(Deeds(), IsEmpty());
     MessageBoxRobot person{BoxKey::Yes};
@@ -173,6 +213,7 @@ TEST_F(Schemes, DeletingFallsBackToTheNextOne)
     MessageBoxRobot person{BoxKey::Yes};
     Click("cmdDelete");
     EXPECT_EQ(person.Only().text, "Delete layer scheme 'Night'?");
+    EXPECT_EQ(person.Only().icon, QMessageBox::Question);
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "DeleteScheme(Night)"));
     EXPECT_THAT(Names(), ElementsAre("Day", "Print"));
     EXPECT_EQ(List().currentText(), "Print");
