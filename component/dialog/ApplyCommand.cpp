@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/ApplyCommand.h"
 
+#include "component/dialog/FirstError.h"
 #include "component/dialog/LayerTrees.h"
 #include "component/entry/Component.h"
 #include "component/model/LayerCode.h"
@@ -20,7 +21,9 @@ bool IsSingleMode(qint16 quickMode)
 
 ApplyCommand::Outcome ApplyCommand::Run(const NodeReference& node, const PanelEdits& edits) const
 {
-    const Outcome outcome = node.isGroup ? ApplyToGroup(node, edits) : ApplyToLayer(node, edits);
+    if (!node.isGroup)
+        return ApplyToLayer(node, edits);
+    const Outcome outcome = ApplyToGroup(node, edits);
     Client().RedrawMap();
     return outcome;
 }
@@ -39,9 +42,12 @@ ApplyCommand::Outcome ApplyCommand::ApplyToGroup(const NodeReference& group, con
 ApplyCommand::Outcome ApplyCommand::ApplyToLayer(const NodeReference& layer, const PanelEdits& edits) const
 {
     ApplyLayerStyle(Client(), layer.layerID, edits.style, edits.quickMode, edits.selectedStyle);
-    SetLayerCode(Client(), layer.layerID, edits.codeText);
+    FirstError errors; // the properties are stored: the map shows them even when the code is refused
+    errors.Try([&] { SetLayerCode(Client(), layer.layerID, edits.codeText); });
     if (edits.quickMode != layer.image && IsSingleMode(edits.quickMode))
-        m_trees.SetLayerImage(layer.layerID, edits.quickMode);
+        errors.Try([&] { m_trees.SetLayerImage(layer.layerID, edits.quickMode); });
+    errors.Try([] { Client().RedrawMap(); });
+    errors.Rethrow();
     return Outcome::Applied;
 }
 

@@ -29,7 +29,7 @@ void EditorParts::JoinPropertyEditors(const QString& stylePrefix)
 {
     if (m_rendererStyles)
         return;
-    m_scales = std::make_unique<VisibleScalesTranslator>(ShellServices());
+    m_scales = std::make_unique<VisibleScalesTranslator>();
     m_priorities = std::make_unique<DrawPrioritiesTranslator>();
     const AskSlider ask = [this](const SliderQuestion& question) { return m_slider.Ask(question); };
     panel.Join(std::make_unique<FlagEditor>(FlagEditor::Widgets{

@@ -83,8 +83,6 @@ void LayerCommands::EditCode()
 void LayerCommands::SetCode(const QString& answer)
 {
     const double code = *NumberInText(answer);
-    if (code == LeadingNumber(CodeText()) && !CodeText().isEmpty())
-        return;
     // The layer's own stored code is assigned too, to itself.
     const bool isOwn = m_storedCode.IsNumber() && ToDouble(m_storedCode) == code;
     if (!isOwn && Client().IsCodeAssigned(ToInt16(code))) {
@@ -93,6 +91,8 @@ void LayerCommands::SetCode(const QString& answer)
             BoxStyle::OkExclamation);
         return;
     }
+    if (code == LeadingNumber(CodeText()) && !CodeText().isEmpty())
+        return;
     m_widgets.lblCode->setText(answer);
     emit CodeEdited(m_widgets.lblCode);
 }

@@ -197,6 +197,21 @@ TEST_F(HostFaults, AFaultWhileRedrawingIsToldOnceAndApplyingAgainWorks)
     EXPECT_EQ(Stored(1, "Visible"), 0);
 }
 
+TEST_F(HostFaults, ACodeThatIsRefusedStillShowsTheStoredProperties)
+{
+    FailingClient failing(host, {"BeginLayerEdit", 2, RunTimeError(10001, Fault)});
+    UseClient(failing);
+    OpenWithEdits();
+    host.ClearLog();
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "Visible"), 0);
+    EXPECT_EQ(host.Log().CallsTo("RedrawMap").size(), 1);
+    EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
+    TearDown();
+}
+
 TEST_F(HostFaults, AGroupIsWrittenWholeOrNotAtAll)
 {
     Open();

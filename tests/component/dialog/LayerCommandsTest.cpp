@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
 
+#include <OrvaneShellLib/ForwardingClient.h>
+
 #include <QTreeView>
 #include <QtTest>
 
@@ -11,6 +13,16 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+/// Deletes nothing.
+class KeepingClient : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+
+private:
+    void IStyleEditorClient_DeleteLayer(qint32) override { }
+};
 
 class Commands : public EditorFixture
 {
@@ -109,6 +121,35 @@ TEST_F(Commands, AnotherCodeIsShownMarkedAndStoredOnApply)
     Click("cmdApply");
     EXPECT_EQ(Stored(1, "Code"), 77);
     EXPECT_FALSE(IsUnderlined("lblCode"));
+}
+
+TEST_F(Commands, APendingCodeIsOfferedAndCheckedAgain)
+{
+    host.promptAnswers = {{true, "77"}, {true, "77"}};
+    DoubleClickCode();
+    host.AddLayer({.id = 70, .name = "Wells", .code = qint32(77)});
+    MessageBoxRobot person{BoxKey::Enter};
+    DoubleClickCode();
+    EXPECT_EQ(host.promptRequests[1].defaultText, "77");
+    EXPECT_EQ(person.Only().text, "Code 77 has already been assigned. Please assign another code.");
+    EXPECT_EQ(TextOf("lblCode"), "77");
+}
+
+TEST_F(Commands, ADeletionThatTheHostDeclinesKeepsLayerAndEdits)
+{
+    KeepingClient client(host);
+    TearDown();
+    UseClient(client);
+    Open();
+    ClickLayer("Roads");
+    Click("chkVisible");
+    MessageBoxRobot nobody{};
+    Click("cmdDeleteLayer");
+    EXPECT_EQ(Layers(), 4);
+    EXPECT_TRUE(CanApply());
+    EXPECT_TRUE(IsUnderlined("chkVisible"));
+    Click("cmdCancel");
+    TearDown();
 }
 
 TEST_F(Commands, KeysEditTheCodeToo)

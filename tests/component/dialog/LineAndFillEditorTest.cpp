@@ -5,6 +5,7 @@
 #include "ovctrls/OvCombo.h"
 #include "samples/BgrColour.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QCoreApplication>
@@ -48,6 +49,9 @@ protected:
     OvCombo& List(const char* name) { return Find<OvCombo>(name); }
     QString Shown(const char* name) { return List(name).currentText(); }
 
+    // The entry that opens the dialog for another width, colour or style.
+    void ChooseCustom(const char* name) { Choose(name, List(name).findText("Custom", Qt::MatchStartsWith)); }
+
     void Choose(const char* name, int index)
     {
         OvCombo& list = List(name);
@@ -61,6 +65,19 @@ protected:
 };
 
 } // namespace
+
+TEST_F(LineAndFillEditorTest, ACancelledCustomWidthLeavesThePanelUnmarked)
+{
+    Open();
+    ClickTab(2);
+    ClickLayer("Roads");
+    const QString before = Shown("cmbLineStyles");
+    host.Shell().OnShowModal = [](QWidget* form) { form->findChild<QAbstractButton*>("cmdCancel")->click(); };
+    ChooseCustom("cmbLineStyles");
+    EXPECT_EQ(Shown("cmbLineStyles"), before);
+    EXPECT_FALSE(IsUnderlined("cmbLineStyles"));
+    EXPECT_FALSE(CanApply());
+}
 
 TEST_F(LineAndFillEditorTest, ShowsTheLineAndTheFillOfALayer)
 {

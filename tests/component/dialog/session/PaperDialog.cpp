@@ -193,13 +193,13 @@ void Dialog::SetMode(int mode)
 void Dialog::EnterCode(const QString& text)
 {
     const double code = text.toDouble();
-    if (!panel.code.isEmpty() && panel.code.toDouble() == code)
-        return;
     if (panel.storedCode != code && m_map.HasCode(code)) {
         m_boxes.append(
             QStringLiteral("Code %1 has already been assigned. Please assign another code.").arg(text));
         return;
     }
+    if (!panel.code.isEmpty() && panel.code.toDouble() == code)
+        return;
     panel.code = text;
     panel.isCodeMarked = true;
     isModified = true;
