@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/VisibleScalesTranslator.h"
 
+#include "component/entry/Component.h"
 #include "component/entry/Messages.h"
 
 #include <OrvaneShellLib/IShellServices.h>
@@ -22,7 +23,7 @@ QString VisibleScalesTranslator::toString(const Value& value) const
         return TranslateMsg("various");
     if (ValuesEqual(value, noMinimum) || ValuesEqual(value, noMaximum))
         return TranslateMsg("dont care");
-    return TranslateMsg("1:^1", m_services.ScaleFromIndex(ToInt32(value)));
+    return TranslateMsg("1:^1", ShellServices().ScaleFromIndex(ToInt32(value)));
 }
 
 Value VisibleScalesTranslator::FromString(const QString& text) const
@@ -32,7 +33,7 @@ Value VisibleScalesTranslator::FromString(const QString& text) const
     if (text == TranslateMsg("dont care"))
         return qint16(noMinimum);
     const qint32 denominator = ToInt32(text.mid(prefixLength));
-    return m_services.IndexFromScale(denominator);
+    return ShellServices().IndexFromScale(denominator);
 }
 
 } // namespace Orvane

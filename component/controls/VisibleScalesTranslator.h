@@ -5,16 +5,11 @@
 
 namespace Orvane {
 
-class IShellServices;
-
-/// Scale limits: indices 0 to 256 of the host's scale table, shown as "1:50000". Both ends, 0 and 256, mean
-/// "no limit" and show the same text, which always reads back as 0.
+/// Scale limits: indices 0 to 256 of the scale table of the host's shell services, shown as "1:50000". Both
+/// ends, 0 and 256, mean "no limit" and show the same text, which always reads back as 0.
 class VisibleScalesTranslator : public IUITranslator
 {
 public:
-    /// services: the host's scale table; not owned, must outlive the translator.
-    explicit VisibleScalesTranslator(const IShellServices& services) : m_services(services) { }
-
     /// "various" for Null, "dont care" for 0 and 256, else "1:" and the denominator of the 32-bit index.
     QString toString(const Value& value) const;
 
@@ -24,8 +19,6 @@ public:
 private:
     QString IUITranslator_toString(const Value& value) const override { return toString(value); }
     Value IUITranslator_FromString(const QString& text) const override { return FromString(text); }
-
-    const IShellServices& m_services;
 };
 
 } // namespace Orvane

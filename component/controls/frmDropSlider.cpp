@@ -12,6 +12,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -50,6 +52,7 @@ bool frmDropSlider::Popup(
     SetOwner(owner);
     // Each change of a control tells its handler, so the order decides what the label and the value become.
     m_translator = &translator;
+    m_failure = nullptr;
     m_ui->sldValue->setMinimum(minimum);
     m_ui->sldValue->setMaximum(maximum);
     m_currentValue = value;
@@ -84,6 +87,7 @@ void frmDropSlider::ShowValue(const Value& defaultValue)
         m_ui->chkVarious->setChecked(false);
         m_ui->sldValue->setValue(position);
     }
+    RaiseFailure();
     // Where neither control moved, the label still speaks through the translator of the last popup.
     TakeSliderOrNull();
 }
@@ -124,14 +128,35 @@ void frmDropSlider::OnConfirm()
     hide();
 }
 
+// Once it is open the person is told of an error. Before that its caller is, but not from within a control.
+void frmDropSlider::Handle(const std::function<void()>& act)
+{
+    if (isVisible()) {
+        GuardEvent(this, act);
+        return;
+    }
+    try {
+        act();
+    } catch (...) {
+        if (!m_failure)
+            m_failure = std::current_exception();
+    }
+}
+
+void frmDropSlider::RaiseFailure()
+{
+    if (const std::exception_ptr failure = std::exchange(m_failure, nullptr))
+        std::rethrow_exception(failure);
+}
+
 void frmDropSlider::OnVariousToggled()
 {
-    GuardEvent(this, [this] { TakeSliderOrNull(); });
+    Handle([this] { TakeSliderOrNull(); });
 }
 
 void frmDropSlider::OnSliderChanged()
 {
-    GuardEvent(this, [this] {
+    Handle([this] {
         m_currentValue = qint32(m_ui->sldValue->value());
         m_ui->chkVarious->setChecked(false);
         RefreshLabel();

@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+#include <exception>
+#include <functional>
 #include <memory>
 
 namespace Orvane {
@@ -57,6 +59,8 @@ private:
     void RefreshLabel();
     void Place();
     void OnConfirm();
+    void Handle(const std::function<void()>& act);
+    void RaiseFailure();
     void OnVariousToggled();
     void OnSliderChanged();
     void OnSliderClicked();
@@ -66,6 +70,7 @@ private:
     Value m_currentValue;
     TwipPoint m_topRight;
     bool m_confirmed = false;
+    std::exception_ptr m_failure; // of a handler, while Popup prepares the controls
 };
 
 } // namespace Orvane

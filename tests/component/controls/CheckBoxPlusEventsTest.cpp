@@ -19,6 +19,13 @@ TEST_F(CheckBoxPlusTest, AMouseClickRaisesItsEventsInOrder)
     EXPECT_THAT(log.entries, ElementsAre("MouseDown 1 0", "Click", "MouseUp 1 0"));
 }
 
+TEST_F(CheckBoxPlusTest, TheNextValueIsComputedBeforeMouseDownIsRaised)
+{
+    QObject::connect(&m_box, &CheckBoxPlus::MouseDown, [this] { m_box.setValue(1); });
+    Click();
+    EXPECT_EQ(m_box.Value(), 1) << "computed afterwards it would be 0";
+}
+
 TEST_F(CheckBoxPlusTest, AKeyRaisesItsEventsInOrder)
 {
     EventLog log(m_box);

@@ -2,6 +2,7 @@
 #include "component/controls/VisibleScalesTranslator.h"
 
 #include "component/controls/ControlsTestSupport.h"
+#include "component/entry/Component.h"
 #include "hosts/MemoryShellServices.h"
 #include "support/PseudoLanguage.h"
 
@@ -38,9 +39,12 @@ private:
 class VisibleScalesTranslatorTest : public testing::Test
 {
 protected:
+    VisibleScalesTranslatorTest() { Component::Get().SetHost(nullptr, &m_table); }
+    ~VisibleScalesTranslatorTest() override { Component::Get().SetHost(nullptr, nullptr); }
+
     CallLog m_log;
     ScaleTable m_table{m_log};
-    VisibleScalesTranslator m_scales{m_table};
+    VisibleScalesTranslator m_scales;
 };
 
 TEST_F(VisibleScalesTranslatorTest, NullIsVarious)
@@ -73,6 +77,15 @@ TEST_F(VisibleScalesTranslatorTest, AnIndexShowsTheHostsDenominator)
 {
     EXPECT_EQ(m_scales.toString(5), "1:50000");
     EXPECT_EQ(m_table.askedIndices, std::vector<qint32>{5});
+}
+
+TEST_F(VisibleScalesTranslatorTest, AnotherHostIsAskedOnceItIsThere)
+{
+    ScaleTable other(m_log);
+    other.denominator = 777;
+    Component::Get().SetHost(nullptr, &other);
+    EXPECT_EQ(m_scales.toString(qint32(5)), "1:777");
+    EXPECT_TRUE(m_table.askedIndices.empty());
 }
 
 TEST_F(VisibleScalesTranslatorTest, ADenominatorKeepsItsFraction)

@@ -23,11 +23,14 @@ class WordsTranslator : public IUITranslator
 {
 public:
     QString suffix;
+    bool isFaulty = false;
     mutable std::vector<std::string> asked;
 
 private:
     QString IUITranslator_toString(const Value& value) const override
     {
+        if (isFaulty)
+            throw RunTimeError(10007, QStringLiteral("out of order"));
         const QString text = value.IsNull() ? QString("various") : ToText(value);
         asked.push_back(text.toStdString());
         return text + suffix;

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/frmDropSliderFixture.h"
+#include "support/MessageBoxRobot.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QMouseEvent>
 
@@ -18,6 +21,18 @@ TEST_F(frmDropSliderTest, OpensWithTheSliderAtTheValue)
         EXPECT_TRUE(m_form.isModal());
         EXPECT_EQ(m_form.parentWidget(), &m_owner);
     });
+}
+
+TEST_F(frmDropSliderTest, AFailingTranslatorIsRaisedAndToldToNobody)
+{
+    const MessageBoxRobot nobody{};
+    m_words.isFaulty = true;
+    m_value = 9;
+    EXPECT_THROW(Open(), RunTimeError);
+    EXPECT_TRUE(nobody.Boxes().empty());
+    EXPECT_FALSE(m_form.isVisible());
+    m_words.isFaulty = false;
+    EXPECT_FALSE(Popup([this] { EXPECT_EQ(Label()->text(), "9"); })) << "it opens again";
 }
 
 TEST_F(frmDropSliderTest, CancelReturnsFalseAndLeavesTheValue)
