@@ -28,8 +28,8 @@ template <typename Number> Number Finite(Number number)
 SwatchExtent SwatchExtentOf(const ComboSize& combo)
 {
     return {
-        Finite(float(combo.width) / float(combo.twipsPerPixelX) - swatchWidthLost),
-        Finite(float(combo.height) / float(combo.twipsPerPixelY) - swatchHeightLost)};
+        Finite(float(combo.width / combo.twipsPerPixelX)) - swatchWidthLost,
+        Finite(float(combo.height / combo.twipsPerPixelY)) - swatchHeightLost};
 }
 
 LineExtent LineExtentOf(const ComboSize& combo)

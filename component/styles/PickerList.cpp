@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/PickerList.h"
 
-#include "component/controls/Twips.h"
 #include "component/entry/ListHelpers.h"
 #include "component/entry/Messages.h"
 #include "ovctrls/OvCombo.h"
+
+#include <algorithm>
 
 namespace Orvane {
 
@@ -13,10 +14,12 @@ PickerList::PickerList(OvCombo& combo) : m_combo(combo)
     m_remembered.fill(-1);
 }
 
+// Whole twips are seldom whole pixels: the scale is that of this very size, so that the extents are.
 ComboSize PickerList::Size() const
 {
-    const TwipsPerPixel scale = TwipsPerPixelOf(m_combo);
-    return {double(m_combo.WidthInTwips()), double(m_combo.HeightInTwips()), scale.x, scale.y};
+    const double width = m_combo.WidthInTwips();
+    const double height = m_combo.HeightInTwips();
+    return {width, height, width / std::max(m_combo.width(), 1), height / std::max(m_combo.height(), 1)};
 }
 
 void PickerList::Clear()

@@ -103,6 +103,8 @@ void frmOtherLineStyle::showEvent(QShowEvent* event)
 qint16 frmOtherLineStyle::EnteredThickness() const
 {
     const QString text = m_ui->bedThickness->text();
+    if (!NumberInText(text))
+        throw RunTimeError(ErrorNumber::TypeMismatch, TranslateMsg("'^1' is not a number.", text));
     return m_ui->optMillimetres->isChecked() ? ToInt16(text) : ToInt16(-ToDouble(text));
 }
 
@@ -149,18 +151,9 @@ void frmOtherLineStyle::Confirm()
     const QPointer self(this);
     m_cancelled = false;
     m_state = State::Asking;
-    const bool isClosing = GuardEvent(this, [this] {
-        if (!NumberInText(m_ui->bedThickness->text())) {
-            throw RunTimeError(
-                ErrorNumber::TypeMismatch, TranslateMsg("'^1' is not a number.", m_ui->bedThickness->text()));
-        }
-        ShellServices().CloseModal(this);
-    });
-    if (!self || isClosing)
-        return;
-    m_state = State::Open;
-    m_ui->bedThickness->selectAll();
-    m_ui->bedThickness->setFocus();
+    const bool isClosing = GuardEvent(this, [this] { ShellServices().CloseModal(this); });
+    if (self && !isClosing)
+        m_state = State::Open;
 }
 
 void frmOtherLineStyle::reject()

@@ -32,8 +32,7 @@ public:
     /// moves by no more than needed to lie on the screen.
     ///
     /// Returns false, without more, while it is open already, and when it is destroyed meanwhile. Raises what
-    /// the host raises, and 13 (type mismatch) or 6 (overflow) when the host closes it over a text that is no
-    /// 16-bit number; OK itself tells the person and keeps it open.
+    /// the host raises, and 13 (type mismatch) or 6 (overflow) for a text that is no 16-bit number.
     bool ChooseLineWidth(qint16& thickness, Twips x, Twips y);
 
     /// Escape and the close button of the window: the same as Cancel.

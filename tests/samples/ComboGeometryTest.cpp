@@ -3,6 +3,7 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace Orvane {
@@ -47,6 +48,18 @@ TEST(ComboGeometry, SwatchesKeepTheirFraction)
 
     EXPECT_EQ(SwatchExtentOf(combo).width, 178.5f);
     EXPECT_EQ(SwatchExtentOf(combo).height, 19.5f);
+}
+
+TEST(ComboGeometry, WholePixelsStayWholeAtTheScaleOfTheirOwnSize)
+{
+    for (const double dotsPerInch : {104.0, 110.0, 168.0, 192.0}) {
+        for (int pixels = 100; pixels <= 260; ++pixels) {
+            const double twips = std::round(pixels * 1440 / dotsPerInch);
+            const double scale = twips / pixels;
+            EXPECT_EQ(SwatchExtentOf({twips, twips, scale, scale}).width, float(pixels - 22));
+            EXPECT_EQ(SwatchExtentOf({twips, twips, scale, scale}).height, float(pixels - 7));
+        }
+    }
 }
 
 TEST(ComboGeometry, AnItemHeightRoundsHalfToEvenAndALengthDownwards)

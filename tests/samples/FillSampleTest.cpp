@@ -72,6 +72,16 @@ TEST_F(FillSampleTest, ThePatternStartsAtTheUpperLeftCornerOfEachSample)
     EXPECT_EQ(At(3, 6), white);
 }
 
+TEST_F(FillSampleTest, WithBothTransparentSolidIsTheLineColourAndHollowTheList)
+{
+    FillSample sample{0, {}, {green, TransparentColour, TransparentColour}, listBack};
+    Paint(sample);
+    EXPECT_EQ(At(100, 10), green);
+    sample.style = 15;
+    Paint(sample);
+    EXPECT_EQ(At(100, 10), listBack);
+}
+
 TEST_F(FillSampleTest, TheLeftPartIsBlackOnWhite)
 {
     Paint(Patterned());

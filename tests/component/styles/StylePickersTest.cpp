@@ -38,6 +38,20 @@ protected:
     StylePickers pickers{{{&colours[0], &colours[1], &colours[2]}, &fillStyles, &lineStyles}, "@"};
 };
 
+/// How often a widget was painted since.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 int RaisedBy(const StylePickers& pickers, int index)
 {
     try {
@@ -100,6 +114,16 @@ TEST_F(StylePickersTest, AChangedColourRepaintsTheSampleOfTheClosedList)
     EXPECT_EQ(fillStyles.grab().toImage().pixelColor(middle), QColor(Qt::red));
     Choose(colours[1], 5);
     EXPECT_EQ(fillStyles.grab().toImage().pixelColor(middle), QColor(Qt::green));
+}
+
+TEST_F(StylePickersTest, AChangedColourSendsThePaintEvent)
+{
+    fillStyles.move(20, 120);
+    QCoreApplication::processEvents();
+    const PaintCounter paints(fillStyles);
+    Choose(colours[1], 5);
+    QCoreApplication::processEvents();
+    EXPECT_GT(paints.count, 0);
 }
 
 TEST_F(StylePickersTest, SaysWhichListChanged)

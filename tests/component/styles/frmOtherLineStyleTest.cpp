@@ -1,79 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "component/styles/frmOtherLineStyle.h"
-
-#include "component/entry/Component.h"
-#include "hosts/MemoryHost.h"
-#include "ovctrls/OvSpin.h"
-#include "support/MessageBoxRobot.h"
-#include "support/PseudoLanguage.h"
-
-#include <OrvaneShellLib/RunTimeError.h>
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScreen>
-#include <QToolButton>
-#include <QtTest>
-
-#include <functional>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "component/styles/frmOtherLineStyleFixture.h"
 
 namespace Orvane::Testing {
 
 namespace {
 
 using testing::ElementsAre;
-
-class frmOtherLineStyleTest : public testing::Test
-{
-protected:
-    frmOtherLineStyleTest()
-    {
-        Component::Get().SetHost(&host, &host.Shell());
-        owner.setGeometry(50, 50, 200, 100);
-        owner.show();
-        host.Shell().OnCloseModal = [](QWidget* shown) { shown->hide(); };
-    }
-    ~frmOtherLineStyleTest() override { Component::Get().SetHost(nullptr, nullptr); }
-
-    QLineEdit& Width() { return *form->findChild<QLineEdit*>("bedThickness"); }
-    OvSpin& Spin() { return *form->findChild<OvSpin*>("WidthSpin"); }
-    QRadioButton& Pixels() { return *form->findChild<QRadioButton*>("optPixels"); }
-    QRadioButton& Millimetres() { return *form->findChild<QRadioButton*>("optMillimetres"); }
-    QPushButton& Ok() { return *form->findChild<QPushButton*>("cmdOK"); }
-    QPushButton& Cancel() { return *form->findChild<QPushButton*>("cmdCancel"); }
-
-    // Opens the dialog, does what the person does, and closes it if they did not.
-    bool Choose(const std::function<void()>& person)
-    {
-        host.Shell().OnShowModal = [&person](QWidget* shown) {
-            shown->show();
-            QApplication::setActiveWindow(shown);
-            person();
-            shown->hide();
-        };
-        return form->ChooseLineWidth(thickness, x, y);
-    }
-    void Type(const char* text)
-    {
-        Width().selectAll();
-        QTest::keyClicks(&Width(), text);
-    }
-    static void Click(QWidget& control) { QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(8, 8)); }
-
-    QStringList ShellCalls() { return host.Log().Of(CallKind::Shell); }
-
-    MemoryHost host;
-    QWidget owner;
-    std::unique_ptr<frmOtherLineStyle> form = std::make_unique<frmOtherLineStyle>(&owner);
-    qint16 thickness = 0;
-    Twips x = 300 * 15;
-    Twips y = 200 * 15;
-};
 
 } // namespace
 
@@ -169,40 +101,6 @@ TEST_F(frmOtherLineStyleTest, AUnitChosenByKeyEnablesOk)
     });
 }
 
-TEST_F(frmOtherLineStyleTest, MillimetresArePositive)
-{
-    EXPECT_TRUE(Choose([this] {
-        Type("7");
-        Click(Ok());
-    }));
-    EXPECT_EQ(thickness, 7);
-}
-
-TEST_F(frmOtherLineStyleTest, PixelsAreNegative)
-{
-    EXPECT_TRUE(Choose([this] {
-        Click(Pixels());
-        Type("3");
-        Click(Ok());
-    }));
-    EXPECT_EQ(thickness, -3);
-}
-
-TEST_F(frmOtherLineStyleTest, HalvesGoToTheEvenNeighbour)
-{
-    Choose([this] {
-        Type("2.5");
-        Click(Ok());
-    });
-    EXPECT_EQ(thickness, 2);
-    Choose([this] {
-        Click(Pixels());
-        Type("3.5");
-        Click(Ok());
-    });
-    EXPECT_EQ(thickness, -4);
-}
-
 TEST_F(frmOtherLineStyleTest, EnterAccepts)
 {
     EXPECT_TRUE(Choose([this] {
@@ -241,96 +139,6 @@ TEST_F(frmOtherLineStyleTest, TheCloseButtonOfTheWindowCancels)
         form->close();
     }));
     EXPECT_EQ(thickness, 0);
-}
-
-TEST_F(frmOtherLineStyleTest, AWidthAboveTheMaximumBecomesTheMaximum)
-{
-    Choose([this] {
-        Type("250");
-        EXPECT_EQ(Width().text(), "100");
-        EXPECT_EQ(Spin().Value(), 100);
-        Click(Cancel());
-    });
-}
-
-TEST_F(frmOtherLineStyleTest, ANegativeWidthBecomes0)
-{
-    Choose([this] {
-        Type("-3");
-        EXPECT_EQ(Width().text(), "0");
-        Click(Cancel());
-    });
-}
-
-TEST_F(frmOtherLineStyleTest, TheSpinFollowsTheText)
-{
-    Choose([this] {
-        Type("12.5");
-        EXPECT_EQ(Spin().Value(), 12.5f);
-        Click(Cancel());
-    });
-}
-
-TEST_F(frmOtherLineStyleTest, TheTextFollowsTheSpin)
-{
-    Choose([this] {
-        Type("2.5");
-        Click(*Spin().findChild<QToolButton*>("cmdUp"));
-        EXPECT_EQ(Width().text(), "3.5");
-        QTest::keyClick(&Width(), Qt::Key_Down);
-        EXPECT_EQ(Width().text(), "2.5");
-        EXPECT_TRUE(Ok().isEnabled());
-        Click(Cancel());
-    });
-}
-
-TEST_F(frmOtherLineStyleTest, ATextThatIsNoNumberStaysAsTyped)
-{
-    Choose([this] {
-        Type("5");
-        Type("abc");
-        EXPECT_EQ(Width().text(), "abc");
-        EXPECT_EQ(Spin().Value(), 5);
-        EXPECT_TRUE(Ok().isEnabled());
-        Click(Cancel());
-    });
-}
-
-TEST_F(frmOtherLineStyleTest, OkOnATextThatIsNoNumberTellsThePersonAndStaysOpen)
-{
-    const MessageBoxRobot person{BoxKey::Enter};
-    EXPECT_TRUE(Choose([this] {
-        Type("abc");
-        Click(Ok());
-        EXPECT_TRUE(form->isVisible());
-        EXPECT_EQ(Width().text(), "abc");
-        EXPECT_TRUE(Width().hasSelectedText());
-        QTest::keyClicks(&Width(), "6");
-        Click(Ok());
-        EXPECT_FALSE(form->isVisible());
-    }));
-    EXPECT_EQ(person.Only().text, "'abc' is not a number.");
-    EXPECT_EQ(thickness, 6);
-}
-
-TEST_F(frmOtherLineStyleTest, ATypeMismatchReachesTheCallerWhenTheHostReturnsByItself)
-{
-    thickness = 5;
-    host.Shell().OnShowModal = [this](QWidget*) { Type("abc"); };
-    EXPECT_THROW(form->ChooseLineWidth(thickness, x, y), RunTimeError);
-    EXPECT_EQ(thickness, 5);
-    EXPECT_FALSE(Choose([this] { Click(Cancel()); })) << "it can be opened again";
-}
-
-TEST_F(frmOtherLineStyleTest, TheDecimalSeparatorOfThePersonIsUnderstood)
-{
-    QLocale::setDefault(QLocale(QLocale::German));
-    Choose([this] {
-        Type("12,5");
-        EXPECT_EQ(Width().text(), "12.5");
-        Click(Cancel());
-    });
-    QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(frmOtherLineStyleTest, LosingActivationCancels)
