@@ -10,8 +10,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr qsizetype LongestLayerName = 80; // characters
-constexpr qsizetype LongestName = 40;
 constexpr qsizetype MostNames = 5;
 
 struct Texts {
@@ -21,8 +19,8 @@ struct Texts {
 QString Listed(const QStringList& names)
 {
     QStringList listed;
-    for (const QString& name : names.first(std::min(names.size(), MostNames)))
-        listed << QLatin1Char('"') + NameInText(name, LongestName) + QLatin1Char('"');
+    for (const QString& name : names.mid(0, MostNames))
+        listed << QLatin1Char('"') + NameInStep(name) + QLatin1Char('"');
     if (names.size() > MostNames)
         listed << Texts::tr("%1 more").arg(names.size() - MostNames);
     return listed.join(QLatin1String(", "));
@@ -45,8 +43,8 @@ bool LayerDeletion::Confirm(QWidget* owner) const
 {
     QMessageBox box(
         QMessageBox::Question, Texts::tr("Delete layer"),
-        Texts::tr("Delete the layer \"%1\"?").arg(NameInText(layer, LongestLayerName)),
-        QMessageBox::Yes | QMessageBox::No, owner);
+        Texts::tr("Delete the layer \"%1\"?").arg(NameInQuestion(layer)), QMessageBox::Yes | QMessageBox::No,
+        owner);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(Consequences(*this));
     box.setDefaultButton(QMessageBox::No);

@@ -20,14 +20,12 @@ namespace Orvane {
 
 namespace {
 
-constexpr qsizetype LongestName = 40; // characters
-
 QString GroupName(SqliteLayerDatabase& database, qint32 groupID)
 {
     const auto group
         = database.OpenQuery(QStringLiteral("SELECT Name FROM LayerGroups WHERE ID = ?1"), {groupID});
     const Value name = group->AtEOF() ? Value::Null() : group->Field("Name");
-    return name.IsNull() ? QString() : ToText(name);
+    return ToTextOrNone(name);
 }
 
 } // namespace
@@ -104,7 +102,7 @@ QString LayerSteps::EditText(const Changeset& changes)
     const LayerChanges edited = LayerChanges::Of(changes, m_database);
     if (edited.changed.size() != 1)
         return tr("Change of %1 Layers").arg(edited.changed.size());
-    const QString name = NameInText(m_names.Name(*edited.changed.begin()), LongestName);
+    const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
     return edited.onlyCodes ? tr("New Code of \"%1\"").arg(name) : tr("Change of \"%1\"").arg(name);
 }
 

@@ -25,9 +25,6 @@ class LayerSteps
     Q_DECLARE_TR_FUNCTIONS(LayerSteps)
 
 public:
-    /// How much of a name stands in a step's text, in characters.
-    static constexpr qsizetype LongestName = 40;
-
     /// None is owned; all outlive this object.
     LayerSteps(
         SqliteLayerDatabase& database, LayerNames& names, EditorWindows& windows,

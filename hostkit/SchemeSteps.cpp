@@ -11,15 +11,6 @@
 
 namespace Orvane {
 
-namespace {
-
-QString Short(const QString& name)
-{
-    return NameInText(name, LayerSteps::LongestName);
-}
-
-} // namespace
-
 SchemeSteps::SchemeSteps(SqliteLayerDatabase& database, LayerSteps& steps, HostNotifications& notifications)
     : m_database(database), m_steps(steps), m_notifications(notifications), m_schemes(database)
 {
@@ -45,7 +36,7 @@ void SchemeSteps::Load(const QString& name)
     QSet<qint32> changed;
     m_steps.Record([&] {
         changed = m_schemes.Load(name);
-        return tr("Loading of the Scheme \"%1\"").arg(Short(name));
+        return tr("Loading of the Scheme \"%1\"").arg(NameInStep(name));
     });
     if (left != name)
         Leave(left);
@@ -60,7 +51,7 @@ void SchemeSteps::Create(const QString& name)
     m_schemes.Current(); // makes the first scheme, which is no step
     m_steps.Record([&] {
         m_schemes.Create(name);
-        return tr("Creation of the Scheme \"%1\"").arg(Short(name));
+        return tr("Creation of the Scheme \"%1\"").arg(NameInStep(name));
     });
     Tell();
 }
@@ -70,7 +61,7 @@ void SchemeSteps::Save(const QString& name)
     m_schemes.Current();
     m_steps.Record([&] {
         m_schemes.Save(name);
-        return tr("Saving of the Scheme \"%1\"").arg(Short(name));
+        return tr("Saving of the Scheme \"%1\"").arg(NameInStep(name));
     });
     Tell();
 }
@@ -80,7 +71,7 @@ void SchemeSteps::Delete(const QString& name)
     m_schemes.Current();
     const auto remove = [&] {
         m_schemes.Delete(name);
-        return tr("Deletion of the Scheme \"%1\"").arg(Short(name));
+        return tr("Deletion of the Scheme \"%1\"").arg(NameInStep(name));
     };
     const QString left = std::exchange(m_justLeft, {});
     const bool isOneDeed = !left.isEmpty() && left == name; // the person pressed one button
@@ -94,7 +85,7 @@ SchemeImport SchemeSteps::Import(const SchemeDocument& scheme)
     SchemeImport report;
     m_steps.Record([&] {
         report = SchemeExchange::Import(m_database, scheme);
-        return tr("Import of the Scheme \"%1\"").arg(Short(scheme.name));
+        return tr("Import of the Scheme \"%1\"").arg(NameInStep(scheme.name));
     });
     Tell();
     return report;

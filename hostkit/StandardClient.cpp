@@ -25,15 +25,6 @@
 
 namespace Orvane {
 
-namespace {
-
-QString Short(const QString& name)
-{
-    return NameInText(name, LayerSteps::LongestName);
-}
-
-} // namespace
-
 struct StandardClient::Parts {
     explicit Parts(SqliteLayerDatabase& database)
         : names(database), factory(database, names), steps(database, names, windows, notifications),
@@ -201,7 +192,7 @@ void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QStrin
     RecordStep([&] {
         m_database.Execute(QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name});
         isThere = m_database.ChangedRows() > 0;
-        return tr("Renaming of \"%1\"").arg(Short(name));
+        return tr("Renaming of \"%1\"").arg(NameInStep(name));
     });
     if (!isThere)
         return;
@@ -215,7 +206,7 @@ void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QStrin
     RecordStep([&] {
         m_database.Execute(QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name});
         isThere = m_database.ChangedRows() > 0;
-        return tr("Renaming of the Group \"%1\"").arg(Short(name));
+        return tr("Renaming of the Group \"%1\"").arg(NameInStep(name));
     });
     if (isThere)
         emit m_parts->notifications.GroupRenamed(groupID, name);
@@ -271,7 +262,7 @@ qint32 StandardClient::IStyleEditorClient_CreateLayer()
     qint32 layerID = 0;
     RecordStep([&] {
         layerID = m_parts->factory.Create();
-        return tr("Creation of \"%1\"").arg(Short(m_parts->names.Name(layerID)));
+        return tr("Creation of \"%1\"").arg(NameInStep(m_parts->names.Name(layerID)));
     });
     emit m_parts->notifications.LayerCreated(layerID);
     return layerID;
@@ -286,7 +277,7 @@ void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
         return;
     RecordStep([&] {
         m_parts->factory.Delete(layerID);
-        return tr("Deletion of \"%1\"").arg(Short(deletion.layer));
+        return tr("Deletion of \"%1\"").arg(NameInStep(deletion.layer));
     });
     m_parts->changedLayers.remove(layerID);
     emit m_parts->notifications.LayerDeleted(layerID);

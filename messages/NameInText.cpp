@@ -27,6 +27,16 @@ QString NameInText(const QString& name, qsizetype longest)
     return line;
 }
 
+QString NameInQuestion(const QString& name)
+{
+    return NameInText(name, 80);
+}
+
+QString NameInStep(const QString& name)
+{
+    return NameInText(name, 40);
+}
+
 QString NameInMenu(const QString& name)
 {
     return NameInText(name).replace(QLatin1Char('&'), QLatin1String("&&"));

@@ -9,6 +9,12 @@ namespace Orvane {
 /// control characters become blanks, and a longer name ends in an ellipsis. Ordinary names stay as they are.
 QString NameInText(const QString& name, qsizetype longest = 60);
 
+/// The same, at most 80 characters, for a question about that name.
+QString NameInQuestion(const QString& name);
+
+/// The same, at most 40 characters, for lists of names and for what stands behind "Undo".
+QString NameInStep(const QString& name);
+
 /// The same for a menu, where an ampersand would mark a letter.
 QString NameInMenu(const QString& name);
 

@@ -52,7 +52,7 @@ qint32 LayerCreation::Make(const NewLayerDialog& wishes)
         StoreTransaction transaction(m_document.Database());
         layerID = wishes.IsEmptyLayer() ? MakeEmpty(wishes) : MakeFromSource(wishes);
         transaction.Commit();
-        return tr("Creation of \"%1\"").arg(NameInText(wishes.Name(), 40));
+        return tr("Creation of \"%1\"").arg(NameInStep(wishes.Name()));
     });
     return layerID;
 }

@@ -11,8 +11,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr qsizetype LongestName = 80; // characters
-
 } // namespace
 
 PendingChangesPrompt::PendingChangesPrompt(std::function<void()> apply, std::function<void()> cancel)
@@ -23,8 +21,8 @@ PendingChangesPrompt::PendingChangesPrompt(std::function<void()> apply, std::fun
 void PendingChangesPrompt::Ask(QWidget* owner, bool isGroup, const QString& nodeText) const
 {
     const QString kind = isGroup ? TranslateMsg("group") : TranslateMsg("layer");
-    const QString question = TranslateMsg(
-        "Do you wish to apply the changes to the '^2' ^1?", kind, NameInText(nodeText, LongestName));
+    const QString question
+        = TranslateMsg("Do you wish to apply the changes to the '^2' ^1?", kind, NameInQuestion(nodeText));
     const BoxAnswer answer = ShowMessageBox(owner, question, BoxStyle::YesNo);
     ActOn(answer == BoxAnswer::Yes ? Answer::Yes : Answer::No);
 }

@@ -30,6 +30,18 @@ TEST(NameInText, ASignOfTwoHalvesIsNotCut)
     EXPECT_EQ(NameInText(QString::fromUtf8("abcd\U0001F6E3fgh"), 6), QString::fromUtf8("abcd…"));
 }
 
+TEST(NameInText, InAQuestionHasAtMostEightyCharacters)
+{
+    EXPECT_EQ(NameInQuestion(QString(80, u'x')), QString(80, u'x'));
+    EXPECT_EQ(NameInQuestion(QString(81, u'x')), QString(79, u'x') + QChar(0x2026));
+}
+
+TEST(NameInText, InAStepHasAtMostFortyCharacters)
+{
+    EXPECT_EQ(NameInStep(QString(40, u'x')), QString(40, u'x'));
+    EXPECT_EQ(NameInStep(QString(41, u'x')), QString(39, u'x') + QChar(0x2026));
+}
+
 TEST(NameInText, InAMenuItMarksNoLetter)
 {
     EXPECT_EQ(NameInMenu(QStringLiteral("Roads & Rivers")), QStringLiteral("Roads && Rivers"));
