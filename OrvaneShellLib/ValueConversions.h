@@ -152,6 +152,12 @@ inline QString ToText(const Value& value)
     Detail::RaiseTypeMismatch();
 }
 
+/// The same, and the empty text for Null, for columns that may hold nothing. Raises 13 for Empty.
+inline QString ToTextOrNone(const Value& value)
+{
+    return value.IsNull() ? QString() : ToText(value);
+}
+
 /// Equality of two property values: numbers compare numerically across their four kinds, texts as texts,
 /// booleans with booleans. Empty and Null equal nothing, themselves included; callers give Null its meaning
 /// first. Never raises.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/FillPatterns.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
@@ -15,7 +16,7 @@ constexpr int Side = 8;
 
 using Rows = std::array<unsigned char, Side>;
 
-constexpr std::array<Rows, Count> Patterns{{
+constexpr std::array<Rows, LastFillStyle + 1> Patterns{{
     {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, // 0 solid
     {0x00, 0x00, 0x00, 0xFF, 0x00, 0x00, 0x00, 0x00}, // 1 horizontal, wide
     {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x10}, // 2 vertical, wide
@@ -54,7 +55,7 @@ constexpr std::array<Rows, Count> Patterns{{
 
 MonochromeBitmap Bitmap(int fillStyle)
 {
-    if (fillStyle < 0 || fillStyle >= Count) {
+    if (fillStyle < 0 || fillStyle > LastFillStyle) {
         throw RunTimeError(
             ErrorNumber::SubscriptOutOfRange,
             QCoreApplication::translate("FillPatterns", "There is no fill pattern %1.").arg(fillStyle));

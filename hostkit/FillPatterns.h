@@ -6,13 +6,9 @@
 namespace Orvane {
 
 /// The fill patterns of the standard shell services: 32 bitmaps of 8 by 8 pixels that tile without a seam.
-/// 0 is solid, 15 hollow; the others are hatches, grids, dots, dashes, and the signs of maps (bricks, waves,
-/// marsh, trees, sand ...).
+/// SolidFill is all ink, HollowFill none; the others are hatches, grids, dots, dashes, and the signs of maps
+/// (bricks, waves, marsh, trees, sand ...).
 namespace FillPatterns {
-
-inline constexpr int Count = 32;
-inline constexpr int Solid = 0;
-inline constexpr int Hollow = 15;
 
 /// The bitmap of a fill style. Raises 9 (subscript out of range) outside 0 to 31.
 MonochromeBitmap Bitmap(int fillStyle);

@@ -9,6 +9,7 @@
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <limits>
@@ -31,7 +32,7 @@ QStringList NamesOf(SqliteLayerDatabase& database, const QString& query, qint32 
     QStringList names;
     const auto rows = database.OpenQuery(query, {layerID});
     for (; !rows->AtEOF(); rows->MoveNext())
-        names << (rows->Field("Name").IsNull() ? QString() : ToText(rows->Field("Name")));
+        names << ToTextOrNone(rows->Field("Name"));
     return names;
 }
 
@@ -130,8 +131,8 @@ void LayerFactory::Insert(qint32 layerID, const QString& name)
                        " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16, ?17, "
                        "?18, 0, 0, 0, 0)"),
         {layerID, name, LowestFreeCode(), true, true, false, true, false, true, Black, Black, Transparent,
-         qint16(0), qint16(FillPatterns::Hollow), ThinnestLine, StoredScale::NoMinimum,
-         qint32(StoredScale::NoMaximum), DefaultPriority});
+         qint16(0), HollowFill, ThinnestLine, StoredScale::NoMinimum, qint32(StoredScale::NoMaximum),
+         DefaultPriority});
 }
 
 } // namespace Orvane

@@ -18,7 +18,7 @@ LayerIdentity IdentityAt(const IRecordset& row)
     if (!code.IsNull() && ToDouble(code) >= 0)
         layer.code = ToDouble(code);
     const Value name = row.Field("Name");
-    layer.name = name.IsNull() ? QString() : ToText(name);
+    layer.name = ToTextOrNone(name);
     return layer;
 }
 

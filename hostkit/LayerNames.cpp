@@ -11,7 +11,7 @@ namespace {
 QString NameIn(const IRecordset& layers)
 {
     const Value name = layers.Field("Name");
-    return name.IsNull() ? QString() : ToText(name);
+    return ToTextOrNone(name);
 }
 
 } // namespace

@@ -19,14 +19,14 @@ namespace {
 
 constexpr auto Format = "orvane-scheme";
 
-[[noreturn]] void Raise(HostError number, const QString& description)
+[[noreturn]] void RaiseDamage(HostError number, const QString& description)
 {
     throw RunTimeError(int(number), description, QStringLiteral("SchemeDocument"));
 }
 
 [[noreturn]] void RaiseDamaged(const QString& description)
 {
-    Raise(HostError::SchemeTextDamaged, description);
+    RaiseDamage(HostError::SchemeTextDamaged, description);
 }
 
 QByteArray Compact(const QJsonValue& value)
@@ -40,7 +40,7 @@ QJsonValue ToJsonValue(const Value& value, const QString& layer, int column)
         return QJsonValue::Null;
     if (value.IsNumber())
         return ToDouble(value);
-    Raise(
+    RaiseDamage(
         HostError::SchemeValueUnknown,
         SchemeDocument::tr("The layer \"%1\" holds no number as \"%2\".")
             .arg(layer, QLatin1String(SchemeColumns::Name(column))));
@@ -111,7 +111,7 @@ void CheckVersion(const QJsonObject& scheme)
         RaiseDamaged(SchemeDocument::tr("It is not a layer scheme."));
     const double version = scheme.value(QLatin1String("version")).toDouble();
     if (version > SchemeDocument::Version)
-        Raise(HostError::SchemeTextTooNew, SchemeDocument::tr("A newer program has written it."));
+        RaiseDamage(HostError::SchemeTextTooNew, SchemeDocument::tr("A newer program has written it."));
     if (version != SchemeDocument::Version)
         RaiseDamaged(SchemeDocument::tr("It names no version."));
 }

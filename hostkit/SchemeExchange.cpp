@@ -22,7 +22,7 @@ SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
     if (!code.IsNull() && ToDouble(code) >= 0)
         layer.identity.code = ToDouble(code);
     const Value name = row.Field("Name");
-    layer.identity.name = name.IsNull() ? QString() : ToText(name);
+    layer.identity.name = ToTextOrNone(name);
     for (int column = 0; column < SchemeColumns::Count; ++column)
         layer.values.at(std::size_t(column)) = row.Field(SchemeColumns::Name(column));
     return layer;

@@ -13,7 +13,7 @@ namespace Orvane::SchemeFile {
 
 namespace {
 
-class Texts
+class FileTexts
 {
     Q_DECLARE_TR_FUNCTIONS(SchemeFile)
 };
@@ -27,7 +27,7 @@ class Texts
 {
     Raise(
         HostError::SchemeFileUnreadable,
-        Texts::tr("The scheme file \"%1\" cannot be read. %2").arg(QFileInfo(path).fileName(), reason));
+        FileTexts::tr("The scheme file \"%1\" cannot be read. %2").arg(QFileInfo(path).fileName(), reason));
 }
 
 QByteArray ContentOf(const QString& path)
@@ -38,7 +38,7 @@ QByteArray ContentOf(const QString& path)
     // Asks for one byte more: a device may not tell its size.
     const QByteArray content = file.read(LargestFile + 1);
     if (content.size() > LargestFile)
-        RaiseUnreadable(path, Texts::tr("It is too large."));
+        RaiseUnreadable(path, FileTexts::tr("It is too large."));
     if (file.error() != QFileDevice::NoError)
         RaiseUnreadable(path, file.errorString());
     return content.startsWith("\xEF\xBB\xBF") ? content.mid(3) : content;
@@ -64,7 +64,7 @@ void Write(const QString& path, const SchemeDocument& scheme)
         return;
     Raise(
         HostError::SchemeFileUnwritable,
-        Texts::tr("The scheme file \"%1\" cannot be written: %2.")
+        FileTexts::tr("The scheme file \"%1\" cannot be written: %2.")
             .arg(QFileInfo(path).fileName(), file.errorString()));
 }
 

@@ -4,6 +4,7 @@
 #include "hostkit/FillPatterns.h"
 #include "hostkit/TextPrompt.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
@@ -16,8 +17,6 @@
 namespace Orvane {
 
 namespace {
-
-constexpr int FillPatternKind = 7;
 
 } // namespace
 

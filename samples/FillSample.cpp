@@ -3,6 +3,7 @@
 
 #include "samples/BgrColour.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QBrush>
@@ -18,8 +19,6 @@ namespace Orvane {
 namespace {
 
 constexpr int sampleInset = 2; // pixels
-constexpr qint32 solidStyle = 0;
-constexpr qint32 hollowStyle = 15;
 constexpr FillColours blackOnWhite{0, 0x000000, 0xFFFFFF};
 constexpr int largestPicture = 1024; // pixels; a host's slip must not eat the memory
 
@@ -27,7 +26,7 @@ constexpr int largestPicture = 1024; // pixels; a host's slip must not eat the m
 bool IsSet(const MonochromeBitmap& picture, int x, int y)
 {
     const qsizetype byte = qsizetype(y) * ((picture.width + 7) / 8) + x / 8;
-    return byte < picture.rows.size() && (quint8(picture.rows[byte]) & (0x80 >> (x % 8))) != 0;
+    return byte < picture.rows.size() && (quint8(picture.rows.at(byte)) & (0x80 >> (x % 8))) != 0;
 }
 
 QImage PatternTile(const MonochromeBitmap& picture, const FillColours& colours)
@@ -66,9 +65,9 @@ void PaintSample(
     const FillColours& patternColours)
 {
     const QImage tile = PatternTile(sample.picture, patternColours);
-    if (sample.style == solidStyle)
+    if (sample.style == SolidFill)
         painter.fillRect(area, QColorFromBgr(colours.fore));
-    else if (sample.style == hollowStyle || tile.isNull())
+    else if (sample.style == HollowFill || tile.isNull())
         painter.fillRect(area, QColorFromBgr(colours.back));
     else
         PaintPattern(painter, area, tile);

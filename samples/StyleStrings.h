@@ -3,15 +3,14 @@
 
 #include "samples/ComboGeometry.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QString>
 #include <QtGlobal>
 
 #include <array>
 
 namespace Orvane {
-
-/// The colour value that stands for "transparent": &HFF000000.
-constexpr qint32 TransparentColour = qint32(0xFF000000u);
 
 /// The line style without a line.
 constexpr qint16 NoLineStyle = 15;

@@ -4,10 +4,11 @@
 #include "mapkit/data/CoordinateSystems.h"
 #include "mapkit/data/Progress.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/Palette.h"
+#include "samples/BgrColour.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>

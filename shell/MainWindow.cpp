@@ -37,7 +37,7 @@ namespace Orvane {
 namespace {
 
 constexpr auto MapSuffix = "orvane";
-constexpr int MessageTime = 8000; // milliseconds
+constexpr int ShortMessageTime = 8000; // milliseconds
 
 bool IsMapFile(const QString& path)
 {
@@ -287,7 +287,7 @@ bool MainWindow::ShowMapAgain()
     const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(zoom); });
     if (shown)
         statusBar()->showMessage(
-            tr("The map was changed in another window and is shown as it is now."), MessageTime);
+            tr("The map was changed in another window and is shown as it is now."), ShortMessageTime);
     return shown;
 }
 

@@ -171,7 +171,7 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
     MapLayer layer;
     layer.layerID = ToInt32(row.Field("LayerID"));
     const Value name = row.Field("Name");
-    layer.name = name.IsNull() ? QString() : ToText(name);
+    layer.name = ToTextOrNone(name);
     layer.visible = WholeOr(row, "Visible", 1) != 0;
     layer.flags = FlagsOfRow(row);
     layer.mode = ModeOfRow(row);

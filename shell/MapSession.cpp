@@ -9,6 +9,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/MapCanvas.h"
 #include "mapkit/drawing/RasterBackdrop.h"
+#include "mapkit/output/PageSettings.h"
 #include "shell/LayerCreation.h"
 #include "shell/RunWithProgress.h"
 #include "store/SqliteLayerDatabase.h"
@@ -26,7 +27,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr double MillimetresPerInch = 25.4;
 constexpr std::chrono::milliseconds MarkDelay{150};
 
 QString StartupFile()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/RunWithProgress.h"
 
+#include "ovctrls/BusyPointer.h"
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
@@ -16,15 +18,6 @@ namespace {
 constexpr std::chrono::milliseconds LookAgainAfter{30};
 constexpr int DialogAfter = 500; // milliseconds
 constexpr int Steps = 1000;
-
-class BusyPointer
-{
-public:
-    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 // Input waits for the dialog, so that nobody closes the window under the work.
 void HandleEvents(const QProgressDialog& dialog)

@@ -6,6 +6,8 @@
 #include "hostkit/SchemeFile.h"
 #include "mapkit/Guard.h"
 #include "messages/NameInText.h"
+#include "ovctrls/BusyPointer.h"
+#include "shell/Confirm.h"
 #include "shell/LayerControl.h"
 #include "shell/MapSession.h"
 #include "shell/SchemeReport.h"
@@ -25,23 +27,6 @@ namespace {
 
 constexpr auto FileSuffix = "json";
 constexpr int MessageTime = 15000; // milliseconds
-
-bool Confirm(QWidget& window, const QString& title, const QString& question)
-{
-    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, &window);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
-}
-
-class BusyPointer
-{
-public:
-    BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyPointer() { QApplication::restoreOverrideCursor(); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-};
 
 // The scheme's name, as far as a file may have it.
 QString FileNameFor(const QString& scheme)

@@ -5,6 +5,7 @@
 #include "mapkit/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
+#include "shell/Confirm.h"
 #include "shell/LayerControl.h"
 #include "shell/MapSession.h"
 #include "shell/MapThemes.h"
@@ -34,14 +35,6 @@ std::optional<qint32> ThemeOf(const QString& editorID)
     if (!isNumber || !editorID.startsWith(QLatin1String(EditorPrefix)))
         return std::nullopt;
     return themeID;
-}
-
-bool Confirm(QWidget& window, const QString& title, const QString& question)
-{
-    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, &window);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace

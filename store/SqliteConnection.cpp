@@ -10,9 +10,10 @@ namespace Orvane {
 
 namespace {
 
-int OpenFlags(SqliteConnection::Access access)
+using Access = SqliteConnection::Access;
+
+int OpenFlags(Access access)
 {
-    using Access = SqliteConnection::Access;
     const bool writes = access == Access::ReadWrite || access == Access::QueryOnly;
     // All calls come from one thread, so that the connection needs no mutex.
     return (writes ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI

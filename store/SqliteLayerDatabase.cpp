@@ -18,8 +18,6 @@ namespace Orvane {
 
 namespace {
 
-using Access = SqliteConnection::Access;
-
 void UseWriteAheadLog(SqliteConnection& connection)
 {
     connection.Run("PRAGMA journal_mode = WAL");
@@ -58,7 +56,7 @@ void MakeEmptyFile(const QString& path)
 
 std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOptions& options)
 {
-    auto session = std::make_unique<SqliteSession>(path, Access::ReadWrite, options);
+    auto session = std::make_unique<SqliteSession>(path, SqliteConnection::Access::ReadWrite, options);
     UseCache(session->connection);
     LayerSchema::Create(session->connection);
     UseWriteAheadLog(session->connection);
@@ -83,12 +81,12 @@ SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
 std::unique_ptr<SqliteLayerDatabase>
 SqliteLayerDatabase::Open(const QString& path, OpenMode mode, const StoreOptions& options)
 {
-    const Access access = CheckLayerFile(path, mode, options);
+    const SqliteConnection::Access access = CheckLayerFile(path, mode, options);
     auto session = std::make_unique<SqliteSession>(path, access, options);
     SqliteConnection& connection = session->connection;
     LayerSchema::CheckVersion(connection);
     UseCache(connection);
-    if (access == Access::ReadWrite) {
+    if (access == SqliteConnection::Access::ReadWrite) {
         LayerSchema::Migrate(connection);
         UseWriteAheadLog(connection);
     }

@@ -22,7 +22,7 @@ QString Filled(const QString& text, const QString& name, const QString& detail)
             result += mark == u"^1" ? name : detail;
             ++i;
         } else {
-            result += text[i];
+            result += text.at(i);
         }
     }
     return result;

@@ -34,7 +34,7 @@ void LayerCommands::Show(
     const bool isLayer = node && !node->isGroup;
     m_node = node;
     m_storedCode = isLayer ? record.lsGet(Slot::Code) : Value::Null();
-    m_widgets.lblCode->setText(m_storedCode.IsNull() ? QString() : ToText(m_storedCode));
+    m_widgets.lblCode->setText(ToTextOrNone(m_storedCode));
     m_widgets.cmdDeleteLayer->setEnabled(isLayer);
     m_widgets.lblCode->setEnabled(isLayer && !isSystemLayer);
 }

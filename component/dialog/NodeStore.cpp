@@ -36,7 +36,7 @@ QString ReadNodeName(IStyleEditorClient& client, const NodeReference& node)
 {
     const auto row = RowOf(client, node);
     const Value name = row ? row->Field("Name") : Value::Null();
-    return name.IsNull() ? QString() : ToText(name);
+    return ToTextOrNone(name);
 }
 
 void StoreGroupsExpanded(IStyleEditorClient& client, const std::vector<qint32>& groupIDs, bool expanded)

@@ -2,7 +2,6 @@
 #include "component/dialog/SelectionEditor.h"
 
 #include "component/dialog/ApplyCommand.h"
-#include "component/dialog/BusyPointer.h"
 #include "component/dialog/EditorParts.h"
 #include "component/dialog/PendingChangesPrompt.h"
 #include "component/dialog/RendererStyleEditor.h"
@@ -11,6 +10,7 @@
 #include "component/entry/Messages.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleLoading.h"
+#include "ovctrls/BusyPointer.h"
 #include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>

@@ -80,7 +80,7 @@ private:
         if (!SeekID(*m_groups, groupID))
             return {groupID, m_texts.groupNotFound, false, {}, 0};
         const Value name = m_groups->Field("Name");
-        const QString text = name.IsNull() ? QString() : ToText(name);
+        const QString text = ToTextOrNone(name);
         return {groupID, text.isEmpty() ? m_texts.noName : text, FlagIsSet(*m_groups, "Expanded"), {}, 0};
     }
 

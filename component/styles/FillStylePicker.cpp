@@ -10,6 +10,7 @@
 #include "ovctrls/OvCombo.h"
 
 #include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -18,9 +19,6 @@ namespace {
 
 using Special = PickerList::Special;
 
-constexpr qint16 solidStyle = 0;
-constexpr qint16 hollowStyle = 15;
-constexpr int patternKind = 7;
 constexpr int mostRows = 10;
 
 } // namespace
@@ -29,7 +27,7 @@ FillStylePicker::FillStylePicker(OvCombo& combo, const QString& stylePrefix, Rea
     : m_list(combo), m_stylePrefix(stylePrefix), m_colours(std::move(colours))
 {
     combo.SetRenderer(StyleStringRenderer(stylePrefix));
-    connect(&combo, &OvCombo::activated, this, [this] {
+    connect(&combo, QOverload<int>::of(&OvCombo::activated), this, [this] {
         GuardEvent(m_list.Combo().window(), [this] { emit Changed(); });
     });
     connect(&combo, &OvCombo::DrawItem, this, [this](QPainter& painter, int index, const QRect& item) {
@@ -40,10 +38,10 @@ FillStylePicker::FillStylePicker(OvCombo& combo, const QString& stylePrefix, Rea
 void FillStylePicker::BuildFillStyleList()
 {
     m_list.Clear();
-    AddFillStyleItem(solidStyle);
-    AddFillStyleItem(hollowStyle);
+    AddFillStyleItem(SolidFill);
+    AddFillStyleItem(HollowFill);
     for (qint16 style = 0; style < FillPictures::Count; ++style) {
-        if (style == solidStyle || style == hollowStyle)
+        if (style == SolidFill || style == HollowFill)
             continue;
         LoadPicture(style);
         AddFillStyleItem(style);
@@ -60,7 +58,7 @@ void FillStylePicker::AddFillStyleItem(qint16 style)
 void FillStylePicker::LoadPicture(qint16 style)
 {
     m_pictures.Load(style);
-    m_pictures.SetPicture(style, ShellServices().FillPattern(patternKind, style));
+    m_pictures.SetPicture(style, ShellServices().FillPattern(FillPatternKind, style));
 }
 
 void FillStylePicker::AddVariousItem()

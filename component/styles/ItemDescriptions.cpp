@@ -5,6 +5,8 @@
 #include "component/styles/StandardColours.h"
 #include "samples/BgrColour.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -58,10 +60,9 @@ QString LineDescription(const LineItem& line)
 QString FillDescription(qint32 style)
 {
     constexpr qint32 solid = 0;
-    constexpr qint32 hollow = 15;
     if (style == solid)
         return TranslateMsg("Solid fill");
-    return style == hollow ? TranslateMsg("Hollow") : TranslateMsg("Pattern ^1", style);
+    return style == HollowFill ? TranslateMsg("Hollow") : TranslateMsg("Pattern ^1", style);
 }
 
 } // namespace Orvane

@@ -2,15 +2,15 @@
 #include "examples/sample_maps/SampleLayers.h"
 
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/Palette.h"
+#include "samples/BgrColour.h"
 #include "store/SqliteLayerDatabase.h"
 #include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/LayerValues.h>
 
 namespace Orvane {
 
 namespace {
-
-constexpr int HollowFill = 15;
 
 NewLayer LayerFor(const SampleLayer& sample, const QString& path)
 {

@@ -11,7 +11,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto System = "EPSG:32632";
+constexpr auto TownSystem = "EPSG:32632";
 constexpr auto Contours = "contours";
 constexpr auto IndexContours = "index contours";
 constexpr double ContourInterval = 5; // metres
@@ -66,7 +66,7 @@ constexpr auto TownLayers = std::to_array<SampleLayer>({
 void WriteTown(const QString& path)
 {
     const TownPlan plan = PlanTown();
-    GeoPackageWriter writer(path, QLatin1String(System));
+    GeoPackageWriter writer(path, QLatin1String(TownSystem));
     for (const auto& [name, features] : plan.layers)
         writer.AddLayer(QString::fromStdString(name), features);
     writer.AddContours(QLatin1String(Contours), plan.heights, ContourInterval);
@@ -80,7 +80,7 @@ void MakeTownMap(const QString& mapPath)
     const QString data = GeneratedDataPath(mapPath);
     WriteTown(data);
     const auto document = MapDocument::Create(mapPath);
-    document->SetSystem(QLatin1String(System));
+    document->SetSystem(QLatin1String(TownSystem));
     AddSampleLayers(*document, TownLayers, [&](const QString&) -> const QString& { return data; });
 }
 

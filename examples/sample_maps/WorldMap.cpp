@@ -13,7 +13,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto System = "EPSG:8857";
+constexpr auto WorldSystem = "EPSG:8857";
 constexpr auto GeneratedSystem = "EPSG:4326";
 constexpr auto GeneratedFile = "";
 constexpr double DegreesBetweenVertices = 1;
@@ -173,7 +173,7 @@ void MakeWorldMap(const QString& mapPath, const QString& dataFolder)
     const QString generated = GeneratedDataPath(mapPath);
     WriteGenerated(generated);
     const auto document = MapDocument::Create(mapPath);
-    document->SetSystem(QLatin1String(System));
+    document->SetSystem(QLatin1String(WorldSystem));
     AddSampleLayers(*document, WorldLayers, [&](const QString& file) {
         const QString path = file.isEmpty() ? generated : QDir(dataFolder).filePath(file);
         return QFileInfo::exists(path) ? path : QString();

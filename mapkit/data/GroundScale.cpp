@@ -20,9 +20,9 @@ constexpr double EccentricitySquared = 0.00669437999014;
 constexpr double MostStretch = 1000; // beyond it the point is off the projection's earth
 constexpr double StepMetres = 100; // short against the earth's curvature, long against rounding
 
-using Degrees = std::array<QPointF, 2>;
+using DegreePair = std::array<QPointF, 2>;
 
-std::optional<Degrees> ToDegrees(const QString& system, const Degrees& map)
+std::optional<DegreePair> ToDegrees(const QString& system, const DegreePair& map)
 {
     const GdalErrors quiet;
     OGRSpatialReference known;
@@ -35,11 +35,11 @@ std::optional<Degrees> ToDegrees(const QString& system, const Degrees& map)
     std::array<double, 2> y{map[0].y(), map[1].y()};
     if (!transformation || !transformation->Transform(2, x.data(), y.data()))
         return std::nullopt;
-    return Degrees{QPointF(x[0], y[0]), QPointF(x[1], y[1])};
+    return DegreePair{QPointF(x[0], y[0]), QPointF(x[1], y[1])};
 }
 
 // Two points so near each other that the ellipsoid between them is flat.
-double Metres(const Degrees& points)
+double Metres(const DegreePair& points)
 {
     const double latitude = qDegreesToRadians((points[0].y() + points[1].y()) / 2);
     const double east = qDegreesToRadians(points[1].x() - points[0].x());

@@ -15,7 +15,7 @@ namespace Orvane {
 namespace {
 
 constexpr int Decimals = 4;
-constexpr double Tolerance = 1; // map units
+constexpr double PositionTolerance = 1; // map units
 
 bool IsGeographic(const QString& system)
 {
@@ -79,7 +79,7 @@ bool PositionText::IsOnEarth(QPointF map, double longitude, double latitude) con
         return false;
     return !m_fromDegrees
         || (m_fromDegrees->Transform(1, &longitude, &latitude)
-            && std::hypot(longitude - map.x(), latitude - map.y()) < Tolerance);
+            && std::hypot(longitude - map.x(), latitude - map.y()) < PositionTolerance);
 }
 
 } // namespace Orvane

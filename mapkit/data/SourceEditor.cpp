@@ -21,7 +21,7 @@ namespace Orvane {
 namespace {
 
 constexpr double LargestLatitude = 90; // degrees
-constexpr double Tolerance = 1; // map units
+constexpr double ExtentTolerance = 1; // map units
 
 std::unique_ptr<GDALDataset> OpenForUpdate(const QString& path)
 {
@@ -80,8 +80,10 @@ bool LeadsBack(const OGRGeometry& geometry, OGRCoordinateTransformation* toMap, 
     if (!Transform(*again, toMap))
         return false;
     const OGREnvelope now = ExtentOf(*again);
-    return std::abs(now.MinX - there.MinX) < Tolerance && std::abs(now.MinY - there.MinY) < Tolerance
-        && std::abs(now.MaxX - there.MaxX) < Tolerance && std::abs(now.MaxY - there.MaxY) < Tolerance;
+    return std::abs(now.MinX - there.MinX) < ExtentTolerance
+        && std::abs(now.MinY - there.MinY) < ExtentTolerance
+        && std::abs(now.MaxX - there.MaxX) < ExtentTolerance
+        && std::abs(now.MaxY - there.MaxY) < ExtentTolerance;
 }
 
 bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference* system)

@@ -20,7 +20,7 @@ QString Setting(SqliteLayerDatabase& database, const QString& name)
     const auto row
         = database.OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
     const Value value = row->AtEOF() ? Value::Null() : row->Field("Value");
-    return value.IsNull() ? QString() : ToText(value);
+    return ToTextOrNone(value);
 }
 
 } // namespace

@@ -26,12 +26,6 @@ constexpr auto SettingsTable
     = "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)";
 constexpr qint32 NoCode = -1;
 
-QString Text(const IRecordset& row, std::string_view column)
-{
-    const Value value = row.Field(column);
-    return value.IsNull() ? QString() : ToText(value);
-}
-
 // Code -1 is given to as many layers as need it.
 qint32 CodeOrNone(qint32 next)
 {
@@ -186,7 +180,7 @@ QString MapDocument::Setting(const QString& name) const
 {
     const auto row
         = m_database->OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
-    return row->AtEOF() ? QString() : Text(*row, "Value");
+    return row->AtEOF() ? QString() : ToTextOrNone(row->Field("Value"));
 }
 
 void MapDocument::SetSetting(const QString& name, const QString& value)

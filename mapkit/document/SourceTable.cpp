@@ -9,21 +9,16 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto Definition = "CREATE TABLE IF NOT EXISTS LayerSources ("
-                            " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
-                            " Path TEXT NOT NULL, OgrLayer TEXT NOT NULL, Filter TEXT NOT NULL DEFAULT '')";
-
-QString Text(const IRecordset& row, std::string_view column)
-{
-    const Value value = row.Field(column);
-    return value.IsNull() ? QString() : ToText(value);
-}
+constexpr auto SourcesDefinition
+    = "CREATE TABLE IF NOT EXISTS LayerSources ("
+      " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
+      " Path TEXT NOT NULL, OgrLayer TEXT NOT NULL, Filter TEXT NOT NULL DEFAULT '')";
 
 } // namespace
 
 void SourceTable::Create()
 {
-    m_database.Execute(QLatin1String(Definition));
+    m_database.Execute(QLatin1String(SourcesDefinition));
     if (!HasColumn("RelativePath"))
         m_database.Execute(QStringLiteral("ALTER TABLE LayerSources ADD COLUMN RelativePath TEXT"));
 }
@@ -39,10 +34,11 @@ std::vector<LayerSource> SourceTable::All() const
                                    .arg(QLatin1String(older ? "NULL" : "RelativePath")));
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
-        const SourcePaths::Place place{Text(*rows, "Path"), Text(*rows, "RelativePath")};
+        const SourcePaths::Place place{
+            ToTextOrNone(rows->Field("Path")), ToTextOrNone(rows->Field("RelativePath"))};
         sources.push_back(
-            {ToInt32(rows->Field("LayerID")), m_paths.Find(place), Text(*rows, "OgrLayer"),
-             Text(*rows, "Filter")});
+            {ToInt32(rows->Field("LayerID")), m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
+             ToTextOrNone(rows->Field("Filter"))});
     }
     return sources;
 }

@@ -13,7 +13,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr double Tolerance = 0.7; // pixels, of a thin line
+constexpr double ThinTolerance = 0.7; // pixels, of a thin line
 constexpr double TolerancePerWidth = 0.25; // a broad pen hides more
 constexpr double SpeckSize = 1; // pixels
 
@@ -55,7 +55,7 @@ bool Holds(const Box& outer, const Box& inner)
 FeaturePainter::FeaturePainter(QPainter& painter, const MapView& view, const LayerLook& look)
     : m_painter(painter), m_view(view), m_look(look)
 {
-    m_tolerance = std::max(Tolerance / DotsPerPixel(painter), TolerancePerWidth * look.outline.widthF());
+    m_tolerance = std::max(ThinTolerance / DotsPerPixel(painter), TolerancePerWidth * look.outline.widthF());
     AlignPattern(painter, m_look.fill, view);
     const double margin = look.Reach();
     m_area = QRectF({0, 0}, QSizeF(view.Size())).adjusted(-margin, -margin, margin, margin);

@@ -68,30 +68,31 @@ std::vector<double> Crossings(std::span<const QPolygonF> rings, double y)
     return crossings;
 }
 
-struct Gap {
+struct FreeSpan {
     double left = 0;
     double right = 0;
     double Width() const { return right - left; }
 };
 
 // The widest stretch that is inside at all of these heights, as good as the text needs it.
-Gap WidestInside(std::span<const QPolygonF> rings, const std::array<double, 3>& heights)
+FreeSpan WidestInside(std::span<const QPolygonF> rings, const std::array<double, 3>& heights)
 {
-    std::vector<Gap> inside{{-1e9, 1e9}};
+    std::vector<FreeSpan> inside{{-1e9, 1e9}};
     for (const double y : heights) {
         const std::vector<double> crossings = Crossings(rings, y);
-        std::vector<Gap> both;
+        std::vector<FreeSpan> both;
         for (size_t i = 1; i < crossings.size(); i += 2) {
-            for (const Gap& gap : inside) {
-                const Gap shared{std::max(gap.left, crossings[i - 1]), std::min(gap.right, crossings[i])};
+            for (const FreeSpan& gap : inside) {
+                const FreeSpan shared{
+                    std::max(gap.left, crossings[i - 1]), std::min(gap.right, crossings[i])};
                 if (shared.Width() > 0)
                     both.push_back(shared);
             }
         }
         inside = std::move(both);
     }
-    Gap widest;
-    for (const Gap& gap : inside)
+    FreeSpan widest;
+    for (const FreeSpan& gap : inside)
         widest = gap.Width() > widest.Width() ? gap : widest;
     return widest;
 }
@@ -137,7 +138,7 @@ std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size)
     std::vector<std::pair<double, LabelSpot>> scored;
     for (int row = 0; row < Rows; ++row) {
         const double y = bounds.top() + bounds.height() * (row + 0.5) / Rows;
-        const Gap gap = WidestInside(rings, {y - size.height() / 2, y, y + size.height() / 2});
+        const FreeSpan gap = WidestInside(rings, {y - size.height() / 2, y, y + size.height() / 2});
         if (gap.Width() < NeededPart * size.width())
             continue;
         // room beyond twice the text counts less than being in the middle

@@ -5,6 +5,7 @@
 #include "ovctrls/LinePatterns.h"
 
 #include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/LayerValues.h>
 
 #include <QImage>
 
@@ -15,9 +16,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int SolidFill = 0;
-constexpr int HollowFill = 15;
-constexpr int FillPatternKind = 7;
 constexpr int FillPatternCount = 32;
 constexpr QRgb OwnSymbolColour = 0xff4a4a4a;
 constexpr QRgb UnclassedColour = 0xffd9d9d9;

@@ -10,7 +10,6 @@ namespace {
 constexpr double MinUnitsPerPixel = 1e-9;
 constexpr double MaxUnitsPerPixel = 1e9;
 constexpr double FittingMargin = 1.04;
-constexpr double MetresPerInch = 0.0254;
 
 } // namespace
 

@@ -8,6 +8,8 @@
 
 namespace Orvane {
 
+inline constexpr double MetresPerInch = 0.0254;
+
 /// Which part of the map a window shows: an immutable value. Map units run east and north, pixels (logical
 /// ones) right and down from the window's top left corner.
 ///

@@ -15,7 +15,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr double BackdropOpacity = 0.3;
 constexpr qint32 LabelMark = std::numeric_limits<qint32>::min();
 
 bool IsDrawn(const MapLayer& layer, const Box& extent, double scaleDenominator)

@@ -14,6 +14,9 @@ class QPainter;
 
 namespace Orvane {
 
+/// How strongly backdrop layers are laid down; 1 is opaque.
+inline constexpr double BackdropOpacity = 0.3;
+
 /// Neighbouring layers that share one image; a sheet of one layer as long as there are few layers.
 struct Sheet {
     std::vector<MapLayer> layers; ///< bottom first; at least one

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/ILayerDatabase.h>
 #include <OrvaneShellLib/IRecordset.h>
 #include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QHash>
@@ -18,11 +19,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int FillPatternKind = 7;
-constexpr int LastFillStyle = 31;
-constexpr int SolidFill = 0;
-constexpr int HollowFill = 15;
-
 // A layer in several groups is listed by the first of them.
 constexpr auto ListedLayers
     = "SELECT Layers.LayerID AS LayerID, Layers.Name AS LayerName, LayerGroups.ID AS GroupID,"
@@ -31,12 +27,6 @@ constexpr auto ListedLayers
       " LEFT JOIN LayerGroups ON LayerGroups.ID = LayerGroupMembers.GroupID"
       " ORDER BY LayerGroups.ID IS NULL, LayerGroups.GroupOrdering, LayerGroups.ID,"
       " LayerGroupMembers.Ordering, Layers.Name, Layers.LayerID";
-
-QString Text(const IRecordset& row, std::string_view column)
-{
-    const Value value = row.Field(column);
-    return value.IsNull() ? QString() : ToText(value);
-}
 
 bool IsPatterned(int fillStyle)
 {
@@ -138,10 +128,10 @@ LegendOf(ILayerDatabase& database, const IShellServices& services, const std::ve
         const Value groupID = rows->Field("GroupID");
         if (!Continues(block, groupID)) {
             AddBlock(legend, std::move(block));
-            block = {groupID, Text(*rows, "GroupName"), 0, {}};
+            block = {groupID, ToTextOrNone(rows->Field("GroupName")), 0, {}};
         }
         ++block.layers;
-        AddLayer(block.rows, RowOf(*layer, Text(*rows, "LayerName"), services), *layer);
+        AddLayer(block.rows, RowOf(*layer, ToTextOrNone(rows->Field("LayerName")), services), *layer);
     }
     AddBlock(legend, std::move(block));
     return legend;

@@ -18,7 +18,7 @@ namespace {
 constexpr double RowHeight = 22;
 constexpr int SampleWidth = 34;
 constexpr int SampleHeight = 16;
-constexpr double Gap = 8;
+constexpr double ColumnGap = 8;
 constexpr double WidestText = 200;
 
 QFont FontOf(const LegendRow& row)
@@ -28,13 +28,13 @@ QFont FontOf(const LegendRow& row)
 
 double Indent(const LegendRow& row)
 {
-    return row.indent * Gap;
+    return row.indent * ColumnGap;
 }
 
 // From the row's left edge to its text.
 double TextStart(const LegendRow& row)
 {
-    return Indent(row) + (row.sample ? SampleWidth + Gap : 0);
+    return Indent(row) + (row.sample ? SampleWidth + ColumnGap : 0);
 }
 
 double WidthOf(const LegendRow& row)
@@ -65,7 +65,8 @@ LegendBlock::Grid LegendBlock::GridWithin(QSizeF room) const
     const int mostRows = Quotient(room.height(), RowHeight);
     if (count == 0 || mostRows < 1 || grid.columnWidth <= SampleWidth)
         return {};
-    const int mostColumns = std::max(1, Quotient(room.width() + 2 * Gap, grid.columnWidth + 2 * Gap));
+    const int mostColumns
+        = std::max(1, Quotient(room.width() + 2 * ColumnGap, grid.columnWidth + 2 * ColumnGap));
     const int columns = m_place == Place::Below ? mostColumns : RoundedUp(count, mostRows);
     grid.columns = std::min({columns, mostColumns, count});
     grid.rows = std::min(RoundedUp(count, grid.columns), mostRows);
@@ -77,7 +78,7 @@ QSizeF LegendBlock::SizeWithin(QSizeF room) const
     const Grid grid = GridWithin(room);
     if (grid.columns == 0)
         return {0, 0};
-    return {grid.columns * (grid.columnWidth + 2 * Gap) - 2 * Gap, grid.rows * RowHeight};
+    return {grid.columns * (grid.columnWidth + 2 * ColumnGap) - 2 * ColumnGap, grid.rows * RowHeight};
 }
 
 void LegendBlock::Paint(QPainter& painter, const QRectF& room) const
@@ -87,7 +88,8 @@ void LegendBlock::Paint(QPainter& painter, const QRectF& room) const
     for (size_t index = 0; index < std::min(places, m_rows.size()); ++index) {
         const size_t column = index / size_t(grid.rows);
         const QPointF corner(
-            double(column) * (grid.columnWidth + 2 * Gap), double(index % size_t(grid.rows)) * RowHeight);
+            double(column) * (grid.columnWidth + 2 * ColumnGap),
+            double(index % size_t(grid.rows)) * RowHeight);
         const QRectF place(room.topLeft() + corner, QSizeF(grid.columnWidth, RowHeight));
         if (index + 1 == places && places < m_rows.size()) {
             const int more = int(m_rows.size() - index);

@@ -2,6 +2,7 @@
 #include "mapkit/output/LegendSample.h"
 
 #include "mapkit/drawing/FeaturePainter.h"
+#include "mapkit/drawing/Sheets.h"
 #include "mapkit/output/PageFonts.h"
 #include "mapkit/output/PageSettings.h"
 #include "mapkit/output/PatternPictures.h"
@@ -19,8 +20,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr qint32 Paper = 0xFFFFFF;
-constexpr double BackdropOpacity = 0.3; // as the map lays backdrops down
+constexpr qint32 White = 0xFFFFFF;
 constexpr int SampleResolution = 288; // three dots a pattern bit
 constexpr double WidestOutline = 0.25; // of the sample's height
 
@@ -79,7 +79,7 @@ void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
 {
     const DrawingValues& values = row.values;
     const FillColours colours{values.color, values.fillForeColor, values.fillBackColor};
-    const FillSample sample{values.fillStyle, row.fillPattern, colours, Paper};
+    const FillSample sample{values.fillStyle, row.fillPattern, colours, White};
     const auto paint = [&](QPainter& onto) { PaintFillSample(onto, area, sample); };
     if (KnowsPatterns(painter))
         paint(painter);

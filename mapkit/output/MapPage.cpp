@@ -4,6 +4,7 @@
 #include "mapkit/data/CoordinateSystems.h"
 #include "mapkit/data/GroundScale.h"
 #include "mapkit/drawing/MapPainter.h"
+#include "mapkit/drawing/MapView.h"
 #include "mapkit/drawing/RoundedScale.h"
 #include "mapkit/drawing/Sheets.h"
 #include "mapkit/output/PageFonts.h"
@@ -25,7 +26,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr double MetresPerInch = 0.0254;
 constexpr double LongestScaleBar = 180;
 constexpr double ScaleBarPart = 0.4; // of the map's width
 constexpr double ScaleBarGap = 8;

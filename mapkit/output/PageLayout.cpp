@@ -12,7 +12,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr double Gap = 12;
+constexpr double BlockGap = 12;
 constexpr double MostForLegend = 1.0 / 3;
 
 // Takes the title's line from the top of the room.
@@ -20,7 +20,7 @@ QRectF TakeTitle(QRectF& room)
 {
     const double height = std::min(QFontMetricsF(PageFonts::Title()).height(), room.height() / 3);
     const QRectF title(room.topLeft(), QSizeF(room.width(), height));
-    room.setTop(title.bottom() + Gap / 2);
+    room.setTop(title.bottom() + BlockGap / 2);
     return title;
 }
 
@@ -35,11 +35,11 @@ QRectF TakeLegend(QRectF& room, const LegendBlock& legend, LegendBlock::Place pl
         return {};
     if (beside) {
         const QRectF taken(room.right() - size.width(), room.top(), size.width(), room.height());
-        room.setRight(taken.left() - Gap);
+        room.setRight(taken.left() - BlockGap);
         return taken;
     }
     const QRectF taken(room.left(), room.bottom() - size.height(), room.width(), size.height());
-    room.setBottom(taken.top() - Gap);
+    room.setBottom(taken.top() - BlockGap);
     return taken;
 }
 

@@ -16,6 +16,10 @@ class Progress;
 /// The number of the RunTimeError for a page that cannot be written.
 inline constexpr int OutputFailed = 10201;
 
+/// The resolutions that are offered, in dots per inch.
+inline constexpr int LeastResolution = 30;
+inline constexpr int MostResolution = 2400;
+
 /// What a page can be written as.
 enum class PageFormat { Pdf, Svg, Png };
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double MetresPerKilometre = 1000;
 constexpr double BarHeight = 5;
-constexpr double Padding = 5;
+constexpr double BarPadding = 5;
 constexpr int Parts = 4;
 constexpr int PaperAlpha = 215; // of 255: the map shimmers through
 
@@ -71,7 +71,7 @@ QSizeF ScaleBar::Size() const
     const double width
         = std::max(m_length + overhang, TextWidth(m_numberText)) + TextWidth(QStringLiteral("0"));
     const double lines = m_numberText.isEmpty() ? 1 : 2;
-    return {width + 2 * Padding, lines * LineHeight() + BarHeight + 2 * Padding};
+    return {width + 2 * BarPadding, lines * LineHeight() + BarHeight + 2 * BarPadding};
 }
 
 void ScaleBar::Paint(QPainter& painter, QPointF topLeft) const
@@ -81,7 +81,8 @@ void ScaleBar::Paint(QPainter& painter, QPointF topLeft) const
     painter.setBrush(QColor(255, 255, 255, PaperAlpha));
     painter.drawRect(QRectF(topLeft, Size()));
     const double above = m_numberText.isEmpty() ? 0 : LineHeight();
-    const QPointF start = topLeft + QPointF(Padding + TextWidth(QStringLiteral("0")) / 2, Padding + above);
+    const QPointF start
+        = topLeft + QPointF(BarPadding + TextWidth(QStringLiteral("0")) / 2, BarPadding + above);
     const QRectF bar(start, QSizeF(m_length, BarHeight));
     painter.setBrush(Qt::white);
     painter.setPen(QPen(Qt::black, 0.75));

@@ -11,7 +11,7 @@ namespace Orvane {
 
 namespace {
 
-QString Text(const char* text)
+QString CheckText(const char* text)
 {
     return QCoreApplication::translate("CheckCommand", text);
 }
@@ -27,8 +27,8 @@ void Tell(const std::vector<MapProblem>& problems, const Terminal& terminal)
 int CheckCommand(const QStringList& arguments, const Terminal& terminal)
 {
     const QCommandLineOption repair(
-        QStringLiteral("repair"), Text(QT_TRANSLATE_NOOP("CheckCommand", "Mend what can be mended.")));
-    CommandReader reader(Text(QT_TRANSLATE_NOOP(
+        QStringLiteral("repair"), CheckText(QT_TRANSLATE_NOOP("CheckCommand", "Mend what can be mended.")));
+    CommandReader reader(CheckText(QT_TRANSLATE_NOOP(
         "CheckCommand",
         "Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.\n"
         "Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.")));
@@ -36,7 +36,7 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
     reader.RequireWords(1, 1);
     reader.Options().addOption(repair);
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), Text(QT_TRANSLATE_NOOP("CheckCommand", "The map file.")));
+        QStringLiteral("MAP"), CheckText(QT_TRANSLATE_NOOP("CheckCommand", "The map file.")));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     const QString map = reader.Words().first();
@@ -44,7 +44,7 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
     Tell(problems, terminal);
     if (problems.empty()) {
         terminal.out
-            << Text(QT_TRANSLATE_NOOP("CheckCommand", "\"%1\" is sound.")).arg(QFileInfo(map).fileName())
+            << CheckText(QT_TRANSLATE_NOOP("CheckCommand", "\"%1\" is sound.")).arg(QFileInfo(map).fileName())
             << '\n';
     }
     terminal.out.flush();

@@ -25,14 +25,14 @@ template <typename Command> int Told(const Terminal& terminal, Command&& command
     }
 }
 
-QString Text(const char* text)
+QString CommandText(const char* text)
 {
     return QCoreApplication::translate("CommandLine", text);
 }
 
 QString HelpText()
 {
-    return Text(QT_TRANSLATE_NOOP(
+    return CommandText(QT_TRANSLATE_NOOP(
         "CommandLine",
         "Orvane, a small desktop map program.\n\n"
         "Without a window it does these, each with a --help of its own:\n"
@@ -52,15 +52,15 @@ bool IsExport(const QStringList& arguments)
 struct WindowOptions {
     QCommandLineOption version{
         {QStringLiteral("v"), QStringLiteral("version")},
-        Text(QT_TRANSLATE_NOOP("CommandLine", "Tell the version."))};
+        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Tell the version."))};
     QCommandLineOption trace{
         QStringLiteral("trace"),
-        Text(QT_TRANSLATE_NOOP(
+        CommandText(QT_TRANSLATE_NOOP(
             "CommandLine", "Write each call between the map and the layer control to FILE.")),
         QStringLiteral("FILE")};
     QCommandLineOption control{
         QStringLiteral("layer-control"),
-        Text(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at once."))};
+        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at once."))};
 };
 
 int TellVersion(const Terminal& terminal)
@@ -77,7 +77,7 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
     CommandReader reader(HelpText());
     reader.Options().addOptions({options.version, options.trace, options.control});
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), Text(QT_TRANSLATE_NOOP("CommandLine", "The map file to open.")),
+        QStringLiteral("MAP"), CommandText(QT_TRANSLATE_NOOP("CommandLine", "The map file to open.")),
         QStringLiteral("[MAP]"));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;

@@ -17,8 +17,6 @@ namespace {
 
 constexpr int ScreenResolution = 96; // of a picture that is measured in pixels
 constexpr int PaperResolution = 300;
-constexpr int LeastResolution = 30;
-constexpr int MostResolution = 2400;
 constexpr double LargestScale = 1; // denominators
 constexpr double SmallestScale = 1e10;
 
@@ -29,14 +27,14 @@ public:
     explicit Mistake(const QString& text) : RunTimeError(OutputFailed, text) { }
 };
 
-QString Text(const char* text)
+QString ExportText(const char* text)
 {
     return QCoreApplication::translate("ExportCommand", text);
 }
 
 QCommandLineOption Option(const char* name, const char* help, const char* value = "")
 {
-    return QCommandLineOption(QString::fromLatin1(name), Text(help), QString::fromLatin1(value));
+    return QCommandLineOption(QString::fromLatin1(name), ExportText(help), QString::fromLatin1(value));
 }
 
 struct Options {
@@ -80,7 +78,7 @@ double NumberOf(const CommandReader& reader, const QCommandLineOption& option, d
     bool ok = false;
     const double number = reader.Value(option).toDouble(&ok);
     if (!ok || !(number >= least && number <= most)) {
-        throw Mistake(Text(QT_TRANSLATE_NOOP("ExportCommand", "--%1 needs a number from %2 to %3."))
+        throw Mistake(ExportText(QT_TRANSLATE_NOOP("ExportCommand", "--%1 needs a number from %2 to %3."))
                           .arg(option.names().first())
                           .arg(least, 0, 'f', 0)
                           .arg(most, 0, 'f', 0));
@@ -93,7 +91,8 @@ PaperSize SizeOf(const CommandReader& reader, const Options& options)
     const QString text = reader.IsSet(options.size) ? reader.Value(options.size) : QStringLiteral("A4");
     const auto size = ReadPaperSize(text, reader.IsSet(options.portrait));
     if (!size)
-        throw Mistake(Text(QT_TRANSLATE_NOOP("ExportCommand", "\"%1\" is no size of a page.")).arg(text));
+        throw Mistake(
+            ExportText(QT_TRANSLATE_NOOP("ExportCommand", "\"%1\" is no size of a page.")).arg(text));
     return *size;
 }
 
@@ -129,8 +128,8 @@ ExportRequest RequestOf(const CommandReader& reader, const Options& options)
 {
     ExportRequest request{reader.Words().value(0), reader.Value(options.file), {}, PageOf(reader, options)};
     if (!FormatOfFile(request.file))
-        throw Mistake(
-            Text(QT_TRANSLATE_NOOP("ExportCommand", "The file to export must end in .pdf, .svg or .png.")));
+        throw Mistake(ExportText(
+            QT_TRANSLATE_NOOP("ExportCommand", "The file to export must end in .pdf, .svg or .png.")));
     if (reader.IsSet(options.scheme))
         request.scheme = reader.Value(options.scheme);
     return request;
@@ -141,7 +140,7 @@ ExportRequest RequestOf(const CommandReader& reader, const Options& options)
 std::variant<int, ExportRequest> ReadExportOptions(const QStringList& arguments, const Terminal& terminal)
 {
     const Options options;
-    CommandReader reader(Text(QT_TRANSLATE_NOOP(
+    CommandReader reader(ExportText(QT_TRANSLATE_NOOP(
         "ExportCommand",
         "Draw a map as PDF, SVG or PNG. The map file is only read.\n"
         "Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.")));
@@ -150,7 +149,7 @@ std::variant<int, ExportRequest> ReadExportOptions(const QStringList& arguments,
         {options.file, options.scheme, options.scale, options.size, options.portrait, options.resolution,
          options.title, options.noLegend, options.noScaleBar, options.mapOnly});
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), Text(QT_TRANSLATE_NOOP("ExportCommand", "The map file.")));
+        QStringLiteral("MAP"), ExportText(QT_TRANSLATE_NOOP("ExportCommand", "The map file.")));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     try {

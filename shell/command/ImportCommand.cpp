@@ -16,7 +16,7 @@ namespace Orvane {
 
 namespace {
 
-QString Text(const char* text)
+QString ImportText(const char* text)
 {
     return QCoreApplication::translate("ImportCommand", text);
 }
@@ -44,12 +44,12 @@ int Import(const QStringList& files, const QString& map, const Terminal& termina
     for (const QString& problem : found.problems)
         TellError(terminal, problem);
     if (found.sources.empty()) {
-        TellError(terminal, Text(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
+        TellError(terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
         return ExitCode::Problems;
     }
     const auto document = QFileInfo::exists(map) ? MapDocument::Open(map) : MapDocument::Create(map);
     AddToMap(*document, found);
-    terminal.out << Text(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
+    terminal.out << ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
                         .arg(QFileInfo(map).fileName())
                         .arg(LayerCount(found))
                  << '\n';
@@ -63,9 +63,10 @@ int ImportCommand(const QStringList& arguments, const Terminal& terminal)
 {
     const QCommandLineOption to(
         QStringLiteral("to"),
-        Text(QT_TRANSLATE_NOOP("ImportCommand", "The map file to add to; it is made when there is none.")),
+        ImportText(
+            QT_TRANSLATE_NOOP("ImportCommand", "The map file to add to; it is made when there is none.")),
         QStringLiteral("MAP"));
-    CommandReader reader(Text(QT_TRANSLATE_NOOP(
+    CommandReader reader(ImportText(QT_TRANSLATE_NOOP(
         "ImportCommand",
         "Add data to a map file: a group for each file, a layer for each of its layers.\n"
         "Exit code: 0 all was added, 1 something was not, 2 the command was not understood.")));
@@ -74,12 +75,13 @@ int ImportCommand(const QStringList& arguments, const Terminal& terminal)
     reader.Options().addOption(to);
     reader.Options().addPositionalArgument(
         QStringLiteral("DATA"),
-        Text(QT_TRANSLATE_NOOP("ImportCommand", "Files, or folders with files in them.")),
+        ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Files, or folders with files in them.")),
         QStringLiteral("DATA..."));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     if (reader.Value(to).isEmpty())
-        return reader.Refuse(terminal, Text(QT_TRANSLATE_NOOP("ImportCommand", "\"--to MAP\" is missing.")));
+        return reader.Refuse(
+            terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "\"--to MAP\" is missing.")));
     return Import(FilesOf(reader.Words()), reader.Value(to), terminal);
 }
 

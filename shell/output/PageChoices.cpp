@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/PageChoices.h"
 
+#include "mapkit/output/PageWriter.h"
 #include "mapkit/output/Papers.h"
 
 #include <QSettings>
@@ -12,8 +13,6 @@ namespace Orvane {
 namespace {
 
 constexpr auto Group = "Output";
-constexpr int LeastResolution = 30;
-constexpr int MostResolution = 2400;
 
 const Paper* PaperNamed(const QString& name)
 {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double Wider = 3; // pixels more than the layer's own line
 constexpr double CasingWider = 2; // pixels more than that
-constexpr int FillOpacity = 70; // of 255
+constexpr int HighlightOpacity = 70; // of 255
 constexpr size_t FewVertices = 20000; // drawn within a frame
 constexpr std::chrono::milliseconds DrawDelay{80};
 constexpr double SymbolGrowth = 2; // pixels
@@ -26,7 +26,7 @@ LayerLook LookFor(const LayerLook& layer, const QColor& colour)
     LayerLook look;
     look.outline = QPen(colour, layer.outline.widthF() + Wider, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     QColor fill = colour;
-    fill.setAlpha(FillOpacity);
+    fill.setAlpha(HighlightOpacity);
     look.fill = fill;
     look.symbol = colour;
     look.symbolRadius = layer.symbolRadius + SymbolGrowth;

@@ -15,7 +15,7 @@ namespace Orvane {
 namespace {
 
 constexpr QRgb Ink = 0xffb3261e;
-constexpr int FillOpacity = 50; // of 255
+constexpr int AreaOpacity = 50; // of 255
 constexpr double VertexSize = 6; // pixels, as all below
 constexpr double SnapSize = 12;
 constexpr double LabelGap = 6;
@@ -185,7 +185,7 @@ void MeasureTool::Paint(QPainter& painter, const MapView& view) const
 void MeasureTool::PaintShape(QPainter& painter, const QPolygonF& pixels) const
 {
     QColor fill = QColor::fromRgb(Ink);
-    fill.setAlpha(FillOpacity);
+    fill.setAlpha(AreaOpacity);
     const std::array<QPen, 2> pens = {QPen(Qt::white, 4), QPen(QColor::fromRgb(Ink), 2)};
     painter.setBrush(Qt::NoBrush);
     for (const QPen& pen : pens) {

@@ -3,6 +3,8 @@
 
 #include "hostkit/HostKitTest.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QSet>
 
 #include <algorithm>
@@ -21,7 +23,7 @@ int Ink(int fillStyle)
 
 TEST(FillPatterns, AreEightByEightPixels)
 {
-    for (int fillStyle = 0; fillStyle < FillPatterns::Count; ++fillStyle) {
+    for (int fillStyle = 0; fillStyle <= LastFillStyle; ++fillStyle) {
         const MonochromeBitmap bitmap = FillPatterns::Bitmap(fillStyle);
         EXPECT_EQ(bitmap.width, 8);
         EXPECT_EQ(bitmap.height, 8);
@@ -32,16 +34,16 @@ TEST(FillPatterns, AreEightByEightPixels)
 TEST(FillPatterns, AllThirtyTwoDiffer)
 {
     QSet<QByteArray> patterns;
-    for (int fillStyle = 0; fillStyle < FillPatterns::Count; ++fillStyle)
+    for (int fillStyle = 0; fillStyle <= LastFillStyle; ++fillStyle)
         patterns.insert(FillPatterns::Bitmap(fillStyle).rows);
     EXPECT_EQ(patterns.size(), 32);
 }
 
 TEST(FillPatterns, OnlySolidIsFullAndOnlyHollowIsEmpty)
 {
-    for (int fillStyle = 0; fillStyle < FillPatterns::Count; ++fillStyle) {
-        EXPECT_EQ(Ink(fillStyle) == 64, fillStyle == FillPatterns::Solid) << fillStyle;
-        EXPECT_EQ(Ink(fillStyle) == 0, fillStyle == FillPatterns::Hollow) << fillStyle;
+    for (int fillStyle = 0; fillStyle <= LastFillStyle; ++fillStyle) {
+        EXPECT_EQ(Ink(fillStyle) == 64, fillStyle == SolidFill) << fillStyle;
+        EXPECT_EQ(Ink(fillStyle) == 0, fillStyle == HollowFill) << fillStyle;
     }
 }
 

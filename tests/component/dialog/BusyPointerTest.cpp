@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/BusyPointer.h"
+#include "ovctrls/BusyPointer.h"
 
 #include "component/dialog/EditorFixture.h"
 
@@ -78,6 +78,7 @@ protected:
                 action->trigger();
         }
         menu->close();
+        QCoreApplication::processEvents();
     }
 
     PointerWatcher client{host};

@@ -65,7 +65,7 @@ TEST(Clipping, ARingInsideKeepsItsCorners)
 
 TEST(Clipping, ARingOutsideLeavesNothing)
 {
-    EXPECT_TRUE(ClipRing(QPolygonF({{200, 10}, {220, 10}, {215, 30}}), Area).isEmpty());
+    EXPECT_TRUE(ClipRing(QPolygonF(QList<QPointF>{{200, 10}, {220, 10}, {215, 30}}), Area).isEmpty());
     EXPECT_TRUE(ClipRing(QPolygonF(), Area).isEmpty());
 }
 
@@ -74,19 +74,19 @@ TEST(Clipping, ALineIsCutIntoTheRunsThatAreInside)
     const QPolygonF line({{-10, 5}, {5, 5}, {5, 30}, {8, 30}, {8, 5}, {8, 2}});
     const std::vector<ClippedRun> runs = ClipLine(line, QRectF(0, 0, 10, 10));
     ASSERT_EQ(runs.size(), 2u);
-    EXPECT_EQ(runs[0].points, QPolygonF({{0, 5}, {5, 5}, {5, 10}}));
+    EXPECT_EQ(runs[0].points, QPolygonF(QList<QPointF>{{0, 5}, {5, 5}, {5, 10}}));
     EXPECT_EQ(runs[0].lengthBefore, 10);
-    EXPECT_EQ(runs[1].points, QPolygonF({{8, 10}, {8, 5}, {8, 2}}));
+    EXPECT_EQ(runs[1].points, QPolygonF(QList<QPointF>{{8, 10}, {8, 5}, {8, 2}}));
     EXPECT_EQ(runs[1].lengthBefore, 15 + 25 + 3 + 20);
 }
 
 TEST(Clipping, ALineInsideIsOneRunAndOneOutsideNone)
 {
     const QRectF area(0, 0, 10, 10);
-    const QPolygonF inside({{1, 1}, {9, 9}, {9, 1}});
+    const QPolygonF inside(QList<QPointF>{{1, 1}, {9, 9}, {9, 1}});
     ASSERT_EQ(ClipLine(inside, area).size(), 1u);
     EXPECT_EQ(ClipLine(inside, area)[0].points, inside);
-    EXPECT_TRUE(ClipLine(QPolygonF({{-5, -5}, {-1, 20}}), area).empty());
+    EXPECT_TRUE(ClipLine(QPolygonF(QList<QPointF>{{-5, -5}, {-1, 20}}), area).empty());
     EXPECT_TRUE(ClipLine(QPolygonF(), area).empty());
 }
 

@@ -13,7 +13,7 @@ constexpr QSizeF Size(40, 12);
 
 QPolygonF Rectangle(double left, double top, double right, double bottom)
 {
-    return QPolygonF({{left, top}, {right, top}, {right, bottom}, {left, bottom}});
+    return QPolygonF(QList<QPointF>{{left, top}, {right, top}, {right, bottom}, {left, bottom}});
 }
 
 } // namespace
@@ -30,7 +30,7 @@ TEST(LabelSpots, APointsTextFirstStandsAtItsRight)
 
 TEST(LabelSpots, ALinesTextStandsAboveItsMiddleAndFollowsIt)
 {
-    const std::vector<LabelSpot> spots = AlongLine(QPolygonF({{0, 0}, {100, 100}}), 1, Size);
+    const std::vector<LabelSpot> spots = AlongLine(QPolygonF(QList<QPointF>{{0, 0}, {100, 100}}), 1, Size);
     ASSERT_FALSE(spots.empty());
     EXPECT_DOUBLE_EQ(spots[0].angle, 45);
     EXPECT_NEAR(spots[0].centre.x() - 50, 50 - spots[0].centre.y(), 1e-9);
@@ -39,7 +39,7 @@ TEST(LabelSpots, ALinesTextStandsAboveItsMiddleAndFollowsIt)
 
 TEST(LabelSpots, TheTextOfABroadLineStandsOnIt)
 {
-    const std::vector<LabelSpot> spots = AlongLine(QPolygonF({{0, 50}, {100, 50}}), 14, Size);
+    const std::vector<LabelSpot> spots = AlongLine(QPolygonF(QList<QPointF>{{0, 50}, {100, 50}}), 14, Size);
     ASSERT_FALSE(spots.empty());
     EXPECT_EQ(spots[0].centre, QPointF(50, 50));
 }
@@ -68,8 +68,8 @@ TEST(LabelSpots, ABentLineIsNamedWhereItIsStraight)
 
 TEST(LabelSpots, AShortLineAndAPointOfALineHaveNoPlace)
 {
-    EXPECT_TRUE(AlongLine(QPolygonF({{0, 0}, {30, 0}}), 1, Size).empty());
-    EXPECT_TRUE(AlongLine(QPolygonF({{0, 0}}), 1, Size).empty());
+    EXPECT_TRUE(AlongLine(QPolygonF(QList<QPointF>{{0, 0}, {30, 0}}), 1, Size).empty());
+    EXPECT_TRUE(AlongLine(QPolygonF(QList<QPointF>{{0, 0}}), 1, Size).empty());
     EXPECT_TRUE(AlongLine(QPolygonF(), 1, Size).empty());
 }
 

@@ -6,6 +6,8 @@
 #include "mapkit/output/PageSettings.h"
 #include "samples/FillSample.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QImage>
 #include <QPainter>
 
@@ -27,7 +29,7 @@ LegendRow Row(FeatureKind kind, const DrawingValues& values)
     row.kind = kind;
     row.values = values;
     row.look = LookOf(values, StandardShellServices(), PagePixelsPerMillimetre);
-    if (values.fillStyle > 0 && values.fillStyle != FillPatterns::Hollow)
+    if (values.fillStyle > 0 && values.fillStyle != HollowFill)
         row.fillPattern = FillPatterns::Bitmap(values.fillStyle);
     return row;
 }
@@ -75,7 +77,7 @@ int PixelsDown(const QImage& image, QColor colour)
 
 TEST(LegendSample, EveryFillLooksAsTheFillListShowsIt)
 {
-    for (int style = 0; style < FillPatterns::Count; ++style) {
+    for (int style = 0; style <= LastFillStyle; ++style) {
         QImage expected(48, 28, QImage::Format_RGB32);
         expected.fill(Qt::white);
         const LegendRow row = Row(FeatureKind::Area, Filled(style));

@@ -49,7 +49,7 @@ protected:
     }
 
     const std::unique_ptr<MapDocument> m_document = MapDocument::Untitled();
-    const StandardShellServices m_services;
+    const StandardShellServices m_services{};
     std::vector<MapLayer> m_layers;
 };
 

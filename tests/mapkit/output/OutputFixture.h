@@ -56,8 +56,8 @@ protected:
     }
 
     const std::unique_ptr<MapDocument> m_document = MapDocument::Untitled();
-    const StandardShellServices m_services;
-    const DataFolder m_folder;
+    const StandardShellServices m_services{};
+    const DataFolder m_folder{};
     std::vector<MapLayer> m_layers;
 };
 

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+/// What the numbers in a layer's columns mean that are no plain quantities.
+namespace Orvane {
+
+/// A colour that paints nothing. Colours are BGR integers, red in the low byte; any bit of the top byte makes
+/// a fill colour transparent, and this is how it is written. In a line colour the same byte says that symbols
+/// keep their own.
+inline constexpr qint32 TransparentColour = qint32(0xFF000000u);
+
+/// The fill styles: 0 to LastFillStyle, all patterns but these two.
+inline constexpr qint16 SolidFill = 0;
+inline constexpr qint16 HollowFill = 15;
+inline constexpr qint16 LastFillStyle = 31;
+
+/// The kind by which fill patterns are asked of IShellServices::FillPattern.
+inline constexpr int FillPatternKind = 7;
+
+/// The quick modes, as nodes show them; the OverrideMode column holds 0, 1 and 2 for the last three.
+namespace QuickMode {
+
+inline constexpr qint16 Various = 0; ///< members differ; never stored
+inline constexpr qint16 Normal = 1;
+inline constexpr qint16 Backdrop = 2;
+inline constexpr qint16 Hidden = 4;
+
+} // namespace QuickMode
+
+} // namespace Orvane
