@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/LayerTrees.h"
 
-#include "component/dialog/BusyPointer.h"
 #include "component/dialog/LayerTreeGestures.h"
 #include "component/dialog/LayerTreeList.h"
 #include "component/dialog/LayerTreeModel.h"
@@ -13,11 +12,11 @@
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerNames.h"
 #include "component/model/LayerTreeReader.h"
+#include "ovctrls/BusyPointer.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QPointer>
-#include <QTimer>
 #include <QTreeView>
 
 #include <algorithm>
@@ -76,10 +75,11 @@ void LayerTrees::Wire(LayerTreeList& list)
     connect(gestures, &LayerTreeGestures::DeleteRequested, this, &LayerTrees::DeleteRequested);
     // Later: the window system gives the focus back from the menu first, which would end the edit.
     connect(gestures, &LayerTreeGestures::RenameRequested, this, [this, &list] {
-        QTimer::singleShot(0, this, [this, &list] { GuardEvent(&list.View(), [&] { EditCurrentName(); }); });
+        GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); });
     });
+    // Later: a failure is told in a box.
     connect(gestures, &LayerTreeGestures::ExpandAllRequested, this, [this, &list](bool expanded) {
-        GuardEvent(&list.View(), [&] { ExpandAll(list, expanded); });
+        GuardAfterEvent(this, &list.View(), [this, &list, expanded] { ExpandAll(list, expanded); });
     });
 }
 
@@ -146,7 +146,6 @@ void LayerTrees::Replace(List list, const std::function<void()>& fill)
     LayerTreeList& target = At(list);
     const std::optional<NodeReference> before = target.Current();
     fill();
-    emit ListReloaded(list);
     const std::optional<NodeReference>& after = target.Current();
     const bool moved = before && (!after || !IsSameNode(*before, *after));
     if (moved && list == m_shown)

@@ -103,8 +103,6 @@ public:
 signals:
     /// The dialog's current node is another one, or none.
     void CurrentNodeChanged();
-    /// The nodes of the list were read anew.
-    void ListReloaded(Orvane::LayerTrees::List list);
     /// The person pressed Delete in a tree.
     void DeleteRequested();
 

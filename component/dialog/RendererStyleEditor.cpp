@@ -14,7 +14,7 @@ namespace Orvane {
 
 RendererStyleEditor::RendererStyleEditor(QComboBox& list) : m_list(list)
 {
-    connect(&list, &QComboBox::currentIndexChanged, this, [this] {
+    connect(&list, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         GuardEvent(m_list.window(), [this] { NotifyChanged(&m_list); });
     });
 }

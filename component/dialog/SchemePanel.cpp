@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/SchemePanel.h"
 
-#include "component/dialog/BusyPointer.h"
 #include "component/dialog/FirstError.h"
 #include "component/entry/Component.h"
 #include "component/entry/EventGuard.h"
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
 #include "messages/NameInText.h"
+#include "ovctrls/BusyPointer.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
@@ -20,12 +20,6 @@ namespace Orvane {
 namespace {
 
 constexpr int NameWidth = 20;
-constexpr qsizetype LongestName = 80; // characters in a question
-
-QString Shown(const QString& name)
-{
-    return NameInText(name, LongestName);
-}
 
 } // namespace
 
@@ -37,7 +31,7 @@ SchemePanel::SchemePanel(const Widgets& widgets, QObject* parent) : QObject(pare
     Wire(widgets.cmdDelete, &SchemePanel::Delete);
     Wire(widgets.cmdSaveStartup, &SchemePanel::SaveToStartup);
     connect(widgets.cmbScheme, &QComboBox::textActivated, this, [this](const QString& name) {
-        GuardEvent(Owner(), [&] { SwitchTo(name); });
+        GuardAfterEvent(this, Owner(), [this, name] { SwitchTo(name); });
     });
 }
 
@@ -56,7 +50,8 @@ void SchemePanel::SwitchTo(const QString& name)
         return;
     }
     const QString question = TranslateMsg(
-        "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?", Shown(name));
+        "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?",
+        NameInQuestion(name));
     const QPointer self(this); // the host may end the dialog while the question waits
     if (Confirm(question))
         LoadAndShow(name);
@@ -88,7 +83,7 @@ void SchemePanel::New()
 void SchemePanel::Save()
 {
     const QString name = m_widgets.cmbScheme->currentText();
-    if (!Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", Shown(name))))
+    if (!Confirm(TranslateMsg("Save current layer setup to scheme '^1'?", NameInQuestion(name))))
         return;
     const BusyPointer busy;
     Client().SaveScheme(name);
@@ -97,7 +92,7 @@ void SchemePanel::Save()
 void SchemePanel::Revert()
 {
     const QString name = m_widgets.cmbScheme->currentText();
-    if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", Shown(name))))
+    if (!Confirm(TranslateMsg("Revert to the last saved values in layer scheme '^1'?", NameInQuestion(name))))
         return;
     LoadAndShow(name);
 }
@@ -110,7 +105,7 @@ void SchemePanel::Delete()
             Owner(), TranslateMsg("The last layer scheme cannot be deleted."), BoxStyle::OkInformation);
         return;
     }
-    if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", Shown(name))))
+    if (!Confirm(TranslateMsg("Delete layer scheme '^1'?", NameInQuestion(name))))
         return;
     const QPointer self(this);
     ChangeSchemes([&] {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <exception>
@@ -31,6 +32,16 @@ template <typename Action> bool GuardEvent(QWidget* owner, Action&& action) noex
         ReportUnknownError(alive);
     }
     return false;
+}
+
+/// The same once the event is over that is handled now. For all that waits for the user (a question, a
+/// picker's dialog): the host may end the dialog meanwhile, and Qt still uses the widget that the event came
+/// from. context: without it the action is not run. owner: may be destroyed before.
+template <typename Action> void GuardAfterEvent(QObject* context, QWidget* owner, Action action)
+{
+    QTimer::singleShot(0, context, [owner = QPointer<QWidget>(owner), action = std::move(action)] {
+        GuardEvent(owner, action);
+    });
 }
 
 /// The guard of painting, where no window may open: what the action raises leaves the picture unfinished.

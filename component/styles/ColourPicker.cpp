@@ -28,7 +28,7 @@ ColourPicker::ColourPicker(OvCombo& combo, const QString& stylePrefix, Offer off
       m_stylePrefix(stylePrefix), m_offer(offer)
 {
     combo.SetRenderer(StyleStringRenderer(stylePrefix));
-    connect(&combo, &OvCombo::activated, this, &ColourPicker::OnPicked);
+    connect(&combo, QOverload<int>::of(&OvCombo::activated), this, &ColourPicker::OnPicked);
     combo.installEventFilter(this);
 }
 
@@ -118,11 +118,12 @@ bool ColourPicker::eventFilter(QObject*, QEvent* event)
 
 void ColourPicker::OnPicked()
 {
-    GuardEvent(m_list.Combo().window(), [this] {
-        if (m_list.IsSelected(Special::Custom)) {
-            ChooseCustomColour();
-            return;
-        }
+    QWidget* owner = m_list.Combo().window();
+    if (m_list.IsSelected(Special::Custom)) {
+        GuardAfterEvent(this, owner, [this] { ChooseCustomColour(); });
+        return;
+    }
+    GuardEvent(owner, [this] {
         m_shown = GetSelectedColour();
         emit Changed();
     });

@@ -38,7 +38,7 @@ LineStylePicker::LineStylePicker(OvCombo& combo, const QString& stylePrefix, Ask
       m_stylePrefix(stylePrefix), m_askLineWidth(std::move(askLineWidth))
 {
     combo.SetRenderer(StyleStringRenderer(stylePrefix));
-    connect(&combo, &OvCombo::activated, this, &LineStylePicker::OnPicked);
+    connect(&combo, QOverload<int>::of(&OvCombo::activated), this, &LineStylePicker::OnPicked);
     combo.installEventFilter(this);
 }
 
@@ -130,12 +130,11 @@ bool LineStylePicker::eventFilter(QObject*, QEvent* event)
 
 void LineStylePicker::OnPicked()
 {
-    GuardEvent(m_list.Combo().window(), [this] {
-        if (m_list.IsSelected(Special::Custom))
-            ChooseCustomWidth();
-        else
-            emit Changed();
-    });
+    QWidget* owner = m_list.Combo().window();
+    if (m_list.IsSelected(Special::Custom))
+        GuardAfterEvent(this, owner, [this] { ChooseCustomWidth(); });
+    else
+        GuardEvent(owner, [this] { emit Changed(); });
 }
 
 void LineStylePicker::ChooseCustomWidth()

@@ -3,11 +3,14 @@
 
 #include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/frmLayerStyles.h"
+#include "support/Without.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QSlider>
 #include <QTimer>
@@ -185,6 +188,19 @@ void EditorFixture::ClickNode(QTreeView& tree, const QString& text)
     QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(index).center());
 }
 
+void EditorFixture::PickScheme(const QString& name)
+{
+    auto& list = Find<QComboBox>("cmbScheme");
+    QTest::mouseClick(&list, Qt::LeftButton, {}, list.rect().center());
+    QAbstractItemView& entries = *list.view();
+    ASSERT_TRUE(entries.isVisible());
+    QTest::keyClick(&entries, Qt::Key_Home);
+    for (int row = list.findText(name); row > 0; --row)
+        QTest::keyClick(&entries, Qt::Key_Down);
+    QTest::keyClick(&entries, Qt::Key_Return);
+    QCoreApplication::processEvents();
+}
+
 void EditorFixture::ClickLayer(const QString& text)
 {
     ClickNode(CurrentTab() == 1 ? Find<QTreeView>("tvLayers1") : Find<QTreeView>("tvLayers2"), text);
@@ -256,8 +272,8 @@ int EditorFixture::CurrentTab()
 
 QStringList EditorFixture::NewCalls()
 {
-    QStringList calls = host.Calls();
-    calls.removeIf([](const QString& call) { return call.startsWith("LayerDisplayName"); });
+    const QStringList calls
+        = Without(host.Calls(), [](const QString& call) { return call.startsWith("LayerDisplayName"); });
     host.ClearLog();
     return calls;
 }

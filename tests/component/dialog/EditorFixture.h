@@ -78,6 +78,8 @@ protected:
     void ClickTab(int tab);
     void ClickLayer(const QString& text);
     void ClickGroup(const QString& text);
+    /// Opens the list of schemes with the mouse and goes to the entry by keys.
+    void PickScheme(const QString& name);
     /// A key to the control that has the focus, or would have it.
     void Key(int key);
     /// Presses the button and does that in the slider that opens; false when none opened.

@@ -90,7 +90,7 @@ public:
     void SetUp() override
     {
         AddTown();
-        host.schemeNames = {"Day", "Night"};
+        host.schemeNames = QStringList{"Day", "Night"};
         host.currentScheme = "Day";
         UseClient(client);
     }

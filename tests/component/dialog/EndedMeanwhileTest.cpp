@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/frmDropSlider.h"
 #include "component/dialog/EndedMeanwhileFixture.h"
+#include "support/PickByMouse.h"
 
 #include <QColorDialog>
 #include <QComboBox>
@@ -168,9 +169,7 @@ void Slider(EndedMeanwhile& test)
 
 void PickCustom(QComboBox& list)
 {
-    const int index = list.findText("Custom", Qt::MatchStartsWith);
-    list.setCurrentIndex(index);
-    emit list.activated(index);
+    PickByMouse(list, list.findText("Custom", Qt::MatchStartsWith));
 }
 
 void LineWidthDialog(EndedMeanwhile& test)
@@ -229,7 +228,10 @@ void SchemeName(EndedMeanwhile& test)
 void SchemeSwitch(EndedMeanwhile& test)
 {
     test.OpenOnSchemes();
-    test.AtTheBox([&] { QTest::keyPress(&test.Find("cmbScheme"), Qt::Key_Down); });
+    test.AtTheBox([&] {
+        QTest::keyPress(&test.Find("cmbScheme"), Qt::Key_Down);
+        QCoreApplication::processEvents();
+    });
 }
 
 void SchemeQuestions(EndedMeanwhile& test)
@@ -258,6 +260,7 @@ void SchemeSwitching(EndedMeanwhile& test)
     test.client.meanwhile = [&] { test.End(); };
     const MessageBoxRobot person{BoxKey::Yes};
     QTest::keyPress(&test.Find("cmbScheme"), Qt::Key_Down);
+    QCoreApplication::processEvents();
 }
 
 void SchemeCreating(EndedMeanwhile& test)

@@ -55,7 +55,7 @@ void TurnWheel(QWidget& control)
 {
     const QPointF place = control.rect().center();
     QWheelEvent event(
-        place, control.mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+        place, control.mapToGlobal(place.toPoint()), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
         Qt::NoScrollPhase, false);
     QApplication::sendEvent(&control, &event);
 }
@@ -103,10 +103,9 @@ protected:
             if (control->isVisible() && !key.isEmpty())
                 captions[key].append(text);
         }
-        captions.removeIf([](const auto& entry) { return entry.value().size() < 2; });
         QStringList shared;
         for (const QStringList& some : captions)
-            shared += some;
+            shared += some.size() > 1 ? some : QStringList();
         return shared;
     }
 
@@ -172,7 +171,7 @@ TEST_F(ForThePerson, EveryTextHasRoomInEveryLanguage)
 
 TEST_F(ForThePerson, TheWheelChangesNoListThatHasNotTheFocus)
 {
-    host.schemeNames = {"Standard", "Night"};
+    host.schemeNames = QStringList{"Standard", "Night"};
     OpenOn("Roads");
     const auto texts = [this] {
         QStringList shown;

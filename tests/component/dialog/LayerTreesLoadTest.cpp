@@ -73,16 +73,6 @@ TEST_F(LayerTreesLoadTest, DoesNotStoreTheExpansionThatALoadSets)
     EXPECT_THAT(host.Log().CallsTo("Update"), ElementsAre());
 }
 
-TEST_F(LayerTreesLoadTest, TellsWhichListWasReloaded)
-{
-    QSignalSpy reloads(&trees, &LayerTrees::ListReloaded);
-    trees.LoadGroups();
-    trees.LoadLayers();
-    ASSERT_EQ(reloads.count(), 2);
-    EXPECT_EQ(reloads[0][0].value<LayerTrees::List>(), List::Groups);
-    EXPECT_EQ(reloads[1][0].value<LayerTrees::List>(), List::Layers);
-}
-
 TEST_F(LayerTreesLoadTest, LeavesOutWhatTheFilterHides)
 {
     const FilterOnOne filter(12);

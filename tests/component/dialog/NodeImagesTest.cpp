@@ -101,7 +101,7 @@ TEST(NodeImages, TakeTheTextColoursOfThePalette)
     const NodeImages images;
     const QIcon icon = images.Icon(false, 1, PaletteOf(Qt::yellow, Qt::cyan), QPalette::Active);
     EXPECT_TRUE(HasPixel(icon.pixmap(32, 32).toImage(), Qt::yellow));
-    EXPECT_TRUE(HasPixel(icon.pixmap(QSize(32, 32), 1.0, QIcon::Selected).toImage(), Qt::cyan));
+    EXPECT_TRUE(HasPixel(icon.pixmap(QSize(32, 32), QIcon::Selected).toImage(), Qt::cyan));
 }
 
 TEST(NodeImages, AreMadeOnceForAPaletteAndAnewForAnother)

@@ -248,7 +248,7 @@ TEST_F(Panel, TheSliderStartsWhereTheLabelStands)
 
 TEST_F(Panel, EachSliderHangsUnderItsOwnButtonAndSaysItsLabel)
 {
-    Form()->move(0, 0);
+    Form()->move(0, -80); // so that the lowest popup has its place on a screen 600 pixels high
     ClickLayer("Rivers");
     const std::vector<std::pair<const char*, const char*>> pairs{
         {"cmdEditMinScale", "lblScaleMin"},

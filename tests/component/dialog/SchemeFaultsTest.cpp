@@ -58,7 +58,7 @@ protected:
     void SetUp() override
     {
         AddTown();
-        host.schemeNames = {"Day", "Night", "Print"};
+        host.schemeNames = QStringList{"Day", "Night", "Print"};
         host.currentScheme = "Night";
         UseClient(m_client);
         Open();
@@ -67,17 +67,6 @@ protected:
 
     QComboBox& List() { return Find<QComboBox>("cmbScheme"); }
 
-    void Pick(const QString& name)
-    {
-        QTest::mouseClick(&List(), Qt::LeftButton, {}, List().rect().center());
-        QAbstractItemView& entries = *List().view();
-        ASSERT_TRUE(entries.isVisible());
-        QTest::keyClick(&entries, Qt::Key_Home);
-        for (int row = List().findText(name); row > 0; --row)
-            QTest::keyClick(&entries, Qt::Key_Down);
-        QTest::keyClick(&entries, Qt::Key_Return);
-    }
-
     FaultySchemes m_client{host};
 };
 
@@ -85,7 +74,7 @@ TEST_F(SchemeFaults, ASwitchThatFailsShowsTheHostsSchemeAndRestoresThePointer)
 {
     m_client.faulty = "LoadScheme";
     MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
-    Pick("Print");
+    PickScheme("Print");
     ASSERT_EQ(person.Boxes().size(), 2u);
     EXPECT_TRUE(person.Boxes()[1].text.contains(Fault));
     EXPECT_EQ(List().currentText(), "Night");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
+#include "support/Without.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -21,7 +22,7 @@ protected:
     void SetUp() override
     {
         AddTown();
-        host.schemeNames = {"Day", "Night", "Print"};
+        host.schemeNames = QStringList{"Day", "Night", "Print"};
         host.currentScheme = "Night";
         Open();
         ClickTab(3);
@@ -38,25 +39,12 @@ protected:
         return names;
     }
 
-    // Opens the list with the mouse and goes to the entry by keys.
-    void Pick(const QString& name)
-    {
-        QTest::mouseClick(&List(), Qt::LeftButton, {}, List().rect().center());
-        QAbstractItemView& entries = *List().view();
-        ASSERT_TRUE(entries.isVisible());
-        QTest::keyClick(&entries, Qt::Key_Home);
-        for (int row = List().findText(name); row > 0; --row)
-            QTest::keyClick(&entries, Qt::Key_Down);
-        QTest::keyClick(&entries, Qt::Key_Return);
-    }
-
     /// The calls that change something.
     QStringList Deeds()
     {
-        QStringList calls = NewCalls();
-        calls.removeIf(
-            [](const QString& call) { return call.startsWith("Get") || call.startsWith("Theme"); });
-        return calls;
+        return Without(NewCalls(), [](const QString& call) {
+            return call.startsWith("Get") || call.startsWith("Theme");
+        });
     }
 };
 
@@ -68,14 +56,14 @@ TEST_F(Schemes, AreListedInTheHostsOrderAndShowTheCurrentOne)
 
 TEST_F(Schemes, PickingTheCurrentOneAsksNothing)
 {
-    Pick("Night");
+    PickScheme("Night");
     EXPECT_THAT(Deeds(), IsEmpty());
 }
 
 TEST_F(Schemes, PickingAnotherAsksAndSwitches)
 {
     MessageBoxRobot person{BoxKey::Yes};
-    Pick("Print");
+    PickScheme("Print");
     EXPECT_EQ(
         person.Only().text,
         "Switch to 'Print'? Any unsaved changes to the current scheme will be lost. Continue?");
@@ -87,7 +75,7 @@ TEST_F(Schemes, PickingAnotherAsksAndSwitches)
 TEST_F(Schemes, RefusingShowsTheCurrentOneAgain)
 {
     MessageBoxRobot person{BoxKey::No};
-    Pick("Print");
+    PickScheme("Print");
     EXPECT_THAT(Deeds(), IsEmpty());
     EXPECT_EQ(List().currentText(), "Night");
 }
@@ -97,7 +85,7 @@ TEST_F(Schemes, SwitchingShowsTheBusyPointerMeanwhile)
     bool wasBusy = false;
     host.OnLoadScheme = [&](const QString&) { wasBusy = QGuiApplication::overrideCursor() != nullptr; };
     MessageBoxRobot person{BoxKey::Yes};
-    Pick("Day");
+    PickScheme("Day");
     EXPECT_TRUE(wasBusy);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -106,7 +94,7 @@ TEST_F(Schemes, SwitchingRefreshesTheCaption)
 {
     host.OnLoadScheme = [&](const QString&) { host.themeName = "Rivers"; };
     MessageBoxRobot person{BoxKey::Yes};
-    Pick("Day");
+    PickScheme("Day");
     EXPECT_EQ(Form()->windowTitle(), "Theme Control: Rivers");
 }
 
@@ -114,7 +102,7 @@ TEST_F(Schemes, ASwitchShowsWhatTheHostMadeCurrent)
 {
     host.OnLoadScheme = [&](const QString&) { host.currentScheme = "Day"; };
     MessageBoxRobot person{BoxKey::Yes};
-    Pick("Print");
+    PickScheme("Print");
     EXPECT_EQ(List().currentText(), "Day");
 }
 
@@ -144,7 +132,7 @@ TEST_F(Schemes, SwitchingReadsTheLayersAnew)
 {
     host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
     MessageBoxRobot person{BoxKey::Yes};
-    Pick("Day");
+    PickScheme("Day");
     ClickTab(2);
     ClickLayer("Roads");
     EXPECT_EQ(PressedModes(), 4);
@@ -222,7 +210,7 @@ TEST_F(Schemes, DeletingFallsBackToTheNextOne)
 TEST_F(Schemes, DeletingTheLastInTheListFallsBackToTheOneBefore)
 {
     MessageBoxRobot person{BoxKey::Yes, BoxKey::Yes};
-    Pick("Print");
+    PickScheme("Print");
     Click("cmdDelete");
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "LoadScheme(Night)", "DeleteScheme(Print)"));
 }
@@ -268,6 +256,7 @@ TEST_F(Schemes, KeysSwitchToo)
     MessageBoxRobot person{BoxKey::Yes};
     List().setFocus();
     QTest::keyClick(&List(), Qt::Key_Down);
+    QCoreApplication::processEvents();
     EXPECT_TRUE(person.Only().text.contains("'Print'"));
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)"));
 }
@@ -283,7 +272,7 @@ TEST_F(Schemes, FillingAsksAndCallsNothing)
 TEST_F(Schemes, ThoseThatTheHostHasMeanwhileAreListedWhenTheTabIsLookedAtAgain)
 {
     ClickTab(2);
-    host.schemeNames = {"Day", "Dusk"};
+    host.schemeNames = QStringList{"Day", "Dusk"};
     host.currentScheme = "Dusk";
     ClickTab(3);
     EXPECT_THAT(Names(), ElementsAre("Day", "Dusk"));
@@ -299,7 +288,7 @@ TEST_F(Schemes, AnyTextIsAName)
         Click("cmdNew");
         EXPECT_THAT(Names(), Contains(name));
         MessageBoxRobot person{BoxKey::Yes};
-        Pick(name == host.currentScheme ? QString("Day") : name);
+        PickScheme(name == host.currentScheme ? QString("Day") : name);
         EXPECT_EQ(person.Only().format, Qt::PlainText);
         EXPECT_LT(person.Only().text.size(), 200);
         EXPECT_EQ(List().currentText(), host.currentScheme);
@@ -316,7 +305,7 @@ TEST_F(Schemes, AVeryLongNameLeavesTheWindowsWidth)
 
 TEST_F(Schemes, ACurrentOneThatIsNotListedOffersNothingToSave)
 {
-    host.schemeNames = {"Day"};
+    host.schemeNames = QStringList{"Day"};
     host.currentScheme = "Elsewhere";
     host.promptAnswers = {{true, "Winter"}};
     Click("cmdNew");

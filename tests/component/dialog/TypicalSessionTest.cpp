@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
+#include "support/Without.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
 
@@ -24,8 +25,7 @@ protected:
     /// All calls since the last look, without the names, the columns and the pictures of fill styles.
     QStringList NewTrace()
     {
-        QStringList calls = host.Log().Trace();
-        calls.removeIf([](const QString& call) {
+        const QStringList calls = Without(host.Log().Trace(), [](const QString& call) {
             return call.startsWith("LayerDisplayName") || call.startsWith("SetField")
                 || call.contains("Scale") || call.startsWith("FillPattern");
         });

@@ -51,7 +51,7 @@ void PickersFixture::Turn(OvCombo& list, int angle)
 {
     const QPointF middle = QRectF(list.rect()).center();
     QWheelEvent event(
-        middle, list.mapToGlobal(middle), QPoint(), QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
+        middle, list.mapToGlobal(middle.toPoint()), QPoint(), QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
         Qt::NoScrollPhase, false);
     QApplication::sendEvent(&list, &event);
 }

@@ -161,7 +161,7 @@ SessionFixture::SessionFixture(unsigned seed)
 void SessionFixture::FillMap()
 {
     host.rendererStyles = {{7, "Hatched"}, {9, "Sketched"}};
-    host.schemeNames = {"Day", "Night"};
+    host.schemeNames = QStringList{"Day", "Night"};
     host.currentScheme = "Day";
     for (qint32 layerID = 1; layerID <= 12; ++layerID) {
         host.AddLayer(

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Orvane::Testing {
+
+/// The texts that the predicate does not hold for.
+template <typename Predicate> QStringList Without(QStringList texts, Predicate predicate)
+{
+    texts.erase(std::remove_if(texts.begin(), texts.end(), predicate), texts.end());
+    return texts;
+}
+
+} // namespace Orvane::Testing
