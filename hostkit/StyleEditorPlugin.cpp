@@ -24,6 +24,7 @@ StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
     m_file.setLoadHints(QLibrary::PreventUnloadHint);
     Load(pathOrName);
     CheckContract();
+    CheckQt();
     CreateLibrary();
 }
 
@@ -68,6 +69,15 @@ void StyleEditorPlugin::CheckContract()
     const QString spoken = QStringLiteral("%1.%2").arg(m_version.major).arg(m_version.minor);
     const QString wanted = QStringLiteral("%1.%2").arg(CurrentContract.major).arg(CurrentContract.minor);
     Refuse(tr("it speaks version %1 of the contract, this program speaks %2").arg(spoken, wanted));
+}
+
+// Widgets of two Qt versions in one process end it.
+void StyleEditorPlugin::CheckQt()
+{
+    const auto qtMajor = reinterpret_cast<QtMajorFunction>(m_file.resolve(QtMajorSymbol));
+    const qint32 major = qtMajor ? qtMajor() : 6;
+    if (major != QT_VERSION_MAJOR)
+        Refuse(tr("it was built with Qt %1, this program with Qt %2").arg(major).arg(QT_VERSION_MAJOR));
 }
 
 void StyleEditorPlugin::CreateLibrary()

@@ -20,7 +20,7 @@ class IStyleEditorLibrary;
 ///     plugin.Library().Initialise(&client);
 ///     plugin.Library().NewStyleEditor("Main")->Visible(true);
 ///
-/// Nothing but its version is asked of a component before that is known to be this contract's. Destroying
+/// Nothing but its versions is asked of a component before they are known to fit. Destroying
 /// this object destroys the library object with all its editors, so the client must still be alive. The
 /// component's code stays in the process until that ends: texts that it handed over may point into it.
 class StyleEditorPlugin
@@ -28,11 +28,12 @@ class StyleEditorPlugin
     Q_DECLARE_TR_FUNCTIONS(StyleEditorPlugin)
 
 public:
-    /// The component's file name without prefix and suffix.
-    static constexpr char DefaultName[] = "OrvaneLayerControl";
+    /// The component's file name without prefix and suffix; it ends in the major version of Qt.
+    static constexpr char DefaultName[] = "OrvaneLayerControlQt" QT_STRINGIFY(QT_VERSION_MAJOR);
 
     /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
-    /// Raises PluginFailure when it cannot be loaded, is no such component, or speaks another contract.
+    /// Raises PluginFailure when it cannot be loaded, is no such component, speaks another contract, or was
+    /// built with another major version of Qt.
     explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
     ~StyleEditorPlugin();
     Q_DISABLE_COPY_MOVE(StyleEditorPlugin)
@@ -51,6 +52,7 @@ public:
 private:
     void Load(const QString& pathOrName);
     void CheckContract();
+    void CheckQt();
     void CreateLibrary();
     QFunctionPointer Resolve(const char* symbol);
     [[noreturn]] void Refuse(const QString& reason) const;

@@ -900,6 +900,10 @@
         <translation>sie hat kein Einstiegsobjekt erzeugt</translation>
     </message>
     <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>sie wurde mit Qt %1 erstellt, dieses Programm mit Qt %2</translation>
+    </message>
+    <message>
         <source>it speaks version %1 of the contract, this program speaks %2</source>
         <translation>sie verwendet Version %1 der Schnittstelle, dieses Programm Version %2</translation>
     </message>

@@ -900,6 +900,10 @@
         <translation>il n’a pas créé d’objet d’entrée</translation>
     </message>
     <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>il a été compilé avec Qt %1, ce programme avec Qt %2</translation>
+    </message>
+    <message>
         <source>it speaks version %1 of the contract, this program speaks %2</source>
         <translation>il utilise la version %1 de l’interface, ce programme la version %2</translation>
     </message>

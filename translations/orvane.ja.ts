@@ -900,6 +900,10 @@
         <translation>エントリーオブジェクトが作成されませんでした</translation>
     </message>
     <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>このコンポーネントは Qt %1 で、このプログラムは Qt %2 でビルドされています</translation>
+    </message>
+    <message>
         <source>it speaks version %1 of the contract, this program speaks %2</source>
         <translation>インターフェイスのバージョンは %1 ですが、このプログラムは %2 です</translation>
     </message>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The two functions by which a host finds the component.
+// The functions by which a host finds the component.
 #include "component/dialog/frmLayerStyles.h"
 #include "component/entry/MessageFile.h"
 #include "component/entry/StyleEditorLib.h"
@@ -20,6 +20,11 @@ extern "C" {
 Q_DECL_EXPORT void OrvaneContractVersion(Orvane::ContractVersion* version)
 {
     *version = Orvane::CurrentContract;
+}
+
+Q_DECL_EXPORT qint32 OrvaneQtMajor()
+{
+    return QT_VERSION_MAJOR;
 }
 
 Q_DECL_EXPORT Orvane::IStyleEditorLibrary* OrvaneCreateStyleEditorLibrary()

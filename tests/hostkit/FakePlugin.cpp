@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A component without editors, of the contract version that the build names. It tells its client, as a
+// A component without editors, of the versions that the build names. It tells its client, as a
 // setting, when it is created and when it is destroyed.
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
@@ -41,6 +41,13 @@ Q_DECL_EXPORT void OrvaneContractVersion(Orvane::ContractVersion* version)
 {
     *version = {FAKE_CONTRACT_MAJOR, FAKE_CONTRACT_MINOR};
 }
+
+#ifdef FAKE_QT_MAJOR
+Q_DECL_EXPORT qint32 OrvaneQtMajor()
+{
+    return FAKE_QT_MAJOR;
+}
+#endif
 
 Q_DECL_EXPORT Orvane::IStyleEditorLibrary* OrvaneCreateStyleEditorLibrary()
 {

@@ -171,7 +171,7 @@ TEST(SchemeDocument, WithEachByteReplacedIsReadOrRefusedWithoutHarm)
     for (qsizetype place = 0; place < text.size(); ++place) {
         for (const char byte : {'\0', '"', '{', ']', '-', '\xff'}) {
             QByteArray damaged = text;
-            damaged[place] = byte;
+            damaged[int(place)] = byte;
             const int error = ErrorIn(damaged);
             EXPECT_TRUE(
                 error == 0 || error == int(HostError::SchemeTextDamaged)

@@ -65,6 +65,15 @@ TEST(StyleEditorPlugin, RefusesAnotherMajorVersionWithBothVersionsInTheText)
     EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("%1.0").arg(CurrentContract.major + 1)));
 }
 
+TEST(StyleEditorPlugin, RefusesAComponentOfTheOtherQtWithBothVersionsInTheText)
+{
+    const QString path = FakeFile("fake_plugin_other_qt");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("built with Qt %1, this program with Qt %2")
+                                                 .arg(11 - QT_VERSION_MAJOR)
+                                                 .arg(QT_VERSION_MAJOR)));
+}
+
 TEST(StyleEditorPlugin, RefusesALibraryThatIsNoComponent)
 {
     const QString path = FakeFile("fake_plugin_foreign");

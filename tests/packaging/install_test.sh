@@ -25,7 +25,7 @@ mv "$folder/first" "$folder/prefix"
 prefix=$folder/prefix
 orvane=$prefix/bin/orvane
 
-for file in lib/orvane/libOrvaneLayerControl.so lib/orvane/de/POBEX.LRT share/applications/orvane.desktop \
+for file in lib/orvane/libOrvaneLayerControlQt6.so lib/orvane/de/POBEX.LRT share/applications/orvane.desktop \
     share/mime/packages/orvane.xml share/icons/hicolor/scalable/apps/orvane.svg share/man/man1/orvane.1 \
     include/orvane/OrvaneShellLib/IStyleEditorClient.h include/orvane/hostkit/StandardClient.h; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"

@@ -58,7 +58,7 @@ protected:
         return {};
     }
 
-    QLibrary m_file{QStringLiteral(ORVANE_LIBRARY_DIR "/OrvaneLayerControl")};
+    QLibrary m_file{QStringLiteral(ORVANE_COMPONENT)};
     QLocale m_locale;
     Testing::MemoryHost m_host;
     std::unique_ptr<IStyleEditorLibrary> m_library;
@@ -75,6 +75,11 @@ TEST_F(Plugin, LoadsAndSpeaksTheContractOfItsSourceTree)
     contractVersion(&version);
     EXPECT_EQ(version.major, CurrentContract.major);
     EXPECT_EQ(version.minor, CurrentContract.minor);
+}
+
+TEST_F(Plugin, TellsTheQtThatItWasBuiltWith)
+{
+    EXPECT_EQ(Resolve<QtMajorFunction>(QtMajorSymbol)(), QT_VERSION_MAJOR);
 }
 
 TEST_F(Plugin, MakesAnEditorThatIsAWidgetAndAForm)
@@ -107,7 +112,16 @@ TEST_F(Plugin, LeavesNoWidgetBehindWhenItsLibraryIsReleased)
     m_library->GetStyleEditor("Main")->Visible(false);
     m_library.reset();
     EXPECT_EQ(QApplication::allWidgets().size(), before);
-    EXPECT_TRUE(m_file.unload());
+}
+
+TEST_F(Plugin, CanBeUsedAgainAfterAHostHasUnloadedIt)
+{
+    Create().NewStyleEditor("Main")->Visible(true);
+    m_library.reset();
+    m_file.unload();
+    ASSERT_TRUE(m_file.load()) << qPrintable(m_file.errorString());
+    Create().NewStyleEditor("Main")->Visible(true);
+    EXPECT_NE(m_library->GetStyleEditor("Main"), nullptr);
 }
 
 TEST_F(Plugin, UnloadsAnOpenEditorThroughTheHost)

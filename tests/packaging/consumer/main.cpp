@@ -19,7 +19,8 @@ int main(int argc, char** argv)
     database->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
     StandardShellServices services;
     StandardClient client(*database, services);
-    StyleEditorPlugin plugin(QStringLiteral(PLUGIN_FOLDER "/libOrvaneLayerControl.so"));
+    StyleEditorPlugin plugin(
+        QStringLiteral(PLUGIN_FOLDER "/") + QLatin1String(StyleEditorPlugin::DefaultName));
     plugin.Library().Initialise(&client);
     IStyleEditor* editor = plugin.Library().NewStyleEditor(QStringLiteral("Main"));
     editor->Visible(true);
