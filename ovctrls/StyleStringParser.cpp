@@ -141,8 +141,8 @@ bool IsKnown(QStringView body)
 // A point between two digits of a drawing is a decimal one.
 bool EndsDrawing(const QString& item, qsizetype point)
 {
-    const bool afterDigit = point > 0 && item[point - 1].isDigit();
-    const bool beforeDigit = point + 1 < item.size() && item[point + 1].isDigit();
+    const bool afterDigit = point > 0 && item.at(point - 1).isDigit();
+    const bool beforeDigit = point + 1 < item.size() && item.at(point + 1).isDigit();
     return !(afterDigit && beforeDigit);
 }
 
@@ -195,7 +195,7 @@ public:
         while (m_position < m_item.size()) {
             if (IsAtCommand())
                 ReadCommand();
-            else if (m_item[m_position] == tab)
+            else if (m_item.at(m_position) == tab)
                 ReadTab();
             else
                 ReadText();

@@ -16,6 +16,15 @@ namespace Orvane {
 
 namespace {
 
+bool HasFamily(const QString& family)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QFontDatabase::hasFamily(family);
+#else
+    return QFontDatabase().hasFamily(family);
+#endif
+}
+
 constexpr int outlineAlpha = 80; // of 255
 constexpr int lightnessOfPaper = 200; // of 255, as the distance from that of text
 constexpr double smallestPoints = 1;
@@ -50,7 +59,7 @@ public:
 
     void operator()(const FontChange& change)
     {
-        if (!QFontDatabase::hasFamily(change.face))
+        if (!HasFamily(change.face))
             return;
         m_font.setFamily(change.face);
         if (change.points >= smallestPoints && change.points <= largestPoints)

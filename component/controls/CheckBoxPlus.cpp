@@ -71,7 +71,7 @@ struct MouseArguments {
 MouseArguments ArgumentsOf(const QMouseEvent& event, Qt::MouseButtons buttons, const QWidget& box)
 {
     const TwipsPerPixel scale = TwipsPerPixelOf(box);
-    const QPointF position = event.position();
+    const QPoint position = event.pos();
     return {
         ButtonMaskOf(buttons), ShiftMaskOf(event.modifiers()), float(position.x() * scale.x),
         float(position.y() * scale.y)};

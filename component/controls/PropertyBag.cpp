@@ -9,7 +9,7 @@ namespace {
 
 Value ToValue(const QVariant& stored)
 {
-    if (stored.typeId() == QMetaType::Bool)
+    if (stored.userType() == QMetaType::Bool)
         return stored.toBool();
     return stored.toString();
 }
@@ -51,9 +51,9 @@ QFont PropertyBag::ReadFont(const QString& key, const QFont& defaultValue) const
         return defaultValue;
     const QVariant stored = m_contents.value(key);
     QFont font;
-    if (stored.typeId() == QMetaType::QFont)
+    if (stored.userType() == QMetaType::QFont)
         return stored.value<QFont>();
-    if (stored.typeId() != QMetaType::QString || !font.fromString(stored.toString()))
+    if (stored.userType() != QMetaType::QString || !font.fromString(stored.toString()))
         throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
     return font;
 }

@@ -16,9 +16,8 @@ constexpr double twipsPerInch = 1440;
 
 qint32 SaturatedRound(double number)
 {
-    constexpr double lowest = std::numeric_limits<qint32>::min();
-    constexpr double highest = std::numeric_limits<qint32>::max();
-    return qint32(std::clamp(RoundHalfToEven(number), lowest, highest));
+    using Limits = std::numeric_limits<qint32>;
+    return qint32(std::clamp(RoundHalfToEven(number), double(Limits::min()), double(Limits::max())));
 }
 
 Twips KeepLength(Twips remembered, int rememberedPixels, int pixels, Twips converted)

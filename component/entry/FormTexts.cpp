@@ -44,7 +44,7 @@ void TranslateProperty(QObject& object, const char* name, const TextTranslation&
 {
     const QMetaObject* meta = object.metaObject();
     const QMetaProperty property = meta->property(meta->indexOfProperty(name));
-    if (!property.isValid() || !property.isWritable() || property.typeId() != QMetaType::QString)
+    if (!property.isValid() || !property.isWritable() || property.userType() != QMetaType::QString)
         return;
     TranslateText(object, name, property.read(&object).toString(), translation, [&](const QString& text) {
         property.write(&object, text);

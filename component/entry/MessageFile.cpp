@@ -8,7 +8,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr QLatin1String FileName("POBEX.LRT");
+constexpr char FileName[] = "POBEX.LRT";
 
 bool IsEnglish(const QString& tag)
 {

@@ -12,9 +12,9 @@ constexpr QChar Caret = u'^';
 // The argument that the placeholder at the caret stands for, or nullptr.
 const Value* ArgumentAt(const QString& text, qsizetype caret, const MessageArguments& arguments)
 {
-    if (text[caret] != Caret || caret + 1 >= text.size())
+    if (text.at(caret) != Caret || caret + 1 >= text.size())
         return nullptr;
-    const int number = text[caret + 1].unicode() - u'0';
+    const int number = text.at(caret + 1).unicode() - u'0';
     if (number < 1 || number > 9 || size_t(number) > arguments.size())
         return nullptr;
     const Value& argument = arguments[size_t(number) - 1];
@@ -23,7 +23,7 @@ const Value* ArgumentAt(const QString& text, qsizetype caret, const MessageArgum
 
 QString ShownText(const Value& argument)
 {
-    return argument.IsNull() ? QString() : ToText(argument);
+    return ToTextOrNone(argument);
 }
 
 } // namespace
@@ -37,7 +37,7 @@ QString MessageFormatter::FormatMessage(const QString& text, const MessageArgume
             message += ShownText(*argument);
             ++position;
         } else {
-            message += text[position];
+            message += text.at(position);
         }
     }
     return message;

@@ -138,7 +138,7 @@ TEST_F(Forwarding, TheShellServicesPassEverythingOn)
     ForwardingShellServices services(host.Shell());
     EXPECT_EQ(services.ScaleFromIndex(5), 5000);
     EXPECT_EQ(services.IndexFromScale(5000), 5);
-    EXPECT_EQ(services.FillPattern(7, 3).rows[0], 3);
+    EXPECT_EQ(services.FillPattern(7, 3).rows.at(0), 3);
     EXPECT_EQ(services.ListBackColour(), 0xFFFFFF);
     services.ShowModal(nullptr);
     services.CloseModal(nullptr);

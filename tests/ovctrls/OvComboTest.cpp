@@ -63,7 +63,7 @@ TEST_F(OvComboTest, APositionOutsideTheListIsItsNearestEnd)
 
 TEST_F(OvComboTest, AddingItemsSelectsNone)
 {
-    QSignalSpy changes(&m_combo, &QComboBox::currentIndexChanged);
+    QSignalSpy changes(&m_combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
     m_combo.Append("a");
     m_combo.Append("b");
 

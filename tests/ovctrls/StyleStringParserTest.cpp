@@ -26,6 +26,11 @@ template <typename Element> Element Only(const QString& item)
     return std::get<Element>(elements[0]);
 }
 
+QPolygonF Through(std::initializer_list<QPointF> points)
+{
+    return QPolygonF(QVector<QPointF>(points));
+}
+
 QPolygonF PointsOf(const QString& item)
 {
     const auto drawing = Only<Drawing>(item);
@@ -76,7 +81,7 @@ TEST(StyleStringParser, LabelTabAndDrawingStandInTheirOrder)
     EXPECT_TRUE(std::holds_alternative<TabStop>(elements[1]));
     const auto& figure = std::get<Drawing>(elements[2]).figures.at(0);
     EXPECT_TRUE(figure.isFilled);
-    EXPECT_EQ(figure.points, QPolygonF({{0, 3}, {138, 3}, {138, 11}, {0, 11}}));
+    EXPECT_EQ(figure.points, Through({{0, 3}, {138, 3}, {138, 11}, {0, 11}}));
 }
 
 TEST(StyleStringParser, APatternedLineHasColourStyleAndWidth)
@@ -87,7 +92,7 @@ TEST(StyleStringParser, APatternedLineHasColourStyleAndWidth)
     EXPECT_EQ(drawing.penStyle, 2);
     EXPECT_EQ(drawing.penWidth, 3);
     EXPECT_FALSE(drawing.figures.at(0).isFilled);
-    EXPECT_EQ(drawing.figures.at(0).points, QPolygonF({{0, 7}, {138, 7}}));
+    EXPECT_EQ(drawing.figures.at(0).points, Through({{0, 7}, {138, 7}}));
 }
 
 TEST(StyleStringParser, BrushAndPenHaveTheirOwnColours)
@@ -101,29 +106,29 @@ TEST(StyleStringParser, BrushAndPenHaveTheirOwnColours)
 
 TEST(StyleStringParser, APointBetweenDigitsOfADrawingIsADecimalOne)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D138.5,14.25."), QPolygonF({{0, 1}, {138.5, 14.25}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D138.5,14.25."), Through({{0, 1}, {138.5, 14.25}}));
 }
 
 TEST(StyleStringParser, APlusCountsFromThePointBefore)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M5,6:D+1,+2,+1,-2,+-3,9."), QPolygonF({{5, 6}, {6, 8}, {7, -2}, {4, 9}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M5,6:D+1,+2,+1,-2,+-3,9."), Through({{5, 6}, {6, 8}, {7, -2}, {4, 9}}));
 }
 
 TEST(StyleStringParser, ALineGoesOnWhereTheLastFigureEnded)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M1,1:D5,5:D9,+0."), QPolygonF({{5, 5}, {9, 5}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M1,1:D5,5:D9,+0."), Through({{5, 5}, {9, 5}}));
 }
 
 TEST(StyleStringParser, WithoutItsPointACommandRunsToTheEnd)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5"), QPolygonF({{0, 1}, {5, 5}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5"), Through({{0, 1}, {5, 5}}));
     EXPECT_EQ(Only<ForeColour>("@FG=7").colour, 7);
 }
 
 TEST(StyleStringParser, OfABrokenFigureRemainsWhatStandsBeforeTheDamage)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5,x,9,8,8."), QPolygonF({{0, 1}, {5, 5}}));
-    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5,7."), QPolygonF({{0, 1}, {5, 5}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5,x,9,8,8."), Through({{0, 1}, {5, 5}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M0,1:D5,5,7."), Through({{0, 1}, {5, 5}}));
     EXPECT_EQ(PointsOf("@DRP=0:M0,1:Dinf,nan."), QPolygonF());
 }
 
@@ -137,12 +142,12 @@ TEST(StyleStringParser, AnUnknownCommandIsLeftOut)
 
 TEST(StyleStringParser, AnUnknownPartOfADrawingIsLeftOut)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:Q9:M0,1::D5,5."), QPolygonF({{0, 1}, {5, 5}}));
+    EXPECT_EQ(PointsOf("@DRP=0:Q9:M0,1::D5,5."), Through({{0, 1}, {5, 5}}));
 }
 
 TEST(StyleStringParser, HugeCoordinatesAreCut)
 {
-    EXPECT_EQ(PointsOf("@DRP=0:M0,0:D1e300,-9999999."), QPolygonF({{0, 0}, {32767, -32767}}));
+    EXPECT_EQ(PointsOf("@DRP=0:M0,0:D1e300,-9999999."), Through({{0, 0}, {32767, -32767}}));
 }
 
 TEST(StyleStringParser, APrefixMayBeAnyText)

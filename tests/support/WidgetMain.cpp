@@ -2,6 +2,7 @@
 #include "support/QtMessageGuard.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QStandardPaths>
 #include <QWidget>
 
@@ -29,6 +30,8 @@ int main(int argc, char** argv)
     qputenv("XDG_RUNTIME_DIR", qgetenv("TMPDIR").isEmpty() ? "/tmp" : qgetenv("TMPDIR"));
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
+    QApplication::setFont(
+        QFont(QStringLiteral("DejaVu Sans"), 9)); // what Qt takes here differs by its version
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
     testing::InitGoogleMock(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new NoWindowSurvives);

@@ -150,7 +150,7 @@ TEST(CheckBoxPlusBag, PropertiesSurviveTheBag)
     other.ReadProperties(bag);
 
     EXPECT_EQ(bag.Contents().keys(), (QStringList{"BackColor", "CycleMode", "Enabled", "Font", "ForeColor"}));
-    EXPECT_EQ(bag.Contents().value("CycleMode").typeId(), QMetaType::Int);
+    EXPECT_EQ(bag.Contents().value("CycleMode").userType(), QMetaType::Int);
     EXPECT_EQ(other.BackColor(), 0x123456);
     EXPECT_EQ(other.ForeColor(), SystemColour::ButtonFace);
     EXPECT_FALSE(other.Enabled());

@@ -272,7 +272,7 @@ TEST_F(CheckBoxPlusTest, AListenerMayDestroyTheBox)
     QTest::mousePress(inner, Qt::LeftButton);
     const QPointer watched(box);
     QMouseEvent up(
-        QEvent::MouseButtonRelease, QPointF(3, 3), inner->mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
+        QEvent::MouseButtonRelease, QPointF(3, 3), inner->mapToGlobal(QPoint(3, 3)), Qt::LeftButton,
         Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(inner, &up);
     EXPECT_TRUE(watched.isNull());

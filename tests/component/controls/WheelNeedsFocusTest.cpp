@@ -34,7 +34,7 @@ protected:
     {
         const QPointF place = list->rect().center();
         QWheelEvent event(
-            place, list->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+            place, list->mapToGlobal(place.toPoint()), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
             Qt::NoScrollPhase, false);
         QApplication::sendEvent(list, &event);
         return event.isAccepted();
