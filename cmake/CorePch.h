@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Headers that nearly every file without widgets reads; each file still includes what it uses.
+// Headers that files without widgets read; each file still includes what it uses.
 #pragma once
 
-#include <QString>
-#include <QStringList>
-#include <QtGlobal>
+#include <QtCore>
 
 #include <algorithm>
 #include <array>

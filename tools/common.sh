@@ -1,19 +1,23 @@
 # SPDX-License-Identifier: MIT
 # Shared by ./dev and the scripts beside this file: packages, steps, counts.
 
-packages_build=(build-essential cmake ninja-build ccache pkg-config git
+packages_build=(build-essential cmake ninja-build ccache lld pkg-config git
     qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libsqlite3-dev)
 packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev qt6-translations-l10n fonts-dejavu-core)
+packages_clang=(clang libclang-rt-14-dev)
+packages_qt5=(qtbase5-dev)
+packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev qt6-translations-l10n fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
 packages_bench=(libbenchmark-dev)
-packages_check=(clang-format clang-tidy python3)
+packages_check=(clang-format clang-tidy libbenchmark-dev python3)
 
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
 export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
 export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
+duration() { printf '%d:%02d min' $(($1 / 60)) $(($1 % 60)); }
 
 step() { printf '\n== %s\n' "$*"; }
 

@@ -1,0 +1,36 @@
+# SPDX-License-Identifier: MIT
+# The target header_checks compiles each header as a file of its own: what it names, it includes. Headers that are
+# installed see nothing else, as in a host's program; the others stand behind the precompiled headers of their room, which
+# takes a tenth of the time and hides at most a missing header of Qt, of the standard library or of GoogleTest.
+
+# orvane_header_check(<target> LIBRARIES ... HEADERS ...)
+function(orvane_header_check target)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES;HEADERS" ${ARGN})
+  set(sources)
+  foreach(header IN LISTS ARG_HEADERS)
+    string(REPLACE "/" "." name "${header}")
+    set(source "${CMAKE_BINARY_DIR}/${target}/${name}.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"@header@\"\n" @ONLY)
+    list(APPEND sources "${source}")
+  endforeach()
+  add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
+  target_link_libraries(${target} PRIVATE orvane_settings ${ARG_LIBRARIES})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
+  # Functions that a header offers and nobody here calls are no fault.
+  target_compile_options(${target} PRIVATE -Wno-unused-function -Wno-unused-const-variable)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
+endfunction()
+
+file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS
+  OrvaneShellLib/*.h messages/*.h store/*.h ovctrls/*.h samples/*.h hostkit/*.h)
+orvane_header_check(public_header_checks HEADERS ${headers}
+  LIBRARIES Orvane::HostKit Orvane::Controls Orvane::Samples SQLite::SQLite3)
+
+file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS
+  component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
+orvane_header_check(inner_header_checks HEADERS ${headers} LIBRARIES
+  layer_control_parts orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)
+target_precompile_headers(inner_header_checks REUSE_FROM orvane_widgets_test_headers)
+
+add_custom_target(header_checks)
+add_dependencies(header_checks public_header_checks inner_header_checks)
