@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-/// Passes every call on to another client. Derive and override the one member to watch, change or refuse:
+/// Passes every call on to another client. Derive from it and override the member to watch, change or block:
 ///
 ///     class QuietClient : public ForwardingClient
 ///     {
@@ -77,7 +77,7 @@ protected:
     QString IStyleEditorClient_ThemeName(QWidget* form) const override { return m_client.ThemeName(form); }
     void IStyleEditorClient_RedrawMap() override { m_client.RedrawMap(); }
 
-    /// The client behind, for overrides.
+    /// The wrapped client, for use in overrides.
     IStyleEditorClient& Wrapped() const { return m_client; }
 
 private:

@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// Passes every call on to another layer database. Derive and override the one member to watch, change or
-/// refuse.
+/// Passes every call on to another layer database. Derive from it and override the member to watch, change or
+/// block.
 class ForwardingDatabase : public ILayerDatabase
 {
 public:
@@ -22,7 +22,7 @@ protected:
     void ILayerDatabase_CommitTrans() override { m_database.CommitTrans(); }
     void ILayerDatabase_Rollback() override { m_database.Rollback(); }
 
-    /// The database behind, for overrides.
+    /// The wrapped database, for use in overrides.
     ILayerDatabase& Wrapped() const { return m_database; }
 
 private:

@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// Passes every call on to another cursor, which it owns. Derive and override the one member to watch, change
-/// or refuse.
+/// Passes every call on to another cursor, which it owns. Derive from it and override the member to watch,
+/// change or block.
 class ForwardingRecordset : public IRecordset
 {
 public:
@@ -38,7 +38,7 @@ protected:
     void IRecordset_Update() override { m_recordset->Update(); }
     void IRecordset_Close() override { m_recordset->Close(); }
 
-    /// The cursor behind, for overrides.
+    /// The wrapped cursor, for use in overrides.
     IRecordset& Wrapped() const { return *m_recordset; }
 
 private:

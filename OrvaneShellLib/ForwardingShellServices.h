@@ -5,12 +5,12 @@
 
 namespace Orvane {
 
-/// Passes every call on to other shell services. Derive and override the one member to watch, change or
-/// refuse.
+/// Passes every call on to another shell services object. Derive from it and override the member to watch,
+/// change or block.
 class ForwardingShellServices : public IShellServices
 {
 public:
-    /// services: not owned; outlive this object.
+    /// services: not owned; must outlive this object.
     explicit ForwardingShellServices(IShellServices& services) : m_services(services) { }
 
 protected:
@@ -35,7 +35,7 @@ protected:
     }
     qint32 IShellServices_ListBackColour() const override { return m_services.ListBackColour(); }
 
-    /// The services behind, for overrides.
+    /// The wrapped services, for use in overrides.
     IShellServices& Wrapped() const { return m_services; }
 
 private:

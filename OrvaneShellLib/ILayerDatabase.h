@@ -20,22 +20,22 @@ public:
     ILayerDatabase(const ILayerDatabase&) = delete;
     ILayerDatabase& operator=(const ILayerDatabase&) = delete;
 
-    /// Opens a cursor: on a query when source is an SQL text (it begins with SELECT), else on the table of
-    /// that name, which is "Layers" or "LayerGroups". Never nullptr. The caller owns the cursor and destroys
-    /// it before the database.
+    /// Opens a cursor: on a query when source is SQL text (it begins with SELECT), otherwise on the table of
+    /// that name, which is "Layers" or "LayerGroups". Never returns nullptr. The caller owns the cursor and
+    /// destroys it before the database.
     std::unique_ptr<IRecordset> OpenRecordset(const QString& source)
     {
         return ILayerDatabase_OpenRecordset(source);
     }
 
-    /// Begins a transaction. Transactions nest: only the outermost commit stores.
+    /// Begins a transaction. Transactions nest: only the outermost commit stores the changes.
     void BeginTrans() { ILayerDatabase_BeginTrans(); }
 
-    /// Ends the innermost transaction and keeps its changes. When it raises, the transaction is still open
-    /// and must be rolled back.
+    /// Ends the innermost transaction and keeps its changes. If it raises, the transaction is still open and
+    /// must be rolled back.
     void CommitTrans() { ILayerDatabase_CommitTrans(); }
 
-    /// Ends the innermost transaction and undoes its changes. Without one it does nothing.
+    /// Ends the innermost transaction and undoes its changes. Does nothing when no transaction is open.
     void Rollback() { ILayerDatabase_Rollback(); }
 
 protected:

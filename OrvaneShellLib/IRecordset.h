@@ -17,10 +17,11 @@ namespace Orvane {
 ///     if (!layers->NoMatch())
 ///         name = layers->Field("Name");
 ///
-/// A query cursor stands on its first row when it is opened and moves forward only. A table cursor has no row
-/// until Seek finds one. Column and index names are ASCII and compared without case. All calls are made on
-/// the user-interface thread. Every member may raise RunTimeError with a database number; a cursor that
-/// raised may only be closed. Destroying a cursor closes it and drops an edit that was not stored.
+/// A query cursor is on its first row when it is opened and only moves forward. A table cursor has no row
+/// until Seek finds one. Column and index names are ASCII and are compared case-insensitively. All calls are
+/// made on the user-interface thread. Every member may raise RunTimeError with a database number; after a
+/// cursor has raised, it may only be closed. Destroying a cursor closes it and discards an edit that was not
+/// stored.
 class IRecordset
 {
 public:
@@ -32,35 +33,35 @@ public:
     /// LayerGroups.
     void Index(std::string_view indexName) { IRecordset_Index(indexName); }
 
-    /// Table cursors only: goes to the row whose index column equals key. comparison is "="; any other
-    /// raises.
+    /// Table cursors only: moves to the row whose index column equals key. comparison must be "="; anything
+    /// else raises.
     void Seek(std::string_view comparison, qint32 key) { IRecordset_Seek(comparison, key); }
 
     /// True when the last Seek found no row; the cursor then has no current row.
     bool NoMatch() const { return IRecordset_NoMatch(); }
 
-    /// True when there is no current row: past the last one, or none at all.
+    /// True when there is no current row: the cursor is past the last one, or there are no rows.
     bool AtEOF() const { return IRecordset_AtEOF(); }
 
-    /// Goes to the next row, dropping an edit that was not stored. Only while not AtEOF.
+    /// Moves to the next row and discards an edit that was not stored. Call it only while AtEOF is false.
     void MoveNext() { IRecordset_MoveNext(); }
 
-    /// The current row's column; Null where the database has none. While an edit runs, a column that was set
-    /// gives the value that was set.
+    /// The value of a column in the current row; Null where the database holds NULL. During an edit, a column
+    /// that was set returns the new value.
     Value Field(std::string_view columnName) const { return IRecordset_Field(columnName); }
 
-    /// Sets a column of the row being edited; nothing is stored before Update. Only between Edit and Update.
-    /// Raises 13 (type mismatch) for Empty, which is no value of a column.
+    /// Sets a column of the row being edited; nothing is stored until Update. Call it only between Edit and
+    /// Update. Raises 13 (type mismatch) for Empty, which is not a column value.
     void SetField(std::string_view columnName, const Value& value) { IRecordset_SetField(columnName, value); }
 
-    /// Begins an edit of the current row.
+    /// Starts editing the current row.
     void Edit() { IRecordset_Edit(); }
 
-    /// Stores the columns that were set since Edit, and only those; the cursor stays on the row. With none
-    /// set, nothing is written.
+    /// Stores only the columns that were set since Edit; the cursor stays on the row. If none were set,
+    /// nothing is written.
     void Update() { IRecordset_Update(); }
 
-    /// Ends the cursor; only destruction may follow. A second call does nothing.
+    /// Closes the cursor; after that it may only be destroyed. A second call does nothing.
     void Close() { IRecordset_Close(); }
 
 protected:

@@ -13,9 +13,9 @@ namespace Orvane {
 /// Services of the host's shell: scales, patterns, modal windows. Implemented by the host, which owns it and
 /// keeps it alive as long as the component holds it.
 ///
-/// All calls are made on the user-interface thread. What a member raises reaches the person through the
-/// component's error message, or the host through the call that led to it; what is raised while a list is
-/// painted leaves that sample unpainted.
+/// All calls are made on the user-interface thread. An error that a member raises reaches the user in the
+/// component's error message, or the host through the call that led to it. If it is raised while a list is
+/// painted, that sample stays unpainted.
 class IShellServices
 {
 public:
@@ -23,8 +23,8 @@ public:
     IShellServices(const IShellServices&) = delete;
     IShellServices& operator=(const IShellServices&) = delete;
 
-    /// The denominator that a scale index stands for, e.g. 50000 for 1:50000. index: 1 to 255; others as the
-    /// host likes.
+    /// The denominator that a scale index stands for, e.g. 50000 for 1:50000. index: 1 to 255; for other
+    /// values the result is up to the host.
     double ScaleFromIndex(qint32 index) const { return IShellServices_ScaleFromIndex(index); }
 
     /// The index whose denominator is nearest to the one given; the inverse of ScaleFromIndex.
@@ -37,15 +37,15 @@ public:
     }
 
     /// Shows the form modally, in front of the window that is active, and returns when it is closed through
-    /// CloseModal or by the person. The form stays the caller's.
+    /// CloseModal or by the user. The caller keeps ownership of the form.
     void ShowModal(QWidget* form) { IShellServices_ShowModal(form); }
 
-    /// Ends the ShowModal of that form. Does nothing when the form is not shown modally.
+    /// Ends the ShowModal call for the form. Does nothing when the form is not shown modally.
     void CloseModal(QWidget* form) { IShellServices_CloseModal(form); }
 
-    /// Opens the host's value entry popup over a text control and puts the value entered into the control's
-    /// "text" property; returns when the popup has closed. Cancelled, it leaves the text. title: translated.
-    /// minimum and maximum: inclusive.
+    /// Opens the host's value entry popup over a text control and puts the entered value into the control's
+    /// "text" property; returns when the popup has closed. If the user cancels, the text stays as it is.
+    /// title: translated. minimum and maximum: inclusive.
     void EnterValue(QWidget* control, EntryKind kind, double minimum, double maximum, const QString& title)
     {
         IShellServices_EnterValue(control, kind, minimum, maximum, title);

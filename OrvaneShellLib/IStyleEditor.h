@@ -6,11 +6,11 @@ namespace Orvane {
 class IStyleFilter;
 
 /// One layer control dialog, as the host sees it. Implemented by the component, which owns it; the pointer is
-/// good until IStyleEditorClient::EditorClosed names its form. The same object also implements
-/// IStyleEditorForm and is a QWidget; dynamic_cast leads from one to another.
+/// valid until IStyleEditorClient::EditorClosed is called for its form. The same object also implements
+/// IStyleEditorForm and is a QWidget; use dynamic_cast to get from one to another.
 ///
-/// All calls are made on the user-interface thread. A call passes on unchanged what the host's own members
-/// raise.
+/// All calls are made on the user-interface thread. Errors that the host's own members raise are passed on
+/// unchanged.
 class IStyleEditor
 {
 public:
@@ -18,20 +18,21 @@ public:
     IStyleEditor(const IStyleEditor&) = delete;
     IStyleEditor& operator=(const IStyleEditor&) = delete;
 
-    /// Hands over the filter of the flat list; nullptr shows every layer. Not owned. The list is read anew
-    /// when it is next looked at.
+    /// Sets the filter of the flat list; nullptr shows every layer. Not owned. The list is read again when it
+    /// is next shown.
     void StyleFilter(const IStyleFilter* filter) { IStyleEditor_StyleFilter(filter); }
 
     /// True while the dialog's window is shown.
     bool Visible() const { return IStyleEditor_Visible(); }
 
     /// true shows the dialog with its stored view state, through IStyleEditorClient::ShowEditor; false closes
-    /// it: the person is asked about edits that were not applied, and then the editor ends, so that this
-    /// pointer is good no longer. When applying fails it stays open, and the error is raised. Asking for the
-    /// state it is in does nothing.
+    /// it: the user is asked about edits that were not applied, and then the editor is destroyed, so this
+    /// pointer is no longer valid. If applying fails, the dialog stays open and the error is raised. Setting
+    /// the state that it already has does nothing.
     void Visible(bool visible) { IStyleEditor_Visible(visible); }
 
-    /// Drops edits that were not applied and reads the groups anew. The flat list and the panel stay.
+    /// Discards edits that were not applied and reads the groups again. The flat list and the panel stay as
+    /// they are.
     void RefreshGroups() { IStyleEditor_RefreshGroups(); }
 
 protected:

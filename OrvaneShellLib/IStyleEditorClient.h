@@ -18,12 +18,12 @@ namespace Orvane {
 
 class IShellServices;
 
-/// The host's application object: everything that the component asks of its host. The host owns it and keeps
-/// it alive as long as the component's entry object lives. A ready-made one stands in
-/// hostkit/StandardClient.h.
+/// The host's application object: everything that the component needs from its host. The host owns it and
+/// keeps it alive as long as the component's entry object exists. hostkit/StandardClient.h has a ready-made
+/// one.
 ///
-/// All calls are made on the user-interface thread. What a member raises is passed on unchanged: to the host
-/// where the host called the component, else to the person as a message.
+/// All calls are made on the user-interface thread. An error that a member raises is passed on unchanged to
+/// the host if the host called the component; otherwise the user sees it as a message.
 class IStyleEditorClient
 {
 public:
@@ -31,32 +31,35 @@ public:
     IStyleEditorClient(const IStyleEditorClient&) = delete;
     IStyleEditorClient& operator=(const IStyleEditorClient&) = delete;
 
-    /// The shell services; the host's, and alive as long as the client. Asked for once, by Initialise.
+    /// The shell services. The host owns them and keeps them alive as long as the client. Called once, by
+    /// Initialise.
     IShellServices* GetShellServices() { return IStyleEditorClient_GetShellServices(); }
 
-    /// Shows the form as a window of the host's choosing and keeps it until EditorClosed. The form stays the
-    /// component's; it may be given a parent.
+    /// Shows the form as a window of the host's choosing and keeps it until EditorClosed. The component keeps
+    /// ownership of the form; the host may give it a parent.
     void ShowEditor(QWidget* form) { IStyleEditorClient_ShowEditor(form); }
 
-    /// The form is about to be hidden or unloaded: the host forgets it. May be called twice for one form.
+    /// The form is about to be hidden or unloaded: the host drops its pointer to it. May be called twice for
+    /// the same form.
     void EditorClosed(QWidget* form) { IStyleEditorClient_EditorClosed(form); }
 
-    /// The text stored under the key, empty when there is none. key: "DrawStyleEditor::" and the editor's ID.
+    /// The text stored under the key, or an empty text. key: "DrawStyleEditor::" followed by the editor's ID.
     QString ReadSetting(QWidget* form, const QString& key)
     {
         return IStyleEditorClient_ReadSetting(form, key);
     }
 
-    /// Stores the text under the key, for this person and beyond this run. Called after EditorClosed, too.
+    /// Stores the text under the key, for the current user and beyond this run. May also be called after
+    /// EditorClosed.
     void WriteSetting(QWidget* form, const QString& key, const QString& value)
     {
         IStyleEditorClient_WriteSetting(form, key, value);
     }
 
-    /// The layer database; the host's, and alive as long as the client.
+    /// The layer database. The host owns it and keeps it alive as long as the client.
     ILayerDatabase& Database() { return IStyleEditorClient_Database(); }
 
-    /// A table cursor over Layers, never nullptr. The caller's.
+    /// A table cursor over Layers, never nullptr. The caller owns it.
     std::unique_ptr<IRecordset> LayersTable() { return IStyleEditorClient_LayersTable(); }
 
     /// The scale index (0 to 256) for a value of the MinVisScale or MaxVisScale column. 0 and 256 mean "no
@@ -66,79 +69,81 @@ public:
         return IStyleEditorClient_StoredScaleToDialog(storedScale);
     }
 
-    /// The value to store in a scale column for a scale index; the inverse of StoredScaleToDialog. Of a
-    /// maximum it is rounded half to even to 32 bits; beyond them the apply raises 6 (overflow).
+    /// The value to store in a scale column for a scale index; the inverse of StoredScaleToDialog. The value
+    /// for a maximum scale is rounded half to even to a 32-bit integer; if it does not fit, applying raises 6
+    /// (overflow).
     double DialogScaleToStored(qint32 scaleIndex) const
     {
         return IStyleEditorClient_DialogScaleToStored(scaleIndex);
     }
 
-    /// Puts the current row of a cursor over Layers into edit mode, by calling its Edit at least.
+    /// Puts the current row of a cursor over Layers into edit mode, at least by calling its Edit.
     void BeginLayerEdit(IRecordset& layers) { IStyleEditorClient_BeginLayerEdit(layers); }
 
-    /// The layer's properties were set and are stored next. The host may note it, and must not read the row
-    /// yet. When storing then fails, or a group's transaction is rolled back, the row stays as it was.
+    /// The layer's properties were set and are about to be stored. The host may note the layer but must not
+    /// read the row yet. If storing fails, or a group's transaction is rolled back, the row stays as it was.
     void LayerChanged(qint32 layerID) { IStyleEditorClient_LayerChanged(layerID); }
 
-    /// The text under which the layer is listed: its name, which may carry "(Obscured)" or "(Suppressed)".
+    /// The text under which the layer is listed: its name, possibly with "(Obscured)" or "(Suppressed)".
     QString LayerDisplayName(qint32 layerID) { return IStyleEditorClient_LayerDisplayName(layerID); }
 
-    /// Stores a new name of the layer. One that does not exist changes nothing.
+    /// Stores a new name for the layer. Does nothing if the layer does not exist.
     void RenameLayer(qint32 layerID, const QString& name) { IStyleEditorClient_RenameLayer(layerID, name); }
 
-    /// Stores a new name of the group. One that does not exist changes nothing.
+    /// Stores a new name for the group. Does nothing if the group does not exist.
     void RenameGroup(qint32 groupID, const QString& name) { IStyleEditorClient_RenameGroup(groupID, name); }
 
-    /// The names of all layer schemes, in the order to list them.
+    /// The names of all layer schemes, in the order in which they are listed.
     QStringList GetSchemeNames() { return IStyleEditorClient_GetSchemeNames(); }
 
-    /// The name of the current scheme, one of GetSchemeNames; with any other the editor can neither save,
-    /// revert nor delete.
+    /// The name of the current scheme, one of GetSchemeNames; with any other name the editor cannot save,
+    /// revert or delete.
     QString GetCurrentScheme() { return IStyleEditorClient_GetCurrentScheme(); }
 
-    /// Makes the scheme current and gives the layers its saved values. The host redraws by itself. May take
-    /// long; the component shows a busy pointer.
+    /// Makes the scheme current and gives the layers its saved values. The host redraws the map itself. This
+    /// may take long; the component shows a busy pointer.
     void LoadScheme(const QString& name) { IStyleEditorClient_LoadScheme(name); }
 
-    /// Creates a scheme of that name, which has no blanks around it, from the layers as they are. Raises when
-    /// there is one of that name. Whether it becomes the current one is the host's choice.
+    /// Creates a scheme from the layers as they are. name: has no leading or trailing blanks. Raises if the
+    /// name is taken. The host decides whether the new scheme becomes the current one.
     void CreateScheme(const QString& name) { IStyleEditorClient_CreateScheme(name); }
 
-    /// Stores the layers as they are into the scheme.
+    /// Stores the layers' present values in the scheme.
     void SaveScheme(const QString& name) { IStyleEditorClient_SaveScheme(name); }
 
-    /// Removes the scheme; never the last one, and another was loaded before.
+    /// Removes the scheme. It is never the last one, and another one has been loaded before the call.
     void DeleteScheme(const QString& name) { IStyleEditorClient_DeleteScheme(name); }
 
-    /// Writes all schemes to the startup database, from which new maps begin.
+    /// Writes all schemes to the startup database, from which new maps start.
     void SaveSchemesToStartup() { IStyleEditorClient_SaveSchemesToStartup(); }
 
-    /// Asks the person for a text or a whole number, modally.
+    /// Asks the user for a text or a whole number in a modal prompt.
     PromptAnswer PromptText(const PromptRequest& request) { return IStyleEditorClient_PromptText(request); }
 
-    /// Creates a layer and returns its ID; 0, which no layer has, when the person gave up: then nothing
+    /// Creates a layer and returns its ID. Returns 0, which no layer has, if the user cancelled; then nothing
     /// happens.
     qint32 CreateLayer() { return IStyleEditorClient_CreateLayer(); }
 
-    /// Deletes the layer; the host asks first if it wants to. The layer may be there still afterwards.
+    /// Deletes the layer; the host may ask the user first. The layer may still exist afterwards.
     void DeleteLayer(qint32 layerID) { IStyleEditorClient_DeleteLayer(layerID); }
 
     /// True when a layer has that code.
     bool IsCodeAssigned(qint16 code) { return IStyleEditorClient_IsCodeAssigned(code); }
 
-    /// What precedes every drawing command of a picker's item. Read once an editor.
+    /// The prefix of every drawing command in a picker's item. Read once per editor.
     QString StyleCommandPrefix() const { return IStyleEditorClient_StyleCommandPrefix(); }
 
-    /// True when layers may be normal, backdrop or hidden. Read once an editor.
+    /// True when layers may be normal, backdrop or hidden. Read once per editor.
     bool QuickModesAllowed() const { return IStyleEditorClient_QuickModesAllowed(); }
 
-    /// The renderer's styles beside "Standard", in the order to list them. Read once an editor.
+    /// The renderer's styles besides "Standard", in the order in which they are listed. Read once per editor.
     std::vector<RendererStyle> RendererStyles() const { return IStyleEditorClient_RendererStyles(); }
 
     /// The name of the theme that the form edits; empty when it edits the layers themselves.
     QString ThemeName(QWidget* form) const { return IStyleEditorClient_ThemeName(form); }
 
-    /// Redraws what LayerChanged named since the last call. Called once an apply, after all is stored.
+    /// Redraws the layers passed to LayerChanged since the last call. Called once per apply, after everything
+    /// is stored.
     void RedrawMap() { IStyleEditorClient_RedrawMap(); }
 
 protected:

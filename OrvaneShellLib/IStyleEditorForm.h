@@ -13,12 +13,12 @@ namespace Orvane {
 
 class IStyleFilter;
 
-/// What a host may ask of an editor beyond IStyleEditor. Reached by dynamic_cast from the form or from
-/// IStyleEditor.
+/// What an editor offers the host besides IStyleEditor. Use dynamic_cast from the form or from IStyleEditor
+/// to get it.
 ///
-/// All calls are made on the user-interface thread. A call passes on unchanged what the host's own members
-/// raise. AddNewLayer, Popup and Filter may ask the person about edits that were not applied, and the editor
-/// may be gone when they return.
+/// All calls are made on the user-interface thread. Errors that the host's own members raise are passed on
+/// unchanged. AddNewLayer, Popup and Filter may ask the user about edits that were not applied, and the
+/// editor may be gone when they return.
 class IStyleEditorForm
 {
 public:
@@ -29,42 +29,44 @@ public:
     /// The ID under which the editor was created.
     QString EditorID() const { return IStyleEditorForm_EditorID(); }
 
-    /// Reads the one layer from the database and brings its node into view in the flat list; for layers that
-    /// the host made. A layer that does not exist changes nothing.
+    /// Reads one layer from the database and scrolls its node into view in the flat list; for layers that the
+    /// host created. Does nothing if the layer does not exist.
     void AddNewLayer(qint32 layerID) { IStyleEditorForm_AddNewLayer(layerID); }
 
     /// Shows the dialog for a quick look, without restoring its view state.
     void Popup() { IStyleEditorForm_Popup(); }
 
-    /// Stores the code that the panel shows into the layer: the number that its text begins with, 0 for none.
-    /// Raises 6 for a number beyond a double. A layer that does not exist changes nothing.
+    /// Stores the code shown in the panel in the layer: the number at the start of its text, 0 if there is
+    /// none. Raises 6 (overflow) for a number too large for a double. Does nothing if the layer does not
+    /// exist.
     void SetLayerCode(qint32 layerID) { IStyleEditorForm_SetLayerCode(layerID); }
 
-    /// Renames the layer through IStyleEditorClient::RenameLayer and shows the new name at all its nodes.
+    /// Renames the layer through IStyleEditorClient::RenameLayer and shows the new name on all its nodes.
     void SetLayerName(qint32 layerID, const QString& name) { IStyleEditorForm_SetLayerName(layerID, name); }
 
-    /// The host's renderer styles, read once for the life of the dialog.
+    /// The host's renderer styles, read once in the lifetime of the dialog.
     const std::vector<RendererStyle>& LoadRendererStyles() { return IStyleEditorForm_LoadRendererStyles(); }
 
     /// The filter of the flat list; nullptr when every layer is shown. Not owned.
     const IStyleFilter* Filter() const { return IStyleEditorForm_Filter(); }
 
-    /// Stores the filter and, once the dialog is initialised, reads the flat list anew.
+    /// Stores the filter and, once the dialog is initialised, reads the flat list again.
     void Filter(const IStyleFilter* filter) { IStyleEditorForm_Filter(filter); }
 
-    /// Closes the dialog and drops edits that were not applied, without asking. The editor is gone then.
+    /// Closes the dialog and discards edits that were not applied, without asking. The editor is gone
+    /// afterwards.
     void UnloadWithoutApply() { IStyleEditorForm_UnloadWithoutApply(); }
 
-    /// Asks IStyleEditorClient::LayerDisplayName for these layers anew and shows the texts at all their
-    /// nodes, as when another scale obscures them. Edits, selection, order and a name that is being edited
-    /// stay; layers that are not listed are skipped.
+    /// Calls IStyleEditorClient::LayerDisplayName for these layers again and shows the texts on all their
+    /// nodes, for example after a change of scale has obscured them. Edits, selection, order and a name that
+    /// is being edited stay as they are; layers that are not listed are skipped.
     void RefreshLayerNames(const QSet<qint32>& layerIDs) { IStyleEditorForm_RefreshLayerNames(layerIDs); }
 
     /// True while the controls hold edits that were not applied.
     bool HasPendingEdits() const { return IStyleEditorForm_HasPendingEdits(); }
 
-    /// Reads lists, schemes and panel anew, after the host changed the database by itself. Current nodes and
-    /// scroll positions stay, and so do edits that were not applied.
+    /// Reads lists, schemes and panel again after the host itself has changed the database. Current nodes,
+    /// scroll positions and edits that were not applied are kept.
     void Refresh() { IStyleEditorForm_Refresh(); }
 
 protected:

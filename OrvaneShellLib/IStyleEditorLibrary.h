@@ -8,10 +8,10 @@ namespace Orvane {
 class IStyleEditor;
 class IStyleEditorClient;
 
-/// The component's entry object. The host gets it from the plug-in's factory, owns it, and ends every editor
-/// by destroying it: edits that were not applied are dropped without a question. It is not destroyed from
-/// within a call that the component makes into the host. Several of them share host and editors; the last one
-/// destroyed ends the editors.
+/// The component's entry object. The host gets it from the plug-in's factory, owns it, and closes every
+/// editor by destroying it: edits that were not applied are discarded without asking. Do not destroy it
+/// inside a call that the component makes to the host. Several of these objects share the host and the
+/// editors; destroying the last one closes the editors.
 ///
 /// All calls are made on the user-interface thread.
 class IStyleEditorLibrary
@@ -21,19 +21,20 @@ public:
     IStyleEditorLibrary(const IStyleEditorLibrary&) = delete;
     IStyleEditorLibrary& operator=(const IStyleEditorLibrary&) = delete;
 
-    /// The editor registered under the ID, or nullptr. Owned by the component. Never raises.
+    /// Returns the editor registered under the ID, or nullptr. Owned by the component. Never raises.
     IStyleEditor* GetStyleEditor(const QString& styleEditorID) const noexcept
     {
         return IStyleEditorLibrary_GetStyleEditor(styleEditorID);
     }
 
-    /// Takes the host's application object and asks it for its shell services. Before the first
-    /// NewStyleEditor; a second call replaces both, for open editors too. Both stay the host's and outlive
-    /// this object. Passes on what GetShellServices raises. Without a client every use of the host raises 91.
+    /// Sets the host's application object and gets the shell services from it. Call it before the first
+    /// NewStyleEditor; a second call replaces both, for open editors too. The host owns both, and both must
+    /// outlive this object. Passes on what GetShellServices raises. Without a client, every use of the host
+    /// raises 91 (not initialised).
     void Initialise(IStyleEditorClient* client) { IStyleEditorLibrary_Initialise(client); }
 
-    /// Creates a hidden editor and registers it under the ID. Owned by the component. Raises 1234 when the ID
-    /// is registered already; the registered editor is then untouched.
+    /// Creates a hidden editor and registers it under the ID. Owned by the component. Raises 1234 if the ID
+    /// is already registered; the registered editor is then left untouched.
     IStyleEditor* NewStyleEditor(const QString& styleEditorID)
     {
         return IStyleEditorLibrary_NewStyleEditor(styleEditorID);

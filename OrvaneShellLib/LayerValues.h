@@ -3,20 +3,20 @@
 
 #include <QtGlobal>
 
-/// What the numbers in a layer's columns mean that are no plain quantities.
+/// The meaning of the numbers in a layer's columns that are not plain quantities.
 namespace Orvane {
 
 /// A colour that paints nothing. Colours are BGR integers, red in the low byte; any bit of the top byte makes
-/// a fill colour transparent, and this is how it is written. In a line colour the same byte says that symbols
-/// keep their own.
+/// a fill colour transparent, and this is the value that is written. In a line colour, the same byte means
+/// that symbols keep their own colours.
 inline constexpr qint32 TransparentColour = qint32(0xFF000000u);
 
-/// The fill styles: 0 to LastFillStyle, all patterns but these two.
+/// The fill styles, 0 to LastFillStyle. All are patterns except these two.
 inline constexpr qint16 SolidFill = 0;
 inline constexpr qint16 HollowFill = 15;
 inline constexpr qint16 LastFillStyle = 31;
 
-/// The kind by which fill patterns are asked of IShellServices::FillPattern.
+/// The kind to pass to IShellServices::FillPattern for fill patterns.
 inline constexpr int FillPatternKind = 7;
 
 /// The quick modes, as nodes show them; the OverrideMode column holds 0, 1 and 2 for the last three.

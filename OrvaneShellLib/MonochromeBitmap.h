@@ -6,8 +6,8 @@
 
 namespace Orvane {
 
-/// A pattern of one bit a pixel, independent of any toolkit. A bit of 1 is drawn in the text (fore) colour, 0
-/// in the background colour.
+/// A pattern with one bit per pixel, independent of any toolkit. A bit of 1 is drawn in the text (fore)
+/// colour, 0 in the background colour.
 struct MonochromeBitmap {
     int width = 0; ///< pixels
     int height = 0; ///< pixels

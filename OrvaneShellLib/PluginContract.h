@@ -7,21 +7,23 @@ namespace Orvane {
 
 class IStyleEditorLibrary;
 
-/// The version of the interfaces in this folder. Another major version is another contract: host and
-/// component of different majors refuse one another. A higher minor version only adds.
+/// The version of the interfaces in this folder. A different major version is a different contract: a host
+/// and a component with different major versions refuse to work together. A higher minor version only adds to
+/// the contract.
 struct ContractVersion {
     qint32 major = 0;
     qint32 minor = 0;
 };
 
-/// The contract that this source tree speaks.
+/// The contract version of this source tree.
 inline constexpr ContractVersion CurrentContract{1, 1};
 
 /// The names of the functions that the component exports with C linkage, and their types. The host calls them
-/// in this order. The library object is the caller's to delete, before the plug-in is unloaded. The first two
-/// raise nothing, the third std::bad_alloc at most, and it never returns nullptr. The second, since
-/// version 1.1, returns the major version of the Qt that the component was built with: host and component of
-/// different majors refuse one another. A component without it was built with Qt 6.
+/// in this order. The caller owns the library object and deletes it before the plug-in is unloaded. The first
+/// two raise nothing; the third may raise only std::bad_alloc and never returns nullptr. The second exists
+/// since version 1.1 and returns the major version of the Qt that the component was built with: a host and a
+/// component with different Qt major versions refuse to work together. A component without it was built with
+/// Qt 6.
 inline constexpr char ContractVersionSymbol[] = "OrvaneContractVersion";
 inline constexpr char QtMajorSymbol[] = "OrvaneQtMajor";
 inline constexpr char CreateLibrarySymbol[] = "OrvaneCreateStyleEditorLibrary";

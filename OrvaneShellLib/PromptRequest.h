@@ -5,10 +5,10 @@
 
 namespace Orvane {
 
-/// What a person may enter.
+/// What the user may enter.
 enum class EntryKind {
     Text,
-    Integer, ///< a whole number within the minimum and maximum given
+    Integer, ///< a whole number between the minimum and the maximum
 };
 
 /// What IStyleEditorClient::PromptText asks for.
@@ -16,12 +16,12 @@ struct PromptRequest {
     QString title; ///< translated
     QString defaultText; ///< shown selected when the prompt opens
     EntryKind kind = EntryKind::Text;
-    double minimum = 0; ///< of an integer; unused for a text
-    double maximum = 0; ///< of an integer; unused for a text
-    int width = 0; ///< of the entry, in average characters; 0 leaves it to the host
+    double minimum = 0; ///< of an integer; not used for a text
+    double maximum = 0; ///< of an integer; not used for a text
+    int width = 0; ///< of the entry field, in average characters; 0 leaves it to the host
 };
 
-/// What the person made of it.
+/// The user's answer to a PromptRequest.
 struct PromptAnswer {
     bool accepted = false; ///< false when the prompt was cancelled; text is then empty
     QString text; ///< as entered, untrimmed

@@ -6,10 +6,10 @@
 
 namespace Orvane {
 
-/// One way in which the host's renderer can draw a layer, beside "Standard", which has the number 0.
+/// One way in which the host's renderer can draw a layer, besides "Standard", which has the number 0.
 struct RendererStyle {
     qint32 number = 0; ///< stored in Layers.Style
-    QString name; ///< shown to the person as it stands
+    QString name; ///< shown to the user as it is
 };
 
 } // namespace Orvane

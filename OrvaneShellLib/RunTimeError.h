@@ -10,21 +10,21 @@ namespace Orvane {
 
 /// The numbers that a RunTimeError carries. Hosts may raise numbers of their own from 10000 on.
 enum class ErrorNumber {
-    Overflow = 6, ///< a number does not fit the type that was asked for
+    Overflow = 6, ///< a number does not fit the requested type
     SubscriptOutOfRange = 9, ///< an index outside a fixed range
-    FloatingPointFault = 11, ///< a computation with fractions has no finite result
-    TypeMismatch = 13, ///< a value cannot be read as the type that was asked for
-    NotInitialised = 91, ///< the component needs its host before Initialise was called
-    DuplicateEditorID = 1234, ///< a style editor with that ID is registered already
+    FloatingPointFault = 11, ///< a floating-point computation has no finite result
+    TypeMismatch = 13, ///< a value cannot be converted to the requested type
+    NotInitialised = 91, ///< the component needed its host before Initialise was called
+    DuplicateEditorID = 1234, ///< a style editor with that ID is already registered
     DatabaseFailure = 3001, ///< the layer database refused an operation
-    DatabaseLocked = 3002, ///< another process held the layer database longer than the wait allowed
-    NotALayerDatabase = 3003, ///< the file is no layer database, or is damaged
+    DatabaseLocked = 3002, ///< another process kept the layer database locked beyond the allowed wait
+    NotALayerDatabase = 3003, ///< the file is not a layer database, or is damaged
     DatabaseTooNew = 3004, ///< the layer database was written by a newer version
     DatabaseReadOnly = 3005, ///< the layer database cannot be written
-    PluginFailure = 4001, ///< the component could not be loaded, or speaks another contract
+    PluginFailure = 4001, ///< the component could not be loaded, or has a different contract version
 };
 
-/// The one exception type that crosses the border between host and component.
+/// The one exception type that crosses the boundary between host and component.
 ///
 ///     throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
 ///
@@ -32,8 +32,8 @@ enum class ErrorNumber {
 class Q_DECL_EXPORT RunTimeError : public std::exception
 {
 public:
-    /// description: for a person, translated where the raiser has a translator. source: who raised it, empty
-    /// for "the component".
+    /// description: for the user, translated if the code that raises it has a translator. source: who raised
+    /// it, empty for "the component".
     RunTimeError(int number, const QString& description, const QString& source = {})
         : m_number(number), m_description(description), m_source(source), m_utf8(description.toUtf8())
     {
@@ -44,9 +44,9 @@ public:
     {
     }
 
-    /// The error's number; the values of ErrorNumber, or the host's own.
+    /// The error number: a value of ErrorNumber, or one of the host's own.
     int Number() const { return m_number; }
-    /// The text for a person.
+    /// The text for the user.
     const QString& Description() const { return m_description; }
     /// Who raised it; empty for the component itself.
     const QString& Source() const { return m_source; }

@@ -11,7 +11,7 @@ namespace Orvane {
 
 /// What a Value holds, in the order of its alternatives.
 enum class ValueKind {
-    Empty, ///< nothing was put here; never equals anything
+    Empty, ///< not set; never equals anything
     Null, ///< "various" or "not known"
     Boolean,
     Int16,
@@ -27,7 +27,7 @@ enum class ValueKind {
 ///     Value width = qint16(-3);
 ///     if (!width.IsNull()) { int pixels = -ToInt32(width); }
 ///
-/// Values copy by value; nothing here raises. Conversions stand in ValueConversions.h and are checked.
+/// A copy is independent of the original; nothing here raises. Checked conversions are in ValueConversions.h.
 class Value
 {
 public:
@@ -60,12 +60,12 @@ public:
     /// True for the two integer and the two floating kinds; a boolean is not a number.
     bool IsNumber() const { return Kind() >= ValueKind::Int16 && Kind() <= ValueKind::Double; }
 
-    /// The stored alternative, or nullptr when another is stored. T: bool, qint16, qint32, float, double,
-    /// QString.
+    /// The stored alternative, or nullptr when a different one is stored. T: bool, qint16, qint32, float,
+    /// double, QString.
     template <typename T> const T* Get() const { return std::get_if<T>(&m_data); }
 
-    /// Same kind and same content; Empty and Null each equal themselves here. For tests and containers:
-    /// comparing properties is ValuesEqual's business.
+    /// Same kind and same content; Empty and Null each equal themselves here. For tests and containers; use
+    /// ValuesEqual to compare properties.
     bool IsIdenticalTo(const Value& other) const { return m_data == other.m_data; }
 
 private:

@@ -24,8 +24,8 @@ inline double RoundHalfToEven(double number)
     return std::fmod(lower, 2.0) == 0.0 ? lower : lower + 1;
 }
 
-/// The number that a text holds, blanks around it ignored: "." as separator, no grouping, exponents allowed.
-/// Nothing for any other text, and nothing for infinities and NaN.
+/// The number in a text, ignoring leading and trailing blanks: "." as decimal separator, no grouping,
+/// exponents allowed. Returns nothing for any other text, for infinities and for NaN.
 inline std::optional<double> NumberInText(const QString& text)
 {
     QLocale locale = QLocale::c();
@@ -58,7 +58,7 @@ template <typename Integer> Integer RoundedTo(double number)
     return static_cast<Integer>(rounded);
 }
 
-// Fixed notation of DBL_MAX takes 309 digits, of the smallest double about 1,080.
+// In fixed notation DBL_MAX takes 309 digits, the smallest double about 1,080.
 template <typename Number> QString PlainDecimal(Number number)
 {
     if (number == 0)
@@ -75,7 +75,7 @@ template <typename Number> QString PlainDecimal(Number number)
 
 } // namespace Detail
 
-/// Any number as a double, a boolean as 1 or 0, a text that holds a number as that number. Raises 13 (type
+/// A number as a double, a boolean as 1 or 0, a text that holds a number as that number. Raises 13 (type
 /// mismatch) for Empty, Null and any other text.
 inline double ToDouble(const Value& value)
 {
@@ -128,8 +128,8 @@ inline bool ToBoolean(const Value& value)
     return ToDouble(value) != 0;
 }
 
-/// A text as it is; a number in the shortest plain decimal form (no exponent, no grouping, "." as separator);
-/// a boolean as "True" or "False". Raises 13 for Empty and Null.
+/// A text as it is; a number in the shortest plain decimal form (no exponent, no grouping, "." as decimal
+/// separator); a boolean as "True" or "False". Raises 13 for Empty and Null.
 inline QString ToText(const Value& value)
 {
     switch (value.Kind()) {
@@ -152,15 +152,15 @@ inline QString ToText(const Value& value)
     Detail::RaiseTypeMismatch();
 }
 
-/// The same, and the empty text for Null, for columns that may hold nothing. Raises 13 for Empty.
+/// As ToText, but returns an empty text for Null; for columns that may be empty. Raises 13 for Empty.
 inline QString ToTextOrNone(const Value& value)
 {
     return value.IsNull() ? QString() : ToText(value);
 }
 
-/// Equality of two property values: numbers compare numerically across their four kinds, texts as texts,
-/// booleans with booleans. Empty and Null equal nothing, themselves included; callers give Null its meaning
-/// first. Never raises.
+/// Equality of two property values: numbers compare numerically across their four kinds, texts with texts,
+/// booleans with booleans. Empty and Null equal nothing, not even themselves; callers handle Null first.
+/// Never raises.
 inline bool ValuesEqual(const Value& left, const Value& right)
 {
     if (left.IsNumber() && right.IsNumber())

@@ -14,13 +14,13 @@ class SqliteLayerDatabase;
 class ChangeStep final : public IUndoStep
 {
 public:
-    /// Whether the step is one with the step before it.
+    /// Whether the step is merged with the step before it.
     enum class Joins { No, StepBefore };
 
-    /// Where steps run; all outlive them.
+    /// What steps work with; everything here must outlive them.
     struct Surroundings {
         SqliteLayerDatabase& database;
-        std::function<void()> begin; ///< called before rows change; what it raises stops the step
+        std::function<void()> begin; ///< called before rows change; if it raises, the step is not run
         std::function<void(const Changeset& changed)> end; ///< called after rows changed; raises nothing
     };
 
@@ -37,7 +37,7 @@ private:
 
     const Surroundings& m_surroundings;
     QString m_text;
-    Changeset m_changes; // the last that were made, by the step or by taking it back
+    Changeset m_changes; // the changes made last, by the step or by undoing it
     Joins m_joins;
 };
 

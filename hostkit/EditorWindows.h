@@ -16,17 +16,18 @@ public:
     void SetMainWindow(QWidget* mainWindow) { m_mainWindow = mainWindow; }
     QWidget* MainWindow() const { return m_mainWindow; }
 
-    /// Shows the form as a window, or brings it to the front, and gives it the keys unless it has the
-    /// attribute Qt::WA_ShowWithoutActivating. The form stays the caller's.
+    /// Shows the form as a window, or brings it to the front, and gives it the keyboard focus unless it has
+    /// the attribute Qt::WA_ShowWithoutActivating. The caller keeps ownership of the form.
     void Show(QWidget* form);
-    /// Forgets the form; false when it is not known.
+    /// Forgets the form; returns false if it is not known.
     bool Forget(QWidget* form);
-    /// The forms that are shown, in the order of their showing.
+    /// The forms that are shown, in the order in which they were shown.
     std::vector<QWidget*> Shown() const;
 
-    /// True when an editor holds edits that were not applied yet.
+    /// True when an editor has edits that are not applied yet.
     bool HavePendingEdits() const;
-    /// Has every editor read the database anew. The first error is raised when all have been asked.
+    /// Makes every editor read the database again. The first error is raised after all editors have been
+    /// refreshed.
     void RefreshEditors() const;
 
 private:

@@ -3,19 +3,19 @@
 
 namespace Orvane {
 
-/// Numbers of the errors that the host kit raises itself; those of the database pass through unchanged.
+/// Numbers of the errors that the host kit raises itself; database errors are passed on unchanged.
 enum class HostError {
     UnknownScheme = 10001, ///< no layer scheme has that name
-    DuplicateScheme = 10002, ///< a layer scheme of that name exists already
+    DuplicateScheme = 10002, ///< a layer scheme of that name already exists
     LastScheme = 10003, ///< the only layer scheme cannot be deleted
-    NoStartupDatabase = 10004, ///< the host named no file for the startup database
-    StepOutdated = 10005, ///< a step cannot be undone or redone: somebody else changed what it did
-    EditsPending = 10006, ///< an open editor holds edits that were not applied yet
-    SchemeFileUnreadable = 10011, ///< a scheme file is missing, too large, damaged or of a newer program
+    NoStartupDatabase = 10004, ///< the host has not set a file for the startup database
+    StepOutdated = 10005, ///< a step cannot be undone or redone: its result has been changed since
+    EditsPending = 10006, ///< an open editor has edits that are not applied yet
+    SchemeFileUnreadable = 10011, ///< a scheme file is missing, too large, damaged or from a newer program
     SchemeFileUnwritable = 10012, ///< a scheme file cannot be written
-    SchemeTextDamaged = 10013, ///< a text is no scheme
-    SchemeTextTooNew = 10014, ///< a scheme's text is of a newer program
-    SchemeValueUnknown = 10015, ///< a saved value is no number
+    SchemeTextDamaged = 10013, ///< a text is not a scheme
+    SchemeTextTooNew = 10014, ///< a scheme's text is from a newer program
+    SchemeValueUnknown = 10015, ///< a saved value is not a number
 };
 
 } // namespace Orvane

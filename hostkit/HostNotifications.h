@@ -9,8 +9,8 @@ class QWidget;
 
 namespace Orvane {
 
-/// What a StandardClient tells its host, as signals. Each is emitted once an operation, after everything is
-/// stored.
+/// The signals by which a StandardClient notifies its host. Each is emitted once per operation, after
+/// everything is stored.
 class HostNotifications : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
 signals:
     /// The drawing properties of these layers were stored: redraw them. Emitted by RedrawMap with all layers
-    /// that LayerChanged named, and after a scheme was loaded.
+    /// passed to LayerChanged, and after a scheme was loaded.
     void LayersChanged(const QSet<qint32>& layerIDs);
     /// The layer was created, with its row stored.
     void LayerCreated(qint32 layerID);
@@ -28,9 +28,9 @@ signals:
     void LayerDeleted(qint32 layerID);
     void LayerRenamed(qint32 layerID, const QString& name);
     void GroupRenamed(qint32 groupID, const QString& name);
-    /// Another scheme is current, or the set of schemes changed.
+    /// The current scheme or the set of schemes has changed.
     void SchemesChanged(const QString& currentScheme);
-    /// The scheme's saved values are those of the layers now; follows SchemesChanged and LayersChanged.
+    /// The layers now have the scheme's saved values. Emitted after SchemesChanged and LayersChanged.
     void SchemeLoaded(const QString& scheme);
     /// The form is shown as a window.
     void EditorShown(QWidget* form);

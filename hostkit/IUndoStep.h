@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// Something that a person did, that can be taken back and done again. Made after it was done, and given to
-/// an UndoHistory:
+/// An operation of the user that can be undone and redone. Create it after the operation is done, and add it
+/// to an UndoHistory:
 ///
 ///     class MoveFeature final : public IUndoStep { ... };
 ///     client.History().Add(std::make_unique<MoveFeature>(layerID, feature, from, to));
@@ -17,20 +17,20 @@ public:
     IUndoStep(const IUndoStep&) = delete;
     IUndoStep& operator=(const IUndoStep&) = delete;
 
-    /// What was done, for a person and translated, in words that can follow "Undo" in a menu: "Change of
+    /// A translated description of the operation, worded to follow "Undo" in a menu, for example "Change of
     /// Roads".
     virtual QString Text() const = 0;
 
-    /// Takes it back, all or nothing. Raises HostError::StepOutdated when that is no longer possible because
-    /// what was done was changed by somebody else; the history then forgets the step. After any other error
-    /// the step stays, so that the person can try again.
+    /// Undoes the operation, all or nothing. Raises HostError::StepOutdated if that is no longer possible
+    /// because something else has changed its result; the history then removes the step. After any other
+    /// error the step stays, so that the user can try again.
     virtual void Undo() = 0;
 
-    /// Does it again; raises as Undo does.
+    /// Redoes the operation; raises the same errors as Undo.
     virtual void Redo() = 0;
 
-    /// Takes the step that was done directly after this one into itself, if the two are one to the person;
-    /// true when next is no longer needed. No step does, unless it says otherwise.
+    /// Merges the step done directly after this one into this step, if they are one operation to the user.
+    /// Returns true if next is no longer needed. By default steps are not merged.
     virtual bool Absorb([[maybe_unused]] const IUndoStep& next) { return false; }
 
 protected:

@@ -8,17 +8,17 @@ namespace Orvane {
 class Changeset;
 class SqliteLayerDatabase;
 
-/// What changed rows of a layer database mean to a host.
+/// What changes to the rows of a layer database mean for a host.
 struct LayerChanges {
     QSet<qint32> created;
     QSet<qint32> deleted;
-    QSet<qint32> changed; ///< other columns than the name
+    QSet<qint32> changed; ///< layers with changes in columns other than the name
     QSet<qint32> renamed;
     QSet<qint32> renamedGroups;
-    bool onlyCodes = true; ///< of the changed layers nothing but the code
-    bool schemes = false; ///< the set of schemes, the current one, or values that stay in them
+    bool onlyCodes = true; ///< true when only the code of the changed layers has changed
+    bool schemes = false; ///< the schemes, the current one, or saved values of layers that stay have changed
 
-    /// database: to which the changes were made.
+    /// database: the one in which the changes were made.
     static LayerChanges Of(const Changeset& changes, SqliteLayerDatabase& database);
 };
 

@@ -8,13 +8,14 @@ class QWidget;
 
 namespace Orvane {
 
-/// What goes with a layer that is deleted.
+/// What is removed together with a deleted layer.
 struct LayerDeletion {
     QString layer; ///< its name
     QStringList groups; ///< the names of the groups it is in, in the order of the tree
-    QStringList schemes; ///< the names of the schemes that keep values of it, in the order of creation
+    QStringList schemes; ///< the names of the schemes that have values for it, in the order of creation
 
-    /// Asks the person in front of the owner whether to go on; No is the default. owner may be nullptr.
+    /// Asks the user, in a dialog in front of owner, whether to go on; the default is No. owner may be
+    /// nullptr.
     bool Confirm(QWidget* owner) const;
 };
 

@@ -12,23 +12,23 @@ namespace Orvane {
 
 class ILayerDatabase;
 
-/// What a layer is known by in another map.
+/// What identifies a layer in another map.
 struct LayerIdentity {
-    qint32 id = 0; ///< the LayerID, or any other number that its list holds once
-    std::optional<double> code; ///< 0 or more; none for a layer that shares no code
+    qint32 id = 0; ///< the LayerID, or any other number that is unique in its list
+    std::optional<double> code; ///< 0 or more; none for a layer that is not matched by code
     QString name;
 };
 
 /// All layers of a database, in the order of their IDs.
 std::vector<LayerIdentity> IdentitiesOf(ILayerDatabase& database);
 
-/// The layers of one list that are also in another: the ID in the first, to that in the second. Two layers
-/// are the same when they have the same code, that no other layer of either list has; else when they have the
-/// same name, of which the first counts.
+/// Maps the layers of one list that are also in another: from the ID in the first list to the ID in the
+/// second. Two layers are the same if they have the same code and no other layer in either list has it;
+/// otherwise, if they have the same name, where the first layer of that name counts.
 QHash<qint32, qint32>
 MatchLayers(const std::vector<LayerIdentity>& from, const std::vector<LayerIdentity>& to);
 
-/// The same for the layers of two databases, by their LayerIDs.
+/// As above, for the layers of two databases, by their LayerIDs.
 QHash<qint32, qint32> MatchLayers(ILayerDatabase& from, ILayerDatabase& to);
 
 } // namespace Orvane

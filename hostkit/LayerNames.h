@@ -9,26 +9,26 @@ namespace Orvane {
 
 class ILayerDatabase;
 
-/// The names of all layers, read by one query at the first question and kept in step by whoever renames,
-/// creates or deletes a layer.
+/// The names of all layers, read in one query when first needed. Code that renames, creates or deletes a
+/// layer must keep them up to date.
 class LayerNames
 {
 public:
     /// database: not owned; outlives this object.
     explicit LayerNames(ILayerDatabase& database) : m_database(database) { }
 
-    /// The layer's name; empty for a layer that does not exist. A layer that was added behind this object's
-    /// back is read when it is first asked for.
+    /// The layer's name; empty if the layer does not exist. A layer that was added without notifying this
+    /// object is read when its name is first requested.
     QString Name(qint32 layerID);
 
     /// The names of all layers, each once.
     QSet<QString> All();
 
-    /// The layer has that name now.
+    /// Records that the layer now has that name.
     void Set(qint32 layerID, const QString& name);
-    /// The layer is gone.
+    /// Records that the layer is gone.
     void Remove(qint32 layerID);
-    /// Forgets all names: the next question reads them anew.
+    /// Forgets all names: they are read again when next needed.
     void Invalidate();
 
 private:

@@ -18,14 +18,14 @@ class EditorWindows;
 class HostNotifications;
 class LayerNames;
 
-/// Makes steps of what a host does to its layer database, and tells the host and the open editors when they
-/// are undone or redone.
+/// Turns a host's changes to its layer database into undo steps, and notifies the host and the open editors
+/// when they are undone or redone.
 class LayerSteps
 {
     Q_DECLARE_TR_FUNCTIONS(LayerSteps)
 
 public:
-    /// None is owned; all outlive this object.
+    /// None of these is owned; all must outlive this object.
     LayerSteps(
         SqliteLayerDatabase& database, LayerNames& names, EditorWindows& windows,
         HostNotifications& notifications);
@@ -34,14 +34,14 @@ public:
 
     UndoHistory& History() { return m_history; }
 
-    /// Does the act, which is all or nothing and answers what it did as IUndoStep::Text does, and keeps what
-    /// it changed as one step; without changes there is none. Within another Record it is a part of that
-    /// step. What the act raises is passed on.
+    /// Runs act and keeps its changes as one step; without changes there is no step. act must change
+    /// everything or nothing, and return a description as IUndoStep::Text does. Inside another Record, the
+    /// changes belong to the outer step. Errors that act raises are passed on.
     void Record(const std::function<QString()>& act, ChangeStep::Joins joins = ChangeStep::Joins::No);
 
-    /// From now on rows of layers are edited, until EndEdits or until the event loop runs again.
+    /// Starts recording edits of layer rows, until EndEdits or until the event loop runs again.
     void BeginEdits();
-    /// What was edited is one step. Raises nothing.
+    /// Keeps the edits since BeginEdits as one step. Raises nothing.
     void EndEdits();
 
 private:
@@ -59,7 +59,7 @@ private:
     ChangeStep::Surroundings m_surroundings;
     UndoHistory m_history;
     std::unique_ptr<ChangeRecorder> m_recorder;
-    int m_depth = 0; // of Record in Record
+    int m_depth = 0; // nesting of Record calls
     QTimer m_endOfEdits;
     std::vector<Changeset> m_untold;
 };

@@ -11,8 +11,8 @@ namespace Orvane {
 
 class ModalSession;
 
-/// Forms that are shown application-modally, one over another. Forms stay their owner's: when Run returns,
-/// the form is hidden and has the modality it had before.
+/// Forms that are shown application-modally, one on top of another. Forms are not owned: when Run returns,
+/// the form is hidden and has its former modality again.
 class ModalForms
 {
 public:
@@ -20,16 +20,16 @@ public:
     Q_DISABLE_COPY_MOVE(ModalForms)
 
     /// Shows the form in front of the active window and returns when it is hidden, closed, destroyed or ended
-    /// by End. A form that is shown modally already is only raised.
+    /// by End. A form that is already shown modally is only raised.
     void Run(QWidget* form);
 
-    /// Ends the Run of that form; does nothing for any other.
+    /// Ends the Run call for that form; does nothing for any other form.
     void End(QWidget* form);
 
 private:
     ModalSession* SessionOf(const QWidget* form) const;
 
-    std::vector<ModalSession*> m_sessions; // each lives in its Run
+    std::vector<ModalSession*> m_sessions; // each exists during its Run call
 };
 
 } // namespace Orvane

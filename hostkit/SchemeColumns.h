@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// The columns of Layers that a layer scheme keeps, as pieces of SQL texts. LayerSchemeValues has columns of
-/// the same names.
+/// The columns of Layers that a layer scheme keeps, as fragments of SQL. LayerSchemeValues has columns of the
+/// same names.
 namespace SchemeColumns {
 
 inline constexpr int Count = 17;
@@ -17,8 +17,8 @@ QString List();
 QString SavedList();
 /// "Visible = LayerSchemeValues.Visible, Selectable = ..."
 QString Assignments();
-/// True for a layer whose values are not those of the scheme; nulls are values, and both stored forms of "no
-/// maximum scale" are one.
+/// A condition that is true for a layer whose values differ from the scheme. NULL counts as a value, and both
+/// stored forms of "no maximum scale" count as equal.
 QString Difference();
 /// "?<first>, ?<first + 1>, ...", one for each column.
 QString Parameters(int first);
@@ -26,7 +26,7 @@ QString Parameters(int first);
 QString Definitions();
 /// The name of a column, 0 to Count - 1.
 const char* Name(int column);
-/// True for a column of whole numbers of 32 bits, false for one of doubles.
+/// True for a column of 32-bit integers, false for one of doubles.
 bool IsWhole(int column);
 
 } // namespace SchemeColumns

@@ -7,21 +7,21 @@ namespace Orvane {
 
 class LayerSchemes;
 
-/// Which layers differ from the current scheme, kept up to date at the price of the layers that change: all
-/// layers are compared at the first question and after Forget only.
+/// Which layers differ from the current scheme, kept up to date cheaply: only changed layers are compared
+/// again. All layers are compared only on the first call and after Forget.
 class SchemeDifferences
 {
 public:
     /// schemes: not owned; outlives this object.
     explicit SchemeDifferences(LayerSchemes& schemes) : m_schemes(schemes) { }
 
-    /// How many layers have other values than the current scheme, or none in it. Raises errors of the
-    /// database.
+    /// How many layers have values that differ from the current scheme, or have none in it. Raises database
+    /// errors.
     qsizetype Count();
 
-    /// These layers may have changed, or be new, or be gone. Touches no database.
+    /// Notes that these layers may have changed, be new or be gone. Does not access the database.
     void Note(const QSet<qint32>& layerIDs);
-    /// The scheme is another, or nothing is known of the layers any more.
+    /// Call it when the scheme is another one, or when it is not known which layers changed.
     void Forget() { m_known = false; }
 
 private:

@@ -15,20 +15,20 @@
 
 namespace Orvane {
 
-/// One layer scheme outside of a map: its name, and for each layer what it is known by and its values of all
-/// edited columns. As a JSON text:
+/// One layer scheme outside a map: its name, and for each layer what identifies it and its values for all
+/// edited columns. As JSON text:
 ///
 ///     {"format": "orvane-scheme", "version": 1, "name": "Night", "layers": [
 ///     {"code": 7, "name": "Roads", "Visible": 1, "Selectable": 1, ... "OverrideMode": 0}
 ///     ]}
 ///
-/// Values are those of the columns: colours as BGR numbers, scales as denominators, null for a value that is
-/// not known. Further keys are ignored, so that later programs may add some.
+/// Values are as in the columns: colours as BGR numbers, scales as denominators, null for an unknown value.
+/// Unknown keys are ignored, so later programs may add some.
 struct SchemeDocument {
     Q_DECLARE_TR_FUNCTIONS(SchemeDocument)
 
 public:
-    /// The version of the texts that are written, and the newest that is read.
+    /// The version that is written, and the newest one that can be read.
     static constexpr int Version = 1;
 
     struct Layer {
@@ -36,13 +36,13 @@ public:
         std::array<Value, SchemeColumns::Count> values; ///< numbers and nulls, in the order of SchemeColumns
     };
 
-    QString name; ///< without blanks around it, and not empty
+    QString name; ///< without leading or trailing blanks, and not empty
     std::vector<Layer> layers;
 
-    /// UTF-8, a line a layer. Raises HostError::SchemeValueUnknown for a value that is no number.
+    /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
     QByteArray ToJson() const;
 
-    /// Reads such a text whole. Raises HostError::SchemeTextDamaged with what is wrong, and
+    /// Reads the whole of such a text. Raises HostError::SchemeTextDamaged, which says what is wrong, and
     /// HostError::SchemeTextTooNew.
     static SchemeDocument FromJson(const QByteArray& text);
 };

@@ -10,22 +10,23 @@ namespace Orvane {
 
 class SqliteLayerDatabase;
 
-/// What became of an import.
+/// The result of an import.
 struct SchemeImport {
     QString name; ///< of the scheme
     qsizetype matched = 0; ///< layers of the map that the scheme has values for
-    QStringList onlyInFile; ///< names of the document's layers that the map does not have, in their order
+    QStringList onlyInFile; ///< names of layers in the document that the map does not have, in document order
     QStringList onlyInMap; ///< names of listed layers without values, which keep their own
 };
 
-/// One scheme out of a map and into another; layers are matched as LayerMatch.h says.
+/// Exports one scheme from a map and imports it into another; layers are matched as described in
+/// LayerMatch.h.
 namespace SchemeExchange {
 
 /// The saved values of the scheme. Raises HostError::UnknownScheme.
 SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName);
 
-/// Stores the document as a scheme of its name, in one transaction; a scheme of that name is replaced. The
-/// layers and the current scheme stay as they are.
+/// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
+/// replaced. The layers and the current scheme stay as they are.
 SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme);
 
 } // namespace SchemeExchange

@@ -9,20 +9,20 @@ namespace Orvane {
 
 class SqliteLayerDatabase;
 
-/// The tables of a layer database that hold its schemes: LayerSchemes, a row a scheme, and LayerSchemeValues,
-/// a row for each layer of each scheme. A deleted layer takes its rows with it.
+/// The tables of a layer database that hold its schemes: LayerSchemes has one row per scheme, and
+/// LayerSchemeValues one row per layer and scheme. Deleting a layer deletes its rows.
 class SchemeTables
 {
 public:
-    /// Given to no scheme.
+    /// An ID that no scheme has.
     static constexpr qint32 NoScheme = 0;
 
     /// database: not owned; outlives this object.
     explicit SchemeTables(SqliteLayerDatabase& database) : m_database(database) { }
 
-    /// Makes the tables where they are missing.
+    /// Creates the tables that are missing.
     void Create();
-    /// True when there are tables, with a scheme in them.
+    /// True when the tables exist and contain a scheme.
     bool HaveSchemes();
 
     /// The members below need the tables.
@@ -31,15 +31,15 @@ public:
     QStringList Names();
     /// The current scheme's name.
     QString CurrentName();
-    /// The ID of the scheme of that name, NoScheme when there is none.
+    /// The ID of the scheme of that name, or NoScheme if there is none.
     qint32 IDOf(const QString& name);
 
     /// Adds a scheme without values and returns its ID.
     qint32 Insert(const QString& name);
     void MakeCurrent(qint32 schemeID);
-    /// Removes the values of a scheme, and only them.
+    /// Removes only the values of a scheme.
     void DropValues(qint32 schemeID);
-    /// Removes a scheme with its values.
+    /// Removes a scheme and its values.
     void Remove(qint32 schemeID);
 
 private:

@@ -8,18 +8,18 @@ namespace Orvane {
 
 class SqliteLayerDatabase;
 
-/// Copies layer schemes from one layer database into another; which layers are the same, MatchLayers says.
+/// Copies layer schemes from one layer database into another; layers are matched by MatchLayers.
 class SchemeTransfer
 {
 public:
     /// Neither is owned; both outlive this object.
     SchemeTransfer(SqliteLayerDatabase& from, SqliteLayerDatabase& to);
 
-    /// Adds to the receiving database the layers that it does not know, with all their properties.
+    /// Adds the layers that the target database does not have to it, with all their properties.
     void AddMissingLayers();
 
-    /// Copies each scheme with the values of the layers that the receiving database knows. A scheme of the
-    /// same name is replaced, the others stay; the current scheme stays, if there was one.
+    /// Copies each scheme with the values of the layers that the target database has. A scheme of the same
+    /// name is replaced and the others stay; the current scheme stays current if there was one.
     void CopySchemes();
 
 private:
@@ -28,7 +28,7 @@ private:
 
     SqliteLayerDatabase& m_from;
     SqliteLayerDatabase& m_to;
-    QHash<qint32, qint32> m_matches; // LayerID there, LayerID here
+    QHash<qint32, qint32> m_matches; // from the LayerID in the source to the LayerID in the target
 };
 
 } // namespace Orvane

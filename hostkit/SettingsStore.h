@@ -10,19 +10,19 @@ class QSettings;
 
 namespace Orvane {
 
-/// Texts under keys, kept for the person beyond the run. Any text is a key; case counts. An editor's view
-/// state is kept under "DrawStyleEditor::" + its ID.
+/// Texts stored under keys, kept for the user beyond this run. Any text can be a key; keys are
+/// case-sensitive. An editor's view state is stored under "DrawStyleEditor::" + its ID.
 class SettingsStore
 {
 public:
-    /// The application's own settings, by QCoreApplication's organisation and application name.
+    /// The application's own settings, under QCoreApplication's organisation and application name.
     SettingsStore();
     /// A settings file. path: absolute.
     explicit SettingsStore(const QString& path);
     ~SettingsStore();
     Q_DISABLE_COPY_MOVE(SettingsStore)
 
-    /// The text stored under the key, empty when there is none.
+    /// The text stored under the key, or an empty text.
     QString Read(const QString& key) const;
     /// Stores the text under the key.
     void Write(const QString& key, const QString& value);

@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// Ready-made shell services: the scales of ScaleTable, the patterns of FillPatterns, modal forms over the
-/// active window, and a value entry popup. Override what is your own:
+/// Ready-made shell services: the scales of ScaleTable, the patterns of FillPatterns, modal forms in front of
+/// the active window, and a value entry popup. Override what differs:
 ///
 ///     class MyServices : public StandardShellServices
 ///     {
@@ -23,8 +23,8 @@ public:
 protected:
     double IShellServices_ScaleFromIndex(qint32 index) const override;
     qint32 IShellServices_IndexFromScale(double denominator) const override;
-    /// Only kind 7 is known; raises 9 (subscript out of range) for another kind and for a number outside 0 to
-    /// 31.
+    /// Only kind 7 is supported; raises 9 (subscript out of range) for another kind and for a number outside
+    /// 0 to 31.
     MonochromeBitmap IShellServices_FillPattern(int kind, int number) const override;
     void IShellServices_ShowModal(QWidget* form) override;
     void IShellServices_CloseModal(QWidget* form) override;

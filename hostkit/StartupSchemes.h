@@ -8,15 +8,15 @@ namespace Orvane {
 class SqliteLayerDatabase;
 
 /// The startup database: a second layer database file, from which new maps take their schemes. Layers are
-/// matched by code and name, as LayerMatch.h says.
+/// matched by code and name, as described in LayerMatch.h.
 namespace StartupSchemes {
 
-/// Writes all schemes of the map to the startup file, in one transaction. The file and its folder are
-/// made when they are missing; layers that it does not know are added; its schemes of other names stay.
+/// Writes all schemes of the map to the startup file, in one transaction. The file and its folder are created
+/// if they are missing; layers that the file does not have are added; its schemes of other names stay.
 void Save(SqliteLayerDatabase& map, const QString& startupFile);
 
-/// Gives the map the schemes of the startup file, in one transaction; those of the same name are replaced.
-/// The layers stay as they are. Without that file nothing happens.
+/// Copies the schemes of the startup file into the map, in one transaction; schemes of the same name are
+/// replaced. The layers stay as they are. Does nothing if the file does not exist.
 void Load(SqliteLayerDatabase& map, const QString& startupFile);
 
 } // namespace StartupSchemes

@@ -7,20 +7,20 @@ namespace Orvane {
 
 class IShellServices;
 
-/// How the columns MinVisScale and MaxVisScale keep a scale: as its denominator. 0 is no limit, in either
+/// How the columns MinVisScale and MaxVisScale keep a scale: as its denominator. 0 means no limit, in either
 /// column.
 namespace StoredScale {
 
 /// Stored where there is no lower limit (scale index 0).
 inline constexpr double NoMinimum = 0;
-/// Stored where there is no upper limit (scale index 256); beyond any map, and a whole 32-bit number.
+/// Stored where there is no upper limit (scale index 256); beyond any map scale, and a 32-bit integer.
 inline constexpr double NoMaximum = 2'000'000'000;
 
-/// The scale index, 0 to 256, of a stored scale: 0 for NoMinimum and less, 256 for NoMaximum and more, else
-/// the nearest index of the services' scales. Inverse of FromIndex.
+/// The scale index, 0 to 256, of a stored scale: 0 for NoMinimum and less, 256 for NoMaximum and more,
+/// otherwise the nearest index in the services' scales. The inverse of FromIndex.
 qint32 ToIndex(double stored, const IShellServices& services);
 
-/// What to store for a scale index; below 1 there is no lower, above 255 no upper limit.
+/// The value to store for a scale index; below 1 there is no lower limit, above 255 no upper limit.
 double FromIndex(qint32 index, const IShellServices& services);
 
 /// True when a layer with these stored limits is drawn on a map of that scale; both limits are inclusive.

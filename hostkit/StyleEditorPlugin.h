@@ -20,9 +20,9 @@ class IStyleEditorLibrary;
 ///     plugin.Library().Initialise(&client);
 ///     plugin.Library().NewStyleEditor("Main")->Visible(true);
 ///
-/// Nothing but its versions is asked of a component before they are known to fit. Destroying
-/// this object destroys the library object with all its editors, so the client must still be alive. The
-/// component's code stays in the process until that ends: texts that it handed over may point into it.
+/// A component is asked only for its versions until they are known to be compatible. Destroying this object
+/// destroys the library object with all its editors, so the client must still be alive. The component's code
+/// stays loaded until the process ends, because texts that it returned may point into it.
 class StyleEditorPlugin
 {
     Q_DECLARE_TR_FUNCTIONS(StyleEditorPlugin)
@@ -32,21 +32,21 @@ public:
     static constexpr char DefaultName[] = "OrvaneLayerControlQt" QT_STRINGIFY(QT_VERSION_MAJOR);
 
     /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
-    /// Raises PluginFailure when it cannot be loaded, is no such component, speaks another contract, or was
-    /// built with another major version of Qt.
+    /// Raises PluginFailure when it cannot be loaded, is not such a component, has a different contract
+    /// version, or was built with another major version of Qt.
     explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
     ~StyleEditorPlugin();
     Q_DISABLE_COPY_MOVE(StyleEditorPlugin)
 
     /// The component's entry object; owned by this object.
     IStyleEditorLibrary& Library() const { return *m_library; }
-    /// The contract version that the component speaks.
+    /// The component's contract version.
     ContractVersion Version() const { return m_version; }
     /// The file that was loaded.
     QString FileName() const { return m_file.fileName(); }
 
-    /// Where a plain name is looked for, in this order: beside the program, in ../lib and in
-    /// ../lib/orvane beside it, then in Qt's library paths.
+    /// Where a plain name is looked for, in this order: the program's folder, ../lib and ../lib/orvane
+    /// relative to it, then Qt's library paths.
     static QStringList SearchFolders();
 
 private:

@@ -26,7 +26,7 @@ public:
     explicit TextPrompt(const PromptRequest& request, QWidget* parent = nullptr);
     ~TextPrompt() override;
 
-    /// Shows the dialog modally and returns what the person made of it.
+    /// Shows the dialog modally and returns the user's answer.
     PromptAnswer Ask();
 
     /// Places the dialog with its entry over a control, within the control's screen.

@@ -11,49 +11,49 @@
 
 namespace Orvane {
 
-/// The last things that a person did, in their order, to be undone from the last one back and redone.
+/// The user's latest operations in order, which can be undone, the last one first, and redone.
 ///
-/// StandardClient adds its steps by itself; a host adds those of its own to the same history. All calls are
-/// made on the user-interface thread.
+/// StandardClient adds its own steps; a host adds its steps to the same history. All calls are made on the
+/// user-interface thread.
 class UndoHistory : public QObject
 {
     Q_OBJECT
 
 public:
-    /// As many steps are kept; one more drops the oldest.
+    /// The number of steps that are kept; adding one more drops the oldest.
     static constexpr int MaxSteps = 100;
 
     using QObject::QObject;
 
-    /// Takes a step that was done just now; what was undone before can then no longer be redone. While Undo
-    /// or Redo runs, nothing is added: what happens then belongs to the step that runs.
+    /// Adds a step that was just done; steps that were undone before can then no longer be redone. While Undo
+    /// or Redo is running, nothing is added: what happens then belongs to the running step.
     void Add(std::unique_ptr<IUndoStep> step);
 
     bool CanUndo() const { return m_done > 0; }
     bool CanRedo() const { return m_done < m_steps.size(); }
-    /// A menu's text: "Undo Change of Roads", or only "Undo" when there is nothing to undo.
+    /// The text for a menu: "Undo Change of Roads", or just "Undo" if there is nothing to undo.
     QString UndoText() const;
     /// As UndoText, for Redo.
     QString RedoText() const;
 
-    /// Undoes the last step, if there is one. Raises what the step raises: with HostError::StepOutdated it is
-    /// gone from the history, else everything is as before.
+    /// Undoes the last step, if there is one. Raises what the step raises: after HostError::StepOutdated the
+    /// step is removed from the history; after any other error everything is as before.
     void Undo() { Run(Direction::Undo); }
-    /// Does the step again that was undone last, if there is one; raises as Undo does.
+    /// Redoes the step that was undone last, if there is one; raises the same errors as Undo.
     void Redo() { Run(Direction::Redo); }
 
     /// Forgets all steps.
     void Clear();
 
-    /// The action is called at the beginning of each Undo and Redo, before the step is chosen; what it raises
-    /// stops them. An empty function ends that.
+    /// The action is called at the beginning of each Undo and Redo, before the step is chosen; if it raises,
+    /// nothing is undone or redone. An empty function removes the action.
     void SetBeforeStep(std::function<void()> action) { m_beforeStep = std::move(action); }
-    /// The action is called at the end of each Undo and Redo that did something, when the history stands
-    /// already where it belongs; what it raises is passed on. An empty function ends that.
+    /// The action is called at the end of each Undo and Redo that did something, when the history is already
+    /// up to date; errors that it raises are passed on. An empty function removes the action.
     void SetAfterStep(std::function<void()> action) { m_afterStep = std::move(action); }
 
 signals:
-    /// What can be undone or redone is something else now.
+    /// What can be undone or redone has changed.
     void Changed();
 
 private:
@@ -62,8 +62,8 @@ private:
     void Run(Direction direction);
     void RunStep(Direction direction, size_t position);
 
-    std::vector<std::unique_ptr<IUndoStep>> m_steps; // the oldest first
-    size_t m_done = 0; // so many of them are done, those behind are undone
+    std::vector<std::unique_ptr<IUndoStep>> m_steps; // oldest first
+    size_t m_done = 0; // the number of steps that are done; those after them are undone
     bool m_running = false;
     std::function<void()> m_beforeStep;
     std::function<void()> m_afterStep;

@@ -12,9 +12,9 @@ namespace Orvane {
 ///     CatalogueTranslator translator(MessageCatalogue::FromFile(path));
 ///     QCoreApplication::installTranslator(&translator);
 ///
-/// Compiled catalogues are not used, because reading a damaged one can end the process. An entry of
-/// the asking context comes first, then one of any context, so that the toolkit's own "Cancel" is translated
-/// with the host's. Disambiguations and plural forms are not told apart: a host writes no "%n".
+/// Compiled catalogues are not used, because reading a damaged one can end the process. An entry in the
+/// requested context comes first, then one in any context, so the toolkit's own "Cancel" gets the host's
+/// translation. Disambiguations and plural forms are not supported: a host does not use "%n".
 class CatalogueTranslator : public QTranslator
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ public:
     explicit CatalogueTranslator(MessageCatalogue catalogue, QObject* parent = nullptr);
     ~CatalogueTranslator() override;
 
-    /// True when there is nothing to translate with; Qt then leaves the translator out.
+    /// True when there are no translations; Qt then skips this translator.
     bool isEmpty() const override;
-    /// The translation, or a null text, at which Qt asks the next translator.
+    /// Returns the translation, or a null string to make Qt try the next translator.
     QString translate(
         const char* context, const char* sourceText, const char* disambiguation = nullptr,
         int n = -1) const override;

@@ -26,8 +26,8 @@ struct LinguistEntry {
 
 using LinguistEntries = std::vector<LinguistEntry>;
 
-/// The messages of a Qt Linguist document (.ts), in its order. Nothing when it is not well-formed to its end,
-/// or is another kind of document. Never raises.
+/// Returns the messages of a Qt Linguist document (.ts) in document order. Returns nothing if the document is
+/// not well-formed throughout or is of another kind. Never raises.
 std::optional<LinguistEntries> ReadLinguistDocument(const QByteArray& document);
 
 } // namespace Orvane

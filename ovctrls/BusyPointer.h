@@ -6,8 +6,8 @@
 
 namespace Orvane {
 
-/// Shows the busy pointer while it lives, over anything that may take long. Nests; the pointer that was there
-/// before comes back at the end. Not to be held while a question is asked.
+/// Shows the busy pointer during its lifetime; for anything that may take long. Can be nested; the previous
+/// pointer is restored at the end. Do not keep it while asking the user a question.
 class BusyPointer
 {
 public:

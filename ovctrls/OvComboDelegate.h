@@ -7,8 +7,8 @@ namespace Orvane {
 
 class OvCombo;
 
-/// Paints the drop-down list of an OvCombo: background, selection and focus by the style, the content by the
-/// combo box.
+/// Paints the drop-down list of an OvCombo: the style paints background, selection and focus, the combo box
+/// paints the content.
 class OvComboDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     void
     paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// As high as the closed box without its frame, and a little for the selection around it.
+    /// The height of the closed box without its frame, plus a little for the selection around it.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:

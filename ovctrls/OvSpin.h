@@ -9,7 +9,8 @@ class QToolButton;
 namespace Orvane {
 
 /// Two small buttons, one above the other, that step a single-precision value within a range. The text beside
-/// them is the form's: listen to Change to write the value there, call SetValue when the text has changed.
+/// them belongs to the form: connect to Change to write the value there, and call SetValue when the text has
+/// changed.
 ///
 ///     WidthSpin->SetRange(0, 100);
 ///     WidthSpin->SetBoundText(bedThickness);
@@ -26,24 +27,24 @@ public:
     explicit OvSpin(QWidget* parent = nullptr);
 
     float Value() const { return m_value; }
-    /// Clamps to the range and tells Change when that differs from the present value. What is no number is
+    /// Clamps the value to the range and emits Change if the result differs from the present value. NaN is
     /// ignored.
     void SetValue(float value);
-    void setValue(float value) { SetValue(value); } // the name that form compilers call
+    void setValue(float value) { SetValue(value); } // the name that form compilers use
 
-    /// The ends of the range, 0 and 100 at first. A value outside a new range is clamped. Where the minimum
-    /// is above the maximum, the maximum holds.
+    /// The limits of the range, initially 0 and 100. A value outside a new range is clamped. If the minimum
+    /// is above the maximum, the maximum applies.
     float MinValue() const { return m_minimum; }
     void setMinValue(float minimum);
     float MaxValue() const { return m_maximum; }
     void setMaxValue(float maximum);
     void SetRange(float minimum, float maximum);
 
-    /// By how much a button steps; 1 at first.
+    /// The step of a button; initially 1.
     float Step() const { return m_step; }
     void setStep(float step) { m_step = step; }
 
-    /// The text control whose Up and Down keys and wheel step the value, too; nullptr for none. Not owned,
+    /// The text control whose Up and Down keys and wheel also step the value; nullptr for none. Not owned,
     /// and never written to.
     void SetBoundText(QWidget* control);
     QWidget* BoundText() const { return m_boundText; }
@@ -53,7 +54,7 @@ public slots:
     void StepDown();
 
 signals:
-    /// The value has changed, by the person or by the program.
+    /// The value was changed by the user or by the program.
     void Change(float value);
 
 protected:

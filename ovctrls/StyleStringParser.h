@@ -18,12 +18,12 @@ struct TextRun {
 struct TabStop {
 };
 
-/// "FG=c": the colour of text that follows. Colours are BGR integers (red in the low byte).
+/// "FG=c": the colour of the text that follows. Colours are BGR integers (red in the low byte).
 struct ForeColour {
     qint32 colour = 0;
 };
 
-/// "FCface,size,": the font of text that follows.
+/// "FCface,size,": the font of the text that follows.
 struct FontChange {
     QString face;
     double points = 0;
@@ -32,7 +32,7 @@ struct FontChange {
 /// One figure of a drawing, in pixels from its origin.
 struct Figure {
     bool isFilled = false; ///< ":F", a closed polygon; else ":D", a line
-    QPolygonF points; ///< from the point before it on
+    QPolygonF points; ///< starting with the point before the figure
 };
 
 /// "DRB=" and "DRP=" with what follows them.
@@ -44,18 +44,18 @@ struct Drawing {
     std::vector<Figure> figures;
 };
 
-/// "UD": somebody else paints the item.
+/// "UD": the item is painted by other code.
 struct UserDrawn {
 };
 
 using StyleElement = std::variant<TextRun, TabStop, ForeColour, FontChange, Drawing, UserDrawn>;
 
-/// Takes an item of an owner-drawn list apart. Each command starts with the prefix and ends in "."; the text
-/// of an item is what stands outside commands. With an empty prefix commands are known by their keywords, at
+/// Parses an item of an owner-drawn list. Each command starts with the prefix and ends in "."; the text of an
+/// item is everything outside commands. With an empty prefix, commands are recognised by their keywords, at
 /// the start of the item and after a tab or another command.
 ///
-/// Never fails: an unknown command is left out, and of a broken one remains what stands before the damage.
-/// Coordinates beyond 32767 pixels are cut to that.
+/// Never fails: an unknown command is skipped, and a broken one is kept up to the damage. Coordinates beyond
+/// 32767 pixels are clamped to that.
 std::vector<StyleElement> ParseStyleString(const QString& item, const QString& prefix);
 
 } // namespace Orvane

@@ -10,7 +10,7 @@ class QPainter;
 
 namespace Orvane {
 
-/// How the list looks in which an item is painted.
+/// The look of the list in which an item is painted.
 struct StyleStringLook {
     QFont font; ///< of text, until the item sets another
     QColor textColour; ///< of text, until the item sets another; also what colour 0 of a drawing means until
@@ -18,27 +18,27 @@ struct StyleStringLook {
     int tabColumn = 0; ///< where the part after a tab starts, in pixels from the item's left edge
 };
 
-/// Paints the items of owner-drawn lists from their drawing commands: swatches, sample lines, captions.
+/// Paints items of owner-drawn lists from their drawing commands: swatches, sample lines, captions.
 ///
 ///     const StyleStringRenderer renderer(prefix);
 ///     renderer.Paint(painter, itemRectangle, item, {font(), palette().color(QPalette::Text), 0});
 ///
-/// The commands are those of StyleStringParser.h. A font whose face is not installed is replaced by that of
-/// the list, size included. Lengths are pixels from the item's upper left corner, or from its tab column.
-/// A swatch that the list's background would swallow has a faint outline.
-/// Nothing here fails: of a broken item whatever can be read is painted, and never outside its rectangle.
+/// The commands are those of StyleStringParser.h. A font whose face is not installed is replaced by the
+/// list's font, including its size. Lengths are pixels from the item's upper left corner, or from its tab
+/// column. A swatch that would be invisible on the list's background gets a faint outline. Nothing here
+/// fails: a broken item is painted as far as it can be read, and never outside its rectangle.
 class StyleStringRenderer
 {
 public:
-    /// prefix: what stands before each command.
+    /// prefix: the text before each command.
     explicit StyleStringRenderer(const QString& prefix = {}) : m_prefix(prefix) { }
 
     const QString& Prefix() const { return m_prefix; }
 
-    /// True when the item is painted by somebody else ("UD.").
+    /// True when the item is painted by other code ("UD.").
     bool IsUserDrawn(const QString& item) const;
 
-    /// The words of the item without commands: what a screen reader says and a search finds.
+    /// The words of the item without commands: what a screen reader reads out and a search finds.
     QString PlainText(const QString& item) const;
 
     /// The width of the text before the first tab, in pixels; 0 without a tab.

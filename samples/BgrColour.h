@@ -25,7 +25,7 @@ inline QColor QColorFromBgr(qint32 colour)
     return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
 }
 
-/// The BGR integer of a colour that is written as red, green, blue; top byte 0.
+/// The BGR integer of a colour given as red, green, blue; top byte 0.
 constexpr qint32 Bgr(QRgb rgb)
 {
     return qint32(((rgb & 0xFFU) << 16) | (rgb & 0xFF00U) | ((rgb >> 16) & 0xFFU));

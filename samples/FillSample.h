@@ -25,17 +25,17 @@ struct FillSample {
     qint32 listBack = 0xFFFFFF; ///< background of the list, BGR
 };
 
-/// The fore and back colour that a sample is painted with. Where both are transparent, the line colour stands
-/// on the background of the list; else the background of the list replaces the transparent one.
+/// The fore and back colour that a sample is painted with. If both are transparent, the line colour is used
+/// on the list's background; otherwise the list's background replaces the transparent one.
 FillColours ShownColours(const FillColours& colours, qint32 listBack);
 
-/// Paints an item: the list's background, and on it, 2 pixels inside, the sample in its colours. The left
+/// Paints an item: the list's background and on it, inset by 2 pixels, the sample in its colours. The left
 /// part, up to left + right / 2 of the sample, shows a pattern in black on white, whatever its colours. An
-/// item of 4 pixels or less in a direction is background only.
+/// item of 4 pixels or less in either direction shows only the background.
 void PaintFillItem(QPainter& painter, const QRect& item, const FillSample& sample);
 
-/// Paints only the sample, in its colours, over the whole area: what a legend shows. The pattern begins at
-/// the area's upper left corner.
+/// Paints only the sample, in its colours, over the whole area, as in a legend. The pattern starts at the
+/// area's upper left corner.
 void PaintFillSample(QPainter& painter, const QRect& area, const FillSample& sample);
 
 } // namespace Orvane

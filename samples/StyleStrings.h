@@ -12,7 +12,7 @@
 
 namespace Orvane {
 
-/// The line style without a line.
+/// The line style that draws no line.
 constexpr qint16 NoLineStyle = 15;
 
 /// A line style and its thickness: pixels below 0, the thinnest line at 0, millimetres above.
@@ -21,13 +21,13 @@ struct LineItem {
     qint16 thickness = 0;
 };
 
-/// What the line list offers, in its order; "Custom Line Style..." follows.
+/// The items of the line list, in order; "Custom Line Style..." follows.
 inline constexpr std::array StandardLineItems{
     LineItem{NoLineStyle, 0}, LineItem{0, 0},  LineItem{1, 0},  LineItem{2, 0},  LineItem{3, 0},
     LineItem{4, 0},           LineItem{0, -2}, LineItem{0, -3}, LineItem{0, -4}, LineItem{0, -5},
 };
 
-/// The words that items show, in the person's language.
+/// The words that items show, in the user's language.
 struct StyleWords {
     QString transparent; ///< "Transparent"
     QString noLine; ///< "<none>"
@@ -41,7 +41,7 @@ struct StyleWords {
 ///     const StyleStrings strings(client.StyleCommandPrefix(), TranslatedStyleWords());
 ///     strings.ColourItem(255, {138, 14});  // P "FG=255." P "DRB=255:P=255:M0,1:F0,1,138,1,138,14,0,14,0,1."
 ///
-/// Every command starts with the host's prefix, whatever that holds, and ends in ".". Numbers are plain
+/// Every command starts with the host's prefix, whatever it contains, and ends in ".". Numbers are plain
 /// decimal integers; only the extents of swatches keep a fraction, with the decimal separator of the user's
 /// locale. Nothing here raises.
 class StyleStrings
@@ -49,11 +49,11 @@ class StyleStrings
 public:
     StyleStrings(const QString& prefix, const StyleWords& words) : m_prefix(prefix), m_words(words) { }
 
-    /// A swatch of the colour, one pixel below the top; the word for TransparentColour. colour: BGR.
+    /// A swatch of the colour, one pixel below the top; for TransparentColour, the word for it. colour: BGR.
     QString ColourItem(qint32 colour, const SwatchExtent& extent) const;
 
-    /// A sample of the line; the word for NoLineStyle. A sample is never thicker than the item less two
-    /// pixels, and a millimetre previews as a pixel.
+    /// A sample of the line; for NoLineStyle, the word for it. A sample is never thicker than the item less
+    /// two pixels, and a millimetre is shown as a pixel.
     QString LineItemText(const LineItem& line, const LineExtent& extent) const;
 
     /// An item that the dialog paints itself.

@@ -11,8 +11,8 @@ namespace Orvane {
 
 class SqliteConnection;
 
-/// Notes which rows of a layer database change while it lives, in all tables that have a primary key, the
-/// host's own included. What was rolled back does not count, nor does what another program changed.
+/// Records which rows of a layer database change during its lifetime, in all tables that have a primary key,
+/// including the host's own. Changes that were rolled back or made by another program are not included.
 ///
 ///     const auto recorder = database.RecordChanges();
 ///     ... change rows ...
@@ -22,13 +22,13 @@ class SqliteConnection;
 class ChangeRecorder
 {
 public:
-    /// The connection outlives this object.
+    /// The connection must outlive this object.
     explicit ChangeRecorder(SqliteConnection& connection);
     ~ChangeRecorder();
     ChangeRecorder(const ChangeRecorder&) = delete;
     ChangeRecorder& operator=(const ChangeRecorder&) = delete;
 
-    /// What changed until now. Raises errors of the database.
+    /// The changes so far. Raises database errors.
     Changeset Changes() const;
 
 private:

@@ -9,10 +9,10 @@ namespace Orvane {
 
 struct SqliteSession;
 
-/// Makes the changes in a database, in one transaction, and answers what changed by it: more than was asked
-/// for where rows went with others that they refer to. Answers nothing, and changes nothing, when a row is
-/// not as the changes expect it, or another row stands in its place. A row that is to go may be gone already.
-/// Raises errors of the database.
+/// Applies the changes to a database in one transaction and returns what actually changed: more than
+/// requested if rows were deleted together with others that they refer to. Returns nothing, and changes
+/// nothing, if a row is not as the changes expect it or another row is in its place. A row to be deleted may
+/// already be gone. Raises database errors.
 std::optional<Changeset> ApplyChangeset(SqliteSession& session, const Changeset& changes);
 
 } // namespace Orvane

@@ -9,18 +9,19 @@ struct sqlite3_stmt;
 
 namespace Orvane {
 
-/// The columns of a statement's rows by name, compared without case.
+/// The columns of a statement's rows by name; names are compared case-insensitively.
 ///
-/// Rows are read in loops that name the same columns in the same order: each name that was asked for
-/// remembers its follower, so that nearly every look-up is one short comparison.
+/// Rows are read in loops that name the same columns in the same order: each name that was looked up
+/// remembers the one after it, so nearly every look-up is one short comparison.
 class ColumnMap
 {
 public:
-    /// Takes the columns of a prepared statement.
+    /// Reads the columns of a prepared statement.
     void Read(sqlite3_stmt* statement);
 
     int Count() const { return int(m_columns.size()); }
-    /// The column's position, from 0; -1 when there is none. Of two columns with one name the first is meant.
+    /// The column's position, from 0; -1 if there is none. If two columns have the same name, the first one
+    /// is returned.
     int Find(std::string_view name);
     const std::string& Name(int position) const { return m_columns[size_t(position)].name; }
     /// True for the columns that hold a colour as 32 bits, which may be stored as an unsigned number.
@@ -41,11 +42,11 @@ private:
     int FindColumn(std::string_view name) const;
 
     std::vector<Column> m_columns;
-    std::vector<Spelling> m_spellings; // as callers spell them, each one's case included
+    std::vector<Spelling> m_spellings; // as callers spell them, with their case
     size_t m_last = 0;
 };
 
-/// True when two ASCII names are equal without case.
+/// True when two ASCII names are equal, ignoring case.
 bool SameName(std::string_view left, std::string_view right);
 
 } // namespace Orvane

@@ -7,25 +7,25 @@ namespace Orvane {
 
 class SqliteConnection;
 
-/// The tables of a layer database file, in all versions that were ever written.
+/// The tables of a layer database file, in every version that has been written.
 namespace LayerSchema {
 
 /// Marks a file as a layer database: "ORVN", in the header's application ID.
 inline constexpr quint32 ApplicationID = 0x4F52564E;
-/// Version 1 has the three tables and the two indexes that rows are sought by; version 2 adds the indexes
-/// that make lists and groups fast.
+/// Version 1 has the three tables and the two indexes used to look up rows; version 2 adds the indexes that
+/// make lists and groups fast.
 inline constexpr qint32 CurrentVersion = 2;
 
-/// Marks an empty database as a layer database and makes its tables.
+/// Marks an empty database as a layer database and creates its tables.
 void Create(SqliteConnection& connection);
 
 /// Raises DatabaseTooNew for a database of a newer version.
 void CheckVersion(SqliteConnection& connection);
 
-/// Brings a database of an older version to the current one, all or nothing.
+/// Upgrades a database of an older version to the current one, all or nothing.
 void Migrate(SqliteConnection& connection);
 
-/// Raises NotALayerDatabase when a table or a column that every version has is missing.
+/// Raises NotALayerDatabase if a table or column that every version has is missing.
 void Check(SqliteConnection& connection);
 
 } // namespace LayerSchema

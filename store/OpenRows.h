@@ -5,20 +5,19 @@
 
 namespace Orvane {
 
-/// A cursor that may be standing on a row of a running statement, and so holds the database's state as it
-/// was.
+/// A cursor that may be on a row of a running statement, and so keeps reading an older state of the database.
 class OpenRow
 {
 public:
-    /// Stops the statement. What the cursor still has to give is kept in memory or read anew.
+    /// Stops the statement. Rows that the cursor still has to return are kept in memory or read again.
     virtual void ReleaseRow() = 0;
 
 protected:
     ~OpenRow() = default;
 };
 
-/// All cursors that are open on one database. A write that must wait for another program needs them to let go
-/// of the state they hold: SQLite never waits while the same connection reads an older state.
+/// All cursors that are open on one database. A write that must wait for another program needs them to
+/// release the state that they hold: SQLite never waits while the same connection reads an older state.
 class OpenRows
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace Orvane {
 
-/// The columns that were set since an edit began, in the order of their first setting.
+/// The columns that were set since an edit began, in the order in which they were first set.
 class PendingEdit
 {
 public:

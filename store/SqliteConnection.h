@@ -14,17 +14,17 @@ struct sqlite3;
 
 namespace Orvane {
 
-/// One open SQLite database. Closes it when destroyed; everything made with it must be gone by then.
+/// One open SQLite database. Closes it when destroyed; everything created with it must be gone by then.
 class SqliteConnection
 {
 public:
-    /// How the file is reached.
+    /// How the file is accessed.
     enum class Access {
         ReadWrite,
         QueryOnly, ///< refuses writes, and tidies its files away like a writer: for a file that could be
                    ///< written
         ReadOnly, ///< for a file that cannot be written and has a journal beside it
-        Immutable, ///< takes no lock and leaves no file beside: only while nobody else writes
+        Immutable, ///< takes no lock and leaves no file beside it: only while nobody else writes
     };
 
     /// Opens the file, which must exist, or a new database in memory when path is empty.
@@ -35,24 +35,24 @@ public:
 
     sqlite3* Handle() const { return m_handle.get(); }
     const StoreErrors& Errors() const { return m_errors; }
-    /// As it was given.
+    /// The path that was passed to the constructor.
     const QString& Path() const { return m_path; }
-    /// True when rows cannot be changed, whatever was asked for.
+    /// True when rows cannot be changed, whatever access was requested.
     bool IsReadOnly() const;
     /// True while no transaction is open.
     bool IsAutoCommit() const;
 
-    /// Runs statements that need no values; rows are dropped.
+    /// Runs statements without parameters; result rows are discarded.
     void Run(const QByteArray& sql);
-    /// The first column of the first row as text, empty when there is none.
+    /// The first column of the first row as text, empty if there is no row.
     QString Text(const QByteArray& sql);
     /// As Text, as a number.
     qint32 Number(const QByteArray& sql) { return Text(sql).toInt(); }
     /// Raises the error of a result code.
     [[noreturn]] void Raise(int resultCode) const;
 
-    /// Is called with the text of each statement as it begins to run; an empty function ends that. It must
-    /// not use the database.
+    /// The listener is called with the text of each statement as it starts to run; an empty function removes
+    /// it. It must not use the database.
     void SetQueryListener(std::function<void(const QString&)> listener);
 
 private:

@@ -27,52 +27,53 @@ struct SqliteSession;
 ///     layers->Index("LayerIDIDX");
 ///     layers->Seek("=", 17);
 ///
-/// The file is an ordinary SQLite database with a write-ahead log; a committed change is on the disk. The
-/// host may keep tables of its own in it. All calls are made on one thread. Errors are RunTimeErrors that
-/// name the file: DatabaseLocked when another program held it longer than StoreOptions allow,
-/// NotALayerDatabase also when damage shows only while reading, DatabaseReadOnly, and DatabaseFailure for all
-/// else.
+/// The file is an ordinary SQLite database with a write-ahead log; a committed change is on disk. The host
+/// may keep its own tables in it. All calls are made on one thread. Errors are RunTimeErrors that name the
+/// file: DatabaseLocked when another program kept it locked for longer than StoreOptions allow,
+/// NotALayerDatabase also when damage is found only while reading, DatabaseReadOnly, and DatabaseFailure for
+/// everything else.
 ///
-/// Cursors: destroy them before the database. A query cursor shows the rows as they were when it was opened
-/// or as they are when it comes to them; to be sure, read inside a transaction. A table cursor stays valid
-/// through other cursors' changes, through commits and rollbacks; it reads its row anew after its Update, and
-/// raises when the row is gone. Query cursors that are open while rows are changed may be read into memory,
+/// Cursors: destroy them before the database. A query cursor may return rows as they were when it was opened
+/// or as they are when it reaches them; read inside a transaction to get one consistent state. A table cursor
+/// survives changes made by other cursors, commits and rollbacks; it reads its row again after its Update,
+/// and raises if the row is gone. Query cursors that are open while rows are changed may be read into memory,
 /// so close long ones first.
 class SqliteLayerDatabase final : public ILayerDatabase
 {
 public:
-    /// Makes a new file with empty tables. Raises DatabaseFailure when a file of that name exists or none can
-    /// be made there; nothing is left behind then.
+    /// Creates a new file with empty tables. Raises DatabaseFailure if a file of that name exists or cannot
+    /// be created; nothing is left behind then.
     static std::unique_ptr<SqliteLayerDatabase> Create(const QString& path, const StoreOptions& options = {});
 
     /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for one of a
-    /// newer version, DatabaseReadOnly when it is to be written and cannot, DatabaseFailure when it is
-    /// missing; the file is not touched then. An older version is migrated, except in ReadOnly mode.
+    /// newer version, DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if
+    /// it is missing; the file is not touched then. A file of an older version is migrated, except in
+    /// ReadOnly mode.
     static std::unique_ptr<SqliteLayerDatabase>
     Open(const QString& path, OpenMode mode = OpenMode::ReadWrite, const StoreOptions& options = {});
 
-    /// Makes empty tables that live as long as the object.
+    /// Creates empty tables in memory that exist as long as the object.
     static std::unique_ptr<SqliteLayerDatabase> CreateInMemory(const StoreOptions& options = {});
 
-    /// Rolls back what was not committed, and closes the file.
+    /// Rolls back uncommitted changes and closes the file.
     ~SqliteLayerDatabase() override;
 
-    /// Runs one statement; values are bound to its parameters ?1, ?2 ... in their order, booleans as 0 and 1.
-    /// Rows that it answers are dropped.
+    /// Runs one statement; values are bound to its parameters ?1, ?2 ... in order, booleans as 0 and 1.
+    /// Result rows are discarded.
     void Execute(const QString& sql, const std::vector<Value>& values = {});
 
     /// A cursor over a query with parameters. The caller owns it and destroys it before the database.
     std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values = {});
 
-    /// Notes what changes from now on; the caller owns the recorder and destroys it before the database.
+    /// Records changes from now on; the caller owns the recorder and destroys it before the database.
     std::unique_ptr<ChangeRecorder> RecordChanges();
-    /// Makes changes that were recorded in this database, in one transaction, and answers what changed by it:
-    /// more than was asked for where rows went with others that they refer to. Answers nothing, and changes
-    /// nothing, when a row is not as the changes expect it, or another row stands in its place. A row that is
-    /// to go may be gone already.
+    /// Applies changes that were recorded in this database, in one transaction, and returns what actually
+    /// changed: more than requested if rows were deleted together with others that they refer to. Returns
+    /// nothing, and changes nothing, if a row is not as the changes expect it or another row is in its place.
+    /// A row to be deleted may already be gone.
     std::optional<Changeset> Apply(const Changeset& changes);
 
-    /// The file as it was given; empty in memory.
+    /// The path as it was given; empty for a database in memory.
     QString Path() const;
     /// True when rows cannot be changed.
     bool IsReadOnly() const;
@@ -81,8 +82,8 @@ public:
     /// How many rows the last Execute or Update changed.
     int ChangedRows() const;
 
-    /// The listener is called with the text of each statement as it begins to run, parameters as "?1"; an
-    /// empty function ends that. It must not use the database.
+    /// The listener is called with the text of each statement as it starts to run, with parameters as "?1";
+    /// an empty function removes it. It must not use the database.
     void SetQueryListener(std::function<void(const QString& sql)> listener);
 
 private:

@@ -9,7 +9,7 @@
 
 namespace Orvane {
 
-/// All that one open layer database consists of; cursors work with it.
+/// Everything that makes up one open layer database; used by cursors.
 struct SqliteSession {
     SqliteSession(const QString& path, SqliteConnection::Access access, const StoreOptions& options)
         : connection(path, access, options)

@@ -17,7 +17,7 @@ namespace Orvane {
 
 class SqliteConnection;
 
-/// One prepared statement; the connection outlives it.
+/// One prepared statement; the connection must outlive it.
 ///
 ///     SqliteStatement statement(connection, QStringLiteral("SELECT Name FROM Layers WHERE LayerID = ?1"));
 ///     statement.Bind(1, 17);
@@ -26,20 +26,20 @@ class SqliteConnection;
 class SqliteStatement
 {
 public:
-    /// Raises for a text that is no statement, or more than one.
+    /// Raises if the text is not exactly one statement.
     SqliteStatement(SqliteConnection& connection, const QString& sql);
 
     /// True when it only reads.
     bool IsReadOnly() const;
-    /// Binds the value of parameter number, from 1: booleans as 0 and 1. An Empty value raises.
+    /// Binds a value to a parameter, numbered from 1; booleans as 0 and 1. An Empty value raises.
     void Bind(int number, const Value& value);
     void Bind(int number, qint32 value);
-    /// Binds all parameters; another number of values than parameters raises.
+    /// Binds all parameters; raises if the number of values differs from the number of parameters.
     void BindAll(const std::vector<Value>& values);
 
     /// Goes to the next row; false past the last one.
     bool Step();
-    /// As Step, and answers SQLite's result code instead of raising.
+    /// As Step, but returns SQLite's result code instead of raising.
     int TryStep();
     /// Ends the run, so that it holds no lock; bound values stay.
     void Reset() noexcept;
@@ -50,8 +50,8 @@ public:
     int FindColumn(std::string_view name);
     const std::string& ColumnName(int position) const { return m_columns.Name(position); }
     int ColumnCount() const;
-    /// The value in the current row: integers of 32 bits as such, larger ones as double, a colour column's
-    /// unsigned 32 bits as the signed number of the same bits, bytes as text.
+    /// The value in the current row: 32-bit integers as such, larger ones as double, an unsigned 32-bit
+    /// colour as the signed integer with the same bits, blobs as text.
     Value Column(int position) const;
 
 private:

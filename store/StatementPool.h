@@ -12,8 +12,8 @@
 
 namespace Orvane {
 
-/// The prepared statements of one text: each is prepared once and lent again and again. Two cursors that are
-/// open at once on the same text get one each.
+/// The prepared statements for one SQL text: each is prepared once and lent out repeatedly. Two cursors that
+/// are open on the same text at once get one each.
 class StatementPool
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     std::unique_ptr<SqliteStatement> Take();
     void Give(std::unique_ptr<SqliteStatement> statement) noexcept;
-    /// True while no statement is lent.
+    /// True while no statement is lent out.
     bool IsIdle() const { return m_lent == 0; }
 
 private:
@@ -31,7 +31,7 @@ private:
     int m_lent = 0;
 };
 
-/// A statement on loan from a pool, which outlives it; goes back reset and without values.
+/// A statement on loan from a pool, which must outlive it; it is returned reset and without bound values.
 class StatementLease
 {
 public:
@@ -53,13 +53,13 @@ private:
     std::unique_ptr<SqliteStatement> m_statement;
 };
 
-/// The pools of all texts that were run lately.
+/// The pools for all recently run texts.
 class StatementCache
 {
 public:
     explicit StatementCache(SqliteConnection& connection) : m_connection(connection) { }
 
-    /// A statement for the text; raises when it cannot be prepared.
+    /// A statement for the text; raises if it cannot be prepared.
     StatementLease Lease(const QString& sql);
 
 private:

@@ -4,7 +4,7 @@
 #include <QtGlobal>
 
 /// The descriptions of the errors that the store raises, in English. ^1 stands for the file's name, ^2 for a
-/// detail. Translated in the context "LayerStore" at the moment an error is raised.
+/// detail. Translated in the context "LayerStore" when an error is raised.
 namespace Orvane::StoreTexts {
 
 inline constexpr const char* MissingFile

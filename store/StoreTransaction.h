@@ -6,7 +6,7 @@
 
 namespace Orvane {
 
-/// A transaction with an end: what was not committed is rolled back.
+/// A scoped transaction: it is rolled back unless committed.
 ///
 ///     StoreTransaction transaction(database);
 ///     ... change rows ...
@@ -19,8 +19,8 @@ public:
     /// Begins the transaction.
     explicit StoreTransaction(ILayerDatabase& database) : m_database(database) { m_database.BeginTrans(); }
 
-    /// Rolls back unless Commit has returned. Never throws: there is nobody left to tell, and the database
-    /// itself undoes what was not committed.
+    /// Rolls back unless Commit has returned. Never throws: nobody is left to handle the error, and the
+    /// database itself undoes what was not committed.
     ~StoreTransaction()
     {
         if (!m_open)
@@ -34,7 +34,7 @@ public:
     StoreTransaction(const StoreTransaction&) = delete;
     StoreTransaction& operator=(const StoreTransaction&) = delete;
 
-    /// Keeps the changes. When it raises, the transaction is still open and the destructor rolls it back.
+    /// Commits the changes. If it raises, the transaction is still open and the destructor rolls it back.
     void Commit()
     {
         m_database.CommitTrans();

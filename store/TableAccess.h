@@ -16,7 +16,7 @@ namespace Orvane {
 class TableAccess
 {
 public:
-    /// indexName: the index over keyColumn, by which rows are sought.
+    /// indexName: the index over keyColumn, by which rows are looked up.
     TableAccess(
         SqliteConnection& connection, const char* table, const char* indexName, const char* keyColumn);
 
@@ -24,18 +24,18 @@ public:
     std::string_view IndexName() const { return m_indexName; }
     std::string_view KeyColumn() const { return m_keyColumn; }
 
-    /// Reads the row with a key, ?1.
+    /// Reads the row with the key ?1.
     StatementLease LeaseSeek() { return StatementLease(m_seek); }
-    /// Tells only whether there is a row with a key, ?1: half the price.
+    /// Only checks whether there is a row with the key ?1, at half the cost.
     StatementLease LeaseProbe() { return StatementLease(m_probe); }
-    /// Reads the smallest key above a key, ?1.
+    /// Reads the smallest key above the key ?1.
     StatementLease LeaseNextKey() { return StatementLease(m_nextKey); }
-    /// Stores the columns of an edit, in their order from ?1 on; the row's key is the parameter behind them.
-    /// row names the columns. Prepared once for each set of columns.
+    /// Stores the columns of an edit, in order from ?1 on; the row's key is the parameter after them. row
+    /// supplies the column names. Prepared once per set of columns.
     SqliteStatement& UpdateOf(const PendingEdit& edit, const SqliteStatement& row);
 
-    /// Loops treat their rows alike: either each one's columns are read, or each one is only written. True
-    /// when the last row's columns were read.
+    /// True when the last row's columns were read. Loops treat their rows alike: they either read the columns
+    /// of every row or only write to every row.
     bool ExpectsReading() const { return m_expectsReading; }
     void ExpectReading(bool reading) { m_expectsReading = reading; }
 

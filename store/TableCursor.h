@@ -12,19 +12,19 @@ namespace Orvane {
 struct SqliteSession;
 class TableAccess;
 
-/// A cursor over one table: rows are sought by key, read and edited. Cheap to open: one may be opened for
-/// each row.
+/// A cursor over one table: rows are looked up by key, read and edited. Cheap enough to open one for each
+/// row.
 class TableCursor final : public IRecordset, private OpenRow
 {
 public:
-    /// The session, and the table that belongs to it, outlive the cursor.
+    /// The session, and the table that belongs to it, must outlive the cursor.
     TableCursor(SqliteSession& session, TableAccess& table);
     ~TableCursor() override;
 
 private:
     enum class RowState {
-        None, ///< before a Seek, after one without match, past the last row, closed
-        Live, ///< m_row stands on the row
+        None, ///< before a Seek, after one without a match, past the last row, or closed
+        Live, ///< m_row is on the row
         Released, ///< the row is read again when it is needed
     };
 

@@ -7,11 +7,11 @@ class OpenRows;
 class SqliteConnection;
 class SqliteStatement;
 
-/// The transactions of one connection: the outermost is a transaction of SQLite, inner ones are savepoints.
+/// The transactions of one connection: the outermost is an SQLite transaction, inner ones are savepoints.
 ///
-/// A transaction begins as a reading one, which no other program can hold up. Its first write takes the write
-/// lock and waits for it like any other; when another program has written in the meantime, the transaction is
-/// begun anew on the current state, which loses nothing as long as it only read.
+/// A transaction begins as a read transaction, which no other program can block. Its first write takes the
+/// write lock, waiting for it like any other write. If another program has written in the meantime, the
+/// transaction is restarted on the current state, which loses nothing because so far it has only read.
 class TransactionStack
 {
 public:
@@ -21,14 +21,14 @@ public:
     }
 
     void Begin();
-    /// Raises without a transaction, and when the database has undone it after an error.
+    /// Raises if no transaction is open, or if the database has rolled it back after an error.
     void Commit();
-    /// Without a transaction it does nothing.
+    /// Does nothing if no transaction is open.
     void Rollback();
 
-    /// Makes sure that the next write can be done: raises when the database is read-only or when the
-    /// transaction was undone, and takes the write lock inside a transaction. Cursors may lose their rows'
-    /// statements by it, not their rows.
+    /// Makes sure that the next write is possible: raises if the database is read-only or the transaction was
+    /// rolled back, and takes the write lock inside a transaction. Cursors may lose the statements of their
+    /// rows, but not the rows themselves.
     void PrepareWrite();
     /// Runs a writing statement to its end and resets it.
     void RunWrite(SqliteStatement& statement);

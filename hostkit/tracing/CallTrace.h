@@ -14,7 +14,7 @@ class QIODevice;
 
 namespace Orvane {
 
-/// The lines of a call trace, one a call, in the order of the calls:
+/// Writes a call trace, one line per call, in the order of the calls:
 ///
 ///     editor.Visible(true)
 ///     client.ReadSetting("DrawStyleEditor::Main") -> "9000:7000:LAYERS:EXPANDED"
@@ -22,8 +22,8 @@ namespace Orvane {
 ///     recordset.Seek("=", 17) -> found
 ///     client.LoadScheme("Night") -> error 3002 "The layer database is locked."
 ///
-/// A command is written before it is made, so that the calls it leads to follow it; a question is written
-/// with its answer. An error is a line of its own, and passes on unchanged.
+/// A call without a result is written before it is made, so that the calls it leads to follow it; a call with
+/// a result is written together with that result. An error has a line of its own, and is passed on unchanged.
 class CallTrace
 {
 public:
@@ -40,7 +40,7 @@ public:
         return Watched(call, std::forward<Action>(action));
     }
 
-    /// Makes the call, writes it with its result, and returns that.
+    /// Makes the call, writes it with its result, and returns the result.
     template <typename Action, typename... Arguments>
     auto Question(const char* member, Action&& action, const Arguments&... arguments) -> decltype(action())
     {

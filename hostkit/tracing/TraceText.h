@@ -13,7 +13,7 @@
 
 namespace Orvane {
 
-/// A word that stands in a trace as it is, without quotes: "form", "nothing".
+/// A word that is written to a trace as it is, without quotes: "form", "nothing".
 struct TraceWord {
     const char* word;
 };

@@ -9,9 +9,9 @@ namespace Orvane {
 
 class CallTrace;
 
-/// Writes every call that the component makes to its host: of the client, as "client.Member(...)", of its
-/// layer database with all cursors, and of its shell services. Together with TracingLibrary it shows all that
-/// crosses the contract:
+/// Traces every call that the component makes to its host: to the client, as "client.Member(...)", to its
+/// layer database with all cursors, and to its shell services. Together with TracingLibrary it shows
+/// everything that passes between host and component:
 ///
 ///     CallTrace trace(file);
 ///     TracingClient tracedClient(client, trace);
@@ -59,8 +59,8 @@ protected:
 
 private:
     CallTrace& m_trace;
-    std::unique_ptr<IShellServices> m_shellServices; // made when the component asks
-    std::unique_ptr<ILayerDatabase> m_database; // made when the component asks
+    std::unique_ptr<IShellServices> m_shellServices; // created when the component asks for it
+    std::unique_ptr<ILayerDatabase> m_database; // created when the component asks for it
 };
 
 } // namespace Orvane

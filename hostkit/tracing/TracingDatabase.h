@@ -8,7 +8,7 @@ namespace Orvane {
 
 class CallTrace;
 
-/// Writes every call of a cursor, as "recordset.Member(...)".
+/// Traces every call to a cursor, as "recordset.Member(...)".
 class TracingRecordset : public ForwardingRecordset
 {
 public:
@@ -17,7 +17,7 @@ public:
 
 protected:
     void IRecordset_Index(std::string_view indexName) override;
-    /// Written with what was found: "found" or "no match".
+    /// Written with the result: "found" or "no match".
     void IRecordset_Seek(std::string_view comparison, qint32 key) override;
     bool IRecordset_NoMatch() const override;
     bool IRecordset_AtEOF() const override;
@@ -32,7 +32,7 @@ private:
     CallTrace& m_trace;
 };
 
-/// Writes every call of a layer database, as "database.Member(...)", and of all cursors that it opens.
+/// Traces every call to a layer database, as "database.Member(...)", and to all cursors that it opens.
 class TracingDatabase : public ForwardingDatabase
 {
 public:

@@ -10,15 +10,15 @@ namespace Orvane {
 
 class CallTrace;
 
-/// Writes every call of one editor and passes it on; see TracingLibrary.
+/// Traces every call to one editor and passes it on; see TracingLibrary.
 class TracingEditor : public IStyleEditor, public IStyleEditorForm
 {
 public:
-    /// Neither is owned. editor: also implements IStyleEditorForm; no call may follow its end.
+    /// Neither is owned. editor: also implements IStyleEditorForm; make no call after it is destroyed.
     TracingEditor(IStyleEditor& editor, CallTrace& trace);
     ~TracingEditor() override;
 
-    /// True when this object stands before that editor.
+    /// True when this object wraps that editor.
     bool IsFor(const IStyleEditor* editor) const { return &m_editor == editor; }
 
 protected:
@@ -33,7 +33,7 @@ protected:
     void IStyleEditorForm_SetLayerCode(qint32 layerID) override;
     void IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name) override;
     const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override;
-    /// The filter as the host gave it.
+    /// The filter as the host set it.
     const IStyleFilter* IStyleEditorForm_Filter() const override;
     void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
     void IStyleEditorForm_UnloadWithoutApply() override;

@@ -11,13 +11,13 @@ namespace Orvane {
 class CallTrace;
 class TracingEditor;
 
-/// Writes every call that the host makes to the component: of the library, as "library.Member(...)", of its
-/// editors, as "editor.Member(...)" and "form.Member(...)", and every question that the component asks the
-/// filter it was given, as "filter.Member(...)".
+/// Traces every call that the host makes to the component: to the library, as "library.Member(...)", and to
+/// its editors, as "editor.Member(...)" and "form.Member(...)". Also traces every call that the component
+/// makes to its filter, as "filter.Member(...)".
 ///
-/// The editors that it hands out implement IStyleEditor and IStyleEditorForm, and stay this object's. They
-/// are no widgets: take the form from IStyleEditorClient::ShowEditor. No editor may be used once this object
-/// is gone; the library behind is destroyed after it.
+/// The editors that it returns implement IStyleEditor and IStyleEditorForm, and are owned by this object.
+/// They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use an editor once this
+/// object is gone. Destroy the wrapped library after this object.
 class TracingLibrary : public IStyleEditorLibrary
 {
 public:
@@ -27,7 +27,7 @@ public:
 
 protected:
     IStyleEditor* IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept override;
-    /// client: handed on as it is; hand over a TracingClient to see its calls too.
+    /// client: passed on as it is; pass a TracingClient to trace its calls too.
     void IStyleEditorLibrary_Initialise(IStyleEditorClient* client) override;
     IStyleEditor* IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID) override;
 
@@ -36,7 +36,7 @@ private:
 
     IStyleEditorLibrary& m_library;
     CallTrace& m_trace;
-    mutable std::vector<std::unique_ptr<TracingEditor>> m_editors; // made when first handed out
+    mutable std::vector<std::unique_ptr<TracingEditor>> m_editors; // created when first returned
 };
 
 } // namespace Orvane

@@ -7,7 +7,7 @@ namespace Orvane {
 
 class CallTrace;
 
-/// Writes every call of shell services, as "shell.Member(...)".
+/// Traces every call to shell services, as "shell.Member(...)".
 class TracingShellServices : public ForwardingShellServices
 {
 public:
