@@ -222,13 +222,16 @@ TEST_F(LayerTreesRenameTest, ProtectsAGroupThatIsMissing)
 
 TEST_F(LayerTreesRenameTest, DoesNotOpenOnAClickOrADoubleClick)
 {
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(0); // so long after a click it could still edit
     Open(List::Layers);
     Click(layers, "Rails");
     Click(layers, "Rails");
     const QPoint place = layers.visualRect(layers.currentIndex()).center();
     QTest::mouseDClick(layers.viewport(), Qt::LeftButton, {}, place);
-    QTest::qWait(QApplication::doubleClickInterval() + 20); // the delay after which a click could still edit
+    Settle();
     EXPECT_FALSE(NameEditor(layers));
+    QApplication::setDoubleClickInterval(interval);
 }
 
 TEST_F(LayerTreesRenameTest, KeepsTheOldTextWhenTheHostRefuses)
