@@ -2,7 +2,8 @@
 #include "benchmarks/BenchmarkMap.h"
 
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -49,7 +50,7 @@ void AddGroup(SqliteLayerDatabase& map, qint32 id, bool pseudo, int firstLayer, 
 
 void Fill(SqliteLayerDatabase& map, int layerCount)
 {
-    StoreTransaction transaction(map);
+    Transaction transaction(map);
     AddLayers(map, layerCount);
     for (int first = 1, group = 1; first <= layerCount; first += GroupSize, ++group)
         AddGroup(map, group, false, first, GroupSize);

@@ -2,8 +2,8 @@
 #include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Measurement.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <benchmark/benchmark.h>
@@ -61,7 +61,7 @@ std::unique_ptr<IRecordset> Sought(SqliteLayerDatabase& database, qint32 layerID
 
 void ReadMembers(SqliteLayerDatabase& database, qint32 groupID)
 {
-    StoreTransaction transaction(database);
+    Transaction transaction(database);
     for (const qint32 layerID : MembersOf(database, groupID))
         ReadRow(*Sought(database, layerID));
     transaction.Commit();
@@ -69,7 +69,7 @@ void ReadMembers(SqliteLayerDatabase& database, qint32 groupID)
 
 void WriteMembers(SqliteLayerDatabase& database, qint32 groupID, bool visible)
 {
-    StoreTransaction transaction(database);
+    Transaction transaction(database);
     for (const qint32 layerID : MembersOf(database, groupID)) {
         const auto layer = Sought(database, layerID);
         layer->Edit();

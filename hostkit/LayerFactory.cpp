@@ -7,9 +7,9 @@
 #include "hostkit/SchemeTables.h"
 #include "hostkit/StoredScale.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/LayerValues.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <limits>
@@ -19,7 +19,6 @@ namespace Orvane {
 namespace {
 
 constexpr qint32 Black = 0;
-constexpr qint32 Transparent = qint32(0xFF000000);
 constexpr qint16 ThinnestLine = 0;
 
 bool HasRow(ILayerDatabase& database, const QString& query)
@@ -41,7 +40,7 @@ QStringList NamesOf(SqliteLayerDatabase& database, const QString& query, qint32 
 qint32 LayerFactory::Create()
 {
     const QString name = UnusedName();
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     const qint32 layerID = NextLayerID();
     Insert(layerID, name);
     transaction.Commit();
@@ -51,7 +50,7 @@ qint32 LayerFactory::Create()
 
 void LayerFactory::Delete(qint32 layerID)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     m_database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
     // The layer's values in schemes refer to this row and go with it.
     m_database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
@@ -130,9 +129,9 @@ void LayerFactory::Insert(qint32 layerID, const QString& name)
                        " Priority, Style, OverrideMode, SystemLayer, Pseudo)"
                        " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16, ?17, "
                        "?18, 0, 0, 0, 0)"),
-        {layerID, name, LowestFreeCode(), true, true, false, true, false, true, Black, Black, Transparent,
-         qint16(0), HollowFill, ThinnestLine, StoredScale::NoMinimum, qint32(StoredScale::NoMaximum),
-         DefaultPriority});
+        {layerID, name, LowestFreeCode(), true, true, false, true, false, true, Black, Black,
+         TransparentColour, qint16(0), HollowFill, ThinnestLine, StoredScale::NoMinimum,
+         qint32(StoredScale::NoMaximum), DefaultPriority});
 }
 
 } // namespace Orvane

@@ -4,9 +4,9 @@
 #include "hostkit/HostErrors.h"
 #include "hostkit/SchemeColumns.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QCollator>
@@ -82,7 +82,7 @@ QString LayerSchemes::CurrentName()
 
 void LayerSchemes::Create(const QString& name)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     MakeStandard();
     if (m_tables.IDOf(name) != SchemeTables::NoScheme)
         Raise(HostError::DuplicateScheme, tr("There is a layer scheme named \"%1\" already.").arg(name));
@@ -94,14 +94,14 @@ void LayerSchemes::Create(const QString& name)
 
 void LayerSchemes::Save(const QString& name)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     StoreValues(IDOf(name));
     transaction.Commit();
 }
 
 QSet<qint32> LayerSchemes::Load(const QString& name)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     const qint32 schemeID = IDOf(name);
     QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(), schemeID);
     m_database.Execute(
@@ -115,7 +115,7 @@ QSet<qint32> LayerSchemes::Load(const QString& name)
 
 void LayerSchemes::Delete(const QString& name)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     const qint32 schemeID = IDOf(name);
     if (m_tables.Names().size() == 1)
         Raise(HostError::LastScheme, tr("The last layer scheme cannot be deleted."));
@@ -153,7 +153,7 @@ bool LayerSchemes::IsReadable()
         return true;
     if (m_database.IsReadOnly())
         return false;
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     MakeStandard();
     transaction.Commit();
     return true;

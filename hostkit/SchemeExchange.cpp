@@ -4,8 +4,8 @@
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/SchemeTables.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QSet>
@@ -102,7 +102,7 @@ SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName)
 
 SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme)
 {
-    StoreTransaction transaction(map);
+    Transaction transaction(map);
     LayerSchemes(map).Current(); // makes the first scheme
     const std::vector<LayerIdentity> present = IdentitiesOf(map);
     SchemeImport report;

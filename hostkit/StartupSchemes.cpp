@@ -4,7 +4,8 @@
 #include "hostkit/LayerSchemes.h"
 #include "hostkit/SchemeTransfer.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QDir>
 #include <QFile>
@@ -18,7 +19,7 @@ void Save(SqliteLayerDatabase& map, const QString& startupFile)
     QDir().mkpath(QFileInfo(startupFile).absolutePath());
     const auto startup = QFile::exists(startupFile) ? SqliteLayerDatabase::Open(startupFile)
                                                     : SqliteLayerDatabase::Create(startupFile);
-    StoreTransaction transaction(*startup);
+    Transaction transaction(*startup);
     SchemeTransfer transfer(map, *startup);
     transfer.AddMissingLayers();
     transfer.CopySchemes();
@@ -30,7 +31,7 @@ void Load(SqliteLayerDatabase& map, const QString& startupFile)
     if (!QFile::exists(startupFile))
         return;
     const auto startup = SqliteLayerDatabase::Open(startupFile, OpenMode::ReadOnly);
-    StoreTransaction transaction(map);
+    Transaction transaction(map);
     SchemeTransfer(*startup, map).CopySchemes();
     transaction.Commit();
 }

@@ -23,12 +23,6 @@ qint32 ToIndex(double stored, const IShellServices& services);
 /// The value to store for a scale index; below 1 there is no lower limit, above 255 no upper limit.
 double FromIndex(qint32 index, const IShellServices& services);
 
-/// True when a layer with these stored limits is drawn on a map of that scale; both limits are inclusive.
-inline bool IsVisibleAt(double denominator, double minVisScale, double maxVisScale)
-{
-    return denominator >= minVisScale && (maxVisScale <= 0 || denominator <= maxVisScale);
-}
-
 } // namespace StoredScale
 
 } // namespace Orvane

@@ -6,10 +6,10 @@
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -90,7 +90,7 @@ void AddToMap(MapDocument& document, const FoundData& data)
 {
     if (data.sources.empty())
         return;
-    StoreTransaction transaction(document.Database());
+    Transaction transaction(document.Database());
     const SourceLayer& first = data.sources.front().layers.front();
     if (document.System().isEmpty())
         document.SetSystem(SystemToShow(first.system, first.extent));

@@ -10,7 +10,8 @@
 #include "shell/DataImport.h"
 #include "shell/NewLayerDialog.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -49,7 +50,7 @@ qint32 LayerCreation::Make(const NewLayerDialog& wishes)
 {
     qint32 layerID = NoLayer;
     m_client.RecordStep([&] {
-        StoreTransaction transaction(m_document.Database());
+        Transaction transaction(m_document.Database());
         layerID = wishes.IsEmptyLayer() ? MakeEmpty(wishes) : MakeFromSource(wishes);
         transaction.Commit();
         return tr("Creation of \"%1\"").arg(NameInStep(wishes.Name()));

@@ -7,9 +7,9 @@
 #include "mapkit/document/SourceTable.h"
 #include "shell/DanglingRows.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QCoreApplication>
@@ -136,7 +136,7 @@ bool HasRepairable(const Problems& problems, Kind kind)
 void Repair(const QString& path, const Problems& problems)
 {
     const auto database = SqliteLayerDatabase::Open(path);
-    StoreTransaction transaction(*database);
+    Transaction transaction(*database);
     if (HasRepairable(problems, Kind::Damage))
         database->Execute(QStringLiteral("REINDEX"));
     if (HasRepairable(problems, Kind::DanglingRows))

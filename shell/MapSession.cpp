@@ -13,9 +13,9 @@
 #include "shell/LayerCreation.h"
 #include "shell/RunWithProgress.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QDir>
 #include <QStandardPaths>
@@ -126,7 +126,7 @@ void MapSession::SetBackdrop(const QString& path)
                 backdrop = std::make_shared<const RasterBackdrop>(path, system);
             });
     }
-    StoreTransaction transaction(m_document->Database());
+    Transaction transaction(m_document->Database());
     if (backdrop && first) {
         const RasterSource& source = backdrop->Source();
         m_document->SetSystem(SystemToShow(source.System(), source.Extent()));

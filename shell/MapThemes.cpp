@@ -2,8 +2,8 @@
 #include "shell/MapThemes.h"
 
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QCollator>
@@ -79,7 +79,7 @@ bool MapThemes::HasVisibleLayers() const
 
 qint32 MapThemes::StoreVisibleLayers(const QString& name)
 {
-    StoreTransaction transaction(m_database);
+    Transaction transaction(m_database);
     MakeTables();
     m_database.Execute(QStringLiteral("INSERT OR IGNORE INTO Themes (Name) VALUES (?1)"), {name});
     const qint32 themeID = Find(name)->id;

@@ -4,7 +4,8 @@
 #include "mapkit/data/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -54,7 +55,7 @@ LookForData(const std::vector<LayerSource>& missing, const QString& folder, Prog
 
 void TakeFoundData(MapDocument& document, const std::vector<LayerSource>& found)
 {
-    StoreTransaction transaction(document.Database());
+    Transaction transaction(document.Database());
     for (const LayerSource& source : found)
         document.SetSource(source);
     transaction.Commit();

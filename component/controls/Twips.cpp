@@ -20,11 +20,6 @@ qint32 SaturatedRound(double number)
     return qint32(std::clamp(RoundHalfToEven(number), double(Limits::min()), double(Limits::max())));
 }
 
-Twips KeepLength(Twips remembered, int rememberedPixels, int pixels, Twips converted)
-{
-    return rememberedPixels == pixels ? remembered : converted;
-}
-
 } // namespace
 
 Twips TwipsPerPixel::WidthToTwips(int pixels) const
@@ -65,15 +60,6 @@ QPoint TwipsPerPixel::ToPixels(TwipPoint twips) const
 QSize TwipsPerPixel::ToPixels(TwipSize twips) const
 {
     return {WidthToPixels(twips.width), HeightToPixels(twips.height)};
-}
-
-TwipSize TwipsPerPixel::KeepTwips(TwipSize remembered, QSize pixels) const
-{
-    const QSize before = ToPixels(remembered);
-    const TwipSize converted = ToTwips(pixels);
-    return {
-        KeepLength(remembered.width, before.width(), pixels.width(), converted.width),
-        KeepLength(remembered.height, before.height(), pixels.height(), converted.height)};
 }
 
 TwipsPerPixel TwipsPerPixelOf(const QWidget& widget)

@@ -31,8 +31,8 @@ struct TwipSize {
 ///     resize(scale.ToPixels(storedSize));
 ///
 /// Both directions round to the nearest whole number, half to even, and saturate at the 32-bit range. Pixels
-/// survive pixels -> twips -> pixels exactly on every screen below 1440 dpi. Twips survive the other round
-/// trip only through KeepTwips.
+/// survive pixels -> twips -> pixels exactly on every screen below 1440 dpi; twips need not survive the other
+/// round trip.
 struct TwipsPerPixel {
     double x = 15;
     double y = 15;
@@ -46,11 +46,6 @@ struct TwipsPerPixel {
     TwipSize ToTwips(QSize pixels) const;
     QPoint ToPixels(TwipPoint twips) const;
     QSize ToPixels(TwipSize twips) const;
-
-    /// The size in twips of something now that many pixels large: the remembered size while it still stands
-    /// for these pixels, else the converted one. A stored size that nobody resized is so written back
-    /// exactly.
-    TwipSize KeepTwips(TwipSize remembered, QSize pixels) const;
 };
 
 /// The scale of the screen that the widget is on.

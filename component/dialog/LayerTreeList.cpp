@@ -69,14 +69,6 @@ void LayerTreeList::ShowLayers(std::vector<LayerEntry> layers)
     m_view->setRootIsDecorated(false);
 }
 
-void LayerTreeList::Clear()
-{
-    const QScopedValueRollback quiet(m_quiet, true);
-    if (m_model->HasNodes())
-        m_place = LayerTreePlace(*m_view, m_current);
-    m_model->Clear();
-}
-
 void LayerTreeList::Refill(const std::function<void()>& fill, const std::vector<int>& expandedRows)
 {
     const QScopedValueRollback quiet(m_quiet, true);

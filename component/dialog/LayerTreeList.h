@@ -41,8 +41,6 @@ public:
     /// Replace all nodes, by groups expanded as they say or by layers.
     void ShowGroups(std::vector<GroupEntry> groups);
     void ShowLayers(std::vector<LayerEntry> layers);
-    /// Removes all nodes; place and current node wait for the next replacement.
-    void Clear();
 
     /// The current node's identity, also while it is not among the nodes.
     const std::optional<NodeReference>& Current() const { return m_current; }

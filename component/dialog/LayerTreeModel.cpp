@@ -4,6 +4,8 @@
 #include "component/dialog/NodeData.h"
 #include "component/dialog/NodeOrder.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -50,11 +52,6 @@ void LayerTreeModel::SetLayers(std::vector<LayerEntry> layers)
     m_groups.clear();
     m_layers = std::move(layers);
     endResetModel();
-}
-
-void LayerTreeModel::Clear()
-{
-    SetLayers({});
 }
 
 NodeReference LayerTreeModel::Reference(const QModelIndex& index) const
@@ -301,7 +298,7 @@ qint16 LayerTreeModel::CommonQuickMode(const GroupNode& group) const
     const bool common = std::all_of(first, first + group.layerCount, [&](const LayerEntry& layer) {
         return layer.quickMode == first->quickMode;
     });
-    return common ? first->quickMode : qint16(0);
+    return common ? first->quickMode : QuickMode::Various;
 }
 
 // One signal for each parent: a view looks a changed row up from the top, so a signal a row is quadratic.

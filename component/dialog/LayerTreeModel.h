@@ -38,7 +38,6 @@ public:
     void SetGroups(std::vector<GroupEntry> groups);
     /// Replaces all nodes by layers without groups.
     void SetLayers(std::vector<LayerEntry> layers);
-    void Clear();
 
     bool HasNodes() const { return !m_groups.empty() || !m_layers.empty(); }
     /// The node at a valid index.

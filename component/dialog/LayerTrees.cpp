@@ -10,8 +10,8 @@
 #include "component/entry/MessageBoxes.h"
 #include "component/entry/Messages.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/LayerNames.h"
 #include "component/model/LayerTreeReader.h"
+#include "component/model/ListedName.h"
 #include "ovctrls/BusyPointer.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -166,16 +166,6 @@ void LayerTrees::EnsureLoaded(List list)
 void LayerTrees::MarkStale(List list)
 {
     At(list).MarkStale();
-}
-
-void LayerTrees::Clear(List list)
-{
-    At(list).Clear();
-}
-
-bool LayerTrees::HasNodes(List list) const
-{
-    return At(list).Model().HasNodes();
 }
 
 void LayerTrees::ShowList(List list)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/dialog/ListTab.h"
 #include "component/dialog/NodeKey.h"
 
 #include <QObject>
@@ -33,7 +34,8 @@ class LayerTrees : public QObject
     Q_OBJECT
 
 public:
-    enum class List { Groups = 1, Layers = 2 };
+    /// ListTab::Groups or ListTab::Layers.
+    using List = ListTab;
 
     /// groups, layers: empty views; not owned, and alive as long as this object. They are set up here.
     LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent = nullptr);
@@ -61,9 +63,6 @@ public:
     void EnsureLoaded(List list);
     /// The next EnsureLoaded reads the list even if it has nodes.
     void MarkStale(List list);
-    /// Empties the list; its current node and scroll position come back with the next load.
-    void Clear(List list);
-    bool HasNodes(List list) const;
 
     /// Makes the list the one whose current node is the dialog's, after the question when that is another
     /// node. Does not load and does not emit CurrentNodeChanged: the caller reads CurrentNode.

@@ -5,6 +5,8 @@
 #include "component/entry/Messages.h"
 #include "messages/NameInText.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 namespace Orvane {
 
 namespace {
@@ -38,11 +40,11 @@ QVariant NodeData(const NodeReference& node, int role)
 QString QuickModeText(qint16 quickMode)
 {
     switch (quickMode) {
-    case 1:
+    case QuickMode::Normal:
         return TranslateMsg("Normal");
-    case 2:
+    case QuickMode::Backdrop:
         return TranslateMsg("Backdrop");
-    case 4:
+    case QuickMode::Hidden:
         return TranslateMsg("Hidden");
     default:
         return TranslateMsg("various");

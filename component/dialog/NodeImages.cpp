@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/NodeImages.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -18,11 +20,11 @@ enum class Mode { Various, Normal, Backdrop, Hidden };
 Mode ModeOf(qint16 quickMode)
 {
     switch (quickMode) {
-    case 1:
+    case QuickMode::Normal:
         return Mode::Normal;
-    case 2:
+    case QuickMode::Backdrop:
         return Mode::Backdrop;
-    case 4:
+    case QuickMode::Hidden:
         return Mode::Hidden;
     default:
         return Mode::Various;

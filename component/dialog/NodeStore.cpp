@@ -3,9 +3,9 @@
 
 #include "component/model/LayerColumns.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/ModelTransaction.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -41,7 +41,7 @@ QString ReadNodeName(IStyleEditorClient& client, const NodeReference& node)
 
 void StoreGroupsExpanded(IStyleEditorClient& client, const std::vector<qint32>& groupIDs, bool expanded)
 {
-    ModelTransaction transaction(client.Database());
+    Transaction transaction(client.Database());
     for (qint32 groupID : groupIDs)
         StoreGroupExpanded(client, groupID, expanded);
     transaction.Commit();

@@ -4,7 +4,11 @@
 #include "component/dialog/NodeImages.h"
 #include "component/entry/EventGuard.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QToolButton>
+
+#include <array>
 
 namespace Orvane {
 
@@ -12,7 +16,8 @@ namespace {
 
 qint16 BitOf(std::size_t button)
 {
-    return qint16(1 << button);
+    constexpr std::array modes{QuickMode::Normal, QuickMode::Backdrop, QuickMode::Hidden};
+    return modes[button];
 }
 
 } // namespace
@@ -50,7 +55,7 @@ void QuickModeToolbar::ShowMode(qint16 mode)
 
 qint16 QuickModeToolbar::ReadMode() const
 {
-    qint16 mode = 0;
+    qint16 mode = QuickMode::Various;
     for (std::size_t button = 0; button < m_buttons.size(); ++button) {
         if (m_buttons[button]->isChecked())
             mode = qint16(mode | BitOf(button));

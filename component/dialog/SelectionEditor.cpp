@@ -14,6 +14,7 @@
 #include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/LayerValues.h>
 
 #include <QPointer>
 
@@ -100,7 +101,7 @@ void SelectionEditor::Show(const Selection& selection)
     m_current = node;
     m_record = selection.record;
     m_parts.panel.Show(m_record);
-    m_parts.quickModes.ShowMode(node ? node->image : qint16(0));
+    m_parts.quickModes.ShowMode(node ? node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
     m_parts.commands.Show(node, m_record, selection.isSystemLayer);
     ShowCover();

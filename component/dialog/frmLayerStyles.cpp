@@ -22,11 +22,6 @@ namespace Orvane {
 
 namespace {
 
-LayerTrees::List ListOf(ListTab tab)
-{
-    return tab == ListTab::Groups ? LayerTrees::List::Groups : LayerTrees::List::Layers;
-}
-
 QString SettingKey(const QString& editorID)
 {
     return QStringLiteral("DrawStyleEditor::") + editorID;
@@ -107,7 +102,7 @@ void frmLayerStyles::Initialise()
     m_parts->layout.FitTexts();
     m_parts->layout.TakeDesignedSize();
     // The list itself is read when somebody is about to look at it.
-    m_parts->trees.ShowList(ListOf(m_tab));
+    m_parts->trees.ShowList(m_tab);
     m_parts->layout.ShowTab(m_tab);
     m_selection->ShowNothing();
     m_initialised = true;
@@ -265,11 +260,11 @@ void frmLayerStyles::SelectTab(ListTab tab)
 void frmLayerStyles::ShowTab(ListTab tab)
 {
     const QPointer self(this);
-    const bool leavesNode = tab == ListTab::Schemes || ListOf(tab) != m_parts->trees.ShownList();
+    const bool leavesNode = tab == ListTab::Schemes || tab != m_parts->trees.ShownList();
     if (tab == ListTab::Schemes)
         m_selection->ConfirmPendingChanges();
     else
-        m_parts->trees.ShowList(ListOf(tab));
+        m_parts->trees.ShowList(tab);
     if (!self || m_unloaded)
         return;
     m_tab = tab;
@@ -291,7 +286,7 @@ void frmLayerStyles::LoadList()
     if (m_tab == ListTab::Schemes)
         m_parts->schemes.Fill();
     else
-        m_parts->trees.EnsureLoaded(ListOf(m_tab));
+        m_parts->trees.EnsureLoaded(m_tab);
 }
 
 void frmLayerStyles::OnDeleteAsked(qint32 layerID)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerQueries.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -70,18 +71,18 @@ qint16 QuickModeFromOverrideMode(const Value& overrideMode)
 {
     const double mode = overrideMode.IsNull() ? 0 : ToDouble(overrideMode);
     if (mode == 1)
-        return 2;
-    return mode == 2 ? 4 : 1;
+        return QuickMode::Backdrop;
+    return mode == 2 ? QuickMode::Hidden : QuickMode::Normal;
 }
 
 std::optional<qint16> OverrideModeFromQuickMode(qint16 quickMode)
 {
     switch (quickMode) {
-    case 1:
+    case QuickMode::Normal:
         return qint16(0);
-    case 2:
+    case QuickMode::Backdrop:
         return qint16(1);
-    case 4:
+    case QuickMode::Hidden:
         return qint16(2);
     default:
         return std::nullopt;

@@ -6,9 +6,9 @@
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerQueries.h"
 #include "component/model/LayerStyle.h"
-#include "component/model/ModelTransaction.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -124,7 +124,7 @@ void ApplyGroupStyle(
     IStyleEditorClient& client, qint32 groupID, const LayerStyle& style, qint16 quickMode,
     const SelectedRendererStyle& selectedStyle)
 {
-    ModelTransaction transaction(client.Database());
+    Transaction transaction(client.Database());
     const std::vector<qint32> layerIDs = ReadMemberLayerIDs(client, groupID);
     {
         const auto layers = OpenLayersByID(client);

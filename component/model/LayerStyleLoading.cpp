@@ -5,9 +5,9 @@
 #include "component/model/LayerColumns.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerStyle.h"
-#include "component/model/ModelTransaction.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -91,7 +91,7 @@ void LoadLayerStyle(IStyleEditorClient& client, qint32 layerID, LayerStyle& styl
 
 void LoadGroupStyle(IStyleEditorClient& client, qint32 groupID, LayerStyle& style)
 {
-    ModelTransaction transaction(client.Database());
+    Transaction transaction(client.Database());
     LayerStyle common = CommonStyle(client, ReadMemberLayerIDs(client, groupID));
     transaction.Commit();
     style = std::move(common);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QString>
 #include <QtGlobal>
 
@@ -11,7 +13,7 @@ namespace Orvane {
 /// A layer as a tree lists it.
 struct LayerEntry {
     qint32 layerID = 0;
-    qint16 quickMode = 1; ///< 1 normal, 2 backdrop, 4 hidden
+    qint16 quickMode = QuickMode::Normal;
     QString text; ///< decorated display name
 };
 
@@ -21,7 +23,6 @@ struct GroupEntry {
     QString text;
     bool expanded = false;
     std::vector<LayerEntry> layers;
-    qint16 quickMode = 0; ///< what the listed layers have in common: 1, 2 or 4; 0 where they differ
 };
 
 } // namespace Orvane

@@ -3,16 +3,14 @@
 
 #include "component/model/LayerColumns.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/LayerNames.h"
 #include "component/model/LayerQueries.h"
+#include "component/model/ListedName.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/IStyleFilter.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QHash>
-
-#include <algorithm>
 
 namespace Orvane {
 
@@ -28,12 +26,6 @@ bool IsListed(const IRecordset& row)
 {
     const Value code = NumberColumn(row, "Code");
     return !code.IsNull() && ToDouble(code) > -2;
-}
-
-qint16 CommonQuickMode(const std::vector<LayerEntry>& layers)
-{
-    const auto differs = [&](const LayerEntry& layer) { return layer.quickMode != layers.front().quickMode; };
-    return std::any_of(layers.begin(), layers.end(), differs) ? 0 : layers.front().quickMode;
 }
 
 /// Collects the rows of the tree's query into groups.
@@ -53,12 +45,7 @@ public:
         group.layers.push_back(ReadEntry(m_client, row, IntegerColumn(row, "LayerID")));
     }
 
-    std::vector<GroupEntry> Finished()
-    {
-        for (GroupEntry& group : m_entries)
-            group.quickMode = CommonQuickMode(group.layers);
-        return std::move(m_entries);
-    }
+    std::vector<GroupEntry> Finished() { return std::move(m_entries); }
 
 private:
     // Groups with the same ordering come interleaved, so that one may come back after another.

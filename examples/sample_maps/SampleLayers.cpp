@@ -4,9 +4,9 @@
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/LayerValues.h>
+#include <OrvaneShellLib/Transaction.h>
 
 namespace Orvane {
 
@@ -37,7 +37,7 @@ void AddSampleLayers(
     MapDocument& document, std::span<const SampleLayer> layers,
     const std::function<QString(const QString& file)>& pathOf)
 {
-    StoreTransaction transaction(document.Database());
+    Transaction transaction(document.Database());
     QString groupName;
     qint32 groupID = 0;
     for (const SampleLayer& sample : layers) {

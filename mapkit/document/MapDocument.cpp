@@ -3,11 +3,12 @@
 
 #include "hostkit/StoredScale.h"
 #include "mapkit/document/BackdropPlace.h"
+#include "mapkit/document/MapSettings.h"
 #include "store/LayerFileUse.h"
 #include "store/SqliteLayerDatabase.h"
-#include "store/StoreTransaction.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QCoreApplication>
@@ -22,8 +23,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto SettingsTable
-    = "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)";
 constexpr qint32 NoCode = -1;
 
 // Code -1 is given to as many layers as need it.
@@ -119,7 +118,7 @@ MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QS
 {
     m_sources.Create();
     m_renderings.Create();
-    m_database->Execute(QLatin1String(SettingsTable));
+    MapSettings::Prepare(*m_database);
 }
 
 MapDocument::~MapDocument() = default;
@@ -137,7 +136,7 @@ void MapDocument::SaveCopy(const QString& path) const
     {
         // Paths are kept from the folder that the copy is in, which is the one that it will be in.
         const auto copy = Open(unfinished.Path());
-        StoreTransaction transaction(copy->Database());
+        Transaction transaction(copy->Database());
         for (const LayerSource& source : Sources())
             copy->SetSource(source);
         copy->SetBackdrop(Backdrop());
@@ -154,12 +153,12 @@ bool MapDocument::IsAt(const QString& path) const
 
 QString MapDocument::System() const
 {
-    return Setting(QStringLiteral("System"));
+    return MapSettings::Read(*m_database, QStringLiteral("System"));
 }
 
 void MapDocument::SetSystem(const QString& system)
 {
-    SetSetting(QStringLiteral("System"), system);
+    MapSettings::Write(*m_database, QStringLiteral("System"), system);
 }
 
 QString MapDocument::Backdrop() const
@@ -170,24 +169,10 @@ QString MapDocument::Backdrop() const
 void MapDocument::SetBackdrop(const QString& path)
 {
     const SourcePaths::Place place = path.isEmpty() ? SourcePaths::Place() : SourcePaths(m_path).Store(path);
-    StoreTransaction transaction(*m_database);
-    SetSetting(QStringLiteral("Backdrop"), place.path);
-    SetSetting(QStringLiteral("BackdropRelative"), place.relative);
+    Transaction transaction(*m_database);
+    MapSettings::Write(*m_database, QStringLiteral("Backdrop"), place.path);
+    MapSettings::Write(*m_database, QStringLiteral("BackdropRelative"), place.relative);
     transaction.Commit();
-}
-
-QString MapDocument::Setting(const QString& name) const
-{
-    const auto row
-        = m_database->OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
-    return row->AtEOF() ? QString() : ToTextOrNone(row->Field("Value"));
-}
-
-void MapDocument::SetSetting(const QString& name, const QString& value)
-{
-    m_database->Execute(
-        QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES (?1, ?2)"),
-        {name, value.isNull() ? QStringLiteral("") : value});
 }
 
 qint32 MapDocument::AddLayer(const NewLayer& layer)
@@ -196,7 +181,7 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
     const qint32 code = NextOf(QStringLiteral("max(Code)"), QStringLiteral("Layers"));
     const double limit = layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum;
     const DrawingValues& values = layer.values;
-    StoreTransaction transaction(*m_database);
+    Transaction transaction(*m_database);
     m_database->Execute(
         QStringLiteral(
             "INSERT INTO Layers (LayerID, Name, Code, Visible, Color, FillForeColor, FillBackColor,"

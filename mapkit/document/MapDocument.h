@@ -87,8 +87,6 @@ public:
 
 private:
     MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path);
-    QString Setting(const QString& name) const;
-    void SetSetting(const QString& name, const QString& value);
     qint32 NextOf(const QString& expression, const QString& table) const;
 
     std::unique_ptr<SqliteLayerDatabase> m_database;

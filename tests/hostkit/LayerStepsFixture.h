@@ -8,7 +8,8 @@
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/UndoHistory.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QCoreApplication>
 #include <QSignalSpy>
@@ -96,7 +97,7 @@ protected:
 
     void ApplyToGroup(const QList<qint32>& layerIDs, const char* column, const Value& value)
     {
-        StoreTransaction transaction(Database());
+        Transaction transaction(Database());
         for (const qint32 layerID : layerIDs)
             Edit(layerID, column, value);
         transaction.Commit();

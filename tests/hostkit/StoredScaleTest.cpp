@@ -49,20 +49,5 @@ TEST(StoredScale, AnIndexOutsideTheDialogsRangeIsNoLimit)
     EXPECT_EQ(StoredScale::FromIndex(1000, services), StoredScale::NoMaximum);
 }
 
-TEST(StoredScale, ALayerIsVisibleFromItsLowerToItsUpperLimitInclusive)
-{
-    EXPECT_TRUE(StoredScale::IsVisibleAt(5000, 5000, 25000));
-    EXPECT_TRUE(StoredScale::IsVisibleAt(25000, 5000, 25000));
-    EXPECT_FALSE(StoredScale::IsVisibleAt(4999, 5000, 25000));
-    EXPECT_FALSE(StoredScale::IsVisibleAt(25001, 5000, 25000));
-}
-
-TEST(StoredScale, WithoutLimitsALayerIsVisibleAtEveryScale)
-{
-    EXPECT_TRUE(StoredScale::IsVisibleAt(1, StoredScale::NoMinimum, StoredScale::NoMaximum));
-    EXPECT_TRUE(StoredScale::IsVisibleAt(1e9, StoredScale::NoMinimum, StoredScale::NoMaximum));
-    EXPECT_TRUE(StoredScale::IsVisibleAt(1e9, 0, 0));
-}
-
 } // namespace
 } // namespace Orvane

@@ -2,7 +2,8 @@
 #include "store/TransactionStack.h"
 
 #include "store/StoreTest.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 namespace Orvane::Testing {
 
@@ -120,7 +121,7 @@ TEST_F(Transactions, ATableCursorReadsTheRowAnewAfterARollback)
 TEST_F(Transactions, AGuardRollsBackWhatWasNotCommitted)
 {
     {
-        StoreTransaction transaction(*m_database);
+        Transaction transaction(*m_database);
         Rename("Changed");
     }
     ExpectName("As it was");
@@ -130,7 +131,7 @@ TEST_F(Transactions, AGuardRollsBackWhatWasNotCommitted)
 TEST_F(Transactions, AGuardKeepsWhatWasCommitted)
 {
     {
-        StoreTransaction transaction(*m_database);
+        Transaction transaction(*m_database);
         Rename("Changed");
         transaction.Commit();
     }
@@ -140,7 +141,7 @@ TEST_F(Transactions, AGuardKeepsWhatWasCommitted)
 TEST_F(Transactions, AGuardRollsBackWhenAnErrorPasses)
 {
     const auto failing = [&] {
-        StoreTransaction transaction(*m_database);
+        Transaction transaction(*m_database);
         Rename("Changed");
         AddLayer(*m_database, 1, QStringLiteral("Twice"));
         transaction.Commit();
@@ -151,10 +152,10 @@ TEST_F(Transactions, AGuardRollsBackWhenAnErrorPasses)
 
 TEST_F(Transactions, AGuardInsideAGuardUndoesItsOwnPart)
 {
-    StoreTransaction outer(*m_database);
+    Transaction outer(*m_database);
     Rename("Outer");
     {
-        StoreTransaction inner(*m_database);
+        Transaction inner(*m_database);
         Rename("Inner");
     }
     outer.Commit();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/StoreTest.h"
-#include "store/StoreTransaction.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <future>
 #include <thread>
@@ -88,7 +89,7 @@ TEST_F(WaitingForLocks, ReadingIsNeverHeldUp)
 {
     const auto database = Opened(Impatient());
     m_other.Run(Lock);
-    StoreTransaction transaction(*database);
+    Transaction transaction(*database);
     EXPECT_EQ(ToInt32(SeekLayer(*database, 2)->Field("Priority")), 0);
     transaction.Commit();
 }
@@ -106,7 +107,7 @@ TEST_F(WaitingForLocks, ATransactionThatHasReadWaitsForItsFirstWrite)
     const auto database = Opened();
     m_other.Run(Lock);
     ReleaseAt(*database, QStringLiteral("BEGIN IMMEDIATE"), [&] {
-        StoreTransaction transaction(*database);
+        Transaction transaction(*database);
         SetCode(*database, 1, 5);
         transaction.Commit();
     });
@@ -119,7 +120,7 @@ TEST_F(WaitingForLocks, ATransactionThatCannotWriteInTimeIsUndoneWhole)
     const auto database = Opened(Impatient());
     m_other.Run(Lock);
     const auto apply = [&] {
-        StoreTransaction transaction(*database);
+        Transaction transaction(*database);
         SetCode(*database, 1, 5);
         transaction.Commit();
     };
@@ -133,9 +134,9 @@ TEST_F(WaitingForLocks, NestedTransactionsAreBegunAnewTogether)
     const auto database = Opened();
     m_other.Run(Lock);
     ReleaseAt(*database, QStringLiteral("BEGIN IMMEDIATE"), [&] {
-        StoreTransaction outer(*database);
+        Transaction outer(*database);
         {
-            StoreTransaction inner(*database);
+            Transaction inner(*database);
             SetCode(*database, 1, 5);
         }
         SetCode(*database, 3, 7);
@@ -147,7 +148,7 @@ TEST_F(WaitingForLocks, NestedTransactionsAreBegunAnewTogether)
 TEST_F(WaitingForLocks, AnEditSeesWhatTheOtherProgramStoredMeanwhile)
 {
     const auto database = Opened();
-    StoreTransaction transaction(*database);
+    Transaction transaction(*database);
     const auto layer = SeekLayer(*database, 2);
     EXPECT_EQ(ToInt32(layer->Field("Priority")), 0);
     m_other.Run("UPDATE Layers SET Priority = 9 WHERE LayerID = 2");
@@ -162,7 +163,7 @@ TEST_F(WaitingForLocks, AnEditSeesWhatTheOtherProgramStoredMeanwhile)
 TEST_F(WaitingForLocks, AnEditOfARowThatTheOtherProgramDeletedIsReported)
 {
     const auto database = Opened();
-    StoreTransaction transaction(*database);
+    Transaction transaction(*database);
     const auto layer = SeekLayer(*database, 2);
     m_other.Run("DELETE FROM Layers WHERE LayerID = 2");
     layer->Edit();
@@ -174,7 +175,7 @@ TEST_F(WaitingForLocks, ALoopOverAQueryGoesOnWhenTheTransactionIsBegunAnew)
 {
     const auto database = Opened();
     std::vector<qint32> seen;
-    StoreTransaction transaction(*database);
+    Transaction transaction(*database);
     auto rows = database->OpenRecordset(QStringLiteral("SELECT LayerID FROM Layers ORDER BY LayerID"));
     m_other.Run("UPDATE Layers SET Priority = 9 WHERE LayerID = 2");
     for (; !rows->AtEOF(); rows->MoveNext()) {

@@ -38,20 +38,6 @@ TEST(Twips, PixelsSurviveTheRoundTripAtAnyResolution)
     }
 }
 
-TEST(Twips, ARememberedSizeIsKeptWhileNobodyResizes)
-{
-    for (double dpi = 72; dpi <= 300; dpi += 1) {
-        const TwipsPerPixel scale = AtDpi(dpi);
-        const TwipSize stored{9001, 7003};
-        ASSERT_EQ(scale.KeepTwips(stored, scale.ToPixels(stored)), stored) << dpi << " dpi";
-    }
-}
-
-TEST(Twips, AChangedWidthLeavesTheRememberedHeightAlone)
-{
-    EXPECT_EQ(AtDpi(96).KeepTwips({9001, 7003}, {700, 467}), (TwipSize{10500, 7003}));
-}
-
 TEST(Twips, AHalfPixelGoesToTheEvenNeighbour)
 {
     EXPECT_EQ((TwipsPerPixel{10, 10}).WidthToPixels(25), 2);

@@ -243,11 +243,11 @@ TEST_F(LayerTreeModelTest, ListsTheLayersOfAGroupInTheirOrder)
     EXPECT_THAT(model.LayersOfGroup(99), ElementsAre());
 }
 
-TEST_F(LayerTreeModelTest, ForgetsAllNodesWhenItIsCleared)
+TEST_F(LayerTreeModelTest, ForgetsAllNodesWhenItShowsNoLayers)
 {
     FillGroups();
     EXPECT_TRUE(model.HasNodes());
-    model.Clear();
+    model.SetLayers({});
     EXPECT_FALSE(model.HasNodes());
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_FALSE(model.IndexOf(LayerNode(10, 1)).isValid());

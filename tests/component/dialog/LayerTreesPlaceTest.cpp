@@ -27,18 +27,6 @@ TEST_F(LayerTreesLoadTest, KeepsTheCurrentNodeAcrossAReloadWithoutAWord)
     EXPECT_EQ(asked, 0);
 }
 
-TEST_F(LayerTreesLoadTest, KeepsTheCurrentNodeAcrossClearingAndReloading)
-{
-    Open(List::Groups);
-    Click(groups, "Roads", "Water");
-    trees.Clear(List::Groups);
-    EXPECT_EQ(CurrentKey(), "");
-    trees.LoadGroups();
-    EXPECT_EQ(CurrentKey(), "L00000020000011");
-    EXPECT_EQ(Selected(groups), "Roads");
-    EXPECT_EQ(moved, 1);
-}
-
 TEST_F(LayerTreesLoadTest, KeepsACurrentLayerUnderItsCollapsedGroupWithoutExpandingIt)
 {
     Open(List::Groups);

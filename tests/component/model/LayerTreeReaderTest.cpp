@@ -112,18 +112,6 @@ TEST_F(GroupsTree, CarriesIDsModesAndExpansion)
     EXPECT_EQ(tree[1].layers.front().quickMode, 2);
 }
 
-TEST_F(GroupsTree, AGroupsModeIsWhatItsLayersHaveInCommon)
-{
-    host.AddLayer({.id = 1, .overrideMode = 2});
-    host.AddLayer({.id = 2, .overrideMode = 2});
-    host.AddLayer({.id = 3, .overrideMode = 0});
-    host.AddGroup({.id = 10, .ordering = 1, .members = {1, 2}});
-    host.AddGroup({.id = 11, .ordering = 2, .members = {1, 3}});
-    const auto tree = Tree();
-    EXPECT_EQ(tree[0].quickMode, 4);
-    EXPECT_EQ(tree[1].quickMode, 0);
-}
-
 TEST_F(GroupsTree, ALayerOfTwoGroupsStandsOnceUnderEach)
 {
     AddLayers({{1, "a"}, {2, "b"}});
@@ -141,14 +129,6 @@ TEST_F(GroupsTree, HiddenLayersAreSkipped)
     host.AddGroup({.id = 10, .name = "g", .members = {1, 2, 3, 4}});
     EXPECT_THAT(TreeLines(), ElementsAre("g: shown"));
     EXPECT_THAT(host.Log().CallsTo("LayerDisplayName"), ElementsAre("LayerDisplayName(1)"));
-}
-
-TEST_F(GroupsTree, HiddenLayersHaveNoPartInTheGroupsMode)
-{
-    host.AddLayer({.id = 1, .overrideMode = 2});
-    host.AddLayer({.id = 2, .code = -2, .overrideMode = 0});
-    host.AddGroup({.id = 10, .members = {1, 2}});
-    EXPECT_EQ(Tree().front().quickMode, 4);
 }
 
 TEST_F(GroupsTree, AGroupOfHiddenLayersOnlyIsNotListed)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/model/LayerNames.h"
+#include "component/model/ListedName.h"
 
 #include "hosts/ValueMatchers.h"
 

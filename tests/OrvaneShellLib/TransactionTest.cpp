@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "component/model/ModelTransaction.h"
 
 #include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/ValueMatchers.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class ModelTransactionOf : public testing::Test
+class TransactionOf : public testing::Test
 {
 protected:
     void HideLayer()
@@ -32,11 +33,11 @@ protected:
 
 } // namespace
 
-TEST_F(ModelTransactionOf, KeepsWhatWasCommitted)
+TEST_F(TransactionOf, KeepsWhatWasCommitted)
 {
     host.AddLayer({.id = 17, .visible = true});
     {
-        ModelTransaction transaction(host.Database());
+        Transaction transaction(host.Database());
         HideLayer();
         transaction.Commit();
     }
@@ -44,21 +45,21 @@ TEST_F(ModelTransactionOf, KeepsWhatWasCommitted)
     EXPECT_EQ(host.Log().CallsTo("Rollback").size(), 0);
 }
 
-TEST_F(ModelTransactionOf, UndoesWhatWasNotCommitted)
+TEST_F(TransactionOf, UndoesWhatWasNotCommitted)
 {
     host.AddLayer({.id = 17, .visible = true});
     {
-        ModelTransaction transaction(host.Database());
+        Transaction transaction(host.Database());
         HideLayer();
     }
     EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(true));
 }
 
-TEST_F(ModelTransactionOf, RollsBackAfterACommitThatRaised)
+TEST_F(TransactionOf, RollsBackAfterACommitThatRaised)
 {
     FailingClient client(host, {"CommitTrans", 1, RunTimeError(10001, "disk full")});
     const auto error = ErrorOf([&] {
-        ModelTransaction transaction(client.Database());
+        Transaction transaction(client.Database());
         transaction.Commit();
     });
     ASSERT_TRUE(error);
@@ -66,18 +67,18 @@ TEST_F(ModelTransactionOf, RollsBackAfterACommitThatRaised)
     EXPECT_THAT(host.Log().Trace(), ElementsAre("BeginTrans()", "Rollback()"));
 }
 
-TEST_F(ModelTransactionOf, DoesNotRollBackWhatNeverBegan)
+TEST_F(TransactionOf, DoesNotRollBackWhatNeverBegan)
 {
     FailingClient client(host, {"BeginTrans", 1, RunTimeError(10001, "locked")});
-    EXPECT_EQ(ErrorNumberOf([&] { ModelTransaction transaction(client.Database()); }), 10001);
+    EXPECT_EQ(ErrorNumberOf([&] { Transaction transaction(client.Database()); }), 10001);
     EXPECT_TRUE(host.Log().Trace().isEmpty());
 }
 
-TEST_F(ModelTransactionOf, AFailingRollbackDoesNotHideTheErrorBefore)
+TEST_F(TransactionOf, AFailingRollbackDoesNotHideTheErrorBefore)
 {
     FailingClient client(host, {"Rollback", 1, RunTimeError(10001, "connection lost")});
     const int number = ErrorNumberOf([&] {
-        ModelTransaction transaction(client.Database());
+        Transaction transaction(client.Database());
         throw RunTimeError(10002, "first");
     });
     EXPECT_EQ(number, 10002);
