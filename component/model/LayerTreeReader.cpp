@@ -65,10 +65,10 @@ private:
     GroupEntry StartGroup(qint32 groupID)
     {
         if (!SeekID(*m_groups, groupID))
-            return {groupID, m_texts.groupNotFound, false, {}, 0};
+            return {groupID, m_texts.groupNotFound, false, {}};
         const Value name = m_groups->Field("Name");
         const QString text = ToTextOrNone(name);
-        return {groupID, text.isEmpty() ? m_texts.noName : text, FlagIsSet(*m_groups, "Expanded"), {}, 0};
+        return {groupID, text.isEmpty() ? m_texts.noName : text, FlagIsSet(*m_groups, "Expanded"), {}};
     }
 
     IStyleEditorClient& m_client;
