@@ -2,7 +2,7 @@
 #include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Measurement.h"
 #include "component/controls/CheckBoxPlus.h"
-#include "component/dialog/frmLayerStyles.h"
+#include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"

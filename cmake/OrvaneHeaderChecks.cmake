@@ -29,7 +29,7 @@ orvane_header_check(public_header_checks HEADERS ${headers}
 file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS
   component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
 orvane_header_check(inner_header_checks HEADERS ${headers} LIBRARIES
-  layer_control_parts orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)
+  component_entry orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)
 target_precompile_headers(inner_header_checks REUSE_FROM orvane_widgets_test_headers)
 
 add_custom_target(header_checks)

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/LayerFactory.h"
 
-#include "hostkit/FillPatterns.h"
 #include "hostkit/LayerDeletion.h"
-#include "hostkit/LayerNames.h"
-#include "hostkit/SchemeTables.h"
-#include "hostkit/StoredScale.h"
+#include "hostkit/common/FillPatterns.h"
+#include "hostkit/common/LayerNames.h"
+#include "hostkit/common/StoredScale.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/LayerValues.h>

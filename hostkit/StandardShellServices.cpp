@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/StandardShellServices.h"
 
-#include "hostkit/FillPatterns.h"
-#include "hostkit/TextPrompt.h"
+#include "hostkit/common/FillPatterns.h"
+#include "hostkit/windows/TextPrompt.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/ModalForms.h"
-#include "hostkit/ScaleTable.h"
+#include "hostkit/common/ScaleTable.h"
+#include "hostkit/windows/ModalForms.h"
 
 #include <OrvaneShellLib/IShellServices.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/LayerControl.h"
+#include "shell/actions/LayerControl.h"
 
 #include <QMainWindow>
 #include <QStringList>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/tracing/CallTrace.h"
-#include "mapkit/Guard.h"
+#include "mapkit/common/Guard.h"
 #include "messages/CatalogueTranslator.h"
-#include "shell/CatalogueFile.h"
 #include "shell/MainWindow.h"
-#include "shell/QtTexts.h"
-#include "shell/RecentMaps.h"
 #include "shell/command/CommandLine.h"
+#include "shell/window/CatalogueFile.h"
+#include "shell/window/QtTexts.h"
+#include "shell/window/RecentMaps.h"
 
 #include <QApplication>
 #include <QFile>

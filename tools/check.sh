@@ -34,6 +34,10 @@ check_habits() {
     [ -z "$hits" ] || fail "no licence line:"$'\n'"$hits"
 }
 
+check_order() {
+    tools/include_order.py || fail "a folder uses one that it may not use"
+}
+
 check_headers() {
     cmake --build "$headers" --target header_checks || fail "a header does not compile alone"
 }
@@ -47,7 +51,7 @@ check_lint() {
     sources | grep '\.cpp$' | grep -vE '^(tests|benchmarks)/' | xargs tools/lint.py "$release" || fail "lint"
 }
 
-for check in format lengths habits headers release lint; do
+for check in format lengths habits order headers release lint; do
     step "Checking: $check"
     started=$SECONDS
     "check_$check"

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/CheckBoxPlus.h"
 
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
 #include "component/controls/EventArguments.h"
 #include "component/controls/InnerCheckBox.h"
 #include "component/controls/PropertyBag.h"
 #include "component/controls/Twips.h"
-#include "component/entry/EventGuard.h"
-#include "component/entry/Messages.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/ClickWatcher.h"
 
-#include "component/entry/EventGuard.h"
+#include "component/common/EventGuard.h"
 
 #include <QMouseEvent>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/DrawPrioritiesTranslator.h"
 
-#include "component/entry/Messages.h"
+#include "component/common/Messages.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/InnerCheckBox.h"
 
-#include "component/entry/EventGuard.h"
+#include "component/common/EventGuard.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/VisibleScalesTranslator.h"
 
-#include "component/entry/Component.h"
-#include "component/entry/Messages.h"
+#include "component/common/Component.h"
+#include "component/common/Messages.h"
 
 #include <OrvaneShellLib/IShellServices.h>
 #include <OrvaneShellLib/ValueConversions.h>

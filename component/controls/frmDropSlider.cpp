@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/frmDropSlider.h"
 
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
 #include "component/controls/ClickWatcher.h"
 #include "component/controls/IUITranslator.h"
 #include "component/controls/ScreenPlacement.h"
-#include "component/entry/EventGuard.h"
-#include "component/entry/Messages.h"
 #include "ui_frmDropSlider.h"
 
 #include <OrvaneShellLib/ValueConversions.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The functions by which a host finds the component.
-#include "component/dialog/frmLayerStyles.h"
-#include "component/entry/MessageFile.h"
+#include "component/common/MessageFile.h"
+#include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
 
 #include <OrvaneShellLib/PluginContract.h>

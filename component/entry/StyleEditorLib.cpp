@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/StyleEditorLib.h"
 
-#include "component/entry/Component.h"
+#include "component/common/Component.h"
 #include "component/entry/StyleEditorRegistry.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>

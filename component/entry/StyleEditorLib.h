@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/entry/StyleEditorWindow.h"
+#include "component/common/StyleEditorWindow.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/StyleEditorRegistry.h"
 
-#include "component/entry/Messages.h"
+#include "component/common/Messages.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/ChooseColour.h"
 
-#include "component/entry/Messages.h"
+#include "component/common/Messages.h"
 #include "samples/BgrColour.h"
 
 #include <QColorDialog>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/ColourPicker.h"
 
-#include "component/entry/EventGuard.h"
-#include "component/entry/Messages.h"
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
 #include "component/styles/ChooseColour.h"
 #include "component/styles/ItemDescriptions.h"
 #include "component/styles/StandardColours.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/FillStylePicker.h"
 
-#include "component/entry/Component.h"
-#include "component/entry/EventGuard.h"
-#include "component/entry/MessageBoxes.h"
-#include "component/entry/Messages.h"
+#include "component/common/Component.h"
+#include "component/common/EventGuard.h"
+#include "component/common/MessageBoxes.h"
+#include "component/common/Messages.h"
 #include "component/styles/ItemDescriptions.h"
 #include "component/styles/TranslatedStyleWords.h"
 #include "ovctrls/OvCombo.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/ItemDescriptions.h"
 
-#include "component/entry/Messages.h"
+#include "component/common/Messages.h"
 #include "component/styles/StandardColours.h"
 #include "samples/BgrColour.h"
 

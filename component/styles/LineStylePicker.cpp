@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/LineStylePicker.h"
 
-#include "component/entry/EventGuard.h"
+#include "component/common/EventGuard.h"
 #include "component/styles/ItemDescriptions.h"
 #include "component/styles/TranslatedStyleWords.h"
 #include "ovctrls/OvCombo.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/PickerList.h"
 
-#include "component/entry/ListHelpers.h"
-#include "component/entry/Messages.h"
+#include "component/common/ListHelpers.h"
+#include "component/common/Messages.h"
 #include "ovctrls/OvCombo.h"
 
 #include <algorithm>

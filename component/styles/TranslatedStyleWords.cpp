@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/TranslatedStyleWords.h"
 
-#include "component/entry/Messages.h"
+#include "component/common/Messages.h"
 
 namespace Orvane {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/frmOtherLineStyle.h"
 
+#include "component/common/Component.h"
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
+#include "component/common/SpinHelpers.h"
 #include "component/controls/ScreenPlacement.h"
-#include "component/entry/Component.h"
-#include "component/entry/EventGuard.h"
-#include "component/entry/Messages.h"
-#include "component/entry/SpinHelpers.h"
 #include "ui_frmOtherLineStyle.h"
 
 #include <OrvaneShellLib/IShellServices.h>

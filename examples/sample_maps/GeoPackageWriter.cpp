@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "examples/sample_maps/GeoPackageWriter.h"
 
-#include "mapkit/data/GdalErrors.h"
+#include "mapkit/common/GdalErrors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

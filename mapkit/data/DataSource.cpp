@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/DataSource.h"
 
-#include "mapkit/data/CoordinateSystems.h"
-#include "mapkit/data/GdalErrors.h"
+#include "mapkit/common/GdalErrors.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
-#include "mapkit/data/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/EmptyLayer.h"
 
-#include "mapkit/data/GdalErrors.h"
+#include "mapkit/common/GdalErrors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/Box.h"
+#include "mapkit/coordinates/Box.h"
 
 #include <QPointF>
 #include <QtGlobal>

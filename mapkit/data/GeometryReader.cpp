@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/GeometryReader.h"
 
-#include "mapkit/data/GdalErrors.h"
+#include "mapkit/common/GdalErrors.h"
 
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/RasterSource.h"
 
-#include "mapkit/data/CoordinateSystems.h"
+#include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/GdalErrors.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/RasterShades.h"
 #include "mapkit/data/RasterWarp.h"

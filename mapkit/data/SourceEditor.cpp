@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/SourceEditor.h"
 
-#include "mapkit/data/CoordinateSystems.h"
-#include "mapkit/data/GdalErrors.h"
+#include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/SourceReader.h"

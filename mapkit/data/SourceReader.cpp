@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/SourceReader.h"
 
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

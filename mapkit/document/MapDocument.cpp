@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/MapDocument.h"
 
-#include "hostkit/StoredScale.h"
+#include "hostkit/common/StoredScale.h"
 #include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/MapSettings.h"
 #include "store/LayerFileUse.h"

@@ -3,7 +3,7 @@
 
 #include "mapkit/document/RenderingTable.h"
 #include "mapkit/document/SourceTable.h"
-#include "mapkit/drawing/LayerLook.h"
+#include "mapkit/looks/LayerLook.h"
 
 #include <QString>
 

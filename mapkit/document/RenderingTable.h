@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/drawing/LayerRendering.h"
+#include "mapkit/looks/LayerRendering.h"
 
 #include <QtGlobal>
 

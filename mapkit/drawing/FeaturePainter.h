@@ -2,8 +2,8 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
-#include "mapkit/drawing/LayerLook.h"
 #include "mapkit/drawing/MapView.h"
+#include "mapkit/looks/LayerLook.h"
 
 #include <QPolygonF>
 #include <QRectF>

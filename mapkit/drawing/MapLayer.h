@@ -3,8 +3,8 @@
 
 #include "mapkit/data/AttributeColumn.h"
 #include "mapkit/data/FeatureSet.h"
-#include "mapkit/drawing/Classification.h"
-#include "mapkit/drawing/LayerLook.h"
+#include "mapkit/looks/Classification.h"
+#include "mapkit/looks/LayerLook.h"
 
 #include <QString>
 

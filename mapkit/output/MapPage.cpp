@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/output/MapPage.h"
 
-#include "mapkit/data/CoordinateSystems.h"
-#include "mapkit/data/GroundScale.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/GroundScale.h"
 #include "mapkit/drawing/MapPainter.h"
 #include "mapkit/drawing/MapView.h"
 #include "mapkit/drawing/RoundedScale.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/Box.h"
+#include "mapkit/coordinates/Box.h"
 #include "mapkit/drawing/MapLayer.h"
 #include "mapkit/drawing/MapView.h"
 #include "mapkit/drawing/RasterBackdrop.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/CheckCommand.h"
 
-#include "shell/MapCheck.h"
+#include "shell/command/MapCheck.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

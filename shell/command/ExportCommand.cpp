@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ExportCommand.h"
 
-#include "hostkit/LayerSchemes.h"
 #include "hostkit/StandardShellServices.h"
-#include "mapkit/data/Progress.h"
+#include "hostkit/schemes/LayerSchemes.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/output/MapPage.h"
 #include "mapkit/output/PageWriter.h"
-#include "shell/MapLayers.h"
 #include "shell/command/ExportOptions.h"
 #include "shell/command/MapCopy.h"
+#include "shell/map/MapLayers.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ImportCommand.h"
 
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataFiles.h"
-#include "mapkit/data/Progress.h"
 #include "mapkit/document/MapDocument.h"
-#include "shell/DataImport.h"
+#include "shell/map/DataImport.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

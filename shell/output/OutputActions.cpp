@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/output/OutputActions.h"
 
-#include "mapkit/Guard.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
 #include "mapkit/output/PageWriter.h"
-#include "shell/RunWithProgress.h"
 #include "shell/output/PageDialog.h"
+#include "shell/window/RunWithProgress.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <QAction>

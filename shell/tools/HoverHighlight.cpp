@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/HoverHighlight.h"
 
-#include "mapkit/Guard.h"
-#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Guard.h"
 #include "shell/tools/ToolRules.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/tools/Highlight.h"
+#include "shell/features/Highlight.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/tools/FeatureKey.h"
+#include "shell/features/FeatureKey.h"
 #include "shell/tools/IdentifyTool.h"
 
 #include <QDockWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/MeasureTool.h"
 
-#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "shell/tools/ToolRules.h"
 
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/EarthMeasure.h"
-#include "mapkit/drawing/MapTool.h"
+#include "mapkit/canvas/MapTool.h"
+#include "mapkit/coordinates/EarthMeasure.h"
 
 #include <QPolygonF>
 

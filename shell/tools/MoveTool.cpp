@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/MoveTool.h"
 
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/drawing/FeaturePainter.h"
-#include "mapkit/drawing/MapCanvas.h"
-#include "shell/tools/FeatureSubset.h"
+#include "shell/features/FeatureSubset.h"
 #include "shell/tools/ToolRules.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

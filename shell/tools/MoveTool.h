@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/canvas/MapTool.h"
 #include "mapkit/drawing/MapLayer.h"
-#include "mapkit/drawing/MapTool.h"
-#include "shell/tools/FeatureKey.h"
+#include "shell/features/FeatureKey.h"
 
 #include <functional>
 #include <optional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/SelectTool.h"
 
-#include "mapkit/drawing/MapCanvas.h"
-#include "shell/tools/FeatureSelection.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "shell/features/FeatureSelection.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/drawing/MapTool.h"
+#include "mapkit/canvas/MapTool.h"
 #include "shell/tools/ToolRules.h"
 
 #include <QRectF>

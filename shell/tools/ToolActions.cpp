@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/ToolActions.h"
 
-#include "hostkit/UndoHistory.h"
+#include "hostkit/undo/UndoHistory.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
-#include "shell/MapSession.h"
-#include "shell/RunWithProgress.h"
-#include "shell/tools/FeatureMover.h"
+#include "shell/features/FeatureMover.h"
+#include "shell/map/MapSession.h"
 #include "shell/tools/IdentifyPanel.h"
 #include "shell/tools/StatusText.h"
+#include "shell/window/RunWithProgress.h"
 
 #include <QActionGroup>
 #include <QMainWindow>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/Icons.h"
-#include "shell/tools/FeatureSelection.h"
-#include "shell/tools/Highlight.h"
+#include "shell/features/FeatureSelection.h"
+#include "shell/features/Highlight.h"
 #include "shell/tools/HoverHighlight.h"
 #include "shell/tools/IdentifyTool.h"
 #include "shell/tools/MeasureTool.h"
 #include "shell/tools/MoveTool.h"
 #include "shell/tools/SelectTool.h"
+#include "shell/window/Icons.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/tools/HitTest.h"
+#include "shell/features/HitTest.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "hostkit/SettingsStore.h"
+#include "hostkit/common/SettingsStore.h"
 #include "mapkit/DataFolder.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
 #include "shell/tools/MeasureTool.h"
 #include "shell/tools/StatusText.h"

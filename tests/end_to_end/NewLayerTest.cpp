@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/TownWindow.h"
-#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/canvas/MapCanvas.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

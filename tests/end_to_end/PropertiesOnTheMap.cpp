@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/PropertiesOnTheMap.h"
 
-#include "hostkit/SettingsStore.h"
+#include "hostkit/common/SettingsStore.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
 #include "store/SqliteLayerDatabase.h"
 
 #include <QAction>

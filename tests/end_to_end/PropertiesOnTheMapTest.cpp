@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/PropertiesOnTheMap.h"
 
-#include "mapkit/drawing/MapCanvas.h"
+#include "mapkit/canvas/MapCanvas.h"
 
 namespace Orvane {
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "examples/sample_maps/SampleMap.h"
-#include "hostkit/SettingsStore.h"
 #include "hostkit/StyleEditorPlugin.h"
+#include "hostkit/common/SettingsStore.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
-#include "shell/MapSession.h"
+#include "shell/map/MapSession.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "examples/sample_maps/SampleMap.h"
-#include "hostkit/SettingsStore.h"
 #include "hostkit/StyleEditorPlugin.h"
+#include "hostkit/common/SettingsStore.h"
 #include "hostkit/tracing/CallTrace.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"

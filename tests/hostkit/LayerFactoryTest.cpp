@@ -3,8 +3,8 @@
 
 #include "hostkit/HostKitTest.h"
 #include "hostkit/LayerDeletion.h"
-#include "hostkit/LayerNames.h"
-#include "hostkit/LayerSchemes.h"
+#include "hostkit/common/LayerNames.h"
+#include "hostkit/schemes/LayerSchemes.h"
 
 namespace Orvane::Testing {
 namespace {

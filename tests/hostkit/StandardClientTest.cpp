@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/StandardClient.h"
 
-#include "hostkit/HostErrors.h"
 #include "hostkit/HostKitTest.h"
-#include "hostkit/HostNotifications.h"
 #include "hostkit/StandardShellServices.h"
+#include "hostkit/common/HostErrors.h"
+#include "hostkit/common/HostNotifications.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/StandardShellServices.h"
 
-#include "hostkit/FillPatterns.h"
 #include "hostkit/HostKitTest.h"
+#include "hostkit/common/FillPatterns.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -2,10 +2,10 @@
 #include "shell/MainWindow.h"
 
 #include "mapkit/DataFolder.h"
-#include "mapkit/data/Progress.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
-#include "shell/RecentMaps.h"
+#include "shell/window/RecentMaps.h"
 #include "store/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 

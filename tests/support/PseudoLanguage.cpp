@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/PseudoLanguage.h"
 
-#include "component/entry/Component.h"
-#include "component/entry/MessageTable.h"
+#include "component/common/Component.h"
+#include "component/common/MessageTable.h"
 #include "messages/LinguistReader.h"
 #include "support/LinguistFile.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/entry/Component.h"
-#include "component/entry/MessageTable.h"
+#include "component/common/Component.h"
+#include "component/common/MessageTable.h"
 #include "hosts/ValueMatchers.h"
 #include "support/LinguistFile.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/VisibleScalesTranslator.h"
 
+#include "component/common/Component.h"
 #include "component/controls/ControlsTestSupport.h"
-#include "component/entry/Component.h"
 #include "hosts/MemoryShellServices.h"
 #include "support/PseudoLanguage.h"
 

@@ -2,7 +2,7 @@
 #include "component/dialog/EditorFixture.h"
 
 #include "component/controls/CheckBoxPlus.h"
-#include "component/dialog/frmLayerStyles.h"
+#include "component/dialog/window/frmLayerStyles.h"
 #include "support/Without.h"
 
 #include <OrvaneShellLib/ValueConversions.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "component/common/Component.h"
+#include "component/common/MessageTable.h"
 #include "component/dialog/EditorFixture.h"
-#include "component/entry/Component.h"
-#include "component/entry/MessageTable.h"
 #include "support/LinguistFile.h"
 #include "support/PseudoLanguage.h"
 

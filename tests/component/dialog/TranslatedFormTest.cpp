@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "component/common/Component.h"
 #include "component/dialog/EditorFixture.h"
-#include "component/entry/Component.h"
 #include "support/LinguistFile.h"
 #include "support/PseudoLanguage.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/StyleEditorLib.h"
 
-#include "component/entry/Component.h"
+#include "component/common/Component.h"
+#include "component/common/Messages.h"
 #include "component/entry/FakeEditorWindow.h"
-#include "component/entry/Messages.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "support/LinguistFile.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/FillStylePicker.h"
 
-#include "component/entry/Component.h"
+#include "component/common/Component.h"
 #include "component/styles/PickersFixture.h"
 #include "samples/BgrColour.h"
 #include "support/MessageBoxRobot.h"

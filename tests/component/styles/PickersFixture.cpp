@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/PickersFixture.h"
 
-#include "component/entry/Component.h"
+#include "component/common/Component.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/entry/Component.h"
+#include "component/common/Component.h"
 #include "component/styles/frmOtherLineStyle.h"
 #include "hosts/MemoryHost.h"
 #include "ovctrls/OvSpin.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/HostKitTest.h"
-#include "hostkit/HostNotifications.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/StyleEditorPlugin.h"
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/tracing/CallTrace.h"
 #include "hostkit/tracing/TracingClient.h"
 #include "hostkit/tracing/TracingLibrary.h"

@@ -2,7 +2,7 @@
 #include "mapkit/data/DataSource.h"
 
 #include "mapkit/DataFolder.h"
-#include "mapkit/data/Progress.h"
+#include "mapkit/common/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

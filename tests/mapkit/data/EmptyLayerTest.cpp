@@ -2,8 +2,8 @@
 #include "mapkit/data/EmptyLayer.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Files that are damaged, that lie, or that want more than to be read.
 #include "mapkit/DataFolder.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/Progress.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

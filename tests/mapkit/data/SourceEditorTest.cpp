@@ -3,8 +3,8 @@
 
 #include "examples/sample_maps/GeoPackageWriter.h"
 #include "mapkit/DataFolder.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/Progress.h"
 #include "mapkit/data/SourceReader.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

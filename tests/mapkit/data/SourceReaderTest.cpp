@@ -2,7 +2,7 @@
 #include "mapkit/data/SourceReader.h"
 
 #include "mapkit/DataFolder.h"
-#include "mapkit/data/Progress.h"
+#include "mapkit/common/Progress.h"
 
 #include <gtest/gtest.h>
 

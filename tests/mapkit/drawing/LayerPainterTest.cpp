@@ -3,7 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "mapkit/Drawings.h"
-#include "mapkit/drawing/RendererStyles.h"
+#include "mapkit/looks/RendererStyles.h"
 
 #include <QImage>
 #include <QPainter>

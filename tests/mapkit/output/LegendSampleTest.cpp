@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/output/LegendSample.h"
 
-#include "hostkit/FillPatterns.h"
 #include "hostkit/StandardShellServices.h"
+#include "hostkit/common/FillPatterns.h"
 #include "mapkit/output/PageSettings.h"
 #include "samples/FillSample.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/output/PageWriter.h"
 
-#include "mapkit/data/Progress.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/output/OutputFixture.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ExportCommand.h"
 
-#include "hostkit/LayerSchemes.h"
+#include "hostkit/schemes/LayerSchemes.h"
 #include "mapkit/RasterFile.h"
 #include "shell/command/CommandFixture.h"
 #include "store/SqliteLayerDatabase.h"

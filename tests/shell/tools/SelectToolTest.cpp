@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/SelectTool.h"
 
-#include "shell/tools/FeatureSelection.h"
+#include "shell/features/FeatureSelection.h"
 #include "shell/tools/ToolCanvas.h"
 
 namespace Orvane {

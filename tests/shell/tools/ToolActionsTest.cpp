@@ -2,8 +2,8 @@
 #include "shell/tools/ToolActions.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/MapCanvas.h"
 #include "shell/MainWindow.h"
 #include "shell/tools/StatusText.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/drawing/MapCanvas.h"
-#include "mapkit/drawing/MapTool.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/canvas/MapTool.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/session/SessionFixture.h"
 
-#include "component/dialog/LayerTreeModel.h"
+#include "component/dialog/trees/LayerTreeModel.h"
 #include "ovctrls/OvCombo.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>

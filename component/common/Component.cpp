@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "component/common/Component.h"
+
+#include "component/common/MessageFile.h"
+#include "component/common/MessageFormatter.h"
+#include "component/common/MessageTable.h"
+#include "component/common/Messages.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QLocale>
+
+namespace Orvane {
+
+namespace {
+
+template <typename Object> Object& Held(Object* object)
+{
+    if (!object)
+        throw RunTimeError(
+            ErrorNumber::NotInitialised, TranslateMsg("The layer control has not been initialised."));
+    return *object;
+}
+
+} // namespace
+
+IStyleEditorClient& Client()
+{
+    return Held(Component::Get().Client());
+}
+
+IShellServices& ShellServices()
+{
+    return Held(Component::Get().ShellServices());
+}
+
+bool HasClient()
+{
+    return Component::Get().Client() != nullptr;
+}
+
+Component& Component::Get()
+{
+    static Component component;
+    return component;
+}
+
+Component::Component() = default;
+Component::~Component() = default;
+
+MessageTable& Component::Messages()
+{
+    if (!m_messages)
+        m_messages = std::make_unique<MessageTable>();
+    return *m_messages;
+}
+
+const MessageFormatter& Component::Formatter()
+{
+    if (!m_formatter)
+        m_formatter = std::make_unique<MessageFormatter>();
+    return *m_formatter;
+}
+
+void Component::LoadMessages()
+{
+    Messages().LoadFile(MessageFilePath(m_messageFolder, QLocale().uiLanguages()));
+}
+
+void Component::SetHost(IStyleEditorClient* client, IShellServices* services)
+{
+    m_client = client;
+    m_services = services;
+}
+
+} // namespace Orvane

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/panel/PropertyPanel.h"
+
+#include "component/common/Messages.h"
+
+#include <QFont>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
+
+namespace Orvane {
+
+namespace {
+
+void Underline(QWidget& control, bool underlined)
+{
+    QFont mark;
+    if (underlined)
+        mark.setUnderline(true);
+    control.setFont(mark);
+}
+
+} // namespace
+
+PropertyPanel::PropertyPanel(QObject* parent) : QObject(parent)
+{
+}
+
+PropertyPanel::~PropertyPanel() = default;
+
+void PropertyPanel::Join(std::unique_ptr<PropertyEditor> editor)
+{
+    editor->SetChangeHandler([this](QWidget* control) {
+        if (!m_showing)
+            MarkControlChanged(control, ControlValueChanged(control));
+        Speak(*control);
+    });
+    for (const SlotControl& entry : editor->Controls()) {
+        if (entry.speaker)
+            m_speakers.insert(entry.control, entry.speaker);
+    }
+    m_editors.push_back(std::move(editor));
+}
+
+void PropertyPanel::Fill()
+{
+    for (const auto& editor : m_editors)
+        editor->Fill();
+}
+
+void PropertyPanel::Prepare()
+{
+    for (const auto& editor : m_editors) {
+        for (const SlotControl& entry : editor->Controls()) {
+            if (!entry.control->property(TagProperty).isValid())
+                entry.control->setProperty(TagProperty, QString::number(entry.slot));
+        }
+    }
+}
+
+void PropertyPanel::Show(const LayerStyle& record)
+{
+    // A maximum scale of 256 reads back as 0, so marks are not to be trusted while values are being shown.
+    const QScopedValueRollback showing(m_showing, true);
+    m_record = record;
+    for (const auto& editor : m_editors)
+        editor->Show(m_record);
+    ClearMarks();
+}
+
+void PropertyPanel::ReadPanelStyle(LayerStyle& style) const
+{
+    for (const auto& editor : m_editors)
+        editor->Read(style);
+}
+
+bool PropertyPanel::ControlValueChanged(const QWidget* control) const
+{
+    for (const auto& editor : m_editors) {
+        LayerStyle shown;
+        bool isRead = false;
+        for (const SlotControl& entry : editor->Controls()) {
+            if (entry.control != control)
+                continue;
+            if (!std::exchange(isRead, true))
+                editor->Read(shown);
+            if (!m_record.Compare(entry.slot, shown.lsGet(entry.slot)))
+                return true;
+        }
+    }
+    return false;
+}
+
+void PropertyPanel::Retranslate()
+{
+    const QScopedValueRollback showing(m_showing, true);
+    for (const auto& editor : m_editors)
+        editor->Retranslate();
+}
+
+void PropertyPanel::MarkControlChanged(QWidget* control, bool changed)
+{
+    if (m_marked.contains(control) != changed)
+        Underline(*control, changed);
+    if (changed)
+        m_marked.insert(control);
+    else
+        m_marked.remove(control);
+    Speak(*control);
+    if (changed)
+        emit Edited();
+}
+
+void PropertyPanel::ClearMarks()
+{
+    for (QWidget* control : std::exchange(m_marked, {})) {
+        Underline(*control, false);
+        Speak(*control);
+    }
+}
+
+// An underline says nothing to someone who listens, nor does the text of a label that never has the focus.
+void PropertyPanel::Speak(QWidget& control) const
+{
+    QWidget* speaker = m_speakers.value(&control);
+    QStringList state;
+    if (const auto* label = qobject_cast<const QLabel*>(&control); speaker && label)
+        state.append(label->text());
+    if (m_marked.contains(&control))
+        state.append(TranslateMsg("changed"));
+    if (!speaker)
+        speaker = control.focusProxy() ? control.focusProxy() : &control;
+    speaker->setAccessibleDescription(state.join(QStringLiteral(", ")));
+}
+
+} // namespace Orvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/panel/PropertyEditor.h"
+
+#include <OrvaneShellLib/RendererStyle.h>
+#include <OrvaneShellLib/Value.h>
+
+#include <QObject>
+
+class QComboBox;
+
+namespace Orvane {
+
+/// The list cboStyle: "Standard" with the number 0, then the host's renderer styles.
+class RendererStyleEditor final : public QObject, public PropertyEditor
+{
+    Q_OBJECT
+
+public:
+    /// list: not owned; outlives this object.
+    explicit RendererStyleEditor(QComboBox& list);
+
+    /// Fills the list anew; nothing is selected then.
+    void FillStyles(const std::vector<RendererStyle>& styles);
+
+    /// The number of the entry that is selected right now; Null when none is.
+    Value SelectedStyle() const;
+
+    std::vector<SlotControl> Controls() const override;
+    /// Selects the entry with the record's number; none for "various" and for a number that the host does not
+    /// know, which is shown as such and stays as it is stored.
+    void Show(const LayerStyle& record) override;
+    void Read(LayerStyle& style) const override;
+    void Retranslate() override;
+
+private:
+    QComboBox& m_list;
+    bool m_showsVarious = false;
+};
+
+} // namespace Orvane

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/trees/LayerTreeList.h"
+
+#include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeNameDelegate.h"
+
+#include <QItemSelectionModel>
+#include <QScopedValueRollback>
+#include <QTreeView>
+
+#include <utility>
+
+namespace Orvane {
+
+LayerTreeList::LayerTreeList(QTreeView* view, QObject* parent)
+    : QObject(parent), m_view(view), m_model(new LayerTreeModel(this))
+{
+    SetUpView();
+    Wire();
+}
+
+void LayerTreeList::SetUpView()
+{
+    m_view->setModel(m_model);
+    m_view->setHeaderHidden(true);
+    m_view->setUniformRowHeights(true);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
+}
+
+void LayerTreeList::Wire()
+{
+    auto* delegate = new NodeNameDelegate(this);
+    m_view->setItemDelegate(delegate);
+    // Queued: a message box over an open editor would end the edit a second time.
+    connect(
+        delegate, &NodeNameDelegate::NameEntered, this, &LayerTreeList::NameEntered, Qt::QueuedConnection);
+    connect(
+        m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &LayerTreeList::FollowSelection);
+    connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        FollowExpansion(index, true);
+    });
+    connect(m_view, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+        FollowExpansion(index, false);
+    });
+}
+
+bool LayerTreeList::NeedsLoad() const
+{
+    return m_stale || !m_model->HasNodes();
+}
+
+void LayerTreeList::ShowGroups(std::vector<GroupEntry> groups)
+{
+    std::vector<int> expandedRows;
+    for (size_t row = 0; row < groups.size(); ++row) {
+        if (groups[row].expanded)
+            expandedRows.push_back(int(row));
+    }
+    Refill([&] { m_model->SetGroups(std::move(groups)); }, expandedRows);
+    m_view->setRootIsDecorated(true);
+}
+
+void LayerTreeList::ShowLayers(std::vector<LayerEntry> layers)
+{
+    Refill([&] { m_model->SetLayers(std::move(layers)); }, {});
+    m_view->setRootIsDecorated(false);
+}
+
+void LayerTreeList::Refill(const std::function<void()>& fill, const std::vector<int>& expandedRows)
+{
+    const QScopedValueRollback quiet(m_quiet, true);
+    if (m_model->HasNodes())
+        m_place = LayerTreePlace(*m_view, m_current);
+    fill();
+    m_stale = false;
+    // The reset has put the layout off, so that expanding only notes the group; one layout then serves all.
+    for (int row : expandedRows)
+        m_view->expand(m_model->index(row, 0));
+    m_view->doItemsLayout();
+    FindCurrentAgain();
+    m_place.ScrollBack(*m_view);
+}
+
+void LayerTreeList::FindCurrentAgain()
+{
+    if (!m_current)
+        return;
+    QModelIndex index = m_model->IndexOf(*m_current);
+    if (!index.isValid())
+        index = m_place.NodeNear(*m_model);
+    m_current.reset();
+    if (index.isValid())
+        MakeCurrent(m_model->Reference(index));
+}
+
+std::optional<NodeReference> LayerTreeList::CurrentNode() const
+{
+    const QModelIndex index = m_current ? m_model->IndexOf(*m_current) : QModelIndex();
+    return index.isValid() ? std::optional(m_model->Reference(index)) : std::nullopt;
+}
+
+QString LayerTreeList::CurrentText() const
+{
+    return m_current ? m_model->IndexOf(*m_current).data().toString() : QString();
+}
+
+bool LayerTreeList::MakeCurrent(const NodeReference& node)
+{
+    const QModelIndex index = m_model->IndexOf(node);
+    if (!index.isValid())
+        return false;
+    m_current = node;
+    Select(index);
+    return true;
+}
+
+void LayerTreeList::RefuseChoice()
+{
+    m_refusing = true;
+    SelectCurrent();
+    QMetaObject::invokeMethod(
+        this, [this] { m_refusing = false; }, Qt::QueuedConnection);
+}
+
+void LayerTreeList::SelectCurrent()
+{
+    Select(m_current ? m_model->IndexOf(*m_current) : QModelIndex());
+}
+
+// Without automatic scrolling, which would also expand the group of the node.
+void LayerTreeList::Select(const QModelIndex& index)
+{
+    const QScopedValueRollback quiet(m_quiet, true);
+    const bool scrolls = m_view->hasAutoScroll();
+    m_view->setAutoScroll(false);
+    m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    m_view->setAutoScroll(scrolls);
+}
+
+void LayerTreeList::ScrollToCurrent()
+{
+    const QModelIndex index = m_current ? m_model->IndexOf(*m_current) : QModelIndex();
+    if (index.isValid())
+        m_view->scrollTo(index);
+}
+
+std::vector<qint32> LayerTreeList::GroupsWithout(bool expanded) const
+{
+    std::vector<qint32> groupIDs;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex index = m_model->index(row, 0);
+        if (m_view->isExpanded(index) != expanded)
+            groupIDs.push_back(m_model->Reference(index).groupID);
+    }
+    return groupIDs;
+}
+
+void LayerTreeList::SetAllExpanded(bool expanded)
+{
+    const QScopedValueRollback quiet(m_quiet, true);
+    const QModelIndex current = m_view->currentIndex();
+    expanded ? m_view->expandAll() : m_view->collapseAll();
+    m_view->scrollTo(expanded || !current.parent().isValid() ? current : current.parent());
+}
+
+void LayerTreeList::FollowSelection()
+{
+    if (m_quiet)
+        return;
+    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    if (selected.isEmpty() || m_refusing) {
+        SelectCurrent();
+        return;
+    }
+    const NodeReference node = m_model->Reference(selected.first());
+    if (!m_current || !IsSameNode(*m_current, node))
+        emit NodeChosen(node);
+}
+
+void LayerTreeList::FollowExpansion(const QModelIndex& index, bool expanded)
+{
+    if (!m_quiet)
+        emit ExpansionChanged(m_model->Reference(index).groupID, expanded);
+}
+
+} // namespace Orvane

@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/trees/LayerTrees.h"
+
+#include "component/common/Component.h"
+#include "component/common/EventGuard.h"
+#include "component/common/MessageBoxes.h"
+#include "component/common/Messages.h"
+#include "component/dialog/trees/LayerTreeGestures.h"
+#include "component/dialog/trees/LayerTreeList.h"
+#include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeStore.h"
+#include "component/model/LayerCursors.h"
+#include "component/model/LayerTreeReader.h"
+#include "component/model/ListedName.h"
+#include "ovctrls/BusyPointer.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+
+#include <QPointer>
+#include <QTreeView>
+
+#include <algorithm>
+#include <utility>
+
+namespace Orvane {
+
+namespace {
+
+std::vector<GroupEntry> ReadGroups(const std::optional<QString>& namedGroup)
+{
+    const BusyPointer busy;
+    return LoadLayerTree(
+        Client(), namedGroup, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
+}
+
+std::vector<LayerEntry> ReadLayers(const IStyleFilter* filter)
+{
+    const BusyPointer busy;
+    return ReloadLayerList(Client(), filter);
+}
+
+bool Holds(const std::vector<LayerEntry>& layers, qint32 layerID)
+{
+    return std::any_of(
+        layers.begin(), layers.end(), [&](const LayerEntry& layer) { return layer.layerID == layerID; });
+}
+
+bool Holds(const std::vector<GroupEntry>& groups, const NodeReference& node)
+{
+    return std::any_of(groups.begin(), groups.end(), [&](const GroupEntry& group) {
+        return group.groupID == node.groupID && (node.isGroup || Holds(group.layers, node.layerID));
+    });
+}
+
+} // namespace
+
+LayerTrees::LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent)
+    : QObject(parent), m_groups(new LayerTreeList(groups, this)), m_layers(new LayerTreeList(layers, this))
+{
+    Wire(*m_groups);
+    Wire(*m_layers);
+}
+
+void LayerTrees::Wire(LayerTreeList& list)
+{
+    connect(&list, &LayerTreeList::NodeChosen, this, [this, &list](const NodeReference& node) {
+        OnNodeChosen(list, node);
+    });
+    connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByPerson);
+    connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
+        GuardEvent(&list.View(), [&] { StoreGroupExpanded(Client(), groupID, expanded); });
+    });
+    const auto mayRename = [this] { return CurrentNode() && CanEditNode(*CurrentNode()); };
+    auto* gestures = new LayerTreeGestures(&list.View(), mayRename, this);
+    connect(gestures, &LayerTreeGestures::DeleteRequested, this, &LayerTrees::DeleteRequested);
+    // Later: the window system gives the focus back from the menu first, which would end the edit.
+    connect(gestures, &LayerTreeGestures::RenameRequested, this, [this, &list] {
+        GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); });
+    });
+    // Later: a failure is told in a box.
+    connect(gestures, &LayerTreeGestures::ExpandAllRequested, this, [this, &list](bool expanded) {
+        GuardAfterEvent(this, &list.View(), [this, &list, expanded] { ExpandAll(list, expanded); });
+    });
+}
+
+LayerTreeList& LayerTrees::At(List list) const
+{
+    return list == List::Groups ? *m_groups : *m_layers;
+}
+
+bool LayerTrees::IsShown(const LayerTreeList& list) const
+{
+    return &list == &At(m_shown);
+}
+
+void LayerTrees::SetPendingChangesQuestion(std::function<void()> question, std::function<bool()> isPending)
+{
+    m_question = std::move(question);
+    m_isPending = std::move(isPending);
+}
+
+void LayerTrees::SetFilter(const IStyleFilter* filter)
+{
+    m_filter = filter;
+    m_layers->MarkStale();
+}
+
+void LayerTrees::SetNamedGroup(const std::optional<QString>& groupName)
+{
+    m_namedGroup = groupName;
+    m_groups->MarkStale();
+}
+
+void LayerTrees::LoadGroups()
+{
+    const std::optional<NodeReference> current = m_groups->CurrentNode();
+    std::vector<GroupEntry> groups = ReadGroups(m_namedGroup);
+    if (Loses(List::Groups, !current || Holds(groups, *current))) {
+        if (!AskAboutChanges())
+            return;
+        groups = ReadGroups(m_namedGroup);
+    }
+    Replace(List::Groups, [&] { m_groups->ShowGroups(std::move(groups)); });
+}
+
+void LayerTrees::LoadLayers()
+{
+    const std::optional<NodeReference> current = m_layers->CurrentNode();
+    std::vector<LayerEntry> layers = ReadLayers(m_filter);
+    if (Loses(List::Layers, !current || Holds(layers, current->layerID))) {
+        if (!AskAboutChanges())
+            return;
+        layers = ReadLayers(m_filter);
+    }
+    Replace(List::Layers, [&] { m_layers->ShowLayers(std::move(layers)); });
+}
+
+// A current node that the list no longer shows, though it exists, can still take its pending changes.
+bool LayerTrees::Loses(List list, bool kept) const
+{
+    return !kept && list == m_shown && NodeExists(Client(), *At(list).Current());
+}
+
+void LayerTrees::Replace(List list, const std::function<void()>& fill)
+{
+    LayerTreeList& target = At(list);
+    const std::optional<NodeReference> before = target.Current();
+    fill();
+    const std::optional<NodeReference>& after = target.Current();
+    const bool moved = before && (!after || !IsSameNode(*before, *after));
+    if (moved && list == m_shown)
+        emit CurrentNodeChanged();
+}
+
+void LayerTrees::Load(List list)
+{
+    list == List::Groups ? LoadGroups() : LoadLayers();
+}
+
+void LayerTrees::EnsureLoaded(List list)
+{
+    if (At(list).NeedsLoad())
+        Load(list);
+}
+
+void LayerTrees::MarkStale(List list)
+{
+    At(list).MarkStale();
+}
+
+void LayerTrees::ShowList(List list)
+{
+    if (list == m_shown)
+        return;
+    if (AskAboutChanges())
+        m_shown = list;
+}
+
+std::optional<NodeReference> LayerTrees::CurrentNode() const
+{
+    return At(m_shown).CurrentNode();
+}
+
+QString LayerTrees::CurrentText() const
+{
+    return At(m_shown).CurrentText();
+}
+
+// A question is not asked from within an event of the view: the view may be gone when the answer comes.
+void LayerTrees::OnNodeChosen(LayerTreeList& list, const NodeReference& node)
+{
+    const bool waits = m_isPending && IsShown(list) && list.Current() && m_isPending();
+    const auto connection = waits ? Qt::QueuedConnection : Qt::DirectConnection;
+    QMetaObject::invokeMethod(
+        this, [this, &list, node] { MoveByPerson(list, node); }, connection);
+}
+
+void LayerTrees::MoveByPerson(LayerTreeList& list, const NodeReference& node)
+{
+    const QPointer<LayerTrees> self(this);
+    if (!GuardEvent(&list.View(), [&] { MoveTo(list, node); }) && self)
+        list.RefuseChoice();
+}
+
+// False when this object is gone.
+bool LayerTrees::MoveTo(LayerTreeList& list, const NodeReference& node)
+{
+    if (list.Current() && IsSameNode(*list.Current(), node))
+        return true;
+    if (IsShown(list) && !AskAboutChanges())
+        return false;
+    if (!list.MakeCurrent(node))
+        list.RefuseChoice();
+    else if (IsShown(list))
+        emit CurrentNodeChanged();
+    return true;
+}
+
+// False when this object is gone: the host may end the dialog while the question waits.
+bool LayerTrees::AskAboutChanges()
+{
+    const QPointer<LayerTrees> self(this);
+    const std::function<void()> question = m_question;
+    if (question && At(m_shown).Current())
+        question();
+    return self;
+}
+
+void LayerTrees::SetLayerImage(qint32 layerID, qint16 quickMode)
+{
+    m_groups->Model().SetQuickMode({layerID}, quickMode);
+    m_layers->Model().SetQuickMode({layerID}, quickMode);
+}
+
+void LayerTrees::SetGroupImage(qint32 groupID, qint16 quickMode)
+{
+    std::vector<qint32> layerIDs = m_groups->Model().LayersOfGroup(groupID);
+    const std::vector<qint32> members = ReadMemberLayerIDs(Client(), groupID); // some may not be listed yet
+    layerIDs.insert(layerIDs.end(), members.begin(), members.end());
+    m_groups->Model().SetQuickMode(layerIDs, quickMode);
+    m_layers->Model().SetQuickMode(layerIDs, quickMode);
+}
+
+void LayerTrees::SetLayerText(qint32 layerID, const QString& text)
+{
+    m_groups->Model().SetLayerText(layerID, text);
+    m_layers->Model().SetLayerText(layerID, text);
+}
+
+void LayerTrees::RefreshLayerTexts(const QSet<qint32>& layerIDs)
+{
+    QHash<qint32, QString> texts;
+    for (const LayerTreeList* list : {m_groups, m_layers}) {
+        for (qint32 layerID : list->Model().LayersAmong(layerIDs))
+            texts.insert(layerID, QString());
+    }
+    const BusyPointer busy;
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        *text = DecorateLayerName(Client().LayerDisplayName(text.key()));
+    m_groups->Model().SetLayerTexts(texts);
+    m_layers->Model().SetLayerTexts(texts);
+}
+
+void LayerTrees::ShowLayer(qint32 layerID)
+{
+    const QPointer<LayerTrees> self(this); // as in MoveTo
+    EnsureLoaded(List::Layers);
+    if (!self)
+        return;
+    const std::optional<LayerEntry> layer = ReadOneLayer(Client(), layerID);
+    if (!layer)
+        return;
+    const NodeReference node{.isGroup = false, .groupID = 0, .layerID = layerID, .image = layer->quickMode};
+    if (!m_layers->Model().IndexOf(node).isValid())
+        m_layers->Model().InsertLayer(*layer);
+    SetLayerText(layerID, layer->text);
+    SetLayerImage(layerID, layer->quickMode);
+    if (MoveTo(*m_layers, node))
+        m_layers->ScrollToCurrent();
+}
+
+void LayerTrees::SetLayerName(qint32 layerID, const QString& name)
+{
+    Client().RenameLayer(layerID, name);
+    SetLayerText(layerID, DecorateLayerName(Client().LayerDisplayName(layerID)));
+}
+
+void LayerTrees::RenameGroup(qint32 groupID, const QString& name)
+{
+    const QString oldName = ReadNodeName(Client(), {.isGroup = true, .groupID = groupID});
+    Client().RenameGroup(groupID, name);
+    if (m_namedGroup == oldName)
+        m_namedGroup = name;
+    m_groups->Model().SetGroupText(groupID, name);
+}
+
+void LayerTrees::RenameByPerson(const NodeReference& node, const QString& name)
+{
+    QTreeView* view = &At(m_shown).View();
+    GuardEvent(view, [&] {
+        if (name.isEmpty())
+            ShowMessageBox(view, TranslateMsg("Invalid Name"), BoxStyle::OkExclamation);
+        else if (node.isGroup)
+            RenameGroup(node.groupID, name);
+        else
+            SetLayerName(node.layerID, name);
+    });
+}
+
+bool LayerTrees::CanEditNode(const NodeReference& node) const
+{
+    return Orvane::CanEditNode(Client(), node);
+}
+
+void LayerTrees::EditCurrentName()
+{
+    const std::optional<NodeReference> node = CurrentNode();
+    LayerTreeList& list = At(m_shown);
+    const QModelIndex index = node ? list.Model().IndexOf(*node) : QModelIndex();
+    if (index.isValid() && !list.View().isPersistentEditorOpen(index) && CanEditNode(*node))
+        list.View().edit(index);
+}
+
+void LayerTrees::ExpandAll(LayerTreeList& list, bool expanded)
+{
+    const BusyPointer busy;
+    StoreGroupsExpanded(Client(), list.GroupsWithout(expanded), expanded);
+    list.SetAllExpanded(expanded);
+}
+
+} // namespace Orvane

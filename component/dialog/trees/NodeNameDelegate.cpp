@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/trees/NodeNameDelegate.h"
+
+#include "component/common/Component.h"
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
+#include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeStore.h"
+#include "messages/NameInText.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <optional>
+
+namespace Orvane {
+
+namespace {
+
+constexpr qsizetype LongestListed = 300; // characters; more than any list is wide
+
+/// The editor remembers the name that it began with.
+class NameEditor : public QLineEdit
+{
+public:
+    NameEditor(const QString& name, QWidget* parent) : QLineEdit(name, parent), m_name(name)
+    {
+        setObjectName(QStringLiteral("txtNodeName"));
+        setAccessibleName(TranslateMsg("Edit Name"));
+        setFrame(false);
+        setAutoFillBackground(true);
+    }
+
+    bool IsChanged() const { return text() != m_name; }
+
+private:
+    QString m_name;
+};
+
+NodeReference ReferenceAt(const QModelIndex& index)
+{
+    return index.data(LayerTreeModel::ReferenceRole).value<NodeReference>();
+}
+
+std::optional<QString> EditableName(QWidget* owner, const NodeReference& node)
+{
+    std::optional<QString> name;
+    GuardEvent(owner, [&] {
+        if (CanEditNode(Client(), node))
+            name = ReadNodeName(Client(), node);
+    });
+    return name;
+}
+
+} // namespace
+
+QWidget*
+NodeNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    const std::optional<QString> name = EditableName(parent, ReferenceAt(index));
+    return name ? new NameEditor(*name, parent) : nullptr;
+}
+
+// Also called when the node changes behind an open editor: what was typed stays.
+void NodeNameDelegate::setEditorData(QWidget*, const QModelIndex&) const
+{
+}
+
+void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const
+{
+    const auto* name = static_cast<NameEditor*>(editor);
+    if (name->IsChanged())
+        emit NameEntered(ReferenceAt(index), name->text());
+}
+
+void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = NameInText(option->text, LongestListed); // all rows are as high as the first
+    const NodeReference node = ReferenceAt(index);
+    const bool active = option->state & QStyle::State_Active;
+    const int side = qMax(option->decorationSize.height(), option->fontMetrics.height());
+    option->icon = m_images.Icon(
+        node.isGroup, node.image, option->palette, active ? QPalette::Active : QPalette::Inactive);
+    option->decorationSize = QSize(side, side);
+    option->features |= QStyleOptionViewItem::HasDecoration;
+}
+
+// Tab ends the edit where it is: by default it would go on to the next node, and ask about pending changes.
+bool NodeNameDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+            auto* widget = static_cast<QWidget*>(editor);
+            emit commitData(widget);
+            emit closeEditor(widget, NoHint);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
+}
+
+} // namespace Orvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/trees/NodeImages.h"
+#include "component/dialog/trees/NodeKey.h"
+
+#include <QStyledItemDelegate>
+
+namespace Orvane {
+
+/// Draws the nodes of a tree with their images, and edits their names in place.
+///
+/// An editor opens only on a node that may be renamed, and begins with the name as it is stored, which may
+/// differ from the text that is listed. Nothing is written here.
+class NodeNameDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(
+        QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+
+signals:
+    /// The person ended an edit that changed the name; the editor still exists.
+    void NameEntered(const Orvane::NodeReference& node, const QString& name) const;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    bool eventFilter(QObject* editor, QEvent* event) override;
+
+private:
+    NodeImages m_images;
+};
+
+} // namespace Orvane

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/window/EditorLayout.h"
+
+#include "component/common/Messages.h"
+#include "ui_frmLayerStyles.h"
+
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
+
+namespace Orvane {
+
+namespace {
+
+// The widest texts that the value labels show.
+int WidestValue(const QLabel& label)
+{
+    const QFontMetrics metrics = label.fontMetrics();
+    int widest = 0;
+    for (const QString& text :
+         {TranslateMsg("various"), TranslateMsg("dont care"), TranslateMsg("1:^1", QString("100000000")),
+          TranslateMsg("^1 (highest)", QString("1")), TranslateMsg("^1 (lowest)", QString("255"))})
+        widest = std::max(widest, metrics.horizontalAdvance(text));
+    return widest + 2 * (label.frameWidth() + label.margin()) + metrics.horizontalAdvance(QLatin1Char('x'));
+}
+
+// A tool button's own size hint leaves its text hardly any room at the sides.
+QSize RoomySize(const QToolButton& button)
+{
+    const QFontMetrics metrics = button.fontMetrics();
+    return button.sizeHint() + QSize(2 * metrics.horizontalAdvance(QLatin1Char('x')), metrics.height() / 3);
+}
+
+// Layouts hear of a new text only by a posted event, and what is hidden not at all: ask them all anew.
+void ForgetSizes(QWidget& parent)
+{
+    QList<QWidget*> widgets = parent.findChildren<QWidget*>();
+    std::reverse(widgets.begin(), widgets.end()); // the innermost first
+    for (QWidget* widget : widgets) {
+        if (QLayout* layout = widget->layout()) {
+            layout->invalidate();
+            layout->activate(); // invalidates the layouts in it
+        }
+        widget->updateGeometry();
+    }
+    parent.layout()->invalidate();
+}
+
+QString HintOf(EditorLayout::Cover cover)
+{
+    if (cover == EditorLayout::Cover::Schemes)
+        return TranslateMsg("The settings of layers are edited on the other tabs.");
+    return TranslateMsg("Select a layer or a group to see its settings.");
+}
+
+} // namespace
+
+EditorLayout::EditorLayout(QDialog& form, Ui::frmLayerStyles& ui) : m_form(form), m_ui(ui)
+{
+}
+
+void EditorLayout::FitTexts()
+{
+    for (QLabel* label : {m_ui.lblScaleMin, m_ui.lblScaleMax, m_ui.lblPriority})
+        label->setMinimumWidth(WidestValue(*label));
+    for (QToolButton* button : {m_ui.Normal, m_ui.Backdrop, m_ui.Hidden})
+        button->setMinimumSize(RoomySize(*button));
+    m_ui.picLayerStyle->setMinimumWidth(0);
+    m_ui.picLayerStyle->setMaximumWidth(QWIDGETSIZE_MAX);
+    ForgetSizes(m_form);
+    m_ui.picLayerStyle->setFixedWidth(m_ui.picLayerStyle->layout()->totalSizeHint().width());
+    ShowExpansion();
+    ShowCover(m_cover);
+    m_form.layout()->activate();
+}
+
+void EditorLayout::TakeDesignedSize()
+{
+    m_form.layout()->activate();
+    m_form.resize(m_form.sizeHint().boundedTo(m_form.screen()->availableGeometry().size()));
+}
+
+void EditorLayout::SetExpanded(bool expanded)
+{
+    if (m_expanded == expanded)
+        return;
+    m_expanded = expanded;
+    const int before = m_form.width(); // the layout may widen the form at once
+    ShowExpansion();
+    m_form.layout()->activate();
+    if (m_form.isMaximized() || m_form.isFullScreen())
+        return;
+    const int change = expanded ? SettingsWidth() : -SettingsWidth();
+    // A collapsed dialog may be wider than wanted, by its buttons: the way back must not depend on it.
+    const int wanted = before == m_widthAfter ? m_widthBefore : before + change;
+    m_form.resize(wanted, m_form.height());
+    m_widthBefore = before;
+    m_widthAfter = m_form.width();
+}
+
+void EditorLayout::ShowTab(ListTab tab)
+{
+    m_ui.stkLists->setCurrentIndex(int(tab) - 1);
+    m_ui.picLayerControls->setVisible(tab == ListTab::Layers);
+    const bool editsLayers = tab != ListTab::Schemes;
+    m_ui.cboStyle->setVisible(editsLayers);
+    m_ui.lblStyle->setVisible(editsLayers);
+    m_ui.framPriority->setEnabled(editsLayers);
+    m_ui.framVisScaleRange->setEnabled(editsLayers);
+}
+
+void EditorLayout::ShowCover(Cover cover)
+{
+    m_cover = cover;
+    const bool covered = cover != Cover::None;
+    m_ui.lblHint->setText(covered ? HintOf(cover) : QString());
+    m_ui.stkSettings->setCurrentWidget(
+        covered ? static_cast<QWidget*>(m_ui.picHideLayerSettings) : m_ui.scrSettings);
+}
+
+void EditorLayout::ShowExpansion()
+{
+    m_ui.picLayerStyle->setVisible(m_expanded);
+    m_ui.cmdResize->setText(m_expanded ? QStringLiteral("<<") : QStringLiteral(">>"));
+    m_ui.cmdResize->setAccessibleName(
+        m_expanded ? TranslateMsg("Hide settings") : TranslateMsg("Show settings"));
+}
+
+int EditorLayout::SettingsWidth() const
+{
+    return m_ui.picLayerStyle->minimumWidth();
+}
+
+} // namespace Orvane

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/trees/ListTab.h"
+
+#include <QDialog>
+
+namespace Orvane {
+
+namespace Ui {
+class frmLayerStyles;
+}
+
+/// What stands where in the dialog: the list of the tab, the settings beside it, and the width that the
+/// settings take.
+class EditorLayout
+{
+public:
+    /// What covers the settings.
+    enum class Cover {
+        None,
+        NothingSelected,
+        Schemes, ///< the Schemes tab edits no layer
+    };
+
+    /// Neither is owned; both outlive this object.
+    EditorLayout(QDialog& form, Ui::frmLayerStyles& ui);
+
+    /// Gives the settings the width that their texts need in the present language and font; it stays until
+    /// the next call, so that no value shown makes the dialog wider.
+    void FitTexts();
+    /// Gives the dialog the size that its contents ask for, as far as the screen has room for it.
+    void TakeDesignedSize();
+
+    /// True while the settings stand beside the lists.
+    bool Expanded() const { return m_expanded; }
+    /// Shows or hides the settings; the dialog grows or shrinks by their width. Two calls restore the width
+    /// that it had, exactly, unless somebody resized it between them. A maximised dialog keeps its size.
+    void SetExpanded(bool expanded);
+
+    /// Shows the content of the tab.
+    void ShowTab(ListTab tab);
+    /// Covers the settings with a hint, or shows them.
+    void ShowCover(Cover cover);
+
+private:
+    void ShowExpansion();
+    int SettingsWidth() const;
+
+    QDialog& m_form;
+    Ui::frmLayerStyles& m_ui;
+    bool m_expanded = true;
+    Cover m_cover = Cover::None;
+    int m_widthBefore = 0; ///< pixels, before the last SetExpanded
+    int m_widthAfter = -1; ///< pixels, after it
+};
+
+} // namespace Orvane

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/panel/PropertyPanel.h"
+#include "component/dialog/panel/SliderPopup.h"
+#include "component/dialog/trees/LayerTrees.h"
+#include "component/dialog/window/EditorLayout.h"
+#include "component/dialog/window/LayerCommands.h"
+#include "component/dialog/window/QuickModeToolbar.h"
+#include "component/dialog/window/SchemePanel.h"
+#include "component/dialog/window/WindowGeometry.h"
+
+#include <memory>
+
+namespace Orvane {
+
+class IUITranslator;
+class RendererStyleEditor;
+
+/// The classes that frmLayerStyles conducts, each made for its controls. They know nothing of one another.
+class EditorParts
+{
+public:
+    /// Neither is owned; both outlive this object.
+    EditorParts(QDialog& form, Ui::frmLayerStyles& ui);
+    ~EditorParts();
+
+    /// Makes the translators and lets the property editors join the panel, once; they need the host's shell
+    /// services. stylePrefix: the host's StyleCommandPrefix.
+    void JoinPropertyEditors(const QString& stylePrefix);
+    /// Only after JoinPropertyEditors.
+    RendererStyleEditor& RendererStyles() { return *m_rendererStyles; }
+
+    WindowGeometry geometry;
+    EditorLayout layout;
+    LayerTrees trees;
+    PropertyPanel panel;
+    QuickModeToolbar quickModes;
+    LayerCommands commands;
+    SchemePanel schemes;
+
+private:
+    Ui::frmLayerStyles& m_ui;
+    SliderPopup m_slider;
+    std::unique_ptr<IUITranslator> m_scales;
+    std::unique_ptr<IUITranslator> m_priorities;
+    RendererStyleEditor* m_rendererStyles = nullptr; // owned by the panel
+};
+
+} // namespace Orvane

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/trees/NodeKey.h"
+#include "component/model/LayerStyle.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+class QAbstractButton;
+class QWidget;
+
+namespace Orvane {
+
+class CodeLabel;
+
+/// The commands of the panel picLayerControls: creating and deleting a layer, and editing its code. The host
+/// does the work; an edited code lives in the label until it is applied.
+class LayerCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Widgets {
+        QAbstractButton* cmdNewLayer;
+        QAbstractButton* cmdDeleteLayer;
+        CodeLabel* lblCode;
+    };
+
+    /// widgets: not owned; outlive this object.
+    explicit LayerCommands(const Widgets& widgets, QObject* parent = nullptr);
+
+    /// Shows the code of the node with that record and offers what can be done with it. isSystemLayer: its
+    /// code cannot be edited.
+    void Show(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
+
+    /// The code as the label shows it; empty when there is none.
+    QString CodeText() const;
+
+    /// Creates a layer through the host.
+    void NewLayer();
+    /// Deletes the node's layer through the host, unless it is a system layer; nothing for a group.
+    void DeleteLayer();
+    /// Asks for another code and puts it into the label, unless another layer has it.
+    void EditCode();
+
+signals:
+    /// The label shows another code now.
+    void CodeEdited(QWidget* label);
+    /// The host created a layer.
+    void LayerCreated(qint32 layerID);
+    /// The host was asked to delete a layer, and may have done so.
+    void DeleteAsked(qint32 layerID);
+
+private:
+    void SetCode(const QString& answer);
+    QWidget* Owner() const;
+
+    Widgets m_widgets;
+    std::optional<NodeReference> m_node;
+    Value m_storedCode = Value::Null();
+};
+
+} // namespace Orvane

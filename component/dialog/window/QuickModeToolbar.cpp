@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/window/QuickModeToolbar.h"
+
+#include "component/common/EventGuard.h"
+#include "component/dialog/trees/NodeImages.h"
+
+#include <OrvaneShellLib/LayerValues.h>
+
+#include <QToolButton>
+
+#include <array>
+
+namespace Orvane {
+
+namespace {
+
+qint16 BitOf(std::size_t button)
+{
+    constexpr std::array modes{QuickMode::Normal, QuickMode::Backdrop, QuickMode::Hidden};
+    return modes[button];
+}
+
+} // namespace
+
+QuickModeToolbar::QuickModeToolbar(QWidget& bar, const std::array<QToolButton*, 3>& buttons, QObject* parent)
+    : QObject(parent), m_bar(bar), m_buttons(buttons)
+{
+    for (const QToolButton* button : m_buttons) {
+        connect(button, &QToolButton::clicked, this, [this, button] {
+            GuardEvent(m_bar.window(), [this, button] { OnClicked(button); });
+        });
+    }
+    RefreshImages();
+}
+
+void QuickModeToolbar::SetAllowed(bool allowed)
+{
+    for (QToolButton* button : m_buttons)
+        button->setVisible(allowed);
+    m_bar.setVisible(allowed);
+}
+
+void QuickModeToolbar::SetEnabled(bool enabled)
+{
+    for (QToolButton* button : m_buttons)
+        button->setEnabled(enabled);
+}
+
+void QuickModeToolbar::ShowMode(qint16 mode)
+{
+    m_shownMode = mode;
+    for (std::size_t button = 0; button < m_buttons.size(); ++button)
+        m_buttons[button]->setChecked(mode & BitOf(button));
+}
+
+qint16 QuickModeToolbar::ReadMode() const
+{
+    qint16 mode = QuickMode::Various;
+    for (std::size_t button = 0; button < m_buttons.size(); ++button) {
+        if (m_buttons[button]->isChecked())
+            mode = qint16(mode | BitOf(button));
+    }
+    return mode;
+}
+
+void QuickModeToolbar::RefreshImages()
+{
+    const NodeImages images;
+    for (std::size_t button = 0; button < m_buttons.size(); ++button)
+        m_buttons[button]->setIcon(images.Icon(false, BitOf(button), m_bar.palette(), QPalette::Active));
+}
+
+void QuickModeToolbar::OnClicked(const QToolButton* clicked)
+{
+    for (QToolButton* button : m_buttons)
+        button->setChecked(button == clicked);
+    if (ReadMode() != m_shownMode)
+        emit Edited();
+}
+
+} // namespace Orvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/dialog/trees/ListTab.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace Orvane {
+
+/// A window's outer size in twips, single precision as it is stored.
+struct WindowSize {
+    float width = 0;
+    float height = 0;
+    bool operator==(const WindowSize&) const = default;
+};
+
+/// How a dialog was left, in the words of its stored setting: "9000:7000:LAYERS:EXPANDED".
+///
+///     const ViewState state = ViewState::FromText(client.ReadSetting(form, key));
+///     client.WriteSetting(form, key, state.ToText());
+///
+/// Whatever the text is, reading it never fails; what cannot be used is left as nothing.
+struct ViewState {
+    std::optional<WindowSize> size; ///< nothing: the size stays; both sides are finite and above 0
+    std::optional<bool> expanded; ///< nothing: stays as it is, since a side of the size was missing
+    ListTab tab = ListTab::Layers; ///< an empty word means Layers, an unknown one Groups
+
+    static ViewState FromText(const QString& text);
+
+    /// Numbers in plain decimal form, the shortest that reads back the same. A missing size leaves both
+    /// fields empty.
+    QString ToText() const;
+
+    bool operator==(const ViewState&) const = default;
+};
+
+} // namespace Orvane

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/window/WindowGeometry.h"
+
+#include "component/controls/Twips.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+// Less than this much of a title bar cannot be caught with the pointer.
+constexpr int VisibleMargin = 32;
+
+int PixelsOfSide(float twips, double twipsPerPixel, int most)
+{
+    const double pixels = std::min(std::round(double(twips) / twipsPerPixel), double(most));
+    return std::max(int(pixels), 1);
+}
+
+QSize ScreenSize(const QWidget& window)
+{
+    const QScreen* screen = window.screen();
+    return screen ? screen->availableGeometry().size() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+} // namespace
+
+void WindowGeometry::Restore(const WindowSize& size)
+{
+    const QSize wanted = PixelsOf(size);
+    m_window.resize(wanted);
+    // A side that the screen or the layout did not allow is a new size, not the stored one.
+    const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
+    if (std::round(double(size.width) / scale.x) == m_window.width())
+        m_width.Restore(size.width, m_window.width());
+    if (std::round(double(size.height) / scale.y) == m_window.height())
+        m_height.Restore(size.height, m_window.height());
+}
+
+WindowSize WindowGeometry::Current() const
+{
+    const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
+    const QSize pixels = SizeInPixels();
+    return {m_width.TwipsOf(pixels.width(), scale.x), m_height.TwipsOf(pixels.height(), scale.y)};
+}
+
+void WindowGeometry::KeepOnScreen()
+{
+    if (!m_window.isWindow())
+        return;
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    const QRect now = m_window.geometry();
+    const QRect placed = PlacedOnScreens(now, screens);
+    if (placed != now)
+        m_window.setGeometry(placed);
+}
+
+QSize WindowGeometry::PixelsOf(const WindowSize& size) const
+{
+    const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
+    const QSize most = ScreenSize(m_window);
+    return {
+        PixelsOfSide(size.width, scale.x, most.width()), PixelsOfSide(size.height, scale.y, most.height())};
+}
+
+QSize WindowGeometry::SizeInPixels() const
+{
+    const bool filled = m_window.isWindow() && (m_window.isMaximized() || m_window.isFullScreen());
+    const QSize normal = m_window.normalGeometry().size();
+    return filled && normal.isValid() ? normal : m_window.size();
+}
+
+QRect PlacedOnScreens(const QRect& window, const QList<QRect>& screens)
+{
+    const auto meets = [&](const QRect& screen) {
+        const QRect shown = screen.intersected(window);
+        return shown.width() >= std::min(VisibleMargin, window.width())
+            && shown.height() >= std::min(VisibleMargin, window.height());
+    };
+    if (screens.isEmpty() || std::any_of(screens.begin(), screens.end(), meets))
+        return window;
+    const QRect& screen = screens.first();
+    QRect placed(QPoint(), window.size().boundedTo(screen.size()));
+    placed.moveCenter(screen.center());
+    return placed;
+}
+
+} // namespace Orvane

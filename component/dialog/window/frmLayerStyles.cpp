@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/window/frmLayerStyles.h"
+
+#include "component/common/Component.h"
+#include "component/common/EventGuard.h"
+#include "component/common/Messages.h"
+#include "component/dialog/panel/RendererStyleEditor.h"
+#include "component/dialog/window/EditorParts.h"
+#include "component/dialog/window/FirstError.h"
+#include "component/dialog/window/SelectionEditor.h"
+#include "component/model/LayerCursors.h"
+#include "ui_frmLayerStyles.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/IStyleFilter.h>
+
+#include <QCloseEvent>
+#include <QPointer>
+#include <QTimer>
+
+namespace Orvane {
+
+namespace {
+
+QString SettingKey(const QString& editorID)
+{
+    return QStringLiteral("DrawStyleEditor::") + editorID;
+}
+
+} // namespace
+
+frmLayerStyles::frmLayerStyles(QWidget* parent)
+    : StyleEditorWindow(parent), m_ui(std::make_unique<Ui::frmLayerStyles>()), m_tab(ListTab::Groups)
+{
+    m_ui->setupUi(this);
+    for (const char* tab : {QT_TR_NOOP("Groups"), QT_TR_NOOP("Layers"), QT_TR_NOOP("Schemes")})
+        m_ui->tsLists->addTab(QString::fromLatin1(tab));
+    m_parts = std::make_unique<EditorParts>(*this, *m_ui);
+    m_selection = std::make_unique<SelectionEditor>(*this, *m_ui, *m_parts);
+    m_parts->layout.TakeDesignedSize();
+    Wire();
+    WireCommands();
+}
+
+frmLayerStyles::~frmLayerStyles() = default;
+
+void frmLayerStyles::Wire()
+{
+    connect(m_ui->tsLists, &QTabBar::currentChanged, this, &frmLayerStyles::OnTabChanged);
+    connect(m_ui->tsLists, &QTabBar::tabBarClicked, this, &frmLayerStyles::OnTabClicked);
+    connect(m_ui->cmdApply, &QAbstractButton::clicked, this, [this] {
+        GuardEvent(this, [this] { m_selection->Apply(); });
+    });
+    connect(m_ui->cmdCancel, &QAbstractButton::clicked, this, [this] {
+        GuardEvent(this, [this] { m_selection->Cancel(); });
+    });
+    connect(m_ui->cmdResize, &QAbstractButton::clicked, this, [this] {
+        GuardEvent(this, [this] { m_parts->layout.SetExpanded(!m_parts->layout.Expanded()); });
+    });
+    m_parts->trees.SetPendingChangesQuestion(
+        [this] { m_selection->ConfirmPendingChanges(); }, [this] { return m_selection->IsModified(); });
+    // Not guarded: whoever chose the node is, and a host's own call hears of the error.
+    connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
+}
+
+// Not guarded but the first: the commands guard themselves.
+void frmLayerStyles::WireCommands()
+{
+    connect(&m_parts->trees, &LayerTrees::DeleteRequested, this, [this] {
+        GuardEvent(this, [this] { m_parts->commands.DeleteLayer(); });
+    });
+    connect(&m_parts->commands, &LayerCommands::LayerCreated, this, [this](qint32 layerID) {
+        m_parts->trees.MarkStale(LayerTrees::List::Groups);
+        AddNewLayer(layerID);
+    });
+    connect(&m_parts->commands, &LayerCommands::DeleteAsked, this, &frmLayerStyles::OnDeleteAsked);
+    connect(&m_parts->schemes, &SchemePanel::SchemeLoaded, this, &frmLayerStyles::OnSchemeLoaded);
+}
+
+// ---- initialisation
+
+void frmLayerStyles::EnsureInitialised()
+{
+    if (!m_initialised)
+        Initialise();
+}
+
+void frmLayerStyles::Initialise()
+{
+    m_parts->layout.SetExpanded(true);
+    m_styleCommandPrefix = Client().StyleCommandPrefix();
+    m_selection->ShowNothing();
+    m_parts->quickModes.SetAllowed(Client().QuickModesAllowed());
+    m_parts->trees.MarkStale(LayerTrees::List::Groups);
+    m_parts->trees.MarkStale(LayerTrees::List::Layers);
+    m_parts->JoinPropertyEditors(m_styleCommandPrefix);
+    m_parts->panel.Fill();
+    m_parts->schemes.Fill();
+    m_parts->RendererStyles().FillStyles(LoadRendererStyles());
+    m_parts->panel.Prepare();
+    TranslateForm(*this);
+    m_parts->layout.FitTexts();
+    m_parts->layout.TakeDesignedSize();
+    // The list itself is read when somebody is about to look at it.
+    m_parts->trees.ShowList(m_tab);
+    m_parts->layout.ShowTab(m_tab);
+    m_selection->ShowNothing();
+    m_initialised = true;
+}
+
+void frmLayerStyles::Retranslate()
+{
+    if (!m_initialised)
+        return;
+    ReloadMessages();
+    TranslateForm(*this);
+    m_parts->panel.Retranslate();
+    m_parts->layout.FitTexts();
+    UpdateCaption();
+}
+
+void frmLayerStyles::UpdateCaption()
+{
+    const QString theme = Client().ThemeName(this);
+    setWindowTitle(
+        theme.isEmpty() ? TranslateMsg("Layer Control") : TranslateMsg("Theme Control: ^1", theme));
+}
+
+void frmLayerStyles::changeEvent(QEvent* event)
+{
+    StyleEditorWindow::changeEvent(event);
+    GuardEvent(this, [&] {
+        if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
+            Retranslate();
+        else if (
+            m_initialised && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+            QTimer::singleShot(0, this, &frmLayerStyles::FitTexts); // the controls hear of it after the form
+        else if (m_parts && event->type() == QEvent::PaletteChange)
+            m_parts->quickModes.RefreshImages();
+    });
+}
+
+void frmLayerStyles::FitTexts()
+{
+    GuardEvent(this, [this] { m_parts->layout.FitTexts(); });
+}
+
+// ---- showing and unloading
+
+void frmLayerStyles::RestoreViewState()
+{
+    const ViewState state = ViewState::FromText(Client().ReadSetting(this, SettingKey(EditorID())));
+    SelectTab(m_filter && m_filter->ShowsGroups() ? ListTab::Groups : state.tab);
+    if (state.expanded)
+        m_parts->layout.SetExpanded(*state.expanded);
+    if (state.size)
+        m_parts->geometry.Restore(*state.size);
+}
+
+void frmLayerStyles::StoreViewState()
+{
+    const ViewState state{m_parts->geometry.Current(), m_parts->layout.Expanded(), m_tab};
+    Client().WriteSetting(this, SettingKey(EditorID()), state.ToText());
+}
+
+void frmLayerStyles::showEvent(QShowEvent* event)
+{
+    StyleEditorWindow::showEvent(event);
+    GuardEvent(this, [this] { m_parts->geometry.KeepOnScreen(); });
+}
+
+void frmLayerStyles::reject()
+{
+    if (m_selection->IsModified())
+        GuardEvent(this, [this] { m_selection->Cancel(); });
+    else
+        close();
+}
+
+void frmLayerStyles::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    const QPointer<frmLayerStyles> self(this);
+    GuardEvent(this, [this] {
+        if (ConfirmUnload())
+            Unload();
+    });
+    event->setAccepted(!self || m_unloaded);
+}
+
+void frmLayerStyles::Hide()
+{
+    if (!ConfirmUnload())
+        return;
+    const QPointer self(this);
+    m_closing = true;
+    FirstError errors;
+    errors.Try([this] { Client().EditorClosed(this); });
+    if (self)
+        errors.Try([this] { Unload(); });
+    errors.Rethrow();
+}
+
+bool frmLayerStyles::ConfirmUnload()
+{
+    return m_selection->ConfirmPendingChanges() && !m_unloaded;
+}
+
+// Once begun it always ends: a host that fails here must not be left with a window that nobody owns.
+void frmLayerStyles::Unload()
+{
+    if (m_unloaded)
+        return;
+    m_unloaded = true;
+    FirstError errors;
+    if (HasClient()) {
+        errors.Try([this] { Client().EditorClosed(this); });
+        errors.Try([this] { StoreViewState(); });
+    }
+    hide();
+    emit Unloaded(EditorID());
+    errors.Rethrow();
+}
+
+// ---- tabs
+
+void frmLayerStyles::OnTabChanged(int index)
+{
+    const ListTab tab = ListTab(index + 1);
+    if (tab != m_tab)
+        DoFromTabs([this, tab] { SelectTab(tab); });
+}
+
+// The shown tab again: a list that could not be read, or is stale, is tried anew.
+void frmLayerStyles::OnTabClicked(int index)
+{
+    if (ListTab(index + 1) == m_tab && m_tab != ListTab::Schemes)
+        DoFromTabs([this] { LoadList(); });
+}
+
+// A question is not asked from within an event of the tabs: they may be gone when the answer comes.
+void frmLayerStyles::DoFromTabs(const std::function<void()>& act)
+{
+    const auto connection = m_selection->IsModified() ? Qt::QueuedConnection : Qt::DirectConnection;
+    QMetaObject::invokeMethod(
+        this, [this, act] { GuardEvent(this, act); }, connection);
+}
+
+void frmLayerStyles::SelectTab(ListTab tab)
+{
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([this, tab] { ShowTab(tab); });
+    if (self)
+        m_ui->tsLists->setCurrentIndex(int(m_tab) - 1);
+    errors.Rethrow();
+}
+
+// The edits belong to the node of the tab that is left.
+void frmLayerStyles::ShowTab(ListTab tab)
+{
+    const QPointer self(this);
+    const bool leavesNode = tab == ListTab::Schemes || tab != m_parts->trees.ShownList();
+    if (tab == ListTab::Schemes)
+        m_selection->ConfirmPendingChanges();
+    else
+        m_parts->trees.ShowList(tab);
+    if (!self || m_unloaded)
+        return;
+    m_tab = tab;
+    m_selection->SetTab(tab);
+    m_parts->layout.ShowTab(tab);
+    if (leavesNode)
+        m_selection->SetModified(false); // or reading the list would ask about them as if they were its own
+    FirstError errors;
+    errors.Try([this] { LoadList(); });
+    if (self && !m_unloaded)
+        errors.Try([this] { m_selection->Load(); });
+    errors.Rethrow();
+}
+
+// ---- the selection
+
+void frmLayerStyles::LoadList()
+{
+    if (m_tab == ListTab::Schemes)
+        m_parts->schemes.Fill();
+    else
+        m_parts->trees.EnsureLoaded(m_tab);
+}
+
+void frmLayerStyles::OnDeleteAsked(qint32 layerID)
+{
+    const bool isGone = !SeekID(*OpenLayersByID(Client()), layerID);
+    if (isGone)
+        m_selection->SetModified(false);
+    m_parts->trees.MarkStale(LayerTrees::List::Groups);
+    m_parts->trees.MarkStale(LayerTrees::List::Layers);
+    if (!m_selection->IsModified())
+        ShowTab(m_tab);
+}
+
+void frmLayerStyles::OnSchemeLoaded()
+{
+    m_parts->trees.MarkStale(LayerTrees::List::Groups);
+    m_parts->trees.MarkStale(LayerTrees::List::Layers);
+    UpdateCaption();
+}
+
+} // namespace Orvane

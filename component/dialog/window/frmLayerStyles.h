@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "component/common/StyleEditorWindow.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Orvane {
+
+namespace Ui {
+class frmLayerStyles;
+}
+
+class EditorParts;
+class SelectionEditor;
+enum class ListTab;
+
+/// The layer control dialog: two trees and the schemes on the left, the settings of the selected layer or
+/// group on the right.
+///
+/// The conductor of the dialog: it is created, shown, hidden and unloaded as the host asks, and joins the
+/// classes that each own one group of controls, of which SelectionEditor holds what is being edited. What the
+/// host or the database raises reaches the host where it made the call, else the person; the dialog
+/// then shows what it showed before, or nothing.
+class frmLayerStyles final : public StyleEditorWindow
+{
+    Q_OBJECT
+
+public:
+    /// Hidden and not initialised: the host is not asked for anything yet.
+    explicit frmLayerStyles(QWidget* parent = nullptr);
+    ~frmLayerStyles() override;
+
+    /// Escape drops pending edits; without any it closes the dialog.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void IStyleEditor_StyleFilter(const IStyleFilter* filter) override;
+    bool IStyleEditor_Visible() const override;
+    void IStyleEditor_Visible(bool visible) override;
+    void IStyleEditor_RefreshGroups() override;
+    void IStyleEditorForm_AddNewLayer(qint32 layerID) override;
+    void IStyleEditorForm_Popup() override;
+    void IStyleEditorForm_SetLayerCode(qint32 layerID) override;
+    void IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name) override;
+    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override;
+    const IStyleFilter* IStyleEditorForm_Filter() const override;
+    void IStyleEditorForm_Filter(const IStyleFilter* filter) override;
+    void IStyleEditorForm_UnloadWithoutApply() override;
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
+    bool IStyleEditorForm_HasPendingEdits() const override;
+    void IStyleEditorForm_Refresh() override;
+
+    void Wire();
+    void WireCommands();
+    void EnsureInitialised();
+    void Initialise();
+    void Retranslate();
+    void UpdateCaption();
+    void FitTexts();
+
+    void RestoreViewState();
+    void StoreViewState();
+    void Hide();
+    bool ConfirmUnload();
+    void Unload();
+
+    void OnTabChanged(int index);
+    void OnTabClicked(int index);
+    void DoFromTabs(const std::function<void()>& act);
+    void SelectTab(ListTab tab);
+    void ShowTab(ListTab tab);
+
+    void LoadList();
+    void OnDeleteAsked(qint32 layerID);
+    void OnSchemeLoaded();
+
+    std::unique_ptr<Ui::frmLayerStyles> m_ui;
+    std::unique_ptr<EditorParts> m_parts;
+    std::unique_ptr<SelectionEditor> m_selection;
+    QString m_styleCommandPrefix;
+    std::optional<std::vector<RendererStyle>> m_rendererStyles;
+    const IStyleFilter* m_filter = nullptr;
+    ListTab m_tab;
+    bool m_initialised = false;
+    bool m_closing = false; ///< the host was told, and may hide again
+    bool m_unloaded = false;
+};
+
+} // namespace Orvane

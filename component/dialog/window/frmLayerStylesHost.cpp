@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// What the host may ask of the dialog.
+#include "component/common/Component.h"
+#include "component/common/ErrorTexts.h"
+#include "component/dialog/window/EditorParts.h"
+#include "component/dialog/window/FirstError.h"
+#include "component/dialog/window/SelectionEditor.h"
+#include "component/dialog/window/frmLayerStyles.h"
+#include "component/model/LayerCode.h"
+
+#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/IStyleFilter.h>
+
+#include <QPointer>
+
+namespace Orvane {
+
+void frmLayerStyles::IStyleEditor_StyleFilter(const IStyleFilter* filter)
+{
+    m_filter = filter;
+    m_parts->trees.SetFilter(filter);
+}
+
+bool frmLayerStyles::IStyleEditor_Visible() const
+{
+    return isVisible();
+}
+
+void frmLayerStyles::IStyleEditor_Visible(bool visible)
+{
+    WithTranslatedErrors([&] {
+        if (m_unloaded || m_closing || visible == isVisible())
+            return;
+        if (!visible) {
+            Hide();
+            return;
+        }
+        EnsureInitialised();
+        RestoreViewState();
+        UpdateCaption();
+        Client().ShowEditor(this);
+    });
+}
+
+void frmLayerStyles::IStyleEditor_RefreshGroups()
+{
+    WithTranslatedErrors([&] {
+        EnsureInitialised();
+        m_selection->SetModified(false);
+        m_parts->trees.LoadGroups();
+    });
+}
+
+void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
+{
+    WithTranslatedErrors([&] {
+        EnsureInitialised();
+        m_parts->trees.ShowLayer(layerID);
+    });
+}
+
+void frmLayerStyles::IStyleEditorForm_Popup()
+{
+    WithTranslatedErrors([&] {
+        if (m_unloaded)
+            return;
+        if (!isVisible()) {
+            EnsureInitialised();
+            SelectTab(m_tab);
+            Client().ShowEditor(this);
+        }
+        UpdateCaption();
+        if (m_filter && m_filter->ShowsGroups() && m_tab != ListTab::Groups)
+            SelectTab(ListTab::Groups);
+    });
+}
+
+void frmLayerStyles::IStyleEditorForm_SetLayerCode(qint32 layerID)
+{
+    WithTranslatedErrors([&] { Orvane::SetLayerCode(Client(), layerID, m_parts->commands.CodeText()); });
+}
+
+void frmLayerStyles::IStyleEditorForm_SetLayerName(qint32 layerID, const QString& name)
+{
+    m_parts->trees.SetLayerName(layerID, name);
+}
+
+const std::vector<RendererStyle>& frmLayerStyles::IStyleEditorForm_LoadRendererStyles()
+{
+    if (!m_rendererStyles)
+        m_rendererStyles = Client().RendererStyles();
+    return *m_rendererStyles;
+}
+
+const IStyleFilter* frmLayerStyles::IStyleEditorForm_Filter() const
+{
+    return m_filter;
+}
+
+void frmLayerStyles::IStyleEditorForm_Filter(const IStyleFilter* filter)
+{
+    WithTranslatedErrors([&] {
+        IStyleEditor_StyleFilter(filter);
+        if (m_initialised)
+            m_parts->trees.LoadLayers();
+    });
+}
+
+void frmLayerStyles::IStyleEditorForm_UnloadWithoutApply()
+{
+    m_selection->SetModified(false);
+    Unload();
+}
+
+void frmLayerStyles::IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs)
+{
+    if (m_initialised && !m_unloaded)
+        m_parts->trees.RefreshLayerTexts(layerIDs);
+}
+
+bool frmLayerStyles::IStyleEditorForm_HasPendingEdits() const
+{
+    return m_selection->IsModified();
+}
+
+void frmLayerStyles::IStyleEditorForm_Refresh()
+{
+    WithTranslatedErrors([&] {
+        if (!m_initialised || m_unloaded)
+            return;
+        m_parts->trees.MarkStale(LayerTrees::List::Groups);
+        m_parts->trees.MarkStale(LayerTrees::List::Layers);
+        const QPointer self(this); // the list may ask about edits, and the host end the dialog meanwhile
+        FirstError errors;
+        errors.Try([this] { m_parts->schemes.Fill(); });
+        errors.Try([this] { UpdateCaption(); });
+        errors.Try([this] { LoadList(); });
+        if (self && !m_unloaded && !m_selection->IsModified())
+            errors.Try([this] { m_selection->Load(); });
+        errors.Rethrow();
+    });
+}
+
+} // namespace Orvane

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/common/LayerNames.h"
+
+#include <OrvaneShellLib/ILayerDatabase.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+namespace Orvane {
+
+namespace {
+
+QString NameIn(const IRecordset& layers)
+{
+    const Value name = layers.Field("Name");
+    return ToTextOrNone(name);
+}
+
+} // namespace
+
+QString LayerNames::Name(qint32 layerID)
+{
+    Load();
+    const auto known = m_names.constFind(layerID);
+    return known != m_names.constEnd() ? *known : ReadOne(layerID);
+}
+
+QSet<QString> LayerNames::All()
+{
+    Load();
+    return QSet<QString>(m_names.cbegin(), m_names.cend());
+}
+
+void LayerNames::Set(qint32 layerID, const QString& name)
+{
+    if (m_loaded)
+        m_names.insert(layerID, name);
+}
+
+void LayerNames::Remove(qint32 layerID)
+{
+    m_names.remove(layerID);
+}
+
+void LayerNames::Invalidate()
+{
+    m_names.clear();
+    m_loaded = false;
+}
+
+void LayerNames::Load()
+{
+    if (m_loaded)
+        return;
+    QHash<qint32, QString> names;
+    const auto layers = m_database.OpenRecordset(QStringLiteral("SELECT LayerID, Name FROM Layers"));
+    for (; !layers->AtEOF(); layers->MoveNext())
+        names.insert(ToInt32(layers->Field("LayerID")), NameIn(*layers));
+    m_names = std::move(names);
+    m_loaded = true;
+}
+
+QString LayerNames::ReadOne(qint32 layerID)
+{
+    const auto layer
+        = m_database.OpenRecordset(QStringLiteral("SELECT Name FROM Layers WHERE LayerID = %1").arg(layerID));
+    if (layer->AtEOF())
+        return {};
+    return *m_names.insert(layerID, NameIn(*layer));
+}
+
+} // namespace Orvane

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/schemes/SchemeTables.h"
+
+#include <QCoreApplication>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace Orvane {
+
+class SqliteLayerDatabase;
+
+/// Named sets of layer settings, kept in the layer database's own tables LayerSchemes and LayerSchemeValues,
+/// which are created if they are missing.
+///
+/// A scheme holds its own values of every edited column of every layer that existed when it was saved: the
+/// six flags, colours, styles, thickness, scale range, draw priority, renderer style and quick mode; but not
+/// name and code. Each operation is one transaction of a few statements, however many layers there are. The
+/// first use of a database without schemes creates the scheme "Standard" from the layers as they are; a
+/// read-only database without schemes appears to have it, but nothing is written.
+class LayerSchemes
+{
+    Q_DECLARE_TR_FUNCTIONS(LayerSchemes)
+
+public:
+    /// database: not owned; outlives this object.
+    explicit LayerSchemes(SqliteLayerDatabase& database) : m_database(database), m_tables(database) { }
+
+    /// All scheme names in natural order: case-insensitive, numbers by value.
+    QStringList Names();
+    /// The name of the current scheme; there always is one.
+    QString Current();
+
+    /// As Current, but creates no scheme; for reading a map only.
+    QString CurrentName();
+
+    /// Creates a scheme from the layers as they are and makes it current. Raises HostError::DuplicateScheme.
+    void Create(const QString& name);
+    /// Stores the layers' present values in the scheme. Raises HostError::UnknownScheme.
+    void Save(const QString& name);
+    /// Makes the scheme current, gives the layers its values, and returns the layers whose values changed.
+    /// Layers created since the scheme was saved keep their values. Raises HostError::UnknownScheme.
+    QSet<qint32> Load(const QString& name);
+    /// Removes the scheme. If it was current, the first of the remaining schemes becomes current, and the
+    /// layers stay as they are. Raises HostError::UnknownScheme, and HostError::LastScheme for the only
+    /// scheme.
+    void Delete(const QString& name);
+
+    /// The ID of the scheme in the database's tables. Raises HostError::UnknownScheme.
+    qint32 IDOf(const QString& name);
+
+    /// The layers whose values differ from the current scheme, or that are not in it. Empty for a database
+    /// without schemes; no scheme is created.
+    QSet<qint32> LayersThatDiffer();
+    /// As above, but only for these layers, each looked up by its ID.
+    QSet<qint32> LayersThatDiffer(const QSet<qint32>& layerIDs);
+
+private:
+    bool IsReadable();
+    void MakeStandard();
+    qint32 CurrentID();
+    void StoreValues(qint32 schemeID);
+
+    SqliteLayerDatabase& m_database;
+    SchemeTables m_tables;
+};
+
+} // namespace Orvane

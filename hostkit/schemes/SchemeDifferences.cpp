@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeDifferences.h"
+
+#include "hostkit/schemes/LayerSchemes.h"
+
+namespace Orvane {
+
+namespace {
+
+constexpr qsizetype FewLayers = 1000; // from here on comparing all layers at once is faster
+
+} // namespace
+
+qsizetype SchemeDifferences::Count()
+{
+    if (!m_known || m_noted.size() > FewLayers)
+        CompareAll();
+    CompareNoted();
+    return m_differing.size();
+}
+
+void SchemeDifferences::Note(const QSet<qint32>& layerIDs)
+{
+    if (m_known)
+        m_noted.unite(layerIDs);
+}
+
+void SchemeDifferences::CompareAll()
+{
+    m_differing = m_schemes.LayersThatDiffer();
+    m_noted.clear();
+    m_known = true;
+}
+
+void SchemeDifferences::CompareNoted()
+{
+    if (m_noted.isEmpty())
+        return;
+    const QSet<qint32> differing = m_schemes.LayersThatDiffer(m_noted);
+    m_differing.subtract(m_noted).unite(differing);
+    m_noted.clear();
+}
+
+} // namespace Orvane

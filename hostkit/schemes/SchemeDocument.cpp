@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeDocument.h"
+
+#include "hostkit/common/HostErrors.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cmath>
+#include <limits>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto Format = "orvane-scheme";
+
+[[noreturn]] void RaiseDamage(HostError number, const QString& description)
+{
+    throw RunTimeError(int(number), description, QStringLiteral("SchemeDocument"));
+}
+
+[[noreturn]] void RaiseDamaged(const QString& description)
+{
+    RaiseDamage(HostError::SchemeTextDamaged, description);
+}
+
+QByteArray Compact(const QJsonValue& value)
+{
+    return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1);
+}
+
+QJsonValue ToJsonValue(const Value& value, const QString& layer, int column)
+{
+    if (value.IsNull())
+        return QJsonValue::Null;
+    if (value.IsNumber())
+        return ToDouble(value);
+    RaiseDamage(
+        HostError::SchemeValueUnknown,
+        SchemeDocument::tr("The layer \"%1\" holds no number as \"%2\".")
+            .arg(layer, QLatin1String(SchemeColumns::Name(column))));
+}
+
+QJsonObject ToJsonObject(const SchemeDocument::Layer& layer)
+{
+    QJsonObject object;
+    if (layer.identity.code)
+        object.insert(QLatin1String("code"), *layer.identity.code);
+    object.insert(QLatin1String("name"), layer.identity.name);
+    for (int column = 0; column < SchemeColumns::Count; ++column) {
+        object.insert(
+            QLatin1String(SchemeColumns::Name(column)),
+            ToJsonValue(layer.values.at(std::size_t(column)), layer.identity.name, column));
+    }
+    return object;
+}
+
+bool IsWholeInRange(double number)
+{
+    return number == std::floor(number) && number >= std::numeric_limits<qint32>::min()
+        && number <= std::numeric_limits<qint32>::max();
+}
+
+// A value that the column can hold; nothing for any other.
+std::optional<Value> ColumnValue(const QJsonValue& json, int column)
+{
+    if (json.isNull())
+        return Value::Null();
+    if (json.isBool())
+        return Value(qint32(json.toBool() ? 1 : 0));
+    const double number = json.toDouble(std::numeric_limits<double>::quiet_NaN());
+    if (SchemeColumns::IsWhole(column))
+        return IsWholeInRange(number) ? std::optional(Value(qint32(number))) : std::nullopt;
+    return std::isfinite(number) ? std::optional(Value(number)) : std::nullopt;
+}
+
+SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
+{
+    const auto check = [position](bool isGood, const char* key) {
+        if (!isGood)
+            RaiseDamaged(SchemeDocument::tr("Layer %1 has no valid \"%2\".")
+                             .arg(position + 1)
+                             .arg(QLatin1String(key)));
+    };
+    const QJsonObject object = json.toObject();
+    SchemeDocument::Layer layer;
+    layer.identity.id = position;
+    check(object.value(QLatin1String("name")).isString(), "name");
+    layer.identity.name = object.value(QLatin1String("name")).toString();
+    const QJsonValue code = object.value(QLatin1String("code"));
+    check(code.isUndefined() || code.isNull() || code.isDouble(), "code");
+    if (code.toDouble(-1) >= 0)
+        layer.identity.code = code.toDouble();
+    for (int column = 0; column < SchemeColumns::Count; ++column) {
+        const char* key = SchemeColumns::Name(column);
+        const std::optional<Value> value = ColumnValue(object.value(QLatin1String(key)), column);
+        check(value.has_value(), key);
+        layer.values.at(std::size_t(column)) = *value;
+    }
+    return layer;
+}
+
+void CheckVersion(const QJsonObject& scheme)
+{
+    if (scheme.value(QLatin1String("format")).toString() != QLatin1String(Format))
+        RaiseDamaged(SchemeDocument::tr("It is not a layer scheme."));
+    const double version = scheme.value(QLatin1String("version")).toDouble();
+    if (version > SchemeDocument::Version)
+        RaiseDamage(HostError::SchemeTextTooNew, SchemeDocument::tr("A newer program has written it."));
+    if (version != SchemeDocument::Version)
+        RaiseDamaged(SchemeDocument::tr("It names no version."));
+}
+
+} // namespace
+
+QByteArray SchemeDocument::ToJson() const
+{
+    QByteArray text = QByteArrayLiteral("{\"format\": \"") + Format + QByteArrayLiteral("\", \"version\": ")
+        + QByteArray::number(Version) + QByteArrayLiteral(", \"name\": ") + Compact(name)
+        + QByteArrayLiteral(", \"layers\": [");
+    const char* separator = "\n";
+    for (const Layer& layer : layers) {
+        text += separator + Compact(ToJsonObject(layer));
+        separator = ",\n";
+    }
+    return text + QByteArrayLiteral("\n]}\n");
+}
+
+SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
+{
+    QJsonParseError error;
+    const QJsonObject scheme = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError)
+        RaiseDamaged(tr("It is no JSON text at byte %1.").arg(error.offset));
+    CheckVersion(scheme);
+    SchemeDocument document;
+    document.name = scheme.value(QLatin1String("name")).toString().trimmed();
+    if (document.name.isEmpty())
+        RaiseDamaged(tr("It names no scheme."));
+    if (!scheme.value(QLatin1String("layers")).isArray())
+        RaiseDamaged(tr("It holds no layers."));
+    for (const QJsonValue layer : scheme.value(QLatin1String("layers")).toArray())
+        document.layers.push_back(ToLayer(layer, int(document.layers.size())));
+    return document;
+}
+
+} // namespace Orvane

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/schemes/LayerMatch.h"
+#include "hostkit/schemes/SchemeColumns.h"
+
+#include <OrvaneShellLib/Value.h>
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+
+#include <array>
+#include <vector>
+
+namespace Orvane {
+
+/// One layer scheme outside a map: its name, and for each layer what identifies it and its values for all
+/// edited columns. As JSON text:
+///
+///     {"format": "orvane-scheme", "version": 1, "name": "Night", "layers": [
+///     {"code": 7, "name": "Roads", "Visible": 1, "Selectable": 1, ... "OverrideMode": 0}
+///     ]}
+///
+/// Values are as in the columns: colours as BGR numbers, scales as denominators, null for an unknown value.
+/// Unknown keys are ignored, so later programs may add some.
+struct SchemeDocument {
+    Q_DECLARE_TR_FUNCTIONS(SchemeDocument)
+
+public:
+    /// The version that is written, and the newest one that can be read.
+    static constexpr int Version = 1;
+
+    struct Layer {
+        LayerIdentity identity; ///< its ID is the position in the list
+        std::array<Value, SchemeColumns::Count> values; ///< numbers and nulls, in the order of SchemeColumns
+    };
+
+    QString name; ///< without leading or trailing blanks, and not empty
+    std::vector<Layer> layers;
+
+    /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
+    QByteArray ToJson() const;
+
+    /// Reads the whole of such a text. Raises HostError::SchemeTextDamaged, which says what is wrong, and
+    /// HostError::SchemeTextTooNew.
+    static SchemeDocument FromJson(const QByteArray& text);
+};
+
+} // namespace Orvane

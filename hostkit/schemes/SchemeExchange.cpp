@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeExchange.h"
+
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/SchemeTables.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/Transaction.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QSet>
+
+namespace Orvane::SchemeExchange {
+
+namespace {
+
+SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
+{
+    SchemeDocument::Layer layer;
+    layer.identity.id = position;
+    const Value code = row.Field("Code");
+    if (!code.IsNull() && ToDouble(code) >= 0)
+        layer.identity.code = ToDouble(code);
+    const Value name = row.Field("Name");
+    layer.identity.name = ToTextOrNone(name);
+    for (int column = 0; column < SchemeColumns::Count; ++column)
+        layer.values.at(std::size_t(column)) = row.Field(SchemeColumns::Name(column));
+    return layer;
+}
+
+// The layer of the map, to that of the document; of two that are one in the map the first counts.
+QHash<qint32, qint32>
+Matches(const std::vector<LayerIdentity>& present, const SchemeDocument& scheme, SchemeImport& report)
+{
+    std::vector<LayerIdentity> wanted;
+    for (const SchemeDocument::Layer& layer : scheme.layers)
+        wanted.push_back(layer.identity);
+    const QHash<qint32, qint32> matches = MatchLayers(wanted, present);
+    QHash<qint32, qint32> byLayerID;
+    for (const LayerIdentity& layer : wanted) {
+        const auto match = matches.constFind(layer.id);
+        if (match == matches.constEnd() || byLayerID.contains(*match))
+            report.onlyInFile << layer.name;
+        else
+            byLayerID.insert(*match, layer.id);
+    }
+    return byLayerID;
+}
+
+QSet<qint32> ListedLayers(SqliteLayerDatabase& map)
+{
+    QSet<qint32> layerIDs;
+    const auto rows = map.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers WHERE Code > -2"));
+    for (; !rows->AtEOF(); rows->MoveNext())
+        layerIDs.insert(ToInt32(rows->Field("LayerID")));
+    return layerIDs;
+}
+
+// The scheme of that name without values; it is made when it is missing.
+qint32 EmptyScheme(SqliteLayerDatabase& map, const QString& name)
+{
+    SchemeTables tables(map);
+    const qint32 known = tables.IDOf(name);
+    if (known == SchemeTables::NoScheme)
+        return tables.Insert(name);
+    tables.DropValues(known);
+    return known;
+}
+
+void StoreValues(
+    SqliteLayerDatabase& map, qint32 schemeID, const QHash<qint32, qint32>& byLayerID,
+    const SchemeDocument& scheme)
+{
+    const QString insertion
+        = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
+              .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
+    for (auto match = byLayerID.begin(); match != byLayerID.end(); ++match) {
+        std::vector<Value> row{match.key(), schemeID};
+        const auto& values = scheme.layers.at(std::size_t(match.value())).values;
+        row.insert(row.end(), values.begin(), values.end());
+        map.Execute(insertion, row);
+    }
+}
+
+} // namespace
+
+SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName)
+{
+    const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
+    SchemeDocument document;
+    document.name = schemeName;
+    const auto rows = map.OpenQuery(
+        QStringLiteral("SELECT Layers.LayerID, Layers.Code, Layers.Name, %1 FROM LayerSchemeValues, Layers"
+                       " WHERE SchemeID = ?1 AND Layers.LayerID = LayerSchemeValues.LayerID"
+                       " ORDER BY Layers.LayerID")
+            .arg(SchemeColumns::SavedList()),
+        {schemeID});
+    for (; !rows->AtEOF(); rows->MoveNext())
+        document.layers.push_back(LayerAt(*rows, int(document.layers.size())));
+    return document;
+}
+
+SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme)
+{
+    Transaction transaction(map);
+    LayerSchemes(map).Current(); // makes the first scheme
+    const std::vector<LayerIdentity> present = IdentitiesOf(map);
+    SchemeImport report;
+    report.name = scheme.name;
+    const QHash<qint32, qint32> byLayerID = Matches(present, scheme, report);
+    StoreValues(map, EmptyScheme(map, scheme.name), byLayerID, scheme);
+    const QSet<qint32> listed = ListedLayers(map);
+    for (const LayerIdentity& layer : present) {
+        if (listed.contains(layer.id) && !byLayerID.contains(layer.id))
+            report.onlyInMap << layer.name;
+    }
+    report.matched = byLayerID.size();
+    transaction.Commit();
+    return report;
+}
+
+} // namespace Orvane::SchemeExchange

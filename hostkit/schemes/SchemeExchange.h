@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/schemes/SchemeDocument.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace Orvane {
+
+class SqliteLayerDatabase;
+
+/// The result of an import.
+struct SchemeImport {
+    QString name; ///< of the scheme
+    qsizetype matched = 0; ///< layers of the map that the scheme has values for
+    QStringList onlyInFile; ///< names of layers in the document that the map does not have, in document order
+    QStringList onlyInMap; ///< names of listed layers without values, which keep their own
+};
+
+/// Exports one scheme from a map and imports it into another; layers are matched as described in
+/// LayerMatch.h.
+namespace SchemeExchange {
+
+/// The saved values of the scheme. Raises HostError::UnknownScheme.
+SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName);
+
+/// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
+/// replaced. The layers and the current scheme stay as they are.
+SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme);
+
+} // namespace SchemeExchange
+
+} // namespace Orvane

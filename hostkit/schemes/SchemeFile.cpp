@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeFile.h"
+
+#include "hostkit/common/HostErrors.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace Orvane::SchemeFile {
+
+namespace {
+
+class FileTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(SchemeFile)
+};
+
+[[noreturn]] void Raise(HostError number, const QString& description)
+{
+    throw RunTimeError(int(number), description, QStringLiteral("SchemeFile"));
+}
+
+[[noreturn]] void RaiseUnreadable(const QString& path, const QString& reason)
+{
+    Raise(
+        HostError::SchemeFileUnreadable,
+        FileTexts::tr("The scheme file \"%1\" cannot be read. %2").arg(QFileInfo(path).fileName(), reason));
+}
+
+QByteArray ContentOf(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        RaiseUnreadable(path, file.errorString());
+    // Asks for one byte more: a device may not tell its size.
+    const QByteArray content = file.read(LargestFile + 1);
+    if (content.size() > LargestFile)
+        RaiseUnreadable(path, FileTexts::tr("It is too large."));
+    if (file.error() != QFileDevice::NoError)
+        RaiseUnreadable(path, file.errorString());
+    return content.startsWith("\xEF\xBB\xBF") ? content.mid(3) : content;
+}
+
+} // namespace
+
+SchemeDocument Read(const QString& path)
+{
+    const QByteArray content = ContentOf(path);
+    try {
+        return SchemeDocument::FromJson(content);
+    } catch (const RunTimeError& error) {
+        RaiseUnreadable(path, error.Description());
+    }
+}
+
+void Write(const QString& path, const SchemeDocument& scheme)
+{
+    QSaveFile file(path);
+    const QByteArray content = scheme.ToJson();
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return;
+    Raise(
+        HostError::SchemeFileUnwritable,
+        FileTexts::tr("The scheme file \"%1\" cannot be written: %2.")
+            .arg(QFileInfo(path).fileName(), file.errorString()));
+}
+
+} // namespace Orvane::SchemeFile

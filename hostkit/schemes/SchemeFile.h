@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/schemes/SchemeDocument.h"
+
+#include <QString>
+#include <QtGlobal>
+
+namespace Orvane {
+
+/// Layer schemes in files of their own, in the format of SchemeDocument, to pass from map to map.
+namespace SchemeFile {
+
+/// Larger files are rejected without being read. A scheme of 100,000 layers takes a third of this size.
+inline constexpr qint64 LargestFile = qint64(128) * 1024 * 1024; // bytes
+
+/// Raises HostError::SchemeFileUnreadable, which names the file and says what is wrong with it.
+SchemeDocument Read(const QString& path);
+
+/// Writes the file, replacing an existing one completely or not at all. Raises
+/// HostError::SchemeFileUnwritable, and the errors of SchemeDocument::ToJson.
+void Write(const QString& path, const SchemeDocument& scheme);
+
+} // namespace SchemeFile
+
+} // namespace Orvane

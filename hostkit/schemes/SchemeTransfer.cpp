@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeTransfer.h"
+
+#include "hostkit/schemes/LayerMatch.h"
+#include "hostkit/schemes/SchemeColumns.h"
+#include "hostkit/schemes/SchemeTables.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <vector>
+
+namespace Orvane {
+
+namespace {
+
+void AppendSchemeColumns(std::vector<Value>& values, const IRecordset& row)
+{
+    for (int column = 0; column < SchemeColumns::Count; ++column)
+        values.push_back(row.Field(SchemeColumns::Name(column)));
+}
+
+qint32 HighestLayerID(SqliteLayerDatabase& database)
+{
+    const auto highest
+        = database.OpenQuery(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
+    return ToInt32(highest->Field("Highest"));
+}
+
+} // namespace
+
+SchemeTransfer::SchemeTransfer(SqliteLayerDatabase& from, SqliteLayerDatabase& to)
+    : m_from(from), m_to(to), m_matches(MatchLayers(from, to))
+{
+}
+
+void SchemeTransfer::AddMissingLayers()
+{
+    qint32 newLayerID = HighestLayerID(m_to);
+    const auto layers = m_from.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers ORDER BY LayerID"));
+    for (; !layers->AtEOF(); layers->MoveNext()) {
+        const qint32 layerID = ToInt32(layers->Field("LayerID"));
+        if (!m_matches.contains(layerID))
+            AddLayer(layerID, ++newLayerID);
+    }
+}
+
+void SchemeTransfer::CopySchemes()
+{
+    SchemeTables source(m_from);
+    SchemeTables target(m_to);
+    if (!source.HaveSchemes())
+        return;
+    const bool hasCurrent = target.HaveSchemes();
+    target.Create();
+    for (const QString& name : source.Names()) {
+        qint32 newSchemeID = target.IDOf(name);
+        if (newSchemeID == SchemeTables::NoScheme)
+            newSchemeID = target.Insert(name);
+        target.DropValues(newSchemeID);
+        CopyValues(source.IDOf(name), newSchemeID);
+    }
+    if (!hasCurrent)
+        target.MakeCurrent(target.IDOf(source.CurrentName()));
+}
+
+void SchemeTransfer::AddLayer(qint32 layerID, qint32 newLayerID)
+{
+    const auto layer = m_from.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});
+    std::vector<Value> values{
+        newLayerID, layer->Field("Name"), layer->Field("Code"), layer->Field("SystemLayer"),
+        layer->Field("Pseudo")};
+    AppendSchemeColumns(values, *layer);
+    m_to.Execute(
+        QStringLiteral("INSERT INTO Layers (LayerID, Name, Code, SystemLayer, Pseudo, %1)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5, %2)")
+            .arg(SchemeColumns::List(), SchemeColumns::Parameters(6)),
+        values);
+    m_matches.insert(layerID, newLayerID);
+}
+
+void SchemeTransfer::CopyValues(qint32 schemeID, qint32 newSchemeID)
+{
+    // Two layers there may be one here: the first one's values count.
+    const QString insertion
+        = QStringLiteral(
+              "INSERT OR IGNORE INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
+              .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
+    const auto rows
+        = m_from.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        const auto match = m_matches.constFind(ToInt32(rows->Field("LayerID")));
+        if (match == m_matches.constEnd())
+            continue;
+        std::vector<Value> values{*match, newSchemeID};
+        AppendSchemeColumns(values, *rows);
+        m_to.Execute(insertion, values);
+    }
+}
+
+} // namespace Orvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/StartupSchemes.h"
+
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/SchemeTransfer.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace Orvane::StartupSchemes {
+
+void Save(SqliteLayerDatabase& map, const QString& startupFile)
+{
+    LayerSchemes(map).Current(); // makes the first scheme
+    QDir().mkpath(QFileInfo(startupFile).absolutePath());
+    const auto startup = QFile::exists(startupFile) ? SqliteLayerDatabase::Open(startupFile)
+                                                    : SqliteLayerDatabase::Create(startupFile);
+    Transaction transaction(*startup);
+    SchemeTransfer transfer(map, *startup);
+    transfer.AddMissingLayers();
+    transfer.CopySchemes();
+    transaction.Commit();
+}
+
+void Load(SqliteLayerDatabase& map, const QString& startupFile)
+{
+    if (!QFile::exists(startupFile))
+        return;
+    const auto startup = SqliteLayerDatabase::Open(startupFile, OpenMode::ReadOnly);
+    Transaction transaction(map);
+    SchemeTransfer(*startup, map).CopySchemes();
+    transaction.Commit();
+}
+
+} // namespace Orvane::StartupSchemes

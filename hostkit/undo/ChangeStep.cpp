@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/undo/ChangeStep.h"
+
+#include "hostkit/common/HostErrors.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+
+namespace Orvane {
+
+ChangeStep::ChangeStep(const Surroundings& surroundings, const QString& text, Changeset changes, Joins joins)
+    : m_surroundings(surroundings), m_text(text), m_changes(std::move(changes)), m_joins(joins)
+{
+}
+
+bool ChangeStep::Absorb(const IUndoStep& next)
+{
+    const auto* step = dynamic_cast<const ChangeStep*>(&next);
+    if (!step || step->m_joins != Joins::StepBefore)
+        return false;
+    m_changes = m_changes.Then(step->m_changes);
+    m_text = step->m_text;
+    return true;
+}
+
+// Each run leaves behind what it really changed, so that the next one takes back exactly that.
+void ChangeStep::Run()
+{
+    m_surroundings.begin();
+    const std::optional<Changeset> changed = m_surroundings.database.Apply(m_changes.Inverted());
+    if (!changed) {
+        throw RunTimeError(
+            int(HostError::StepOutdated),
+            QCoreApplication::translate(
+                "ChangeStep",
+                "This step is no longer possible, because layers that it changed were changed since by "
+                "another program. Nothing was changed: %1")
+                .arg(m_text),
+            QStringLiteral("UndoHistory"));
+    }
+    m_changes = *changed;
+    m_surroundings.end(m_changes);
+}
+
+} // namespace Orvane

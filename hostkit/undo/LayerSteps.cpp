@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/undo/LayerSteps.h"
+
+#include "hostkit/common/HostErrors.h"
+#include "hostkit/common/HostNotifications.h"
+#include "hostkit/common/LayerNames.h"
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/undo/LayerChanges.h"
+#include "hostkit/windows/EditorWindows.h"
+#include "messages/NameInText.h"
+#include "store/ChangeRecorder.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QScopedValueRollback>
+
+namespace Orvane {
+
+namespace {
+
+QString GroupName(SqliteLayerDatabase& database, qint32 groupID)
+{
+    const auto group
+        = database.OpenQuery(QStringLiteral("SELECT Name FROM LayerGroups WHERE ID = ?1"), {groupID});
+    const Value name = group->AtEOF() ? Value::Null() : group->Field("Name");
+    return ToTextOrNone(name);
+}
+
+} // namespace
+
+LayerSteps::LayerSteps(
+    SqliteLayerDatabase& database, LayerNames& names, EditorWindows& windows,
+    HostNotifications& notifications)
+    : m_database(database), m_names(names), m_windows(windows),
+      m_notifications(notifications), m_surroundings{
+                                          database, [this] { RequireNoPendingEdits(); },
+                                          [this](const Changeset& changed) { m_untold.push_back(changed); }}
+{
+    m_endOfEdits.setSingleShot(true);
+    QObject::connect(&m_endOfEdits, &QTimer::timeout, &m_endOfEdits, [this] { EndEdits(); });
+    m_history.SetBeforeStep([this] { EndEdits(); });
+    m_history.SetAfterStep([this] { Tell(); });
+}
+
+LayerSteps::~LayerSteps() = default;
+
+void LayerSteps::Record(const std::function<QString()>& act, ChangeStep::Joins joins)
+{
+    EndEdits();
+    const QScopedValueRollback deeper(m_depth, m_depth + 1);
+    if (m_recorder) {
+        act();
+        return;
+    }
+    m_recorder = m_database.IsReadOnly() ? nullptr : m_database.RecordChanges();
+    QString text;
+    try {
+        text = act();
+    } catch (...) {
+        m_recorder.reset();
+        throw;
+    }
+    Keep([&](const Changeset&) { return text; }, joins);
+}
+
+void LayerSteps::BeginEdits()
+{
+    if (m_recorder || m_database.IsReadOnly())
+        return;
+    m_recorder = m_database.RecordChanges();
+    m_endOfEdits.start();
+}
+
+void LayerSteps::EndEdits()
+{
+    m_endOfEdits.stop();
+    if (m_recorder && !IsRecording())
+        Keep([this](const Changeset& changes) { return EditText(changes); }, ChangeStep::Joins::No);
+}
+
+// What was done is done: a step that cannot be kept must not look like a failure of what it would take back.
+void LayerSteps::Keep(const std::function<QString(const Changeset&)>& text, ChangeStep::Joins joins)
+{
+    const std::unique_ptr<ChangeRecorder> recorder = std::move(m_recorder);
+    if (!recorder)
+        return;
+    try {
+        Changeset changes = recorder->Changes();
+        if (changes.IsEmpty())
+            return;
+        const QString named = text(changes);
+        m_history.Add(std::make_unique<ChangeStep>(m_surroundings, named, std::move(changes), joins));
+    } catch (const std::exception&) {
+        m_history.Clear();
+    }
+}
+
+QString LayerSteps::EditText(const Changeset& changes)
+{
+    const LayerChanges edited = LayerChanges::Of(changes, m_database);
+    if (edited.changed.size() != 1)
+        return tr("Change of %1 Layers").arg(edited.changed.size());
+    const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
+    return edited.onlyCodes ? tr("New Code of \"%1\"").arg(name) : tr("Change of \"%1\"").arg(name);
+}
+
+void LayerSteps::RequireNoPendingEdits() const
+{
+    if (!m_windows.HavePendingEdits())
+        return;
+    throw RunTimeError(
+        int(HostError::EditsPending),
+        tr("The layer control holds changes that are not applied yet. Apply or cancel them first."),
+        QStringLiteral("UndoHistory"));
+}
+
+void LayerSteps::Tell()
+{
+    const std::vector<Changeset> untold = std::exchange(m_untold, {});
+    if (untold.empty())
+        return;
+    m_names.Invalidate();
+    for (const Changeset& changed : untold)
+        Emit(changed);
+    m_windows.RefreshEditors();
+}
+
+void LayerSteps::Emit(const Changeset& changed)
+{
+    const LayerChanges changes = LayerChanges::Of(changed, m_database);
+    for (const qint32 layerID : changes.deleted)
+        emit m_notifications.LayerDeleted(layerID);
+    for (const qint32 layerID : changes.created)
+        emit m_notifications.LayerCreated(layerID);
+    for (const qint32 layerID : changes.renamed)
+        emit m_notifications.LayerRenamed(layerID, m_names.Name(layerID));
+    for (const qint32 groupID : changes.renamedGroups)
+        emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
+    if (changes.schemes)
+        emit m_notifications.SchemesChanged(LayerSchemes(m_database).Current());
+    if (!changes.changed.isEmpty())
+        emit m_notifications.LayersChanged(changes.changed);
+}
+
+} // namespace Orvane

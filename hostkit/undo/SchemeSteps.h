@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/SchemeDifferences.h"
+#include "hostkit/schemes/SchemeExchange.h"
+
+#include <QCoreApplication>
+#include <QObject>
+#include <QString>
+
+namespace Orvane {
+
+class HostNotifications;
+class LayerSteps;
+class SqliteLayerDatabase;
+
+/// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
+/// signals of HostNotifications. Errors are those of LayerSchemes and of the database.
+class SchemeSteps
+{
+    Q_DECLARE_TR_FUNCTIONS(SchemeSteps)
+
+public:
+    /// None of these is owned; all must outlive this object.
+    SchemeSteps(SqliteLayerDatabase& database, LayerSteps& steps, HostNotifications& notifications);
+    Q_DISABLE_COPY_MOVE(SchemeSteps)
+
+    QStringList Names() { return m_schemes.Names(); }
+    QString Current() { return m_schemes.Current(); }
+    /// How many layers differ from the current scheme, or are not in it.
+    qsizetype UnsavedChanges() { return m_differences.Count(); }
+    /// Makes the next call of UnsavedChanges compare all layers again.
+    void ForgetDifferences() { m_differences.Forget(); }
+
+    void Load(const QString& name);
+    void Create(const QString& name);
+    void Save(const QString& name);
+    /// If the scheme stopped being current just before, and the event loop has not run since, both operations
+    /// are one step.
+    void Delete(const QString& name);
+
+    /// Stores the scheme in the map, as SchemeExchange::Import does.
+    SchemeImport Import(const SchemeDocument& scheme);
+    /// Gives the map the schemes of that file, as StartupSchemes::Load does.
+    void LoadFromStartup(const QString& startupFile);
+
+private:
+    void ListenToChanges();
+    void Leave(const QString& name);
+    void Tell();
+
+    SqliteLayerDatabase& m_database;
+    LayerSteps& m_steps;
+    HostNotifications& m_notifications;
+    LayerSchemes m_schemes;
+    SchemeDifferences m_differences{m_schemes};
+    QObject m_context; // cancels queued calls and connections when this object is destroyed
+    QString m_justLeft; // the scheme that the last step left; empty once the event loop runs again
+};
+
+} // namespace Orvane

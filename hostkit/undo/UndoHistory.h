@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/undo/IUndoStep.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Orvane {
+
+/// The user's latest operations in order, which can be undone, the last one first, and redone.
+///
+/// StandardClient adds its own steps; a host adds its steps to the same history. All calls are made on the
+/// user-interface thread.
+class UndoHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The number of steps that are kept; adding one more drops the oldest.
+    static constexpr int MaxSteps = 100;
+
+    using QObject::QObject;
+
+    /// Adds a step that was just done; steps that were undone before can then no longer be redone. While Undo
+    /// or Redo is running, nothing is added: what happens then belongs to the running step.
+    void Add(std::unique_ptr<IUndoStep> step);
+
+    bool CanUndo() const { return m_done > 0; }
+    bool CanRedo() const { return m_done < m_steps.size(); }
+    /// The text for a menu: "Undo Change of Roads", or just "Undo" if there is nothing to undo.
+    QString UndoText() const;
+    /// As UndoText, for Redo.
+    QString RedoText() const;
+
+    /// Undoes the last step, if there is one. Raises what the step raises: after HostError::StepOutdated the
+    /// step is removed from the history; after any other error everything is as before.
+    void Undo() { Run(Direction::Undo); }
+    /// Redoes the step that was undone last, if there is one; raises the same errors as Undo.
+    void Redo() { Run(Direction::Redo); }
+
+    /// Forgets all steps.
+    void Clear();
+
+    /// The action is called at the beginning of each Undo and Redo, before the step is chosen; if it raises,
+    /// nothing is undone or redone. An empty function removes the action.
+    void SetBeforeStep(std::function<void()> action) { m_beforeStep = std::move(action); }
+    /// The action is called at the end of each Undo and Redo that did something, when the history is already
+    /// up to date; errors that it raises are passed on. An empty function removes the action.
+    void SetAfterStep(std::function<void()> action) { m_afterStep = std::move(action); }
+
+signals:
+    /// What can be undone or redone has changed.
+    void Changed();
+
+private:
+    enum class Direction { Undo, Redo };
+
+    void Run(Direction direction);
+    void RunStep(Direction direction, size_t position);
+
+    std::vector<std::unique_ptr<IUndoStep>> m_steps; // oldest first
+    size_t m_done = 0; // the number of steps that are done; those after them are undone
+    bool m_running = false;
+    std::function<void()> m_beforeStep;
+    std::function<void()> m_afterStep;
+};
+
+} // namespace Orvane

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/windows/EditorWindows.h"
+
+#include <OrvaneShellLib/IStyleEditorForm.h>
+
+#include <QWindow>
+
+#include <algorithm>
+#include <exception>
+
+namespace Orvane {
+
+void EditorWindows::Show(QWidget* form)
+{
+    Forget(form);
+    m_forms.emplace_back(form);
+    if (m_mainWindow && m_mainWindow != form) {
+        form->winId(); // makes the window handle
+        form->windowHandle()->setTransientParent(m_mainWindow->windowHandle());
+    }
+    form->show();
+    form->raise();
+    if (!form->testAttribute(Qt::WA_ShowWithoutActivating))
+        form->activateWindow();
+}
+
+bool EditorWindows::Forget(QWidget* form)
+{
+    return std::erase(m_forms, form) > 0;
+}
+
+std::vector<QWidget*> EditorWindows::Shown() const
+{
+    std::vector<QWidget*> shown;
+    for (const QPointer<QWidget>& form : m_forms) {
+        if (form)
+            shown.push_back(form);
+    }
+    return shown;
+}
+
+bool EditorWindows::HavePendingEdits() const
+{
+    const std::vector<QWidget*> forms = Shown();
+    return std::any_of(forms.begin(), forms.end(), [](QWidget* form) {
+        const auto* editor = dynamic_cast<IStyleEditorForm*>(form);
+        return editor && editor->HasPendingEdits();
+    });
+}
+
+void EditorWindows::RefreshEditors() const
+{
+    std::exception_ptr firstError;
+    for (const QPointer<QWidget>& form : std::vector(m_forms)) {
+        try {
+            if (auto* editor = dynamic_cast<IStyleEditorForm*>(form.data()))
+                editor->Refresh();
+        } catch (...) {
+            if (!firstError)
+                firstError = std::current_exception();
+        }
+    }
+    if (firstError)
+        std::rethrow_exception(firstError);
+}
+
+} // namespace Orvane

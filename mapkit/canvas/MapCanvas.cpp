@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/canvas/MapCanvas.h"
+
+#include "mapkit/canvas/MapTool.h"
+#include "mapkit/common/Guard.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <chrono>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr double ZoomStep = 1.5;
+constexpr double WheelNotch = 120; // eighths of a degree, as Qt reports them
+constexpr double ArrowPart = 0.2; // of the window
+constexpr std::chrono::milliseconds DrawDelay{40};
+
+QPointF ArrowDirection(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {1, 0};
+    case Qt::Key_Right:
+        return {-1, 0};
+    case Qt::Key_Up:
+        return {0, 1};
+    case Qt::Key_Down:
+        return {0, -1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+MapCanvas::MapCanvas(QWidget* parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    ShowCursor();
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    m_drawSoon.setSingleShot(true);
+    m_drawSoon.setInterval(DrawDelay);
+    connect(&m_drawSoon, &QTimer::timeout, this, &MapCanvas::DrawAnew);
+    connect(&m_picture, &MapPicture::Changed, this, qOverload<>(&QWidget::update));
+}
+
+void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
+{
+    m_metresPerUnit = metresPerUnit;
+    m_picture.SetLayers(std::move(layers));
+    emit LayersChanged();
+    update();
+}
+
+void MapCanvas::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
+{
+    m_picture.SetBackdrop(std::move(backdrop));
+}
+
+void MapCanvas::SetView(const MapView& view)
+{
+    if (view == m_view)
+        return;
+    m_view = view;
+    m_drawSoon.start();
+    update();
+    emit ViewChanged();
+}
+
+double MapCanvas::ScaleDenominator() const
+{
+    return DenominatorOf(m_view);
+}
+
+void MapCanvas::ZoomToAll()
+{
+    Box bounds;
+    for (const MapLayer& layer : m_picture.Layers()) {
+        if (layer.features)
+            bounds.Add(layer.features->Bounds());
+    }
+    if (bounds.IsEmpty() && m_picture.Backdrop())
+        bounds = m_picture.Backdrop()->Extent();
+    SetView(MapView::Fitting(bounds, size()));
+}
+
+void MapCanvas::ZoomIn()
+{
+    SetView(m_view.ZoomedAt(MiddlePixel(), ZoomStep));
+}
+
+void MapCanvas::ZoomOut()
+{
+    SetView(m_view.ZoomedAt(MiddlePixel(), 1 / ZoomStep));
+}
+
+void MapCanvas::SetTool(MapTool* tool)
+{
+    if (tool == Tool())
+        return;
+    Guard(window(), [&] { m_gestures.SetTool(tool); });
+    ShowCursor();
+    update();
+    emit ToolChanged();
+}
+
+void MapCanvas::AddOverlay(const MapOverlay* overlay)
+{
+    m_overlays.push_back(overlay);
+    update();
+}
+
+void MapCanvas::RemoveOverlay(const MapOverlay* overlay)
+{
+    std::erase(m_overlays, overlay);
+    update();
+}
+
+void MapCanvas::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    PaintMap(painter);
+    PaintOverlays(painter);
+}
+
+void MapCanvas::PaintMap(QPainter& painter)
+{
+    if (m_picture.Image().isNull())
+        return;
+    const MapView& drawn = m_picture.ImageView();
+    const QPointF topLeft = m_view.ToPixel(drawn.ToMap({0, 0}));
+    const double stretch = drawn.UnitsPerPixel() / m_view.UnitsPerPixel();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, stretch != 1);
+    painter.drawImage(QRectF(topLeft, QSizeF(drawn.Size()) * stretch), m_picture.Image());
+}
+
+void MapCanvas::PaintOverlays(QPainter& painter)
+{
+    for (const MapOverlay* overlay : m_overlays) {
+        painter.save();
+        overlay->Paint(painter, m_view);
+        painter.restore();
+    }
+    if (const MapTool* tool = Tool())
+        tool->Paint(painter, m_view);
+}
+
+void MapCanvas::resizeEvent(QResizeEvent*)
+{
+    SetView(m_view.Resized(size()));
+}
+
+void MapCanvas::mousePressEvent(QMouseEvent* event)
+{
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.Press(*event); });
+    if (!taken && (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton))
+        BeginPan(event->position());
+}
+
+void MapCanvas::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_dragging) {
+        Guard(window(), [&] {
+            if (m_gestures.Move(*event) == ToolGestures::Outcome::PanFromPress)
+                BeginPan(m_gestures.PressedAt());
+        });
+    }
+    if (m_dragging) {
+        SetView(m_view.Panned(event->position() - m_dragFrom));
+        m_dragFrom = event->position();
+    }
+    emit PointerMoved(m_view.ToMap(event->position()));
+}
+
+void MapCanvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_dragging = false;
+    Guard(window(), [&] { m_gestures.Release(*event); });
+    ShowCursor();
+}
+
+void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.DoubleClick(*event); });
+    if (!taken && event->button() == Qt::LeftButton)
+        SetView(m_view.ZoomedAt(event->position(), ZoomStep * ZoomStep));
+}
+
+void MapCanvas::wheelEvent(QWheelEvent* event)
+{
+    const double notches = event->angleDelta().y() / WheelNotch;
+    SetView(m_view.ZoomedAt(event->position(), std::pow(ZoomStep, notches)));
+    event->accept();
+}
+
+void MapCanvas::keyPressEvent(QKeyEvent* event)
+{
+    bool taken = false;
+    Guard(window(), [&] { taken = m_gestures.Key(*event); });
+    if (taken)
+        return;
+    const QPointF direction = ArrowDirection(event->key());
+    if (!direction.isNull())
+        SetView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
+    else if (event->key() == Qt::Key_Home)
+        ZoomToAll();
+    else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)
+        ZoomIn();
+    else if (event->key() == Qt::Key_Minus)
+        ZoomOut();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void MapCanvas::leaveEvent(QEvent*)
+{
+    emit PointerLeft();
+}
+
+void MapCanvas::BeginPan(QPointF from)
+{
+    m_dragging = true;
+    m_dragFrom = from;
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void MapCanvas::ShowCursor()
+{
+    const MapTool* tool = Tool();
+    setCursor(tool ? tool->Cursor() : QCursor(Qt::OpenHandCursor));
+}
+
+void MapCanvas::DrawAnew()
+{
+    m_picture.SetView(m_view, DenominatorOf(m_view), devicePixelRatioF());
+}
+
+double MapCanvas::DenominatorOf(const MapView& view) const
+{
+    return view.ScaleDenominator(m_metresPerUnit, logicalDpiX());
+}
+
+QPointF MapCanvas::MiddlePixel() const
+{
+    return {width() / 2.0, height() / 2.0};
+}
+
+} // namespace Orvane

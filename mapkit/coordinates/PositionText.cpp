@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/coordinates/PositionText.h"
+
+#include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <cmath>
+#include <ogr_spatialref.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int Decimals = 4;
+constexpr double PositionTolerance = 1; // map units
+
+bool IsGeographic(const QString& system)
+{
+    const GdalErrors quiet;
+    OGRSpatialReference known;
+    return known.SetFromUserInput(system.toUtf8().constData()) == OGRERR_NONE && known.IsGeographic();
+}
+
+std::unique_ptr<OGRCoordinateTransformation> ToDegrees(const QString& system)
+{
+    const GdalErrors quiet;
+    OGRSpatialReference known;
+    if (known.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
+        return nullptr;
+    return TransformationTo(QStringLiteral("EPSG:4326"), &known);
+}
+
+QString Degrees(double value, const QString& positive, const QString& negative)
+{
+    return QLocale().toString(std::abs(value), 'f', Decimals) + QStringLiteral("° ")
+        + (value < 0 ? negative : positive);
+}
+
+} // namespace
+
+PositionText::PositionText(const QString& mapSystem)
+    : m_toDegrees(ToDegrees(mapSystem)), m_fromDegrees(m_toDegrees ? m_toDegrees->GetInverse() : nullptr),
+      m_inDegrees(m_toDegrees || IsGeographic(mapSystem))
+{
+}
+
+PositionText::PositionText(PositionText&&) noexcept = default;
+PositionText& PositionText::operator=(PositionText&&) noexcept = default;
+PositionText::~PositionText() = default;
+
+QString PositionText::Of(QPointF map) const
+{
+    const QLocale locale;
+    if (!m_inDegrees)
+        return locale.toString(map.x(), 'f', 2) + QStringLiteral("  ") + locale.toString(map.y(), 'f', 2);
+    double x = map.x();
+    double y = map.y();
+    const GdalErrors quiet;
+    if (m_toDegrees && !m_toDegrees->Transform(1, &x, &y))
+        return {};
+    if (!IsOnEarth(map, x, y))
+        return {};
+    return Degrees(
+               y, QCoreApplication::translate("PositionText", "N"),
+               QCoreApplication::translate("PositionText", "S"))
+        + QStringLiteral(", ")
+        + Degrees(
+               x, QCoreApplication::translate("PositionText", "E"),
+               QCoreApplication::translate("PositionText", "W"));
+}
+
+// Beyond its edge a projection gives positions that lead back to another place.
+bool PositionText::IsOnEarth(QPointF map, double longitude, double latitude) const
+{
+    if (!(std::abs(longitude) <= 180 && std::abs(latitude) <= 90))
+        return false;
+    return !m_fromDegrees
+        || (m_fromDegrees->Transform(1, &longitude, &latitude)
+            && std::hypot(longitude - map.x(), latitude - map.y()) < PositionTolerance);
+}
+
+} // namespace Orvane

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/looks/LayerLook.h"
+
+#include "mapkit/looks/RendererStyles.h"
+#include "ovctrls/LinePatterns.h"
+
+#include <OrvaneShellLib/IShellServices.h>
+#include <OrvaneShellLib/LayerValues.h>
+
+#include <QImage>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int FillPatternCount = 32;
+constexpr QRgb OwnSymbolColour = 0xff4a4a4a;
+constexpr QRgb UnclassedColour = 0xffd9d9d9;
+constexpr double PaleEnd = 0.8; // of the way to white
+constexpr double ThinnestCased = 4; // pixels
+constexpr double EdgePart = 0.15; // of a cased line's width, on either side
+constexpr float LightestText = 0.35f;
+
+QColor OpaqueFromBgr(qint32 bgr)
+{
+    return QColor(bgr & 0xff, (bgr >> 8) & 0xff, (bgr >> 16) & 0xff);
+}
+
+double PenWidth(int thickness, double pixelsPerMillimetre)
+{
+    if (thickness < 0)
+        return -thickness;
+    return thickness == 0 ? 1 : thickness * pixelsPerMillimetre;
+}
+
+QPen OutlineOf(const DrawingValues& values, double pixelsPerMillimetre)
+{
+    QPen pen(
+        OpaqueFromBgr(values.color), PenWidth(values.lineThickness, pixelsPerMillimetre), Qt::SolidLine,
+        Qt::RoundCap, Qt::RoundJoin);
+    SetLinePattern(pen, values.outlineStyle);
+    if (pen.style() != Qt::SolidLine)
+        pen.setCapStyle(Qt::FlatCap); // round ones would close the gaps
+    return pen;
+}
+
+// An image and not a bitmap: painting threads may not touch pixmaps.
+QBrush PatternBrush(const MonochromeBitmap& pattern, const QColor& fore, const QColor& back)
+{
+    QImage image(pattern.width, pattern.height, QImage::Format_ARGB32_Premultiplied);
+    const int stride = (pattern.width + 7) / 8;
+    for (int y = 0; y < pattern.height; ++y) {
+        for (int x = 0; x < pattern.width; ++x) {
+            const bool set = (pattern.rows.at(y * stride + x / 8) << (x % 8)) & 0x80;
+            image.setPixelColor(x, y, set ? fore : back);
+        }
+    }
+    QBrush brush(image);
+    brush.setColor(fore);
+    return brush;
+}
+
+QBrush FillOf(const DrawingValues& values, const IShellServices& services)
+{
+    std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
+    const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
+    if (!fore && !back)
+        fore = OpaqueFromBgr(values.color); // as the fill picker previews it
+    if (values.fillStyle == HollowFill)
+        return back ? QBrush(*back) : QBrush(Qt::NoBrush);
+    if (values.fillStyle == SolidFill)
+        return fore ? QBrush(*fore) : QBrush(Qt::NoBrush);
+    if (values.fillStyle < 0 || values.fillStyle >= FillPatternCount)
+        return QBrush(Qt::NoBrush);
+    const MonochromeBitmap pattern = services.FillPattern(FillPatternKind, values.fillStyle);
+    return PatternBrush(pattern, fore.value_or(Qt::transparent), back.value_or(Qt::transparent));
+}
+
+// Edges of a pixel on either side at least, and a core between them.
+CasedLine CasedLineOf(const DrawingValues& values, const QPen& outline)
+{
+    const double width = std::max(outline.widthF(), ThinnestCased);
+    CasedLine cased{outline, outline};
+    if (outline.style() != Qt::NoPen)
+        cased.casing = QPen(outline.color(), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    cased.core.setColor(ColourFromBgr(values.fillForeColor).value_or(Qt::white));
+    cased.core.setWidthF(width - 2 * std::max(1.0, width * EdgePart));
+    if (cased.core.style() == Qt::NoPen)
+        cased.core.setStyle(Qt::SolidLine);
+    return cased;
+}
+
+QColor Mixed(const QColor& from, const QColor& to, double part)
+{
+    const auto mix = [part](int a, int b) { return int(std::lround(a + (b - a) * part)); };
+    return QColor(mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue()));
+}
+
+std::pair<QColor, QColor> RampOf(const DrawingValues& values)
+{
+    const std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
+    const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
+    const QColor strong = fore ? *fore : back.value_or(OpaqueFromBgr(values.color));
+    const bool isRamp = fore && back && *fore != *back;
+    return {isRamp ? *back : Mixed(strong, Qt::white, PaleEnd), strong};
+}
+
+qint32 BgrOf(const QColor& colour)
+{
+    return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
+
+// Letters are read on white: what is too light for that is darkened.
+QColor TextColour(const QColor& colour)
+{
+    const double lightness = std::min(colour.lightnessF(), LightestText);
+    return QColor::fromHslF(std::max(0.f, colour.hslHueF()), colour.hslSaturationF(), float(lightness));
+}
+
+} // namespace
+
+double LayerLook::Reach() const
+{
+    const double pen = cased ? std::max(outline.widthF(), cased->casing.widthF()) : outline.widthF();
+    return std::ceil(pen + 2 * symbolRadius) + 2;
+}
+
+std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count)
+{
+    const auto [low, high] = RampOf(values);
+    std::vector<ClassLook> looks;
+    for (int i = 0; i < count; ++i) {
+        const QColor colour = count > 1 ? Mixed(low, high, double(i) / (count - 1)) : high;
+        DrawingValues own = values;
+        own.fillForeColor = BgrOf(colour);
+        looks.push_back({FillOf(own, services), colour});
+    }
+    return looks;
+}
+
+ClassLook UnclassedLook(const DrawingValues& values)
+{
+    const QColor grey = QColor::fromRgb(UnclassedColour);
+    return {values.fillStyle == HollowFill ? QBrush(Qt::NoBrush) : QBrush(grey), grey};
+}
+
+std::optional<QColor> ColourFromBgr(qint32 bgr)
+{
+    if ((quint32(bgr) & 0xff000000u) != 0)
+        return std::nullopt;
+    return OpaqueFromBgr(bgr);
+}
+
+LayerLook LookOf(const DrawingValues& values, const IShellServices& services, double pixelsPerMillimetre)
+{
+    LayerLook look;
+    look.outline = OutlineOf(values, pixelsPerMillimetre);
+    look.fill = FillOf(values, services);
+    look.symbol = ColourFromBgr(values.color).value_or(QColor::fromRgb(OwnSymbolColour));
+    look.text = TextColour(OpaqueFromBgr(values.color));
+    if (RendererStyles::Has(values.style, RendererStyles::Cased))
+        look.cased = CasedLineOf(values, look.outline);
+    look.symbolRadius = 2 + PenWidth(values.lineThickness, pixelsPerMillimetre) / 2;
+    return look;
+}
+
+} // namespace Orvane

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "shell/actions/DataActions.h"
+
+#include "mapkit/common/Guard.h"
+#include "mapkit/document/MapDocument.h"
+#include "shell/dialogs/MissingData.h"
+#include "shell/map/MapSession.h"
+#include "shell/window/RunWithProgress.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace Orvane {
+
+DataActions::DataActions(
+    QMenu& menu, const QAction* behind, QWidget& window, std::function<MapSession&()> session)
+    : m_window(window), m_session(std::move(session))
+{
+    const QList<QAction*> commands = menu.actions();
+    QAction* before = commands.value(commands.indexOf(behind) + 1);
+    m_find = Add(
+        menu, before, "actFindData", tr("&Find Missing Data..."),
+        tr("Look in a folder for the data files that the map misses"));
+    m_backdrop = Add(
+        menu, before, "actBackdrop", tr("Raster &Backdrop..."),
+        tr("Lay a picture under all layers of the map"));
+    m_noBackdrop = Add(
+        menu, before, "actNoBackdrop", tr("R&emove Raster Backdrop"), tr("Show the map without the picture"));
+    const auto run = [this](QAction* action, void (DataActions::*command)()) {
+        connect(action, &QAction::triggered, this, [this, command] {
+            Guard(&m_window, [&] { (this->*command)(); });
+        });
+    };
+    run(m_find, &DataActions::FindData);
+    run(m_backdrop, &DataActions::AskForBackdrop);
+    run(m_noBackdrop, &DataActions::RemoveBackdrop);
+    connect(&menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { ShowWhatIsPossible(); }); });
+}
+
+void DataActions::ShowProblems(const QString& problems)
+{
+    if (problems.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Warning, tr("Map data"), problems, QMessageBox::Ok, &m_window);
+    box.setObjectName(QStringLiteral("dlgProblems"));
+    box.setTextFormat(Qt::PlainText);
+    QPushButton* find = nullptr;
+    if (!MissingSources(m_session().Document()).empty())
+        find = box.addButton(tr("&Find Missing Data..."), QMessageBox::ActionRole);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    if (find && box.clickedButton() == find)
+        FindData();
+}
+
+void DataActions::Follow(const MapSession& session)
+{
+    // Queued: saving the map under another name ends the session that tells it.
+    connect(
+        &session, &MapSession::DataFailed, this,
+        [this](const QString& reason) { Guard(&m_window, [&] { ShowProblems(reason); }); },
+        Qt::QueuedConnection);
+    connect(
+        &session, &MapSession::MapFileGone, this, [this] { Guard(&m_window, [this] { TellMapIsGone(); }); },
+        Qt::QueuedConnection);
+}
+
+void DataActions::TellMapIsGone()
+{
+    const QString name = QFileInfo(m_session().Document().Path()).fileName();
+    QMessageBox box(
+        QMessageBox::Warning, tr("Map file"),
+        tr("The map file \"%1\" was moved or deleted. What you change is kept only when you save the map "
+           "under "
+           "another name.")
+            .arg(name),
+        QMessageBox::Save | QMessageBox::Ignore, &m_window);
+    box.setObjectName(QStringLiteral("dlgMapGone"));
+    box.setEscapeButton(QMessageBox::Ignore);
+    if (box.exec() == QMessageBox::Save)
+        emit SaveAsWanted();
+}
+
+QAction*
+DataActions::Add(QMenu& menu, QAction* before, const char* name, const QString& text, const QString& tip)
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(tip);
+    menu.insertAction(before, action);
+    return action;
+}
+
+void DataActions::ShowWhatIsPossible()
+{
+    m_find->setEnabled(!MissingSources(m_session().Document()).empty());
+    m_noBackdrop->setEnabled(!m_session().Document().Backdrop().isEmpty());
+}
+
+void DataActions::FindData()
+{
+    MapDocument& document = m_session().Document();
+    const std::vector<LayerSource> missing = MissingSources(document);
+    const QString folder = QFileDialog::getExistingDirectory(
+        &m_window, tr("Find Missing Data"), QFileInfo(document.Path()).path());
+    if (folder.isEmpty())
+        return;
+    std::vector<LayerSource> found;
+    RunWithProgress(&m_window, tr("Looking for map data"), [&](Progress& progress) {
+        found = LookForData(missing, folder, progress);
+    });
+    if (found.empty()) {
+        QMessageBox::information(
+            &m_window, tr("Find Missing Data"), tr("None of the missing files is in \"%1\".").arg(folder));
+        return;
+    }
+    TakeFoundData(document, found);
+    Reload();
+}
+
+void DataActions::AskForBackdrop()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        &m_window, tr("Raster Backdrop"), {},
+        tr("Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc"
+           " *.hgt *.dem *.ecw *.nc)"
+           ";;All files (*)"));
+    if (path.isEmpty())
+        return;
+    m_session().SetBackdrop(path);
+    emit DataChanged();
+}
+
+void DataActions::RemoveBackdrop()
+{
+    m_session().SetBackdrop({});
+    emit DataChanged();
+}
+
+void DataActions::Reload()
+{
+    const QString problems = m_session().ReadAndShow();
+    emit DataChanged();
+    ShowProblems(problems);
+}
+
+} // namespace Orvane

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "shell/actions/EditActions.h"
+
+#include "hostkit/undo/UndoHistory.h"
+#include "mapkit/common/Guard.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeySequence>
+
+namespace Orvane {
+
+namespace {
+
+// An ampersand in a name is no mnemonic; the command's own first letter is, where it is on the keyboard.
+QString MenuText(QString text)
+{
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return text.at(0).unicode() < 0x80 ? QLatin1Char('&') + text : text;
+}
+
+void ShowCommand(QAction& action, const QString& text, bool enabled)
+{
+    action.setText(MenuText(text));
+    action.setToolTip(text);
+    action.setEnabled(enabled);
+}
+
+} // namespace
+
+EditActions::EditActions(const Actions& actions, QWidget& window) : m_actions(actions), m_window(window)
+{
+    m_actions.undo->setShortcuts(QKeySequence::Undo);
+    m_actions.redo->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    SetUp(*m_actions.undo, &UndoHistory::Undo);
+    SetUp(*m_actions.redo, &UndoHistory::Redo);
+    Show();
+}
+
+void EditActions::SetUp(QAction& action, void (UndoHistory::*command)())
+{
+    action.setShortcutContext(Qt::ApplicationShortcut);
+    connect(&action, &QAction::triggered, this, [this, command] { Run(command); });
+}
+
+void EditActions::Follow(UndoHistory& history)
+{
+    if (m_history)
+        m_history->disconnect(this);
+    m_history = &history;
+    connect(&history, &UndoHistory::Changed, this, &EditActions::Show);
+    connect(&history, &QObject::destroyed, this, &EditActions::Show);
+    Show();
+}
+
+void EditActions::Run(void (UndoHistory::*command)())
+{
+    QWidget* active = QApplication::activeWindow();
+    Guard(active ? active : &m_window, [&] {
+        if (m_history)
+            (m_history->*command)();
+    });
+}
+
+void EditActions::Show()
+{
+    const UndoHistory none;
+    const UndoHistory& history = m_history ? *m_history : none;
+    ShowCommand(*m_actions.undo, history.UndoText(), history.CanUndo());
+    ShowCommand(*m_actions.redo, history.RedoText(), history.CanRedo());
+}
+
+} // namespace Orvane

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "shell/actions/RenderingActions.h"
+
+#include "mapkit/common/Guard.h"
+#include "mapkit/document/MapDocument.h"
+#include "shell/dialogs/RenderingDialog.h"
+#include "shell/map/MapSession.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace Orvane {
+
+RenderingActions::RenderingActions(QWidget& window, QMenu& menu, std::function<MapSession&()> session)
+    : m_window(window), m_session(std::move(session))
+{
+    QAction* action = menu.addAction(tr("Layer &Rendering..."));
+    action->setObjectName(QStringLiteral("actLayerRendering"));
+    action->setStatusTip(tr("Choose the attributes that label and colour the features of a layer"));
+    connect(action, &QAction::triggered, this, [this] { Guard(&m_window, [this] { Ask(); }); });
+    connect(&menu, &QMenu::aboutToShow, this, [this, action] {
+        Guard(&m_window, [&] { action->setEnabled(m_session().Document().HasLayers()); });
+    });
+}
+
+void RenderingActions::Ask()
+{
+    MapSession& session = m_session();
+    if (session.Layers().empty())
+        return;
+    RenderingDialog dialog(session.Document(), session.Layers(), &m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QSet<qint32> changed;
+    for (const auto& [layerID, rendering] : dialog.Changes()) {
+        session.Document().Renderings().Set(layerID, rendering);
+        changed.insert(layerID);
+    }
+    session.DrawAgain(changed);
+}
+
+} // namespace Orvane

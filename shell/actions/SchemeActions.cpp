@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "shell/actions/SchemeActions.h"
+
+#include "hostkit/common/HostNotifications.h"
+#include "hostkit/schemes/SchemeExchange.h"
+#include "hostkit/schemes/SchemeFile.h"
+#include "mapkit/common/Guard.h"
+#include "messages/NameInText.h"
+#include "ovctrls/BusyPointer.h"
+#include "shell/actions/LayerControl.h"
+#include "shell/actions/SchemeStatus.h"
+#include "shell/dialogs/SchemeReport.h"
+#include "shell/map/MapSession.h"
+#include "shell/window/Confirm.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLocale>
+#include <QMenu>
+#include <QMessageBox>
+#include <QStatusBar>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto FileSuffix = "json";
+constexpr int MessageTime = 15000; // milliseconds
+
+// The scheme's name, as far as a file may have it.
+QString FileNameFor(const QString& scheme)
+{
+    QString name = NameInText(scheme);
+    for (QChar& character : name) {
+        if (QStringLiteral("/\\:*?\"<>|").contains(character))
+            character = QLatin1Char('_');
+    }
+    return name + QLatin1Char('.') + QLatin1String(FileSuffix);
+}
+
+} // namespace
+
+SchemeActions::SchemeActions(QMenu& menu, QStatusBar& statusBar, LayerControl& control, QWidget& window)
+    : m_menu(menu), m_statusBar(statusBar), m_control(control), m_window(window),
+      m_status(new SchemeStatus(&statusBar)), m_schemes(new QActionGroup(this))
+{
+    statusBar.addPermanentWidget(m_status);
+    MakeCommands();
+    connect(&m_menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { Fill(); }); });
+}
+
+void SchemeActions::Use(MapSession& session)
+{
+    m_session = &session;
+    m_status->Use(session);
+    connect(
+        &session.Shell().Notifications(), &HostNotifications::SchemeLoaded, this,
+        [this](const QString& name) { Guard(&m_window, [&] { TellLayersLeftAlone(name); }); });
+}
+
+void SchemeActions::MakeCommands()
+{
+    m_listEnd = m_menu.addSeparator();
+    m_save = MakeCommand("actSaveScheme", tr("&Save Scheme"), &SchemeActions::Save);
+    m_revert = MakeCommand("actRevertScheme", tr("&Revert to Saved Scheme"), &SchemeActions::Revert);
+    m_menu.addSeparator();
+    MakeCommand("actExportScheme", tr("&Export Scheme..."), &SchemeActions::Export);
+    MakeCommand("actImportScheme", tr("&Import Scheme..."), &SchemeActions::Import);
+}
+
+QAction*
+SchemeActions::MakeCommand(const char* objectName, const QString& text, void (SchemeActions::*command)())
+{
+    QAction* action = m_menu.addAction(text);
+    action->setObjectName(QLatin1String(objectName));
+    connect(action, &QAction::triggered, this, [this, command] {
+        Guard(&m_window, [&] { (this->*command)(); });
+    });
+    return action;
+}
+
+void SchemeActions::Fill()
+{
+    const QString current = Current();
+    FillList(m_session->Client().GetSchemeNames(), current);
+    const bool differs = m_session->Shell().HasUnsavedSchemeChanges();
+    m_save->setText(tr("&Save Scheme \"%1\"").arg(NameInMenu(current)));
+    m_save->setEnabled(differs);
+    m_revert->setEnabled(differs);
+}
+
+void SchemeActions::FillList(const QStringList& names, const QString& current)
+{
+    qDeleteAll(m_schemes->actions());
+    for (const QString& name : names) {
+        auto* action = new QAction(NameInMenu(name), m_schemes);
+        action->setCheckable(true);
+        action->setChecked(name == current);
+        connect(
+            action, &QAction::triggered, this, [this, name] { Guard(&m_window, [&] { SwitchTo(name); }); });
+    }
+    m_menu.insertActions(m_listEnd, m_schemes->actions());
+}
+
+void SchemeActions::SwitchTo(const QString& name)
+{
+    if (name != Current())
+        LoadAfterQuestions(name);
+}
+
+// The editors ask first: what is applied then is a change that the scheme may have to take.
+void SchemeActions::LoadAfterQuestions(const QString& name)
+{
+    ChangeLayers([&] {
+        if (name == Current() || MayLeaveCurrent(name))
+            Load(name);
+    });
+}
+
+void SchemeActions::Load(const QString& name)
+{
+    const BusyPointer busy;
+    m_session->Client().LoadScheme(name);
+}
+
+bool SchemeActions::MayLeaveCurrent(const QString& next)
+{
+    if (!m_session->Shell().HasUnsavedSchemeChanges())
+        return true;
+    const QString question = tr("Layers differ from the scheme \"%1\". Save it before switching to \"%2\"?");
+    QMessageBox box(
+        QMessageBox::Question, tr("Switch Scheme"), question.arg(NameInText(Current()), NameInText(next)),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    const int answer = box.exec();
+    if (answer == QMessageBox::Save)
+        m_session->Client().SaveScheme(Current());
+    return answer == QMessageBox::Save || answer == QMessageBox::Discard;
+}
+
+void SchemeActions::Save()
+{
+    const QString name = Current();
+    const QString question = tr("Save the layers as they are to the scheme \"%1\"?").arg(NameInText(name));
+    if (Confirm(m_window, tr("Save Scheme"), question))
+        m_session->Client().SaveScheme(name);
+}
+
+void SchemeActions::Revert()
+{
+    const QString name = Current();
+    const QString question
+        = tr("Give the layers the values that were saved in the scheme \"%1\"?").arg(NameInText(name));
+    if (Confirm(m_window, tr("Revert Scheme"), question))
+        ChangeLayers([&] { Load(name); });
+}
+
+void SchemeActions::Export()
+{
+    const QString name = Current();
+    QFileDialog dialog(&m_window, tr("Export Scheme"), {}, tr("Layer schemes (*.json)"));
+    dialog.setObjectName(QStringLiteral("dlgExportScheme"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QLatin1String(FileSuffix));
+    dialog.selectFile(FileNameFor(name));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const BusyPointer busy;
+    m_session->Shell().ExportScheme(name, dialog.selectedFiles().value(0));
+    m_statusBar.showMessage(tr("The scheme \"%1\" was exported.").arg(NameInText(name)), MessageTime);
+}
+
+void SchemeActions::Import()
+{
+    QFileDialog dialog(&m_window, tr("Import Scheme"), {}, tr("Layer schemes (*.json);;All files (*)"));
+    dialog.setObjectName(QStringLiteral("dlgImportScheme"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const SchemeDocument scheme = SchemeFile::Read(dialog.selectedFiles().value(0));
+    if (!MayReplace(scheme.name))
+        return;
+    SchemeImport import;
+    {
+        const BusyPointer busy;
+        import = m_session->Shell().ImportScheme(scheme);
+    }
+    Report(import);
+}
+
+bool SchemeActions::MayReplace(const QString& name)
+{
+    return !m_session->Client().GetSchemeNames().contains(name)
+        || Confirm(
+            m_window, tr("Import Scheme"),
+            tr("There is a scheme \"%1\" already. Replace it by the one of the file?").arg(NameInText(name)));
+}
+
+void SchemeActions::Report(const SchemeImport& import)
+{
+    if (AskAfterImport(import, import.name == Current(), m_window) == AfterImport::Switch)
+        LoadAfterQuestions(import.name);
+}
+
+// An editor would show values that are no more; closing it asks about its edits first.
+void SchemeActions::ChangeLayers(const std::function<void()>& change)
+{
+    m_control.WithEditorsClosed(change);
+}
+
+void SchemeActions::TellLayersLeftAlone(const QString& scheme)
+{
+    const qsizetype count = m_session->Shell().UnsavedSchemeChanges();
+    if (count > 0) {
+        m_statusBar.showMessage(
+            tr("Layers that the scheme \"%1\" does not know and left as they are: %2")
+                .arg(NameInText(scheme), QLocale().toString(count)),
+            MessageTime);
+    }
+}
+
+QString SchemeActions::Current() const
+{
+    return m_session->Client().GetCurrentScheme();
+}
+
+} // namespace Orvane

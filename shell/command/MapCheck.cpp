@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/MapCheck.h"
+
+#include "mapkit/data/DataSource.h"
+#include "mapkit/data/RasterSource.h"
+#include "mapkit/document/BackdropPlace.h"
+#include "mapkit/document/SourceTable.h"
+#include "shell/command/DanglingRows.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace Orvane {
+
+namespace {
+
+using Kind = MapProblem::Kind;
+using Problems = std::vector<MapProblem>;
+
+QString Translate(const char* text)
+{
+    return QCoreApplication::translate("MapCheck", text);
+}
+
+// What SQLite says of an index that does not match its table; making the index anew mends that.
+bool IsAboutAnIndex(const QString& message)
+{
+    return message.contains(QLatin1String("missing from index"))
+        || message.contains(QLatin1String("wrong # of entries in index"));
+}
+
+void AddDamage(Problems& problems, SqliteLayerDatabase& database)
+{
+    const QString damage = Translate(QT_TRANSLATE_NOOP("MapCheck", "The map file is damaged: %1."));
+    const auto rows = database.OpenQuery(QStringLiteral("PRAGMA integrity_check(20)"));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        const QString message = ToText(rows->Field("integrity_check"));
+        if (message != QLatin1String("ok"))
+            problems.push_back({Kind::Damage, damage.arg(message), IsAboutAnIndex(message)});
+    }
+}
+
+void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
+{
+    for (const DanglingRows& rows : FindDanglingRows(database)) {
+        const QString text = Translate(QT_TRANSLATE_NOOP(
+            "MapCheck", "Rows of \"%1\" that belong to something missing from \"%2\": %3."));
+        problems.push_back({Kind::DanglingRows, text.arg(rows.table, rows.parent).arg(rows.count), true});
+    }
+}
+
+// Why the layer cannot be read; empty when it can.
+QString WhyUnreadable(const DataSource& source, const QString& path, const QString& layerName)
+{
+    const std::vector<SourceLayer> layers = source.Layers();
+    const bool known = std::any_of(
+        layers.begin(), layers.end(), [&](const SourceLayer& layer) { return layer.name == layerName; });
+    if (known)
+        return {};
+    return Translate(QT_TRANSLATE_NOOP("MapCheck", "\"%1\" has no layer named \"%2\"."))
+        .arg(QFileInfo(path).fileName(), layerName);
+}
+
+void AddUnreadable(Problems& problems, const QString& path, const std::set<QString>& layerNames)
+{
+    try {
+        const DataSource source(path);
+        for (const QString& layerName : layerNames) {
+            const QString reason = WhyUnreadable(source, path, layerName);
+            if (!reason.isEmpty())
+                problems.push_back({Kind::UnreadableData, reason, false});
+        }
+    } catch (const RunTimeError& error) {
+        problems.push_back({Kind::UnreadableData, error.Description(), false});
+    }
+}
+
+void AddMissingFile(Problems& problems, const QString& path)
+{
+    const QString text = Translate(QT_TRANSLATE_NOOP("MapCheck", "The data file \"%1\" is missing."));
+    problems.push_back({Kind::MissingData, text.arg(path), false});
+}
+
+void AddBackdrop(Problems& problems, const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    if (!QFileInfo::exists(path))
+        return AddMissingFile(problems, path);
+    try {
+        const RasterSource picture(path);
+    } catch (const RunTimeError& error) {
+        problems.push_back({Kind::UnreadableData, error.Description(), false});
+    }
+}
+
+void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
+{
+    std::map<QString, std::set<QString>> layerNames;
+    for (const LayerSource& source : sources)
+        layerNames[source.path].insert(source.ogrLayer);
+    for (const auto& [path, names] : layerNames) {
+        if (QFileInfo::exists(path))
+            AddUnreadable(problems, path, names);
+        else
+            AddMissingFile(problems, path);
+    }
+}
+
+Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path)
+{
+    Problems problems;
+    AddDamage(problems, database);
+    AddDanglingRows(problems, database);
+    AddMissingData(problems, SourceTable(database, path).All());
+    AddBackdrop(problems, FindBackdrop(database, path));
+    return problems;
+}
+
+bool HasRepairable(const Problems& problems, Kind kind)
+{
+    return std::any_of(problems.begin(), problems.end(), [kind](const MapProblem& problem) {
+        return problem.kind == kind && problem.repairable;
+    });
+}
+
+void Repair(const QString& path, const Problems& problems)
+{
+    const auto database = SqliteLayerDatabase::Open(path);
+    Transaction transaction(*database);
+    if (HasRepairable(problems, Kind::Damage))
+        database->Execute(QStringLiteral("REINDEX"));
+    if (HasRepairable(problems, Kind::DanglingRows))
+        RemoveDanglingRows(*database);
+    transaction.Commit();
+}
+
+} // namespace
+
+std::vector<MapProblem> CheckMap(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const auto database = SqliteLayerDatabase::Open(absolute, OpenMode::ReadOnly);
+    return ProblemsIn(*database, absolute);
+}
+
+std::vector<MapProblem> RepairMap(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    Problems problems = CheckMap(absolute);
+    if (!HasRepairable(problems, Kind::Damage) && !HasRepairable(problems, Kind::DanglingRows))
+        return problems;
+    Repair(absolute, problems);
+    return CheckMap(absolute);
+}
+
+} // namespace Orvane

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "shell/dialogs/RenderingDialog.h"
+
+#include "mapkit/common/Guard.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/looks/RendererStyles.h"
+#include "ui_RenderingDialog.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+QString StyleName(qint32 style)
+{
+    for (const RendererStyle& offered : RendererStyles::Offered()) {
+        if (offered.number == style)
+            return offered.name;
+    }
+    return RenderingDialog::tr("Standard");
+}
+
+// Empty when the source cannot be read.
+std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID)
+{
+    for (const LayerSource& source : document.Sources()) {
+        if (source.layerID != layerID)
+            continue;
+        try {
+            return DataSource(source.path).Fields(source.ogrLayer);
+        } catch (const RunTimeError&) { // the dialog says so
+        }
+    }
+    return {};
+}
+
+void FillAttributes(QComboBox& list, const std::vector<SourceField>& fields, AttributeUse use)
+{
+    list.clear();
+    const QString best = BestAttribute(fields, use);
+    list.addItem(
+        best.isEmpty() ? RenderingDialog::tr("None") : RenderingDialog::tr("Automatic (%1)").arg(best),
+        QString());
+    for (const SourceField& field : fields) {
+        if (field.isNumber || use == AttributeUse::Labels)
+            list.addItem(field.name, field.name);
+    }
+    list.setEnabled(list.count() > 1);
+}
+
+// An attribute that the source lost stays chosen until another is.
+void Choose(QComboBox& list, const QString& attribute)
+{
+    if (list.findData(attribute) < 0)
+        list.addItem(attribute, attribute);
+    list.setCurrentIndex(list.findData(attribute));
+}
+
+} // namespace
+
+RenderingDialog::RenderingDialog(
+    const MapDocument& document, const std::vector<MapLayer>& layers, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::RenderingDialog>()), m_document(document),
+      m_stored(document.Renderings().All())
+{
+    m_ui->setupUi(this);
+    m_ui->spnClassCount->setRange(Classification::MinCount, Classification::MaxCount);
+    FillLayers(layers);
+    ShowLayer();
+    Connect();
+}
+
+RenderingDialog::~RenderingDialog() = default;
+
+std::map<qint32, LayerRendering> RenderingDialog::Changes() const
+{
+    std::map<qint32, LayerRendering> changes = m_chosen;
+    std::erase_if(changes, [this](const auto& entry) {
+        const auto stored = m_stored.find(entry.first);
+        return entry.second == (stored == m_stored.end() ? LayerRendering() : stored->second);
+    });
+    return changes;
+}
+
+void RenderingDialog::FillLayers(const std::vector<MapLayer>& layers)
+{
+    std::vector<const MapLayer*> sorted;
+    for (const MapLayer& layer : layers) {
+        sorted.push_back(&layer);
+        m_styles[layer.layerID] = layer.values.style;
+    }
+    std::stable_sort(sorted.begin(), sorted.end(), [](const MapLayer* a, const MapLayer* b) {
+        return a->name.compare(b->name, Qt::CaseInsensitive) < 0;
+    });
+    for (const MapLayer* layer : sorted)
+        m_ui->cmbLayer->addItem(layer->name, layer->layerID);
+    const auto styled = std::find_if(sorted.begin(), sorted.end(), [](const MapLayer* layer) {
+        return RendererStyles::Has(layer->values.style, RendererStyles::Labelled | RendererStyles::Graduated);
+    });
+    if (styled != sorted.end())
+        m_ui->cmbLayer->setCurrentIndex(int(styled - sorted.begin()));
+}
+
+void RenderingDialog::Connect()
+{
+    connect(m_ui->buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_ui->buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_ui->cmbLayer, &QComboBox::currentIndexChanged, this, [this] {
+        Guard(this, [this] { ShowLayer(); });
+    });
+    for (QComboBox* list : {m_ui->cmbLabelAttribute, m_ui->cmbClassAttribute, m_ui->cmbDivision})
+        connect(list, &QComboBox::currentIndexChanged, this, &RenderingDialog::Keep);
+    connect(m_ui->spnClassCount, &QSpinBox::valueChanged, this, &RenderingDialog::Keep);
+}
+
+void RenderingDialog::ShowLayer()
+{
+    const QScopedValueRollback showing(m_isShowing, true);
+    const auto stored = m_stored.find(LayerID());
+    const LayerRendering known = stored == m_stored.end() ? LayerRendering() : stored->second;
+    const LayerRendering& shown = m_chosen.try_emplace(LayerID(), known).first->second;
+    m_ui->lblStyle->setText(StyleName(m_styles[LayerID()]));
+    ShowFields();
+    Choose(*m_ui->cmbLabelAttribute, shown.labelAttribute);
+    Choose(*m_ui->cmbClassAttribute, shown.classAttribute);
+    m_ui->cmbDivision->setCurrentIndex(int(shown.division));
+    m_ui->spnClassCount->setValue(shown.classCount);
+}
+
+void RenderingDialog::ShowFields()
+{
+    const std::vector<SourceField> fields = FieldsOf(m_document, LayerID());
+    m_ui->lblProblem->setVisible(fields.empty());
+    m_ui->framLabels->setEnabled(!fields.empty());
+    m_ui->framClasses->setEnabled(!BestAttribute(fields, AttributeUse::Classes).isEmpty());
+    FillAttributes(*m_ui->cmbLabelAttribute, fields, AttributeUse::Labels);
+    FillAttributes(*m_ui->cmbClassAttribute, fields, AttributeUse::Classes);
+}
+
+void RenderingDialog::Keep()
+{
+    if (m_isShowing)
+        return;
+    LayerRendering& chosen = m_chosen[LayerID()];
+    chosen.labelAttribute = m_ui->cmbLabelAttribute->currentData().toString();
+    chosen.classAttribute = m_ui->cmbClassAttribute->currentData().toString();
+    chosen.division = ClassDivision(m_ui->cmbDivision->currentIndex());
+    chosen.classCount = m_ui->spnClassCount->value();
+}
+
+qint32 RenderingDialog::LayerID() const
+{
+    return m_ui->cmbLayer->currentData().toInt();
+}
+
+} // namespace Orvane

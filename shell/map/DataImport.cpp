@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/DataImport.h"
+
+#include "mapkit/common/Progress.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/document/MapDocument.h"
+#include "samples/BgrColour.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/LayerValues.h>
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <array>
+
+namespace Orvane {
+
+namespace {
+
+struct Colours {
+    QRgb line;
+    QRgb fill;
+};
+
+constexpr std::array<Colours, 8> Cycle = {{
+    {0xff3b6ea5, 0xffd3e2f2},
+    {0xff5d7f3a, 0xffdde8cf},
+    {0xffa2543c, 0xfff1dccf},
+    {0xff7a5c99, 0xffe5dcee},
+    {0xff8a7433, 0xffefe7c8},
+    {0xff3b8686, 0xffd0e8e6},
+    {0xff9c4a6f, 0xfff2d8e3},
+    {0xff5f6b73, 0xffe1e5e8},
+}};
+
+// Points over lines over areas.
+int PriorityOf(FeatureKind kind)
+{
+    switch (kind) {
+    case FeatureKind::Point:
+        return 60;
+    case FeatureKind::Line:
+        return 110;
+    case FeatureKind::Area:
+        break;
+    }
+    return 170;
+}
+
+} // namespace
+
+NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
+{
+    const Colours& colours = Cycle[number % Cycle.size()];
+    NewLayer layer;
+    layer.name = found.name;
+    layer.values.color = Bgr(colours.line);
+    layer.values.fillForeColor = Bgr(colours.fill);
+    layer.values.fillBackColor = TransparentColour;
+    layer.priority = PriorityOf(found.kind);
+    layer.path = path;
+    layer.ogrLayer = found.name;
+    return layer;
+}
+
+FoundData LookInto(const QStringList& paths, Progress& progress)
+{
+    FoundData data;
+    for (const QString& path : paths) {
+        progress.StopIfCancelled();
+        progress.Report(double(data.sources.size() + size_t(data.problems.size())) / double(paths.size()));
+        try {
+            std::vector<SourceLayer> layers = DataSource(path).Layers();
+            if (layers.empty())
+                data.problems << QCoreApplication::translate("DataImport", "\"%1\" holds nothing to draw.")
+                                     .arg(QFileInfo(path).fileName());
+            else
+                data.sources.push_back({QFileInfo(path).absoluteFilePath(), std::move(layers)});
+        } catch (const RunTimeError& error) {
+            data.problems << error.Description();
+        }
+    }
+    return data;
+}
+
+void AddToMap(MapDocument& document, const FoundData& data)
+{
+    if (data.sources.empty())
+        return;
+    Transaction transaction(document.Database());
+    const SourceLayer& first = data.sources.front().layers.front();
+    if (document.System().isEmpty())
+        document.SetSystem(SystemToShow(first.system, first.extent));
+    size_t number = document.Sources().size();
+    for (const FoundData::Source& source : data.sources) {
+        const qint32 groupID = document.AddGroup(QFileInfo(source.path).completeBaseName(), true);
+        for (const SourceLayer& layer : source.layers)
+            document.AddMember(groupID, document.AddLayer(LayerFor(source.path, layer, number++)));
+    }
+    transaction.Commit();
+}
+
+} // namespace Orvane

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/drawing/MapLayer.h"
+#include "mapkit/looks/LayerRendering.h"
+
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace Orvane {
+
+class IShellServices;
+
+/// The attributes that renderer styles work with, as far as they were read, and the classes they make.
+///
+///     attributes.SetRendering(layerID, rendering);
+///     for (const AttributeRequest& request : attributes.Missing(layers, sources))
+///         attributes.Take(request, ReadAttribute(request, progress));
+///     attributes.Fit(layer, services);
+class LayerAttributes
+{
+public:
+    /// What the layer's renderer style works with from now on.
+    void SetRendering(qint32 layerID, const LayerRendering& rendering) { m_renderings[layerID] = rendering; }
+    /// Forgets all that is known of a layer.
+    void Forget(qint32 layerID);
+
+    /// What the layers' styles need and was not read yet. sources: of any layers, in any order.
+    std::vector<AttributeRequest>
+    Missing(const std::vector<MapLayer>& layers, const std::vector<LayerSource>& sources) const;
+    void Take(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
+
+    /// Gives the layer the labels and classes of its style, as far as they are read. Passes on what the
+    /// services raise.
+    void Fit(MapLayer& layer, const IShellServices& services);
+
+private:
+    struct Read {
+        std::shared_ptr<const FeatureSet> features;
+        QString attribute; // as asked for
+        std::shared_ptr<const AttributeColumn> column;
+    };
+    struct Classes {
+        std::shared_ptr<const AttributeColumn> column;
+        ClassDivision division = ClassDivision::Quantiles;
+        int count = 0;
+        std::shared_ptr<const Classification> classification;
+    };
+
+    LayerRendering RenderingOf(qint32 layerID) const;
+    std::shared_ptr<const AttributeColumn> Column(const MapLayer& layer, AttributeUse use) const;
+    std::shared_ptr<const Classification> ClassesOf(const MapLayer& layer);
+
+    std::map<qint32, LayerRendering> m_renderings;
+    std::map<std::pair<qint32, AttributeUse>, Read> m_read;
+    std::map<qint32, Classes> m_classes;
+};
+
+} // namespace Orvane

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/MapLayers.h"
+
+#include "hostkit/common/StoredScale.h"
+#include "mapkit/document/MapDocument.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int MaximumPriority = 255;
+constexpr qsizetype FewLayers = 64; // from here on reading all rows at once is faster
+
+// A null column counts as the value given.
+double NumberOr(const IRecordset& row, std::string_view column, double otherwise)
+{
+    const Value value = row.Field(column);
+    return value.IsNull() ? otherwise : ToDouble(value);
+}
+
+int WholeOr(const IRecordset& row, std::string_view column, int otherwise)
+{
+    return int(RoundHalfToEven(NumberOr(row, column, otherwise)));
+}
+
+DrawingValues ValuesOfRow(const IRecordset& row)
+{
+    DrawingValues values;
+    values.color = WholeOr(row, "Color", 0);
+    values.fillForeColor = WholeOr(row, "FillForeColor", 0);
+    values.fillBackColor = WholeOr(row, "FillBackColor", 0);
+    values.outlineStyle = WholeOr(row, "OutlineStyle", 0);
+    values.fillStyle = WholeOr(row, "FillStyle", 0);
+    values.lineThickness = WholeOr(row, "LineThickness", 0);
+    values.style = WholeOr(row, "Style", 0);
+    return values;
+}
+
+LayerFlags FlagsOfRow(const IRecordset& row)
+{
+    LayerFlags flags;
+    flags.selectable = WholeOr(row, "Selectable", 1) != 0;
+    flags.locked = WholeOr(row, "locked", 0) != 0;
+    flags.hitable = WholeOr(row, "Hitable", 1) != 0;
+    flags.snapRequired = WholeOr(row, "SnapRequired", 0) != 0;
+    flags.enquirable = WholeOr(row, "Enquirable", 1) != 0;
+    return flags;
+}
+
+DrawMode ModeOfRow(const IRecordset& row)
+{
+    const int mode = WholeOr(row, "OverrideMode", 0);
+    return mode == int(DrawMode::Backdrop) || mode == int(DrawMode::Hidden) ? DrawMode(mode)
+                                                                            : DrawMode::Normal;
+}
+
+bool IsSameData(const LayerSource& one, const LayerSource& other)
+{
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter;
+}
+
+} // namespace
+
+MapLayers::MapLayers(const MapDocument& document, const IShellServices& services, double pixelsPerMillimetre)
+    : m_document(document), m_services(services), m_pixelsPerMillimetre(pixelsPerMillimetre)
+{
+}
+
+void MapLayers::ReadAll()
+{
+    std::vector<MapLayer> layers;
+    const auto rows = m_document.Database().OpenRecordset(QStringLiteral("SELECT * FROM Layers"));
+    for (; !rows->AtEOF(); rows->MoveNext())
+        layers.push_back(LayerOfRow(*rows));
+    m_layers = std::move(layers);
+    for (const auto& [layerID, rendering] : m_document.Renderings().All())
+        m_attributes.SetRendering(layerID, rendering);
+    FitAttributes();
+}
+
+void MapLayers::DropFeaturesOfOtherData()
+{
+    for (const LayerSource& source : m_document.Sources()) {
+        const auto [known, isNew] = m_sources.try_emplace(source.layerID, source);
+        if (isNew || IsSameData(known->second, source))
+            continue;
+        known->second = source;
+        m_features.erase(source.layerID);
+        m_unreadable.remove(source.layerID);
+    }
+}
+
+void MapLayers::Read(const QSet<qint32>& layerIDs)
+{
+    if (layerIDs.size() > FewLayers)
+        return ReadAll();
+    const auto table = m_document.Database().OpenRecordset(QStringLiteral("Layers"));
+    table->Index("LayerIDIDX");
+    for (const qint32 layerID : layerIDs) {
+        table->Seek("=", layerID);
+        Replace(layerID, *table);
+        m_attributes.SetRendering(layerID, m_document.Renderings().Of(layerID));
+    }
+    FitAttributes();
+}
+
+void MapLayers::TakeFeatures(const SourceContents& contents)
+{
+    for (const auto& [layerID, features] : contents.features) {
+        m_features[layerID] = features;
+        m_unreadable.remove(layerID);
+    }
+    for (const auto& [layerID, reason] : contents.failures) {
+        m_features.erase(layerID);
+        m_unreadable.insert(layerID);
+    }
+    for (MapLayer& layer : m_layers) {
+        const auto found = m_features.find(layer.layerID);
+        layer.features = found != m_features.end() ? found->second : nullptr;
+    }
+    FitAttributes();
+}
+
+std::vector<LayerSource> MapLayers::MissingSources() const
+{
+    std::vector<LayerSource> sources = m_document.Sources();
+    std::erase_if(sources, [&](const LayerSource& source) { return m_features.contains(source.layerID); });
+    return sources;
+}
+
+std::vector<AttributeRequest> MapLayers::MissingAttributes() const
+{
+    const bool isPlain = std::all_of(
+        m_layers.begin(), m_layers.end(), [](const MapLayer& layer) { return layer.values.style == 0; });
+    if (isPlain)
+        return {};
+    return m_attributes.Missing(m_layers, m_document.Sources());
+}
+
+void MapLayers::TakeAttribute(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column)
+{
+    m_attributes.Take(request, std::move(column));
+    FitAttributes();
+}
+
+void MapLayers::ReadMissingAttributes(Progress& progress)
+{
+    for (const AttributeRequest& request : MissingAttributes()) {
+        try {
+            const AttributeColumn column = ReadAttribute(request, progress);
+            TakeAttribute(request, std::make_shared<const AttributeColumn>(column));
+        } catch (const RunTimeError&) { // the map is drawn without
+        }
+    }
+}
+
+void MapLayers::FitAttributes()
+{
+    for (MapLayer& layer : m_layers)
+        m_attributes.Fit(layer, m_services);
+}
+
+MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
+{
+    MapLayer layer;
+    layer.layerID = ToInt32(row.Field("LayerID"));
+    const Value name = row.Field("Name");
+    layer.name = ToTextOrNone(name);
+    layer.visible = WholeOr(row, "Visible", 1) != 0;
+    layer.flags = FlagsOfRow(row);
+    layer.mode = ModeOfRow(row);
+    layer.priority = WholeOr(row, "Priority", MaximumPriority);
+    const double minimum = NumberOr(row, "MinVisScale", 0);
+    layer.minDenominator = minimum < StoredScale::NoMaximum ? minimum : 0; // beyond every scale: no limit
+    const double limit = NumberOr(row, "MaxVisScale", 0);
+    if (limit > 0)
+        layer.maxDenominator = limit;
+    layer.values = ValuesOfRow(row);
+    layer.look = LookOf(layer.values, m_services, m_pixelsPerMillimetre);
+    const auto features = m_features.find(layer.layerID);
+    if (features != m_features.end())
+        layer.features = features->second;
+    return layer;
+}
+
+void MapLayers::Replace(qint32 layerID, const IRecordset& row)
+{
+    const auto known = std::find_if(
+        m_layers.begin(), m_layers.end(), [&](const MapLayer& layer) { return layer.layerID == layerID; });
+    if (row.NoMatch()) {
+        if (known != m_layers.end())
+            m_layers.erase(known);
+        m_features.erase(layerID);
+        m_unreadable.remove(layerID);
+        m_attributes.Forget(layerID);
+        return;
+    }
+    if (known == m_layers.end())
+        m_layers.push_back(LayerOfRow(row));
+    else
+        *known = LayerOfRow(row);
+}
+
+} // namespace Orvane

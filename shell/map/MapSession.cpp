@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/MapSession.h"
+
+#include "hostkit/common/HostNotifications.h"
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/StartupSchemes.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Guard.h"
+#include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/RasterBackdrop.h"
+#include "mapkit/output/PageSettings.h"
+#include "shell/map/LayerCreation.h"
+#include "shell/window/RunWithProgress.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <chrono>
+
+namespace Orvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds MarkDelay{150};
+
+QString StartupFile()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return folder.filePath(QStringLiteral("startup.orvane"));
+}
+
+} // namespace
+
+MapSession::MapSession(
+    std::unique_ptr<MapDocument> document, MapCanvas& canvas, QWidget& mainWindow, CallTrace* trace)
+    : m_canvas(canvas), m_mainWindow(mainWindow), m_document(std::move(document)),
+      m_layers(*m_document, m_services, canvas.logicalDpiX() / MillimetresPerInch),
+      m_client(m_document->Database(), m_services, m_states, mainWindow), m_follower(*m_document, mainWindow)
+{
+    if (trace)
+        m_traced = std::make_unique<TracingClient>(m_client, *trace);
+    m_client.SetStartupFile(StartupFile());
+    m_client.SetLayerMaker(
+        [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
+    Connect();
+}
+
+MapSession::~MapSession()
+{
+    m_canvas.SetBackdrop(nullptr);
+}
+
+IStyleEditorClient& MapSession::Client()
+{
+    return m_traced ? static_cast<IStyleEditorClient&>(*m_traced) : m_client;
+}
+
+// No step of its own: undoing the data's coming takes the values with it.
+void MapSession::BeginSchemes()
+{
+    StartupSchemes::Load(m_document->Database(), StartupFile());
+    LayerSchemes schemes(m_document->Database());
+    schemes.Load(schemes.Current());
+    schemes.Save(schemes.Current());
+}
+
+QString MapSession::ReadAndShow()
+{
+    m_client.InvalidateLayerNames();
+    m_layers.DropFeaturesOfOtherData();
+    m_layers.ReadAll();
+    m_follower.Follow();
+    const std::vector<LayerSource> sources = m_layers.MissingSources();
+    SourceContents contents;
+    RunWithProgress(
+        &m_mainWindow, tr("Reading map data"), [&, system = m_document->System()](Progress& progress) {
+            contents = ReadSources(sources, system, progress);
+        });
+    m_layers.TakeFeatures(contents);
+    Show();
+    emit LayersRead();
+    QStringList problems = {contents.FailureText(), OpenBackdrop()};
+    problems.removeAll(QString());
+    return problems.join(QLatin1Char('\n'));
+}
+
+bool MapSession::HasUnreadLayers() const
+{
+    const std::vector<LayerSource> missing = m_layers.MissingSources();
+    return std::any_of(missing.begin(), missing.end(), [this](const LayerSource& source) {
+        return !m_layers.Unreadable().contains(source.layerID);
+    });
+}
+
+// Why it cannot be shown; empty when it is, or there is none.
+QString MapSession::OpenBackdrop()
+{
+    const QString path = m_document->Backdrop();
+    std::shared_ptr<const RasterBackdrop> backdrop = m_canvas.Picture().Backdrop();
+    if (!backdrop || backdrop->Source().Path() != path)
+        backdrop.reset();
+    QString problem;
+    try {
+        if (!path.isEmpty() && !backdrop)
+            backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+    } catch (const RunTimeError& error) {
+        problem = error.Description();
+    }
+    m_canvas.SetBackdrop(backdrop);
+    return problem;
+}
+
+void MapSession::SetBackdrop(const QString& path)
+{
+    std::shared_ptr<const RasterBackdrop> backdrop;
+    const bool first = m_document->System().isEmpty();
+    if (!path.isEmpty()) {
+        RunWithProgress(
+            &m_mainWindow, tr("Opening the picture"), [&, system = m_document->System()](Progress&) {
+                backdrop = std::make_shared<const RasterBackdrop>(path, system);
+            });
+    }
+    Transaction transaction(m_document->Database());
+    if (backdrop && first) {
+        const RasterSource& source = backdrop->Source();
+        m_document->SetSystem(SystemToShow(source.System(), source.Extent()));
+        backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+    }
+    m_document->SetBackdrop(path);
+    transaction.Commit();
+    m_canvas.SetBackdrop(backdrop);
+    if (backdrop && first) {
+        Show();
+        m_canvas.ZoomToAll();
+    }
+}
+
+void MapSession::TakeFeatures(const SourceContents& contents)
+{
+    m_layers.TakeFeatures(contents);
+    Show();
+}
+
+void MapSession::Connect()
+{
+    m_markSoon.setSingleShot(true);
+    m_markSoon.setInterval(MarkDelay);
+    connect(&m_markSoon, &QTimer::timeout, this, [this] { Guard(&m_mainWindow, [this] { MarkNames(); }); });
+    connect(&m_canvas, &MapCanvas::ViewChanged, &m_markSoon, qOverload<>(&QTimer::start));
+    connect(&m_follower, &SourceFollower::Read, this, [this](const SourceContents& contents) {
+        Guard(&m_mainWindow, [&] {
+            m_layers.TakeFeatures(contents);
+            Show();
+        });
+    });
+    connect(
+        &m_attributes, &AttributeLoader::Loaded, this,
+        [this](const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column) {
+            Guard(&m_mainWindow, [&] {
+                m_layers.TakeAttribute(request, std::move(column));
+                m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+            });
+        });
+    connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
+    connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
+    const HostNotifications& events = m_client.Notifications();
+    connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
+    connect(&events, &HostNotifications::LayerCreated, this, &MapSession::ReadNewLayer);
+    connect(
+        &events, &HostNotifications::LayerRenamed, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+    connect(
+        &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+}
+
+// A layer may come with data: of a source, or back from its deletion.
+void MapSession::ReadNewLayer()
+{
+    Guard(&m_mainWindow, [this] { ReadAndShow(); });
+}
+
+void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
+{
+    Guard(&m_mainWindow, [&] {
+        m_layers.Read(layerIDs);
+        Show();
+    });
+}
+
+void MapSession::Show()
+{
+    m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+    MarkNames();
+    m_attributes.Load(m_layers.MissingAttributes());
+}
+
+void MapSession::MarkNames()
+{
+    m_client.RefreshListedNames(
+        m_states.Update(m_layers.All(), m_layers.Unreadable(), m_canvas.ScaleDenominator()));
+}
+
+} // namespace Orvane

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/StandardShellServices.h"
+#include "hostkit/tracing/TracingClient.h"
+#include "shell/map/AttributeLoader.h"
+#include "shell/map/LayerStates.h"
+#include "shell/map/MapLayers.h"
+#include "shell/map/ShellClient.h"
+#include "shell/map/SourceFollower.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+namespace Orvane {
+
+class MapCanvas;
+class MapDocument;
+class CallTrace;
+
+/// One open map: its file, its layers, its client for the component, and the canvas that shows it. What the
+/// component changes is drawn at once; data files that come back or change are shown anew; and the layer
+/// control lists which layers the scale or a missing source keeps from the map.
+class MapSession : public QObject
+{
+    Q_OBJECT
+public:
+    /// canvas and mainWindow outlive this object; so does the trace, nullptr for no trace.
+    MapSession(
+        std::unique_ptr<MapDocument> document, MapCanvas& canvas, QWidget& mainWindow, CallTrace* trace);
+    ~MapSession() override;
+
+    MapDocument& Document() { return *m_document; }
+    /// The layers as they are drawn.
+    const std::vector<MapLayer>& Layers() const { return m_layers.All(); }
+    /// The client itself.
+    ShellClient& Shell() { return m_client; }
+    /// What to hand to the component: the client, traced when there is a trace.
+    IStyleEditorClient& Client();
+
+    /// Begins the schemes of a map that has its first layers: those of the startup database, whose current
+    /// one the layers follow as far as it knows them, or else one of the layers as they are. Before
+    /// ReadAndShow.
+    void BeginSchemes();
+
+    /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
+    /// layers could not be read, empty when all could. Raises errors of the database.
+    QString ReadAndShow();
+    /// True when reading was cancelled before it came to each layer.
+    bool HasUnreadLayers() const;
+    /// Reads these layers' rows anew and draws them.
+    void DrawAgain(const QSet<qint32>& layerIDs);
+
+    /// Lays a picture under the map and keeps it with the map; an empty path takes it away. Raises, with the
+    /// map as it was, for a file that is no georeferenced picture, and errors of the database.
+    void SetBackdrop(const QString& path);
+    /// Shows these features in place of those that the layers had.
+    void TakeFeatures(const SourceContents& contents);
+
+signals:
+    /// The map's file is no longer where it was; what is open can still be saved under another name.
+    void MapFileGone();
+    /// Data that were shown cannot be read any more.
+    void DataFailed(const QString& reason);
+    /// All layers were read anew.
+    void LayersRead();
+
+private:
+    void Connect();
+    void ReadNewLayer();
+    QString OpenBackdrop();
+    void Show();
+    void MarkNames();
+
+    MapCanvas& m_canvas;
+    QWidget& m_mainWindow;
+    StandardShellServices m_services;
+    std::unique_ptr<MapDocument> m_document;
+    MapLayers m_layers;
+    LayerStates m_states;
+    AttributeLoader m_attributes;
+    ShellClient m_client;
+    std::unique_ptr<TracingClient> m_traced;
+    SourceFollower m_follower;
+    QTimer m_markSoon; // gathers the many steps of a zoom
+};
+
+} // namespace Orvane

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/MapSharing.h"
+
+#include "mapkit/common/Guard.h"
+#include "mapkit/document/MapDocument.h"
+#include "store/LayerFileUse.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace Orvane {
+
+namespace {
+
+qint64 VersionOf(const MapDocument& document)
+{
+    const auto row = document.Database().OpenQuery(QStringLiteral("PRAGMA data_version"));
+    return ToInt32(row->Field("data_version"));
+}
+
+// While something is asked or worked at, the map stays as it is.
+bool IsBusy()
+{
+    return QApplication::activeModalWidget() || QApplication::overrideCursor();
+}
+
+} // namespace
+
+MapSharing::MapSharing(QWidget& window, ShowAgain showAgain)
+    : m_window(window), m_showAgain(std::move(showAgain))
+{
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive && m_document && !IsBusy())
+            Guard(&m_window, [this] { Look(); });
+    });
+}
+
+bool MapSharing::MayOpen(const QString& path)
+{
+    if (!IsLayerFileInUse(path))
+        return true;
+    QMessageBox box(
+        QMessageBox::Question, tr("Open Map"),
+        tr("The map \"%1\" is open in another window or program. Open it here too?")
+            .arg(QFileInfo(path).fileName()),
+        QMessageBox::Open | QMessageBox::Cancel, &m_window);
+    box.setObjectName(QStringLiteral("dlgMapShared"));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        tr("What is changed in one window is stored at once, and shown in the other when you go to it."));
+    box.setDefaultButton(QMessageBox::Open);
+    return box.exec() == QMessageBox::Open;
+}
+
+void MapSharing::Follow(const MapDocument& document)
+{
+    m_document = &document;
+    m_version = VersionOf(document);
+}
+
+void MapSharing::Look()
+{
+    const qint64 now = VersionOf(*m_document);
+    if (now != m_version && m_showAgain())
+        m_version = now;
+}
+
+} // namespace Orvane

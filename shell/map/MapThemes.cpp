@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/MapThemes.h"
+
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/Transaction.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QCollator>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+constexpr auto VisibleLayers = "SELECT LayerID FROM Layers WHERE Visible <> 0 AND Code > -2"
+                               " AND coalesce(OverrideMode, 0) <> 2 AND coalesce(Pseudo, 0) = 0";
+
+void SortForPerson(std::vector<MapThemes::Theme>& themes)
+{
+    QCollator collator;
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    collator.setNumericMode(true);
+    std::stable_sort(themes.begin(), themes.end(), [&](const auto& one, const auto& other) {
+        return collator.compare(one.name, other.name) < 0;
+    });
+}
+
+} // namespace
+
+std::vector<MapThemes::Theme> MapThemes::All() const
+{
+    std::vector<Theme> themes;
+    if (!HasTables())
+        return themes;
+    const auto rows
+        = m_database.OpenQuery(QStringLiteral("SELECT ThemeID, Name FROM Themes ORDER BY ThemeID"));
+    for (; !rows->AtEOF(); rows->MoveNext())
+        themes.push_back({ToInt32(rows->Field("ThemeID")), ToText(rows->Field("Name"))});
+    SortForPerson(themes);
+    return themes;
+}
+
+std::optional<MapThemes::Theme> MapThemes::Find(const QString& name) const
+{
+    for (const Theme& theme : All()) {
+        if (theme.name == name)
+            return theme;
+    }
+    return std::nullopt;
+}
+
+QString MapThemes::NameOf(qint32 themeID) const
+{
+    if (!HasTables())
+        return {};
+    const auto row
+        = m_database.OpenQuery(QStringLiteral("SELECT Name FROM Themes WHERE ThemeID = ?1"), {themeID});
+    return row->AtEOF() ? QString() : ToText(row->Field("Name"));
+}
+
+QSet<qint32> MapThemes::LayersOf(qint32 themeID) const
+{
+    QSet<qint32> layerIDs;
+    if (!HasTables())
+        return layerIDs;
+    const auto rows = m_database.OpenQuery(
+        QStringLiteral("SELECT LayerID FROM ThemeLayers WHERE ThemeID = ?1"), {themeID});
+    for (; !rows->AtEOF(); rows->MoveNext())
+        layerIDs.insert(ToInt32(rows->Field("LayerID")));
+    return layerIDs;
+}
+
+bool MapThemes::HasVisibleLayers() const
+{
+    return !m_database.OpenQuery(QLatin1String(VisibleLayers) + QLatin1String(" LIMIT 1"))->AtEOF();
+}
+
+qint32 MapThemes::StoreVisibleLayers(const QString& name)
+{
+    Transaction transaction(m_database);
+    MakeTables();
+    m_database.Execute(QStringLiteral("INSERT OR IGNORE INTO Themes (Name) VALUES (?1)"), {name});
+    const qint32 themeID = Find(name)->id;
+    m_database.Execute(QStringLiteral("DELETE FROM ThemeLayers WHERE ThemeID = ?1"), {themeID});
+    m_database.Execute(
+        QStringLiteral("INSERT INTO ThemeLayers (ThemeID, LayerID) SELECT ?1, LayerID FROM (%1)")
+            .arg(QLatin1String(VisibleLayers)),
+        {themeID});
+    transaction.Commit();
+    return themeID;
+}
+
+void MapThemes::AddLayer(qint32 themeID, qint32 layerID)
+{
+    m_database.Execute(
+        QStringLiteral("INSERT OR IGNORE INTO ThemeLayers (ThemeID, LayerID) VALUES (?1, ?2)"),
+        {themeID, layerID});
+}
+
+void MapThemes::Remove(qint32 themeID)
+{
+    m_database.Execute(QStringLiteral("DELETE FROM Themes WHERE ThemeID = ?1"), {themeID});
+}
+
+bool MapThemes::HasTables() const
+{
+    return !m_database
+                .OpenQuery(QStringLiteral(
+                    "SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'ThemeLayers'"))
+                ->AtEOF();
+}
+
+void MapThemes::MakeTables()
+{
+    m_database.Execute(QStringLiteral("CREATE TABLE IF NOT EXISTS Themes ("
+                                      "ThemeID INTEGER PRIMARY KEY, Name TEXT NOT NULL UNIQUE)"));
+    // Layer first: a deleted layer is found by it.
+    m_database.Execute(
+        QStringLiteral("CREATE TABLE IF NOT EXISTS ThemeLayers ("
+                       "LayerID INTEGER NOT NULL REFERENCES Layers (LayerID) ON DELETE CASCADE,"
+                       " ThemeID INTEGER NOT NULL REFERENCES Themes (ThemeID) ON DELETE CASCADE,"
+                       " PRIMARY KEY (LayerID, ThemeID)) WITHOUT ROWID"));
+    m_database.Execute(QStringLiteral("CREATE INDEX IF NOT EXISTS ThemeIDX ON ThemeLayers (ThemeID)"));
+}
+
+} // namespace Orvane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "shell/window/EmptyMapHint.h"
+
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/canvas/MapPicture.h"
+
+#include <QPainter>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int Margin = 24; // pixels
+const QColor TextColour(0x5f, 0x5f, 0x5f); // the canvas is white in every palette
+
+} // namespace
+
+EmptyMapHint::EmptyMapHint(MapCanvas& canvas) : m_canvas(canvas)
+{
+    m_canvas.AddOverlay(this);
+}
+
+EmptyMapHint::~EmptyMapHint()
+{
+    m_canvas.RemoveOverlay(this);
+}
+
+void EmptyMapHint::Paint(QPainter& painter, const MapView&) const
+{
+    if (!m_canvas.Layers().empty() || m_canvas.Picture().Backdrop())
+        return;
+    painter.setFont(m_canvas.font());
+    painter.setPen(TextColour);
+    painter.drawText(
+        m_canvas.rect().adjusted(Margin, Margin, -Margin, -Margin), Qt::AlignCenter | Qt::TextWordWrap,
+        tr("This map is empty. Choose File > Open Data..., or drop data files here."));
+}
+
+} // namespace Orvane

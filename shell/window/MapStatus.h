@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mapkit/coordinates/PositionText.h"
+
+#include <QObject>
+
+class QLabel;
+class QStatusBar;
+
+namespace Orvane {
+
+class MapCanvas;
+
+/// What the status bar tells of the map: the scale, where the pointer is, and that a drawing takes its time.
+class MapStatus : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Adds its labels to the bar, which owns them and this object. canvas: not owned; outlives it.
+    MapStatus(QStatusBar& bar, MapCanvas& canvas);
+
+    /// The coordinate system that positions are shown in; empty for none.
+    void SetSystem(const QString& system);
+
+private:
+    QLabel* AddLabel(const QString& name);
+    void MarkDrawing();
+    void ShowScale();
+
+    QStatusBar& m_bar;
+    MapCanvas& m_canvas;
+    PositionText m_positionText{QString()};
+    QLabel* m_drawing;
+    QLabel* m_position;
+    QLabel* m_scale;
+};
+
+} // namespace Orvane

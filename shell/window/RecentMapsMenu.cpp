@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "shell/window/RecentMapsMenu.h"
+
+#include "mapkit/common/Guard.h"
+#include "shell/window/RecentMaps.h"
+
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+
+namespace Orvane {
+
+RecentMapsMenu::RecentMapsMenu(QMenu& menu, QWidget& window) : m_menu(menu), m_window(window)
+{
+    connect(&menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { Fill(); }); });
+}
+
+void RecentMapsMenu::Fill()
+{
+    m_menu.clear();
+    for (const QString& path : RecentMaps::All()) {
+        QAction* action = m_menu.addAction(QFileInfo(path).fileName());
+        action->setStatusTip(path);
+        connect(action, &QAction::triggered, this, [this, path] { Guard(&m_window, [&] { Choose(path); }); });
+    }
+    if (m_menu.isEmpty())
+        m_menu.addAction(tr("No maps yet"))->setEnabled(false);
+}
+
+void RecentMapsMenu::Choose(const QString& path)
+{
+    if (QFileInfo::exists(path)) {
+        emit Chosen(path);
+        return;
+    }
+    RecentMaps::Remove(path);
+    QMessageBox::information(
+        &m_window, tr("Open Recent"),
+        tr("The map \"%1\" is no longer there. It was taken off the list.").arg(path));
+}
+
+} // namespace Orvane

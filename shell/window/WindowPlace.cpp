@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "shell/window/WindowPlace.h"
+
+#include <QMainWindow>
+#include <QScreen>
+#include <QSettings>
+#include <QToolBar>
+
+namespace Orvane::WindowPlace {
+
+namespace {
+
+constexpr auto GeometryKey = "MainWindow/Geometry";
+constexpr auto StateKey = "MainWindow/State";
+constexpr int BarGap = 4; // pixels between tool bars, at most
+
+// So that no tool hides behind an arrow.
+QSize SizeOfTools(const QMainWindow& window)
+{
+    QSize tools(0, 0);
+    for (const QToolBar* bar : window.findChildren<QToolBar*>())
+        tools += QSize(bar->sizeHint().width() + BarGap, 0);
+    return tools;
+}
+
+void PlaceFirstTime(QMainWindow& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize size(screen.width() * 62 / 100, screen.height() * 84 / 100);
+    window.resize(
+        size.expandedTo(window.minimumSizeHint()).expandedTo(SizeOfTools(window)).boundedTo(screen.size()));
+    window.move(screen.left() + screen.width() / 100, screen.top() + screen.height() * 6 / 100);
+}
+
+} // namespace
+
+void Restore(QMainWindow& window)
+{
+    const QSettings settings;
+    if (!window.restoreGeometry(settings.value(QLatin1String(GeometryKey)).toByteArray()))
+        PlaceFirstTime(window);
+    window.restoreState(settings.value(QLatin1String(StateKey)).toByteArray());
+}
+
+void Store(const QMainWindow& window)
+{
+    QSettings settings;
+    settings.setValue(QLatin1String(GeometryKey), window.saveGeometry());
+    settings.setValue(QLatin1String(StateKey), window.saveState());
+}
+
+} // namespace Orvane::WindowPlace

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/trees/LayerTreeList.h"
+#include "component/dialog/trees/LayerTreeModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTreeView>
+#include <QtTest>
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int GroupCount = 2000;
+constexpr int LayersOfEach = 50;
+
+/// Counts how often all rows are laid out.
+class CountingView : public QTreeView
+{
+public:
+    int layouts = 0;
+
+    void doItemsLayout() override
+    {
+        ++layouts;
+        QTreeView::doItemsLayout();
+    }
+};
+
+std::vector<GroupEntry> ManyGroups(bool expanded)
+{
+    std::vector<GroupEntry> groups;
+    qint32 layerID = 0;
+    for (qint32 groupID = 1; groupID <= GroupCount; ++groupID) {
+        GroupEntry& group = groups.emplace_back();
+        group.groupID = groupID;
+        group.text = QStringLiteral("Group %1").arg(groupID);
+        group.expanded = expanded;
+        for (int member = 0; member < LayersOfEach; ++member) {
+            ++layerID;
+            group.layers.push_back({layerID, 1, QStringLiteral("Layer %1").arg(layerID)});
+        }
+    }
+    return groups;
+}
+
+class LayerTreesScaleTest : public testing::Test
+{
+protected:
+    CountingView view;
+    LayerTreeList list{&view};
+
+    void TearDown() override { view.close(); }
+
+    void Show()
+    {
+        view.resize(300, 600);
+        view.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    }
+
+    /// Notes a duration with the test's result; nothing depends on it.
+    template <typename Action> void Measure(const char* name, Action action)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        action();
+        RecordProperty(name, int(timer.nsecsElapsed() / 1000));
+        std::printf("%s: %.1f ms\n", name, double(timer.nsecsElapsed()) / 1e6);
+    }
+};
+
+} // namespace
+
+TEST_F(LayerTreesScaleTest, AHundredThousandExpandedLayersAreLaidOutOnce)
+{
+    Show();
+    std::vector<GroupEntry> groups = ManyGroups(true);
+    view.layouts = 0;
+    Measure("load", [&] { list.ShowGroups(std::move(groups)); });
+    Measure("paint", [&] { view.grab(); });
+    EXPECT_EQ(view.layouts, 1);
+    EXPECT_TRUE(view.isExpanded(list.Model().index(GroupCount - 1, 0)));
+}
+
+TEST_F(LayerTreesScaleTest, ExpandingAndCollapsingAllSaysNothingAboutSingleGroups)
+{
+    Show();
+    list.ShowGroups(ManyGroups(false));
+    QSignalSpy expansions(&list, &LayerTreeList::ExpansionChanged);
+    Measure("expand all", [&] { list.SetAllExpanded(true); });
+    EXPECT_TRUE(view.isExpanded(list.Model().index(0, 0)));
+    EXPECT_TRUE(list.GroupsWithout(true).empty());
+    Measure("collapse all", [&] { list.SetAllExpanded(false); });
+    EXPECT_EQ(list.GroupsWithout(true).size(), size_t(GroupCount));
+    EXPECT_EQ(expansions.count(), 0);
+}
+
+TEST_F(LayerTreesScaleTest, AChangeOfAllLayersIsReportedInOneRangeForEachGroup)
+{
+    Show();
+    list.ShowGroups(ManyGroups(true));
+    std::vector<qint32> all;
+    for (qint32 layerID = 1; layerID <= GroupCount * LayersOfEach; ++layerID)
+        all.push_back(layerID);
+    QSignalSpy changes(&list.Model(), &LayerTreeModel::dataChanged);
+    Measure("change all", [&] { list.Model().SetQuickMode(all, 4); });
+    EXPECT_EQ(changes.count(), GroupCount + 1);
+}
+
+TEST_F(LayerTreesScaleTest, ALayerAtTheEndIsFoundAndKeptAcrossAReload)
+{
+    Show();
+    list.ShowGroups(ManyGroups(true));
+    const NodeReference last{
+        .isGroup = false, .groupID = GroupCount, .layerID = GroupCount * LayersOfEach, .image = 1};
+    ASSERT_TRUE(list.MakeCurrent(last));
+    list.ScrollToCurrent();
+    view.layouts = 0;
+    Measure("reload", [&] { list.ShowGroups(ManyGroups(true)); });
+    EXPECT_EQ(view.layouts, 1);
+    EXPECT_EQ(list.CurrentNode(), last);
+    EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())));
+}
+
+} // namespace Orvane

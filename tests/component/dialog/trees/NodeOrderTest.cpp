@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/trees/NodeOrder.h"
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+namespace {
+
+std::vector<LayerEntry> Layers(const QStringList& texts)
+{
+    std::vector<LayerEntry> layers;
+    for (const QString& text : texts)
+        layers.push_back({qint32(layers.size()), 1, text});
+    return layers;
+}
+
+} // namespace
+
+TEST(NodeOrder, PutsALayerBetweenItsNeighbours)
+{
+    EXPECT_EQ(SortedRow(Layers({"Alpha", "Gamma"}), "Beta"), 1);
+}
+
+TEST(NodeOrder, PutsALayerFirstLastAndIntoAnEmptyList)
+{
+    EXPECT_EQ(SortedRow(Layers({"Beta", "Gamma"}), "Alpha"), 0);
+    EXPECT_EQ(SortedRow(Layers({"Beta", "Gamma"}), "Zeta"), 2);
+    EXPECT_EQ(SortedRow({}, "Alpha"), 0);
+}
+
+TEST(NodeOrder, PutsALayerAfterThoseOfTheSameText)
+{
+    EXPECT_EQ(SortedRow(Layers({"Beta", "Beta", "Gamma"}), "Beta"), 2);
+}
+
+TEST(NodeOrder, FollowsAListInWhichCapitalsComeFirst)
+{
+    EXPECT_EQ(SortedRow(Layers({"Beta", "Zeta", "alpha"}), "Gamma"), 1);
+    EXPECT_EQ(SortedRow(Layers({"Beta", "Zeta", "alpha"}), "beta"), 3);
+}
+
+TEST(NodeOrder, FollowsAListInWhichCaseDoesNotCount)
+{
+    EXPECT_EQ(SortedRow(Layers({"alpha", "Beta", "zeta"}), "Gamma"), 2);
+    EXPECT_EQ(SortedRow(Layers({"alpha", "Beta", "zeta"}), "gamma"), 2);
+}
+
+TEST(NodeOrder, BearsADecoratedNameOutOfPlace)
+{
+    EXPECT_EQ(SortedRow(Layers({"Alpha", "(OBS)Beta", "Delta", "Zeta"}), "Gamma"), 3);
+}
+
+} // namespace Orvane

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "component/dialog/window/ApplyCommand.h"
+
+#include "component/common/Component.h"
+#include "component/dialog/EditorFixture.h"
+#include "component/dialog/trees/LayerTrees.h"
+
+#include <OrvaneShellLib/IStyleEditor.h>
+
+#include <QTreeView>
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Applying : public EditorFixture
+{
+protected:
+    void SetUp() override
+    {
+        AddTown();
+        Open();
+    }
+
+    void SelectTransport()
+    {
+        ClickTab(1);
+        ClickGroup("Transport");
+    }
+
+    int Redraws() { return int(host.Log().CallsTo("RedrawMap").size()); }
+};
+
+TEST_F(Applying, DoesNothingWithoutEdits)
+{
+    ClickLayer("Roads");
+    host.ClearLog();
+    Click("cmdApply");
+    Key(Qt::Key_Return);
+    EXPECT_THAT(host.Calls(), IsEmpty());
+}
+
+TEST_F(Applying, WritesALayerAndRedrawsOnce)
+{
+    ClickLayer("Roads");
+    Click("chkLocked");
+    host.ClearLog();
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "locked"), 1);
+    EXPECT_EQ(Redraws(), 1);
+    EXPECT_THAT(host.Log().CallsTo("LayerChanged"), ElementsAre("LayerChanged(1)"));
+    EXPECT_FALSE(CanApply());
+    EXPECT_FALSE(IsUnderlined("chkLocked"));
+}
+
+TEST_F(Applying, WritesAGroupInOneTransactionAndRedrawsOnce)
+{
+    SelectTransport();
+    Click("chkLocked");
+    Click("chkLocked");
+    host.ClearLog();
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "locked"), 1);
+    EXPECT_EQ(Stored(2, "locked"), 1);
+    EXPECT_EQ(Redraws(), 1);
+    EXPECT_EQ(CheckState("chkLocked"), 1);
+}
+
+TEST_F(Applying, LeavesWhatDiffersAlone)
+{
+    SelectTransport();
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "Visible"), 1);
+    EXPECT_EQ(Stored(2, "Visible"), 0);
+    EXPECT_EQ(Stored(1, "Style"), 0);
+    EXPECT_EQ(Stored(2, "Style"), 7);
+    EXPECT_EQ(Stored(2, "MinVisScale"), 5000);
+    EXPECT_EQ(Stored(1, "Code"), 11);
+    EXPECT_EQ(Stored(2, "Code"), 12);
+}
+
+TEST_F(Applying, StoresScalesAndPriority)
+{
+    ClickLayer("Rivers");
+    ChooseScale("cmdEditMinScale", 8);
+    ChooseScale("cmdEditMaxScale", 30);
+    ChooseScale("cmdEditPriority", 17);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(2, "MinVisScale"), 8000);
+    EXPECT_EQ(Stored(2, "MaxVisScale"), 30000);
+    EXPECT_EQ(Stored(2, "Priority"), 17);
+}
+
+// "dont care" reads back as 0, whatever it stood for.
+TEST_F(Applying, AnUnlimitedMaximumIsStoredAsIndexZero)
+{
+    ClickLayer("Roads");
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "MaxVisScale"), 0);
+}
+
+TEST_F(Applying, ShowsWhatIsStoredAfterwards)
+{
+    ClickLayer("Roads");
+    Click("chkLocked");
+    host.SetLayerColumn(1, "Name", QString("Streets"));
+    host.SetLayerColumn(1, "Code", qint32(99));
+    Click("cmdApply");
+    EXPECT_EQ(TextOf("lblCode"), "11");
+    EXPECT_EQ(CheckState("chkLocked"), 1);
+}
+
+TEST_F(Applying, ALayerThatIsGoneIsLeftOut)
+{
+    ClickLayer("Roads");
+    Click("chkLocked");
+    host.RemoveLayerRow(1);
+    host.ClearLog();
+    Click("cmdApply");
+    EXPECT_THAT(host.Log().CallsTo("Update"), IsEmpty());
+    EXPECT_FALSE(CanApply());
+}
+
+TEST_F(Applying, AMemberThatIsGoneIsLeftOut)
+{
+    SelectTransport();
+    Click("chkLocked");
+    host.RemoveLayerRow(2);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "locked"), 0);
+    EXPECT_FALSE(CanApply());
+}
+
+TEST_F(Applying, AModeThatCannotBeShownIsReportedAndNotStored)
+{
+    QTreeView groups;
+    QTreeView layers;
+    LayerTrees trees(&groups, &layers);
+    trees.LoadGroups();
+    const NodeReference group{.isGroup = true, .groupID = 10, .image = 1};
+    const auto outcome = ApplyCommand(trees).Run(group, PanelEdits());
+    EXPECT_EQ(outcome, ApplyCommand::Outcome::UnexpectedMode);
+    EXPECT_EQ(Stored(1, "OverrideMode"), 0);
+    EXPECT_EQ(Stored(2, "OverrideMode"), 1);
+}
+
+TEST_F(Applying, AGroupThatChangedBehindTheDialogIsReportedOnce)
+{
+    SelectTransport();
+    ASSERT_EQ(PressedModes(), 0);
+    // Another program gives both layers one mode: the group's image follows, the buttons do not.
+    host.SetLayerColumn(2, "OverrideMode", qint32(0));
+    auto* trees = Find<QTreeView>("tvLayers1").model();
+    ASSERT_NE(trees, nullptr);
+    Editor().RefreshGroups();
+    Click("chkLocked");
+    MessageBoxRobot person{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(person.Only().text, "Unexpected program flow in frmLayerStyles");
+    EXPECT_EQ(person.Only().icon, QMessageBox::NoIcon);
+    EXPECT_EQ(Stored(2, "OverrideMode"), 0);
+}
+
+TEST_F(Applying, RedrawsAfterTheCommit)
+{
+    SelectTransport();
+    Click("chkLocked");
+    host.ClearLog();
+    Click("cmdApply");
+    const QStringList trace = host.Log().Trace();
+    const qsizetype commit = trace.indexOf(host.Log().CallsTo("CommitTrans").value(0));
+    ASSERT_GE(commit, 0);
+    EXPECT_GT(trace.indexOf(host.Log().CallsTo("RedrawMap").value(0)), commit);
+}
+
+TEST_F(Applying, AMemberThatTheTreeDoesNotKnowGetsItsImageToo)
+{
+    SelectTransport();
+    host.AddMember(10, 3, 9);
+    Click("Hidden");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(3, "OverrideMode"), 2);
+    ClickTab(2);
+    ClickLayer("Parcels");
+    EXPECT_EQ(PressedModes(), 4);
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(3, "OverrideMode"), 2);
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeFile.h"
+
+#include "hostkit/HostKitTest.h"
+#include "hostkit/common/HostErrors.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace Orvane::Testing {
+namespace {
+
+class SchemeFiles : public testing::Test
+{
+protected:
+    SchemeFiles() { m_scheme.name = QStringLiteral("Night"); }
+
+    QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QString WriteText(const char* name, const QByteArray& content) const
+    {
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    static QByteArray ContentOf(const QString& path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    static int ErrorIn(const QString& path)
+    {
+        return ErrorOf([&] { SchemeFile::Read(path); });
+    }
+
+    QTemporaryDir m_folder;
+    SchemeDocument m_scheme;
+};
+
+TEST_F(SchemeFiles, AreReadAsTheyWereWritten)
+{
+    SchemeFile::Write(Path("night.json"), m_scheme);
+    EXPECT_EQ(SchemeFile::Read(Path("night.json")).name, QStringLiteral("Night"));
+}
+
+TEST_F(SchemeFiles, ReplaceAFileOfTheirName)
+{
+    WriteText("night.json", QByteArray(10000, 'x'));
+    SchemeFile::Write(Path("night.json"), m_scheme);
+    EXPECT_EQ(ContentOf(Path("night.json")), m_scheme.ToJson());
+}
+
+TEST_F(SchemeFiles, MayBeginWithAByteOrderMark)
+{
+    const QString path = WriteText("night.json", "\xEF\xBB\xBF" + m_scheme.ToJson());
+    EXPECT_EQ(SchemeFile::Read(path).name, QStringLiteral("Night"));
+}
+
+TEST_F(SchemeFiles, ThatAreMissingOrFoldersOrDamagedOrTooNewAreRefusedByName)
+{
+    const QByteArray newer = m_scheme.ToJson().replace("\"version\": 1", "\"version\": 99");
+    for (const QString& path :
+         {Path("gone.json"), m_folder.path(), WriteText("text.json", "a shopping list"),
+          WriteText("newer.json", newer), WriteText("empty.json", "")}) {
+        EXPECT_EQ(ErrorIn(path), int(HostError::SchemeFileUnreadable)) << qPrintable(path);
+        const QString name = path.section(u'/', -1);
+        EXPECT_TRUE(DescriptionOf([&] { SchemeFile::Read(path); }).contains(name)) << qPrintable(path);
+    }
+}
+
+TEST_F(SchemeFiles, ThatAreHugeAreRefusedUnread)
+{
+    QFile file(Path("huge.json"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(SchemeFile::LargestFile + 1)); // a hole, no bytes on the disk
+    EXPECT_EQ(ErrorIn(file.fileName()), int(HostError::SchemeFileUnreadable));
+    EXPECT_TRUE(
+        DescriptionOf([&] { SchemeFile::Read(file.fileName()); }).contains(QStringLiteral("too large")));
+}
+
+TEST_F(SchemeFiles, AreWrittenWholeOrNotAtAll)
+{
+    const QString path = WriteText("night.json", "kept");
+    m_scheme.layers.emplace_back();
+    m_scheme.layers[0].values[0] = QStringLiteral("no number");
+    EXPECT_EQ(ErrorOf([&] { SchemeFile::Write(path, m_scheme); }), int(HostError::SchemeValueUnknown));
+    EXPECT_EQ(ContentOf(path), QByteArray("kept"));
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("night.json")});
+}
+
+TEST_F(SchemeFiles, ThatCannotBeWrittenAreNamed)
+{
+    const QString path = m_folder.filePath(QStringLiteral("no folder/night.json"));
+    EXPECT_EQ(ErrorOf([&] { SchemeFile::Write(path, m_scheme); }), int(HostError::SchemeFileUnwritable));
+    EXPECT_TRUE(
+        DescriptionOf([&] { SchemeFile::Write(path, m_scheme); }).contains(QStringLiteral("night.json")));
+}
+
+} // namespace
+} // namespace Orvane::Testing

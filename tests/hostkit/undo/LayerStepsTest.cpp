@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/undo/LayerStepsFixture.h"
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST_F(Steps, AnApplyToALayerIsOne)
+{
+    ExpectOneStep(QStringLiteral("Change of \"Roads\""), [this] { ApplyTo(1, "Color", 77); });
+}
+
+TEST_F(Steps, StyleAndCodeAppliedTogetherAreOne)
+{
+    ExpectOneStep(QStringLiteral("Change of \"Roads\""), [this] {
+        Edit(1, "Color", 77);
+        Edit(1, "Code", 12.0);
+        Host().RedrawMap();
+    });
+}
+
+TEST_F(Steps, ANewCodeIsOne)
+{
+    ExpectOneStep(QStringLiteral("New Code of \"Roads\""), [this] { ApplyTo(1, "Code", 12.0); });
+}
+
+TEST_F(Steps, AnApplyToAGroupIsOne)
+{
+    ExpectOneStep(QStringLiteral("Change of 2 Layers"), [this] { ApplyToGroup({1, 2}, "Visible", false); });
+}
+
+TEST_F(Steps, RenamingALayerIsOne)
+{
+    ExpectOneStep(QStringLiteral("Renaming of \"Streets\""), [this] {
+        Host().RenameLayer(1, QStringLiteral("Streets"));
+    });
+}
+
+TEST_F(Steps, RenamingAGroupIsOne)
+{
+    ExpectOneStep(QStringLiteral("Renaming of the Group \"Ways\""), [this] {
+        Host().RenameGroup(5, QStringLiteral("Ways"));
+    });
+}
+
+TEST_F(Steps, CreatingALayerIsOne)
+{
+    ExpectOneStep(QStringLiteral("Creation of \"New layer\""), [this] { Host().CreateLayer(); });
+}
+
+TEST_F(Steps, DeletingALayerIsOneThatBringsItsPlacesBack)
+{
+    ExpectOneStep(QStringLiteral("Deletion of \"Roads\""), [this] { Host().DeleteLayer(1); });
+}
+
+TEST_F(Steps, WhatAHostDoesToItsOwnTablesIsOne)
+{
+    Database().Execute(QStringLiteral("CREATE TABLE Notes (LayerID INTEGER PRIMARY KEY, Text TEXT)"));
+    m_client.RecordStep([this] {
+        Database().Execute(QStringLiteral("INSERT INTO Notes VALUES (1, 'wet')"));
+        Host().RenameLayer(1, QStringLiteral("Streets")); // a part of it
+        return QStringLiteral("Notes");
+    });
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Notes"));
+    History().Undo();
+    EXPECT_EQ(Rows(QStringLiteral("SELECT * FROM Notes")), 0);
+    EXPECT_EQ(Host().LayerDisplayName(1), QStringLiteral("Roads"));
+    EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(Steps, WhatChangesNothingIsNone)
+{
+    ApplyTo(1, "Visible", true);
+    Host().RenameLayer(1, QStringLiteral("Roads"));
+    Host().RenameLayer(99, QStringLiteral("x"));
+    Host().SaveScheme(Standard);
+    EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(Steps, WhatFailsIsNone)
+{
+    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE DELETE ON Layers"
+                                      " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    EXPECT_NE(ErrorOf([&] { Host().DeleteLayer(1); }), 0);
+    EXPECT_NE(ErrorOf([&] { Host().LoadScheme(QStringLiteral("nowhere")); }), 0);
+    EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(Steps, AnApplyThatFailedHalfwayCanBeUndone)
+{
+    Edit(1, "Color", 77);
+    QCoreApplication::processEvents(); // no redraw came
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Change of \"Roads\""));
+    History().Undo();
+    EXPECT_THAT(Get(1, "Color"), IsNumber(0));
+}
+
+TEST_F(Steps, ARolledBackGroupIsNone)
+{
+    Database().BeginTrans();
+    Edit(1, "Color", 77);
+    Database().Rollback();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(Steps, AnEditIsUndoneEvenRightAfterIt)
+{
+    ApplyTo(2, "Color", 5);
+    Edit(1, "Code", 12.0); // as SetLayerCode of a form does, without a redraw
+    History().Undo();
+    EXPECT_THAT(Get(1, "Code"), IsNumber(1));
+    EXPECT_THAT(Get(2, "Color"), IsNumber(5));
+}
+
+TEST_F(Steps, AreToldAsTheChangesWere)
+{
+    Host().LayerDisplayName(1);
+    ApplyToGroup({1, 2}, "Color", 9);
+    Host().RenameLayer(1, QStringLiteral("Streets"));
+    Host().RenameGroup(5, QStringLiteral("Ways"));
+    const qint32 created = Host().CreateLayer();
+    Host().DeleteLayer(3);
+    Told();
+    for (int step = 0; step < 5; ++step)
+        History().Undo();
+    EXPECT_THAT(
+        Told(),
+        ElementsAre(
+            QStringLiteral("created 3"), QStringLiteral("deleted %1").arg(created),
+            QStringLiteral("group 5 is Lines"), QStringLiteral("layer 1 is Roads"),
+            QStringLiteral("changed 1"), QStringLiteral("changed 2")));
+    for (int step = 0; step < 5; ++step)
+        History().Redo();
+    EXPECT_THAT(
+        Told(),
+        ElementsAre(
+            QStringLiteral("changed 1"), QStringLiteral("changed 2"), QStringLiteral("layer 1 is Streets"),
+            QStringLiteral("group 5 is Ways"), QStringLiteral("created %1").arg(created),
+            QStringLiteral("deleted 3")));
+}
+
+TEST_F(Steps, ShowTheNameThatALayerHasAgain)
+{
+    Host().RenameLayer(1, QStringLiteral("Streets"));
+    EXPECT_EQ(Host().LayerDisplayName(1), QStringLiteral("Streets"));
+    History().Undo();
+    EXPECT_EQ(Host().LayerDisplayName(1), QStringLiteral("Roads"));
+}
+
+TEST_F(Steps, OutdatedByAnotherHandChangeNothingAndSayWhich)
+{
+    Host().GetSchemeNames();
+    ApplyToGroup({1, 2}, "Color", 9);
+    Set(2, "Color", 1000);
+    Told();
+    const QStringList before = Everything();
+    const QString description = DescriptionOf([this] { History().Undo(); });
+    EXPECT_TRUE(description.contains(QStringLiteral("Change of 2 Layers"))) << qPrintable(description);
+    EXPECT_EQ(Everything(), before);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(Steps, OutdatedOnesLeaveTheOthers)
+{
+    ApplyTo(3, "Color", 3);
+    ApplyTo(1, "Color", 9);
+    Set(1, "Color", 1000);
+    EXPECT_EQ(ErrorOf([this] { History().Undo(); }), int(HostError::StepOutdated));
+    History().Undo();
+    EXPECT_THAT(Get(3, "Color"), IsNumber(0));
+    EXPECT_THAT(Get(1, "Color"), IsNumber(1000));
+}
+
+TEST_F(Steps, AChangeAfterAnUndoCutsOffTheRedo)
+{
+    ApplyTo(1, "Color", 9);
+    History().Undo();
+    ApplyTo(2, "Color", 9);
+    EXPECT_FALSE(History().CanRedo());
+}
+
+TEST_F(Steps, TheLastHundredAreKept)
+{
+    for (int step = 1; step <= 101; ++step)
+        ApplyTo(1, "Color", step);
+    while (History().CanUndo())
+        History().Undo();
+    EXPECT_THAT(Get(1, "Color"), IsNumber(1));
+}
+
+TEST_F(Steps, KeepEveryNameAsItWas)
+{
+    const QStringList names{
+        QStringLiteral("O'Neill's \"best\" `way`"),
+        QString::fromUtf8("\U0001F6E3\U0001F468\u200D\U0001F469\u200D\U0001F467"),
+        QString::fromUtf8("طريق \u202Eabc\u202C שלום"),
+        QString(10000, u'x'),
+        QStringLiteral("two\nlines\r\nand a\ttab"),
+        QStringLiteral("%1 %2 &File ^1"),
+        QStringLiteral(" "),
+    };
+    for (const QString& name : names) {
+        Host().RenameLayer(1, name);
+        EXPECT_EQ(Host().LayerDisplayName(1), name);
+        EXPECT_FALSE(History().UndoText().contains(u'\n'));
+    }
+    for (auto name = names.crbegin(); name != names.crend(); ++name) {
+        EXPECT_THAT(Get(1, "Name"), IsValue(*name));
+        EXPECT_LT(History().UndoText().size(), 100);
+        History().Undo();
+    }
+    EXPECT_THAT(Get(1, "Name"), IsValue(QStringLiteral("Roads")));
+}
+
+TEST_F(Steps, BringBackADeletedLayerWithAnyName)
+{
+    const QString name = QString::fromUtf8("\"\U0001F6E3\"\nطريق") + QString(10000, u'y');
+    Host().RenameLayer(1, name);
+    Host().DeleteLayer(1);
+    History().Undo();
+    EXPECT_THAT(Get(1, "Name"), IsValue(name));
+    EXPECT_EQ(Host().LayerDisplayName(1), name);
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/undo/LayerStepsFixture.h"
+
+namespace Orvane::Testing {
+
+namespace {
+
+using testing::ElementsAre;
+
+TEST_F(Steps, CreatingASchemeIsOne)
+{
+    ExpectOneStep(QStringLiteral("Creation of the Scheme \"Night\""), [this] { Host().CreateScheme(Night); });
+}
+
+TEST_F(Steps, SavingASchemeIsOne)
+{
+    Host().GetSchemeNames();
+    Set(1, "Color", 5);
+    ExpectOneStep(
+        QStringLiteral("Saving of the Scheme \"Standard\""), [this] { Host().SaveScheme(Standard); });
+}
+
+TEST_F(Steps, LoadingASchemeIsOne)
+{
+    Host().CreateScheme(Night);
+    Set(1, "Color", 5);
+    History().Clear();
+    ExpectOneStep(
+        QStringLiteral("Loading of the Scheme \"Standard\""), [this] { Host().LoadScheme(Standard); });
+}
+
+TEST_F(Steps, DeletingASchemeIsOne)
+{
+    Host().CreateScheme(Night);
+    History().Clear();
+    ExpectOneStep(
+        QStringLiteral("Deletion of the Scheme \"Standard\""), [this] { Host().DeleteScheme(Standard); });
+}
+
+TEST_F(Steps, LeavingASchemeAndDeletingItAtOnceIsOne)
+{
+    Host().CreateScheme(Night);
+    Set(1, "Color", 5);
+    History().Clear();
+    ExpectOneStep(QStringLiteral("Deletion of the Scheme \"Night\""), [this] {
+        Host().LoadScheme(Standard);
+        Host().DeleteScheme(Night);
+    });
+}
+
+TEST_F(Steps, LeavingASchemeAndDeletingItLaterAreTwo)
+{
+    Host().CreateScheme(Night);
+    Host().LoadScheme(Standard);
+    QCoreApplication::processEvents();
+    Host().DeleteScheme(Night);
+    History().Undo();
+    EXPECT_EQ(Host().GetCurrentScheme(), Standard);
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Loading of the Scheme \"Standard\""));
+}
+
+TEST_F(Steps, TheFirstSchemeThatComesByItselfIsNone)
+{
+    Host().GetSchemeNames();
+    EXPECT_FALSE(History().CanUndo());
+    Host().CreateScheme(Night);
+    History().Undo();
+    EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Standard));
+}
+
+TEST_F(Steps, OfSchemesAreToldAsTheChangesWere)
+{
+    Host().CreateScheme(Night);
+    Set(1, "Color", 5);
+    Host().SaveScheme(Night);
+    Host().LoadScheme(Standard);
+    Told();
+    History().Undo();
+    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Night"), QStringLiteral("changed 1")));
+    History().Undo();
+    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Night")));
+    History().Undo();
+    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Standard")));
+}
+
+TEST_F(Steps, ADeletedLayersSchemeValuesTellNothingOfSchemes)
+{
+    Host().GetSchemeNames();
+    Host().DeleteLayer(1);
+    Told();
+    History().Undo();
+    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("created 1")));
+}
+
+} // namespace
+
+} // namespace Orvane::Testing

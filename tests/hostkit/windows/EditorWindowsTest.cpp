@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/windows/EditorWindows.h"
+
+#include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QWindow>
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A form of an editor that counts how often it was refreshed.
+class Form : public QWidget, public IStyleEditorForm
+{
+public:
+    bool pending = false;
+    bool fails = false;
+    int refreshed = 0;
+
+private:
+    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
+    void IStyleEditorForm_AddNewLayer(qint32) override { }
+    void IStyleEditorForm_Popup() override { }
+    void IStyleEditorForm_SetLayerCode(qint32) override { }
+    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
+    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
+    const IStyleFilter* IStyleEditorForm_Filter() const override { return nullptr; }
+    void IStyleEditorForm_Filter(const IStyleFilter*) override { }
+    void IStyleEditorForm_UnloadWithoutApply() override { }
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
+    bool IStyleEditorForm_HasPendingEdits() const override { return pending; }
+    void IStyleEditorForm_Refresh() override
+    {
+        ++refreshed;
+        if (fails)
+            throw RunTimeError(7, QStringLiteral("no"));
+    }
+
+    std::vector<RendererStyle> m_styles;
+};
+
+TEST(EditorWindows, ShowAFormAsAWindow)
+{
+    EditorWindows windows;
+    QWidget form;
+    windows.Show(&form);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_TRUE(form.isWindow());
+    EXPECT_THAT(windows.Shown(), ElementsAre(&form));
+}
+
+TEST(EditorWindows, StandBeforeTheMainWindowAndStayTheirOwners)
+{
+    QWidget mainWindow;
+    mainWindow.show();
+    EditorWindows windows;
+    windows.SetMainWindow(&mainWindow);
+    QWidget form;
+    windows.Show(&form);
+    EXPECT_EQ(form.windowHandle()->transientParent(), mainWindow.windowHandle());
+    EXPECT_EQ(form.parent(), nullptr);
+}
+
+TEST(EditorWindows, WorkBeforeTheMainWindowIsShownAndAfterItIsGone)
+{
+    auto mainWindow = std::make_unique<QWidget>();
+    EditorWindows windows;
+    windows.SetMainWindow(mainWindow.get());
+    QWidget form;
+    windows.Show(&form);
+    EXPECT_TRUE(form.isVisible());
+    mainWindow.reset();
+    windows.Show(&form);
+    EXPECT_EQ(windows.MainWindow(), nullptr);
+    EXPECT_TRUE(form.isVisible());
+}
+
+TEST(EditorWindows, ForgetAFormOnceAndAgain)
+{
+    EditorWindows windows;
+    QWidget form;
+    windows.Show(&form);
+    EXPECT_TRUE(windows.Forget(&form));
+    EXPECT_FALSE(windows.Forget(&form));
+    EXPECT_THAT(windows.Shown(), IsEmpty());
+}
+
+TEST(EditorWindows, ListAFormOnceHoweverOftenItIsShown)
+{
+    EditorWindows windows;
+    QWidget form;
+    windows.Show(&form);
+    windows.Show(&form);
+    EXPECT_THAT(windows.Shown(), ElementsAre(&form));
+}
+
+TEST(EditorWindows, DoNotListAFormThatIsGone)
+{
+    EditorWindows windows;
+    {
+        QWidget form;
+        windows.Show(&form);
+    }
+    EXPECT_THAT(windows.Shown(), IsEmpty());
+}
+
+TEST(EditorWindows, KnowWhetherAnEditorHoldsEdits)
+{
+    EditorWindows windows;
+    QWidget plain;
+    Form first;
+    Form second;
+    for (QWidget* form : std::initializer_list<QWidget*>{&plain, &first, &second})
+        windows.Show(form);
+    EXPECT_FALSE(windows.HavePendingEdits());
+    second.pending = true;
+    EXPECT_TRUE(windows.HavePendingEdits());
+    windows.Forget(&second);
+    EXPECT_FALSE(windows.HavePendingEdits());
+}
+
+TEST(EditorWindows, RefreshEveryEditorAndRaiseTheFirstError)
+{
+    EditorWindows windows;
+    QWidget plain;
+    Form first;
+    Form second;
+    for (QWidget* form : std::initializer_list<QWidget*>{&plain, &first, &second})
+        windows.Show(form);
+    first.fails = true;
+    EXPECT_THROW(windows.RefreshEditors(), RunTimeError);
+    EXPECT_EQ(first.refreshed, 1);
+    EXPECT_EQ(second.refreshed, 1);
+}
+
+} // namespace
+} // namespace Orvane

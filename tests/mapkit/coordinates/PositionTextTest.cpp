@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/coordinates/PositionText.h"
+
+#include <gtest/gtest.h>
+
+namespace Orvane {
+
+TEST(PositionText, WritesDegreesOfAProjectedMap)
+{
+    EXPECT_EQ(PositionText("EPSG:32632").Of({500000, 0}), "0.0000° N, 9.0000° E");
+}
+
+TEST(PositionText, NamesTheHemispheres)
+{
+    const PositionText degrees("EPSG:4326");
+    EXPECT_EQ(degrees.Of({-11.5, 48.25}), "48.2500° N, 11.5000° W");
+    EXPECT_EQ(degrees.Of({11.5, -48.25}), "48.2500° S, 11.5000° E");
+}
+
+TEST(PositionText, IsEmptyOffTheEarth)
+{
+    EXPECT_EQ(PositionText("EPSG:4326").Of({200, 0}), "");
+    EXPECT_EQ(PositionText("EPSG:8857").Of({1e9, 1e9}), "");
+}
+
+TEST(PositionText, WritesMapUnitsWhereTheSystemIsNotKnown)
+{
+    EXPECT_EQ(PositionText("").Of({1.5, 2.25}), "1.50  2.25");
+}
+
+} // namespace Orvane

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/MapCheck.h"
+
+#include "hostkit/schemes/LayerSchemes.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
+#include "mapkit/RawDatabase.h"
+#include "mapkit/document/MapDocument.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+using Kind = MapProblem::Kind;
+
+class MapCheckTest : public testing::Test
+{
+protected:
+    MapCheckTest()
+    {
+        const auto document = MapDocument::Create(m_map);
+        const qint32 groupID = document->AddGroup("Group", true);
+        for (const char* name : {"a", "b"}) {
+            NewLayer layer;
+            layer.name = name;
+            layer.path = m_folder.WriteSquare(name + QString(".geojson"));
+            layer.ogrLayer = name;
+            document->AddMember(groupID, document->AddLayer(layer));
+        }
+        LayerSchemes(document->Database()).Create("Night");
+    }
+
+    std::vector<Kind> Kinds(const std::vector<MapProblem>& problems) const
+    {
+        std::vector<Kind> kinds;
+        for (const MapProblem& problem : problems)
+            kinds.push_back(problem.kind);
+        return kinds;
+    }
+
+    int Count(const char* table) const
+    {
+        const auto database = SqliteLayerDatabase::Open(m_map, OpenMode::ReadOnly);
+        return ToInt32(database->OpenQuery(QString("SELECT count(*) AS N FROM ") + table)->Field("N"));
+    }
+
+    QByteArray Bytes() const
+    {
+        QFile file(m_map);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    DataFolder m_folder;
+    const QString m_map = m_folder.Path("map.orvane");
+};
+
+} // namespace
+
+TEST_F(MapCheckTest, ASoundMapHasNoProblems)
+{
+    EXPECT_TRUE(CheckMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, RepairingASoundMapLeavesEachByte)
+{
+    const QByteArray before = Bytes();
+    EXPECT_TRUE(RepairMap(m_map).empty());
+    EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(MapCheckTest, RowsOfALayerThatIsGoneAreFoundInEveryTable)
+{
+    RawDatabase(m_map).Run("DELETE FROM Layers WHERE LayerID = 2");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    EXPECT_THAT(Kinds(problems), testing::Each(Kind::DanglingRows));
+    ASSERT_EQ(problems.size(), 3u);
+    for (const char* table : {"LayerGroupMembers", "LayerSources", "LayerSchemeValues"}) {
+        EXPECT_TRUE(std::any_of(problems.begin(), problems.end(), [&](const MapProblem& problem) {
+            return problem.repairable && problem.text.contains(table);
+        })) << table;
+    }
+}
+
+TEST_F(MapCheckTest, MembersOfAGroupThatIsGoneAreFound)
+{
+    RawDatabase(m_map).Run("DELETE FROM LayerGroups");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_TRUE(problems[0].text.contains("LayerGroups"));
+}
+
+TEST_F(MapCheckTest, ValuesOfASchemeThatIsGoneAreFound)
+{
+    RawDatabase(m_map).Run("DELETE FROM LayerSchemes");
+    ASSERT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::DanglingRows));
+    EXPECT_TRUE(RepairMap(m_map).empty());
+    EXPECT_EQ(Count("LayerSchemeValues"), 0);
+}
+
+TEST_F(MapCheckTest, RepairRemovesDanglingRowsAndNoOthers)
+{
+    RawDatabase(m_map).Run("DELETE FROM Layers WHERE LayerID = 2");
+    EXPECT_TRUE(RepairMap(m_map).empty());
+    EXPECT_EQ(Count("LayerGroupMembers"), 1);
+    EXPECT_EQ(Count("LayerSources"), 1);
+    EXPECT_EQ(Count("LayerSchemeValues WHERE LayerID = 1"), Count("LayerSchemes"));
+    EXPECT_EQ(Count("Layers"), 1);
+}
+
+TEST_F(MapCheckTest, RepairRemovesRowsThatDangleOnceOthersAreGone)
+{
+    RawDatabase other(m_map);
+    other.Run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, LayerID INTEGER REFERENCES LayerSources)");
+    other.Run("INSERT INTO Notes VALUES (1, 1), (2, 2), (3, NULL)");
+    other.Run("DELETE FROM Layers WHERE LayerID = 2");
+    EXPECT_TRUE(RepairMap(m_map).empty());
+    EXPECT_EQ(Count("Notes"), 2);
+}
+
+TEST_F(MapCheckTest, CheckingAloneChangesNothing)
+{
+    RawDatabase(m_map).Run("DELETE FROM LayerGroups");
+    const QByteArray before = Bytes();
+    CheckMap(m_map);
+    EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(MapCheckTest, AnIndexThatDoesNotMatchItsTableIsMended)
+{
+    {
+        RawDatabase other(m_map);
+        other.Run("PRAGMA writable_schema = ON");
+        other.Run("UPDATE sqlite_schema SET sql = 'CREATE INDEX LayerNameIDX ON Layers (Priority)'"
+                  " WHERE name = 'LayerNameIDX'");
+    }
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_FALSE(problems.empty());
+    EXPECT_EQ(problems[0].kind, Kind::Damage);
+    EXPECT_TRUE(problems[0].repairable);
+    EXPECT_TRUE(RepairMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, MissingDataAreNamedOnceAndStay)
+{
+    ASSERT_TRUE(QFile::remove(m_folder.Path("a.geojson")));
+    const std::vector<MapProblem> problems = RepairMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::MissingData));
+    EXPECT_TRUE(problems[0].text.contains(m_folder.Path("a.geojson")));
+    EXPECT_FALSE(problems[0].repairable);
+    EXPECT_EQ(Count("LayerSources"), 2);
+}
+
+TEST_F(MapCheckTest, DataThatCannotBeReadAreNamed)
+{
+    m_folder.Write("a.geojson", "broken");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
+    EXPECT_TRUE(problems[0].text.contains("a.geojson"));
+}
+
+TEST_F(MapCheckTest, ALayerThatItsDataNoLongerHoldIsNamed)
+{
+    RawDatabase(m_map).Run("UPDATE LayerSources SET OgrLayer = 'roads' WHERE LayerID = 1");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
+    EXPECT_TRUE(problems[0].text.contains("roads"));
+}
+
+TEST_F(MapCheckTest, AMapOfALayerDatabaseAloneIsSound)
+{
+    const QString path = m_folder.Path("plain.orvane");
+    SqliteLayerDatabase::Create(path);
+    EXPECT_TRUE(CheckMap(path).empty());
+}
+
+TEST_F(MapCheckTest, AMapThatIsOpenElsewhereCanBeChecked)
+{
+    const auto open = MapDocument::Open(m_map);
+    open->AddGroup("More", false);
+    EXPECT_TRUE(CheckMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, AFileThatIsMissingOrNoMapIsAnError)
+{
+    EXPECT_THROW(CheckMap(m_folder.Path("missing.orvane")), RunTimeError);
+    EXPECT_THROW(RepairMap(m_folder.Write("text.orvane", "text")), RunTimeError);
+}
+
+TEST_F(MapCheckTest, AFileCutShortIsAnErrorAndStays)
+{
+    QFile file(m_map);
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    const QByteArray before = Bytes();
+    EXPECT_THROW(RepairMap(m_map), RunTimeError);
+    EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(MapCheckTest, ABackdropThatIsMissingOrNoPictureIsAProblem)
+{
+    const QString picture = m_folder.Path("photo.tif");
+    WriteRaster(picture, {}, [](int, int, int) { return 1; });
+    MapDocument::Open(m_map)->SetBackdrop(picture);
+    EXPECT_TRUE(CheckMap(m_map).empty());
+    ASSERT_TRUE(QFile::remove(picture));
+    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
+    m_folder.Write("photo.tif", "no picture");
+    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::UnreadableData));
+}
+
+} // namespace Orvane

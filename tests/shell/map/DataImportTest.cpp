@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/DataImport.h"
+
+#include "mapkit/DataFolder.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "store/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class DataImportTest : public testing::Test
+{
+protected:
+    FoundData Look(const QStringList& paths) { return LookInto(paths, m_progress); }
+
+    QStringList Names(const QString& table) const
+    {
+        QStringList names;
+        const auto rows = m_document->Database().OpenRecordset("SELECT Name FROM " + table + " ORDER BY 1");
+        for (; !rows->AtEOF(); rows->MoveNext())
+            names << ToText(rows->Field("Name"));
+        return names;
+    }
+
+    DataFolder m_folder;
+    Progress m_progress;
+    std::unique_ptr<MapDocument> m_document = MapDocument::Untitled();
+};
+
+} // namespace
+
+TEST_F(DataImportTest, EachFileBecomesAGroupAndEachOfItsLayersALayer)
+{
+    const QStringList paths = {m_folder.WriteSquare("fields.geojson"), m_folder.WriteSquare("woods.geojson")};
+    AddToMap(*m_document, Look(paths));
+    EXPECT_EQ(Names("LayerGroups"), QStringList({"fields", "woods"}));
+    EXPECT_EQ(Names("Layers"), QStringList({"fields", "woods"}));
+    EXPECT_EQ(m_document->Sources()[1].path, paths[1]);
+}
+
+TEST_F(DataImportTest, LayersAreToldApartByColour)
+{
+    AddToMap(*m_document, Look({m_folder.WriteSquare("a.geojson"), m_folder.WriteSquare("b.geojson")}));
+    const auto rows = m_document->Database().OpenRecordset("SELECT count(DISTINCT Color) AS N FROM Layers");
+    EXPECT_EQ(ToInt32(rows->Field("N")), 2);
+}
+
+TEST_F(DataImportTest, TheFirstDataDecideTheSystemAndLaterOnesKeepIt)
+{
+    AddToMap(*m_document, Look({m_folder.WriteSquare("a.geojson")}));
+    EXPECT_EQ(m_document->System(), "EPSG:3857");
+    m_document->SetSystem("EPSG:32632");
+    AddToMap(*m_document, Look({m_folder.WriteSquare("b.geojson")}));
+    EXPECT_EQ(m_document->System(), "EPSG:32632");
+}
+
+TEST_F(DataImportTest, FilesThatCannotBeReadAreNamedAndTheOthersTaken)
+{
+    const FoundData found = Look({m_folder.Write("bad.shp", "x"), m_folder.WriteSquare("good.geojson")});
+    ASSERT_EQ(found.problems.size(), 1);
+    EXPECT_TRUE(found.problems[0].contains("bad.shp"));
+    EXPECT_EQ(found.sources.size(), 1u);
+}
+
+TEST_F(DataImportTest, ATableWithoutGeometryHoldsNothingToDraw)
+{
+    const FoundData found = Look({m_folder.Write("table.csv", "name,number\nA,1\n")});
+    ASSERT_EQ(found.problems.size(), 1);
+    EXPECT_TRUE(found.problems[0].contains("table.csv"));
+    EXPECT_TRUE(found.sources.empty());
+}
+
+TEST_F(DataImportTest, NothingFoundLeavesTheMapAsItWas)
+{
+    AddToMap(*m_document, FoundData());
+    EXPECT_FALSE(m_document->HasLayers());
+    EXPECT_EQ(m_document->System(), "");
+}
+
+TEST_F(DataImportTest, ACancelledLookEnds)
+{
+    m_progress.Cancel();
+    EXPECT_THROW(Look({m_folder.WriteSquare("a.geojson")}), Cancelled);
+}
+
+} // namespace Orvane

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/MapSession.h"
+
+#include "mapkit/DataFolder.h"
+#include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/document/MapDocument.h"
+#include "mapkit/looks/RendererStyles.h"
+#include "shell/map/DataImport.h"
+#include "store/SqliteLayerDatabase.h"
+#include "support/MessageBoxRobot.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+class MapSessionTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_canvas.resize(200, 200);
+        m_canvas.show();
+        auto document = MapDocument::Untitled();
+        Progress progress;
+        AddToMap(
+            *document,
+            LookInto({m_folder.WriteSquare("a.geojson"), m_folder.WriteSquare("b.geojson")}, progress));
+        document->Database().Execute("UPDATE Layers SET OutlineStyle = 15, FillForeColor = 255");
+        m_session = std::make_unique<MapSession>(std::move(document), m_canvas, m_canvas, nullptr);
+        EXPECT_EQ(m_session->ReadAndShow(), "");
+        m_canvas.ZoomToAll();
+        WaitForPicture();
+        m_drawn = std::make_unique<QSignalSpy>(&m_canvas.Picture(), &MapPicture::LayerDrawn);
+    }
+
+    void WaitForPicture()
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            return !m_canvas.Picture().IsBusy() && m_canvas.Picture().ImageView() == m_canvas.View();
+        }));
+    }
+
+    // As the component applies a change.
+    void Apply(qint32 layerID, const char* column, qint32 value)
+    {
+        IStyleEditorClient& client = m_session->Client();
+        const auto layers = client.LayersTable();
+        layers->Index("LayerIDIDX");
+        layers->Seek("=", layerID);
+        client.BeginLayerEdit(*layers);
+        layers->SetField(column, value);
+        client.LayerChanged(layerID);
+        layers->Update();
+        client.RedrawMap();
+    }
+
+    QColor Middle() { return m_canvas.grab().toImage().pixelColor(100, 100); }
+
+    DataFolder m_folder;
+    MapCanvas m_canvas;
+    std::unique_ptr<MapSession> m_session;
+    std::unique_ptr<QSignalSpy> m_drawn;
+};
+
+} // namespace
+
+TEST_F(MapSessionTest, ShowsTheDataOfTheMap)
+{
+    EXPECT_EQ(m_canvas.Layers().size(), 2u);
+    EXPECT_EQ(Middle(), QColor(Qt::red));
+}
+
+TEST_F(MapSessionTest, AChangedLayerIsDrawnAnewAlone)
+{
+    Apply(2, "FillForeColor", 0xff0000);
+    WaitForPicture();
+    ASSERT_EQ(m_drawn->size(), 1);
+    EXPECT_EQ((*m_drawn)[0][0].toInt(), 2);
+    EXPECT_EQ(Middle(), QColor(Qt::blue));
+}
+
+TEST_F(MapSessionTest, AnInvisibleLayerLeavesTheMapWithoutDrawing)
+{
+    Apply(2, "FillForeColor", 0xff0000);
+    WaitForPicture();
+    m_drawn->clear();
+    Apply(2, "Visible", 0);
+    WaitForPicture();
+    EXPECT_TRUE(m_drawn->isEmpty());
+    EXPECT_EQ(Middle(), QColor(Qt::red));
+}
+
+TEST_F(MapSessionTest, AHiddenLayerLeavesTheMap)
+{
+    Apply(1, "OverrideMode", 2);
+    Apply(2, "OverrideMode", 2);
+    WaitForPicture();
+    EXPECT_EQ(Middle(), QColor(Qt::white));
+}
+
+TEST_F(MapSessionTest, NothingIsReadBeforeTheMapIsToBeRedrawn)
+{
+    m_session->Document().Database().Execute("UPDATE Layers SET FillForeColor = 0 WHERE LayerID = 2");
+    m_session->Client().LayerChanged(2);
+    WaitForPicture();
+    EXPECT_TRUE(m_drawn->isEmpty());
+    m_session->Client().RedrawMap();
+    WaitForPicture();
+    EXPECT_EQ(m_drawn->size(), 1);
+}
+
+TEST_F(MapSessionTest, ADeletedLayerLeavesTheMap)
+{
+    MessageBoxRobot person{BoxKey::Yes};
+    m_session->Client().DeleteLayer(2);
+    WaitForPicture();
+    ASSERT_EQ(m_canvas.Layers().size(), 1u);
+    EXPECT_EQ(m_canvas.Layers()[0].layerID, 1);
+}
+
+TEST_F(MapSessionTest, ALoadedSchemeIsDrawn)
+{
+    IStyleEditorClient& client = m_session->Client();
+    const QString before = client.GetCurrentScheme();
+    client.CreateScheme("Blue");
+    Apply(2, "FillForeColor", 0xff0000);
+    client.SaveScheme("Blue");
+    client.LoadScheme(before);
+    WaitForPicture();
+    EXPECT_EQ(Middle(), QColor(Qt::red));
+    client.LoadScheme("Blue");
+    WaitForPicture();
+    EXPECT_EQ(Middle(), QColor(Qt::blue));
+}
+
+TEST_F(MapSessionTest, DataThatAreGoneAreNamedOnce)
+{
+    auto document = MapDocument::Untitled();
+    for (const char* name : {"One", "Two"}) {
+        NewLayer layer;
+        layer.name = name;
+        layer.path = m_folder.Path("gone.gpkg");
+        document->AddLayer(layer);
+    }
+    MapSession session(std::move(document), m_canvas, m_canvas, nullptr);
+    EXPECT_EQ(session.ReadAndShow().count("gone.gpkg"), 1);
+}
+
+TEST_F(MapSessionTest, AStyleThatNeedsAttributesIsDrawnOnceTheyAreRead)
+{
+    const QImage before = m_canvas.grab().toImage();
+    Apply(2, "Style", RendererStyles::Labelled);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_canvas.Layers()[1].labels != nullptr; }));
+    WaitForPicture();
+    EXPECT_EQ(m_canvas.Layers()[1].labels->attribute, "type");
+    EXPECT_NE(m_canvas.grab().toImage(), before);
+    Apply(2, "Style", 0);
+    WaitForPicture();
+    EXPECT_EQ(m_canvas.grab().toImage(), before);
+}
+
+TEST_F(MapSessionTest, EndingWhileAttributesAreReadIsHarmless)
+{
+    Apply(2, "Style", RendererStyles::Labelled);
+    m_session.reset();
+}
+
+} // namespace Orvane
