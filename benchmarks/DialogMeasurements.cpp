@@ -6,7 +6,7 @@
 #include "component/entry/StyleEditorLib.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 

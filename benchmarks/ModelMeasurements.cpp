@@ -7,7 +7,7 @@
 #include "component/model/LayerTreeReader.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <benchmark/benchmark.h>
 

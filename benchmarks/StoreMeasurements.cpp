@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Measurement.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>

@@ -6,7 +6,7 @@
 #include "hostkit/common/LayerNames.h"
 #include "hostkit/common/StoredScale.h"
 #include "hostkit/schemes/SchemeTables.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -26,7 +26,7 @@ bool HasRow(ILayerDatabase& database, const QString& query)
     return !database.OpenRecordset(query)->AtEOF();
 }
 
-QStringList NamesOf(SqliteLayerDatabase& database, const QString& query, qint32 layerID)
+QStringList NamesOf(ILayerStore& database, const QString& query, qint32 layerID)
 {
     QStringList names;
     const auto rows = database.OpenQuery(query, {layerID});

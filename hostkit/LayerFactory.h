@@ -7,7 +7,7 @@
 namespace Orvane {
 
 class LayerNames;
-class SqliteLayerDatabase;
+class ILayerStore;
 struct LayerDeletion;
 
 /// Creates and deletes the rows of layers.
@@ -22,7 +22,7 @@ public:
     static constexpr qint16 NoCode = -1;
 
     /// Neither is owned; both outlive this object.
-    LayerFactory(SqliteLayerDatabase& database, LayerNames& names) : m_database(database), m_names(names) { }
+    LayerFactory(ILayerStore& database, LayerNames& names) : m_database(database), m_names(names) { }
 
     /// Stores a new layer and returns its ID. The layer is named "New layer" or, if that is taken, "New layer
     /// 2" and so on, and has the lowest free code from 0 up. It is visible, selectable, black, hollow and
@@ -48,7 +48,7 @@ private:
     QString UnusedName();
     void Insert(qint32 layerID, const QString& name);
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     LayerNames& m_names;
 };
 

@@ -16,7 +16,7 @@
 #include "hostkit/windows/EditorWindows.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "messages/NameInText.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/RunTimeError.h>
@@ -26,7 +26,7 @@
 namespace Orvane {
 
 struct StandardClient::Parts {
-    explicit Parts(SqliteLayerDatabase& database)
+    explicit Parts(ILayerStore& database)
         : names(database), factory(database, names), steps(database, names, windows, notifications),
           schemes(database, steps, notifications)
     {
@@ -50,7 +50,7 @@ struct StandardClient::Parts {
     }
 };
 
-StandardClient::StandardClient(SqliteLayerDatabase& database, IShellServices& shellServices)
+StandardClient::StandardClient(ILayerStore& database, IShellServices& shellServices)
     : m_database(database), m_shellServices(shellServices), m_parts(std::make_unique<Parts>(database))
 {
 }
@@ -190,8 +190,9 @@ void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QStrin
 {
     bool isThere = false;
     RecordStep([&] {
-        m_database.Execute(QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name});
-        isThere = m_database.ChangedRows() > 0;
+        isThere = m_database.Execute(
+                      QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name})
+            > 0;
         return tr("Renaming of \"%1\"").arg(NameInStep(name));
     });
     if (!isThere)
@@ -204,8 +205,9 @@ void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QStrin
 {
     bool isThere = false;
     RecordStep([&] {
-        m_database.Execute(QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name});
-        isThere = m_database.ChangedRows() > 0;
+        isThere = m_database.Execute(
+                      QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name})
+            > 0;
         return tr("Renaming of the Group \"%1\"").arg(NameInStep(name));
     });
     if (isThere)
@@ -327,7 +329,7 @@ QWidget* StandardClient::DialogParent() const
     return active ? active : m_parts->windows.MainWindow();
 }
 
-SqliteLayerDatabase& StandardClient::LayerDatabase() const
+ILayerStore& StandardClient::LayerDatabase() const
 {
     return m_database;
 }

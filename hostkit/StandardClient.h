@@ -14,7 +14,7 @@ namespace Orvane {
 class HostNotifications;
 class LayerNames;
 class SettingsStore;
-class SqliteLayerDatabase;
+class ILayerStore;
 class UndoHistory;
 struct LayerDeletion;
 struct SchemeDocument;
@@ -37,7 +37,7 @@ class StandardClient : public IStyleEditorClient
 
 public:
     /// Neither is owned; both outlive this object.
-    StandardClient(SqliteLayerDatabase& database, IShellServices& shellServices);
+    StandardClient(ILayerStore& database, IShellServices& shellServices);
     ~StandardClient() override;
 
     /// The signals to connect to; owned by this object.
@@ -135,12 +135,12 @@ protected:
     /// none.
     QWidget* DialogParent() const;
     /// The layer database given to the constructor.
-    SqliteLayerDatabase& LayerDatabase() const;
+    ILayerStore& LayerDatabase() const;
 
 private:
     struct Parts;
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     IShellServices& m_shellServices;
     std::unique_ptr<Parts> m_parts;
 };

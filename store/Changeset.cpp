@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/Changeset.h"
 
+#include "store/ChangeMerger.h"
+#include "store/ChangesetReader.h"
+
 #include <algorithm>
-#include <memory>
-#include <new>
-#include <sqlite3.h>
+#include <utility>
 
 namespace Orvane {
 
@@ -13,84 +14,58 @@ namespace {
 constexpr qsizetype Large = 16384; // bytes
 constexpr int FastCompression = 1;
 
-struct MemoryCloser {
-    void operator()(void* memory) const { sqlite3_free(memory); }
-};
-
-struct IteratorCloser {
-    void operator()(sqlite3_changeset_iter* iterator) const { sqlite3changeset_finalize(iterator); }
-};
-
-using Iterator = std::unique_ptr<sqlite3_changeset_iter, IteratorCloser>;
-
-void* Memory(QByteArray& bytes)
+ChangeKind Opposite(ChangeKind kind)
 {
-    return bytes.isEmpty() ? nullptr : bytes.data();
+    if (kind == ChangeKind::Updated)
+        return kind;
+    return kind == ChangeKind::Inserted ? ChangeKind::Deleted : ChangeKind::Inserted;
 }
 
-// The changes are SQLite's own work: it can only fail for want of memory.
-QByteArray Taken(int result, int size, void* memory)
+std::string Inverse(const ChangedRow& row)
 {
-    const std::unique_ptr<void, MemoryCloser> owner(memory);
-    if (result != SQLITE_OK)
-        throw std::bad_alloc();
-    return QByteArray(static_cast<const char*>(memory), size);
+    ChangedRow inverse = row;
+    inverse.kind = Opposite(row.kind);
+    for (ChangedRow::Column& column : inverse.columns)
+        std::swap(column.before, column.after);
+    std::string bytes;
+    ChangedRows::Append(bytes, inverse);
+    return bytes;
 }
 
-RowChange::Kind KindOf(int operation)
+qint64 WholeKey(std::string_view key)
 {
-    if (operation == SQLITE_INSERT)
-        return RowChange::Kind::Inserted;
-    return operation == SQLITE_DELETE ? RowChange::Kind::Deleted : RowChange::Kind::Updated;
+    const StoredValue value = ChangeBytes::Decoded(ChangeBytes(key).CodedValue());
+    const auto* number = std::get_if<qint64>(&value);
+    return number ? *number : 0;
 }
 
-sqlite3_value* ValueBefore(sqlite3_changeset_iter* iterator, int column)
+// Gives the tables of a second changeset their places in the list of a first one.
+std::vector<size_t> Places(std::vector<ChangedTable>& tables, const std::vector<ChangedTable>& others)
 {
-    sqlite3_value* value = nullptr;
-    sqlite3changeset_old(iterator, column, &value);
-    return value;
-}
-
-sqlite3_value* ValueAfter(sqlite3_changeset_iter* iterator, int column)
-{
-    sqlite3_value* value = nullptr;
-    sqlite3changeset_new(iterator, column, &value);
-    return value;
-}
-
-qint64 KeyOf(sqlite3_changeset_iter* iterator, RowChange::Kind kind)
-{
-    unsigned char* isKey = nullptr;
-    int columns = 0;
-    sqlite3changeset_pk(iterator, &isKey, &columns);
-    const int column = int(std::find(isKey, isKey + columns, 1) - isKey);
-    sqlite3_value* value
-        = kind == RowChange::Kind::Inserted ? ValueAfter(iterator, column) : ValueBefore(iterator, column);
-    return value ? sqlite3_value_int64(value) : 0;
-}
-
-void ReadRow(sqlite3_changeset_iter* iterator, RowChange& row)
-{
-    const char* table = nullptr;
-    int columns = 0;
-    int operation = 0;
-    sqlite3changeset_op(iterator, &table, &columns, &operation, nullptr);
-    row.table = table;
-    row.kind = KindOf(operation);
-    row.key = KeyOf(iterator, row.kind);
-    row.columns.clear();
-    for (int column = 0; row.kind == RowChange::Kind::Updated && column < columns; ++column) {
-        if (ValueAfter(iterator, column))
-            row.columns.push_back(column);
+    std::vector<size_t> places;
+    for (const ChangedTable& other : others) {
+        const auto found = std::find_if(
+            tables.begin(), tables.end(), [&](const auto& table) { return table.name == other.name; });
+        places.push_back(size_t(found - tables.begin()));
+        if (found == tables.end())
+            tables.push_back(other);
     }
+    return places;
 }
 
 } // namespace
 
-Changeset::Changeset(const QByteArray& bytes)
-    : m_kept(bytes.size() < Large ? bytes : qCompress(bytes, FastCompression)),
-      m_compressed(bytes.size() >= Large)
+Changeset::Changeset(const std::vector<ChangedTable>& tables, std::string_view rows)
 {
+    if (rows.empty())
+        return;
+    std::string bytes;
+    ChangedRows::Append(bytes, tables);
+    bytes += rows;
+    m_kept = QByteArray(bytes.data(), qsizetype(bytes.size()));
+    m_compressed = m_kept.size() >= Large;
+    if (m_compressed)
+        m_kept = qCompress(m_kept, FastCompression);
 }
 
 QByteArray Changeset::Bytes() const
@@ -98,37 +73,52 @@ QByteArray Changeset::Bytes() const
     return m_compressed ? qUncompress(m_kept) : m_kept;
 }
 
+// From back to front, as what was done is taken back.
 Changeset Changeset::Inverted() const
 {
-    const QByteArray bytes = Bytes();
-    int size = 0;
-    void* memory = nullptr;
-    const int result = sqlite3changeset_invert(int(bytes.size()), bytes.constData(), &size, &memory);
-    return Changeset(Taken(result, size, memory));
+    ChangesetReader reader(*this);
+    std::vector<std::string> inverses;
+    while (reader.Next())
+        inverses.push_back(Inverse(reader.Row()));
+    std::string rows;
+    for (auto inverse = inverses.rbegin(); inverse != inverses.rend(); ++inverse)
+        rows += *inverse;
+    return Changeset(reader.Tables(), rows);
 }
 
 Changeset Changeset::Then(const Changeset& next) const
 {
-    QByteArray first = Bytes();
-    QByteArray second = next.Bytes();
-    int size = 0;
-    void* memory = nullptr;
-    const int result = sqlite3changeset_concat(
-        int(first.size()), Memory(first), int(second.size()), Memory(second), &size, &memory);
-    return Changeset(Taken(result, size, memory));
+    ChangesetReader first(*this);
+    ChangesetReader second(next);
+    ChangeMerger merger;
+    while (first.Next())
+        merger.Add(first.Row());
+    std::vector<ChangedTable> tables = first.Tables();
+    const std::vector<size_t> places = Places(tables, second.Tables());
+    while (second.Next()) {
+        ChangedRow row = second.Row();
+        row.table = places[row.table];
+        merger.Add(row);
+    }
+    return Changeset(tables, merger.Rows());
 }
 
 void Changeset::ForEachRow(const std::function<void(const RowChange& row)>& visitor) const
 {
-    QByteArray bytes = Bytes();
-    sqlite3_changeset_iter* started = nullptr;
-    if (sqlite3changeset_start(&started, int(bytes.size()), Memory(bytes)) != SQLITE_OK)
-        throw std::bad_alloc();
-    const Iterator iterator(started);
-    RowChange row;
-    while (sqlite3changeset_next(started) == SQLITE_ROW) {
-        ReadRow(started, row);
-        visitor(row);
+    ChangesetReader reader(*this);
+    RowChange change;
+    while (reader.Next()) {
+        const ChangedRow& row = reader.Row();
+        const ChangedTable& table = reader.Table();
+        change.table = table.name;
+        change.kind = row.kind;
+        change.key = WholeKey(row.key);
+        change.columns.clear();
+        for (const ChangedRow::Column& column : row.columns) {
+            if (row.kind == ChangeKind::Updated)
+                change.columns.push_back(table.columns[size_t(column.position)]);
+        }
+        visitor(change);
     }
 }
 

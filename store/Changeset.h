@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/ChangedRow.h"
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -10,35 +12,33 @@
 
 namespace Orvane {
 
-/// How one row changed.
+/// How one row changed, for a visitor.
 struct RowChange {
-    enum class Kind { Inserted, Deleted, Updated };
-
-    std::string_view table; ///< valid only during the visitor call
-    Kind kind = Kind::Updated;
-    qint64 key = 0; ///< the first column of the primary key, 0 if that is not a number
-    std::vector<int> columns; ///< of an updated row: positions of the columns whose value changed, from 0
+    std::string_view table; ///< valid only during the visitor call, as are the columns
+    ChangeKind kind = ChangeKind::Updated;
+    qint64 key = 0; ///< the first column of the primary key, 0 if that is not a whole number
+    std::vector<std::string_view> columns; ///< of an updated row: those whose value changed
 };
 
-/// The changes to the rows of a layer database, with the values before and after, once per row. An ordinary
-/// value: it can be kept, inverted, and applied to the database that it comes from.
+/// The changes to the rows of a layer store, with the values before and after, once per row. An ordinary
+/// value: it can be kept, inverted, and applied to the store that it comes from. Names no kind of store.
 class Changeset
 {
 public:
     /// An empty changeset.
     Changeset() = default;
-    /// bytes: in SQLite's changeset format. Large ones are kept compressed.
-    explicit Changeset(const QByteArray& bytes);
+    /// rows: as ChangesetReader returns them, at most one for each key. Large ones are kept compressed.
+    Changeset(const std::vector<ChangedTable>& tables, std::string_view rows);
 
     bool IsEmpty() const { return m_kept.isEmpty(); }
     /// The changeset that undoes this one.
     Changeset Inverted() const;
     /// This changeset and the next one combined.
     Changeset Then(const Changeset& next) const;
-    /// Calls the visitor for each row, one table after another.
+    /// Calls the visitor for each row.
     void ForEachRow(const std::function<void(const RowChange& row)>& visitor) const;
 
-    /// In SQLite's changeset format.
+    /// The changes as bytes, for ChangesetReader.
     QByteArray Bytes() const;
     /// How much memory it uses, in bytes.
     qsizetype KeptBytes() const { return m_kept.size(); }

@@ -61,5 +61,7 @@ inline constexpr const char* TransactionLost
     = QT_TRANSLATE_NOOP("LayerStore", "The changes to \"^1\" were undone after an error; begin them again.");
 inline constexpr const char* NothingToStore
     = QT_TRANSLATE_NOOP("LayerStore", "An empty value cannot be stored in \"^1\".");
+inline constexpr const char* ChangesNotRecorded = QT_TRANSLATE_NOOP(
+    "LayerStore", "Memory was too short to record how \"^1\" was changed; these changes cannot be undone.");
 
 } // namespace Orvane::StoreTexts

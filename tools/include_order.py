@@ -21,14 +21,15 @@ def read_table():
         cells = [cell.strip() for cell in line.strip().removeprefix("|").removesuffix("|").split("|")]
         name = re.fullmatch(r"`([\w/]+)/`", cells[0])
         if name and len(cells) == 4:
-            rows[name[1]] = re.findall(r"`([\w/]+)`", cells[3])
+            rows[name[1]] = re.findall(r"`([\w/*]+)`", cells[3])
         elif line.startswith("Outside the table"):
             break
     return rows
 
 
-def lies_in(folder, name):
-    return folder == name or folder.startswith(name + "/")
+def is_named(folder, name):
+    """"store" is that folder alone, "store/*" its subfolders too."""
+    return folder == name or name.endswith("/*") and (folder + "/").startswith(name[:-1])
 
 
 def folder_of(path, rows):
@@ -53,7 +54,7 @@ def faults_of(path, rows):
             continue
         if order.index(other) > order.index(room):
             yield f"{path}: includes {header}, which stands further down"
-        elif not any(lies_in(other, name) for name in rows[room]):
+        elif not any(is_named(other, name) for name in rows[room]):
             yield f"{path}: includes {header}; the table does not let {room}/ use {other}/"
 
 

@@ -276,6 +276,10 @@
         <translation>&amp;Name:</translation>
     </message>
     <message>
+        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
+        <translation>Der Arbeitsspeicher reichte nicht, um die Änderungen an „^1“ festzuhalten; sie lassen sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>Neuer Layer</translation>
     </message>

@@ -276,6 +276,10 @@
         <translation>&amp;Nom :</translation>
     </message>
     <message>
+        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
+        <translation>La mémoire n’a pas suffi pour enregistrer les modifications de « ^1 » ; elles ne peuvent pas être annulées.</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>Nouvelle couche</translation>
     </message>

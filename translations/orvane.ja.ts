@@ -276,6 +276,10 @@
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
+        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
+        <translation>メモリ不足のため「^1」への変更を記録できませんでした。これらの変更は元に戻せません。</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>新しいレイヤ</translation>
     </message>

@@ -5,7 +5,8 @@
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/StyleEditorPlugin.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
@@ -20,7 +21,7 @@ using namespace Orvane;
 
 namespace {
 
-void AddLayer(SqliteLayerDatabase& database, qint32 number, const QString& name, qint32 colour)
+void AddLayer(ILayerStore& database, qint32 number, const QString& name, qint32 colour)
 {
     database.Execute(
         "INSERT INTO Layers (LayerID, Name, Code, Color, Priority) VALUES (?1, ?2, ?1, ?3, ?1)",
@@ -29,11 +30,11 @@ void AddLayer(SqliteLayerDatabase& database, qint32 number, const QString& name,
         "INSERT INTO LayerGroupMembers (GroupID, LayerID, Ordering) VALUES (1, ?1, ?1)", {number});
 }
 
-std::unique_ptr<SqliteLayerDatabase> OpenOrCreate(const QString& path)
+std::unique_ptr<ILayerStore> OpenOrCreate(const QString& path)
 {
     if (QFile::exists(path))
-        return SqliteLayerDatabase::Open(path);
-    auto database = SqliteLayerDatabase::Create(path);
+        return LayerStores::Open(path);
+    auto database = LayerStores::Create(path);
     database->Execute("INSERT INTO LayerGroups (ID, Name, Expanded) VALUES (1, 'Base map', 1)");
     AddLayer(*database, 1, "Roads", 0x0000FF); // colours are BGR
     AddLayer(*database, 2, "Rivers", 0xFF0000);

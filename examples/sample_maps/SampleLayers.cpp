@@ -3,7 +3,7 @@
 
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/Transaction.h>

@@ -3,7 +3,7 @@
 
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/schemes/SchemeColumns.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -54,7 +54,7 @@ QString DifferingOrUnknownQuery()
         + SchemeColumns::Difference() + u')';
 }
 
-QSet<qint32> LayersOf(SqliteLayerDatabase& database, const QString& query, qint32 schemeID)
+QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 schemeID)
 {
     QSet<qint32> layerIDs;
     const auto layers = database.OpenQuery(query, {schemeID});

@@ -10,7 +10,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// Named sets of layer settings, kept in the layer database's own tables LayerSchemes and LayerSchemeValues,
 /// which are created if they are missing.
@@ -26,7 +26,7 @@ class LayerSchemes
 
 public:
     /// database: not owned; outlives this object.
-    explicit LayerSchemes(SqliteLayerDatabase& database) : m_database(database), m_tables(database) { }
+    explicit LayerSchemes(ILayerStore& database) : m_database(database), m_tables(database) { }
 
     /// All scheme names in natural order: case-insensitive, numbers by value.
     QStringList Names();
@@ -63,7 +63,7 @@ private:
     qint32 CurrentID();
     void StoreValues(qint32 schemeID);
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     SchemeTables m_tables;
 };
 

@@ -3,7 +3,7 @@
 
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeTables.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -47,7 +47,7 @@ Matches(const std::vector<LayerIdentity>& present, const SchemeDocument& scheme,
     return byLayerID;
 }
 
-QSet<qint32> ListedLayers(SqliteLayerDatabase& map)
+QSet<qint32> ListedLayers(ILayerStore& map)
 {
     QSet<qint32> layerIDs;
     const auto rows = map.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers WHERE Code > -2"));
@@ -57,7 +57,7 @@ QSet<qint32> ListedLayers(SqliteLayerDatabase& map)
 }
 
 // The scheme of that name without values; it is made when it is missing.
-qint32 EmptyScheme(SqliteLayerDatabase& map, const QString& name)
+qint32 EmptyScheme(ILayerStore& map, const QString& name)
 {
     SchemeTables tables(map);
     const qint32 known = tables.IDOf(name);
@@ -68,8 +68,7 @@ qint32 EmptyScheme(SqliteLayerDatabase& map, const QString& name)
 }
 
 void StoreValues(
-    SqliteLayerDatabase& map, qint32 schemeID, const QHash<qint32, qint32>& byLayerID,
-    const SchemeDocument& scheme)
+    ILayerStore& map, qint32 schemeID, const QHash<qint32, qint32>& byLayerID, const SchemeDocument& scheme)
 {
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
@@ -84,7 +83,7 @@ void StoreValues(
 
 } // namespace
 
-SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName)
+SchemeDocument Export(ILayerStore& map, const QString& schemeName)
 {
     const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
     SchemeDocument document;
@@ -100,7 +99,7 @@ SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName)
     return document;
 }
 
-SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme)
+SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)
 {
     Transaction transaction(map);
     LayerSchemes(map).Current(); // makes the first scheme

@@ -8,7 +8,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The result of an import.
 struct SchemeImport {
@@ -23,11 +23,11 @@ struct SchemeImport {
 namespace SchemeExchange {
 
 /// The saved values of the scheme. Raises HostError::UnknownScheme.
-SchemeDocument Export(SqliteLayerDatabase& map, const QString& schemeName);
+SchemeDocument Export(ILayerStore& map, const QString& schemeName);
 
 /// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
 /// replaced. The layers and the current scheme stay as they are.
-SchemeImport Import(SqliteLayerDatabase& map, const SchemeDocument& scheme);
+SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme);
 
 } // namespace SchemeExchange
 

@@ -2,7 +2,7 @@
 #include "hostkit/schemes/SchemeTables.h"
 
 #include "hostkit/schemes/SchemeColumns.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

@@ -7,7 +7,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The tables of a layer database that hold its schemes: LayerSchemes has one row per scheme, and
 /// LayerSchemeValues one row per layer and scheme. Deleting a layer deletes its rows.
@@ -18,7 +18,7 @@ public:
     static constexpr qint32 NoScheme = 0;
 
     /// database: not owned; outlives this object.
-    explicit SchemeTables(SqliteLayerDatabase& database) : m_database(database) { }
+    explicit SchemeTables(ILayerStore& database) : m_database(database) { }
 
     /// Creates the tables that are missing.
     void Create();
@@ -43,7 +43,7 @@ public:
     void Remove(qint32 schemeID);
 
 private:
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
 };
 
 } // namespace Orvane

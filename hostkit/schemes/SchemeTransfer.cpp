@@ -4,7 +4,7 @@
 #include "hostkit/schemes/LayerMatch.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "hostkit/schemes/SchemeTables.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -20,7 +20,7 @@ void AppendSchemeColumns(std::vector<Value>& values, const IRecordset& row)
         values.push_back(row.Field(SchemeColumns::Name(column)));
 }
 
-qint32 HighestLayerID(SqliteLayerDatabase& database)
+qint32 HighestLayerID(ILayerStore& database)
 {
     const auto highest
         = database.OpenQuery(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
@@ -29,7 +29,7 @@ qint32 HighestLayerID(SqliteLayerDatabase& database)
 
 } // namespace
 
-SchemeTransfer::SchemeTransfer(SqliteLayerDatabase& from, SqliteLayerDatabase& to)
+SchemeTransfer::SchemeTransfer(ILayerStore& from, ILayerStore& to)
     : m_from(from), m_to(to), m_matches(MatchLayers(from, to))
 {
 }

@@ -6,14 +6,14 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// Copies layer schemes from one layer database into another; layers are matched by MatchLayers.
 class SchemeTransfer
 {
 public:
     /// Neither is owned; both outlive this object.
-    SchemeTransfer(SqliteLayerDatabase& from, SqliteLayerDatabase& to);
+    SchemeTransfer(ILayerStore& from, ILayerStore& to);
 
     /// Adds the layers that the target database does not have to it, with all their properties.
     void AddMissingLayers();
@@ -26,8 +26,8 @@ private:
     void AddLayer(qint32 layerID, qint32 newLayerID);
     void CopyValues(qint32 schemeID, qint32 newSchemeID);
 
-    SqliteLayerDatabase& m_from;
-    SqliteLayerDatabase& m_to;
+    ILayerStore& m_from;
+    ILayerStore& m_to;
     QHash<qint32, qint32> m_matches; // from the LayerID in the source to the LayerID in the target
 };
 

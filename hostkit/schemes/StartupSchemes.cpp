@@ -3,7 +3,8 @@
 
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeTransfer.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/Transaction.h>
 
@@ -13,12 +14,12 @@
 
 namespace Orvane::StartupSchemes {
 
-void Save(SqliteLayerDatabase& map, const QString& startupFile)
+void Save(ILayerStore& map, const QString& startupFile)
 {
     LayerSchemes(map).Current(); // makes the first scheme
     QDir().mkpath(QFileInfo(startupFile).absolutePath());
-    const auto startup = QFile::exists(startupFile) ? SqliteLayerDatabase::Open(startupFile)
-                                                    : SqliteLayerDatabase::Create(startupFile);
+    const auto startup
+        = QFile::exists(startupFile) ? LayerStores::Open(startupFile) : LayerStores::Create(startupFile);
     Transaction transaction(*startup);
     SchemeTransfer transfer(map, *startup);
     transfer.AddMissingLayers();
@@ -26,11 +27,11 @@ void Save(SqliteLayerDatabase& map, const QString& startupFile)
     transaction.Commit();
 }
 
-void Load(SqliteLayerDatabase& map, const QString& startupFile)
+void Load(ILayerStore& map, const QString& startupFile)
 {
     if (!QFile::exists(startupFile))
         return;
-    const auto startup = SqliteLayerDatabase::Open(startupFile, OpenMode::ReadOnly);
+    const auto startup = LayerStores::Open(startupFile, OpenMode::ReadOnly);
     Transaction transaction(map);
     SchemeTransfer(*startup, map).CopySchemes();
     transaction.Commit();

@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The startup database: a second layer database file, from which new maps take their schemes. Layers are
 /// matched by code and name, as described in LayerMatch.h.
@@ -13,11 +13,11 @@ namespace StartupSchemes {
 
 /// Writes all schemes of the map to the startup file, in one transaction. The file and its folder are created
 /// if they are missing; layers that the file does not have are added; its schemes of other names stay.
-void Save(SqliteLayerDatabase& map, const QString& startupFile);
+void Save(ILayerStore& map, const QString& startupFile);
 
 /// Copies the schemes of the startup file into the map, in one transaction; schemes of the same name are
 /// replaced. The layers stay as they are. Does nothing if the file does not exist.
-void Load(SqliteLayerDatabase& map, const QString& startupFile);
+void Load(ILayerStore& map, const QString& startupFile);
 
 } // namespace StartupSchemes
 

@@ -2,7 +2,7 @@
 #include "hostkit/undo/ChangeStep.h"
 
 #include "hostkit/common/HostErrors.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

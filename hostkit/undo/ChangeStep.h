@@ -8,7 +8,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// A step that changed rows of the layer database.
 class ChangeStep final : public IUndoStep
@@ -19,7 +19,7 @@ public:
 
     /// What steps work with; everything here must outlive them.
     struct Surroundings {
-        SqliteLayerDatabase& database;
+        ILayerStore& database;
         std::function<void()> begin; ///< called before rows change; if it raises, the step is not run
         std::function<void(const Changeset& changed)> end; ///< called after rows changed; raises nothing
     };

@@ -2,27 +2,16 @@
 #include "hostkit/undo/LayerChanges.h"
 
 #include "store/Changeset.h"
-#include "store/SqliteLayerDatabase.h"
-
-#include <OrvaneShellLib/ValueConversions.h>
 
 #include <algorithm>
+#include <string_view>
+#include <vector>
 
 namespace Orvane {
 
 namespace {
 
-using Kind = RowChange::Kind;
-
-int PositionOf(SqliteLayerDatabase& database, const char* table, const char* column)
-{
-    const auto row = database.OpenQuery(
-        QStringLiteral("SELECT cid FROM pragma_table_info(?1) WHERE name = ?2"),
-        {QString::fromLatin1(table), QString::fromLatin1(column)});
-    return row->AtEOF() ? -1 : ToInt32(row->Field("cid"));
-}
-
-bool Contains(const std::vector<int>& columns, int column)
+bool Contains(const std::vector<std::string_view>& columns, std::string_view column)
 {
     return std::find(columns.begin(), columns.end(), column) != columns.end();
 }
@@ -31,17 +20,11 @@ bool Contains(const std::vector<int>& columns, int column)
 class Sorter
 {
 public:
-    explicit Sorter(SqliteLayerDatabase& database)
-        : m_name(PositionOf(database, "Layers", "Name")), m_code(PositionOf(database, "Layers", "Code")),
-          m_groupName(PositionOf(database, "LayerGroups", "Name"))
-    {
-    }
-
     void Take(const RowChange& row)
     {
         if (row.table == "Layers")
             TakeLayer(row, qint32(row.key));
-        else if (row.table == "LayerGroups" && Contains(row.columns, m_groupName))
+        else if (row.table == "LayerGroups" && Contains(row.columns, "Name"))
             m_changes.renamedGroups.insert(qint32(row.key));
         else if (row.table == "LayerSchemes")
             m_changes.schemes = true;
@@ -61,37 +44,34 @@ public:
 private:
     void TakeLayer(const RowChange& row, qint32 layerID)
     {
-        if (row.kind == Kind::Inserted)
+        if (row.kind == ChangeKind::Inserted)
             m_changes.created.insert(layerID);
-        else if (row.kind == Kind::Deleted)
+        else if (row.kind == ChangeKind::Deleted)
             m_changes.deleted.insert(layerID);
         else
             TakeColumns(row.columns, layerID);
     }
 
-    void TakeColumns(const std::vector<int>& columns, qint32 layerID)
+    void TakeColumns(const std::vector<std::string_view>& columns, qint32 layerID)
     {
-        const bool isRenamed = Contains(columns, m_name);
+        const bool isRenamed = Contains(columns, "Name");
         if (isRenamed)
             m_changes.renamed.insert(layerID);
         if (columns.size() == size_t(isRenamed))
             return;
         m_changes.changed.insert(layerID);
-        m_changes.onlyCodes &= columns.size() == 1 + size_t(isRenamed) && Contains(columns, m_code);
+        m_changes.onlyCodes &= columns.size() == 1 + size_t(isRenamed) && Contains(columns, "Code");
     }
 
-    int m_name;
-    int m_code;
-    int m_groupName;
     LayerChanges m_changes;
     QSet<qint32> m_layersInSchemes;
 };
 
 } // namespace
 
-LayerChanges LayerChanges::Of(const Changeset& changes, SqliteLayerDatabase& database)
+LayerChanges LayerChanges::Of(const Changeset& changes)
 {
-    Sorter sorter(database);
+    Sorter sorter;
     changes.ForEachRow([&](const RowChange& row) { sorter.Take(row); });
     return sorter.Finish();
 }

@@ -6,7 +6,6 @@
 namespace Orvane {
 
 class Changeset;
-class SqliteLayerDatabase;
 
 /// What changes to the rows of a layer database mean for a host.
 struct LayerChanges {
@@ -18,8 +17,7 @@ struct LayerChanges {
     bool onlyCodes = true; ///< true when only the code of the changed layers has changed
     bool schemes = false; ///< the schemes, the current one, or saved values of layers that stay have changed
 
-    /// database: the one in which the changes were made.
-    static LayerChanges Of(const Changeset& changes, SqliteLayerDatabase& database);
+    static LayerChanges Of(const Changeset& changes);
 };
 
 } // namespace Orvane

@@ -9,7 +9,7 @@
 #include "hostkit/windows/EditorWindows.h"
 #include "messages/NameInText.h"
 #include "store/ChangeRecorder.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -20,7 +20,7 @@ namespace Orvane {
 
 namespace {
 
-QString GroupName(SqliteLayerDatabase& database, qint32 groupID)
+QString GroupName(ILayerStore& database, qint32 groupID)
 {
     const auto group
         = database.OpenQuery(QStringLiteral("SELECT Name FROM LayerGroups WHERE ID = ?1"), {groupID});
@@ -31,8 +31,7 @@ QString GroupName(SqliteLayerDatabase& database, qint32 groupID)
 } // namespace
 
 LayerSteps::LayerSteps(
-    SqliteLayerDatabase& database, LayerNames& names, EditorWindows& windows,
-    HostNotifications& notifications)
+    ILayerStore& database, LayerNames& names, EditorWindows& windows, HostNotifications& notifications)
     : m_database(database), m_names(names), m_windows(windows),
       m_notifications(notifications), m_surroundings{
                                           database, [this] { RequireNoPendingEdits(); },
@@ -99,7 +98,7 @@ void LayerSteps::Keep(const std::function<QString(const Changeset&)>& text, Chan
 
 QString LayerSteps::EditText(const Changeset& changes)
 {
-    const LayerChanges edited = LayerChanges::Of(changes, m_database);
+    const LayerChanges edited = LayerChanges::Of(changes);
     if (edited.changed.size() != 1)
         return tr("Change of %1 Layers").arg(edited.changed.size());
     const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
@@ -129,7 +128,7 @@ void LayerSteps::Tell()
 
 void LayerSteps::Emit(const Changeset& changed)
 {
-    const LayerChanges changes = LayerChanges::Of(changed, m_database);
+    const LayerChanges changes = LayerChanges::Of(changed);
     for (const qint32 layerID : changes.deleted)
         emit m_notifications.LayerDeleted(layerID);
     for (const qint32 layerID : changes.created)

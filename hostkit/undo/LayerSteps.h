@@ -27,8 +27,7 @@ class LayerSteps
 public:
     /// None of these is owned; all must outlive this object.
     LayerSteps(
-        SqliteLayerDatabase& database, LayerNames& names, EditorWindows& windows,
-        HostNotifications& notifications);
+        ILayerStore& database, LayerNames& names, EditorWindows& windows, HostNotifications& notifications);
     ~LayerSteps();
     Q_DISABLE_COPY_MOVE(LayerSteps)
 
@@ -52,7 +51,7 @@ private:
     void Tell();
     void Emit(const Changeset& changed);
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     LayerNames& m_names;
     EditorWindows& m_windows;
     HostNotifications& m_notifications;

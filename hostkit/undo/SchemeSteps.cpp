@@ -5,13 +5,13 @@
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/undo/LayerSteps.h"
 #include "messages/NameInText.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <utility>
 
 namespace Orvane {
 
-SchemeSteps::SchemeSteps(SqliteLayerDatabase& database, LayerSteps& steps, HostNotifications& notifications)
+SchemeSteps::SchemeSteps(ILayerStore& database, LayerSteps& steps, HostNotifications& notifications)
     : m_database(database), m_steps(steps), m_notifications(notifications), m_schemes(database)
 {
     ListenToChanges();

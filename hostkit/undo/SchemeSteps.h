@@ -13,7 +13,7 @@ namespace Orvane {
 
 class HostNotifications;
 class LayerSteps;
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
 /// signals of HostNotifications. Errors are those of LayerSchemes and of the database.
@@ -23,7 +23,7 @@ class SchemeSteps
 
 public:
     /// None of these is owned; all must outlive this object.
-    SchemeSteps(SqliteLayerDatabase& database, LayerSteps& steps, HostNotifications& notifications);
+    SchemeSteps(ILayerStore& database, LayerSteps& steps, HostNotifications& notifications);
     Q_DISABLE_COPY_MOVE(SchemeSteps)
 
     QStringList Names() { return m_schemes.Names(); }
@@ -50,7 +50,7 @@ private:
     void Leave(const QString& name);
     void Tell();
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     LayerSteps& m_steps;
     HostNotifications& m_notifications;
     LayerSchemes m_schemes;

@@ -6,7 +6,7 @@
 
 namespace Orvane {
 
-QString FindBackdrop(SqliteLayerDatabase& database, const QString& mapPath)
+QString FindBackdrop(ILayerStore& database, const QString& mapPath)
 {
     const SourcePaths::Place place{
         MapSettings::Read(database, QStringLiteral("Backdrop")),

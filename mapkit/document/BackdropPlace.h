@@ -5,10 +5,10 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The picture under all layers that a map file's settings name, as an absolute path where it is found now;
 /// empty for none, and for a database without settings. mapPath: absolute. Errors are those of the database.
-QString FindBackdrop(SqliteLayerDatabase& database, const QString& mapPath);
+QString FindBackdrop(ILayerStore& database, const QString& mapPath);
 
 } // namespace Orvane

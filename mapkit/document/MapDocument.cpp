@@ -4,8 +4,8 @@
 #include "hostkit/common/StoredScale.h"
 #include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/MapSettings.h"
-#include "store/LayerFileUse.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -64,7 +64,7 @@ private:
     // Who has the old file open would go on writing into what is no longer there.
     void RefuseWhileOpen() const
     {
-        if (!IsLayerFileInUse(m_path))
+        if (!LayerStores::IsInUse(m_path))
             return;
         throw RunTimeError(
             ErrorNumber::DatabaseLocked,
@@ -82,13 +82,13 @@ private:
 
 std::unique_ptr<MapDocument> MapDocument::Untitled()
 {
-    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::CreateInMemory(), {}));
+    return std::unique_ptr<MapDocument>(new MapDocument(LayerStores::CreateInMemory(), {}));
 }
 
 std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    return std::unique_ptr<MapDocument>(new MapDocument(SqliteLayerDatabase::Create(absolute), absolute));
+    return std::unique_ptr<MapDocument>(new MapDocument(LayerStores::Create(absolute), absolute));
 }
 
 std::unique_ptr<MapDocument> MapDocument::CreateOver(const QString& path)
@@ -108,12 +108,12 @@ std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
 
 std::unique_ptr<MapDocument> MapDocument::OpenCopy(const QString& copy, const QString& original)
 {
-    auto database = SqliteLayerDatabase::Open(QFileInfo(copy).absoluteFilePath());
+    auto database = LayerStores::Open(QFileInfo(copy).absoluteFilePath());
     const QString path = QFileInfo(original).absoluteFilePath();
     return std::unique_ptr<MapDocument>(new MapDocument(std::move(database), path));
 }
 
-MapDocument::MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path)
+MapDocument::MapDocument(std::unique_ptr<ILayerStore> database, const QString& path)
     : m_database(std::move(database)), m_path(path), m_sources(*m_database, m_path), m_renderings(*m_database)
 {
     m_sources.Create();
@@ -132,7 +132,7 @@ void MapDocument::Remove(const QString& path)
 void MapDocument::SaveCopy(const QString& path) const
 {
     const UnfinishedFile unfinished(path);
-    m_database->Execute(QStringLiteral("VACUUM INTO ?1"), {unfinished.Path()});
+    m_database->CopyToFile(unfinished.Path());
     {
         // Paths are kept from the folder that the copy is in, which is the one that it will be in.
         const auto copy = Open(unfinished.Path());

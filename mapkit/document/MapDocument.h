@@ -12,7 +12,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// What a new layer begins with.
 struct NewLayer {
@@ -55,7 +55,7 @@ public:
     /// open anywhere, it raises, and that one stays.
     void SaveCopy(const QString& path) const;
 
-    SqliteLayerDatabase& Database() const { return *m_database; }
+    ILayerStore& Database() const { return *m_database; }
     /// Absolute; empty for an untitled map.
     const QString& Path() const { return m_path; }
     /// True when that path, however it is written, leads to this map's file.
@@ -86,10 +86,10 @@ public:
     bool HasLayers() const;
 
 private:
-    MapDocument(std::unique_ptr<SqliteLayerDatabase> database, const QString& path);
+    MapDocument(std::unique_ptr<ILayerStore> database, const QString& path);
     qint32 NextOf(const QString& expression, const QString& table) const;
 
-    std::unique_ptr<SqliteLayerDatabase> m_database;
+    std::unique_ptr<ILayerStore> m_database;
     QString m_path;
     SourceTable m_sources;
     RenderingTable m_renderings;

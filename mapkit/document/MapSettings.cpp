@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/MapSettings.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/StoreTable.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -9,33 +10,37 @@ namespace Orvane::MapSettings {
 
 namespace {
 
-// A plain layer database has none.
-bool HaveTable(SqliteLayerDatabase& database)
+const QString TableName = QStringLiteral("MapSettings");
+
+StoreTable Table()
 {
-    return !database.OpenQuery(QStringLiteral("SELECT name FROM pragma_table_info('MapSettings')"))->AtEOF();
+    return {
+        TableName,
+        {{QStringLiteral("Name")}, {QStringLiteral("Value"), StoreType::Text, StoreColumn::Nulls::Refused}},
+        {QStringLiteral("Name")}};
 }
 
 } // namespace
 
-void Prepare(SqliteLayerDatabase& database)
+void Prepare(ILayerStore& database)
 {
-    database.Execute(QStringLiteral(
-        "CREATE TABLE IF NOT EXISTS MapSettings (Name TEXT PRIMARY KEY, Value TEXT NOT NULL)"));
+    database.PrepareTable(Table());
 }
 
-QString Read(SqliteLayerDatabase& database, const QString& name)
+QString Read(ILayerStore& database, const QString& name)
 {
-    if (!HaveTable(database))
+    if (!database.HasTable(TableName)) // a plain layer database has none
         return {};
     const auto row
         = database.OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});
     return row->AtEOF() ? QString() : ToTextOrNone(row->Field("Value"));
 }
 
-void Write(SqliteLayerDatabase& database, const QString& name, const QString& value)
+void Write(ILayerStore& database, const QString& name, const QString& value)
 {
     database.Execute(
-        QStringLiteral("INSERT OR REPLACE INTO MapSettings VALUES (?1, ?2)"),
+        QStringLiteral("INSERT INTO MapSettings (Name, Value) VALUES (?1, ?2)"
+                       " ON CONFLICT (Name) DO UPDATE SET Value = excluded.Value"),
         {name, value.isNull() ? QStringLiteral("") : value});
 }
 

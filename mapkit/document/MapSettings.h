@@ -5,19 +5,19 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// What a map file stores besides layers, by name. A file without such settings reads as one with none.
 namespace MapSettings {
 
 /// Makes the file able to keep settings, if it is not yet.
-void Prepare(SqliteLayerDatabase& database);
+void Prepare(ILayerStore& database);
 
 /// The setting's text, or an empty text.
-QString Read(SqliteLayerDatabase& database, const QString& name);
+QString Read(ILayerStore& database, const QString& name);
 
 /// Stores the text. Raises what the database raises.
-void Write(SqliteLayerDatabase& database, const QString& name, const QString& value);
+void Write(ILayerStore& database, const QString& name, const QString& value);
 
 } // namespace MapSettings
 

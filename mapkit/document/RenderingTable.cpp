@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/RenderingTable.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/StoreTable.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -11,11 +12,21 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto Definition
-    = "CREATE TABLE IF NOT EXISTS LayerRendering ("
-      " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
-      " LabelAttribute TEXT NOT NULL DEFAULT '', ClassAttribute TEXT NOT NULL DEFAULT '',"
-      " Division INTEGER NOT NULL DEFAULT 0, ClassCount INTEGER NOT NULL DEFAULT 5)";
+StoreTable Table()
+{
+    using Nulls = StoreColumn::Nulls;
+    const QString layers = QStringLiteral("Layers");
+    const QString layerID = QStringLiteral("LayerID");
+    const QString noText = QStringLiteral("''");
+    return {
+        QStringLiteral("LayerRendering"),
+        {{layerID, StoreType::Whole, Nulls::Allowed, {}, layers, layerID},
+         {QStringLiteral("LabelAttribute"), StoreType::Text, Nulls::Refused, noText},
+         {QStringLiteral("ClassAttribute"), StoreType::Text, Nulls::Refused, noText},
+         {QStringLiteral("Division"), StoreType::Whole, Nulls::Refused, QStringLiteral("0")},
+         {QStringLiteral("ClassCount"), StoreType::Whole, Nulls::Refused, QStringLiteral("5")}},
+        {layerID}};
+}
 
 QString NotNull(const QString& text)
 {
@@ -38,7 +49,7 @@ LayerRendering RenderingOfRow(const IRecordset& row)
 
 void RenderingTable::Create()
 {
-    m_database.Execute(QLatin1String(Definition));
+    m_database.PrepareTable(Table());
 }
 
 std::map<qint32, LayerRendering> RenderingTable::All() const
@@ -60,9 +71,11 @@ LayerRendering RenderingTable::Of(qint32 layerID) const
 void RenderingTable::Set(qint32 layerID, const LayerRendering& rendering)
 {
     m_database.Execute(
-        QStringLiteral("INSERT OR REPLACE INTO LayerRendering"
+        QStringLiteral("INSERT INTO LayerRendering"
                        " (LayerID, LabelAttribute, ClassAttribute, Division, ClassCount)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5)"),
+                       " VALUES (?1, ?2, ?3, ?4, ?5) ON CONFLICT (LayerID) DO UPDATE SET"
+                       " LabelAttribute = excluded.LabelAttribute, ClassAttribute = excluded.ClassAttribute,"
+                       " Division = excluded.Division, ClassCount = excluded.ClassCount"),
         {layerID, NotNull(rendering.labelAttribute), NotNull(rendering.classAttribute),
          int(rendering.division), rendering.classCount});
 }

@@ -9,7 +9,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The table LayerRendering of a map file: what each layer's renderer style works with. A layer without a row
 /// has the values that a new LayerRendering has; a deleted layer takes its row with it. Errors are those of
@@ -18,7 +18,7 @@ class RenderingTable
 {
 public:
     /// database: not owned; outlives this object.
-    explicit RenderingTable(SqliteLayerDatabase& database) : m_database(database) { }
+    explicit RenderingTable(ILayerStore& database) : m_database(database) { }
 
     /// Makes the table where it is missing.
     void Create();
@@ -30,7 +30,7 @@ public:
     void Set(qint32 layerID, const LayerRendering& rendering);
 
 private:
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
 };
 
 } // namespace Orvane

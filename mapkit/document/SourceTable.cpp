@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/SourceTable.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/StoreTable.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -9,25 +10,35 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto SourcesDefinition
-    = "CREATE TABLE IF NOT EXISTS LayerSources ("
-      " LayerID INTEGER PRIMARY KEY REFERENCES Layers (LayerID) ON DELETE CASCADE,"
-      " Path TEXT NOT NULL, OgrLayer TEXT NOT NULL, Filter TEXT NOT NULL DEFAULT '')";
+const QString TableName = QStringLiteral("LayerSources");
+const QString RelativePath = QStringLiteral("RelativePath");
+
+StoreTable Table()
+{
+    using Nulls = StoreColumn::Nulls;
+    const QString layerID = QStringLiteral("LayerID");
+    return {
+        TableName,
+        {{layerID, StoreType::Whole, Nulls::Allowed, {}, QStringLiteral("Layers"), layerID},
+         {QStringLiteral("Path"), StoreType::Text, Nulls::Refused},
+         {QStringLiteral("OgrLayer"), StoreType::Text, Nulls::Refused},
+         {QStringLiteral("Filter"), StoreType::Text, Nulls::Refused, QStringLiteral("''")},
+         {RelativePath}},
+        {layerID}};
+}
 
 } // namespace
 
 void SourceTable::Create()
 {
-    m_database.Execute(QLatin1String(SourcesDefinition));
-    if (!HasColumn("RelativePath"))
-        m_database.Execute(QStringLiteral("ALTER TABLE LayerSources ADD COLUMN RelativePath TEXT"));
+    m_database.PrepareTable(Table());
 }
 
 std::vector<LayerSource> SourceTable::All() const
 {
-    if (!HasColumn("Path"))
+    if (!m_database.HasTable(TableName))
         return {};
-    const bool older = !HasColumn("RelativePath");
+    const bool older = !m_database.HasColumn(TableName, RelativePath);
     const auto rows
         = m_database.OpenQuery(QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath"
                                               " FROM LayerSources ORDER BY LayerID")
@@ -48,18 +59,12 @@ void SourceTable::Set(const LayerSource& source)
     const SourcePaths::Place place = m_paths.Store(source.path);
     const auto notNull = [](const QString& text) { return text.isNull() ? QStringLiteral("") : text; };
     m_database.Execute(
-        QStringLiteral("INSERT OR REPLACE INTO LayerSources (LayerID, Path, OgrLayer, Filter, RelativePath)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5)"),
+        QStringLiteral("INSERT INTO LayerSources (LayerID, Path, OgrLayer, Filter, RelativePath)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5) ON CONFLICT (LayerID) DO UPDATE SET"
+                       " Path = excluded.Path, OgrLayer = excluded.OgrLayer, Filter = excluded.Filter,"
+                       " RelativePath = excluded.RelativePath"),
         {source.layerID, notNull(place.path), notNull(source.ogrLayer), notNull(source.filter),
          notNull(place.relative)});
-}
-
-bool SourceTable::HasColumn(const char* column) const
-{
-    const auto found = m_database.OpenQuery(
-        QStringLiteral("SELECT name FROM pragma_table_info('LayerSources') WHERE name = ?1"),
-        {QString::fromLatin1(column)});
-    return !found->AtEOF();
 }
 
 } // namespace Orvane

@@ -8,7 +8,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The table LayerSources of a map file: where each layer's features come from. A deleted layer takes its row
 /// with it. Errors are those of the database.
@@ -16,10 +16,7 @@ class SourceTable
 {
 public:
     /// database: not owned; outlives this object. mapPath: absolute; empty for a map without a file.
-    SourceTable(SqliteLayerDatabase& database, const QString& mapPath)
-        : m_database(database), m_paths(mapPath)
-    {
-    }
+    SourceTable(ILayerStore& database, const QString& mapPath) : m_database(database), m_paths(mapPath) { }
 
     /// Makes the table where it is missing, and brings an older one up to date.
     void Create();
@@ -32,9 +29,7 @@ public:
     void Set(const LayerSource& source);
 
 private:
-    bool HasColumn(const char* column) const;
-
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
     SourcePaths m_paths;
 };
 

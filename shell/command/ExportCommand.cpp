@@ -10,7 +10,7 @@
 #include "shell/command/ExportOptions.h"
 #include "shell/command/MapCopy.h"
 #include "shell/map/MapLayers.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

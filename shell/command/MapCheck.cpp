@@ -5,8 +5,9 @@
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/SourceTable.h"
-#include "shell/command/DanglingRows.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/sqlite/repair/DanglingRows.h"
+#include "store/sqlite/repair/FileDamage.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -31,27 +32,20 @@ QString Translate(const char* text)
     return QCoreApplication::translate("MapCheck", text);
 }
 
-// What SQLite says of an index that does not match its table; making the index anew mends that.
-bool IsAboutAnIndex(const QString& message)
-{
-    return message.contains(QLatin1String("missing from index"))
-        || message.contains(QLatin1String("wrong # of entries in index"));
-}
+// The schemes' values do not declare which scheme they belong to.
+const std::vector<UndeclaredReference> Undeclared
+    = {{"LayerSchemeValues", "SchemeID", "LayerSchemes", "SchemeID"}};
 
 void AddDamage(Problems& problems, SqliteLayerDatabase& database)
 {
-    const QString damage = Translate(QT_TRANSLATE_NOOP("MapCheck", "The map file is damaged: %1."));
-    const auto rows = database.OpenQuery(QStringLiteral("PRAGMA integrity_check(20)"));
-    for (; !rows->AtEOF(); rows->MoveNext()) {
-        const QString message = ToText(rows->Field("integrity_check"));
-        if (message != QLatin1String("ok"))
-            problems.push_back({Kind::Damage, damage.arg(message), IsAboutAnIndex(message)});
-    }
+    const QString text = Translate(QT_TRANSLATE_NOOP("MapCheck", "The map file is damaged: %1."));
+    for (const FileDamage& damage : FindDamage(database))
+        problems.push_back({Kind::Damage, text.arg(damage.message), damage.isRepairable});
 }
 
 void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
 {
-    for (const DanglingRows& rows : FindDanglingRows(database)) {
+    for (const DanglingRows& rows : FindDanglingRows(database, Undeclared)) {
         const QString text = Translate(QT_TRANSLATE_NOOP(
             "MapCheck", "Rows of \"%1\" that belong to something missing from \"%2\": %3."));
         problems.push_back({Kind::DanglingRows, text.arg(rows.table, rows.parent).arg(rows.count), true});
@@ -138,9 +132,9 @@ void Repair(const QString& path, const Problems& problems)
     const auto database = SqliteLayerDatabase::Open(path);
     Transaction transaction(*database);
     if (HasRepairable(problems, Kind::Damage))
-        database->Execute(QStringLiteral("REINDEX"));
+        RepairDamage(*database);
     if (HasRepairable(problems, Kind::DanglingRows))
-        RemoveDanglingRows(*database);
+        RemoveDanglingRows(*database, Undeclared);
     transaction.Commit();
 }
 

@@ -21,7 +21,7 @@ struct MapProblem {
 };
 
 /// What is wrong with the map file, worst first; empty for a sound map. The file is not changed, and may be
-/// open elsewhere. Raises what SqliteLayerDatabase::Open raises for a file that is missing, no map, or too
+/// open elsewhere. Raises what LayerStores::Open raises for a file that is missing, no map, or too
 /// damaged to be opened.
 std::vector<MapProblem> CheckMap(const QString& path);
 

@@ -2,7 +2,7 @@
 #include "shell/command/MapCopy.h"
 
 #include "mapkit/document/MapDocument.h"
-#include "store/CopyLayerFile.h"
+#include "store/sqlite/files/CopyLayerFile.h"
 
 #include <QFileInfo>
 

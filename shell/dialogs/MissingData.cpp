@@ -3,7 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
 

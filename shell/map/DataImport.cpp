@@ -5,7 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/RunTimeError.h>

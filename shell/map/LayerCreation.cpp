@@ -9,7 +9,7 @@
 #include "messages/NameInText.h"
 #include "shell/dialogs/NewLayerDialog.h"
 #include "shell/map/DataImport.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
 

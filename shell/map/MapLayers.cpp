@@ -3,7 +3,7 @@
 
 #include "hostkit/common/StoredScale.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>

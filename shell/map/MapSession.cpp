@@ -12,7 +12,7 @@
 #include "mapkit/output/PageSettings.h"
 #include "shell/map/LayerCreation.h"
 #include "shell/window/RunWithProgress.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>

@@ -3,10 +3,8 @@
 
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/LayerFileUse.h"
-#include "store/SqliteLayerDatabase.h"
-
-#include <OrvaneShellLib/ValueConversions.h>
+#include "store/ILayerStore.h"
+#include "store/opening/LayerStores.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -16,12 +14,6 @@
 namespace Orvane {
 
 namespace {
-
-qint64 VersionOf(const MapDocument& document)
-{
-    const auto row = document.Database().OpenQuery(QStringLiteral("PRAGMA data_version"));
-    return ToInt32(row->Field("data_version"));
-}
 
 // While something is asked or worked at, the map stays as it is.
 bool IsBusy()
@@ -42,7 +34,7 @@ MapSharing::MapSharing(QWidget& window, ShowAgain showAgain)
 
 bool MapSharing::MayOpen(const QString& path)
 {
-    if (!IsLayerFileInUse(path))
+    if (!LayerStores::IsInUse(path))
         return true;
     QMessageBox box(
         QMessageBox::Question, tr("Open Map"),
@@ -60,12 +52,12 @@ bool MapSharing::MayOpen(const QString& path)
 void MapSharing::Follow(const MapDocument& document)
 {
     m_document = &document;
-    m_version = VersionOf(document);
+    m_version = document.Database().ForeignChanges();
 }
 
 void MapSharing::Look()
 {
-    const qint64 now = VersionOf(*m_document);
+    const qint64 now = m_document->Database().ForeignChanges();
     if (now != m_version && m_showAgain())
         m_version = now;
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/MapThemes.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/StoreTable.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -14,8 +15,8 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto VisibleLayers = "SELECT LayerID FROM Layers WHERE Visible <> 0 AND Code > -2"
-                               " AND coalesce(OverrideMode, 0) <> 2 AND coalesce(Pseudo, 0) = 0";
+constexpr auto VisibleLayers = "SELECT LayerID FROM Layers WHERE Visible IS TRUE AND Code > -2"
+                               " AND COALESCE(OverrideMode, 0) <> 2 AND Pseudo IS NOT TRUE";
 
 void SortForPerson(std::vector<MapThemes::Theme>& themes)
 {
@@ -81,11 +82,12 @@ qint32 MapThemes::StoreVisibleLayers(const QString& name)
 {
     Transaction transaction(m_database);
     MakeTables();
-    m_database.Execute(QStringLiteral("INSERT OR IGNORE INTO Themes (Name) VALUES (?1)"), {name});
+    m_database.Execute(
+        QStringLiteral("INSERT INTO Themes (Name) VALUES (?1) ON CONFLICT DO NOTHING"), {name});
     const qint32 themeID = Find(name)->id;
     m_database.Execute(QStringLiteral("DELETE FROM ThemeLayers WHERE ThemeID = ?1"), {themeID});
     m_database.Execute(
-        QStringLiteral("INSERT INTO ThemeLayers (ThemeID, LayerID) SELECT ?1, LayerID FROM (%1)")
+        QStringLiteral("INSERT INTO ThemeLayers (ThemeID, LayerID) SELECT ?1, LayerID FROM (%1) AS Shown")
             .arg(QLatin1String(VisibleLayers)),
         {themeID});
     transaction.Commit();
@@ -95,7 +97,8 @@ qint32 MapThemes::StoreVisibleLayers(const QString& name)
 void MapThemes::AddLayer(qint32 themeID, qint32 layerID)
 {
     m_database.Execute(
-        QStringLiteral("INSERT OR IGNORE INTO ThemeLayers (ThemeID, LayerID) VALUES (?1, ?2)"),
+        QStringLiteral("INSERT INTO ThemeLayers (ThemeID, LayerID) VALUES (?1, ?2)"
+                       " ON CONFLICT DO NOTHING"),
         {themeID, layerID});
 }
 
@@ -106,23 +109,26 @@ void MapThemes::Remove(qint32 themeID)
 
 bool MapThemes::HasTables() const
 {
-    return !m_database
-                .OpenQuery(QStringLiteral(
-                    "SELECT name FROM sqlite_master WHERE type = 'table' AND name = 'ThemeLayers'"))
-                ->AtEOF();
+    return m_database.HasTable(QStringLiteral("ThemeLayers"));
 }
 
 void MapThemes::MakeTables()
 {
-    m_database.Execute(QStringLiteral("CREATE TABLE IF NOT EXISTS Themes ("
-                                      "ThemeID INTEGER PRIMARY KEY, Name TEXT NOT NULL UNIQUE)"));
+    using Nulls = StoreColumn::Nulls;
+    const QString themes = QStringLiteral("Themes");
+    const QString themeID = QStringLiteral("ThemeID");
+    const QString layerID = QStringLiteral("LayerID");
+    const QString name = QStringLiteral("Name");
+    m_database.PrepareTable(
+        {themes, {{themeID, StoreType::Whole}, {name, StoreType::Text, Nulls::Refused}}, {themeID}, {name}});
     // Layer first: a deleted layer is found by it.
-    m_database.Execute(
-        QStringLiteral("CREATE TABLE IF NOT EXISTS ThemeLayers ("
-                       "LayerID INTEGER NOT NULL REFERENCES Layers (LayerID) ON DELETE CASCADE,"
-                       " ThemeID INTEGER NOT NULL REFERENCES Themes (ThemeID) ON DELETE CASCADE,"
-                       " PRIMARY KEY (LayerID, ThemeID)) WITHOUT ROWID"));
-    m_database.Execute(QStringLiteral("CREATE INDEX IF NOT EXISTS ThemeIDX ON ThemeLayers (ThemeID)"));
+    m_database.PrepareTable(
+        {QStringLiteral("ThemeLayers"),
+         {{layerID, StoreType::Whole, Nulls::Refused, {}, QStringLiteral("Layers"), layerID},
+          {themeID, StoreType::Whole, Nulls::Refused, {}, themes, themeID}},
+         {layerID, themeID},
+         {},
+         {themeID}});
 }
 
 } // namespace Orvane

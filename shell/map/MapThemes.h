@@ -9,7 +9,7 @@
 
 namespace Orvane {
 
-class SqliteLayerDatabase;
+class ILayerStore;
 
 /// The themes of a map: named sets of its layers, kept in the map file's own tables Themes and ThemeLayers,
 /// which are made with the first theme. A deleted layer leaves all themes. Each operation is one transaction.
@@ -22,7 +22,7 @@ public:
     };
 
     /// database: not owned; outlives this object.
-    explicit MapThemes(SqliteLayerDatabase& database) : m_database(database) { }
+    explicit MapThemes(ILayerStore& database) : m_database(database) { }
 
     /// All themes, ordered by name for a person.
     std::vector<Theme> All() const;
@@ -46,7 +46,7 @@ private:
     bool HasTables() const;
     void MakeTables();
 
-    SqliteLayerDatabase& m_database;
+    ILayerStore& m_database;
 };
 
 } // namespace Orvane

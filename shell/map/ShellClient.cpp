@@ -51,7 +51,7 @@ QString EditorIDOf(QWidget* form)
 } // namespace
 
 ShellClient::ShellClient(
-    SqliteLayerDatabase& database, IShellServices& services, const LayerStates& states, QWidget& mainWindow)
+    ILayerStore& database, IShellServices& services, const LayerStates& states, QWidget& mainWindow)
     : StandardClient(database, services), m_states(states), m_mainWindow(mainWindow)
 {
     SetMainWindow(&mainWindow);

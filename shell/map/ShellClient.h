@@ -21,8 +21,7 @@ class ShellClient : public StandardClient
 public:
     /// None is owned; all outlive this object. states: marks the names that are listed.
     ShellClient(
-        SqliteLayerDatabase& database, IShellServices& services, const LayerStates& states,
-        QWidget& mainWindow);
+        ILayerStore& database, IShellServices& services, const LayerStates& states, QWidget& mainWindow);
 
     /// Brings the window of the editor to the front, if it is shown.
     void RaiseEditor(const QString& editorID);

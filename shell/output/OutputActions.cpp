@@ -7,7 +7,7 @@
 #include "mapkit/output/PageWriter.h"
 #include "shell/output/PageDialog.h"
 #include "shell/window/RunWithProgress.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 
 #include <QAction>
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QAction>
 #include <QApplication>

@@ -7,7 +7,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
 #include "shell/map/MapSession.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
@@ -55,7 +55,7 @@ protected:
         return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/startup.orvane";
     }
 
-    SqliteLayerDatabase& Database() { return m_window->Document().Database(); }
+    ILayerStore& Database() { return m_window->Document().Database(); }
 
     Value Stored(const QString& layer, const char* column)
     {

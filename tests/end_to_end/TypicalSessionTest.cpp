@@ -6,7 +6,7 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>

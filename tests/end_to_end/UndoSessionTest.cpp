@@ -2,6 +2,7 @@
 #include "end_to_end/TownWindow.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QComboBox>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hosts/ValueMatchers.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

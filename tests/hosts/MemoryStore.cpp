@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/MemoryStore.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

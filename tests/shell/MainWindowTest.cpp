@@ -6,7 +6,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/window/RecentMaps.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -8,7 +8,7 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/SourceReader.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>

@@ -2,7 +2,7 @@
 #include "mapkit/document/MapDocument.h"
 
 #include "mapkit/DataFolder.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>

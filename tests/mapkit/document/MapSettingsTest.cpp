@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/MapSettings.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <gtest/gtest.h>
 

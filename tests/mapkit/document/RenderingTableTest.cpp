@@ -2,7 +2,7 @@
 #include "mapkit/document/RenderingTable.h"
 
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QTemporaryDir>
 

@@ -4,7 +4,7 @@
 #include "hostkit/StandardShellServices.h"
 #include "mapkit/Drawings.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <gmock/gmock.h>
 

@@ -6,7 +6,7 @@
 #include "mapkit/Drawings.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/output/MapPage.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QImage>
 #include <QPainter>

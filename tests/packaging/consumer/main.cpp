@@ -8,14 +8,15 @@
 #include <hostkit/StandardClient.h>
 #include <hostkit/StandardShellServices.h>
 #include <hostkit/StyleEditorPlugin.h>
-#include <store/SqliteLayerDatabase.h>
+#include <store/ILayerStore.h>
+#include <store/opening/LayerStores.h>
 
 using namespace Orvane;
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    const auto database = SqliteLayerDatabase::CreateInMemory();
+    const auto database = LayerStores::CreateInMemory();
     database->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
     StandardShellServices services;
     StandardClient client(*database, services);

@@ -2,7 +2,7 @@
 #include "shell/command/CheckCommand.h"
 
 #include "shell/command/CommandFixture.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 namespace Orvane {
 

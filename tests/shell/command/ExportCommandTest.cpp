@@ -4,7 +4,7 @@
 #include "hostkit/schemes/LayerSchemes.h"
 #include "mapkit/RasterFile.h"
 #include "shell/command/CommandFixture.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QDir>
 #include <QImage>

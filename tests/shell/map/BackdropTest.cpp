@@ -7,7 +7,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/DataImport.h"
 #include "shell/map/MapSession.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -4,7 +4,7 @@
 #include "mapkit/DataFolder.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

@@ -7,7 +7,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "shell/map/DataImport.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
 
 #include <QSignalSpy>

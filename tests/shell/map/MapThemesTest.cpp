@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/MapThemes.h"
 
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <gmock/gmock.h>
 

@@ -3,7 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "shell/map/LayerStates.h"
-#include "store/SqliteLayerDatabase.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <QScreen>
 

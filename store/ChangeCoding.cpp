@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "store/ChangeCoding.h"
+
+#include <cstring>
+
+namespace Orvane {
+
+namespace {
+
+enum Tag : char { Null, Integer, Real, Text, BlobOfBytes };
+
+// Small negative numbers become small counts.
+quint64 ZigZag(qint64 number)
+{
+    return (quint64(number) << 1) ^ quint64(number >> 63);
+}
+
+qint64 FromZigZag(quint64 count)
+{
+    return qint64(count >> 1) ^ -qint64(count & 1);
+}
+
+void AppendSized(std::string& bytes, Tag tag, std::string_view content)
+{
+    bytes += tag;
+    ChangeCoding::AppendCount(bytes, content.size());
+    bytes += content;
+}
+
+} // namespace
+
+// Seven bits in each byte, the low ones first; the eighth bit says that more follow.
+void ChangeCoding::AppendCount(std::string& bytes, quint64 count)
+{
+    for (; count >= 0x80; count >>= 7)
+        bytes += char(count | 0x80);
+    bytes += char(count);
+}
+
+void ChangeCoding::AppendNull(std::string& bytes)
+{
+    bytes += Null;
+}
+
+void ChangeCoding::AppendInteger(std::string& bytes, qint64 number)
+{
+    bytes += Integer;
+    AppendCount(bytes, ZigZag(number));
+}
+
+void ChangeCoding::AppendReal(std::string& bytes, double number)
+{
+    bytes += Real;
+    bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
+void ChangeCoding::AppendText(std::string& bytes, std::string_view text)
+{
+    AppendSized(bytes, Text, text);
+}
+
+void ChangeCoding::AppendBlob(std::string& bytes, std::string_view blob)
+{
+    AppendSized(bytes, BlobOfBytes, blob);
+}
+
+quint64 ChangeBytes::Count()
+{
+    quint64 count = 0;
+    for (int shift = 0;; shift += 7) {
+        const auto byte = static_cast<unsigned char>(Take(1).front());
+        count |= quint64(byte & 0x7F) << shift;
+        if (byte < 0x80)
+            return count;
+    }
+}
+
+std::string_view ChangeBytes::CodedValue()
+{
+    const std::string_view start = m_rest;
+    switch (Take(1).front()) {
+    case Integer:
+        Count();
+        break;
+    case Real:
+        Take(sizeof(double));
+        break;
+    case Text:
+    case BlobOfBytes:
+        Take(Count());
+        break;
+    default:
+        break;
+    }
+    return start.substr(0, start.size() - m_rest.size());
+}
+
+StoredValue ChangeBytes::Decoded(std::string_view coded)
+{
+    ChangeBytes value(coded);
+    switch (value.Take(1).front()) {
+    case Integer:
+        return FromZigZag(value.Count());
+    case Real: {
+        double number = 0;
+        std::memcpy(&number, value.m_rest.data(), sizeof number);
+        return number;
+    }
+    case Text: {
+        const quint64 size = value.Count();
+        return value.Take(size);
+    }
+    case BlobOfBytes: {
+        const quint64 size = value.Count();
+        return Blob{QByteArray(value.Take(size).data(), qsizetype(size))};
+    }
+    default:
+        return std::monostate();
+    }
+}
+
+std::string_view ChangeBytes::Take(size_t size)
+{
+    const std::string_view taken = m_rest.substr(0, size);
+    m_rest.remove_prefix(size);
+    return taken;
+}
+
+} // namespace Orvane

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/Changeset.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Orvane {
+
+/// Changed rows in the order in which they changed, a row perhaps several times. A store writes it while
+/// somebody records changes.
+class ChangeLog
+{
+public:
+    /// The position of the table in the log, or -1. One that got more columns may have been added again: the
+    /// last one counts.
+    int FindTable(std::string_view name) const;
+    /// Adds a table and returns its position. Tables without keys may be kept too; they get no rows.
+    int AddTable(ChangedTable table);
+    const ChangedTable& Table(int position) const { return m_tables[size_t(position)]; }
+
+    /// Starts a row; columns are added to it, then it is finished. key: the coded values of the key.
+    void BeginRow(int table, ChangeKind kind, std::string_view key);
+    /// before, after: coded values; only the one that the kind of change has is kept.
+    void AddColumn(int position, std::string_view before, std::string_view after);
+    /// An update without changed columns leaves no row.
+    void FinishRow();
+
+    /// How much was written so far: a place to go back to.
+    size_t Size() const { return m_rows.size(); }
+    /// Forgets the rows after a place.
+    void GoBackTo(size_t size) { m_rows.resize(std::min(size, m_rows.size())); }
+    void Clear();
+
+    /// What changed after a place in all, once per row.
+    Changeset ChangesSince(size_t size) const;
+
+private:
+    std::vector<ChangedTable> m_tables;
+    std::string m_rows;
+    std::string m_key; // of the row that was begun
+    std::string m_columns;
+    int m_table = 0;
+    ChangeKind m_kind = ChangeKind::Updated;
+    int m_columnCount = 0;
+};
+
+} // namespace Orvane

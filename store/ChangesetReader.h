@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/ChangeCoding.h"
+#include "store/ChangedRow.h"
+
+#include <QByteArray>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Orvane {
+
+class Changeset;
+
+/// Reads the rows of a changeset one after another.
+///
+///     ChangesetReader reader(changes);
+///     while (reader.Next())
+///         use(reader.Table(), reader.Row());
+class ChangesetReader
+{
+public:
+    explicit ChangesetReader(const Changeset& changes);
+
+    /// Goes to the next row; false past the last one.
+    bool Next();
+    const ChangedRow& Row() const { return m_row; }
+    const ChangedTable& Table() const { return m_tables[m_row.table]; }
+    const std::vector<ChangedTable>& Tables() const { return m_tables; }
+
+private:
+    QByteArray m_kept;
+    ChangeBytes m_bytes;
+    std::vector<ChangedTable> m_tables;
+    ChangedRow m_row;
+};
+
+/// The bytes of tables and rows, and back.
+namespace ChangedRows {
+
+void Append(std::string& bytes, const std::vector<ChangedTable>& tables);
+/// Reads what Append wrote.
+std::vector<ChangedTable> ReadTables(ChangeBytes& bytes);
+
+void Append(std::string& bytes, const ChangedRow& row);
+/// The head of a row, which columnCount columns follow.
+void AppendHead(std::string& bytes, size_t table, ChangeKind kind, std::string_view key, size_t columnCount);
+void AppendColumn(std::string& bytes, ChangeKind kind, const ChangedRow::Column& column);
+/// Reads one row; keyCounts: how many columns the key of each table has.
+void Read(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row);
+
+} // namespace ChangedRows
+
+} // namespace Orvane

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/ChangeWatch.h"
+
+#include "store/ChangeCoding.h"
+#include "store/StoreTexts.h"
+#include "store/sqlite/engine/SqliteConnection.h"
+#include "store/sqlite/engine/SqliteStatement.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <map>
+#include <sqlite3.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int NoKey = -1; // in place of a table
+
+using ValueReader = int (*)(sqlite3*, int, sqlite3_value**);
+
+void Code(std::string& bytes, sqlite3_value* value, bool isReal)
+{
+    bytes.clear();
+    const auto content = [&](const void* data) {
+        return std::string_view(static_cast<const char*>(data), size_t(sqlite3_value_bytes(value)));
+    };
+    switch (sqlite3_value_type(value)) {
+    case SQLITE_INTEGER:
+        if (isReal) // a whole number is stored in less room, and is shown to us like that
+            return ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
+        return ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(value));
+    case SQLITE_FLOAT:
+        return ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
+    case SQLITE_TEXT:
+        return ChangeCoding::AppendText(bytes, content(sqlite3_value_text(value)));
+    case SQLITE_BLOB:
+        return ChangeCoding::AppendBlob(bytes, content(sqlite3_value_blob(value)));
+    default:
+        return ChangeCoding::AppendNull(bytes);
+    }
+}
+
+// False when SQLite has no memory for it.
+bool ReadAll(
+    sqlite3* handle, ValueReader read, const std::vector<bool>& isReal, std::vector<std::string>& values)
+{
+    values.resize(isReal.size());
+    for (size_t column = 0; column < values.size(); ++column) {
+        sqlite3_value* value = nullptr;
+        if (read(handle, int(column), &value) != SQLITE_OK || !value)
+            return false;
+        Code(values[column], value, isReal[column]);
+    }
+    return true;
+}
+
+std::string Key(const ChangedTable& table, const std::vector<std::string>& values)
+{
+    std::string key;
+    for (const int column : table.keys)
+        key += values[size_t(column)];
+    return key;
+}
+
+// SQLite's rule for the type of a column.
+bool NamesReal(const QString& type)
+{
+    const auto has
+        = [&](const char* part) { return type.contains(QLatin1String(part), Qt::CaseInsensitive); };
+    if (has("INT") || has("CHAR") || has("CLOB") || has("TEXT") || has("BLOB"))
+        return false;
+    return has("REAL") || has("FLOA") || has("DOUB");
+}
+
+ChangedTable ReadTable(SqliteConnection& connection, const char* name, std::vector<bool>& isReal)
+{
+    ChangedTable table{name, {}, {}};
+    std::map<qint32, int> keys; // by their place in the primary key
+    SqliteStatement columns(
+        connection, QStringLiteral("SELECT cid, name, pk, type FROM pragma_table_info(?1)"));
+    columns.Bind(1, Value(QString::fromUtf8(name)));
+    while (columns.Step()) {
+        table.columns.push_back(ToText(columns.Column(1)).toStdString());
+        isReal.push_back(NamesReal(ToText(columns.Column(3))));
+        if (const qint32 place = ToInt32(columns.Column(2)); place > 0)
+            keys.emplace(place, ToInt32(columns.Column(0)));
+    }
+    for (const auto& [place, column] : keys)
+        table.keys.push_back(column);
+    return table;
+}
+
+bool BelongsToTheHost(std::string_view database, std::string_view table)
+{
+    return database == "main" && table.substr(0, 7) != "sqlite_";
+}
+
+} // namespace
+
+ChangeWatch::~ChangeWatch()
+{
+    sqlite3_preupdate_hook(m_connection.Handle(), nullptr, nullptr);
+}
+
+size_t ChangeWatch::Begin()
+{
+    if (m_watchers++ == 0) {
+        ForgetRows();
+        m_hasGaps = false;
+        sqlite3_preupdate_hook(
+            m_connection.Handle(),
+            [](void* watch, sqlite3*, int operation, const char* database, const char* table, sqlite3_int64,
+               sqlite3_int64) noexcept {
+                if (BelongsToTheHost(database, table))
+                    static_cast<ChangeWatch*>(watch)->Note(operation, table);
+            },
+            this);
+    }
+    return m_log.Size();
+}
+
+void ChangeWatch::End()
+{
+    if (--m_watchers == 0) {
+        sqlite3_preupdate_hook(m_connection.Handle(), nullptr, nullptr);
+        ForgetRows();
+    }
+}
+
+// Open transactions know places in the log.
+void ChangeWatch::ForgetRows()
+{
+    if (!m_connection.IsAutoCommit())
+        return;
+    m_log.Clear();
+    m_isReal.clear();
+}
+
+Changeset ChangeWatch::ChangesSince(size_t place) const
+{
+    if (m_hasGaps)
+        throw m_connection.Errors().Failure(StoreTexts::ChangesNotRecorded);
+    return m_log.ChangesSince(place);
+}
+
+// The frames above are SQLite's, through which nothing may be thrown.
+void ChangeWatch::Note(int operation, const char* tableName) noexcept
+{
+    try {
+        const int table = TableNamed(tableName);
+        if (table == NoKey)
+            return;
+        if (operation == SQLITE_UPDATE)
+            NoteUpdate(table);
+        else
+            NoteWholeRow(table, operation == SQLITE_INSERT ? ChangeKind::Inserted : ChangeKind::Deleted);
+    } catch (const std::exception&) {
+        m_hasGaps = true;
+    }
+}
+
+int ChangeWatch::TableNamed(const char* name)
+{
+    const int count = sqlite3_preupdate_count(m_connection.Handle());
+    const int known = m_log.FindTable(name);
+    if (known >= 0 && int(m_log.Table(known).columns.size()) == count)
+        return m_log.Table(known).keys.empty() ? NoKey : known;
+    const int added = m_log.AddTable(ReadTable(m_connection, name, m_isReal.emplace_back()));
+    return m_log.Table(added).keys.empty() ? NoKey : added;
+}
+
+void ChangeWatch::NoteWholeRow(int table, ChangeKind kind)
+{
+    const bool isNew = kind == ChangeKind::Inserted;
+    std::vector<std::string>& values = isNew ? m_after : m_before;
+    const ValueReader read = isNew ? sqlite3_preupdate_new : sqlite3_preupdate_old;
+    if (!ReadAll(m_connection.Handle(), read, m_isReal[size_t(table)], values)) {
+        m_hasGaps = true;
+        return;
+    }
+    NoteRow(table, kind);
+}
+
+void ChangeWatch::NoteUpdate(int table)
+{
+    const ChangedTable& described = m_log.Table(table);
+    const std::vector<bool>& isReal = m_isReal[size_t(table)];
+    if (!ReadAll(m_connection.Handle(), sqlite3_preupdate_old, isReal, m_before)
+        || !ReadAll(m_connection.Handle(), sqlite3_preupdate_new, isReal, m_after)) {
+        m_hasGaps = true;
+        return;
+    }
+    if (Key(described, m_before) == Key(described, m_after))
+        return NoteRow(table, ChangeKind::Updated);
+    NoteRow(table, ChangeKind::Deleted); // under another key it is another row
+    NoteRow(table, ChangeKind::Inserted);
+}
+
+void ChangeWatch::NoteRow(int table, ChangeKind kind)
+{
+    const bool isNew = kind == ChangeKind::Inserted;
+    const auto& values = isNew ? m_after : m_before;
+    m_log.BeginRow(table, kind, Key(m_log.Table(table), values));
+    for (size_t column = 0; column < values.size(); ++column) {
+        if (kind != ChangeKind::Updated)
+            m_log.AddColumn(int(column), values[column], values[column]);
+        else if (m_before[column] != m_after[column])
+            m_log.AddColumn(int(column), m_before[column], m_after[column]);
+    }
+    m_log.FinishRow();
+}
+
+} // namespace Orvane

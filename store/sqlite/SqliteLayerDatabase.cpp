@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/SqliteLayerDatabase.h"
+
+#include "store/ChangeRecorder.h"
+#include "store/StoreTexts.h"
+#include "store/sqlite/ChangesetApplying.h"
+#include "store/sqlite/QueryCursor.h"
+#include "store/sqlite/SqliteSession.h"
+#include "store/sqlite/TableCursor.h"
+#include "store/sqlite/TableMaking.h"
+#include "store/sqlite/files/LayerFileCheck.h"
+#include "store/sqlite/files/LayerSchema.h"
+
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QFile>
+
+#include <sqlite3.h>
+
+namespace Orvane {
+
+namespace {
+
+void UseWriteAheadLog(SqliteConnection& connection)
+{
+    connection.Run("PRAGMA journal_mode = WAL");
+    connection.Run("PRAGMA synchronous = FULL");
+}
+
+// Lists go through rows in another order than they are stored in: 16 MB hold most of a large map.
+void UseCache(SqliteConnection& connection)
+{
+    connection.Run("PRAGMA cache_size = -16384");
+}
+
+bool IsQuery(const QString& source)
+{
+    const QString text = source.trimmed();
+    return text.startsWith(QLatin1String("SELECT"), Qt::CaseInsensitive) && text.size() > 6
+        && !text[6].isLetterOrNumber() && text[6] != u'_';
+}
+
+bool IsTable(const QString& source, const TableAccess& table)
+{
+    const std::string_view name = table.Name();
+    return source.compare(QLatin1String(name.data(), qsizetype(name.size())), Qt::CaseInsensitive) == 0;
+}
+
+// Claims the name, so that an existing file can never be taken for the new one.
+void MakeEmptyFile(const QString& path)
+{
+    const StoreErrors errors(path);
+    if (QFile::exists(path))
+        throw errors.Failure(StoreTexts::FileExists);
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        throw errors.Failure(StoreTexts::CannotCreate, file.errorString());
+}
+
+class Recorder final : public ChangeRecorder
+{
+public:
+    explicit Recorder(ChangeWatch& watch) : m_watch(watch), m_start(watch.Begin()) { }
+    ~Recorder() override { m_watch.End(); }
+
+    Changeset Changes() const override { return m_watch.ChangesSince(m_start); }
+
+private:
+    ChangeWatch& m_watch;
+    size_t m_start;
+};
+
+std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOptions& options)
+{
+    auto session = std::make_unique<SqliteSession>(path, SqliteConnection::Access::ReadWrite, options);
+    UseCache(session->connection);
+    LayerSchema::Create(session->connection);
+    UseWriteAheadLog(session->connection);
+    LayerSchema::Check(session->connection); // with a first read the file counts as open
+    return session;
+}
+
+} // namespace
+
+std::unique_ptr<SqliteLayerDatabase>
+SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
+{
+    MakeEmptyFile(path);
+    try {
+        return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(NewSession(path, options)));
+    } catch (const RunTimeError&) {
+        QFile::remove(path);
+        throw;
+    }
+}
+
+std::unique_ptr<SqliteLayerDatabase>
+SqliteLayerDatabase::Open(const QString& path, OpenMode mode, const StoreOptions& options)
+{
+    const SqliteConnection::Access access = CheckLayerFile(path, mode, options);
+    auto session = std::make_unique<SqliteSession>(path, access, options);
+    SqliteConnection& connection = session->connection;
+    LayerSchema::CheckVersion(connection);
+    UseCache(connection);
+    if (access == SqliteConnection::Access::ReadWrite) {
+        LayerSchema::Migrate(connection);
+        UseWriteAheadLog(connection);
+    }
+    LayerSchema::Check(connection);
+    return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(std::move(session)));
+}
+
+std::unique_ptr<SqliteLayerDatabase> SqliteLayerDatabase::CreateInMemory(const StoreOptions& options)
+{
+    return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(NewSession(QString(), options)));
+}
+
+SqliteLayerDatabase::SqliteLayerDatabase(std::unique_ptr<SqliteSession> session)
+    : m_session(std::move(session))
+{
+}
+
+SqliteLayerDatabase::~SqliteLayerDatabase() = default;
+
+std::unique_ptr<IRecordset> SqliteLayerDatabase::ILayerDatabase_OpenRecordset(const QString& source)
+{
+    if (IsQuery(source))
+        return OpenQuery(source);
+    if (IsTable(source, m_session->layers))
+        return std::make_unique<TableCursor>(*m_session, m_session->layers);
+    if (IsTable(source, m_session->groups))
+        return std::make_unique<TableCursor>(*m_session, m_session->groups);
+    throw m_session->connection.Errors().Failure(StoreTexts::UnknownTable, source);
+}
+
+std::unique_ptr<IRecordset>
+SqliteLayerDatabase::OpenQuery(const QString& sql, const std::vector<Value>& values)
+{
+    StatementLease statement = m_session->statements.Lease(sql);
+    if (!statement->IsReadOnly())
+        throw m_session->connection.Errors().Failure(StoreTexts::NotAQuery);
+    statement->BindAll(values);
+    return std::make_unique<QueryCursor>(*m_session, std::move(statement));
+}
+
+qint64 SqliteLayerDatabase::Execute(const QString& sql, const std::vector<Value>& values)
+{
+    const StatementLease statement = m_session->statements.Lease(sql);
+    statement->BindAll(values);
+    if (statement->IsReadOnly()) {
+        while (statement->Step()) { }
+        return 0;
+    }
+    m_session->transactions.RunWrite(*statement);
+    return sqlite3_changes64(m_session->connection.Handle());
+}
+
+void SqliteLayerDatabase::PrepareTable(const StoreTable& table)
+{
+    Transaction transaction(*this);
+    Orvane::PrepareTable(*m_session, table);
+    transaction.Commit();
+}
+
+bool SqliteLayerDatabase::HasTable(const QString& table)
+{
+    return Orvane::HasTable(*m_session, table);
+}
+
+bool SqliteLayerDatabase::HasColumn(const QString& table, const QString& column)
+{
+    return Orvane::HasColumn(*m_session, table, column);
+}
+
+std::unique_ptr<ChangeRecorder> SqliteLayerDatabase::RecordChanges()
+{
+    return std::make_unique<Recorder>(m_session->changes);
+}
+
+std::optional<Changeset> SqliteLayerDatabase::Apply(const Changeset& changes)
+{
+    return ApplyChangeset(*m_session, changes);
+}
+
+qint64 SqliteLayerDatabase::ForeignChanges()
+{
+    return m_session->connection.Number("PRAGMA data_version");
+}
+
+QString SqliteLayerDatabase::Path() const
+{
+    return m_session->connection.Path();
+}
+
+bool SqliteLayerDatabase::IsReadOnly() const
+{
+    return m_session->connection.IsReadOnly();
+}
+
+void SqliteLayerDatabase::CopyToFile(const QString& path)
+{
+    Execute(QStringLiteral("VACUUM INTO ?1"), {path});
+}
+
+void SqliteLayerDatabase::SetQueryListener(std::function<void(const QString&)> listener)
+{
+    m_session->connection.SetQueryListener(std::move(listener));
+}
+
+void SqliteLayerDatabase::ILayerDatabase_BeginTrans()
+{
+    m_session->transactions.Begin();
+}
+
+void SqliteLayerDatabase::ILayerDatabase_CommitTrans()
+{
+    m_session->transactions.Commit();
+}
+
+void SqliteLayerDatabase::ILayerDatabase_Rollback()
+{
+    m_session->transactions.Rollback();
+}
+
+} // namespace Orvane

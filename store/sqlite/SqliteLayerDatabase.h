@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/ILayerStore.h"
+#include "store/StoreOptions.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Orvane {
+
+struct SqliteSession;
+
+/// A layer store in an SQLite file, or in memory.
+///
+///     auto database = SqliteLayerDatabase::Open(path);
+///     auto layers = database->OpenRecordset("Layers");
+///     layers->Index("LayerIDIDX");
+///     layers->Seek("=", 17);
+///
+/// The file is an ordinary SQLite database with a write-ahead log; a committed change is on disk. The host
+/// may keep its own tables in it, and run any statement that SQLite understands. Errors: DatabaseLocked when
+/// another program kept the file locked for longer than StoreOptions allow, NotALayerDatabase also when
+/// damage is found only while reading, DatabaseReadOnly, and DatabaseFailure for everything else.
+class SqliteLayerDatabase final : public ILayerStore
+{
+public:
+    /// Creates a new file with empty tables. Raises DatabaseFailure if a file of that name exists or cannot
+    /// be created; nothing is left behind then.
+    static std::unique_ptr<SqliteLayerDatabase> Create(const QString& path, const StoreOptions& options = {});
+
+    /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for one of a
+    /// newer version, DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if
+    /// it is missing; the file is not touched then. A file of an older version is migrated, except in
+    /// ReadOnly mode.
+    static std::unique_ptr<SqliteLayerDatabase>
+    Open(const QString& path, OpenMode mode = OpenMode::ReadWrite, const StoreOptions& options = {});
+
+    /// Creates empty tables in memory that exist as long as the object.
+    static std::unique_ptr<SqliteLayerDatabase> CreateInMemory(const StoreOptions& options = {});
+
+    /// Rolls back uncommitted changes and closes the file.
+    ~SqliteLayerDatabase() override;
+
+    qint64 Execute(const QString& sql, const std::vector<Value>& values = {}) override;
+    std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values = {}) override;
+    void PrepareTable(const StoreTable& table) override;
+    bool HasTable(const QString& table) override;
+    bool HasColumn(const QString& table, const QString& column) override;
+    std::unique_ptr<ChangeRecorder> RecordChanges() override;
+    std::optional<Changeset> Apply(const Changeset& changes) override;
+    qint64 ForeignChanges() override;
+    bool IsReadOnly() const override;
+    QString Path() const override;
+    void CopyToFile(const QString& path) override;
+    void SetQueryListener(std::function<void(const QString& sql)> listener) override;
+
+private:
+    explicit SqliteLayerDatabase(std::unique_ptr<SqliteSession> session);
+
+    std::unique_ptr<IRecordset> ILayerDatabase_OpenRecordset(const QString& source) override;
+    void ILayerDatabase_BeginTrans() override;
+    void ILayerDatabase_CommitTrans() override;
+    void ILayerDatabase_Rollback() override;
+
+    std::unique_ptr<SqliteSession> m_session;
+};
+
+} // namespace Orvane

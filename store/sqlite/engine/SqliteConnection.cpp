@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/engine/SqliteConnection.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+#include <sqlite3.h>
+
+namespace Orvane {
+
+namespace {
+
+using Access = SqliteConnection::Access;
+
+int OpenFlags(Access access)
+{
+    const bool writes = access == Access::ReadWrite || access == Access::QueryOnly;
+    // All calls come from one thread, so that the connection needs no mutex.
+    return (writes ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI
+        | SQLITE_OPEN_EXRESCODE;
+}
+
+QByteArray OpenName(const QString& path, SqliteConnection::Access access)
+{
+    if (path.isEmpty())
+        return ":memory:";
+    const QByteArray uri = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded();
+    return access == SqliteConnection::Access::Immutable ? uri + "?immutable=1" : uri;
+}
+
+// A file comes from anywhere: its schema must not be able to run code or corrupt the program.
+void Harden(sqlite3* handle)
+{
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+}
+
+int TellListener(unsigned, void* listener, void*, void* sql)
+{
+    const auto& tell = *static_cast<std::function<void(const QString&)>*>(listener);
+    try {
+        tell(QString::fromUtf8(static_cast<const char*>(sql)));
+    } catch (...) {
+        // An exception must not pass through SQLite's frames.
+    }
+    return 0;
+}
+
+} // namespace
+
+void SqliteConnection::Closer::operator()(sqlite3* handle) const
+{
+    sqlite3_close(handle);
+}
+
+SqliteConnection::SqliteConnection(const QString& path, Access access, const StoreOptions& options)
+    : m_path(path), m_access(access), m_errors(path)
+{
+    sqlite3* handle = nullptr;
+    const int result
+        = sqlite3_open_v2(OpenName(path, access).constData(), &handle, OpenFlags(access), nullptr);
+    m_handle.reset(handle);
+    if (result != SQLITE_OK)
+        Raise(result);
+    sqlite3_busy_timeout(handle, int(options.busyTimeout.count()));
+    Harden(handle);
+    if (access == Access::QueryOnly)
+        Run("PRAGMA query_only = ON");
+}
+
+SqliteConnection::~SqliteConnection() = default;
+
+bool SqliteConnection::IsReadOnly() const
+{
+    return m_access != Access::ReadWrite || sqlite3_db_readonly(Handle(), "main") == 1;
+}
+
+bool SqliteConnection::IsAutoCommit() const
+{
+    return sqlite3_get_autocommit(Handle()) != 0;
+}
+
+void SqliteConnection::Run(const QByteArray& sql)
+{
+    const int result = sqlite3_exec(Handle(), sql.constData(), nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK)
+        Raise(result);
+}
+
+QString SqliteConnection::Text(const QByteArray& sql)
+{
+    QString text;
+    const auto keepFirst = [](void* target, int, char** values, char**) {
+        auto& result = *static_cast<QString*>(target);
+        if (result.isNull())
+            result = QString::fromUtf8(values[0] ? values[0] : "");
+        return 0;
+    };
+    const int result = sqlite3_exec(Handle(), sql.constData(), keepFirst, &text, nullptr);
+    if (result != SQLITE_OK)
+        Raise(result);
+    return text;
+}
+
+void SqliteConnection::Raise(int resultCode) const
+{
+    const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
+    throw m_errors.FromSqlite(resultCode, message);
+}
+
+void SqliteConnection::SetQueryListener(std::function<void(const QString&)> listener)
+{
+    m_listener = std::move(listener);
+    const unsigned events = m_listener ? SQLITE_TRACE_STMT : 0;
+    sqlite3_trace_v2(Handle(), events, m_listener ? TellListener : nullptr, &m_listener);
+}
+
+} // namespace Orvane

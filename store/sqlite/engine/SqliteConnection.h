@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/StoreOptions.h"
+#include "store/sqlite/engine/StoreErrors.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+struct sqlite3;
+
+namespace Orvane {
+
+/// One open SQLite database. Closes it when destroyed; everything created with it must be gone by then.
+class SqliteConnection
+{
+public:
+    /// How the file is accessed.
+    enum class Access {
+        ReadWrite,
+        QueryOnly, ///< refuses writes, and tidies its files away like a writer: for a file that could be
+                   ///< written
+        ReadOnly, ///< for a file that cannot be written and has a journal beside it
+        Immutable, ///< takes no lock and leaves no file beside it: only while nobody else writes
+    };
+
+    /// Opens the file, which must exist, or a new database in memory when path is empty.
+    SqliteConnection(const QString& path, Access access, const StoreOptions& options);
+    ~SqliteConnection();
+    SqliteConnection(const SqliteConnection&) = delete;
+    SqliteConnection& operator=(const SqliteConnection&) = delete;
+
+    sqlite3* Handle() const { return m_handle.get(); }
+    const StoreErrors& Errors() const { return m_errors; }
+    /// The path that was passed to the constructor.
+    const QString& Path() const { return m_path; }
+    /// True when rows cannot be changed, whatever access was requested.
+    bool IsReadOnly() const;
+    /// True while no transaction is open.
+    bool IsAutoCommit() const;
+
+    /// Runs statements without parameters; result rows are discarded.
+    void Run(const QByteArray& sql);
+    /// The first column of the first row as text, empty if there is no row.
+    QString Text(const QByteArray& sql);
+    /// As Text, as a number.
+    qint32 Number(const QByteArray& sql) { return Text(sql).toInt(); }
+    /// Raises the error of a result code.
+    [[noreturn]] void Raise(int resultCode) const;
+
+    /// The listener is called with the text of each statement as it starts to run; an empty function removes
+    /// it. It must not use the database.
+    void SetQueryListener(std::function<void(const QString&)> listener);
+
+private:
+    struct Closer {
+        void operator()(sqlite3* handle) const;
+    };
+
+    QString m_path;
+    Access m_access;
+    StoreErrors m_errors;
+    std::unique_ptr<sqlite3, Closer> m_handle;
+    std::function<void(const QString&)> m_listener;
+};
+
+} // namespace Orvane

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/files/CopyLayerFile.h"
+
+#include "store/sqlite/engine/SqliteStatement.h"
+#include "store/sqlite/files/LayerFileCheck.h"
+#include "store/sqlite/files/LayerSchema.h"
+
+namespace Orvane {
+
+void CopyLayerFile(const QString& from, const QString& to)
+{
+    const StoreOptions options;
+    SqliteConnection connection(from, CheckLayerFile(from, OpenMode::ReadOnly, options), options);
+    LayerSchema::CheckVersion(connection);
+    LayerSchema::Check(connection);
+    // SQLite counts a copy among the writes, though it leaves this file alone.
+    connection.Run("PRAGMA query_only = OFF");
+    SqliteStatement copy(connection, QStringLiteral("VACUUM INTO ?1"));
+    copy.BindAll({to});
+    while (copy.Step()) { }
+}
+
+} // namespace Orvane

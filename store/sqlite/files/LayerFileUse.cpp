@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/files/LayerFileUse.h"
+
+#include "store/sqlite/engine/SqliteConnection.h"
+#include "store/sqlite/files/LayerSchema.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QFileInfo>
+
+namespace Orvane {
+
+namespace {
+
+constexpr StoreOptions NoWaiting{std::chrono::milliseconds(0)};
+
+} // namespace
+
+// Nothing else may look into the file: closing it would end the locks that this program has on it.
+bool IsLayerFileInUse(const QString& path)
+{
+    try {
+        if (!QFileInfo(path).isFile())
+            return false;
+        SqliteConnection connection(path, SqliteConnection::Access::ReadWrite, NoWaiting);
+        if (quint32(connection.Number("PRAGMA application_id")) == LayerSchema::ApplicationID)
+            connection.Run("PRAGMA journal_mode = DELETE"); // only who is alone can end the log
+        return false;
+    } catch (const RunTimeError& error) {
+        return error.Number() == int(ErrorNumber::DatabaseLocked);
+    }
+}
+
+} // namespace Orvane

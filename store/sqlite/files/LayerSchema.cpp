@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/files/LayerSchema.h"
+
+#include "store/StoreTexts.h"
+#include "store/sqlite/engine/SqliteConnection.h"
+
+#include <array>
+
+namespace Orvane::LayerSchema {
+
+namespace {
+
+// Columns may be null except keys: a null property is one that is not known.
+constexpr const char* Version1 = R"sql(
+CREATE TABLE Layers (
+    LayerID INTEGER PRIMARY KEY,
+    Name TEXT COLLATE NOCASE DEFAULT '',
+    Code INTEGER DEFAULT 0,
+    Visible INTEGER DEFAULT 1,
+    Selectable INTEGER DEFAULT 1,
+    locked INTEGER DEFAULT 0,
+    Hitable INTEGER DEFAULT 1,
+    SnapRequired INTEGER DEFAULT 0,
+    Enquirable INTEGER DEFAULT 1,
+    Color INTEGER DEFAULT 0,
+    FillForeColor INTEGER DEFAULT 0,
+    FillBackColor INTEGER DEFAULT 16777215,
+    OutlineStyle INTEGER DEFAULT 0,
+    FillStyle INTEGER DEFAULT 0,
+    LineThickness INTEGER DEFAULT 0,
+    MinVisScale REAL DEFAULT 0,
+    MaxVisScale REAL DEFAULT 0,
+    Priority INTEGER DEFAULT 0,
+    Style INTEGER DEFAULT 0,
+    OverrideMode INTEGER DEFAULT 0,
+    SystemLayer INTEGER DEFAULT 0,
+    Pseudo INTEGER DEFAULT 0
+);
+CREATE TABLE LayerGroups (
+    ID INTEGER PRIMARY KEY,
+    Name TEXT DEFAULT '',
+    GroupOrdering INTEGER DEFAULT 0,
+    Pseudo INTEGER DEFAULT 0,
+    Expanded INTEGER DEFAULT 0
+);
+CREATE TABLE LayerGroupMembers (
+    GroupID INTEGER NOT NULL REFERENCES LayerGroups (ID) ON DELETE CASCADE,
+    LayerID INTEGER NOT NULL REFERENCES Layers (LayerID) ON DELETE CASCADE,
+    Ordering INTEGER DEFAULT 0,
+    PRIMARY KEY (GroupID, LayerID)
+) WITHOUT ROWID;
+CREATE UNIQUE INDEX LayerIDIDX ON Layers (LayerID);
+CREATE UNIQUE INDEX IDIDX ON LayerGroups (ID);
+)sql";
+
+// The figures of a large map: without them the tree is read by layer and sorted, at twice the price.
+constexpr const char* Version2 = R"sql(
+CREATE INDEX LayerNameIDX ON Layers (Name);
+CREATE INDEX GroupOrderingIDX ON LayerGroups (GroupOrdering);
+CREATE INDEX MemberOrderingIDX ON LayerGroupMembers (GroupID, Ordering, LayerID);
+CREATE INDEX MemberLayerIDX ON LayerGroupMembers (LayerID, GroupID);
+ANALYZE sqlite_schema;
+INSERT INTO sqlite_stat1 (tbl, idx, stat) VALUES
+    ('Layers', 'LayerIDIDX', '100000 1'),
+    ('Layers', 'LayerNameIDX', '100000 1'),
+    ('LayerGroups', 'IDIDX', '2000 1'),
+    ('LayerGroups', 'GroupOrderingIDX', '2000 1'),
+    ('LayerGroupMembers', 'LayerGroupMembers', '100000 50 1'),
+    ('LayerGroupMembers', 'MemberOrderingIDX', '100000 50 1 1'),
+    ('LayerGroupMembers', 'MemberLayerIDX', '100000 1 1');
+ANALYZE sqlite_schema;
+)sql";
+
+// The script at index n makes version n + 1 of version n.
+constexpr std::array<const char*, CurrentVersion> Steps = {Version1, Version2};
+
+constexpr std::array ColumnChecks = {
+    "SELECT LayerID, Name, Code, Visible, Selectable, locked, Hitable, SnapRequired, Enquirable, Color,"
+    " FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, MinVisScale, MaxVisScale,"
+    " Priority, Style, OverrideMode, SystemLayer, Pseudo FROM Layers LIMIT 0",
+    "SELECT ID, Name, GroupOrdering, Pseudo, Expanded FROM LayerGroups LIMIT 0",
+    "SELECT GroupID, LayerID, Ordering FROM LayerGroupMembers LIMIT 0",
+};
+
+qint32 VersionOf(SqliteConnection& connection)
+{
+    return connection.Number("PRAGMA user_version");
+}
+
+void RunSteps(SqliteConnection& connection)
+{
+    for (qint32 version = VersionOf(connection); version < CurrentVersion; ++version)
+        connection.Run(Steps[size_t(version)]);
+    connection.Run("PRAGMA user_version = " + QByteArray::number(CurrentVersion));
+}
+
+} // namespace
+
+void Create(SqliteConnection& connection)
+{
+    connection.Run("BEGIN IMMEDIATE");
+    connection.Run("PRAGMA application_id = " + QByteArray::number(ApplicationID));
+    RunSteps(connection);
+    connection.Run("COMMIT");
+}
+
+void CheckVersion(SqliteConnection& connection)
+{
+    const qint32 version = VersionOf(connection);
+    if (version < 0 || version > CurrentVersion)
+        throw connection.Errors().Error(ErrorNumber::DatabaseTooNew, StoreTexts::TooNew);
+}
+
+void Migrate(SqliteConnection& connection)
+{
+    if (VersionOf(connection) >= CurrentVersion)
+        return;
+    connection.Run("BEGIN IMMEDIATE");
+    RunSteps(connection);
+    connection.Run("COMMIT");
+}
+
+void Check(SqliteConnection& connection)
+{
+    try {
+        for (const char* query : ColumnChecks)
+            connection.Run(query);
+    } catch (const RunTimeError& error) {
+        if (error.Number() != int(ErrorNumber::DatabaseFailure))
+            throw;
+        throw connection.Errors().Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
+    }
+}
+
+} // namespace Orvane::LayerSchema

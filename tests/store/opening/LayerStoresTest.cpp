@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "store/opening/LayerStores.h"
+
+#include "store/ILayerStore.h"
+#include "store/sqlite/StoreTest.h"
+
+namespace Orvane::Testing {
+
+namespace {
+
+class LayerStoresTest : public StoreTest
+{
+protected:
+    const QString m_place = PathOf(QStringLiteral("map.ovl"));
+};
+
+} // namespace
+
+TEST_F(LayerStoresTest, AStoreThatWasCreatedCanBeOpened)
+{
+    LayerStores::Create(m_place)->Execute(QStringLiteral("INSERT INTO Layers (LayerID) VALUES (7)"));
+    const auto store = LayerStores::Open(m_place, OpenMode::ReadOnly);
+    EXPECT_EQ(store->Path(), m_place);
+    EXPECT_TRUE(store->IsReadOnly());
+    EXPECT_EQ(
+        ToInt32(store->OpenRecordset(QStringLiteral("SELECT LayerID FROM Layers"))->Field("LayerID")), 7);
+}
+
+TEST_F(LayerStoresTest, AStoreIsInUseWhileItIsOpen)
+{
+    EXPECT_FALSE(LayerStores::IsInUse(m_place));
+    auto store = LayerStores::Create(m_place);
+    EXPECT_TRUE(LayerStores::IsInUse(m_place));
+    store.reset();
+    EXPECT_FALSE(LayerStores::IsInUse(m_place));
+}
+
+TEST_F(LayerStoresTest, OneInMemoryHasNoPlace)
+{
+    EXPECT_TRUE(LayerStores::CreateInMemory()->Path().isEmpty());
+}
+
+TEST_F(LayerStoresTest, ChangesOfOthersAreCounted)
+{
+    const auto store = LayerStores::Create(m_place);
+    const qint64 before = store->ForeignChanges();
+    store->Execute(QStringLiteral("INSERT INTO Layers (LayerID) VALUES (7)"));
+    EXPECT_EQ(store->ForeignChanges(), before);
+    LayerStores::Open(m_place)->Execute(QStringLiteral("UPDATE Layers SET Code = 5"));
+    EXPECT_NE(store->ForeignChanges(), before);
+}
+
+TEST_F(LayerStoresTest, ACopyHoldsEverything)
+{
+    const auto store = LayerStores::CreateInMemory();
+    store->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (7, 'Roads')"));
+    store->CopyToFile(m_place);
+    EXPECT_EQ(ErrorOf([&] { store->CopyToFile(m_place); }), int(ErrorNumber::DatabaseFailure)) << "is there";
+    const auto copy = LayerStores::Open(m_place);
+    EXPECT_EQ(
+        ToText(copy->OpenQuery(QStringLiteral("SELECT Name FROM Layers"))->Field("Name")),
+        QStringLiteral("Roads"));
+}
+
+} // namespace Orvane::Testing
