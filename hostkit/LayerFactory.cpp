@@ -4,6 +4,7 @@
 #include "hostkit/LayerDeletion.h"
 #include "hostkit/common/FillPatterns.h"
 #include "hostkit/common/LayerNames.h"
+#include "hostkit/common/LayerRow.h"
 #include "hostkit/common/StoredScale.h"
 #include "hostkit/schemes/SchemeTables.h"
 #include "store/ILayerStore.h"
@@ -12,14 +13,9 @@
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
-#include <limits>
-
 namespace Orvane {
 
 namespace {
-
-constexpr qint32 Black = 0;
-constexpr qint16 ThinnestLine = 0;
 
 bool HasRow(ILayerDatabase& database, const QString& query)
 {
@@ -41,8 +37,7 @@ qint32 LayerFactory::Create()
 {
     const QString name = UnusedName();
     Transaction transaction(m_database);
-    const qint32 layerID = NextLayerID();
-    Insert(layerID, name);
+    const qint32 layerID = Insert(name);
     transaction.Commit();
     m_names.Set(layerID, name);
     return layerID;
@@ -81,32 +76,13 @@ bool LayerFactory::CanDelete(qint32 layerID)
 {
     return HasRow(
         m_database,
-        QStringLiteral("SELECT LayerID FROM Layers WHERE LayerID = %1 AND COALESCE(SystemLayer, 0) = 0")
+        QStringLiteral("SELECT LayerID FROM Layers WHERE LayerID = %1 AND SystemLayer IS NOT TRUE")
             .arg(layerID));
 }
 
 bool LayerFactory::IsCodeAssigned(qint16 code)
 {
     return HasRow(m_database, QStringLiteral("SELECT LayerID FROM Layers WHERE Code = %1 LIMIT 1").arg(code));
-}
-
-qint32 LayerFactory::NextLayerID()
-{
-    const auto highest
-        = m_database.OpenRecordset(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
-    return ToInt32(ToDouble(highest->Field("Highest")) + 1);
-}
-
-qint16 LayerFactory::LowestFreeCode()
-{
-    const auto taken = m_database.OpenRecordset(
-        QStringLiteral("SELECT DISTINCT Code FROM Layers WHERE Code >= 0 ORDER BY Code"));
-    qint32 code = 0;
-    for (; !taken->AtEOF() && ToDouble(taken->Field("Code")) <= code; taken->MoveNext()) {
-        if (ToDouble(taken->Field("Code")) == code)
-            ++code;
-    }
-    return code <= std::numeric_limits<qint16>::max() ? qint16(code) : NoCode;
 }
 
 QString LayerFactory::UnusedName()
@@ -119,19 +95,16 @@ QString LayerFactory::UnusedName()
     return name;
 }
 
-void LayerFactory::Insert(qint32 layerID, const QString& name)
+qint32 LayerFactory::Insert(const QString& name)
 {
-    m_database.Execute(
-        QStringLiteral("INSERT INTO Layers (LayerID, Name, Code, Visible, Selectable, locked, Hitable, "
-                       "SnapRequired, Enquirable,"
-                       " Color, FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, "
-                       "MinVisScale, MaxVisScale,"
-                       " Priority, Style, OverrideMode, SystemLayer, Pseudo)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16, ?17, "
-                       "?18, 0, 0, 0, 0)"),
-        {layerID, name, LowestFreeCode(), true, true, false, true, false, true, Black, Black,
-         TransparentColour, qint16(0), HollowFill, ThinnestLine, StoredScale::NoMinimum,
-         qint32(StoredScale::NoMaximum), DefaultPriority});
+    LayerRow layer;
+    layer.Set("Name", name);
+    layer.Set("Code", LayerRow::LowestFreeCode(m_database));
+    layer.Set("FillBackColor", TransparentColour);
+    layer.Set("FillStyle", HollowFill);
+    layer.Set("MaxVisScale", StoredScale::NoMaximum);
+    layer.Set("Priority", DefaultPriority);
+    return layer.StoreNew(m_database);
 }
 
 } // namespace Orvane

@@ -18,8 +18,6 @@ class LayerFactory
 public:
     /// The draw priority of a new layer: the middle of 1 (highest) to 255.
     static constexpr qint16 DefaultPriority = 128;
-    /// The code of a new layer if all codes from 0 to 32767 are taken.
-    static constexpr qint16 NoCode = -1;
 
     /// Neither is owned; both outlive this object.
     LayerFactory(ILayerStore& database, LayerNames& names) : m_database(database), m_names(names) { }
@@ -43,10 +41,8 @@ public:
     bool IsCodeAssigned(qint16 code);
 
 private:
-    qint32 NextLayerID();
-    qint16 LowestFreeCode();
     QString UnusedName();
-    void Insert(qint32 layerID, const QString& name);
+    qint32 Insert(const QString& name);
 
     ILayerStore& m_database;
     LayerNames& m_names;

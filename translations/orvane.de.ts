@@ -368,6 +368,10 @@
         <translation>Der Layer „%1“ enthält als „%2“ keine Zahl.</translation>
     </message>
     <message>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>Die Layer sind so, wie sie im Schema „%1“ gespeichert wurden.</translation>
     </message>

@@ -368,6 +368,10 @@
         <translation>La couche « %1 » ne contient pas de nombre pour « %2 ».</translation>
     </message>
     <message>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>Les schémas de couches de « %1 » ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>Les couches sont telles qu’enregistrées dans le schéma « %1 ».</translation>
     </message>

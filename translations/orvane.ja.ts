@@ -368,6 +368,10 @@
         <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
     </message>
     <message>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>「%1」のレイヤスキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
+    </message>
+    <message>
         <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
         <translation>レイヤはスキーム「%1」に保存されたとおりです。</translation>
     </message>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerStyleApplying.h"
 
+#include "component/model/CheckedColumns.h"
 #include "component/model/LayerColour.h"
-#include "component/model/LayerColumns.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerQueries.h"
 #include "component/model/LayerStyle.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerTreeReader.h"
 
-#include "component/model/LayerColumns.h"
+#include "component/model/CheckedColumns.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerQueries.h"
 #include "component/model/ListedName.h"

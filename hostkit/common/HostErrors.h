@@ -11,6 +11,7 @@ enum class HostError {
     NoStartupDatabase = 10004, ///< the host has not set a file for the startup database
     StepOutdated = 10005, ///< a step cannot be undone or redone: its result has been changed since
     EditsPending = 10006, ///< an open editor has edits that are not applied yet
+    TablesTooNew = 10007, ///< a newer program has written tables that the host keeps in the layer store
     SchemeFileUnreadable = 10011, ///< a scheme file is missing, too large, damaged or from a newer program
     SchemeFileUnwritable = 10012, ///< a scheme file cannot be written
     SchemeTextDamaged = 10013, ///< a text is not a scheme

@@ -1,15 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/LayerColumns.h>
+
 #include <QString>
+
+#include <array>
 
 namespace Orvane {
 
-/// The columns of Layers that a layer scheme keeps, as fragments of SQL. LayerSchemeValues has columns of the
-/// same names.
+/// The columns of Layers that a layer scheme keeps, in the order of LayerColumns, as they are and as
+/// fragments of SQL. LayerSchemeValues has columns of the same names.
 namespace SchemeColumns {
 
-inline constexpr int Count = 17;
+inline constexpr std::size_t Count = [] {
+    std::size_t count = 0;
+    for (const LayerColumn& column : LayerColumns)
+        count += column.inSchemes == InSchemes::Yes ? 1 : 0;
+    return count;
+}();
+
+inline constexpr std::array<LayerColumn, Count> All = [] {
+    std::array<LayerColumn, Count> kept{};
+    std::size_t count = 0;
+    for (const LayerColumn& column : LayerColumns) {
+        if (column.inSchemes == InSchemes::Yes)
+            kept.at(count++) = column;
+    }
+    return kept;
+}();
 
 /// "Visible, Selectable, ..."
 QString List();
@@ -22,12 +41,6 @@ QString Assignments();
 QString Difference();
 /// "?<first>, ?<first + 1>, ...", one for each column.
 QString Parameters(int first);
-/// The columns of LayerSchemeValues with their types.
-QString Definitions();
-/// The name of a column, 0 to Count - 1.
-const char* Name(int column);
-/// True for a column of 32-bit integers, false for one of doubles.
-bool IsWhole(int column);
 
 } // namespace SchemeColumns
 

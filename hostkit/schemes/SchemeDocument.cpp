@@ -34,7 +34,7 @@ QByteArray Compact(const QJsonValue& value)
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1);
 }
 
-QJsonValue ToJsonValue(const Value& value, const QString& layer, int column)
+QJsonValue ToJsonValue(const Value& value, const QString& layer, const LayerColumn& column)
 {
     if (value.IsNull())
         return QJsonValue::Null;
@@ -43,7 +43,7 @@ QJsonValue ToJsonValue(const Value& value, const QString& layer, int column)
     RaiseDamage(
         HostError::SchemeValueUnknown,
         SchemeDocument::tr("The layer \"%1\" holds no number as \"%2\".")
-            .arg(layer, QLatin1String(SchemeColumns::Name(column))));
+            .arg(layer, QLatin1String(column.name)));
 }
 
 QJsonObject ToJsonObject(const SchemeDocument::Layer& layer)
@@ -52,10 +52,10 @@ QJsonObject ToJsonObject(const SchemeDocument::Layer& layer)
     if (layer.identity.code)
         object.insert(QLatin1String("code"), *layer.identity.code);
     object.insert(QLatin1String("name"), layer.identity.name);
-    for (int column = 0; column < SchemeColumns::Count; ++column) {
-        object.insert(
-            QLatin1String(SchemeColumns::Name(column)),
-            ToJsonValue(layer.values.at(std::size_t(column)), layer.identity.name, column));
+    for (std::size_t number = 0; number < SchemeColumns::Count; ++number) {
+        const LayerColumn& column = SchemeColumns::All.at(number);
+        if (const Value& value = layer.values.at(number); !value.IsEmpty())
+            object.insert(QLatin1String(column.name), ToJsonValue(value, layer.identity.name, column));
     }
     return object;
 }
@@ -66,15 +66,17 @@ bool IsWholeInRange(double number)
         && number <= std::numeric_limits<qint32>::max();
 }
 
-// A value that the column can hold; nothing for any other.
-std::optional<Value> ColumnValue(const QJsonValue& json, int column)
+// A value that the column can hold, Empty for a missing one; nothing for any other.
+std::optional<Value> ColumnValue(const QJsonValue& json, const LayerColumn& column)
 {
+    if (json.isUndefined())
+        return Value();
     if (json.isNull())
         return Value::Null();
     if (json.isBool())
         return Value(qint32(json.toBool() ? 1 : 0));
     const double number = json.toDouble(std::numeric_limits<double>::quiet_NaN());
-    if (SchemeColumns::IsWhole(column))
+    if (column.kind != ColumnKind::Real)
         return IsWholeInRange(number) ? std::optional(Value(qint32(number))) : std::nullopt;
     return std::isfinite(number) ? std::optional(Value(number)) : std::nullopt;
 }
@@ -96,11 +98,11 @@ SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
     check(code.isUndefined() || code.isNull() || code.isDouble(), "code");
     if (code.toDouble(-1) >= 0)
         layer.identity.code = code.toDouble();
-    for (int column = 0; column < SchemeColumns::Count; ++column) {
-        const char* key = SchemeColumns::Name(column);
-        const std::optional<Value> value = ColumnValue(object.value(QLatin1String(key)), column);
-        check(value.has_value(), key);
-        layer.values.at(std::size_t(column)) = *value;
+    for (std::size_t number = 0; number < SchemeColumns::Count; ++number) {
+        const LayerColumn& column = SchemeColumns::All.at(number);
+        const std::optional<Value> value = ColumnValue(object.value(QLatin1String(column.name)), column);
+        check(value.has_value(), column.name);
+        layer.values.at(number) = *value;
     }
     return layer;
 }

@@ -23,7 +23,8 @@ namespace Orvane {
 ///     ]}
 ///
 /// Values are as in the columns: colours as BGR numbers, scales as denominators, null for an unknown value.
-/// Unknown keys are ignored, so later programs may add some.
+/// Unknown keys are ignored, so later programs may add some. A key that is missing, because an earlier
+/// program wrote the text, says nothing about its column.
 struct SchemeDocument {
     Q_DECLARE_TR_FUNCTIONS(SchemeDocument)
 
@@ -31,9 +32,12 @@ public:
     /// The version that is written, and the newest one that can be read.
     static constexpr int Version = 1;
 
+    /// Numbers and nulls in the order of SchemeColumns; Empty for what is not said.
+    using Values = std::array<Value, SchemeColumns::Count>;
+
     struct Layer {
         LayerIdentity identity; ///< its ID is the position in the list
-        std::array<Value, SchemeColumns::Count> values; ///< numbers and nulls, in the order of SchemeColumns
+        Values values;
     };
 
     QString name; ///< without leading or trailing blanks, and not empty

@@ -10,6 +10,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace Orvane::SchemeExchange {
 
 namespace {
@@ -23,8 +25,8 @@ SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
         layer.identity.code = ToDouble(code);
     const Value name = row.Field("Name");
     layer.identity.name = ToTextOrNone(name);
-    for (int column = 0; column < SchemeColumns::Count; ++column)
-        layer.values.at(std::size_t(column)) = row.Field(SchemeColumns::Name(column));
+    for (std::size_t column = 0; column < SchemeColumns::Count; ++column)
+        layer.values.at(column) = row.Field(SchemeColumns::All.at(column).name);
     return layer;
 }
 
@@ -67,6 +69,21 @@ qint32 EmptyScheme(ILayerStore& map, const QString& name)
     return known;
 }
 
+// What the document does not say of a layer stays as the layer has it.
+SchemeDocument::Values Completed(ILayerStore& map, qint32 layerID, SchemeDocument::Values values)
+{
+    const bool saysAll
+        = std::none_of(values.begin(), values.end(), [](const Value& value) { return value.IsEmpty(); });
+    if (saysAll)
+        return values;
+    const auto layer = map.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});
+    for (std::size_t column = 0; column < values.size(); ++column) {
+        if (values.at(column).IsEmpty())
+            values.at(column) = layer->Field(SchemeColumns::All.at(column).name);
+    }
+    return values;
+}
+
 void StoreValues(
     ILayerStore& map, qint32 schemeID, const QHash<qint32, qint32>& byLayerID, const SchemeDocument& scheme)
 {
@@ -75,7 +92,8 @@ void StoreValues(
               .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
     for (auto match = byLayerID.begin(); match != byLayerID.end(); ++match) {
         std::vector<Value> row{match.key(), schemeID};
-        const auto& values = scheme.layers.at(std::size_t(match.value())).values;
+        const SchemeDocument::Values values
+            = Completed(map, match.key(), scheme.layers.at(std::size_t(match.value())).values);
         row.insert(row.end(), values.begin(), values.end());
         map.Execute(insertion, row);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/LayerColumns.h>
+
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -10,19 +12,25 @@ namespace Orvane {
 class ILayerStore;
 
 /// The tables of a layer database that hold its schemes: LayerSchemes has one row per scheme, and
-/// LayerSchemeValues one row per layer and scheme. Deleting a layer deletes its rows.
+/// LayerSchemeValues one row per layer and scheme. Deleting a layer deletes its rows. HostTables keeps their
+/// version under "LayerSchemes".
 class SchemeTables
 {
 public:
     /// An ID that no scheme has.
     static constexpr qint32 NoScheme = 0;
+    /// The version of the tables that are written, and the newest ones that can be read: a column that
+    /// schemes keep is a change of them.
+    static constexpr qint32 Version = NewestLayerColumn();
 
     /// database: not owned; outlives this object.
     explicit SchemeTables(ILayerStore& database) : m_database(database) { }
 
-    /// Creates the tables that are missing.
+    /// Creates the tables that are missing, and brings older ones up to date: schemes that say nothing about
+    /// a column get the layers' own values for it.
     void Create();
-    /// True when the tables exist and contain a scheme.
+    /// True when the tables exist and contain a scheme. Brings older tables up to date; in a store that
+    /// cannot be written, these count as missing. Raises HostError::TablesTooNew for newer ones.
     bool HaveSchemes();
 
     /// The members below need the tables.
@@ -43,6 +51,11 @@ public:
     void Remove(qint32 schemeID);
 
 private:
+    bool AreCurrent();
+    bool HasRow();
+    bool HasAllColumns();
+    void AddMissingColumns();
+
     ILayerStore& m_database;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/schemes/SchemeTransfer.h"
 
+#include "hostkit/common/LayerRow.h"
 #include "hostkit/schemes/LayerMatch.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "hostkit/schemes/SchemeTables.h"
@@ -16,15 +17,8 @@ namespace {
 
 void AppendSchemeColumns(std::vector<Value>& values, const IRecordset& row)
 {
-    for (int column = 0; column < SchemeColumns::Count; ++column)
-        values.push_back(row.Field(SchemeColumns::Name(column)));
-}
-
-qint32 HighestLayerID(ILayerStore& database)
-{
-    const auto highest
-        = database.OpenQuery(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
-    return ToInt32(highest->Field("Highest"));
+    for (const LayerColumn& column : SchemeColumns::All)
+        values.push_back(row.Field(column.name));
 }
 
 } // namespace
@@ -36,12 +30,11 @@ SchemeTransfer::SchemeTransfer(ILayerStore& from, ILayerStore& to)
 
 void SchemeTransfer::AddMissingLayers()
 {
-    qint32 newLayerID = HighestLayerID(m_to);
     const auto layers = m_from.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers ORDER BY LayerID"));
     for (; !layers->AtEOF(); layers->MoveNext()) {
         const qint32 layerID = ToInt32(layers->Field("LayerID"));
         if (!m_matches.contains(layerID))
-            AddLayer(layerID, ++newLayerID);
+            AddLayer(layerID);
     }
 }
 
@@ -64,27 +57,18 @@ void SchemeTransfer::CopySchemes()
         target.MakeCurrent(target.IDOf(source.CurrentName()));
 }
 
-void SchemeTransfer::AddLayer(qint32 layerID, qint32 newLayerID)
+void SchemeTransfer::AddLayer(qint32 layerID)
 {
     const auto layer = m_from.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});
-    std::vector<Value> values{
-        newLayerID, layer->Field("Name"), layer->Field("Code"), layer->Field("SystemLayer"),
-        layer->Field("Pseudo")};
-    AppendSchemeColumns(values, *layer);
-    m_to.Execute(
-        QStringLiteral("INSERT INTO Layers (LayerID, Name, Code, SystemLayer, Pseudo, %1)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5, %2)")
-            .arg(SchemeColumns::List(), SchemeColumns::Parameters(6)),
-        values);
-    m_matches.insert(layerID, newLayerID);
+    m_matches.insert(layerID, LayerRow(*layer).StoreNew(m_to));
 }
 
 void SchemeTransfer::CopyValues(qint32 schemeID, qint32 newSchemeID)
 {
     // Two layers there may be one here: the first one's values count.
     const QString insertion
-        = QStringLiteral(
-              "INSERT OR IGNORE INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
+        = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)"
+                         " ON CONFLICT DO NOTHING")
               .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
     const auto rows
         = m_from.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});

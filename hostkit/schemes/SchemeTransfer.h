@@ -23,7 +23,7 @@ public:
     void CopySchemes();
 
 private:
-    void AddLayer(qint32 layerID, qint32 newLayerID);
+    void AddLayer(qint32 layerID);
     void CopyValues(qint32 schemeID, qint32 newSchemeID);
 
     ILayerStore& m_from;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/MapDocument.h"
 
+#include "hostkit/common/LayerRow.h"
 #include "hostkit/common/StoredScale.h"
 #include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/MapSettings.h"
@@ -16,20 +17,11 @@
 #include <QFileInfo>
 
 #include <filesystem>
-#include <limits>
 #include <system_error>
 
 namespace Orvane {
 
 namespace {
-
-constexpr qint32 NoCode = -1;
-
-// Code -1 is given to as many layers as need it.
-qint32 CodeOrNone(qint32 next)
-{
-    return next <= std::numeric_limits<qint16>::max() ? next : NoCode;
-}
 
 // A map file under another name until it is whole; what was begun and not put in place is removed.
 class UnfinishedFile
@@ -177,19 +169,22 @@ void MapDocument::SetBackdrop(const QString& path)
 
 qint32 MapDocument::AddLayer(const NewLayer& layer)
 {
-    const qint32 layerID = NextOf(QStringLiteral("max(LayerID)"), QStringLiteral("Layers"));
-    const qint32 code = NextOf(QStringLiteral("max(Code)"), QStringLiteral("Layers"));
-    const double limit = layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum;
-    const DrawingValues& values = layer.values;
+    LayerRow row;
+    row.Set("Name", layer.name);
+    row.Set("Visible", layer.visible);
+    row.Set("Color", layer.values.color);
+    row.Set("FillForeColor", layer.values.fillForeColor);
+    row.Set("FillBackColor", layer.values.fillBackColor);
+    row.Set("OutlineStyle", layer.values.outlineStyle);
+    row.Set("FillStyle", layer.values.fillStyle);
+    row.Set("LineThickness", layer.values.lineThickness);
+    row.Set("MinVisScale", layer.minDenominator);
+    row.Set("MaxVisScale", layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum);
+    row.Set("Priority", layer.priority);
+    row.Set("Style", layer.values.style);
     Transaction transaction(*m_database);
-    m_database->Execute(
-        QStringLiteral(
-            "INSERT INTO Layers (LayerID, Name, Code, Visible, Color, FillForeColor, FillBackColor,"
-            " OutlineStyle, FillStyle, LineThickness, MinVisScale, MaxVisScale, Priority, Style)"
-            " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14)"),
-        {layerID, layer.name, CodeOrNone(code), layer.visible, values.color, values.fillForeColor,
-         values.fillBackColor, values.outlineStyle, values.fillStyle, values.lineThickness,
-         layer.minDenominator, limit, layer.priority, values.style});
+    row.Set("Code", LayerRow::LowestFreeCode(*m_database));
+    const qint32 layerID = row.StoreNew(*m_database);
     SetSource({layerID, layer.path, layer.ogrLayer, layer.filter});
     transaction.Commit();
     return layerID;

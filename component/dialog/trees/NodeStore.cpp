@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/NodeStore.h"
 
-#include "component/model/LayerColumns.h"
+#include "component/model/CheckedColumns.h"
 #include "component/model/LayerCursors.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>

@@ -4,6 +4,12 @@
 #include "store/StoreTexts.h"
 #include "store/sqlite/engine/SqliteConnection.h"
 
+#include <OrvaneShellLib/LayerColumns.h>
+
+#include <QByteArrayList>
+#include <QLocale>
+
+#include <algorithm>
 #include <array>
 
 namespace Orvane::LayerSchema {
@@ -12,30 +18,6 @@ namespace {
 
 // Columns may be null except keys: a null property is one that is not known.
 constexpr const char* Version1 = R"sql(
-CREATE TABLE Layers (
-    LayerID INTEGER PRIMARY KEY,
-    Name TEXT COLLATE NOCASE DEFAULT '',
-    Code INTEGER DEFAULT 0,
-    Visible INTEGER DEFAULT 1,
-    Selectable INTEGER DEFAULT 1,
-    locked INTEGER DEFAULT 0,
-    Hitable INTEGER DEFAULT 1,
-    SnapRequired INTEGER DEFAULT 0,
-    Enquirable INTEGER DEFAULT 1,
-    Color INTEGER DEFAULT 0,
-    FillForeColor INTEGER DEFAULT 0,
-    FillBackColor INTEGER DEFAULT 16777215,
-    OutlineStyle INTEGER DEFAULT 0,
-    FillStyle INTEGER DEFAULT 0,
-    LineThickness INTEGER DEFAULT 0,
-    MinVisScale REAL DEFAULT 0,
-    MaxVisScale REAL DEFAULT 0,
-    Priority INTEGER DEFAULT 0,
-    Style INTEGER DEFAULT 0,
-    OverrideMode INTEGER DEFAULT 0,
-    SystemLayer INTEGER DEFAULT 0,
-    Pseudo INTEGER DEFAULT 0
-);
 CREATE TABLE LayerGroups (
     ID INTEGER PRIMARY KEY,
     Name TEXT DEFAULT '',
@@ -71,16 +53,56 @@ INSERT INTO sqlite_stat1 (tbl, idx, stat) VALUES
 ANALYZE sqlite_schema;
 )sql";
 
-// The script at index n makes version n + 1 of version n.
+// What version n + 1 has beside the columns of layers, at index n.
 constexpr std::array<const char*, CurrentVersion> Steps = {Version1, Version2};
 
 constexpr std::array ColumnChecks = {
-    "SELECT LayerID, Name, Code, Visible, Selectable, locked, Hitable, SnapRequired, Enquirable, Color,"
-    " FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, MinVisScale, MaxVisScale,"
-    " Priority, Style, OverrideMode, SystemLayer, Pseudo FROM Layers LIMIT 0",
     "SELECT ID, Name, GroupOrdering, Pseudo, Expanded FROM LayerGroups LIMIT 0",
     "SELECT GroupID, LayerID, Ordering FROM LayerGroupMembers LIMIT 0",
 };
+
+QByteArray Definition(const LayerColumn& column)
+{
+    const QByteArray name = column.name;
+    const QByteArray number = QByteArray::number(column.defaultValue, 'g', QLocale::FloatingPointShortest);
+    switch (column.kind) {
+    case ColumnKind::Key:
+        return name + " INTEGER PRIMARY KEY";
+    case ColumnKind::Text:
+        return name + " TEXT COLLATE NOCASE DEFAULT ''";
+    case ColumnKind::Real:
+        return name + " REAL DEFAULT " + number;
+    default:
+        return name + " INTEGER DEFAULT " + number;
+    }
+}
+
+// The columns that a version brings: a new table, or more columns for the one that is there.
+QByteArray ColumnsOf(qint32 version)
+{
+    QByteArrayList definitions;
+    for (const LayerColumn& column : LayerColumns) {
+        if (column.since == version)
+            definitions << Definition(column);
+    }
+    if (version == 1)
+        return "CREATE TABLE Layers (" + definitions.join(", ") + ");";
+    QByteArray script;
+    for (const QByteArray& definition : definitions)
+        script += "ALTER TABLE Layers ADD COLUMN " + definition + ';';
+    return script;
+}
+
+// The columns that a file of that version has.
+QByteArray LayerCheck(qint32 version)
+{
+    QByteArrayList names;
+    for (const LayerColumn& column : LayerColumns) {
+        if (column.since <= version)
+            names << column.name;
+    }
+    return "SELECT " + names.join(", ") + " FROM Layers LIMIT 0";
+}
 
 qint32 VersionOf(SqliteConnection& connection)
 {
@@ -90,7 +112,7 @@ qint32 VersionOf(SqliteConnection& connection)
 void RunSteps(SqliteConnection& connection)
 {
     for (qint32 version = VersionOf(connection); version < CurrentVersion; ++version)
-        connection.Run(Steps[size_t(version)]);
+        connection.Run(ColumnsOf(version + 1) + Steps[size_t(version)]);
     connection.Run("PRAGMA user_version = " + QByteArray::number(CurrentVersion));
 }
 
@@ -123,6 +145,7 @@ void Migrate(SqliteConnection& connection)
 void Check(SqliteConnection& connection)
 {
     try {
+        connection.Run(LayerCheck(std::max(VersionOf(connection), 1)));
         for (const char* query : ColumnChecks)
             connection.Run(query);
     } catch (const RunTimeError& error) {

@@ -25,9 +25,9 @@ protected:
         AddLayer(1, Roads, 7);
         AddLayer(2, Rivers);
         m_schemes.Names();
-        for (int column = 0; column < SchemeColumns::Count; ++column) {
-            Set(1, SchemeColumns::Name(column), qint32(column + 1));
-            Set(2, SchemeColumns::Name(column), Value::Null());
+        for (int column = 0; column < int(SchemeColumns::Count); ++column) {
+            Set(1, SchemeColumns::All.at(std::size_t(column)).name, qint32(column + 1));
+            Set(2, SchemeColumns::All.at(std::size_t(column)).name, Value::Null());
         }
         m_schemes.Create(Night);
         return SchemeExchange::Export(Database(), Night);
@@ -46,10 +46,11 @@ TEST_F(Exchange, EveryEditedColumnArrivesInAnotherMap)
     AddLayer(*map, 41, Rivers, Value::Null());
     EXPECT_EQ(SchemeExchange::Import(*map, night).matched, 2);
     LayerSchemes(*map).Load(Night);
-    for (int column = 0; column < SchemeColumns::Count; ++column) {
-        EXPECT_THAT(Get(*map, 40, SchemeColumns::Name(column)), IsNumber(column + 1))
-            << SchemeColumns::Name(column);
-        EXPECT_THAT(Get(*map, 41, SchemeColumns::Name(column)), IsNullValue()) << SchemeColumns::Name(column);
+    for (int column = 0; column < int(SchemeColumns::Count); ++column) {
+        EXPECT_THAT(Get(*map, 40, SchemeColumns::All.at(std::size_t(column)).name), IsNumber(column + 1))
+            << SchemeColumns::All.at(std::size_t(column)).name;
+        EXPECT_THAT(Get(*map, 41, SchemeColumns::All.at(std::size_t(column)).name), IsNullValue())
+            << SchemeColumns::All.at(std::size_t(column)).name;
     }
 }
 

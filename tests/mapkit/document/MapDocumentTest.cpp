@@ -71,12 +71,20 @@ TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
 TEST_F(MapDocumentTest, LayersGetCodesOfTheirOwnWhileThereAreAny)
 {
     const auto document = MapDocument::Untitled();
-    document->AddLayer(LayerOf("a"));
-    document->AddLayer(LayerOf("b"));
-    document->Database().Execute("UPDATE Layers SET Code = 32767 WHERE LayerID = 2");
-    document->AddLayer(LayerOf("c"));
-    const auto rows = document->Database().OpenRecordset("SELECT Code FROM Layers ORDER BY LayerID DESC");
-    EXPECT_EQ(ToInt32(rows->Field("Code")), -1);
+    const auto codeOfNewLayer = [&] {
+        const qint32 layerID = document->AddLayer(LayerOf("a"));
+        const auto row
+            = document->Database().OpenQuery("SELECT Code FROM Layers WHERE LayerID = ?1", {layerID});
+        return ToInt32(row->Field("Code"));
+    };
+    EXPECT_EQ(codeOfNewLayer(), 0);
+    EXPECT_EQ(codeOfNewLayer(), 1);
+    document->Database().Execute("UPDATE Layers SET Code = 3 WHERE Code = 1");
+    EXPECT_EQ(codeOfNewLayer(), 1);
+    document->Database().Execute(
+        "WITH RECURSIVE Codes (Code) AS (SELECT 4 UNION ALL SELECT Code + 1 FROM Codes WHERE Code < 32767)"
+        " INSERT INTO Layers (Code) SELECT Code FROM Codes UNION ALL SELECT 2");
+    EXPECT_EQ(codeOfNewLayer(), -1);
 }
 
 TEST_F(MapDocumentTest, ADeletedLayerTakesItsSourceAlong)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/model/LayerColumns.h"
+#include "component/model/CheckedColumns.h"
 
 #include "component/model/LayerQueries.h"
 

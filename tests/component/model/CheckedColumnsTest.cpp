@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/model/LayerColumns.h"
+#include "component/model/CheckedColumns.h"
 
 #include "hosts/Errors.h"
 #include "hosts/MemoryHost.h"

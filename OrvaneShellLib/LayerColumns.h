@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+/// The columns of the table Layers.
+namespace Orvane {
+
+/// What a column holds. A property may be NULL: then it is not known.
+enum class ColumnKind {
+    Key, ///< a whole number of 32 bits, never NULL
+    Text, ///< sorted without case
+    Flag, ///< written as a boolean, read as a boolean or as a number that is not 0 or is
+    Whole, ///< a whole number of 32 bits
+    Real,
+};
+
+/// Whether a layer scheme keeps a column's values.
+enum class InSchemes { No, Yes };
+
+/// One column of the table Layers.
+struct LayerColumn {
+    const char* name;
+    ColumnKind kind;
+    double defaultValue; ///< what a row has that was not given another value; texts are empty
+    InSchemes inSchemes;
+    int since; ///< the version of layer databases that has it first
+};
+
+/// All columns in the order of the table. A new column is added at the end, with the next version: stores
+/// then add it to older tables, and schemes, scheme files and new layers have it too.
+inline constexpr std::array LayerColumns{
+    LayerColumn{"LayerID", ColumnKind::Key, 0, InSchemes::No, 1},
+    LayerColumn{"Name", ColumnKind::Text, 0, InSchemes::No, 1},
+    LayerColumn{"Code", ColumnKind::Whole, 0, InSchemes::No, 1},
+    LayerColumn{"Visible", ColumnKind::Flag, 1, InSchemes::Yes, 1},
+    LayerColumn{"Selectable", ColumnKind::Flag, 1, InSchemes::Yes, 1},
+    LayerColumn{"locked", ColumnKind::Flag, 0, InSchemes::Yes, 1},
+    LayerColumn{"Hitable", ColumnKind::Flag, 1, InSchemes::Yes, 1},
+    LayerColumn{"SnapRequired", ColumnKind::Flag, 0, InSchemes::Yes, 1},
+    LayerColumn{"Enquirable", ColumnKind::Flag, 1, InSchemes::Yes, 1},
+    LayerColumn{"Color", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"FillForeColor", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"FillBackColor", ColumnKind::Whole, 0xFFFFFF, InSchemes::Yes, 1},
+    LayerColumn{"OutlineStyle", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"FillStyle", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"LineThickness", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"MinVisScale", ColumnKind::Real, 0, InSchemes::Yes, 1},
+    LayerColumn{"MaxVisScale", ColumnKind::Real, 0, InSchemes::Yes, 1},
+    LayerColumn{"Priority", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"Style", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"OverrideMode", ColumnKind::Whole, 0, InSchemes::Yes, 1},
+    LayerColumn{"SystemLayer", ColumnKind::Flag, 0, InSchemes::No, 1},
+    LayerColumn{"Pseudo", ColumnKind::Flag, 0, InSchemes::No, 1},
+};
+
+/// The position of a column in LayerColumns; LayerColumns.size() if there is none. Case counts.
+constexpr std::size_t FindLayerColumn(std::string_view name)
+{
+    std::size_t position = 0;
+    while (position < LayerColumns.size() && LayerColumns[position].name != name)
+        ++position;
+    return position;
+}
+
+/// The version of the newest column.
+constexpr int NewestLayerColumn()
+{
+    int newest = 0;
+    for (const LayerColumn& column : LayerColumns)
+        newest = column.since > newest ? column.since : newest;
+    return newest;
+}
+
+} // namespace Orvane

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace Orvane {
+
+class ILayerStore;
+
+/// The versions of the tables that a host keeps in its layer store, by the name of what they are for. They
+/// stand in the table HostTables; what has no row there has version 0, as older programs wrote none.
+namespace HostTables {
+
+/// 0 when none is stored.
+qint32 VersionOf(ILayerStore& store, const QString& name);
+
+/// Stores the version.
+void SetVersion(ILayerStore& store, const QString& name, qint32 version);
+
+/// Raises HostError::TablesTooNew if a newer program has written the tables. text: the description, for the
+/// user, with the store's name as %1.
+void RequireVersion(ILayerStore& store, const QString& name, qint32 newest, const QString& text);
+
+} // namespace HostTables
+
+} // namespace Orvane

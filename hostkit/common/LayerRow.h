@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OrvaneShellLib/LayerColumns.h>
+#include <OrvaneShellLib/Value.h>
+
+#include <QtGlobal>
+
+#include <array>
+#include <string_view>
+
+namespace Orvane {
+
+class ILayerStore;
+class IRecordset;
+
+/// A row for the table Layers. Each column has its default value until it is given another one.
+///
+///     LayerRow row;
+///     row.Set("Name", name);
+///     const qint32 layerID = row.StoreNew(store);
+class LayerRow
+{
+public:
+    LayerRow();
+    /// The values of the row at hand, in all columns.
+    explicit LayerRow(const IRecordset& row);
+
+    /// column: a name of LayerColumns. Raises 9 (subscript out of range) for any other.
+    void Set(std::string_view column, const Value& value);
+
+    /// Stores the row with the next free LayerID, and returns that. Raises errors of the store.
+    qint32 StoreNew(ILayerStore& store);
+
+    /// The code of a layer when all codes from 0 to 32767 are taken; any number of layers may have it.
+    static constexpr qint16 NoCode = -1;
+    /// The lowest code from 0 up that no layer has, or NoCode.
+    static qint16 LowestFreeCode(ILayerStore& store);
+
+private:
+    std::array<Value, LayerColumns.size()> m_values;
+};
+
+} // namespace Orvane
