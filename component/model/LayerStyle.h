@@ -34,6 +34,22 @@ enum : qint16 {
 };
 } // namespace Slot
 
+/// A slot that keeps a column of the same meaning as it is.
+struct SlotColumn {
+    qint16 slot;
+    const char* column;
+};
+
+/// The flags that have a column of their own, in the order in which they are read and written.
+inline constexpr std::array FlagColumns{
+    SlotColumn{Slot::Visible, "Visible"},
+    SlotColumn{Slot::Selectable, "Selectable"},
+    SlotColumn{Slot::Locked, "locked"},
+    SlotColumn{Slot::Hitable, "Hitable"},
+    SlotColumn{Slot::SnapRequired, "SnapRequired"},
+    SlotColumn{Slot::Enquirable, "Enquirable"},
+};
+
 /// The editable properties of one layer, or what several layers have in common. A Null slot means "not known"
 /// in a new record and "various" in a combined one.
 class LayerStyle

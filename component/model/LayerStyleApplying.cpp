@@ -37,12 +37,8 @@ void WriteQuickMode(IRecordset& row, qint16 quickMode)
 
 void WriteFlags(IRecordset& row, const LayerStyle& style)
 {
-    WriteFlag(row, "Visible", style.lsGet(Slot::Visible));
-    WriteFlag(row, "Selectable", style.lsGet(Slot::Selectable));
-    WriteFlag(row, "locked", style.lsGet(Slot::Locked));
-    WriteFlag(row, "Hitable", style.lsGet(Slot::Hitable));
-    WriteFlag(row, "SnapRequired", style.lsGet(Slot::SnapRequired));
-    WriteFlag(row, "Enquirable", style.lsGet(Slot::Enquirable));
+    for (const SlotColumn& flag : FlagColumns)
+        WriteFlag(row, flag.column, style.lsGet(flag.slot));
 }
 
 // A row whose colour is not known counts as black, used for symbols.

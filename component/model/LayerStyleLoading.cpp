@@ -16,12 +16,8 @@ namespace {
 
 void ReadFlags(const IRecordset& row, LayerStyle& style)
 {
-    style.lsSet(Slot::Visible, FlagColumn(row, "Visible"));
-    style.lsSet(Slot::Selectable, FlagColumn(row, "Selectable"));
-    style.lsSet(Slot::Locked, FlagColumn(row, "locked"));
-    style.lsSet(Slot::Hitable, FlagColumn(row, "Hitable"));
-    style.lsSet(Slot::SnapRequired, FlagColumn(row, "SnapRequired"));
-    style.lsSet(Slot::Enquirable, FlagColumn(row, "Enquirable"));
+    for (const SlotColumn& flag : FlagColumns)
+        style.lsSet(flag.slot, FlagColumn(row, flag.column));
 }
 
 void ReadColours(const IRecordset& row, LayerStyle& style)

@@ -7,6 +7,8 @@
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <algorithm>
+
 namespace Orvane {
 
 namespace {
@@ -34,15 +36,7 @@ Value CheckStateToValue(qint16 state)
     }
 }
 
-FlagEditor::FlagEditor(const Widgets& widgets)
-    : m_widgets(widgets), m_flags{
-                              {Slot::Enquirable, widgets.chkEnquirable},
-                              {Slot::Hitable, widgets.chkHitable},
-                              {Slot::Locked, widgets.chkLocked},
-                              {Slot::Selectable, widgets.chkSelectable},
-                              {Slot::SnapRequired, widgets.chkSnapRequired},
-                              {Slot::Visible, widgets.chkVisible},
-                              {Slot::UseForSymbols, widgets.chkUseForSymbols}}
+FlagEditor::FlagEditor(const std::vector<Flag>& flags) : m_flags(flags)
 {
     for (const Flag& flag : m_flags) {
         CheckBoxPlus* box = flag.box;
@@ -84,9 +78,16 @@ void FlagEditor::OnClick(CheckBoxPlus* box)
 
 void FlagEditor::EnableDependents()
 {
-    const bool isHitable = m_widgets.chkHitable->Value() != Unchecked;
-    m_widgets.chkSelectable->setEnabled(isHitable);
-    m_widgets.chkEnquirable->setEnabled(isHitable);
+    const bool isHitable = BoxOf(Slot::Hitable)->Value() != Unchecked;
+    BoxOf(Slot::Selectable)->setEnabled(isHitable);
+    BoxOf(Slot::Enquirable)->setEnabled(isHitable);
+}
+
+CheckBoxPlus* FlagEditor::BoxOf(qint16 slot) const
+{
+    const auto flag = std::find_if(
+        m_flags.begin(), m_flags.end(), [slot](const Flag& each) { return each.slot == slot; });
+    return flag->box;
 }
 
 } // namespace Orvane

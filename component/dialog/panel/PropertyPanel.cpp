@@ -33,9 +33,10 @@ PropertyPanel::~PropertyPanel() = default;
 void PropertyPanel::Join(std::unique_ptr<PropertyEditor> editor)
 {
     editor->SetChangeHandler([this](QWidget* control) {
-        if (!m_showing)
+        if (m_showing)
+            Speak(*control);
+        else
             MarkControlChanged(control, ControlValueChanged(control));
-        Speak(*control);
     });
     for (const SlotControl& entry : editor->Controls()) {
         if (entry.speaker)

@@ -32,9 +32,14 @@ void EditorParts::JoinPropertyEditors(const QString& stylePrefix)
     m_scales = std::make_unique<VisibleScalesTranslator>();
     m_priorities = std::make_unique<DrawPrioritiesTranslator>();
     const AskSlider ask = [this](const SliderQuestion& question) { return m_slider.Ask(question); };
-    panel.Join(std::make_unique<FlagEditor>(FlagEditor::Widgets{
-        m_ui.chkVisible, m_ui.chkSelectable, m_ui.chkLocked, m_ui.chkHitable, m_ui.chkSnapRequired,
-        m_ui.chkEnquirable, m_ui.chkUseForSymbols}));
+    panel.Join(std::make_unique<FlagEditor>(std::vector<FlagEditor::Flag>{
+        {Slot::Enquirable, m_ui.chkEnquirable},
+        {Slot::Hitable, m_ui.chkHitable},
+        {Slot::Locked, m_ui.chkLocked},
+        {Slot::Selectable, m_ui.chkSelectable},
+        {Slot::SnapRequired, m_ui.chkSnapRequired},
+        {Slot::Visible, m_ui.chkVisible},
+        {Slot::UseForSymbols, m_ui.chkUseForSymbols}}));
     panel.Join(std::make_unique<LineAndFillEditor>(
         LineAndFillEditor::Rows{
             {m_ui.cmbColor0, m_ui.lblColor0},

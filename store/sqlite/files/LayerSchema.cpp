@@ -54,7 +54,7 @@ ANALYZE sqlite_schema;
 )sql";
 
 // What version n + 1 has beside the columns of layers, at index n.
-constexpr std::array<const char*, CurrentVersion> Steps = {Version1, Version2};
+constexpr std::array Steps = {Version1, Version2};
 
 constexpr std::array ColumnChecks = {
     "SELECT ID, Name, GroupOrdering, Pseudo, Expanded FROM LayerGroups LIMIT 0",
@@ -112,7 +112,8 @@ qint32 VersionOf(SqliteConnection& connection)
 void RunSteps(SqliteConnection& connection)
 {
     for (qint32 version = VersionOf(connection); version < CurrentVersion; ++version)
-        connection.Run(ColumnsOf(version + 1) + Steps[size_t(version)]);
+        connection.Run(
+            ColumnsOf(version + 1) + (size_t(version) < Steps.size() ? Steps[size_t(version)] : ""));
     connection.Run("PRAGMA user_version = " + QByteArray::number(CurrentVersion));
 }
 

@@ -5,6 +5,8 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
+
 namespace Orvane {
 
 class SqliteConnection;
@@ -16,8 +18,7 @@ namespace LayerSchema {
 inline constexpr quint32 ApplicationID = 0x4F52564E;
 /// Version 1 has the three tables and the two indexes used to look up rows; version 2 adds the indexes that
 /// make lists and groups fast. The columns of layers and their versions are in LayerColumns.
-inline constexpr qint32 CurrentVersion = 2;
-static_assert(NewestLayerColumn() <= CurrentVersion);
+inline constexpr qint32 CurrentVersion = std::max(2, NewestLayerColumn());
 
 /// Marks an empty database as a layer database and creates its tables.
 void Create(SqliteConnection& connection);
