@@ -2,6 +2,7 @@
 #include "component/dialog/trees/LayerTreeList.h"
 
 #include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeIndexes.h"
 #include "component/dialog/trees/NodeNameDelegate.h"
 
 #include <QItemSelectionModel>
@@ -78,7 +79,7 @@ void LayerTreeList::Refill(const std::function<void()>& fill, const std::vector<
     m_stale = false;
     // The reset has put the layout off, so that expanding only notes the group; one layout then serves all.
     for (int row : expandedRows)
-        m_view->expand(m_model->index(row, 0));
+        m_view->expand(IndexOf(m_model->Reference(m_model->index(row, 0))));
     m_view->doItemsLayout();
     FindCurrentAgain();
     m_place.ScrollBack(*m_view);
@@ -88,28 +89,38 @@ void LayerTreeList::FindCurrentAgain()
 {
     if (!m_current)
         return;
-    QModelIndex index = m_model->IndexOf(*m_current);
+    QModelIndex index = CurrentIndex();
     if (!index.isValid())
-        index = m_place.NodeNear(*m_model);
+        index = m_place.NodeNear(*m_view);
     m_current.reset();
     if (index.isValid())
-        MakeCurrent(m_model->Reference(index));
+        MakeCurrent(NodeIndexes::NodeAt(index));
 }
 
 std::optional<NodeReference> LayerTreeList::CurrentNode() const
 {
-    const QModelIndex index = m_current ? m_model->IndexOf(*m_current) : QModelIndex();
-    return index.isValid() ? std::optional(m_model->Reference(index)) : std::nullopt;
+    const QModelIndex index = CurrentIndex();
+    return index.isValid() ? std::optional(NodeIndexes::NodeAt(index)) : std::nullopt;
 }
 
 QString LayerTreeList::CurrentText() const
 {
-    return m_current ? m_model->IndexOf(*m_current).data().toString() : QString();
+    return CurrentIndex().data().toString();
+}
+
+QModelIndex LayerTreeList::IndexOf(const NodeReference& node) const
+{
+    return NodeIndexes::IndexOf(*m_view, node);
+}
+
+QModelIndex LayerTreeList::CurrentIndex() const
+{
+    return m_current ? IndexOf(*m_current) : QModelIndex();
 }
 
 bool LayerTreeList::MakeCurrent(const NodeReference& node)
 {
-    const QModelIndex index = m_model->IndexOf(node);
+    const QModelIndex index = IndexOf(node);
     if (!index.isValid())
         return false;
     m_current = node;
@@ -127,7 +138,7 @@ void LayerTreeList::RefuseChoice()
 
 void LayerTreeList::SelectCurrent()
 {
-    Select(m_current ? m_model->IndexOf(*m_current) : QModelIndex());
+    Select(CurrentIndex());
 }
 
 // Without automatic scrolling, which would also expand the group of the node.
@@ -142,7 +153,7 @@ void LayerTreeList::Select(const QModelIndex& index)
 
 void LayerTreeList::ScrollToCurrent()
 {
-    const QModelIndex index = m_current ? m_model->IndexOf(*m_current) : QModelIndex();
+    const QModelIndex index = CurrentIndex();
     if (index.isValid())
         m_view->scrollTo(index);
 }
@@ -151,9 +162,9 @@ std::vector<qint32> LayerTreeList::GroupsWithout(bool expanded) const
 {
     std::vector<qint32> groupIDs;
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        const QModelIndex index = m_model->index(row, 0);
-        if (m_view->isExpanded(index) != expanded)
-            groupIDs.push_back(m_model->Reference(index).groupID);
+        const NodeReference group = m_model->Reference(m_model->index(row, 0));
+        if (m_view->isExpanded(IndexOf(group)) != expanded)
+            groupIDs.push_back(group.groupID);
     }
     return groupIDs;
 }
@@ -175,7 +186,7 @@ void LayerTreeList::FollowSelection()
         SelectCurrent();
         return;
     }
-    const NodeReference node = m_model->Reference(selected.first());
+    const NodeReference node = NodeIndexes::NodeAt(selected.first());
     if (!m_current || !IsSameNode(*m_current, node))
         emit NodeChosen(node);
 }
@@ -183,7 +194,7 @@ void LayerTreeList::FollowSelection()
 void LayerTreeList::FollowExpansion(const QModelIndex& index, bool expanded)
 {
     if (!m_quiet)
-        emit ExpansionChanged(m_model->Reference(index).groupID, expanded);
+        emit ExpansionChanged(NodeIndexes::NodeAt(index).groupID, expanded);
 }
 
 } // namespace Orvane

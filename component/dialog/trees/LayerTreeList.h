@@ -48,6 +48,8 @@ public:
     std::optional<NodeReference> CurrentNode() const;
     /// The current node's text; empty when it is not among the nodes.
     QString CurrentText() const;
+    /// Where the node stands in the view; invalid when it is not shown.
+    QModelIndex IndexOf(const NodeReference& node) const;
     /// Makes the node current and selects it; false when it is not among the nodes.
     bool MakeCurrent(const NodeReference& node);
     /// Takes the view's selection back to the current node, and holds it there until the event that chose
@@ -73,6 +75,7 @@ private:
     void Wire();
     void Refill(const std::function<void()>& fill, const std::vector<int>& expandedRows);
     void FindCurrentAgain();
+    QModelIndex CurrentIndex() const;
     void Select(const QModelIndex& index);
     void SelectCurrent();
     void FollowSelection();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/LayerTreePlace.h"
 
-#include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeIndexes.h"
 
 #include <QScrollBar>
 #include <QTreeView>
@@ -10,17 +10,15 @@
 
 namespace Orvane {
 
+using NodeIndexes::IndexOf;
+using NodeIndexes::NodeAt;
+
 namespace {
 
-const LayerTreeModel& ModelOf(const QTreeView& view)
+QModelIndex ChildNear(const QTreeView& view, int row, const QModelIndex& parent)
 {
-    return *static_cast<const LayerTreeModel*>(view.model());
-}
-
-QModelIndex ChildNear(const LayerTreeModel& model, int row, const QModelIndex& parent)
-{
-    const int last = model.rowCount(parent) - 1;
-    return row < 0 ? QModelIndex() : model.index(std::min(row, last), 0, parent);
+    const int last = view.model()->rowCount(parent) - 1;
+    return row < 0 ? QModelIndex() : view.model()->index(std::min(row, last), 0, parent);
 }
 
 } // namespace
@@ -28,30 +26,29 @@ QModelIndex ChildNear(const LayerTreeModel& model, int row, const QModelIndex& p
 LayerTreePlace::LayerTreePlace(const QTreeView& view, const std::optional<NodeReference>& current)
     : m_vertical(view.verticalScrollBar()->value()), m_horizontal(view.horizontalScrollBar()->value())
 {
-    const LayerTreeModel& model = ModelOf(view);
     const QModelIndex top = view.indexAt(QPoint(0, 0));
     if (top.isValid()) {
-        m_top = model.Reference(top);
+        m_top = NodeAt(top);
         m_topOffset = view.visualRect(top).top();
     }
-    const QModelIndex index = current ? model.IndexOf(*current) : QModelIndex();
+    const QModelIndex index = current ? IndexOf(view, *current) : QModelIndex();
     m_row = index.row();
     m_groupRow = index.parent().row();
     if (index.parent().isValid())
-        m_group = model.Reference(index.parent());
+        m_group = NodeAt(index.parent());
 }
 
-QModelIndex LayerTreePlace::NodeNear(const LayerTreeModel& model) const
+QModelIndex LayerTreePlace::NodeNear(const QTreeView& view) const
 {
     if (!m_group)
-        return ChildNear(model, m_row, {});
-    const QModelIndex group = model.IndexOf(*m_group);
-    return group.isValid() ? ChildNear(model, m_row, group) : ChildNear(model, m_groupRow, {});
+        return ChildNear(view, m_row, {});
+    const QModelIndex group = IndexOf(view, *m_group);
+    return group.isValid() ? ChildNear(view, m_row, group) : ChildNear(view, m_groupRow, {});
 }
 
 void LayerTreePlace::ScrollBack(QTreeView& view) const
 {
-    QModelIndex top = m_top ? ModelOf(view).IndexOf(*m_top) : QModelIndex();
+    QModelIndex top = m_top ? IndexOf(view, *m_top) : QModelIndex();
     if (top.parent().isValid() && !view.isExpanded(top.parent()))
         top = top.parent();
     if (top.isValid())

@@ -11,20 +11,19 @@ class QTreeView;
 
 namespace Orvane {
 
-class LayerTreeModel;
-
 /// How far a tree was scrolled and where its current node stood, told by the identity of nodes, so that both
 /// are found again after all nodes were replaced.
 class LayerTreePlace
 {
 public:
     LayerTreePlace() = default;
-    /// The place of a view over a LayerTreeModel; current: the node to find a neighbour of later, if any.
+    /// The place of a view that shows a LayerTreeModel; current: the node to find a neighbour of later, if
+    /// any.
     LayerTreePlace(const QTreeView& view, const std::optional<NodeReference>& current);
 
     /// What stands now where the current node stood: the node in its row, else the last one before it, else
     /// its group. Invalid when nothing is near.
-    QModelIndex NodeNear(const LayerTreeModel& model) const;
+    QModelIndex NodeNear(const QTreeView& view) const;
 
     /// Scrolls the view so that the same node is at its top; where that is gone, by as much as before.
     /// Expands nothing.

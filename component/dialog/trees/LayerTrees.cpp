@@ -26,11 +26,11 @@ namespace Orvane {
 
 namespace {
 
-std::vector<GroupEntry> ReadGroups(const std::optional<QString>& namedGroup)
+std::vector<GroupEntry> ReadGroups()
 {
     const BusyPointer busy;
     return LoadLayerTree(
-        Client(), namedGroup, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
+        Client(), std::nullopt, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
 }
 
 std::vector<LayerEntry> ReadLayers(const IStyleFilter* filter)
@@ -105,20 +105,14 @@ void LayerTrees::SetFilter(const IStyleFilter* filter)
     m_layers->MarkStale();
 }
 
-void LayerTrees::SetNamedGroup(const std::optional<QString>& groupName)
-{
-    m_namedGroup = groupName;
-    m_groups->MarkStale();
-}
-
 void LayerTrees::LoadGroups()
 {
     const std::optional<NodeReference> current = m_groups->CurrentNode();
-    std::vector<GroupEntry> groups = ReadGroups(m_namedGroup);
+    std::vector<GroupEntry> groups = ReadGroups();
     if (Loses(List::Groups, !current || Holds(groups, *current))) {
         if (!AskAboutChanges())
             return;
-        groups = ReadGroups(m_namedGroup);
+        groups = ReadGroups();
     }
     Replace(List::Groups, [&] { m_groups->ShowGroups(std::move(groups)); });
 }
@@ -287,10 +281,7 @@ void LayerTrees::SetLayerName(qint32 layerID, const QString& name)
 
 void LayerTrees::RenameGroup(qint32 groupID, const QString& name)
 {
-    const QString oldName = ReadNodeName(Client(), {.isGroup = true, .groupID = groupID});
     Client().RenameGroup(groupID, name);
-    if (m_namedGroup == oldName)
-        m_namedGroup = name;
     m_groups->Model().SetGroupText(groupID, name);
 }
 
@@ -316,7 +307,7 @@ void LayerTrees::EditCurrentName()
 {
     const std::optional<NodeReference> node = CurrentNode();
     LayerTreeList& list = At(m_shown);
-    const QModelIndex index = node ? list.Model().IndexOf(*node) : QModelIndex();
+    const QModelIndex index = node ? list.IndexOf(*node) : QModelIndex();
     if (index.isValid() && !list.View().isPersistentEditorOpen(index) && CanEditNode(*node))
         list.View().edit(index);
 }

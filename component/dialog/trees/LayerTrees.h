@@ -51,8 +51,6 @@ public:
     /// Keeps the host's filter for the flat list and marks that list stale; nullptr shows all layers. Not
     /// owned.
     void SetFilter(const IStyleFilter* filter);
-    /// Restricts the groups tree to the group of that name, or lifts the restriction, and marks it stale.
-    void SetNamedGroup(const std::optional<QString>& groupName);
 
     /// Reads the groups and their layers anew. The old nodes stay when it raises.
     void LoadGroups();
@@ -126,7 +124,6 @@ private:
     std::function<void()> m_question;
     std::function<bool()> m_isPending;
     const IStyleFilter* m_filter = nullptr;
-    std::optional<QString> m_namedGroup;
 };
 
 } // namespace Orvane

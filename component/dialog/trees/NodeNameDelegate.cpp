@@ -4,7 +4,7 @@
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
-#include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeIndexes.h"
 #include "component/dialog/trees/NodeStore.h"
 #include "messages/NameInText.h"
 
@@ -37,11 +37,6 @@ private:
     QString m_name;
 };
 
-NodeReference ReferenceAt(const QModelIndex& index)
-{
-    return index.data(LayerTreeModel::ReferenceRole).value<NodeReference>();
-}
-
 std::optional<QString> EditableName(QWidget* owner, const NodeReference& node)
 {
     std::optional<QString> name;
@@ -57,7 +52,7 @@ std::optional<QString> EditableName(QWidget* owner, const NodeReference& node)
 QWidget*
 NodeNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
 {
-    const std::optional<QString> name = EditableName(parent, ReferenceAt(index));
+    const std::optional<QString> name = EditableName(parent, NodeIndexes::NodeAt(index));
     return name ? new NameEditor(*name, parent) : nullptr;
 }
 
@@ -70,14 +65,14 @@ void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const 
 {
     const auto* name = static_cast<NameEditor*>(editor);
     if (name->IsChanged())
-        emit NameEntered(ReferenceAt(index), name->text());
+        emit NameEntered(NodeIndexes::NodeAt(index), name->text());
 }
 
 void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->text = NameInText(option->text, LongestListed); // all rows are as high as the first
-    const NodeReference node = ReferenceAt(index);
+    const NodeReference node = NodeIndexes::NodeAt(index);
     const bool active = option->state & QStyle::State_Active;
     const int side = qMax(option->decorationSize.height(), option->fontMetrics.height());
     option->icon = m_images.Icon(

@@ -131,15 +131,4 @@ TEST_F(LayerTreesLoadTest, ReadsAgainWhatTheAnswerMayHaveChanged)
     EXPECT_EQ(ImageOf(layers, "Rivers"), "L4");
 }
 
-TEST_F(LayerTreesLoadTest, ShowsOnlyTheNamedGroupAndLiftsTheRestrictionAgain)
-{
-    host.AddGroup({.id = 3, .name = QString("Theme"), .pseudo = true, .members = {12}});
-    trees.SetNamedGroup("Theme");
-    Open(List::Groups);
-    EXPECT_THAT(Lines(groups), ElementsAre("Theme"));
-    trees.SetNamedGroup(std::nullopt);
-    trees.EnsureLoaded(List::Groups);
-    EXPECT_THAT(Lines(groups), Not(Contains("Theme")));
-}
-
 } // namespace Orvane

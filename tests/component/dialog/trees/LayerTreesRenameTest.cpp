@@ -79,16 +79,6 @@ TEST_F(LayerTreesRenameTest, RenamesAGroup)
     EXPECT_THAT(Lines(groups), Contains("Traffic"));
 }
 
-TEST_F(LayerTreesRenameTest, KeepsShowingAGroupThatTheTreeIsRestrictedTo)
-{
-    trees.SetNamedGroup("Transport");
-    Open(List::Groups);
-    Click(groups, "Transport");
-    Rename(groups, "Traffic");
-    trees.LoadGroups();
-    EXPECT_THAT(Lines(groups), ElementsAre("Traffic"));
-}
-
 TEST_F(LayerTreesRenameTest, RefusesAnEmptyName)
 {
     Open(List::Layers);
