@@ -1,36 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
-#include <functional>
-
+class QString;
 class QWidget;
 
 namespace Orvane {
 
-/// The question that is asked before edits would be lost to another node.
-class PendingChangesPrompt
-{
-public:
-    enum class Answer {
-        Yes, ///< apply the edits
-        No, ///< do nothing: the edits stay in the controls
-        Cancel, ///< drop the edits; the box has no button for it
-    };
-
-    /// apply and cancel: the dialog's Apply and Cancel actions.
-    PendingChangesPrompt(std::function<void()> apply, std::function<void()> cancel);
-
-    /// Asks about the node of that kind and text, and acts on the answer. Passes on what the action raises.
-    void Ask(QWidget* owner, bool isGroup, const QString& nodeText) const;
-
-    /// Runs the action that belongs to the answer.
-    void ActOn(Answer answer) const;
-
-private:
-    std::function<void()> m_apply;
-    std::function<void()> m_cancel;
+/// What becomes of edits that would be lost to another node.
+enum class PendingChangesAnswer {
+    Yes, ///< apply them
+    No, ///< do nothing: they stay in the controls
+    Cancel, ///< drop them; the box has no button for it
 };
+
+/// Asks whether to apply the edits of a node of that kind and text. Closing the box is No.
+PendingChangesAnswer AskToApply(QWidget* owner, bool isGroup, const QString& nodeText);
 
 } // namespace Orvane

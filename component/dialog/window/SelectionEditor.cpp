@@ -4,14 +4,15 @@
 #include "component/common/Component.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
-#include "component/dialog/panel/RendererStyleEditor.h"
-#include "component/dialog/window/ApplyCommand.h"
-#include "component/dialog/window/EditorParts.h"
+#include "component/dialog/panel/PropertyPanel.h"
+#include "component/dialog/trees/LayerTrees.h"
+#include "component/dialog/window/ApplyEdits.h"
+#include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/PendingChangesPrompt.h"
+#include "component/dialog/window/QuickModeToolbar.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleLoading.h"
 #include "ovctrls/BusyPointer.h"
-#include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/LayerValues.h>
@@ -20,22 +21,7 @@
 
 namespace Orvane {
 
-namespace {
-
-PanelEdits ReadEdits(EditorParts& parts)
-{
-    PanelEdits edits;
-    edits.quickMode = parts.quickModes.ReadMode();
-    edits.codeText = parts.commands.CodeText();
-    edits.selectedStyle = [&parts] { return parts.RendererStyles().SelectedStyle(); };
-    parts.panel.ReadPanelStyle(edits.style);
-    return edits;
-}
-
-} // namespace
-
-SelectionEditor::SelectionEditor(QWidget& form, Ui::frmLayerStyles& ui, EditorParts& parts)
-    : m_form(form), m_ui(ui), m_parts(parts)
+SelectionEditor::SelectionEditor(QWidget& form, const Parts& parts) : m_form(form), m_parts(parts)
 {
     const auto markModified = [this] { SetModified(true); };
     connect(&parts.panel, &PropertyPanel::Edited, this, markModified);
@@ -48,26 +34,28 @@ SelectionEditor::SelectionEditor(QWidget& form, Ui::frmLayerStyles& ui, EditorPa
 void SelectionEditor::SetModified(bool modified)
 {
     m_modified = modified;
-    const bool losesFocus = !modified && (m_ui.cmdApply->hasFocus() || m_ui.cmdCancel->hasFocus());
-    m_ui.cmdApply->setEnabled(modified);
-    m_ui.cmdCancel->setEnabled(modified);
-    if (losesFocus)
-        m_ui.stkLists->currentWidget()->setFocus();
+    emit ModifiedChanged(modified);
 }
 
 void SelectionEditor::Load()
 {
+    Selection selection;
     try {
-        Cancel();
+        selection = Read(m_parts.trees.CurrentNode());
     } catch (...) {
         ShowNothing();
         throw;
     }
+    ShowOrNothing(selection);
 }
 
 void SelectionEditor::Cancel()
 {
-    const Selection selection = Read(m_parts.trees.CurrentNode());
+    ShowOrNothing(Read(m_parts.trees.CurrentNode()));
+}
+
+void SelectionEditor::ShowOrNothing(const Selection& selection)
+{
     try {
         Show(selection);
     } catch (...) {
@@ -104,18 +92,18 @@ void SelectionEditor::Show(const Selection& selection)
     m_parts.quickModes.ShowMode(node ? node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
     m_parts.commands.Show(node, m_record, selection.isSystemLayer);
-    ShowCover();
+    emit Shown(node.has_value());
     SetModified(false);
 }
 
-void SelectionEditor::ShowCover() const
+PanelEdits SelectionEditor::ReadEdits() const
 {
-    if (m_tab == ListTab::Schemes)
-        m_parts.layout.ShowCover(EditorLayout::Cover::Schemes);
-    else if (!m_current)
-        m_parts.layout.ShowCover(EditorLayout::Cover::NothingSelected);
-    else
-        m_parts.layout.ShowCover(EditorLayout::Cover::None);
+    PanelEdits edits;
+    edits.quickMode = m_parts.quickModes.ReadMode();
+    edits.codeText = m_parts.commands.CodeText();
+    edits.selectedStyle = m_parts.selectedStyle;
+    m_parts.panel.ReadPanelStyle(edits.style);
+    return edits;
 }
 
 bool SelectionEditor::HoldsCurrentNode() const
@@ -139,7 +127,7 @@ bool SelectionEditor::Write(const NodeReference& node)
     m_modified = false;
     try {
         const BusyPointer busy;
-        return ApplyCommand(m_parts.trees).Run(node, ReadEdits(m_parts)) == ApplyCommand::Outcome::Applied;
+        return ApplyEdits(m_parts.trees, node, ReadEdits()) == ApplyOutcome::Applied;
     } catch (...) {
         m_modified = true;
         throw;
@@ -151,8 +139,16 @@ bool SelectionEditor::ConfirmPendingChanges()
     if (!m_modified || !HoldsCurrentNode())
         return true;
     const QPointer<SelectionEditor> self(this);
-    const PendingChangesPrompt prompt([this] { Apply(); }, [this] { Cancel(); });
-    prompt.Ask(&m_form, m_current->isGroup, m_parts.trees.CurrentText());
+    switch (AskToApply(&m_form, m_current->isGroup, m_parts.trees.CurrentText())) {
+    case PendingChangesAnswer::Yes:
+        Apply();
+        break;
+    case PendingChangesAnswer::No:
+        break;
+    case PendingChangesAnswer::Cancel:
+        Cancel();
+        break;
+    }
     return self;
 }
 

@@ -4,6 +4,7 @@
 #include "component/dialog/trees/ListTab.h"
 #include "component/dialog/trees/NodeKey.h"
 #include "component/model/LayerStyle.h"
+#include "component/model/LayerStyleApplying.h"
 
 #include <QObject>
 
@@ -13,11 +14,11 @@ class QWidget;
 
 namespace Orvane {
 
-namespace Ui {
-class frmLayerStyles;
-}
-
-class EditorParts;
+class LayerCommands;
+class LayerTrees;
+class PropertyPanel;
+class QuickModeToolbar;
+struct PanelEdits;
 
 /// What the dialog edits: the current node, the selection record, and whether the controls hold edits that
 /// are not applied yet.
@@ -30,8 +31,17 @@ class SelectionEditor : public QObject
     Q_OBJECT
 
 public:
-    /// None is owned; all outlive this object.
-    SelectionEditor(QWidget& form, Ui::frmLayerStyles& ui, EditorParts& parts);
+    /// What shows the current node, and where it comes from.
+    struct Parts {
+        LayerTrees& trees;
+        PropertyPanel& panel;
+        QuickModeToolbar& quickModes;
+        LayerCommands& commands;
+        SelectedRendererStyle selectedStyle; ///< that the panel shows
+    };
+
+    /// None is owned; all outlive this object. form: owner of message boxes.
+    SelectionEditor(QWidget& form, const Parts& parts);
 
     /// True while the controls hold edits.
     bool IsModified() const { return m_modified; }
@@ -43,8 +53,7 @@ public:
 
     /// Shows the dialog's current node. When it cannot be read nothing is shown, not another node's values.
     void Load();
-    /// Reads the current node anew, which drops all edits; they stay when it cannot be read. What was read
-    /// but cannot be shown shows nothing.
+    /// As Load, but when the node cannot be read, the edits stay.
     void Cancel();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
@@ -57,6 +66,12 @@ public:
     /// may end it while the question waits.
     bool ConfirmPendingChanges();
 
+signals:
+    /// The controls came to hold edits, or hold none any longer.
+    void ModifiedChanged(bool modified);
+    /// Another node is shown, or none.
+    void Shown(bool isNode);
+
 private:
     struct Selection {
         std::optional<NodeReference> node;
@@ -66,14 +81,14 @@ private:
 
     static Selection Read(const std::optional<NodeReference>& node);
     void Show(const Selection& selection);
-    void ShowCover() const;
+    void ShowOrNothing(const Selection& selection);
+    PanelEdits ReadEdits() const;
     /// Edits go to the node that they were made for, or nowhere.
     bool HoldsCurrentNode() const;
     bool Write(const NodeReference& node);
 
     QWidget& m_form;
-    Ui::frmLayerStyles& m_ui;
-    EditorParts& m_parts;
+    Parts m_parts;
     LayerStyle m_record;
     std::optional<NodeReference> m_current; // as it was when the record was read
     ListTab m_tab = ListTab::Groups;

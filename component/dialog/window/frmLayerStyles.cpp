@@ -36,7 +36,11 @@ frmLayerStyles::frmLayerStyles(QWidget* parent)
     for (const char* tab : {QT_TR_NOOP("Groups"), QT_TR_NOOP("Layers"), QT_TR_NOOP("Schemes")})
         m_ui->tsLists->addTab(QString::fromLatin1(tab));
     m_parts = std::make_unique<EditorParts>(*this, *m_ui);
-    m_selection = std::make_unique<SelectionEditor>(*this, *m_ui, *m_parts);
+    m_selection = std::make_unique<SelectionEditor>(
+        *this,
+        SelectionEditor::Parts{
+            m_parts->trees, m_parts->panel, m_parts->quickModes, m_parts->commands,
+            [this] { return m_parts->RendererStyles().SelectedStyle(); }});
     m_parts->layout.TakeDesignedSize();
     Wire();
     WireCommands();
@@ -59,6 +63,8 @@ void frmLayerStyles::Wire()
     });
     m_parts->trees.SetPendingChangesQuestion(
         [this] { m_selection->ConfirmPendingChanges(); }, [this] { return m_selection->IsModified(); });
+    connect(m_selection.get(), &SelectionEditor::ModifiedChanged, this, &frmLayerStyles::EnableButtons);
+    connect(m_selection.get(), &SelectionEditor::Shown, this, &frmLayerStyles::ShowCover);
     // Not guarded: whoever chose the node is, and a host's own call hears of the error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
 }
@@ -89,7 +95,6 @@ void frmLayerStyles::Initialise()
 {
     m_parts->layout.SetExpanded(true);
     m_styleCommandPrefix = Client().StyleCommandPrefix();
-    m_selection->ShowNothing();
     m_parts->quickModes.SetAllowed(Client().QuickModesAllowed());
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
@@ -280,6 +285,22 @@ void frmLayerStyles::ShowTab(ListTab tab)
 }
 
 // ---- the selection
+
+void frmLayerStyles::EnableButtons(bool modified)
+{
+    const bool losesFocus = !modified && (m_ui->cmdApply->hasFocus() || m_ui->cmdCancel->hasFocus());
+    m_ui->cmdApply->setEnabled(modified);
+    m_ui->cmdCancel->setEnabled(modified);
+    if (losesFocus)
+        m_ui->stkLists->currentWidget()->setFocus();
+}
+
+void frmLayerStyles::ShowCover(bool isNode)
+{
+    using Cover = EditorLayout::Cover;
+    const Cover cover = isNode ? Cover::None : Cover::NothingSelected;
+    m_parts->layout.ShowCover(m_tab == ListTab::Schemes ? Cover::Schemes : cover);
+}
 
 void frmLayerStyles::LoadList()
 {

@@ -79,6 +79,8 @@ private:
     void SelectTab(ListTab tab);
     void ShowTab(ListTab tab);
 
+    void EnableButtons(bool modified);
+    void ShowCover(bool isNode);
     void LoadList();
     void OnDeleteAsked(qint32 layerID);
     void OnSchemeLoaded();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/window/ApplyCommand.h"
+#include "component/dialog/window/ApplyEdits.h"
 
 #include "component/common/Component.h"
 #include "component/dialog/EditorFixture.h"
@@ -143,8 +143,8 @@ TEST_F(Applying, AModeThatCannotBeShownIsReportedAndNotStored)
     LayerTrees trees(&groups, &layers);
     trees.LoadGroups();
     const NodeReference group{.isGroup = true, .groupID = 10, .image = 1};
-    const auto outcome = ApplyCommand(trees).Run(group, PanelEdits());
-    EXPECT_EQ(outcome, ApplyCommand::Outcome::UnexpectedMode);
+    const auto outcome = ApplyEdits(trees, group, PanelEdits());
+    EXPECT_EQ(outcome, ApplyOutcome::UnexpectedMode);
     EXPECT_EQ(Stored(1, "OverrideMode"), 0);
     EXPECT_EQ(Stored(2, "OverrideMode"), 1);
 }
