@@ -66,18 +66,16 @@ MainWindow::MainWindow(CallTrace* trace)
     m_status = new MapStatus(*statusBar(), Canvas());
     m_hint = std::make_unique<EmptyMapHint>(Canvas());
     m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
-    m_data = std::make_unique<DataActions>(
-        *m_ui->menuFile, m_ui->actOpenData, *this, [this]() -> MapSession& { return *m_session; });
+    m_data = std::make_unique<DataActions>(*m_ui->menuFile, m_ui->actOpenData, *this);
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
     m_sharing = std::make_unique<MapSharing>(*this, [this] { return ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     ConnectActions();
-    auto* output = new OutputActions(*this, Canvas(), [this]() -> MapDocument& { return Document(); });
-    output->AddTo(*m_ui->menuFile, m_ui->actQuit);
-    m_renderingActions = std::make_unique<RenderingActions>(
-        *this, *m_ui->menuLayers, [this]() -> MapSession& { return *m_session; });
+    m_output = new OutputActions(*this, Canvas());
+    m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
+    m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
     WindowPlace::Restore(*this);
     Use(MapDocument::Untitled());
 }
@@ -116,7 +114,7 @@ void MainWindow::AddData(const QStringList& paths)
         });
         if (first)
             m_session->BeginSchemes();
-        ReadMap(first ? Zoom::ToAll : Zoom::Stays);
+        ReadMap(first ? MapSession::View::All : MapSession::View::Stays);
         if (m_session->HasUnreadLayers()) // the person cancelled
             m_session->Shell().History().Undo();
     });
@@ -242,19 +240,15 @@ void MainWindow::ShowAbout()
 void MainWindow::Use(std::unique_ptr<MapDocument> document)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
-    m_layerControl.SetClient(&session->Client());
+    m_layerControl.Use(*session); // it lets go of the client of the session that ends
     m_session = std::move(session);
-    m_edits->Follow(m_session->Shell().History());
-    m_data->Follow(*m_session);
-    m_tools->Use(*m_session);
-    m_schemes->Use(*m_session);
-    m_themes->Use(*m_session);
-    m_sharing->Follow(Document());
+    const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
+    handOver(*m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
         path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
-    ReadMap(Zoom::ToAll);
+    ReadMap(MapSession::View::All);
 }
 
 bool MainWindow::LeaveMap()
@@ -283,19 +277,18 @@ void MainWindow::LetGoOf(const QString& path)
 
 bool MainWindow::ShowMapAgain()
 {
-    const Zoom zoom = Canvas().Layers().empty() ? Zoom::ToAll : Zoom::Stays;
-    const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(zoom); });
+    using View = MapSession::View;
+    const View view = Canvas().Layers().empty() ? View::All : View::Stays;
+    const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(view); });
     if (shown)
         statusBar()->showMessage(
             tr("The map was changed in another window and is shown as it is now."), ShortMessageTime);
     return shown;
 }
 
-void MainWindow::ReadMap(Zoom zoom)
+void MainWindow::ReadMap(MapSession::View view)
 {
-    const QString problems = m_session->ReadAndShow();
-    if (zoom == Zoom::ToAll)
-        Canvas().ZoomToAll();
+    const QString problems = m_session->ReadAndShow(view);
     m_tools->SetSystem(Document().System());
     m_status->SetSystem(Document().System());
     m_data->ShowProblems(problems);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/actions/LayerControl.h"
+#include "shell/map/MapSession.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -20,9 +21,9 @@ class EditActions;
 class EmptyMapHint;
 class MapCanvas;
 class MapDocument;
-class MapSession;
 class MapSharing;
 class MapStatus;
+class OutputActions;
 class RenderingActions;
 class RecentMapsMenu;
 class ToolActions;
@@ -63,8 +64,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    enum class Zoom { Stays, ToAll };
-
     void ConnectActions();
     void SetIcons();
     void NewMap();
@@ -78,7 +77,7 @@ private:
     void LetGoOf(const QString& path);
     bool ShowMapAgain();
     bool KeepUntitledMap();
-    void ReadMap(Zoom zoom);
+    void ReadMap(MapSession::View view);
     QString AskForMapFileToWrite(const QString& title);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
@@ -93,7 +92,8 @@ private:
     std::unique_ptr<DataActions> m_data;
     std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
-    std::unique_ptr<RenderingActions> m_renderingActions;
+    std::unique_ptr<RenderingActions> m_renderings;
+    OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };
 

@@ -37,6 +37,17 @@ QPointF ArrowDirection(int key)
     }
 }
 
+// Of all features, or of the picture under them when there are none.
+Box BoundsOf(const std::vector<MapLayer>& layers, const RasterBackdrop* backdrop)
+{
+    Box bounds;
+    for (const MapLayer& layer : layers) {
+        if (layer.features)
+            bounds.Add(layer.features->Bounds());
+    }
+    return bounds.IsEmpty() && backdrop ? backdrop->Extent() : bounds;
+}
+
 } // namespace
 
 MapCanvas::MapCanvas(QWidget* parent) : QWidget(parent)
@@ -56,6 +67,19 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
     m_metresPerUnit = metresPerUnit;
     m_picture.SetLayers(std::move(layers));
     emit LayersChanged();
+    update();
+}
+
+void MapCanvas::ShowAll(
+    std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit)
+{
+    m_metresPerUnit = metresPerUnit;
+    m_view = MapView::Fitting(BoundsOf(layers, backdrop.get()), size());
+    m_drawSoon.stop();
+    m_picture.Show(
+        std::move(layers), std::move(backdrop), m_view, DenominatorOf(m_view), devicePixelRatioF());
+    emit LayersChanged();
+    emit ViewChanged();
     update();
 }
 
@@ -81,14 +105,7 @@ double MapCanvas::ScaleDenominator() const
 
 void MapCanvas::ZoomToAll()
 {
-    Box bounds;
-    for (const MapLayer& layer : m_picture.Layers()) {
-        if (layer.features)
-            bounds.Add(layer.features->Bounds());
-    }
-    if (bounds.IsEmpty() && m_picture.Backdrop())
-        bounds = m_picture.Backdrop()->Extent();
-    SetView(MapView::Fitting(bounds, size()));
+    SetView(MapView::Fitting(BoundsOf(m_picture.Layers(), m_picture.Backdrop().get()), size()));
 }
 
 void MapCanvas::ZoomIn()

@@ -27,6 +27,9 @@ public:
 
     /// Draws these layers from now on; the view stays. metresPerUnit: length of a map unit, for the scale.
     void SetLayers(std::vector<MapLayer> layers, double metresPerUnit);
+    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is seen.
+    void ShowAll(
+        std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit);
     /// The layers as they were set.
     const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
 

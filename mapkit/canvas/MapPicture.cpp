@@ -56,12 +56,7 @@ MapPicture::~MapPicture()
 
 void MapPicture::SetLayers(std::vector<MapLayer> layers)
 {
-    const QSet<qint32> changed = ChangedLayers(m_layers, layers);
-    std::erase_if(m_images, [&](const auto& entry) {
-        const std::vector<qint32>& key = entry.first;
-        return std::any_of(key.begin(), key.end(), [&](qint32 layerID) { return changed.contains(layerID); });
-    });
-    m_layers = std::move(layers);
+    TakeLayers(std::move(layers));
     Refresh();
 }
 
@@ -69,9 +64,7 @@ void MapPicture::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
 {
     if (backdrop == m_backdrop)
         return;
-    m_backdrop = std::move(backdrop);
-    m_backdropImage = {};
-    m_backdropDrawn = false;
+    TakeBackdropSource(std::move(backdrop));
     Refresh();
 }
 
@@ -79,12 +72,46 @@ void MapPicture::SetView(const MapView& view, double scaleDenominator, double de
 {
     if (view == m_view && devicePixelRatio == m_devicePixelRatio && !m_image.isNull())
         return;
+    TakeView(view, scaleDenominator, devicePixelRatio);
+    Refresh();
+}
+
+void MapPicture::Show(
+    std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
+    double scaleDenominator, double devicePixelRatio)
+{
+    TakeLayers(std::move(layers));
+    TakeBackdropSource(std::move(backdrop));
+    TakeView(view, scaleDenominator, devicePixelRatio);
+    Refresh();
+}
+
+void MapPicture::TakeLayers(std::vector<MapLayer> layers)
+{
+    const QSet<qint32> changed = ChangedLayers(m_layers, layers);
+    std::erase_if(m_images, [&](const auto& entry) {
+        const std::vector<qint32>& key = entry.first;
+        return std::any_of(key.begin(), key.end(), [&](qint32 layerID) { return changed.contains(layerID); });
+    });
+    m_layers = std::move(layers);
+}
+
+void MapPicture::TakeBackdropSource(std::shared_ptr<const RasterBackdrop> backdrop)
+{
+    if (backdrop == m_backdrop)
+        return;
+    m_backdrop = std::move(backdrop);
+    m_backdropImage = {};
+    m_backdropDrawn = false;
+}
+
+void MapPicture::TakeView(const MapView& view, double scaleDenominator, double devicePixelRatio)
+{
     m_view = view;
     m_scaleDenominator = scaleDenominator;
     m_devicePixelRatio = devicePixelRatio;
     m_images.clear();
     m_backdropDrawn = false;
-    Refresh();
 }
 
 void MapPicture::Refresh()

@@ -40,6 +40,10 @@ public:
     void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
     /// Shows another part of the map. Drawing of the part before is cancelled.
     void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
+    /// All three at once, which draws once.
+    void Show(
+        std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
+        double scaleDenominator, double devicePixelRatio);
 
     const std::vector<MapLayer>& Layers() const { return m_layers; }
     const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
@@ -61,6 +65,9 @@ signals:
 private:
     using Images = std::map<std::vector<qint32>, SheetImage>;
 
+    void TakeLayers(std::vector<MapLayer> layers);
+    void TakeBackdropSource(std::shared_ptr<const RasterBackdrop> backdrop);
+    void TakeView(const MapView& view, double scaleDenominator, double devicePixelRatio);
     void Refresh();
     void Start(const Sheet& sheet);
     void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);

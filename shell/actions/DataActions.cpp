@@ -16,9 +16,7 @@
 
 namespace Orvane {
 
-DataActions::DataActions(
-    QMenu& menu, const QAction* behind, QWidget& window, std::function<MapSession&()> session)
-    : m_window(window), m_session(std::move(session))
+DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : m_window(window)
 {
     const QList<QAction*> commands = menu.actions();
     QAction* before = commands.value(commands.indexOf(behind) + 1);
@@ -49,7 +47,7 @@ void DataActions::ShowProblems(const QString& problems)
     box.setObjectName(QStringLiteral("dlgProblems"));
     box.setTextFormat(Qt::PlainText);
     QPushButton* find = nullptr;
-    if (!MissingSources(m_session().Document()).empty())
+    if (!MissingSources(m_session->Document()).empty())
         find = box.addButton(tr("&Find Missing Data..."), QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
@@ -58,8 +56,9 @@ void DataActions::ShowProblems(const QString& problems)
         FindData();
 }
 
-void DataActions::Follow(const MapSession& session)
+void DataActions::Use(MapSession& session)
 {
+    m_session = &session;
     // Queued: saving the map under another name ends the session that tells it.
     connect(
         &session, &MapSession::DataFailed, this,
@@ -72,7 +71,7 @@ void DataActions::Follow(const MapSession& session)
 
 void DataActions::TellMapIsGone()
 {
-    const QString name = QFileInfo(m_session().Document().Path()).fileName();
+    const QString name = QFileInfo(m_session->Document().Path()).fileName();
     QMessageBox box(
         QMessageBox::Warning, tr("Map file"),
         tr("The map file \"%1\" was moved or deleted. What you change is kept only when you save the map "
@@ -98,13 +97,13 @@ DataActions::Add(QMenu& menu, QAction* before, const char* name, const QString& 
 
 void DataActions::ShowWhatIsPossible()
 {
-    m_find->setEnabled(!MissingSources(m_session().Document()).empty());
-    m_noBackdrop->setEnabled(!m_session().Document().Backdrop().isEmpty());
+    m_find->setEnabled(!MissingSources(m_session->Document()).empty());
+    m_noBackdrop->setEnabled(!m_session->Document().Backdrop().isEmpty());
 }
 
 void DataActions::FindData()
 {
-    MapDocument& document = m_session().Document();
+    MapDocument& document = m_session->Document();
     const std::vector<LayerSource> missing = MissingSources(document);
     const QString folder = QFileDialog::getExistingDirectory(
         &m_window, tr("Find Missing Data"), QFileInfo(document.Path()).path());
@@ -132,19 +131,19 @@ void DataActions::AskForBackdrop()
            ";;All files (*)"));
     if (path.isEmpty())
         return;
-    m_session().SetBackdrop(path);
+    m_session->SetBackdrop(path);
     emit DataChanged();
 }
 
 void DataActions::RemoveBackdrop()
 {
-    m_session().SetBackdrop({});
+    m_session->SetBackdrop({});
     emit DataChanged();
 }
 
 void DataActions::Reload()
 {
-    const QString problems = m_session().ReadAndShow();
+    const QString problems = m_session->ReadAndShow();
     emit DataChanged();
     ShowProblems(problems);
 }

@@ -4,8 +4,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 class QAction;
 class QMenu;
 class QWidget;
@@ -20,15 +18,15 @@ class DataActions : public QObject
 {
     Q_OBJECT
 public:
-    /// Adds the commands to the menu, behind that one. The window outlives this object. session: the
-    /// map that is shown.
-    DataActions(QMenu& menu, const QAction* behind, QWidget& window, std::function<MapSession&()> session);
+    /// Adds the commands to the menu, behind that one. The window outlives this object.
+    DataActions(QMenu& menu, const QAction* behind, QWidget& window);
+
+    /// The map whose data are meant from now on, and whose files are looked after; not owned.
+    void Use(MapSession& session);
 
     /// Shows the problems in one message, which offers to look for data that are missing; nothing when there
     /// are none.
     void ShowProblems(const QString& problems);
-    /// Tells the person what happens to this map's files from now on.
-    void Follow(const MapSession& session);
 
 signals:
     /// The map shows other data than before.
@@ -46,7 +44,7 @@ private:
     void Reload();
 
     QWidget& m_window;
-    std::function<MapSession&()> m_session;
+    MapSession* m_session = nullptr;
     QAction* m_find; // all three owned by this object
     QAction* m_backdrop;
     QAction* m_noBackdrop;

@@ -3,6 +3,7 @@
 
 #include "hostkit/undo/UndoHistory.h"
 #include "mapkit/common/Guard.h"
+#include "shell/map/MapSession.h"
 
 #include <QAction>
 #include <QApplication>
@@ -44,7 +45,12 @@ void EditActions::SetUp(QAction& action, void (UndoHistory::*command)())
     connect(&action, &QAction::triggered, this, [this, command] { Run(command); });
 }
 
-void EditActions::Follow(UndoHistory& history)
+void EditActions::Use(MapSession& session)
+{
+    Use(session.Shell().History());
+}
+
+void EditActions::Use(UndoHistory& history)
 {
     if (m_history)
         m_history->disconnect(this);

@@ -9,6 +9,7 @@ class QWidget;
 
 namespace Orvane {
 
+class MapSession;
 class UndoHistory;
 
 /// The Edit menu's commands: they undo and redo what the person did to the map that is open, and say what
@@ -25,8 +26,10 @@ public:
     /// None is owned; all outlive this object. Errors are shown over the window.
     EditActions(const Actions& actions, QWidget& window);
 
-    /// From now on the commands belong to this history; not owned, and may end before this object.
-    void Follow(UndoHistory& history);
+    /// The map that the commands belong to from now on; not owned, and may end before this object.
+    void Use(MapSession& session);
+    /// As Use, for a history alone.
+    void Use(UndoHistory& history);
 
 private:
     void SetUp(QAction& action, void (UndoHistory::*command)());

@@ -4,6 +4,7 @@
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/tracing/TracingLibrary.h"
 #include "shell/actions/PseudoFilter.h"
+#include "shell/map/MapSession.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
@@ -28,8 +29,9 @@ LayerControl::LayerControl(CallTrace* trace) : m_trace(trace)
 
 LayerControl::~LayerControl() = default;
 
-void LayerControl::SetClient(IStyleEditorClient* client)
+void LayerControl::Use(MapSession& session)
 {
+    IStyleEditorClient* client = &session.Client();
     m_client = client;
     m_initialisedWith = nullptr;
     m_entries.clear();

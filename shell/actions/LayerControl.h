@@ -10,6 +10,7 @@
 namespace Orvane {
 
 class CallTrace;
+class MapSession;
 class IStyleEditor;
 class IStyleEditorClient;
 class IStyleEditorLibrary;
@@ -31,8 +32,8 @@ public:
     LayerControl(const LayerControl&) = delete;
     LayerControl& operator=(const LayerControl&) = delete;
 
-    /// The client that the next editor works with; not owned. Only while no editor is open.
-    void SetClient(IStyleEditorClient* client);
+    /// The map whose client the next editor works with; not owned. Only while no editor is open.
+    void Use(MapSession& session);
 
     /// Opens the editor on all layers; does nothing when it is shown.
     void Show();

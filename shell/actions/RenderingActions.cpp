@@ -11,21 +11,20 @@
 
 namespace Orvane {
 
-RenderingActions::RenderingActions(QWidget& window, QMenu& menu, std::function<MapSession&()> session)
-    : m_window(window), m_session(std::move(session))
+RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(window)
 {
     QAction* action = menu.addAction(tr("Layer &Rendering..."));
     action->setObjectName(QStringLiteral("actLayerRendering"));
     action->setStatusTip(tr("Choose the attributes that label and colour the features of a layer"));
     connect(action, &QAction::triggered, this, [this] { Guard(&m_window, [this] { Ask(); }); });
     connect(&menu, &QMenu::aboutToShow, this, [this, action] {
-        Guard(&m_window, [&] { action->setEnabled(m_session().Document().HasLayers()); });
+        Guard(&m_window, [&] { action->setEnabled(m_session->Document().HasLayers()); });
     });
 }
 
 void RenderingActions::Ask()
 {
-    MapSession& session = m_session();
+    MapSession& session = *m_session;
     if (session.Layers().empty())
         return;
     RenderingDialog dialog(session.Document(), session.Layers(), &m_window);

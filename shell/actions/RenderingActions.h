@@ -17,15 +17,17 @@ class RenderingActions : public QObject
 {
     Q_OBJECT
 public:
-    /// window: the parent of the dialog. menu: gets the command at its end. session: the map that is open.
-    /// All outlive this object.
-    RenderingActions(QWidget& window, QMenu& menu, std::function<MapSession&()> session);
+    /// window: the parent of the dialog. menu: gets the command at its end. Both outlive this object.
+    RenderingActions(QWidget& window, QMenu& menu);
+
+    /// The map whose layers are meant from now on; not owned.
+    void Use(MapSession& session) { m_session = &session; }
 
 private:
     void Ask();
 
     QWidget& m_window;
-    const std::function<MapSession&()> m_session;
+    MapSession* m_session = nullptr;
 };
 
 } // namespace Orvane

@@ -70,7 +70,7 @@ void MapSession::BeginSchemes()
     schemes.Save(schemes.Current());
 }
 
-QString MapSession::ReadAndShow()
+QString MapSession::ReadAndShow(View view)
 {
     m_client.InvalidateLayerNames();
     m_layers.DropFeaturesOfOtherData();
@@ -83,9 +83,15 @@ QString MapSession::ReadAndShow()
             contents = ReadSources(sources, system, progress);
         });
     m_layers.TakeFeatures(contents);
-    Show();
+    const OpenedBackdrop backdrop = OpenBackdrop();
+    if (view == View::All) {
+        ShowAll(backdrop.picture);
+    } else {
+        m_canvas.SetBackdrop(backdrop.picture);
+        Show();
+    }
     emit LayersRead();
-    QStringList problems = {contents.FailureText(), OpenBackdrop()};
+    QStringList problems = {contents.FailureText(), backdrop.problem};
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
 }
@@ -98,22 +104,17 @@ bool MapSession::HasUnreadLayers() const
     });
 }
 
-// Why it cannot be shown; empty when it is, or there is none.
-QString MapSession::OpenBackdrop()
+MapSession::OpenedBackdrop MapSession::OpenBackdrop() const
 {
     const QString path = m_document->Backdrop();
-    std::shared_ptr<const RasterBackdrop> backdrop = m_canvas.Picture().Backdrop();
-    if (!backdrop || backdrop->Source().Path() != path)
-        backdrop.reset();
-    QString problem;
+    const std::shared_ptr<const RasterBackdrop> shown = m_canvas.Picture().Backdrop();
+    if (path.isEmpty() || (shown && shown->Source().Path() == path))
+        return {path.isEmpty() ? nullptr : shown, {}};
     try {
-        if (!path.isEmpty() && !backdrop)
-            backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+        return {std::make_shared<const RasterBackdrop>(path, m_document->System()), {}};
     } catch (const RunTimeError& error) {
-        problem = error.Description();
+        return {nullptr, error.Description()};
     }
-    m_canvas.SetBackdrop(backdrop);
-    return problem;
 }
 
 void MapSession::SetBackdrop(const QString& path)
@@ -134,11 +135,10 @@ void MapSession::SetBackdrop(const QString& path)
     }
     m_document->SetBackdrop(path);
     transaction.Commit();
-    m_canvas.SetBackdrop(backdrop);
-    if (backdrop && first) {
-        Show();
-        m_canvas.ZoomToAll();
-    }
+    if (backdrop && first)
+        ShowAll(backdrop);
+    else
+        m_canvas.SetBackdrop(backdrop);
 }
 
 void MapSession::TakeFeatures(const SourceContents& contents)
@@ -195,6 +195,17 @@ void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
 void MapSession::Show()
 {
     m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
+    FollowLayers();
+}
+
+void MapSession::ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop)
+{
+    m_canvas.ShowAll(m_layers.All(), backdrop, MetresPerUnit(m_document->System()));
+    FollowLayers();
+}
+
+void MapSession::FollowLayers()
+{
     MarkNames();
     m_attributes.Load(m_layers.MissingAttributes());
 }

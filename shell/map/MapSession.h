@@ -19,6 +19,7 @@ namespace Orvane {
 class MapCanvas;
 class MapDocument;
 class CallTrace;
+class RasterBackdrop;
 
 /// One open map: its file, its layers, its client for the component, and the canvas that shows it. What the
 /// component changes is drawn at once; data files that come back or change are shown anew; and the layer
@@ -45,9 +46,12 @@ public:
     /// ReadAndShow.
     void BeginSchemes();
 
+    /// What of the map is shown after reading.
+    enum class View { Stays, All };
+
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database.
-    QString ReadAndShow();
+    QString ReadAndShow(View view = View::Stays);
     /// True when reading was cancelled before it came to each layer.
     bool HasUnreadLayers() const;
     /// Reads these layers' rows anew and draws them.
@@ -70,8 +74,15 @@ signals:
 private:
     void Connect();
     void ReadNewLayer();
-    QString OpenBackdrop();
+    struct OpenedBackdrop {
+        std::shared_ptr<const RasterBackdrop> picture; ///< nullptr for none
+        QString problem; ///< why it cannot be shown
+    };
+
+    OpenedBackdrop OpenBackdrop() const;
     void Show();
+    void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);
+    void FollowLayers();
     void MarkNames();
 
     MapCanvas& m_canvas;

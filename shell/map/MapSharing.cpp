@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
+#include "shell/map/MapSession.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
@@ -49,10 +50,10 @@ bool MapSharing::MayOpen(const QString& path)
     return box.exec() == QMessageBox::Open;
 }
 
-void MapSharing::Follow(const MapDocument& document)
+void MapSharing::Use(MapSession& session)
 {
-    m_document = &document;
-    m_version = document.Database().ForeignChanges();
+    m_document = &session.Document();
+    m_version = m_document->Database().ForeignChanges();
 }
 
 void MapSharing::Look()

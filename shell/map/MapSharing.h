@@ -10,6 +10,7 @@ class QWidget;
 namespace Orvane {
 
 class MapDocument;
+class MapSession;
 
 /// A map file that several windows or programs have open. Each commits what it changes at once, so nothing is
 /// lost; this asks before a map is opened twice, and shows what others changed as soon as the person comes
@@ -28,7 +29,7 @@ public:
     bool MayOpen(const QString& path);
     /// Looks after this map from now on; not owned, lives as long as this object or until the next call.
     /// Raises errors of the database.
-    void Follow(const MapDocument& document);
+    void Use(MapSession& session);
 
 private:
     void Look();

@@ -5,6 +5,7 @@
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/output/PageWriter.h"
+#include "shell/map/MapSession.h"
 #include "shell/output/PageDialog.h"
 #include "shell/window/RunWithProgress.h"
 #include "store/ILayerStore.h"
@@ -50,8 +51,8 @@ QSize SizeOf(const QPrintPreviewDialog& preview)
 
 } // namespace
 
-OutputActions::OutputActions(QMainWindow& window, MapCanvas& canvas, CurrentDocument document)
-    : QObject(&window), m_window(window), m_canvas(canvas), m_document(std::move(document))
+OutputActions::OutputActions(QMainWindow& window, MapCanvas& canvas)
+    : QObject(&window), m_window(window), m_canvas(canvas)
 {
 }
 
@@ -116,7 +117,7 @@ QAction* OutputActions::NewAction(
 
 MapPage OutputActions::PageFor(const PageSettings& settings) const
 {
-    const MapDocument& document = m_document();
+    const MapDocument& document = m_session->Document();
     return {
         document.Database(),
         m_services,
@@ -126,7 +127,7 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
 
 QString OutputActions::MapName() const
 {
-    const QString path = m_document().Path();
+    const QString path = m_session->Document().Path();
     return path.isEmpty() ? tr("New map") : QFileInfo(path).completeBaseName();
 }
 
@@ -137,7 +138,8 @@ QString OutputActions::AskForFile() const
     const QSettings settings;
     const QString ending = settings.value(QLatin1String(FormatKey), QLatin1String(UsualFormat)).toString();
     const QString folder
-        = settings.value(QLatin1String(FolderKey), QFileInfo(m_document().Path()).absolutePath()).toString();
+        = settings.value(QLatin1String(FolderKey), QFileInfo(m_session->Document().Path()).absolutePath())
+              .toString();
     QFileDialog dialog(&m_window, tr("Export Map"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);

@@ -16,17 +16,18 @@ class QPrinter;
 namespace Orvane {
 
 class MapCanvas;
-class MapDocument;
+class MapSession;
 
 /// The commands that take a map away: Export Map and Print, each with its questions.
 class OutputActions : public QObject
 {
     Q_OBJECT
 public:
-    using CurrentDocument = std::function<MapDocument&()>;
+    /// Both outlive this object.
+    OutputActions(QMainWindow& window, MapCanvas& canvas);
 
-    /// Both outlive this object, which asks for the document whenever a command begins.
-    OutputActions(QMainWindow& window, MapCanvas& canvas, CurrentDocument document);
+    /// The map that is written from now on; not owned.
+    void Use(MapSession& session) { m_session = &session; }
 
     /// Adds the commands to the menu, before that action.
     void AddTo(QMenu& menu, QAction* before);
@@ -46,7 +47,7 @@ private:
 
     QMainWindow& m_window;
     MapCanvas& m_canvas;
-    CurrentDocument m_document;
+    MapSession* m_session = nullptr;
     StandardShellServices m_services;
 };
 

@@ -53,7 +53,7 @@ protected:
         m_undo = menu->addAction("Undo");
         m_redo = menu->addAction("Redo");
         m_actions = std::make_unique<EditActions>(EditActions::Actions{m_undo, m_redo}, m_window);
-        m_actions->Follow(*m_history);
+        m_actions->Use(*m_history);
         m_window.show();
     }
 
@@ -144,7 +144,7 @@ TEST_F(EditActionsTest, FollowAnotherHistory)
 {
     Do("a");
     UndoHistory other;
-    m_actions->Follow(other);
+    m_actions->Use(other);
     EXPECT_FALSE(m_undo->isEnabled());
     Do("b");
     EXPECT_FALSE(m_undo->isEnabled());

@@ -28,17 +28,20 @@ protected:
     {
         m_canvas.resize(200, 200);
         m_canvas.show();
-        auto document = MapDocument::Untitled();
-        Progress progress;
-        AddToMap(
-            *document,
-            LookInto({m_folder.WriteSquare("a.geojson"), m_folder.WriteSquare("b.geojson")}, progress));
-        document->Database().Execute("UPDATE Layers SET OutlineStyle = 15, FillForeColor = 255");
-        m_session = std::make_unique<MapSession>(std::move(document), m_canvas, m_canvas, nullptr);
+        m_session = SessionOf({m_folder.WriteSquare("a.geojson"), m_folder.WriteSquare("b.geojson")});
         EXPECT_EQ(m_session->ReadAndShow(), "");
         m_canvas.ZoomToAll();
         WaitForPicture();
         m_drawn = std::make_unique<QSignalSpy>(&m_canvas.Picture(), &MapPicture::LayerDrawn);
+    }
+
+    std::unique_ptr<MapSession> SessionOf(const QStringList& files)
+    {
+        auto document = MapDocument::Untitled();
+        Progress progress;
+        AddToMap(*document, LookInto(files, progress));
+        document->Database().Execute("UPDATE Layers SET OutlineStyle = 15, FillForeColor = 255");
+        return std::make_unique<MapSession>(std::move(document), m_canvas, m_canvas, nullptr);
     }
 
     void WaitForPicture()
@@ -171,6 +174,22 @@ TEST_F(MapSessionTest, EndingWhileAttributesAreReadIsHarmless)
 {
     Apply(2, "Style", RendererStyles::Labelled);
     m_session.reset();
+}
+
+TEST_F(MapSessionTest, AWholeMapIsDrawnOnce)
+{
+    m_session.reset();
+    m_canvas.SetLayers({}, 1);
+    WaitForPicture();
+    QSignalSpy drawn(&m_canvas.Picture(), &MapPicture::LayerDrawn);
+    QSignalSpy viewChanges(&m_canvas, &MapCanvas::ViewChanged);
+    m_session
+        = SessionOf({m_folder.WriteSquare("c.geojson", 40, 40), m_folder.WriteSquare("d.geojson", 40, 40)});
+    m_session->ReadAndShow(MapSession::View::All);
+    WaitForPicture();
+    EXPECT_EQ(drawn.size(), 2);
+    EXPECT_EQ(viewChanges.size(), 1);
+    EXPECT_NEAR(m_canvas.View().Centre().x(), 5009377, 1) << "45 degrees east, in metres";
 }
 
 } // namespace Orvane
