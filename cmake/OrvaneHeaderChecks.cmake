@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # The target header_checks compiles each header as a file of its own: what it names, it includes. Headers that are
-# installed see nothing else, as in a host's program; the others stand behind the precompiled headers of their room, which
+# installed see nothing but each other, as in a host's program; the others stand behind the precompiled headers of their room, which
 # takes a tenth of the time and hides at most a missing header of Qt, of the standard library or of GoogleTest.
 
 # orvane_header_check(<target> LIBRARIES ... HEADERS ...)
@@ -21,13 +21,17 @@ function(orvane_header_check target)
   set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
 endfunction()
 
-file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS
-  OrvaneShellLib/*.h messages/*.h store/*.h ovctrls/*.h samples/*.h hostkit/*.h)
-orvane_header_check(public_header_checks HEADERS ${headers}
-  LIBRARIES Orvane::HostKit Orvane::Controls Orvane::Samples SQLite::SQLite3)
+set(installed "${CMAKE_BINARY_DIR}/public_headers")
+foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
+  configure_file("${PROJECT_SOURCE_DIR}/${header}" "${installed}/${header}" COPYONLY)
+endforeach()
+orvane_header_check(public_header_checks HEADERS ${ORVANE_PUBLIC_HEADERS}
+  LIBRARIES Qt${QT_VERSION_MAJOR}::Widgets)
+set_target_properties(public_header_checks PROPERTIES INCLUDE_DIRECTORIES "${installed}")
 
-file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS
-  component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
+file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS OrvaneShellLib/*.h messages/*.h store/*.h
+  ovctrls/*.h samples/*.h hostkit/*.h component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
+list(REMOVE_ITEM headers ${ORVANE_PUBLIC_HEADERS})
 orvane_header_check(inner_header_checks HEADERS ${headers} LIBRARIES
   component_entry orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)
 target_precompile_headers(inner_header_checks REUSE_FROM orvane_widgets_test_headers)

@@ -13,6 +13,15 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 set(ORVANE_LANGUAGES de fr ja)
 
+# The page for host authors is the list.
+set(public_headers_page "${PROJECT_SOURCE_DIR}/docs/public_headers.md")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${public_headers_page}")
+file(STRINGS "${public_headers_page}" rows REGEX "^\\| `[A-Za-z/]+\\.h` ")
+foreach(row IN LISTS rows)
+  string(REGEX REPLACE "^\\| `([A-Za-z/]+\\.h)`.*" "\\1" header "${row}")
+  list(APPEND ORVANE_PUBLIC_HEADERS "${header}")
+endforeach()
+
 # So many sources are compiled as one where -DCMAKE_UNITY_BUILD=ON asks for it: for builds that nobody edits in.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 24)
 

@@ -30,6 +30,9 @@ for file in lib/orvane/libOrvaneLayerControlQt6.so lib/orvane/de/POBEX.LRT share
     include/orvane/OrvaneShellLib/IStyleEditorClient.h include/orvane/hostkit/StandardClient.h; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
+diff <(cd "$prefix/include/orvane" && find . -name '*.h' -printf '%P\n' | sort) \
+    <(sed -n 's/^| `\([A-Za-z/]*\.h\)`.*/\1/p' "$source/docs/public_headers.md" | sort) ||
+    fail "other headers are installed than docs/public_headers.md lists"
 ! grep -rlI "$source" "$prefix/lib" "$prefix/share" || fail "the source folder is named in what is installed"
 
 expect 0 "$orvane" --version
