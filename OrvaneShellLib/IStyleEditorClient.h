@@ -35,12 +35,12 @@ public:
     /// Initialise.
     IShellServices* GetShellServices() { return IStyleEditorClient_GetShellServices(); }
 
-    /// Shows the form as a window of the host's choosing and keeps it until EditorClosed. The component keeps
-    /// ownership of the form; the host may give it a parent.
+    /// Shows the form as a window and keeps a pointer to it until EditorClosed. The host chooses the kind of
+    /// window. The component keeps ownership of the form; the host may give it a parent.
     void ShowEditor(QWidget* form) { IStyleEditorClient_ShowEditor(form); }
 
-    /// The form is about to be hidden or unloaded: the host drops its pointer to it. May be called twice for
-    /// the same form.
+    /// The form is about to be hidden or destroyed: the host must stop using its pointer to it. May be called
+    /// twice for the same form.
     void EditorClosed(QWidget* form) { IStyleEditorClient_EditorClosed(form); }
 
     /// The text stored under the key, or an empty text. key: "DrawStyleEditor::" followed by the editor's ID.
@@ -49,8 +49,8 @@ public:
         return IStyleEditorClient_ReadSetting(form, key);
     }
 
-    /// Stores the text under the key, for the current user and beyond this run. May also be called after
-    /// EditorClosed.
+    /// Stores the text under the key, for the current user, so that it is still there in the next run. May
+    /// also be called after EditorClosed.
     void WriteSetting(QWidget* form, const QString& key, const QString& value)
     {
         IStyleEditorClient_WriteSetting(form, key, value);
@@ -96,7 +96,7 @@ public:
     /// The names of all layer schemes, in the order in which they are listed.
     QStringList GetSchemeNames() { return IStyleEditorClient_GetSchemeNames(); }
 
-    /// The name of the current scheme, one of GetSchemeNames; with any other name the editor cannot save,
+    /// The name of the current scheme, one of GetSchemeNames. With any other name the editor cannot save,
     /// revert or delete.
     QString GetCurrentScheme() { return IStyleEditorClient_GetCurrentScheme(); }
 

@@ -18,7 +18,7 @@ class IStyleFilter;
 ///
 /// All calls are made on the user-interface thread. Errors that the host's own members raise are passed on
 /// unchanged. AddNewLayer, Popup and Filter may ask the user about edits that were not applied, and the
-/// editor may be gone when they return.
+/// editor may have been destroyed when they return.
 class IStyleEditorForm
 {
 public:
@@ -29,8 +29,8 @@ public:
     /// The ID under which the editor was created.
     QString EditorID() const { return IStyleEditorForm_EditorID(); }
 
-    /// Reads one layer from the database and scrolls its node into view in the flat list; for layers that the
-    /// host created. Does nothing if the layer does not exist.
+    /// Reads one layer from the database and scrolls its node into view in the flat list. Call it for layers
+    /// that the host created. Does nothing if the layer does not exist.
     void AddNewLayer(qint32 layerID) { IStyleEditorForm_AddNewLayer(layerID); }
 
     /// Shows the dialog for a quick look, without restoring its view state.
@@ -53,8 +53,7 @@ public:
     /// Stores the filter and, once the dialog is initialised, reads the flat list again.
     void Filter(const IStyleFilter* filter) { IStyleEditorForm_Filter(filter); }
 
-    /// Closes the dialog and discards edits that were not applied, without asking. The editor is gone
-    /// afterwards.
+    /// Closes the dialog and discards edits that were not applied, without asking. The editor is destroyed.
     void UnloadWithoutApply() { IStyleEditorForm_UnloadWithoutApply(); }
 
     /// Calls IStyleEditorClient::LayerDisplayName for these layers again and shows the texts on all their

@@ -8,10 +8,10 @@
 /// The columns of the table Layers.
 namespace Orvane {
 
-/// What a column holds. A property may be NULL: then it is not known.
+/// What a column holds. A property may be NULL, which means that it is not known.
 enum class ColumnKind {
     Key, ///< a whole number of 32 bits, never NULL
-    Text, ///< sorted without case
+    Text, ///< sorted case-insensitively
     Flag, ///< written as a boolean, read as a boolean or as a number that is not 0 or is
     Whole, ///< a whole number of 32 bits
     Real,
@@ -24,13 +24,13 @@ enum class InSchemes { No, Yes };
 struct LayerColumn {
     const char* name;
     ColumnKind kind;
-    double defaultValue; ///< what a row has that was not given another value; texts are empty
+    double defaultValue; ///< used when a row gets no other value; texts are empty
     InSchemes inSchemes;
-    int since; ///< the version of layer databases that has it first
+    int since; ///< the first layer database version that has it
 };
 
-/// All columns in the order of the table. A new column is added at the end, with the next version: stores
-/// then add it to older tables, and schemes, scheme files and new layers have it too.
+/// All columns in the order of the table. Add a new column at the end, with the next version. Stores then add
+/// it to older tables, and schemes, scheme files and new layers have it too.
 inline constexpr std::array LayerColumns{
     LayerColumn{"LayerID", ColumnKind::Key, 0, InSchemes::No, 1},
     LayerColumn{"Name", ColumnKind::Text, 0, InSchemes::No, 1},
@@ -56,7 +56,8 @@ inline constexpr std::array LayerColumns{
     LayerColumn{"Pseudo", ColumnKind::Flag, 0, InSchemes::No, 1},
 };
 
-/// The position of a column in LayerColumns; LayerColumns.size() if there is none. Case counts.
+/// The position of a column in LayerColumns; LayerColumns.size() if there is none. Names are compared
+/// case-sensitively.
 constexpr std::size_t FindLayerColumn(std::string_view name)
 {
     std::size_t position = 0;

@@ -6,9 +6,9 @@
 /// The meaning of the numbers in a layer's columns that are not plain quantities.
 namespace Orvane {
 
-/// A colour that paints nothing. Colours are BGR integers, red in the low byte; any bit of the top byte makes
-/// a fill colour transparent, and this is the value that is written. In a line colour, the same byte means
-/// that symbols keep their own colours.
+/// A colour that paints nothing. Colours are BGR integers, red in the low byte; a fill colour is transparent
+/// if any bit of its top byte is set, and this is the value that is written. In a line colour, the same byte
+/// means that symbols keep their own colours.
 inline constexpr qint32 TransparentColour = qint32(0xFF000000u);
 
 /// The fill styles, 0 to LastFillStyle. All are patterns except these two.

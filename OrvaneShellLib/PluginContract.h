@@ -20,10 +20,10 @@ inline constexpr ContractVersion CurrentContract{1, 1};
 
 /// The names of the functions that the component exports with C linkage, and their types. The host calls them
 /// in this order. The caller owns the library object and deletes it before the plug-in is unloaded. The first
-/// two raise nothing; the third may raise only std::bad_alloc and never returns nullptr. The second exists
-/// since version 1.1 and returns the major version of the Qt that the component was built with: a host and a
-/// component with different Qt major versions refuse to work together. A component without it was built with
-/// Qt 6.
+/// two raise nothing; the third may raise only std::bad_alloc and never returns nullptr. The second has
+/// existed since version 1.1. It returns the major version of the Qt that the component was built with: a
+/// host and a component with different Qt major versions refuse to work together. A component without it was
+/// built with Qt 6.
 inline constexpr char ContractVersionSymbol[] = "OrvaneContractVersion";
 inline constexpr char QtMajorSymbol[] = "OrvaneQtMajor";
 inline constexpr char CreateLibrarySymbol[] = "OrvaneCreateStyleEditorLibrary";

@@ -32,7 +32,7 @@ enum class ErrorNumber {
 class Q_DECL_EXPORT RunTimeError : public std::exception
 {
 public:
-    /// description: for the user, translated if the code that raises it has a translator. source: who raised
+    /// description: for the user, translated if the code that raises it has a translator. source: what raised
     /// it, empty for "the component".
     RunTimeError(int number, const QString& description, const QString& source = {})
         : m_number(number), m_description(description), m_source(source), m_utf8(description.toUtf8())
@@ -48,7 +48,7 @@ public:
     int Number() const { return m_number; }
     /// The text for the user.
     const QString& Description() const { return m_description; }
-    /// Who raised it; empty for the component itself.
+    /// What raised it; empty for the component itself.
     const QString& Source() const { return m_source; }
 
     const char* what() const noexcept override { return m_utf8.constData(); }

@@ -58,7 +58,7 @@ template <typename Integer> Integer RoundedTo(double number)
     return static_cast<Integer>(rounded);
 }
 
-// In fixed notation DBL_MAX takes 309 digits, the smallest double about 1,080.
+// In fixed notation DBL_MAX takes 309 digits, the smallest double takes about 1,080.
 template <typename Number> QString PlainDecimal(Number number)
 {
     if (number == 0)

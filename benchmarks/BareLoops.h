@@ -12,8 +12,8 @@ struct sqlite3_stmt;
 
 namespace Orvane::Benchmarks {
 
-/// What the jobs cost with SQLite's C API alone: statements prepared before, values read and dropped. One
-/// object is one connection with one job's statements.
+/// The cost of the jobs with SQLite's C API alone: statements are prepared beforehand, values are read and
+/// dropped. One object is one connection with the statements of one job.
 class BareLoops
 {
 public:
@@ -31,7 +31,7 @@ public:
     /// Stores the seventeen columns of each layer of the group, layer by layer in one transaction.
     void WriteMembers(qint32 groupID, bool visible);
 
-    /// The sum of all that was read, so that no reading can be left out by the compiler.
+    /// The sum of all values read, so that the compiler cannot remove a read.
     qint64 Checksum() const { return m_checksum; }
 
 private:

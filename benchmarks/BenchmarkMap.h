@@ -6,15 +6,15 @@
 
 namespace Orvane::Benchmarks {
 
-/// The file of a map with that many layers, made at its first use and removed when the program ends. The same
-/// number gives the same map.
+/// The file of a map with this many layers. It is made at its first use and removed when the program ends.
+/// The same number gives the same map.
 ///
-/// Layers 1 to n stand in groups of 50, ID 1 onwards, in which every tenth layer is a backdrop. All share
-/// their properties except name and code, so that an apply writes every column. The larger groups are pseudo,
-/// so that they are not in the tree.
+/// Layers 1 to n are in groups of 50 with IDs from 1; every tenth layer is a backdrop. All layers share their
+/// properties except name and code, so that an apply writes every column. The larger groups are pseudo
+/// groups, so that they are not in the tree.
 QString BenchmarkMap(int layerCount);
 
-/// The group that holds the first so many layers; 50, 1,000 or all of the map.
+/// The group that holds this many of the first layers: 50, 1,000 or all of the map.
 qint32 GroupOf(int memberCount);
 
 } // namespace Orvane::Benchmarks

@@ -27,7 +27,7 @@ constexpr int pages = 50;
 constexpr int rowsOfAPage = 25;
 const QString editorID = QStringLiteral("Main");
 
-/// Opens each editor in the same state and keeps none.
+/// Opens each editor in the same view state and stores none.
 class FixedState : public ForwardingClient
 {
 public:
@@ -91,7 +91,7 @@ private:
     StyleEditorLib m_library;
 };
 
-/// The same on a copy of the map in which a pseudo group is an ordinary one, and so listed.
+/// The same on a copy of the map in which one pseudo group is an ordinary group, and so is listed.
 class GroupDesk
 {
 public:
@@ -106,7 +106,7 @@ public:
 
     ~GroupDesk() { m_desk.Close(); }
 
-    /// From one of its layers, as selecting what is selected does nothing.
+    /// Selects one of its layers first, since selecting the current node again does nothing.
     void Select()
     {
         auto& tree = m_desk.Find<QTreeView>("tvLayers1");
@@ -186,7 +186,7 @@ Run Scroll(const QString& path, const JobSize&)
     };
 }
 
-// As many lines of text, painted alone.
+// Paints the same number of text lines without a list.
 Run BareScroll(const QString&, const JobSize&)
 {
     return [image = QImage(400, 600, QImage::Format_ARGB32_Premultiplied)]() mutable {

@@ -12,7 +12,7 @@ namespace Orvane::Benchmarks {
 
 namespace {
 
-// What follows the first line that begins with key, blanks and colon left out.
+// The rest of the first line that begins with the key, without the blanks and the colon after the key.
 std::string LineOf(const char* file, const std::string& key)
 {
     std::ifstream stream(file);

@@ -5,13 +5,13 @@
 
 namespace Orvane::Benchmarks {
 
-/// Processor, cores and the versions of what was measured, one a line.
+/// Processor, cores and the versions of the measured software, one per line.
 std::string MachineDescription();
 
-/// Lets the peak memory count from now on, where the system can do that.
+/// Resets the peak memory count, where the system supports that.
 void ResetPeakMemory();
 
-/// The largest resident memory since the start or the last reset; 0 where the system does not tell.
+/// The largest resident memory since the start or the last reset; 0 where the system does not report it.
 double PeakMemoryInMegabytes();
 
 } // namespace Orvane::Benchmarks

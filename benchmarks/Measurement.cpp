@@ -31,7 +31,7 @@ void Measure(benchmark::State& state, const MakeRun& makeRun)
 {
     const JobSize size{int(state.range(0)), int(state.range(1))};
     const Run run = makeRun(BenchmarkMap(size.layers), size);
-    run(); // statements are prepared and pages cached in all levels alike
+    run(); // prepares statements and caches pages, equally at all levels
     ResetPeakMemory();
     for ([[maybe_unused]] auto _ : state)
         run();

@@ -12,10 +12,11 @@ namespace Orvane::Benchmarks {
 /// One size at which a job is measured.
 struct JobSize {
     int layers; ///< in the database, in groups of 50
-    int members; ///< of the group that is worked on; 0 for jobs on all layers
+    int members; ///< of the group that the job works on; 0 for jobs on all layers
 };
 
-/// What is measured at every level, from the bare loop to the dialog. Names are those of the report.
+/// The jobs that are measured at every level, from the bare loop to the dialog. The names are those in the
+/// report.
 enum class Job {
     OpenFlatList,
     OpenGroupedTree,

@@ -15,7 +15,7 @@ namespace Orvane::Benchmarks {
 
 namespace {
 
-/// A host as an application has it, on one map.
+/// A host like that of an application, on one map.
 struct Host {
     explicit Host(const QString& path) : database(SqliteLayerDatabase::Open(path)) { }
 

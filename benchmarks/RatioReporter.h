@@ -11,8 +11,8 @@ namespace Orvane::Benchmarks {
 
 /// Prints each run as it ends, and after the last one a table that compares each level with the bare loop.
 ///
-/// Times are processor time, the least of all repetitions: other programs on the machine slow both sides down
-/// unevenly, and the least time is the one they disturbed least.
+/// Times are processor times, the minimum of all repetitions: other programs on the machine slow down both
+/// sides unevenly, and they disturb the minimum least.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:

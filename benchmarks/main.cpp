@@ -8,7 +8,7 @@
 
 namespace {
 
-// Arguments of the command line come later and so win over these.
+// Arguments of the command line come later and so override these.
 std::vector<char*> WithDefaults(int argc, char** argv)
 {
     static char repetitions[] = "--benchmark_repetitions=5";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Headers that tests without widgets read; each file still includes what it uses.
+// Precompiled headers for tests without widgets; each file still includes what it uses.
 #pragma once
 
 #include "CorePch.h"

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# The target header_checks compiles each header as a file of its own: what it names, it includes. Headers that are
-# installed see nothing but each other, as in a host's program; the others stand behind the precompiled headers of their room, which
-# takes a tenth of the time and hides at most a missing header of Qt, of the standard library or of GoogleTest.
+# The target header_checks compiles each header alone, so that each header must include what it uses. Installed headers
+# can include only each other, as in a host's program. The others are compiled with a precompiled header, which takes a
+# tenth of the time and hides at most a missing header of Qt, of the standard library or of GoogleTest.
 
 # orvane_header_check(<target> LIBRARIES ... HEADERS ...)
 function(orvane_header_check target)
@@ -16,7 +16,7 @@ function(orvane_header_check target)
   add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
   target_link_libraries(${target} PRIVATE orvane_settings ${ARG_LIBRARIES})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
-  # Functions that a header offers and nobody here calls are no fault.
+  # Unused functions and constants of a header are no fault here.
   target_compile_options(${target} PRIVATE -Wno-unused-function -Wno-unused-const-variable)
   set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
 endfunction()

@@ -1,13 +1,14 @@
 # SPDX-License-Identifier: MIT
-# What "cmake --install" puts where. Nothing knows the prefix, so that what is installed can be moved: the program finds
-# its component and its texts, and a host author's find_package(Orvane) the libraries, from where they lie themselves.
+# The rules of "cmake --install". No installed file contains the prefix, so that the installation can be moved: the
+# program finds its component and its texts relative to its own folder, and find_package(Orvane) of a host author finds
+# the libraries in the same way.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# Private to the program, whatever the system calls its library folder.
+# Private to the program, so it does not depend on the name of the system's library folder.
 set(ORVANE_PLUGIN_DESTINATION lib/orvane)
 
-# For host authors: the contract, the host kit and what it stands on.
+# For host authors: the contract, the host kit and the libraries that it needs.
 set_target_properties(OrvaneShellLib PROPERTIES EXPORT_NAME ShellLib)
 set_target_properties(orvane_messages PROPERTIES EXPORT_NAME Messages)
 set_target_properties(orvane_store PROPERTIES EXPORT_NAME LayerStore)
@@ -28,14 +29,14 @@ write_basic_package_version_file("${CMAKE_BINARY_DIR}/OrvaneConfigVersion.cmake"
 install(FILES "${CMAKE_BINARY_DIR}/OrvaneConfig.cmake" "${CMAKE_BINARY_DIR}/OrvaneConfigVersion.cmake"
   DESTINATION "${config_folder}")
 
-# The component, its message files beside it.
+# The component, with its message files next to it.
 install(TARGETS OrvaneLayerControl LIBRARY DESTINATION "${ORVANE_PLUGIN_DESTINATION}")
 foreach(language IN LISTS ORVANE_LANGUAGES)
   install(FILES "${PROJECT_SOURCE_DIR}/translations/POBEX.${language}.ts"
     DESTINATION "${ORVANE_PLUGIN_DESTINATION}/${language}" RENAME POBEX.LRT)
 endforeach()
 
-# Orvane itself, and how a desktop knows it.
+# Orvane itself, and its files for the desktop.
 if(ORVANE_BUILD_SHELL)
   install(TARGETS orvane RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
   foreach(language IN LISTS ORVANE_LANGUAGES)

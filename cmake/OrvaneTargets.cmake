@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Settings and helper functions that every target of the house shares.
+# Settings and helper functions that all targets share.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -13,7 +13,7 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 set(ORVANE_LANGUAGES de fr ja)
 
-# The page for host authors is the list.
+# The page for host authors lists the public headers.
 set(public_headers_page "${PROJECT_SOURCE_DIR}/docs/public_headers.md")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${public_headers_page}")
 file(STRINGS "${public_headers_page}" rows REGEX "^\\| `[A-Za-z/]+\\.h` ")
@@ -22,7 +22,7 @@ foreach(row IN LISTS rows)
   list(APPEND ORVANE_PUBLIC_HEADERS "${header}")
 endforeach()
 
-# So many sources are compiled as one where -DCMAKE_UNITY_BUILD=ON asks for it: for builds that nobody edits in.
+# With -DCMAKE_UNITY_BUILD=ON this many sources are compiled as one, for builds whose sources do not change.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 24)
 
 find_program(ORVANE_CCACHE ccache)
@@ -30,7 +30,7 @@ if(ORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
 endif()
 
-# A linker that takes seconds less for each program, where there is one.
+# A linker that saves seconds for each program, if one is installed.
 find_program(ORVANE_LINKER NAMES mold ld.lld)
 if(ORVANE_LINKER)
   get_filename_component(linker "${ORVANE_LINKER}" NAME)
@@ -49,15 +49,15 @@ target_compile_definitions(orvane_settings INTERFACE
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_settings INTERFACE
     -fsanitize=${ORVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all
-    # GCC sees uninitialised reads that are not there once its checks are woven in.
+    # With sanitizers GCC reports uninitialised reads that do not exist.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(orvane_settings INTERFACE -fsanitize=${ORVANE_SANITIZE})
   add_compile_options(-O1)
-  set(ORVANE_TEST_OPTIONS -O0) # the tests themselves are quick, compiling them is not
+  set(ORVANE_TEST_OPTIONS -O0) # saves compile time; the tests run fast without optimisation
 endif()
 
 # orvane_headers(<target> <header> LIBRARIES ...): headers that are compiled once and shared by all targets of a kind.
-# Most of a compilation's time is Qt's and GoogleTest's headers.
+# The headers of Qt and GoogleTest take most of the time of a compilation.
 function(orvane_headers target header)
   cmake_parse_arguments(ARG "" "" "LIBRARIES;OPTIONS" ${ARGN})
   set(source "${CMAKE_BINARY_DIR}/${target}.cpp")
@@ -68,7 +68,8 @@ function(orvane_headers target header)
   target_precompile_headers(${target} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/${header}")
 endfunction()
 
-# orvane_target(<target> [WIDGETS | CORE] [TEST]): house settings, include root, and the precompiled headers of its kind.
+# orvane_target(<target> [WIDGETS | CORE] [TEST]): project settings, include root, and the precompiled headers of its
+# kind.
 function(orvane_target target)
   cmake_parse_arguments(ARG "WIDGETS;CORE;TEST" "" "" ${ARGN})
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:orvane_settings>)
@@ -81,7 +82,7 @@ function(orvane_target target)
   endif()
   if(ARG_TEST)
     string(APPEND kind _test)
-    # Tests name their helpers as they like.
+    # Helpers in different test files may have the same name.
     set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
     target_compile_options(${target} PRIVATE ${ORVANE_TEST_OPTIONS})
   endif()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Headers that files with widgets read; each file still includes what it uses.
+// Precompiled headers for files with widgets; each file still includes what it uses.
 #pragma once
 
 #include "CorePch.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Headers that tests with widgets read; each file still includes what it uses.
+// Precompiled headers for tests with widgets; each file still includes what it uses.
 #pragma once
 
 #include "CoreTestPch.h"

@@ -47,7 +47,7 @@ void LayerFactory::Delete(qint32 layerID)
 {
     Transaction transaction(m_database);
     m_database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
-    // The layer's values in schemes refer to this row and go with it.
+    // The layer's values in schemes refer to this row and are removed with it.
     m_database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
     transaction.Commit();
     m_names.Remove(layerID);

@@ -34,7 +34,7 @@ struct StandardClient::Parts {
 
     HostNotifications notifications;
     EditorWindows windows;
-    std::unique_ptr<SettingsStore> settings; // made at the first use
+    std::unique_ptr<SettingsStore> settings; // created at the first use
     LayerNames names;
     LayerFactory factory;
     LayerSteps steps;

@@ -61,7 +61,7 @@ public:
     /// The startup database's file, which SaveSchemesToStartup writes; it may be missing. path: absolute.
     void SetStartupFile(const QString& path);
 
-    /// Copies the schemes of the startup database into the map; for a new map, once it has its layers.
+    /// Copies the schemes of the startup database into the map; for a new map, after its layers were created.
     void LoadSchemesFromStartup();
     /// True when the layers differ from the saved values of the current scheme.
     bool HasUnsavedSchemeChanges() { return UnsavedSchemeChanges() > 0; }
@@ -77,7 +77,7 @@ public:
     SchemeImport ImportScheme(const SchemeDocument& scheme);
 
     /// Refreshes the listed names of these layers in every open editor. For a host whose LayerDisplayName
-    /// depends on more than the name, when its result for these layers has changed.
+    /// depends on more than the name: call it when the result for these layers has changed.
     void RefreshListedNames(const QSet<qint32>& layerIDs);
     /// Forgets the layers' names and which layers differ from the scheme. Call it after layers were added or
     /// changed without this object.

@@ -20,7 +20,7 @@ bool IsPath(const QString& pathOrName)
 
 StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
 {
-    // Literal texts and widget types of the component live on in the host's containers.
+    // The host may still use literal texts and widget types of the component after it is destroyed.
     m_file.setLoadHints(QLibrary::PreventUnloadHint);
     Load(pathOrName);
     CheckContract();
@@ -52,7 +52,7 @@ void StyleEditorPlugin::Load(const QString& pathOrName)
         m_file.setFileName(candidate);
         if (m_file.load())
             return;
-        // The reason that counts is that of a file that is there.
+        // Reports the error for a file that exists, if there is one.
         if (reason.isEmpty() || QFileInfo::exists(m_file.fileName()))
             reason = m_file.errorString();
     }
@@ -71,7 +71,7 @@ void StyleEditorPlugin::CheckContract()
     Refuse(tr("it speaks version %1 of the contract, this program speaks %2").arg(spoken, wanted));
 }
 
-// Widgets of two Qt versions in one process end it.
+// Using widgets of two Qt versions in one process would crash it.
 void StyleEditorPlugin::CheckQt()
 {
     const auto qtMajor = reinterpret_cast<QtMajorFunction>(m_file.resolve(QtMajorSymbol));

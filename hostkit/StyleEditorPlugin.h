@@ -20,7 +20,7 @@ class IStyleEditorLibrary;
 ///     plugin.Library().Initialise(&client);
 ///     plugin.Library().NewStyleEditor("Main")->Visible(true);
 ///
-/// A component is asked only for its versions until they are known to be compatible. Destroying this object
+/// Only the component's versions are read until they are known to be compatible. Destroying this object
 /// destroys the library object with all its editors, so the client must still be alive. The component's code
 /// stays loaded until the process ends, because texts that it returned may point into it.
 class StyleEditorPlugin
@@ -32,8 +32,8 @@ public:
     static constexpr char DefaultName[] = "OrvaneLayerControlQt" QT_STRINGIFY(QT_VERSION_MAJOR);
 
     /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
-    /// Raises PluginFailure when it cannot be loaded, is not such a component, has a different contract
-    /// version, or was built with another major version of Qt.
+    /// Raises PluginFailure when it cannot be loaded, is not a style editor component, has a different
+    /// contract version, or was built with another major version of Qt.
     explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
     ~StyleEditorPlugin();
     Q_DISABLE_COPY_MOVE(StyleEditorPlugin)

@@ -72,7 +72,7 @@ std::optional<LinguistEntries> ReadLinguistDocument(const QByteArray& document)
         return std::nullopt;
     LinguistEntries entries = ReadDocument(xml);
     while (!xml.atEnd())
-        xml.readNext(); // damage may stand behind the last element
+        xml.readNext(); // there may be damage after the last element
     if (xml.hasError())
         return std::nullopt;
     return entries;

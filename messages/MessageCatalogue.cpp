@@ -11,7 +11,7 @@ namespace {
 
 QString KeyInContext(const QString& context, const QString& text)
 {
-    return context + QChar(4) + text; // U+0004 cannot stand in an XML document
+    return context + QChar(4) + text; // U+0004 cannot occur in an XML document
 }
 
 std::optional<QString> FindIn(const QHash<QString, QString>& texts, const QString& key)
@@ -34,7 +34,7 @@ MessageCatalogue MessageCatalogue::FromFile(const QString& path)
 
 MessageCatalogue MessageCatalogue::FromDevice(QIODevice& device)
 {
-    // One byte more than allowed, as a device need not know its size.
+    // One byte more than allowed, because a device may not know its size.
     const QByteArray document = device.read(MaximumSize + 1);
     if (document.size() > MaximumSize)
         return {};

@@ -14,7 +14,7 @@ namespace Orvane {
 namespace {
 
 constexpr int frameHeight = 6; // of a combo box, both edges
-constexpr QMargins selectionFrame(3, 2, 3, 2); // what is seen of the selection around a picture
+constexpr QMargins selectionFrame(3, 2, 3, 2); // the visible part of the selection around a picture
 
 // The place of the content, as high as in the closed box.
 QRect ContentOf(const QRect& row, int height)

@@ -13,7 +13,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr double farthest = 32767; // pixels, and far more than a screen
+constexpr double farthest = 32767; // pixels; much more than a screen
 constexpr QLatin1Char tab('\t');
 constexpr QLatin1Char terminator('.');
 
@@ -31,7 +31,7 @@ double NumberOr(const QStringList& fields, qsizetype index, double otherwise)
     return index < fields.size() ? NumberIn(fields[index]).value_or(otherwise) : otherwise;
 }
 
-// The low 32 bits, so that unsigned colours are read as well as signed ones.
+// Takes the low 32 bits, so that unsigned and signed colours can be read.
 qint32 ColourIn(const QString& text)
 {
     bool ok = false;
@@ -39,7 +39,7 @@ qint32 ColourIn(const QString& text)
     return ok ? qint32(quint32(quint64(number))) : 0;
 }
 
-// "+n" counts from the point before.
+// "+n" is relative to the previous point.
 std::optional<double> CoordinateIn(const QString& text, double before)
 {
     const bool isRelative = text.startsWith(QLatin1Char('+'));
@@ -49,7 +49,7 @@ std::optional<double> CoordinateIn(const QString& text, double before)
     return std::clamp(isRelative ? before + *number : *number, -farthest, farthest);
 }
 
-// The points up to the first that cannot be read.
+// The points before the first one that cannot be read.
 QPolygonF PointsIn(const QString& text, QPointF before)
 {
     QPolygonF points;
@@ -73,7 +73,7 @@ void SetPen(Drawing& drawing, const QString& fields)
     drawing.penWidth = std::clamp(NumberOr(parts, 2, 0), 0.0, farthest);
 }
 
-// Draws along as the sub-commands are read.
+// Draws while the sub-commands are read.
 class DrawingReader
 {
 public:
@@ -138,7 +138,7 @@ bool IsKnown(QStringView body)
         || body.startsWith(QLatin1String("UD."));
 }
 
-// A point between two digits of a drawing is a decimal one.
+// A point between two digits of a drawing is a decimal point.
 bool EndsDrawing(const QString& item, qsizetype point)
 {
     const bool afterDigit = point > 0 && item.at(point - 1).isDigit();
@@ -154,7 +154,7 @@ qsizetype EndOfDrawing(const QString& item, qsizetype start)
     return end;
 }
 
-// Where the command that starts there ends; at the end of the item when its point is missing.
+// The end of the command that starts there; the end of the item if the command's point is missing.
 qsizetype EndOfCommand(const QString& item, qsizetype start)
 {
     const QStringView body = QStringView(item).mid(start);
@@ -162,7 +162,7 @@ qsizetype EndOfCommand(const QString& item, qsizetype start)
     if (IsDrawing(body)) {
         end = EndOfDrawing(item, start);
     } else if (body.startsWith(QLatin1String("FC"))) {
-        const qsizetype comma = item.indexOf(QLatin1String(",."), start); // faces may hold points
+        const qsizetype comma = item.indexOf(QLatin1String(",."), start); // face names may contain points
         end = comma < 0 ? item.indexOf(terminator, start) : comma + 1;
     } else {
         end = item.indexOf(terminator, start);

@@ -9,7 +9,7 @@
 
 namespace Orvane {
 
-/// Text between commands; painted where the last one ended.
+/// Text between commands; painted where the previous text ended.
 struct TextRun {
     QString text;
 };
@@ -35,7 +35,7 @@ struct Figure {
     QPolygonF points; ///< starting with the point before the figure
 };
 
-/// "DRB=" and "DRP=" with what follows them.
+/// "DRB=" and "DRP=" with their sub-commands.
 struct Drawing {
     qint32 brushColour = 0;
     qint32 penColour = 0;

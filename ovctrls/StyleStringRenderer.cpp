@@ -26,7 +26,7 @@ bool HasFamily(const QString& family)
 }
 
 constexpr int outlineAlpha = 80; // of 255
-constexpr int lightnessOfPaper = 200; // of 255, as the distance from that of text
+constexpr int lightnessOfPaper = 200; // of 255, as the difference from the lightness of the text
 constexpr double smallestPoints = 1;
 constexpr double largestPoints = 200;
 
@@ -91,7 +91,7 @@ private:
         return pen;
     }
 
-    // A filled figure has exactly its height; only a flat one needs the pen to be seen.
+    // A filled figure has exactly its height; only a flat one needs the pen to be visible.
     void PaintFigure(const Drawing& drawing, const Figure& figure)
     {
         const QRectF bounds = figure.points.boundingRect();
@@ -108,7 +108,7 @@ private:
         }
     }
 
-    // As far from the colour of text as the list's background is.
+    // True if the colour is as far from the text colour as the list's background is.
     bool IsLostOnPaper(const QColor& colour) const
     {
         return std::abs(colour.lightness() - m_look.textColour.lightness()) > lightnessOfPaper;
@@ -128,7 +128,7 @@ private:
     const StyleStringLook& m_look;
     QFont m_font;
     std::optional<QColor> m_foreColour;
-    int m_cursor = 0; // where text goes on, from the left edge
+    int m_cursor = 0; // where the next text starts, from the left edge
     int m_origin = 0; // of drawings, from the left edge
 };
 

@@ -20,9 +20,9 @@ namespace {
 
 constexpr int sampleInset = 2; // pixels
 constexpr FillColours blackOnWhite{0, 0x000000, 0xFFFFFF};
-constexpr int largestPicture = 1024; // pixels; a host's slip must not eat the memory
+constexpr int largestPicture = 1024; // pixels; limits the memory that a host's error can use
 
-// A bit that the rows are too short for is background.
+// A bit that is missing because the rows are too short is background.
 bool IsSet(const MonochromeBitmap& picture, int x, int y)
 {
     const qsizetype byte = qsizetype(y) * ((picture.width + 7) / 8) + x / 8;
@@ -43,7 +43,7 @@ QImage PatternTile(const MonochromeBitmap& picture, const FillColours& colours)
     return tile;
 }
 
-// Each bit covers whole pixels of the screen, also where a logical pixel is one and a half of them.
+// Each bit covers whole pixels of the screen, even if a logical pixel is one and a half of them.
 QTransform WholePixels(const QPaintDevice& device)
 {
     const qreal ratio = device.devicePixelRatioF();

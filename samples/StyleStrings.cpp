@@ -76,7 +76,7 @@ QString StyleStrings::SolidLine(qint16 thickness, const LineExtent& extent) cons
                + ",0," + bottom);
 }
 
-// Even the thinnest line has its tab; thin pixel widths have neither label nor tab.
+// Even the thinnest line has a tab; lines with a small width in pixels have neither label nor tab.
 QString StyleStrings::LeadIn(qint16 thickness) const
 {
     if (thickness < 0 && thickness >= -widestUnlabelledPixels)

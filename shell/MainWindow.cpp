@@ -115,7 +115,7 @@ void MainWindow::AddData(const QStringList& paths)
         if (first)
             m_session->BeginSchemes();
         ReadMap(first ? MapSession::View::All : MapSession::View::Stays);
-        if (m_session->HasUnreadLayers()) // the person cancelled
+        if (m_session->HasUnreadLayers()) // the user cancelled
             m_session->Shell().History().Undo();
     });
     if (added)
@@ -240,7 +240,7 @@ void MainWindow::ShowAbout()
 void MainWindow::Use(std::unique_ptr<MapDocument> document)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
-    m_layerControl.Use(*session); // it lets go of the client of the session that ends
+    m_layerControl.Use(*session); // first: it still uses the client of the old session
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(*m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing);

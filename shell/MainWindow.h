@@ -37,7 +37,7 @@ struct FoundData;
 ///     window.show();
 ///     window.OpenMap(path);
 ///
-/// OpenMap, AddData and ShowLayerControl raise what goes wrong; the menu commands show it.
+/// OpenMap, AddData and ShowLayerControl raise errors; the menu commands show them.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -46,8 +46,8 @@ public:
     explicit MainWindow(CallTrace* trace = nullptr);
     ~MainWindow() override;
 
-    /// Shows another map file, unless the person keeps the one that is shown, or wants none that is open
-    /// elsewhere. The map stays when another file cannot be opened.
+    /// Opens another map file, unless the user keeps the current map, or does not want a file that is open
+    /// elsewhere. The current map stays open when the file cannot be opened.
     void OpenMap(const QString& path);
     /// Adds every layer of these files to the map. Files that cannot be read are named in one message.
     void AddData(const QStringList& paths);

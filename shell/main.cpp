@@ -21,14 +21,14 @@ using namespace Orvane;
 
 namespace {
 
-// Translations and names, once there is an application object.
+// Installs the translations and sets the names; made after the application object.
 class Setting
 {
 public:
     Setting() : Setting(CatalogueFile(QLocale().uiLanguages())) { }
 
 private:
-    // What is installed last is asked first.
+    // Qt asks the translator that was installed last first.
     explicit Setting(const QString& catalogue) : m_translator(MessageCatalogue::FromFile(catalogue))
     {
         QCoreApplication::setOrganizationName(QStringLiteral("Orvane"));
@@ -77,7 +77,7 @@ QStringList WordsOf(int argc, char** argv)
     return words;
 }
 
-// Hints about desktops are noise where there is none.
+// Without a desktop, hints about desktops are of no use.
 void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
@@ -85,7 +85,7 @@ void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message
 }
 
 // Fonts and pictures need a platform, but not a display.
-// words: as they were given; the application would take some of them, "--title" for one, for its own.
+// words: the arguments as given; the application object would consume some of them, for example "--title".
 int RunWithoutWindow(int argc, char** argv, const QStringList& words, const Terminal& terminal)
 {
     qInstallMessageHandler(DropHints);

@@ -7,9 +7,16 @@ namespace Orvane {
 
 namespace {
 
-enum Tag : char { Null, Integer, Real, Text, BlobOfBytes };
+// The first byte of a coded value.
+namespace Tag {
+constexpr char Null = 0;
+constexpr char Integer = 1;
+constexpr char Real = 2;
+constexpr char Text = 3;
+constexpr char Blob = 4;
+} // namespace Tag
 
-// Small negative numbers become small counts.
+// Maps small negative numbers to small counts.
 quint64 ZigZag(qint64 number)
 {
     return (quint64(number) << 1) ^ quint64(number >> 63);
@@ -20,7 +27,7 @@ qint64 FromZigZag(quint64 count)
     return qint64(count >> 1) ^ -qint64(count & 1);
 }
 
-void AppendSized(std::string& bytes, Tag tag, std::string_view content)
+void AppendSized(std::string& bytes, char tag, std::string_view content)
 {
     bytes += tag;
     ChangeCoding::AppendCount(bytes, content.size());
@@ -29,7 +36,7 @@ void AppendSized(std::string& bytes, Tag tag, std::string_view content)
 
 } // namespace
 
-// Seven bits in each byte, the low ones first; the eighth bit says that more follow.
+// Seven bits in each byte, the low ones first. The eighth bit is set if more bytes follow.
 void ChangeCoding::AppendCount(std::string& bytes, quint64 count)
 {
     for (; count >= 0x80; count >>= 7)
@@ -39,29 +46,29 @@ void ChangeCoding::AppendCount(std::string& bytes, quint64 count)
 
 void ChangeCoding::AppendNull(std::string& bytes)
 {
-    bytes += Null;
+    bytes += Tag::Null;
 }
 
 void ChangeCoding::AppendInteger(std::string& bytes, qint64 number)
 {
-    bytes += Integer;
+    bytes += Tag::Integer;
     AppendCount(bytes, ZigZag(number));
 }
 
 void ChangeCoding::AppendReal(std::string& bytes, double number)
 {
-    bytes += Real;
+    bytes += Tag::Real;
     bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
 void ChangeCoding::AppendText(std::string& bytes, std::string_view text)
 {
-    AppendSized(bytes, Text, text);
+    AppendSized(bytes, Tag::Text, text);
 }
 
 void ChangeCoding::AppendBlob(std::string& bytes, std::string_view blob)
 {
-    AppendSized(bytes, BlobOfBytes, blob);
+    AppendSized(bytes, Tag::Blob, blob);
 }
 
 quint64 ChangeBytes::Count()
@@ -79,14 +86,14 @@ std::string_view ChangeBytes::CodedValue()
 {
     const std::string_view start = m_rest;
     switch (Take(1).front()) {
-    case Integer:
+    case Tag::Integer:
         Count();
         break;
-    case Real:
+    case Tag::Real:
         Take(sizeof(double));
         break;
-    case Text:
-    case BlobOfBytes:
+    case Tag::Text:
+    case Tag::Blob:
         Take(Count());
         break;
     default:
@@ -99,18 +106,18 @@ StoredValue ChangeBytes::Decoded(std::string_view coded)
 {
     ChangeBytes value(coded);
     switch (value.Take(1).front()) {
-    case Integer:
+    case Tag::Integer:
         return FromZigZag(value.Count());
-    case Real: {
+    case Tag::Real: {
         double number = 0;
         std::memcpy(&number, value.m_rest.data(), sizeof number);
         return number;
     }
-    case Text: {
+    case Tag::Text: {
         const quint64 size = value.Count();
         return value.Take(size);
     }
-    case BlobOfBytes: {
+    case Tag::Blob: {
         const quint64 size = value.Count();
         return Blob{QByteArray(value.Take(size).data(), qsizetype(size))};
     }

@@ -10,12 +10,12 @@
 
 namespace Orvane {
 
-/// Bytes that a database keeps as they are.
+/// Bytes that a database stores unchanged.
 struct Blob {
     QByteArray bytes;
 };
 
-/// A value of a row exactly as its database keeps it; std::monostate stands for NULL. Texts are in UTF-8.
+/// A value of a row exactly as its database stores it; std::monostate stands for NULL. Texts are in UTF-8.
 using StoredValue = std::variant<std::monostate, qint64, double, std::string_view, Blob>;
 
 /// How changes are written as bytes. The same value always has the same bytes, so that coded values can be
@@ -41,7 +41,7 @@ public:
     quint64 Count();
     /// The bytes of the next value.
     std::string_view CodedValue();
-    /// The value that some bytes stand for.
+    /// The value that these bytes encode.
     static StoredValue Decoded(std::string_view coded);
 
 private:

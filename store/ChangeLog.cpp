@@ -13,7 +13,7 @@ namespace {
 
 using KeySet = std::unordered_set<std::string_view>;
 
-// True when no row is there twice: then the rows are their own sum.
+// True when no row occurs twice; then there is nothing to merge.
 bool AreAllDifferent(std::string_view rows, const std::vector<ChangedTable>& tables)
 {
     std::vector<KeySet> keys(tables.size());

@@ -10,32 +10,32 @@
 
 namespace Orvane {
 
-/// Changed rows in the order in which they changed, a row perhaps several times. A store writes it while
-/// somebody records changes.
+/// Changed rows in the order in which they changed, possibly with several changes of one row. A store writes
+/// it while changes are recorded.
 class ChangeLog
 {
 public:
-    /// The position of the table in the log, or -1. One that got more columns may have been added again: the
-    /// last one counts.
+    /// The position of the table in the log, or -1. A table that got more columns may have been added again;
+    /// the last position is returned.
     int FindTable(std::string_view name) const;
-    /// Adds a table and returns its position. Tables without keys may be kept too; they get no rows.
+    /// Adds a table and returns its position. Tables without keys may be added too; they get no rows.
     int AddTable(ChangedTable table);
     const ChangedTable& Table(int position) const { return m_tables[size_t(position)]; }
 
     /// Starts a row; columns are added to it, then it is finished. key: the coded values of the key.
     void BeginRow(int table, ChangeKind kind, std::string_view key);
-    /// before, after: coded values; only the one that the kind of change has is kept.
+    /// before, after: coded values; for an insertion only after is kept, for a deletion only before.
     void AddColumn(int position, std::string_view before, std::string_view after);
-    /// An update without changed columns leaves no row.
+    /// An update without changed columns adds no row.
     void FinishRow();
 
-    /// How much was written so far: a place to go back to.
+    /// How much was written so far, for GoBackTo and ChangesSince.
     size_t Size() const { return m_rows.size(); }
-    /// Forgets the rows after a place.
+    /// Forgets the rows that were written after that size was reached.
     void GoBackTo(size_t size) { m_rows.resize(std::min(size, m_rows.size())); }
     void Clear();
 
-    /// What changed after a place in all, once per row.
+    /// All changes since that size was reached, once per row.
     Changeset ChangesSince(size_t size) const;
 
 private:

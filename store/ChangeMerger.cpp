@@ -18,7 +18,7 @@ ChangedRow::Column* ColumnAt(Columns& columns, int position)
     return found == columns.end() ? nullptr : &*found;
 }
 
-// What the next change left, over what there was.
+// Puts the values after the next change in place of the earlier ones.
 void OverlayAfter(Columns& columns, const Columns& next)
 {
     for (const ChangedRow::Column& change : next) {
@@ -37,7 +37,7 @@ void DropUnchanged(Columns& columns)
         columns.end());
 }
 
-// A deleted row as it was before an earlier update.
+// The columns of a deleted row as they were before an earlier update.
 Columns DeletedAfterUpdate(const Columns& deleted, Columns& updated)
 {
     Columns columns = deleted;
@@ -73,7 +73,7 @@ void ChangeMerger::Merge(Entry& entry, const ChangedRow& next)
         row.kind = ChangeKind::Deleted;
         return;
     } else if (row.kind == ChangeKind::Deleted) {
-        row.kind = ChangeKind::Updated; // it is there again
+        row.kind = ChangeKind::Updated; // the row exists again
         OverlayAfter(row.columns, next.columns);
         DropUnchanged(row.columns);
     } else {

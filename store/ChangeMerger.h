@@ -10,18 +10,18 @@
 
 namespace Orvane {
 
-/// Makes one change of several changes to the same row. The bytes of the rows must outlive it.
+/// Merges several changes to the same row into one. The bytes of the rows must outlive it.
 class ChangeMerger
 {
 public:
     void Add(const ChangedRow& row);
-    /// The coded rows, in the order in which each changed first.
+    /// The coded rows, in the order of their first changes.
     std::string Rows() const;
 
 private:
     struct Entry {
         ChangedRow row;
-        bool isGone = false; // as it was before
+        bool isGone = false; // the row is as it was before all changes
     };
 
     static void Merge(Entry& entry, const ChangedRow& next);

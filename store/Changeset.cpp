@@ -39,7 +39,7 @@ qint64 WholeKey(std::string_view key)
     return number ? *number : 0;
 }
 
-// Gives the tables of a second changeset their places in the list of a first one.
+// The positions of the other tables in the list; tables that are missing in it are added.
 std::vector<size_t> Places(std::vector<ChangedTable>& tables, const std::vector<ChangedTable>& others)
 {
     std::vector<size_t> places;
@@ -73,7 +73,7 @@ QByteArray Changeset::Bytes() const
     return m_compressed ? qUncompress(m_kept) : m_kept;
 }
 
-// From back to front, as what was done is taken back.
+// From back to front, because the last change must be undone first.
 Changeset Changeset::Inverted() const
 {
     ChangesetReader reader(*this);

@@ -21,7 +21,8 @@ struct RowChange {
 };
 
 /// The changes to the rows of a layer store, with the values before and after, once per row. An ordinary
-/// value: it can be kept, inverted, and applied to the store that it comes from. Names no kind of store.
+/// value: it can be kept, inverted, and applied to the store that it comes from. It is independent of the
+/// kind of store.
 class Changeset
 {
 public:

@@ -37,7 +37,7 @@ private:
     ChangedRow m_row;
 };
 
-/// The bytes of tables and rows, and back.
+/// Converts tables and rows to bytes and back.
 namespace ChangedRows {
 
 void Append(std::string& bytes, const std::vector<ChangedTable>& tables);
@@ -45,7 +45,7 @@ void Append(std::string& bytes, const std::vector<ChangedTable>& tables);
 std::vector<ChangedTable> ReadTables(ChangeBytes& bytes);
 
 void Append(std::string& bytes, const ChangedRow& row);
-/// The head of a row, which columnCount columns follow.
+/// Appends the head of a row; columnCount columns must follow.
 void AppendHead(std::string& bytes, size_t table, ChangeKind kind, std::string_view key, size_t columnCount);
 void AppendColumn(std::string& bytes, ChangeKind kind, const ChangedRow::Column& column);
 /// Reads one row; keyCounts: how many columns the key of each table has.

@@ -7,7 +7,7 @@
 
 namespace Orvane {
 
-/// What a column of a host's table keeps.
+/// What a column of a host's table holds.
 enum class StoreType {
     Whole, ///< a whole number of 32 bits
     Real,
@@ -22,16 +22,16 @@ struct StoreColumn {
     QString name;
     StoreType type = StoreType::Text;
     Nulls nulls = Nulls::Allowed;
-    QString defaultValue = {}; ///< as in SQL: 5, 'text'; empty for none
-    QString refersTo = {}; ///< the table that it refers to; a row goes with the one it refers to
+    QString defaultValue = {}; ///< as in SQL, such as 5 or 'text'; empty for none
+    QString refersTo = {}; ///< the referenced table; a row is removed with the row that it refers to
     QString refersToColumn = {};
 };
 
-/// A table that a host keeps in its layer store, beside the store's own.
+/// A table that a host keeps in its layer store, besides the store's own tables.
 struct StoreTable {
     QString name;
-    std::vector<StoreColumn> columns; ///< those added later at the end; they allow nulls or have a default
-    std::vector<QString> key; ///< the primary key; a single Whole column numbers its rows by itself
+    std::vector<StoreColumn> columns; ///< later additions come last, and allow nulls or have a default
+    std::vector<QString> key; ///< the primary key; a single Whole column gets its numbers automatically
     std::vector<QString> unique = {}; ///< columns whose values are all different
     std::vector<QString> indexed = {}; ///< columns that rows are looked up by
 };

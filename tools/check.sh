@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # usage: check.sh HEADERS_BUILD RELEASE_BUILD
-# What can be said of the sources without running them. HEADERS_BUILD: configured with ORVANE_CHECK_HEADERS;
-# RELEASE_BUILD: configured, with CMAKE_UNITY_BUILD. Both are built here as far as needed.
+# Checks the sources without running them. HEADERS_BUILD: configured with ORVANE_CHECK_HEADERS; RELEASE_BUILD:
+# configured, with CMAKE_UNITY_BUILD. Both are built here as far as needed.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 . tools/common.sh
@@ -42,7 +42,7 @@ check_headers() {
     cmake --build "$headers" --target header_checks || fail "a header does not compile alone"
 }
 
-# The other compiler, optimised, with many sources in one: names in them must not clash.
+# An optimised build with the other compiler and many sources compiled as one: their names must not clash.
 check_release() {
     cmake --build "$release" || fail "the release build"
 }

@@ -15,7 +15,7 @@ packages_check=(clang-format clang-tidy libbenchmark-dev python3)
 
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
 export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
-export CCACHE_DEPEND=1 # reads what the compiler says it read: a first build preprocesses nothing twice
+export CCACHE_DEPEND=1 # uses the compiler's dependency lists, so that a first build preprocesses nothing twice
 export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 
 duration() { printf '%d:%02d min' $(($1 / 60)) $(($1 % 60)); }

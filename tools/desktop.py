@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A person at the screen: finds controls by what a screen reader would call them, uses the real mouse and keys."""
+"""Acts as a user at the screen: finds controls by their accessible names, and uses the real mouse and keys."""
 
 import subprocess
 import time
@@ -13,12 +13,12 @@ PATIENCE = 20.0  # seconds to wait for something to appear
 
 
 def wait_for(what, look):
-    """Polls until look() gives something that is true; raises with the name of what was waited for."""
+    """Polls until look() returns something true; on timeout raises an error that names what was awaited."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
         try:
             found = look()
-        except Exception:  # a control may vanish while it is looked at
+        except Exception:  # a control may vanish while it is examined
             found = None
         if found:
             return found

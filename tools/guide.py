@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Does what docs/guide describes, by real mouse and key events, and leaves its pictures.
+"""Performs the steps of docs/guide with real mouse and key events, and makes its pictures.
 
 usage: guide.py PROGRAM WORK_DIRECTORY PICTURE_DIRECTORY
 The work directory holds a folder "town" with data.
@@ -22,7 +22,7 @@ class Guide:
         self.town = work / "town"
         self.pictures = pictures
         self.command = program
-        # Begun in the folder with the data: the file dialogs open there.
+        # Started in the folder with the data: the file dialogs open there.
         os.chdir(self.town)
         self.program = Program([str(program)], work)
 
@@ -50,7 +50,7 @@ class Guide:
         wait_for("a still map", still)
 
     def active_window(self, part_of_title):
-        """Waits until what is typed goes there."""
+        """Waits until that window is active, so that it gets the keys; returns it."""
 
         def is_active():
             answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True)

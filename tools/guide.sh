@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # usage: guide.sh BUILD_DIRECTORY WORK_DIRECTORY PICTURE_DIRECTORY
-# Makes the pictures of the user guide anew: guide.py does on a desktop of its own what the guide describes.
+# Makes the pictures of the user guide again: guide.py performs the steps of the guide on a separate desktop.
 set -euo pipefail
 build=$(readlink -f "$1")
 here=$(dirname "$(readlink -f "$0")")
@@ -10,7 +10,7 @@ rm -rf "$2"
 mkdir -p "$2/town" "$3"
 work=$(readlink -f "$2") pictures=$(readlink -f "$3")
 
-# A folder of data, as a person has one: a file for each of some layers of the sample town.
+# A folder of data like that of a user: one file for each of some layers of the sample town.
 QT_QPA_PLATFORM=offscreen "$build/bin/make_sample_map" "$work/sample.orvane"
 for layer in fields forest lake river "main roads" streets houses "public buildings" "bus stops"; do
     ogr2ogr -f GPKG "$work/town/$layer.gpkg" "$work/sample.gpkg" "$layer"

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """usage: include_order.py: compares every include with the table of folders in docs/architecture.md.
 
-A folder includes its own headers and those of the folders that its row names, which all stand further up in the table.
+A folder includes its own headers and those of the folders that its row names, which are all further up in the table.
 """
 import os
 import re
@@ -15,7 +15,7 @@ INCLUDE = re.compile(r'(?:#include ["<]|<header>)([^">]+)[">]|<header>([^<]+)</h
 
 
 def read_table():
-    """Folder to the names of the folders that it may use, in the order of the table."""
+    """Maps each folder to the names of the folders that it may use, in the order of the table."""
     rows = {}
     for line in open(TABLE, encoding="utf-8"):
         cells = [cell.strip() for cell in line.strip().removeprefix("|").removesuffix("|").split("|")]
@@ -28,12 +28,12 @@ def read_table():
 
 
 def is_named(folder, name):
-    """"store" is that folder alone, "store/*" its subfolders too."""
+    """"store" means that folder alone, "store/*" its subfolders too."""
     return folder == name or name.endswith("/*") and (folder + "/").startswith(name[:-1])
 
 
 def folder_of(path, rows):
-    """The room of a file: the innermost folder of the table that it lies in."""
+    """The innermost folder of the table that contains the file."""
     inside = [folder for folder in rows if path.startswith(folder + "/")]
     return max(inside, key=len, default=None)
 

@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 """usage: lint.py BUILD_DIRECTORY SOURCE...: clang-tidy over the sources.
 
-Most of its time goes into what a source includes, so sources are read together: those that a build with
-CMAKE_UNITY_BUILD compiles together. Precompiled headers are left out, so a source that does not include what it uses is
-more likely to be found. A batch is skipped when nothing it reads has changed since it passed.
+Most of the time is spent on included headers, so the sources that a build with CMAKE_UNITY_BUILD compiles together are
+checked together. Precompiled headers are left out, so a source that does not include what it uses is more likely to be
+found. A batch is skipped when nothing it reads has changed since it passed.
 """
 import bisect
 import concurrent.futures
@@ -20,12 +20,13 @@ import tempfile
 SKIPPED = {"-c", "-fpch-preprocess", "-Winvalid-pch"}
 SKIPPED_WITH_VALUE = {"-o", "-include"}
 
-# The analyser gives a function up after so many states, of 225,000: the few that reach them take four fifths of its time.
+# The analyser stops examining a function after this many states (its default is 225,000): the few functions that reach
+# the limit take four fifths of its time.
 STATES = ["--extra-arg=" + word for word in ("-Xclang", "-analyzer-config", "-Xclang", "max-nodes=30000")]
 
 
 def flags_of(entry):
-    """What the compiler is told, without its outputs; headers made from forms are not ours to lint."""
+    """The compiler's arguments without its outputs; headers generated from forms are not linted."""
     words = shlex.split(entry["command"])
     start = next(n for n, word in enumerate(words) if word.endswith("++")) + 1
     flags, skip_next = [], False
@@ -42,7 +43,7 @@ def flags_of(entry):
 
 
 def sources_of(entry):
-    """The sources that one compilation reads, relative to here."""
+    """The sources that one compilation reads, relative to the current folder."""
     if "/Unity/" not in entry["file"]:
         return [os.path.relpath(entry["file"])]
     text = open(entry["file"], encoding="utf-8").read()
@@ -50,7 +51,7 @@ def sources_of(entry):
 
 
 def files_read(build):
-    """Object file to the files of this project that it was made of, from the build's own notes."""
+    """Maps each object file to the files of this project that it depends on, from the build's records."""
     listing = subprocess.run(["ninja", "-C", build, "-t", "deps"], capture_output=True, text=True, check=True)
     read, current = {}, []
     for line in listing.stdout.splitlines():
@@ -79,7 +80,7 @@ class Batch:
         return self.sources and not os.path.exists(self.stamp)
 
     def check(self):
-        """What clang-tidy finds; nothing when the batch is clean."""
+        """The findings of clang-tidy; empty when the batch is clean."""
         lines, starts = [], []
         for source in self.sources:
             starts.append(len(lines))

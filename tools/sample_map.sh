@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # usage: sample_map.sh BUILD_DIRECTORY SAMPLE_DIRECTORY
-# Makes SAMPLE_DIRECTORY/world.orvane once: of real world data where a package that carries them can be fetched, else of a
+# Makes SAMPLE_DIRECTORY/world.orvane once: from real world data if a package with them can be fetched, else as a
 # generated town.
 set -euo pipefail
 build=$1 sample=$2
@@ -9,7 +9,7 @@ map="$sample/world.orvane"
 [ ! -e "$map" ] || exit 0
 mkdir -p "$sample/fetch"
 
-fetch() { # fetch PACKAGE: downloads and unpacks, without installing it and what it drags in
+fetch() { # fetch PACKAGE: downloads and unpacks, without installing it and its dependencies
     echo "Fetching map data: $1"
     (cd "$sample/fetch" && timeout 300 apt-get download -q "$1") >"$sample/fetch/$1.log" 2>&1 &&
         dpkg -x "$sample"/fetch/"$1"_*.deb "$sample/fetch/unpacked"

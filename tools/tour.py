@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The typical session, driven by real mouse and key events; leaves a picture of each step and the call trace.
+"""The typical session, driven by real mouse and key events; makes a picture of each step and the call trace.
 
 usage: tour.py PROGRAM MAP OUTPUT_DIRECTORY
 """
@@ -12,7 +12,7 @@ from desktop import Atspi, Program, click, extents, has_state, picture, pixels, 
 
 VIEW_STATE = "9000:7000:LAYERS:EXPANDED"
 
-# In this order, each once at least: the story of the session as the host sees it.
+# Calls that the trace must contain, in this order: the session as the host sees it.
 STORY = [
     "NewStyleEditor",
     "Visible(true",
@@ -31,7 +31,7 @@ STORY = [
 
 
 class Tour:
-    """Each method is one thing that a person does."""
+    """Each method is one action of the user."""
 
     def __init__(self, program, map_file, output):
         self.output = output

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # usage: tour.sh BUILD_DIRECTORY MAP OUTPUT_DIRECTORY
-# A desktop of its own; then tour.py drives the program in it.
+# Starts a separate desktop, in which tour.py drives the program.
 set -euo pipefail
 build=$(readlink -f "$1") map=$(readlink -f "$2")
 here=$(dirname "$(readlink -f "$0")")

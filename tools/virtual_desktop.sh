@@ -10,7 +10,7 @@ finish_desktop() {
     done
 }
 
-# start_desktop OUTPUT_DIRECTORY SCREEN_SIZE: exports DISPLAY; what was started ends with the shell.
+# start_desktop OUTPUT_DIRECTORY SCREEN_SIZE: exports DISPLAY; the processes started end with the shell.
 start_desktop() {
     local output=$1 size=$2 display_file
     trap finish_desktop EXIT

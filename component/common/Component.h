@@ -13,17 +13,17 @@ class MessageFormatter;
 class MessageTable;
 class StyleEditorRegistry;
 
-/// The host's application object and shell services, as handed to Initialise. Raise 91 before it.
+/// The host's application object and shell services, as passed to Initialise. Both raise 91 before that call.
 IStyleEditorClient& Client();
 IShellServices& ShellServices();
 
-/// True after Initialise: an editor that was created before it unloads without a host.
+/// True after Initialise. An editor that was created before that call unloads without a host.
 bool HasClient();
 
-/// What all editors of the process share: the only global of the component.
+/// What all editors of the process share. This is the only global of the component.
 ///
-/// StyleEditorLib fills it when it is created and empties it when the last one is gone; the messages stay, so
-/// that a text can be shown at any time.
+/// StyleEditorLib fills it when it is created. It is emptied when the last StyleEditorLib is destroyed. The
+/// messages stay, so that a text can be shown at any time.
 class Component
 {
 public:
@@ -33,22 +33,24 @@ public:
     Component(const Component&) = delete;
     Component& operator=(const Component&) = delete;
 
-    /// The translations; an empty table is made on first use when none was loaded.
+    /// The translations. An empty table is created on first use if none was loaded.
     MessageTable& Messages();
-    /// Fills placeholders; made on first use.
+    /// Fills placeholders; created on first use.
     const MessageFormatter& Formatter();
 
-    /// The folder that holds the message file, or one folder per language with one. Nothing is read yet.
+    /// The folder that holds the message file, or one subfolder per language with a message file. Nothing is
+    /// read yet.
     void SetMessageFolder(const QString& folder) { m_messageFolder = folder; }
-    /// Replaces the table by the message file for the current locale; English when there is none.
+    /// Replaces the table by the message file for the current locale; texts stay English if there is none.
     void LoadMessages();
 
-    /// The host's objects; not owned. Both nullptr when no host is held.
+    /// The host's objects; not owned. Both are nullptr if there is no host.
     void SetHost(IStyleEditorClient* client, IShellServices* services);
     IStyleEditorClient* Client() const { return m_client; }
     IShellServices* ShellServices() const { return m_services; }
 
-    /// The registry of the editors while a StyleEditorLib lives, else nullptr. Owned by those that share it.
+    /// The registry of the editors while a StyleEditorLib exists, else nullptr. The StyleEditorLib objects
+    /// own it.
     std::shared_ptr<StyleEditorRegistry> Registry() const { return m_registry.lock(); }
     void SetRegistry(const std::shared_ptr<StyleEditorRegistry>& registry) { m_registry = registry; }
 

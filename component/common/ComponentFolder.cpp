@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one place of the component that asks the platform's loader.
+// The only place in the component that asks the platform's loader.
 #include "component/common/MessageFile.h"
 
 #include <QFile>
@@ -15,7 +15,7 @@ namespace Orvane {
 
 namespace {
 
-const char anchor = 0; // its address lies in this library
+const char anchor = 0; // its address is in this library
 
 #ifdef Q_OS_WIN
 QString LoadedFrom()
@@ -41,7 +41,7 @@ QString LoadedFrom()
 
 QString ComponentFolder()
 {
-    // Asked once: the loader may know a path relative to the folder that was current then.
+    // Asked only once: the loader's path may be relative to the folder that was current at that time.
     static const QString folder = QFileInfo(LoadedFrom()).absolutePath();
     return folder;
 }

@@ -9,15 +9,15 @@
 
 namespace Orvane {
 
-/// An error's description in the person's language. A column's name behind it, as in "Type mismatch (Color)",
-/// stays. A text that the message file does not know, such as one of the host's, stays as it is.
+/// An error's description in the user's language. A column name at its end, as in "Type mismatch (Color)", is
+/// kept. A text that is not in the message file, such as one from the host, is returned unchanged.
 QString TranslatedDescription(const QString& description);
 
-/// Raises the error with its description translated, when the translation is another text.
+/// Raises the error with its description translated, if the translation differs from the description.
 void RaiseTranslated(const RunTimeError& error);
 
-/// Runs what the host asked for. An error of the component's own reaches the host in the person's language;
-/// everything else that is raised is passed on unchanged.
+/// Runs an operation that the host asked for. The component's own errors are passed to the host in the user's
+/// language; everything else that is raised is passed on unchanged.
 template <typename Action> decltype(auto) WithTranslatedErrors(Action&& action)
 {
     try {

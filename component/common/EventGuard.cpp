@@ -34,7 +34,7 @@ void ReportError(QWidget* owner, const std::exception& error) noexcept
 {
     try {
         Show(owner, TextOf(error));
-    } catch (...) { // no memory for a message: nothing is left to tell it with
+    } catch (...) { // no memory for a message: nothing more can be shown
     }
 }
 

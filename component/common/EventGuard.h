@@ -10,16 +10,16 @@
 
 namespace Orvane {
 
-/// Tells the person about an error that reached an event handler: the translated description of a
-/// RunTimeError, a general text for anything else. While one error is shown, further ones are dropped, since
-/// a handler that fails at each paint would else never let the person go on. Never raises.
+/// Shows the user an error that reached an event handler: the translated description of a RunTimeError, a
+/// general text for anything else. While one error is shown, further errors are dropped; otherwise a handler
+/// that fails at each paint would block the user. Never raises.
 void ReportError(QWidget* owner, const std::exception& error) noexcept;
 /// The same for an exception of unknown type.
 void ReportUnknownError(QWidget* owner) noexcept;
 
-/// The guard at the top of every slot and event handler: runs the action and reports what it raises, so that
-/// no exception reaches the event loop. Returns false when something was raised. owner: may be nullptr, and
-/// may be destroyed by the action.
+/// The guard at the start of every slot and event handler: runs the action and reports what it raises, so
+/// that no exception reaches the event loop. Returns false if something was raised. owner: may be nullptr,
+/// and the action may destroy it.
 template <typename Action> bool GuardEvent(QWidget* owner, Action&& action) noexcept
 {
     const QPointer<QWidget> alive = owner;
@@ -34,9 +34,9 @@ template <typename Action> bool GuardEvent(QWidget* owner, Action&& action) noex
     return false;
 }
 
-/// The same once the event is over that is handled now. For all that waits for the user (a question, a
-/// picker's dialog): the host may end the dialog meanwhile, and Qt still uses the widget that the event came
-/// from. context: without it the action is not run. owner: may be destroyed before.
+/// Runs the guarded action after the current event. Use it for everything that waits for the user (a
+/// question, a picker's dialog): the host may close the dialog meanwhile, and Qt still uses the widget that
+/// sent the event. context: if it is destroyed first, the action does not run. owner: may be destroyed first.
 template <typename Action> void GuardAfterEvent(QObject* context, QWidget* owner, Action action)
 {
     QTimer::singleShot(0, context, [owner = QPointer<QWidget>(owner), action = std::move(action)] {
@@ -44,8 +44,8 @@ template <typename Action> void GuardAfterEvent(QObject* context, QWidget* owner
     });
 }
 
-/// The guard of painting, where no window may open: what the action raises leaves the picture unfinished.
-/// Returns false when something was raised.
+/// The guard of painting, where no window may be opened: if the action raises, the picture stays unfinished.
+/// Returns false if something was raised.
 template <typename Action> bool GuardPaint(Action&& action) noexcept
 {
     try {

@@ -22,7 +22,8 @@ constexpr std::array WidgetProperties{
     "statusTip",       "whatsThis", "accessibleName", "accessibleDescription",
     "placeholderText", "prefix",    "suffix",         "specialValueText"};
 
-// One text of one object: the English and what was last shown for it are kept at the object, under the key.
+// Translates one text of one object. The object stores the English text and the last shown text under the
+// key.
 void TranslateText(
     QObject& object, const QByteArray& key, const QString& current, const TextTranslation& translation,
     const std::function<void(const QString&)>& show)
@@ -31,7 +32,7 @@ void TranslateText(
     const QByteArray shownKey = "orvaneShown_" + key;
     const QVariant known = object.property(englishKey.constData());
     if (known.isValid() && object.property(shownKey.constData()).toString() != current)
-        return; // the program's own text
+        return; // set by the program
     const QString english = known.isValid() ? known.toString() : current;
     const QString shown = english.isEmpty() ? english : translation(english);
     object.setProperty(englishKey.constData(), english);
@@ -58,7 +59,7 @@ void TranslateTabs(QTabBar& tabs, const TextTranslation& translation)
         TranslateText(tabs, "tabText" + number, tabs.tabText(tab), translation, [&](const QString& text) {
             tabs.setTabText(tab, text);
         });
-        // Without a tip of its own a tab has none, so there is no default to spare.
+        // A tab has no default tool tip, so there is none to preserve.
         TranslateText(
             tabs, "tabToolTip" + number, tabs.tabToolTip(tab), translation,
             [&](const QString& text) { tabs.setTabToolTip(tab, text); });
@@ -79,8 +80,8 @@ bool HasProperty(const QObject* object, const char* name)
     return object && object->metaObject()->indexOfProperty(name) >= 0;
 }
 
-// The property that holds a control's caption. An editor's "text" is what the person typed: only labels and
-// buttons show theirs as a caption, and those inside an own control show the control's.
+// The property that holds a control's caption. An editor's "text" is what the user typed. Only labels and
+// buttons show their text as a caption; inside a control with its own caption they show that caption.
 const char* CaptionProperty(const QWidget& widget)
 {
     for (const char* own : {"caption", "Caption"}) {
@@ -108,7 +109,7 @@ void TranslateWidget(QWidget& widget, const TextTranslation& translation)
         TranslateItems(*list, translation);
 }
 
-// An action without a tip or an icon text of its own derives them from its text, and goes on doing so.
+// An action without its own tool tip or icon text derives it from its text, and must continue to do so.
 void TranslateAction(QAction& action, const TextTranslation& translation)
 {
     if (action.menu())

@@ -9,11 +9,11 @@ class QWidget;
 
 namespace Orvane {
 
-/// Gives the text to show for an English text.
+/// Returns the text to show for an English text.
 using TextTranslation = std::function<QString(const QString& english)>;
 
-/// Passes every text of the form, its widgets and its actions through the translation, and keeps the English
-/// beside each in dynamic properties. See MessageTable::TranslateForm for which texts these are.
+/// Passes every text of the form, its widgets and its actions through the translation, and stores each
+/// English text in a dynamic property. MessageTable::TranslateForm lists these texts.
 void TranslateFormTexts(QWidget& form, const TextTranslation& translation);
 
 } // namespace Orvane

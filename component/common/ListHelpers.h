@@ -15,8 +15,8 @@ enum class WhenMissing {
     KeepSelection, ///< the list index stays
 };
 
-/// How the helpers below talk to a list control: in the members of Qt's combo box, or in those of the control
-/// library (ListCount, ItemData, List, SetListIndex) where a control has them.
+/// How the helpers below access a list control: through the members of Qt's combo box, or through those of
+/// the control library (ListCount, ItemData, List, SetListIndex) if a control has them.
 namespace ListAccess {
 
 template <typename List> int Count(const List& list)
@@ -27,7 +27,7 @@ template <typename List> int Count(const List& list)
         return list.count();
 }
 
-/// Nothing where the entry holds no number.
+/// Nothing if the entry holds no number.
 template <typename List> std::optional<qint32> Data(const List& list, int index)
 {
     if constexpr (requires { list.ItemData(index); }) {
@@ -78,7 +78,7 @@ int SelectByItemData(List& list, qint32 value, WhenMissing whenMissing = WhenMis
     return index;
 }
 
-/// Selects the first entry with that text, case as given; the selection stays when there is none.
+/// Selects the first entry with that text (case-sensitive); the selection stays if there is none.
 template <typename List> void SelectByText(List& list, const QString& text)
 {
     const int count = ListAccess::Count(list);

@@ -32,7 +32,7 @@ QMessageBox::Icon IconOf(BoxStyle style)
     return QMessageBox::NoIcon;
 }
 
-// The toolkit's own button texts follow the host's translators, which may not hold them.
+// The toolkit's own button texts come from the host's translators, which may not contain them.
 QPushButton* AddButton(QMessageBox& box, QMessageBox::StandardButton kind, const QString& text)
 {
     QPushButton* button = box.addButton(kind);
@@ -57,7 +57,7 @@ QMessageBox* MakeBox(QWidget* owner, const QString& text, BoxStyle style)
     auto* box = new QMessageBox(
         IconOf(style), TranslateMsg("Layer Control"), text, QMessageBox::NoButton,
         owner ? owner->window() : nullptr);
-    box->setTextFormat(Qt::PlainText); // a name such as <No Name> is no markup
+    box->setTextFormat(Qt::PlainText); // a name such as <No Name> is not markup
     AddButtons(*box, style);
     return box;
 }

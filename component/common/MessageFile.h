@@ -6,15 +6,15 @@
 
 namespace Orvane {
 
-/// The message file to load: "POBEX.LRT" in the folder when it is there, whatever the language; else the one
-/// in the sub-folder of the first of the languages that has it. An English language ends the search, as the
-/// texts are English already. The answer is then the path in the folder itself, where no file is. An
-/// empty folder has none.
+/// The message file to load: "POBEX.LRT" in the folder itself if it exists, whatever the language; else the
+/// one in the subfolder of the first language that has it. An English language ends the search, because the
+/// texts are English already. If nothing is found, the result is the path in the folder itself, where no file
+/// exists. For an empty folder the result is empty.
 ///
-/// languages: as QLocale::uiLanguages gives them, "de-DE" before "de"; a tag's leading parts are tried too.
+/// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too.
 QString MessageFilePath(const QString& folder, const QStringList& languages);
 
-/// The folder of the shared library that holds this code; of the program when it is linked in.
+/// The folder of the shared library that contains this code, or of the program if the code is linked into it.
 QString ComponentFolder();
 
 } // namespace Orvane

@@ -9,7 +9,7 @@ namespace {
 
 constexpr QChar Caret = u'^';
 
-// The argument that the placeholder at the caret stands for, or nullptr.
+// The argument for the placeholder at the caret, or nullptr.
 const Value* ArgumentAt(const QString& text, qsizetype caret, const MessageArguments& arguments)
 {
     if (text.at(caret) != Caret || caret + 1 >= text.size())

@@ -11,9 +11,10 @@ namespace Orvane {
 class MessageFormatter
 {
 public:
-    /// The text with each placeholder replaced by its argument, in one pass: a "^1" inside an argument is
-    /// never expanded. A placeholder whose argument is not supplied, and a caret before anything but 1 to 9,
-    /// stay as they are. Numbers take their shortest plain decimal form; Null gives nothing. Never raises.
+    /// The text with each placeholder replaced by its argument, in one pass: a "^1" inside an argument is not
+    /// expanded. A placeholder without an argument stays as it is, and so does a caret before anything but 1
+    /// to 9. Numbers are written in their shortest plain decimal form; Null gives an empty text. Never
+    /// raises.
     QString FormatMessage(const QString& text, const MessageArguments& arguments) const;
 };
 

@@ -28,12 +28,12 @@ public:
 
     /// Translates the texts of the form and of all widgets and actions in it: captions of labels, buttons and
     /// group boxes, tab texts, window titles, tool tips, what's-this and status texts, accessible names and
-    /// descriptions, placeholders, prefixes and suffixes, a "caption" or "Caption" property of own controls,
-    /// and the items of combo boxes that carry the property "staticItems" = true. A widget with the property
-    /// "notr" = true is left out.
+    /// descriptions, placeholders, prefixes and suffixes, a "caption" or "Caption" property of the
+    /// component's own controls, and the items of combo boxes that have the property "staticItems" = true. A
+    /// widget with the property "notr" = true is skipped.
     ///
-    /// What a text was in English is kept beside it, so that a later call translates from English again. A
-    /// text that differs from what the last call showed was set by the program and is left alone.
+    /// The English text of each is stored with it, so that a later call translates from English again. A text
+    /// that differs from what the last call showed was set by the program and is not changed.
     void TranslateForm(QWidget& form) const;
 
 private:

@@ -11,12 +11,12 @@
 
 namespace Orvane {
 
-/// The window of one style editor, as the registry knows it: a dialog with an ID that announces its
-/// unloading.
+/// The window of one style editor, as the registry sees it: a dialog with an ID that emits a signal when it
+/// has unloaded.
 ///
-/// The registry creates it through a StyleEditorFactory, gives it its ID, owns it, and deletes it after
-/// Unloaded: not at once, since the signal comes from within the window's own code, but before the component
-/// is left.
+/// The registry creates it through a StyleEditorFactory, sets its ID, owns it, and deletes it after Unloaded.
+/// It is not deleted at once, because the window's own code emits the signal, but at the latest together with
+/// the registry.
 class StyleEditorWindow : public QDialog, public IStyleEditor, public IStyleEditorForm
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
     explicit StyleEditorWindow(QWidget* parent = nullptr);
     ~StyleEditorWindow() override;
 
-    /// Names the editor: once, right after creation and before anything else is done with the window.
+    /// Sets the editor's ID: once, right after creation and before any other use of the window.
     void SetEditorID(const QString& editorID);
 
 signals:
-    /// The window has unloaded: its view state is written and the host has forgotten it. The last step of an
-    /// unload, emitted once; the window is not used again.
+    /// The window has unloaded: its view state is written and the host no longer refers to it. This is the
+    /// last step of an unload, emitted once; the window is not used again.
     void Unloaded(const QString& editorID);
 
 private:
@@ -39,7 +39,7 @@ private:
     QString m_editorID;
 };
 
-/// Makes a hidden window that is not initialised yet.
+/// Creates a hidden window that is not initialised yet.
 using StyleEditorFactory = std::function<std::unique_ptr<StyleEditorWindow>()>;
 
 } // namespace Orvane

@@ -5,8 +5,9 @@
 
 namespace Orvane {
 
-/// Takes the text before the first delimiter off the remaining text, and the delimiter with it; all of it
-/// when there is no delimiter, which leaves nothing. An empty delimiter is never found.
+/// Removes the text before the first delimiter, and the delimiter, from the remaining text and returns that
+/// text. Without a delimiter the whole text is returned and nothing remains. An empty delimiter is never
+/// found.
 ///
 ///     QString rest = "a:b:c";
 ///     NextToken(rest, ":");  // "a", and rest is "b:c"

@@ -54,7 +54,7 @@ qint16 ValueOf(Qt::CheckState state)
     return state == Qt::Checked ? Checked : Unchecked;
 }
 
-// A disabled caption keeps the look of disabled ones.
+// A disabled caption keeps the usual colours of disabled captions.
 void SetActiveColour(QPalette& palette, QPalette::ColorRole role, const QColor& colour)
 {
     palette.setColor(QPalette::Active, role, colour);
@@ -83,14 +83,14 @@ CheckBoxPlus::CheckBoxPlus(QWidget* parent) : QWidget(parent), m_check1(new Inne
 {
     m_check1->setObjectName(QStringLiteral("Check1"));
     m_check1->setBackgroundRole(QPalette::Window);
-    // Whatever the style, the box has exactly the area of the control.
+    // The box fills the whole control in every style.
     m_check1->setAttribute(Qt::WA_LayoutUsesWidgetRect);
     setSizePolicy(m_check1->sizePolicy());
     m_check1->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_check1);
-    // A form's tab order passes over widgets without a focus policy, proxy or not.
+    // The tab order of a form skips widgets without a focus policy, even with a focus proxy.
     setFocusPolicy(m_check1->focusPolicy());
     setFocusProxy(m_check1);
     Init();

@@ -14,19 +14,20 @@ namespace Orvane {
 class InnerCheckBox;
 class PropertyBag;
 
-/// A check box whose mouse clicks can cycle through three states. It wraps one ordinary check box, "Check1",
-/// which fills it and to which focus, size, mnemonic and accessibility belong.
+/// A check box whose mouse clicks can cycle through three states. It contains one ordinary check box,
+/// "Check1", which fills it and handles focus, size, mnemonic and accessibility.
 ///
 ///     <widget class="Orvane::CheckBoxPlus" name="chkVisible">
 ///      <property name="Caption"><string>&amp;Visible</string></property>
 ///      <property name="CycleMode"><number>1</number></property>
 ///     </widget>
 ///
-/// Each setter changes the box and then reports its key through PropertyChanged, also when the value was the
-/// same: the container saves what it was told. The setters are named as form compilers call them.
+/// Each setter changes the box and then reports its key through PropertyChanged, even if the value was the
+/// same: the container saves what was set. The setters are named as form compilers call them.
 ///
-/// A left click sets the value of NextCheckValue when the button goes up, wherever that is. The space bar, a
-/// mnemonic and a screen reader toggle between unchecked and checked; there a greyed box becomes unchecked.
+/// A left click sets the value of NextCheckValue when the button is released, wherever the pointer is. The
+/// space bar, a mnemonic and a screen reader toggle between unchecked and checked; they make a greyed box
+/// unchecked.
 class CheckBoxPlus : public QWidget
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ class CheckBoxPlus : public QWidget
 public:
     explicit CheckBoxPlus(QWidget* parent = nullptr);
 
-    /// The colour behind the box: BGR, or a system colour. The face colour lets the container show through.
+    /// The colour behind the box: BGR, or a system colour. With the face colour, the container shows through.
     qint32 BackColor() const { return m_backColor; }
     void setBackColor(qint32 colour);
 
@@ -53,16 +54,17 @@ public:
     /// 0 unchecked, 1 checked, 2 greyed; one of CheckValue.
     qint16 Value() const;
     QString ValueText() const { return QString::number(Value()); }
-    /// Takes the number in the text; raises Click when it changes the value. Raises 13 (type mismatch) for a
-    /// text that holds no number, 6 (overflow) beyond 16 bits, and 9 for a number that is no CheckValue.
+    /// Sets the value to the number in the text; emits Click if this changes the value. Raises 13 (type
+    /// mismatch) for a text that holds no number, 6 (overflow) beyond 16 bits, and 9 for a number that is no
+    /// CheckValue.
     void setValue(const QString& text);
     void setValue(int value) { setValue(QString::number(value)); }
 
-    /// The text beside the box; "&" marks the mnemonic.
+    /// The text next to the box; "&" marks the mnemonic.
     QString Caption() const;
     void setCaption(const QString& caption);
 
-    /// The box's own flag; a disabled container does not change it.
+    /// The box's own flag; disabling the container does not change it.
     bool Enabled() const;
     void setEnabled(bool enabled);
 
@@ -74,29 +76,29 @@ public:
     qint16 CycleMode() const { return m_cycleMode; }
     void setCycleMode(int mode);
 
-    /// Names the box itself, too, for it is what a screen reader meets.
+    /// Also sets the name of the inner box, because screen readers read that name.
     void setAccessibleName(const QString& name);
 
-    /// Paints the box anew at once.
+    /// Repaints the box at once.
     void Refresh();
 
-    /// Puts colours, Enabled, Font and CycleMode into the bag; Value and Caption are set at run time.
+    /// Writes colours, Enabled, Font and CycleMode to the bag; Value and Caption are set at run time.
     void WriteProperties(PropertyBag& bag) const;
-    /// Takes them from the bag; what is missing gets its default, the font that of the container. Reports
-    /// nothing. Raises 6 or 13 for values of a wrong type, and has then changed nothing.
+    /// Reads them from the bag. A missing value gets its default; a missing font is that of the container.
+    /// Does not report changes. Raises 6 or 13 for values of a wrong type, and then changes nothing.
     void ReadProperties(const PropertyBag& bag);
 
 signals:
-    // Arguments are handed by reference and may be changed. Codes are those of EventArguments.h; x and y are
-    // twips from the upper left corner.
+    // Arguments are passed by reference and may be changed. Codes are those of EventArguments.h; x and y are
+    // in twips from the upper left corner.
 
-    /// The value has changed, by the person or by the program.
+    /// The value has changed, by the user or by the program.
     void Click();
-    /// Never sent: a double click is two clicks.
+    /// Never emitted: a double click counts as two clicks.
     void DblClick();
-    /// A listener that sets keyCode to 0 keeps the key from the box.
+    /// If a listener sets keyCode to 0, the box does not get the key.
     void KeyDown(qint16& keyCode, qint16& shift);
-    /// A listener that sets keyAscii to 0 keeps the key from the box.
+    /// If a listener sets keyAscii to 0, the box does not get the key.
     void KeyPress(qint16& keyAscii);
     void KeyUp(qint16& keyCode, qint16& shift);
     void MouseDown(qint16& button, qint16& shift, float& x, float& y);
@@ -123,7 +125,7 @@ private:
     qint32 m_backColor = SystemColour::ButtonFace;
     qint32 m_foreColor = SystemColour::ButtonText;
     qint16 m_cycleMode = TwoStateCycle;
-    qint16 m_nextValue = Unchecked; // from a mouse down to the mouse up that sets it
+    qint16 m_nextValue = Unchecked; // set when the mouse button goes down, used when it goes up
 };
 
 } // namespace Orvane

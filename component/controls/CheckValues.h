@@ -18,8 +18,8 @@ enum CheckCycle : qint16 {
     ThreeStateCycle = 1, ///< unchecked, checked, greyed
 };
 
-/// The value that a mouse click sets; a value that a check box cannot have stays as it is. Any cycle mode but
-/// ThreeStateCycle counts as TwoStateCycle.
+/// The value that a mouse click sets; a value that a check box cannot have is returned unchanged. Any cycle
+/// mode other than ThreeStateCycle counts as TwoStateCycle.
 constexpr qint16 NextCheckValue(qint16 current, qint16 cycleMode)
 {
     switch (current) {

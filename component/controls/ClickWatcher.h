@@ -7,15 +7,15 @@ class QWidget;
 
 namespace Orvane {
 
-/// Tells when a left mouse button that went down over a widget goes up again: the click that a widget without
-/// a signal of its own, a slider for one, does not report. The widget has then dealt with the press, not yet
-/// with the release.
+/// Reports when a left mouse button that was pressed over a widget is released: the click that a widget
+/// without such a signal, for example a slider, does not report. The widget has then handled the press, but
+/// not yet the release.
 class ClickWatcher : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the widget, which owns it, too.
+    /// Watches the widget. The widget also owns this object.
     explicit ClickWatcher(QWidget* widget);
 
 signals:

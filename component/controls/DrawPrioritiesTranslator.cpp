@@ -12,7 +12,7 @@ namespace {
 constexpr qint16 highest = 1;
 constexpr qint16 lowest = 255;
 
-// The number goes in as text: digits as they read back, whatever a formatter does with numbers.
+// The number is passed as text, so that its digits can be read back however a formatter writes numbers.
 QString HighestText()
 {
     return TranslateMsg("^1 (highest)", ToText(highest));

@@ -7,10 +7,10 @@
 
 namespace Orvane {
 
-/// Turns one kind of property value into the text that a person sees, and that text back into the value. Both
-/// ways speak the language that is shown, so a translated text reads back too. Null is "various".
+/// Converts one kind of property value to the text that the user sees, and that text back to the value. Both
+/// directions use the language that is shown, so a translated text can be read back too. Null is "various".
 ///
-/// Holds no state. What the host's conversions raise passes through unchanged.
+/// Has no state. Errors that the host's conversions raise are passed on unchanged.
 class IUITranslator
 {
 public:
@@ -18,7 +18,7 @@ public:
     IUITranslator(const IUITranslator&) = delete;
     IUITranslator& operator=(const IUITranslator&) = delete;
 
-    /// The text to show for a value. Raises 6 or 13 for a value that is no number where one is needed.
+    /// The text to show for a value. Raises 6 or 13 if a number is needed and the value is not one.
     QString toString(const Value& value) const { return IUITranslator_toString(value); }
 
     /// The value that a text stands for; Null for "various". Raises 13 (type mismatch) for a text that holds

@@ -9,11 +9,10 @@ class QMouseEvent;
 namespace Orvane {
 
 /// The check box inside a CheckBoxPlus. Keyboard, mnemonic and screen reader toggle it between its two
-/// states, a greyed box becoming unchecked; the mouse changes nothing by itself: whoever listens sets the
-/// value.
+/// states; a greyed box becomes unchecked. The mouse changes nothing by itself: the listener sets the value.
 ///
-/// All of its surface reacts to the mouse. A signal about a key comes before the box acts on it, one about
-/// the mouse after.
+/// Its whole surface reacts to the mouse. A signal about a key is emitted before the box acts on the key, a
+/// signal about the mouse after it.
 class InnerCheckBox : public QCheckBox
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     explicit InnerCheckBox(QWidget* parent);
 
 signals:
-    /// swallow: set it to keep the key from the box.
+    /// swallow: set it to true to keep the key from the box.
     void KeyPressed(const QKeyEvent& event, bool& swallow);
     void KeyReleased(const QKeyEvent& event);
     void MousePressed(const QMouseEvent& event);
@@ -31,7 +30,7 @@ signals:
     void MouseReleased(const QMouseEvent& event);
 
 protected:
-    /// Guarded: what a listener raises is told to the person.
+    /// Guarded: what a listener raises is shown to the user.
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

@@ -14,7 +14,7 @@ Value ToValue(const QVariant& stored)
     return stored.toString();
 }
 
-// A settings file gives booleans back as words.
+// A settings file returns booleans as words.
 bool IsWord(const QVariant& stored, QLatin1String word)
 {
     return stored.toString().compare(word, Qt::CaseInsensitive) == 0;

@@ -10,7 +10,7 @@
 namespace Orvane {
 
 /// The properties of one control by key, as its container stores them. A property at its default is not
-/// stored, so that it follows the default of the day.
+/// stored, so that it follows later changes of the default.
 ///
 ///     PropertyBag bag;
 ///     box.WriteProperties(bag);

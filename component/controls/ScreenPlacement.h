@@ -6,11 +6,11 @@
 
 namespace Orvane {
 
-/// The rectangle moved, by no more than needed, so that it lies inside the area. One that is too large starts
-/// at the area's upper left corner. Pixels.
+/// The rectangle, moved no more than needed to lie inside the area. If it is too large, it starts at the
+/// area's upper left corner. In pixels.
 QRect MovedInside(QRect rectangle, const QRect& area);
 
-/// The area for windows on the screen that holds the point, or on the primary screen; without task bars.
+/// The area without task bars of the screen that contains the point, or of the primary screen.
 QRect AvailableAreaAt(QPoint point);
 
 } // namespace Orvane

@@ -25,7 +25,7 @@ constexpr bool IsSystemColour(qint32 colour)
     return colour < 0;
 }
 
-/// The colour to paint with. A system colour is taken from the palette; an unknown one is the face's.
+/// The colour to paint with. A system colour is taken from the palette; an unknown one gives the face colour.
 QColor ResolveColour(qint32 colour, const QPalette& palette);
 
 } // namespace Orvane

@@ -24,15 +24,15 @@ struct TwipSize {
     bool operator==(const TwipSize&) const = default;
 };
 
-/// How many twips a pixel of one screen measures: 1440 / logical dots per inch, 15 at 96 dpi. Needs no whole
-/// number: 110 dpi gives 13.09.
+/// The number of twips per pixel of one screen: 1440 / logical dots per inch, 15 at 96 dpi. It need not be a
+/// whole number: 110 dpi gives 13.09.
 ///
 ///     const TwipsPerPixel scale = TwipsPerPixelOf(*this);
 ///     resize(scale.ToPixels(storedSize));
 ///
 /// Both directions round to the nearest whole number, half to even, and saturate at the 32-bit range. Pixels
-/// survive pixels -> twips -> pixels exactly on every screen below 1440 dpi; twips need not survive the other
-/// round trip.
+/// converted to twips and back stay exact on every screen below 1440 dpi; twips converted to pixels and back
+/// may change.
 struct TwipsPerPixel {
     double x = 15;
     double y = 15;
@@ -51,7 +51,7 @@ struct TwipsPerPixel {
 /// The scale of the screen that the widget is on.
 TwipsPerPixel TwipsPerPixelOf(const QWidget& widget);
 
-/// The bottom right corner of a button in screen twips: where frmDropSlider hangs a popup, right-aligned.
+/// The bottom right corner of a button in screen twips: frmDropSlider opens its popup there, right-aligned.
 TwipPoint PopupAnchor(const QWidget& button);
 
 } // namespace Orvane

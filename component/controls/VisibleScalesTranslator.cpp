@@ -13,7 +13,7 @@ namespace {
 
 constexpr qint32 noMinimum = 0;
 constexpr qint32 noMaximum = 256;
-constexpr qsizetype prefixLength = 2; // "1:", whatever a translation made of it
+constexpr qsizetype prefixLength = 2; // of "1:", even if a translation has changed it
 
 } // namespace
 

@@ -6,7 +6,7 @@
 namespace Orvane {
 
 /// Scale limits: indices 0 to 256 of the scale table of the host's shell services, shown as "1:50000". Both
-/// ends, 0 and 256, mean "no limit" and show the same text, which always reads back as 0.
+/// ends, 0 and 256, mean "no limit" and show the same text, which is always read back as 0.
 class VisibleScalesTranslator : public IUITranslator
 {
 public:

@@ -17,7 +17,7 @@ bool WheelNeedsFocus::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() != QEvent::Wheel || m_control.hasFocus())
         return false;
-    event->ignore(); // the parent gets it then
+    event->ignore(); // then the parent gets it
     return true;
 }
 

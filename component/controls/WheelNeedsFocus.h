@@ -7,12 +7,12 @@ class QWidget;
 
 namespace Orvane {
 
-/// Lets the wheel change a control only while the control has the keyboard focus. Otherwise the wheel is left
-/// to what the control stands in, so that scrolling past it changes nothing; and it does not give the focus.
+/// Lets the wheel change a control only while the control has the keyboard focus. Otherwise the parent gets
+/// the wheel event, so that scrolling past the control changes nothing. The wheel does not set the focus.
 ///
 ///     new WheelNeedsFocus(*form->cmbScheme);
 ///
-/// Of the filters of a control this one has to be made last: it then meets the wheel first.
+/// Install this filter last on a control, so that it gets the wheel event first.
 class WheelNeedsFocus : public QObject
 {
     Q_OBJECT

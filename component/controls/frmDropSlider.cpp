@@ -38,7 +38,7 @@ void frmDropSlider::Init()
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QWidget::hide);
     connect(m_ui->chkVarious, &QCheckBox::toggled, this, &frmDropSlider::OnVariousToggled);
     connect(m_ui->sldValue, &QSlider::valueChanged, this, &frmDropSlider::OnSliderChanged);
-    // Scrolled: also where the slider is at its end and the value stays.
+    // Also emitted if the slider is at its end and the value stays.
     connect(m_ui->sldValue, &QSlider::actionTriggered, this, &frmDropSlider::OnSliderChanged);
     connect(new ClickWatcher(m_ui->sldValue), &ClickWatcher::Clicked, this, &frmDropSlider::OnSliderClicked);
 }
@@ -50,7 +50,7 @@ bool frmDropSlider::Popup(
     if (isVisible())
         return false;
     SetOwner(owner);
-    // Each change of a control tells its handler, so the order decides what the label and the value become.
+    // Each change of a control calls its handler, so the order determines the label and the value.
     m_translator = &translator;
     m_failure = nullptr;
     m_ui->sldValue->setMinimum(minimum);
@@ -88,7 +88,7 @@ void frmDropSlider::ShowValue(const Value& defaultValue)
         m_ui->sldValue->setValue(position);
     }
     RaiseFailure();
-    // Where neither control moved, the label still speaks through the translator of the last popup.
+    // If neither control has changed, the label still shows a text from the translator of the last popup.
     TakeSliderOrNull();
 }
 
@@ -107,7 +107,7 @@ void frmDropSlider::RefreshLabel()
         Place();
 }
 
-// While it is open it only grows: a form that changes its width at each step of the slider cannot be looked
+// While it is open it only grows: a form that changes its width at each step of the slider is hard to look
 // at.
 void frmDropSlider::Place()
 {
@@ -128,7 +128,7 @@ void frmDropSlider::OnConfirm()
     hide();
 }
 
-// Once it is open the person is told of an error. Before that its caller is, but not from within a control.
+// While it is open, errors are shown to the user. Before that, they are kept and raised later to the caller.
 void frmDropSlider::Handle(const std::function<void()>& act)
 {
     if (isVisible()) {

@@ -19,15 +19,15 @@ class frmDropSlider;
 
 class IUITranslator;
 
-/// The popup that edits one whole number with a slider. It stays loaded: Popup shows it and hides it again,
-/// any number of times, with its controls as they were left.
+/// The popup that edits one whole number with a slider. It stays loaded: Popup shows and hides it any number
+/// of times, and its controls keep their state.
 ///
 ///     const TwipPoint anchor = PopupAnchor(*cmdEditPriority);
 ///     if (slider->Popup(this, priorities, anchor.x, anchor.y, title, value, 1, 1, 255, isVarious))
 ///         lblPriority->setText(priorities.toString(value));
 ///
-/// The current value is Null while "Various" is checked, else the slider's value, and the label shows it
-/// through the translator. The form belongs to the window of its last owner, as every child window does.
+/// The current value is Null while "Various" is checked, else the slider's value. The label shows it through
+/// the translator. As every child window, the form belongs to the window of its last owner.
 class frmDropSlider : public QDialog
 {
     Q_OBJECT
@@ -36,17 +36,17 @@ public:
     explicit frmDropSlider(QWidget* owner = nullptr);
     ~frmDropSlider() override;
 
-    /// Edits the value in a modal popup and returns true when the person pressed OK. Then value is Null for
-    /// "Various", else a 32-bit integer; otherwise it stays as it was passed.
+    /// Edits the value in a modal popup and returns true if the user pressed OK. Then value is Null for
+    /// "Various", else a 32-bit integer; otherwise it is unchanged.
     ///
-    /// owner: the form in front of which it is shown; may be nullptr. x, y: where its right and top edges go,
-    /// in screen twips; it moves left or up where it would leave the screen. caption: not used, the popup
-    /// keeps its own title. defaultValue: where the slider starts when value is Null. minimum, maximum: the
-    /// slider's range, to which values are clamped. allowVarious: whether "Various" may be chosen by hand.
+    /// owner: the form in front of which it is shown; may be nullptr. x, y: the position of its right and top
+    /// edges in screen twips; it moves left or up if it would leave the screen. caption: not used, the popup
+    /// keeps its own title. defaultValue: where the slider starts if value is Null. minimum, maximum: the
+    /// slider's range, to which values are clamped. allowVarious: whether the user may choose "Various".
     ///
-    /// Raises 13 (type mismatch) or 6 (overflow), without showing anything, for a value or a default that is
-    /// no 32-bit integer. Returns false at once while it is open already, and when the form is destroyed
-    /// meanwhile: whoever calls must then count on the owner being gone.
+    /// Raises 13 (type mismatch) or 6 (overflow), without showing anything, if value or defaultValue is not a
+    /// 32-bit integer. Returns false at once if it is already open. Also returns false if the form is
+    /// destroyed meanwhile: the owner may then be destroyed too.
     bool Popup(
         QWidget* owner, const IUITranslator& translator, Twips x, Twips y, const QString& caption,
         Value& value, const Value& defaultValue, qint32 minimum, qint32 maximum, bool allowVarious);
@@ -70,7 +70,7 @@ private:
     Value m_currentValue;
     TwipPoint m_topRight;
     bool m_confirmed = false;
-    std::exception_ptr m_failure; // of a handler, while Popup prepares the controls
+    std::exception_ptr m_failure; // raised by a handler while Popup prepares the controls
 };
 
 } // namespace Orvane

@@ -23,7 +23,7 @@ StyleEditorLib::StyleEditorLib(const StyleEditorFactory& factory, const QString&
 StyleEditorLib::~StyleEditorLib()
 {
     Component& component = Component::Get();
-    // Unloaded while this object still answers the host's look-ups.
+    // Unloaded while this object can still answer the host's look-ups.
     if (m_editors.use_count() == 1)
         m_editors->UnloadAll();
     m_editors.reset();
@@ -39,7 +39,7 @@ IStyleEditor* StyleEditorLib::IStyleEditorLibrary_GetStyleEditor(const QString& 
 void StyleEditorLib::IStyleEditorLibrary_Initialise(IStyleEditorClient* client)
 {
     Component& component = Component::Get();
-    component.SetHost(client, nullptr); // whatever the client raises next, the former host is gone
+    component.SetHost(client, nullptr); // if the next line raises, the former host is removed
     component.SetHost(client, client ? client->GetShellServices() : nullptr);
 }
 

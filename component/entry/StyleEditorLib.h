@@ -13,19 +13,19 @@ namespace Orvane {
 
 class StyleEditorRegistry;
 
-/// The component's entry object: creates the registry of editors, loads the messages, takes the host's
+/// The component's entry object: creates the registry of editors, loads the messages and stores the host's
 /// objects.
 ///
-/// A process may hold several. They share all there is: an editor that one created is found by the others,
-/// the client of the last Initialise serves them all and must outlive them all, and the editors end with the
-/// last of them. It is not destroyed from within a call that the component makes into the host.
+/// A process may have several entry objects, which share everything. An editor that one created is found by
+/// the others. The client of the last Initialise serves them all and must outlive them all. The editors are
+/// unloaded with the last entry object. Do not destroy one during a call from the component to the host.
 class StyleEditorLib final : public IStyleEditorLibrary
 {
 public:
-    /// factory: makes the editors' windows. messageFolder: where the message file lies; loading it never
-    /// fails. Both are used by the first of several entry objects only.
+    /// factory: creates the editors' windows. messageFolder: the folder of the message file; loading never
+    /// fails. Only the first of several entry objects uses them.
     StyleEditorLib(const StyleEditorFactory& factory, const QString& messageFolder);
-    /// Unloads every editor without applying when it is the last entry object. Never raises.
+    /// The last entry object unloads every editor without applying. Never raises.
     ~StyleEditorLib() override;
 
 private:

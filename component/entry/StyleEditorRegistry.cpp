@@ -58,7 +58,7 @@ void StyleEditorRegistry::Register(const QString& editorID, StyleEditorWindow* w
 
 bool StyleEditorRegistry::Forget(const QObject* window)
 {
-    // Compared as addresses: a window that is being destroyed is only a QObject any more.
+    // Compared as addresses: a window that is being destroyed is now only a QObject.
     return std::erase_if(
                m_editors,
                [window](const Entry& entry) { return static_cast<const QObject*>(entry.window) == window; })
@@ -76,7 +76,7 @@ void StyleEditorRegistry::OnUnloaded(StyleEditorWindow* window)
 
 void StyleEditorRegistry::UnloadAll() noexcept
 {
-    // By a list made first: a host that creates editors meanwhile does not keep this going.
+    // Uses a list made before: otherwise a host that creates editors meanwhile could keep this loop running.
     for (const QString& editorID : EditorIDs()) {
         if (StyleEditorWindow* window = Find(editorID))
             UnloadOne(window);
@@ -88,10 +88,10 @@ void StyleEditorRegistry::UnloadOne(StyleEditorWindow* window) noexcept
     const QPointer<StyleEditorWindow> alive = window;
     try {
         window->UnloadWithoutApply();
-    } catch (...) { // the host is leaving: there is nobody to tell
+    } catch (...) { // the host is closing: the error cannot be shown
     }
     if (alive && Forget(window))
-        delete window; // its unload was cut short
+        delete window; // its unload was interrupted
 }
 
 } // namespace Orvane

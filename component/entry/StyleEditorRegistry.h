@@ -12,19 +12,20 @@
 
 namespace Orvane {
 
-/// The open editors, keyed by ID and kept in the order of their creation; IDs differ in case too.
+/// The open editors by ID, in the order of their creation. IDs are case-sensitive.
 ///
-/// The registry owns the windows. A window that announces Unloaded leaves the registry at once, so that its
-/// ID is free again, and is deleted when its own code has returned. A window that the host destroys, by
-/// destroying the parent that it gave it, leaves likewise.
+/// The registry owns the windows. A window that emits Unloaded is removed from the registry at once, so that
+/// its ID is free again. It is deleted after its own code has returned. A window that the host destroys, by
+/// destroying its parent, is removed in the same way.
 class StyleEditorRegistry : public QObject
 {
     Q_OBJECT
 
 public:
-    /// factory: makes the windows; never empty.
+    /// factory: creates the windows; never empty.
     explicit StyleEditorRegistry(StyleEditorFactory factory);
-    /// Deletes all windows, also those that unloaded before: no code of the component is needed later.
+    /// Deletes all windows, also those that have already unloaded, so that no code of the component is needed
+    /// later.
     ~StyleEditorRegistry() override;
 
     /// The editor with that ID, or nullptr.
@@ -34,7 +35,7 @@ public:
     StyleEditorWindow& Create(const QString& editorID);
 
     /// Unloads every editor without applying, in the order of their creation. What the host raises meanwhile
-    /// is dropped, and the editor deleted.
+    /// is dropped, and the editor is deleted.
     void UnloadAll() noexcept;
 
     /// The IDs of the open editors, in the order of their creation.

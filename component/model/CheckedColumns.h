@@ -10,14 +10,13 @@
 
 namespace Orvane {
 
-/// Checked reads of the current row's columns. A value that is not of the column's type raises 13 (type
-/// mismatch) and names the column, one that does not fit raises 6 (overflow); what Field raises is passed on
-/// unchanged.
+/// Checked reads of the current row's columns. A value of the wrong type raises 13 (type mismatch) with the
+/// column's name; a value that does not fit raises 6 (overflow). What Field raises is passed on unchanged.
 
 /// The number as it is stored; Null for Null.
 Value NumberColumn(const IRecordset& row, std::string_view columnName);
 
-/// True or false for a number that is not 0 or is; Null for Null.
+/// True for a number other than 0, false for 0, Null for Null.
 Value FlagColumn(const IRecordset& row, std::string_view columnName);
 
 /// The number as a 32-bit integer; Null for Null.

@@ -17,7 +17,7 @@ bool BeginsUnsignedNumber(const QByteArray& text)
     return !text.isEmpty() && (text.front() == '.' || (text.front() >= '0' && text.front() <= '9'));
 }
 
-// from_chars also reads "inf" and "nan", and no leading "+".
+// from_chars also accepts "inf" and "nan", but does not accept a leading "+".
 double LeadingUnsignedNumber(const QByteArray& text)
 {
     if (!BeginsUnsignedNumber(text))

@@ -20,7 +20,7 @@ constexpr bool UsesForSymbols(qint32 color)
     return (quint32(color) & 0xFF000000U) == 0;
 }
 
-/// The value to store for the two. colour: its top byte is ignored.
+/// The value to store for both. colour: its top byte is ignored.
 constexpr qint32 JoinColour(qint32 colour, bool useForSymbols)
 {
     return qint32(quint32(ColourPart(colour)) | (useForSymbols ? 0U : 0xFF000000U));

@@ -22,11 +22,11 @@ std::unique_ptr<IRecordset> OpenLayersByID(IStyleEditorClient& client);
 /// A cursor over LayerGroups that seeks by ID.
 std::unique_ptr<IRecordset> OpenGroupsByID(ILayerDatabase& database);
 
-/// Goes to the row with that key; false when there is none.
+/// Moves to the row with that key; false if there is none.
 bool SeekID(IRecordset& table, qint32 id);
 
-/// The IDs of the group's layers, in the order in which they are loaded and written; those of hidden and of
-/// missing layers among them. Empty for a group that does not exist.
+/// The IDs of the group's layers, in the order in which they are loaded and written, including hidden and
+/// missing layers. Empty for a group that does not exist.
 std::vector<qint32> ReadMemberLayerIDs(IStyleEditorClient& client, qint32 groupID);
 
 /// True when the layer is a system layer: it may not be deleted, renamed or given another code. False for a

@@ -10,19 +10,20 @@
 
 namespace Orvane {
 
-/// The texts of all queries that the component issues. Hosts may recognise them by their letters, so that
-/// nothing in them is up to taste, blanks included.
+/// The texts of all queries that the component issues. Hosts may compare them character by character, so they
+/// must not be changed, not even a blank.
 namespace LayerQueries {
 
-/// All rows of the groups tree: a row for each layer of each group, with the Layers columns and the
-/// membership's GroupID and Ordering. groupName: only the group of that name, pseudo or not; without one all
-/// groups that are not pseudo. A quote in the name is doubled. Rows with a Code of -2 or less are among them.
+/// All rows of the groups tree: one row for each layer of each group, with the Layers columns and the
+/// membership's GroupID and Ordering. groupName: only the group with that name, pseudo or not; without a
+/// name, all groups that are not pseudo. A quote in the name is doubled. Rows with a Code of -2 or less are
+/// included.
 QString Tree(const std::optional<QString>& groupName);
 
 /// The rows of the flat list, by name.
 QString LayerList();
 
-/// The row of one layer, none when it is hidden by its Code.
+/// The row of one layer; none if its Code hides it.
 QString OneLayer(qint32 layerID);
 
 /// The IDs of a group's layers.
@@ -40,11 +41,11 @@ QString GroupsOfLayer(qint32 layerID);
 } // namespace LayerQueries
 
 /// The quick mode (1 normal, 2 backdrop, 4 hidden) for a value of the OverrideMode column: 1 for Null and for
-/// any number that is no mode. Raises 13 (type mismatch) for a text that holds no number.
+/// any number that is not a mode. Raises 13 (type mismatch) for a text that holds no number.
 qint16 QuickModeFromOverrideMode(const Value& overrideMode);
 
-/// The value to store in OverrideMode for a quick mode; nothing for 0 ("various") and for any other that is
-/// not 1, 2 or 4, which leave the column as it is.
+/// The value to store in OverrideMode for a quick mode. Nothing for 0 ("various") and for any other value
+/// than 1, 2 or 4: the column then stays as it is.
 std::optional<qint16> OverrideModeFromQuickMode(qint16 quickMode);
 
 /// The key of a layer or group in a collection that is keyed by text, e.g. "IDequals_17".

@@ -34,13 +34,13 @@ enum : qint16 {
 };
 } // namespace Slot
 
-/// A slot that keeps a column of the same meaning as it is.
+/// A slot that holds the unchanged value of a column with the same meaning.
 struct SlotColumn {
     qint16 slot;
     const char* column;
 };
 
-/// The flags that have a column of their own, in the order in which they are read and written.
+/// The flags that have their own column, in the order in which they are read and written.
 inline constexpr std::array FlagColumns{
     SlotColumn{Slot::Visible, "Visible"},
     SlotColumn{Slot::Selectable, "Selectable"},
@@ -60,11 +60,11 @@ public:
     /// All slots Null.
     LayerStyle();
 
-    /// A copy of the slot's value. Raises 9 (subscript out of range) for an index outside 0 to 18, as do all
-    /// members here; the record is then unchanged.
+    /// A copy of the slot's value. Raises 9 (subscript out of range) for an index outside 0 to 18, as all
+    /// members here do; the record is then unchanged.
     Value lsGet(qint16 index) const;
     bool lsIsNull(qint16 index) const;
-    /// True when both are Null, or when both are known and equal; numbers compare across their types.
+    /// True if both are Null, or if both are known and equal; numbers are compared across their types.
     bool Compare(qint16 index, const Value& value) const;
     /// Stores a copy of any value, Null included.
     void lsSet(qint16 index, const Value& value);

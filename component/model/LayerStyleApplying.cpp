@@ -25,7 +25,7 @@ void WriteNumber(IRecordset& row, std::string_view columnName, const Value& numb
 {
     if (number.IsNull())
         return;
-    ToDouble(number); // a text in a number's column would read as another value later
+    ToDouble(number); // a text in a number column would later be read as another value
     row.SetField(columnName, number);
 }
 
@@ -41,7 +41,7 @@ void WriteFlags(IRecordset& row, const LayerStyle& style)
         WriteFlag(row, flag.column, style.lsGet(flag.slot));
 }
 
-// A row whose colour is not known counts as black, used for symbols.
+// A row without a known colour counts as black, used for symbols.
 qint32 CurrentColour(const IRecordset& row)
 {
     const Value color = Int32Column(row, "Color");
@@ -61,7 +61,7 @@ void WriteColour(IRecordset& row, const Value& colour, const Value& useForSymbol
             useForSymbols.IsNull() ? UsesForSymbols(current) : ToBoolean(useForSymbols)));
 }
 
-// The minimum is stored as it comes, the maximum as a whole number: hosts rely on both.
+// The minimum is stored as the host converts it, the maximum as a whole number: hosts rely on both.
 void WriteScales(IRecordset& row, const IStyleEditorClient& client, const LayerStyle& style)
 {
     if (const Value minimum = style.lsGet(Slot::MinVisScale); !minimum.IsNull())

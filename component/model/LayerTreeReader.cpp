@@ -21,7 +21,7 @@ LayerEntry ReadEntry(IStyleEditorClient& client, const IRecordset& row, qint32 l
     return {layerID, QuickModeColumn(row), DecorateLayerName(client.LayerDisplayName(layerID))};
 }
 
-// The tree's query also returns hidden layers; a code that is not known hides a layer in the other queries.
+// The tree's query also returns hidden layers. A Null code hides a layer, as it does in the other queries.
 bool IsListed(const IRecordset& row)
 {
     const Value code = NumberColumn(row, "Code");
@@ -48,7 +48,7 @@ public:
     std::vector<GroupEntry> Finished() { return std::move(m_entries); }
 
 private:
-    // Groups with the same ordering come interleaved, so that one may come back after another.
+    // Groups with the same ordering come interleaved, so a group may occur again after another one.
     GroupEntry& GroupOf(qint32 groupID)
     {
         if (!m_entries.empty() && m_entries[m_current].groupID == groupID)

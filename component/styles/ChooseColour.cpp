@@ -11,7 +11,7 @@ namespace Orvane {
 
 std::optional<qint32> ChooseColour(QWidget* owner, qint32 start)
 {
-    // On the heap: the owner may be destroyed, and the dialog with it, while it waits.
+    // On the heap: the owner may be destroyed while the dialog waits, and the dialog with it.
     const QPointer<QColorDialog> dialog(new QColorDialog(QColorFromBgr(start), owner));
     dialog->setWindowTitle(TranslateMsg("Extended Colours"));
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;

@@ -108,7 +108,7 @@ void ColourPicker::Rebuild()
         ShowColour(m_shown);
 }
 
-// The items are drawn for the size that the combo box had.
+// The items were drawn for the previous size of the combo box.
 bool ColourPicker::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() == QEvent::Resize)

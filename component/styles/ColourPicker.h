@@ -10,48 +10,47 @@
 
 namespace Orvane {
 
-/// One colour list: the standard colours, colours that were added, "Custom Colour..." and, where layers
-/// differ, "[various]".
+/// One colour list: the standard colours, added colours, "Custom Colour..." and, if the layers differ,
+/// "[various]".
 ///
 /// Colours are BGR integers; a value with any bit of its top byte set means transparent and is listed as
-/// TransparentColour. Members that build or show may raise 6 (overflow), 11 (floating-point fault) and 13
-/// (type mismatch).
+/// TransparentColour. Members that fill the list or show a value may raise 6 (overflow), 11 (floating-point
+/// fault) and 13 (type mismatch).
 class ColourPicker : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the list holds from the beginning.
+    /// What the list contains at first.
     enum class Offer {
         Colours, ///< for lines, which cannot be transparent
         ColoursAndTransparent,
     };
 
-    /// combo: not owned; outlives this object. stylePrefix: what precedes every drawing command.
+    /// combo: not owned; outlives this object. stylePrefix: the text before each drawing command.
     ColourPicker(OvCombo& combo, const QString& stylePrefix, Offer offer);
 
-    /// Fills the list anew; nothing is selected then.
+    /// Fills the list again; then nothing is selected.
     void BuildColourList();
 
     /// Adds a colour, at the end or before the item at the position.
     void AddColourItem(qint32 colour, qint32 position = PickerList::AtEnd);
 
-    /// Shows a layer's colour; a colour that the list lacks is added before "Custom Colour...", and Null
-    /// shows
-    /// "[various]". The colour dialog starts with this colour.
+    /// Shows a layer's colour. A colour that is not in the list is added before "Custom Colour..."; Null
+    /// shows "[various]". The colour dialog starts with this colour.
     void SetColourSelection(const Value& value);
 
     /// The colour shown; Null for "[various]".
     Value GetSelectedColour() const;
 
-    /// Draws and words all items anew, for another size of the combo box or another language. What is listed
-    /// and selected stays.
+    /// Draws and translates all items again, for another size of the combo box or another language. The items
+    /// and the selection stay.
     void Rebuild();
 
     const PickerList& List() const { return m_list; }
 
 signals:
-    /// The list shows another colour, or the same one anew: by the person or by SetColourSelection.
+    /// The list shows another colour, or the same one again; set by the user or by SetColourSelection.
     void Changed();
 
 protected:

@@ -8,20 +8,20 @@
 
 namespace Orvane {
 
-/// The pattern bitmaps of the fill styles: element n holds that of fill style n, once it is loaded.
+/// The pattern bitmaps of the fill styles. Element n holds the bitmap of fill style n once it is loaded.
 class FillPictures
 {
 public:
     static constexpr int Count = 32;
 
-    /// Creates the element; one that exists is kept with its picture. Raises 9 (subscript out of range)
-    /// outside 0 to 31.
+    /// Creates the element; an existing one keeps its picture. Raises 9 (subscript out of range) outside 0 to
+    /// 31.
     void Load(int fillStyle);
 
     /// Replaces the picture of a loaded element. Raises 9 for one that is not loaded.
     void SetPicture(int fillStyle, const MonochromeBitmap& picture);
 
-    /// The picture; one without pixels where none was set.
+    /// The picture; one without pixels if none was set.
     MonochromeBitmap Picture(int fillStyle) const;
 
 private:

@@ -81,7 +81,7 @@ void FillStylePicker::SetFillStyleSelection(const Value& value)
     emit Changed();
 }
 
-// Queued: while the box waits nothing may be half shown, and the host may close the dialog.
+// Queued: while the message box waits, nothing may be half shown, and the host may close the dialog.
 void FillStylePicker::ReportUnknownStyle()
 {
     QMetaObject::invokeMethod(

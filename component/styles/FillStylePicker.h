@@ -16,41 +16,41 @@ class QRect;
 
 namespace Orvane {
 
-/// The fill style list: solid, hollow and 30 patterns, each painted in the colours of the layer, and
-/// "[various]" where layers differ.
+/// The fill style list: solid, hollow and 30 patterns, each painted in the colours of the layer, and, if the
+/// layers differ, "[various]".
 class FillStylePicker : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Answers the colours that the samples are painted with.
+    /// Returns the colours with which the samples are painted.
     using ReadColours = std::function<FillColours()>;
 
-    /// combo: not owned; outlives this object. stylePrefix: what precedes every drawing command.
+    /// combo: not owned; outlives this object. stylePrefix: the text before each drawing command.
     FillStylePicker(OvCombo& combo, const QString& stylePrefix, ReadColours colours);
 
-    /// Fills the list anew and asks the host for the patterns; nothing is selected then. Raises what the
+    /// Fills the list again and asks the host for the patterns; then nothing is selected. Raises what the
     /// host's FillPattern raises.
     void BuildFillStyleList();
 
-    /// Shows a layer's fill style; Null as "[various]". For a style that the list lacks the first item is
-    /// shown, and the person is told as soon as the event loop runs. Raises 13 (type mismatch) or 6
-    /// (overflow).
+    /// Shows a layer's fill style; Null shows "[various]". For a style that is not in the list, the first
+    /// item is shown, and the user gets a message as soon as the event loop runs. Raises 13 (type mismatch)
+    /// or 6 (overflow).
     void SetFillStyleSelection(const Value& value);
 
     /// The fill style shown; Null for "[various]".
     Value GetSelectedFillStyle() const;
 
-    /// Words the items anew; what is selected stays.
+    /// Translates the items again; the selection stays.
     void Rebuild();
 
-    /// Paints the sample of the closed list anew, in the colours of the moment.
+    /// Paints the sample of the closed list again, in the current colours.
     void RepaintSamples();
 
     const PickerList& List() const { return m_list; }
 
 signals:
-    /// The list shows another style, or the same one anew: by the person or by SetFillStyleSelection.
+    /// The list shows another style, or the same one again; set by the user or by SetFillStyleSelection.
     void Changed();
 
 private:

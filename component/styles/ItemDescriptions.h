@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// What is said, in the person's language, of items that are pictures: by screen readers, and to those who
-/// search the list by typing.
+/// Descriptions, in the user's language, of items that are pictures: for screen readers, and for searching
+/// the list by typing.
 
 /// The name of a standard colour, "#RRGGBB" for any other. colour: BGR.
 QString ColourDescription(qint32 colour);

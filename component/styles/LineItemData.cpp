@@ -7,7 +7,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr qint32 dataPerThickness = 20; // above every line style number
+constexpr qint32 dataPerThickness = 20; // larger than every line style number
 
 } // namespace
 

@@ -17,14 +17,14 @@ namespace {
 
 using Special = PickerList::Special;
 
-// Where the width dialog opens: at the combo box, one height below it.
+// Where the width dialog opens: one box height below the combo box.
 TwipPoint DialogPlace(const OvCombo& combo)
 {
     const QPoint topLeft = combo.mapToGlobal(QPoint(0, 2 * combo.height()));
     return TwipsPerPixelOf(combo).ToTwips(topLeft);
 }
 
-// The line that an item's data stands for.
+// The line for an item's data.
 LineItem LineOf(qint32 itemData)
 {
     const SelectedLine line = ReadSelectedLine(0, -1, itemData);
@@ -120,7 +120,7 @@ void LineStylePicker::Rebuild()
     m_list.Select(selected);
 }
 
-// The items are drawn for the size that the combo box had.
+// The items were drawn for the previous size of the combo box.
 bool LineStylePicker::eventFilter(QObject*, QEvent* event)
 {
     if (event->type() == QEvent::Resize)

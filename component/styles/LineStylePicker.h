@@ -15,10 +15,11 @@
 
 namespace Orvane {
 
-/// The line style list: no line, the thinnest line, four patterns and four widths, widths that were added,
-/// "Custom Line Style..." and, where layers differ, "[various]".
+/// The line style list: no line, the thinnest line, four patterns and four widths, added widths, "Custom Line
+/// Style..." and, if the layers differ, "[various]".
 ///
-/// Members that build or show may raise 6 (overflow), 11 (floating-point fault) and 13 (type mismatch).
+/// Members that fill the list or show a value may raise 6 (overflow), 11 (floating-point fault) and 13 (type
+/// mismatch).
 class LineStylePicker : public QObject
 {
     Q_OBJECT
@@ -27,31 +28,31 @@ public:
     /// Asks for a line width as frmOtherLineStyle::ChooseLineWidth does.
     using AskLineWidth = std::function<bool(qint16& thickness, Twips x, Twips y)>;
 
-    /// combo: not owned; outlives this object. stylePrefix: what precedes every drawing command.
+    /// combo: not owned; outlives this object. stylePrefix: the text before each drawing command.
     LineStylePicker(OvCombo& combo, const QString& stylePrefix, AskLineWidth askLineWidth);
 
-    /// Fills the list anew; nothing is selected then.
+    /// Fills the list again; then nothing is selected.
     void BuildLineStyleList();
 
     /// Adds a line, at the end or before the item at the position.
     void AddLineStyleItem(qint16 style, qint16 thickness, qint32 position = PickerList::AtEnd);
 
-    /// Shows a layer's line. One that the list lacks is added before "Custom Line Style...". "[various]" is
-    /// shown where either is Null, and for a style of 20 or more, which would read back as a thickness: the
-    /// layer then keeps what it has.
+    /// Shows a layer's line. A line that is not in the list is added before "Custom Line Style...".
+    /// "[various]" is shown if either value is Null, and for a style of 20 or more, which would be read back
+    /// as a thickness: the layer then keeps its values.
     void SetLineStyleSelection(const Value& style, const Value& thickness);
 
     /// The line shown; both Null for "[various]".
     SelectedLine GetSelectedLineStyle() const;
 
-    /// Draws and words all items anew, for another size of the combo box or another language. What is listed
-    /// and selected stays.
+    /// Draws and translates all items again, for another size of the combo box or another language. The items
+    /// and the selection stay.
     void Rebuild();
 
     const PickerList& List() const { return m_list; }
 
 signals:
-    /// The list shows another line, or the same one anew: by the person or by SetLineStyleSelection.
+    /// The list shows another line, or the same one again; set by the user or by SetLineStyleSelection.
     void Changed();
 
 protected:

@@ -14,7 +14,7 @@ PickerList::PickerList(OvCombo& combo) : m_combo(combo)
     m_remembered.fill(-1);
 }
 
-// Whole twips are seldom whole pixels: the scale is that of this very size, so that the extents are.
+// Whole twips are seldom whole pixels: the scale is that of this size, so that the extents are whole pixels.
 ComboSize PickerList::Size() const
 {
     const double width = m_combo.WidthInTwips();

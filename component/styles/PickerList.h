@@ -13,17 +13,17 @@ namespace Orvane {
 
 class OvCombo;
 
-/// The items of one picker's combo box, and the indexes of those that are remembered. An item that is
-/// inserted anywhere moves every remembered index behind it.
+/// The items of one picker's combo box, and the remembered indexes of some of them. Inserting an item moves
+/// every remembered index after it.
 class PickerList
 {
 public:
     /// The position that appends.
     static constexpr qint32 AtEnd = 0x7FFFFFFF;
 
-    /// The items that are found by their index, as their data tells nothing.
+    /// The items that are found by their index, because their data does not identify them.
     enum class Special {
-        LastStandard, ///< the last item that every list has, before those that were added
+        LastStandard, ///< the last item that every list has, before the added items
         Custom, ///< "Custom Colour..." or "Custom Line Style..."
         Various, ///< "[various]"
     };
@@ -32,22 +32,22 @@ public:
     explicit PickerList(OvCombo& combo);
 
     OvCombo& Combo() const { return m_combo; }
-    /// The combo box as the sizes of item drawings are derived from it.
+    /// The size of the combo box, from which the sizes of item drawings are calculated.
     ComboSize Size() const;
 
-    /// Removes all items; nothing is remembered then.
+    /// Removes all items and all remembered indexes.
     void Clear();
-    /// Adds an item with its data, at the end or before the item at the position. description: what is said
-    /// of it.
+    /// Adds an item with its data, at the end or before the item at the position. description: for screen
+    /// readers and searches.
     void Add(const QString& text, const QString& description, qint32 data, qint32 position = AtEnd);
     /// Appends an item without data and remembers it.
     void AddSpecial(Special item, const QString& text);
-    /// Sets how many rows the open list shows at most.
+    /// Sets the maximum number of rows in the open list.
     void SetRows(int rows);
-    /// Appends the translated "[various]" and remembers it; not a second time.
+    /// Appends the translated "[various]" and remembers it, but only once.
     void AddVarious();
 
-    /// Remembers the last item as this one.
+    /// Remembers the last item as the given special item.
     void RememberLast(Special item);
     /// The index, -1 when the list has no such item.
     int IndexOf(Special item) const { return m_remembered[size_t(item)]; }

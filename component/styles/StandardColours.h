@@ -12,7 +12,7 @@ struct StandardColour {
     const char* name; ///< English; shown through TranslateMsg
 };
 
-/// What every colour list offers, in its order.
+/// The colours that every colour list offers, in their order.
 inline constexpr std::array standardColours{
     StandardColour{0x000000, QT_TR_NOOP("Black")},  StandardColour{0x808080, QT_TR_NOOP("Grey")},
     StandardColour{0xC0C0C0, QT_TR_NOOP("Silver")}, StandardColour{0xFFFFFF, QT_TR_NOOP("White")},

@@ -11,8 +11,8 @@ namespace Orvane {
 namespace {
 
 struct Move {
-    int target = -1; ///< the index that the event leads to, -1 for none
-    int step = 0; ///< 1 downwards, -1 upwards
+    int target = -1; ///< the index that the event would select, -1 for none
+    int step = 0; ///< 1 down, -1 up
 };
 
 Move MoveOf(const QKeyEvent& key, const OvCombo& combo)

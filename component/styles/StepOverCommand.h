@@ -9,14 +9,14 @@ namespace Orvane {
 
 class OvCombo;
 
-/// Lets the keys and the wheel step over an item that opens a dialog: on the closed box that item is not a
-/// value to pass through. It is chosen from the open list.
+/// Makes the keys and the wheel skip an item that opens a dialog: in the closed box this item is not a value
+/// to pass through. The user chooses it from the open list.
 class StepOverCommand : public QObject
 {
     Q_OBJECT
 
 public:
-    /// combo: not owned; outlives this object. commandIndex: answers where the item stands, -1 when there is
+    /// combo: not owned; outlives this object. commandIndex: returns the index of the item, -1 if there is
     /// none.
     StepOverCommand(OvCombo& combo, std::function<int()> commandIndex);
 

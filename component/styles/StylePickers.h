@@ -33,9 +33,9 @@ public:
     StylePickers(const Lists& lists, const QString& stylePrefix);
     ~StylePickers() override;
 
-    /// Fills all lists anew; nothing is selected then. Raises what the host raises.
+    /// Fills all lists again; then nothing is selected. Raises what the host raises.
     void Build();
-    /// Words all items anew after a change of language; what is listed and selected stays.
+    /// Translates all items again after a change of language; the items and the selections stay.
     void Rebuild();
 
     /// index: 0 line colour, 1 fill foreground, 2 fill background. Raises 9 (subscript out of range) for any
@@ -47,7 +47,7 @@ public:
     const LineStylePicker& LineStyles() const { return m_lineStyles; }
 
 signals:
-    /// A picker shows another value, or the same one anew.
+    /// A picker shows another value, or the same one again.
     void Changed(OvCombo* list);
 
 private:

@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-/// The words of picker items in the language of the moment; ask anew whenever a list is built.
+/// The words of picker items in the current language; call it each time a list is built.
 StyleWords TranslatedStyleWords();
 
 } // namespace Orvane

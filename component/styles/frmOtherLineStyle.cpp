@@ -21,7 +21,7 @@ namespace Orvane {
 
 namespace {
 
-// A text with the decimal separator of the person's language, as numbers are read here.
+// Replaces the decimal separator of the user's language with ".", as numbers are read here.
 QString WithPoint(QString text)
 {
     return text.replace(QLocale().decimalPoint(), QStringLiteral("."));
@@ -84,7 +84,7 @@ void frmOtherLineStyle::Prepare(qint16 thickness)
     m_ui->bedThickness->setText(ToText(qint32(std::abs(int(thickness)))));
     m_ui->bedThickness->selectAll();
     m_ui->bedThickness->setFocus();
-    // Last: showing the width counts as no change.
+    // Last: showing the width does not count as a change.
     m_ui->cmdOK->setEnabled(false);
 }
 
@@ -93,7 +93,7 @@ void frmOtherLineStyle::Place(TwipPoint topLeft)
     move(TwipsPerPixelOf(*this).ToPixels(topLeft));
 }
 
-// Only now the frame is known.
+// The frame is known only now.
 void frmOtherLineStyle::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -144,7 +144,7 @@ void frmOtherLineStyle::OnSpinChanged()
     GuardEvent(this, [this] { m_ui->bedThickness->setText(ToText(m_ui->WidthSpin->Value())); });
 }
 
-// ---- what the person does with the dialog
+// ---- what the user does with the dialog
 
 void frmOtherLineStyle::Confirm()
 {
@@ -188,7 +188,7 @@ bool frmOtherLineStyle::eventFilter(QObject*, QEvent* event)
     return true;
 }
 
-// A menu of its own, such as that of the entry, is no other window.
+// A menu of this dialog, such as that of the text box, does not count as another window.
 bool frmOtherLineStyle::event(QEvent* event)
 {
     const bool isHandled = QDialog::event(event);

@@ -14,7 +14,7 @@ class frmOtherLineStyle;
 }
 
 /// The small dialog that asks for the width of a solid line, in pixels or millimetres. The host shows and
-/// closes it. It never stays open behind another window: losing activation cancels it.
+/// closes it. It does not stay open when another window is activated: losing activation cancels it.
 ///
 ///     qint16 thickness = 0;
 ///     if (dialog.ChooseLineWidth(thickness, x, y))
@@ -27,15 +27,15 @@ public:
     explicit frmOtherLineStyle(QWidget* owner = nullptr);
     ~frmOtherLineStyle() override;
 
-    /// Asks for a width and returns true when it was not cancelled. thickness: pixels below 0, millimetres
-    /// from 0 on; left as it was when cancelled. x, y: where the upper left corner goes, in screen twips; it
-    /// moves by no more than needed to lie on the screen.
+    /// Asks for a width and returns true unless the user cancelled. thickness: pixels below 0, millimetres
+    /// from 0 upwards; unchanged if cancelled. x, y: the position of the upper left corner in screen twips;
+    /// it moves no more than needed to lie on the screen.
     ///
-    /// Returns false, without more, while it is open already, and when it is destroyed meanwhile. Raises what
-    /// the host raises, and 13 (type mismatch) or 6 (overflow) for a text that is no 16-bit number.
+    /// Returns false at once if it is already open, and false if it is destroyed meanwhile. Raises what the
+    /// host raises, and 13 (type mismatch) or 6 (overflow) for a text that is not a 16-bit number.
     bool ChooseLineWidth(qint16& thickness, Twips x, Twips y);
 
-    /// Escape and the close button of the window: the same as Cancel.
+    /// Escape and the close button of the window do the same as Cancel.
     void reject() override;
 
 protected:
@@ -48,7 +48,7 @@ private:
     enum class State {
         Closed,
         Open,
-        Asking, ///< a window of its own is in front of it, which may take the activation
+        Asking, ///< a window opened by this dialog is in front of it and may take the activation
     };
 
     void Init();

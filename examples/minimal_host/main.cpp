@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The smallest useful host: the layer control on a layer database, which is made when it is missing.
+// The smallest useful host: the layer control on a layer database, which is made if it is missing.
 //
 //     minimal_host map.ovl
 #include "hostkit/StandardClient.h"

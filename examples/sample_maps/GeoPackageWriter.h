@@ -15,7 +15,7 @@ namespace Orvane {
 
 /// Heights on a regular grid, row by row from the north.
 struct HeightGrid {
-    static constexpr float NoHeight = -32768; ///< no contour comes near such a place
+    static constexpr float NoHeight = -32768; ///< no contour line is drawn near such a point
 
     int columns = 0;
     int rows = 0;
@@ -38,7 +38,7 @@ public:
 
     /// Adds a layer with these features, all of one kind.
     void AddLayer(const QString& name, const FeatureSet& features);
-    /// Adds a layer with the contour lines of a grid, one each interval of height.
+    /// Adds a layer with the contour lines of a grid, one for each interval of height.
     void AddContours(const QString& name, const HeightGrid& grid, double interval);
 
 private:

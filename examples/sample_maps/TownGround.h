@@ -8,9 +8,9 @@
 
 namespace Orvane {
 
-/// The ground that the made-up town stands on. It is planned on a grid of blocks, (u, v) counting columns
-/// from the west and rows from the south, which a smooth warp turns into metres: so streets bend as in a
-/// grown town, and parcels, houses and lamps bend with them.
+/// The ground of the made-up town. It is planned on a grid of blocks; (u, v) count columns from the west and
+/// rows from the south. A smooth warp turns the grid into metres, so that streets bend as in an old town, and
+/// parcels, houses and lamps bend with them.
 namespace TownGround {
 
 inline constexpr int Columns = 24;
@@ -19,9 +19,9 @@ inline constexpr int Rows = 18;
 /// What a block is used for.
 enum class Use { Meadow, Field, Forest, Orchard, Park, Cemetery, Lake, Centre, Public, Industry, Houses };
 
-/// The metres of a grid point.
+/// The place of a grid point in metres.
 QPointF Metres(double u, double v);
-/// The row at which the river's middle runs in a column, and the railway's.
+/// The row of the middle of the river in a column, and that of the railway.
 double RiverRow(double u);
 double RailRow(double u);
 /// Metres above the sea at a place in metres.
@@ -29,7 +29,7 @@ double Height(double x, double y);
 
 Use UseOf(int column, int row);
 bool IsBuiltUp(Use use);
-/// The columns and rows whose lines are main roads; only main columns bridge the river.
+/// The columns and rows whose lines are main roads; only main columns have bridges over the river.
 bool IsMainColumn(int column);
 bool IsMainRow(int row);
 
@@ -47,9 +47,9 @@ class Chance
 {
 public:
     explicit Chance(unsigned seed) : m_engine(seed) { }
-    /// Between the two.
+    /// A number between the two.
     double Between(double least, double most) { return least + (most - least) * (m_engine() / 4294967296.0); }
-    /// True so often of one.
+    /// True with this probability, from 0 to 1.
     bool Happens(double probability) { return Between(0, 1) < probability; }
 
 private:

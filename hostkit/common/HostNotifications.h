@@ -24,7 +24,7 @@ signals:
     void LayersChanged(const QSet<qint32>& layerIDs);
     /// The layer was created, with its row stored.
     void LayerCreated(qint32 layerID);
-    /// The layer's rows are gone.
+    /// The layer's rows were removed.
     void LayerDeleted(qint32 layerID);
     void LayerRenamed(qint32 layerID, const QString& name);
     void GroupRenamed(qint32 groupID, const QString& name);

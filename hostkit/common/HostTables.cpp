@@ -14,7 +14,7 @@ namespace Orvane {
 
 namespace {
 
-StoreTable Table()
+StoreTable VersionsTable()
 {
     using Nulls = StoreColumn::Nulls;
     return {
@@ -28,7 +28,7 @@ StoreTable Table()
 
 qint32 HostTables::VersionOf(ILayerStore& store, const QString& name)
 {
-    if (!store.HasTable(Table().name))
+    if (!store.HasTable(VersionsTable().name))
         return 0;
     const auto row
         = store.OpenQuery(QStringLiteral("SELECT Version FROM HostTables WHERE Name = ?1"), {name});
@@ -37,7 +37,7 @@ qint32 HostTables::VersionOf(ILayerStore& store, const QString& name)
 
 void HostTables::SetVersion(ILayerStore& store, const QString& name, qint32 version)
 {
-    store.PrepareTable(Table());
+    store.PrepareTable(VersionsTable());
     store.Execute(
         QStringLiteral("INSERT INTO HostTables (Name, Version) VALUES (?1, ?2)"
                        " ON CONFLICT (Name) DO UPDATE SET Version = excluded.Version"),

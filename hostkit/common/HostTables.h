@@ -8,8 +8,9 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// The versions of the tables that a host keeps in its layer store, by the name of what they are for. They
-/// stand in the table HostTables; what has no row there has version 0, as older programs wrote none.
+/// The versions of the tables that a host keeps in its layer store, under a name for each purpose. They are
+/// stored in the table HostTables. A name without a row has version 0, because older programs stored no
+/// versions.
 namespace HostTables {
 
 /// 0 when none is stored.

@@ -26,7 +26,7 @@ public:
 
     /// Records that the layer now has that name.
     void Set(qint32 layerID, const QString& name);
-    /// Records that the layer is gone.
+    /// Records that the layer was removed.
     void Remove(qint32 layerID);
     /// Forgets all names: they are read again when next needed.
     void Invalidate();

@@ -39,7 +39,7 @@ qint32 NextLayerID(ILayerStore& store)
     return ToInt32(ToDouble(highest->Field("Highest")) + 1);
 }
 
-// Nearly always the codes have no gap; counting them is ten times as fast as looking at each.
+// The codes nearly always have no gap, and counting them is ten times as fast as reading each one.
 std::optional<double> HighestWithoutGap(ILayerStore& store)
 {
     const auto codes = store.OpenQuery(

@@ -23,10 +23,10 @@ class LayerRow
 {
 public:
     LayerRow();
-    /// The values of the row at hand, in all columns.
+    /// Copies the values of all columns of the current row.
     explicit LayerRow(const IRecordset& row);
 
-    /// column: a name of LayerColumns. Raises 9 (subscript out of range) for any other.
+    /// column: a name of LayerColumns. Raises 9 (subscript out of range) for any other name.
     void Set(std::string_view column, const Value& value);
 
     /// Stores the row with the next free LayerID, and returns that. Raises errors of the store.

@@ -8,10 +8,11 @@ namespace Orvane {
 
 namespace {
 
-constexpr double Largest = 100; // scale: denominator of index 1
+constexpr double Largest = 100; // largest scale: the denominator of index 1
 constexpr double Smallest = 200'000'000;
 
-// A step below the distance of neighbours keeps the rounded series strictly increasing.
+// The rounding step is smaller than the distance between neighbours, so the rounded series is strictly
+// increasing.
 double Readable(double denominator)
 {
     const double decade = std::pow(10.0, std::floor(std::log10(denominator) + 1e-9));

@@ -8,7 +8,7 @@ namespace Orvane {
 
 namespace {
 
-// Slashes would make groups, and a stored key may not be empty.
+// Slashes would create groups, and a stored key may not be empty.
 QString StoredKey(const QString& key)
 {
     return QStringLiteral("Editors/") + QString::fromLatin1(QUrl::toPercentEncoding(key, ": "));

@@ -10,8 +10,8 @@ class QSettings;
 
 namespace Orvane {
 
-/// Texts stored under keys, kept for the user beyond this run. Any text can be a key; keys are
-/// case-sensitive. An editor's view state is stored under "DrawStyleEditor::" + its ID.
+/// Texts stored under keys, kept for the user after this run. Any text can be a key; keys are case-sensitive.
+/// An editor's view state is stored under "DrawStyleEditor::" + its ID.
 class SettingsStore
 {
 public:

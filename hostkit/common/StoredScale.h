@@ -13,7 +13,7 @@ namespace StoredScale {
 
 /// Stored where there is no lower limit (scale index 0).
 inline constexpr double NoMinimum = 0;
-/// Stored where there is no upper limit (scale index 256); beyond any map scale, and a 32-bit integer.
+/// Stored where there is no upper limit (scale index 256); beyond any map scale, but still a 32-bit integer.
 inline constexpr double NoMaximum = 2'000'000'000;
 
 /// The scale index, 0 to 256, of a stored scale: 0 for NoMinimum and less, 256 for NoMaximum and more,

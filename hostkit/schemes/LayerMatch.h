@@ -24,7 +24,7 @@ std::vector<LayerIdentity> IdentitiesOf(ILayerDatabase& database);
 
 /// Maps the layers of one list that are also in another: from the ID in the first list to the ID in the
 /// second. Two layers are the same if they have the same code and no other layer in either list has it;
-/// otherwise, if they have the same name, where the first layer of that name counts.
+/// otherwise, if they have the same name. If several layers have that name, the first one is used.
 QHash<qint32, qint32>
 MatchLayers(const std::vector<LayerIdentity>& from, const std::vector<LayerIdentity>& to);
 

@@ -22,7 +22,7 @@ namespace {
     throw RunTimeError(int(number), description, QStringLiteral("LayerSchemes"));
 }
 
-QStringList InPersonsOrder(QStringList names)
+QStringList InUsersOrder(QStringList names)
 {
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -31,7 +31,7 @@ QStringList InPersonsOrder(QStringList names)
     return names;
 }
 
-// Joins the layers to their values in scheme ?1, where these differ.
+// Joins the layers to their values in scheme ?1 if the values differ.
 QString DifferingLayers()
 {
     return QStringLiteral(
@@ -44,7 +44,7 @@ QString DifferingLayersQuery()
     return QStringLiteral("SELECT Layers.LayerID FROM Layers, LayerSchemeValues WHERE") + DifferingLayers();
 }
 
-// The layers that scheme ?1 has other values for, or none.
+// The layers for which scheme ?1 has different values or no values.
 QString DifferingOrUnknownQuery()
 {
     return QStringLiteral("SELECT Layers.LayerID FROM Layers LEFT JOIN LayerSchemeValues"
@@ -67,7 +67,7 @@ QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 scheme
 
 QStringList LayerSchemes::Names()
 {
-    return IsReadable() ? InPersonsOrder(m_tables.Names()) : QStringList{tr("Standard")};
+    return IsReadable() ? InUsersOrder(m_tables.Names()) : QStringList{tr("Standard")};
 }
 
 QString LayerSchemes::Current()

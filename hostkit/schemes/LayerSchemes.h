@@ -33,7 +33,7 @@ public:
     /// The name of the current scheme; there always is one.
     QString Current();
 
-    /// As Current, but creates no scheme; for reading a map only.
+    /// As Current, but creates no scheme; for code that only reads a map.
     QString CurrentName();
 
     /// Creates a scheme from the layers as they are and makes it current. Raises HostError::DuplicateScheme.

@@ -11,7 +11,7 @@ namespace Orvane::SchemeColumns {
 
 namespace {
 
-// Each column through the form, in which %1 is its name.
+// Fills in the form for each column; %1 is the name of the column.
 QString Joined(const QString& form, const QString& separator)
 {
     QStringList pieces;
@@ -22,8 +22,8 @@ QString Joined(const QString& form, const QString& separator)
     return pieces.join(separator);
 }
 
-// What is compared of a column: both stored forms of "no limit" are one, as applying turns one into the
-// other.
+// The expression to compare for a column. Both stored forms of "no limit" count as equal, because applying
+// turns one into the other.
 QString Compared(const char* table, const LayerColumn& column)
 {
     QString value = QLatin1String(table) + QLatin1String(column.name);

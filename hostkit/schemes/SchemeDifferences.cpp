@@ -7,7 +7,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr qsizetype FewLayers = 1000; // from here on comparing all layers at once is faster
+constexpr qsizetype FewLayers = 1000; // above this, comparing all layers at once is faster
 
 } // namespace
 

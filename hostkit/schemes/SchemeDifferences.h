@@ -19,9 +19,9 @@ public:
     /// errors.
     qsizetype Count();
 
-    /// Notes that these layers may have changed, be new or be gone. Does not access the database.
+    /// Notes that these layers may have been changed, created or removed. Does not access the database.
     void Note(const QSet<qint32>& layerIDs);
-    /// Call it when the scheme is another one, or when it is not known which layers changed.
+    /// Call it when another scheme has become current, or when it is not known which layers changed.
     void Forget() { m_known = false; }
 
 private:

@@ -66,7 +66,7 @@ bool IsWholeInRange(double number)
         && number <= std::numeric_limits<qint32>::max();
 }
 
-// A value that the column can hold, Empty for a missing one; nothing for any other.
+// The value if the column can hold it, Empty if it is missing; nothing for any other value.
 std::optional<Value> ColumnValue(const QJsonValue& json, const LayerColumn& column)
 {
     if (json.isUndefined())

@@ -23,8 +23,8 @@ namespace Orvane {
 ///     ]}
 ///
 /// Values are as in the columns: colours as BGR numbers, scales as denominators, null for an unknown value.
-/// Unknown keys are ignored, so later programs may add some. A key that is missing, because an earlier
-/// program wrote the text, says nothing about its column.
+/// Unknown keys are ignored, so later programs may add some. If a key is missing, because an earlier program
+/// wrote the text, the document has no value for that column.
 struct SchemeDocument {
     Q_DECLARE_TR_FUNCTIONS(SchemeDocument)
 
@@ -32,7 +32,7 @@ public:
     /// The version that is written, and the newest one that can be read.
     static constexpr int Version = 1;
 
-    /// Numbers and nulls in the order of SchemeColumns; Empty for what is not said.
+    /// Numbers and nulls in the order of SchemeColumns; Empty for a missing value.
     using Values = std::array<Value, SchemeColumns::Count>;
 
     struct Layer {
@@ -46,7 +46,7 @@ public:
     /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
     QByteArray ToJson() const;
 
-    /// Reads the whole of such a text. Raises HostError::SchemeTextDamaged, which says what is wrong, and
+    /// Reads a complete JSON text. Raises HostError::SchemeTextDamaged, which says what is wrong, and
     /// HostError::SchemeTextTooNew.
     static SchemeDocument FromJson(const QByteArray& text);
 };

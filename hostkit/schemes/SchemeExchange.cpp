@@ -30,7 +30,8 @@ SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
     return layer;
 }
 
-// The layer of the map, to that of the document; of two that are one in the map the first counts.
+// From the layer in the map to the layer in the document. If two layers of the document match one in the map,
+// the first is used.
 QHash<qint32, qint32>
 Matches(const std::vector<LayerIdentity>& present, const SchemeDocument& scheme, SchemeImport& report)
 {
@@ -58,7 +59,7 @@ QSet<qint32> ListedLayers(ILayerStore& map)
     return layerIDs;
 }
 
-// The scheme of that name without values; it is made when it is missing.
+// The scheme of that name, without values; it is created if it is missing.
 qint32 EmptyScheme(ILayerStore& map, const QString& name)
 {
     SchemeTables tables(map);
@@ -69,7 +70,7 @@ qint32 EmptyScheme(ILayerStore& map, const QString& name)
     return known;
 }
 
-// What the document does not say of a layer stays as the layer has it.
+// Values that are missing in the document are taken from the layer.
 SchemeDocument::Values Completed(ILayerStore& map, qint32 layerID, SchemeDocument::Values values)
 {
     const bool saysAll
@@ -120,7 +121,7 @@ SchemeDocument Export(ILayerStore& map, const QString& schemeName)
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)
 {
     Transaction transaction(map);
-    LayerSchemes(map).Current(); // makes the first scheme
+    LayerSchemes(map).Current(); // creates the first scheme
     const std::vector<LayerIdentity> present = IdentitiesOf(map);
     SchemeImport report;
     report.name = scheme.name;

@@ -26,8 +26,8 @@ namespace SchemeExchange {
 SchemeDocument Export(ILayerStore& map, const QString& schemeName);
 
 /// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
-/// replaced. The layers and the current scheme stay as they are. What the document does not say of a layer is
-/// stored as the layer has it now.
+/// replaced. The layers and the current scheme stay as they are. For values that the document does not have,
+/// the present values of the layer are stored.
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme);
 
 } // namespace SchemeExchange

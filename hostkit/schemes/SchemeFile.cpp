@@ -35,7 +35,7 @@ QByteArray ContentOf(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         RaiseUnreadable(path, file.errorString());
-    // Asks for one byte more: a device may not tell its size.
+    // Reads one byte more than allowed, because the size of a device may not be known.
     const QByteArray content = file.read(LargestFile + 1);
     if (content.size() > LargestFile)
         RaiseUnreadable(path, FileTexts::tr("It is too large."));

@@ -8,7 +8,7 @@
 
 namespace Orvane {
 
-/// Layer schemes in files of their own, in the format of SchemeDocument, to pass from map to map.
+/// Layer schemes in files of their own, in the format of SchemeDocument, for copying them from map to map.
 namespace SchemeFile {
 
 /// Larger files are rejected without being read. A scheme of 100,000 layers takes a third of this size.

@@ -50,7 +50,7 @@ StoreTable ValuesTable()
         Values,
         {{layerID, StoreType::Whole, Nulls::Refused, {}, QStringLiteral("Layers"), layerID},
          {schemeID, StoreType::Whole, Nulls::Refused}},
-        {layerID, schemeID}}; // layer first: a deleted layer's values are found by it
+        {layerID, schemeID}}; // layer first, to find the values of a deleted layer
     for (const LayerColumn& column : SchemeColumns::All)
         table.columns.push_back({QString::fromLatin1(column.name), TypeOf(column.kind)});
     return table;

@@ -19,15 +19,15 @@ class SchemeTables
 public:
     /// An ID that no scheme has.
     static constexpr qint32 NoScheme = 0;
-    /// The version of the tables that are written, and the newest ones that can be read: a column that
-    /// schemes keep is a change of them.
+    /// The version of the tables that is written, and the newest one that can be read. A new column that
+    /// schemes keep changes the tables.
     static constexpr qint32 Version = NewestLayerColumn();
 
     /// database: not owned; outlives this object.
     explicit SchemeTables(ILayerStore& database) : m_database(database) { }
 
-    /// Creates the tables that are missing, and brings older ones up to date: schemes that say nothing about
-    /// a column get the layers' own values for it.
+    /// Creates the tables that are missing, and brings older ones up to date: if schemes have no values for a
+    /// column, they get the layers' own values for it.
     void Create();
     /// True when the tables exist and contain a scheme. Brings older tables up to date; in a store that
     /// cannot be written, these count as missing. Raises HostError::TablesTooNew for newer ones.

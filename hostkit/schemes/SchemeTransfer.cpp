@@ -65,7 +65,7 @@ void SchemeTransfer::AddLayer(qint32 layerID)
 
 void SchemeTransfer::CopyValues(qint32 schemeID, qint32 newSchemeID)
 {
-    // Two layers there may be one here: the first one's values count.
+    // Two layers of the source may match one layer of the target: the values of the first are kept.
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)"
                          " ON CONFLICT DO NOTHING")

@@ -15,7 +15,7 @@ public:
     /// Neither is owned; both outlive this object.
     SchemeTransfer(ILayerStore& from, ILayerStore& to);
 
-    /// Adds the layers that the target database does not have to it, with all their properties.
+    /// Adds the layers that are missing in the target database, with all their properties.
     void AddMissingLayers();
 
     /// Copies each scheme with the values of the layers that the target database has. A scheme of the same

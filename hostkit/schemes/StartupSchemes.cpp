@@ -16,7 +16,7 @@ namespace Orvane::StartupSchemes {
 
 void Save(ILayerStore& map, const QString& startupFile)
 {
-    LayerSchemes(map).Current(); // makes the first scheme
+    LayerSchemes(map).Current(); // creates the first scheme
     QDir().mkpath(QFileInfo(startupFile).absolutePath());
     const auto startup
         = QFile::exists(startupFile) ? LayerStores::Open(startupFile) : LayerStores::Create(startupFile);

@@ -10,7 +10,7 @@ namespace Orvane {
 void CallTrace::Write(const QString& line)
 {
     m_device.write(line.toUtf8() + '\n');
-    // A trace is read most when the program did not end well.
+    // Flushes each line, because a trace is most useful after a crash.
     if (auto* file = qobject_cast<QFileDevice*>(&m_device))
         file->flush();
 }

@@ -45,7 +45,7 @@ TracingEditor::~TracingEditor() = default;
 
 void TracingEditor::IStyleEditor_StyleFilter(const IStyleFilter* filter)
 {
-    const auto former = std::move(m_tracedFilter); // the editor holds it until the call is made
+    const auto former = std::move(m_tracedFilter); // the editor uses it until the call is made
     m_trace.Command(
         "editor.StyleFilter", [&] { m_editor.StyleFilter(Traced(filter)); }, FilterWord(filter));
 }
@@ -107,7 +107,7 @@ const IStyleFilter* TracingEditor::IStyleEditorForm_Filter() const
 
 void TracingEditor::IStyleEditorForm_Filter(const IStyleFilter* filter)
 {
-    const auto former = std::move(m_tracedFilter); // the editor holds it until the call is made
+    const auto former = std::move(m_tracedFilter); // the editor uses it until the call is made
     m_trace.Command(
         "form.Filter", [&] { Form().Filter(Traced(filter)); }, FilterWord(filter));
 }

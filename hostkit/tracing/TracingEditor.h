@@ -14,7 +14,8 @@ class CallTrace;
 class TracingEditor : public IStyleEditor, public IStyleEditorForm
 {
 public:
-    /// Neither is owned. editor: also implements IStyleEditorForm; make no call after it is destroyed.
+    /// Neither is owned. editor: also implements IStyleEditorForm; do not use this object after it is
+    /// destroyed.
     TracingEditor(IStyleEditor& editor, CallTrace& trace);
     ~TracingEditor() override;
 

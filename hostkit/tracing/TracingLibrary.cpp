@@ -36,7 +36,7 @@ IStyleEditor* TracingLibrary::IStyleEditorLibrary_NewStyleEditor(const QString& 
 {
     const auto create = [&] { return m_library.NewStyleEditor(styleEditorID); };
     IStyleEditor* editor = m_trace.Command("library.NewStyleEditor", create, styleEditorID);
-    // A new editor may stand where an ended one stood.
+    // A new editor may have the same address as a destroyed one.
     std::erase_if(m_editors, [editor](const auto& traced) { return traced->IsFor(editor); });
     return TracedEditor(editor);
 }

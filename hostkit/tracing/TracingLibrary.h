@@ -16,8 +16,8 @@ class TracingEditor;
 /// makes to its filter, as "filter.Member(...)".
 ///
 /// The editors that it returns implement IStyleEditor and IStyleEditorForm, and are owned by this object.
-/// They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use an editor once this
-/// object is gone. Destroy the wrapped library after this object.
+/// They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use an editor after this
+/// object is destroyed. Destroy the wrapped library after this object.
 class TracingLibrary : public IStyleEditorLibrary
 {
 public:

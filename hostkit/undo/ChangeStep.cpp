@@ -25,7 +25,7 @@ bool ChangeStep::Absorb(const IUndoStep& next)
     return true;
 }
 
-// Each run leaves behind what it really changed, so that the next one takes back exactly that.
+// Each run stores what it actually changed, so that the next run undoes exactly that.
 void ChangeStep::Run()
 {
     m_surroundings.begin();

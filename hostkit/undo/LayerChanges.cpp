@@ -32,7 +32,7 @@ public:
             m_layersInSchemes.insert(qint32(row.key));
     }
 
-    // Values come and go with their layer; that tells nothing about the schemes.
+    // Values that were added or removed together with their layer do not count as changes of the schemes.
     LayerChanges Finish()
     {
         m_layersInSchemes -= m_changes.created;

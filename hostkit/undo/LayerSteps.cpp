@@ -79,7 +79,8 @@ void LayerSteps::EndEdits()
         Keep([this](const Changeset& changes) { return EditText(changes); }, ChangeStep::Joins::No);
 }
 
-// What was done is done: a step that cannot be kept must not look like a failure of what it would take back.
+// The operation is already done. If its step cannot be kept, that must not look like a failure of the
+// operation.
 void LayerSteps::Keep(const std::function<QString(const Changeset&)>& text, ChangeStep::Joins joins)
 {
     const std::unique_ptr<ChangeRecorder> recorder = std::move(m_recorder);

@@ -17,7 +17,8 @@ SchemeSteps::SchemeSteps(ILayerStore& database, LayerSteps& steps, HostNotificat
     ListenToChanges();
 }
 
-// Whoever changes layers tells it by these signals; first of all listeners, so that others may ask.
+// All changes to layers are reported by these signals. Connects before other listeners, so that they can ask
+// for the result.
 void SchemeSteps::ListenToChanges()
 {
     const auto note = [this](qint32 layerID) { m_differences.Note({layerID}); };
@@ -48,7 +49,7 @@ void SchemeSteps::Load(const QString& name)
 
 void SchemeSteps::Create(const QString& name)
 {
-    m_schemes.Current(); // makes the first scheme, which is no step
+    m_schemes.Current(); // creates the first scheme, which is not a step
     m_steps.Record([&] {
         m_schemes.Create(name);
         return tr("Creation of the Scheme \"%1\"").arg(NameInStep(name));
@@ -74,7 +75,7 @@ void SchemeSteps::Delete(const QString& name)
         return tr("Deletion of the Scheme \"%1\"").arg(NameInStep(name));
     };
     const QString left = std::exchange(m_justLeft, {});
-    const bool isOneDeed = !left.isEmpty() && left == name; // the person pressed one button
+    const bool isOneDeed = !left.isEmpty() && left == name; // the user pressed one button
     m_steps.Record(remove, isOneDeed ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No);
     Tell();
 }

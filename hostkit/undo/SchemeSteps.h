@@ -56,7 +56,7 @@ private:
     LayerSchemes m_schemes;
     SchemeDifferences m_differences{m_schemes};
     QObject m_context; // cancels queued calls and connections when this object is destroyed
-    QString m_justLeft; // the scheme that the last step left; empty once the event loop runs again
+    QString m_justLeft; // was current before the last step; empty once the event loop runs again
 };
 
 } // namespace Orvane

@@ -26,7 +26,7 @@ public:
     using QObject::QObject;
 
     /// Adds a step that was just done; steps that were undone before can then no longer be redone. While Undo
-    /// or Redo is running, nothing is added: what happens then belongs to the running step.
+    /// or Redo is running, nothing is added, because all changes belong to the running step.
     void Add(std::unique_ptr<IUndoStep> step);
 
     bool CanUndo() const { return m_done > 0; }

@@ -15,7 +15,7 @@ void EditorWindows::Show(QWidget* form)
     Forget(form);
     m_forms.emplace_back(form);
     if (m_mainWindow && m_mainWindow != form) {
-        form->winId(); // makes the window handle
+        form->winId(); // creates the window handle
         form->windowHandle()->setTransientParent(m_mainWindow->windowHandle());
     }
     form->show();

@@ -12,7 +12,7 @@
 
 namespace Orvane {
 
-/// One Run of a form: shows it, waits until it is hidden or destroyed, and gives it back as it was.
+/// One Run of a form: shows it, waits until it is hidden or destroyed, and restores its former state.
 class ModalSession : public QObject
 {
 public:
@@ -49,7 +49,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // A spontaneous hide is the window system's: the form is minimised, not closed.
+        // A spontaneous hide comes from the window system: the form is minimised, not closed.
         if (event->type() == QEvent::Hide && !event->spontaneous())
             m_loop.quit();
         return QObject::eventFilter(watched, event);
@@ -61,7 +61,7 @@ private:
         const QWidget* active = QApplication::activeWindow();
         if (!active || active == m_form || m_form->parentWidget())
             return;
-        m_form->winId(); // makes the window handle
+        m_form->winId(); // creates the window handle
         m_form->windowHandle()->setTransientParent(active->windowHandle());
     }
 

@@ -37,7 +37,7 @@ QPointF ArrowDirection(int key)
     }
 }
 
-// Of all features, or of the picture under them when there are none.
+// The bounds of all features, or of the picture under them if there are no features.
 Box BoundsOf(const std::vector<MapLayer>& layers, const RasterBackdrop* backdrop)
 {
     Box bounds;
@@ -58,7 +58,7 @@ MapCanvas::MapCanvas(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_drawSoon.setSingleShot(true);
     m_drawSoon.setInterval(DrawDelay);
-    connect(&m_drawSoon, &QTimer::timeout, this, &MapCanvas::DrawAnew);
+    connect(&m_drawSoon, &QTimer::timeout, this, &MapCanvas::DrawAgain);
     connect(&m_picture, &MapPicture::Changed, this, qOverload<>(&QWidget::update));
 }
 
@@ -257,7 +257,7 @@ void MapCanvas::ShowCursor()
     setCursor(tool ? tool->Cursor() : QCursor(Qt::OpenHandCursor));
 }
 
-void MapCanvas::DrawAnew()
+void MapCanvas::DrawAgain()
 {
     m_picture.SetView(m_view, DenominatorOf(m_view), devicePixelRatioF());
 }

@@ -13,49 +13,50 @@ namespace Orvane {
 class MapOverlay;
 class MapTool;
 
-/// The window on the map. Drag pans, the wheel zooms at the pointer, a double click zooms in; arrow keys pan,
-/// + and - zoom, Home shows everything. A tool takes over what it has a use for; the middle button, the wheel
-/// and the arrow keys move the map under any tool.
+/// The widget that shows the map. Dragging pans, the wheel zooms at the pointer, a double click zooms in;
+/// arrow keys pan, + and - zoom, Home shows everything. A tool may handle some of these gestures itself; the
+/// middle button, the wheel and the arrow keys always move the map.
 ///
-/// While a new picture is being drawn the last one is shown moved and stretched, so that the map follows the
-/// hand at once.
+/// While a new picture is being drawn, the last one is shown moved and scaled, so that the map follows the
+/// pointer at once.
 class MapCanvas : public QWidget
 {
     Q_OBJECT
 public:
     explicit MapCanvas(QWidget* parent = nullptr);
 
-    /// Draws these layers from now on; the view stays. metresPerUnit: length of a map unit, for the scale.
+    /// Replaces the layers; the view stays. metresPerUnit: length of a map unit, for the scale.
     void SetLayers(std::vector<MapLayer> layers, double metresPerUnit);
-    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is seen.
+    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is visible.
     void ShowAll(
         std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit);
     /// The layers as they were set.
     const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
 
-    /// Lays a picture under all layers; nullptr for none.
+    /// Sets the picture under all layers; nullptr for none.
     void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
 
     const MapView& View() const { return m_view; }
     void SetView(const MapView& view);
-    /// n of the scale 1:n.
+    /// The n of the scale 1:n.
     double ScaleDenominator() const;
 
-    /// The background painter, whose signals tell what is being drawn.
+    /// The picture that is drawn in the background; its signals report the drawing.
     const MapPicture& Picture() const { return m_picture; }
 
-    /// The tool in hand; nullptr for none, which leaves pan and zoom. Not owned.
+    /// Sets the current tool; nullptr for none, then gestures only pan and zoom. Not owned.
     void SetTool(MapTool* tool);
     MapTool* Tool() const { return m_gestures.Tool(); }
 
-    /// Painted over the map from now on, above those added before. Not owned; to be removed before it ends.
+    /// Adds an overlay, painted over the map and over earlier overlays. Not owned; remove it before it is
+    /// destroyed.
     void AddOverlay(const MapOverlay* overlay);
     void RemoveOverlay(const MapOverlay* overlay);
 
     QSize sizeHint() const override { return {800, 600}; }
 
 public slots:
-    /// Shows everything that there is to show.
+    /// Shows all layers and the picture under them completely.
     void ZoomToAll();
     void ZoomIn();
     void ZoomOut();
@@ -63,13 +64,13 @@ public slots:
 signals:
     /// The part of the map that is shown changed.
     void ViewChanged();
-    /// The layers were set, which may have changed any of them.
+    /// The layers were set; any of them may have changed.
     void LayersChanged();
-    /// Another tool is in hand.
+    /// The current tool has changed.
     void ToolChanged();
-    /// The pointer is over that map point.
+    /// The pointer has moved to that map point.
     void PointerMoved(QPointF map);
-    /// The pointer is over the map no longer.
+    /// The pointer has left the map.
     void PointerLeft();
 
 protected:
@@ -88,7 +89,7 @@ private:
     void ShowCursor();
     void PaintMap(QPainter& painter);
     void PaintOverlays(QPainter& painter);
-    void DrawAnew();
+    void DrawAgain();
     double DenominatorOf(const MapView& view) const;
     QPointF MiddlePixel() const;
 
@@ -99,7 +100,7 @@ private:
     bool m_dragging = false;
     ToolGestures m_gestures;
     std::vector<const MapOverlay*> m_overlays;
-    QTimer m_drawSoon; // gathers the many small steps of a drag or a wheel turn
+    QTimer m_drawSoon; // combines the many small steps of a drag or a wheel turn
 };
 
 } // namespace Orvane

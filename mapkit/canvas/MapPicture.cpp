@@ -13,7 +13,7 @@ namespace {
 
 constexpr qint64 UnfinishedAfter = 300; // milliseconds
 
-// The IDs of the layers that are new, gone, or would be drawn into other pixels.
+// The IDs of the layers that were added or removed, or that now look different.
 QSet<qint32> ChangedLayers(const std::vector<MapLayer>& before, const std::vector<MapLayer>& after)
 {
     QHash<qint32, const MapLayer*> known;
@@ -30,7 +30,7 @@ QSet<qint32> ChangedLayers(const std::vector<MapLayer>& before, const std::vecto
     return changed;
 }
 
-// A picture too large for the memory stays empty; the person can zoom or hide layers.
+// A picture that is too large for memory stays empty; the user can zoom in or hide layers.
 SheetImage DrawOrNothing(
     const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled)
 {
@@ -218,7 +218,7 @@ void MapPicture::Compose()
     emit Changed();
 }
 
-// Until the view's own image is there the last one is shown moved and stretched.
+// Until the image for the present view is drawn, the last one is shown moved and scaled.
 void MapPicture::PlaceBackdrop(QPainter& painter) const
 {
     if (m_backdropImage.isNull())

@@ -19,13 +19,14 @@ class QPainter;
 namespace Orvane {
 
 /// The picture of a map, drawn in the background and kept up to date with the least drawing: a change of one
-/// layer draws that layer's image anew, a change of order or visibility only lays the images together.
+/// layer draws only that layer's image again, and a change of order or visibility only combines the images
+/// again.
 ///
 ///     picture.SetLayers(document.Layers());
 ///     picture.SetView(view, scaleDenominator, devicePixelRatio());
 ///     connect(&picture, &MapPicture::Changed, this, [this] { update(); });
 ///
-/// All members belong to the thread that made it; nothing here raises.
+/// Use all members only on the thread that created the object. Nothing here raises.
 class MapPicture : public QObject
 {
     Q_OBJECT
@@ -34,32 +35,32 @@ public:
     /// Cancels what is being drawn and waits for it.
     ~MapPicture() override;
 
-    /// Replaces the layers, known by their IDs.
+    /// Replaces the layers, which are identified by their IDs.
     void SetLayers(std::vector<MapLayer> layers);
-    /// Lays a picture under all layers; nullptr for none.
+    /// Sets the picture under all layers; nullptr for none.
     void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
-    /// Shows another part of the map. Drawing of the part before is cancelled.
+    /// Shows another part of the map. Drawing of the former part is cancelled.
     void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
-    /// All three at once, which draws once.
+    /// Sets all three, and draws only once.
     void Show(
         std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
         double scaleDenominator, double devicePixelRatio);
 
     const std::vector<MapLayer>& Layers() const { return m_layers; }
     const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
-    /// The last picture; null before the first.
+    /// The last picture; null before the first one is drawn.
     const QImage& Image() const { return m_image; }
-    /// The view that Image shows, which may be an earlier one while drawing goes on.
+    /// The view that Image shows; while drawing is in progress, it may be an earlier view.
     const MapView& ImageView() const { return m_imageView; }
     bool IsBusy() const { return m_pending > 0; }
 
 signals:
-    /// Image is another one.
+    /// Image has changed.
     void Changed();
     void BusyChanged(bool busy);
-    /// A layer was drawn anew.
+    /// A layer was drawn again.
     void LayerDrawn(qint32 layerID);
-    /// The picture under the layers cannot be read; told once a picture.
+    /// The picture under the layers cannot be read; emitted once per picture.
     void BackdropFailed(const QString& reason);
 
 private:

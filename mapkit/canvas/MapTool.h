@@ -13,7 +13,7 @@ namespace Orvane {
 
 class MapView;
 
-/// Something that is painted over the map at each refresh of the window.
+/// Something that is painted over the map each time the canvas is painted.
 class MapOverlay
 {
 public:
@@ -21,54 +21,55 @@ public:
     MapOverlay(const MapOverlay&) = delete;
     MapOverlay& operator=(const MapOverlay&) = delete;
 
-    /// painter: stands on the view's logical pixels; its state need not be restored. Must not raise.
+    /// painter: in logical pixels of the view; its state need not be restored. Must not raise.
     virtual void Paint(QPainter& painter, const MapView& view) const = 0;
 
 protected:
     MapOverlay() = default;
 };
 
-/// What the pointer does on the map. A canvas with a tool hands it the person's gestures; what the tool
-/// leaves moves the map. Positions are logical pixels of the canvas. Members may raise: the canvas guards
-/// them.
+/// What the pointer does on the map. The canvas passes the user's gestures to its current tool; gestures that
+/// the tool does not handle move the map. Positions are in logical pixels of the canvas. Members may raise:
+/// the canvas catches and shows errors.
 ///
 ///     canvas.SetTool(&identify);
 ///
-/// A tool is made once and taken in hand many times.
+/// A tool is created once and can be made current many times.
 class MapTool : public QObject, public MapOverlay
 {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    /// The pointer over the map while the tool is in hand.
+    /// The cursor over the map while the tool is current.
     virtual QCursor Cursor() const { return Qt::ArrowCursor; }
-    /// The tool was taken in hand.
+    /// The tool has become the current tool.
     virtual void Begin() { }
-    /// The tool was put away; what it had begun is given up.
+    /// The tool is no longer current; cancels what it has begun.
     virtual void End() { }
 
-    /// The left button went down and up in one place.
+    /// The left button was pressed and released in one place.
     virtual void Click(QPointF pixel, Qt::KeyboardModifiers modifiers);
-    /// The second click of two in one place; Click came for the first. False leaves it to the canvas.
+    /// The second of two clicks in one place; Click was called for the first. Return false to let the canvas
+    /// handle it.
     virtual bool DoubleClick(QPointF pixel);
-    /// The right button went down.
+    /// The right button was pressed.
     virtual void RightClick(QPointF pixel);
-    /// The pointer began to move with the left button down, from that pixel. False lets the map move, true
-    /// has DragTo and DragEnd follow.
+    /// The pointer began to move with the left button down, from that pixel. Return false to let the map
+    /// move, true to get calls of DragTo and DragEnd.
     virtual bool DragBegin(QPointF from, Qt::KeyboardModifiers modifiers);
     virtual void DragTo(QPointF pixel);
     virtual void DragEnd(QPointF pixel);
     /// The pointer moved with no button down.
     virtual void Hover(QPointF pixel);
-    /// True when the tool had a use for the key.
+    /// Returns true if the tool has handled the key.
     virtual bool Key(const QKeyEvent& event);
 
-    /// Nothing.
+    /// Paints nothing.
     void Paint(QPainter& painter, const MapView& view) const override;
 
 signals:
-    /// What the tool has to say about the last gesture; empty for nothing.
+    /// A message about the last gesture; empty for none.
     void StatusChanged(const QString& text);
 };
 

@@ -11,22 +11,22 @@ namespace Orvane {
 
 class MapTool;
 
-/// Turns the mouse events of a canvas into the gestures of the tool in hand: a click when the pointer stayed,
-/// a drag when it went farther than the desktop's drag distance. Without a tool nothing is taken.
+/// Converts the mouse events of a canvas into gestures of the current tool: a click if the pointer did not
+/// move, a drag if it moved farther than the desktop's drag distance. Without a tool no event is handled.
 ///
-/// Passes on what the tool raises.
+/// Errors that the tool raises are passed on.
 class ToolGestures
 {
 public:
     enum class Outcome { Nothing, Taken, PanFromPress };
 
-    /// Gives up the gesture that is going on. tool: not owned; nullptr for none.
+    /// Sets the current tool, and cancels the gesture that is in progress. tool: not owned; nullptr for none.
     void SetTool(MapTool* tool);
     MapTool* Tool() const;
 
     /// True when the event is the tool's.
     bool Press(const QMouseEvent& event);
-    /// PanFromPress when a drag began that the tool has no use for.
+    /// PanFromPress if a drag began that the tool does not handle.
     Outcome Move(const QMouseEvent& event);
     void Release(const QMouseEvent& event);
     /// True when the event is the tool's.
@@ -34,7 +34,7 @@ public:
     /// True when the event is the tool's.
     bool Key(const QKeyEvent& event);
 
-    /// Where the left button went down last.
+    /// Where the left button was last pressed.
     QPointF PressedAt() const { return m_pressedAt; }
 
 private:

@@ -7,7 +7,7 @@
 
 namespace Orvane {
 
-/// Keeps GDAL's messages of this thread off the terminal while it lives, and remembers the first failure.
+/// Keeps GDAL's messages of this thread off the terminal during its lifetime, and stores the first failure.
 class GdalErrors
 {
 public:
@@ -16,7 +16,7 @@ public:
     GdalErrors(const GdalErrors&) = delete;
     GdalErrors& operator=(const GdalErrors&) = delete;
 
-    /// GDAL's own words; empty when nothing failed. Warnings do not count.
+    /// GDAL's message for the first failure; empty if nothing failed. Warnings do not count.
     const QString& First() const { return m_first; }
 
 private:

@@ -10,12 +10,12 @@ class QWidget;
 
 namespace Orvane {
 
-/// Tells the person about an error, in a message box over the window. Never raises.
+/// Shows the user an error, in a message box over the window. Never raises.
 void ShowError(QWidget* owner, const std::exception& error) noexcept;
 
-/// The guard at the top of every slot and event handler: runs the action and shows what it raises, so that no
-/// exception reaches the event loop. What the person cancelled ends silently. True when the action ended
-/// well.
+/// Use this at the top of every slot and event handler: it runs the action and shows errors that it raises,
+/// so that no exception reaches the event loop. Nothing is shown if the user cancelled. Returns true if the
+/// action succeeded.
 template <typename Action> bool Guard(QWidget* owner, Action&& action) noexcept
 {
     try {

@@ -6,15 +6,15 @@
 
 namespace Orvane {
 
-/// Raised by work that the person cancelled; no error, and not to be reported as one.
+/// Raised by work that the user cancelled. It is not an error; do not report it as one.
 class Cancelled : public std::exception
 {
 public:
     const char* what() const noexcept override { return "cancelled"; }
 };
 
-/// How far a long piece of work has come, and whether it is still wanted. The worker reports, anybody else
-/// looks or cancels; every member may be called on any thread.
+/// The progress of a long task, and whether it was cancelled. The worker reports; other code reads the
+/// progress or cancels. Every member may be called on any thread.
 class Progress
 {
 public:
@@ -24,9 +24,9 @@ public:
 
     void Cancel() { m_cancelled = true; }
     bool IsCancelled() const { return m_cancelled; }
-    /// For workers that look at a flag.
+    /// For workers that check a flag.
     const std::atomic<bool>& CancelledFlag() const { return m_cancelled; }
-    /// Raises Cancelled when the work is no longer wanted.
+    /// Raises Cancelled if the work was cancelled.
     void StopIfCancelled() const
     {
         if (m_cancelled)

@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// An upright rectangle in map units. A new one is empty; one around a single point has no width, but is not
-/// empty.
+/// A rectangle in map units, parallel to the axes. A new box is empty. A box around a single point has no
+/// width, but is not empty.
 struct Box {
     double minX = std::numeric_limits<double>::infinity();
     double minY = std::numeric_limits<double>::infinity();
@@ -20,7 +20,7 @@ struct Box {
     double Width() const { return maxX - minX; }
     double Height() const { return maxY - minY; }
 
-    /// Grows to hold the point.
+    /// Enlarges the box to contain the point.
     void Add(QPointF point)
     {
         minX = std::min(minX, point.x());
@@ -29,7 +29,7 @@ struct Box {
         maxY = std::max(maxY, point.y());
     }
 
-    /// Grows to hold the other box; an empty one changes nothing.
+    /// Enlarges the box to contain the other box; an empty one changes nothing.
     void Add(const Box& other)
     {
         minX = std::min(minX, other.minX);
@@ -38,7 +38,7 @@ struct Box {
         maxY = std::max(maxY, other.maxY);
     }
 
-    /// True when the two share at least a point; an empty box meets nothing.
+    /// True when the boxes share at least one point; an empty box intersects nothing.
     bool Intersects(const Box& other) const
     {
         return minX <= other.maxX && other.minX <= maxX && minY <= other.maxY && other.minY <= maxY;

@@ -15,7 +15,7 @@ constexpr double WorldWide = 150; // degrees of longitude
 constexpr auto WorldSystem = "EPSG:8857"; // Equal Earth
 constexpr auto RegionSystem = "EPSG:3857"; // web Mercator
 
-// Empty where the text is no system.
+// Empty if the text is not a system.
 OGRSpatialReference SystemOf(const QString& text)
 {
     const GdalErrors quiet;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double LargestDegrees = 90; // of latitude
 constexpr double Tolerance = 1; // map units
-constexpr int Digits = 3; // as many as a hand is exact
+constexpr int Digits = 3; // significant digits; pointing with the mouse is no more exact
 
 OGRSpatialReference Known(const QString& system)
 {
@@ -59,7 +59,7 @@ double PlaneArea(std::span<const QPointF> ring)
 {
     double twice = 0;
     for (size_t i = 0; i < ring.size(); ++i) {
-        const QPointF from = ring[i] - ring[0]; // small numbers keep the digits
+        const QPointF from = ring[i] - ring[0]; // small numbers lose no digits
         const QPointF to = ring[(i + 1) % ring.size()] - ring[0];
         twice += from.x() * to.y() - to.x() * from.y();
     }
@@ -152,7 +152,7 @@ std::optional<std::vector<QPointF>> EarthMeasure::InDegrees(std::span<const QPoi
     return degrees;
 }
 
-// Beyond its edge a projection gives positions that lead back to another place.
+// Outside its valid area a projection gives positions that transform back to a different place.
 std::optional<QPointF> EarthMeasure::InDegrees(QPointF map) const
 {
     double x = map.x();

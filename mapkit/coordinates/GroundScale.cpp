@@ -17,8 +17,8 @@ namespace {
 
 constexpr double SemiMajorAxis = 6378137; // metres, WGS 84
 constexpr double EccentricitySquared = 0.00669437999014;
-constexpr double MostStretch = 1000; // beyond it the point is off the projection's earth
-constexpr double StepMetres = 100; // short against the earth's curvature, long against rounding
+constexpr double MostStretch = 1000; // above it the point is outside the projection's valid area
+constexpr double StepMetres = 100; // small for the earth's curvature, large for rounding errors
 
 using DegreePair = std::array<QPointF, 2>;
 
@@ -38,7 +38,7 @@ std::optional<DegreePair> ToDegrees(const QString& system, const DegreePair& map
     return DegreePair{QPointF(x[0], y[0]), QPointF(x[1], y[1])};
 }
 
-// Two points so near each other that the ellipsoid between them is flat.
+// The distance of two points that are so near each other that the ellipsoid between them is almost flat.
 double Metres(const DegreePair& points)
 {
     const double latitude = qDegreesToRadians((points[0].y() + points[1].y()) / 2);

@@ -6,9 +6,9 @@
 
 namespace Orvane {
 
-/// How many metres on the ground one map unit east of that map point is. Unlike MetresPerUnit it knows how
-/// the projection stretches there: web Mercator at 60° north has half a metre a unit. Falls back to
-/// MetresPerUnit where the point lies off the earth or the system is unknown.
+/// The length on the ground, in metres, of one map unit to the east at that map point. Unlike MetresPerUnit,
+/// it takes the distortion of the projection into account: in web Mercator at 60° north it is half a metre
+/// per unit. Returns MetresPerUnit if the point is not on the earth or the system is unknown.
 double GroundMetresPerUnit(const QString& system, QPointF map);
 
 } // namespace Orvane

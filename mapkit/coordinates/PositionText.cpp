@@ -72,7 +72,7 @@ QString PositionText::Of(QPointF map) const
                QCoreApplication::translate("PositionText", "W"));
 }
 
-// Beyond its edge a projection gives positions that lead back to another place.
+// Outside its valid area a projection gives positions that transform back to a different place.
 bool PositionText::IsOnEarth(QPointF map, double longitude, double latitude) const
 {
     if (!(std::abs(longitude) <= 180 && std::abs(latitude) <= 90))

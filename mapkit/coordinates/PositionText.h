@@ -10,7 +10,7 @@ class OGRCoordinateTransformation;
 
 namespace Orvane {
 
-/// Writes positions of a map as latitude and longitude, in degrees for a person.
+/// Formats positions of a map for the user, as latitude and longitude in degrees.
 class PositionText
 {
 public:
@@ -20,7 +20,8 @@ public:
     PositionText& operator=(PositionText&&) noexcept;
     ~PositionText();
 
-    /// "48.1374° N, 11.5755° E"; empty off the earth, and plain map units where the system is not known.
+    /// "48.1374° N, 11.5755° E"; empty if the point is not on the earth. In map units if the system is not
+    /// known.
     QString Of(QPointF map) const;
 
 private:

@@ -12,7 +12,7 @@ namespace Orvane {
 
 namespace {
 
-// The first field that the first fitting test fits; the tests come best first.
+// The first field that passes the first test that any field passes; the best test comes first.
 template <typename... Tests> QString FirstOf(const std::vector<SourceField>& fields, const Tests&... tests)
 {
     QString name;

@@ -15,15 +15,15 @@ struct SourceField;
 /// What an attribute is read for.
 enum class AttributeUse { Labels, Classes };
 
-/// The name of the attribute that fits best: a name for labels, a number that is no identifier for classes;
-/// empty when no attribute can serve.
+/// The name of the most suitable attribute: a name for labels; for classes, a number that is not an
+/// identifier. Empty if no attribute is suitable.
 QString BestAttribute(const std::vector<SourceField>& fields, AttributeUse use);
 
-/// One attribute of a layer's features. Immutable once read, for any thread.
+/// One attribute of a layer's features. Does not change after it is read, so that any thread may use it.
 struct AttributeColumn {
-    QString attribute; ///< which was read; empty when the source has none that can serve
-    std::vector<QString> texts; ///< for labels, one a feature; empty when there is no attribute
-    std::vector<double> numbers; ///< for classes, one a feature, not a number where there is none; or empty
+    QString attribute; ///< the attribute that was read; empty if the source has no suitable one
+    std::vector<QString> texts; ///< for labels, one per feature; empty if there is no attribute
+    std::vector<double> numbers; ///< for classes, one per feature, NaN for a missing number; or empty
 };
 
 /// What to read.
@@ -31,7 +31,7 @@ struct AttributeRequest {
     LayerSource source;
     std::shared_ptr<const FeatureSet> features; ///< as read from the source
     AttributeUse use = AttributeUse::Labels;
-    QString attribute; ///< empty: the one that fits best
+    QString attribute; ///< empty: the most suitable one
 };
 
 /// Reads the attribute of the request's features, in their order. An attribute that the source does not have

@@ -5,14 +5,14 @@
 
 namespace Orvane {
 
-/// Files by their names: which of them hold map data. Others may too; a person who names one is believed.
+/// Finds files that hold map data by their names. Other files may hold map data too, if the user chooses one.
 namespace DataFiles {
 
-/// "*.gpkg *.shp ...": the usual endings, for file dialogs.
+/// "*.gpkg *.shp ...": the usual file name extensions, for file dialogs.
 QString Patterns();
 
 /// The data files directly in that folder, with their paths, ordered by name. Files that only accompany
-/// others, as the .dbf of a .shp, are left out.
+/// others, such as the .dbf of a .shp, are left out.
 QStringList In(const QString& folder);
 
 } // namespace DataFiles

@@ -54,7 +54,7 @@ Box ExtentOf(OGRLayer& layer)
     return std::isfinite(box.Width()) && std::isfinite(box.Height()) ? box : Box();
 }
 
-// What one layer may take of the computer's memory.
+// The memory that one layer may use, in bytes.
 double MostBytes()
 {
     const auto all = double(CPLGetUsablePhysicalRAM());
@@ -67,7 +67,7 @@ double BytesOf(const FeatureSet& features)
         + double(features.Features().size()) * sizeof(FeatureSet::Feature);
 }
 
-// Attributes alone are read several times as fast, where the driver can.
+// Reads attributes without geometries, which is several times as fast if the driver supports it.
 class WithoutGeometry
 {
 public:

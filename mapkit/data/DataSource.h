@@ -24,44 +24,44 @@ inline constexpr int SourceUnreadable = 10101;
 
 /// One layer of a data source.
 struct SourceLayer {
-    QString name; ///< as the source calls it
-    FeatureKind kind = FeatureKind::Area; ///< of a mixed layer: Area
+    QString name; ///< the name in the source
+    FeatureKind kind = FeatureKind::Area; ///< Area for a mixed layer
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
-    Box extent; ///< in its own units; empty when the source does not know it
+    Box extent; ///< in its own units; empty if the source does not know it
 };
 
 /// One attribute of a source layer.
 struct SourceField {
     QString name;
     bool isNumber = false;
-    bool isText = false; ///< neither: a date, a list, a flag
+    bool isText = false; ///< neither is true for a date, a list or a flag
 };
 
-/// What a feature's attribute holds.
+/// The value of a feature's attribute.
 struct FieldValue {
     QString text; ///< trimmed, as the source writes it; empty for null
-    double number = std::numeric_limits<double>::quiet_NaN(); ///< not a number for null and for a text
+    double number = std::numeric_limits<double>::quiet_NaN(); ///< NaN for null and for a text
 };
 
-/// One attribute of a feature, for a person to read.
+/// One attribute of a feature, for showing it to the user.
 struct FeatureAttribute {
     QString name;
     QString value; ///< as the source writes it
     bool isNull = false;
 };
 
-/// A file, or whatever else GDAL's vector drivers open, read only.
+/// A file, or another source that GDAL's vector drivers can open, read-only.
 ///
 ///     DataSource source(path);
 ///     for (const SourceLayer& layer : source.Layers())
 ///         features = source.Read(layer.name, {}, "EPSG:3857", progress);
 ///
-/// One object is used by one thread at a time, another object by any other. Errors are RunTimeError with
-/// SourceUnreadable and a sentence that names the file.
+/// An object may be used by only one thread at a time; different objects may be used by different threads.
+/// Errors are RunTimeError with SourceUnreadable and a sentence that names the file.
 class DataSource
 {
 public:
-    /// Raises when no driver can open it.
+    /// Raises if no driver can open it.
     explicit DataSource(const QString& path);
     ~DataSource();
     DataSource(const DataSource&) = delete;
@@ -81,8 +81,8 @@ public:
     /// The values of one attribute by feature ID. Raises as Read does, and for an unknown attribute.
     std::unordered_map<qint64, FieldValue>
     ReadField(const QString& layer, const QString& filter, const QString& field, Progress& progress) const;
-    /// The attributes of one feature, in the source's order; none when there is no feature of that ID any
-    /// more.
+    /// The attributes of one feature, in the source's order; none if there is no longer a feature with that
+    /// ID.
     std::vector<FeatureAttribute> Attributes(const QString& layer, qint64 featureID) const;
 
 private:

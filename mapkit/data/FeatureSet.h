@@ -17,11 +17,11 @@ enum class FeatureKind : quint8 {
     Area, ///< each part is a closed ring; rings within rings are holes
 };
 
-/// Of a feature that its source cannot name.
+/// The ID of a feature that has no ID in its source.
 inline constexpr qint64 NoFeatureID = -1;
 
-/// The geometries of one layer in flat arrays, in the map's coordinate system. Filled once, then shared and
-/// never changed, so that any thread may draw it.
+/// The geometries of one layer in flat arrays, in the map's coordinate system. It is filled once, then shared
+/// and never changed, so that any thread may draw it.
 ///
 ///     FeatureSet roads;
 ///     roads.BeginFeature(FeatureKind::Line);
@@ -31,26 +31,26 @@ class FeatureSet
 public:
     struct Feature {
         Box bounds; ///< of all parts
-        qint64 featureID = NoFeatureID; ///< as the source counts its features
+        qint64 featureID = NoFeatureID; ///< the ID in the source
         quint32 firstPart = 0; ///< index into the parts
-        quint32 endPart = 0; ///< one behind the last part
+        quint32 endPart = 0; ///< one past the last part
         FeatureKind kind = FeatureKind::Point;
     };
 
-    /// The parts added from now on belong to a new feature. featureID: several may share one, as the members
-    /// of a collection do.
+    /// The parts added from now on belong to a new feature. featureID: several features may have the same
+    /// one, for example the members of a collection.
     void BeginFeature(FeatureKind kind, qint64 featureID = NoFeatureID);
-    /// Adds a part to the feature begun last. Vertices that are not finite are left out, and so is a part of
-    /// none.
+    /// Adds a part to the feature begun last. Vertices that are not finite are left out, and so is a part
+    /// without vertices.
     void AddPart(std::span<const QPointF> points);
 
     const std::vector<Feature>& Features() const { return m_features; }
-    /// The source's ID of a feature; NoFeatureID when it came from no source.
+    /// The source's ID of a feature; NoFeatureID if it does not come from a source.
     qint64 FeatureId(size_t index) const { return m_features[index].featureID; }
     std::span<const QPointF> Part(quint32 index) const&;
     /// Deleted: the part would outlive its set.
     std::span<const QPointF> Part(quint32 index) const&& = delete;
-    /// Of all features; empty when there are none.
+    /// The bounds of all features; empty if there are none.
     const Box& Bounds() const { return m_bounds; }
     size_t VertexCount() const { return m_points.size(); }
 

@@ -18,7 +18,7 @@ namespace Orvane {
 
 namespace {
 
-// GDAL leaves these out whenever drivers are registered, by us or by anybody else.
+// GDAL skips these each time drivers are registered, by this code or by any other.
 constexpr auto RemoteDrivers
     = "AmigoCloud Carto CSW DAAS EEDA EEDAI Elasticsearch GMLAS GNMFile GNMDatabase GPSBabel HTTP "
       "MSSQLSpatial"
@@ -28,7 +28,7 @@ constexpr auto RemoteDrivers
 constexpr auto LocalFileSystems
     = {"/vsigzip/", "/vsimem/", "/vsisparse/", "/vsisubfile/", "/vsitar/", "/vsizip/"};
 
-// A file system in which nothing can be found.
+// A file system that contains no files.
 class ClosedFileSystem : public VSIFilesystemHandler
 {
 public:
@@ -52,7 +52,7 @@ bool IsLocal(const char* prefix)
     });
 }
 
-// GDAL cannot end a handler that is replaced; it stays reachable here.
+// GDAL does not delete a handler that is replaced; here it stays reachable.
 void CloseFileSystems()
 {
     static std::vector<VSIFilesystemHandler*> replaced;
@@ -61,16 +61,16 @@ void CloseFileSystems()
         if (IsLocal(*prefix))
             continue;
         replaced.push_back(VSIFileManager::GetHandler(*prefix));
-        VSIFileManager::InstallHandler(*prefix, new ClosedFileSystem); // GDAL's from here on
+        VSIFileManager::InstallHandler(*prefix, new ClosedFileSystem); // GDAL takes ownership
     }
     CSLDestroy(prefixes);
 }
 
-// Some drivers for files also take addresses. Without an answer GDAL would go on to fetch.
+// Some drivers for files also accept web addresses. Without this result GDAL would download them.
 CPLHTTPResult*
 FetchNothing(const char*, CSLConstList, GDALProgressFunc, void*, CPLHTTPFetchWriteFunc, void*, void*)
 {
-    auto* refusal = static_cast<CPLHTTPResult*>(CPLCalloc(1, sizeof(CPLHTTPResult))); // the caller's
+    auto* refusal = static_cast<CPLHTTPResult*>(CPLCalloc(1, sizeof(CPLHTTPResult))); // owned by the caller
     refusal->nStatus = 1;
     refusal->pszErrBuf = CPLStrdup("Data are not fetched from the network");
     CPLError(CE_Failure, CPLE_AppDefined, "%s", refusal->pszErrBuf);

@@ -13,8 +13,8 @@ class OGRSimpleCurve;
 
 namespace Orvane {
 
-/// Adds GDAL geometries of every kind to a feature set, curves as line strings, transformed on the way. What
-/// cannot be transformed, such as a latitude of 95 degrees, is left out.
+/// Adds GDAL geometries of every kind to a feature set, with curves as line strings, and transforms them.
+/// Vertices that cannot be transformed, such as a latitude of 95 degrees, are left out.
 class GeometryReader
 {
 public:
@@ -22,7 +22,7 @@ public:
     GeometryReader(FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation);
     ~GeometryReader();
 
-    /// One feature; several for a collection. featureID: the source's ID, for all of them.
+    /// Adds one feature, or several for a collection. featureID: the source's ID, for all of them.
     void Add(const OGRGeometry& geometry, qint64 featureID = NoFeatureID);
 
 private:

@@ -58,7 +58,7 @@ bool RasterShades::Read(GDALDataset& warped, const QRect& pixels, QImage& image,
     return true;
 }
 
-// Only bytes have an alpha band from 0 to 255.
+// The alpha band ranges from 0 to 255 only for byte values.
 QRgb RasterShades::ColourOf(const float* values) const
 {
     const int alpha = m_isBytes ? int(values[3]) : values[3] > 0 ? 255 : 0;

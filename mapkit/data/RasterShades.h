@@ -12,18 +12,18 @@ class GDALDataset;
 
 namespace Orvane {
 
-/// How a raster's values become colours: by its palette, as red, green and blue, or in shades of grey.
+/// Converts a raster's values to colours: by its palette, as red, green and blue, or in shades of grey.
 class RasterShades
 {
 public:
-    /// Looks at the raster, and at its values where they are no bytes.
+    /// Examines the raster, and also its values if they are not bytes.
     explicit RasterShades(GDALDataset& raster);
 
-    /// False for values that only name colours.
+    /// False for values that are indexes into a palette.
     bool MayBlend() const { return m_palette.empty(); }
 
-    /// Reads these pixels of the raster, warped and with an alpha band at its end, and puts them into the
-    /// image from there on. False when they cannot be read.
+    /// Reads these pixels of the raster, which is warped and has an alpha band as its last one, and puts them
+    /// into the image from the point to on. False if they cannot be read.
     bool Read(GDALDataset& warped, const QRect& pixels, QImage& image, QPoint to) const;
 
 private:

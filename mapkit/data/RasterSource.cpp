@@ -22,7 +22,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr int RowsAtOnce = 64; // between looks whether drawing was cancelled
+constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
 
 [[noreturn]] void Fail(const QString& path, const QString& reason)
 {

@@ -17,34 +17,35 @@ namespace Orvane {
 
 class RasterShades;
 
-/// A georeferenced picture that one of GDAL's raster drivers opens, such as an aerial photograph, read only.
-/// Grids of heights and the like are shown in shades of grey from their least to their greatest value.
+/// A georeferenced picture that one of GDAL's raster drivers opens, such as an aerial photograph, read-only.
+/// Elevation grids and similar data are shown in shades of grey from their lowest to their highest value.
 ///
 ///     const RasterSource photo(path);
 ///     QImage image = photo.Draw(map.System(), view.Extent(), window.size(), cancelled);
 ///
-/// Any thread may draw; one at a time does. Errors are RunTimeError with SourceUnreadable and a sentence that
-/// names the file.
+/// Any thread may draw, but only one draws at a time. Errors are RunTimeError with SourceUnreadable and a
+/// sentence that names the file.
 class RasterSource
 {
 public:
-    /// Raises when no driver can open the file, or it does not say where on earth its pixels lie.
+    /// Raises if no driver can open the file, or if the file is not georeferenced.
     explicit RasterSource(const QString& path);
     ~RasterSource();
     RasterSource(const RasterSource&) = delete;
     RasterSource& operator=(const RasterSource&) = delete;
 
     const QString& Path() const { return m_path; }
-    /// Its coordinate system, as in CoordinateSystems.h; empty when it names none, and then the map's is
-    /// taken for it.
+    /// Its coordinate system, as in CoordinateSystems.h; empty if it has none; then the map's system is
+    /// assumed.
     QString System() const;
-    /// What it covers, in units of its own system, and of the map's; empty where the two do not meet.
+    /// The area that it covers, in units of its own system; ExtentIn uses the map's system. Empty if it
+    /// cannot be shown in that system.
     Box Extent() const;
     Box ExtentIn(const QString& mapSystem) const;
 
-    /// Draws the part of the map, warped into its system, transparent where there is no picture. Reads no
-    /// more than such an image needs. Null when nothing is in view, or once cancelled becomes true. Raises
-    /// for damaged data.
+    /// Draws the part of the map, warped into its system, transparent where there is no picture. Reads only
+    /// the data that the image needs. Null if nothing is in view, or if cancelled becomes true. Raises for
+    /// damaged data.
     QImage
     Draw(const QString& mapSystem, const Box& extent, QSize pixels, const std::atomic<bool>& cancelled) const;
 
@@ -52,7 +53,7 @@ private:
     QString m_path;
     std::unique_ptr<GDALDataset> m_dataset;
     std::unique_ptr<const RasterShades> m_shades;
-    mutable QMutex m_mutex; // a GDAL dataset is used by one thread at a time
+    mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };
 
 } // namespace Orvane

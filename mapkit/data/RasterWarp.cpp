@@ -36,12 +36,12 @@ bool HasSystem(GDALDataset& raster)
 using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
 using WarpOptions = std::unique_ptr<GDALWarpAppOptions, decltype(&GDALWarpAppOptionsFree)>;
 
-// Lets go of a dataset that others may still read from.
+// Releases a dataset that others may still read from.
 struct Releaser {
     void operator()(GDALDataset* dataset) const { dataset->ReleaseRef(); }
 };
 
-// Every nth pixel of each nth row; GDAL takes them from overviews where there are some.
+// Every nth pixel of every nth row; GDAL reads them from overviews if there are any.
 std::unique_ptr<GDALDataset, Releaser> Thinned(GDALDataset& raster, int step)
 {
     const auto part = [step](int size) { return QString::number(std::max(1, size / step)); };
@@ -100,12 +100,12 @@ WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& ta
     const auto thinned = Thinned(raster, int(step));
     if (!thinned)
         return nullptr;
-    // Beyond the edge of a world projection a place would be shown a second time.
+    // Without this, places would be shown again outside the valid area of a world projection.
     const CPLConfigOptionSetter onEarthOnly("CHECK_WITH_INVERT_PROJ", "YES", false);
     CPLStringList arguments = Arguments(WarpArguments(raster, target, blend));
     const WarpOptions options(GDALWarpAppOptionsNew(arguments.List(), nullptr), GDALWarpAppOptionsFree);
     GDALDatasetH source = GDALDataset::ToHandle(thinned.get());
-    return std::unique_ptr<GDALDataset>( // keeps what it reads from
+    return std::unique_ptr<GDALDataset>( // keeps its source datasets open
         GDALDataset::FromHandle(GDALWarp("", nullptr, 1, &source, options.get(), nullptr)));
 }
 

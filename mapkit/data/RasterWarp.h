@@ -14,8 +14,8 @@ namespace Orvane {
 
 /// Where a raster lies in a map.
 struct RasterPlace {
-    Box extent; ///< map units; empty when it cannot be shown in the map's system
-    double unitsPerPixel = 0; ///< map units that one of its pixels covers
+    Box extent; ///< map units; empty if it cannot be shown in the map's system
+    double unitsPerPixel = 0; ///< size of one of its pixels in map units
 };
 
 /// Part of a map, to be filled with pixels.
@@ -25,12 +25,13 @@ struct RasterTarget {
     QSize pixels;
 };
 
-/// Finds the raster's place in a map of that system. A raster without a system is taken to be in it.
+/// Finds the raster's place in a map of that system. A raster without a system is assumed to have the map's
+/// system.
 RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem);
 
 /// A virtual raster of the target's size whose pixels are computed when they are read, from source pixels
 /// thinned to about its resolution. Its last band is 0 where there is no picture. blend: pixels may be mixed
-/// with their neighbours. raster: outlives it. nullptr where GDAL refuses.
+/// with their neighbours. raster: must outlive the result. nullptr if GDAL fails.
 std::unique_ptr<GDALDataset>
 WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& target, bool blend);
 

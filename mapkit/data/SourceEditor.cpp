@@ -60,7 +60,7 @@ private:
     QPointF m_offset;
 };
 
-// True when there is nothing to transform, too.
+// Also true if there is nothing to transform.
 bool Transform(OGRGeometry& geometry, OGRCoordinateTransformation* transformation)
 {
     return !transformation || geometry.transform(transformation) == OGRERR_NONE;
@@ -73,7 +73,7 @@ OGREnvelope ExtentOf(const OGRGeometry& geometry)
     return extent;
 }
 
-// Beyond its edge a projection gives positions that lead back to another place.
+// Outside its valid area a projection gives positions that transform back to a different place.
 bool LeadsBack(const OGRGeometry& geometry, OGRCoordinateTransformation* toMap, const OGREnvelope& there)
 {
     const OGRGeometryUniquePtr again(geometry.clone());
@@ -172,7 +172,7 @@ void SourceEditor::Save()
 {
     const GdalErrors errors;
     m_layer = nullptr;
-    m_dataset.reset(); // several drivers write only now
+    m_dataset.reset(); // several drivers write only when they are closed
     if (!errors.First().isEmpty())
         Fail(errors.First());
 }

@@ -27,30 +27,30 @@ inline constexpr int SourceUnchangeable = 10102;
 ///     editor.SetGeometry(featureID, editor.Moved(before, {10, 0}, document.System()));
 ///     editor.Save();
 ///
-/// One object is used by one thread at a time. Errors are RunTimeError with SourceUnchangeable and a sentence
-/// that names the file and the reason; what was not saved is then not written.
+/// An object may be used by only one thread at a time. Errors are RunTimeError with SourceUnchangeable and a
+/// sentence that names the file and the reason; unsaved changes are then not written.
 class SourceEditor
 {
     Q_DECLARE_TR_FUNCTIONS(SourceEditor)
 
 public:
-    /// Raises for a source that is read only, by its format or by its place.
+    /// Raises if the source is read-only because of its format or its location.
     explicit SourceEditor(const LayerSource& source);
     ~SourceEditor();
     SourceEditor(const SourceEditor&) = delete;
     SourceEditor& operator=(const SourceEditor&) = delete;
 
-    /// The geometry as the source keeps it, in well-known binary; raises when there is no such feature.
+    /// The geometry as the source stores it, in well-known binary; raises if there is no such feature.
     QByteArray Geometry(qint64 featureID) const;
-    /// A geometry of this source moved by so many map units east and north. mapSystem: as in
-    /// CoordinateSystems.h. Raises when that leads off the map's earth.
+    /// A geometry of this source, moved by an offset in map units to the east and north. mapSystem: as in
+    /// CoordinateSystems.h. Raises if the result is outside the valid area of the map's projection.
     QByteArray Moved(const QByteArray& geometry, QPointF offset, const QString& mapSystem) const;
     /// The same geometry as the map shows it.
     FeatureSet Shown(const QByteArray& geometry, qint64 featureID, const QString& mapSystem) const;
 
-    /// Gives the feature another geometry; its attributes stay.
+    /// Replaces the geometry of the feature; its attributes stay.
     void SetGeometry(qint64 featureID, const QByteArray& geometry);
-    /// Writes what was set, and closes the source: nothing else can be called afterwards.
+    /// Writes all changes and closes the source: call nothing else after that.
     void Save();
 
 private:

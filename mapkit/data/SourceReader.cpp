@@ -17,7 +17,7 @@ namespace {
 
 constexpr int MostLines = 8;
 
-// Keeps the last file open, as the sources come ordered by file.
+// Keeps the last file open, because the sources are ordered by file.
 class OpenSource
 {
 public:

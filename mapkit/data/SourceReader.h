@@ -22,17 +22,18 @@ struct LayerSource {
     QString filter; ///< attribute condition; empty for all features
 };
 
-/// What reading the sources gave.
+/// The result of reading the sources.
 struct SourceContents {
     std::map<qint32, std::shared_ptr<const FeatureSet>> features; ///< by layer ID
     std::map<qint32, QString> failures; ///< why a layer could not be read, by layer ID
 
-    /// The failures as lines to show, each once, and no more than a person will read.
+    /// The failures as lines of text for the user, each once, limited to a readable number.
     QString FailureText() const;
 };
 
-/// Reads sources into the map's coordinate system, each file opened once. What cannot be read is told in the
-/// answer and does not stop the rest. Stops with what was read so far when the progress is cancelled.
+/// Reads sources into the map's coordinate system, opening each file once. Failures are reported in the
+/// result and do not stop the reading of other sources. If the progress is cancelled, returns what was read
+/// so far.
 SourceContents ReadSources(std::vector<LayerSource> sources, const QString& mapSystem, Progress& progress);
 
 } // namespace Orvane

@@ -7,8 +7,9 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// The picture under all layers that a map file's settings name, as an absolute path where it is found now;
-/// empty for none, and for a database without settings. mapPath: absolute. Errors are those of the database.
+/// The absolute path where the picture under all layers is found now, according to the settings of a map
+/// file; empty for none, and for a database without settings. mapPath: absolute. Errors are those of the
+/// database.
 QString FindBackdrop(ILayerStore& database, const QString& mapPath);
 
 } // namespace Orvane

@@ -23,7 +23,7 @@ namespace Orvane {
 
 namespace {
 
-// A map file under another name until it is whole; what was begun and not put in place is removed.
+// A map file that has a different name until it is complete. It is removed unless it is put in place.
 class UnfinishedFile
 {
 public:
@@ -40,7 +40,7 @@ public:
 
     void PutInPlace() const
     {
-        for (const char* companion : {"-wal", "-shm"}) // of the file that is there
+        for (const char* companion : {"-wal", "-shm"}) // of the file that is replaced
             QFile::remove(m_path + QLatin1String(companion));
         std::error_code error;
         std::filesystem::rename(Path().toStdU16String(), m_path.toStdU16String(), error);
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    // Who has the old file open would go on writing into what is no longer there.
+    // A program that has the old file open would continue to write into a file that no longer exists.
     void RefuseWhileOpen() const
     {
         if (!LayerStores::IsInUse(m_path))
@@ -126,7 +126,7 @@ void MapDocument::SaveCopy(const QString& path) const
     const UnfinishedFile unfinished(path);
     m_database->CopyToFile(unfinished.Path());
     {
-        // Paths are kept from the folder that the copy is in, which is the one that it will be in.
+        // Relative paths start from the folder of the copy, which does not change when it is put in place.
         const auto copy = Open(unfinished.Path());
         Transaction transaction(copy->Database());
         for (const LayerSource& source : Sources())
@@ -139,7 +139,7 @@ void MapDocument::SaveCopy(const QString& path) const
 
 bool MapDocument::IsAt(const QString& path) const
 {
-    const QString there = QFileInfo(path).canonicalFilePath(); // empty where there is no file
+    const QString there = QFileInfo(path).canonicalFilePath(); // empty if there is no file
     return !there.isEmpty() && there == QFileInfo(m_path).canonicalFilePath();
 }
 

@@ -14,7 +14,7 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// What a new layer begins with.
+/// The initial values of a new layer.
 struct NewLayer {
     QString name;
     DrawingValues values;
@@ -27,41 +27,43 @@ struct NewLayer {
     QString filter;
 };
 
-/// A map file: the layer database, and in it the tables LayerSources, which says where each layer's features
-/// come from, LayerRendering and MapSettings. Changes are stored as they are made.
+/// A map file: the layer database with three more tables: LayerSources, which stores where each layer's
+/// features come from, LayerRendering and MapSettings. Changes are stored as they are made.
 ///
-/// Data that was moved together with the map, or beside it, is found again. All calls are made on the
-/// user-interface thread; errors are those of the database.
+/// Data is found again if it was moved together with the map, or into the folder of the map. All calls are
+/// made on the user-interface thread; errors are those of the database.
 class MapDocument
 {
 public:
-    /// A map without a file, which ends with the object.
+    /// A map without a file, which exists as long as the object.
     static std::unique_ptr<MapDocument> Untitled();
-    /// Makes a new file; raises when there is one already.
+    /// Creates a new file; raises if the file already exists.
     static std::unique_ptr<MapDocument> Create(const QString& path);
-    /// Makes a new file in place of one. When it cannot be made, or the old one is open anywhere, that stays.
+    /// Creates a new file that replaces an existing one. If it cannot be created, or the old file is open
+    /// anywhere, the old file stays.
     static std::unique_ptr<MapDocument> CreateOver(const QString& path);
     /// Opens a map file.
     static std::unique_ptr<MapDocument> Open(const QString& path);
-    /// Opens a copy of a map file in the original's name: its data are sought, and kept, from where the
-    /// original lies, and Path() is that one.
+    /// Opens a copy of a map file as if it were the original: its data is found, and stored, relative to the
+    /// original's location, and Path() is the path of the original.
     static std::unique_ptr<MapDocument> OpenCopy(const QString& copy, const QString& original);
     ~MapDocument();
 
-    /// Removes a map file that is not open, with what SQLite keeps beside it; a missing one changes nothing.
+    /// Removes a map file that is not open, together with the extra files of SQLite. Does nothing if the file
+    /// is missing.
     static void Remove(const QString& path);
 
-    /// Stores a copy in a new file, which replaces one of that name. When it cannot be stored, or that one is
-    /// open anywhere, it raises, and that one stays.
+    /// Stores a copy in a new file, which replaces an existing file of that name. If the copy cannot be
+    /// stored, or the existing file is open anywhere, this raises, and the existing file stays.
     void SaveCopy(const QString& path) const;
 
     ILayerStore& Database() const { return *m_database; }
     /// Absolute; empty for an untitled map.
     const QString& Path() const { return m_path; }
-    /// True when that path, however it is written, leads to this map's file.
+    /// True when that path leads to this map's file, even if it is written differently.
     bool IsAt(const QString& path) const;
 
-    /// The coordinate system that the map is shown in; empty until the first data come.
+    /// The coordinate system that the map is shown in; empty until the first data is added.
     QString System() const;
     void SetSystem(const QString& system);
 
@@ -78,9 +80,9 @@ public:
 
     /// Where the layers' features come from, with absolute paths.
     std::vector<LayerSource> Sources() const;
-    /// Gives the layer its data, in place of those it has.
+    /// Sets the layer's data, replacing its former data.
     void SetSource(const LayerSource& source);
-    /// What the layers' renderer styles work with.
+    /// The settings for the layers' renderer styles.
     RenderingTable& Renderings() { return m_renderings; }
     const RenderingTable& Renderings() const { return m_renderings; }
     bool HasLayers() const;

@@ -10,12 +10,12 @@ namespace Orvane::MapSettings {
 
 namespace {
 
-const QString TableName = QStringLiteral("MapSettings");
+const QString SettingsName = QStringLiteral("MapSettings");
 
-StoreTable Table()
+StoreTable SettingsTable()
 {
     return {
-        TableName,
+        SettingsName,
         {{QStringLiteral("Name")}, {QStringLiteral("Value"), StoreType::Text, StoreColumn::Nulls::Refused}},
         {QStringLiteral("Name")}};
 }
@@ -24,12 +24,12 @@ StoreTable Table()
 
 void Prepare(ILayerStore& database)
 {
-    database.PrepareTable(Table());
+    database.PrepareTable(SettingsTable());
 }
 
 QString Read(ILayerStore& database, const QString& name)
 {
-    if (!database.HasTable(TableName)) // a plain layer database has none
+    if (!database.HasTable(SettingsName)) // a plain layer database has no settings
         return {};
     const auto row
         = database.OpenQuery(QStringLiteral("SELECT Value FROM MapSettings WHERE Name = ?1"), {name});

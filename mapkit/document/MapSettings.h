@@ -7,10 +7,11 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// What a map file stores besides layers, by name. A file without such settings reads as one with none.
+/// Settings that a map file stores besides layers, by name. In a file without the table of settings, all
+/// settings are empty.
 namespace MapSettings {
 
-/// Makes the file able to keep settings, if it is not yet.
+/// Creates the table of settings if it is missing.
 void Prepare(ILayerStore& database);
 
 /// The setting's text, or an empty text.

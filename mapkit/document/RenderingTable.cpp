@@ -12,7 +12,7 @@ namespace Orvane {
 
 namespace {
 
-StoreTable Table()
+StoreTable RenderingsTable()
 {
     using Nulls = StoreColumn::Nulls;
     const QString layers = QStringLiteral("Layers");
@@ -49,7 +49,7 @@ LayerRendering RenderingOfRow(const IRecordset& row)
 
 void RenderingTable::Create()
 {
-    m_database.PrepareTable(Table());
+    m_database.PrepareTable(RenderingsTable());
 }
 
 std::map<qint32, LayerRendering> RenderingTable::All() const

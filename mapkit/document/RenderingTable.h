@@ -11,22 +11,22 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// The table LayerRendering of a map file: what each layer's renderer style works with. A layer without a row
-/// has the values that a new LayerRendering has; a deleted layer takes its row with it. Errors are those of
-/// the database.
+/// The table LayerRendering of a map file: the settings for each layer's renderer style. A layer without a
+/// row has the default values of LayerRendering. When a layer is deleted, its row is removed too. Errors are
+/// those of the database.
 class RenderingTable
 {
 public:
     /// database: not owned; outlives this object.
     explicit RenderingTable(ILayerStore& database) : m_database(database) { }
 
-    /// Makes the table where it is missing.
+    /// Creates the table if it is missing.
     void Create();
 
-    /// Every row by layer ID. What a column cannot hold counts as its default.
+    /// Every row by layer ID. Values that are not valid for a column are replaced by its default.
     std::map<qint32, LayerRendering> All() const;
     LayerRendering Of(qint32 layerID) const;
-    /// Gives an existing layer its row, in place of the one it has.
+    /// Stores the row of an existing layer, replacing its former row.
     void Set(qint32 layerID, const LayerRendering& rendering);
 
 private:

@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-/// How a map file names the data that it shows, so that they are found again when both were moved.
+/// The paths that a map file stores for its data, so that the data is found again after both were moved.
 ///
 ///     const SourcePaths paths(document.Path());
 ///     row = paths.Store(fileName);        // when a layer gets its data
@@ -15,20 +15,22 @@ namespace Orvane {
 class SourcePaths
 {
 public:
-    /// What is kept of one file's place.
+    /// What is stored about the location of one file.
     struct Place {
-        QString path; ///< relative for data in the map's folder or below, else absolute
-        QString relative; ///< from the map's folder, also upwards; empty where there is no such way
+        QString path; ///< relative for data in the map's folder or below, otherwise absolute
+        QString relative; ///< relative to the map's folder, also with ".."; empty if there is no such path
     };
 
-    /// mapPath: absolute; empty for a map without a file, which keeps absolute paths only.
+    /// mapPath: absolute; empty for a map without a file, which stores absolute paths only.
     explicit SourcePaths(const QString& mapPath) : m_mapPath(mapPath) { }
 
-    /// The place to keep for a file. What is no file, such as another name that GDAL opens, is kept as it is.
+    /// The place to store for a file. A name that is not a file, such as another name that GDAL opens, is
+    /// stored as it is.
     Place Store(const QString& path) const;
 
-    /// The absolute path of the first of these that exists: the relative way from where the map is now, the
-    /// path, a file of that name in the map's folder. When none does, where the data should be.
+    /// The absolute path of the first of these that exists: the relative path from the map's present folder,
+    /// the stored path, and a file of that name in the map's folder. If none exists, the path where the data
+    /// should be.
     QString Find(const Place& place) const;
 
 private:

@@ -10,15 +10,15 @@ namespace Orvane {
 
 namespace {
 
-const QString TableName = QStringLiteral("LayerSources");
+const QString SourcesName = QStringLiteral("LayerSources");
 const QString RelativePath = QStringLiteral("RelativePath");
 
-StoreTable Table()
+StoreTable SourcesTable()
 {
     using Nulls = StoreColumn::Nulls;
     const QString layerID = QStringLiteral("LayerID");
     return {
-        TableName,
+        SourcesName,
         {{layerID, StoreType::Whole, Nulls::Allowed, {}, QStringLiteral("Layers"), layerID},
          {QStringLiteral("Path"), StoreType::Text, Nulls::Refused},
          {QStringLiteral("OgrLayer"), StoreType::Text, Nulls::Refused},
@@ -31,14 +31,14 @@ StoreTable Table()
 
 void SourceTable::Create()
 {
-    m_database.PrepareTable(Table());
+    m_database.PrepareTable(SourcesTable());
 }
 
 std::vector<LayerSource> SourceTable::All() const
 {
-    if (!m_database.HasTable(TableName))
+    if (!m_database.HasTable(SourcesName))
         return {};
-    const bool older = !m_database.HasColumn(TableName, RelativePath);
+    const bool older = !m_database.HasColumn(SourcesName, RelativePath);
     const auto rows
         = m_database.OpenQuery(QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath"
                                               " FROM LayerSources ORDER BY LayerID")

@@ -61,7 +61,7 @@ std::vector<ClippedRun> ClipLine(const QPolygonF& line, const QRectF& area)
 {
     std::vector<ClippedRun> runs;
     double length = 0;
-    bool joins = false; // the run before goes on
+    bool joins = false; // the next segment continues the last run
     for (qsizetype i = 1; i < line.size(); ++i) {
         QPointF from = line[i - 1];
         QPointF to = line[i];

@@ -9,19 +9,20 @@
 
 namespace Orvane {
 
-/// Cuts the segment to the rectangle. False when no part of it is inside; the ends are then unchanged.
+/// Clips the segment to the rectangle. False if no part of it is inside; the ends are then unchanged.
 bool ClipSegment(QPointF& from, QPointF& to, const QRectF& area);
 
-/// A stretch of a line that is inside a rectangle.
+/// A part of a line that is inside a rectangle.
 struct ClippedRun {
     QPolygonF points; ///< at least two
-    double lengthBefore = 0; ///< of the line, up to the first of them
+    double lengthBefore = 0; ///< length of the line up to the first point
 };
 
-/// Cuts a line to the rectangle; as many runs as there are stretches of it inside.
+/// Clips a line to the rectangle. Returns one run for each part that is inside.
 std::vector<ClippedRun> ClipLine(const QPolygonF& line, const QRectF& area);
 
-/// Cuts a ring to the rectangle; what lies outside follows the rectangle's edge. The result may be empty.
+/// Clips a ring to the rectangle; parts outside are replaced by parts of the rectangle's edge. The result may
+/// be empty.
 QPolygonF ClipRing(const QPolygonF& ring, const QRectF& area);
 
 } // namespace Orvane

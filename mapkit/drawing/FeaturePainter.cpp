@@ -13,8 +13,8 @@ namespace Orvane {
 
 namespace {
 
-constexpr double ThinTolerance = 0.7; // pixels, of a thin line
-constexpr double TolerancePerWidth = 0.25; // a broad pen hides more
+constexpr double ThinTolerance = 0.7; // pixels, for a thin line
+constexpr double TolerancePerWidth = 0.25; // a wide pen hides larger deviations
 constexpr double SpeckSize = 1; // pixels
 
 Box Grown(const Box& box, double margin)
@@ -22,14 +22,14 @@ Box Grown(const Box& box, double margin)
     return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
 }
 
-// Dots of the device a logical pixel.
+// Device dots per logical pixel.
 double DotsPerPixel(const QPainter& painter)
 {
     const QTransform transform = painter.deviceTransform();
     return std::max(1.0, std::hypot(transform.m11(), transform.m12()));
 }
 
-// Each bit of a pattern covers whole dots, and the patterns move along with the map.
+// Makes each bit of a pattern cover whole dots, and the patterns move with the map.
 void AlignPattern(QPainter& painter, QBrush& fill, const MapView& view)
 {
     const QImage tile = fill.textureImage();
@@ -122,7 +122,7 @@ void FeaturePainter::PaintLine(std::span<const QPointF> part, bool clip)
         PaintRun(run.points, run.lengthBefore);
 }
 
-// The dashes stay where they are on the line, wherever the window cuts it.
+// The dashes keep their position on the line, independent of where the window clips it.
 void FeaturePainter::PaintRun(const QPolygonF& run, double lengthBefore)
 {
     if (m_look.outline.style() != Qt::SolidLine) {

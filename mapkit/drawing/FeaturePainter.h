@@ -16,17 +16,17 @@ class QPainter;
 
 namespace Orvane {
 
-/// Draws features: clipped to the view, simplified to a dot of the painter's device. May run in any thread
-/// that owns the painter.
+/// Draws features, clipped to the view and simplified with a tolerance of about one device dot. May be used
+/// on any thread that owns the painter.
 class FeaturePainter
 {
 public:
-    /// painter: stands on the view's logical pixels; outlives this object, and its pen and brush are used up.
+    /// painter: in logical pixels of the view; outlives this object; its pen and brush are changed.
     FeaturePainter(QPainter& painter, const MapView& view, const LayerLook& look);
 
-    /// Draws the set, first feature first. Stops soon after cancelled becomes true.
+    /// Draws the set, beginning with the first feature. Stops soon after cancelled becomes true.
     void Paint(const FeatureSet& features, const std::atomic<bool>& cancelled);
-    /// The same for some of the features. isChosen: asked with a feature's index; empty for all.
+    /// Draws only some of the features. isChosen: called with the index of a feature; empty for all.
     void Paint(
         const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
         const std::atomic<bool>& cancelled);
@@ -43,7 +43,7 @@ private:
     const MapView m_view;
     LayerLook m_look;
     double m_tolerance; // pixels by which a line may be simplified
-    QRectF m_area; // the view in pixels, grown by what a pen needs
+    QRectF m_area; // the view in pixels, enlarged by the reach of the pen
     Box m_extent; // the same in map units
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double CellSize = 64; // pixels
 
-// True when a line along one of the box's sides parts the two.
+// True when a line along one of the box's sides separates the two boxes.
 bool HasPartingSide(const QPolygonF& box, const QPolygonF& other)
 {
     for (qsizetype i = 0; i < box.size(); ++i) {

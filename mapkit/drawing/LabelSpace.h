@@ -8,14 +8,14 @@
 
 namespace Orvane {
 
-/// The ground that labels have taken, so that no two overlap.
+/// The areas that labels occupy, so that no two labels overlap.
 class LabelSpace
 {
 public:
-    /// Takes the box, a rectangle at any angle, in pixels. False, and nothing taken, when part of it is taken
-    /// already.
+    /// Occupies the box, a rectangle at any angle, in pixels. Returns false and does nothing if part of it is
+    /// already occupied.
     bool Take(const QPolygonF& box);
-    /// Takes the box although others may have parts of it.
+    /// Occupies the box even if parts of it are already occupied.
     void Block(const QPolygonF& box);
 
 private:

@@ -15,13 +15,13 @@ namespace {
 
 constexpr double SymbolGap = 3; // pixels
 constexpr double LineGap = 1; // pixels
-constexpr double StraightEnough = 0.94; // of the way along the line, for the way across
-constexpr double WidePart = 0.8; // of the text's height, from which on it stands on the line
+constexpr double StraightEnough = 0.94; // smallest ratio of straight distance to length along the line
+constexpr double WidePart = 0.8; // of the text's height; on wider lines the text is on the line
 constexpr std::array PlacesAlong{0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8};
 constexpr int Rows = 15;
 constexpr double NeededPart = 0.95; // of the text's width
 
-// How far along the line each vertex is.
+// The distance of each vertex along the line.
 std::vector<double> Mileage(const QPolygonF& line)
 {
     std::vector<double> mileage{0};
@@ -39,7 +39,7 @@ QPointF PointAt(const QPolygonF& line, const std::vector<double>& mileage, doubl
     return line[i - 1] + (line[i] - line[i - 1]) * part;
 }
 
-// lift: how far above the line the text's middle is.
+// lift: the distance of the text's middle above the line.
 std::optional<LabelSpot> Across(QPointF from, QPointF to, double textWidth, double lift)
 {
     if (to.x() < from.x())
@@ -52,7 +52,7 @@ std::optional<LabelSpot> Across(QPointF from, QPointF to, double textWidth, doub
     return LabelSpot{chord.center() + up * lift, angle};
 }
 
-// Where the row at that height is inside, as ordered pairs of edges.
+// The parts of the row at that height that are inside, as ordered pairs of left and right ends.
 std::vector<double> Crossings(std::span<const QPolygonF> rings, double y)
 {
     std::vector<double> crossings;
@@ -74,7 +74,7 @@ struct FreeSpan {
     double Width() const { return right - left; }
 };
 
-// The widest stretch that is inside at all of these heights, as good as the text needs it.
+// The widest span that is inside at all of these heights, which is exact enough for a text.
 FreeSpan WidestInside(std::span<const QPolygonF> rings, const std::array<double, 3>& heights)
 {
     std::vector<FreeSpan> inside{{-1e9, 1e9}};
@@ -141,7 +141,7 @@ std::vector<LabelSpot> InsideArea(std::span<const QPolygonF> rings, QSizeF size)
         const FreeSpan gap = WidestInside(rings, {y - size.height() / 2, y, y + size.height() / 2});
         if (gap.Width() < NeededPart * size.width())
             continue;
-        // room beyond twice the text counts less than being in the middle
+        // room beyond twice the text width does not count; a central position matters more
         const double room = std::min(gap.Width() / size.width(), 2.0);
         const double score = room - 2 * std::abs(y - bounds.center().y()) / bounds.height();
         scored.emplace_back(score, LabelSpot{QPointF((gap.left + gap.right) / 2, y)});

@@ -21,7 +21,7 @@ constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double Padding = 2; // pixels around a label that no other may enter
 constexpr double HaloWidth = 3; // pixels, half of it outside the letters
 constexpr double Detail = 1; // pixels by which geometry may be simplified here
-constexpr double SameTextApart = 220; // pixels between lines' labels of the same text
+constexpr double SameTextApart = 220; // pixels between labels of lines with the same text
 constexpr double SymbolGrid = 4; // pixels
 constexpr qsizetype LongestText = 80; // characters
 
@@ -55,7 +55,8 @@ public:
     {
     }
 
-    // No label may cover a symbol; of symbols that lie upon each other one counts.
+    // Reserves the area of each symbol, so that no label covers it. Only one of several symbols in the same
+    // place is used.
     void KeepClearOfSymbols(const MapLayer& layer)
     {
         QHash<QPoint, bool> known;
@@ -86,7 +87,7 @@ public:
     std::vector<Label> Take() { return std::move(m_labels); }
 
 private:
-    // The largest first; points in their order.
+    // The features in view, largest first; points stay in their order.
     std::vector<size_t> InView(const MapLayer& layer) const
     {
         const std::vector<FeatureSet::Feature>& features = layer.features->Features();
@@ -118,7 +119,7 @@ private:
         }
     }
 
-    // Spares the search in what is too small in every direction.
+    // Avoids the search in features that are too small in every direction.
     bool CanHold(const Box& bounds, QSizeF size) const
     {
         const QRectF pixels = ToPixels(bounds, m_view);
@@ -143,7 +144,7 @@ private:
         return {};
     }
 
-    // The longest stretch that is in the window without a break.
+    // The longest continuous part of the feature that is in the window.
     QPolygonF LongestInWindow(const FeatureSet& features, const FeatureSet::Feature& feature) const
     {
         QPolygonF longest;
@@ -171,7 +172,7 @@ private:
         return rings;
     }
 
-    // A street of many pieces is named once in a while, not once a piece.
+    // A street of many pieces is labelled at intervals, not once per piece.
     bool IsRepeated(const QString& text, QPointF centre) const
     {
         const std::vector<QPointF> others = m_sameText.value(text);
@@ -184,7 +185,7 @@ private:
     const QRectF m_window;
     const QFontMetricsF m_metrics;
     LabelSpace m_space;
-    QHash<QString, std::vector<QPointF>> m_sameText; // where this layer's labels stand
+    QHash<QString, std::vector<QPointF>> m_sameText; // the positions of this layer's labels
     std::vector<Label> m_labels;
 };
 

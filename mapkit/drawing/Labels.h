@@ -24,17 +24,18 @@ struct Label {
     QColor colour;
 };
 
-/// The font of labels: that of the program, at its size on a screen of 96 dots an inch.
+/// The font of labels: the font of the program, with its size on a screen of 96 dots per inch.
 QFont LabelFont();
 
-/// Finds places for the labels of the layers, which hold texts: none overlaps another or leaves the view, and
-/// what finds no place is left out. The topmost layer's come first, within a layer those of the largest
-/// features. layers: bottom first. For any thread; stops soon after cancelled becomes true.
+/// Finds places for the labels of the layers. No label overlaps another or extends beyond the view; labels
+/// without a place are left out. The labels of the topmost layer are placed first, and within a layer those
+/// of the largest features. layers: bottom first, with their labels read. May be called on any thread; stops
+/// soon after cancelled becomes true.
 std::vector<Label>
 PlaceLabels(std::span<const MapLayer> layers, const MapView& view, const std::atomic<bool>& cancelled);
 
-/// Paints the labels, each with a halo that parts it from the map. The painter stands on the view's logical
-/// pixels.
+/// Paints the labels, each with a halo that separates it from the map. painter: in logical pixels of the
+/// view.
 void PaintLabels(QPainter& painter, std::span<const Label> labels);
 
 } // namespace Orvane

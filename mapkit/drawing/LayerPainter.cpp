@@ -7,7 +7,7 @@ namespace Orvane {
 
 namespace {
 
-// Some of the features, drawn in one look; the passes of a layer lie on one another.
+// Draws some of the features with one look. The passes of a layer are drawn one over another.
 struct Pass {
     LayerLook look;
     std::function<bool(size_t feature)> isChosen; // empty for all
@@ -30,7 +30,7 @@ LayerLook ForLines(const LayerLook& look, const QPen& pen)
     return lines;
 }
 
-// What has an inside keeps the layer's outline; all else takes the class's colour.
+// Filled areas keep the layer's outline; unfilled ones get the class's colour.
 LayerLook AreasOfClass(const MapLayer& layer, const ClassLook& own)
 {
     LayerLook look = layer.look;
@@ -69,7 +69,7 @@ std::vector<Pass> GraduatedPasses(const MapLayer& layer)
     return passes;
 }
 
-// All casings lie below all cores, so that lines that meet run into one another.
+// All casings are drawn below all cores, so that lines that meet are joined.
 Pass CasingPass(const MapLayer& layer)
 {
     return {ForLines(layer.look, layer.look.cased->casing), [&layer](size_t feature) {

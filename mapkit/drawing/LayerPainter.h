@@ -10,9 +10,9 @@ class QPainter;
 
 namespace Orvane {
 
-/// Paints a layer's features, without labels, the way its renderer style asks for. layer: its features are
-/// read. The painter stands on the view's logical pixels; may run in any thread that owns it. Stops soon
-/// after cancelled becomes true.
+/// Paints a layer's features, without labels, according to its renderer style. layer: its features must be
+/// read. painter: in logical pixels of the view. May be called on any thread that owns the painter. Stops
+/// soon after cancelled becomes true.
 void PaintLayer(
     QPainter& painter, const MapLayer& layer, const MapView& view, const std::atomic<bool>& cancelled);
 

@@ -14,18 +14,18 @@
 
 namespace Orvane {
 
-/// How a layer takes part in the map, as Layers.OverrideMode stores it.
+/// How a layer is drawn in the map, as stored in Layers.OverrideMode.
 enum class DrawMode {
     Normal = 0,
     Backdrop = 1, ///< pale, and below every normal layer
-    Hidden = 2, ///< not at all
+    Hidden = 2, ///< not drawn
 };
 
-/// What a person may do with a layer's features on the map.
+/// What the user may do with a layer's features on the map.
 struct LayerFlags {
     bool selectable = true;
-    bool locked = false; ///< its features stay where they are
-    bool hitable = true; ///< off: its features are not found under the pointer, whatever the other flags say
+    bool locked = false; ///< its features cannot be moved
+    bool hitable = true; ///< if false, its features are never found under the pointer
     bool snapRequired = false; ///< measuring lines snap to its features
     bool enquirable = true;
 
@@ -41,28 +41,28 @@ struct MapLayer {
     double minDenominator = 0; ///< shown at scales from 1 : this ...
     double maxDenominator = std::numeric_limits<double>::infinity(); ///< ... to 1 : this
     DrawingValues values;
-    LayerLook look; ///< follows from the values
-    std::shared_ptr<const FeatureSet> features; ///< nullptr while they cannot be read
+    LayerLook look; ///< derived from the values
+    std::shared_ptr<const FeatureSet> features; ///< nullptr if they cannot be read
     std::shared_ptr<const AttributeColumn> labels; ///< nullptr for no labels, and until they are read
     std::shared_ptr<const Classification> classes; ///< nullptr for no classes, and until they are known
-    std::vector<ClassLook> classLooks; ///< follow from values and classes, one a class
+    std::vector<ClassLook> classLooks; ///< derived from values and classes, one per class
     QString name; ///< the layer's own, without markers
     LayerFlags flags;
 
-    /// True when the scale 1 : denominator is one that shows the layer.
+    /// True when the layer is shown at the scale 1 : denominator.
     bool IsInScale(double denominator) const
     {
         return denominator >= minDenominator && denominator <= maxDenominator;
     }
-    /// True when the map shows the layer at that scale, as far as the layer itself decides it.
+    /// True when the map shows the layer at that scale, judging by the layer's own values only.
     bool IsShownAt(double denominator) const
     {
         return visible && mode != DrawMode::Hidden && features && IsInScale(denominator);
     }
-    /// Orders layers as they lie upon each other, the lowest first.
+    /// A key that sorts layers in drawing order, the lowest first.
     auto Height() const { return std::tuple(mode != DrawMode::Backdrop, -priority, layerID); }
 
-    /// True when both would be drawn into the same pixels.
+    /// True when both layers would be drawn identically.
     bool LooksLike(const MapLayer& other) const
     {
         return values == other.values && features == other.features && labels == other.labels

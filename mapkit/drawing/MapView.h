@@ -10,17 +10,18 @@ namespace Orvane {
 
 inline constexpr double MetresPerInch = 0.0254;
 
-/// Which part of the map a window shows: an immutable value. Map units run east and north, pixels (logical
-/// ones) right and down from the window's top left corner.
+/// The part of the map that a window shows: an immutable value. Map coordinates increase to the east and
+/// north, logical pixels to the right and down from the window's top left corner.
 ///
 ///     MapView view = MapView::Fitting(bounds, size());
 ///     view = view.ZoomedAt(wheel->position(), 2);
 class MapView
 {
 public:
-    /// One unit a pixel, around the origin.
+    /// One map unit per pixel, around the origin.
     MapView() = default;
-    /// unitsPerPixel: map units that one pixel covers, more than 0; kept within what doubles can show.
+    /// unitsPerPixel: map units that one pixel covers, more than 0; limited to a range in which doubles are
+    /// exact enough.
     MapView(QPointF centre, double unitsPerPixel, QSize size);
 
     /// The view that shows the whole box with a small margin; the default view of that size for an empty box.
@@ -32,18 +33,18 @@ public:
 
     QPointF ToPixel(QPointF map) const;
     QPointF ToMap(QPointF pixel) const;
-    /// What the window shows, in map units.
+    /// The area that the window shows, in map units.
     Box Extent() const;
 
     /// The map moved by that many pixels, as if dragged.
     MapView Panned(QPointF pixels) const;
-    /// Closer by the factor (below 1: farther), while the map point under the pixel stays there.
+    /// Zoomed in by the factor (below 1: zoomed out); the map point under the pixel stays there.
     MapView ZoomedAt(QPointF pixel, double factor) const;
     /// Another window size around the same centre, at the same scale.
     MapView Resized(QSize size) const;
 
-    /// n of the scale 1:n on a screen of that many logical pixels an inch. metresPerUnit: length of a map
-    /// unit.
+    /// The n of the scale 1:n on a screen with that many logical pixels per inch. metresPerUnit: length of a
+    /// map unit.
     double ScaleDenominator(double metresPerUnit, double dotsPerInch) const;
 
     bool operator==(const MapView&) const = default;

@@ -9,11 +9,11 @@
 
 namespace Orvane {
 
-/// The part in the view's pixels, without vertices that are closer than the tolerance, in pixels, to the one
-/// kept before. First and last stay.
+/// Converts a part to the view's pixels. Vertices that are nearer to the last kept one than the tolerance, in
+/// pixels, are left out; the first and last vertices are always kept.
 QPolygonF ToPixels(std::span<const QPointF> part, const MapView& view, double tolerance);
 
-/// The upright rectangle that a box covers, in the view's pixels.
+/// The rectangle that a box covers, in the view's pixels.
 QRectF ToPixels(const Box& box, const MapView& view);
 
 } // namespace Orvane

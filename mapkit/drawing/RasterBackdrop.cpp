@@ -9,7 +9,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr double MostPixels = 8000; // a side: what memory and eyes bear
+constexpr double MostPixels = 8000; // per side, to limit memory; more would not be visible
 
 } // namespace
 

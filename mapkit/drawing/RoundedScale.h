@@ -6,7 +6,8 @@
 
 namespace Orvane {
 
-/// A scale's denominator as a person reads it: four digits are as exact as a screen or a page is.
+/// A scale's denominator, rounded for showing it to the user. A screen or a page is no more exact than four
+/// digits.
 inline double RoundedScale(double denominator)
 {
     const double step = std::pow(10, std::max(0.0, std::floor(std::log10(denominator)) - 3));

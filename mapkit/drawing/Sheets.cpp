@@ -36,7 +36,7 @@ QRect CoveredArea(const Sheet& sheet, const MapView& view)
     return (covered & window).toAlignedRect();
 }
 
-// The layers, bottom first, and above them their labels.
+// Appends sheets for the layers, bottom first, and above them for their labels.
 void AppendSheets(
     std::vector<Sheet>& sheets, std::span<const MapLayer> layers, bool backdrop, size_t perSheet)
 {

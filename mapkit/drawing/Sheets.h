@@ -14,45 +14,45 @@ class QPainter;
 
 namespace Orvane {
 
-/// How strongly backdrop layers are laid down; 1 is opaque.
+/// The opacity of backdrop layers; 1 is opaque.
 inline constexpr double BackdropOpacity = 0.3;
 
-/// Neighbouring layers that share one image; a sheet of one layer as long as there are few layers.
+/// Neighbouring layers that share one image. If there are few layers, each has its own sheet.
 struct Sheet {
     std::vector<MapLayer> layers; ///< bottom first; at least one
-    bool backdrop = false; ///< laid down pale
+    bool backdrop = false; ///< drawn pale
     bool labels = false; ///< shows the layers' labels, not their features
 
-    /// The layers' IDs in order, behind a mark for labels: names the sheet's image.
+    /// A marker for labels, followed by the layers' IDs in order; identifies the sheet's image.
     std::vector<qint32> Key() const;
 };
 
-/// What a sheet shows, cut to what its layers can cover.
+/// The image of a sheet, limited to the area that its layers can cover.
 struct SheetImage {
-    QImage image; ///< null when nothing is in view
+    QImage image; ///< null if nothing is in view
     QPoint topLeft; ///< logical pixels of the view
 };
 
-/// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID;
-/// without layers that are invisible, hidden, out of scale, out of view or not read. There are about
-/// maxSheets of them at most, however many layers there are, which bounds the memory they take. Labels follow
-/// on sheets of their own, above everything; those of backdrop layers above the backdrop.
+/// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID.
+/// Layers that are invisible, hidden, out of scale, out of view or not read are left out. There are at most
+/// about maxSheets sheets for any number of layers, which limits the memory that they use. Labels are on
+/// separate sheets above all layers; those of backdrop layers are directly above the backdrop.
 std::vector<Sheet> PlanSheets(
     const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator, size_t maxSheets = 64);
 
-/// Draws a sheet; for any thread. Stops soon after cancelled becomes true, with part of it drawn.
+/// Draws a sheet, on any thread. Stops soon after cancelled becomes true, with part of it drawn.
 SheetImage DrawSheet(
     const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled);
 
-/// Paints a sheet's layers, for any thread. The painter stands on the view's logical pixels. Stops soon after
-/// cancelled becomes true.
+/// Paints a sheet's layers, on any thread. painter: in logical pixels of the view. Stops soon after cancelled
+/// becomes true.
 void PaintSheet(
     QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled);
 
-/// How strongly a sheet is laid down: 0 to 1, which is opaque.
+/// The opacity of a sheet: 0 to 1, which is opaque.
 double SheetOpacity(const Sheet& sheet);
 
-/// Lays a sheet's image over what the painter holds.
+/// Paints a sheet's image with the sheet's opacity.
 void PlaceSheet(QPainter& painter, const Sheet& sheet, const SheetImage& image);
 
 } // namespace Orvane

@@ -18,7 +18,7 @@ std::vector<double> SortedFinite(std::span<const double> numbers)
     return sorted;
 }
 
-// Where class `index` of `count` begins. sorted: not empty.
+// The lower limit of class `index` of `count`. sorted: not empty.
 double LimitOf(const std::vector<double>& sorted, ClassDivision division, int index, int count)
 {
     if (division == ClassDivision::Quantiles)

@@ -19,9 +19,9 @@ namespace {
 constexpr int FillPatternCount = 32;
 constexpr QRgb OwnSymbolColour = 0xff4a4a4a;
 constexpr QRgb UnclassedColour = 0xffd9d9d9;
-constexpr double PaleEnd = 0.8; // of the way to white
+constexpr double PaleEnd = 0.8; // share of white that is mixed in
 constexpr double ThinnestCased = 4; // pixels
-constexpr double EdgePart = 0.15; // of a cased line's width, on either side
+constexpr double EdgePart = 0.15; // of a cased line's width, on each side
 constexpr float LightestText = 0.35f;
 
 QColor OpaqueFromBgr(qint32 bgr)
@@ -43,11 +43,11 @@ QPen OutlineOf(const DrawingValues& values, double pixelsPerMillimetre)
         Qt::RoundCap, Qt::RoundJoin);
     SetLinePattern(pen, values.outlineStyle);
     if (pen.style() != Qt::SolidLine)
-        pen.setCapStyle(Qt::FlatCap); // round ones would close the gaps
+        pen.setCapStyle(Qt::FlatCap); // round caps would close the gaps
     return pen;
 }
 
-// An image and not a bitmap: painting threads may not touch pixmaps.
+// Uses an image instead of a bitmap, because painting threads may not use pixmaps.
 QBrush PatternBrush(const MonochromeBitmap& pattern, const QColor& fore, const QColor& back)
 {
     QImage image(pattern.width, pattern.height, QImage::Format_ARGB32_Premultiplied);
@@ -68,7 +68,7 @@ QBrush FillOf(const DrawingValues& values, const IShellServices& services)
     std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
     const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
     if (!fore && !back)
-        fore = OpaqueFromBgr(values.color); // as the fill picker previews it
+        fore = OpaqueFromBgr(values.color); // as in the preview of the fill picker
     if (values.fillStyle == HollowFill)
         return back ? QBrush(*back) : QBrush(Qt::NoBrush);
     if (values.fillStyle == SolidFill)
@@ -79,7 +79,7 @@ QBrush FillOf(const DrawingValues& values, const IShellServices& services)
     return PatternBrush(pattern, fore.value_or(Qt::transparent), back.value_or(Qt::transparent));
 }
 
-// Edges of a pixel on either side at least, and a core between them.
+// Leaves edges of at least one pixel on each side, and a core between them.
 CasedLine CasedLineOf(const DrawingValues& values, const QPen& outline)
 {
     const double width = std::max(outline.widthF(), ThinnestCased);
@@ -113,7 +113,7 @@ qint32 BgrOf(const QColor& colour)
     return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
-// Letters are read on white: what is too light for that is darkened.
+// Letters are on a white halo, so colours that are too light are darkened.
 QColor TextColour(const QColor& colour)
 {
     const double lightness = std::min(colour.lightnessF(), LightestText);

@@ -15,11 +15,11 @@ class IShellServices;
 
 /// The columns of a Layers row that say how the layer is drawn, as stored.
 struct DrawingValues {
-    qint32 color = 0; ///< BGR; a top byte other than 0: symbols keep their own colour
+    qint32 color = 0; ///< BGR; if the top byte is not 0, symbols keep their own colour
     qint32 fillForeColor = 0; ///< BGR; a top byte other than 0: transparent
     qint32 fillBackColor = 0; ///< BGR; a top byte other than 0: transparent
     int outlineStyle = 0; ///< as in LinePatterns.h: 0 solid, 1 to 14 dashes and dots, 15 none
-    int fillStyle = 0; ///< 0 solid, 15 hollow, else the number of a fill pattern
+    int fillStyle = 0; ///< 0 solid, 15 hollow, otherwise the number of a fill pattern
     int lineThickness = 0; ///< negative: pixels; 0: thinnest; positive: millimetres
     qint32 style = 0; ///< as in RendererStyles.h
 
@@ -40,28 +40,29 @@ struct ClassLook {
 
 /// Pens and brushes for one layer. Safe to use in any thread.
 struct LayerLook {
-    QPen outline; ///< of areas; of lines, too, that are not cased
+    QPen outline; ///< of areas, and of lines that are not cased
     QBrush fill;
     QColor symbol; ///< colour of points
     double symbolRadius = 3; ///< logical pixels
     QColor text; ///< of labels
     std::optional<CasedLine> cased; ///< for renderer styles with cased lines
 
-    /// The farthest that ink reaches from a feature's geometry, in logical pixels.
+    /// The largest distance from a feature's geometry at which anything is painted, in logical pixels.
     double Reach() const;
 };
 
-/// The colour that a BGR integer stands for; nothing when its top byte marks it transparent.
+/// The colour of a BGR integer; nothing if its top byte marks it as transparent.
 std::optional<QColor> ColourFromBgr(qint32 bgr);
 
-/// The looks of so many classes, the lowest first, in steps from the fill's back colour to its fore colour;
-/// where one is transparent, from pale to strong. Passes on what the services raise.
+/// The looks of that number of classes, the lowest first, in steps from the fill's back colour to its fore
+/// colour. If one of them is transparent, the steps are from pale to strong. Errors of the services are
+/// passed on.
 std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count);
 /// The look of features that are in no class: grey.
 ClassLook UnclassedLook(const DrawingValues& values);
 
-/// The look that the values ask for. pixelsPerMillimetre: of the screen or the paper, in logical pixels.
-/// Passes on what the services raise.
+/// The look for the values. pixelsPerMillimetre: of the screen or the paper, in logical pixels. Errors of the
+/// services are passed on.
 LayerLook LookOf(const DrawingValues& values, const IShellServices& services, double pixelsPerMillimetre);
 
 } // namespace Orvane

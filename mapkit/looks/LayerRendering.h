@@ -7,9 +7,9 @@
 
 namespace Orvane {
 
-/// What a layer's renderer style works with. An empty attribute stands for the one that fits best.
+/// The settings for a layer's renderer style. An empty attribute stands for the most suitable one.
 struct LayerRendering {
-    QString labelAttribute; ///< written beside the features
+    QString labelAttribute; ///< shown next to the features
     QString classAttribute; ///< sorts the features into classes
     ClassDivision division = ClassDivision::Quantiles;
     int classCount = 5; ///< Classification::MinCount to MaxCount

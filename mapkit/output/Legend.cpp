@@ -19,7 +19,7 @@ namespace Orvane {
 
 namespace {
 
-// A layer in several groups is listed by the first of them.
+// A layer that is in several groups is listed only in the first of them.
 constexpr auto ListedLayers
     = "SELECT Layers.LayerID AS LayerID, Layers.Name AS LayerName, LayerGroups.ID AS GroupID,"
       " LayerGroups.Name AS GroupName FROM Layers"
@@ -47,7 +47,7 @@ LegendRow RowOf(const MapLayer& layer, const QString& name, const IShellServices
     return row;
 }
 
-// Six digits, but no exponent for what a person can read without one.
+// Six digits, without an exponent if the number is readable without it.
 QString LimitText(double limit)
 {
     const double size = std::abs(limit);
@@ -55,7 +55,7 @@ QString LimitText(double limit)
     return isLong ? QLocale().toString(limit, 'f', 0) : QLocale().toString(limit, 'g', 6);
 }
 
-// How a class differs from its layer, as the map draws it.
+// The row of a class: like its layer, but with the differences that the map draws.
 LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
 {
     LegendRow row = layer;
@@ -71,7 +71,7 @@ LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
     return row;
 }
 
-// The layer's row, and those of its classes below it.
+// Adds the layer's row, and below it the rows of its classes.
 void AddLayer(std::vector<LegendRow>& rows, const LegendRow& row, const MapLayer& layer)
 {
     rows.push_back(row);
@@ -86,7 +86,7 @@ void AddLayer(std::vector<LegendRow>& rows, const LegendRow& row, const MapLayer
     }
 }
 
-// The rows of one group, or of what belongs to none.
+// The rows of one group, or of layers that belong to no group.
 struct Block {
     Value groupID;
     QString name;

@@ -19,12 +19,12 @@ struct LegendRow {
     QString text;
     bool heading = false; ///< the name of a group
     bool sample = true; ///< false: text only
-    int indent = 0; ///< how many rows above this one it belongs to
+    int indent = 0; ///< its level: the number of rows above it that it belongs to
     bool backdrop = false; ///< drawn pale
-    FeatureKind kind = FeatureKind::Area; ///< what the layer's first feature is
+    FeatureKind kind = FeatureKind::Area; ///< the kind of the layer's first feature
     DrawingValues values;
-    LayerLook look; ///< follows from the values
-    MonochromeBitmap fillPattern; ///< of a patterned fill style
+    LayerLook look; ///< derived from the values
+    MonochromeBitmap fillPattern; ///< for a fill style with a pattern
 
     static LegendRow Heading(const QString& text)
     {
@@ -37,8 +37,8 @@ struct LegendRow {
 };
 
 /// The legend of these layers: groups in the order of the layer control with their layers below them, each
-/// layer once, layers without a group at the end. A graduated layer is followed by its classes. A group of
-/// which one layer only is listed has no heading. Passes on errors of the database and the services.
+/// layer once, layers without a group at the end. A graduated layer is followed by its classes. A group has
+/// no heading if only one of its layers is listed. Errors of the database and the services are passed on.
 std::vector<LegendRow>
 LegendOf(ILayerDatabase& database, const IShellServices& services, const std::vector<MapLayer>& layers);
 

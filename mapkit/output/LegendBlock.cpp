@@ -31,7 +31,7 @@ double Indent(const LegendRow& row)
     return row.indent * ColumnGap;
 }
 
-// From the row's left edge to its text.
+// The distance from the row's left edge to its text.
 double TextStart(const LegendRow& row)
 {
     return Indent(row) + (row.sample ? SampleWidth + ColumnGap : 0);

@@ -10,22 +10,22 @@ class QRectF;
 
 namespace Orvane {
 
-/// A legend as it stands on a page: rows with a sample and a name, in columns. Lengths are page pixels.
+/// A legend on a page: rows with a sample and a name, in columns. Lengths are in page pixels.
 class LegendBlock
 {
 public:
-    /// Where the room comes from that the block takes.
+    /// Where the block is on the page.
     enum class Place {
-        Beside, ///< at a side of the map: few columns
-        Below, ///< across the page: few rows
+        Beside, ///< at a side of the map, with few columns
+        Below, ///< across the page, with few rows
     };
 
     LegendBlock(std::vector<LegendRow> rows, Place place) : m_rows(std::move(rows)), m_place(place) { }
 
-    /// What it takes of the room that there is; nothing without rows or where not even a row fits. Rows that
-    /// do not fit are counted in the last one.
+    /// The part of the available room that it uses; empty if there are no rows or not even one row fits. If
+    /// some rows do not fit, the last row shows their number.
     QSizeF SizeWithin(QSizeF room) const;
-    /// Paints it into such a room.
+    /// Paints the legend into that room.
     void Paint(QPainter& painter, const QRectF& room) const;
 
 private:

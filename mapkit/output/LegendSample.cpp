@@ -21,7 +21,7 @@ namespace Orvane {
 namespace {
 
 constexpr qint32 White = 0xFFFFFF;
-constexpr int SampleResolution = 288; // three dots a pattern bit
+constexpr int SampleResolution = 288; // dots per inch: three dots per pattern bit
 constexpr double WidestOutline = 0.25; // of the sample's height
 
 qint16 Whole(double number)
@@ -29,8 +29,8 @@ qint16 Whole(double number)
     return qint16(std::clamp(std::round(number), 1.0, 32000.0));
 }
 
-// Page pixels that one unit of the line's drawing commands stands for: the commands know widths of whole
-// units only, and patterns of width 1.
+// The size of one unit of the line's drawing commands, in page pixels. The commands support only widths in
+// whole units, and patterns only with width 1.
 double UnitOf(const DrawingValues& values, const LayerLook& look)
 {
     if (values.outlineStyle != 0)
@@ -49,7 +49,7 @@ void PaintLine(QPainter& painter, const QRect& area, const DrawingValues& values
     const LineItem line{qint16(values.outlineStyle), Whole(std::abs(values.lineThickness))};
     const LineItem shown{
         line.style, values.lineThickness > 0 ? line.thickness : qint16(values.lineThickness)};
-    // What stands before the tab is the width in words.
+    // The text before the tab is the width in words.
     const QString commands = StyleStrings({}, {}).LineItemText(shown, extent).section(QLatin1Char('\t'), -1);
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
@@ -59,7 +59,7 @@ void PaintLine(QPainter& painter, const QRect& area, const DrawingValues& values
     painter.restore();
 }
 
-// A solid line as broad as the pen.
+// Paints a solid line that is as wide as the pen.
 void PaintStroke(QPainter& painter, const QRect& area, const QPen& pen)
 {
     DrawingValues values;

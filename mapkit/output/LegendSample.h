@@ -8,9 +8,9 @@ class QRect;
 
 namespace Orvane {
 
-/// Paints how a layer looks, as the lists of the layer control show it: areas by the fill list's sample
-/// within the layer's outline, lines by the line list's drawing commands, points as the map draws them.
-/// Widths are those of the map. area: page pixels, on white paper.
+/// Paints a sample of a layer, like the lists of the layer control: areas with the fill list's sample inside
+/// the layer's outline, lines with the line list's drawing commands, points as on the map. Widths are as on
+/// the map. area: in page pixels, on white paper.
 void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& row);
 
 } // namespace Orvane

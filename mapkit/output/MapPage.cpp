@@ -30,9 +30,9 @@ constexpr double LongestScaleBar = 180;
 constexpr double ScaleBarPart = 0.4; // of the map's width
 constexpr double ScaleBarGap = 8;
 constexpr double FrameWidth = 0.75;
-constexpr double HonestWithin = 0.02; // how far ground and map may differ for one number to speak for both
+constexpr double HonestWithin = 0.02; // 1:n is shown only if ground and map differ by no more
 
-// Bottom first, each that the view shows.
+// The layers that the view shows, bottom first.
 std::vector<MapLayer>
 DrawnLayers(const std::vector<MapLayer>& layers, const MapView& view, double denominator)
 {
@@ -57,10 +57,10 @@ void RemoveFills(MapLayer& layer)
 {
     layer.look.fill = Qt::NoBrush;
     for (ClassLook& look : layer.classLooks)
-        look.fill = QBrush(Qt::transparent); // without any brush the outline would take the class's colour
+        look.fill = QBrush(Qt::transparent); // with no brush, the outline would get the class's colour
 }
 
-// For devices that cannot clip: what was painted over the map's edge is covered again.
+// For devices that cannot clip: covers everything that was painted outside the map.
 void CoverMargins(QPainter& painter, const QRectF& map, const QSizeF& page)
 {
     QPainterPath around;
@@ -155,7 +155,7 @@ void MapPage::PaintLayers(QPainter& painter, const std::atomic<bool>& cancelled)
         PaintWithPictures(painter, cancelled);
 }
 
-// Patterned fills become pictures; everything else stays lines and areas.
+// Fills with patterns become pictures; everything else stays lines and areas.
 void MapPage::PaintWithPictures(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
     const double denominator = ScaleDenominator();
@@ -184,7 +184,7 @@ void MapPage::PaintScaleBar(QPainter& painter) const
         bar.Paint(painter, map.bottomLeft() + QPointF(ScaleBarGap, -size.height() - ScaleBarGap));
 }
 
-// Where the projection stretches, 1:n is true nowhere on the page; the bar alone is then honest.
+// If the projection distorts lengths, 1:n is wrong everywhere on the page. Only the bar is shown then.
 QString MapPage::ScaleText() const
 {
     if (std::abs(m_groundMetresPerUnit / m_metresPerUnit - 1) > HonestWithin)

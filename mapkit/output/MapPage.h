@@ -18,39 +18,40 @@ namespace Orvane {
 class ILayerDatabase;
 class IShellServices;
 
-/// What a page is to show.
+/// The contents of a page.
 struct PageContents {
-    std::vector<MapLayer> layers; ///< of any screen: their looks are made anew for paper
+    std::vector<MapLayer> layers; ///< their looks are created again for paper
     QString system; ///< coordinate system of the map
-    Box area; ///< to be shown whole, or around its middle where the settings name a scale
+    Box area; ///< shown completely, or around its middle if the settings have a scale
     std::shared_ptr<const RasterBackdrop> backdrop = nullptr; ///< under all layers; nullptr for none
 };
 
-/// A map with title, legend and scale bar, composed for one page; then painted any number of times.
+/// A map with title, legend and scale bar, laid out for one page. It can be painted any number of times.
 ///
 ///     const MapPage page(document.Database(), services, contents, settings);
 ///     painter.scale(dotsPerInch / PagePixelsPerInch, dotsPerInch / PagePixelsPerInch);
 ///     page.Paint(painter, cancelled);
 ///
-/// Widths in millimetres are true on paper; a width or a symbol in pixels measures what it does on a screen
-/// of 96 dots an inch. The legend lists what the page shows.
+/// Widths in millimetres are exact on paper; widths and symbols in pixels have the size that they have on a
+/// screen of 96 dots per inch. The legend lists what the page shows.
 class MapPage
 {
 public:
-    /// Reads the legend, on the database's thread; passes on what database and services raise.
+    /// Reads the legend; call it on the database's thread. Errors of the database and the services are passed
+    /// on.
     MapPage(
         ILayerDatabase& database, const IShellServices& services, PageContents contents,
         const PageSettings& settings);
 
-    /// n of the scale 1:n of the map on this page.
+    /// The n of the scale 1:n of the map on this page.
     double ScaleDenominator() const;
     const PageLayout& Layout() const { return m_layout; }
-    /// The map's view, in page pixels of its frame.
+    /// The view of the map, in page pixels relative to its frame.
     const MapView& View() const { return m_view; }
     const std::vector<LegendRow>& Legend() const { return m_legend; }
     const PageSettings& Settings() const { return m_settings; }
 
-    /// Paints the page, white paper included, in any thread. painter: stands on page pixels. Stops soon after
+    /// Paints the page, including the white paper, on any thread. painter: in page pixels. Stops soon after
     /// cancelled becomes true.
     void Paint(QPainter& painter, const std::atomic<bool>& cancelled) const;
 

@@ -5,7 +5,7 @@
 
 namespace Orvane::PageFonts {
 
-/// Fonts of the page, sized in page pixels whatever the device.
+/// Fonts of the page, with sizes in page pixels on every device.
 inline QFont OfSize(int pixels, bool bold = false)
 {
     QFont font;

@@ -15,7 +15,7 @@ namespace {
 constexpr double BlockGap = 12;
 constexpr double MostForLegend = 1.0 / 3;
 
-// Takes the title's line from the top of the room.
+// Removes the title's line from the top of the room, and returns it.
 QRectF TakeTitle(QRectF& room)
 {
     const double height = std::min(QFontMetricsF(PageFonts::Title()).height(), room.height() / 3);

@@ -8,19 +8,19 @@
 
 namespace Orvane {
 
-/// Where things stand on a page, in page pixels from its upper left corner.
+/// The positions of the parts of a page, in page pixels from its upper left corner.
 struct PageLayout {
     QSizeF page;
     QRectF title; ///< empty for none
-    QRectF map; ///< on whole pixels, at least one of them
+    QRectF map; ///< in whole pixels, at least one pixel
     QRectF legend; ///< empty for none
 };
 
-/// Title above, map below it, legend beside the map on a wide page and under it on a tall one. The legend
-/// takes a third of the room at most.
+/// The title is at the top and the map below it. The legend is beside the map on a wide page and below it on
+/// a tall one. It uses at most a third of the room.
 PageLayout LayOutPage(const PageSettings& settings, const std::vector<LegendRow>& legend);
 
-/// Where the legend stands on such a page.
+/// The place of the legend on a page with these settings.
 LegendBlock::Place LegendPlace(const PageSettings& settings);
 
 } // namespace Orvane

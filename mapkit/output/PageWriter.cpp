@@ -21,7 +21,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr int LargestSide = 30000; // pixels; beyond it painting is no longer exact
+constexpr int LargestSide = 30000; // pixels; on larger pages painting is not exact
 constexpr double InchesPerMetre = 1000 / MillimetresPerInch;
 
 [[noreturn]] void Fail(const QString& reason)

@@ -20,19 +20,19 @@ inline constexpr int OutputFailed = 10201;
 inline constexpr int LeastResolution = 30;
 inline constexpr int MostResolution = 2400;
 
-/// What a page can be written as.
+/// The file formats for a page.
 enum class PageFormat { Pdf, Svg, Png };
 
-/// The format that the file's ending names, in any case; nothing for another ending.
+/// The format for the file name's extension, compared case-insensitively; nothing for any other extension.
 std::optional<PageFormat> FormatOfFile(const QString& path);
 
-/// Writes the page to a file, in any thread. A file of that name is replaced once all is written, and stays
-/// as it was when anything fails. Raises OutputFailed for an unknown ending, a file that cannot be written
-/// and a picture that is too large; raises Cancelled.
+/// Writes the page to a file, on any thread. An existing file of that name is replaced after everything is
+/// written, and stays as it was if anything fails. Raises OutputFailed for an unknown extension, a file that
+/// cannot be written and a picture that is too large; raises Cancelled.
 void WritePage(const MapPage& page, const QString& path, Progress& progress);
 
 /// Prints the page. The page's size should be that of the printer's paintable area, and its margin 0. Raises
-/// OutputFailed when the printer refuses; raises Cancelled.
+/// OutputFailed if the printer reports an error; raises Cancelled.
 void PrintPage(const MapPage& page, QPrinter& printer, Progress& progress);
 
 } // namespace Orvane

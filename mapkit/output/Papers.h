@@ -7,20 +7,20 @@
 
 namespace Orvane {
 
-/// A usual paper.
+/// A standard paper size.
 struct Paper {
-    QString name; ///< as written on the package, not translated
+    QString name; ///< the usual name, not translated
     QSizeF upright; ///< millimetres, the shorter side first
 };
 
 namespace Papers {
 
-/// Smallest and largest sides of a page.
+/// The smallest and largest side of a page.
 inline constexpr double Least = 10; ///< millimetres, or pixels
 inline constexpr double MostMillimetres = 10000;
 inline constexpr double MostPixels = 30000;
 
-/// A5 to A0, and the American ones.
+/// A5 to A0, and the American sizes.
 std::span<const Paper> All();
 
 } // namespace Papers

@@ -9,12 +9,12 @@ class QPainter;
 
 namespace Orvane {
 
-/// True when the painter's device fills areas with patterns; Qt's SVG generator leaves them empty.
+/// True when the painter's device can fill areas with patterns; Qt's SVG generator leaves such areas empty.
 bool KnowsPatterns(const QPainter& painter);
 
-/// Paints into a transparent picture of that area and lays it down. area: page pixels; resolution: dots an
-/// inch. paint gets a painter that stands on page pixels as the first one does. Nothing is painted when the
-/// picture is too large for the memory.
+/// Calls paint with a transparent picture of that area, then paints the picture. area: in page pixels;
+/// resolution: in dots per inch. paint gets a painter with the same page pixels as the first painter. Nothing
+/// is painted if the picture is too large for memory.
 void PaintAsPicture(
     QPainter& painter, const QRectF& area, int resolution, const std::function<void(QPainter&)>& paint);
 

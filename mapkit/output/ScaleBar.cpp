@@ -17,7 +17,7 @@ constexpr double MetresPerKilometre = 1000;
 constexpr double BarHeight = 5;
 constexpr double BarPadding = 5;
 constexpr int Parts = 4;
-constexpr int PaperAlpha = 215; // of 255: the map shimmers through
+constexpr int PaperAlpha = 215; // of 255: the map is slightly visible through it
 
 double RoundLengthUpTo(double metres)
 {
@@ -64,7 +64,7 @@ QString ScaleBar::Label() const
     return LengthText(m_metres);
 }
 
-// The last label stands in the middle below the bar's end and reaches beyond it.
+// The last label is centred below the bar's end, and so extends beyond it.
 QSizeF ScaleBar::Size() const
 {
     const double overhang = TextWidth(Label()) / 2;

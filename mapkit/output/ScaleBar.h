@@ -8,7 +8,7 @@ class QPainter;
 
 namespace Orvane {
 
-/// A bar of a round length on the ground.
+/// A scale bar that stands for a round length on the ground.
 ///
 ///     const auto bar = ScaleBar::Fitting(metresPerPixel, 200);
 ///     bar.Paint(painter, corner);
@@ -16,18 +16,19 @@ class ScaleBar
 {
 public:
     /// The longest bar of 1, 2 or 5 times a power of ten metres that fits. Both arguments are more than 0;
-    /// lengths are page pixels. numberText: what stands above the bar, the map's scale; empty for nothing.
+    /// lengths are in page pixels. numberText: the text above the bar, which is the map's scale; empty for
+    /// none.
     static ScaleBar Fitting(double metresPerPixel, double maxLength, const QString& numberText = {});
 
     double Metres() const { return m_metres; }
-    /// Page pixels.
+    /// In page pixels.
     double Length() const { return m_length; }
-    /// The full length in words: "500 m", "20 km".
+    /// The full length as text: "500 m", "20 km".
     QString Label() const;
 
-    /// What the bar takes with its labels and the paper behind it, in page pixels.
+    /// The size of the bar with its labels and background, in page pixels.
     QSizeF Size() const;
-    /// Paints it with that upper left corner.
+    /// Paints the bar with that upper left corner.
     void Paint(QPainter& painter, QPointF topLeft) const;
 
 private:

@@ -59,7 +59,7 @@ void DataActions::ShowProblems(const QString& problems)
 void DataActions::Use(MapSession& session)
 {
     m_session = &session;
-    // Queued: saving the map under another name ends the session that tells it.
+    // Queued: saving the map under another name ends the session that emits the signal.
     connect(
         &session, &MapSession::DataFailed, this,
         [this](const QString& reason) { Guard(&m_window, [&] { ShowProblems(reason); }); },

@@ -12,20 +12,20 @@ namespace Orvane {
 
 class MapSession;
 
-/// The commands of the File menu that concern the data of a map: look for what is missing, lay a picture
-/// under it. They also tell the person what is wrong with data.
+/// The commands of the File menu for the data of a map: find missing data, put a picture under the map. They
+/// also show the user the problems of the data.
 class DataActions : public QObject
 {
     Q_OBJECT
 public:
-    /// Adds the commands to the menu, behind that one. The window outlives this object.
+    /// Adds the commands to the menu, after that one. The window outlives this object.
     DataActions(QMenu& menu, const QAction* behind, QWidget& window);
 
-    /// The map whose data are meant from now on, and whose files are looked after; not owned.
+    /// The commands work on the data of this map from now on, and its files are watched; not owned.
     void Use(MapSession& session);
 
-    /// Shows the problems in one message, which offers to look for data that are missing; nothing when there
-    /// are none.
+    /// Shows the problems in one message, which offers to look for missing data. Does nothing when there are
+    /// no problems.
     void ShowProblems(const QString& problems);
 
 signals:

@@ -13,7 +13,7 @@ namespace Orvane {
 
 namespace {
 
-// An ampersand in a name is no mnemonic; the command's own first letter is, where it is on the keyboard.
+// An ampersand in a name is not a mnemonic; the first letter of the command is, if it is an ASCII character.
 QString MenuText(QString text)
 {
     text.replace(QLatin1Char('&'), QLatin1String("&&"));

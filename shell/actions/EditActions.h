@@ -12,8 +12,8 @@ namespace Orvane {
 class MapSession;
 class UndoHistory;
 
-/// The Edit menu's commands: they undo and redo what the person did to the map that is open, and say what
-/// that is. Their keys work in every window of the program that has no use for them itself.
+/// The Edit menu's commands: they undo and redo the user's changes to the open map, and name them. Their keys
+/// work in every window of the program that does not use these keys itself.
 class EditActions : public QObject
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ public:
     /// None is owned; all outlive this object. Errors are shown over the window.
     EditActions(const Actions& actions, QWidget& window);
 
-    /// The map that the commands belong to from now on; not owned, and may end before this object.
+    /// The commands work on this map from now on; not owned, and may end before this object.
     void Use(MapSession& session);
-    /// As Use, for a history alone.
+    /// Like Use, but for a history without a map.
     void Use(UndoHistory& history);
 
 private:

@@ -18,10 +18,10 @@ class IStyleFilter;
 class StyleEditorPlugin;
 class TracingLibrary;
 
-/// The layer control of the shell: loads the component when it is first asked for, and shows its editors: the
-/// one on all layers, which has the ID "Main", and others of other IDs and filters.
+/// The layer control of the shell: loads the component at its first use, and shows its editors: the editor of
+/// all layers, which has the ID "Main", and others with their own IDs and filters.
 ///
-/// Raises what loading the component raises, and what the component passes on.
+/// Raises the errors of loading the component, and those that the component passes on.
 class LayerControl
 {
 public:
@@ -32,24 +32,24 @@ public:
     LayerControl(const LayerControl&) = delete;
     LayerControl& operator=(const LayerControl&) = delete;
 
-    /// The map whose client the next editor works with; not owned. Only while no editor is open.
+    /// The next editor works with the client of this map; not owned. Call only while no editor is open.
     void Use(MapSession& session);
 
     /// Opens the editor on all layers; does nothing when it is shown.
     void Show();
-    /// Opens an editor of that ID whose flat list shows what the filter lets through; an editor that is shown
-    /// gets the new filter and keeps its edits.
+    /// Opens an editor with this ID, whose flat list shows the layers that the filter accepts; an editor that
+    /// is shown gets the new filter and keeps its edits.
     void Show(const QString& editorID, std::shared_ptr<const IStyleFilter> filter);
     /// Closes all editors, each of which asks about edits that were not applied. False when one stays open.
     bool Close();
-    /// Closes one editor, as above; true also when there is none of that ID.
+    /// Closes one editor in the same way; true also when there is none with this ID.
     bool Close(const QString& editorID);
     /// True when an editor is shown.
     bool IsShown() const;
     bool IsShown(const QString& editorID) const;
 
-    /// Acts while no editor is open, and opens again those that were, also when the act raises; the window
-    /// that was active stays so. False, without having acted, when one of them stays open.
+    /// Closes all editors, calls act and opens the same editors again, also when act raises; the active
+    /// window stays active. False, without calling act, when an editor stays open.
     bool WithEditorsClosed(const std::function<void()>& act);
 
 private:

@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-/// What Orvane's flat list shows: every layer but pseudo layers, which only named groups list.
+/// What Orvane's flat list shows: every layer except pseudo layers, which are listed in named groups only.
 class PseudoFilter final : public IStyleFilter
 {
 private:

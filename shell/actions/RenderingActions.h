@@ -20,7 +20,7 @@ public:
     /// window: the parent of the dialog. menu: gets the command at its end. Both outlive this object.
     RenderingActions(QWidget& window, QMenu& menu);
 
-    /// The map whose layers are meant from now on; not owned.
+    /// The command works on the layers of this map from now on; not owned.
     void Use(MapSession& session) { m_session = &session; }
 
 private:

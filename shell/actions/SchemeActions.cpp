@@ -28,7 +28,7 @@ namespace {
 constexpr auto FileSuffix = "json";
 constexpr int MessageTime = 15000; // milliseconds
 
-// The scheme's name, as far as a file may have it.
+// The scheme's name, without the characters that a file name may not contain.
 QString FileNameFor(const QString& scheme)
 {
     QString name = NameInText(scheme);
@@ -109,7 +109,7 @@ void SchemeActions::SwitchTo(const QString& name)
         LoadAfterQuestions(name);
 }
 
-// The editors ask first: what is applied then is a change that the scheme may have to take.
+// The editors ask first: changes that are applied then may have to be saved to the scheme.
 void SchemeActions::LoadAfterQuestions(const QString& name)
 {
     ChangeLayers([&] {
@@ -204,7 +204,7 @@ void SchemeActions::Report(const SchemeImport& import)
         LoadAfterQuestions(import.name);
 }
 
-// An editor would show values that are no more; closing it asks about its edits first.
+// An open editor would show outdated values; closing it asks about its edits first.
 void SchemeActions::ChangeLayers(const std::function<void()>& change)
 {
     m_control.WithEditorsClosed(change);

@@ -21,8 +21,8 @@ class SchemeStatus;
 struct SchemeImport;
 
 /// The menu of layer schemes: lists them to switch to, saves the current one and reverts to it, exports one
-/// to a file and imports one. Asks before anything is lost, and tells in the status bar what a scheme left
-/// alone.
+/// to a file and imports one. Asks before anything is lost, and shows in the status bar what a scheme left
+/// unchanged.
 class SchemeActions : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     /// this object.
     SchemeActions(QMenu& menu, QStatusBar& statusBar, LayerControl& control, QWidget& window);
 
-    /// The map whose schemes are meant from now on; not owned.
+    /// The commands work on the schemes of this map from now on; not owned.
     void Use(MapSession& session);
 
 private:
@@ -59,7 +59,7 @@ private:
     QWidget& m_window;
     SchemeStatus* m_status; // owned by the status bar
     QActionGroup* m_schemes;
-    QAction* m_listEnd = nullptr; // owned by the menu, as the commands
+    QAction* m_listEnd = nullptr; // owned by the menu, like the commands
     QAction* m_save = nullptr;
     QAction* m_revert = nullptr;
     MapSession* m_session = nullptr;

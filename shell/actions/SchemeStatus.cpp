@@ -54,7 +54,7 @@ void SchemeStatus::ShowScheme(const QString& scheme, qsizetype differing)
     else
         words = tr("Layers that differ from the scheme \"%1\": %2").arg(whole, QLocale().toString(differing));
     setText(differing == 0 ? tr("Scheme: %1").arg(name) : tr("Scheme: %1 *").arg(name));
-    setToolTip(words.toHtmlEscaped()); // a name is no markup
+    setToolTip(words.toHtmlEscaped()); // a name is plain text
     setAccessibleName(words);
 }
 

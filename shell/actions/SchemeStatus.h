@@ -7,15 +7,15 @@ namespace Orvane {
 
 class MapSession;
 
-/// The field of the status bar with the current scheme, "Scheme: Day", and a star behind it while layers
-/// differ from the scheme. Its tool tip and accessible name say the same in words.
+/// The field of the status bar with the current scheme, "Scheme: Day", followed by a star while layers differ
+/// from the scheme. Its tool tip and accessible name say the same in words.
 class SchemeStatus : public QLabel
 {
     Q_OBJECT
 public:
     explicit SchemeStatus(QWidget* parent = nullptr);
 
-    /// The map whose scheme is shown from now on, with each of its changes; not owned.
+    /// Shows the scheme of this map from now on, and each change of it; not owned.
     void Use(MapSession& session);
 
 private:

@@ -146,7 +146,7 @@ QString ThemeActions::ThemeNameOf(const QString& editorID) const
     return themeID ? MapThemes(m_session->Document().Database()).NameOf(*themeID) : QString();
 }
 
-// Who makes a layer in a theme's list expects to find it there again.
+// A user who makes a layer in a theme's list expects to find it in that list.
 void ThemeActions::AddToTheme(const QString& editorID, qint32 layerID)
 {
     const std::optional<qint32> themeID = ThemeOf(editorID);

@@ -14,8 +14,9 @@ namespace Orvane {
 class LayerControl;
 class MapSession;
 
-/// The menu of themes: makes one of the visible layers, opens the layer control on one, deletes one. An
-/// editor on a theme has the ID "Theme:" and the theme's number; its list shows the theme's layers only.
+/// The menu of themes: makes a theme of the visible layers, opens the layer control on a theme, deletes a
+/// theme. An editor on a theme has the ID "Theme:" and the theme's number; its list shows the theme's layers
+/// only.
 class ThemeActions : public QObject
 {
     Q_OBJECT
@@ -23,7 +24,7 @@ public:
     /// Fills the menu. None is owned; all outlive this object.
     ThemeActions(QMenu& menu, LayerControl& control, QWidget& window);
 
-    /// The map whose themes are meant from now on; not owned.
+    /// The commands work on the themes of this map from now on; not owned.
     void Use(MapSession& session);
 
     /// Opens the layer control on the theme, or brings it to the front. Raises errors of the database and of

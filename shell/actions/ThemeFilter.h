@@ -8,7 +8,7 @@
 namespace Orvane {
 
 /// What the flat list of a theme's editor shows: the layers of the theme, and nothing else. The editor opens
-/// on its layers, since groups are not the theme's.
+/// on the list of layers, since groups do not belong to a theme.
 class ThemeFilter final : public IStyleFilter
 {
 public:

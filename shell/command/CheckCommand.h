@@ -5,9 +5,9 @@
 
 namespace Orvane {
 
-/// "orvane check MAP [--repair]": lists what is wrong with a map file, one problem a line, and mends it when
-/// asked to. Answers ExitCode::Problems when anything is, or stays, wrong. Raises what opening the map
-/// raises.
+/// "orvane check MAP [--repair]": lists the problems of a map file, one per line, and repairs them on
+/// request. Returns ExitCode::Problems when there are problems, or some remain. Raises the errors of opening
+/// the map.
 int CheckCommand(const QStringList& arguments, const Terminal& terminal);
 
 } // namespace Orvane

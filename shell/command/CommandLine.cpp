@@ -14,7 +14,7 @@ namespace Orvane {
 
 namespace {
 
-// Does one command; what it raises is told, and makes it a failure.
+// Runs one command. An error is written to the terminal, and the command then fails.
 template <typename Command> int Told(const Terminal& terminal, Command&& command)
 {
     try {

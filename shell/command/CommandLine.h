@@ -9,7 +9,7 @@
 
 namespace Orvane {
 
-/// What the command line asks of the window.
+/// What the window is to show, according to the command line.
 struct WindowRequest {
     QString map; ///< file to open; empty for the last one
     QString traceFile; ///< empty for no trace
@@ -20,7 +20,7 @@ struct WindowRequest {
 /// the help. arguments: the program's own name first.
 bool NeedsNoWindow(const QStringList& arguments);
 
-/// Does what needs no window and answers its exit code; else answers what the window is to show.
+/// Runs a command that needs no window and returns its exit code; else returns what the window is to show.
 std::variant<int, WindowRequest> RunCommandLine(const QStringList& arguments, const Terminal& terminal);
 
 } // namespace Orvane

@@ -19,7 +19,7 @@ inline constexpr int Usage = 2; ///< the command line was not understood
 
 } // namespace ExitCode
 
-/// Where a command writes: results, and what goes wrong. Neither is owned.
+/// Where a command writes: results and errors. Neither is owned.
 struct Terminal {
     QTextStream& out;
     QTextStream& errors;
@@ -41,21 +41,21 @@ public:
     explicit CommandReader(const QString& description);
 
     QCommandLineParser& Options() { return m_parser; }
-    /// The word that stands before everything else, for the help text.
+    /// The word that comes before all others, for the help text.
     void AddCommand(const QString& name);
-    /// Says how many words there must be beside options and command.
+    /// Sets how many words there must be besides the options and the command.
     void RequireWords(qsizetype least, qsizetype most);
 
-    /// arguments: the program's own name first. Answers the exit code when the command ends here: after
-    /// --help, and after a mistake, which it tells.
+    /// arguments: the program's own name first. Returns the exit code when the command ends here: after
+    /// --help, and after a mistake, which it reports.
     std::optional<int> Read(const QStringList& arguments, const Terminal& terminal);
 
-    /// The words beside the options, without the command's name.
+    /// The words besides the options, without the command's name.
     QStringList Words() const;
     bool IsSet(const QCommandLineOption& option) const { return m_parser.isSet(option); }
     QString Value(const QCommandLineOption& option) const { return m_parser.value(option); }
 
-    /// Tells a mistake in the arguments; answers ExitCode::Usage.
+    /// Reports a mistake in the arguments; returns ExitCode::Usage.
     int Refuse(const Terminal& terminal, const QString& mistake) const;
 
 private:

@@ -22,9 +22,9 @@ namespace Orvane {
 
 namespace {
 
-constexpr double Room = 0.02; // of the map, on each side of it
+constexpr double Room = 0.02; // share of the map's longer side, added on each side
 
-// What is drawn, with some room around it.
+// The bounds of what is drawn, with some room around them.
 Box BoundsOf(const std::vector<MapLayer>& layers)
 {
     Box bounds;
@@ -36,7 +36,7 @@ Box BoundsOf(const std::vector<MapLayer>& layers)
     return {bounds.minX - room, bounds.minY - room, bounds.maxX + room, bounds.maxY + room};
 }
 
-// One line for each reason, to the errors.
+// Writes one line for each reason to the errors.
 void TellFailures(const SourceContents& contents, const Terminal& terminal)
 {
     const QStringList reasons = contents.FailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -44,7 +44,7 @@ void TellFailures(const SourceContents& contents, const Terminal& terminal)
         TellError(terminal, reason);
 }
 
-// The picture under the map, or why it cannot be shown; neither where there is none.
+// The picture under the map, or why it cannot be shown; neither if the map has none.
 struct OpenedBackdrop {
     std::shared_ptr<const RasterBackdrop> picture;
     QString failure;

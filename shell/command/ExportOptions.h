@@ -16,7 +16,7 @@ struct ExportRequest {
     PageSettings page;
 };
 
-/// Reads the arguments of an export; answers an exit code when the command ends here.
+/// Reads the arguments of an export; returns an exit code when the command ends here.
 std::variant<int, ExportRequest> ReadExportOptions(const QStringList& arguments, const Terminal& terminal);
 
 } // namespace Orvane

@@ -6,8 +6,8 @@
 namespace Orvane {
 
 /// "orvane import DATA... --to MAP": adds data files, and those of folders, to a map file, which is made when
-/// there is none. Files that cannot be read are told and left out; the answer is then ExitCode::Problems.
-/// Raises what the map file raises; it is then as before.
+/// there is none. Files that cannot be read are reported and left out; the exit code is then
+/// ExitCode::Problems. Raises the errors of the map file, which is then as before.
 int ImportCommand(const QStringList& arguments, const Terminal& terminal);
 
 } // namespace Orvane

@@ -32,7 +32,7 @@ QString Translate(const char* text)
     return QCoreApplication::translate("MapCheck", text);
 }
 
-// The schemes' values do not declare which scheme they belong to.
+// The table of the scheme values does not declare its reference to the schemes.
 const std::vector<UndeclaredReference> Undeclared
     = {{"LayerSchemeValues", "SchemeID", "LayerSchemes", "SchemeID"}};
 

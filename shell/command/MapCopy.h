@@ -9,12 +9,12 @@ namespace Orvane {
 
 class MapDocument;
 
-/// A copy of a map file that can be changed freely and ends with the object. The map itself is opened for
-/// reading only, so it may lie where nothing can be written, and be open elsewhere.
+/// A copy of a map file that can be changed freely and is removed with this object. The map itself is opened
+/// for reading only, so it may be in a read-only folder, and open elsewhere.
 class MapCopy
 {
 public:
-    /// Raises what opening a layer database raises.
+    /// Raises the errors of opening a layer database.
     explicit MapCopy(const QString& path);
     ~MapCopy();
     MapCopy(const MapCopy&) = delete;

@@ -13,11 +13,12 @@ namespace Orvane {
 class MapDocument;
 class Progress;
 
-/// The sources whose file is not where it should be.
+/// The sources whose file is not at its path.
 std::vector<LayerSource> MissingSources(const MapDocument& document);
 
-/// Looks for these sources' files, by name, in the folder and everything below it; for any thread. Returns
-/// those that were found, with their new path: of files of one name the one least deep. Raises Cancelled.
+/// Looks for the files of these sources, by name, in the folder and its subfolders; for any thread. Returns
+/// the sources that were found, with their new path; if files have the same name, the least deep one. Raises
+/// Cancelled.
 std::vector<LayerSource>
 LookForData(const std::vector<LayerSource>& missing, const QString& folder, Progress& progress);
 

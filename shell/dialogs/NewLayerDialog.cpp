@@ -78,7 +78,7 @@ void NewLayerDialog::BrowseForPackage()
 {
     QFileDialog dialog(this, tr("GeoPackage"), File(), tr("GeoPackages (*.gpkg)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the layer joins those of the file
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the layer is added to those of the file
     dialog.setDefaultSuffix(QStringLiteral("gpkg"));
     if (dialog.exec() == QDialog::Accepted)
         m_ui->edtPackage->setText(dialog.selectedFiles().value(0));
@@ -91,7 +91,7 @@ void NewLayerDialog::BrowseForSource()
         m_ui->edtSource->setText(path);
 }
 
-// Without layers OK waits for another file.
+// OK stays disabled until a file with layers is chosen.
 void NewLayerDialog::ShowSource()
 {
     if (File() == m_shownSource)
@@ -104,7 +104,7 @@ void NewLayerDialog::ShowSource()
     UpdateEnabled();
 }
 
-// Returns why there is no layer; empty when there is one, or nothing was asked for.
+// Returns why there is no layer; empty when there is one, or no source is needed yet.
 QString NewLayerDialog::ReadSource()
 {
     m_layers.clear();

@@ -15,12 +15,12 @@ class NewLayerDialog;
 
 namespace Orvane {
 
-/// Asks what a new layer is to hold: nothing yet, in a GeoPackage, or what a data source has.
+/// Asks what a new layer is to contain: no features yet, in a GeoPackage, or a layer of a data source.
 class NewLayerDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// dataFile: the GeoPackage that empty layers are put into unless the person names another; absolute.
+    /// dataFile: the GeoPackage that empty layers are put into unless the user names another; absolute.
     NewLayerDialog(const QString& dataFile, QWidget* parent);
     ~NewLayerDialog() override;
 
@@ -28,11 +28,11 @@ public:
     bool IsEmptyLayer() const;
     /// Trimmed; not empty once the dialog was accepted.
     QString Name() const;
-    /// Of an empty layer.
+    /// The kind of an empty layer's features.
     FeatureKind Kind() const;
     /// The GeoPackage of an empty layer, or the source; absolute.
     QString File() const;
-    /// The layer that was chosen of the source.
+    /// The chosen layer of the source.
     const SourceLayer& Source() const;
 
 private:
@@ -47,7 +47,7 @@ private:
     std::unique_ptr<Ui::NewLayerDialog> m_ui;
     std::vector<SourceLayer> m_layers;
     QString m_shownSource; // whose layers are listed
-    bool m_nameIsOwn = false; // the person typed it
+    bool m_nameIsOwn = false; // the user typed it
 };
 
 } // namespace Orvane

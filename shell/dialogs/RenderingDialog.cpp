@@ -54,7 +54,7 @@ void FillAttributes(QComboBox& list, const std::vector<SourceField>& fields, Att
     list.setEnabled(list.count() > 1);
 }
 
-// An attribute that the source lost stays chosen until another is.
+// An attribute that the source no longer has stays chosen until the user chooses another.
 void Choose(QComboBox& list, const QString& attribute)
 {
     if (list.findData(attribute) < 0)

@@ -33,7 +33,7 @@ public:
     RenderingDialog(const MapDocument& document, const std::vector<MapLayer>& layers, QWidget* parent);
     ~RenderingDialog() override;
 
-    /// What was chosen anew, by layer ID; layers left as they were are not among them.
+    /// What was changed, by layer ID; layers that were not changed are left out.
     std::map<qint32, LayerRendering> Changes() const;
 
 private:

@@ -16,7 +16,7 @@ enum class AfterImport {
 
 /// What an import did, in a few lines.
 QString ReportText(const SchemeImport& import);
-/// The names of the layers that did not match, both ways; empty when all did.
+/// The names of the layers that did not match, of the map and of the scheme; empty when all matched.
 QString ReportDetails(const SchemeImport& import);
 
 /// Shows both in a box over the window and asks how to go on. isCurrent: the scheme is the current one, and

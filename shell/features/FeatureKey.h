@@ -8,10 +8,10 @@
 
 namespace Orvane {
 
-/// Names a feature of the map for as long as its source keeps it.
+/// Identifies a feature of the map as long as its source keeps it.
 struct FeatureKey {
     qint32 layerID = 0;
-    qint64 featureID = 0; ///< as the source counts its features
+    qint64 featureID = 0; ///< the feature's ID in its source
 
     bool operator==(const FeatureKey&) const = default;
     bool operator<(const FeatureKey& other) const

@@ -14,9 +14,9 @@ namespace Orvane {
 
 class MapSession;
 
-/// Moves features in their sources, shows them where they are then, and puts each move on the map's history.
+/// Moves features in their sources, shows them at their new place, and adds each move to the map's history.
 ///
-/// The map's file is not touched: it is the data that change. Errors are those of SourceEditor.
+/// Only the data change, not the map file. Errors are those of SourceEditor.
 class FeatureMover
 {
     Q_DECLARE_TR_FUNCTIONS(FeatureMover)
@@ -26,9 +26,9 @@ public:
     /// its progress over the window.
     FeatureMover(MapSession& session, QWidget& window) : m_session(session), m_window(window) { }
 
-    /// Raises why the feature cannot be moved, if so.
+    /// Raises the reason when the feature cannot be moved.
     void Check(const FeatureKey& key);
-    /// Moves the feature by so many map units east and north, as one step that can be undone. On an error
+    /// Moves the feature by this many map units east and north, as one step that can be undone. On an error
     /// nothing is moved.
     void Move(const FeatureKey& key, QPointF offset);
 

@@ -10,7 +10,7 @@
 
 namespace Orvane {
 
-/// The features that the person has selected on the map.
+/// The features that the user has selected on the map.
 class FeatureSelection : public QObject
 {
     Q_OBJECT
@@ -23,16 +23,16 @@ public:
     void Set(FeatureKeys keys);
     /// Selects these as well.
     void Add(const FeatureKeys& keys);
-    /// Selects what is not selected, and the other way round.
+    /// Selects those of these that are not selected, and deselects the others.
     void Toggle(const FeatureKey& key);
     void Clear() { Set({}); }
 
-    /// Drops what can no longer be selected: features of layers that are gone, not hitable or not selectable.
-    /// A layer that is only not shown keeps its selection.
+    /// Drops what can no longer be selected: features of layers that no longer exist, or are not hitable or
+    /// not selectable. A layer that is merely not shown keeps its selection.
     void Keep(std::span<const MapLayer> layers);
 
 signals:
-    /// Keys are others now.
+    /// The keys have changed.
     void Changed();
 
 private:

@@ -10,8 +10,8 @@ namespace Orvane {
 /// A copy of the features that have one of these IDs, in their order.
 FeatureSet SubsetOf(const FeatureSet& features, const std::set<qint64>& featureIDs);
 
-/// A copy in which the features of that ID are replaced, where the first of them stands; without any of that
-/// ID a plain copy.
+/// A copy in which the features with this ID are replaced, at the position of the first of them; an unchanged
+/// copy if there are none.
 FeatureSet WithFeature(const FeatureSet& features, qint64 featureID, const FeatureSet& replacement);
 
 } // namespace Orvane

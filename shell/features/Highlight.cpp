@@ -33,7 +33,7 @@ LayerLook LookFor(const LayerLook& layer, const QColor& colour)
     return look;
 }
 
-// Seen on dark and on light ground alike.
+// Visible on dark and on light backgrounds.
 LayerLook CasingFor(const LayerLook& layer)
 {
     LayerLook look = LookFor(layer, Qt::white);

@@ -19,8 +19,9 @@ namespace Orvane {
 class MapCanvas;
 struct MapLayer;
 
-/// Marks features on a canvas with a colour of their own, as long as their layer is shown. While the map is
-/// dragged, a mark of many vertices is moved and stretched like the map itself, and drawn anew when it rests.
+/// Marks features on a canvas in a separate colour, as long as their layer is shown. While the map is
+/// dragged, a mark of many vertices is moved and stretched like the map itself, and drawn again when the map
+/// stops.
 class Highlight : public QObject, public MapOverlay
 {
     Q_OBJECT
@@ -37,11 +38,11 @@ public:
     void Paint(QPainter& painter, const MapView& view) const override;
 
 private:
-    // What was drawn last, of a mark that takes long to draw.
+    // The last drawing of a mark that takes long to draw.
     struct Picture {
         QImage image;
         MapView view;
-        MapView next; ///< what it is to show when the map rests
+        MapView next; ///< the view to draw when the map stops
         bool outdated = true;
     };
 
@@ -52,7 +53,7 @@ private:
     MapCanvas& m_canvas;
     const QColor m_colour;
     FeatureKeys m_keys;
-    std::vector<MapLayer> m_marked; // each layer with nothing but its marked features
+    std::vector<MapLayer> m_marked; // each layer with its marked features only
     size_t m_vertices = 0; // of all of them
     mutable Picture m_picture;
     QTimer* m_drawSoon; // owned by this object

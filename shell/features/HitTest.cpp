@@ -30,7 +30,7 @@ bool Holds(const Box& box, QPointF point)
     return point.x() >= box.minX && point.x() <= box.maxX && point.y() >= box.minY && point.y() <= box.maxY;
 }
 
-// How far from its geometry a feature's ink reaches.
+// How far a feature is drawn beyond its geometry.
 double InkPixels(const MapLayer& layer, FeatureKind kind)
 {
     return kind == FeatureKind::Point ? layer.look.symbolRadius : layer.look.outline.widthF() / 2;
@@ -51,7 +51,7 @@ double SquareTo(QPointF point, QPointF other)
     return QPointF::dotProduct(way, way);
 }
 
-// A ray to the east crosses the edge.
+// True when a ray from the point to the east crosses the edge.
 bool Crosses(QPointF from, QPointF to, QPointF point)
 {
     if ((from.y() > point.y()) == (to.y() > point.y()))
@@ -60,7 +60,7 @@ bool Crosses(QPointF from, QPointF to, QPointF point)
     return x > point.x();
 }
 
-// Calls action(from, to) for each edge of the feature, the closing ones of areas included.
+// Calls action(from, to) for each edge of the feature, including the closing edges of areas.
 template <typename Action> void ForEachEdge(const FeatureSet& features, size_t feature, Action action)
 {
     const FeatureSet::Feature& entry = features.Features()[feature];
@@ -122,7 +122,7 @@ void AddHitsAt(std::vector<Hit>& hits, const MapLayer& layer, QPointF point, dou
         hits.begin() + first, hits.end(), [](const Hit& a, const Hit& b) { return a.distance < b.distance; });
 }
 
-// Inside an area without a fill one sees what lies below it.
+// An area without a fill shows what is below it.
 bool IsSeenThrough(const Hit& hit, QPointF point, double unitsPerPixel)
 {
     if (hit.distance > 0 || hit.layer->look.fill.style() != Qt::NoBrush
@@ -131,10 +131,10 @@ bool IsSeenThrough(const Hit& hit, QPointF point, double unitsPerPixel)
     return DistanceToEdges(*hit.layer->features, hit.feature, point) > Reach * unitsPerPixel;
 }
 
-// The nearest of the points it was shown, within a reach.
+// The nearest of the points that were given to Look, within a reach.
 struct Nearest {
     QPointF from;
-    double square; // of the distance to beat
+    double square; // of the reach, then of the smallest distance so far
     std::optional<QPointF> point;
 
     void Look(QPointF candidate)

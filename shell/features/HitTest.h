@@ -27,8 +27,8 @@ struct Hit {
 ///     HitTest test(canvas.Layers(), canvas.View());
 ///     for (const Hit& hit : test.At(pixel, [](const MapLayer& layer) { return layer.flags.enquirable; }))
 ///
-/// Refers to the layers, which outlive it. Layers without features are never hit; whether a layer is shown is
-/// for the condition to say.
+/// Refers to the layers, which outlive it. Layers without features are never hit; the condition decides
+/// whether a layer must be shown.
 class HitTest
 {
 public:
@@ -37,7 +37,7 @@ public:
     HitTest(std::span<const MapLayer> layers, const MapView& view) : m_layers(layers), m_view(view) { }
 
     /// The features within a few pixels of the pixel, of layers that meet the condition: topmost layer first,
-    /// of a layer the nearest, then the last drawn; areas without fill, hit inside, come behind all others.
+    /// within a layer the nearest, then the last drawn; areas without fill that are hit inside come last.
     std::vector<Hit> At(QPointF pixel, const Condition& wanted) const;
     /// The features that touch the rectangle, in pixels; topmost layer first.
     std::vector<Hit> Within(const QRectF& pixels, const Condition& wanted) const;

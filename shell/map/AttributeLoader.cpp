@@ -9,7 +9,7 @@ namespace Orvane {
 
 namespace {
 
-// Data that were read before and cannot be now are told about when the map is read.
+// Data that can no longer be read are reported when the map is read.
 AttributeColumn ReadOrNothing(const AttributeRequest& request, Progress& progress)
 {
     try {

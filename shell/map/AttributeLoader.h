@@ -13,20 +13,20 @@ namespace Orvane {
 
 class Progress;
 
-/// Reads attributes in the background. All members belong to the thread that made it; nothing here raises.
+/// Reads attributes in the background. All members are for the thread that made the object; none raises.
 class AttributeLoader : public QObject
 {
     Q_OBJECT
 public:
     explicit AttributeLoader(QObject* parent = nullptr);
-    /// Cancels what is being read and waits for it.
+    /// Cancels the current read and waits for its end.
     ~AttributeLoader() override;
 
-    /// Reads these, in their order; what was asked for before and is not read yet is dropped.
+    /// Reads these, in their order; earlier requests that were not read yet are dropped.
     void Load(std::vector<AttributeRequest> requests);
 
 signals:
-    /// One of the requests was read. column: without texts and numbers where the source cannot be read.
+    /// One of the requests was read. column: without texts and numbers if the source cannot be read.
     void Loaded(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
 
 private:

@@ -36,7 +36,7 @@ constexpr std::array<Colours, 8> Cycle = {{
     {0xff5f6b73, 0xffe1e5e8},
 }};
 
-// Points over lines over areas.
+// Points are drawn over lines, and lines over areas.
 int PriorityOf(FeatureKind kind)
 {
     switch (kind) {

@@ -13,26 +13,26 @@ namespace Orvane {
 
 class Progress;
 
-/// What a look into files found.
+/// What was found in files.
 struct FoundData {
     struct Source {
         QString path;
         std::vector<SourceLayer> layers;
     };
     std::vector<Source> sources; ///< files with at least one layer
-    QStringList problems; ///< one sentence for each file without
+    QStringList problems; ///< one sentence for each file without layers
 };
 
-/// Looks into files without reading their features; for any thread. Raises Cancelled.
+/// Examines files without reading their features; for any thread. Raises Cancelled.
 FoundData LookInto(const QStringList& paths, Progress& progress);
 
-/// A new layer with the data of a source's layer, in the colours that the number gives; points over lines
-/// over areas.
+/// A new layer with the data of a source's layer. The number selects its colours; points are drawn over
+/// lines, and lines over areas.
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
 
-/// Adds what was found to the map, a group for each file and a layer for each of its layers, each in another
-/// colour, in one transaction. The first data decide the map's coordinate system. Errors are those of the
-/// database; the map is then as before.
+/// Adds what was found to the map, a group for each file and a layer for each of its layers, each in a
+/// different colour, in one transaction. The first data set the map's coordinate system. Errors are those of
+/// the database; the map is then as before.
 void AddToMap(MapDocument& document, const FoundData& data);
 
 } // namespace Orvane

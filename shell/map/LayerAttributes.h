@@ -22,18 +22,19 @@ class IShellServices;
 class LayerAttributes
 {
 public:
-    /// What the layer's renderer style works with from now on.
+    /// Sets what the layer's renderer style works with.
     void SetRendering(qint32 layerID, const LayerRendering& rendering) { m_renderings[layerID] = rendering; }
-    /// Forgets all that is known of a layer.
+    /// Drops everything that is stored about a layer.
     void Forget(qint32 layerID);
 
-    /// What the layers' styles need and was not read yet. sources: of any layers, in any order.
+    /// The attributes that the layers' styles need and that were not read yet. sources: of any layers, in any
+    /// order.
     std::vector<AttributeRequest>
     Missing(const std::vector<MapLayer>& layers, const std::vector<LayerSource>& sources) const;
     void Take(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
 
-    /// Gives the layer the labels and classes of its style, as far as they are read. Passes on what the
-    /// services raise.
+    /// Gives the layer the labels and classes of its style, as far as they are read. Passes on errors of the
+    /// services.
     void Fit(MapLayer& layer, const IShellServices& services);
 
 private:

@@ -21,7 +21,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto SystemOfEmptyMap = "EPSG:3857"; // fits any place
+constexpr auto SystemOfEmptyMap = "EPSG:3857"; // suits any place
 
 // Beside the map, so that both are moved together.
 QString DataFileOf(const MapDocument& document)
@@ -58,7 +58,7 @@ qint32 LayerCreation::Make(const NewLayerDialog& wishes)
     return layerID;
 }
 
-// The map is written to first: one that cannot be leaves no data file behind.
+// The map is written first, so that no data file remains when the map cannot be written.
 qint32 LayerCreation::MakeEmpty(const NewLayerDialog& wishes)
 {
     const QString known = m_document.System();

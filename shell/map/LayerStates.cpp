@@ -27,7 +27,7 @@ LayerStates::Update(const std::vector<MapLayer>& layers, const QSet<qint32>& unr
     return changed;
 }
 
-// The markers are words between program and layer control, which shortens them: not for translation.
+// The markers are not translated: the layer control recognises and shortens them.
 QString LayerStates::Marked(qint32 layerID, const QString& name) const
 {
     const auto state = m_states.constFind(layerID);

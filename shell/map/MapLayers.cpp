@@ -155,7 +155,7 @@ void MapLayers::ReadMissingAttributes(Progress& progress)
         try {
             const AttributeColumn column = ReadAttribute(request, progress);
             TakeAttribute(request, std::make_shared<const AttributeColumn>(column));
-        } catch (const RunTimeError&) { // the map is drawn without
+        } catch (const RunTimeError&) { // the map is drawn without the attribute
         }
     }
 }

@@ -18,7 +18,7 @@ class Progress;
 
 /// The layers of a map file as the canvas draws them, kept in step with the database.
 ///
-/// Errors of the database are passed on; what is held then stays as it was.
+/// Errors of the database are passed on; the layers held are then as before.
 class MapLayers
 {
 public:
@@ -27,15 +27,16 @@ public:
 
     const std::vector<MapLayer>& All() const { return m_layers; }
 
-    /// Reads all rows anew.
+    /// Reads all rows again.
     void ReadAll();
-    /// Reads at least these layers' rows anew; a layer whose row is gone leaves the list.
+    /// Reads at least these layers' rows again; a layer without a row is removed from the list.
     void Read(const QSet<qint32>& layerIDs);
 
-    /// Gives up the features of layers that have other data than when this was called last: an ID of a layer
-    /// that is gone may have come to a new one. Before ReadAll.
+    /// Drops the features of layers whose data are no longer those of the last call: the ID of a deleted
+    /// layer may now belong to a new one. Call before ReadAll.
     void DropFeaturesOfOtherData();
-    /// Takes over features that were read, and which could not be; those of other layers stay.
+    /// Takes over the features that were read, and the layers that could not be read; the features of other
+    /// layers stay.
     void TakeFeatures(const SourceContents& contents);
     /// The sources of layers that have no features yet.
     std::vector<LayerSource> MissingSources() const;
@@ -60,7 +61,7 @@ private:
     double m_pixelsPerMillimetre;
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
-    std::map<qint32, LayerSource> m_sources; // known so far; also of layers that are gone
+    std::map<qint32, LayerSource> m_sources; // known so far; also of deleted layers
     QSet<qint32> m_unreadable;
     LayerAttributes m_attributes;
 };

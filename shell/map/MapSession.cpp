@@ -61,7 +61,7 @@ IStyleEditorClient& MapSession::Client()
     return m_traced ? static_cast<IStyleEditorClient&>(*m_traced) : m_client;
 }
 
-// No step of its own: undoing the data's coming takes the values with it.
+// Not a separate undo step: undoing the import of the data also undoes these values.
 void MapSession::BeginSchemes()
 {
     StartupSchemes::Load(m_document->Database(), StartupFile());
@@ -178,7 +178,7 @@ void MapSession::Connect()
         &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
 }
 
-// A layer may come with data: of a source, or back from its deletion.
+// A new layer may have data: those of a source, or those from before its deletion.
 void MapSession::ReadNewLayer()
 {
     Guard(&m_mainWindow, [this] { ReadAndShow(); });

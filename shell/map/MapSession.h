@@ -21,9 +21,9 @@ class MapDocument;
 class CallTrace;
 class RasterBackdrop;
 
-/// One open map: its file, its layers, its client for the component, and the canvas that shows it. What the
-/// component changes is drawn at once; data files that come back or change are shown anew; and the layer
-/// control lists which layers the scale or a missing source keeps from the map.
+/// One open map: its file, its layers, its client for the component, and the canvas that shows it. The
+/// component's changes are drawn at once; data files that reappear or change are shown again; and the layer
+/// control shows which layers are not drawn because of the scale or a missing source.
 class MapSession : public QObject
 {
     Q_OBJECT
@@ -38,37 +38,37 @@ public:
     const std::vector<MapLayer>& Layers() const { return m_layers.All(); }
     /// The client itself.
     ShellClient& Shell() { return m_client; }
-    /// What to hand to the component: the client, traced when there is a trace.
+    /// What to pass to the component: the client, traced when there is a trace.
     IStyleEditorClient& Client();
 
-    /// Begins the schemes of a map that has its first layers: those of the startup database, whose current
-    /// one the layers follow as far as it knows them, or else one of the layers as they are. Before
-    /// ReadAndShow.
+    /// Makes the schemes of a map that has its first layers: those of the startup database, the current one
+    /// of which is loaded into the layers that it contains, or else one scheme of the layers as they are.
+    /// Call before ReadAndShow.
     void BeginSchemes();
 
-    /// What of the map is shown after reading.
+    /// Which part of the map is shown after reading.
     enum class View { Stays, All };
 
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database.
     QString ReadAndShow(View view = View::Stays);
-    /// True when reading was cancelled before it came to each layer.
+    /// True when reading was cancelled before all layers were read.
     bool HasUnreadLayers() const;
-    /// Reads these layers' rows anew and draws them.
+    /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
 
-    /// Lays a picture under the map and keeps it with the map; an empty path takes it away. Raises, with the
-    /// map as it was, for a file that is no georeferenced picture, and errors of the database.
+    /// Puts a picture under the map and stores it with the map; an empty path removes it. Raises for a file
+    /// that is not a georeferenced picture, and errors of the database; the map is then as before.
     void SetBackdrop(const QString& path);
-    /// Shows these features in place of those that the layers had.
+    /// Shows these features instead of those that the layers had.
     void TakeFeatures(const SourceContents& contents);
 
 signals:
-    /// The map's file is no longer where it was; what is open can still be saved under another name.
+    /// The map's file is no longer at its path; the open map can still be saved under another name.
     void MapFileGone();
     /// Data that were shown cannot be read any more.
     void DataFailed(const QString& reason);
-    /// All layers were read anew.
+    /// All layers were read again.
     void LayersRead();
 
 private:

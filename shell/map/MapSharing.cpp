@@ -16,7 +16,7 @@ namespace Orvane {
 
 namespace {
 
-// While something is asked or worked at, the map stays as it is.
+// The map is not shown again while a dialog is open or the program is busy.
 bool IsBusy()
 {
     return QApplication::activeModalWidget() || QApplication::overrideCursor();

@@ -12,23 +12,24 @@ namespace Orvane {
 class MapDocument;
 class MapSession;
 
-/// A map file that several windows or programs have open. Each commits what it changes at once, so nothing is
-/// lost; this asks before a map is opened twice, and shows what others changed as soon as the person comes
-/// back to this window.
+/// A map file that several windows or programs have open. Each commits its changes at once, so nothing is
+/// lost. This class asks before a map is opened twice, and shows the changes of others as soon as the user
+/// returns to this window.
 class MapSharing : public QObject
 {
     Q_OBJECT
 public:
-    /// Shows the map anew; false when an editor that holds edits stays open, and nothing was done.
+    /// Shows the map again; false, with nothing done, when an editor with edits stays open.
     using ShowAgain = std::function<bool()>;
 
     /// The window outlives this object.
     MapSharing(QWidget& window, ShowAgain showAgain);
 
-    /// Asks whether to open a map file that is open elsewhere, too; true without a question for any other.
+    /// Asks whether to open a map file that is already open elsewhere; true without a question for other
+    /// files.
     bool MayOpen(const QString& path);
-    /// Looks after this map from now on; not owned, lives as long as this object or until the next call.
-    /// Raises errors of the database.
+    /// Watches this map from now on; not owned, lives as long as this object or until the next call. Raises
+    /// errors of the database.
     void Use(MapSession& session);
 
 private:

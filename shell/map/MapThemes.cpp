@@ -18,7 +18,7 @@ namespace {
 constexpr auto VisibleLayers = "SELECT LayerID FROM Layers WHERE Visible IS TRUE AND Code > -2"
                                " AND COALESCE(OverrideMode, 0) <> 2 AND Pseudo IS NOT TRUE";
 
-void SortForPerson(std::vector<MapThemes::Theme>& themes)
+void SortForUser(std::vector<MapThemes::Theme>& themes)
 {
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -39,7 +39,7 @@ std::vector<MapThemes::Theme> MapThemes::All() const
         = m_database.OpenQuery(QStringLiteral("SELECT ThemeID, Name FROM Themes ORDER BY ThemeID"));
     for (; !rows->AtEOF(); rows->MoveNext())
         themes.push_back({ToInt32(rows->Field("ThemeID")), ToText(rows->Field("Name"))});
-    SortForPerson(themes);
+    SortForUser(themes);
     return themes;
 }
 
@@ -121,7 +121,7 @@ void MapThemes::MakeTables()
     const QString name = QStringLiteral("Name");
     m_database.PrepareTable(
         {themes, {{themeID, StoreType::Whole}, {name, StoreType::Text, Nulls::Refused}}, {themeID}, {name}});
-    // Layer first: a deleted layer is found by it.
+    // The layer is the first column, so that the rows of a deleted layer are found quickly.
     m_database.PrepareTable(
         {QStringLiteral("ThemeLayers"),
          {{layerID, StoreType::Whole, Nulls::Refused, {}, QStringLiteral("Layers"), layerID},

@@ -12,7 +12,8 @@ namespace Orvane {
 class ILayerStore;
 
 /// The themes of a map: named sets of its layers, kept in the map file's own tables Themes and ThemeLayers,
-/// which are made with the first theme. A deleted layer leaves all themes. Each operation is one transaction.
+/// which are made with the first theme. A deleted layer is removed from all themes. Each operation is one
+/// transaction.
 class MapThemes
 {
 public:
@@ -24,7 +25,7 @@ public:
     /// database: not owned; outlives this object.
     explicit MapThemes(ILayerStore& database) : m_database(database) { }
 
-    /// All themes, ordered by name for a person.
+    /// All themes, ordered by name for a user.
     std::vector<Theme> All() const;
     /// The theme of exactly that name.
     std::optional<Theme> Find(const QString& name) const;
@@ -32,10 +33,10 @@ public:
     QString NameOf(qint32 themeID) const;
     QSet<qint32> LayersOf(qint32 themeID) const;
 
-    /// True when a layer is visible: not hidden by its quick mode either, and one that the layer control
-    /// lists.
+    /// True when a layer is visible, not hidden by its quick mode, and listed by the layer control.
     bool HasVisibleLayers() const;
-    /// Makes a theme of the visible layers and returns its ID; one of that name gets them instead of its own.
+    /// Makes a theme of the visible layers and returns its ID; an existing theme of that name gets these
+    /// layers instead of its own.
     qint32 StoreVisibleLayers(const QString& name);
     /// Adds the layer to the theme, unless it is there.
     void AddLayer(qint32 themeID, qint32 layerID);

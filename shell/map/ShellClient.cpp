@@ -16,8 +16,8 @@ namespace {
 constexpr int Gap = 8; // pixels
 constexpr int Step = 28; // pixels between the windows of two editors
 
-// A window that was never shown has no frame yet; its frame will be like the main window's.
-// What the window manager adds around a window, as far as it is known.
+// The size that the window manager adds around a window, as far as it is known. A window that was never shown
+// has no frame yet, so the callers pass the main window.
 QSize FrameOf(const QWidget& window)
 {
     return window.frameGeometry().size() - window.size();
@@ -95,7 +95,7 @@ qint32 ShellClient::IStyleEditorClient_CreateLayer()
 void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 {
     const QString editorID = EditorIDOf(form);
-    form->setAttribute(Qt::WA_ShowWithoutActivating); // RaiseEditor gives the keys to who asked for it
+    form->setAttribute(Qt::WA_ShowWithoutActivating); // RaiseEditor activates it if asked for
     FitToScreen(*form, m_mainWindow);
     const auto place = m_places.constFind(editorID);
     if (place != m_places.constEnd())

@@ -18,7 +18,7 @@ namespace Orvane {
 namespace {
 
 constexpr std::chrono::milliseconds QuietTime{400};
-constexpr qsizetype MostFiles = 2000; // the system gives out a limited number of watches
+constexpr qsizetype MostFiles = 2000; // the system limits the number of watches
 
 // The folder that a file is in, or would be in: the nearest one that exists.
 QString FolderOf(const QString& path)

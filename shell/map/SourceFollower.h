@@ -20,8 +20,8 @@ namespace Orvane {
 class MapDocument;
 class Progress;
 
-/// Follows the data files of an open map: what comes back, changes or goes while the map is shown is read
-/// again in the background, once the files are quiet.
+/// Watches the data files of an open map: files that reappear, change or are removed while the map is shown
+/// are read again in the background, once they no longer change.
 ///
 ///     SourceFollower follower(document, window);
 ///     connect(&follower, &SourceFollower::Read, this, [this](const SourceContents& contents) { ... });
@@ -32,16 +32,16 @@ class SourceFollower : public QObject
 public:
     /// document, owner: not owned; outlive this object. owner: errors are shown over it.
     SourceFollower(const MapDocument& document, QWidget& owner);
-    /// Cancels what is being read and waits for it.
+    /// Cancels the current read and waits for its end.
     ~SourceFollower() override;
 
-    /// Takes the files as they are now for read. Raises errors of the database.
+    /// Regards the current state of the files as read. Raises errors of the database.
     void Follow();
 
 signals:
     /// These layers were read again, or could not be.
     void Read(const Orvane::SourceContents& contents);
-    /// The map's own file is no longer there; told once, until it is back.
+    /// The map's own file is missing; emitted once until it is back.
     void MapFileGone();
 
 private:

@@ -30,7 +30,7 @@ namespace {
 constexpr auto FolderKey = "Output/Folder";
 constexpr auto FormatKey = "Output/Format";
 constexpr auto UsualFormat = "pdf";
-constexpr double FrameMargin = 0.5; // millimetres: the printer's own margin stands around it
+constexpr double FrameMargin = 0.5; // millimetres, inside the printer's own margin
 constexpr int MessageStays = 8000; // milliseconds
 constexpr int PreviewMargins = 24; // pixels
 
@@ -40,7 +40,7 @@ QString EndingOf(const QString& filter)
     return filter.section(QStringLiteral("*."), 1).chopped(1);
 }
 
-// Wide enough for its tools, of which the printer is the last.
+// Wide enough for all its tools; Print is the last of them.
 QSize SizeOf(const QPrintPreviewDialog& preview)
 {
     const auto* tools = preview.findChild<QToolBar*>();

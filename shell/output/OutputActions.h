@@ -18,7 +18,7 @@ namespace Orvane {
 class MapCanvas;
 class MapSession;
 
-/// The commands that take a map away: Export Map and Print, each with its questions.
+/// The commands that output a map: Export Map and Print, each with its dialogs.
 class OutputActions : public QObject
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ public:
     /// Both outlive this object.
     OutputActions(QMainWindow& window, MapCanvas& canvas);
 
-    /// The map that is written from now on; not owned.
+    /// The commands work on this map from now on; not owned.
     void Use(MapSession& session) { m_session = &session; }
 
     /// Adds the commands to the menu, before that action.
     void AddTo(QMenu& menu, QAction* before);
 
-    /// Asks how and where to, and writes the map as it is shown. What fails is raised.
+    /// Asks for the page and the file, and writes the map as it is shown. Raises errors.
     void ExportMap();
-    /// Asks how, and shows the preview from which it is printed. What fails is raised.
+    /// Asks for the page, and shows the preview from which the map is printed. Raises errors.
     void PrintMap();
 
 private:

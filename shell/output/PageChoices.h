@@ -5,23 +5,23 @@
 
 namespace Orvane {
 
-/// What a person chose for a page last time, whatever the map.
+/// What the user last chose for a page, of any map.
 struct PageChoices {
-    QString paper = QStringLiteral("A4"); ///< one of Papers; empty for an own size
+    QString paper = QStringLiteral("A4"); ///< one of Papers; empty for a custom size
     bool upright = false; ///< of a paper
     QSizeF ownSize{1600, 900}; ///< in pixels or millimetres
     bool ownInPixels = true;
-    int resolution = 300; ///< dots an inch
-    bool keepScale = false; ///< of the window, or a number; else all that the window shows
+    int resolution = 300; ///< dots per inch
+    bool keepScale = false; ///< the window's scale or a number; else the page shows all that the window shows
     bool title = true;
     bool legend = true;
     bool scaleBar = true;
 
-    /// As stored last; the values above where nothing, or something foreign, is stored.
+    /// As stored last; the values above where nothing, or an unknown value, is stored.
     static PageChoices Stored();
     void Store() const;
 
-    /// The page's size in millimetres, as it lies.
+    /// The page's size in millimetres, with its orientation.
     QSizeF Millimetres() const;
     /// The same in dots at the resolution.
     QSizeF Pixels() const;

@@ -32,7 +32,7 @@ PageDialog::PageDialog(Purpose purpose, const QString& mapName, double scaleDeno
     Connect();
 }
 
-// A box that loses the focus while the dialog ends tells its last value once more.
+// A spin box that loses the focus while the dialog is destroyed emits its last value again.
 PageDialog::~PageDialog()
 {
     for (QDoubleSpinBox* side : {m_ui->spnWidth, m_ui->spnHeight})
@@ -125,7 +125,7 @@ void PageDialog::PaperChanged()
     ShowSize();
 }
 
-// The page stays as large as it is, in other words.
+// Converts the size to the new unit; the page stays as large as it is.
 void PageDialog::UnitChanged()
 {
     const double perInch = m_ui->spnResolution->value() / MillimetresPerInch;

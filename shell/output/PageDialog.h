@@ -13,15 +13,15 @@ class PageDialog;
 
 namespace Orvane {
 
-/// Asks how a map is to stand on a page. What is accepted is offered again next time; the title is that of
-/// the map, unless the person writes another.
+/// Asks how a map is to be placed on a page. Accepted choices are offered again the next time; the title is
+/// that of the map unless the user enters another.
 class PageDialog : public QDialog
 {
     Q_OBJECT
 public:
     enum class Purpose {
         Export, ///< with size and resolution
-        Print, ///< without: the printer knows its paper
+        Print, ///< without them: the printer has its own paper
     };
 
     /// scaleDenominator: n of 1:n that the window shows, offered as the scale to keep.

@@ -10,7 +10,7 @@ namespace Orvane {
 
 class MapCanvas;
 
-/// Marks the topmost feature of a hitable layer under the pointer, whatever tool is in hand.
+/// Marks the topmost feature of a hitable layer under the pointer, whichever tool is active.
 class HoverHighlight : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr size_t MostFeatures = 50; // more than a person will look through
+constexpr size_t MostFeatures = 50; // more than a user will look through
 
 } // namespace
 

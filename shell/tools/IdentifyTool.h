@@ -12,14 +12,14 @@ namespace Orvane {
 
 class MapCanvas;
 
-/// A feature that was asked for, with what its source says of it.
+/// An identified feature, with its attributes from the source.
 struct IdentifiedFeature {
     FeatureKey key;
     QString layerName;
     std::vector<FeatureAttribute> attributes;
 };
 
-/// Asks the features under the pointer for their attributes, of enquirable layers only.
+/// Shows the attributes of the features under the pointer, of enquirable layers only.
 class IdentifyTool : public MapTool
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     bool DoubleClick(QPointF) override { return true; }
 
 signals:
-    /// What is at the place of the last click, topmost first; empty for nothing.
+    /// The features at the last click, topmost first; empty if there are none.
     void Identified(const std::vector<Orvane::IdentifiedFeature>& features);
 
 private:

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QRgb Ink = 0xffb3261e;
 constexpr int AreaOpacity = 50; // of 255
-constexpr double VertexSize = 6; // pixels, as all below
+constexpr double VertexSize = 6; // pixels, like all sizes below
 constexpr double SnapSize = 12;
 constexpr double LabelGap = 6;
 constexpr double LabelPadding = 3;
@@ -31,7 +31,7 @@ void PaintLabel(QPainter& painter, QPointF centre, const QString& text)
     const QSizeF size = painter.fontMetrics().size(0, text);
     QRectF box(centre - QPointF(size.width(), size.height()) / 2, size);
     box.adjust(-LabelPadding, -LabelPadding / 2, LabelPadding, LabelPadding / 2);
-    const QRect window = painter.window(); // a label that is cut off helps nobody
+    const QRect window = painter.window(); // the label is kept inside it
     box.moveLeft(std::clamp(box.left(), 0.0, std::max(0.0, window.width() - box.width())));
     box.moveTop(std::clamp(box.top(), 0.0, std::max(0.0, window.height() - box.height())));
     painter.setPen(Qt::NoPen);

@@ -14,8 +14,8 @@ namespace Orvane {
 class MapCanvas;
 
 /// Measures a line or an area on the earth. Each click sets a vertex; a double click, the right button or
-/// Enter ends; Backspace takes the last vertex back; Esc forgets all. Vertices snap to layers that ask for
-/// it, and to no others.
+/// Enter ends; Backspace removes the last vertex; Esc removes all. Vertices snap only to layers that have
+/// snapping set.
 class MeasureTool : public MapTool
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     /// canvas: not owned; outlives this object.
     MeasureTool(MapCanvas& canvas, Kind kind);
 
-    /// The coordinate system of the map, as in CoordinateSystems.h. Forgets what was measured.
+    /// The coordinate system of the map, as in CoordinateSystems.h. Removes the measurement.
     void SetSystem(const QString& system);
 
     /// The vertices set so far, in map units.
@@ -60,7 +60,7 @@ private:
     std::vector<QPointF> m_vertices; // map units, as the next
     std::optional<QPointF> m_pointer; // the vertex that a click would set
     bool m_snapped = false; // the pointer is on a feature
-    bool m_finished = false; // the next click begins anew
+    bool m_finished = false; // the next click begins again
 };
 
 } // namespace Orvane

@@ -62,7 +62,7 @@ bool MoveTool::DragBegin(QPointF from, Qt::KeyboardModifiers)
     const qint64 featureID = hit.layer->features->FeatureId(hit.feature);
     Grabbed grabbed{{hit.layer->layerID, featureID}, *hit.layer, m_canvas.View().ToMap(from), {}};
     grabbed.layer.features = std::make_shared<const FeatureSet>(SubsetOf(*hit.layer->features, {featureID}));
-    if (!MayMove(grabbed.key)) // it may take a while, in which the map is read anew
+    if (!MayMove(grabbed.key)) // it may take a while, and the map may be read again meanwhile
         return true;
     emit StatusChanged(tr("Moving a feature of %1. Esc lets go.").arg(grabbed.layer.name));
     m_grabbed = std::move(grabbed);

@@ -12,15 +12,15 @@ namespace Orvane {
 
 class MapCanvas;
 
-/// Moves the topmost feature under the pointer, of a layer that is not locked, by dragging it. Esc lets go.
-/// What cannot be moved is told when the drag begins.
+/// Moves the topmost feature under the pointer, of a layer that is not locked, by dragging it. Esc cancels
+/// the drag. If the feature cannot be moved, the reason is shown when the drag begins.
 class MoveTool : public MapTool
 {
     Q_OBJECT
 public:
-    /// What a feature is moved with.
+    /// The functions that move a feature.
     struct Hand {
-        std::function<void(const FeatureKey& key)> check; ///< raises why it cannot be moved
+        std::function<void(const FeatureKey& key)> check; ///< raises the reason when it cannot be moved
         std::function<void(const FeatureKey& key, QPointF offset)> move; ///< by map units; may raise
     };
 
@@ -41,7 +41,7 @@ public:
 private:
     struct Grabbed {
         FeatureKey key;
-        MapLayer layer; // with nothing but the feature
+        MapLayer layer; // with this feature only
         QPointF from; // map units, as the next
         QPointF offset;
     };

@@ -13,8 +13,9 @@ namespace Orvane {
 class FeatureSelection;
 class MapCanvas;
 
-/// Selects features of selectable layers: a click the topmost one, a drag all that its rectangle touches.
-/// With Ctrl a click adds or takes away, and a drag adds. A click beside everything, or Esc, clears.
+/// Selects features of selectable layers: a click selects the topmost one, a drag all that its rectangle
+/// touches. With Ctrl a click adds or removes, and a drag adds. A click on no feature, or Esc, clears the
+/// selection.
 class SelectTool : public MapTool
 {
     Q_OBJECT

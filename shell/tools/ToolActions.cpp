@@ -30,7 +30,7 @@ constexpr QRgb IdentifiedColour = 0xffe0457b;
 struct ToolActions::Command {
     const char* objectName;
     IconName icon;
-    const char* text; // of context ToolActions, as the next
+    const char* text; // of context ToolActions, like tip
     const char* tip;
     Qt::Key key; // with Ctrl
 };
@@ -80,7 +80,7 @@ void ToolActions::SetSystem(const QString& system)
     m_measureArea.SetSystem(system);
 }
 
-// What was told of a move is no longer so when it is undone.
+// The status text of a move is no longer true when the move is undone.
 void ToolActions::ForgetMove()
 {
     if (m_canvas.Tool() == &m_move)
@@ -164,7 +164,7 @@ void ToolActions::ConnectTools()
 {
     connect(&m_hover, &HoverHighlight::StatusChanged, this, [this](const QString& text) {
         const MapTool* tool = m_canvas.Tool();
-        if (tool != &m_measureLine && tool != &m_measureArea) // these have a figure to tell
+        if (tool != &m_measureLine && tool != &m_measureArea) // these show their result there
             m_status->SetText(text);
     });
     connect(&m_identify, &IdentifyTool::Identified, this, &ToolActions::ShowIdentified);

@@ -24,7 +24,7 @@ class IdentifyPanel;
 class MapSession;
 class StatusText;
 
-/// The map tools of a window: their commands, the panel and the status text that they speak through.
+/// The map tools of a window: their commands, their panel and their status text.
 ///
 ///     ToolActions tools(window, canvas, *menuTools, *toolBar);
 ///     tools.Use(session);
@@ -37,10 +37,10 @@ public:
     ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QToolBar& toolBar);
     ~ToolActions() override;
 
-    /// The tools work on this map from now on; what they showed of the one before is gone. session: not
+    /// The tools work on this map from now on; what they showed of the previous map is removed. session: not
     /// owned; outlives this object, or another one is used before it ends.
     void Use(MapSession& session);
-    /// The map's coordinate system is this one now, as in CoordinateSystems.h.
+    /// Sets the map's coordinate system, as in CoordinateSystems.h.
     void SetSystem(const QString& system);
 
     const FeatureSelection& Selection() const { return m_selection; }
@@ -71,7 +71,7 @@ private:
     MeasureTool m_measureLine;
     MeasureTool m_measureArea;
     MoveTool m_move;
-    IdentifyPanel* m_panel; // owned by the window, as the status text
+    IdentifyPanel* m_panel; // owned by the window, like the status text
     StatusText* m_status;
     QActionGroup* m_group;
 };

@@ -7,10 +7,10 @@
 
 namespace Orvane {
 
-/// What a person wants of a feature on the map.
+/// What a user does with a feature on the map.
 enum class ToolUse { PointOut, Identify, Select, Move, SnapTo };
 
-/// Why a layer's features are not to be had for a use. The first reason that holds counts.
+/// Why a layer's features are not available for a use. The first reason that applies counts.
 enum class Refusal {
     None,
     Invisible,
@@ -23,21 +23,21 @@ enum class Refusal {
     NoSnap,
 };
 
-/// Whether, and why not, the layer serves the use while the map is shown at 1 : denominator.
+/// Why the layer is not available for the use while the map is shown at 1 : denominator; None if it is.
 Refusal RefusalOf(const MapLayer& layer, ToolUse use, double denominator);
 
-/// The sentence for the person, e.g. "Roads is here but not enquirable."
+/// The sentence for the user, e.g. "Roads is here but not enquirable."
 QString RefusalText(Refusal refusal, const QString& layerName);
 
 /// Why nothing was found at a place.
 struct Miss {
     Refusal refusal = Refusal::None; ///< None: no layer is there
-    QString layerName; ///< of the layer that refuses
+    QString layerName; ///< of the layer that is not available
 
     QString Text() const { return RefusalText(refusal, layerName); }
 };
 
-/// The layers of a map at a view, asked for one use.
+/// Finds the features of a map in a view that are available for one use.
 ///
 ///     const ToolSearch search(canvas.Layers(), canvas.View(), canvas.ScaleDenominator(), ToolUse::Select);
 ///     const auto hits = search.At(pixel);
@@ -49,7 +49,7 @@ public:
     /// layers: outlive this object.
     ToolSearch(std::span<const MapLayer> layers, const MapView& view, double denominator, ToolUse use);
 
-    /// As HitTest; only of layers that serve the use.
+    /// Like HitTest, but only for layers that are available for the use.
     std::vector<Hit> At(QPointF pixel) const;
     std::vector<Hit> Within(const QRectF& pixels) const;
     std::optional<QPointF> SnapPoint(QPointF pixel) const;

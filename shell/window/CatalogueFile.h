@@ -5,12 +5,12 @@
 
 namespace Orvane {
 
-/// The message file of the host's own texts for the first of these languages ("de-CH", "de") that there is
-/// one for; a null text for none, and where English comes first. Looks in "translations" beside the program,
-/// as it is built, and in "share/orvane/translations", as it is installed.
+/// The message file of the host's own texts for the first of these languages ("de-CH", "de") that has one; a
+/// null text if none has one, or if English comes first. Looks in "translations" beside the program, as it is
+/// built, and in "share/orvane/translations", as it is installed.
 QString CatalogueFile(const QStringList& languages);
 
-/// The language of such a file, as its name tells it ("de"); a null text where there is no file.
+/// The language of such a file, from its name ("de"); a null text if there is no file.
 QString CatalogueLanguage(const QString& file);
 
 } // namespace Orvane

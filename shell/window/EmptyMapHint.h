@@ -9,7 +9,7 @@ namespace Orvane {
 
 class MapCanvas;
 
-/// Says on a map without layers and backdrop how data come onto it.
+/// Shows on a map without layers and backdrop how to add data.
 class EmptyMapHint : public MapOverlay
 {
     Q_DECLARE_TR_FUNCTIONS(Orvane::EmptyMapHint)

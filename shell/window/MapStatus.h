@@ -12,7 +12,8 @@ namespace Orvane {
 
 class MapCanvas;
 
-/// What the status bar tells of the map: the scale, where the pointer is, and that a drawing takes its time.
+/// What the status bar shows about the map: the scale, the pointer's position, and that a long drawing is
+/// running.
 class MapStatus : public QObject
 {
     Q_OBJECT

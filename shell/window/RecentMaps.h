@@ -5,12 +5,12 @@
 
 namespace Orvane {
 
-/// The map files that the person worked with last, latest first, kept in the application's settings.
+/// The map files that the user worked with last, latest first, kept in the application's settings.
 namespace RecentMaps {
 
 inline constexpr int Most = 8;
 
-/// As absolute paths, those included that are gone meanwhile.
+/// As absolute paths, including files that no longer exist.
 QStringList All();
 /// The latest that still exists; empty for none.
 QString Latest();

@@ -9,7 +9,8 @@ class QWidget;
 
 namespace Orvane {
 
-/// The menu of the recent maps. One that is gone is told to the person and taken off the list.
+/// The menu of the recent maps. A map that no longer exists is reported to the user and removed from the
+/// list.
 class RecentMapsMenu : public QObject
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ public:
     RecentMapsMenu(QMenu& menu, QWidget& window);
 
 signals:
-    /// The person wants this map, which is there.
+    /// The user chose this map, which exists.
     void Chosen(const QString& path);
 
 private:

@@ -19,7 +19,7 @@ constexpr std::chrono::milliseconds LookAgainAfter{30};
 constexpr int DialogAfter = 500; // milliseconds
 constexpr int Steps = 1000;
 
-// Input waits for the dialog, so that nobody closes the window under the work.
+// Blocks input until the dialog is shown, so that the user cannot close the window during the work.
 void HandleEvents(const QProgressDialog& dialog)
 {
     const bool shown = dialog.isVisible();

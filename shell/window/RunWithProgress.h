@@ -11,9 +11,9 @@ class QWidget;
 
 namespace Orvane {
 
-/// Runs work in a thread of its own and returns when it has ended; a dialog with progress and Cancel comes up
-/// when that takes a while. The window stays alive, but takes no input. What the work raises, Cancelled
-/// included, is raised here.
+/// Runs work in a separate thread and returns when it has ended; a dialog with progress and Cancel is shown
+/// when that takes a while. The window is still painted, but accepts no input. Errors of the work, including
+/// Cancelled, are raised here.
 void RunWithProgress(QWidget* parent, const QString& what, const std::function<void(Progress&)>& work);
 
 } // namespace Orvane

@@ -14,7 +14,7 @@ constexpr auto GeometryKey = "MainWindow/Geometry";
 constexpr auto StateKey = "MainWindow/State";
 constexpr int BarGap = 4; // pixels between tool bars, at most
 
-// So that no tool hides behind an arrow.
+// The width at which no tool is hidden in the overflow menu of a tool bar.
 QSize SizeOfTools(const QMainWindow& window)
 {
     QSize tools(0, 0);

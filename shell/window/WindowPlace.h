@@ -5,14 +5,14 @@ class QMainWindow;
 
 namespace Orvane {
 
-/// Where the program's window stands, with its tool bars, kept from one run to the next.
+/// The place of the program's window and of its tool bars, kept from one run to the next.
 namespace WindowPlace {
 
-/// Puts the window where it stood last; the first time so that its tools are seen, and the layer control has
-/// room at its right where the screen has it.
+/// Puts the window at its last place; the first time so that all its tools are visible, and the layer control
+/// has room at its right if the screen is large enough.
 void Restore(QMainWindow& window);
 
-/// Notes where the window stands.
+/// Stores the window's place.
 void Store(const QMainWindow& window);
 
 } // namespace WindowPlace

@@ -15,7 +15,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr int NoKey = -1; // in place of a table
+constexpr int NoKey = -1; // instead of the position of a table
 
 using ValueReader = int (*)(sqlite3*, int, sqlite3_value**);
 
@@ -27,7 +27,7 @@ void Code(std::string& bytes, sqlite3_value* value, bool isReal)
     };
     switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
-        if (isReal) // a whole number is stored in less room, and is shown to us like that
+        if (isReal) // SQLite stores and reports whole numbers as integers
             return ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
         return ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(value));
     case SQLITE_FLOAT:
@@ -41,7 +41,7 @@ void Code(std::string& bytes, sqlite3_value* value, bool isReal)
     }
 }
 
-// False when SQLite has no memory for it.
+// False when SQLite runs out of memory.
 bool ReadAll(
     sqlite3* handle, ValueReader read, const std::vector<bool>& isReal, std::vector<std::string>& values)
 {
@@ -63,7 +63,7 @@ std::string Key(const ChangedTable& table, const std::vector<std::string>& value
     return key;
 }
 
-// SQLite's rule for the type of a column.
+// SQLite's rule for deriving the type of a column from its declaration.
 bool NamesReal(const QString& type)
 {
     const auto has
@@ -76,7 +76,7 @@ bool NamesReal(const QString& type)
 ChangedTable ReadTable(SqliteConnection& connection, const char* name, std::vector<bool>& isReal)
 {
     ChangedTable table{name, {}, {}};
-    std::map<qint32, int> keys; // by their place in the primary key
+    std::map<qint32, int> keys; // by their position in the primary key
     SqliteStatement columns(
         connection, QStringLiteral("SELECT cid, name, pk, type FROM pragma_table_info(?1)"));
     columns.Bind(1, Value(QString::fromUtf8(name)));
@@ -128,7 +128,7 @@ void ChangeWatch::End()
     }
 }
 
-// Open transactions know places in the log.
+// Keeps the log while a transaction is open, because transactions hold positions in it.
 void ChangeWatch::ForgetRows()
 {
     if (!m_connection.IsAutoCommit())
@@ -144,7 +144,7 @@ Changeset ChangeWatch::ChangesSince(size_t place) const
     return m_log.ChangesSince(place);
 }
 
-// The frames above are SQLite's, through which nothing may be thrown.
+// Called by SQLite, so no exception may leave it.
 void ChangeWatch::Note(int operation, const char* tableName) noexcept
 {
     try {
@@ -193,7 +193,7 @@ void ChangeWatch::NoteUpdate(int table)
     }
     if (Key(described, m_before) == Key(described, m_after))
         return NoteRow(table, ChangeKind::Updated);
-    NoteRow(table, ChangeKind::Deleted); // under another key it is another row
+    NoteRow(table, ChangeKind::Deleted); // with another key it is another row
     NoteRow(table, ChangeKind::Inserted);
 }
 

@@ -10,8 +10,8 @@ namespace Orvane {
 
 class SqliteConnection;
 
-/// Writes down each row that a connection changes, while somebody wants to know: SQLite calls it before each
-/// change. What is taken back is forgotten again, see GoBackTo.
+/// Logs each row that a connection changes, between Begin and End. SQLite calls it before each change.
+/// Changes that are rolled back are removed from the log, see GoBackTo.
 class ChangeWatch
 {
 public:
@@ -21,16 +21,17 @@ public:
     ChangeWatch(const ChangeWatch&) = delete;
     ChangeWatch& operator=(const ChangeWatch&) = delete;
 
-    /// Begins to watch; returns the place in the log from where on changes are there. Calls nest.
+    /// Starts logging, and returns the position in the log where it starts. Calls nest.
     size_t Begin();
-    /// Ends what one Begin began.
+    /// Ends the logging that one Begin call started.
     void End();
 
-    /// A place in the log, and back to it when the changes after it were rolled back.
+    /// The present position in the log; GoBackTo returns to it after a rollback.
     size_t Place() const { return m_log.Size(); }
     void GoBackTo(size_t place) { m_log.GoBackTo(place); }
 
-    /// What changed since a place. Raises DatabaseFailure if there was no memory to write everything down.
+    /// The changes since a position in the log. Raises DatabaseFailure if there was not enough memory to log
+    /// all of them.
     Changeset ChangesSince(size_t place) const;
 
 private:
@@ -43,8 +44,8 @@ private:
 
     SqliteConnection& m_connection;
     ChangeLog m_log;
-    std::vector<std::vector<bool>> m_isReal; // for each table and column: it keeps no whole numbers
-    std::vector<std::string> m_before; // the coded values of the row at hand
+    std::vector<std::vector<bool>> m_isReal; // for each table and column: true if it has the type REAL
+    std::vector<std::string> m_before; // the coded values of the row that is changed
     std::vector<std::string> m_after;
     int m_watchers = 0;
     bool m_hasGaps = false;

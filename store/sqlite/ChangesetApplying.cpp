@@ -11,7 +11,7 @@ namespace Orvane {
 
 namespace {
 
-// Rolls back what is not committed, without raising.
+// A transaction that is rolled back, without raising, unless it is committed.
 class Attempt
 {
 public:
@@ -46,7 +46,7 @@ private:
     bool m_open = true;
 };
 
-// References between rows may be broken until all rows are as they should be.
+// Allows broken references between rows until all rows are changed.
 class DeferredReferences
 {
 public:
@@ -73,7 +73,7 @@ private:
     SqliteConnection& m_connection;
 };
 
-// Rows that another row is still in the way of are tried again, as long as that gets any of them done.
+// Tries rows that other rows block again, as long as each round changes at least one of them.
 bool ChangeBlockedRows(
     RowChanger& changer, const std::vector<ChangedTable>& tables, std::vector<std::string> blocked)
 {

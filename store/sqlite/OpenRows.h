@@ -5,7 +5,7 @@
 
 namespace Orvane {
 
-/// A cursor that may be on a row of a running statement, and so keeps reading an older state of the database.
+/// A cursor that may be on a row of a running statement, and therefore reads an older state of the database.
 class OpenRow
 {
 public:

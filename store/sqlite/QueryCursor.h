@@ -17,7 +17,7 @@ struct SqliteSession;
 class QueryCursor final : public IRecordset, private OpenRow
 {
 public:
-    /// Starts on the first row. statement: bound and not yet run. The session must outlive the cursor.
+    /// Starts on the first row. statement: bound, but not yet run. The session must outlive the cursor.
     QueryCursor(SqliteSession& session, StatementLease statement);
     ~QueryCursor() override;
 

@@ -34,7 +34,7 @@ QString KeyCondition(const ChangedTable& table)
     return conditions.join(QLatin1String(" AND "));
 }
 
-// Exactly the value from before: texts that differ only in case are different.
+// Requires exactly the former values; texts that differ only in case are different.
 QString BeforeCondition(const ChangedTable& table, const ChangedRow& row)
 {
     QString conditions;
@@ -73,7 +73,7 @@ QString Deleting(const ChangedTable& table, const ChangedRow& row)
         + BeforeCondition(table, row);
 }
 
-QString Text(const ChangedTable& table, const ChangedRow& row)
+QString StatementText(const ChangedTable& table, const ChangedRow& row)
 {
     if (row.kind == ChangeKind::Inserted)
         return Inserting(table, row);
@@ -124,7 +124,7 @@ SqliteStatement& RowChanger::StatementFor(const ChangedTable& table, const Chang
         return *found->statement;
     if (m_known.size() == MaxKnown)
         m_known.clear();
-    auto statement = std::make_unique<SqliteStatement>(m_session.connection, Text(table, row));
+    auto statement = std::make_unique<SqliteStatement>(m_session.connection, StatementText(table, row));
     return *m_known.emplace_back(Known{row.table, row.kind, positions, std::move(statement)}).statement;
 }
 

@@ -11,7 +11,7 @@ namespace Orvane {
 
 struct SqliteSession;
 
-/// Makes recorded changes again, row by row, if each row is as its change expects it.
+/// Applies recorded changes row by row. Each row must be as its change expects it.
 class RowChanger
 {
 public:
@@ -28,7 +28,7 @@ public:
     Outcome Change(const ChangedTable& table, const ChangedRow& row);
 
 private:
-    // Rows with the same columns of the same table are changed by the same statement.
+    // Changes of the same columns of the same table share one statement.
     struct Known {
         size_t table;
         ChangeKind kind;

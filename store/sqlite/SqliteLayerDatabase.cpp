@@ -27,7 +27,7 @@ void UseWriteAheadLog(SqliteConnection& connection)
     connection.Run("PRAGMA synchronous = FULL");
 }
 
-// Lists go through rows in another order than they are stored in: 16 MB hold most of a large map.
+// Lists read rows in a different order from the one in which they are stored. 16 MB hold most of a large map.
 void UseCache(SqliteConnection& connection)
 {
     connection.Run("PRAGMA cache_size = -16384");
@@ -46,7 +46,7 @@ bool IsTable(const QString& source, const TableAccess& table)
     return source.compare(QLatin1String(name.data(), qsizetype(name.size())), Qt::CaseInsensitive) == 0;
 }
 
-// Claims the name, so that an existing file can never be taken for the new one.
+// Creates the file first, so that an existing file can never be mistaken for the new one.
 void MakeEmptyFile(const QString& path)
 {
     const StoreErrors errors(path);
@@ -76,7 +76,7 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
     UseCache(session->connection);
     LayerSchema::Create(session->connection);
     UseWriteAheadLog(session->connection);
-    LayerSchema::Check(session->connection); // with a first read the file counts as open
+    LayerSchema::Check(session->connection); // the file counts as open only after a first read
     return session;
 }
 

@@ -22,25 +22,25 @@ struct SqliteSession;
 ///     layers->Index("LayerIDIDX");
 ///     layers->Seek("=", 17);
 ///
-/// The file is an ordinary SQLite database with a write-ahead log; a committed change is on disk. The host
-/// may keep its own tables in it, and run any statement that SQLite understands. Errors: DatabaseLocked when
-/// another program kept the file locked for longer than StoreOptions allow, NotALayerDatabase also when
+/// The file is an ordinary SQLite database with a write-ahead log; a committed change is written to disk. The
+/// host may keep its own tables in it, and run any statement that SQLite understands. Errors: DatabaseLocked
+/// when another program kept the file locked for longer than StoreOptions allows, NotALayerDatabase also when
 /// damage is found only while reading, DatabaseReadOnly, and DatabaseFailure for everything else.
 class SqliteLayerDatabase final : public ILayerStore
 {
 public:
     /// Creates a new file with empty tables. Raises DatabaseFailure if a file of that name exists or cannot
-    /// be created; nothing is left behind then.
+    /// be created; no incomplete file remains then.
     static std::unique_ptr<SqliteLayerDatabase> Create(const QString& path, const StoreOptions& options = {});
 
-    /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for one of a
+    /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for a file of a
     /// newer version, DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if
-    /// it is missing; the file is not touched then. A file of an older version is migrated, except in
+    /// it is missing; the file is not changed then. A file of an older version is migrated, except in
     /// ReadOnly mode.
     static std::unique_ptr<SqliteLayerDatabase>
     Open(const QString& path, OpenMode mode = OpenMode::ReadWrite, const StoreOptions& options = {});
 
-    /// Creates empty tables in memory that exist as long as the object.
+    /// Creates empty tables in memory, which exist as long as the object.
     static std::unique_ptr<SqliteLayerDatabase> CreateInMemory(const StoreOptions& options = {});
 
     /// Rolls back uncommitted changes and closes the file.

@@ -12,7 +12,7 @@
 
 namespace Orvane {
 
-/// What all cursors over one table share: its names and its prepared statements.
+/// The names and prepared statements that all cursors over one table share.
 class TableAccess
 {
 public:
@@ -34,8 +34,8 @@ public:
     /// supplies the column names. Prepared once per set of columns.
     SqliteStatement& UpdateOf(const PendingEdit& edit, const SqliteStatement& row);
 
-    /// True when the last row's columns were read. Loops treat their rows alike: they either read the columns
-    /// of every row or only write to every row.
+    /// True when the last row's columns were read. A loop usually treats all rows the same way: it either
+    /// reads columns of every row or only writes to every row.
     bool ExpectsReading() const { return m_expectsReading; }
     void ExpectReading(bool reading) { m_expectsReading = reading; }
 

@@ -8,7 +8,7 @@ namespace Orvane {
 struct SqliteSession;
 struct StoreTable;
 
-/// ILayerStore's tables of the host, in SQLite. All raise database errors.
+/// Implements ILayerStore's members for tables of the host in SQLite. All raise database errors.
 
 /// As ILayerStore::PrepareTable.
 void PrepareTable(SqliteSession& session, const StoreTable& table);

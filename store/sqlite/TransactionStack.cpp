@@ -62,7 +62,7 @@ void TransactionStack::Rollback()
     m_connection.Run(m_depth == 0 ? QByteArray("ROLLBACK") : "ROLLBACK TO " + name + "; RELEASE " + name);
 }
 
-// After some errors, a full disk for one, SQLite ends the transaction by itself.
+// After some errors, for example a full disk, SQLite itself ends the transaction.
 bool TransactionStack::IsLost() const
 {
     return m_depth > 0 && m_connection.IsAutoCommit();

@@ -15,7 +15,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// A host that has something to answer to every question.
+/// A host whose members all return a result.
 class BusyHost : public MemoryHost
 {
 public:

@@ -27,7 +27,7 @@ namespace {
 
 constexpr QPointF Inside(5, 5);
 
-// A map of one square of ten degrees, the layer control beside it, and a person who uses both.
+// A map of one square of ten degrees, the layer control beside it, and a user who uses both.
 class FlagsOnTheMap : public testing::Test
 {
 protected:
@@ -100,7 +100,7 @@ protected:
         QTest::mouseMove(&canvas, Pixel(to));
         QTest::mouseRelease(&canvas, Qt::LeftButton, {}, Pixel(to));
     }
-    // Sent to the map itself: a pointer that is really moved may come upon the layer control's window.
+    // Sent to the map itself: a real pointer may be over the layer control's window.
     void Hover(QPointF map)
     {
         MapCanvas& canvas = m_window->Canvas();

@@ -119,9 +119,9 @@ TEST_F(ListedNamesTest, ASourceThatGoesSuppressesItsLayerUntilItIsBack)
 TEST_F(ListedNamesTest, ASourceThatIsMissingFromTheStartIsListedAsSuppressed)
 {
     ASSERT_TRUE(QFile::remove(m_folder.Path("woods.geojson")));
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     m_window.OpenMap(m_folder.Path("map.orvane"));
-    EXPECT_TRUE(person.Only().text.contains("woods.geojson"));
+    EXPECT_TRUE(user.Only().text.contains("woods.geojson"));
     m_window.ShowLayerControl();
     EXPECT_TRUE(Lists("(SUP)woods "));
 }

@@ -29,7 +29,7 @@ protected:
             Form()->close();
     }
 
-    // The person's answers to the questions for a new layer.
+    // The user's answers to the questions for a new layer.
     static void Answer(const std::function<void(QDialog& dialog)>& act, QDialogButtonBox::StandardButton end)
     {
         WhenAsked([=](QDialog& dialog) {
@@ -149,8 +149,8 @@ TEST_F(NewLayers, WhatCannotBeMadeIsToldAndAskedAgain)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("a shopping list");
     file.close();
-    MessageBoxRobot person{BoxKey::Enter};
-    person.BeforeAnswer([](QMessageBox&) {
+    MessageBoxRobot user{BoxKey::Enter};
+    user.BeforeAnswer([](QMessageBox&) {
         Answer(
             [](QDialog& dialog) { EXPECT_EQ(dialog.findChild<QLineEdit*>("edtName")->text(), "Kiosks"); },
             QDialogButtonBox::Cancel);
@@ -162,7 +162,7 @@ TEST_F(NewLayers, WhatCannotBeMadeIsToldAndAskedAgain)
         },
         QDialogButtonBox::Ok);
     Press(Form(), "cmdNewLayer");
-    EXPECT_TRUE(person.Only().text.contains("text.gpkg"));
+    EXPECT_TRUE(user.Only().text.contains("text.gpkg"));
     EXPECT_EQ(Count("Layers"), m_before);
 }
 

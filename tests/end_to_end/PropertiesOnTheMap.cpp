@@ -45,7 +45,7 @@ bool IsNear(QRgb pixel, qint32 colour)
         && std::abs(qBlue(pixel) - ((colour >> 16) & 0xff)) <= BlendedAway;
 }
 
-// Moves the drop-down slider that opens while this lives, and presses OK.
+// Moves the drop-down slider that opens during its lifetime, and presses OK.
 class SliderHand : public QObject
 {
 public:

@@ -21,7 +21,7 @@ class MapDocument;
 namespace Orvane::Testing {
 
 /// A map of two green areas, "West" and "East", edged in blue, with a yellow layer below them, a red line and
-/// a magenta point; beside it the layer control, in which a person changes one property at a time.
+/// a magenta point; beside it the layer control, in which a user changes one property at a time.
 class PropertiesOnTheMap : public testing::Test
 {
 protected:
@@ -41,7 +41,7 @@ protected:
     void Select(const QString& layer);
     /// Clicks a control: a check box, a button, a button of the toolbar.
     void Click(const char* name);
-    /// Walks down a closed list with the arrow keys to the item of that number: a colour, a fill style, the
+    /// Goes to the item with this number in a closed list, with the arrow keys: a colour, a fill style, the
     /// line style or 20 times the thickness.
     void Pick(const char* list, qint32 number);
     void PickStyle(const QString& name);
@@ -51,16 +51,16 @@ protected:
     void Slide(const char* button, const std::vector<Qt::Key>& keys);
     void Apply() { Click("cmdApply"); }
 
-    /// The map as it is drawn in the end.
+    /// The finished picture of the map.
     QImage Map();
     /// Pixels of the map in which at least half is of that full colour; colour: BGR.
     int Pixels(qint32 colour);
-    /// How many pixels of that full colour lie above one another around a place; colour: BGR.
+    /// The number of pixels of that full colour in a vertical run around a place; colour: BGR.
     int ThicknessAt(QPointF map, qint32 colour);
     /// Shows the map at that scale.
     void SetScale(double denominator);
     void ShowAll();
-    /// Waits for what a renderer style reads in the background.
+    /// Waits for the attributes that a renderer style reads in the background.
     void WaitForAttributes(const QString& layer);
 
     std::unique_ptr<MainWindow> m_window;

@@ -176,7 +176,7 @@ TEST_F(PropertiesOnTheMap, MinimumVisibleScale)
     SetScale(40e6);
     EXPECT_GT(Pixels(Green), 50);
     Slide("cmdEditMinScale", {Qt::Key_End});
-    Slide("cmdEditMaxScale", {Qt::Key_End}); // it was taken along
+    Slide("cmdEditMaxScale", {Qt::Key_End}); // it moved along with the minimum
     Apply();
     EXPECT_EQ(Pixels(Green), 0) << "closer than 1:200,000,000";
     SetScale(250e6);

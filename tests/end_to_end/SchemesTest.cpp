@@ -106,9 +106,9 @@ TEST_F(SchemesOfTheMap, SwitchingWithNothingUnsavedAsksNothing)
 TEST_F(SchemesOfTheMap, SwitchingFromUnsavedChangesAsksAndEscapeStays)
 {
     Change();
-    MessageBoxRobot person{BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Escape};
     Choose("menuSchemes", "Night");
-    EXPECT_TRUE(person.Only().text.contains(m_day) && person.Only().text.contains("Night"));
+    EXPECT_TRUE(user.Only().text.contains(m_day) && user.Only().text.contains("Night"));
     EXPECT_EQ(Status(), "Scheme: " + m_day + " *");
     EXPECT_FALSE(IsVisible());
 }
@@ -117,7 +117,7 @@ TEST_F(SchemesOfTheMap, SavingOnTheWayKeepsTheChangesInTheirScheme)
 {
     Change();
     {
-        MessageBoxRobot person{BoxKey::Enter}; // Save
+        MessageBoxRobot user{BoxKey::Enter}; // Save
         Choose("menuSchemes", "Night");
     }
     EXPECT_EQ(Status(), "Scheme: Night");
@@ -159,11 +159,11 @@ TEST_F(SchemesOfTheMap, SwitchingAsksAboutEditsThatWereNotApplied)
     OpenLayerControl();
     ClickLayer(Form(), Layer);
     ClickVisible(Form());
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter}; // apply, and save
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter}; // apply, and save
     Choose("menuSchemes", "Night");
-    ASSERT_EQ(person.Boxes().size(), 2u);
-    EXPECT_TRUE(person.Boxes()[0].text.contains("apply")) << qPrintable(person.Boxes()[0].text);
-    EXPECT_TRUE(person.Boxes()[1].text.contains(m_day)) << qPrintable(person.Boxes()[1].text);
+    ASSERT_EQ(user.Boxes().size(), 2u);
+    EXPECT_TRUE(user.Boxes()[0].text.contains("apply")) << qPrintable(user.Boxes()[0].text);
+    EXPECT_TRUE(user.Boxes()[1].text.contains(m_day)) << qPrintable(user.Boxes()[1].text);
     EXPECT_EQ(Status(), "Scheme: Night");
     EXPECT_TRUE(IsVisible());
     Form()->close();
@@ -175,19 +175,19 @@ TEST_F(SchemesOfTheMap, SaveAndRevertAskFirst)
 {
     Change();
     {
-        MessageBoxRobot person{BoxKey::No, BoxKey::No};
+        MessageBoxRobot user{BoxKey::No, BoxKey::No};
         Choose("menuSchemes", "Save Scheme");
         Choose("menuSchemes", "Revert");
     }
     EXPECT_EQ(Status(), "Scheme: " + m_day + " *");
     {
-        MessageBoxRobot person{BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes};
         Choose("menuSchemes", "Revert");
     }
     EXPECT_TRUE(IsVisible());
     EXPECT_EQ(Status(), "Scheme: " + m_day);
     Change();
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Choose("menuSchemes", "Save Scheme");
     EXPECT_EQ(Status(), "Scheme: " + m_day);
     EXPECT_FALSE(IsVisible());
@@ -212,9 +212,9 @@ TEST_F(SchemesOfTheMap, ASchemeWanderedThroughAFileIsTheSameScheme)
     ASSERT_TRUE(QFile::exists(PathOf("night.json")));
     Client().LoadScheme(m_day);
     Client().DeleteScheme("Night");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Import("night.json");
-    EXPECT_TRUE(person.Only().text.contains("Night"));
+    EXPECT_TRUE(user.Only().text.contains("Night"));
     EXPECT_TRUE(IsVisible());
     Choose("menuSchemes", "Night");
     EXPECT_FALSE(IsVisible());
@@ -226,9 +226,9 @@ TEST_F(SchemesOfTheMap, AnImportReplacesASchemeOnlyOnYes)
     Export("night.json");
     Change();
     Client().SaveScheme("Night");
-    MessageBoxRobot person{BoxKey::No};
+    MessageBoxRobot user{BoxKey::No};
     Import("night.json");
-    EXPECT_TRUE(person.Only().text.contains("already"));
+    EXPECT_TRUE(user.Only().text.contains("already"));
     EXPECT_EQ(Status(), "Scheme: Night");
 }
 
@@ -239,9 +239,9 @@ TEST_F(SchemesOfTheMap, ADamagedFileIsToldAndChangesNothing)
     file.write("{\"format\": \"orvane-scheme\", \"version\": 1, \"name\": \"Night\", \"layers\": [{}]}");
     file.close();
     const QStringList before = Client().GetSchemeNames();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Import("night.json");
-    EXPECT_TRUE(person.Only().text.contains("night.json")) << qPrintable(person.Only().text);
+    EXPECT_TRUE(user.Only().text.contains("night.json")) << qPrintable(user.Only().text);
     EXPECT_EQ(Client().GetSchemeNames(), before);
     EXPECT_EQ(Status(), "Scheme: " + m_day);
 }

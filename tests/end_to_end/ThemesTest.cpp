@@ -96,12 +96,12 @@ TEST_F(Themes, ANameThatIsTakenIsReplacedOnlyOnYes)
     MakeTheme("Town");
     Database().Execute("UPDATE Layers SET Visible = (Name = 'Fields')");
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         AnswerPrompt("Town");
         Choose("menuThemes", "New Theme");
         EXPECT_FALSE(Listed(Editor("Town")).contains("Fields"));
     }
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     AnswerPrompt("Town");
     Choose("menuThemes", "New Theme");
     EXPECT_EQ(Listed(Editor("Town")), QStringList("Fields"));
@@ -110,20 +110,20 @@ TEST_F(Themes, ANameThatIsTakenIsReplacedOnlyOnYes)
 
 TEST_F(Themes, ABlankNameIsRefusedAndCancellingMakesNone)
 {
-    MessageBoxRobot person{BoxKey::Enter};
-    person.BeforeAnswer([](QMessageBox&) { WhenAsked([](QDialog& prompt) { prompt.reject(); }); });
+    MessageBoxRobot user{BoxKey::Enter};
+    user.BeforeAnswer([](QMessageBox&) { WhenAsked([](QDialog& prompt) { prompt.reject(); }); });
     AnswerPrompt("   ");
     Choose("menuThemes", "New Theme");
-    EXPECT_TRUE(person.Only().text.contains("non-blank"));
+    EXPECT_TRUE(user.Only().text.contains("non-blank"));
     EXPECT_TRUE(Entries("menuThemes").contains("No themes yet"));
 }
 
 TEST_F(Themes, WithoutAVisibleLayerThereIsNothingToMakeAThemeOf)
 {
     Database().Execute("UPDATE Layers SET Visible = 0");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Choose("menuThemes", "New Theme");
-    EXPECT_TRUE(person.Only().text.contains("visible"));
+    EXPECT_TRUE(user.Only().text.contains("visible"));
 }
 
 TEST_F(Themes, DeletingAsksClosesItsEditorAndKeepsTheLayers)
@@ -131,15 +131,15 @@ TEST_F(Themes, DeletingAsksClosesItsEditorAndKeepsTheLayers)
     MakeTheme("Town");
     const int layers = Count("Layers");
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         Entries("menuThemes");
         Choose("menuDeleteTheme", "Town");
         EXPECT_TRUE(Editor("Town"));
     }
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Entries("menuThemes");
     Choose("menuDeleteTheme", "Town");
-    EXPECT_TRUE(person.Only().text.contains("\"Town\""));
+    EXPECT_TRUE(user.Only().text.contains("\"Town\""));
     EXPECT_FALSE(Editor("Town"));
     EXPECT_TRUE(Entries("menuThemes").contains("No themes yet"));
     EXPECT_EQ(Count("Layers"), layers);
@@ -153,9 +153,9 @@ TEST_F(Themes, ClosingTheMapClosesTheEditorsAndAsksAboutTheEditsOfEach)
     ClickLayer(editor, layer);
     ClickVisible(editor);
     OpenLayerControl();
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     EXPECT_TRUE(m_window->close());
-    EXPECT_EQ(person.Boxes().size(), 1u);
+    EXPECT_EQ(user.Boxes().size(), 1u);
     EXPECT_FALSE(ToBoolean(Stored(layer, "Visible")));
     EXPECT_FALSE(Editor("Town"));
     EXPECT_FALSE(Form());
@@ -173,7 +173,7 @@ TEST_F(Themes, NewDataKeepTheEditorsOpen)
 {
     MakeTheme("Town");
     OpenLayerControl();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     m_window->AddData({PathOf("gone.gpkg")});
     EXPECT_TRUE(Form());
     EXPECT_TRUE(Editor("Town"));

@@ -33,7 +33,7 @@
 
 namespace Orvane::Testing {
 
-/// The shell with the real component and the town's map, and the person in front of them.
+/// The shell with the real component and the town's map, and the actions of its user.
 class TownWindow : public testing::Test
 {
 protected:
@@ -71,7 +71,7 @@ protected:
 
     void Trigger(const char* action) { m_window->findChild<QAction*>(QLatin1String(action))->trigger(); }
 
-    /// Opens the menu and presses the entry of that text, or part of it.
+    /// Opens the menu and presses the entry that has or contains that text.
     void Choose(const char* menuName, const QString& text)
     {
         auto* menu = m_window->findChild<QMenu*>(QLatin1String(menuName));
@@ -97,7 +97,7 @@ protected:
 
     QString LabelText(const char* name) { return m_window->findChild<QLabel*>(QLatin1String(name))->text(); }
 
-    /// Does that at the next modal window that is no message box, as soon as it is shown.
+    /// Acts in the next modal window that is not a message box, as soon as it is shown.
     static void WhenAsked(const std::function<void(QDialog& dialog)>& act)
     {
         auto* timer = new QTimer(qApp);
@@ -126,7 +126,7 @@ protected:
 
     void OpenLayerControl() { Trigger("actLayerControl"); }
 
-    /// The shown editor whose caption is that; nullptr for none.
+    /// The shown editor with that caption; nullptr for none.
     static QWidget* Form(const QString& caption = "Layer Control")
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -180,7 +180,7 @@ protected:
         QTest::mouseClick(&Find(form, button), Qt::LeftButton);
     }
 
-    /// Unticks or ticks "Visible" of the layer in the layer control, and applies it.
+    /// Clears or sets "Visible" of the layer in the layer control, and applies it.
     void SwitchVisible(const QString& layer)
     {
         OpenLayerControl();

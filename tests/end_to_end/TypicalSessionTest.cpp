@@ -36,7 +36,7 @@ constexpr auto ViewState = "9000:7000:LAYERS:EXPANDED";
 constexpr auto FlatList = "SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name";
 constexpr auto Layer = "Fields";
 
-// The town in its window, with the hands and eyes of the person in front of it.
+// The town in its window, with the actions and observations of the user.
 class TypicalSession : public testing::Test
 {
 protected:
@@ -67,7 +67,7 @@ protected:
         ASSERT_NE(Form(), nullptr);
     }
 
-    // The editor's window; a closed one lives on until the event loop comes to it.
+    // The editor's window; a closed one exists until the event loop deletes it.
     static QWidget* Form()
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -112,7 +112,7 @@ protected:
         return canvas.grab().toImage();
     }
 
-    // The lines since the last look.
+    // The lines since the last call.
     QStringList NewTrace()
     {
         const QStringList lines = QString::fromUtf8(m_traceBuffer.buffer()).split('\n', Qt::SkipEmptyParts);
@@ -121,7 +121,7 @@ protected:
         return fresh;
     }
 
-    // Each beginning of a line is found behind the one before.
+    // Each beginning of a line is found after the previous one.
     static void ExpectInOrder(const QStringList& lines, const QStringList& beginnings)
     {
         qsizetype from = 0;
@@ -233,9 +233,9 @@ TEST_F(TypicalSession, ClosingTheWindowClosesTheEditorAndAsksAboutItsEdits)
     OpenLayerControl();
     ClickLayer(Layer);
     ClickVisible();
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     EXPECT_TRUE(m_window->close());
-    EXPECT_TRUE(person.Only().text.contains("apply")) << qPrintable(person.Only().text);
+    EXPECT_TRUE(user.Only().text.contains("apply")) << qPrintable(user.Only().text);
     EXPECT_FALSE(ToBoolean(Stored("Visible")));
     EXPECT_EQ(StyleEditorPlugin().Library().GetStyleEditor("Main"), nullptr);
 }

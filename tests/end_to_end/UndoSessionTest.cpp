@@ -98,9 +98,9 @@ TEST_F(UndoSession, EditsThatAreNotAppliedAreNotLost)
     SwitchVisible(Layer);
     ClickVisible(Form());
     ASSERT_TRUE(IsTicked());
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Undo();
-    EXPECT_TRUE(person.Only().text.contains("not applied")) << qPrintable(person.Only().text);
+    EXPECT_TRUE(user.Only().text.contains("not applied")) << qPrintable(user.Only().text);
     EXPECT_TRUE(IsTicked());
     EXPECT_TRUE(Find(Form(), "cmdApply").isEnabled());
     EXPECT_TRUE(CanUndo());
@@ -150,9 +150,9 @@ TEST_F(UndoSession, ADeletedLayerComesBackWithItsFeatures)
     ClickLayer(Form(), Layer);
     const int members = Count("LayerGroupMembers");
     {
-        MessageBoxRobot person{BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes};
         Press(Form(), "cmdDeleteLayer");
-        EXPECT_TRUE(person.Only().text.contains(Layer));
+        EXPECT_TRUE(user.Only().text.contains(Layer));
     }
     EXPECT_THAT(Listed(Form()), Not(Contains(Layer)));
     EXPECT_NE(CurrentLayer(), "");
@@ -173,7 +173,7 @@ TEST_F(UndoSession, ADeletedSchemeIsBackAndCurrentAtOnce)
     auto& schemes = Find<QComboBox>(Form(), "cmbScheme");
     ASSERT_EQ(schemes.currentText(), "Night");
     {
-        MessageBoxRobot person{BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes};
         Press(Form(), "cmdDelete");
     }
     ASSERT_EQ(schemes.count(), 1);
@@ -222,9 +222,9 @@ TEST_F(UndoSession, WhatAnotherProgramChangedIsNotTouched)
         const auto other = SqliteLayerDatabase::Open(MapPath());
         other->Execute("UPDATE Layers SET Visible = 5 WHERE Name = 'Fields'");
     }
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Undo();
-    EXPECT_TRUE(person.Only().text.contains("another program")) << qPrintable(person.Only().text);
+    EXPECT_TRUE(user.Only().text.contains("another program")) << qPrintable(user.Only().text);
     EXPECT_EQ(ToInt32(Stored(Layer, "Visible")), 5);
     EXPECT_FALSE(CanUndo());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A component without editors, of the versions that the build names. It tells its client, as a
-// setting, when it is created and when it is destroyed.
+// A component without editors, with the versions that the build sets. It writes a setting of its client when
+// it is created and when it is destroyed.
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 #include <OrvaneShellLib/PluginContract.h>

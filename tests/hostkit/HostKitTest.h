@@ -32,7 +32,7 @@ protected:
     void Set(qint32 layerID, const char* column, const Value& value);
     Value Get(qint32 layerID, const char* column);
     static Value Get(SqliteLayerDatabase& database, qint32 layerID, const char* column);
-    /// How many rows the query answers.
+    /// The number of rows that the query returns.
     int Rows(const QString& query);
     /// The texts of the statements that the act runs.
     QStringList StatementsOf(const std::function<void()>& act);
@@ -43,11 +43,11 @@ private:
 
 /// The number of the RunTimeError that the act raises, 0 when it raises none.
 int ErrorOf(const std::function<void()>& act);
-/// Its description.
+/// The description of that RunTimeError.
 QString DescriptionOf(const std::function<void()>& act);
 
-/// Does the person's act at the next modal window, as soon as the event loop that shows it runs. The window
-/// must be closed by the act: the test fails when it is not.
+/// Calls act, the user's operation, with the next modal window as soon as its event loop runs. The operation
+/// must close the window; otherwise the test fails.
 void WhenModal(const std::function<void(QWidget& window)>& act);
 
 } // namespace Orvane::Testing

@@ -173,7 +173,7 @@ TEST_F(Client, DeletesALayerAfterOneQuestionThatNamesIt)
     EXPECT_TRUE(Host().LayerDisplayName(1).isEmpty());
 }
 
-TEST_F(Client, KeepsTheLayerWhenThePersonSaysNo)
+TEST_F(Client, KeepsTheLayerWhenTheUserSaysNo)
 {
     AddLayers(1);
     QSignalSpy deleted(&Signals(), &HostNotifications::LayerDeleted);

@@ -10,11 +10,11 @@
 
 namespace Orvane::Testing {
 
-/// Whose member was called.
+/// The interface whose member was called.
 enum class CallKind {
     Client, ///< IStyleEditorClient
     Shell, ///< IShellServices
-    Database, ///< ILayerDatabase, and what cursors do beside reading
+    Database, ///< ILayerDatabase, and all calls of cursors except Field
     Read, ///< IRecordset::Field
 };
 
@@ -33,7 +33,7 @@ public:
     QStringList Trace() const;
     /// The texts of all kinds that call that member, e.g. "Update".
     QStringList CallsTo(const QString& member) const;
-    /// The value that was last given to SetField for that column, in its own kind; Empty when none was.
+    /// The value last given to SetField for that column, with its kind unchanged; Empty when there is none.
     Value LastWritten(const QString& columnName) const;
 
 private:

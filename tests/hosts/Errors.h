@@ -7,7 +7,7 @@
 
 namespace Orvane::Testing {
 
-/// What the action raises; nothing when it does not.
+/// The error that the action raises; nothing when it raises none.
 template <typename Action> std::optional<RunTimeError> ErrorOf(Action&& action)
 {
     try {
@@ -18,7 +18,7 @@ template <typename Action> std::optional<RunTimeError> ErrorOf(Action&& action)
     return std::nullopt;
 }
 
-/// The number of what the action raises, 0 when it does not.
+/// The number of the error that the action raises, 0 when it raises none.
 template <typename Action> int ErrorNumberOf(Action&& action)
 {
     const auto error = ErrorOf(action);

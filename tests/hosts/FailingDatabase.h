@@ -9,7 +9,7 @@
 
 namespace Orvane::Testing {
 
-/// One failure to come: the nth call of a member raises, instead of being passed on.
+/// One planned failure: the nth call of a member raises, instead of being passed on.
 class PlannedFailure
 {
 public:
@@ -20,7 +20,7 @@ public:
     {
     }
 
-    /// Counts the call, and raises when it is the one.
+    /// Counts the call, and raises the error when it is the planned one.
     void Called(const char* member)
     {
         if (m_member == member && --m_callsToGo == 0)
@@ -37,7 +37,7 @@ private:
 };
 
 /// Passes everything on to another database and raises as planned, in its own members and in those of its
-/// cursors that do not only ask.
+/// cursors that do more than query.
 class FailingDatabase : public ForwardingDatabase
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace Orvane::Testing {
 
-/// A row of Layers; what is not named has an ordinary value.
+/// A row of Layers; members that are not set have ordinary values.
 ///
 ///     host.AddLayer({.id = 17, .name = "Roads", .color = 0x0000FF});
 struct LayerSpec {

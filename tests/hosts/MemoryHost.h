@@ -17,8 +17,8 @@ namespace Orvane::Testing {
 
 class MemoryStore;
 
-/// A host in memory: layers in a database without a file, settings and schemes in containers, answers of the
-/// person as scripted, and every call written down.
+/// A host in memory: layers in a database without a file, settings and schemes in containers, scripted
+/// answers of the user, and a log of all calls.
 ///
 ///     MemoryHost host;
 ///     host.AddLayer({.id = 17, .name = "Roads"});
@@ -26,7 +26,7 @@ class MemoryStore;
 ///     ...
 ///     EXPECT_THAT(host.Calls(), ElementsAre("RedrawMap()"));
 ///
-/// What the builders and the readers of stored values do is not in the log.
+/// Calls of the builders and of the readers of stored values are not logged.
 class MemoryHost : public IStyleEditorClient
 {
 public:
@@ -37,12 +37,12 @@ public:
     void AddGroup(const GroupSpec& group);
     /// ordering: of the layer within the group. Neither needs to exist.
     void AddMember(qint32 groupID, qint32 layerID, qint32 ordering = 0);
-    /// Takes the row away and leaves what refers to it.
+    /// Removes the row, but not the rows that refer to it.
     void RemoveLayerRow(qint32 layerID);
     void RemoveGroupRow(qint32 groupID);
-    /// Takes the layer out of all groups.
+    /// Removes the layer from all groups.
     void RemoveMembers(qint32 layerID);
-    /// Takes the row away with those that refer to it.
+    /// Removes the row and the rows that refer to it.
     void RemoveGroup(qint32 groupID);
     void SetLayerColumn(qint32 layerID, const char* column, const Value& value);
     void SetGroupColumn(qint32 groupID, const char* column, const Value& value);
@@ -71,17 +71,18 @@ public:
     QString styleCommandPrefix;
     bool quickModesAllowed = true;
     std::vector<RendererStyle> rendererStyles;
-    /// Of PromptText, used up from the front; with none left the prompt is cancelled.
+    /// The answers of PromptText, taken from the front; when none is left the prompt is cancelled.
     std::deque<PromptAnswer> promptAnswers;
-    /// What CreateLayer makes, used up from the front; with none left "New Layer" with the next ID and code.
+    /// The layers that CreateLayer makes, taken from the front; when none is left, "New Layer" with the next
+    /// ID and code.
     std::deque<LayerSpec> layersToCreate;
-    /// Texts of layers that are not listed under their names.
+    /// The display names of layers that differ from their names.
     std::map<qint32, QString> displayNames;
 
-    /// What PromptText was asked for, in order.
+    /// The requests to PromptText, in order.
     std::vector<PromptRequest> promptRequests;
 
-    // What happens at a call, beside its being written down.
+    // Functions that are called besides the logging of a call.
 
     std::function<void(QWidget* form)> OnShowEditor;
     std::function<void(QWidget* form)> OnEditorClosed;
@@ -122,7 +123,7 @@ private:
     void Note(const char* member, const std::vector<Value>& arguments = {}) const;
     LayerSpec OrdinaryNewLayer();
 
-    mutable CallLog m_log; // asking also counts as a call
+    mutable CallLog m_log; // const members are logged too
     std::unique_ptr<MemoryStore> m_store;
     RecordingDatabase m_database;
     MemoryShellServices m_shell;

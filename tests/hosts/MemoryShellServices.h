@@ -17,13 +17,13 @@ public:
     /// log: not owned; outlives this object.
     explicit MemoryShellServices(CallLog& log) : m_log(log) { }
 
-    /// What happens while a form is shown modally; the form counts as closed when it returns.
+    /// Called while a form is shown modally; the form counts as closed when it returns.
     std::function<void(QWidget* form)> OnShowModal;
-    /// What ends a ShowModal that waits.
+    /// Called to end a ShowModal that waits.
     std::function<void(QWidget* form)> OnCloseModal;
-    /// What the person does in the value entry popup.
+    /// The user's actions in the value entry popup.
     std::function<void(QWidget* control)> OnEnterValue;
-    /// Of lists, as a BGR integer.
+    /// The colour of lists as a BGR integer.
     qint32 listBackColour = 0xFFFFFF;
 
 private:

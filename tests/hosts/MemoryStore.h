@@ -16,7 +16,7 @@ class SqliteLayerDatabase;
 
 namespace Orvane::Testing {
 
-/// A layer database without a file, with the few operations that set up a test. Rows may refer to others that
+/// A layer database without a file, with the few operations that set up a test. Rows may refer to rows that
 /// do not exist.
 class MemoryStore
 {
@@ -27,7 +27,7 @@ public:
     ILayerDatabase& Database();
 
     void AddLayer(const LayerSpec& layer);
-    /// Without its members.
+    /// Adds the group without its members.
     void AddGroup(const GroupSpec& group);
     void AddMember(qint32 groupID, qint32 layerID, qint32 ordering);
     /// Removes the rows whose column has that value.

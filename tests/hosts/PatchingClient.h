@@ -9,11 +9,11 @@
 
 namespace Orvane::Testing {
 
-/// Values that cursors give instead of those stored, by column name as it is written in the code.
+/// Values that cursors return instead of the stored ones, by column name as written in the code.
 using ColumnPatches = std::map<std::string, Value, std::less<>>;
 
-/// Passes everything on to another client, but has its cursors give other values for some columns, so as a
-/// damaged or foreign database would.
+/// Passes everything on to another client, but its cursors return other values for some columns, like a
+/// damaged or foreign database.
 ///
 ///     PatchingClient client(host, {{"Color", QString("red")}});
 class PatchingClient : public ForwardingClient

@@ -7,7 +7,7 @@
 
 namespace Orvane::Testing {
 
-/// Passes everything on and writes it into a log, what its cursors do included.
+/// Passes everything on and writes it into a log, including the calls of its cursors.
 class RecordingDatabase : public ForwardingDatabase
 {
 public:
@@ -25,7 +25,7 @@ private:
 };
 
 /// Passes everything on to the cursor and writes it into a log, under CallKind::Database, and Field under
-/// CallKind::Read; moving and asking where it stands are left out.
+/// CallKind::Read; moves and queries of the position are left out.
 std::unique_ptr<IRecordset> RecordCursor(std::unique_ptr<IRecordset> cursor, CallLog& log);
 
 } // namespace Orvane::Testing

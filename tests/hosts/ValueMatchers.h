@@ -38,7 +38,7 @@ MATCHER(IsNullValue, "is Null")
     return arg.IsNull();
 }
 
-/// A number of that size in any kind: what a database column gives.
+/// A number with that value, of any kind, as read from a database column.
 MATCHER_P(IsNumber, expected, "is the number " + testing::PrintToString(expected))
 {
     return (arg.IsNumber() || arg.IsBoolean()) && ToDouble(arg) == double(expected);

@@ -9,7 +9,7 @@
 
 namespace Orvane::Testing {
 
-/// A folder with map data, which ends with the test.
+/// A folder with map data, which is removed after the test.
 class DataFolder
 {
 public:

@@ -44,7 +44,7 @@ FilledLayer(qint32 layerID, QColor colour, std::shared_ptr<const FeatureSet> fea
     MapLayer layer;
     layer.layerID = layerID;
     layer.priority = priority;
-    layer.values.fillForeColor = qint32(colour.rgb() & 0xffffff); // stands for the look below
+    layer.values.fillForeColor = qint32(colour.rgb() & 0xffffff); // represents the look below
     layer.look.outline = QPen(Qt::NoPen);
     layer.look.fill = colour;
     layer.look.symbol = colour;

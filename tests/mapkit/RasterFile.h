@@ -11,7 +11,7 @@
 
 namespace Orvane::Testing {
 
-/// What WriteRaster writes.
+/// The properties of the file that WriteRaster writes.
 struct RasterSpec {
     int width = 100;
     int height = 100;
@@ -19,10 +19,10 @@ struct RasterSpec {
     GDALDataType type = GDT_Byte;
     std::array<double, 6> transform = {0, 0.1, 0, 10, 0, -0.1}; ///< 0 to 10 degrees east and north
     const char* system = "EPSG:4326"; ///< nullptr for none
-    bool isPlaced = true; ///< false: says nothing of where it lies
+    bool isPlaced = true; ///< false: without georeference
 };
 
-/// Writes a GeoTIFF whose values come from a function of column, row and band, which counts from 1.
+/// Writes a GeoTIFF whose values come from a function of column, row and band; bands count from 1.
 inline void
 WriteRaster(const QString& path, const RasterSpec& spec, const std::function<double(int, int, int)>& value)
 {

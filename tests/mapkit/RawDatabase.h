@@ -8,7 +8,7 @@
 
 namespace Orvane::Testing {
 
-/// A database file in the hands of another program, which keeps neither references nor the schema.
+/// A database file as another program opens it, which respects neither references nor the schema.
 class RawDatabase
 {
 public:

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # usage: install_test.sh BUILD_DIRECTORY SOURCE_DIRECTORY
-# Installs into a prefix, moves it, and uses what is there as a person, a desktop and a host author would.
+# Installs into a prefix, moves it, and uses the installed files as a user, a desktop and a host author would.
 set -euo pipefail
 build=$1 source=$2
 folder=$(mktemp -d)

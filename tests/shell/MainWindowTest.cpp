@@ -35,7 +35,7 @@ using namespace Testing;
 
 namespace {
 
-// Cancels the work of that name as soon as it runs, whether its dialog is seen yet or not.
+// Cancels the work of that name as soon as it runs, even before its dialog is visible.
 class Canceller
 {
 public:
@@ -127,11 +127,11 @@ TEST_F(MainWindowTest, TellsOfMissingDataInFrontOfTheRestOfTheMap)
     gone.path = m_folder.Path("gone.geojson");
     gone.ogrLayer = "gone";
     MapDocument::Open(path)->AddLayer(gone);
-    MessageBoxRobot person{BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Escape};
     double right = 0;
-    person.BeforeAnswer([&](QMessageBox&) { right = m_window->Canvas().View().Extent().maxX; });
+    user.BeforeAnswer([&](QMessageBox&) { right = m_window->Canvas().View().Extent().maxX; });
     m_window->OpenMap(path);
-    EXPECT_TRUE(person.Only().text.contains("gone.geojson"));
+    EXPECT_TRUE(user.Only().text.contains("gone.geojson"));
     EXPECT_EQ(right, m_window->Canvas().View().Extent().maxX);
 }
 
@@ -173,9 +173,9 @@ TEST_F(MainWindowTest, ARecentMapThatIsGoneIsTakenOffTheListWithAMessage)
     ASSERT_TRUE(QFile::remove(path));
     auto* menu = m_window->findChild<QMenu*>("menuRecent");
     emit menu->aboutToShow();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     menu->actions()[0]->trigger();
-    EXPECT_TRUE(person.Only().text.contains("gone.orvane"));
+    EXPECT_TRUE(user.Only().text.contains("gone.orvane"));
     EXPECT_TRUE(RecentMaps::All().isEmpty());
 }
 
@@ -183,22 +183,22 @@ TEST_F(MainWindowTest, AMapFileThatGoesWhileItIsOpenIsTold)
 {
     const QString path = MakeMap("map.orvane");
     m_window->OpenMap(path);
-    MessageBoxRobot person{BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Escape};
     ASSERT_TRUE(QFile::rename(path, m_folder.Path("away.orvane")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !person.Boxes().empty(); }));
-    EXPECT_TRUE(person.Only().text.contains("map.orvane"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !user.Boxes().empty(); }));
+    EXPECT_TRUE(user.Only().text.contains("map.orvane"));
 }
 
 TEST_F(MainWindowTest, AThousandFilesCanBeCancelledWhileTheyAreOpened)
 {
     const QStringList paths = ThousandFiles();
-    QTimer person;
-    QObject::connect(&person, &QTimer::timeout, [&] {
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
         auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
         if (dialog && dialog->isVisible())
             dialog->findChild<QPushButton*>()->click();
     });
-    person.start(1);
+    user.start(1);
     bool cancelled = false;
     try {
         m_window->AddData(paths);
@@ -206,14 +206,14 @@ TEST_F(MainWindowTest, AThousandFilesCanBeCancelledWhileTheyAreOpened)
         cancelled = true;
     }
     const size_t shown = m_window->Canvas().Layers().size();
-    EXPECT_TRUE(shown == 0 || (shown == 1000 && !cancelled)) << shown; // none, or it was done before
+    EXPECT_TRUE(shown == 0 || (shown == 1000 && !cancelled)) << shown; // none, or the work was done before
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(MainWindowTest, CancellingWhileFilesAreLookedIntoLeavesTheMapAsItWas)
 {
     m_window->OpenMap(MakeMap("map.orvane"));
-    const Canceller person("Opening map data");
+    const Canceller user("Opening map data");
     EXPECT_THROW(m_window->AddData(ThousandFiles()), Cancelled);
     EXPECT_EQ(m_window->Canvas().Layers().size(), 1u);
     EXPECT_EQ(Count("Layers"), 1);
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, CancellingWhileFilesAreReadLeavesTheMapAsItWas)
 {
     m_window->OpenMap(MakeMap("map.orvane"));
     const MapView view = m_window->Canvas().View();
-    const Canceller person("Reading map data");
+    const Canceller user("Reading map data");
     m_window->AddData(ThousandFiles());
     EXPECT_EQ(m_window->Canvas().Layers().size(), 1u);
     EXPECT_EQ(Count("Layers"), 1);
@@ -272,12 +272,12 @@ TEST_F(MainWindowTest, ADroppedMapIsOpened)
 TEST_F(MainWindowTest, ADroppedFileThatIsBrokenIsToldInOneMessage)
 {
     m_window->OpenMap(MakeMap("map.orvane"));
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Drop(
         {m_folder.Write("bad.gpkg", "x"), m_folder.Write("worse.shp", "y"),
          m_folder.WriteSquare("good.geojson")});
-    EXPECT_TRUE(person.Only().text.contains("bad.gpkg"));
-    EXPECT_TRUE(person.Only().text.contains("worse.shp"));
+    EXPECT_TRUE(user.Only().text.contains("bad.gpkg"));
+    EXPECT_TRUE(user.Only().text.contains("worse.shp"));
     EXPECT_EQ(m_window->Canvas().Layers().size(), 2u);
 }
 
@@ -306,9 +306,9 @@ TEST_F(MainWindowTest, ClosingAMapWithoutAFileAsksAndCancelKeepsIt)
 {
     m_window->AddData({m_folder.WriteSquare("square.geojson")});
     {
-        MessageBoxRobot person{BoxKey::Escape};
+        MessageBoxRobot user{BoxKey::Escape};
         EXPECT_FALSE(m_window->close());
-        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+        EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     }
     EXPECT_TRUE(m_window->isVisible());
 }

@@ -9,7 +9,7 @@
 
 namespace Orvane::Testing {
 
-/// English text and translation.
+/// An English text and its translation.
 using MessagePair = std::pair<QString, QString>;
 
 /// A Qt Linguist document with these finished messages in one context.

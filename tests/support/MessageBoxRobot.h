@@ -13,7 +13,7 @@
 
 namespace Orvane::Testing {
 
-/// What a person does at a message box.
+/// The keys that answer a message box.
 enum class BoxKey { Enter, Escape, Yes, No };
 
 /// A message box as it was shown.
@@ -27,12 +27,12 @@ struct SeenBox {
     QWidget* owner;
 };
 
-/// Answers the message boxes that open while it lives, in turn, and notes them. A box without a planned
-/// answer gets Escape and fails the test, and so does a planned answer that no box asked for.
+/// Answers the message boxes that open during its lifetime, in turn, and records them. A box without a
+/// planned answer gets Escape and fails the test; an unused planned answer fails it too.
 ///
-///     MessageBoxRobot person{BoxKey::No};
+///     MessageBoxRobot user{BoxKey::No};
 ///     ...
-///     EXPECT_EQ(person.Only().text, "Delete layer scheme 'Roads'?");
+///     EXPECT_EQ(user.Only().text, "Delete layer scheme 'Roads'?");
 class MessageBoxRobot : public QObject
 {
     Q_OBJECT

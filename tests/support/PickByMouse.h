@@ -8,12 +8,12 @@
 
 namespace Orvane::Testing {
 
-/// Opens the list with the mouse and clicks the item, as a user does; what the choice leads to has happened
-/// then.
+/// Opens the list with the mouse and clicks the item, as a user does; the effects of the choice are complete
+/// when it returns.
 inline void PickByMouse(QComboBox& list, int item)
 {
     const int interval = QApplication::doubleClickInterval();
-    QApplication::setDoubleClickInterval(0); // for so long a list that was just opened takes no click
+    QApplication::setDoubleClickInterval(0); // a list ignores clicks for this time after it opens
     QTest::mouseClick(&list, Qt::LeftButton, {}, list.rect().center());
     QCoreApplication::processEvents();
     QApplication::setDoubleClickInterval(interval);

@@ -6,16 +6,16 @@
 
 namespace Orvane::Testing {
 
-/// The text in the pseudo-language: bracketed and longer by half, placeholders and the mnemonic kept. What is
-/// shown without brackets was not translated; what is cut had too little room. A text without a word, as
-/// "1:^1", is the same in every language.
+/// The text in the pseudo-language: in brackets and longer by half, with placeholders and mnemonic. A text
+/// shown without brackets was not translated; a text that is cut off had too little room. A text without a
+/// word, such as "1:^1", is the same in every language.
 QString Pseudo(const QString& english);
 
 /// A Qt Linguist document that translates every text of the component's German catalogue into the
 /// pseudo-language.
 QByteArray PseudoCatalogue();
 
-/// Makes the component speak the pseudo-language while it lives, and English again afterwards.
+/// Shows the component in the pseudo-language during its lifetime, and in English again afterwards.
 class PseudoLanguage
 {
 public:

@@ -10,7 +10,7 @@ namespace Orvane::Testing {
 /// in main().
 void FailOnQtWarnings();
 
-/// Allows warnings that match the pattern while it lives, and fails the test when none came.
+/// Allows warnings that match the pattern during its lifetime, and fails the test when none was issued.
 class ExpectedQtWarning
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace {
 
-// A window that outlives its test would leak its state into the next one.
+// A window that outlives its test would affect the next test.
 class NoWindowSurvives : public testing::EmptyTestEventListener
 {
     void OnTestEnd(const testing::TestInfo&) override

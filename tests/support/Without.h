@@ -7,7 +7,7 @@
 
 namespace Orvane::Testing {
 
-/// The texts that the predicate does not hold for.
+/// The texts for which the predicate is false.
 template <typename Predicate> QStringList Without(QStringList texts, Predicate predicate)
 {
     texts.erase(std::remove_if(texts.begin(), texts.end(), predicate), texts.end());

@@ -14,7 +14,7 @@ namespace Orvane::Testing {
 
 namespace {
 
-// A literal, a comment or a raw stretch of code at a place; they nest in nothing, so one pattern finds each.
+// Finds literals and comments. They are not nested, so one pattern is enough.
 const QRegularExpression& LiteralOrComment()
 {
     static const QRegularExpression pattern(
@@ -45,7 +45,7 @@ QString Unescaped(QString literal)
     return literal.replace("\\n", "\n").replace("\\t", "\t").replace("\\\"", "\"").replace("\\\\", "\\");
 }
 
-// The texts of an argument: literals with nothing but blanks between them are one.
+// The texts of an argument: adjacent literals with only blanks between them are one text.
 QStringList TextsOf(const QString& argument)
 {
     QStringList texts;
@@ -65,7 +65,7 @@ QStringList TextsOf(const QString& argument)
     return texts;
 }
 
-// The argument of that number in the call whose opening bracket is at the place.
+// The argument with this number in the call whose opening bracket is at this position.
 QString Argument(const QString& code, qsizetype bracket, int number)
 {
     static const QRegularExpression token(LiteralOrComment().pattern() + QStringLiteral("|[][(){},]"));

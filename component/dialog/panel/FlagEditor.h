@@ -14,8 +14,8 @@ class CheckBoxPlus;
 /// The value of a check box's state: 0 gives false, 1 true, 2 Null, any other Empty.
 Value CheckStateToValue(qint16 state);
 
-/// The flags of a layer, each on a three-state box. A box can be clicked into the greyed state only
-/// where the layers of the selection really differ.
+/// The flags of a layer, each with a three-state box. The user can click a box into the greyed state only if
+/// the selected layers really differ.
 class FlagEditor final : public QObject, public PropertyEditor
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     };
 
     /// The boxes are not owned and outlive this object; those of Hitable, Selectable and Enquirable must be
-    /// among them.
+    /// included.
     explicit FlagEditor(const std::vector<Flag>& flags);
 
     std::vector<SlotControl> Controls() const override;

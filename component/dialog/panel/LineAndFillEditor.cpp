@@ -29,7 +29,7 @@ qint16 ColourSlot(int index)
 LineAndFillEditor::LineAndFillEditor(const Rows& rows, const QString& stylePrefix)
     : m_rows(rows), m_pickers(ListsOf(rows), stylePrefix)
 {
-    // Not guarded: the pickers are, and a host's own call hears of the error.
+    // Not guarded: the pickers are guarded, and in a call from the host the host gets the error.
     connect(&m_pickers, &StylePickers::Changed, this, [this](OvCombo* list) { NotifyChanged(list); });
     for (const Row& row :
          {rows.lineColour, rows.fillForeColour, rows.fillBackColour, rows.fillStyle, rows.lineStyle})

@@ -12,8 +12,8 @@ class QLabel;
 
 namespace Orvane {
 
-/// The colours, the line and the fill of a layer: five lists, each with a caption beside it that is
-/// underlined with the list, as most of their items are pictures.
+/// The colours, the line and the fill of a layer: five lists, each with a caption next to it. The caption is
+/// underlined together with the list, because most list items are pictures.
 class LineAndFillEditor final : public QObject, public PropertyEditor
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ namespace Orvane {
 
 namespace {
 
-// Space presses a button anyway.
+// The keys besides Space, which presses a button anyway.
 bool OpensToo(int key)
 {
     return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down;
@@ -41,9 +41,9 @@ bool PressOpener::eventFilter(QObject*, QEvent* event)
 void PressOpener::Open()
 {
     const QPointer<PressOpener> self(this);
-    const std::function<void()> open = m_open; // which runs on when this is gone
+    const std::function<void()> open = m_open; // a copy, because this object may be destroyed while it runs
     GuardEvent(m_button.window(), open);
-    // The popup took the release, and may have outlived the form.
+    // The popup received the release, and the form may have been destroyed meanwhile.
     if (self)
         m_button.setDown(false);
 }

@@ -9,8 +9,8 @@ class QAbstractButton;
 
 namespace Orvane {
 
-/// Opens a popup on the press of its button, not on its click: by mouse, Space, Enter, the Down key or a
-/// screen reader. What the action raises is told to the person.
+/// Opens a popup when its button is pressed, not when it is clicked: by mouse, Space, Enter, the Down key or
+/// a screen reader. What the action raises is shown to the user.
 class PressOpener : public QObject
 {
     Q_OBJECT

@@ -16,15 +16,15 @@ class LayerStyle;
 struct SlotControl {
     qint16 slot = 0;
     QWidget* control = nullptr;
-    /// What edits the control's value and has the focus, where that is another control: it speaks for it.
+    /// The control that edits the value and has the focus, if that is another one: screen readers read it.
     QWidget* speaker = nullptr;
 };
 
 /// One group of controls on the property panel, which edits some slots of the selection record.
 ///
-/// The panel owns its editors and knows nothing else of them: it shows them the record, reads them back, and
-/// underlines the controls whose values differ. A new kind of property joins by implementing this and being
-/// handed to PropertyPanel::Join. All members may raise what the host raises.
+/// The panel owns its editors and knows nothing else about them: it shows them the record, reads them back,
+/// and underlines the controls whose values differ. To add a new kind of property, implement this class and
+/// pass it to PropertyPanel::Join. All members may raise what the host raises.
 class PropertyEditor
 {
 public:
@@ -35,28 +35,28 @@ public:
     PropertyEditor(const PropertyEditor&) = delete;
     PropertyEditor& operator=(const PropertyEditor&) = delete;
 
-    /// The controls that carry a slot number in their Tag. A control that edits two slots is named twice.
+    /// The controls with a slot number in their Tag. A control that edits two slots is listed twice.
     virtual std::vector<SlotControl> Controls() const = 0;
 
-    /// Fills the lists that do not depend on the selection; at initialisation, and again when that failed.
+    /// Fills the lists that do not depend on the selection; at initialisation, and again if that failed.
     virtual void Fill() { }
 
-    /// Puts the record's values on the controls; a Null slot as "various". Each control that is set is
-    /// announced as changed.
+    /// Shows the record's values in the controls; a Null slot as "various". Each control that is set is
+    /// reported as changed.
     virtual void Show(const LayerStyle& record) = 0;
 
-    /// Puts what the controls show into the slots of this editor. Raises 13 (type mismatch) for a text that
+    /// Reads what the controls show into the slots of this editor. Raises 13 (type mismatch) for a text that
     /// cannot be read.
     virtual void Read(LayerStyle& style) const = 0;
 
-    /// Shows the values anew after a change of language; edits stay.
+    /// Shows the values again after a change of language; edits stay.
     virtual void Retranslate() { }
 
-    /// Who is told when a control was set, by the person or by Show. Set once, by the panel.
+    /// Sets the handler to call when the user or Show sets a control. The panel sets it once.
     void SetChangeHandler(ChangeHandler handler) { m_changed = std::move(handler); }
 
 protected:
-    /// Announces that the control shows another value, or the same one set anew.
+    /// Notifies the handler that the control shows another value, or that the same one was set again.
     void NotifyChanged(QWidget* control) const
     {
         if (m_changed)

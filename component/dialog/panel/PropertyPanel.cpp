@@ -63,7 +63,7 @@ void PropertyPanel::Prepare()
 
 void PropertyPanel::Show(const LayerStyle& record)
 {
-    // A maximum scale of 256 reads back as 0, so marks are not to be trusted while values are being shown.
+    // A maximum scale of 256 reads back as 0, so marks are not reliable while values are being shown.
     const QScopedValueRollback showing(m_showing, true);
     m_record = record;
     for (const auto& editor : m_editors)
@@ -122,7 +122,7 @@ void PropertyPanel::ClearMarks()
     }
 }
 
-// An underline says nothing to someone who listens, nor does the text of a label that never has the focus.
+// Screen readers do not read an underline, nor the text of a label that never has the focus.
 void PropertyPanel::Speak(QWidget& control) const
 {
     QWidget* speaker = m_speakers.value(&control);

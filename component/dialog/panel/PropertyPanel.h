@@ -18,15 +18,15 @@ namespace Orvane {
 /// The property that holds a control's slot number as a decimal text.
 inline constexpr char TagProperty[] = "Tag";
 
-/// The property panel: shows one record on the controls of its editors, underlines those that the person set
-/// to another value, and reads them all back.
+/// The property panel: shows one record in the controls of its editors, underlines those that the user set to
+/// another value, and reads all of them back.
 ///
 ///     panel.Join(std::make_unique<FlagEditor>(...));
 ///     panel.Prepare();
 ///     panel.Show(record);
 ///     panel.ReadPanelStyle(style);
 ///
-/// What the person edits lives in the controls; the record is only ever replaced by Show.
+/// The user's edits are held in the controls; only Show replaces the record.
 class PropertyPanel : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     explicit PropertyPanel(QObject* parent = nullptr);
     ~PropertyPanel() override;
 
-    /// Takes the editor. Editors are shown, filled and read in the order in which they joined.
+    /// Takes ownership of the editor. Editors are shown, filled and read in the order in which they joined.
     void Join(std::unique_ptr<PropertyEditor> editor);
 
     /// Fills the lists of all editors.
@@ -43,27 +43,28 @@ public:
     /// Writes each control's slot number into its Tag.
     void Prepare();
 
-    /// Shows the record and clears all marks. When it raises, some controls may show the old record still:
+    /// Shows the record and clears all marks. If it raises, some controls may still show the old record: then
     /// show another one.
     void Show(const LayerStyle& record);
 
-    /// Puts what the controls show into the style; Null for "various". Slots without a control stay.
+    /// Reads what the controls show into the style; Null for "various". Slots without a control are
+    /// unchanged.
     void ReadPanelStyle(LayerStyle& style) const;
 
-    /// True when the control shows another value than the record for the slot in its Tag.
+    /// True if the control shows a value other than the record's for the slot in its Tag.
     bool ControlValueChanged(const QWidget* control) const;
 
-    /// Underlines the control and has it spoken as changed, or takes both away; the value of a label is
-    /// spoken by what edits it. A control that is not one of an editor may be marked too; Show clears it
-    /// with the others.
+    /// Underlines the control and describes it as changed to screen readers, or removes both; the value of a
+    /// label is read out by the control that edits it. A control that belongs to no editor may be marked too;
+    /// Show clears its mark with the others.
     void MarkControlChanged(QWidget* control, bool changed);
 
-    /// Shows all values anew after a change of language; edits and their marks stay.
+    /// Shows all values again after a change of language; edits and their marks stay.
     void Retranslate();
 
 signals:
-    /// The person set a control to another value than the record's. Setting it back is not announced: once
-    /// edited, the panel stays so until it is shown anew.
+    /// The user set a control to a value other than the record's. Setting it back is not reported: once
+    /// edited, the panel counts as edited until it is shown again.
     void Edited();
 
 private:

@@ -44,7 +44,7 @@ void RendererStyleEditor::Show(const LayerStyle& record)
 {
     const Value style = record.lsGet(Slot::RendererStyle);
     m_showsVarious = style.IsNull();
-    // Never empty: without a placeholder Qt selects the first entry where none was.
+    // Never empty: without a placeholder Qt would select the first entry if none was selected.
     m_list.setPlaceholderText(m_showsVarious ? TranslateMsg("various") : ToText(style));
     m_list.setCurrentIndex(m_showsVarious ? -1 : FindByItemData(m_list, ToInt32(style)));
 }

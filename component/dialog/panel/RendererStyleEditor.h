@@ -21,15 +21,15 @@ public:
     /// list: not owned; outlives this object.
     explicit RendererStyleEditor(QComboBox& list);
 
-    /// Fills the list anew; nothing is selected then.
+    /// Fills the list again; then nothing is selected.
     void FillStyles(const std::vector<RendererStyle>& styles);
 
-    /// The number of the entry that is selected right now; Null when none is.
+    /// The number of the entry that is selected now; Null if none is.
     Value SelectedStyle() const;
 
     std::vector<SlotControl> Controls() const override;
-    /// Selects the entry with the record's number; none for "various" and for a number that the host does not
-    /// know, which is shown as such and stays as it is stored.
+    /// Selects the entry with the record's number. Selects none for "various" and for a number that the host
+    /// does not know; such a number is shown as it is and stays as it is stored.
     void Show(const LayerStyle& record) override;
     void Read(LayerStyle& style) const override;
     void Retranslate() override;

@@ -75,7 +75,7 @@ void ScaleRangeEditor::EditMinimum()
     if (!chosen)
         return;
     m_minimum.Set(*chosen);
-    // "dont care" reads back as 0, so any lower limit goes into an unlimited maximum too.
+    // "dont care" reads back as 0, so an unlimited maximum is also set to any new lower limit.
     const qint32 maximum = ToInt32(NullDefault(m_maximum.Read(), AboveEveryScale));
     if (!chosen->IsNull() && maximum < ToInt32(*chosen))
         m_maximum.Set(*chosen);

@@ -10,11 +10,11 @@ class QLabel;
 
 namespace Orvane {
 
-/// value, or the default where value is Null.
+/// Returns value, or the default if value is Null.
 Value NullDefault(const Value& value, const Value& defaultValue);
 
-/// The visible scale range: two labels, each with a button that opens the slider. Values are scale indices, 0
-/// and 256 both "dont care". A limit that would cross the other one takes it along.
+/// The visible scale range: two labels, each with a button that opens the slider. Values are scale indices; 0
+/// and 256 both mean "dont care". If a limit would cross the other one, both are set to the same value.
 class ScaleRangeEditor final : public PropertyEditor
 {
 public:

@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// Shows the settings whole where there is room, and scrolls them in a dialog that is lower. It is always
-/// wide enough for them and the scroll bar.
+/// Shows all settings if there is room, and scrolls them if the dialog is not high enough. It is always wide
+/// enough for the settings and the scroll bar.
 class SettingsScroller : public QScrollArea
 {
     Q_OBJECT
@@ -14,9 +14,9 @@ class SettingsScroller : public QScrollArea
 public:
     explicit SettingsScroller(QWidget* parent = nullptr);
 
-    /// The whole of the settings, where QScrollArea would ask for a part of it.
+    /// The size of all settings; QScrollArea would ask for a part of it.
     QSize sizeHint() const override;
-    /// A few rows, in full width.
+    /// The height of a few rows, at full width.
     QSize minimumSizeHint() const override;
 };
 

@@ -9,15 +9,15 @@ namespace Orvane {
 
 class frmDropSlider;
 
-/// The one drop-down slider of a dialog: made when it is first asked, and kept.
+/// The only drop-down slider of a dialog: created on first use, and kept.
 class SliderPopup
 {
 public:
     /// owner: the dialog in front of which it opens; outlives this object.
     explicit SliderPopup(QWidget& owner) : m_owner(owner) { }
 
-    /// Opens the slider under the question's button and waits. When nothing is answered the owner may be
-    /// gone.
+    /// Opens the slider under the question's button and waits. If nothing is returned, the owner may have
+    /// been destroyed.
     std::optional<Value> Ask(const SliderQuestion& question);
 
 private:

@@ -13,25 +13,25 @@ namespace Orvane {
 
 class IUITranslator;
 
-/// A label whose caption is a value's text, through a translator. The caption is what counts: it is read
-/// back, so that a value whose text means another value becomes that one.
+/// A label whose caption shows a value as text, through a translator. The value is read back from the
+/// caption, so a value whose text means another value becomes that other value.
 class TranslatedLabel
 {
 public:
     /// label, translator: not owned; outlive this object.
     TranslatedLabel(QLabel& label, const IUITranslator& translator);
 
-    /// Who is told each time the caption is set, to the same text too.
+    /// Sets the handler to call each time the caption is set, even to the same text.
     void SetChangeHandler(std::function<void()> handler) { m_changed = std::move(handler); }
 
     /// Sets the caption to the value's text.
     void Set(const Value& value);
 
-    /// The value that the caption stands for; Null for an empty one. Raises 13 (type mismatch) for a text
-    /// that is no value.
+    /// The value that the caption means; Null for an empty caption. Raises 13 (type mismatch) for a text that
+    /// is not a value.
     Value Read() const;
 
-    /// Writes the last value anew in the present language.
+    /// Shows the last value again in the current language.
     void Retranslate();
 
     QLabel& Label() const { return m_label; }

@@ -12,15 +12,15 @@ class QTreeView;
 
 namespace Orvane {
 
-/// What a person does to a tree beside choosing nodes and renaming them: the context menu, by mouse and by
-/// key, and the Delete key.
+/// What a user does to a tree besides choosing and renaming nodes: the context menu, by mouse and by key, and
+/// the Delete key.
 class LayerTreeGestures : public QObject
 {
     Q_OBJECT
 
 public:
-    /// view: not owned. mayRename: asked each time the menu opens whether the selected node may be renamed;
-    /// may raise.
+    /// view: not owned. mayRename: called each time the menu opens; returns whether the selected node may be
+    /// renamed; may raise.
     LayerTreeGestures(QTreeView* view, std::function<bool()> mayRename, QObject* parent = nullptr);
 
 signals:

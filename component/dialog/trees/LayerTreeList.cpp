@@ -77,7 +77,8 @@ void LayerTreeList::Refill(const std::function<void()>& fill, const std::vector<
         m_place = LayerTreePlace(*m_view, m_current);
     fill();
     m_stale = false;
-    // The reset has put the layout off, so that expanding only notes the group; one layout then serves all.
+    // The reset has postponed the layout, so expanding only records the group; one layout then serves all
+    // groups.
     for (int row : expandedRows)
         m_view->expand(IndexOf(m_model->Reference(m_model->index(row, 0))));
     m_view->doItemsLayout();
@@ -141,7 +142,7 @@ void LayerTreeList::SelectCurrent()
     Select(CurrentIndex());
 }
 
-// Without automatic scrolling, which would also expand the group of the node.
+// Without automatic scrolling, which would also expand the node's group.
 void LayerTreeList::Select(const QModelIndex& index)
 {
     const QScopedValueRollback quiet(m_quiet, true);

@@ -18,11 +18,11 @@ namespace Orvane {
 
 class LayerTreeModel;
 
-/// One tree: a view, its nodes, and the one node that is current in it. The current node is what the owner
-/// has accepted; the view's selection may run ahead of it while the owner asks the person.
+/// One tree: a view, its nodes, and its current node. The current node is the one that the owner has
+/// accepted; the view's selection may already differ while the owner asks the user.
 ///
-/// Current node, selection and scroll position outlive each replacement of the nodes; a current node that is
-/// gone is followed by the one that took its place.
+/// Current node, selection and scroll position are kept when the nodes are replaced. If the current node no
+/// longer exists, the node that took its place becomes current.
 class LayerTreeList : public QObject
 {
     Q_OBJECT
@@ -34,40 +34,40 @@ public:
     QTreeView& View() const { return *m_view; }
     LayerTreeModel& Model() const { return *m_model; }
 
-    /// True when there are no nodes, or when they are out of date.
+    /// True if there are no nodes, or if they are out of date.
     bool NeedsLoad() const;
     void MarkStale() { m_stale = true; }
 
-    /// Replace all nodes, by groups expanded as they say or by layers.
+    /// Replace all nodes: by groups, expanded as their data says, or by layers.
     void ShowGroups(std::vector<GroupEntry> groups);
     void ShowLayers(std::vector<LayerEntry> layers);
 
-    /// The current node's identity, also while it is not among the nodes.
+    /// The identity of the current node, even while it is not among the nodes.
     const std::optional<NodeReference>& Current() const { return m_current; }
-    /// The current node with the image that it shows now; nothing when it is not among the nodes.
+    /// The current node with the image that it shows now; nothing if it is not among the nodes.
     std::optional<NodeReference> CurrentNode() const;
-    /// The current node's text; empty when it is not among the nodes.
+    /// The current node's text; empty if it is not among the nodes.
     QString CurrentText() const;
-    /// Where the node stands in the view; invalid when it is not shown.
+    /// The index of the node in the view; invalid if it is not shown.
     QModelIndex IndexOf(const NodeReference& node) const;
-    /// Makes the node current and selects it; false when it is not among the nodes.
+    /// Makes the node current and selects it; false if it is not among the nodes.
     bool MakeCurrent(const NodeReference& node);
-    /// Takes the view's selection back to the current node, and holds it there until the event that chose
-    /// another one is over: a view selects twice for one key.
+    /// Sets the view's selection back to the current node, and keeps it there until the event that chose
+    /// another node is over: a view selects twice for one key press.
     void RefuseChoice();
     void ScrollToCurrent();
 
-    /// The groups that are not expanded, or not collapsed.
+    /// The groups that are not expanded (expanded: true), or not collapsed (expanded: false).
     std::vector<qint32> GroupsWithout(bool expanded) const;
-    /// Expands or collapses all groups, without ExpansionChanged.
+    /// Expands or collapses all groups, without emitting ExpansionChanged.
     void SetAllExpanded(bool expanded);
 
 signals:
-    /// The person selected a node other than the current one.
+    /// The user selected a node other than the current one.
     void NodeChosen(const Orvane::NodeReference& node);
-    /// The person expanded or collapsed a group.
+    /// The user expanded or collapsed a group.
     void ExpansionChanged(qint32 groupID, bool expanded);
-    /// The person gave a node another name; its editor is closed.
+    /// The user gave a node another name; its editor is closed.
     void NameEntered(const Orvane::NodeReference& node, const QString& name);
 
 private:
@@ -84,9 +84,9 @@ private:
     QTreeView* m_view;
     LayerTreeModel* m_model;
     std::optional<NodeReference> m_current;
-    LayerTreePlace m_place; ///< of the last nodes; read after they are gone
+    LayerTreePlace m_place; ///< of the last nodes; read after they are removed
     bool m_stale = false;
-    bool m_quiet = false; ///< true while the view changes by our own hand
+    bool m_quiet = false; ///< true while this class changes the view
     bool m_refusing = false; ///< true until the event whose choice was refused is over
 };
 

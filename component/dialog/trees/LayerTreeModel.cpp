@@ -14,7 +14,7 @@ namespace Orvane {
 
 namespace {
 
-// An index carries the number of its parent group plus one; 0 stands for the top level.
+// An index holds the number of its parent group plus one; 0 means the top level.
 constexpr quintptr TopLevel = 0;
 
 constexpr quintptr ChildOf(int groupNumber)
@@ -301,7 +301,8 @@ qint16 LayerTreeModel::CommonQuickMode(const GroupNode& group) const
     return common ? first->quickMode : QuickMode::Various;
 }
 
-// One signal for each parent: a view looks a changed row up from the top, so a signal a row is quadratic.
+// One signal for each parent: a view looks up a changed row from the top, so one per row takes quadratic
+// time.
 void LayerTreeModel::ReportLayers(const std::vector<int>& numbers)
 {
     for (auto first = numbers.begin(); first != numbers.end();) {

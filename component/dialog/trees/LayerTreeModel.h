@@ -13,10 +13,10 @@
 namespace Orvane {
 
 /// The nodes of one tree: groups with their layers, or layers alone. All nodes are held in flat vectors, so
-/// that 100,000 layers cost one allocation a text and none a row; keys are made when they are asked for.
+/// that 100,000 layers need one allocation per text and none per row. Keys are created on request.
 ///
-/// Changes are made by command (a layer's image, a group's text) and reported once a command, one range for
-/// the groups and one for the layers of each group touched. Nothing here raises.
+/// Commands change a layer's image or a group's text. Each command reports its changes once: one range for
+/// the groups and one for the layers of each changed group. Nothing here raises.
 class LayerTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -42,20 +42,20 @@ public:
     bool HasNodes() const { return !m_groups.empty() || !m_layers.empty(); }
     /// The node at a valid index.
     NodeReference Reference(const QModelIndex& index) const;
-    /// The first node with the reference's identity, whatever its image; invalid when there is none.
+    /// The first node with the reference's identity, whatever its image; invalid if there is none.
     QModelIndex IndexOf(const NodeReference& node) const;
-    /// The IDs of the layers that stand under the group, in their order.
+    /// The IDs of the layers under the group, in their order.
     std::vector<qint32> LayersOfGroup(qint32 groupID) const;
-    /// Those of the layers that have a node.
+    /// Those of the given layers that have a node.
     QSet<qint32> LayersAmong(const QSet<qint32>& layerIDs) const;
 
-    /// Gives all nodes of these layers the image of the quick mode, and their groups the image that follows.
+    /// Gives all nodes of these layers the image of the quick mode, and updates the images of their groups.
     void SetQuickMode(const std::vector<qint32>& layerIDs, qint16 quickMode);
     void SetLayerText(qint32 layerID, const QString& text);
-    /// Gives the layers these texts, by layer ID, in one command; the others keep theirs.
+    /// Gives the layers these texts, by layer ID, in one command; other layers keep their texts.
     void SetLayerTexts(const QHash<qint32, QString>& texts);
     void SetGroupText(qint32 groupID, const QString& text);
-    /// Flat list only: adds the layer at its place by text and returns its index.
+    /// Flat list only: adds the layer at its position by text and returns its index.
     QModelIndex InsertLayer(const LayerEntry& layer);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;

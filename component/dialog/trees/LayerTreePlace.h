@@ -11,22 +11,22 @@ class QTreeView;
 
 namespace Orvane {
 
-/// How far a tree was scrolled and where its current node stood, told by the identity of nodes, so that both
-/// are found again after all nodes were replaced.
+/// The scroll position of a tree and the position of its current node. Both are stored by the identity of
+/// nodes, so that they can be found again after all nodes were replaced.
 class LayerTreePlace
 {
 public:
     LayerTreePlace() = default;
-    /// The place of a view that shows a LayerTreeModel; current: the node to find a neighbour of later, if
-    /// any.
+    /// The place of a view that shows a LayerTreeModel. current: the node whose neighbour can be found later,
+    /// if any.
     LayerTreePlace(const QTreeView& view, const std::optional<NodeReference>& current);
 
-    /// What stands now where the current node stood: the node in its row, else the last one before it, else
-    /// its group. Invalid when nothing is near.
+    /// The node that is now at the position of the former current node: the node in its row, else the last
+    /// one before it, else its group. Invalid if there is none of these.
     QModelIndex NodeNear(const QTreeView& view) const;
 
-    /// Scrolls the view so that the same node is at its top; where that is gone, by as much as before.
-    /// Expands nothing.
+    /// Scrolls the view so that the same node is at its top; if that node no longer exists, by as much as
+    /// before. Expands nothing.
     void ScrollBack(QTreeView& view) const;
 
 private:
@@ -35,7 +35,7 @@ private:
     int m_vertical = 0; ///< value of the scroll bar
     int m_horizontal = 0;
 
-    std::optional<NodeReference> m_group; ///< that the current node stood under
+    std::optional<NodeReference> m_group; ///< the group of the current node
     int m_row = -1; ///< of the current node
     int m_groupRow = -1;
 };

@@ -66,18 +66,18 @@ void LayerTrees::Wire(LayerTreeList& list)
     connect(&list, &LayerTreeList::NodeChosen, this, [this, &list](const NodeReference& node) {
         OnNodeChosen(list, node);
     });
-    connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByPerson);
+    connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByUser);
     connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
         GuardEvent(&list.View(), [&] { StoreGroupExpanded(Client(), groupID, expanded); });
     });
     const auto mayRename = [this] { return CurrentNode() && CanEditNode(*CurrentNode()); };
     auto* gestures = new LayerTreeGestures(&list.View(), mayRename, this);
     connect(gestures, &LayerTreeGestures::DeleteRequested, this, &LayerTrees::DeleteRequested);
-    // Later: the window system gives the focus back from the menu first, which would end the edit.
+    // Later: the window system first gives the focus back from the menu, which would end the edit.
     connect(gestures, &LayerTreeGestures::RenameRequested, this, [this, &list] {
         GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); });
     });
-    // Later: a failure is told in a box.
+    // Later: an error is shown in a message box.
     connect(gestures, &LayerTreeGestures::ExpandAllRequested, this, [this, &list](bool expanded) {
         GuardAfterEvent(this, &list.View(), [this, &list, expanded] { ExpandAll(list, expanded); });
     });
@@ -129,7 +129,7 @@ void LayerTrees::LoadLayers()
     Replace(List::Layers, [&] { m_layers->ShowLayers(std::move(layers)); });
 }
 
-// A current node that the list no longer shows, though it exists, can still take its pending changes.
+// A current node that exists but is no longer in the list can still take its pending changes.
 bool LayerTrees::Loses(List list, bool kept) const
 {
     return !kept && list == m_shown && NodeExists(Client(), *At(list).Current());
@@ -180,23 +180,23 @@ QString LayerTrees::CurrentText() const
     return At(m_shown).CurrentText();
 }
 
-// A question is not asked from within an event of the view: the view may be gone when the answer comes.
+// Do not ask a question during an event of the view: the view may be destroyed before the answer.
 void LayerTrees::OnNodeChosen(LayerTreeList& list, const NodeReference& node)
 {
     const bool waits = m_isPending && IsShown(list) && list.Current() && m_isPending();
     const auto connection = waits ? Qt::QueuedConnection : Qt::DirectConnection;
     QMetaObject::invokeMethod(
-        this, [this, &list, node] { MoveByPerson(list, node); }, connection);
+        this, [this, &list, node] { MoveByUser(list, node); }, connection);
 }
 
-void LayerTrees::MoveByPerson(LayerTreeList& list, const NodeReference& node)
+void LayerTrees::MoveByUser(LayerTreeList& list, const NodeReference& node)
 {
     const QPointer<LayerTrees> self(this);
     if (!GuardEvent(&list.View(), [&] { MoveTo(list, node); }) && self)
         list.RefuseChoice();
 }
 
-// False when this object is gone.
+// Returns false if this object was destroyed.
 bool LayerTrees::MoveTo(LayerTreeList& list, const NodeReference& node)
 {
     if (list.Current() && IsSameNode(*list.Current(), node))
@@ -210,7 +210,7 @@ bool LayerTrees::MoveTo(LayerTreeList& list, const NodeReference& node)
     return true;
 }
 
-// False when this object is gone: the host may end the dialog while the question waits.
+// Returns false if this object was destroyed: the host may close the dialog while the question waits.
 bool LayerTrees::AskAboutChanges()
 {
     const QPointer<LayerTrees> self(this);
@@ -285,7 +285,7 @@ void LayerTrees::RenameGroup(qint32 groupID, const QString& name)
     m_groups->Model().SetGroupText(groupID, name);
 }
 
-void LayerTrees::RenameByPerson(const NodeReference& node, const QString& name)
+void LayerTrees::RenameByUser(const NodeReference& node, const QString& name)
 {
     QTreeView* view = &At(m_shown).View();
     GuardEvent(view, [&] {

@@ -25,10 +25,10 @@ class LayerTreeList;
 ///     connect(&trees, &LayerTrees::CurrentNodeChanged, this, &frmLayerStyles::LoadPanel);
 ///     trees.ShowList(LayerTrees::List::Layers);
 ///
-/// Each list has a current node of its own, the one the person chose last; the dialog's current node is that
-/// of the list shown. Current node, selection and scroll position outlive every reload and are found again by
-/// identity. Reading and writing goes through Client(); what the database or the host raises is passed on by
-/// every member here, and reported to the person where a mouse or key event led to it.
+/// Each list has its own current node, the one that the user chose last; the dialog's current node is that of
+/// the list shown. Current node, selection and scroll position are kept on every reload and found again by
+/// identity. Reading and writing use Client(). What the database or the host raises is passed on by every
+/// member here; if a mouse or key event caused it, it is shown to the user.
 class LayerTrees : public QObject
 {
     Q_OBJECT
@@ -37,70 +37,73 @@ public:
     /// ListTab::Groups or ListTab::Layers.
     using List = ListTab;
 
-    /// groups, layers: empty views; not owned, and alive as long as this object. They are set up here.
+    /// groups, layers: empty views; not owned; outlive this object. They are set up here.
     LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent = nullptr);
 
-    /// Called each time before another node becomes the dialog's current one, by a click, a key, another list
-    /// or ShowLayer; CurrentNode and CurrentText still name the old node. When it raises, the old node stays.
+    /// The question is called each time before another node becomes the dialog's current one, by a click, a
+    /// key, another list or ShowLayer; CurrentNode and CurrentText still return the old node. If it raises,
+    /// the old node stays current.
     ///
-    /// isPending: says whether the question will wait for an answer. It is then asked after the mouse or key
-    /// event that chose the node, so that the dialog may even be destroyed while the question waits. Without
-    /// it, or when it says no, a choice takes effect at once.
+    /// isPending: returns whether the question will wait for an answer. If so, the question is called after
+    /// the mouse or key event that chose the node, so that the dialog may even be destroyed while it waits.
+    /// Without isPending, or if it returns false, a choice takes effect at once.
     void SetPendingChangesQuestion(std::function<void()> question, std::function<bool()> isPending = {});
 
-    /// Keeps the host's filter for the flat list and marks that list stale; nullptr shows all layers. Not
+    /// Sets the host's filter for the flat list and marks that list stale; nullptr shows all layers. Not
     /// owned.
     void SetFilter(const IStyleFilter* filter);
 
-    /// Reads the groups and their layers anew. The old nodes stay when it raises.
+    /// Reads the groups and their layers again. If it raises, the old nodes stay.
     void LoadGroups();
-    /// Reads the flat list anew, through the filter. The old nodes stay when it raises.
+    /// Reads the flat list again, through the filter. If it raises, the old nodes stay.
     void LoadLayers();
     void Load(List list);
-    /// Loads the list when it has no nodes or is stale.
+    /// Loads the list if it has no nodes or is stale.
     void EnsureLoaded(List list);
     /// The next EnsureLoaded reads the list even if it has nodes.
     void MarkStale(List list);
 
-    /// Makes the list the one whose current node is the dialog's, after the question when that is another
-    /// node. Does not load and does not emit CurrentNodeChanged: the caller reads CurrentNode.
+    /// Makes the list's current node the dialog's current node, after the question if that is another node.
+    /// Does not load and does not emit CurrentNodeChanged: the caller reads CurrentNode.
     void ShowList(List list);
     List ShownList() const { return m_shown; }
 
-    /// The dialog's current node with the image that it shows now; nothing when no node was chosen yet or the
+    /// The dialog's current node with the image that it shows now; nothing if no node was chosen yet or the
     /// list is empty.
     std::optional<NodeReference> CurrentNode() const;
-    /// The text of the current node as it is listed; empty when there is none.
+    /// The listed text of the current node; empty if there is none.
     QString CurrentText() const;
 
-    /// Gives all nodes of the layer the image of the quick mode (1, 2 or 4); images of groups follow.
+    /// Gives all nodes of the layer the image of the quick mode (1, 2 or 4); updates the images of their
+    /// groups.
     void SetLayerImage(qint32 layerID, qint16 quickMode);
-    /// Gives the group, the layers that are listed under it or stored as its members, and their other nodes
-    /// in both trees the image of the quick mode.
+    /// Gives the image of the quick mode to the group, to the layers that are listed under it or stored as
+    /// its members, and to all other nodes of these layers in both trees.
     void SetGroupImage(qint32 groupID, qint16 quickMode);
-    /// Shows the text on all nodes of the layer. The order of the flat list changes with its next load only.
+    /// Shows the text on all nodes of the layer. The order of the flat list changes only when it is loaded
+    /// again.
     void SetLayerText(qint32 layerID, const QString& text);
-    /// Shows the layers' display names as the host gives them now, on all their nodes; those that are not
-    /// listed are not asked for.
+    /// Shows the layers' current display names from the host on all their nodes; the host is not asked for
+    /// layers that are not listed.
     void RefreshLayerTexts(const QSet<qint32>& layerIDs);
 
-    /// Reads the layer, lists it in its place of the flat list (whatever the filter says), scrolls to it and
-    /// makes it that list's current node. Loads the list first if need be. Does nothing for a layer that is
-    /// not there or has a code of -2 or less.
+    /// Reads the layer, adds it at its position in the flat list (whatever the filter says), scrolls to it
+    /// and makes it that list's current node. Loads the list first if needed. Does nothing for a layer that
+    /// does not exist or has a code of -2 or less.
     void ShowLayer(qint32 layerID);
 
     /// Renames the layer through the host and shows its new display name on all its nodes.
     void SetLayerName(qint32 layerID, const QString& name);
 
-    /// True when the person may rename the node: no system layer, and a group or layer that is there.
+    /// True if the user may rename the node: an existing group, or an existing layer that is no system layer.
     bool CanEditNode(const NodeReference& node) const;
     /// Opens the name editor on the dialog's current node if it may be renamed.
     void EditCurrentName();
 
 signals:
-    /// The dialog's current node is another one, or none.
+    /// The dialog's current node has changed to another node or to none.
     void CurrentNodeChanged();
-    /// The person pressed Delete in a tree.
+    /// The user pressed Delete in a tree.
     void DeleteRequested();
 
 private:
@@ -109,12 +112,12 @@ private:
     void Wire(LayerTreeList& list);
 
     void OnNodeChosen(LayerTreeList& list, const NodeReference& node);
-    void MoveByPerson(LayerTreeList& list, const NodeReference& node);
+    void MoveByUser(LayerTreeList& list, const NodeReference& node);
     bool MoveTo(LayerTreeList& list, const NodeReference& node);
     bool AskAboutChanges();
     bool Loses(List list, bool kept) const;
     void Replace(List list, const std::function<void()>& fill);
-    void RenameByPerson(const NodeReference& node, const QString& name);
+    void RenameByUser(const NodeReference& node, const QString& name);
     void RenameGroup(qint32 groupID, const QString& name);
     void ExpandAll(LayerTreeList& list, bool expanded);
 

@@ -3,7 +3,7 @@
 
 namespace Orvane {
 
-/// The tabs of the strip tsLists, numbered from 1 in the order in which they stand.
+/// The tabs of the strip tsLists, numbered from 1 in their order.
 enum class ListTab {
     Groups = 1,
     Layers = 2,

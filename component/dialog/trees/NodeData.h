@@ -8,13 +8,13 @@
 
 namespace Orvane {
 
-/// What a node answers for one of LayerTreeModel's own roles; invalid for any other.
+/// The node's value for one of LayerTreeModel's own roles; invalid for any other role.
 QVariant NodeData(const NodeReference& node, int role);
 
 /// The word for a quick mode, translated: "Normal", "Backdrop", "Hidden", and "various" for any other.
 QString QuickModeText(qint16 quickMode);
 
-/// The node's whole text and its quick mode: what a narrow tree cuts off and what the image says.
+/// The node's full text, which a narrow tree cuts off, and its quick mode, which the image shows.
 QString NodeToolTip(const QString& text, qint16 quickMode);
 
 } // namespace Orvane

@@ -72,7 +72,7 @@ void PaintCross(QPainter& painter, const QColor& colour)
     painter.drawLine(QPointF(2.5, 14), QPointF(13.5, 1.5));
 }
 
-/// Paints a node's image in the colour that belongs to the item's state.
+/// Paints a node's image in the colour for the item's state.
 class NodeIconEngine : public QIconEngine
 {
 public:

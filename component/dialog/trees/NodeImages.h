@@ -12,14 +12,14 @@ class QRectF;
 
 namespace Orvane {
 
-/// Paints the image of a node: one sheet for a layer, two for a group, and told apart by shape alone: filled
+/// Paints the image of a node: one sheet for a layer, two for a group. The shape alone shows the mode: filled
 /// for normal (1), dashed for backdrop (2), crossed out for hidden (4), half filled for various (0 and any
-/// other). Drawn from lines, so that it is crisp at any size and resolution.
+/// other). Drawn with lines, so that it is sharp at any size and resolution.
 void PaintNodeImage(
     QPainter& painter, const QRectF& area, bool isGroup, qint16 quickMode, const QColor& colour);
 
-/// The icons of nodes in the colours of a palette: its text colours, so that they fit dark palettes and
-/// selected rows. Made once for each image and palette.
+/// The icons of nodes in the colours of a palette. They use its text colours, so that they suit dark palettes
+/// and selected rows. Created once for each image and palette.
 class NodeImages
 {
 public:

@@ -5,7 +5,7 @@ namespace Orvane {
 
 namespace {
 
-// "0000000;-000000": seven characters, the sign among them.
+// "0000000;-000000": seven characters, including the sign.
 QString FormatID(qint32 id)
 {
     const QString digits = QString::number(qAbs(qint64(id)));

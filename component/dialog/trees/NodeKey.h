@@ -7,17 +7,17 @@
 
 namespace Orvane {
 
-/// Which node of a tree is meant: a group, or a layer as it stands under one group.
+/// Identifies a node of a tree: a group, or a layer under one group.
 struct NodeReference {
     bool isGroup = false;
-    qint32 groupID = 0; ///< of a layer: the group it stands under; 0 in the flat list
+    qint32 groupID = 0; ///< of a layer: the group that it is under; 0 in the flat list
     qint32 layerID = 0; ///< 0 for a group
     qint16 image = 0; ///< quick mode that the node shows: 1 normal, 2 backdrop, 4 hidden, 0 various
 
     bool operator==(const NodeReference&) const = default;
 };
 
-/// True when both name the same node; the images may differ.
+/// True if both refer to the same node; the images may differ.
 bool IsSameNode(const NodeReference& left, const NodeReference& right);
 
 /// The identity of a node as text: "G" or "L", the group ID, the layer ID, each in the pattern

@@ -19,7 +19,7 @@ namespace {
 
 constexpr qsizetype LongestListed = 300; // characters; more than any list is wide
 
-/// The editor remembers the name that it began with.
+/// An editor that stores the name with which it started.
 class NameEditor : public QLineEdit
 {
 public:
@@ -56,7 +56,7 @@ NodeNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, con
     return name ? new NameEditor(*name, parent) : nullptr;
 }
 
-// Also called when the node changes behind an open editor: what was typed stays.
+// Also called if the node changes while the editor is open: the typed text stays.
 void NodeNameDelegate::setEditorData(QWidget*, const QModelIndex&) const
 {
 }
@@ -71,7 +71,7 @@ void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const 
 void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->text = NameInText(option->text, LongestListed); // all rows are as high as the first
+    option->text = NameInText(option->text, LongestListed); // all rows have the height of the first
     const NodeReference node = NodeIndexes::NodeAt(index);
     const bool active = option->state & QStyle::State_Active;
     const int side = qMax(option->decorationSize.height(), option->fontMetrics.height());
@@ -81,7 +81,7 @@ void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
     option->features |= QStyleOptionViewItem::HasDecoration;
 }
 
-// Tab ends the edit where it is: by default it would go on to the next node, and ask about pending changes.
+// Tab ends the edit at this node: by default it would go to the next node, and ask about pending changes.
 bool NodeNameDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {

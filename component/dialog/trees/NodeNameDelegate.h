@@ -10,8 +10,8 @@ namespace Orvane {
 
 /// Draws the nodes of a tree with their images, and edits their names in place.
 ///
-/// An editor opens only on a node that may be renamed, and begins with the name as it is stored, which may
-/// differ from the text that is listed. Nothing is written here.
+/// An editor opens only on a node that may be renamed, and starts with the stored name, which may differ from
+/// the listed text. Nothing is written here.
 class NodeNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 signals:
-    /// The person ended an edit that changed the name; the editor still exists.
+    /// The user ended an edit that changed the name; the editor still exists.
     void NameEntered(const Orvane::NodeReference& node, const QString& name) const;
 
 protected:

@@ -7,8 +7,8 @@
 
 namespace Orvane {
 
-/// The row at which a layer of that text belongs in a list that the database has sorted. How the database
-/// compares texts is not known: the list itself shows whether case counts.
+/// The row for a layer with that text in a list that the database has sorted. It is not known how the
+/// database compares texts, so the list itself shows whether case counts.
 int SortedRow(const std::vector<LayerEntry>& layers, const QString& text);
 
 } // namespace Orvane

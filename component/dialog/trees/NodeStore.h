@@ -11,20 +11,20 @@ namespace Orvane {
 
 class IStyleEditorClient;
 
-/// Questions about a node to the layer database, and what the trees store there. All raise what the host and
-/// its database raise, unchanged.
+/// Reads information about a node from the layer database, and writes what the trees store there. All
+/// functions raise what the host and its database raise, unchanged.
 
 /// True when the node's layer or group has a row.
 bool NodeExists(IStyleEditorClient& client, const NodeReference& node);
 
-/// True when the node may be renamed: no system layer, and no group or layer without a row.
+/// True if the node may be renamed: its layer or group has a row, and it is not a system layer.
 bool CanEditNode(IStyleEditorClient& client, const NodeReference& node);
 
-/// The name as it is stored, without what the listed text adds; empty when there is no row or no name.
+/// The stored name, without the additions of the listed text; empty if there is no row or no name.
 QString ReadNodeName(IStyleEditorClient& client, const NodeReference& node);
 
 /// Stores for all these groups in one transaction whether they are shown expanded; a group without a row is
-/// left out.
+/// skipped.
 void StoreGroupsExpanded(IStyleEditorClient& client, const std::vector<qint32>& groupIDs, bool expanded);
 
 } // namespace Orvane

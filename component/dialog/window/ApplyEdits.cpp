@@ -33,7 +33,7 @@ ApplyOutcome ApplyToGroup(LayerTrees& trees, const NodeReference& group, const P
 void ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const PanelEdits& edits)
 {
     ApplyLayerStyle(Client(), layer.layerID, edits.style, edits.quickMode, edits.selectedStyle);
-    FirstError errors; // the properties are stored: the map shows them even when the code is refused
+    FirstError errors; // the properties are stored: the map shows them even if the code is rejected
     errors.Try([&] { SetLayerCode(Client(), layer.layerID, edits.codeText); });
     if (edits.quickMode != layer.image && IsSingleMode(edits.quickMode))
         errors.Try([&] { trees.SetLayerImage(layer.layerID, edits.quickMode); });

@@ -11,7 +11,7 @@ namespace Orvane {
 
 class LayerTrees;
 
-/// What the controls hold when they are applied.
+/// The values of the controls when they are applied.
 struct PanelEdits {
     LayerStyle style;
     qint16 quickMode = 0; ///< 1, 2 or 4; any other is not written
@@ -21,12 +21,12 @@ struct PanelEdits {
 
 enum class ApplyOutcome {
     Applied,
-    UnexpectedMode, ///< applied, but the group's quick mode was none that can be shown
+    UnexpectedMode, ///< applied, but the group's quick mode cannot be shown
 };
 
-/// Writes the edits to the layers of one node, gives the nodes of trees their new images, and has the map
-/// redrawn once. node: with the image that it shows now. Raises what the database and the host raise; of a
-/// group, nothing is written then.
+/// Writes the edits to the layers of one node, gives the tree nodes their new images, and has the map redrawn
+/// once. node: with the image that it shows now. Raises what the database and the host raise; for a group,
+/// nothing is written then.
 ApplyOutcome ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
 
 } // namespace Orvane

@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// A label that asks to be edited: on a double click, and on F2, Enter or Space while it has the focus, which
-/// it shows by a frame.
+/// A label that can request an edit: on a double click, and on F2, Enter or Space while it has the focus. A
+/// frame shows the focus.
 class CodeLabel : public QLabel
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
-    /// The person wants to edit what the label shows; never sent while it is disabled.
+    /// The user wants to edit what the label shows; never sent while it is disabled.
     void EditRequested();
 
 protected:

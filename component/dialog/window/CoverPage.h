@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// The page that covers the settings with a hint. Its wrapped words must not decide how high the pages are
-/// together: a height for a width would be asked of it alone, as the covered page is hidden.
+/// The page that covers the settings with a hint. Its wrapped text must not determine the common height of
+/// the pages: only this page would be asked for a height for a width, because the covered page is hidden.
 class CoverPage : public QWidget
 {
     Q_OBJECT

@@ -32,7 +32,7 @@ QSize RoomySize(const QToolButton& button)
     return button.sizeHint() + QSize(2 * metrics.horizontalAdvance(QLatin1Char('x')), metrics.height() / 3);
 }
 
-// Layouts hear of a new text only by a posted event, and what is hidden not at all: ask them all anew.
+// Layouts are notified of a new text only by a posted event, and hidden ones not at all: update them all.
 void ForgetSizes(QWidget& parent)
 {
     QList<QWidget*> widgets = parent.findChildren<QWidget*>();
@@ -92,7 +92,7 @@ void EditorLayout::SetExpanded(bool expanded)
     if (m_form.isMaximized() || m_form.isFullScreen())
         return;
     const int change = expanded ? SettingsWidth() : -SettingsWidth();
-    // A collapsed dialog may be wider than wanted, by its buttons: the way back must not depend on it.
+    // A collapsed dialog may be wider than wanted because of its buttons: restoring must not depend on that.
     const int wanted = before == m_widthAfter ? m_widthBefore : before + change;
     m_form.resize(wanted, m_form.height());
     m_widthBefore = before;

@@ -11,8 +11,8 @@ namespace Ui {
 class frmLayerStyles;
 }
 
-/// What stands where in the dialog: the list of the tab, the settings beside it, and the width that the
-/// settings take.
+/// The arrangement of the dialog: the list of the tab, the settings next to it, and the width of the
+/// settings.
 class EditorLayout
 {
 public:
@@ -26,16 +26,16 @@ public:
     /// Neither is owned; both outlive this object.
     EditorLayout(QDialog& form, Ui::frmLayerStyles& ui);
 
-    /// Gives the settings the width that their texts need in the present language and font; it stays until
+    /// Gives the settings the width that their texts need in the current language and font. It stays until
     /// the next call, so that no value shown makes the dialog wider.
     void FitTexts();
-    /// Gives the dialog the size that its contents ask for, as far as the screen has room for it.
+    /// Gives the dialog the size that its contents need, as far as the screen has room for it.
     void TakeDesignedSize();
 
-    /// True while the settings stand beside the lists.
+    /// True while the settings are shown next to the lists.
     bool Expanded() const { return m_expanded; }
-    /// Shows or hides the settings; the dialog grows or shrinks by their width. Two calls restore the width
-    /// that it had, exactly, unless somebody resized it between them. A maximised dialog keeps its size.
+    /// Shows or hides the settings; the dialog grows or shrinks by their width. Two calls restore its former
+    /// width exactly, unless it was resized between them. A maximised dialog keeps its size.
     void SetExpanded(bool expanded);
 
     /// Shows the content of the tab.

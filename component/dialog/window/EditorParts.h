@@ -17,7 +17,7 @@ namespace Orvane {
 class IUITranslator;
 class RendererStyleEditor;
 
-/// The classes that frmLayerStyles conducts, each made for its controls. They know nothing of one another.
+/// The classes that frmLayerStyles coordinates, each created for its controls. They do not know one another.
 class EditorParts
 {
 public:
@@ -25,10 +25,10 @@ public:
     EditorParts(QDialog& form, Ui::frmLayerStyles& ui);
     ~EditorParts();
 
-    /// Makes the translators and lets the property editors join the panel, once; they need the host's shell
+    /// Creates the translators and adds the property editors to the panel, once; they need the host's shell
     /// services. stylePrefix: the host's StyleCommandPrefix.
     void JoinPropertyEditors(const QString& stylePrefix);
-    /// Only after JoinPropertyEditors.
+    /// Call it only after JoinPropertyEditors.
     RendererStyleEditor& RendererStyles() { return *m_rendererStyles; }
 
     WindowGeometry geometry;

@@ -6,7 +6,7 @@
 
 namespace Orvane {
 
-/// Runs steps that must all be taken, whatever one of them raises, and passes the first error on at the end.
+/// Runs steps that must all run, even if one of them raises, and raises the first error at the end.
 class FirstError
 {
 public:

@@ -46,7 +46,7 @@ QString LayerCommands::CodeText() const
 
 void LayerCommands::NewLayer()
 {
-    const QPointer self(this); // the host may ask the person, and end the dialog meanwhile
+    const QPointer self(this); // the host may ask the user, and may close the dialog meanwhile
     const qint32 layerID = Client().CreateLayer();
     if (self)
         emit LayerCreated(layerID);
@@ -83,7 +83,7 @@ void LayerCommands::EditCode()
 void LayerCommands::SetCode(const QString& answer)
 {
     const double code = *NumberInText(answer);
-    // The layer's own stored code is assigned too, to itself.
+    // The layer's own stored code also counts as assigned, but to this layer.
     const bool isOwn = m_storedCode.IsNumber() && ToDouble(m_storedCode) == code;
     if (!isOwn && Client().IsCodeAssigned(ToInt16(code))) {
         ShowMessageBox(

@@ -17,7 +17,7 @@ namespace Orvane {
 class CodeLabel;
 
 /// The commands of the panel picLayerControls: creating and deleting a layer, and editing its code. The host
-/// does the work; an edited code lives in the label until it is applied.
+/// does the work; an edited code stays in the label until it is applied.
 class LayerCommands : public QObject
 {
     Q_OBJECT
@@ -32,8 +32,8 @@ public:
     /// widgets: not owned; outlive this object.
     explicit LayerCommands(const Widgets& widgets, QObject* parent = nullptr);
 
-    /// Shows the code of the node with that record and offers what can be done with it. isSystemLayer: its
-    /// code cannot be edited.
+    /// Shows the code of the node with that record and enables the commands that are possible. isSystemLayer:
+    /// its code cannot be edited.
     void Show(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
 
     /// The code as the label shows it; empty when there is none.

@@ -6,14 +6,14 @@ class QWidget;
 
 namespace Orvane {
 
-/// What becomes of edits that would be lost to another node.
+/// What to do with edits that would be lost when another node is shown.
 enum class PendingChangesAnswer {
     Yes, ///< apply them
     No, ///< do nothing: they stay in the controls
     Cancel, ///< drop them; the box has no button for it
 };
 
-/// Asks whether to apply the edits of a node of that kind and text. Closing the box is No.
+/// Asks whether to apply the edits of a node of that kind and text. Closing the box means No.
 PendingChangesAnswer AskToApply(QWidget* owner, bool isGroup, const QString& nodeText);
 
 } // namespace Orvane

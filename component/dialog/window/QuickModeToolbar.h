@@ -11,7 +11,7 @@ class QWidget;
 
 namespace Orvane {
 
-/// The toolbar mstbQuickMode: "Normal", "Backdrop" and "Hidden", of which a click presses exactly one.
+/// The toolbar mstbQuickMode: "Normal", "Backdrop" and "Hidden". A click leaves exactly one of them pressed.
 ///
 /// A quick mode is a set of bits, 1 normal, 2 backdrop, 4 hidden; 0, "various", shows no button pressed.
 class QuickModeToolbar : public QObject
@@ -19,23 +19,23 @@ class QuickModeToolbar : public QObject
     Q_OBJECT
 
 public:
-    /// buttons: in the order of their bits, checkable; not owned, as is the bar.
+    /// buttons: in the order of their bits, checkable. bar and buttons: not owned.
     QuickModeToolbar(QWidget& bar, const std::array<QToolButton*, 3>& buttons, QObject* parent = nullptr);
 
-    /// Shows or hides the buttons: some hosts know no quick modes.
+    /// Shows or hides the buttons: some hosts have no quick modes.
     void SetAllowed(bool allowed);
     void SetEnabled(bool enabled);
 
-    /// Presses the buttons of the mode's bits; it is the mode that a click is compared with.
+    /// Presses the buttons of the mode's bits. A later click is compared with this mode.
     void ShowMode(qint16 mode);
     /// The bits of the buttons that are pressed.
     qint16 ReadMode() const;
 
-    /// Draws the buttons' images anew, for another palette or size.
+    /// Draws the buttons' images again, for another palette or size.
     void RefreshImages();
 
 signals:
-    /// A click chose another mode than the one shown last.
+    /// A click chose a mode other than the one shown last.
     void Edited();
 
 private:

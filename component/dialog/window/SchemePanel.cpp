@@ -52,7 +52,7 @@ void SchemePanel::SwitchTo(const QString& name)
     const QString question = TranslateMsg(
         "Switch to '^1'? Any unsaved changes to the current scheme will be lost. Continue?",
         NameInQuestion(name));
-    const QPointer self(this); // the host may end the dialog while the question waits
+    const QPointer self(this); // the host may close the dialog while the question waits
     if (Confirm(question))
         LoadAndShow(name);
     else if (self)
@@ -152,7 +152,7 @@ void SchemePanel::EnableButtons()
     m_widgets.cmdDelete->setEnabled(isShown);
 }
 
-// The list shows the host's schemes afterwards, also when the change has failed half way.
+// Afterwards the list shows the host's schemes, even if the change has failed half way.
 void SchemePanel::ChangeSchemes(const std::function<void()>& change)
 {
     const QPointer self(this);

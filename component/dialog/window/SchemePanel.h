@@ -13,7 +13,7 @@ class QWidget;
 namespace Orvane {
 
 /// The panel picScheme: switches, creates, saves, reverts and deletes the host's layer schemes, and asks
-/// before anything is overwritten. The host's current scheme is the truth; the list only shows it.
+/// before anything is overwritten. The host determines the current scheme; the list only shows it.
 class SchemePanel : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,10 @@ public:
     /// Lists the host's schemes and shows the current one. All members raise what the host raises.
     void Fill();
 
-    /// Makes the scheme current after a question; shows the current one again when that is refused or fails.
+    /// Makes the scheme current after a question; shows the current one again if the user refuses or it
+    /// fails.
     void SwitchTo(const QString& name);
-    /// Asks for a name, until it is not blank or the person gives up, and creates a scheme.
+    /// Asks for a name, until it is not blank or the user cancels, and creates a scheme.
     void New();
     void Save();
     void Revert();

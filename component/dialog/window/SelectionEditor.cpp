@@ -69,7 +69,7 @@ void SelectionEditor::ShowNothing()
     Show(Selection());
 }
 
-// All that may fail in the host, before the first control changes.
+// Does everything that may fail in the host before the first control changes.
 SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReference>& node)
 {
     const BusyPointer busy;

@@ -23,51 +23,51 @@ struct PanelEdits;
 /// What the dialog edits: the current node, the selection record, and whether the controls hold edits that
 /// are not applied yet.
 ///
-/// The database flows into the record and on to the controls when a node is loaded, and from the controls
-/// back into the database when it is applied. All members may raise what the host and its database raise;
-/// what was edited is then still there, except after Load.
+/// Loading a node copies its values from the database to the record and to the controls; applying copies them
+/// from the controls to the database. All members may raise what the host and its database raise; the edits
+/// are then kept, except after Load.
 class SelectionEditor : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What shows the current node, and where it comes from.
+    /// The parts that show the current node, and those that provide it.
     struct Parts {
         LayerTrees& trees;
         PropertyPanel& panel;
         QuickModeToolbar& quickModes;
         LayerCommands& commands;
-        SelectedRendererStyle selectedStyle; ///< that the panel shows
+        SelectedRendererStyle selectedStyle; ///< the one that the panel shows
     };
 
-    /// None is owned; all outlive this object. form: owner of message boxes.
+    /// None is owned; all outlive this object. form: the owner of message boxes.
     SelectionEditor(QWidget& form, const Parts& parts);
 
     /// True while the controls hold edits.
     bool IsModified() const { return m_modified; }
-    /// Marks the controls as edited, or forgets that they were; they stay as they are.
+    /// Marks the controls as edited or as not edited; their values stay.
     void SetModified(bool modified);
 
-    /// The tab decides what of the selection may be edited; it counts from the next load on.
+    /// The tab determines what can be edited; it takes effect with the next load.
     void SetTab(ListTab tab) { m_tab = tab; }
 
-    /// Shows the dialog's current node. When it cannot be read nothing is shown, not another node's values.
+    /// Shows the dialog's current node. If it cannot be read, nothing is shown, not another node's values.
     void Load();
-    /// As Load, but when the node cannot be read, the edits stay.
+    /// As Load, but if the node cannot be read, the edits stay.
     void Cancel();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
 
-    /// Writes the edits to the layers of the current node and shows what is stored then; does nothing without
+    /// Writes the edits to the layers of the current node and then shows what is stored; does nothing without
     /// edits.
     void Apply();
 
-    /// Asks whether to apply the edits, if there are any, and does so. False when the form is gone: the host
-    /// may end it while the question waits.
+    /// If there are edits, asks whether to apply them and does so if the answer is Yes. False if the form was
+    /// destroyed: the host may close it while the question waits.
     bool ConfirmPendingChanges();
 
 signals:
-    /// The controls came to hold edits, or hold none any longer.
+    /// The controls now hold edits, or no longer hold any.
     void ModifiedChanged(bool modified);
     /// Another node is shown, or none.
     void Shown(bool isNode);
@@ -83,7 +83,7 @@ private:
     void Show(const Selection& selection);
     void ShowOrNothing(const Selection& selection);
     PanelEdits ReadEdits() const;
-    /// Edits go to the node that they were made for, or nowhere.
+    /// Edits are applied to the node that they were made for, or not at all.
     bool HoldsCurrentNode() const;
     bool Write(const NodeReference& node);
 

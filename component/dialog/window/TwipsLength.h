@@ -5,18 +5,18 @@
 
 namespace Orvane {
 
-/// One side of a window in twips that was restored from a setting, and is written back exactly while nobody
-/// changed it: pixels are coarser than twips, so the stored number must outlive the pixels it stood for.
+/// One side of a window in twips, restored from a setting and written back exactly unless it was changed.
+/// Pixels are coarser than twips, so the stored number must be kept besides the pixels.
 ///
 ///     width.Restore(9001, window.width());           // 600 pixels at 15 twips a pixel
 ///     width.TwipsOf(window.width(), 15)              // 9001 while the window is 600 pixels wide
 class TwipsLength
 {
 public:
-    /// These twips stand for these pixels from now on.
+    /// From now on these twips stand for these pixels.
     void Restore(float twips, int pixels) { m_restored = Restored{twips, pixels}; }
 
-    /// The twips that the pixels stand for. twipsPerPixel: of the screen that the window is on.
+    /// The pixels in twips. twipsPerPixel: of the screen that the window is on.
     float TwipsOf(int pixels, double twipsPerPixel) const
     {
         if (m_restored && m_restored->pixels == pixels)

@@ -16,12 +16,12 @@ struct WindowSize {
     bool operator==(const WindowSize&) const = default;
 };
 
-/// How a dialog was left, in the words of its stored setting: "9000:7000:LAYERS:EXPANDED".
+/// The last state of a dialog, in the form of its stored setting: "9000:7000:LAYERS:EXPANDED".
 ///
 ///     const ViewState state = ViewState::FromText(client.ReadSetting(form, key));
 ///     client.WriteSetting(form, key, state.ToText());
 ///
-/// Whatever the text is, reading it never fails; what cannot be used is left as nothing.
+/// Reading never fails, whatever the text is; a value that cannot be used is left as nothing.
 struct ViewState {
     std::optional<WindowSize> size; ///< nothing: the size stays; both sides are finite and above 0
     std::optional<bool> expanded; ///< nothing: stays as it is, since a side of the size was missing

@@ -14,7 +14,7 @@ namespace Orvane {
 
 namespace {
 
-// Less than this much of a title bar cannot be caught with the pointer.
+// If less than this is visible, a title bar cannot be caught with the pointer.
 constexpr int VisibleMargin = 32;
 
 int PixelsOfSide(float twips, double twipsPerPixel, int most)
@@ -35,7 +35,7 @@ void WindowGeometry::Restore(const WindowSize& size)
 {
     const QSize wanted = PixelsOf(size);
     m_window.resize(wanted);
-    // A side that the screen or the layout did not allow is a new size, not the stored one.
+    // A side that the screen or the layout has changed is a new size, not the stored one.
     const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
     if (std::round(double(size.width) / scale.x) == m_window.width())
         m_width.Restore(size.width, m_window.width());

@@ -11,23 +11,23 @@ class QWidget;
 
 namespace Orvane {
 
-/// The size of a window in twips, and its place on the screens. The frame that a window manager adds is not
-/// counted: it is not known before the window is shown, and counting it would let the window grow with each
-/// opening.
+/// The size of a window in twips, and its position on the screens. The frame that a window manager adds is
+/// not included: it is not known before the window is shown, and with it the window would grow each time it
+/// is opened.
 class WindowGeometry
 {
 public:
     /// window: not owned; outlives this object.
     explicit WindowGeometry(QWidget& window) : m_window(window) { }
 
-    /// Gives the window that size where it stands, no larger than its screen and no smaller than its layout
-    /// allows.
+    /// Gives the window that size at its present position, no larger than its screen and no smaller than its
+    /// layout allows.
     void Restore(const WindowSize& size);
 
-    /// The window's size; exactly what was restored while its pixels are the same.
+    /// The window's size; exactly the restored size while its pixels are the same.
     WindowSize Current() const;
 
-    /// Moves the window to the middle of the first screen when it stands outside all of them.
+    /// Moves the window to the middle of the first screen if it is outside all of them.
     void KeepOnScreen();
 
 private:
@@ -39,8 +39,8 @@ private:
     TwipsLength m_height;
 };
 
-/// The rectangle itself while it meets one of the screens, else moved into the middle of the first one, its
-/// size no larger than that screen. screens: available areas; with none, the rectangle stays.
+/// The rectangle itself if it meets one of the screens; else moved to the middle of the first one and made no
+/// larger than that screen. screens: available areas; if there are none, the rectangle stays.
 QRect PlacedOnScreens(const QRect& window, const QList<QRect>& screens);
 
 } // namespace Orvane

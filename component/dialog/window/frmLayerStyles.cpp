@@ -65,11 +65,12 @@ void frmLayerStyles::Wire()
         [this] { m_selection->ConfirmPendingChanges(); }, [this] { return m_selection->IsModified(); });
     connect(m_selection.get(), &SelectionEditor::ModifiedChanged, this, &frmLayerStyles::EnableButtons);
     connect(m_selection.get(), &SelectionEditor::Shown, this, &frmLayerStyles::ShowCover);
-    // Not guarded: whoever chose the node is, and a host's own call hears of the error.
+    // Not guarded: the code that chose the node is guarded, and in a call from the host the host gets the
+    // error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
 }
 
-// Not guarded but the first: the commands guard themselves.
+// Only the first is guarded here: the commands guard themselves.
 void frmLayerStyles::WireCommands()
 {
     connect(&m_parts->trees, &LayerTrees::DeleteRequested, this, [this] {
@@ -106,7 +107,7 @@ void frmLayerStyles::Initialise()
     TranslateForm(*this);
     m_parts->layout.FitTexts();
     m_parts->layout.TakeDesignedSize();
-    // The list itself is read when somebody is about to look at it.
+    // The list itself is read only when it is about to be shown.
     m_parts->trees.ShowList(m_tab);
     m_parts->layout.ShowTab(m_tab);
     m_selection->ShowNothing();
@@ -139,7 +140,7 @@ void frmLayerStyles::changeEvent(QEvent* event)
             Retranslate();
         else if (
             m_initialised && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
-            QTimer::singleShot(0, this, &frmLayerStyles::FitTexts); // the controls hear of it after the form
+            QTimer::singleShot(0, this, &frmLayerStyles::FitTexts); // the controls are notified after it
         else if (m_parts && event->type() == QEvent::PaletteChange)
             m_parts->quickModes.RefreshImages();
     });
@@ -211,7 +212,7 @@ bool frmLayerStyles::ConfirmUnload()
     return m_selection->ConfirmPendingChanges() && !m_unloaded;
 }
 
-// Once begun it always ends: a host that fails here must not be left with a window that nobody owns.
+// Once started, it always completes: if a host fails here, no window without an owner may be left.
 void frmLayerStyles::Unload()
 {
     if (m_unloaded)
@@ -236,14 +237,14 @@ void frmLayerStyles::OnTabChanged(int index)
         DoFromTabs([this, tab] { SelectTab(tab); });
 }
 
-// The shown tab again: a list that could not be read, or is stale, is tried anew.
+// A click on the shown tab: a list that could not be read, or is stale, is read again.
 void frmLayerStyles::OnTabClicked(int index)
 {
     if (ListTab(index + 1) == m_tab && m_tab != ListTab::Schemes)
         DoFromTabs([this] { LoadList(); });
 }
 
-// A question is not asked from within an event of the tabs: they may be gone when the answer comes.
+// Do not ask a question during an event of the tabs: they may be destroyed before the answer.
 void frmLayerStyles::DoFromTabs(const std::function<void()>& act)
 {
     const auto connection = m_selection->IsModified() ? Qt::QueuedConnection : Qt::DirectConnection;
@@ -261,7 +262,7 @@ void frmLayerStyles::SelectTab(ListTab tab)
     errors.Rethrow();
 }
 
-// The edits belong to the node of the tab that is left.
+// The edits belong to the node of the previous tab.
 void frmLayerStyles::ShowTab(ListTab tab)
 {
     const QPointer self(this);
@@ -276,7 +277,7 @@ void frmLayerStyles::ShowTab(ListTab tab)
     m_selection->SetTab(tab);
     m_parts->layout.ShowTab(tab);
     if (leavesNode)
-        m_selection->SetModified(false); // or reading the list would ask about them as if they were its own
+        m_selection->SetModified(false); // or reading the list would ask about another tab's edits
     FirstError errors;
     errors.Try([this] { LoadList(); });
     if (self && !m_unloaded)

@@ -21,16 +21,16 @@ enum class ListTab;
 /// The layer control dialog: two trees and the schemes on the left, the settings of the selected layer or
 /// group on the right.
 ///
-/// The conductor of the dialog: it is created, shown, hidden and unloaded as the host asks, and joins the
-/// classes that each own one group of controls, of which SelectionEditor holds what is being edited. What the
-/// host or the database raises reaches the host where it made the call, else the person; the dialog
-/// then shows what it showed before, or nothing.
+/// This class coordinates the dialog: it is created, shown, hidden and unloaded as the host asks, and
+/// connects the classes that each own one group of controls. Of these, SelectionEditor holds what is being
+/// edited. What the host or the database raises is passed to the host if it made the call, else shown to the
+/// user; the dialog then shows what it showed before, or nothing.
 class frmLayerStyles final : public StyleEditorWindow
 {
     Q_OBJECT
 
 public:
-    /// Hidden and not initialised: the host is not asked for anything yet.
+    /// Hidden and not initialised: nothing is requested from the host yet.
     explicit frmLayerStyles(QWidget* parent = nullptr);
     ~frmLayerStyles() override;
 
@@ -93,7 +93,7 @@ private:
     const IStyleFilter* m_filter = nullptr;
     ListTab m_tab;
     bool m_initialised = false;
-    bool m_closing = false; ///< the host was told, and may hide again
+    bool m_closing = false; ///< the host was notified, and may hide it again
     bool m_unloaded = false;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the host may ask of the dialog.
+// The calls that the host makes to the dialog.
 #include "component/common/Component.h"
 #include "component/common/ErrorTexts.h"
 #include "component/dialog/window/EditorParts.h"
@@ -130,7 +130,7 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
             return;
         m_parts->trees.MarkStale(LayerTrees::List::Groups);
         m_parts->trees.MarkStale(LayerTrees::List::Layers);
-        const QPointer self(this); // the list may ask about edits, and the host end the dialog meanwhile
+        const QPointer self(this); // the list may ask about edits; the host may close the dialog
         FirstError errors;
         errors.Try([this] { m_parts->schemes.Fill(); });
         errors.Try([this] { UpdateCaption(); });

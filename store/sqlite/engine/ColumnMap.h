@@ -9,10 +9,10 @@ struct sqlite3_stmt;
 
 namespace Orvane {
 
-/// The columns of a statement's rows by name; names are compared case-insensitively.
+/// Finds the columns of a statement's rows by name; names are compared case-insensitively.
 ///
-/// Rows are read in loops that name the same columns in the same order: each name that was looked up
-/// remembers the one after it, so nearly every look-up is one short comparison.
+/// Rows are read in loops that use the same columns in the same order. Each name that was looked up stores
+/// the name that was looked up after it, so nearly every look-up is one short comparison.
 class ColumnMap
 {
 public:

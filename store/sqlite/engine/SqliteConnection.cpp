@@ -28,7 +28,7 @@ QByteArray OpenName(const QString& path, SqliteConnection::Access access)
     return access == SqliteConnection::Access::Immutable ? uri + "?immutable=1" : uri;
 }
 
-// A file comes from anywhere: its schema must not be able to run code or corrupt the program.
+// The file may come from an unknown source: its schema must not be able to run code or corrupt the program.
 void Harden(sqlite3* handle)
 {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);

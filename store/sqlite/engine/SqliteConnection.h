@@ -14,17 +14,17 @@ struct sqlite3;
 
 namespace Orvane {
 
-/// One open SQLite database. Closes it when destroyed; everything created with it must be gone by then.
+/// One open SQLite database. Closes it when destroyed; destroy everything that was created with it first.
 class SqliteConnection
 {
 public:
     /// How the file is accessed.
     enum class Access {
         ReadWrite,
-        QueryOnly, ///< refuses writes, and tidies its files away like a writer: for a file that could be
+        QueryOnly, ///< refuses writes, but removes its extra files like a writer: for a file that could be
                    ///< written
-        ReadOnly, ///< for a file that cannot be written and has a journal beside it
-        Immutable, ///< takes no lock and leaves no file beside it: only while nobody else writes
+        ReadOnly, ///< for a file that cannot be written and has a journal next to it
+        Immutable, ///< takes no lock and creates no extra file: only while no other program writes
     };
 
     /// Opens the file, which must exist, or a new database in memory when path is empty.

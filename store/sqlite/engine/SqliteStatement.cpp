@@ -147,7 +147,7 @@ void SqliteStatement::ResetAndUnbind() noexcept
 
 int SqliteStatement::FindColumn(std::string_view name)
 {
-    // A host that adds a column changes what "*" means.
+    // If a host adds a column, "*" stands for more columns.
     if (sqlite3_column_count(m_statement.get()) != m_columns.Count())
         m_columns.Read(m_statement.get());
     return m_columns.Find(name);

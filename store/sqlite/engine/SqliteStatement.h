@@ -30,12 +30,12 @@ public:
     /// Raises if the text is not exactly one statement.
     SqliteStatement(SqliteConnection& connection, const QString& sql);
 
-    /// True when it only reads.
+    /// True when the statement only reads.
     bool IsReadOnly() const;
     /// Binds a value to a parameter, numbered from 1; booleans as 0 and 1. An Empty value raises.
     void Bind(int number, const Value& value);
     void Bind(int number, qint32 value);
-    /// Binds a value exactly as a database kept it.
+    /// Binds a value exactly as a database stores it.
     void Bind(int number, const StoredValue& value);
     /// Binds all parameters; raises if the number of values differs from the number of parameters.
     void BindAll(const std::vector<Value>& values);
@@ -53,7 +53,7 @@ public:
     int FindColumn(std::string_view name);
     const std::string& ColumnName(int position) const { return m_columns.Name(position); }
     int ColumnCount() const;
-    /// The value in the current row: 32-bit integers as such, larger ones as double, an unsigned 32-bit
+    /// The value in the current row: 32-bit integers as integers, larger ones as double, an unsigned 32-bit
     /// colour as the signed integer with the same bits, blobs as text.
     Value Column(int position) const;
 

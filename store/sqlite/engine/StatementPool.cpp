@@ -7,7 +7,7 @@ namespace Orvane {
 
 namespace {
 
-// Queries carry IDs in their texts, so that the number of texts has no bound of its own.
+// Some queries contain IDs, so that the number of texts would otherwise have no limit.
 constexpr size_t MaxTexts = 64;
 
 } // namespace

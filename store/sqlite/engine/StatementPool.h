@@ -12,8 +12,8 @@
 
 namespace Orvane {
 
-/// The prepared statements for one SQL text: each is prepared once and lent out repeatedly. Two cursors that
-/// are open on the same text at once get one each.
+/// The prepared statements for one SQL text: each is prepared once and used repeatedly. Two cursors that are
+/// open at the same time on the same text get one statement each.
 class StatementPool
 {
 public:
@@ -45,7 +45,7 @@ public:
     explicit operator bool() const { return bool(m_statement); }
     SqliteStatement* operator->() const { return m_statement.get(); }
     SqliteStatement& operator*() const { return *m_statement; }
-    /// Gives the statement back early.
+    /// Returns the statement to the pool early.
     void Return() noexcept;
 
 private:

@@ -13,7 +13,7 @@ void CopyLayerFile(const QString& from, const QString& to)
     SqliteConnection connection(from, CheckLayerFile(from, OpenMode::ReadOnly, options), options);
     LayerSchema::CheckVersion(connection);
     LayerSchema::Check(connection);
-    // SQLite counts a copy among the writes, though it leaves this file alone.
+    // SQLite treats a copy as a write, although it does not change this file.
     connection.Run("PRAGMA query_only = OFF");
     SqliteStatement copy(connection, QStringLiteral("VACUUM INTO ?1"));
     copy.BindAll({to});

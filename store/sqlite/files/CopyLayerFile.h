@@ -5,8 +5,8 @@ class QString;
 
 namespace Orvane {
 
-/// Copies a layer database, as it is at one moment, into a new file. The original may be open elsewhere or be
-/// in a read-only place; it is never changed. Raises what LayerStores::Open raises for reading, and
+/// Makes a consistent copy of a layer database in a new file. The original may be open elsewhere or be in a
+/// read-only folder; it is never changed. Raises what LayerStores::Open raises for reading, and
 /// DatabaseFailure when the copy cannot be written.
 void CopyLayerFile(const QString& from, const QString& to);
 

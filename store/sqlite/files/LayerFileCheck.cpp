@@ -82,7 +82,8 @@ void CheckContent(const QString& path, const StoreErrors& errors, const StoreOpt
         LayerSchema::Check(connection);
 }
 
-// The owner too is kept from writing a file that nobody may write: that is how people protect a map.
+// False for a file without any write permission, even if the process could still write it: users protect maps
+// in this way.
 bool IsWritable(const QString& path)
 {
     constexpr QFile::Permissions writers = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -98,7 +99,7 @@ SqliteConnection::Access CheckLayerFile(const QString& path, OpenMode mode, cons
     const StoreErrors errors(path);
     const QByteArray header = ReadHeader(path, errors);
     CheckHeader(header, errors);
-    // With a journal beside it the file alone says little: SQLite puts both together when it opens them.
+    // If there is a journal, the file alone cannot be checked: SQLite combines both when it opens the file.
     const bool hasJournal = HasJournal(path);
     if (!hasJournal) {
         CheckLength(path, header, errors);

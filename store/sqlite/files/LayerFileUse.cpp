@@ -16,7 +16,7 @@ constexpr StoreOptions NoWaiting{std::chrono::milliseconds(0)};
 
 } // namespace
 
-// Nothing else may look into the file: closing it would end the locks that this program has on it.
+// Opens the file only through SQLite: closing it otherwise would end the locks that this program has on it.
 bool IsLayerFileInUse(const QString& path)
 {
     try {
@@ -24,7 +24,7 @@ bool IsLayerFileInUse(const QString& path)
             return false;
         SqliteConnection connection(path, SqliteConnection::Access::ReadWrite, NoWaiting);
         if (quint32(connection.Number("PRAGMA application_id")) == LayerSchema::ApplicationID)
-            connection.Run("PRAGMA journal_mode = DELETE"); // only who is alone can end the log
+            connection.Run("PRAGMA journal_mode = DELETE"); // possible only if the file is not open elsewhere
         return false;
     } catch (const RunTimeError& error) {
         return error.Number() == int(ErrorNumber::DatabaseLocked);

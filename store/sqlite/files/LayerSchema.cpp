@@ -16,7 +16,7 @@ namespace Orvane::LayerSchema {
 
 namespace {
 
-// Columns may be null except keys: a null property is one that is not known.
+// All columns except keys may be null: a null property is not known.
 constexpr const char* Version1 = R"sql(
 CREATE TABLE LayerGroups (
     ID INTEGER PRIMARY KEY,
@@ -35,7 +35,8 @@ CREATE UNIQUE INDEX LayerIDIDX ON Layers (LayerID);
 CREATE UNIQUE INDEX IDIDX ON LayerGroups (ID);
 )sql";
 
-// The figures of a large map: without them the tree is read by layer and sorted, at twice the price.
+// The statistics are those of a large map. Without them the tree is read by layer and then sorted, which
+// takes twice as long.
 constexpr const char* Version2 = R"sql(
 CREATE INDEX LayerNameIDX ON Layers (Name);
 CREATE INDEX GroupOrderingIDX ON LayerGroups (GroupOrdering);
@@ -53,7 +54,7 @@ INSERT INTO sqlite_stat1 (tbl, idx, stat) VALUES
 ANALYZE sqlite_schema;
 )sql";
 
-// What version n + 1 has beside the columns of layers, at index n.
+// What version n + 1 adds besides the columns of layers, at index n.
 constexpr std::array Steps = {Version1, Version2};
 
 constexpr std::array ColumnChecks = {
@@ -77,7 +78,7 @@ QByteArray Definition(const LayerColumn& column)
     }
 }
 
-// The columns that a version brings: a new table, or more columns for the one that is there.
+// SQL for the columns that a version adds: a new table, or more columns for the existing one.
 QByteArray ColumnsOf(qint32 version)
 {
     QByteArrayList definitions;
@@ -93,7 +94,7 @@ QByteArray ColumnsOf(qint32 version)
     return script;
 }
 
-// The columns that a file of that version has.
+// A query that fails unless the file has all columns of that version.
 QByteArray LayerCheck(qint32 version)
 {
     QByteArrayList names;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int MostRounds = 20;
 
-// Those to one column.
+// References that consist of one column.
 constexpr auto DeclaredReferences
     = "SELECT m.name AS Child, f.\"from\" AS ChildColumn, p.name AS Parent,"
       " coalesce(f.\"to\", (SELECT k.name FROM pragma_table_info(p.name) AS k WHERE k.pk = 1)) AS "
@@ -25,7 +25,7 @@ QString Quoted(QString name)
     return QLatin1Char('"') + name.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
 }
 
-// FROM ... WHERE ... that picks the dangling rows.
+// The part FROM ... WHERE ... of a statement that selects the dangling rows.
 QString DanglingIn(const DanglingRows& rows)
 {
     return QStringLiteral(" FROM %1 WHERE %2 IS NOT NULL AND %2 NOT IN (SELECT %4 FROM %3)")
@@ -73,7 +73,8 @@ FindDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredRefe
 void RemoveDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredReference>& undeclared)
 {
     database.Execute(QStringLiteral("PRAGMA defer_foreign_keys = ON")); // until the transaction ends
-    // Each round may leave rows dangling that were sound before; a trigger may keep rows for ever.
+    // Each round may create new dangling rows. The number of rounds is limited, because a trigger may keep
+    // rows for ever.
     for (int round = 0; round < MostRounds; ++round) {
         const std::vector<DanglingRows> dangling = FindDanglingRows(database, undeclared);
         if (dangling.empty())

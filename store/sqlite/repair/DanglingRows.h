@@ -10,12 +10,12 @@ namespace Orvane {
 
 class SqliteLayerDatabase;
 
-/// Rows of one table that name rows of another which are not there: left behind by a program that does not
-/// keep references.
+/// Rows of one table that refer to missing rows of another. They are left by programs that do not enforce
+/// references.
 struct DanglingRows {
     QString table;
     QString column; ///< holds the key of the missing row
-    QString parent; ///< table that the row is missing from
+    QString parent; ///< the table that the row is missing from
     QString parentColumn;
     qint32 count = 0; ///< at least 1
 };
@@ -28,12 +28,12 @@ struct UndeclaredReference {
     const char* parentColumn;
 };
 
-/// All dangling rows of a file, by the references that its tables declare and by others that the caller
-/// knows; one between tables that are missing counts for nothing. Raises database errors.
+/// All dangling rows of a file, found by the references that its tables declare and by others that the caller
+/// knows. References between missing tables are ignored. Raises database errors.
 std::vector<DanglingRows>
 FindDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredReference>& undeclared);
 
-/// Removes them, and those that dangle once they are gone. To be called in a transaction.
+/// Removes the dangling rows, and those that dangle after that. Call it in a transaction.
 void RemoveDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredReference>& undeclared);
 
 } // namespace Orvane

@@ -9,16 +9,16 @@ namespace Orvane {
 
 class SqliteLayerDatabase;
 
-/// Something wrong inside a file, in SQLite's words.
+/// One damaged place in a file, with SQLite's description.
 struct FileDamage {
     QString message;
-    bool isRepairable = false; ///< RepairDamage can mend it
+    bool isRepairable = false; ///< RepairDamage can repair it
 };
 
-/// What SQLite finds wrong, the first 20 places. Raises database errors.
+/// The damage that SQLite finds, at most 20 places. Raises database errors.
 std::vector<FileDamage> FindDamage(SqliteLayerDatabase& database);
 
-/// Mends indexes that do not match their tables. Raises database errors.
+/// Repairs indexes that do not match their tables. Raises database errors.
 void RepairDamage(SqliteLayerDatabase& database);
 
 } // namespace Orvane

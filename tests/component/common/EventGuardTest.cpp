@@ -28,91 +28,91 @@ void RaiseLocked()
 
 TEST(GuardEvent, RunsTheActionAndReportsNothing)
 {
-    MessageBoxRobot person{};
+    MessageBoxRobot user{};
     bool ran = false;
     EXPECT_TRUE(GuardEvent(nullptr, [&] { ran = true; }));
     EXPECT_TRUE(ran);
-    EXPECT_TRUE(person.Boxes().empty());
+    EXPECT_TRUE(user.Boxes().empty());
 }
 
 TEST(GuardEvent, ShowsTheDescriptionOfARunTimeError)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     EXPECT_FALSE(GuardEvent(nullptr, RaiseLocked));
-    EXPECT_EQ(person.Only().text, QString("The database is locked."));
-    EXPECT_EQ(person.Only().icon, QMessageBox::Warning);
-    EXPECT_EQ(person.Only().buttons, QStringList("OK"));
+    EXPECT_EQ(user.Only().text, QString("The database is locked."));
+    EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
+    EXPECT_EQ(user.Only().buttons, QStringList("OK"));
 }
 
 TEST(GuardEvent, TranslatesTheDescription)
 {
     const Testing::PseudoLanguage pseudo;
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     GuardEvent(nullptr, [] { throw RunTimeError(ErrorNumber::Overflow, "Overflow"); });
-    EXPECT_EQ(person.Only().text, Testing::Pseudo("Overflow"));
+    EXPECT_EQ(user.Only().text, Testing::Pseudo("Overflow"));
 }
 
 TEST(GuardEvent, TranslatesAnErrorThatNamesAColumn)
 {
     const Testing::PseudoLanguage pseudo;
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     GuardEvent(nullptr, [] { throw RunTimeError(ErrorNumber::TypeMismatch, "Type mismatch (Priority)"); });
-    EXPECT_EQ(person.Only().text, Testing::Pseudo("Type mismatch") + " (Priority)");
+    EXPECT_EQ(user.Only().text, Testing::Pseudo("Type mismatch") + " (Priority)");
 }
 
 TEST(GuardEvent, NamesAnotherExceptionByItsOwnWords)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     EXPECT_FALSE(GuardEvent(nullptr, [] { throw std::logic_error("lost my way"); }));
-    EXPECT_EQ(person.Only().text, QString("An unexpected error stopped the action: lost my way"));
+    EXPECT_EQ(user.Only().text, QString("An unexpected error stopped the action: lost my way"));
 }
 
 TEST(GuardEvent, StopsWhatIsNoException)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     EXPECT_FALSE(GuardEvent(nullptr, [] { throw 17; }));
-    EXPECT_EQ(person.Only().text, QString("An unexpected error stopped the action."));
+    EXPECT_EQ(user.Only().text, QString("An unexpected error stopped the action."));
 }
 
 TEST(GuardEvent, ShowsTheErrorOverTheOwnersWindow)
 {
     QWidget window;
     QWidget control(&window);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     GuardEvent(&control, RaiseLocked);
-    EXPECT_EQ(person.Only().owner, &window);
+    EXPECT_EQ(user.Only().owner, &window);
 }
 
 TEST(GuardEvent, BearsAnActionThatDestroysItsOwner)
 {
     auto window = std::make_unique<QWidget>();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     EXPECT_FALSE(GuardEvent(window.get(), [&] {
         window.reset();
         RaiseLocked();
     }));
-    EXPECT_EQ(person.Only().owner, nullptr);
+    EXPECT_EQ(user.Only().owner, nullptr);
 }
 
 TEST(GuardEvent, ShowsOneErrorAtATime)
 {
-    MessageBoxRobot person{BoxKey::Enter, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Enter};
     bool nested = true;
-    person.BeforeAnswer([&](QMessageBox&) { nested = GuardEvent(nullptr, RaiseLocked); });
+    user.BeforeAnswer([&](QMessageBox&) { nested = GuardEvent(nullptr, RaiseLocked); });
     GuardEvent(nullptr, RaiseLocked);
     EXPECT_FALSE(nested);
-    EXPECT_EQ(person.Boxes().size(), 1u);
+    EXPECT_EQ(user.Boxes().size(), 1u);
     GuardEvent(nullptr, RaiseLocked);
-    EXPECT_EQ(person.Boxes().size(), 2u);
+    EXPECT_EQ(user.Boxes().size(), 2u);
 }
 
 TEST(GuardPaint, StopsEveryErrorWithoutAWindow)
 {
-    MessageBoxRobot person{};
+    MessageBoxRobot user{};
     EXPECT_FALSE(GuardPaint(RaiseLocked));
     EXPECT_FALSE(GuardPaint([] { throw 17; }));
     EXPECT_TRUE(GuardPaint([] {}));
-    EXPECT_TRUE(person.Boxes().empty());
+    EXPECT_TRUE(user.Boxes().empty());
 }
 
 } // namespace Orvane

@@ -21,7 +21,7 @@ namespace Orvane {
 
 namespace {
 
-// An own control as the component has them: its caption is a property, known to the meta object only.
+// A custom control like those of the component: its caption is a property that only the meta object knows.
 class CaptionedControl : public QWidget
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ using Testing::BoxKey;
 using Testing::MessageBoxRobot;
 using Testing::SeenBox;
 
-// A message box of the component as a person meets it.
+// A message box of the component as the user sees it.
 struct BoxRow {
     const char* text;
     BoxStyle style;
@@ -72,9 +72,9 @@ BoxAnswer Ask(BoxStyle style, QWidget* owner = nullptr)
 TEST_P(EveryMessageBox, HasItsIconAndButtonsAndTheFirstAsDefault)
 {
     const BoxRow& row = GetParam();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     ShowMessageBox(nullptr, TranslateMsg(row.text, QString("Roads")), row.style);
-    const SeenBox box = person.Only();
+    const SeenBox box = user.Only();
     EXPECT_EQ(box.title, QString("Layer Control"));
     EXPECT_EQ(box.text, QString(row.text).replace("^1", "Roads"));
     EXPECT_EQ(box.icon, row.icon);
@@ -101,14 +101,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(EveryQuestion, AnswersWhatIsPressed)
 {
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::No};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::No};
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::Yes);
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::No);
 }
 
 TEST_P(EveryQuestion, AnswersYesToEnterAndNoToEscape)
 {
-    MessageBoxRobot person{BoxKey::Enter, BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Escape};
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::Yes);
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::No);
 }
@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(EveryNotice, AnswersOkToEnterAndToEscape)
 {
-    MessageBoxRobot person{BoxKey::Enter, BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Escape};
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::Ok);
     EXPECT_EQ(Ask(GetParam()), BoxAnswer::Ok);
 }
@@ -131,34 +131,34 @@ TEST(MessageBoxes, StandOverTheWindowOfTheirOwner)
 {
     QWidget window;
     QWidget control(&window);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Ask(BoxStyle::Ok, &control);
-    EXPECT_EQ(person.Only().owner, &window);
+    EXPECT_EQ(user.Only().owner, &window);
 }
 
 TEST(MessageBoxes, ShowNamesThatLookLikeMarkupAsTheyAre)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     ShowMessageBox(nullptr, "Apply to '<b>No Name</b>'?", BoxStyle::YesNo);
-    EXPECT_EQ(person.Only().format, Qt::PlainText);
+    EXPECT_EQ(user.Only().format, Qt::PlainText);
 }
 
-TEST(MessageBoxes, SpeakThePersonsLanguageInTitleAndButtons)
+TEST(MessageBoxes, SpeakTheUsersLanguageInTitleAndButtons)
 {
     const Testing::PseudoLanguage pseudo;
-    MessageBoxRobot person{BoxKey::Escape, BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Escape, BoxKey::Escape};
     Ask(BoxStyle::YesNo);
     Ask(BoxStyle::Ok);
-    EXPECT_EQ(person.Boxes()[0].title, Testing::Pseudo("Layer Control"));
-    EXPECT_EQ(person.Boxes()[0].buttons, QStringList({Testing::Pseudo("&Yes"), Testing::Pseudo("&No")}));
-    EXPECT_EQ(person.Boxes()[1].buttons, QStringList({Testing::Pseudo("OK")}));
+    EXPECT_EQ(user.Boxes()[0].title, Testing::Pseudo("Layer Control"));
+    EXPECT_EQ(user.Boxes()[0].buttons, QStringList({Testing::Pseudo("&Yes"), Testing::Pseudo("&No")}));
+    EXPECT_EQ(user.Boxes()[1].buttons, QStringList({Testing::Pseudo("OK")}));
 }
 
 TEST(MessageBoxes, WhoseOwnerIsDestroyedAnswerAsEscapeDoes)
 {
     auto window = std::make_unique<QWidget>();
-    MessageBoxRobot person{};
-    person.BeforeAnswer([&](QMessageBox&) { window.reset(); });
+    MessageBoxRobot user{};
+    user.BeforeAnswer([&](QMessageBox&) { window.reset(); });
     EXPECT_EQ(Ask(BoxStyle::YesNo, window.get()), BoxAnswer::No);
 }
 

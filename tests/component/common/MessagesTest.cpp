@@ -58,7 +58,7 @@ TEST_F(Messages, ATextWithoutPlaceholdersIsShownUnchanged)
     EXPECT_EQ(TranslateMsg(""), QString(""));
 }
 
-TEST_F(Messages, ATranslationMayOrderThePlaceholdersAnew)
+TEST_F(Messages, ATranslationMayOrderThePlaceholdersAgain)
 {
     const Testing::PseudoLanguage pseudo;
     const QString question = "Do you wish to apply the changes to the '^2' ^1?";

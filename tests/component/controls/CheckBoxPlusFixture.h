@@ -12,7 +12,7 @@
 
 namespace Orvane::Testing {
 
-/// Writes down the events of a box in the order in which they come.
+/// Records the events of a box in their order.
 class EventLog
 {
 public:
@@ -47,7 +47,7 @@ private:
     }
 };
 
-/// A box on a window of its own.
+/// A box in a separate window.
 class CheckBoxPlusTest : public testing::Test
 {
 protected:

@@ -278,7 +278,7 @@ TEST_F(CheckBoxPlusTest, AListenerMayDestroyTheBox)
     EXPECT_TRUE(watched.isNull());
 }
 
-TEST_F(CheckBoxPlusTest, WhatAListenerRaisesIsToldToThePersonAndGoesNoFurther)
+TEST_F(CheckBoxPlusTest, WhatAListenerRaisesIsToldToTheUserAndGoesNoFurther)
 {
     QObject::connect(&m_box, &CheckBoxPlus::Click, [] {
         throw RunTimeError(ErrorNumber::DatabaseFailure, "the layer table is gone");

@@ -31,7 +31,7 @@ constexpr int overflow = int(ErrorNumber::Overflow);
 constexpr int subscriptOutOfRange = int(ErrorNumber::SubscriptOutOfRange);
 constexpr int typeMismatch = int(ErrorNumber::TypeMismatch);
 
-/// Shows the translations given while it lives, English afterwards.
+/// Shows the given translations during its lifetime, English afterwards.
 class UsingMessages
 {
 public:

@@ -12,7 +12,7 @@ namespace Orvane::Testing {
 
 namespace {
 
-// A host whose table is what a test says.
+// A host whose scale table is set by the test.
 class ScaleTable : public MemoryShellServices
 {
 public:

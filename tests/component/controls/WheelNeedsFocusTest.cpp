@@ -29,7 +29,7 @@ protected:
         entry->setFocus();
     }
 
-    /// False when the list leaves the wheel to what it stands in.
+    /// False when the list leaves the wheel event to its parent.
     bool TakesTheWheel()
     {
         const QPointF place = list->rect().center();

@@ -18,7 +18,7 @@
 
 namespace Orvane::Testing {
 
-/// Shows a value in words and writes down what it was asked.
+/// Shows a value in words and records the calls.
 class WordsTranslator : public IUITranslator
 {
 public:
@@ -38,7 +38,7 @@ private:
     Value IUITranslator_FromString(const QString& text) const override { return ToInt32(text); }
 };
 
-/// A slider popup with its owner, and the person who edits a 7.
+/// A slider popup with its owner, and the actions of a user who edits the value 7.
 class frmDropSliderTest : public testing::Test
 {
 protected:
@@ -67,11 +67,11 @@ protected:
         QTest::mouseClick(Slider(), Qt::LeftButton, {}, handle.center());
     }
 
-    // Opens the popup, does what the person does, and makes sure that it is closed again.
-    bool Popup(const std::function<void()>& person)
+    // Opens the popup, performs the user's actions, and checks that it is closed again.
+    bool Popup(const std::function<void()>& user)
     {
         QTimer::singleShot(0, &m_form, [&] {
-            person();
+            user();
             m_form.hide();
         });
         return Open();

@@ -180,7 +180,7 @@ TEST_F(frmDropSliderTest, TheRangeIsSetBeforeTheValueMinimumFirst)
     m_minimum = 10;
     m_maximum = 12;
     Popup([] {});
-    // The minimum takes 7 to 10, then 20 is clamped to 12, and the label is brought up to date at the end.
+    // The minimum changes 7 to 10, then 20 is clamped to 12, and the label is updated at the end.
     EXPECT_THAT(m_words.asked, ElementsAre("10", "12", "12"));
 }
 

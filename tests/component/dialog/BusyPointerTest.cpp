@@ -14,13 +14,13 @@ namespace Orvane::Testing {
 
 namespace {
 
-/// Notes whether the busy pointer was shown each time that the host worked.
+/// Records whether the busy pointer was shown each time that the host worked.
 class PointerWatcher : public ForwardingClient
 {
 public:
     using ForwardingClient::ForwardingClient;
 
-    /// True when the host worked since the last call, and never under the plain pointer.
+    /// True when the host worked since the last call, always under the busy pointer.
     bool TakeWasBusy()
     {
         const bool wasBusy = m_busyCalls > 0 && m_idleCalls == 0;

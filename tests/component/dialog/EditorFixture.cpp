@@ -24,7 +24,7 @@ namespace {
 const QString MainID = QStringLiteral("Main");
 const QString SettingKey = QStringLiteral("DrawStyleEditor::Main");
 
-// The part of a control that the pointer meets.
+// The part of a control that is clicked.
 QWidget& Target(QWidget& control)
 {
     auto* box = control.findChild<QCheckBox*>();
@@ -44,7 +44,7 @@ QModelIndex NodeOf(const QAbstractItemModel& model, const QString& text, const Q
     return {};
 }
 
-// Does something in each drop-down slider that opens while it lives.
+// Acts in each drop-down slider that opens during its lifetime.
 class SliderRobot : public QObject
 {
 public:
@@ -219,9 +219,9 @@ void EditorFixture::Key(int key)
 
 bool EditorFixture::EditWithSlider(const char* button, const std::function<void(QWidget&)>& act)
 {
-    const SliderRobot person(act);
+    const SliderRobot user(act);
     Click(button);
-    return person.HasOpened();
+    return user.HasOpened();
 }
 
 void EditorFixture::ChooseScale(const char* button, int value)

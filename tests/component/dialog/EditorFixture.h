@@ -25,7 +25,7 @@ class IStyleEditorForm;
 
 namespace Orvane::Testing {
 
-/// A layer control over a host in memory, and the hands and eyes of the person in front of it.
+/// A layer control over a host in memory, and the actions and observations of its user.
 ///
 ///     AddTown();
 ///     Open();
@@ -38,7 +38,7 @@ class EditorFixture : public testing::Test
 protected:
     EditorFixture();
     ~EditorFixture() override;
-    /// Ends all editors, while the clients of a derived fixture still live.
+    /// Ends all editors, while the clients of a derived fixture still exist.
     void TearDown() override;
 
     /// Roads (1), Rivers (2) and Parcels (3); group Transport (10) holds 1 and 2, which differ in everything
@@ -49,7 +49,7 @@ protected:
     void StoreViewState(const QString& text);
     QString StoredViewState();
 
-    /// Puts this client before the host; before the first editor is made. Not owned.
+    /// Puts this client in front of the host; call before the first editor is made. Not owned.
     void UseClient(IStyleEditorClient& client);
 
     /// Makes the editor "Main" if there is none, and shows it.
@@ -78,11 +78,11 @@ protected:
     void ClickTab(int tab);
     void ClickLayer(const QString& text);
     void ClickGroup(const QString& text);
-    /// Opens the list of schemes with the mouse and goes to the entry by keys.
+    /// Opens the list of schemes with the mouse and selects the entry with the keys.
     void PickScheme(const QString& name);
-    /// A key to the control that has the focus, or would have it.
+    /// Sends a key to the control that has the focus, or would have it in an active window.
     void Key(int key);
-    /// Presses the button and does that in the slider that opens; false when none opened.
+    /// Presses the button and calls act with the slider that opens; false when none opened.
     bool EditWithSlider(const char* button, const std::function<void(QWidget& slider)>& act);
     /// Presses the button, moves the slider that opens to the value and presses OK.
     void ChooseScale(const char* button, int value);
@@ -93,11 +93,11 @@ protected:
     bool IsEnabled(const char* name);
     /// The bits of the quick mode buttons that are pressed.
     int PressedModes();
-    /// Apply and Cancel are enabled together.
+    /// True when Apply and Cancel are enabled; they are enabled together.
     bool CanApply();
     int CurrentTab();
 
-    /// The texts of the calls to the host since the last look, reads of display names left out.
+    /// The texts of the calls to the host since the last call of this, without reads of display names.
     QStringList NewCalls();
 
     /// A stored column of a layer as a number.

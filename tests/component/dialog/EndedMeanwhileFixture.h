@@ -15,7 +15,7 @@
 
 namespace Orvane::Testing {
 
-/// Does something while it prompts, creates, deletes or loads, or fails where it writes.
+/// Calls a function while it prompts, creates, deletes or loads, or fails where it writes.
 class BusyClient : public ForwardingClient
 {
 public:
@@ -45,14 +45,14 @@ private:
     }
 };
 
-/// Shows no layer, and the groups first.
+/// Shows no layer, and opens on the groups.
 class NoLayers : public IStyleFilter
 {
     bool IStyleFilter_ShowsGroups() const override { return true; }
     bool IStyleFilter_IsLayerShown(qint32, bool) const override { return false; }
 };
 
-/// Does something when a window of that class opens.
+/// Calls a function when a window of that class opens.
 template <typename Window> class WhenOpened : public QObject
 {
 public:
@@ -72,7 +72,7 @@ private:
 /// How the dialog ends.
 enum class Ending { HostDeletesTheForm, UnloadWithoutApply, LibraryIsReleased };
 
-/// A dialog that ends while something waits for the person or the host.
+/// A dialog that ends while something waits for the user or the host.
 class EndedMeanwhile : public EditorFixture
 {
 public:

@@ -109,8 +109,8 @@ void ErrorOfApplyBeforeAnotherNode(EndedMeanwhile& test)
 {
     test.OpenWithEdits();
     test.client.isFaulty = true;
-    MessageBoxRobot person{BoxKey::Yes};
-    person.BeforeAnswer([&](QMessageBox& box) {
+    MessageBoxRobot user{BoxKey::Yes};
+    user.BeforeAnswer([&](QMessageBox& box) {
         if (box.text() == "The host is out of order.")
             test.End();
     });
@@ -122,8 +122,8 @@ void ErrorOfApplyBeforeAnotherTab(EndedMeanwhile& test)
 {
     test.OpenWithEdits();
     test.client.isFaulty = true;
-    MessageBoxRobot person{BoxKey::Yes};
-    person.BeforeAnswer([&](QMessageBox& box) {
+    MessageBoxRobot user{BoxKey::Yes};
+    user.BeforeAnswer([&](QMessageBox& box) {
         if (box.text() == "The host is out of order.")
             test.End();
     });
@@ -248,7 +248,7 @@ void SchemeLoading(EndedMeanwhile& test)
     for (const char* button : {"cmdRevert", "cmdDelete"}) {
         test.OpenOnSchemes();
         test.client.meanwhile = [&] { test.End(); };
-        const MessageBoxRobot person{BoxKey::Yes};
+        const MessageBoxRobot user{BoxKey::Yes};
         test.Click(button);
         EXPECT_FALSE(test.form) << button;
     }
@@ -258,7 +258,7 @@ void SchemeSwitching(EndedMeanwhile& test)
 {
     test.OpenOnSchemes();
     test.client.meanwhile = [&] { test.End(); };
-    const MessageBoxRobot person{BoxKey::Yes};
+    const MessageBoxRobot user{BoxKey::Yes};
     QTest::keyPress(&test.Find("cmbScheme"), Qt::Key_Down);
     QCoreApplication::processEvents();
 }

@@ -12,7 +12,7 @@ namespace {
 
 const QString Fault = QStringLiteral("The host is out of order.");
 
-/// Raises in the one member that is named.
+/// Raises an error in the named member only.
 class FaultyClient : public ForwardingClient
 {
 public:
@@ -170,9 +170,9 @@ TEST_F(HostFaults, AFaultWhileApplyingIsToldOnceAndLosesNothing)
     OpenWithEdits();
     for (const char* member : {"LayersTable", "BeginLayerEdit", "LayerChanged"}) {
         client.faulty = member;
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Click("cmdApply");
-        EXPECT_EQ(person.Only().text, Fault) << member;
+        EXPECT_EQ(user.Only().text, Fault) << member;
         EXPECT_TRUE(CanApply()) << member;
         EXPECT_TRUE(IsUnderlined("chkVisible")) << member;
         EXPECT_EQ(Stored(1, "Visible"), 1) << member;
@@ -187,7 +187,7 @@ TEST_F(HostFaults, AFaultWhileRedrawingIsToldOnceAndApplyingAgainWorks)
     OpenWithEdits();
     client.faulty = "RedrawMap";
     {
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Click("cmdApply");
     }
     EXPECT_TRUE(CanApply());
@@ -203,7 +203,7 @@ TEST_F(HostFaults, ACodeThatIsRefusedStillShowsTheStoredProperties)
     UseClient(failing);
     OpenWithEdits();
     host.ClearLog();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdApply");
     EXPECT_EQ(Stored(1, "Visible"), 0);
     EXPECT_EQ(host.Log().CallsTo("RedrawMap").size(), 1);
@@ -220,7 +220,7 @@ TEST_F(HostFaults, AGroupIsWrittenWholeOrNotAtAll)
     Click("chkLocked");
     Click("chkLocked");
     client.faulty = "LayerChanged";
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdApply");
     EXPECT_EQ(Stored(1, "locked"), 0);
     EXPECT_EQ(Stored(2, "locked"), 1);
@@ -233,9 +233,9 @@ TEST_F(HostFaults, ANodeThatCannotBeReadShowsNothing)
     Open();
     ClickLayer("Roads");
     client.faulty = "LayersTable";
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     ClickLayer("Rivers");
-    EXPECT_EQ(person.Only().text, Fault);
+    EXPECT_EQ(user.Only().text, Fault);
     EXPECT_FALSE(Find("chkVisible").isVisible());
     EXPECT_FALSE(CanApply());
 }
@@ -245,7 +245,7 @@ TEST_F(HostFaults, CancelThatCannotReadKeepsTheEdits)
     OpenWithEdits();
     client.faulty = "LayersTable";
     {
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Click("cmdCancel");
     }
     EXPECT_TRUE(CanApply());
@@ -260,7 +260,7 @@ TEST_F(HostFaults, ATabWhoseListCannotBeReadStaysEmptyAndCanBeTriedAgain)
     Open();
     client.faulty = "Database";
     {
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         ClickTab(1);
     }
     EXPECT_EQ(CurrentTab(), 1);
@@ -274,7 +274,7 @@ TEST_F(HostFaults, AFailedApplyKeepsTheTabThatWasToBeLeft)
 {
     OpenWithEdits();
     client.faulty = "BeginLayerEdit";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     ClickTab(1);
     EXPECT_EQ(CurrentTab(), 2);
     EXPECT_TRUE(CanApply());
@@ -286,13 +286,13 @@ TEST_F(HostFaults, AFailedApplyKeepsTheEditorOpen)
     OpenWithEdits();
     client.faulty = "BeginLayerEdit";
     {
-        MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
         Form()->close();
     }
     ASSERT_NE(Form(), nullptr);
     EXPECT_TRUE(Form()->isVisible() && CanApply());
     {
-        MessageBoxRobot person{BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes};
         host.ClearLog();
         EXPECT_THROW(Close(), RunTimeError);
         EXPECT_THAT(host.Log().CallsTo("EditorClosed"), testing::IsEmpty());
@@ -312,7 +312,7 @@ TEST_F(HostFaults, AnUnloadThatBeganAlwaysEnds)
         client.faulty.clear();
         Open();
         client.faulty = member;
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Form()->close();
         EXPECT_EQ(Form(), nullptr) << member;
         client.faulty.clear();
@@ -328,9 +328,9 @@ TEST_F(HostFaults, FailingCommandsAreToldAndChangeNothing)
         {"CreateLayer", "cmdNewLayer"}, {"DeleteLayer", "cmdDeleteLayer"}};
     for (const auto& [member, button] : commands) {
         client.faulty = member;
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Click(button);
-        EXPECT_EQ(person.Only().text, Fault) << member;
+        EXPECT_EQ(user.Only().text, Fault) << member;
         EXPECT_EQ(TextOf("lblCode"), "11") << member;
         EXPECT_FALSE(CanApply()) << member;
     }
@@ -344,7 +344,7 @@ TEST_F(HostFaults, ACancelThatFailsHalfWayKeepsTheEditsOrShowsNothing)
         OpenWithEdits();
         failing.Plan({"LayersTable", call, RunTimeError(10001, Fault)});
         {
-            MessageBoxRobot person{BoxKey::Enter};
+            MessageBoxRobot user{BoxKey::Enter};
             Click("cmdCancel");
         }
         EXPECT_TRUE(CanApply()) << call;
@@ -359,7 +359,7 @@ TEST_F(HostFaults, ALayerWhoseValuesCannotBeShownShowsNothing)
 {
     OpenWithEdits();
     host.SetLayerColumn(1, "OutlineStyle", qint32(70000));
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdCancel");
     EXPECT_FALSE(Find("chkVisible").isVisible());
     EXPECT_FALSE(CanApply());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does without a mouse.
+// The use of the dialog without a mouse.
 #include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/EditorFixture.h"
 
@@ -33,7 +33,7 @@ protected:
         return (isInside ? focused->parentWidget() : focused)->objectName();
     }
 
-    /// The controls that the key goes through, from the tabs back to them.
+    /// The controls that get the focus in turn with the key, from the tabs back to the tabs.
     QStringList RoundOf(Qt::Key key)
     {
         constexpr int tooMany = 99;

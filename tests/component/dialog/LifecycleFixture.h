@@ -25,7 +25,7 @@ private:
     bool m_showsGroups;
 };
 
-/// An editor over the town, from its making to its end.
+/// An editor over the town, from its creation to its end.
 class Lifecycle : public EditorFixture
 {
 protected:

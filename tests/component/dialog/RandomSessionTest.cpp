@@ -15,7 +15,7 @@ using namespace Paper;
 constexpr int stepsOfASession = 700;
 const QString fault = QStringLiteral("The host is out of order.");
 
-/// A call that may fail, and the latest time at which it does.
+/// A member that may fail, and the number of its latest call that fails.
 struct Weakness {
     const char* member;
     int latestCall;
@@ -48,7 +48,7 @@ protected:
         Check();
     }
 
-    /// True when the failure came.
+    /// True when the failure occurred.
     bool ApplyWithAFailure(int step)
     {
         const Weakness& weakness = dice.OneOf(weaknesses);
@@ -62,11 +62,11 @@ protected:
         const bool hasFailed = client.HasFailed();
         if (hasFailed) {
             dialog.TakeBoxes();
-            EXPECT_EQ(person.TakeBoxes(), QStringList(fault));
+            EXPECT_EQ(user.TakeBoxes(), QStringList(fault));
             CheckRows(before, *edits.node);
             CheckEdits(edits);
         }
-        StartAnew(hasFailed);
+        StartAgain(hasFailed);
         Check();
         return hasFailed;
     }
@@ -81,7 +81,7 @@ private:
             m_deeds.begin(), m_deeds.end(), [&](const Deed& deed) { return (left -= deed.weight) < 0; });
     }
 
-    // A group is written whole or not at all; of a layer, the code is stored after the rest.
+    // A group is stored completely or not at all; the code of a layer is stored after its other columns.
     void CheckRows(const Map& before, const Node& node)
     {
         const Map actual = ReadMap(host.PlainDatabase());
@@ -93,7 +93,7 @@ private:
             << qPrintable(Differences(before, actual).join('\n'));
     }
 
-    // Edits stay whole, or nothing is shown: never another node's values.
+    // Either all edits remain, or nothing is shown; never another node's values.
     void CheckEdits(const Panel& edits)
     {
         dialog.isModified = CanApply();
@@ -104,7 +104,7 @@ private:
     std::vector<Deed> m_deeds = AllDeeds();
 };
 
-TEST_P(RandomSession, LeavesInTheDatabaseWhatThePersonDid)
+TEST_P(RandomSession, LeavesInTheDatabaseWhatTheUserDid)
 {
     OpenEditor();
     for (int step = 0; step < stepsOfASession && !HasFailure(); ++step)

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 const QString Fault = QStringLiteral("The host is out of order.");
 
-// Raises in the scheme call that is named, before the call is passed on.
+// Raises an error in the named scheme call, before the call is passed on.
 class FaultySchemes : public ForwardingClient
 {
 public:
@@ -73,10 +73,10 @@ protected:
 TEST_F(SchemeFaults, ASwitchThatFailsShowsTheHostsSchemeAndRestoresThePointer)
 {
     m_client.faulty = "LoadScheme";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     PickScheme("Print");
-    ASSERT_EQ(person.Boxes().size(), 2u);
-    EXPECT_TRUE(person.Boxes()[1].text.contains(Fault));
+    ASSERT_EQ(user.Boxes().size(), 2u);
+    EXPECT_TRUE(user.Boxes()[1].text.contains(Fault));
     EXPECT_EQ(List().currentText(), "Night");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -84,9 +84,9 @@ TEST_F(SchemeFaults, ASwitchThatFailsShowsTheHostsSchemeAndRestoresThePointer)
 TEST_F(SchemeFaults, ARevertThatFailsRestoresThePointer)
 {
     m_client.faulty = "LoadScheme";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     Click("cmdRevert");
-    EXPECT_EQ(person.Boxes().size(), 2u);
+    EXPECT_EQ(user.Boxes().size(), 2u);
     EXPECT_EQ(List().currentText(), "Night");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -94,19 +94,19 @@ TEST_F(SchemeFaults, ARevertThatFailsRestoresThePointer)
 TEST_F(SchemeFaults, ADeletionThatFailsHalfWayShowsTheHostsScheme)
 {
     m_client.faulty = "DeleteScheme";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     Click("cmdDelete");
-    EXPECT_TRUE(person.Boxes().back().text.contains(Fault));
+    EXPECT_TRUE(user.Boxes().back().text.contains(Fault));
     EXPECT_EQ(host.currentScheme, "Print");
     EXPECT_EQ(List().currentText(), "Print");
     EXPECT_EQ(List().count(), 3);
 }
 
-TEST_F(SchemeFaults, ALayerChangedByADeletionThatFailsIsReadAnew)
+TEST_F(SchemeFaults, ALayerChangedByADeletionThatFailsIsReadAgain)
 {
     host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
     m_client.faulty = "DeleteScheme";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     Click("cmdDelete");
     ClickTab(2);
     ClickLayer("Roads");
@@ -117,7 +117,7 @@ TEST_F(SchemeFaults, ASchemeThatCannotBeCreatedIsNotListed)
 {
     m_client.faulty = "CreateScheme";
     host.promptAnswers = {{true, "Winter"}};
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdNew");
     EXPECT_EQ(List().findText("Winter"), -1);
     EXPECT_EQ(List().currentText(), "Night");
@@ -126,9 +126,9 @@ TEST_F(SchemeFaults, ASchemeThatCannotBeCreatedIsNotListed)
 TEST_F(SchemeFaults, AStartupDatabaseThatCannotBeWrittenIsTold)
 {
     m_client.faulty = "SaveSchemesToStartup";
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
     Click("cmdSaveStartup");
-    EXPECT_TRUE(person.Boxes().back().text.contains(Fault));
+    EXPECT_TRUE(user.Boxes().back().text.contains(Fault));
 }
 
 } // namespace

@@ -62,7 +62,7 @@ protected:
         for (int tab : {2, 1, 3}) {
             ClickTab(tab);
             for (QWidget* widget : Form()->findChildren<QWidget*>()) {
-                // The arrows of tabs without room speak the toolkit's language.
+                // Qt translates the arrows of tabs without enough room.
                 if (widget->isVisible() && !qobject_cast<QTabBar*>(widget->parentWidget()))
                     look(*widget);
             }

@@ -22,7 +22,7 @@ protected:
         StoreViewState("9000:7000:LAYERS:EXPANDED");
     }
 
-    /// All calls since the last look, without the names, the columns and the pictures of fill styles.
+    /// All calls since the last call of this, without the names, the columns and the pictures of fill styles.
     QStringList NewTrace()
     {
         const QStringList calls = Without(host.Log().Trace(), [](const QString& call) {

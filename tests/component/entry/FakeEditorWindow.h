@@ -8,7 +8,7 @@
 namespace Orvane::Testing {
 
 /// An editor window that does only what the registry needs: it shows itself through the client, unloads on
-/// request and says what became of it.
+/// request and records these events.
 class FakeEditorWindow : public StyleEditorWindow
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ namespace {
 
 using testing::Contains;
 
-// The component as a host meets it: a file, two functions, and what they give.
+// The component as a host uses it: a file, two functions, and their results.
 class Plugin : public testing::Test
 {
 protected:

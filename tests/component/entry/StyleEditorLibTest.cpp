@@ -160,14 +160,14 @@ TEST_F(Library, AClosedEditorIsGoneAndItsIdFree)
 
 TEST_F(Library, ItsReleaseUnloadsEveryEditorInOrderWithoutAQuestion)
 {
-    Testing::MessageBoxRobot person{};
+    Testing::MessageBoxRobot user{};
     Start(m_host, "B").modified = true;
     m_library->NewStyleEditor("A")->Visible(true);
     m_library.reset();
     EXPECT_THAT(
         m_events,
         ElementsAre("unload B without applying", "unload A without applying", "delete B", "delete A"));
-    EXPECT_TRUE(person.Boxes().empty());
+    EXPECT_TRUE(user.Boxes().empty());
     EXPECT_THAT(m_host.Calls(), Contains("WriteSetting(DrawStyleEditor::A, state)"));
     EXPECT_FALSE(HasClient());
 }

@@ -10,7 +10,7 @@ namespace Orvane::Testing {
 
 inline constexpr qint32 redNotForSymbols = qint32(0xFF0000FFU);
 
-/// All Null but the slots named.
+/// All slots are Null except those named.
 inline LayerStyle StyleWith(const std::vector<std::pair<qint16, Value>>& known)
 {
     LayerStyle style;

@@ -13,7 +13,7 @@ using namespace Orvane::Testing;
 
 namespace {
 
-/// The row of one layer, in which a column gives the value at hand.
+/// The row of one layer, in which a column gives the value under test.
 class LayerColumns : public testing::Test
 {
 protected:

@@ -64,7 +64,7 @@ using GroupsTree = TreeReading;
 using LayerList = TreeReading;
 using OneLayer = TreeReading;
 
-/// Shows the layers with one of the two flags and keeps what it was asked.
+/// Shows the layers with one of the two flags and records the calls.
 class PseudoFilter : public IStyleFilter
 {
 public:

@@ -198,9 +198,9 @@ TEST_F(ColourPickerTest, ACustomColourIsInsertedBeforeTheCustomItemAndSelected)
 {
     line.SetColourSelection(Value::Null());
     const QSignalSpy changes(&line, &ColourPicker::Changed);
-    const ColourDialogRobot person(ColourDialogRobot::Pick(QColor(255, 128, 0)));
+    const ColourDialogRobot user(ColourDialogRobot::Pick(QColor(255, 128, 0)));
     Choose(lineList, customOfLine);
-    EXPECT_TRUE(person.HasOpened());
+    EXPECT_TRUE(user.HasOpened());
     EXPECT_THAT(line.GetSelectedColour(), IsValue(orange));
     EXPECT_EQ(lineList.ListIndex(), 15);
     EXPECT_EQ(line.List().IndexOf(Special::Custom), 16);
@@ -213,7 +213,7 @@ TEST_F(ColourPickerTest, ACustomColourIsInsertedBeforeTheCustomItemAndSelected)
 
 TEST_F(ColourPickerTest, ACustomColourOfTheListIsOnlySelected)
 {
-    const ColourDialogRobot person(ColourDialogRobot::Pick(Qt::red));
+    const ColourDialogRobot user(ColourDialogRobot::Pick(Qt::red));
     Choose(lineList, customOfLine);
     EXPECT_EQ(lineList.ListIndex(), 6);
     EXPECT_EQ(lineList.ListCount(), 16);
@@ -223,34 +223,34 @@ TEST_F(ColourPickerTest, TheColourDialogStartsWithTheColourOfTheLayer)
 {
     line.SetColourSelection(orange);
     Choose(lineList, 4);
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Choose(lineList, line.List().IndexOf(Special::Custom));
-    EXPECT_EQ(person.Start(), QColor(255, 128, 0));
-    EXPECT_EQ(person.Title(), "Extended Colours");
+    EXPECT_EQ(user.Start(), QColor(255, 128, 0));
+    EXPECT_EQ(user.Title(), "Extended Colours");
 }
 
 TEST_F(ColourPickerTest, TheColourDialogStartsBlackWhereLayersDiffer)
 {
     line.SetColourSelection(Value::Null());
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Choose(lineList, customOfLine);
-    EXPECT_EQ(person.Start(), QColor(Qt::black));
+    EXPECT_EQ(user.Start(), QColor(Qt::black));
 }
 
 TEST_F(ColourPickerTest, CancellingTheColourDialogGoesBackToTheChoiceBefore)
 {
     line.SetColourSelection(orange);
     Choose(lineList, 4);
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Choose(lineList, line.List().IndexOf(Special::Custom));
-    EXPECT_TRUE(person.HasOpened());
+    EXPECT_TRUE(user.HasOpened());
     EXPECT_THAT(line.GetSelectedColour(), IsValue(0xFF0000));
 }
 
 TEST_F(ColourPickerTest, CancellingTheColourDialogKeepsVarious)
 {
     line.SetColourSelection(Value::Null());
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Choose(lineList, customOfLine);
     EXPECT_TRUE(line.GetSelectedColour().IsNull());
 }
@@ -259,25 +259,25 @@ TEST_F(ColourPickerTest, KeysStepOverTheCustomItemWithoutOpeningTheDialog)
 {
     line.SetColourSelection(Value::Null());
     line.SetColourSelection(0x008080);
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Key(lineList, Qt::Key_Down);
     EXPECT_EQ(lineList.ListIndex(), 16);
     EXPECT_TRUE(line.GetSelectedColour().IsNull());
     Key(lineList, Qt::Key_Up);
     EXPECT_EQ(lineList.ListIndex(), 14);
-    EXPECT_FALSE(person.HasOpened());
+    EXPECT_FALSE(user.HasOpened());
 }
 
 TEST_F(ColourPickerTest, TheWheelStopsBeforeTheCustomItemAtTheEnd)
 {
     line.SetColourSelection(0x808000);
     const QSignalSpy changes(&line, &ColourPicker::Changed);
-    const ColourDialogRobot person(ColourDialogRobot::Cancel());
+    const ColourDialogRobot user(ColourDialogRobot::Cancel());
     TurnDown(lineList);
     TurnDown(lineList);
     EXPECT_EQ(lineList.ListIndex(), 14);
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_FALSE(person.HasOpened());
+    EXPECT_FALSE(user.HasOpened());
     TurnUp(lineList);
     EXPECT_EQ(lineList.ListIndex(), 13);
 }

@@ -19,7 +19,7 @@ namespace {
 
 using Special = PickerList::Special;
 
-// A host whose patterns cannot be had.
+// A host whose patterns are not available.
 class NoPatterns : public ForwardingShellServices
 {
 public:
@@ -113,13 +113,13 @@ TEST_F(FillStylePickerTest, ShowsNullAsVariousNeverTwice)
 
 TEST_F(FillStylePickerTest, TellsOfAnUnknownStyleAndShowsTheFirst)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     picker.SetFillStyleSelection(99);
     EXPECT_EQ(list.ListIndex(), 0);
     QCoreApplication::processEvents();
-    EXPECT_EQ(person.Only().text, "Unknown Fill Style!");
-    EXPECT_EQ(person.Only().buttons, QStringList("OK"));
-    EXPECT_EQ(person.Only().icon, QMessageBox::NoIcon);
+    EXPECT_EQ(user.Only().text, "Unknown Fill Style!");
+    EXPECT_EQ(user.Only().buttons, QStringList("OK"));
+    EXPECT_EQ(user.Only().icon, QMessageBox::NoIcon);
 }
 
 TEST_F(FillStylePickerTest, AChosenStyleIsToldOnce)

@@ -26,7 +26,7 @@ protected:
         picker.BuildLineStyleList();
     }
 
-    // What the person answers in the width dialog; nothing cancels it.
+    // What the user answers in the width dialog; nothing cancels it.
     bool Ask(qint16& thickness, Twips x, Twips y)
     {
         asked = thickness;
@@ -210,9 +210,9 @@ TEST_F(LineStylePickerTest, AFailureOfTheWidthDialogIsToldAndTheLineOfTheLayerSh
 {
     picker.SetLineStyleSelection(0, -3);
     fails = true;
-    const MessageBoxRobot person{BoxKey::Enter};
+    const MessageBoxRobot user{BoxKey::Enter};
     Choose(list, customIndex);
-    EXPECT_EQ(person.Only().text, "Type mismatch");
+    EXPECT_EQ(user.Only().text, "Type mismatch");
     ExpectLine(0, -3);
 }
 

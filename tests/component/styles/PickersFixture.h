@@ -16,7 +16,7 @@
 
 namespace Orvane::Testing {
 
-/// A host in memory, a window, and the hands of a person in front of its lists.
+/// A host in memory, a window, and the actions of a user on its lists.
 class PickersFixture : public testing::Test
 {
 protected:
@@ -43,7 +43,7 @@ private:
     static void Turn(OvCombo& list, int angle);
 };
 
-/// Does something in the colour dialog that opens while it lives, and notes what it was shown with.
+/// Acts in the colour dialog that opens during its lifetime, and records its initial state.
 class ColourDialogRobot : public QObject
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ protected:
     StylePickers pickers{{{&colours[0], &colours[1], &colours[2]}, &fillStyles, &lineStyles}, "@"};
 };
 
-/// How often a widget was painted since.
+/// How often a widget was painted since this object was made.
 class PaintCounter : public QObject
 {
 public:

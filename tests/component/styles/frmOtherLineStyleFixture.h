@@ -25,7 +25,7 @@
 
 namespace Orvane::Testing {
 
-/// The line width dialog in a host that shows and hides it, and the person in front of it.
+/// The line width dialog in a host that shows and hides it, and the actions of its user.
 class frmOtherLineStyleTest : public testing::Test
 {
 protected:
@@ -45,13 +45,13 @@ protected:
     QPushButton& Ok() { return *form->findChild<QPushButton*>("cmdOK"); }
     QPushButton& Cancel() { return *form->findChild<QPushButton*>("cmdCancel"); }
 
-    // Opens the dialog, does what the person does, and closes it if they did not.
-    bool Choose(const std::function<void()>& person)
+    // Opens the dialog, performs the user's actions, and closes it if the user did not.
+    bool Choose(const std::function<void()>& user)
     {
-        host.Shell().OnShowModal = [&person](QWidget* shown) {
+        host.Shell().OnShowModal = [&user](QWidget* shown) {
             shown->show();
             QApplication::setActiveWindow(shown);
-            person();
+            user();
             shown->hide();
         };
         return form->ChooseLineWidth(thickness, x, y);

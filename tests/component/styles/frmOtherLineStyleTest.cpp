@@ -218,7 +218,7 @@ TEST_F(frmOtherLineStyleTest, AnErrorOfTheHostReachesTheCallerAndItCanBeOpenedAg
 
 TEST_F(frmOtherLineStyleTest, ACancelThatFailedIsForgottenByOk)
 {
-    const MessageBoxRobot person{BoxKey::Enter};
+    const MessageBoxRobot user{BoxKey::Enter};
     EXPECT_TRUE(Choose([this] {
         Type("8");
         host.Shell().OnCloseModal = [](QWidget*) { throw RunTimeError(10007, "not now"); };
@@ -230,7 +230,7 @@ TEST_F(frmOtherLineStyleTest, ACancelThatFailedIsForgottenByOk)
     EXPECT_EQ(thickness, 8);
 }
 
-TEST_F(frmOtherLineStyleTest, SpeaksTheLanguageOfThePerson)
+TEST_F(frmOtherLineStyleTest, SpeaksTheLanguageOfTheUser)
 {
     const PseudoLanguage pseudo;
     const frmOtherLineStyle translated(&owner);

@@ -150,7 +150,7 @@ TEST_F(frmOtherLineStyleTest, ACancelBeforeIsForgottenWhenItOpensAgain)
     EXPECT_TRUE(form->ChooseLineWidth(thickness, x, y));
 }
 
-TEST_F(frmOtherLineStyleTest, TheDecimalSeparatorOfThePersonIsUnderstood)
+TEST_F(frmOtherLineStyleTest, TheDecimalSeparatorOfTheUserIsUnderstood)
 {
     QLocale::setDefault(QLocale(QLocale::German));
     Choose([this] {

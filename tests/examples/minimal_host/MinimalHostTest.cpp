@@ -25,7 +25,7 @@ namespace {
 const QString Main = QStringLiteral("Main");
 const QString ViewState = QStringLiteral("DrawStyleEditor::Main");
 
-/// What the example host does, with the component as a plug-in and a person at the dialog.
+/// The example host, with the component as a plug-in and the actions of a user.
 class MinimalHost : public HostKitTest
 {
 protected:
@@ -60,7 +60,7 @@ protected:
     QWidget* m_form = nullptr;
 };
 
-// The lines in their order, others between them.
+// True when the lines occur in this order, possibly with others between them.
 void ExpectInOrder(const QStringList& lines, const QStringList& expected)
 {
     qsizetype from = 0;

@@ -37,7 +37,7 @@ protected:
         return ToInt32(document.Database().OpenRecordset("SELECT count(*) AS N FROM " + query)->Field("N"));
     }
 
-    // A small world_map.gpkg with all that the world map asks for.
+    // A small world_map.gpkg with all layers that the world map needs.
     void WriteWorldData() const
     {
         GeoPackageWriter writer(m_folder.Path("world_map.gpkg"), "EPSG:4326");

@@ -26,7 +26,7 @@ TEST_F(Names, AreNotReadBeforeTheFirstQuestion)
 {
     AddLayers(1);
     EXPECT_TRUE(StatementsOf([&] { m_names.Set(1, QStringLiteral("Roads")); }).isEmpty());
-    EXPECT_EQ(m_names.Name(1), QStringLiteral("Layer 1")); // what is stored counts
+    EXPECT_EQ(m_names.Name(1), QStringLiteral("Layer 1")); // the stored name is used
 }
 
 TEST_F(Names, OfAMissingLayerAreEmpty)

@@ -82,7 +82,7 @@ TEST_F(Schemes, EverySchemeHoldsItsOwnValueOfEveryEditedColumn)
     for (const ColumnCase& edited : EditedColumns())
         Set(1, edited.column, edited.night);
     m_schemes.Save(Night);
-    m_schemes.Load(Standard); // made as the day's when Night was created
+    m_schemes.Load(Standard); // was made with the day's values when Night was created
     for (const ColumnCase& edited : EditedColumns())
         EXPECT_THAT(Get(1, edited.column), IsNumber(ToDouble(edited.day))) << edited.column;
     m_schemes.Load(Night);
@@ -163,7 +163,7 @@ TEST_F(Schemes, TheLoadedSchemeIsCurrentAndStaysSoInTheFile)
     EXPECT_EQ(LayerSchemes(*database).Current(), Night);
 }
 
-TEST_F(Schemes, NamesAreListedAsAPersonOrdersThem)
+TEST_F(Schemes, NamesAreListedAsAUserOrdersThem)
 {
     m_schemes.Create(QStringLiteral("Zone 2"));
     m_schemes.Create(QStringLiteral("Ash"));

@@ -77,7 +77,7 @@ TEST_F(SchemeFiles, ThatAreHugeAreRefusedUnread)
 {
     QFile file(Path("huge.json"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(SchemeFile::LargestFile + 1)); // a hole, no bytes on the disk
+    ASSERT_TRUE(file.resize(SchemeFile::LargestFile + 1)); // a sparse file, which needs no disk space
     EXPECT_EQ(ErrorIn(file.fileName()), int(HostError::SchemeFileUnreadable));
     EXPECT_TRUE(
         DescriptionOf([&] { SchemeFile::Read(file.fileName()); }).contains(QStringLiteral("too large")));

@@ -15,7 +15,7 @@ const QString Standard = QStringLiteral("Standard");
 const QString Night = QStringLiteral("Night");
 const QString Name = QStringLiteral("LayerSchemes");
 
-/// A map with two schemes, whose tables then become those of an earlier program.
+/// A map with two schemes, whose tables are then changed to those of an earlier version.
 class OlderSchemes : public HostKitTest
 {
 protected:

@@ -97,7 +97,7 @@ TEST_F(ClientTrace, ShowsTransactions)
             QStringLiteral("database.Rollback()")}));
 }
 
-TEST_F(ClientTrace, ShowsThePersonsAnswers)
+TEST_F(ClientTrace, ShowsTheUsersAnswers)
 {
     m_host.promptAnswers = {{true, QStringLiteral("12")}, {}};
     const PromptRequest request{

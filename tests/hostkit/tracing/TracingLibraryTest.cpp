@@ -14,7 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// An editor that only remembers what it was told.
+// An editor that only records its calls.
 class PlainEditor : public IStyleEditor, public IStyleEditorForm
 {
 public:

@@ -28,7 +28,7 @@ protected:
     bool ConfirmDeletion(const LayerDeletion&) override { return true; }
 };
 
-// A map of three layers, the first two in a group, with everything that the client tells.
+// A map of three layers, the first two in a group, with all notifications of the client.
 class Steps : public HostKitTest
 {
 protected:
@@ -77,7 +77,7 @@ protected:
     UndoHistory& History() { return m_client.History(); }
     QStringList Told() { return std::exchange(m_told, {}); }
 
-    // As an editor does it.
+    // Edits a layer as an editor does.
     void Edit(qint32 layerID, const char* column, const Value& value)
     {
         const auto layers = Host().LayersTable();
@@ -125,7 +125,7 @@ protected:
                                     " FROM LayerSchemeValues ORDER BY SchemeID, LayerID"));
     }
 
-    // Does one thing, which must be one step, and goes there and back twice.
+    // Runs act, which must be one step, then undoes and redoes it twice.
     void ExpectOneStep(const QString& text, const std::function<void()>& act)
     {
         Host().GetSchemeNames(); // makes the first scheme

@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// Steps write what happens to them into one list.
+// Steps record their calls in a common list.
 struct Diary {
     QStringList lines;
     int undoError = 0;

@@ -11,7 +11,7 @@
 namespace Orvane::Testing {
 namespace {
 
-TEST(ModalForms, RunReturnsWhenThePersonClosesTheForm)
+TEST(ModalForms, RunReturnsWhenTheUserClosesTheForm)
 {
     ModalForms forms;
     QDialog form;

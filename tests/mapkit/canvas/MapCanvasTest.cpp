@@ -73,7 +73,7 @@ TEST_F(MapCanvasTest, ADragMovesTheMapWithThePointer)
     EXPECT_NEAR(m_canvas.View().ToPixel(grabbed).y(), 130, 1e-6);
 }
 
-TEST_F(MapCanvasTest, TheMapFollowsTheHandBeforeItIsDrawnAnew)
+TEST_F(MapCanvasTest, TheMapFollowsTheHandBeforeItIsDrawnAgain)
 {
     Drag({100, 100}, {180, 100});
     EXPECT_EQ(At({40, 100}), QColor(Qt::white));

@@ -35,7 +35,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([&] { return !m_picture.IsBusy(); }));
     }
 
-    // The layers drawn since the last question.
+    // The layers drawn since the last call.
     std::vector<qint32> Drawn()
     {
         std::vector<qint32> layerIDs;
@@ -79,7 +79,7 @@ TEST_F(MapPictureTest, AChangedLayerIsDrawnAloneAndOnce)
     EXPECT_EQ(At(30, 70), QColor(Qt::yellow));
 }
 
-TEST_F(MapPictureTest, HidingALayerDrawsNothingAnew)
+TEST_F(MapPictureTest, HidingALayerDrawsNothingAgain)
 {
     m_layers[1].visible = false;
     Show(m_layers);
@@ -97,7 +97,7 @@ TEST_F(MapPictureTest, ALayerThatComesBackIsDrawnAlone)
     EXPECT_EQ(At(30, 70), QColor(Qt::red));
 }
 
-TEST_F(MapPictureTest, AnotherPriorityDrawsNothingAnew)
+TEST_F(MapPictureTest, AnotherPriorityDrawsNothingAgain)
 {
     m_layers[1].priority = 1;
     Show(m_layers);
@@ -122,7 +122,7 @@ TEST_F(MapPictureTest, ALayerThatIsGoneIsNoLongerShown)
     EXPECT_EQ(At(30, 70), QColor(Qt::blue));
 }
 
-TEST_F(MapPictureTest, NewFeaturesDrawTheLayerAnew)
+TEST_F(MapPictureTest, NewFeaturesDrawTheLayerAgain)
 {
     m_layers[1].features = Area(0, 0, 10, 10);
     Show(m_layers);
@@ -130,7 +130,7 @@ TEST_F(MapPictureTest, NewFeaturesDrawTheLayerAnew)
     EXPECT_EQ(At(5, 95), QColor(Qt::red));
 }
 
-TEST_F(MapPictureTest, AnotherViewDrawsEverythingAnew)
+TEST_F(MapPictureTest, AnotherViewDrawsEverythingAgain)
 {
     m_picture.SetView(View.Panned({10, 0}), Scale, 1);
     Wait();

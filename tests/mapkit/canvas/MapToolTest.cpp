@@ -23,7 +23,7 @@ using testing::IsEmpty;
 
 namespace {
 
-// Notes the gestures it gets, and takes the drags it is told to take.
+// Records the gestures that it gets, and accepts drags if the test says so.
 class NotingTool : public MapTool
 {
 public:
@@ -194,9 +194,9 @@ TEST_F(MapToolTest, ADragEndsUnfinishedWhenTheToolIsPutAway)
 TEST_F(MapToolTest, WhatAToolRaisesIsToldAndTheCanvasGoesOn)
 {
     m_tool.fails = true;
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     QTest::mouseClick(&m_canvas, Qt::LeftButton, {}, {50, 50});
-    EXPECT_EQ(person.Only().text, "It fails.");
+    EXPECT_EQ(user.Only().text, "It fails.");
     m_tool.fails = false;
     QTest::mouseClick(&m_canvas, Qt::RightButton, {}, {70, 70});
     EXPECT_THAT(m_tool.notes, ElementsAre("click", "right click"));

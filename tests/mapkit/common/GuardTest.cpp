@@ -20,13 +20,13 @@ TEST(Guard, TellsThatTheActionEndedWell)
 
 TEST(Guard, ShowsWhatTheActionRaises)
 {
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     EXPECT_FALSE(Guard(nullptr, [] { throw RunTimeError(77, QStringLiteral("Größe")); }));
-    EXPECT_EQ(person.Only().text, QStringLiteral("Größe"));
-    EXPECT_EQ(person.Only().icon, QMessageBox::Warning);
+    EXPECT_EQ(user.Only().text, QStringLiteral("Größe"));
+    EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
 }
 
-TEST(Guard, SaysNothingOfWhatThePersonCancelled)
+TEST(Guard, SaysNothingOfWhatTheUserCancelled)
 {
     const MessageBoxRobot nobody{};
     EXPECT_FALSE(Guard(nullptr, [] { throw Cancelled(); }));

@@ -27,7 +27,7 @@ protected:
         return source.Read(source.Layers().at(0).name, filter, system, m_progress);
     }
 
-    // What the error says that reading the file raises.
+    // The text of the error that reading the file raises.
     QString ErrorOf(const QString& path, const QString& filter = {})
     {
         try {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files that are damaged, that lie, or that want more than to be read.
+// Files that are damaged, that contain false values, or that try to cause other accesses.
 #include "mapkit/DataFolder.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
@@ -78,7 +78,7 @@ protected:
     Progress m_progress;
 };
 
-// A server on this computer that only notices whether anybody calls.
+// A server on this computer that only records whether a client connects.
 class Listener
 {
 public:

@@ -86,7 +86,7 @@ TEST_F(MapOfVersion01, KeepsWhatASchemeFileSaysNothingAbout)
 {
     SchemeDocument scheme = SchemeFile::Read(FixturePath("scheme_0_1.json"));
     for (SchemeDocument::Layer& layer : scheme.layers)
-        layer.values.back() = Value(); // OverrideMode, as if that program had not known it
+        layer.values.back() = Value(); // OverrideMode, as if that version did not have the column
     m_document->Database().Execute(QStringLiteral("UPDATE Layers SET OverrideMode = 1 WHERE Name = 'Woods'"));
     SchemeExchange::Import(m_document->Database(), scheme);
     LayerSchemes(m_document->Database()).Load("Winter");

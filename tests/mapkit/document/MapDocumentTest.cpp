@@ -167,7 +167,7 @@ TEST_F(MapDocumentTest, ACopyThatCannotBeStoredLeavesTheFileThatIsThere)
     QDir(m_folder.Path("")).mkpath("closed");
     const QString path = m_folder.Write("closed/map.orvane", "precious");
     const QString folder = m_folder.Path("closed/map.orvane.part/in the way");
-    ASSERT_TRUE(QDir().mkpath(folder)); // as good as a full disk, for any user
+    ASSERT_TRUE(QDir().mkpath(folder)); // fails like a full disk, also for root
     EXPECT_THROW(MapDocument::Untitled()->SaveCopy(path), RunTimeError);
     EXPECT_THROW(MapDocument::CreateOver(path), RunTimeError);
     QFile file(path);

@@ -22,7 +22,7 @@ protected:
             QDir(m_folder.Path("")).mkpath(folder);
     }
 
-    // Where data that a map kept are looked for once the map is there.
+    // Where the stored path of data is found when the map file is at another path.
     QString Found(const QString& data, const QString& map) const
     {
         return SourcePaths(m_folder.Path(map)).Find(m_kept.Store(m_folder.Path(data)));

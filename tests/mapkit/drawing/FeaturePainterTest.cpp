@@ -14,7 +14,7 @@ using namespace Testing;
 
 namespace {
 
-// One map unit a pixel; (0, 0) is the window's lower left corner.
+// One map unit per pixel; (0, 0) is the window's lower left corner.
 const MapView View({50, 50}, 1, QSize(100, 100));
 
 class FeaturePainterTest : public testing::Test

@@ -17,7 +17,7 @@ using testing::UnorderedElementsAre;
 
 namespace {
 
-// One map unit a pixel; (0, 0) is the lower left corner.
+// One map unit per pixel; (0, 0) is the lower left corner.
 const MapView View({200, 200}, 1, QSize(400, 400));
 
 MapLayer Labelled(qint32 layerID, std::shared_ptr<const FeatureSet> features, std::vector<QString> texts)

@@ -17,7 +17,7 @@ using namespace Testing;
 
 namespace {
 
-// One map unit a pixel; (0, 0) is the lower left corner.
+// One map unit per pixel; (0, 0) is the lower left corner.
 const MapView View({50, 50}, 1, QSize(100, 100));
 constexpr qint32 Transparent = qint32(0xff000000u);
 constexpr qint32 Red = 0x0000ff; // BGR
@@ -27,7 +27,7 @@ constexpr qint32 Yellow = 0x00ffff;
 class LayerPainterTest : public testing::Test
 {
 protected:
-    // As a map file's row is drawn. numbers: one a feature, for classes.
+    // Draws as for a row of a map file. numbers: one per feature, for classes.
     QImage Picture(
         const DrawingValues& values, std::shared_ptr<const FeatureSet> features,
         const std::vector<double>& numbers = {})

@@ -14,14 +14,14 @@ using namespace Testing;
 
 namespace {
 
-// One map unit a pixel; (0, 0) is the lower left corner.
+// One map unit per pixel; (0, 0) is the lower left corner.
 const MapView View({50, 50}, 1, QSize(100, 100));
 constexpr double Scale = 10000;
 
 class MapPainterTest : public testing::Test
 {
 protected:
-    // The map at so many dots a pixel.
+    // The map at this many dots per pixel.
     QImage Picture(const std::vector<MapLayer>& layers, int dots = 1)
     {
         QImage image(View.Size() * dots, QImage::Format_RGB32);

@@ -97,7 +97,7 @@ TEST(MapView, AnEmptyWindowCountsAsOnePixel)
 
 TEST(MapView, TheScaleComparesGroundAndScreen)
 {
-    // 96 dots an inch are 3779.5 a metre.
+    // 96 dots per inch are 3779.5 per metre.
     EXPECT_NEAR(MapView({0, 0}, 1, Window).ScaleDenominator(1, 96), 3779.5, 0.1);
     EXPECT_NEAR(MapView({0, 0}, 1, Window).ScaleDenominator(1000, 96), 3779527.6, 0.1);
 }

@@ -64,7 +64,7 @@ QImage Painted(const LegendRow& row, int scale = 1)
     return image;
 }
 
-// Of the column in the middle of the sample.
+// The number of pixels of that colour in the column in the middle of the sample.
 int PixelsDown(const QImage& image, QColor colour)
 {
     int count = 0;

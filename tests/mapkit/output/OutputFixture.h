@@ -39,10 +39,10 @@ protected:
         return {m_document->Database(), m_services, {m_layers, "EPSG:32632", area, nullptr}, settings};
     }
 
-    /// Nothing but a map of a square page.
+    /// A square page with only a map.
     static PageSettings Bare(double side = 100) { return {{side, side}, 0, 254, {}, false, false, 0}; }
 
-    /// The page at that many dots a millimetre.
+    /// The page at this many dots per millimetre.
     static QImage Painted(const MapPage& page, double dotsPerMillimetre = 10)
     {
         QImage image((page.Settings().size * dotsPerMillimetre).toSize(), QImage::Format_RGB32);

@@ -134,9 +134,9 @@ TEST_F(EditActionsTest, LeaveTheKeysToATextEntry)
 TEST_F(EditActionsTest, ShowWhatGoesWrong)
 {
     Do("trouble");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     m_undo->trigger();
-    EXPECT_EQ(person.Only().text, "no luck");
+    EXPECT_EQ(user.Only().text, "no luck");
     EXPECT_TRUE(m_undo->isEnabled());
 }
 

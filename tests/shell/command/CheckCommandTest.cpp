@@ -13,7 +13,7 @@ namespace {
 class CheckCommandTest : public CommandFixture
 {
 protected:
-    /// A map with a group member whose layer is gone.
+    /// A map with a group member whose layer does not exist.
     QString DanglingMap()
     {
         const QString map = MakeMap("map.orvane");

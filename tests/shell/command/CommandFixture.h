@@ -9,7 +9,7 @@
 
 namespace Orvane::Testing {
 
-/// A command line, a folder to work in, and what was written to the terminal.
+/// A command line, a working folder, and the output to the terminal.
 class CommandFixture : public testing::Test
 {
 protected:

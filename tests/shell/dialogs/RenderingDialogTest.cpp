@@ -67,7 +67,7 @@ protected:
         return items;
     }
 
-    // Walks down the closed list to the item that begins so.
+    // Moves down the closed list to the item that begins with this text.
     static void Pick(QComboBox& list, const QString& text)
     {
         QTest::keyClick(&list, Qt::Key_Home);

@@ -69,10 +69,10 @@ TEST(SchemeReport, StopsNamingWhereNobodyReadsOn)
 TEST(SchemeReport, EnterAndEscapeLeaveTheLayersAsTheyAre)
 {
     QWidget window;
-    MessageBoxRobot person{BoxKey::Enter, BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Escape};
     EXPECT_EQ(AskAfterImport(SomeImport(), false, window), AfterImport::Stay);
     EXPECT_EQ(AskAfterImport(SomeImport(), true, window), AfterImport::Stay);
-    EXPECT_EQ(person.Boxes()[0].format, Qt::PlainText);
+    EXPECT_EQ(user.Boxes()[0].format, Qt::PlainText);
 }
 
 TEST(SchemeReport, TheOtherButtonSwitches)

@@ -17,7 +17,7 @@ TEST(FeatureSelection, DropsWhatCanNoLongerBeSelected)
     QSignalSpy changed(&selection, &FeatureSelection::Changed);
     std::vector<MapLayer> layers
         = {NamedLayer(1, "Plain", nullptr), NamedLayer(2, "Not selectable", nullptr),
-           NamedLayer(3, "Not hitable", nullptr)}; // and the fourth is gone
+           NamedLayer(3, "Not hitable", nullptr)}; // the fourth does not exist
     layers[0].visible = false;
     layers[1].flags.selectable = false;
     layers[2].flags.hitable = false;

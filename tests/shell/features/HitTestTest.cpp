@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 namespace {
 
-const MapView View({50, 50}, 0.5, {200, 200}); // two pixels a unit
+const MapView View({50, 50}, 0.5, {200, 200}); // two pixels per unit
 
 bool Any(const MapLayer&)
 {

@@ -75,7 +75,7 @@ TEST_F(LayerAttributesTest, FittingAgainChangesNothing)
     EXPECT_TRUE(m_layers[0].LooksLike(before));
 }
 
-TEST_F(LayerAttributesTest, AnotherAttributeIsReadAnew)
+TEST_F(LayerAttributesTest, AnotherAttributeIsReadAgain)
 {
     ReadAll();
     m_attributes.SetRendering(1, {"kind", {}, ClassDivision::Quantiles, 5});
@@ -83,7 +83,7 @@ TEST_F(LayerAttributesTest, AnotherAttributeIsReadAnew)
     EXPECT_EQ(Missing()[0].attribute, "kind");
 }
 
-TEST_F(LayerAttributesTest, AnotherNumberOfClassesIsNotReadAnew)
+TEST_F(LayerAttributesTest, AnotherNumberOfClassesIsNotReadAgain)
 {
     ReadAll();
     const MapLayer before = m_layers[0];
@@ -93,7 +93,7 @@ TEST_F(LayerAttributesTest, AnotherNumberOfClassesIsNotReadAnew)
     EXPECT_FALSE(m_layers[0].LooksLike(before));
 }
 
-TEST_F(LayerAttributesTest, FeaturesReadAnewNeedTheirAttributesAnew)
+TEST_F(LayerAttributesTest, FeaturesReadAnewNeedTheirAttributesAgain)
 {
     ReadAll();
     m_layers[0].features = Area(0, 0, 2, 2);
@@ -112,7 +112,7 @@ TEST_F(LayerAttributesTest, APlainStyleLeavesThemAside)
     EXPECT_TRUE(m_layers[0].classLooks.empty());
 }
 
-TEST_F(LayerAttributesTest, ForgottenLayersAreReadAnew)
+TEST_F(LayerAttributesTest, ForgottenLayersAreReadAgain)
 {
     ReadAll();
     m_attributes.Forget(1);

@@ -99,7 +99,7 @@ TEST_F(MapLayersTest, AnUnknownModeCountsAsNormal)
     EXPECT_EQ(First().mode, DrawMode::Normal);
 }
 
-TEST_F(MapLayersTest, OnlyTheLayersAskedForAreReadAnew)
+TEST_F(MapLayersTest, OnlyTheLayersAskedForAreReadAgain)
 {
     Change("Priority = 3");
     m_layers.Read({2});
@@ -122,7 +122,7 @@ TEST_F(MapLayersTest, ANewLayerJoinsTheList)
     EXPECT_EQ(m_layers.All().back().layerID, layerID);
 }
 
-TEST_F(MapLayersTest, ManyChangedLayersAreAllReadAnew)
+TEST_F(MapLayersTest, ManyChangedLayersAreAllReadAgain)
 {
     QSet<qint32> changed = {1, 2};
     while (changed.size() < 500)

@@ -122,7 +122,7 @@ TEST_F(MapSessionTest, NothingIsReadBeforeTheMapIsToBeRedrawn)
 
 TEST_F(MapSessionTest, ADeletedLayerLeavesTheMap)
 {
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     m_session->Client().DeleteLayer(2);
     WaitForPicture();
     ASSERT_EQ(m_canvas.Layers().size(), 1u);

@@ -26,7 +26,7 @@ using namespace Testing;
 
 namespace {
 
-// A map, the window that shows it, and another one that has it open.
+// A map, the window that shows it, and another window with the same map.
 class MapSharingTest : public testing::Test
 {
 protected:
@@ -52,7 +52,7 @@ protected:
         document.AddLayer(layer);
     }
 
-    // The person chooses that file in the dialog that opens next.
+    // The user chooses that file in the dialog that opens next.
     static void ChooseFile(const QString& path)
     {
         auto* timer = new QTimer(qApp);
@@ -80,7 +80,7 @@ protected:
 
 } // namespace
 
-TEST_F(MapSharingTest, WhatAnotherWindowAddsIsShownWhenThePersonComesBack)
+TEST_F(MapSharingTest, WhatAnotherWindowAddsIsShownWhenTheUserComesBack)
 {
     AddSquare(*m_other, "More", 20);
     EXPECT_EQ(Shown(), 1u);
@@ -113,12 +113,12 @@ TEST_F(MapSharingTest, OpeningAMapThatIsOpenElsewhereAsksFirst)
 {
     MainWindow third;
     {
-        MessageBoxRobot person{BoxKey::Escape};
+        MessageBoxRobot user{BoxKey::Escape};
         third.OpenMap(Path());
-        EXPECT_TRUE(person.Only().text.contains("map.orvane")) << qPrintable(person.Only().text);
+        EXPECT_TRUE(user.Only().text.contains("map.orvane")) << qPrintable(user.Only().text);
         EXPECT_EQ(third.Document().Path(), "");
     }
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     third.OpenMap(Path());
     EXPECT_EQ(third.Document().Path(), Path());
     EXPECT_EQ(third.Canvas().Layers().size(), 1u);
@@ -156,9 +156,9 @@ TEST_F(MapSharingTest, SavingOverAMapOfAnotherWindowIsRefusedAndBothMapsStay)
     const auto precious = MapDocument::Create(m_folder.Path("precious.orvane"));
     for (const char* command : {"actSaveMapAs", "actNewMap"}) {
         ChooseFile(precious->Path());
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Trigger(command);
-        EXPECT_TRUE(person.Only().text.contains("precious.orvane")) << qPrintable(person.Only().text);
+        EXPECT_TRUE(user.Only().text.contains("precious.orvane")) << qPrintable(user.Only().text);
         EXPECT_EQ(m_window->Document().Path(), Path()) << command;
         EXPECT_EQ(Shown(), 1u) << command;
     }
@@ -169,9 +169,9 @@ TEST_F(MapSharingTest, SavingOverAMapOfAnotherWindowIsRefusedAndBothMapsStay)
 TEST_F(MapSharingTest, AMapWhoseFileIsGoneIsSavedUnderItsOwnName)
 {
     m_other.reset();
-    MessageBoxRobot person{BoxKey::Escape};
+    MessageBoxRobot user{BoxKey::Escape};
     ASSERT_TRUE(QFile::remove(Path()));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !person.Boxes().empty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !user.Boxes().empty(); }));
     ChooseFile(Path());
     Trigger("actSaveMapAs");
     m_window.reset();

@@ -73,7 +73,7 @@ TEST_F(MapThemesTest, AThemeOfTheSameNameGetsOtherLayers)
     EXPECT_EQ(Names(), QStringList("Water"));
 }
 
-TEST_F(MapThemesTest, ThemesAreListedAsAPersonOrdersThem)
+TEST_F(MapThemesTest, ThemesAreListedAsAUserOrdersThem)
 {
     for (const char* name : {"Water", "Land", "Ash"})
         m_themes.StoreVisibleLayers(name);

@@ -27,12 +27,12 @@ using namespace Testing;
 
 namespace {
 
-/// Somebody who answers the dialogs of an output command as they come up.
-class Person : public QObject
+/// Answers the dialogs of an output command as they open.
+class User : public QObject
 {
 public:
     /// file: to be typed into the file dialog; empty to cancel there.
-    explicit Person(const QString& file = {}) : m_file(file)
+    explicit User(const QString& file = {}) : m_file(file)
     {
         connect(&m_look, &QTimer::timeout, this, [this] { Answer(QApplication::activeModalWidget()); });
         m_look.start(5);
@@ -43,7 +43,7 @@ public:
     bool showsAllTools = false; ///< the preview
 
 private:
-    // A dialog that an answer did not close is given up, so that no test waits for ever.
+    // A dialog that an answer did not close is cancelled, so that no test waits for ever.
     void Answer(QWidget* dialog)
     {
         auto* shown = qobject_cast<QDialog*>(dialog);
@@ -130,9 +130,9 @@ TEST_F(OutputActionsTest, TheCommandsAreInTheFileMenu)
 TEST_F(OutputActionsTest, TheMapThatIsShownIsExported)
 {
     QSettings().setValue("Output/Resolution", 50);
-    Person person(m_folder.Path("town.png"));
+    User user(m_folder.Path("town.png"));
     Trigger("actExport");
-    EXPECT_EQ(person.seen, QStringList({"page", "file"}));
+    EXPECT_EQ(user.seen, QStringList({"page", "file"}));
     const QImage image(m_folder.Path("town.png"));
     EXPECT_EQ(image.size(), QSize(585, 413));
     EXPECT_EQ(image.pixelColor(200, 210), QColor(Qt::red));
@@ -142,28 +142,28 @@ TEST_F(OutputActionsTest, TheFormatAndTheFolderAreRemembered)
 {
     QSettings().setValue("Output/Resolution", 50);
     {
-        const Person person(m_folder.Path("first.svg"));
+        const User user(m_folder.Path("first.svg"));
         Trigger("actExport");
     }
     EXPECT_EQ(QSettings().value("Output/Format").toString(), "svg");
     EXPECT_EQ(QSettings().value("Output/Folder").toString(), QFileInfo(m_folder.Path("x")).absolutePath());
-    const Person person("second");
+    const User user("second");
     Trigger("actExport");
     EXPECT_TRUE(QFile::exists(m_folder.Path("second.svg")));
 }
 
 TEST_F(OutputActionsTest, CancellingWritesNothing)
 {
-    const Person person;
+    const User user;
     Trigger("actExport");
-    EXPECT_EQ(person.seen, QStringList({"page", "file"}));
+    EXPECT_EQ(user.seen, QStringList({"page", "file"}));
     EXPECT_TRUE(QDir(m_folder.Path("")).entryList({"*.pdf"}).isEmpty());
 }
 
 TEST_F(OutputActionsTest, WhatCannotBeWrittenIsTold)
 {
     QFile blocked(m_folder.Path("town.gif"));
-    const Person person(blocked.fileName());
+    const User user(blocked.fileName());
     MessageBoxRobot reader{BoxKey::Enter};
     Trigger("actExport");
     EXPECT_TRUE(reader.Only().text.contains("town.gif")) << reader.Only().text.toStdString();
@@ -172,11 +172,11 @@ TEST_F(OutputActionsTest, WhatCannotBeWrittenIsTold)
 
 TEST_F(OutputActionsTest, PrintingShowsAPreviewOfOnePage)
 {
-    const Person person;
+    const User user;
     Trigger("actPrint");
-    EXPECT_EQ(person.seen, QStringList({"page", "preview"}));
-    EXPECT_EQ(person.pages, 1);
-    EXPECT_TRUE(person.showsAllTools);
+    EXPECT_EQ(user.seen, QStringList({"page", "preview"}));
+    EXPECT_EQ(user.pages, 1);
+    EXPECT_TRUE(user.showsAllTools);
 }
 
 } // namespace Orvane

@@ -61,7 +61,7 @@ TEST_F(MeasureToolTest, TheLineFollowsThePointerBeforeTheNextClick)
     EXPECT_THAT(m_line.Vertices(), SizeIs(1));
 }
 
-TEST_F(MeasureToolTest, ADoubleClickEndsAndTheNextClickBeginsAnew)
+TEST_F(MeasureToolTest, ADoubleClickEndsAndTheNextClickBeginsAgain)
 {
     Click(10, 90);
     DoubleClick(40, 90);

@@ -133,9 +133,9 @@ TEST_F(MoveToolTest, WhatCannotBeWrittenIsToldAndTheGhostIsGone)
 {
     m_fails = true;
     const QColor before = ColourAt(50, 30);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Drag({15, 15}, {45, 25});
-    EXPECT_EQ(person.Only().text, "The disk is full.");
+    EXPECT_EQ(user.Only().text, "The disk is full.");
     EXPECT_EQ(ColourAt(50, 30), before);
     EXPECT_NE(m_status, "Moved a feature of Houses.");
 }

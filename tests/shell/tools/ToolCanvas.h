@@ -59,8 +59,8 @@ inline MapLayer NamedLayer(
     return layer;
 }
 
-/// A canvas of 200 pixels square that shows 0 to 100 map units both ways, two pixels a unit, and a person's
-/// hand on it.
+/// A canvas of 200 pixels square that shows 0 to 100 map units both ways, two pixels per unit, and the mouse
+/// actions of a user.
 class ToolCanvasTest : public testing::Test
 {
 protected:

@@ -31,15 +31,15 @@ TEST(RunWithProgress, HandsOnWhatTheWorkRaises)
 
 TEST(RunWithProgress, TheDialogsButtonCancels)
 {
-    QTimer person;
-    QObject::connect(&person, &QTimer::timeout, [] {
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [] {
         for (QWidget* window : QApplication::topLevelWidgets()) {
             auto* dialog = qobject_cast<QProgressDialog*>(window);
             if (dialog && dialog->isVisible())
                 dialog->findChild<QPushButton*>()->click();
         }
     });
-    person.start(1);
+    user.start(1);
     const auto work = [](Progress& progress) {
         progress.Report(0.01);
         while (true)

@@ -78,7 +78,7 @@ TEST_F(Recorder, NamesTheChangedColumnsOfARow)
     const auto recorder = m_database->RecordChanges();
     Run("UPDATE Layers SET Name = 'a', Visible = 1, Selectable = 0 WHERE LayerID = 1");
     EXPECT_THAT(
-        ColumnsOf(recorder->Changes()), ElementsAre("Name", "Selectable")); // Visible had that value before
+        ColumnsOf(recorder->Changes()), ElementsAre("Name", "Selectable")); // Visible already had that value
 }
 
 TEST_F(Recorder, ARowThatIsAsBeforeDidNotChange)
@@ -124,7 +124,7 @@ TEST_F(Recorder, OneThatBeganEarlierSeesTheSame)
     const auto second = m_database->RecordChanges();
     Run("UPDATE Layers SET Name = 'a' WHERE LayerID = 1");
     EXPECT_FALSE(second->Changes().IsEmpty());
-    EXPECT_EQ(RowsOf(m_recorder->Changes()).size(), 3u); // the layers were made while it lived
+    EXPECT_EQ(RowsOf(m_recorder->Changes()).size(), 3u); // the layers were made while the recorder existed
 }
 
 TEST_F(Recorder, KeepsLargeChangesSmall)

@@ -44,7 +44,7 @@ protected:
                          " FROM LayerGroupMembers");
     }
 
-    // Undoes and redoes what the statements do, and looks at the database each time.
+    // Undoes and redoes the statements, and checks the database each time.
     void ExpectThereAndBack(std::initializer_list<const char*> statements)
     {
         const std::string before = Everything();

@@ -24,7 +24,7 @@ QString TreeOfGroup(const QString& name)
 
 using GroupAndLayer = std::pair<qint32, qint32>;
 
-/// What the component asks of a layer database, in the words it uses.
+/// The component's queries to a layer database, in their exact wording.
 class LayerQueries : public StoreTest
 {
 protected:

@@ -19,7 +19,7 @@ struct sqlite3;
 
 namespace Orvane::Testing {
 
-/// A second connection to a database file, made with SQLite alone: another program, as far as locks go.
+/// A second connection to a database file, made with SQLite alone: for locks it counts as another program.
 class RawDatabase
 {
 public:
@@ -28,7 +28,7 @@ public:
     RawDatabase(const RawDatabase&) = delete;
     RawDatabase& operator=(const RawDatabase&) = delete;
 
-    /// Runs statements; the test fails when they do.
+    /// Runs statements; the test fails when they fail.
     void Run(const char* sql);
     /// The first column of the first row.
     std::string Text(const char* sql);
@@ -37,7 +37,7 @@ private:
     sqlite3* m_handle = nullptr;
 };
 
-/// Scenarios on a layer database in a directory of their own.
+/// Scenarios on a layer database in a separate directory.
 class StoreTest : public testing::Test
 {
 protected:
@@ -68,7 +68,7 @@ private:
 
 /// The number of the RunTimeError that the act raises, 0 when it raises none.
 int ErrorOf(const std::function<void()>& act);
-/// Its description.
+/// The description of that RunTimeError.
 QString DescriptionOf(const std::function<void()>& act);
 
 } // namespace Orvane::Testing

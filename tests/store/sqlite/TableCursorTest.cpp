@@ -179,7 +179,7 @@ TEST_F(TableCursor, WhileAnEditRunsASetColumnGivesWhatWasSet)
     EXPECT_EQ(ToInt32(layers->Field("LayerID")), 7);
 }
 
-TEST_F(TableCursor, TheCursorStaysOnTheRowAfterUpdateAndReadsItAnew)
+TEST_F(TableCursor, TheCursorStaysOnTheRowAfterUpdateAndReadsItAgain)
 {
     const auto layers = EditedLayer(7);
     layers->SetField("MinVisScale", 12.5);

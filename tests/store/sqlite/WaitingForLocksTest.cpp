@@ -171,7 +171,7 @@ TEST_F(WaitingForLocks, AnEditOfARowThatTheOtherProgramDeletedIsReported)
     EXPECT_EQ(ErrorOf([&] { layer->Update(); }), int(ErrorNumber::DatabaseFailure));
 }
 
-TEST_F(WaitingForLocks, ALoopOverAQueryGoesOnWhenTheTransactionIsBegunAnew)
+TEST_F(WaitingForLocks, ALoopOverAQueryGoesOnWhenTheTransactionIsBegunAgain)
 {
     const auto database = Opened();
     std::vector<qint32> seen;

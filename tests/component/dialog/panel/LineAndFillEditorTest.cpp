@@ -247,11 +247,11 @@ TEST_F(LineAndFillEditorTest, TheSwatchesFitTheListsAsTheyAreShown)
 TEST_F(LineAndFillEditorTest, AnUnknownFillStyleIsToldAndTheFirstShown)
 {
     host.SetLayerColumn(1, "FillStyle", qint32(99));
-    const MessageBoxRobot person{BoxKey::Enter};
+    const MessageBoxRobot user{BoxKey::Enter};
     Open();
     ClickLayer("Roads");
     QCoreApplication::processEvents();
-    EXPECT_EQ(person.Only().text, "Unknown Fill Style!");
+    EXPECT_EQ(user.Only().text, "Unknown Fill Style!");
     EXPECT_EQ(Shown("cmbFillStyles"), "Solid fill");
     EXPECT_FALSE(CanApply());
 }
@@ -259,10 +259,10 @@ TEST_F(LineAndFillEditorTest, AnUnknownFillStyleIsToldAndTheFirstShown)
 TEST_F(LineAndFillEditorTest, AColumnThatHoldsNoNumberIsToldAndNothingIsStored)
 {
     host.SetLayerColumn(1, "FillForeColor", QString("green"));
-    const MessageBoxRobot person{BoxKey::Enter};
+    const MessageBoxRobot user{BoxKey::Enter};
     Open();
     ClickLayer("Roads");
-    EXPECT_EQ(person.Boxes().size(), 1u);
+    EXPECT_EQ(user.Boxes().size(), 1u);
     EXPECT_FALSE(CanApply());
     EXPECT_THAT(host.LayerColumn(1, "FillForeColor"), IsValue(QString("green")));
 }
@@ -270,10 +270,10 @@ TEST_F(LineAndFillEditorTest, AColumnThatHoldsNoNumberIsToldAndNothingIsStored)
 TEST_F(LineAndFillEditorTest, AThicknessBeyondTheListIsToldAndNothingIsStored)
 {
     host.SetLayerColumn(1, "LineThickness", qint32(2000));
-    const MessageBoxRobot person{BoxKey::Enter};
+    const MessageBoxRobot user{BoxKey::Enter};
     Open();
     ClickLayer("Roads");
-    EXPECT_EQ(person.Only().text, "Overflow");
+    EXPECT_EQ(user.Only().text, "Overflow");
     EXPECT_FALSE(CanApply());
     EXPECT_EQ(Stored(1, "LineThickness"), 2000);
 }

@@ -207,7 +207,7 @@ TEST_F(Panel, EachSliderOffersVariousForItsOwnSlotOnly)
     host.AddLayer({.id = 8, .name = "Far", .minVisScale = 5000.0, .maxVisScale = 20000.0});
     host.AddGroup({.id = 30, .name = QString("Mixed"), .ordering = 3, .members = {7, 8}});
     const auto offered = [this] {
-        SelectTransport(); // reads what comes next anew
+        SelectTransport(); // so that the next selection is read again
         ClickGroup("Mixed");
         std::vector<bool> various;
         for (const char* button : {"cmdEditMinScale", "cmdEditMaxScale", "cmdEditPriority"}) {
@@ -248,7 +248,7 @@ TEST_F(Panel, TheSliderStartsWhereTheLabelStands)
 
 TEST_F(Panel, EachSliderHangsUnderItsOwnButtonAndSaysItsLabel)
 {
-    Form()->move(0, -80); // so that the lowest popup has its place on a screen 600 pixels high
+    Form()->move(0, -80); // so that the lowest popup fits on a screen 600 pixels high
     ClickLayer("Rivers");
     const std::vector<std::pair<const char*, const char*>> pairs{
         {"cmdEditMinScale", "lblScaleMin"},

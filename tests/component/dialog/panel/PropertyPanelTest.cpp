@@ -205,12 +205,12 @@ TEST_F(Panel, OnlyReloadingClearsTheMarks)
     EXPECT_FALSE(CanApply());
 }
 
-TEST_F(Panel, ALabelThatCannotBeReadIsToldToThePerson)
+TEST_F(Panel, ALabelThatCannotBeReadIsToldToTheUser)
 {
     Find<QLabel>("lblPriority").setText("abc");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdEditPriority");
-    EXPECT_EQ(person.Only().text, "Type mismatch");
+    EXPECT_EQ(user.Only().text, "Type mismatch");
 }
 
 TEST_F(Panel, AButtonSpeaksTheValueThatItEditsAndWhetherItChanged)

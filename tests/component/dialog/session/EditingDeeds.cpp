@@ -51,7 +51,7 @@ void ClickMode(SessionFixture& session)
 
 // ---- sliders
 
-// Turns some keys, and answers what was confirmed as it is seen then.
+// Presses some keys in the slider, and returns the confirmed value as it is shown.
 std::optional<Shown> AskSlider(SessionFixture& session, const char* button)
 {
     std::optional<Shown> confirmed;

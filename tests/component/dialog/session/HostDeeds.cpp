@@ -12,7 +12,7 @@ namespace {
 
 using namespace Paper;
 
-/// Leaves out the layers whose number the divisor divides.
+/// Leaves out the layers whose number is a multiple of the divisor.
 class DivisorFilter : public IStyleFilter
 {
 public:
@@ -49,7 +49,7 @@ void WriteFilter(SessionFixture& session)
 {
     const auto answer = session.DecideAnswer();
     session.EditorForm().Filter(ChooseFilter(session));
-    session.dialog.ReadLayersAnew(answer);
+    session.dialog.ReadLayersAgain(answer);
 }
 
 void RefreshGroups(SessionFixture& session)

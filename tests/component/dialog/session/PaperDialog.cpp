@@ -65,7 +65,7 @@ void Dialog::EnsureLoaded(ListNumber number, Answer answer)
         LoadList(number, answer);
 }
 
-// A current node that is listed no more though it exists may take its edits before it goes.
+// A current node that exists but is no longer listed may get its edits before it leaves the list.
 void Dialog::LoadList(ListNumber number, Answer answer)
 {
     List& list = lists[number];
@@ -205,7 +205,7 @@ void Dialog::EnterCode(const QString& text)
     isModified = true;
 }
 
-// ---- deeds
+// ---- operations
 
 void Dialog::Ask(Answer answer)
 {
@@ -360,7 +360,7 @@ void Dialog::AddNewLayer(qint32 layerID, Answer answer)
         each.SetText(layerID, entry.text);
         each.SetMode(layerID, entry.mode);
     }
-    if (list.current == node && !wentOn) // else the look was at what this call led to
+    if (list.current == node && !wentOn) // else m_look saw the result of this call
         return;
     if (shownList == Layers)
         Ask(answer);
@@ -375,7 +375,7 @@ void Dialog::RefreshGroups()
     LoadList(Groups, Answer::No);
 }
 
-void Dialog::ReadLayersAnew(Answer answer)
+void Dialog::ReadLayersAgain(Answer answer)
 {
     LoadList(Layers, answer);
 }

@@ -27,18 +27,18 @@ struct Panel {
     bool operator==(const Panel&) const = default;
 };
 
-/// What the layer control should show and do, kept on paper: each deed of the person or of the host changes
+/// A model of what the layer control should show and do: each operation of the user or of the host changes
 /// the map and the screen as the dialog should.
 ///
 ///     dialog.Choose(node, Answer::Yes);
 ///     EXPECT_EQ(dialog.TakeBoxes(), boxesSeen);
 ///
-/// What a question is answered is told beforehand; the texts of the message boxes are kept for comparison.
+/// The answer to a question is given in advance; the texts of the message boxes are kept for comparison.
 class Dialog
 {
 public:
     enum class Answer { Yes, No };
-    /// Which node the real dialog went to when the current one was gone: any neighbour will do.
+    /// The node that the real dialog selected when the current one was removed: any neighbour is correct.
     using LookAtNode = std::function<std::optional<Node>(ListNumber)>;
 
     Dialog(Map& map, LookAtNode look) : m_map(map), m_look(std::move(look)) { }
@@ -50,18 +50,18 @@ public:
     std::array<List, 2> lists;
     Panel panel;
     bool isModified = false;
-    int redraws = 0; ///< of all times
+    int redraws = 0; ///< since the start
     std::set<qint32> filteredOut;
 
-    /// The current node of the list shown, while it is listed.
+    /// The current node of the shown list, if it is listed.
     std::optional<Node> CurrentNode() const;
     bool CanEdit() const { return tab != 3 && panel.node; }
     /// The texts of the message boxes since the last call.
     QStringList TakeBoxes() { return std::exchange(m_boxes, {}); }
-    /// A message box that the person gets to see.
+    /// Records a message box that the user sees.
     void Tell(const QString& text) { m_boxes.append(text); }
 
-    // What the person does.
+    // What the user does.
 
     void ShowTab(int wanted, Answer answer);
     void ClickShownTab(Answer answer);
@@ -69,7 +69,7 @@ public:
     void Apply();
     void Load();
     void SetFlag(Property flag);
-    /// The person sees the value on the control now; nothing for "various".
+    /// Sets the value that the control shows; nothing for "various".
     void SetValues(const std::vector<std::pair<Property, std::optional<double>>>& values);
     void SetMinScale(std::optional<double> index);
     void SetMaxScale(std::optional<double> index);
@@ -85,7 +85,7 @@ public:
     void Close(Answer answer) { Ask(answer); }
     void AddNewLayer(qint32 layerID, Answer answer);
     void RefreshGroups();
-    void ReadLayersAnew(Answer answer);
+    void ReadLayersAgain(Answer answer);
     void SetLayerCode(qint32 layerID);
     void ForgetLists();
 

@@ -37,10 +37,10 @@ struct Branch {
     bool operator==(const Branch&) const = default;
 };
 
-/// One of the two lists as it was read last.
+/// One of the two lists, as last read.
 struct List {
     bool isStale = true;
-    std::vector<Branch> branches; ///< one without a group for the flat list
+    std::vector<Branch> branches; ///< for the flat list one without a group
     std::optional<Node> current;
 
     bool Holds(const Node& node) const;

@@ -13,8 +13,8 @@ namespace Orvane {
 class ILayerDatabase;
 }
 
-/// What a layer database should hold, kept on paper beside the real one: plain numbers and the few rules of
-/// loading and applying, written down without any code of the component.
+/// A model of what the layer database should contain: plain numbers and the few rules of loading and
+/// applying, written without any code of the component.
 namespace Orvane::Testing::Paper {
 
 /// The columns of a layer that the dialog may write; booleans count as 0 and 1.
@@ -79,7 +79,7 @@ Map ReadMap(ILayerDatabase& database);
 /// What differs, one line each; empty when the maps are equal.
 QStringList Differences(const Map& expected, const Map& actual);
 
-/// The properties on the panel, each in a unit of its own: flags 0 and 1, colours BGR, scales as indexes.
+/// The properties on the panel, each in its own unit: flags 0 and 1, colours BGR, scales as indexes.
 enum Property {
     IsVisible,
     IsSelectable,
@@ -107,8 +107,8 @@ using Values = std::array<std::optional<double>, PropertyCount>;
 /// The properties that the layers have in common; none without layers.
 Values CommonValues(const std::vector<const Layer*>& layers);
 
-/// What the panel's controls can tell of the values: "dont care" reads as 0, a patterned line has no width,
-/// a line is known wholly or not at all, and a renderer style that is not listed is none.
+/// What the panel's controls can show of the values: "dont care" reads as 0, a patterned line has no width, a
+/// line is known completely or not at all, and a renderer style that is not listed counts as none.
 Values AsShown(const Values& record);
 
 /// Writes what the panel shows into the layer.

@@ -16,7 +16,7 @@ QComboBox& SchemeList(SessionFixture& session)
     return session.Find<QComboBox>("cmbScheme");
 }
 
-// What each scheme does to the layers, so that a switch is seen.
+// Each scheme changes the layers differently, so that a switch is visible.
 void ReachForScheme(SessionFixture& session, const QString& name)
 {
     for (auto& [layerID, layer] : session.map.layers) {
@@ -44,7 +44,7 @@ void SwitchScheme(SessionFixture& session)
     session.host.OnLoadScheme = nullptr;
     if (session.host.currentScheme != before)
         AfterSchemeLoaded(session);
-    const QStringList boxes = session.person.TakeBoxes();
+    const QStringList boxes = session.user.TakeBoxes();
     EXPECT_EQ(session.host.currentScheme != before, !boxes.isEmpty() && answer == Dialog::Answer::Yes);
     EXPECT_EQ(list.currentText(), session.host.currentScheme);
 }

@@ -8,22 +8,22 @@ namespace Orvane::Testing {
 
 class SessionFixture;
 
-/// Something that may happen in a session: done to the real dialog and on paper.
+/// An operation that may occur in a session: performed on the real dialog and on the model.
 struct Deed {
     const char* name;
-    int weight; ///< how often it happens, against the others
+    int weight; ///< how often it occurs, relative to the others
     std::function<void(SessionFixture&)> act;
 };
 
-/// What the person does to the settings and with Apply and Cancel.
+/// The user's operations on the settings, and with Apply and Cancel.
 std::vector<Deed> EditingDeeds();
-/// What the person does to the lists, the tabs and the layers.
+/// The user's operations on the lists, the tabs and the layers.
 std::vector<Deed> ListDeeds();
-/// What the person does to the schemes.
+/// The user's operations on the schemes.
 std::vector<Deed> SchemeDeeds();
-/// What the host asks of the dialog.
+/// The host's calls to the dialog.
 std::vector<Deed> HostDeeds();
-/// What somebody else does to the database meanwhile.
+/// Changes to the database by another program meanwhile.
 std::vector<Deed> StrangerDeeds();
 
 } // namespace Orvane::Testing

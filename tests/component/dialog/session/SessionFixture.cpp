@@ -124,14 +124,14 @@ std::vector<Branch> BranchesOf(const QTreeView& tree, ListNumber number)
 
 } // namespace
 
-// ---- the person
+// ---- the user
 
-AnsweringPerson::AnsweringPerson()
+AnsweringUser::AnsweringUser()
 {
     qApp->installEventFilter(this);
 }
 
-bool AnsweringPerson::eventFilter(QObject* watched, QEvent* event)
+bool AnsweringUser::eventFilter(QObject* watched, QEvent* event)
 {
     auto* box = qobject_cast<QMessageBox*>(watched);
     if (!box || event->type() != QEvent::Show)
@@ -188,7 +188,7 @@ void SessionFixture::FillMap()
     map = ReadMap(host.PlainDatabase());
 }
 
-// ---- hands and eyes
+// ---- actions and observations
 
 void SessionFixture::OpenEditor()
 {
@@ -208,7 +208,7 @@ bool SessionFixture::CanEdit()
 
 Dialog::Answer SessionFixture::DecideAnswer()
 {
-    return person.answer = dice.Chance(60) ? Dialog::Answer::Yes : Dialog::Answer::No;
+    return user.answer = dice.Chance(60) ? Dialog::Answer::Yes : Dialog::Answer::No;
 }
 
 void SessionFixture::Settle()
@@ -234,18 +234,18 @@ std::optional<Node> SessionFixture::SelectedNode(ListNumber number)
     return selected.isEmpty() ? std::nullopt : std::optional(NodeAt(selected.first()));
 }
 
-void SessionFixture::StartAnew(bool hasFailed)
+void SessionFixture::StartAgain(bool hasFailed)
 {
     client.Plan(NoFailure);
     if (!hasFailed)
         return;
-    person.answer = Dialog::Answer::No;
+    user.answer = Dialog::Answer::No;
     Editor().RefreshGroups();
     EditorForm().Filter(EditorForm().Filter());
     ClickTab(3);
     ClickTab(2);
     Settle();
-    person.TakeBoxes();
+    user.TakeBoxes();
     host.ClearLog();
     m_redraws = dialog.redraws;
     map = ReadMap(host.PlainDatabase());
@@ -262,7 +262,7 @@ void SessionFixture::StartAnew(bool hasFailed)
 
 void SessionFixture::Check()
 {
-    EXPECT_EQ(person.TakeBoxes(), dialog.TakeBoxes());
+    EXPECT_EQ(user.TakeBoxes(), dialog.TakeBoxes());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the pointer stays busy";
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(host.Log().CallsTo("RedrawMap").size(), dialog.redraws - m_redraws);

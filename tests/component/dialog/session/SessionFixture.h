@@ -9,7 +9,7 @@
 
 namespace Orvane::Testing {
 
-/// Chooses by a seed, the same on each machine.
+/// Random choices from a seed, the same on each machine.
 class Dice
 {
 public:
@@ -27,11 +27,12 @@ private:
     std::mt19937 m_engine;
 };
 
-/// Answers every message box that opens while it lives, a question as it was told to, and keeps the texts.
-class AnsweringPerson : public QObject
+/// Closes every message box that opens during its lifetime, a question with the given answer, and keeps the
+/// texts.
+class AnsweringUser : public QObject
 {
 public:
-    AnsweringPerson();
+    AnsweringUser();
 
     Paper::Dialog::Answer answer = Paper::Dialog::Answer::No;
     QStringList TakeBoxes() { return std::exchange(m_boxes, {}); }
@@ -42,7 +43,7 @@ private:
     QStringList m_boxes;
 };
 
-/// A layer control over a map of a dozen layers, and beside both what they should be on paper.
+/// A layer control over a map of a dozen layers, and models of what both should be.
 class SessionFixture : public EditorFixture
 {
 public:
@@ -58,9 +59,9 @@ public:
     explicit SessionFixture(unsigned seed);
 
     void OpenEditor();
-    /// Shows the settings if they are hidden; false when there is nothing that could be edited.
+    /// Shows the settings if they are hidden; false when nothing can be edited.
     bool CanEdit();
-    /// What the person will say to a question, now known on paper too.
+    /// Chooses the user's next answer to a question, for the dialog and for the model.
     Paper::Dialog::Answer DecideAnswer();
     void Settle();
 
@@ -68,13 +69,13 @@ public:
     std::optional<Paper::Node> SelectedNode(Paper::ListNumber number);
     static Paper::Node NodeAt(const QModelIndex& index);
 
-    /// Compares the database, the lists, the settings and the message boxes with the paper.
+    /// Compares the database, the lists, the settings and the message boxes with the model.
     void Check();
     /// The settings alone.
     void CheckPanel();
-    /// After a planned failure: no more of them, and where it has come in the middle of something, puts down
+    /// Call after a planned failure: plans no more, and if it interrupted an operation, sets the model to
     /// what is stored and listed now.
-    void StartAnew(bool hasFailed);
+    void StartAgain(bool hasFailed);
 
     /// An ID that no layer and no group has had.
     qint32 NewID() { return ++m_lastID; }
@@ -83,7 +84,7 @@ public:
     Dice dice;
     Paper::Map map;
     Paper::Dialog dialog;
-    AnsweringPerson person;
+    AnsweringUser user;
     FailingClient client;
 
 private:

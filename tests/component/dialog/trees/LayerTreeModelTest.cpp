@@ -37,7 +37,7 @@ NodeReference LayerNode(qint32 groupID, qint32 layerID)
     return {.isGroup = false, .groupID = groupID, .layerID = layerID};
 }
 
-/// A model under the eyes of Qt's tester, whose complaints are warnings and so fail the test.
+/// A model checked by Qt's model tester, whose messages are warnings and so fail the test.
 class LayerTreeModelTest : public testing::Test
 {
 protected:

@@ -27,10 +27,10 @@ protected:
 
     /// Loads both lists and makes one of them the active one.
     void Open(List list);
-    /// From now on everything goes through this client, e.g. one that fails.
+    /// All calls go through this client from now on, e.g. one that fails.
     void UseClient(IStyleEditorClient& client);
 
-    /// What a person sees from top to bottom, layers of groups after two blanks.
+    /// What a user sees from top to bottom, the layers of groups indented by two blanks.
     QStringList Lines(QTreeView& view) const;
     /// The first node of that text, under the group of that text if one is named.
     QModelIndex Node(QTreeView& view, const QString& text, const QString& group = {}) const;
@@ -43,7 +43,7 @@ protected:
     void Type(QTreeView& view, const QString& keys);
     /// The open name editor; nullptr when there is none.
     QLineEdit* NameEditor(QTreeView& view) const;
-    /// F2, the name, Enter.
+    /// Presses F2, types the name and presses Enter.
     void Rename(QTreeView& view, const QString& name);
     /// Lets queued work run.
     void Settle();

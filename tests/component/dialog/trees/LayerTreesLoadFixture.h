@@ -22,7 +22,7 @@ protected:
     QString TopOf(const QTreeView& view) const { return view.indexAt(QPoint(0, 0)).data().toString(); }
 };
 
-/// Hides one layer, or raises when it is asked about it.
+/// Hides one layer, or raises an error when asked about it.
 class FilterOnOne : public IStyleFilter
 {
 public:

@@ -178,9 +178,9 @@ TEST_F(LayerTreesMenuTest, LeavesTheGroupsAsTheyAreWhenTheyCannotBeStored)
     UseClient(client);
     QMenu* menu = MenuByMouse(groups, "Transport");
     ASSERT_TRUE(menu);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Choose(*menu, "Expand All");
-    EXPECT_EQ(person.Only().text, "locked");
+    EXPECT_EQ(user.Only().text, "locked");
     EXPECT_FALSE(groups.isExpanded(Node(groups, "Transport")));
 }
 
@@ -190,9 +190,9 @@ TEST_F(LayerTreesMenuTest, ReportsADatabaseThatCannotSayWhetherANameMayChange)
     Click(layers, "Rails");
     FailingClient client(host, {"LayersTable", 1, RunTimeError(ErrorNumber::DatabaseLocked, "locked")});
     UseClient(client);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     PressMenuKey(layers);
-    EXPECT_EQ(person.Only().text, "locked");
+    EXPECT_EQ(user.Only().text, "locked");
     EXPECT_FALSE(QApplication::activePopupWidget());
 }
 

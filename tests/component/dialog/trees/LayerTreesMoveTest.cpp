@@ -135,9 +135,9 @@ TEST_F(LayerTreesMoveTest, StaysWithAClickWhenApplyFails)
     Open(List::Layers);
     Click(layers, "Rails");
     LetApplyFail();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click(layers, "Roads");
-    EXPECT_EQ(person.Only().text, "locked");
+    EXPECT_EQ(user.Only().text, "locked");
     EXPECT_EQ(trees.CurrentText(), "Rails");
     EXPECT_EQ(Selected(layers), "Rails");
     EXPECT_EQ(layers.currentIndex().data().toString(), "Rails");
@@ -149,7 +149,7 @@ TEST_F(LayerTreesMoveTest, StaysWithAKeyWhenApplyFails)
     Open(List::Layers);
     Click(layers, "Rails");
     LetApplyFail();
-    MessageBoxRobot person{BoxKey::Enter}; // once, though the view selects twice
+    MessageBoxRobot user{BoxKey::Enter}; // once, though the view selects twice
     Press(layers, Qt::Key_Down);
     EXPECT_EQ(trees.CurrentText(), "Rails");
     EXPECT_EQ(Selected(layers), "Rails");
@@ -162,7 +162,7 @@ TEST_F(LayerTreesMoveTest, GoesOnAfterAFailedApplyOnceItSucceeds)
     Click(layers, "Rails");
     LetApplyFail();
     {
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Click(layers, "Roads");
     }
     Settle();
@@ -294,9 +294,9 @@ TEST_F(LayerTreesMoveTest, ReportsAnExpansionThatCannotBeStored)
     Open(List::Groups);
     FailingClient client(host, {"Update", 1, RunTimeError(ErrorNumber::DatabaseLocked, "locked")});
     UseClient(client);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     ClickBranch("Transport");
-    EXPECT_EQ(person.Only().text, "locked");
+    EXPECT_EQ(user.Only().text, "locked");
 }
 
 TEST_F(LayerTreesMoveTest, ShowsALayerImageOnAllItsNodesAndOnItsGroups)

@@ -32,7 +32,7 @@ protected:
     QString StoredName(qint32 layerID) { return ToText(host.LayerColumn(layerID, "Name")); }
 };
 
-/// A host that takes no new names.
+/// A host that rejects new names.
 class NoRenames : public ForwardingClient
 {
 public:
@@ -83,11 +83,11 @@ TEST_F(LayerTreesRenameTest, RefusesAnEmptyName)
 {
     Open(List::Layers);
     Click(layers, "Rails");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Rename(layers, "");
-    EXPECT_EQ(person.Only().text, "Invalid Name");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Warning);
-    EXPECT_THAT(person.Only().buttons, ElementsAre("OK"));
+    EXPECT_EQ(user.Only().text, "Invalid Name");
+    EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
+    EXPECT_THAT(user.Only().buttons, ElementsAre("OK"));
     EXPECT_THAT(Renames(), IsEmpty());
     EXPECT_EQ(trees.CurrentText(), "Rails");
 }
@@ -98,10 +98,10 @@ TEST_F(LayerTreesRenameTest, RefusesAnEmptyNameOnceAlsoWhenTheEditorLosesTheFocu
     Click(layers, "Rails");
     Press(layers, Qt::Key_F2);
     NameEditor(layers)->clear();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     groups.setFocus();
     Settle();
-    EXPECT_EQ(person.Boxes().size(), 1u);
+    EXPECT_EQ(user.Boxes().size(), 1u);
     EXPECT_EQ(trees.CurrentText(), "Rails");
     EXPECT_FALSE(NameEditor(layers));
 }
@@ -213,7 +213,7 @@ TEST_F(LayerTreesRenameTest, ProtectsAGroupThatIsMissing)
 TEST_F(LayerTreesRenameTest, DoesNotOpenOnAClickOrADoubleClick)
 {
     const int interval = QApplication::doubleClickInterval();
-    QApplication::setDoubleClickInterval(0); // so long after a click it could still edit
+    QApplication::setDoubleClickInterval(0); // an editor could open until this time after a click
     Open(List::Layers);
     Click(layers, "Rails");
     Click(layers, "Rails");
@@ -231,12 +231,12 @@ TEST_F(LayerTreesRenameTest, KeepsTheOldTextWhenTheHostRefuses)
     UseClient(client);
     Click(groups, "Roads", "Water");
     {
-        MessageBoxRobot person{BoxKey::Enter};
+        MessageBoxRobot user{BoxKey::Enter};
         Rename(groups, "Streets");
-        EXPECT_EQ(person.Only().text, "taken");
+        EXPECT_EQ(user.Only().text, "taken");
     }
     Click(groups, "Water");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Rename(groups, "Wet");
     EXPECT_THAT(Lines(groups), ElementsAre("Transport", "Water", "  Rivers", "  Roads"));
 }
@@ -247,9 +247,9 @@ TEST_F(LayerTreesRenameTest, ReportsADatabaseThatCannotSayWhetherANameMayChange)
     Click(layers, "Rails");
     FailingClient client(host, {"LayersTable", 1, RunTimeError(ErrorNumber::DatabaseLocked, "locked")});
     UseClient(client);
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Press(layers, Qt::Key_F2);
-    EXPECT_EQ(person.Only().text, "locked");
+    EXPECT_EQ(user.Only().text, "locked");
     EXPECT_FALSE(NameEditor(layers));
 }
 

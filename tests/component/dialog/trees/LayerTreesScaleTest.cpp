@@ -62,7 +62,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
     }
 
-    /// Notes a duration with the test's result; nothing depends on it.
+    /// Records a duration with the test's result; no check depends on it.
     template <typename Action> void Measure(const char* name, Action action)
     {
         QElapsedTimer timer;

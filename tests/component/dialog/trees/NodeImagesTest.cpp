@@ -20,7 +20,7 @@ struct Kind {
 const std::vector<Kind> AllKinds{{false, 0}, {false, 1}, {false, 2}, {false, 4},
                                  {true, 0},  {true, 1},  {true, 2},  {true, 4}};
 
-// Black on white, so that colour cannot help.
+// Black on white, so that the images must differ without colour.
 QImage Painted(const Kind& kind, int side)
 {
     QImage image(side, side, QImage::Format_RGB32);

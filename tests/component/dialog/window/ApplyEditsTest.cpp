@@ -159,10 +159,10 @@ TEST_F(Applying, AGroupThatChangedBehindTheDialogIsReportedOnce)
     ASSERT_NE(trees, nullptr);
     Editor().RefreshGroups();
     Click("chkLocked");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdApply");
-    EXPECT_EQ(person.Only().text, "Unexpected program flow in frmLayerStyles");
-    EXPECT_EQ(person.Only().icon, QMessageBox::NoIcon);
+    EXPECT_EQ(user.Only().text, "Unexpected program flow in frmLayerStyles");
+    EXPECT_EQ(user.Only().icon, QMessageBox::NoIcon);
     EXPECT_EQ(Stored(2, "OverrideMode"), 0);
 }
 

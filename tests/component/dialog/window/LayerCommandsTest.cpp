@@ -76,10 +76,10 @@ TEST_F(Commands, ADeletedLayerLeavesItsGroupsToo)
 TEST_F(Commands, ASystemLayerIsNeverDeleted)
 {
     ClickLayer("Boundary");
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdDeleteLayer");
-    EXPECT_EQ(person.Only().text, "You may not delete a 'system layer'");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Warning);
+    EXPECT_EQ(user.Only().text, "You may not delete a 'system layer'");
+    EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
     EXPECT_THAT(host.Log().CallsTo("DeleteLayer"), IsEmpty());
     EXPECT_EQ(Layers(), 4);
 }
@@ -128,10 +128,10 @@ TEST_F(Commands, APendingCodeIsOfferedAndCheckedAgain)
     host.promptAnswers = {{true, "77"}, {true, "77"}};
     DoubleClickCode();
     host.AddLayer({.id = 70, .name = "Wells", .code = qint32(77)});
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     DoubleClickCode();
     EXPECT_EQ(host.promptRequests[1].defaultText, "77");
-    EXPECT_EQ(person.Only().text, "Code 77 has already been assigned. Please assign another code.");
+    EXPECT_EQ(user.Only().text, "Code 77 has already been assigned. Please assign another code.");
     EXPECT_EQ(TextOf("lblCode"), "77");
 }
 
@@ -172,10 +172,10 @@ TEST_F(Commands, TheSameCodeLeavesTheDialogUnmodified)
 TEST_F(Commands, ACodeOfAnotherLayerIsRefused)
 {
     host.promptAnswers = {{true, "12"}};
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     DoubleClickCode();
-    EXPECT_EQ(person.Only().text, "Code 12 has already been assigned. Please assign another code.");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Warning);
+    EXPECT_EQ(user.Only().text, "Code 12 has already been assigned. Please assign another code.");
+    EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
     EXPECT_EQ(TextOf("lblCode"), "11");
     EXPECT_FALSE(CanApply());
 }

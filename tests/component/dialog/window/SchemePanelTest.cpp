@@ -62,19 +62,19 @@ TEST_F(Schemes, PickingTheCurrentOneAsksNothing)
 
 TEST_F(Schemes, PickingAnotherAsksAndSwitches)
 {
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     PickScheme("Print");
     EXPECT_EQ(
-        person.Only().text,
+        user.Only().text,
         "Switch to 'Print'? Any unsaved changes to the current scheme will be lost. Continue?");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+    EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)"));
     EXPECT_EQ(List().currentText(), "Print");
 }
 
 TEST_F(Schemes, RefusingShowsTheCurrentOneAgain)
 {
-    MessageBoxRobot person{BoxKey::No};
+    MessageBoxRobot user{BoxKey::No};
     PickScheme("Print");
     EXPECT_THAT(Deeds(), IsEmpty());
     EXPECT_EQ(List().currentText(), "Night");
@@ -84,7 +84,7 @@ TEST_F(Schemes, SwitchingShowsTheBusyPointerMeanwhile)
 {
     bool wasBusy = false;
     host.OnLoadScheme = [&](const QString&) { wasBusy = QGuiApplication::overrideCursor() != nullptr; };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     PickScheme("Day");
     EXPECT_TRUE(wasBusy);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -93,7 +93,7 @@ TEST_F(Schemes, SwitchingShowsTheBusyPointerMeanwhile)
 TEST_F(Schemes, SwitchingRefreshesTheCaption)
 {
     host.OnLoadScheme = [&](const QString&) { host.themeName = "Rivers"; };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     PickScheme("Day");
     EXPECT_EQ(Form()->windowTitle(), "Theme Control: Rivers");
 }
@@ -101,7 +101,7 @@ TEST_F(Schemes, SwitchingRefreshesTheCaption)
 TEST_F(Schemes, ASwitchShowsWhatTheHostMadeCurrent)
 {
     host.OnLoadScheme = [&](const QString&) { host.currentScheme = "Day"; };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     PickScheme("Print");
     EXPECT_EQ(List().currentText(), "Day");
 }
@@ -111,7 +111,7 @@ TEST_F(Schemes, RevertingIsBusyAndThePointerThatWasThereComesBack)
     QGuiApplication::setOverrideCursor(Qt::CrossCursor);
     Qt::CursorShape meanwhile = Qt::ArrowCursor;
     host.OnLoadScheme = [&](const QString&) { meanwhile = QGuiApplication::overrideCursor()->shape(); };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdRevert");
     EXPECT_EQ(meanwhile, Qt::WaitCursor);
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::CrossCursor);
@@ -121,17 +121,17 @@ TEST_F(Schemes, RevertingIsBusyAndThePointerThatWasThereComesBack)
 TEST_F(Schemes, ADeletionSelectsAnEntryThatExistsAndItsButtonsWork)
 {
     host.OnLoadScheme = [&](const QString&) { host.currentScheme = "Elsewhere"; };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdDelete");
     EXPECT_EQ(List().currentIndex(), 0);
     for (const char* button : {"cmdSave", "cmdRevert", "cmdDelete"})
         EXPECT_TRUE(Find(button).isEnabled()) << button;
 }
 
-TEST_F(Schemes, SwitchingReadsTheLayersAnew)
+TEST_F(Schemes, SwitchingReadsTheLayersAgain)
 {
     host.OnLoadScheme = [&](const QString&) { host.SetLayerColumn(1, "OverrideMode", qint32(2)); };
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     PickScheme("Day");
     ClickTab(2);
     ClickLayer("Roads");
@@ -152,18 +152,18 @@ TEST_F(Schemes, ANewOneIsCreatedUnderItsTrimmedName)
 TEST_F(Schemes, ABlankNameIsRefusedUntilOneIsGiven)
 {
     host.promptAnswers = {{true, "   "}, {true, ""}, {true, "Winter"}};
-    MessageBoxRobot person{BoxKey::Enter, BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Enter};
     Click("cmdNew");
-    ASSERT_EQ(person.Boxes().size(), 2u);
-    EXPECT_EQ(person.Boxes().front().text, "Please supply a non-blank name, or cancel.");
-    EXPECT_EQ(person.Boxes().front().icon, QMessageBox::Information);
+    ASSERT_EQ(user.Boxes().size(), 2u);
+    EXPECT_EQ(user.Boxes().front().text, "Please supply a non-blank name, or cancel.");
+    EXPECT_EQ(user.Boxes().front().icon, QMessageBox::Information);
     EXPECT_THAT(Deeds(), Contains("CreateScheme(Winter)"));
 }
 
 TEST_F(Schemes, ACancelledNameCreatesNothing)
 {
     host.promptAnswers = {{true, " "}, {false, ""}};
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdNew");
     EXPECT_THAT(host.Log().CallsTo("CreateScheme"), IsEmpty());
 }
@@ -171,13 +171,13 @@ TEST_F(Schemes, ACancelledNameCreatesNothing)
 TEST_F(Schemes, SavingAsksFirst)
 {
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         Click("cmdSave");
-        EXPECT_EQ(person.Only().text, "Save current layer setup to scheme 'Night'?");
-        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+        EXPECT_EQ(user.Only().text, "Save current layer setup to scheme 'Night'?");
+        EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     }
     EXPECT_THAT(Deeds(), IsEmpty());
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdSave");
     EXPECT_THAT(Deeds(), ElementsAre("SaveScheme(Night)"));
 }
@@ -185,23 +185,23 @@ TEST_F(Schemes, SavingAsksFirst)
 TEST_F(Schemes, RevertingAsksFirst)
 {
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         Click("cmdRevert");
-        EXPECT_EQ(person.Only().text, "Revert to the last saved values in layer scheme 'Night'?");
-        EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+        EXPECT_EQ(user.Only().text, "Revert to the last saved values in layer scheme 'Night'?");
+        EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     }
     EXPECT_THAT(Deeds(), IsEmpty());
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdRevert");
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Night)"));
 }
 
 TEST_F(Schemes, DeletingFallsBackToTheNextOne)
 {
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdDelete");
-    EXPECT_EQ(person.Only().text, "Delete layer scheme 'Night'?");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Question);
+    EXPECT_EQ(user.Only().text, "Delete layer scheme 'Night'?");
+    EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "DeleteScheme(Night)"));
     EXPECT_THAT(Names(), ElementsAre("Day", "Print"));
     EXPECT_EQ(List().currentText(), "Print");
@@ -209,7 +209,7 @@ TEST_F(Schemes, DeletingFallsBackToTheNextOne)
 
 TEST_F(Schemes, DeletingTheLastInTheListFallsBackToTheOneBefore)
 {
-    MessageBoxRobot person{BoxKey::Yes, BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Yes};
     PickScheme("Print");
     Click("cmdDelete");
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)", "LoadScheme(Night)", "DeleteScheme(Print)"));
@@ -217,7 +217,7 @@ TEST_F(Schemes, DeletingTheLastInTheListFallsBackToTheOneBefore)
 
 TEST_F(Schemes, RefusingToDeleteKeepsIt)
 {
-    MessageBoxRobot person{BoxKey::No};
+    MessageBoxRobot user{BoxKey::No};
     Click("cmdDelete");
     EXPECT_THAT(Deeds(), IsEmpty());
 }
@@ -225,39 +225,39 @@ TEST_F(Schemes, RefusingToDeleteKeepsIt)
 TEST_F(Schemes, TheLastOneCannotBeDeleted)
 {
     {
-        MessageBoxRobot person{BoxKey::Yes, BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes, BoxKey::Yes};
         Click("cmdDelete");
         Click("cmdDelete");
     }
     host.ClearLog();
-    MessageBoxRobot person{BoxKey::Enter};
+    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdDelete");
-    EXPECT_EQ(person.Only().text, "The last layer scheme cannot be deleted.");
-    EXPECT_EQ(person.Only().icon, QMessageBox::Information);
+    EXPECT_EQ(user.Only().text, "The last layer scheme cannot be deleted.");
+    EXPECT_EQ(user.Only().icon, QMessageBox::Information);
     EXPECT_THAT(Deeds(), IsEmpty());
 }
 
 TEST_F(Schemes, SavingToTheStartupAsksFirst)
 {
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         Click("cmdSaveStartup");
         EXPECT_EQ(
-            person.Only().text, "Are you sure you wish to save the colour schemes to the startup database?");
+            user.Only().text, "Are you sure you wish to save the colour schemes to the startup database?");
     }
     EXPECT_THAT(Deeds(), IsEmpty());
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Click("cmdSaveStartup");
     EXPECT_THAT(Deeds(), ElementsAre("SaveSchemesToStartup()"));
 }
 
 TEST_F(Schemes, KeysSwitchToo)
 {
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     List().setFocus();
     QTest::keyClick(&List(), Qt::Key_Down);
     QCoreApplication::processEvents();
-    EXPECT_TRUE(person.Only().text.contains("'Print'"));
+    EXPECT_TRUE(user.Only().text.contains("'Print'"));
     EXPECT_THAT(Deeds(), ElementsAre("LoadScheme(Print)"));
 }
 
@@ -287,10 +287,10 @@ TEST_F(Schemes, AnyTextIsAName)
         host.promptAnswers = {{true, name}};
         Click("cmdNew");
         EXPECT_THAT(Names(), Contains(name));
-        MessageBoxRobot person{BoxKey::Yes};
+        MessageBoxRobot user{BoxKey::Yes};
         PickScheme(name == host.currentScheme ? QString("Day") : name);
-        EXPECT_EQ(person.Only().format, Qt::PlainText);
-        EXPECT_LT(person.Only().text.size(), 200);
+        EXPECT_EQ(user.Only().format, Qt::PlainText);
+        EXPECT_LT(user.Only().text.size(), 200);
         EXPECT_EQ(List().currentText(), host.currentScheme);
     }
 }

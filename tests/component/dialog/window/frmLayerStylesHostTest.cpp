@@ -126,7 +126,7 @@ TEST_F(Lifecycle, ClosingWithEditsAsksAndYesStoresThem)
     Open();
     ClickLayer("Roads");
     Click("chkVisible");
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     Form()->close();
     EXPECT_EQ(Form(), nullptr);
     EXPECT_EQ(Stored(1, "Visible"), 0);
@@ -137,7 +137,7 @@ TEST_F(Lifecycle, ClosingWithEditsAsksAndNoDropsThem)
     Open();
     ClickLayer("Roads");
     Click("chkVisible");
-    MessageBoxRobot person{BoxKey::No};
+    MessageBoxRobot user{BoxKey::No};
     Close();
     EXPECT_EQ(Form(), nullptr);
     EXPECT_EQ(Stored(1, "Visible"), 1);
@@ -187,7 +187,7 @@ TEST_F(Lifecycle, ReleasingTheLibraryDropsTheEditsOfAnOpenEditor)
     EXPECT_EQ(Stored(1, "Visible"), 1);
 }
 
-// ---- lists that changed behind the dialog
+// ---- lists that changed without the dialog
 
 TEST_F(Lifecycle, LeavingAListWithEditsAsksOnceThoughTheOtherListLostItsNode)
 {
@@ -199,9 +199,9 @@ TEST_F(Lifecycle, LeavingAListWithEditsAsksOnceThoughTheOtherListLostItsNode)
     Click("chkLocked");
     Editor().StyleFilter(&filter);
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         ClickTab(2);
-        EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Transport' group?");
+        EXPECT_EQ(user.Only().text, "Do you wish to apply the changes to the 'Transport' group?");
     }
     EXPECT_FALSE(CanApply());
     EXPECT_EQ(CurrentTab(), 2);
@@ -218,9 +218,9 @@ TEST_F(Lifecycle, LeavingTheLayersAsksOnceThoughTheCurrentGroupIsListedNoMore)
     host.SetGroupColumn(10, "Pseudo", true);
     EditorForm().Refresh();
     Click("chkLocked");
-    MessageBoxRobot person{BoxKey::No};
+    MessageBoxRobot user{BoxKey::No};
     ClickTab(1);
-    EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Parcels' layer?");
+    EXPECT_EQ(user.Only().text, "Do you wish to apply the changes to the 'Parcels' layer?");
     EXPECT_FALSE(CanApply());
     EXPECT_EQ(Stored(1, "locked"), 0);
     EXPECT_EQ(Stored(2, "locked"), 1);
@@ -257,7 +257,7 @@ TEST_F(Lifecycle, RefreshGroupsChangesOnlyTheTreeWhileTheLayersAreShown)
     EXPECT_EQ(Nodes("tvLayers1"), 1);
     EXPECT_EQ(CurrentTab(), 2);
     EXPECT_EQ(TextOf("lblCode"), "12");
-    EXPECT_EQ(TextOf("lblPriority"), "100") << "the layer was not read anew";
+    EXPECT_EQ(TextOf("lblPriority"), "100") << "the layer was not read again";
 }
 
 TEST_F(Lifecycle, AClickOnTheShownTabReadsAListThatIsStale)

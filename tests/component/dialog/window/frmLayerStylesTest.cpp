@@ -289,9 +289,9 @@ TEST_F(Lifecycle, LeavingATabWithEditsAsksAndNoDropsThem)
     ClickLayer("Roads");
     Click("chkVisible");
     {
-        MessageBoxRobot person{BoxKey::No};
+        MessageBoxRobot user{BoxKey::No};
         ClickTab(3);
-        EXPECT_EQ(person.Only().text, "Do you wish to apply the changes to the 'Roads' layer?");
+        EXPECT_EQ(user.Only().text, "Do you wish to apply the changes to the 'Roads' layer?");
     }
     EXPECT_FALSE(CanApply());
     ClickTab(2);
@@ -304,7 +304,7 @@ TEST_F(Lifecycle, LeavingATabWithEditsAsksAndYesAppliesThem)
     Open();
     ClickLayer("Roads");
     Click("chkVisible");
-    MessageBoxRobot person{BoxKey::Yes};
+    MessageBoxRobot user{BoxKey::Yes};
     ClickTab(1);
     EXPECT_EQ(Stored(1, "Visible"), 0);
     EXPECT_EQ(CurrentTab(), 1);

@@ -9,7 +9,7 @@ namespace Orvane::Testing {
 
 namespace {
 
-/// Values on their way into a column and back.
+/// Values that are written to a column and read back.
 class StoredValues : public StoreTest
 {
 protected:

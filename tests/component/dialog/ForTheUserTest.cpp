@@ -21,7 +21,7 @@ namespace Orvane::Testing {
 
 namespace {
 
-/// Gives the program a font that is half as large again while it lives.
+/// Enlarges the program's font by half during its lifetime.
 class LargeFont
 {
 public:
@@ -37,7 +37,7 @@ private:
     QFont m_before = QApplication::font();
 };
 
-/// Makes the component speak the language of one of its catalogues while it lives; English without a name.
+/// Shows the component in the language of one of its catalogues during its lifetime; English without a name.
 class Catalogue
 {
 public:
@@ -60,13 +60,13 @@ void TurnWheel(QWidget& control)
     QApplication::sendEvent(&control, &event);
 }
 
-// The toolkit's own arrows, for tabs that have no room.
+// Qt's own arrows, which are shown when the tabs do not fit.
 bool IsPartOfTabs(const QWidget& control)
 {
     return qobject_cast<const QTabBar*>(control.parentWidget());
 }
 
-class ForThePerson : public EditorFixture
+class ForTheUser : public EditorFixture
 {
 protected:
     void SetUp() override { AddTown(); }
@@ -126,7 +126,7 @@ protected:
     }
 };
 
-TEST_F(ForThePerson, EveryControlHasATextOrAnAccessibleName)
+TEST_F(ForTheUser, EveryControlHasATextOrAnAccessibleName)
 {
     Open();
     for (const QWidget* control : Form()->findChildren<QWidget*>()) {
@@ -143,7 +143,7 @@ TEST_F(ForThePerson, EveryControlHasATextOrAnAccessibleName)
     }
 }
 
-TEST_F(ForThePerson, NoTwoControlsOfATabShareAMnemonicInAnyLanguage)
+TEST_F(ForTheUser, NoTwoControlsOfATabShareAMnemonicInAnyLanguage)
 {
     Library();
     for (const char* language : {"", "de", "fr", "ja"}) {
@@ -160,7 +160,7 @@ TEST_F(ForThePerson, NoTwoControlsOfATabShareAMnemonicInAnyLanguage)
     }
 }
 
-TEST_F(ForThePerson, EveryTextHasRoomInEveryLanguage)
+TEST_F(ForTheUser, EveryTextHasRoomInEveryLanguage)
 {
     Library();
     for (const char* language : {"de", "fr", "ja"}) {
@@ -169,7 +169,7 @@ TEST_F(ForThePerson, EveryTextHasRoomInEveryLanguage)
     }
 }
 
-TEST_F(ForThePerson, TheWheelChangesNoListThatHasNotTheFocus)
+TEST_F(ForTheUser, TheWheelChangesNoListThatHasNotTheFocus)
 {
     host.schemeNames = QStringList{"Standard", "Night"};
     OpenOn("Roads");
@@ -192,25 +192,25 @@ TEST_F(ForThePerson, TheWheelChangesNoListThatHasNotTheFocus)
     }
 }
 
-TEST_F(ForThePerson, EveryTextHasRoom)
+TEST_F(ForTheUser, EveryTextHasRoom)
 {
     EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
 }
 
-TEST_F(ForThePerson, EveryTextHasRoomInALargeFont)
+TEST_F(ForTheUser, EveryTextHasRoomInALargeFont)
 {
     const LargeFont large;
     EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
 }
 
-TEST_F(ForThePerson, EveryTextHasRoomWhenItIsLongerByHalf)
+TEST_F(ForTheUser, EveryTextHasRoomWhenItIsLongerByHalf)
 {
     Library();
     const PseudoLanguage pseudo;
     EXPECT_EQ(ClippedTextsAnywhere(), QStringList());
 }
 
-TEST_F(ForThePerson, EveryTextOfTheFormIsTranslated)
+TEST_F(ForTheUser, EveryTextOfTheFormIsTranslated)
 {
     Library();
     const PseudoLanguage pseudo;
@@ -229,7 +229,7 @@ TEST_F(ForThePerson, EveryTextOfTheFormIsTranslated)
     }
 }
 
-TEST_F(ForThePerson, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
+TEST_F(ForTheUser, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
 {
     Library();
     {
@@ -238,7 +238,7 @@ TEST_F(ForThePerson, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
         ChooseScale("cmdEditMaxScale", 256);
         EXPECT_EQ(TextOf("lblScaleMax"), Pseudo("dont care"));
     }
-    // The form reads the messages anew, from a folder that holds none: English.
+    // The form reads the messages again, from a folder without any, so it is in English.
     QEvent change(QEvent::LanguageChange);
     QApplication::sendEvent(Form(), &change);
     EXPECT_EQ(TextOf("lblScaleMax"), "dont care");
@@ -250,7 +250,7 @@ TEST_F(ForThePerson, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
     EditorForm().UnloadWithoutApply();
 }
 
-TEST_F(ForThePerson, ALargerFontWhileItIsOpenStillFits)
+TEST_F(ForTheUser, ALargerFontWhileItIsOpenStillFits)
 {
     OpenOn("Roads");
     const LargeFont large;
@@ -258,7 +258,7 @@ TEST_F(ForThePerson, ALargerFontWhileItIsOpenStillFits)
         << qPrintable(ClippedTexts().join(' '));
 }
 
-TEST_F(ForThePerson, AValueNeverMakesTheDialogWider)
+TEST_F(ForTheUser, AValueNeverMakesTheDialogWider)
 {
     OpenOn("Roads");
     const int before = Find("picLayerStyle").width();
