@@ -3,6 +3,7 @@
 
 #include "ovctrls/LinePatterns.h"
 #include "ovctrls/StyleStringParser.h"
+#include "samples/BgrColour.h"
 
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -30,11 +31,6 @@ constexpr int lightnessOfPaper = 200; // of 255, as the difference from the ligh
 constexpr double smallestPoints = 1;
 constexpr double largestPoints = 200;
 
-QColor ColourOf(qint32 bgr)
-{
-    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
-}
-
 // Paints the elements of one item one after the other.
 class ItemPainter
 {
@@ -55,7 +51,7 @@ public:
 
     void operator()(const TabStop&) { m_cursor = m_origin = std::max(m_cursor, m_look.tabColumn); }
 
-    void operator()(const ForeColour& fore) { m_foreColour = ColourOf(fore.colour); }
+    void operator()(const ForeColour& fore) { m_foreColour = QColorFromBgr(fore.colour); }
 
     void operator()(const FontChange& change)
     {
@@ -80,7 +76,7 @@ public:
 private:
     QColor DrawingColour(qint32 colour) const
     {
-        return colour == 0 && !m_foreColour ? m_look.textColour : ColourOf(colour);
+        return colour == 0 && !m_foreColour ? m_look.textColour : QColorFromBgr(colour);
     }
 
     QPen PenOf(const Drawing& drawing) const
@@ -100,7 +96,7 @@ private:
             m_painter.setPen(Qt::NoPen);
             m_painter.setBrush(DrawingColour(drawing.brushColour));
             m_painter.drawPolygon(figure.points);
-            if (m_foreColour && IsLostOnPaper(ColourOf(drawing.brushColour)))
+            if (m_foreColour && IsLostOnPaper(QColorFromBgr(drawing.brushColour)))
                 PaintOutline(bounds.toAlignedRect());
         } else {
             m_painter.setPen(PenOf(drawing));

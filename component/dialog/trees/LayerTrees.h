@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/ListTab.h"
+#include "component/dialog/place/ListTab.h"
 #include "component/dialog/trees/NodeKey.h"
 
 #include <QObject>

@@ -3,12 +3,12 @@
 
 #include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/panel/SliderPopup.h"
+#include "component/dialog/place/WindowGeometry.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/window/EditorLayout.h"
 #include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/QuickModeToolbar.h"
 #include "component/dialog/window/SchemePanel.h"
-#include "component/dialog/window/WindowGeometry.h"
 
 #include <memory>
 

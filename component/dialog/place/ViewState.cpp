@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/window/ViewState.h"
+#include "component/dialog/place/ViewState.h"
 
 #include "component/common/TextHelpers.h"
 

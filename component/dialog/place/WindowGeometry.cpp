@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/window/WindowGeometry.h"
+#include "component/dialog/place/WindowGeometry.h"
 
 #include "component/controls/Twips.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/window/TwipsLength.h"
+#include "component/dialog/place/TwipsLength.h"
 
 #include <cmath>
 #include <gmock/gmock.h>

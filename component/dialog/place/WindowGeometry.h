@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/window/TwipsLength.h"
-#include "component/dialog/window/ViewState.h"
+#include "component/dialog/place/TwipsLength.h"
+#include "component/dialog/place/ViewState.h"
 
 #include <QRect>
 #include <QSize>
