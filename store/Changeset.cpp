@@ -80,9 +80,10 @@ Changeset Changeset::Inverted() const
     std::vector<std::string> inverses;
     while (reader.Next())
         inverses.push_back(Inverse(reader.Row()));
+    std::reverse(inverses.begin(), inverses.end());
     std::string rows;
-    for (auto inverse = inverses.rbegin(); inverse != inverses.rend(); ++inverse)
-        rows += *inverse;
+    for (const std::string& inverse : inverses)
+        rows += inverse;
     return Changeset(reader.Tables(), rows);
 }
 
