@@ -84,9 +84,11 @@ TEST_F(MapOfVersion01, TakesASchemeFileOfThatVersion)
 
 TEST_F(MapOfVersion01, KeepsWhatASchemeFileSaysNothingAbout)
 {
-    SchemeDocument scheme = SchemeFile::Read(FixturePath("scheme_0_1.json"));
-    for (SchemeDocument::Layer& layer : scheme.layers)
-        layer.values.back() = Value(); // OverrideMode, as if that version did not have the column
+    QFile file(FixturePath("scheme_0_1.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    // As if that version did not have the column.
+    const QByteArray text = file.readAll().replace("\"OverrideMode\":2,", "");
+    const SchemeDocument scheme = SchemeDocument::FromJson(text);
     m_document->Database().Execute(QStringLiteral("UPDATE Layers SET OverrideMode = 1 WHERE Name = 'Woods'"));
     SchemeExchange::Import(m_document->Database(), scheme);
     LayerSchemes(m_document->Database()).Load("Winter");
