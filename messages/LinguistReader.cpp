@@ -7,6 +7,23 @@ namespace Orvane {
 
 namespace {
 
+constexpr int DeepestElement = 16; // a message is at depth 5
+
+// The reader remembers each open element, so that a small file can take a hundred times its size.
+bool IsTooDeep(const QByteArray& document)
+{
+    QXmlStreamReader xml(document);
+    int depth = 0;
+    while (!xml.atEnd() && depth <= DeepestElement) {
+        const QXmlStreamReader::TokenType token = xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            ++depth;
+        else if (token == QXmlStreamReader::EndElement)
+            --depth;
+    }
+    return depth > DeepestElement;
+}
+
 // A text may hold <byte value="x1b"/> for characters that XML forbids; no shown text needs them.
 QString ReadText(QXmlStreamReader& xml)
 {
@@ -67,6 +84,8 @@ LinguistEntries ReadDocument(QXmlStreamReader& xml)
 
 std::optional<LinguistEntries> ReadLinguistDocument(const QByteArray& document)
 {
+    if (IsTooDeep(document))
+        return std::nullopt;
     QXmlStreamReader xml(document);
     if (!xml.readNextStartElement() || xml.name() != QLatin1String("TS"))
         return std::nullopt;

@@ -4,6 +4,7 @@
 #include "messages/LinguistReader.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace Orvane {
 
@@ -27,7 +28,7 @@ std::optional<QString> FindIn(const QHash<QString, QString>& texts, const QStrin
 MessageCatalogue MessageCatalogue::FromFile(const QString& path)
 {
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would be waited for
         return {};
     return FromDevice(file);
 }

@@ -41,12 +41,12 @@ bool HasClient()
 
 Component& Component::Get()
 {
-    static Component component;
-    return component;
+    // Never destroyed: a host's global objects may use the component until the process ends.
+    static auto* component = new Component;
+    return *component;
 }
 
 Component::Component() = default;
-Component::~Component() = default;
 
 MessageTable& Component::Messages()
 {

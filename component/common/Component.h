@@ -56,7 +56,6 @@ public:
 
 private:
     Component();
-    ~Component();
 
     QString m_messageFolder;
     std::unique_ptr<MessageTable> m_messages;

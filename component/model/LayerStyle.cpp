@@ -46,6 +46,8 @@ void LayerStyle::lsSet(qint16 index, const Value& value)
 
 void LayerStyle::Intersect(const LayerStyle& other)
 {
+    if (&other == this)
+        return; // an Empty slot would differ from itself
     for (std::size_t slot = 0; slot < m_values.size(); ++slot) {
         const Value& theirs = other.m_values[slot];
         if (m_values[slot].IsNull() || theirs.IsNull())

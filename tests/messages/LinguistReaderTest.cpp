@@ -73,11 +73,15 @@ TEST(LinguistReader, EntitiesThatMultiplyAreNotExpanded)
     EXPECT_FALSE(ReadLinguistDocument(document));
 }
 
-TEST(LinguistReader, ADeepNestIsReadWithoutRecursion)
+TEST(LinguistReader, ADocumentOfDeeplyNestedElementsIsRefused)
 {
-    const QByteArray open = QByteArray("<x>").repeated(200'000);
-    const QByteArray close = QByteArray("</x>").repeated(200'000);
-    EXPECT_TRUE(ReadLinguistDocument("<TS>" + open + close + "</TS>"));
+    const QByteArray good = "<TS><context><name>A</name></context></TS>";
+    EXPECT_TRUE(ReadLinguistDocument(good));
+    const auto nested = [](int depth) {
+        return "<TS>" + QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth) + "</TS>";
+    };
+    EXPECT_TRUE(ReadLinguistDocument(nested(10)));
+    EXPECT_FALSE(ReadLinguistDocument(nested(100'000)));
 }
 
 } // namespace Orvane

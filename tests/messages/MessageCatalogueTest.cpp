@@ -4,9 +4,11 @@
 #include "support/LinguistFile.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace Orvane {
 
@@ -129,6 +131,15 @@ TEST(MessageCatalogue, AFileOfTheMaximumSizeIsReadAndALargerOneIsNot)
     document.append(MessageCatalogue::MaximumSize - document.size(), '\n');
     EXPECT_EQ(Read(document).Count(), 1);
     EXPECT_TRUE(Read(document + '\n').IsEmpty());
+}
+
+TEST(MessageCatalogue, OnlyRegularFilesAreRead)
+{
+    const QTemporaryDir folder;
+    const QByteArray pipe = QFile::encodeName(folder.filePath("pipe"));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    EXPECT_TRUE(MessageCatalogue::FromFile(folder.filePath("pipe")).IsEmpty());
+    EXPECT_TRUE(MessageCatalogue::FromFile(folder.path()).IsEmpty());
 }
 
 } // namespace Orvane

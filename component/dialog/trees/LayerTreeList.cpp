@@ -14,7 +14,7 @@
 namespace Orvane {
 
 LayerTreeList::LayerTreeList(QTreeView* view, QObject* parent)
-    : QObject(parent), m_view(view), m_model(new LayerTreeModel(this))
+    : QObject(parent), m_view(view), m_model(new LayerTreeModel(this)), m_delegate(new NodeNameDelegate(this))
 {
     SetUpView();
     Wire();
@@ -32,11 +32,15 @@ void LayerTreeList::SetUpView()
 
 void LayerTreeList::Wire()
 {
-    auto* delegate = new NodeNameDelegate(this);
-    m_view->setItemDelegate(delegate);
-    // Queued: a message box over an open editor would end the edit a second time.
+    m_view->setItemDelegate(m_delegate);
+    // Later: a message box over an open editor would end the edit a second time.
     connect(
-        delegate, &NodeNameDelegate::NameEntered, this, &LayerTreeList::NameEntered, Qt::QueuedConnection);
+        m_delegate, &NodeNameDelegate::NameEntered, this,
+        [this](const NodeReference& node, const QString& name) {
+            m_entered = EnteredName{node, name};
+            QMetaObject::invokeMethod(
+                this, [this] { TellName(); }, Qt::QueuedConnection);
+        });
     connect(
         m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &LayerTreeList::FollowSelection);
@@ -46,6 +50,24 @@ void LayerTreeList::Wire()
     connect(m_view, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
         FollowExpansion(index, false);
     });
+}
+
+void LayerTreeList::TellName()
+{
+    if (const std::optional<EnteredName> entered = std::exchange(m_entered, std::nullopt))
+        emit NameEntered(entered->node, entered->name);
+}
+
+void LayerTreeList::FinishNameEdit()
+{
+    m_delegate->FinishEdit();
+    TellName();
+}
+
+void LayerTreeList::DropNameEdit()
+{
+    m_delegate->DropEdit();
+    m_entered.reset();
 }
 
 bool LayerTreeList::NeedsLoad() const

@@ -17,6 +17,7 @@ class QTreeView;
 namespace Orvane {
 
 class LayerTreeModel;
+class NodeNameDelegate;
 
 /// One tree: a view, its nodes, and its current node. The current node is the one that the owner has
 /// accepted; the view's selection may already differ while the owner asks the user.
@@ -57,6 +58,11 @@ public:
     void RefuseChoice();
     void ScrollToCurrent();
 
+    /// Ends an open edit of a name as leaving the field does: NameEntered is emitted at once.
+    void FinishNameEdit();
+    /// Drops an open edit of a name, and a name for which NameEntered was not emitted yet.
+    void DropNameEdit();
+
     /// The groups that are not expanded (expanded: true), or not collapsed (expanded: false).
     std::vector<qint32> GroupsWithout(bool expanded) const;
     /// Expands or collapses all groups, without emitting ExpansionChanged.
@@ -80,9 +86,17 @@ private:
     void SelectCurrent();
     void FollowSelection();
     void FollowExpansion(const QModelIndex& index, bool expanded);
+    void TellName();
+
+    struct EnteredName {
+        NodeReference node;
+        QString name;
+    };
 
     QTreeView* m_view;
     LayerTreeModel* m_model;
+    NodeNameDelegate* m_delegate;
+    std::optional<EnteredName> m_entered; ///< NameEntered is emitted after the event that entered it
     std::optional<NodeReference> m_current;
     LayerTreePlace m_place; ///< of the last nodes; read after they are removed
     bool m_stale = false;

@@ -105,6 +105,20 @@ void LayerTrees::SetFilter(const IStyleFilter* filter)
     m_layers->MarkStale();
 }
 
+void LayerTrees::FinishNameEdit()
+{
+    const QPointer<LayerTrees> self(this);
+    m_groups->FinishNameEdit();
+    if (self)
+        m_layers->FinishNameEdit();
+}
+
+void LayerTrees::DropNameEdit()
+{
+    m_groups->DropNameEdit();
+    m_layers->DropNameEdit();
+}
+
 void LayerTrees::LoadGroups()
 {
     const std::optional<NodeReference> current = m_groups->CurrentNode();

@@ -53,6 +53,12 @@ public:
     /// owned.
     void SetFilter(const IStyleFilter* filter);
 
+    /// Ends an open edit of a name as leaving the field does: the name is stored, and what goes wrong is
+    /// shown to the user.
+    void FinishNameEdit();
+    /// Drops an open edit of a name, and a name that was entered and not stored yet.
+    void DropNameEdit();
+
     /// Reads the groups and their layers again. If it raises, the old nodes stay.
     void LoadGroups();
     /// Reads the flat list again, through the filter. If it raises, the old nodes stay.

@@ -32,6 +32,7 @@ public:
     }
 
     bool IsChanged() const { return text() != m_name; }
+    void TakeAsUnchanged() { m_name = text(); }
 
 private:
     QString m_name;
@@ -53,7 +54,28 @@ QWidget*
 NodeNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
 {
     const std::optional<QString> name = EditableName(parent, NodeIndexes::NodeAt(index));
-    return name ? new NameEditor(*name, parent) : nullptr;
+    m_editor = name ? new NameEditor(*name, parent) : nullptr;
+    return m_editor;
+}
+
+void NodeNameDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const
+{
+    if (editor == m_editor)
+        m_editor = nullptr; // it is no longer the view's, though it lives until the event loop runs
+    QStyledItemDelegate::destroyEditor(editor, index);
+}
+
+void NodeNameDelegate::FinishEdit()
+{
+    if (m_editor)
+        emit commitData(m_editor);
+}
+
+// The field stays open: Qt may have queued its end already.
+void NodeNameDelegate::DropEdit()
+{
+    if (m_editor)
+        static_cast<NameEditor*>(m_editor.data())->TakeAsUnchanged();
 }
 
 // Also called if the node changes while the editor is open: the typed text stays.
@@ -63,9 +85,11 @@ void NodeNameDelegate::setEditorData(QWidget*, const QModelIndex&) const
 
 void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const
 {
-    const auto* name = static_cast<NameEditor*>(editor);
-    if (name->IsChanged())
-        emit NameEntered(NodeIndexes::NodeAt(index), name->text());
+    auto* name = static_cast<NameEditor*>(editor);
+    if (!name->IsChanged())
+        return;
+    name->TakeAsUnchanged(); // an edit may end more than once
+    emit NameEntered(NodeIndexes::NodeAt(index), name->text());
 }
 
 void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const

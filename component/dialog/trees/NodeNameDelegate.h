@@ -4,6 +4,7 @@
 #include "component/dialog/trees/NodeImages.h"
 #include "component/dialog/trees/NodeKey.h"
 
+#include <QPointer>
 #include <QStyledItemDelegate>
 
 namespace Orvane {
@@ -23,6 +24,12 @@ public:
         QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
+
+    /// Takes the name from an open edit, as leaving the field does.
+    void FinishEdit();
+    /// Takes no name from an open edit.
+    void DropEdit();
 
 signals:
     /// The user ended an edit that changed the name; the editor still exists.
@@ -34,6 +41,7 @@ protected:
 
 private:
     NodeImages m_images;
+    mutable QPointer<QWidget> m_editor; // the one that was opened last
 };
 
 } // namespace Orvane

@@ -64,6 +64,13 @@ void SelectionEditor::ShowOrNothing(const Selection& selection)
     }
 }
 
+void SelectionEditor::CoverUp()
+{
+    m_parts.quickModes.SetEnabled(false);
+    emit Shown(m_current.has_value());
+    SetModified(false);
+}
+
 void SelectionEditor::ShowNothing()
 {
     Show(Selection());

@@ -55,6 +55,9 @@ public:
     void Load();
     /// As Load, but if the node cannot be read, the edits stay.
     void Cancel();
+    /// Leaves the controls as they are where nobody sees them, and reads nothing: for the Schemes tab, until
+    /// the next Load.
+    void CoverUp();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
 

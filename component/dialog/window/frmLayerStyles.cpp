@@ -74,7 +74,8 @@ void frmLayerStyles::Wire()
 void frmLayerStyles::WireCommands()
 {
     connect(&m_parts->trees, &LayerTrees::DeleteRequested, this, [this] {
-        GuardEvent(this, [this] { m_parts->commands.DeleteLayer(); });
+        if (m_tab == ListTab::Layers) // where the button is
+            GuardEvent(this, [this] { m_parts->commands.DeleteLayer(); });
     });
     connect(&m_parts->commands, &LayerCommands::LayerCreated, this, [this](qint32 layerID) {
         m_parts->trees.MarkStale(LayerTrees::List::Groups);
@@ -165,7 +166,8 @@ void frmLayerStyles::RestoreViewState()
 
 void frmLayerStyles::StoreViewState()
 {
-    const ViewState state{m_parts->geometry.Current(), m_parts->layout.Expanded(), m_tab};
+    const bool expanded = m_initialised && m_parts->layout.Expanded();
+    const ViewState state{m_parts->geometry.Current(), expanded, m_tab};
     Client().WriteSetting(this, SettingKey(EditorID()), state.ToText());
 }
 
@@ -209,7 +211,9 @@ void frmLayerStyles::Hide()
 
 bool frmLayerStyles::ConfirmUnload()
 {
-    return m_selection->ConfirmPendingChanges() && !m_unloaded;
+    const QPointer self(this);
+    m_parts->trees.FinishNameEdit();
+    return self && m_selection->ConfirmPendingChanges() && !m_unloaded;
 }
 
 // Once started, it always completes: if a host fails here, no window without an owner may be left.
@@ -218,6 +222,7 @@ void frmLayerStyles::Unload()
     if (m_unloaded)
         return;
     m_unloaded = true;
+    m_parts->trees.DropNameEdit();
     FirstError errors;
     if (HasClient()) {
         errors.Try([this] { Client().EditorClosed(this); });
@@ -280,7 +285,9 @@ void frmLayerStyles::ShowTab(ListTab tab)
         m_selection->SetModified(false); // or reading the list would ask about another tab's edits
     FirstError errors;
     errors.Try([this] { LoadList(); });
-    if (self && !m_unloaded)
+    if (self && !m_unloaded && tab == ListTab::Schemes)
+        m_selection->CoverUp();
+    else if (self && !m_unloaded)
         errors.Try([this] { m_selection->Load(); });
     errors.Rethrow();
 }

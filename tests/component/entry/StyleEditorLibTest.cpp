@@ -270,4 +270,17 @@ TEST_F(Library, AfterAReleaseANewOneStartsEmpty)
     EXPECT_EQ(ErrorOfCreating("Main"), 0);
 }
 
+TEST_F(Library, MayBeAGlobalObjectOfTheHost)
+{
+    testing::FLAGS_gtest_death_test_style = "threadsafe"; // a process of its own, where nothing was made yet
+    EXPECT_EXIT(
+        {
+            static std::unique_ptr<IStyleEditorLibrary> global;
+            global = NewLibrary();
+            global->Initialise(&m_host);
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
 } // namespace Orvane

@@ -186,3 +186,14 @@ TEST(LayerStyle, ARefusedIndexLeavesTheRecordUnchanged)
     EXPECT_THROW(style.lsSet(19, qint32(1)), RunTimeError);
     EXPECT_TRUE(SameSlots(style, before));
 }
+
+TEST(LayerStyle, IntersectingWithItselfKeepsAnEmptySlot)
+{
+    LayerStyle style;
+    style.lsSet(0, Value());
+    style.lsSet(1, qint32(5));
+    const LayerStyle before = style;
+    style.Intersect(style);
+    EXPECT_TRUE(style.lsGet(0).IsEmpty());
+    EXPECT_TRUE(SameSlots(style, before));
+}

@@ -180,7 +180,8 @@ void PressDelete(SessionFixture& session)
     else
         QTest::keyClick(&session.Tree(ListShown(session)), Qt::Key_Delete);
     session.Settle();
-    session.dialog.DeleteLayer();
+    if (session.dialog.tab == 2)
+        session.dialog.DeleteLayer();
 }
 
 } // namespace

@@ -90,10 +90,12 @@ TEST_F(Commands, TheDeleteKeyDeletesToo)
     EXPECT_THAT(host.Log().CallsTo("DeleteLayer"), ElementsAre("DeleteLayer(1)"));
 }
 
-TEST_F(Commands, AGroupIsNotDeleted)
+TEST_F(Commands, TheDeleteKeyDeletesNothingInTheGroups)
 {
     ClickTab(1);
     ClickGroup("Transport");
+    QTest::keyClick(&Find("tvLayers1"), Qt::Key_Delete);
+    ClickLayer("Roads");
     QTest::keyClick(&Find("tvLayers1"), Qt::Key_Delete);
     EXPECT_THAT(host.Log().CallsTo("DeleteLayer"), IsEmpty());
 }

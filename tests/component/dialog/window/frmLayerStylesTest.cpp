@@ -158,6 +158,7 @@ TEST_F(Lifecycle, AnEditorThatWasNeverShownReadsNothingButWritesItsState)
     EditorForm().UnloadWithoutApply();
     EXPECT_THAT(
         host.Calls(), ElementsAre("EditorClosed()", Mentions("WriteSetting(DrawStyleEditor::Main, ")));
+    EXPECT_THAT(StoredViewState(), Mentions(":NOT EXPANDED")) << "it was never expanded";
 }
 
 TEST_F(Lifecycle, AnEditorUnloadsWithoutAHost)
@@ -363,6 +364,18 @@ TEST_F(Lifecycle, ResizingTwiceKeepsTheStoredTwips)
     Click("cmdResize");
     Close();
     EXPECT_EQ(StoredViewState(), "9001.5:7000.25:LAYERS:EXPANDED");
+}
+
+TEST_F(Lifecycle, TheSchemesTabReadsNoLayer)
+{
+    Open();
+    ClickLayer("Roads");
+    NewCalls();
+    ClickTab(3);
+    EXPECT_THAT(NewCalls(), Not(testing::Contains("LayersTable()")));
+    EXPECT_FALSE(IsEnabled("Normal"));
+    ClickTab(2);
+    EXPECT_THAT(NewCalls(), testing::Contains("LayersTable()"));
 }
 
 } // namespace
