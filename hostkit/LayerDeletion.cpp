@@ -30,9 +30,10 @@ QString Consequences(const LayerDeletion& deletion)
 {
     QStringList lines;
     if (!deletion.groups.isEmpty())
-        lines << Texts::tr("It leaves its groups: %1.").arg(Listed(deletion.groups));
+        lines << Texts::tr("It will be removed from its groups: %1.").arg(Listed(deletion.groups));
     if (!deletion.schemes.isEmpty())
-        lines << Texts::tr("Its saved values go from the layer schemes: %1.").arg(Listed(deletion.schemes));
+        lines << Texts::tr("Its saved values will be removed from the layer schemes: %1.")
+                     .arg(Listed(deletion.schemes));
     lines << Texts::tr("Its data file stays. You can undo the deletion.");
     return lines.join(QLatin1Char('\n'));
 }
@@ -42,7 +43,7 @@ QString Consequences(const LayerDeletion& deletion)
 bool LayerDeletion::Confirm(QWidget* owner) const
 {
     QMessageBox box(
-        QMessageBox::Question, Texts::tr("Delete layer"),
+        QMessageBox::Question, Texts::tr("Delete Layer"),
         Texts::tr("Delete the layer \"%1\"?").arg(NameInQuestion(layer)), QMessageBox::Yes | QMessageBox::No,
         owner);
     box.setTextFormat(Qt::PlainText);

@@ -193,7 +193,7 @@ void StandardClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QStrin
         isThere = m_database.Execute(
                       QStringLiteral("UPDATE Layers SET Name = ?2 WHERE LayerID = ?1"), {layerID, name})
             > 0;
-        return tr("Renaming of \"%1\"").arg(NameInStep(name));
+        return tr("Rename \"%1\"").arg(NameInStep(name));
     });
     if (!isThere)
         return;
@@ -208,7 +208,7 @@ void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QStrin
         isThere = m_database.Execute(
                       QStringLiteral("UPDATE LayerGroups SET Name = ?2 WHERE ID = ?1"), {groupID, name})
             > 0;
-        return tr("Renaming of the Group \"%1\"").arg(NameInStep(name));
+        return tr("Rename Group \"%1\"").arg(NameInStep(name));
     });
     if (isThere)
         emit m_parts->notifications.GroupRenamed(groupID, name);
@@ -264,7 +264,7 @@ qint32 StandardClient::IStyleEditorClient_CreateLayer()
     qint32 layerID = 0;
     RecordStep([&] {
         layerID = m_parts->factory.Create();
-        return tr("Creation of \"%1\"").arg(NameInStep(m_parts->names.Name(layerID)));
+        return tr("Create \"%1\"").arg(NameInStep(m_parts->names.Name(layerID)));
     });
     emit m_parts->notifications.LayerCreated(layerID);
     return layerID;
@@ -279,7 +279,7 @@ void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
         return;
     RecordStep([&] {
         m_parts->factory.Delete(layerID);
-        return tr("Deletion of \"%1\"").arg(NameInStep(deletion.layer));
+        return tr("Delete \"%1\"").arg(NameInStep(deletion.layer));
     });
     m_parts->changedLayers.remove(layerID);
     emit m_parts->notifications.LayerDeleted(layerID);

@@ -68,7 +68,7 @@ void StyleEditorPlugin::CheckContract()
         return;
     const QString spoken = QStringLiteral("%1.%2").arg(m_version.major).arg(m_version.minor);
     const QString wanted = QStringLiteral("%1.%2").arg(CurrentContract.major).arg(CurrentContract.minor);
-    Refuse(tr("it speaks version %1 of the contract, this program speaks %2").arg(spoken, wanted));
+    Refuse(tr("it uses version %1 of the interface, this program uses version %2").arg(spoken, wanted));
 }
 
 // Using widgets of two Qt versions in one process would crash it.

@@ -110,7 +110,7 @@ void MainWindow::AddData(const QStringList& paths)
         const bool first = !Document().HasLayers();
         m_session->Shell().RecordStep([&] {
             AddToMap(Document(), found);
-            return tr("Opening of Map Data");
+            return tr("Open Map Data");
         });
         if (first)
             m_session->BeginSchemes();
@@ -261,7 +261,7 @@ bool MainWindow::KeepUntitledMap()
     if (!Document().Path().isEmpty() || !Document().HasLayers())
         return true;
     const auto answer = QMessageBox::question(
-        this, tr("New map"), tr("This map has no file yet. Keep it?"),
+        this, tr("New map"), tr("Save this map before closing it?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     if (answer == QMessageBox::Save)
         SaveMapAs();
@@ -282,7 +282,7 @@ bool MainWindow::ShowMapAgain()
     const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(view); });
     if (shown)
         statusBar()->showMessage(
-            tr("The map was changed in another window and is shown as it is now."), ShortMessageTime);
+            tr("The map was changed in another window and has been reloaded."), ShortMessageTime);
     return shown;
 }
 

@@ -7,26 +7,24 @@
 /// detail. Translated in the context "LayerStore" when an error is raised.
 namespace Orvane::StoreTexts {
 
-inline constexpr const char* MissingFile
-    = QT_TRANSLATE_NOOP("LayerStore", "The layer database \"^1\" does not exist.");
+inline constexpr const char* MissingFile = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" does not exist.");
 inline constexpr const char* FileExists
     = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" cannot be created because a file of that name exists already.");
 inline constexpr const char* CannotCreate
-    = QT_TRANSLATE_NOOP("LayerStore", "The layer database \"^1\" cannot be created: ^2");
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" cannot be created: ^2");
 inline constexpr const char* CannotOpen
-    = QT_TRANSLATE_NOOP("LayerStore", "The layer database \"^1\" cannot be opened: ^2");
-inline constexpr const char* NotALayerDatabase
-    = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" is not a layer database.");
-inline constexpr const char* Damaged = QT_TRANSLATE_NOOP(
-    "LayerStore", "The layer database \"^1\" is damaged. Use a copy of it that was saved earlier.");
-inline constexpr const char* TooNew = QT_TRANSLATE_NOOP(
-    "LayerStore", "The layer database \"^1\" was written by a newer version of this program.");
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" cannot be opened: ^2");
+inline constexpr const char* NotALayerDatabase = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" is not a map file.");
+inline constexpr const char* Damaged
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is damaged. Use an earlier copy of it.");
+inline constexpr const char* TooNew
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" was written by a newer version of this program.");
 inline constexpr const char* ReadOnly
-    = QT_TRANSLATE_NOOP("LayerStore", "The layer database \"^1\" is read-only and cannot be changed.");
-inline constexpr const char* Locked = QT_TRANSLATE_NOOP(
-    "LayerStore", "The layer database \"^1\" is in use by another program. Try again in a moment.");
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is read-only and cannot be changed.");
+inline constexpr const char* Locked
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is in use by another program. Try again in a moment.");
 inline constexpr const char* DiskFull
-    = QT_TRANSLATE_NOOP("LayerStore", "There is no room left on the disk of the layer database \"^1\".");
+    = QT_TRANSLATE_NOOP("LayerStore", "There is not enough disk space for the map \"^1\".");
 inline constexpr const char* Refused
     = QT_TRANSLATE_NOOP("LayerStore", "The layer database \"^1\" refused an operation: ^2");
 inline constexpr const char* UnknownTable
@@ -62,6 +60,6 @@ inline constexpr const char* TransactionLost
 inline constexpr const char* NothingToStore
     = QT_TRANSLATE_NOOP("LayerStore", "An empty value cannot be stored in \"^1\".");
 inline constexpr const char* ChangesNotRecorded = QT_TRANSLATE_NOOP(
-    "LayerStore", "Memory was too short to record how \"^1\" was changed; these changes cannot be undone.");
+    "LayerStore", "There was not enough memory to record the changes to \"^1\"; they cannot be undone.");
 
 } // namespace Orvane::StoreTexts

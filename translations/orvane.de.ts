@@ -8,24 +8,64 @@
         <translation>„%1“ kann nicht geändert werden: %2.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>„%1“ kann nicht gespeichert werden: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds no picture.</source>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no picture.</source>
         <translation>„%1“ enthält kein Bild.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no readable data.</source>
+        <translation>„%1“ enthält keine lesbaren Daten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains nothing to draw.</source>
+        <translation>„%1“ enthält nichts, was gezeichnet werden kann.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a valid page size.</source>
+        <translation>„%1“ ist keine gültige Seitengröße.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
         <translation>„%1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
-        <source>%1 is here but asks for no snap.</source>
-        <translation>%1 ist hier, verlangt aber keinen Fang.</translation>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>„--to MAP“ fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
+        <translation>„^1“ kann nicht angelegt werden, weil eine Datei dieses Namens bereits vorhanden ist.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is not a map file.</source>
+        <translation>„^1“ ist keine Kartendatei.</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists the options.</source>
+        <translation>„orvane %1--help“ zeigt die Optionen.</translation>
+    </message>
+    <message>
+        <source>%1 - Orvane</source>
+        <translation>%1 - Orvane</translation>
     </message>
     <message>
         <source>%1 is here but hidden at this scale.</source>
@@ -56,96 +96,56 @@
         <translation>%1 ist hier, aber nicht sichtbar.</translation>
     </message>
     <message>
+        <source>%1 is here but snapping to it is off.</source>
+        <translation>%1 ist hier, aber sein Fang ist ausgeschaltet.</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 weitere</translation>
     </message>
     <message>
-        <source>A layer from map &amp;data</source>
-        <translation>Layer aus &amp;Kartendaten</translation>
+        <source>&amp;About Orvane</source>
+        <translation>Ü&amp;ber Orvane</translation>
     </message>
     <message>
-        <source>A newer program has written it.</source>
-        <translation>Ein neueres Programm hat sie geschrieben.</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>An &amp;empty layer</source>
-        <translation>&amp;Leerer Layer</translation>
-    </message>
-    <message>
-        <source>Areas</source>
-        <translation>Flächen</translation>
+        <source>&amp;Attribute:</source>
+        <translation>&amp;Attribut:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
         <translation>D&amp;urchsuchen...</translation>
     </message>
     <message>
-        <source>B&amp;rowse...</source>
-        <translation>Du&amp;rchsuchen...</translation>
-    </message>
-    <message>
         <source>&amp;Copy Value</source>
         <translation>Wert &amp;kopieren</translation>
-    </message>
-    <message>
-        <source>Data f&amp;ile:</source>
-        <translation>Da&amp;tendatei:</translation>
-    </message>
-    <message>
-        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
-        <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
     </message>
     <message>
         <source>&amp;Delete Theme</source>
         <translation>Thema &amp;löschen</translation>
     </message>
     <message>
-        <source>Delete Theme</source>
-        <translation>Thema löschen</translation>
+        <source>&amp;Division:</source>
+        <translation>&amp;Einteilung:</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
-        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
-        <translation>„%1“ hat keinen Layer namens „%2“.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds no data that can be read.</source>
-        <translation>„%1“ enthält keine lesbaren Daten.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds nothing to draw.</source>
-        <translation>„%1“ enthält nichts, was gezeichnet werden kann.</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
-        <translation>„^1“ kann nicht angelegt werden, weil eine Datei dieses Namens bereits vorhanden ist.</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; is not a layer database.</source>
-        <translation>„^1“ ist keine Layerdatenbank.</translation>
-    </message>
-    <message>
-        <source>%1 - Orvane</source>
-        <translation>%1 - Orvane</translation>
-    </message>
-    <message>
-        <source>Export Scheme</source>
-        <translation>Schema exportieren</translation>
+        <source>&amp;Export Map...</source>
+        <translation>Karte &amp;exportieren...</translation>
     </message>
     <message>
         <source>&amp;Export Scheme...</source>
         <translation>Schema &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Find Missing Data...</source>
@@ -156,20 +156,8 @@
         <translation>&amp;Geometrie:</translation>
     </message>
     <message>
-        <source>GeoPackage</source>
-        <translation>GeoPackage</translation>
-    </message>
-    <message>
-        <source>GeoPackage &amp;file:</source>
-        <translation>GeoPackage-&amp;Datei:</translation>
-    </message>
-    <message>
-        <source>GeoPackages (*.gpkg)</source>
-        <translation>GeoPackages (*.gpkg)</translation>
-    </message>
-    <message>
-        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
-        <translation>Sollen die Layer die Werte erhalten, die im Schema „%1“ gespeichert sind?</translation>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -180,92 +168,28 @@
         <translation>&amp;Abfragen</translation>
     </message>
     <message>
-        <source>Import Scheme</source>
-        <translation>Schema importieren</translation>
-    </message>
-    <message>
         <source>&amp;Import Scheme...</source>
         <translation>Schema &amp;importieren...</translation>
-    </message>
-    <message>
-        <source>In the file, not in the map:</source>
-        <translation>In der Datei, nicht in der Karte:</translation>
-    </message>
-    <message>
-        <source>In the map, not in the file:</source>
-        <translation>In der Karte, nicht in der Datei:</translation>
-    </message>
-    <message>
-        <source>It holds no layers.</source>
-        <translation>Sie enthält keine Layer.</translation>
-    </message>
-    <message>
-        <source>It is no JSON text at byte %1.</source>
-        <translation>Sie ist bei Byte %1 kein JSON-Text.</translation>
-    </message>
-    <message>
-        <source>It is not a layer scheme.</source>
-        <translation>Sie ist kein Layerschema.</translation>
-    </message>
-    <message>
-        <source>It is too large.</source>
-        <translation>Sie ist zu groß.</translation>
-    </message>
-    <message>
-        <source>It names no scheme.</source>
-        <translation>Sie nennt kein Schema.</translation>
-    </message>
-    <message>
-        <source>It names no version.</source>
-        <translation>Sie nennt keine Version.</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
         <translation>Layer be&amp;halten</translation>
     </message>
     <message>
-        <source>Layer %1 has no valid &quot;%2&quot;.</source>
-        <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
+        <source>&amp;Layer Control</source>
+        <translation>&amp;Layersteuerung</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json)</source>
-        <translation>Layerschemata (*.json)</translation>
+        <source>&amp;Layer:</source>
+        <translation>La&amp;yer:</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json);;All files (*)</source>
-        <translation>Layerschemata (*.json);;Alle Dateien (*)</translation>
+        <source>&amp;Layers</source>
+        <translation>&amp;Layer</translation>
     </message>
     <message>
-        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
-        <translation>Layer weichen vom Schema „%1“ ab. Soll es vor dem Wechsel zu „%2“ gespeichert werden?</translation>
-    </message>
-    <message>
-        <source>Layers of the file that this map does not have: %1</source>
-        <translation>Layer der Datei, die diese Karte nicht hat: %1</translation>
-    </message>
-    <message>
-        <source>Layers of this map that the file does not have, which keep their values: %1</source>
-        <translation>Layer dieser Karte, die die Datei nicht hat und die ihre Werte behalten: %1</translation>
-    </message>
-    <message>
-        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
-        <translation>Layer, die vom Schema „%1“ abweichen: %2</translation>
-    </message>
-    <message>
-        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
-        <translation>Layer, die das Schema „%1“ nicht kennt und so gelassen hat, wie sie sind: %2</translation>
-    </message>
-    <message>
-        <source>Layers with values: %1</source>
-        <translation>Layer mit Werten: %1</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Linien</translation>
-    </message>
-    <message>
-        <source>Map Data</source>
-        <translation>Kartendaten</translation>
+        <source>&amp;Legend of what is shown</source>
+        <translation>&amp;Legende des Gezeigten</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
@@ -276,76 +200,60 @@
         <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
-        <translation>Der Arbeitsspeicher reichte nicht, um die Änderungen an „^1“ festzuhalten; sie lassen sich nicht rückgängig machen.</translation>
-    </message>
-    <message>
-        <source>New Layer</source>
-        <translation>Neuer Layer</translation>
-    </message>
-    <message>
-        <source>New Theme</source>
-        <translation>Neues Thema</translation>
+        <source>&amp;New Map...</source>
+        <translation>&amp;Neue Karte...</translation>
     </message>
     <message>
         <source>&amp;New Theme from Visible Layers...</source>
         <translation>&amp;Neues Thema aus sichtbaren Layern...</translation>
     </message>
     <message>
-        <source>No layer can be made in the file &quot;%1&quot;.</source>
-        <translation>In der Datei „%1“ kann kein Layer angelegt werden.</translation>
+        <source>&amp;Number of classes:</source>
+        <translation>A&amp;nzahl der Klassen:</translation>
     </message>
     <message>
-        <source>No layer of this map is visible.</source>
-        <translation>Kein Layer dieser Karte ist sichtbar.</translation>
-    </message>
-    <message>
-        <source>No themes yet</source>
-        <translation>Noch keine Themen</translation>
+        <source>&amp;Open Map...</source>
+        <translation>Karte ö&amp;ffnen...</translation>
     </message>
     <message>
         <source>&amp;Pan and Zoom</source>
         <translation>&amp;Verschieben und Zoomen</translation>
     </message>
     <message>
-        <source>Please supply a non-blank name, or cancel.</source>
-        <translation>Bitte geben Sie einen Namen ein, oder brechen Sie ab.</translation>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
     </message>
     <message>
-        <source>Points</source>
-        <translation>Punkte</translation>
+        <source>&amp;Preview...</source>
+        <translation>&amp;Vorschau...</translation>
     </message>
     <message>
-        <source>Revert Scheme</source>
-        <translation>Zum gespeicherten Schema zurück</translation>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Auflösung:</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
         <translation>Zum gespeicherten Schema &amp;zurück</translation>
     </message>
     <message>
+        <source>&amp;Save Map As...</source>
+        <translation>Karte &amp;speichern unter...</translation>
+    </message>
+    <message>
         <source>&amp;Save Scheme</source>
         <translation>Schema &amp;speichern</translation>
     </message>
     <message>
-        <source>Save Scheme</source>
-        <translation>Schema speichern</translation>
-    </message>
-    <message>
         <source>&amp;Save Scheme &quot;%1&quot;</source>
         <translation>Schema „%1“ &amp;speichern</translation>
-    </message>
-    <message>
-        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
-        <translation>Layer so, wie sie sind, im Schema „%1“ speichern?</translation>
-    </message>
-    <message>
-        <source>Scheme: %1</source>
-        <translation>Schema: %1</translation>
-    </message>
-    <message>
-        <source>Scheme: %1 *</source>
-        <translation>Schema: %1 *</translation>
     </message>
     <message>
         <source>&amp;Schemes</source>
@@ -356,72 +264,56 @@
         <translation>Au&amp;swählen</translation>
     </message>
     <message>
-        <source>Switch Scheme</source>
-        <translation>Schema wechseln</translation>
-    </message>
-    <message>
-        <source>S&amp;witch to It</source>
-        <translation>&amp;Dorthin wechseln</translation>
-    </message>
-    <message>
-        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
-        <translation>Der Layer „%1“ enthält als „%2“ keine Zahl.</translation>
-    </message>
-    <message>
-        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
-        <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
-        <translation>Die Layer sind so, wie sie im Schema „%1“ gespeichert wurden.</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
-        <translation>Die Karte „%1“ ist in einem anderen Fenster oder Programm geöffnet. Soll sie auch hier geöffnet werden?</translation>
-    </message>
-    <message>
-        <source>The map was changed in another window and is shown as it is now.</source>
-        <translation>Die Karte wurde in einem anderen Fenster geändert und wird so gezeigt, wie sie jetzt ist.</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was exported.</source>
-        <translation>Das Schema „%1“ wurde exportiert.</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was imported.</source>
-        <translation>Das Schema „%1“ wurde importiert.</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
-        <translation>Die Schemadatei „%1“ kann nicht gelesen werden. %2</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
-        <translation>Die Schemadatei „%1“ kann nicht geschrieben werden: %2.</translation>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
         <translation>&amp;Themen</translation>
     </message>
     <message>
-        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
-        <translation>Es gibt bereits ein Schema „%1“. Soll es durch das der Datei ersetzt werden?</translation>
-    </message>
-    <message>
-        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
-        <translation>Es gibt bereits ein Thema „%1“. Soll es die jetzt sichtbaren Layer erhalten?</translation>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>&amp;Werkzeuge</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>Jetzt &amp;anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... und %1 weitere.</translation>
     </message>
     <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Ein kleines Kartenprogramm für den Schreibtisch, das die Layersteuerung von Orvane beherbergt.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>A layer cannot be created in the file &quot;%1&quot;.</source>
+        <translation>In der Datei „%1“ kann kein Layer angelegt werden.</translation>
+    </message>
+    <message>
+        <source>A layer from map &amp;data</source>
+        <translation>Layer aus &amp;Kartendaten</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
     <message>
         <source>A row of &quot;^1&quot; was changed without beginning an edit.</source>
@@ -440,8 +332,12 @@
         <translation>Eine ganze Zahl von %1 bis %2</translation>
     </message>
     <message>
-        <source>&amp;About Orvane</source>
-        <translation>Ü&amp;ber Orvane</translation>
+        <source>A&amp;ttribute:</source>
+        <translation>A&amp;ttribut:</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. The default is A4.</source>
+        <translation>A5 bis A0, Letter, Legal, Tabloid, 200x150mm oder 1600x900px. Voreinstellung: A4.</translation>
     </message>
     <message>
         <source>About Orvane</source>
@@ -452,24 +348,46 @@
         <translation>Über dieses Programm</translation>
     </message>
     <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
+Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
         <source>Add map data from files to the map</source>
         <translation>Der Karte Kartendaten aus Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>&amp;Leerer Layer</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>Ein Argument fehlt.</translation>
     </message>
     <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
     </message>
     <message>
-        <source>&amp;Attribute:</source>
-        <translation>&amp;Attribut:</translation>
-    </message>
-    <message>
-        <source>A&amp;ttribute:</source>
-        <translation>A&amp;ttribut:</translation>
-    </message>
-    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Fläche: %1, Umfang: %2</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>Als Bild: %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>Im Maßstab &amp;1:</translation>
     </message>
     <message>
         <source>Attribute</source>
@@ -480,8 +398,8 @@
         <translation>Automatisch (%1)</translation>
     </message>
     <message>
-        <source>Begin a new map file</source>
-        <translation>Eine neue Kartendatei beginnen</translation>
+        <source>B&amp;rowse...</source>
+        <translation>Du&amp;rchsuchen...</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -496,12 +414,26 @@
         <translation>Linien mit Rand, beschriftet</translation>
     </message>
     <message>
-        <source>Change of %1 Layers</source>
+        <source>Change &quot;%1&quot;</source>
+        <translation>Änderung an „%1“</translation>
+    </message>
+    <message>
+        <source>Change %1 Layers</source>
         <translation>Änderung an %1 Layern</translation>
     </message>
     <message>
-        <source>Change of &quot;%1&quot;</source>
-        <translation>Änderung an „%1“</translation>
+        <source>Change Code of &quot;%1&quot;</source>
+        <translation>Ändern des Codes von „%1“</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
+        <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen im anderen, sobald Sie dorthin wechseln.</translation>
+    </message>
+    <message>
+        <source>Check a map file for damage, broken references and missing data.
+Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
+        <translation>Eine Kartendatei auf Schäden, ungültige Verweise und fehlende Daten prüfen.
+Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
@@ -524,36 +456,52 @@
         <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
     </message>
     <message>
-        <source>Creation of &quot;%1&quot;</source>
+        <source>Create &quot;%1&quot;</source>
         <translation>Anlegen von „%1“</translation>
     </message>
     <message>
-        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <source>Create Scheme &quot;%1&quot;</source>
         <translation>Anlegen des Schemas „%1“</translation>
     </message>
     <message>
-        <source>Delete layer</source>
+        <source>Create a new map file</source>
+        <translation>Eine neue Kartendatei anlegen</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Benutzerdefinierte Größe</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>Da&amp;tendatei:</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Löschen von „%1“</translation>
+    </message>
+    <message>
+        <source>Delete Layer</source>
         <translation>Layer löschen</translation>
+    </message>
+    <message>
+        <source>Delete Scheme &quot;%1&quot;</source>
+        <translation>Löschen des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>Thema löschen</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>Layer „%1“ löschen?</translation>
     </message>
     <message>
-        <source>&amp;Division:</source>
-        <translation>&amp;Einteilung:</translation>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
     </message>
     <message>
-        <source>Deletion of &quot;%1&quot;</source>
-        <translation>Löschen von „%1“</translation>
-    </message>
-    <message>
-        <source>Deletion of the Scheme &quot;%1&quot;</source>
-        <translation>Löschen des Schemas „%1“</translation>
-    </message>
-    <message>
-        <source>Drag a feature of a layer that is not locked to another place</source>
-        <translation>Ein Objekt eines nicht gesperrten Layers an eine andere Stelle ziehen</translation>
+        <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
+        <translation>Punkte je Zoll. Voreinstellung: 300, bei einer Größe in Pixeln 96.</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -568,6 +516,24 @@
         <translation>Die Karte ziehen, mit dem Rad zoomen</translation>
     </message>
     <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>Eine Karte als PDF, SVG oder PNG zeichnen. Die Kartendatei wird nur gelesen.
+Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>Im Maßstab 1:N um die Kartenmitte zeichnen.</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>Die Layer so zeichnen, wie dieses Schema sie hat; die Kartendatei bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>Die Karte wird gezeichnet</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>Zeichnen...</translation>
     </message>
@@ -576,8 +542,8 @@
         <translation>O</translation>
     </message>
     <message>
-        <source>End Orvane</source>
-        <translation>Orvane beenden</translation>
+        <source>Enter a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
     </message>
     <message>
         <source>Equal counts</source>
@@ -588,8 +554,16 @@
         <translation>Gleiche Schritte</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
+        <source>Export Map</source>
+        <translation>Karte exportieren</translation>
+    </message>
+    <message>
+        <source>Export Scheme</source>
+        <translation>Schema exportieren</translation>
+    </message>
+    <message>
+        <source>Extent of the &amp;window, fitted to the page</source>
+        <translation>Ausschnitt des &amp;Fensters, an die Seite angepasst</translation>
     </message>
     <message>
         <source>Feature %1</source>
@@ -604,8 +578,24 @@
         <translation>Gefundene Objekte: %1</translation>
     </message>
     <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>Dateien, oder Ordner mit Dateien.</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>Fehlende Daten suchen</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>GeoPackage-&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackages (*.gpkg)</translation>
     </message>
     <message>
         <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
@@ -620,64 +610,188 @@
         <translation>Abgestuft, beschriftet</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
+        <source>Height</source>
+        <translation>Höhe</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
+        <source>Highlight features of hitable layers under the pointer with any tool</source>
+        <translation>Objekte anklickbarer Layer unter dem Zeiger hervorheben, mit jedem Werkzeug</translation>
+    </message>
+    <message>
+        <source>Import Scheme</source>
+        <translation>Schema importieren</translation>
+    </message>
+    <message>
+        <source>Import Scheme &quot;%1&quot;</source>
         <translation>Import des Schemas „%1“</translation>
     </message>
     <message>
-        <source>It leaves its groups: %1.</source>
-        <translation>Er verlässt seine Gruppen: %1.</translation>
+        <source>In the file, not in the map:</source>
+        <translation>In der Datei, nicht in der Karte:</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>In der Karte, nicht in der Datei:</translation>
+    </message>
+    <message>
+        <source>It does not contain a scheme name.</source>
+        <translation>Sie enthält keinen Schemanamen.</translation>
+    </message>
+    <message>
+        <source>It does not contain a valid version number.</source>
+        <translation>Sie enthält keine gültige Versionsnummer.</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>Sie enthält keine Layer.</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>Sie ist kein Layerschema.</translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (error at byte %1).</source>
+        <translation>Sie ist kein gültiges JSON (Fehler bei Byte %1).</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Sie ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation>Sie wurde von einer neueren Version dieses Programms geschrieben.</translation>
+    </message>
+    <message>
+        <source>It will be removed from its groups: %1.</source>
+        <translation>Er wird aus seinen Gruppen entfernt: %1.</translation>
     </message>
     <message>
         <source>Its data file stays. You can undo the deletion.</source>
         <translation>Seine Datendatei bleibt. Das Löschen kann rückgängig gemacht werden.</translation>
     </message>
     <message>
-        <source>Its saved values go from the layer schemes: %1.</source>
-        <translation>Seine gespeicherten Werte verschwinden aus den Layerschemas: %1.</translation>
+        <source>Its saved values will be removed from the layer schemes: %1.</source>
+        <translation>Seine gespeicherten Werte werden aus den Layerschemas entfernt: %1.</translation>
     </message>
     <message>
-        <source>Lay a picture under all layers of the map</source>
-        <translation>Ein Bild unter alle Layer der Karte legen</translation>
+        <source>Labelled</source>
+        <translation>Beschriftet</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>Layer&amp;darstellung...</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>Layerdarstellung</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>Layerschemata (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>Layerschemata (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>Zu „%1“ hinzugefügte Layer: %2</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>Layer weichen vom Schema „%1“ ab. Soll es vor dem Wechsel zu „%2“ gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Layers in both the file and this map: %1</source>
+        <translation>Layer in der Datei und in dieser Karte: %1</translation>
+    </message>
+    <message>
+        <source>Layers not in the scheme &quot;%1&quot;, left unchanged: %2</source>
+        <translation>Layer, die nicht im Schema „%1“ sind und nicht geändert wurden: %2</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>Layer der Datei, die diese Karte nicht hat: %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>Layer dieser Karte, die die Datei nicht hat und die ihre Werte behalten: %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>Layer, die vom Schema „%1“ abweichen: %2</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>Die Legende weglassen.</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>Die Maßstabsleiste weglassen.</translation>
     </message>
     <message>
         <source>Length: %1</source>
         <translation>Länge: %1</translation>
     </message>
     <message>
-        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Load Scheme &quot;%1&quot;</source>
         <translation>Laden des Schemas „%1“</translation>
     </message>
     <message>
-        <source>Loading of the Startup Schemes</source>
+        <source>Load Startup Schemes</source>
         <translation>Laden der Startschemas</translation>
-    </message>
-    <message>
-        <source>Look in a folder for the data files that the map misses</source>
-        <translation>In einem Ordner nach Datendateien suchen, die der Karte fehlen</translation>
     </message>
     <message>
         <source>Looking for map data</source>
         <translation>Kartendaten werden gesucht</translation>
     </message>
     <message>
-        <source>Make the change again that was taken back last</source>
-        <translation>Die zuletzt zurückgenommene Änderung noch einmal machen</translation>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>Kartendaten</translation>
+    </message>
+    <message>
+        <source>Map File</source>
+        <translation>Kartendatei</translation>
     </message>
     <message>
         <source>Map Tools</source>
         <translation>Kartenwerkzeuge</translation>
     </message>
     <message>
-        <source>Map file</source>
-        <translation>Kartendatei</translation>
+        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
+        <translation>Kartendaten (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
-        <translation>Das Objekt anklickbarer Layer unter dem Zeiger markieren, mit jedem Werkzeug</translation>
+        <source>Map elements</source>
+        <translation>Kartenelemente</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane)</source>
+        <translation>Karten (*.orvane)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane);;All files (*)</source>
+        <translation>Karten (*.orvane);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Measure &amp;Area</source>
@@ -688,56 +802,202 @@
         <translation>&amp;Länge messen</translation>
     </message>
     <message>
-        <source>Measure a line; its vertices snap to layers that ask for it</source>
-        <translation>Eine Linie messen; ihre Stützpunkte rasten an Layern ein, die es verlangen</translation>
+        <source>Measure a line; its vertices snap to layers with snapping turned on</source>
+        <translation>Eine Linie messen; ihre Stützpunkte rasten an Layern mit eingeschaltetem Fang ein</translation>
     </message>
     <message>
-        <source>Measure an area; its vertices snap to layers that ask for it</source>
-        <translation>Eine Fläche messen; ihre Stützpunkte rasten an Layern ein, die es verlangen</translation>
+        <source>Measure an area; its vertices snap to layers with snapping turned on</source>
+        <translation>Eine Fläche messen; ihre Stützpunkte rasten an Layern mit eingeschaltetem Fang ein</translation>
     </message>
     <message>
-        <source>Move in %1</source>
-        <translation>Verschieben in %1</translation>
+        <source>Move Feature in %1</source>
+        <translation>Verschieben eines Objekts in %1</translation>
+    </message>
+    <message>
+        <source>Move a feature of an unlocked layer by dragging it</source>
+        <translation>Ein Objekt eines nicht gesperrten Layers durch Ziehen verschieben</translation>
     </message>
     <message>
         <source>Moved a feature of %1.</source>
         <translation>Ein Objekt von %1 wurde verschoben.</translation>
     </message>
     <message>
-        <source>Moving a feature of %1. Esc lets go.</source>
-        <translation>Ein Objekt von %1 wird verschoben. Esc lässt es los.</translation>
+        <source>Moving a feature of %1. Press Esc to cancel.</source>
+        <translation>Ein Objekt von %1 wird verschoben. Esc bricht ab.</translation>
     </message>
     <message>
         <source>Moving the feature</source>
         <translation>Das Objekt wird verschoben</translation>
     </message>
     <message>
-        <source>New Code of &quot;%1&quot;</source>
-        <translation>Neuer Code von „%1“</translation>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>Neuer Layer</translation>
+    </message>
+    <message>
+        <source>New Map</source>
+        <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>Neues Thema</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>Neuer Layer</translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New map - Orvane</source>
+        <translation>Neue Karte - Orvane</translation>
     </message>
     <message>
         <source>No layer here.</source>
         <translation>Hier ist kein Layer.</translation>
     </message>
     <message>
+        <source>No layer of this map is visible.</source>
+        <translation>Kein Layer dieser Karte ist sichtbar.</translation>
+    </message>
+    <message>
+        <source>No maps yet</source>
+        <translation>Noch keine Karten</translation>
+    </message>
+    <message>
+        <source>No problems were found in &quot;%1&quot;.</source>
+        <translation>In „%1“ wurden keine Probleme gefunden.</translation>
+    </message>
+    <message>
         <source>No selectable feature in the rectangle.</source>
         <translation>Kein auswählbares Objekt im Rechteck.</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>Noch keine Themen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>Keine der fehlenden Dateien liegt in „%1“.</translation>
     </message>
     <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>Nur die Karte, bis an den Rand der Seite.</translation>
+    </message>
+    <message>
+        <source>One statement at a time can be run on &quot;^1&quot;.</source>
+        <translation>In „^1“ kann jeweils nur eine Anweisung ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
+        <translation>In „^1“ kann nur eine Abfrage zum Lesen geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Data...</source>
+        <translation>&amp;Daten öffnen...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open Data</source>
+        <translation>Daten öffnen</translation>
+    </message>
+    <message>
+        <source>Open Map</source>
+        <translation>Karte öffnen</translation>
+    </message>
+    <message>
+        <source>Open Map Data</source>
+        <translation>Öffnen von Kartendaten</translation>
+    </message>
+    <message>
         <source>Open Recent</source>
         <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
-        <source>Opening of Map Data</source>
-        <translation>Öffnen von Kartendaten</translation>
+        <source>Open a map file</source>
+        <translation>Eine Kartendatei öffnen</translation>
+    </message>
+    <message>
+        <source>Open the layer control at startup.</source>
+        <translation>Die Layersteuerung beim Start öffnen.</translation>
+    </message>
+    <message>
+        <source>Opening map data</source>
+        <translation>Kartendaten werden geöffnet</translation>
     </message>
     <message>
         <source>Opening the picture</source>
         <translation>Das Bild wird geöffnet</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+These commands run without a window; each has its own --help:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             check a map file for problems</source>
+        <translation>Orvane, ein kleines Kartenprogramm.
+
+Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
+  orvane MAP --export FILE     eine Karte als PDF, SVG oder PNG zeichnen
+  orvane import DATA --to MAP  Daten zu einer Kartendatei hinzufügen
+  orvane check MAP             eine Kartendatei auf Probleme prüfen</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>Karte drucken</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>Die Karte drucken, mit Vorschau</translation>
+    </message>
+    <message>
+        <source>Quit Orvane</source>
+        <translation>Orvane beenden</translation>
     </message>
     <message>
         <source>R&amp;emove Raster Backdrop</source>
@@ -756,104 +1016,8 @@
         <translation>Attribute werden gelesen</translation>
     </message>
     <message>
-        <source>Renaming of &quot;%1&quot;</source>
-        <translation>Umbenennen von „%1“</translation>
-    </message>
-    <message>
-        <source>Renaming of the Group &quot;%1&quot;</source>
-        <translation>Umbenennen der Gruppe „%1“</translation>
-    </message>
-    <message>
-        <source>Saving of the Scheme &quot;%1&quot;</source>
-        <translation>Speichern des Schemas „%1“</translation>
-    </message>
-    <message>
-        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
-        <translation>Objekte auswählbarer Layer durch Klick oder Rechteck auswählen; Strg fügt hinzu</translation>
-    </message>
-    <message>
-        <source>Selected features: %1</source>
-        <translation>Ausgewählte Objekte: %1</translation>
-    </message>
-    <message>
-        <source>Show or hide the panel with the attributes of identified features</source>
-        <translation>Das Fenster mit den Attributen abgefragter Objekte zeigen oder verbergen</translation>
-    </message>
-    <message>
-        <source>Show the attributes of features of enquirable layers</source>
-        <translation>Die Attribute von Objekten abfragbarer Layer zeigen</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>Die Karte ohne das Bild zeigen</translation>
-    </message>
-    <message>
-        <source>Take back the last change of layers, groups and schemes</source>
-        <translation>Die letzte Änderung an Layern, Gruppen und Schemas zurücknehmen</translation>
-    </message>
-    <message>
-        <source>The feature was changed by somebody else and stays where it is.</source>
-        <translation>Das Objekt wurde von jemand anderem geändert und bleibt, wo es ist.</translation>
-    </message>
-    <message>
-        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
-        <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
-        <translation>Die Karte „%1“ ist nicht mehr vorhanden. Sie wurde aus der Liste entfernt.</translation>
-    </message>
-    <message>
-        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
-        <translation>Die Kartendatei „%1“ wurde verschoben oder gelöscht. Änderungen bleiben nur erhalten, wenn Sie die Karte unter einem anderen Namen speichern.</translation>
-    </message>
-    <message>
-        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
-        <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Use It Now</source>
-        <translation>Jetzt &amp;anwenden</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-    <message>
-        <source>it does not say where its pixels lie</source>
-        <translation>es fehlt die Angabe, wo seine Pixel liegen</translation>
-    </message>
-    <message>
-        <source>it has no attribute named %1</source>
-        <translation>es gibt darin kein Attribut namens %1</translation>
-    </message>
-    <message>
-        <source>Labelled</source>
-        <translation>Beschriftet</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Beschriftung</translation>
-    </message>
-    <message>
-        <source>Layer Rendering</source>
-        <translation>Layerdarstellung</translation>
-    </message>
-    <message>
-        <source>Layer &amp;Rendering...</source>
-        <translation>Layer&amp;darstellung...</translation>
-    </message>
-    <message>
-        <source>&amp;Layer:</source>
-        <translation>La&amp;yer:</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keines</translation>
-    </message>
-    <message>
-        <source>&amp;Number of classes:</source>
-        <translation>A&amp;nzahl der Klassen:</translation>
+        <source>Reading map data</source>
+        <translation>Kartendaten werden gelesen</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -864,160 +1028,36 @@
         <translation>Wiederholen: %1</translation>
     </message>
     <message>
-        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
-        <translation>Zeilen von „%1“, die zu etwas gehören, das in „%2“ fehlt: %3.</translation>
+        <source>Redo the last undone change</source>
+        <translation>Die zuletzt rückgängig gemachte Änderung wiederholen</translation>
     </message>
     <message>
-        <source>Style:</source>
-        <translation>Darstellung:</translation>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>Umbenennen von „%1“</translation>
     </message>
     <message>
-        <source>The data file &quot;%1&quot; is missing.</source>
-        <translation>Die Datendatei „%1“ fehlt.</translation>
+        <source>Rename Group &quot;%1&quot;</source>
+        <translation>Umbenennen der Gruppe „%1“</translation>
     </message>
     <message>
-        <source>The data of this layer cannot be read.</source>
-        <translation>Die Daten dieses Layers können nicht gelesen werden.</translation>
+        <source>Repair what can be repaired.</source>
+        <translation>Reparieren, was sich reparieren lässt.</translation>
     </message>
     <message>
-        <source>The map file is damaged: %1.</source>
-        <translation>Die Kartendatei ist beschädigt: %1.</translation>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <source>Revert Scheme</source>
+        <translation>Zum gespeicherten Schema zurück</translation>
     </message>
     <message>
-        <source>Undo %1</source>
-        <translation>Rückgängig: %1</translation>
+        <source>Revert the layers to the values saved in the scheme &quot;%1&quot;?</source>
+        <translation>Die Layer auf die im Schema „%1“ gespeicherten Werte zurücksetzen?</translation>
     </message>
     <message>
-        <source>it has no layer named %1</source>
-        <translation>es gibt darin keinen Layer namens %1</translation>
-    </message>
-    <message>
-        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
-        <translation>sie ist keine Stileditor-Komponente („%1“ fehlt)</translation>
-    </message>
-    <message>
-        <source>it is too large for this computer's memory</source>
-        <translation>es ist zu groß für den Speicher dieses Rechners</translation>
-    </message>
-    <message>
-        <source>it made no entry object</source>
-        <translation>sie hat kein Einstiegsobjekt erzeugt</translation>
-    </message>
-    <message>
-        <source>it was built with Qt %1, this program with Qt %2</source>
-        <translation>sie wurde mit Qt %1 erstellt, dieses Programm mit Qt %2</translation>
-    </message>
-    <message>
-        <source>it speaks version %1 of the contract, this program speaks %2</source>
-        <translation>sie verwendet Version %1 der Schnittstelle, dieses Programm Version %2</translation>
-    </message>
-    <message>
-        <source>&amp;Layer Control</source>
-        <translation>&amp;Layersteuerung</translation>
-    </message>
-    <message>
-        <source>&amp;Layers</source>
-        <translation>&amp;Layer</translation>
-    </message>
-    <message>
-        <source>Map</source>
-        <translation>Karte</translation>
-    </message>
-    <message>
-        <source>Map data</source>
-        <translation>Kartendaten</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Kartendaten (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane)</source>
-        <translation>Karten (*.orvane)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane);;All files (*)</source>
-        <translation>Karten (*.orvane);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>N</source>
-        <translation>N</translation>
-    </message>
-    <message>
-        <source>New layer</source>
-        <translation>Neuer Layer</translation>
-    </message>
-    <message>
-        <source>New Map</source>
-        <translation>Neue Karte</translation>
-    </message>
-    <message>
-        <source>New map</source>
-        <translation>Neue Karte</translation>
-    </message>
-    <message>
-        <source>New map - Orvane</source>
-        <translation>Neue Karte - Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;New Map...</source>
-        <translation>&amp;Neue Karte...</translation>
-    </message>
-    <message>
-        <source>No maps yet</source>
-        <translation>Noch keine Karten</translation>
-    </message>
-    <message>
-        <source>One statement at a time can be run on &quot;^1&quot;.</source>
-        <translation>In „^1“ kann jeweils nur eine Anweisung ausgeführt werden.</translation>
-    </message>
-    <message>
-        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
-        <translation>In „^1“ kann nur eine Abfrage zum Lesen geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>Open a map file</source>
-        <translation>Eine Kartendatei öffnen</translation>
-    </message>
-    <message>
-        <source>Open Data</source>
-        <translation>Daten öffnen</translation>
-    </message>
-    <message>
-        <source>Open &amp;Data...</source>
-        <translation>&amp;Daten öffnen...</translation>
-    </message>
-    <message>
-        <source>Open Map</source>
-        <translation>Karte öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Open Map...</source>
-        <translation>Karte ö&amp;ffnen...</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>Opening map data</source>
-        <translation>Kartendaten werden geöffnet</translation>
-    </message>
-    <message>
-        <source>Orvane</source>
-        <translation>Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Reading map data</source>
-        <translation>Kartendaten werden gelesen</translation>
+        <source>Rows of &quot;%1&quot; that refer to missing rows of &quot;%2&quot;: %3.</source>
+        <translation>Zeilen von „%1“, die auf fehlende Zeilen von „%2“ verweisen: %3.</translation>
     </message>
     <message>
         <source>Rows of &quot;^1&quot; can be sought with &quot;=&quot; only, not with &quot;^2&quot;.</source>
@@ -1032,24 +1072,88 @@
         <translation>S</translation>
     </message>
     <message>
+        <source>S&amp;witch to It</source>
+        <translation>&amp;Dorthin wechseln</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG-Zeichnung (*.svg)</translation>
+    </message>
+    <message>
         <source>Save Map As</source>
         <translation>Karte speichern unter</translation>
     </message>
     <message>
-        <source>&amp;Save Map As...</source>
-        <translation>Karte &amp;speichern unter...</translation>
+        <source>Save Scheme</source>
+        <translation>Schema speichern</translation>
+    </message>
+    <message>
+        <source>Save Scheme &quot;%1&quot;</source>
+        <translation>Speichern des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Save the current layer settings to the scheme &quot;%1&quot;?</source>
+        <translation>Die aktuellen Einstellungen der Layer im Schema „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Save the map to another file and continue with that file</source>
+        <translation>Die Karte in einer anderen Datei speichern und damit weiterarbeiten</translation>
+    </message>
+    <message>
+        <source>Save this map before closing it?</source>
+        <translation>Diese Karte vor dem Schließen speichern?</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>Maßsta&amp;bsleiste</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>Maßstab 1:</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>Schema: %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>Schema: %1 *</translation>
+    </message>
+    <message>
+        <source>Search a folder for the missing data files of the map</source>
+        <translation>Einen Ordner nach den fehlenden Datendateien der Karte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>Objekte auswählbarer Layer durch Klick oder Rechteck auswählen; Strg fügt hinzu</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>Ausgewählte Objekte: %1</translation>
+    </message>
+    <message>
+        <source>Show a picture below all layers of the map</source>
+        <translation>Ein Bild unter allen Layern der Karte zeigen</translation>
     </message>
     <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>Layer, Gruppen und Schemas zeigen und bearbeiten</translation>
     </message>
     <message>
-        <source>Show less, larger</source>
-        <translation>Weniger in größerer Darstellung zeigen</translation>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>Das Fenster mit den Attributen abgefragter Objekte zeigen oder verbergen</translation>
     </message>
     <message>
-        <source>Show more, smaller</source>
-        <translation>Mehr in kleinerer Darstellung zeigen</translation>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>Die Attribute von Objekten abfragbarer Layer zeigen</translation>
+    </message>
+    <message>
+        <source>Show the map without the picture</source>
+        <translation>Die Karte ohne das Bild zeigen</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
     </message>
     <message>
         <source>Show the whole map</source>
@@ -1060,8 +1164,12 @@
         <translation>Standard</translation>
     </message>
     <message>
-        <source>Store a copy of the map in another file and go on with it</source>
-        <translation>Eine Kopie der Karte in einer anderen Datei speichern und damit weiterarbeiten</translation>
+        <source>Style:</source>
+        <translation>Darstellung:</translation>
+    </message>
+    <message>
+        <source>Switch Scheme</source>
+        <translation>Schema wechseln</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1072,44 +1180,116 @@
         <translation>Die Datendatei „%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>Die Datendatei „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>Die Daten dieses Layers können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The feature was changed by another user or program and was not moved.</source>
+        <translation>Das Objekt wurde von einem anderen Benutzer oder Programm geändert und nicht verschoben.</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>Die Exportdatei muss auf .pdf, .svg oder .png enden.</translation>
+    </message>
+    <message>
+        <source>The file to write; its extension .pdf, .svg or .png sets the format.</source>
+        <translation>Die zu schreibende Datei; ihre Endung .pdf, .svg oder .png bestimmt das Format.</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; cannot be created: ^2</source>
-        <translation>Die Layerdatenbank „^1“ kann nicht angelegt werden: ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; cannot be opened: ^2</source>
-        <translation>Die Layerdatenbank „^1“ kann nicht geöffnet werden: ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; does not exist.</source>
-        <translation>Die Layerdatenbank „^1“ ist nicht vorhanden.</translation>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
     </message>
     <message>
         <source>The layer database &quot;^1&quot; has no table &quot;^2&quot; to open.</source>
         <translation>Die Layerdatenbank „^1“ hat keine Tabelle „^2“.</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; is damaged. Use a copy of it that was saved earlier.</source>
-        <translation>Die Layerdatenbank „^1“ ist beschädigt. Verwenden Sie eine früher gesicherte Kopie.</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is in use by another program. Try again in a moment.</source>
-        <translation>Die Layerdatenbank „^1“ wird von einem anderen Programm verwendet. Versuchen Sie es gleich noch einmal.</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is read-only and cannot be changed.</source>
-        <translation>Die Layerdatenbank „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
-    </message>
-    <message>
         <source>The layer database &quot;^1&quot; refused an operation: ^2</source>
         <translation>Die Layerdatenbank „^1“ hat einen Vorgang abgelehnt: ^2</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; was written by a newer version of this program.</source>
-        <translation>Die Layerdatenbank „^1“ wurde von einer neueren Version dieses Programms geschrieben.</translation>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The layers match the scheme &quot;%1&quot;.</source>
+        <translation>Die Layer stimmen mit dem Schema „%1“ überein.</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>Die Karte „%1“ ist in einem anderen Fenster oder Programm geöffnet. Soll sie auch hier geöffnet werden?</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; no longer exists. It was removed from the list.</source>
+        <translation>Die Karte „%1“ ist nicht mehr vorhanden. Sie wurde aus der Liste entfernt.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created: ^2</source>
+        <translation>Die Karte „^1“ kann nicht angelegt werden: ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be opened: ^2</source>
+        <translation>Die Karte „^1“ kann nicht geöffnet werden: ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; does not exist.</source>
+        <translation>Die Karte „^1“ ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is damaged. Use an earlier copy of it.</source>
+        <translation>Die Karte „^1“ ist beschädigt. Verwenden Sie eine früher gesicherte Kopie.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is in use by another program. Try again in a moment.</source>
+        <translation>Die Karte „^1“ wird von einem anderen Programm verwendet. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
+        <translation>Die Karte „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was written by a newer version of this program.</source>
+        <translation>Die Karte „^1“ wurde von einer neueren Version dieses Programms geschrieben.</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>Die Kartendatei „%1“ wurde verschoben oder gelöscht. Änderungen bleiben nur erhalten, wenn Sie die Karte unter einem anderen Namen speichern.</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>Die Kartendatei ist beschädigt: %1.</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>Die Kartendatei, zu der hinzugefügt wird; fehlt sie, wird sie angelegt.</translation>
+    </message>
+    <message>
+        <source>The map file to open.</source>
+        <translation>Die Kartendatei, die geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>Die Kartendatei.</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and has been reloaded.</source>
+        <translation>Die Karte wurde in einem anderen Fenster geändert und neu geladen.</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>Die Karte wurde nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>Die Seite kann nicht gezeichnet werden.</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
@@ -1128,12 +1308,48 @@
         <translation>Die aus „^1“ gelesenen Zeilen haben keine Spalte „^2“.</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
+        <translation>Das Schema „%1“ ist bereits vorhanden. Soll es durch das Schema in der Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>Das Schema „%1“ wurde exportiert.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>Das Schema „%1“ wurde importiert.</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>Die Schemadatei „%1“ kann nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>Die Schemadatei „%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
         <source>The style editor component &quot;%1&quot; cannot be used: %2.</source>
         <translation>Die Stileditor-Komponente „%1“ kann nicht verwendet werden: %2.</translation>
     </message>
     <message>
+        <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
+        <translation>Das Thema „%1“ ist bereits vorhanden. Sollen seine Layer durch die sichtbaren Layer ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The title. The default is the name of the map; &quot;&quot; for no title.</source>
+        <translation>Der Titel. Voreinstellung: der Name der Karte; "" für keinen Titel.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%2&quot; of the layer &quot;%1&quot; is not a number.</source>
+        <translation>Der Wert „%2“ des Layers „%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>Es gibt keine Muster der Art %1.</translation>
+    </message>
+    <message>
+        <source>There are too many arguments.</source>
+        <translation>Es sind zu viele Argumente angegeben.</translation>
     </message>
     <message>
         <source>There is a layer scheme named &quot;%1&quot; already.</source>
@@ -1152,32 +1368,80 @@
         <translation>Es gibt kein Layerschema namens „%1“.</translation>
     </message>
     <message>
-        <source>There is no room left on the disk of the layer database &quot;^1&quot;.</source>
-        <translation>Auf dem Datenträger der Layerdatenbank „^1“ ist kein Platz mehr.</translation>
-    </message>
-    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>In „^1“ gibt es keine Transaktion, die abgeschlossen werden kann.</translation>
     </message>
     <message>
-        <source>This map has no file yet. Keep it?</source>
-        <translation>Diese Karte hat noch keine Datei. Soll sie behalten werden?</translation>
+        <source>There is not enough disk space for the map &quot;^1&quot;.</source>
+        <translation>Auf dem Datenträger ist nicht genug Speicherplatz für die Karte „^1“.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to record the changes to &quot;^1&quot;; they cannot be undone.</source>
+        <translation>Der Arbeitsspeicher reichte nicht, um die Änderungen an „^1“ festzuhalten; sie lassen sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>Diese Karte ist leer. Wählen Sie Datei &gt; Daten öffnen... oder ziehen Sie Datendateien hierher.</translation>
     </message>
     <message>
         <source>This program has no startup database.</source>
         <translation>Dieses Programm hat keine Startdatenbank.</translation>
     </message>
     <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>Titel der Karte</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>Werkzeuge</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Undo the last change to layers, groups or schemes</source>
+        <translation>Die letzte Änderung an Layern, Gruppen oder Schemas rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Use portrait orientation.</source>
+        <translation>Hochformat verwenden.</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>W</source>
         <translation>W</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Write each call between the map and the layer control to FILE.</source>
+        <translation>Jeden Aufruf zwischen Karte und Layersteuerung in FILE schreiben.</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>Die Karte als PDF, SVG oder PNG schreiben</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1188,176 +1452,52 @@
         <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Karte vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Karte verkleinern</translation>
+    </message>
+    <message>
         <source>Zoom to &amp;All</source>
         <translation>&amp;Alles zeigen</translation>
-    </message>
-    <message>
-        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
-        <translation>Was in einem Fenster geändert wird, ist sofort gespeichert und erscheint im anderen, sobald Sie dorthin wechseln.</translation>
-    </message>
-    <message>
-        <source>Write each call between the map and the layer control to FILE.</source>
-        <translation>Jeden Aufruf zwischen Karte und Layersteuerung in FILE schreiben.</translation>
-    </message>
-    <message>
-        <source>Open the layer control at once.</source>
-        <translation>Die Layersteuerung sofort öffnen.</translation>
-    </message>
-    <message>
-        <source>The map file to open.</source>
-        <translation>Die Kartendatei, die geöffnet werden soll.</translation>
-    </message>
-    <message>
-        <source>Orvane, a small desktop map program.
-
-Without a window it does these, each with a --help of its own:
-  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             look for what is wrong with a map file</source>
-        <translation>Orvane, ein kleines Kartenprogramm.
-
-Ohne Fenster kann es dies, jeweils mit eigenem --help:
-  orvane MAP --export FILE     eine Karte als PDF, SVG oder PNG zeichnen
-  orvane import DATA --to MAP  Daten zu einer Kartendatei hinzufügen
-  orvane check MAP             nachsehen, was an einer Kartendatei nicht stimmt</translation>
-    </message>
-    <message>
-        <source>Tell the version.</source>
-        <translation>Die Version nennen.</translation>
-    </message>
-    <message>
-        <source>An argument is missing.</source>
-        <translation>Ein Argument fehlt.</translation>
-    </message>
-    <message>
-        <source>There is an argument too many.</source>
-        <translation>Es ist ein Argument zu viel.</translation>
-    </message>
-    <message>
-        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
-        <translation>„orvane %1--help“ zählt auf, was möglich ist.</translation>
-    </message>
-    <message>
-        <source>Mend what can be mended.</source>
-        <translation>Beheben, was sich beheben lässt.</translation>
-    </message>
-    <message>
-        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
-Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
-        <translation>Nachsehen, was an einer Kartendatei nicht stimmt: Schäden, Zeilen, die ins Leere führen, fehlende Daten.
-Rückgabewert: 0 alles in Ordnung, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>Die Kartendatei.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is sound.</source>
-        <translation>„%1“ ist in Ordnung.</translation>
-    </message>
-    <message>
-        <source>There is nothing to import.</source>
-        <translation>Es gibt nichts zu importieren.</translation>
-    </message>
-    <message>
-        <source>Layers added to &quot;%1&quot;: %2</source>
-        <translation>Zu „%1“ hinzugefügte Layer: %2</translation>
-    </message>
-    <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>Die Kartendatei, zu der hinzugefügt wird; fehlt sie, wird sie angelegt.</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
-Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
-    </message>
-    <message>
-        <source>Files, or folders with files in them.</source>
-        <translation>Dateien, oder Ordner mit Dateien.</translation>
-    </message>
-    <message>
-        <source>&quot;--to MAP&quot; is missing.</source>
-        <translation>„--to MAP“ fehlt.</translation>
-    </message>
-    <message>
-        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
-        <translation>Die zu schreibende Datei; ihre Endung .pdf, .svg oder .png sagt, was.</translation>
-    </message>
-    <message>
-        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
-        <translation>Die Layer so zeichnen, wie dieses Schema sie hat; die Kartendatei bleibt, wie sie ist.</translation>
-    </message>
-    <message>
-        <source>Draw at the scale 1:N around the middle of the map.</source>
-        <translation>Im Maßstab 1:N um die Kartenmitte zeichnen.</translation>
-    </message>
-    <message>
-        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
-        <translation>A5 bis A0, Letter, Legal, Tabloid, 200x150mm oder 1600x900px. A4, wenn nichts angegeben ist.</translation>
-    </message>
-    <message>
-        <source>Stand the paper upright.</source>
-        <translation>Das Papier hochkant stellen.</translation>
-    </message>
-    <message>
-        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
-        <translation>Punkte je Zoll; 300, wenn nichts angegeben ist, 96 bei einer Größe in Pixeln.</translation>
-    </message>
-    <message>
-        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
-        <translation>Der Titel; der Name der Karte, wenn nichts angegeben ist, keiner bei &quot;&quot;.</translation>
-    </message>
-    <message>
-        <source>Leave the legend out.</source>
-        <translation>Die Legende weglassen.</translation>
-    </message>
-    <message>
-        <source>Leave the scale bar out.</source>
-        <translation>Die Maßstabsleiste weglassen.</translation>
-    </message>
-    <message>
-        <source>Nothing but the map, up to the edges of the page.</source>
-        <translation>Nur die Karte, bis an den Rand der Seite.</translation>
-    </message>
-    <message>
-        <source>--%1 needs a number from %2 to %3.</source>
-        <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no size of a page.</source>
-        <translation>„%1“ ist keine Seitengröße.</translation>
-    </message>
-    <message>
-        <source>The file to export must end in .pdf, .svg or .png.</source>
-        <translation>Die Exportdatei muss auf .pdf, .svg oder .png enden.</translation>
-    </message>
-    <message>
-        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
-Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
-        <translation>Eine Karte als PDF, SVG oder PNG zeichnen. Die Kartendatei wird nur gelesen.
-Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
     </message>
     <message>
-        <source>1:%1</source>
-        <translation>1:%1</translation>
+        <source>it has no attribute named %1</source>
+        <translation>es gibt darin kein Attribut namens %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written: %2.</source>
-        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+        <source>it has no layer named %1</source>
+        <translation>es gibt darin keinen Layer namens %1</translation>
     </message>
     <message>
-        <source>The page cannot be painted.</source>
-        <translation>Die Seite kann nicht gezeichnet werden.</translation>
+        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
+        <translation>sie ist keine Stileditor-Komponente („%1“ fehlt)</translation>
     </message>
     <message>
-        <source>A picture of %1 by %2 pixels is too large.</source>
-        <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
+        <source>it is not georeferenced</source>
+        <translation>die Georeferenzierung fehlt</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>es ist zu groß für den Speicher dieses Rechners</translation>
+    </message>
+    <message>
+        <source>it made no entry object</source>
+        <translation>sie hat kein Einstiegsobjekt erzeugt</translation>
+    </message>
+    <message>
+        <source>it uses version %1 of the interface, this program uses version %2</source>
+        <translation>sie verwendet Version %1 der Schnittstelle, dieses Programm Version %2</translation>
+    </message>
+    <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>sie wurde mit Qt %1 erstellt, dieses Programm mit Qt %2</translation>
     </message>
     <message>
         <source>its format is read only</source>
@@ -1368,106 +1508,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>ihr Name muss auf .pdf, .svg oder .png enden</translation>
     </message>
     <message>
-        <source>Export Map</source>
-        <translation>Karte exportieren</translation>
-    </message>
-    <message>
-        <source>Print Map</source>
-        <translation>Karte drucken</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>&amp;Exportieren...</translation>
-    </message>
-    <message>
-        <source>&amp;Preview...</source>
-        <translation>&amp;Vorschau...</translation>
-    </message>
-    <message>
-        <source>Own size</source>
-        <translation>Eigene Größe</translation>
-    </message>
-    <message>
-        <source>As a picture: %1 × %2 pixels</source>
-        <translation>Als Bild: %1 × %2 Pixel</translation>
-    </message>
-    <message>
-        <source>&amp;Export Map...</source>
-        <translation>Karte &amp;exportieren...</translation>
-    </message>
-    <message>
-        <source>&amp;Print...</source>
-        <translation>&amp;Drucken...</translation>
-    </message>
-    <message>
-        <source>Write the map as PDF, SVG or PNG</source>
-        <translation>Die Karte als PDF, SVG oder PNG schreiben</translation>
-    </message>
-    <message>
-        <source>Print the map, with a preview</source>
-        <translation>Die Karte drucken, mit Vorschau</translation>
-    </message>
-    <message>
-        <source>Drawing the map</source>
-        <translation>Die Karte wird gezeichnet</translation>
-    </message>
-    <message>
-        <source>The map was written to %1</source>
-        <translation>Die Karte wurde nach %1 geschrieben</translation>
-    </message>
-    <message>
-        <source>PDF document (*.pdf)</source>
-        <translation>PDF-Dokument (*.pdf)</translation>
-    </message>
-    <message>
-        <source>SVG drawing (*.svg)</source>
-        <translation>SVG-Zeichnung (*.svg)</translation>
-    </message>
-    <message>
-        <source>PNG picture (*.png)</source>
-        <translation>PNG-Bild (*.png)</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>Seite</translation>
-    </message>
-    <message>
-        <source>&amp;Paper:</source>
-        <translation>&amp;Papier:</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
-        <source>Wide</source>
-        <translation>Quer</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>Hoch</translation>
-    </message>
-    <message>
-        <source>&amp;Size:</source>
-        <translation>&amp;Größe:</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>Breite</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Höhe</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Einheit</translation>
-    </message>
-    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -1476,68 +1516,24 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>kein Wert</translation>
     </message>
     <message>
-        <source>off the earth</source>
-        <translation>außerhalb der Erde</translation>
+        <source>outside the projection</source>
+        <translation>außerhalb der Projektion</translation>
     </message>
     <message>
         <source>pixels</source>
         <translation>Pixel</translation>
     </message>
     <message>
-        <source>&amp;Resolution:</source>
-        <translation>&amp;Auflösung:</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
-    </message>
-    <message>
-        <source>All that the &amp;window shows, as large as fits</source>
-        <translation>Alles, was das &amp;Fenster zeigt, so groß es passt</translation>
-    </message>
-    <message>
-        <source>At the scale &amp;1:</source>
-        <translation>Im Maßstab &amp;1:</translation>
-    </message>
-    <message>
-        <source>Scale 1:</source>
-        <translation>Maßstab 1:</translation>
-    </message>
-    <message>
-        <source>Beside the map</source>
-        <translation>Neben der Karte</translation>
-    </message>
-    <message>
-        <source>&amp;Title:</source>
-        <translation>&amp;Titel:</translation>
-    </message>
-    <message>
-        <source>Title of the map</source>
-        <translation>Titel der Karte</translation>
-    </message>
-    <message>
-        <source>&amp;Legend of what is shown</source>
-        <translation>&amp;Legende des Gezeigten</translation>
-    </message>
-    <message>
-        <source>Scale &amp;bar</source>
-        <translation>Maßsta&amp;bsleiste</translation>
-    </message>
-    <message>
         <source>the feature is no longer there</source>
         <translation>das Objekt ist nicht mehr vorhanden</translation>
-    </message>
-    <message>
-        <source>the feature would leave the earth</source>
-        <translation>das Objekt würde die Erde verlassen</translation>
     </message>
     <message>
         <source>the file is read only</source>
         <translation>die Datei ist schreibgeschützt</translation>
     </message>
     <message>
-        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
-        <translation>Diese Karte ist leer. Wählen Sie Datei &gt; Daten öffnen... oder ziehen Sie Datendateien hierher.</translation>
+        <source>the new position is outside the coordinate system</source>
+        <translation>die neue Position liegt außerhalb des Koordinatensystems</translation>
     </message>
 </context>
 </TS>

@@ -8,24 +8,64 @@
         <translation>« %1 » ne peut pas être modifié : %2.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>« %1 » ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>« %1 » ne peut pas être enregistré : %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds no picture.</source>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no picture.</source>
         <translation>« %1 » ne contient pas d’image.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no readable data.</source>
+        <translation>« %1 » ne contient aucune donnée lisible.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains nothing to draw.</source>
+        <translation>« %1 » ne contient rien à dessiner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a valid page size.</source>
+        <translation>« %1 » n'est pas une taille de page valide.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
         <translation>« %1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
     </message>
     <message>
-        <source>%1 is here but asks for no snap.</source>
-        <translation>%1 est ici mais ne demande pas d’accrochage.</translation>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>« --to MAP » manque.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
+        <translation>« ^1 » ne peut pas être créé, car un fichier de ce nom existe déjà.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is not a map file.</source>
+        <translation>« ^1 » n’est pas un fichier de carte.</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists the options.</source>
+        <translation>« orvane %1--help » affiche les options.</translation>
+    </message>
+    <message>
+        <source>%1 - Orvane</source>
+        <translation>%1 - Orvane</translation>
     </message>
     <message>
         <source>%1 is here but hidden at this scale.</source>
@@ -56,96 +96,56 @@
         <translation>%1 est ici mais non visible.</translation>
     </message>
     <message>
+        <source>%1 is here but snapping to it is off.</source>
+        <translation>%1 est ici mais son accrochage est désactivé.</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 autres</translation>
     </message>
     <message>
-        <source>A layer from map &amp;data</source>
-        <translation>Une couche de &amp;données cartographiques</translation>
+        <source>&amp;About Orvane</source>
+        <translation>À &amp;propos d’Orvane</translation>
     </message>
     <message>
-        <source>A newer program has written it.</source>
-        <translation>Il a été écrit par un programme plus récent.</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>An &amp;empty layer</source>
-        <translation>Une couche &amp;vide</translation>
-    </message>
-    <message>
-        <source>Areas</source>
-        <translation>Surfaces</translation>
+        <source>&amp;Attribute:</source>
+        <translation>&amp;Attribut :</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
         <translation>Pa&amp;rcourir...</translation>
     </message>
     <message>
-        <source>B&amp;rowse...</source>
-        <translation>Par&amp;courir...</translation>
-    </message>
-    <message>
         <source>&amp;Copy Value</source>
         <translation>&amp;Copier la valeur</translation>
-    </message>
-    <message>
-        <source>Data f&amp;ile:</source>
-        <translation>F&amp;ichier de données :</translation>
-    </message>
-    <message>
-        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
-        <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
     </message>
     <message>
         <source>&amp;Delete Theme</source>
         <translation>&amp;Supprimer un thème</translation>
     </message>
     <message>
-        <source>Delete Theme</source>
-        <translation>Supprimer un thème</translation>
+        <source>&amp;Division:</source>
+        <translation>&amp;Répartition :</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Édition</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
-        <translation>« %1 » ne peut pas être lu : %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
-        <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds no data that can be read.</source>
-        <translation>« %1 » ne contient aucune donnée lisible.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds nothing to draw.</source>
-        <translation>« %1 » ne contient rien à dessiner.</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
-        <translation>« ^1 » ne peut pas être créé, car un fichier de ce nom existe déjà.</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; is not a layer database.</source>
-        <translation>« ^1 » n’est pas une base de données de couches.</translation>
-    </message>
-    <message>
-        <source>%1 - Orvane</source>
-        <translation>%1 - Orvane</translation>
-    </message>
-    <message>
-        <source>Export Scheme</source>
-        <translation>Exporter le schéma</translation>
+        <source>&amp;Export Map...</source>
+        <translation>&amp;Exporter la carte...</translation>
     </message>
     <message>
         <source>&amp;Export Scheme...</source>
         <translation>E&amp;xporter le schéma...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporter...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Find Missing Data...</source>
@@ -156,20 +156,8 @@
         <translation>&amp;Géométrie :</translation>
     </message>
     <message>
-        <source>GeoPackage</source>
-        <translation>GeoPackage</translation>
-    </message>
-    <message>
-        <source>GeoPackage &amp;file:</source>
-        <translation>&amp;Fichier GeoPackage :</translation>
-    </message>
-    <message>
-        <source>GeoPackages (*.gpkg)</source>
-        <translation>GeoPackages (*.gpkg)</translation>
-    </message>
-    <message>
-        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
-        <translation>Donner aux couches les valeurs enregistrées dans le schéma « %1 » ?</translation>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -180,92 +168,28 @@
         <translation>&amp;Identifier</translation>
     </message>
     <message>
-        <source>Import Scheme</source>
-        <translation>Importer un schéma</translation>
-    </message>
-    <message>
         <source>&amp;Import Scheme...</source>
         <translation>&amp;Importer un schéma...</translation>
-    </message>
-    <message>
-        <source>In the file, not in the map:</source>
-        <translation>Dans le fichier, pas dans la carte :</translation>
-    </message>
-    <message>
-        <source>In the map, not in the file:</source>
-        <translation>Dans la carte, pas dans le fichier :</translation>
-    </message>
-    <message>
-        <source>It holds no layers.</source>
-        <translation>Il ne contient aucune couche.</translation>
-    </message>
-    <message>
-        <source>It is no JSON text at byte %1.</source>
-        <translation>Ce n’est pas un texte JSON à l’octet %1.</translation>
-    </message>
-    <message>
-        <source>It is not a layer scheme.</source>
-        <translation>Ce n’est pas un schéma de couches.</translation>
-    </message>
-    <message>
-        <source>It is too large.</source>
-        <translation>Il est trop volumineux.</translation>
-    </message>
-    <message>
-        <source>It names no scheme.</source>
-        <translation>Il ne nomme aucun schéma.</translation>
-    </message>
-    <message>
-        <source>It names no version.</source>
-        <translation>Il n’indique pas de version.</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
         <translation>&amp;Garder les couches</translation>
     </message>
     <message>
-        <source>Layer %1 has no valid &quot;%2&quot;.</source>
-        <translation>La couche %1 n’a pas de « %2 » valide.</translation>
+        <source>&amp;Layer Control</source>
+        <translation>&amp;Contrôle des couches</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json)</source>
-        <translation>Schémas de couches (*.json)</translation>
+        <source>&amp;Layer:</source>
+        <translation>Couc&amp;he :</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json);;All files (*)</source>
-        <translation>Schémas de couches (*.json);;Tous les fichiers (*)</translation>
+        <source>&amp;Layers</source>
+        <translation>&amp;Couches</translation>
     </message>
     <message>
-        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
-        <translation>Des couches diffèrent du schéma « %1 ». L’enregistrer avant de passer à « %2 » ?</translation>
-    </message>
-    <message>
-        <source>Layers of the file that this map does not have: %1</source>
-        <translation>Couches du fichier absentes de cette carte : %1</translation>
-    </message>
-    <message>
-        <source>Layers of this map that the file does not have, which keep their values: %1</source>
-        <translation>Couches de cette carte absentes du fichier, qui gardent leurs valeurs : %1</translation>
-    </message>
-    <message>
-        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
-        <translation>Couches qui diffèrent du schéma « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
-        <translation>Couches que le schéma « %1 » ne connaît pas et a laissées telles quelles : %2</translation>
-    </message>
-    <message>
-        <source>Layers with values: %1</source>
-        <translation>Couches avec des valeurs : %1</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Lignes</translation>
-    </message>
-    <message>
-        <source>Map Data</source>
-        <translation>Données cartographiques</translation>
+        <source>&amp;Legend of what is shown</source>
+        <translation>&amp;Légende de ce qui est montré</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
@@ -276,76 +200,60 @@
         <translation>&amp;Nom :</translation>
     </message>
     <message>
-        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
-        <translation>La mémoire n’a pas suffi pour enregistrer les modifications de « ^1 » ; elles ne peuvent pas être annulées.</translation>
-    </message>
-    <message>
-        <source>New Layer</source>
-        <translation>Nouvelle couche</translation>
-    </message>
-    <message>
-        <source>New Theme</source>
-        <translation>Nouveau thème</translation>
+        <source>&amp;New Map...</source>
+        <translation>&amp;Nouvelle carte...</translation>
     </message>
     <message>
         <source>&amp;New Theme from Visible Layers...</source>
         <translation>&amp;Nouveau thème à partir des couches visibles...</translation>
     </message>
     <message>
-        <source>No layer can be made in the file &quot;%1&quot;.</source>
-        <translation>Aucune couche ne peut être créée dans le fichier « %1 ».</translation>
+        <source>&amp;Number of classes:</source>
+        <translation>&amp;Nombre de classes :</translation>
     </message>
     <message>
-        <source>No layer of this map is visible.</source>
-        <translation>Aucune couche de cette carte n’est visible.</translation>
-    </message>
-    <message>
-        <source>No themes yet</source>
-        <translation>Aucun thème pour l’instant</translation>
+        <source>&amp;Open Map...</source>
+        <translation>&amp;Ouvrir une carte...</translation>
     </message>
     <message>
         <source>&amp;Pan and Zoom</source>
         <translation>&amp;Déplacer et zoomer</translation>
     </message>
     <message>
-        <source>Please supply a non-blank name, or cancel.</source>
-        <translation>Veuillez saisir un nom, ou annulez.</translation>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier :</translation>
     </message>
     <message>
-        <source>Points</source>
-        <translation>Points</translation>
+        <source>&amp;Preview...</source>
+        <translation>A&amp;perçu...</translation>
     </message>
     <message>
-        <source>Revert Scheme</source>
-        <translation>Revenir au schéma enregistré</translation>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimer...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution :</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
         <translation>&amp;Revenir au schéma enregistré</translation>
     </message>
     <message>
+        <source>&amp;Save Map As...</source>
+        <translation>&amp;Enregistrer la carte sous...</translation>
+    </message>
+    <message>
         <source>&amp;Save Scheme</source>
         <translation>&amp;Enregistrer le schéma</translation>
     </message>
     <message>
-        <source>Save Scheme</source>
-        <translation>Enregistrer le schéma</translation>
-    </message>
-    <message>
         <source>&amp;Save Scheme &quot;%1&quot;</source>
         <translation>&amp;Enregistrer le schéma « %1 »</translation>
-    </message>
-    <message>
-        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
-        <translation>Enregistrer les couches telles quelles dans le schéma « %1 » ?</translation>
-    </message>
-    <message>
-        <source>Scheme: %1</source>
-        <translation>Schéma : %1</translation>
-    </message>
-    <message>
-        <source>Scheme: %1 *</source>
-        <translation>Schéma : %1 *</translation>
     </message>
     <message>
         <source>&amp;Schemes</source>
@@ -356,72 +264,56 @@
         <translation>&amp;Sélectionner</translation>
     </message>
     <message>
-        <source>Switch Scheme</source>
-        <translation>Changer de schéma</translation>
-    </message>
-    <message>
-        <source>S&amp;witch to It</source>
-        <translation>&amp;Passer à ce schéma</translation>
-    </message>
-    <message>
-        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
-        <translation>La couche « %1 » ne contient pas de nombre pour « %2 ».</translation>
-    </message>
-    <message>
-        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
-        <translation>Les schémas de couches de « %1 » ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
-    </message>
-    <message>
-        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
-        <translation>Les couches sont telles qu’enregistrées dans le schéma « %1 ».</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
-        <translation>La carte « %1 » est ouverte dans une autre fenêtre ou un autre programme. L’ouvrir ici aussi ?</translation>
-    </message>
-    <message>
-        <source>The map was changed in another window and is shown as it is now.</source>
-        <translation>La carte a été modifiée dans une autre fenêtre et s’affiche telle qu’elle est maintenant.</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was exported.</source>
-        <translation>Le schéma « %1 » a été exporté.</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was imported.</source>
-        <translation>Le schéma « %1 » a été importé.</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
-        <translation>Le fichier de schéma « %1 » ne peut pas être lu. %2</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
-        <translation>Le fichier de schéma « %1 » ne peut pas être écrit : %2.</translation>
+        <source>&amp;Size:</source>
+        <translation>Ta&amp;ille :</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
         <translation>&amp;Thèmes</translation>
     </message>
     <message>
-        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
-        <translation>Il existe déjà un schéma « %1 ». Le remplacer par celui du fichier ?</translation>
-    </message>
-    <message>
-        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
-        <translation>Il existe déjà un thème « %1 ». Lui donner les couches visibles maintenant ?</translation>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>&amp;Outils</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>&amp;Utiliser maintenant</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;ffichage</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 demande un nombre de %2 à %3.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... et %1 de plus.</translation>
     </message>
     <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Un petit programme cartographique de bureau, hôte du contrôle des couches d’Orvane.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>A layer cannot be created in the file &quot;%1&quot;.</source>
+        <translation>Aucune couche ne peut être créée dans le fichier « %1 ».</translation>
+    </message>
+    <message>
+        <source>A layer from map &amp;data</source>
+        <translation>Une couche de &amp;données cartographiques</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
     <message>
         <source>A row of &quot;^1&quot; was changed without beginning an edit.</source>
@@ -440,8 +332,12 @@
         <translation>Un nombre entier de %1 à %2</translation>
     </message>
     <message>
-        <source>&amp;About Orvane</source>
-        <translation>À &amp;propos d’Orvane</translation>
+        <source>A&amp;ttribute:</source>
+        <translation>A&amp;ttribut :</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. The default is A4.</source>
+        <translation>A5 à A0, Letter, Legal, Tabloid, 200x150mm ou 1600x900px. Par défaut : A4.</translation>
     </message>
     <message>
         <source>About Orvane</source>
@@ -452,24 +348,46 @@
         <translation>À propos de ce programme</translation>
     </message>
     <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
+Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
         <source>Add map data from files to the map</source>
         <translation>Ajouter à la carte des données issues de fichiers</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>Une couche &amp;vide</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>Il manque un argument.</translation>
     </message>
     <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>Une valeur vide ne peut pas être enregistrée dans « ^1 ».</translation>
     </message>
     <message>
-        <source>&amp;Attribute:</source>
-        <translation>&amp;Attribut :</translation>
-    </message>
-    <message>
-        <source>A&amp;ttribute:</source>
-        <translation>A&amp;ttribut :</translation>
-    </message>
-    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Surface : %1, périmètre : %2</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Surfaces</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>En image : %1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>À l'échelle &amp;1 :</translation>
     </message>
     <message>
         <source>Attribute</source>
@@ -480,8 +398,8 @@
         <translation>Automatique (%1)</translation>
     </message>
     <message>
-        <source>Begin a new map file</source>
-        <translation>Commencer un nouveau fichier de carte</translation>
+        <source>B&amp;rowse...</source>
+        <translation>Par&amp;courir...</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -496,12 +414,26 @@
         <translation>Lignes bordées, étiquetées</translation>
     </message>
     <message>
-        <source>Change of %1 Layers</source>
+        <source>Change &quot;%1&quot;</source>
+        <translation>Modification de « %1 »</translation>
+    </message>
+    <message>
+        <source>Change %1 Layers</source>
         <translation>Modification de %1 couches</translation>
     </message>
     <message>
-        <source>Change of &quot;%1&quot;</source>
-        <translation>Modification de « %1 »</translation>
+        <source>Change Code of &quot;%1&quot;</source>
+        <translation>Modification du code de « %1 »</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
+        <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre dès que vous y passez.</translation>
+    </message>
+    <message>
+        <source>Check a map file for damage, broken references and missing data.
+Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
+        <translation>Rechercher dans un fichier de carte les dégâts, les références non valides et les données absentes.
+Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
@@ -524,36 +456,52 @@
         <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
     </message>
     <message>
-        <source>Creation of &quot;%1&quot;</source>
+        <source>Create &quot;%1&quot;</source>
         <translation>Création de « %1 »</translation>
     </message>
     <message>
-        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <source>Create Scheme &quot;%1&quot;</source>
         <translation>Création du schéma « %1 »</translation>
     </message>
     <message>
-        <source>Delete layer</source>
+        <source>Create a new map file</source>
+        <translation>Créer un nouveau fichier de carte</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>Taille personnalisée</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>F&amp;ichier de données :</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Suppression de « %1 »</translation>
+    </message>
+    <message>
+        <source>Delete Layer</source>
         <translation>Supprimer la couche</translation>
+    </message>
+    <message>
+        <source>Delete Scheme &quot;%1&quot;</source>
+        <translation>Suppression du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>Supprimer un thème</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>Supprimer la couche « %1 » ?</translation>
     </message>
     <message>
-        <source>&amp;Division:</source>
-        <translation>&amp;Répartition :</translation>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
     </message>
     <message>
-        <source>Deletion of &quot;%1&quot;</source>
-        <translation>Suppression de « %1 »</translation>
-    </message>
-    <message>
-        <source>Deletion of the Scheme &quot;%1&quot;</source>
-        <translation>Suppression du schéma « %1 »</translation>
-    </message>
-    <message>
-        <source>Drag a feature of a layer that is not locked to another place</source>
-        <translation>Faire glisser un objet d’une couche non verrouillée vers un autre endroit</translation>
+        <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
+        <translation>Points par pouce. Par défaut : 300, ou 96 pour une taille en pixels.</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -568,6 +516,24 @@
         <translation>Faire glisser la carte, zoomer avec la molette</translation>
     </message>
     <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>Dessiner une carte en PDF, SVG ou PNG. Le fichier de carte est seulement lu.
+Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>Dessiner à l'échelle 1:N autour du centre de la carte.</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>Dessiner les couches comme dans ce schéma ; le fichier de carte reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>Dessin de la carte</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>Dessin...</translation>
     </message>
@@ -576,8 +542,8 @@
         <translation>E</translation>
     </message>
     <message>
-        <source>End Orvane</source>
-        <translation>Quitter Orvane</translation>
+        <source>Enter a name.</source>
+        <translation>Saisissez un nom.</translation>
     </message>
     <message>
         <source>Equal counts</source>
@@ -588,8 +554,16 @@
         <translation>Intervalles égaux</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
+        <source>Export Map</source>
+        <translation>Exporter la carte</translation>
+    </message>
+    <message>
+        <source>Export Scheme</source>
+        <translation>Exporter le schéma</translation>
+    </message>
+    <message>
+        <source>Extent of the &amp;window, fitted to the page</source>
+        <translation>Étendue de la &amp;fenêtre, ajustée à la page</translation>
     </message>
     <message>
         <source>Feature %1</source>
@@ -604,8 +578,24 @@
         <translation>Objets trouvés : %1</translation>
     </message>
     <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>Rechercher les données manquantes</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>&amp;Fichier GeoPackage :</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackages (*.gpkg)</translation>
     </message>
     <message>
         <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
@@ -620,64 +610,188 @@
         <translation>Gradué, étiqueté</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;ide</translation>
+        <source>Height</source>
+        <translation>Hauteur</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
+        <source>Highlight features of hitable layers under the pointer with any tool</source>
+        <translation>Mettre en évidence les objets des couches cliquables sous le pointeur, avec tout outil</translation>
+    </message>
+    <message>
+        <source>Import Scheme</source>
+        <translation>Importer un schéma</translation>
+    </message>
+    <message>
+        <source>Import Scheme &quot;%1&quot;</source>
         <translation>Importation du schéma « %1 »</translation>
     </message>
     <message>
-        <source>It leaves its groups: %1.</source>
-        <translation>Elle quitte ses groupes : %1.</translation>
+        <source>In the file, not in the map:</source>
+        <translation>Dans le fichier, pas dans la carte :</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>Dans la carte, pas dans le fichier :</translation>
+    </message>
+    <message>
+        <source>It does not contain a scheme name.</source>
+        <translation>Il ne contient pas de nom de schéma.</translation>
+    </message>
+    <message>
+        <source>It does not contain a valid version number.</source>
+        <translation>Il ne contient pas de numéro de version valide.</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>Il ne contient aucune couche.</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>Ce n’est pas un schéma de couches.</translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (error at byte %1).</source>
+        <translation>Ce n’est pas du JSON valide (erreur à l’octet %1).</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Il est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation>Il a été écrit par une version plus récente de ce programme.</translation>
+    </message>
+    <message>
+        <source>It will be removed from its groups: %1.</source>
+        <translation>Elle sera retirée de ses groupes : %1.</translation>
     </message>
     <message>
         <source>Its data file stays. You can undo the deletion.</source>
         <translation>Son fichier de données reste. La suppression peut être annulée.</translation>
     </message>
     <message>
-        <source>Its saved values go from the layer schemes: %1.</source>
-        <translation>Ses valeurs enregistrées disparaissent des schémas de couches : %1.</translation>
+        <source>Its saved values will be removed from the layer schemes: %1.</source>
+        <translation>Ses valeurs enregistrées seront supprimées des schémas de couches : %1.</translation>
     </message>
     <message>
-        <source>Lay a picture under all layers of the map</source>
-        <translation>Placer une image sous toutes les couches de la carte</translation>
+        <source>Labelled</source>
+        <translation>Étiqueté</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>La couche %1 n’a pas de « %2 » valide.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>&amp;Rendu de la couche...</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>Rendu de la couche</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>Schémas de couches (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>Schémas de couches (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>Couches ajoutées à « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>Des couches diffèrent du schéma « %1 ». L’enregistrer avant de passer à « %2 » ?</translation>
+    </message>
+    <message>
+        <source>Layers in both the file and this map: %1</source>
+        <translation>Couches présentes dans le fichier et dans cette carte : %1</translation>
+    </message>
+    <message>
+        <source>Layers not in the scheme &quot;%1&quot;, left unchanged: %2</source>
+        <translation>Couches absentes du schéma « %1 », laissées inchangées : %2</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>Couches du fichier absentes de cette carte : %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>Couches de cette carte absentes du fichier, qui gardent leurs valeurs : %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>Couches qui diffèrent du schéma « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>Omettre la légende.</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>Omettre la barre d'échelle.</translation>
     </message>
     <message>
         <source>Length: %1</source>
         <translation>Longueur : %1</translation>
     </message>
     <message>
-        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Load Scheme &quot;%1&quot;</source>
         <translation>Chargement du schéma « %1 »</translation>
     </message>
     <message>
-        <source>Loading of the Startup Schemes</source>
+        <source>Load Startup Schemes</source>
         <translation>Chargement des schémas de démarrage</translation>
-    </message>
-    <message>
-        <source>Look in a folder for the data files that the map misses</source>
-        <translation>Chercher dans un dossier les fichiers de données qui manquent à la carte</translation>
     </message>
     <message>
         <source>Looking for map data</source>
         <translation>Recherche des données cartographiques</translation>
     </message>
     <message>
-        <source>Make the change again that was taken back last</source>
-        <translation>Refaire la dernière modification annulée</translation>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>Données cartographiques</translation>
+    </message>
+    <message>
+        <source>Map File</source>
+        <translation>Fichier de carte</translation>
     </message>
     <message>
         <source>Map Tools</source>
         <translation>Outils de carte</translation>
     </message>
     <message>
-        <source>Map file</source>
-        <translation>Fichier de carte</translation>
+        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
+        <translation>Données cartographiques (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
-        <translation>Marquer l’objet des couches cliquables sous le pointeur, avec tout outil</translation>
+        <source>Map elements</source>
+        <translation>Éléments de la carte</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane)</source>
+        <translation>Cartes (*.orvane)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane);;All files (*)</source>
+        <translation>Cartes (*.orvane);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Measure &amp;Area</source>
@@ -688,56 +802,202 @@
         <translation>Mesurer une &amp;longueur</translation>
     </message>
     <message>
-        <source>Measure a line; its vertices snap to layers that ask for it</source>
-        <translation>Mesurer une ligne ; ses sommets s’accrochent aux couches qui le demandent</translation>
+        <source>Measure a line; its vertices snap to layers with snapping turned on</source>
+        <translation>Mesurer une ligne ; ses sommets s’accrochent aux couches dont l’accrochage est activé</translation>
     </message>
     <message>
-        <source>Measure an area; its vertices snap to layers that ask for it</source>
-        <translation>Mesurer une surface ; ses sommets s’accrochent aux couches qui le demandent</translation>
+        <source>Measure an area; its vertices snap to layers with snapping turned on</source>
+        <translation>Mesurer une surface ; ses sommets s’accrochent aux couches dont l’accrochage est activé</translation>
     </message>
     <message>
-        <source>Move in %1</source>
-        <translation>Déplacement dans %1</translation>
+        <source>Move Feature in %1</source>
+        <translation>Déplacement d’un objet dans %1</translation>
+    </message>
+    <message>
+        <source>Move a feature of an unlocked layer by dragging it</source>
+        <translation>Déplacer un objet d’une couche non verrouillée en le faisant glisser</translation>
     </message>
     <message>
         <source>Moved a feature of %1.</source>
         <translation>Un objet de %1 a été déplacé.</translation>
     </message>
     <message>
-        <source>Moving a feature of %1. Esc lets go.</source>
-        <translation>Déplacement d’un objet de %1. Échap le relâche.</translation>
+        <source>Moving a feature of %1. Press Esc to cancel.</source>
+        <translation>Déplacement d’un objet de %1. Échap pour annuler.</translation>
     </message>
     <message>
         <source>Moving the feature</source>
         <translation>Déplacement de l’objet</translation>
     </message>
     <message>
-        <source>New Code of &quot;%1&quot;</source>
-        <translation>Nouveau code de « %1 »</translation>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>Nouvelle couche</translation>
+    </message>
+    <message>
+        <source>New Map</source>
+        <translation>Nouvelle carte</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>Nouveau thème</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>Nouvelle couche</translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation>Nouvelle carte</translation>
+    </message>
+    <message>
+        <source>New map - Orvane</source>
+        <translation>Nouvelle carte - Orvane</translation>
     </message>
     <message>
         <source>No layer here.</source>
         <translation>Aucune couche ici.</translation>
     </message>
     <message>
+        <source>No layer of this map is visible.</source>
+        <translation>Aucune couche de cette carte n’est visible.</translation>
+    </message>
+    <message>
+        <source>No maps yet</source>
+        <translation>Pas encore de carte</translation>
+    </message>
+    <message>
+        <source>No problems were found in &quot;%1&quot;.</source>
+        <translation>Aucun problème n’a été trouvé dans « %1 ».</translation>
+    </message>
+    <message>
         <source>No selectable feature in the rectangle.</source>
         <translation>Aucun objet sélectionnable dans le rectangle.</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>Aucun thème pour l’instant</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>Aucun des fichiers manquants ne se trouve dans « %1 ».</translation>
     </message>
     <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
+    </message>
+    <message>
+        <source>One statement at a time can be run on &quot;^1&quot;.</source>
+        <translation>Une seule instruction à la fois peut être exécutée sur « ^1 ».</translation>
+    </message>
+    <message>
+        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
+        <translation>Seule une requête peut être ouverte en lecture sur « ^1 ».</translation>
+    </message>
+    <message>
+        <source>Open &amp;Data...</source>
+        <translation>Ouvrir des &amp;données...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un &amp;récent</translation>
+    </message>
+    <message>
+        <source>Open Data</source>
+        <translation>Ouvrir des données</translation>
+    </message>
+    <message>
+        <source>Open Map</source>
+        <translation>Ouvrir une carte</translation>
+    </message>
+    <message>
+        <source>Open Map Data</source>
+        <translation>Ouverture de données cartographiques</translation>
+    </message>
+    <message>
         <source>Open Recent</source>
         <translation>Ouvrir un fichier récent</translation>
     </message>
     <message>
-        <source>Opening of Map Data</source>
-        <translation>Ouverture de données cartographiques</translation>
+        <source>Open a map file</source>
+        <translation>Ouvrir un fichier de carte</translation>
+    </message>
+    <message>
+        <source>Open the layer control at startup.</source>
+        <translation>Ouvrir le contrôle des couches au démarrage.</translation>
+    </message>
+    <message>
+        <source>Opening map data</source>
+        <translation>Ouverture des données</translation>
     </message>
     <message>
         <source>Opening the picture</source>
         <translation>Ouverture de l’image</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+These commands run without a window; each has its own --help:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             check a map file for problems</source>
+        <translation>Orvane, un petit logiciel de cartes.
+
+Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
+  orvane MAP --export FILE     dessiner une carte en PDF, SVG ou PNG
+  orvane import DATA --to MAP  ajouter des données à un fichier de carte
+  orvane check MAP             rechercher les problèmes dans un fichier de carte</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>Image PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>Imprimer la carte</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>Imprimer la carte, avec aperçu</translation>
+    </message>
+    <message>
+        <source>Quit Orvane</source>
+        <translation>Quitter Orvane</translation>
     </message>
     <message>
         <source>R&amp;emove Raster Backdrop</source>
@@ -756,104 +1016,8 @@
         <translation>Lecture des attributs</translation>
     </message>
     <message>
-        <source>Renaming of &quot;%1&quot;</source>
-        <translation>Renommage de « %1 »</translation>
-    </message>
-    <message>
-        <source>Renaming of the Group &quot;%1&quot;</source>
-        <translation>Renommage du groupe « %1 »</translation>
-    </message>
-    <message>
-        <source>Saving of the Scheme &quot;%1&quot;</source>
-        <translation>Enregistrement du schéma « %1 »</translation>
-    </message>
-    <message>
-        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
-        <translation>Sélectionner des objets des couches sélectionnables par clic ou rectangle ; Ctrl ajoute</translation>
-    </message>
-    <message>
-        <source>Selected features: %1</source>
-        <translation>Objets sélectionnés : %1</translation>
-    </message>
-    <message>
-        <source>Show or hide the panel with the attributes of identified features</source>
-        <translation>Afficher ou masquer le panneau des attributs des objets identifiés</translation>
-    </message>
-    <message>
-        <source>Show the attributes of features of enquirable layers</source>
-        <translation>Afficher les attributs des objets des couches interrogeables</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>Afficher la carte sans l’image</translation>
-    </message>
-    <message>
-        <source>Take back the last change of layers, groups and schemes</source>
-        <translation>Annuler la dernière modification des couches, groupes et schémas</translation>
-    </message>
-    <message>
-        <source>The feature was changed by somebody else and stays where it is.</source>
-        <translation>L’objet a été modifié par quelqu’un d’autre et reste où il est.</translation>
-    </message>
-    <message>
-        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
-        <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
-        <translation>La carte « %1 » n’existe plus. Elle a été retirée de la liste.</translation>
-    </message>
-    <message>
-        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
-        <translation>Le fichier de carte « %1 » a été déplacé ou supprimé. Vos modifications ne seront conservées que si vous enregistrez la carte sous un autre nom.</translation>
-    </message>
-    <message>
-        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
-        <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
-    </message>
-    <message>
-        <source>&amp;Use It Now</source>
-        <translation>&amp;Utiliser maintenant</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
-    </message>
-    <message>
-        <source>it does not say where its pixels lie</source>
-        <translation>il n’indique pas où se situent ses pixels</translation>
-    </message>
-    <message>
-        <source>it has no attribute named %1</source>
-        <translation>aucun attribut ne s’y nomme %1</translation>
-    </message>
-    <message>
-        <source>Labelled</source>
-        <translation>Étiqueté</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>Étiquettes</translation>
-    </message>
-    <message>
-        <source>Layer Rendering</source>
-        <translation>Rendu de la couche</translation>
-    </message>
-    <message>
-        <source>Layer &amp;Rendering...</source>
-        <translation>&amp;Rendu de la couche...</translation>
-    </message>
-    <message>
-        <source>&amp;Layer:</source>
-        <translation>Couc&amp;he :</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>&amp;Number of classes:</source>
-        <translation>&amp;Nombre de classes :</translation>
+        <source>Reading map data</source>
+        <translation>Lecture des données</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -864,160 +1028,36 @@
         <translation>Rétablir : %1</translation>
     </message>
     <message>
-        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
-        <translation>Lignes de « %1 » qui se rapportent à un élément absent de « %2 » : %3.</translation>
+        <source>Redo the last undone change</source>
+        <translation>Rétablir la dernière modification annulée</translation>
     </message>
     <message>
-        <source>Style:</source>
-        <translation>Style :</translation>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>Renommage de « %1 »</translation>
     </message>
     <message>
-        <source>The data file &quot;%1&quot; is missing.</source>
-        <translation>Le fichier de données « %1 » est introuvable.</translation>
+        <source>Rename Group &quot;%1&quot;</source>
+        <translation>Renommage du groupe « %1 »</translation>
     </message>
     <message>
-        <source>The data of this layer cannot be read.</source>
-        <translation>Les données de cette couche ne peuvent pas être lues.</translation>
+        <source>Repair what can be repaired.</source>
+        <translation>Réparer ce qui peut l'être.</translation>
     </message>
     <message>
-        <source>The map file is damaged: %1.</source>
-        <translation>Le fichier de carte est endommagé : %1.</translation>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
+        <source>Revert Scheme</source>
+        <translation>Revenir au schéma enregistré</translation>
     </message>
     <message>
-        <source>Undo %1</source>
-        <translation>Annuler : %1</translation>
+        <source>Revert the layers to the values saved in the scheme &quot;%1&quot;?</source>
+        <translation>Rétablir les valeurs des couches enregistrées dans le schéma « %1 » ?</translation>
     </message>
     <message>
-        <source>it has no layer named %1</source>
-        <translation>aucune couche ne s’y nomme %1</translation>
-    </message>
-    <message>
-        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
-        <translation>ce n’est pas un composant d’édition de style (« %1 » est absent)</translation>
-    </message>
-    <message>
-        <source>it is too large for this computer's memory</source>
-        <translation>il est trop volumineux pour la mémoire de cet ordinateur</translation>
-    </message>
-    <message>
-        <source>it made no entry object</source>
-        <translation>il n’a pas créé d’objet d’entrée</translation>
-    </message>
-    <message>
-        <source>it was built with Qt %1, this program with Qt %2</source>
-        <translation>il a été compilé avec Qt %1, ce programme avec Qt %2</translation>
-    </message>
-    <message>
-        <source>it speaks version %1 of the contract, this program speaks %2</source>
-        <translation>il utilise la version %1 de l’interface, ce programme la version %2</translation>
-    </message>
-    <message>
-        <source>&amp;Layer Control</source>
-        <translation>&amp;Contrôle des couches</translation>
-    </message>
-    <message>
-        <source>&amp;Layers</source>
-        <translation>&amp;Couches</translation>
-    </message>
-    <message>
-        <source>Map</source>
-        <translation>Carte</translation>
-    </message>
-    <message>
-        <source>Map data</source>
-        <translation>Données cartographiques</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Données cartographiques (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane)</source>
-        <translation>Cartes (*.orvane)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane);;All files (*)</source>
-        <translation>Cartes (*.orvane);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>N</source>
-        <translation>N</translation>
-    </message>
-    <message>
-        <source>New layer</source>
-        <translation>Nouvelle couche</translation>
-    </message>
-    <message>
-        <source>New Map</source>
-        <translation>Nouvelle carte</translation>
-    </message>
-    <message>
-        <source>New map</source>
-        <translation>Nouvelle carte</translation>
-    </message>
-    <message>
-        <source>New map - Orvane</source>
-        <translation>Nouvelle carte - Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;New Map...</source>
-        <translation>&amp;Nouvelle carte...</translation>
-    </message>
-    <message>
-        <source>No maps yet</source>
-        <translation>Pas encore de carte</translation>
-    </message>
-    <message>
-        <source>One statement at a time can be run on &quot;^1&quot;.</source>
-        <translation>Une seule instruction à la fois peut être exécutée sur « ^1 ».</translation>
-    </message>
-    <message>
-        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
-        <translation>Seule une requête peut être ouverte en lecture sur « ^1 ».</translation>
-    </message>
-    <message>
-        <source>Open a map file</source>
-        <translation>Ouvrir un fichier de carte</translation>
-    </message>
-    <message>
-        <source>Open Data</source>
-        <translation>Ouvrir des données</translation>
-    </message>
-    <message>
-        <source>Open &amp;Data...</source>
-        <translation>Ouvrir des &amp;données...</translation>
-    </message>
-    <message>
-        <source>Open Map</source>
-        <translation>Ouvrir une carte</translation>
-    </message>
-    <message>
-        <source>&amp;Open Map...</source>
-        <translation>&amp;Ouvrir une carte...</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>Ouvrir un &amp;récent</translation>
-    </message>
-    <message>
-        <source>Opening map data</source>
-        <translation>Ouverture des données</translation>
-    </message>
-    <message>
-        <source>Orvane</source>
-        <translation>Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Reading map data</source>
-        <translation>Lecture des données</translation>
+        <source>Rows of &quot;%1&quot; that refer to missing rows of &quot;%2&quot;: %3.</source>
+        <translation>Lignes de « %1 » qui se rapportent à des lignes absentes de « %2 » : %3.</translation>
     </message>
     <message>
         <source>Rows of &quot;^1&quot; can be sought with &quot;=&quot; only, not with &quot;^2&quot;.</source>
@@ -1032,24 +1072,88 @@
         <translation>S</translation>
     </message>
     <message>
+        <source>S&amp;witch to It</source>
+        <translation>&amp;Passer à ce schéma</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>Dessin SVG (*.svg)</translation>
+    </message>
+    <message>
         <source>Save Map As</source>
         <translation>Enregistrer la carte sous</translation>
     </message>
     <message>
-        <source>&amp;Save Map As...</source>
-        <translation>&amp;Enregistrer la carte sous...</translation>
+        <source>Save Scheme</source>
+        <translation>Enregistrer le schéma</translation>
+    </message>
+    <message>
+        <source>Save Scheme &quot;%1&quot;</source>
+        <translation>Enregistrement du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Save the current layer settings to the scheme &quot;%1&quot;?</source>
+        <translation>Enregistrer les réglages actuels des couches dans le schéma « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Save the map to another file and continue with that file</source>
+        <translation>Enregistrer la carte dans un autre fichier et continuer avec celui-ci</translation>
+    </message>
+    <message>
+        <source>Save this map before closing it?</source>
+        <translation>Enregistrer cette carte avant de la fermer ?</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>&amp;Barre d'échelle</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>Échelle 1 :</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>Schéma : %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>Schéma : %1 *</translation>
+    </message>
+    <message>
+        <source>Search a folder for the missing data files of the map</source>
+        <translation>Chercher dans un dossier les fichiers de données qui manquent à la carte</translation>
+    </message>
+    <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>Sélectionner des objets des couches sélectionnables par clic ou rectangle ; Ctrl ajoute</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>Objets sélectionnés : %1</translation>
+    </message>
+    <message>
+        <source>Show a picture below all layers of the map</source>
+        <translation>Afficher une image sous toutes les couches de la carte</translation>
     </message>
     <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>Afficher et modifier les couches, groupes et schémas</translation>
     </message>
     <message>
-        <source>Show less, larger</source>
-        <translation>Montrer moins, en plus grand</translation>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>Afficher ou masquer le panneau des attributs des objets identifiés</translation>
     </message>
     <message>
-        <source>Show more, smaller</source>
-        <translation>Montrer plus, en plus petit</translation>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>Afficher les attributs des objets des couches interrogeables</translation>
+    </message>
+    <message>
+        <source>Show the map without the picture</source>
+        <translation>Afficher la carte sans l’image</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
     </message>
     <message>
         <source>Show the whole map</source>
@@ -1060,8 +1164,12 @@
         <translation>Standard</translation>
     </message>
     <message>
-        <source>Store a copy of the map in another file and go on with it</source>
-        <translation>Enregistrer une copie de la carte dans un autre fichier et continuer avec elle</translation>
+        <source>Style:</source>
+        <translation>Style :</translation>
+    </message>
+    <message>
+        <source>Switch Scheme</source>
+        <translation>Changer de schéma</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1072,44 +1180,116 @@
         <translation>Le fichier de données « %1 » ne peut pas être écrit.</translation>
     </message>
     <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>Le fichier de données « %1 » est introuvable.</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>Les données de cette couche ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>The feature was changed by another user or program and was not moved.</source>
+        <translation>L’objet a été modifié par un autre utilisateur ou programme et n’a pas été déplacé.</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>Le fichier à exporter doit se terminer par .pdf, .svg ou .png.</translation>
+    </message>
+    <message>
+        <source>The file to write; its extension .pdf, .svg or .png sets the format.</source>
+        <translation>Le fichier à écrire ; son extension .pdf, .svg ou .png détermine le format.</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; cannot be created: ^2</source>
-        <translation>La base de données de couches « ^1 » ne peut pas être créée : ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; cannot be opened: ^2</source>
-        <translation>La base de données de couches « ^1 » ne peut pas être ouverte : ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; does not exist.</source>
-        <translation>La base de données de couches « ^1 » n’existe pas.</translation>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
     </message>
     <message>
         <source>The layer database &quot;^1&quot; has no table &quot;^2&quot; to open.</source>
         <translation>La base de données de couches « ^1 » n’a pas de table « ^2 ».</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; is damaged. Use a copy of it that was saved earlier.</source>
-        <translation>La base de données de couches « ^1 » est endommagée. Utilisez une copie enregistrée précédemment.</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is in use by another program. Try again in a moment.</source>
-        <translation>La base de données de couches « ^1 » est utilisée par un autre programme. Réessayez dans un instant.</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is read-only and cannot be changed.</source>
-        <translation>La base de données de couches « ^1 » est en lecture seule et ne peut pas être modifiée.</translation>
-    </message>
-    <message>
         <source>The layer database &quot;^1&quot; refused an operation: ^2</source>
         <translation>La base de données de couches « ^1 » a refusé une opération : ^2</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; was written by a newer version of this program.</source>
-        <translation>La base de données de couches « ^1 » a été écrite par une version plus récente de ce programme.</translation>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>Les schémas de couches de « %1 » ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The layers match the scheme &quot;%1&quot;.</source>
+        <translation>Les couches correspondent au schéma « %1 ».</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>La carte « %1 » est ouverte dans une autre fenêtre ou un autre programme. L’ouvrir ici aussi ?</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; no longer exists. It was removed from the list.</source>
+        <translation>La carte « %1 » n’existe plus. Elle a été retirée de la liste.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created: ^2</source>
+        <translation>La carte « ^1 » ne peut pas être créée : ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be opened: ^2</source>
+        <translation>La carte « ^1 » ne peut pas être ouverte : ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; does not exist.</source>
+        <translation>La carte « ^1 » n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is damaged. Use an earlier copy of it.</source>
+        <translation>La carte « ^1 » est endommagée. Utilisez une copie enregistrée précédemment.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is in use by another program. Try again in a moment.</source>
+        <translation>La carte « ^1 » est utilisée par un autre programme. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
+        <translation>La carte « ^1 » est en lecture seule et ne peut pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was written by a newer version of this program.</source>
+        <translation>La carte « ^1 » a été écrite par une version plus récente de ce programme.</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>Le fichier de carte « %1 » a été déplacé ou supprimé. Vos modifications ne seront conservées que si vous enregistrez la carte sous un autre nom.</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>Le fichier de carte est endommagé : %1.</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>Le fichier de carte à compléter ; il est créé s'il n'existe pas.</translation>
+    </message>
+    <message>
+        <source>The map file to open.</source>
+        <translation>Le fichier de carte à ouvrir.</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>Le fichier de carte.</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and has been reloaded.</source>
+        <translation>La carte a été modifiée dans une autre fenêtre et a été rechargée.</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>La carte a été écrite dans %1</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>La page ne peut pas être dessinée.</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
@@ -1128,12 +1308,48 @@
         <translation>Les lignes lues dans « ^1 » n’ont pas de colonne « ^2 ».</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
+        <translation>Il existe déjà un schéma « %1 ». Le remplacer par celui du fichier ?</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>Le schéma « %1 » a été exporté.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>Le schéma « %1 » a été importé.</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>Le fichier de schéma « %1 » ne peut pas être lu. %2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>Le fichier de schéma « %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
         <source>The style editor component &quot;%1&quot; cannot be used: %2.</source>
         <translation>Le composant d’édition de style « %1 » ne peut pas être utilisé : %2.</translation>
     </message>
     <message>
+        <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
+        <translation>Le thème « %1 » existe déjà. Remplacer ses couches par les couches visibles ?</translation>
+    </message>
+    <message>
+        <source>The title. The default is the name of the map; &quot;&quot; for no title.</source>
+        <translation>Le titre. Par défaut : le nom de la carte ; "" pour aucun titre.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%2&quot; of the layer &quot;%1&quot; is not a number.</source>
+        <translation>La valeur « %2 » de la couche « %1 » n’est pas un nombre.</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>Il n’y a pas de motifs de type %1.</translation>
+    </message>
+    <message>
+        <source>There are too many arguments.</source>
+        <translation>Il y a trop d’arguments.</translation>
     </message>
     <message>
         <source>There is a layer scheme named &quot;%1&quot; already.</source>
@@ -1152,32 +1368,80 @@
         <translation>Il n’y a pas de schéma nommé « %1 ».</translation>
     </message>
     <message>
-        <source>There is no room left on the disk of the layer database &quot;^1&quot;.</source>
-        <translation>Il n’y a plus de place sur le disque de la base de données de couches « ^1 ».</translation>
-    </message>
-    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>Il n’y a pas de transaction à valider dans « ^1 ».</translation>
     </message>
     <message>
-        <source>This map has no file yet. Keep it?</source>
-        <translation>Cette carte n’a pas encore de fichier. La conserver ?</translation>
+        <source>There is not enough disk space for the map &quot;^1&quot;.</source>
+        <translation>L’espace disque est insuffisant pour la carte « ^1 ».</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Il n'y a rien à importer.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to record the changes to &quot;^1&quot;; they cannot be undone.</source>
+        <translation>La mémoire n’a pas suffi pour enregistrer les modifications de « ^1 » ; elles ne peuvent pas être annulées.</translation>
+    </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>Cette carte est vide. Choisissez Fichier &gt; Ouvrir des données... ou déposez ici des fichiers de données.</translation>
     </message>
     <message>
         <source>This program has no startup database.</source>
         <translation>Ce programme n’a pas de base de données de démarrage.</translation>
     </message>
     <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>Titre de la carte</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>Outils</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation>A&amp;ffichage</translation>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Undo the last change to layers, groups or schemes</source>
+        <translation>Annuler la dernière modification des couches, groupes et schémas</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Use portrait orientation.</source>
+        <translation>Utiliser l'orientation portrait.</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>W</source>
         <translation>O</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Write each call between the map and the layer control to FILE.</source>
+        <translation>Écrire dans FILE chaque appel entre la carte et le contrôle des couches.</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>Écrire la carte en PDF, SVG ou PNG</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1188,176 +1452,52 @@
         <translation>Zoom a&amp;rrière</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Zoomer en avant</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoomer en arrière</translation>
+    </message>
+    <message>
         <source>Zoom to &amp;All</source>
         <translation>Zoom sur &amp;tout</translation>
-    </message>
-    <message>
-        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
-        <translation>Ce qui est modifié dans une fenêtre est enregistré aussitôt et s’affiche dans l’autre dès que vous y passez.</translation>
-    </message>
-    <message>
-        <source>Write each call between the map and the layer control to FILE.</source>
-        <translation>Écrire dans FILE chaque appel entre la carte et le contrôle des couches.</translation>
-    </message>
-    <message>
-        <source>Open the layer control at once.</source>
-        <translation>Ouvrir aussitôt le contrôle des couches.</translation>
-    </message>
-    <message>
-        <source>The map file to open.</source>
-        <translation>Le fichier de carte à ouvrir.</translation>
-    </message>
-    <message>
-        <source>Orvane, a small desktop map program.
-
-Without a window it does these, each with a --help of its own:
-  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             look for what is wrong with a map file</source>
-        <translation>Orvane, un petit logiciel de cartes.
-
-Sans fenêtre, il sait faire ceci, chaque commande ayant son propre --help :
-  orvane MAP --export FILE     dessiner une carte en PDF, SVG ou PNG
-  orvane import DATA --to MAP  ajouter des données à un fichier de carte
-  orvane check MAP             chercher ce qui ne va pas dans un fichier de carte</translation>
-    </message>
-    <message>
-        <source>Tell the version.</source>
-        <translation>Indiquer la version.</translation>
-    </message>
-    <message>
-        <source>An argument is missing.</source>
-        <translation>Il manque un argument.</translation>
-    </message>
-    <message>
-        <source>There is an argument too many.</source>
-        <translation>Il y a un argument de trop.</translation>
-    </message>
-    <message>
-        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
-        <translation>« orvane %1--help » énumère ce qui est possible.</translation>
-    </message>
-    <message>
-        <source>Mend what can be mended.</source>
-        <translation>Réparer ce qui peut l'être.</translation>
-    </message>
-    <message>
-        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
-Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
-        <translation>Chercher ce qui ne va pas dans un fichier de carte : dégâts, lignes qui ne mènent nulle part, données absentes.
-Code de sortie : 0 tout va bien, 1 quelque chose ne va pas, 2 la commande n'a pas été comprise.</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>Le fichier de carte.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is sound.</source>
-        <translation>« %1 » est en bon état.</translation>
-    </message>
-    <message>
-        <source>There is nothing to import.</source>
-        <translation>Il n'y a rien à importer.</translation>
-    </message>
-    <message>
-        <source>Layers added to &quot;%1&quot;: %2</source>
-        <translation>Couches ajoutées à « %1 » : %2</translation>
-    </message>
-    <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>Le fichier de carte à compléter ; il est créé s'il n'existe pas.</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
-Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
-    </message>
-    <message>
-        <source>Files, or folders with files in them.</source>
-        <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
-    </message>
-    <message>
-        <source>&quot;--to MAP&quot; is missing.</source>
-        <translation>« --to MAP » manque.</translation>
-    </message>
-    <message>
-        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
-        <translation>Le fichier à écrire ; sa fin .pdf, .svg ou .png dit le format.</translation>
-    </message>
-    <message>
-        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
-        <translation>Dessiner les couches comme dans ce schéma ; le fichier de carte reste tel quel.</translation>
-    </message>
-    <message>
-        <source>Draw at the scale 1:N around the middle of the map.</source>
-        <translation>Dessiner à l'échelle 1:N autour du centre de la carte.</translation>
-    </message>
-    <message>
-        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
-        <translation>A5 à A0, Letter, Legal, Tabloid, 200x150mm ou 1600x900px. A4 sans indication.</translation>
-    </message>
-    <message>
-        <source>Stand the paper upright.</source>
-        <translation>Mettre le papier debout.</translation>
-    </message>
-    <message>
-        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
-        <translation>Points par pouce ; 300 sans indication, 96 pour une taille en pixels.</translation>
-    </message>
-    <message>
-        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
-        <translation>Le titre ; le nom de la carte sans indication, aucun pour &quot;&quot;.</translation>
-    </message>
-    <message>
-        <source>Leave the legend out.</source>
-        <translation>Omettre la légende.</translation>
-    </message>
-    <message>
-        <source>Leave the scale bar out.</source>
-        <translation>Omettre la barre d'échelle.</translation>
-    </message>
-    <message>
-        <source>Nothing but the map, up to the edges of the page.</source>
-        <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
-    </message>
-    <message>
-        <source>--%1 needs a number from %2 to %3.</source>
-        <translation>--%1 demande un nombre de %2 à %3.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no size of a page.</source>
-        <translation>« %1 » n'est pas une taille de page.</translation>
-    </message>
-    <message>
-        <source>The file to export must end in .pdf, .svg or .png.</source>
-        <translation>Le fichier à exporter doit se terminer par .pdf, .svg ou .png.</translation>
-    </message>
-    <message>
-        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
-Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
-        <translation>Dessiner une carte en PDF, SVG ou PNG. Le fichier de carte est seulement lu.
-Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
         <source>and %1 more</source>
         <translation>et %1 de plus</translation>
     </message>
     <message>
-        <source>1:%1</source>
-        <translation>1:%1</translation>
+        <source>it has no attribute named %1</source>
+        <translation>aucun attribut ne s’y nomme %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written: %2.</source>
-        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+        <source>it has no layer named %1</source>
+        <translation>aucune couche ne s’y nomme %1</translation>
     </message>
     <message>
-        <source>The page cannot be painted.</source>
-        <translation>La page ne peut pas être dessinée.</translation>
+        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
+        <translation>ce n’est pas un composant d’édition de style (« %1 » est absent)</translation>
     </message>
     <message>
-        <source>A picture of %1 by %2 pixels is too large.</source>
-        <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
+        <source>it is not georeferenced</source>
+        <translation>il n’est pas géoréférencé</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>il est trop volumineux pour la mémoire de cet ordinateur</translation>
+    </message>
+    <message>
+        <source>it made no entry object</source>
+        <translation>il n’a pas créé d’objet d’entrée</translation>
+    </message>
+    <message>
+        <source>it uses version %1 of the interface, this program uses version %2</source>
+        <translation>il utilise la version %1 de l’interface, ce programme la version %2</translation>
+    </message>
+    <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>il a été compilé avec Qt %1, ce programme avec Qt %2</translation>
     </message>
     <message>
         <source>its format is read only</source>
@@ -1368,106 +1508,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>son nom doit se terminer par .pdf, .svg ou .png</translation>
     </message>
     <message>
-        <source>Export Map</source>
-        <translation>Exporter la carte</translation>
-    </message>
-    <message>
-        <source>Print Map</source>
-        <translation>Imprimer la carte</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>&amp;Exporter...</translation>
-    </message>
-    <message>
-        <source>&amp;Preview...</source>
-        <translation>A&amp;perçu...</translation>
-    </message>
-    <message>
-        <source>Own size</source>
-        <translation>Taille libre</translation>
-    </message>
-    <message>
-        <source>As a picture: %1 × %2 pixels</source>
-        <translation>En image : %1 × %2 pixels</translation>
-    </message>
-    <message>
-        <source>&amp;Export Map...</source>
-        <translation>&amp;Exporter la carte...</translation>
-    </message>
-    <message>
-        <source>&amp;Print...</source>
-        <translation>&amp;Imprimer...</translation>
-    </message>
-    <message>
-        <source>Write the map as PDF, SVG or PNG</source>
-        <translation>Écrire la carte en PDF, SVG ou PNG</translation>
-    </message>
-    <message>
-        <source>Print the map, with a preview</source>
-        <translation>Imprimer la carte, avec aperçu</translation>
-    </message>
-    <message>
-        <source>Drawing the map</source>
-        <translation>Dessin de la carte</translation>
-    </message>
-    <message>
-        <source>The map was written to %1</source>
-        <translation>La carte a été écrite dans %1</translation>
-    </message>
-    <message>
-        <source>PDF document (*.pdf)</source>
-        <translation>Document PDF (*.pdf)</translation>
-    </message>
-    <message>
-        <source>SVG drawing (*.svg)</source>
-        <translation>Dessin SVG (*.svg)</translation>
-    </message>
-    <message>
-        <source>PNG picture (*.png)</source>
-        <translation>Image PNG (*.png)</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>Page</translation>
-    </message>
-    <message>
-        <source>&amp;Paper:</source>
-        <translation>&amp;Papier :</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>Papier</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>Orientation</translation>
-    </message>
-    <message>
-        <source>Wide</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>&amp;Size:</source>
-        <translation>Ta&amp;ille :</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>Largeur</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>Hauteur</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>Unité</translation>
-    </message>
-    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -1476,68 +1516,24 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>aucune valeur</translation>
     </message>
     <message>
-        <source>off the earth</source>
-        <translation>hors de la Terre</translation>
+        <source>outside the projection</source>
+        <translation>hors de la projection</translation>
     </message>
     <message>
         <source>pixels</source>
         <translation>pixels</translation>
     </message>
     <message>
-        <source>&amp;Resolution:</source>
-        <translation>&amp;Résolution :</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
-    </message>
-    <message>
-        <source>All that the &amp;window shows, as large as fits</source>
-        <translation>Tout ce que montre la &amp;fenêtre, aussi grand que possible</translation>
-    </message>
-    <message>
-        <source>At the scale &amp;1:</source>
-        <translation>À l'échelle &amp;1 :</translation>
-    </message>
-    <message>
-        <source>Scale 1:</source>
-        <translation>Échelle 1 :</translation>
-    </message>
-    <message>
-        <source>Beside the map</source>
-        <translation>Autour de la carte</translation>
-    </message>
-    <message>
-        <source>&amp;Title:</source>
-        <translation>&amp;Titre :</translation>
-    </message>
-    <message>
-        <source>Title of the map</source>
-        <translation>Titre de la carte</translation>
-    </message>
-    <message>
-        <source>&amp;Legend of what is shown</source>
-        <translation>&amp;Légende de ce qui est montré</translation>
-    </message>
-    <message>
-        <source>Scale &amp;bar</source>
-        <translation>&amp;Barre d'échelle</translation>
-    </message>
-    <message>
         <source>the feature is no longer there</source>
         <translation>l’objet n’existe plus</translation>
-    </message>
-    <message>
-        <source>the feature would leave the earth</source>
-        <translation>l’objet quitterait la Terre</translation>
     </message>
     <message>
         <source>the file is read only</source>
         <translation>le fichier est en lecture seule</translation>
     </message>
     <message>
-        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
-        <translation>Cette carte est vide. Choisissez Fichier &gt; Ouvrir des données... ou déposez ici des fichiers de données.</translation>
+        <source>the new position is outside the coordinate system</source>
+        <translation>la nouvelle position est en dehors du système de coordonnées</translation>
     </message>
 </context>
 </TS>

@@ -8,24 +8,64 @@
         <translation>「%1」は変更できません: %2。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>「%1」を読み込めません: %2。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be stored: %2</source>
         <translation>「%1」を保存できません: %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds no picture.</source>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>「%1」を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no picture.</source>
         <translation>「%1」には画像がありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains no readable data.</source>
+        <translation>「%1」には読み込めるデータがありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contains nothing to draw.</source>
+        <translation>「%1」には描画できるものがありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
+        <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>「%1」が「%2」にありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a valid page size.</source>
+        <translation>「%1」は有効なページサイズではありません。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
         <translation>「%1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
     </message>
     <message>
-        <source>%1 is here but asks for no snap.</source>
-        <translation>%1 はここにありますが、スナップの対象ではありません。</translation>
+        <source>&quot;--to MAP&quot; is missing.</source>
+        <translation>「--to MAP」がありません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
+        <translation>同じ名前のファイルがすでに存在するため、「^1」を作成できません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is not a map file.</source>
+        <translation>「^1」は地図ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;orvane %1--help&quot; lists the options.</source>
+        <translation>「orvane %1--help」でオプションを表示します。</translation>
+    </message>
+    <message>
+        <source>%1 - Orvane</source>
+        <translation>%1 - Orvane</translation>
     </message>
     <message>
         <source>%1 is here but hidden at this scale.</source>
@@ -56,96 +96,56 @@
         <translation>%1 はここにありますが、表示されていません。</translation>
     </message>
     <message>
+        <source>%1 is here but snapping to it is off.</source>
+        <translation>%1 はここにありますが、スナップの対象ではありません。</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>他%1個</translation>
     </message>
     <message>
-        <source>A layer from map &amp;data</source>
-        <translation>地図データのレイヤ(&amp;D)</translation>
+        <source>&amp;About Orvane</source>
+        <translation>Orvane について(&amp;A)</translation>
     </message>
     <message>
-        <source>A newer program has written it.</source>
-        <translation>より新しいプログラムで書かれています。</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>An &amp;empty layer</source>
-        <translation>空のレイヤ(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Areas</source>
-        <translation>面</translation>
+        <source>&amp;Attribute:</source>
+        <translation>属性(&amp;A):</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
         <translation>参照(&amp;B)...</translation>
     </message>
     <message>
-        <source>B&amp;rowse...</source>
-        <translation>参照(&amp;R)...</translation>
-    </message>
-    <message>
         <source>&amp;Copy Value</source>
         <translation>値をコピー(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Data f&amp;ile:</source>
-        <translation>データファイル(&amp;I):</translation>
-    </message>
-    <message>
-        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
-        <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
     </message>
     <message>
         <source>&amp;Delete Theme</source>
         <translation>テーマを削除(&amp;D)</translation>
     </message>
     <message>
-        <source>Delete Theme</source>
-        <translation>テーマを削除</translation>
+        <source>&amp;Division:</source>
+        <translation>区分方法(&amp;D):</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
         <translation>編集(&amp;E)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be read: %2.</source>
-        <translation>「%1」を読み込めません: %2。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
-        <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds no data that can be read.</source>
-        <translation>「%1」には読み込めるデータがありません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds nothing to draw.</source>
-        <translation>「%1」には描画できるものがありません。</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; cannot be created because a file of that name exists already.</source>
-        <translation>同じ名前のファイルがすでに存在するため、「^1」を作成できません。</translation>
-    </message>
-    <message>
-        <source>&quot;^1&quot; is not a layer database.</source>
-        <translation>「^1」はレイヤーデータベースではありません。</translation>
-    </message>
-    <message>
-        <source>%1 - Orvane</source>
-        <translation>%1 - Orvane</translation>
-    </message>
-    <message>
-        <source>Export Scheme</source>
-        <translation>スキームを書き出し</translation>
+        <source>&amp;Export Map...</source>
+        <translation>地図の書き出し(&amp;E)...</translation>
     </message>
     <message>
         <source>&amp;Export Scheme...</source>
         <translation>スキームを書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Find Missing Data...</source>
@@ -156,20 +156,8 @@
         <translation>ジオメトリ(&amp;G):</translation>
     </message>
     <message>
-        <source>GeoPackage</source>
-        <translation>GeoPackage</translation>
-    </message>
-    <message>
-        <source>GeoPackage &amp;file:</source>
-        <translation>GeoPackage ファイル(&amp;F):</translation>
-    </message>
-    <message>
-        <source>GeoPackages (*.gpkg)</source>
-        <translation>GeoPackage (*.gpkg)</translation>
-    </message>
-    <message>
-        <source>Give the layers the values that were saved in the scheme &quot;%1&quot;?</source>
-        <translation>レイヤをスキーム「%1」に保存された値に戻しますか?</translation>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Highlight Under Pointer</source>
@@ -180,92 +168,28 @@
         <translation>属性照会(&amp;I)</translation>
     </message>
     <message>
-        <source>Import Scheme</source>
-        <translation>スキームを読み込み</translation>
-    </message>
-    <message>
         <source>&amp;Import Scheme...</source>
         <translation>スキームを読み込み(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>In the file, not in the map:</source>
-        <translation>ファイルにあり、地図にないもの:</translation>
-    </message>
-    <message>
-        <source>In the map, not in the file:</source>
-        <translation>地図にあり、ファイルにないもの:</translation>
-    </message>
-    <message>
-        <source>It holds no layers.</source>
-        <translation>レイヤがありません。</translation>
-    </message>
-    <message>
-        <source>It is no JSON text at byte %1.</source>
-        <translation>%1 バイト目で JSON テキストではありません。</translation>
-    </message>
-    <message>
-        <source>It is not a layer scheme.</source>
-        <translation>レイヤスキームではありません。</translation>
-    </message>
-    <message>
-        <source>It is too large.</source>
-        <translation>大きすぎます。</translation>
-    </message>
-    <message>
-        <source>It names no scheme.</source>
-        <translation>スキームの名前がありません。</translation>
-    </message>
-    <message>
-        <source>It names no version.</source>
-        <translation>バージョンが書かれていません。</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
         <translation>レイヤを変えない(&amp;K)</translation>
     </message>
     <message>
-        <source>Layer %1 has no valid &quot;%2&quot;.</source>
-        <translation>レイヤ %1 の「%2」が正しくありません。</translation>
+        <source>&amp;Layer Control</source>
+        <translation>レイヤーコントロール(&amp;L)</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json)</source>
-        <translation>レイヤスキーム (*.json)</translation>
+        <source>&amp;Layer:</source>
+        <translation>レイヤ(&amp;L):</translation>
     </message>
     <message>
-        <source>Layer schemes (*.json);;All files (*)</source>
-        <translation>レイヤスキーム (*.json);;すべてのファイル (*)</translation>
+        <source>&amp;Layers</source>
+        <translation>レイヤー(&amp;L)</translation>
     </message>
     <message>
-        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
-        <translation>スキーム「%1」と異なるレイヤがあります。「%2」に切り替える前に保存しますか?</translation>
-    </message>
-    <message>
-        <source>Layers of the file that this map does not have: %1</source>
-        <translation>この地図にないファイル内のレイヤ: %1</translation>
-    </message>
-    <message>
-        <source>Layers of this map that the file does not have, which keep their values: %1</source>
-        <translation>ファイルにないため値を変えないこの地図のレイヤ: %1</translation>
-    </message>
-    <message>
-        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
-        <translation>スキーム「%1」と異なるレイヤ: %2</translation>
-    </message>
-    <message>
-        <source>Layers that the scheme &quot;%1&quot; does not know and left as they are: %2</source>
-        <translation>スキーム「%1」にないため変更しなかったレイヤ: %2</translation>
-    </message>
-    <message>
-        <source>Layers with values: %1</source>
-        <translation>値のあるレイヤ: %1</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>線</translation>
-    </message>
-    <message>
-        <source>Map Data</source>
-        <translation>地図データ</translation>
+        <source>&amp;Legend of what is shown</source>
+        <translation>見えているものの凡例(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
@@ -276,76 +200,60 @@
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>Memory was too short to record how &quot;^1&quot; was changed; these changes cannot be undone.</source>
-        <translation>メモリ不足のため「^1」への変更を記録できませんでした。これらの変更は元に戻せません。</translation>
-    </message>
-    <message>
-        <source>New Layer</source>
-        <translation>新しいレイヤ</translation>
-    </message>
-    <message>
-        <source>New Theme</source>
-        <translation>新しいテーマ</translation>
+        <source>&amp;New Map...</source>
+        <translation>新しい地図(&amp;N)...</translation>
     </message>
     <message>
         <source>&amp;New Theme from Visible Layers...</source>
         <translation>表示中のレイヤから新しいテーマ(&amp;N)...</translation>
     </message>
     <message>
-        <source>No layer can be made in the file &quot;%1&quot;.</source>
-        <translation>ファイル「%1」にレイヤを作成できません。</translation>
+        <source>&amp;Number of classes:</source>
+        <translation>階級数(&amp;N):</translation>
     </message>
     <message>
-        <source>No layer of this map is visible.</source>
-        <translation>この地図には表示中のレイヤがありません。</translation>
-    </message>
-    <message>
-        <source>No themes yet</source>
-        <translation>テーマはまだありません</translation>
+        <source>&amp;Open Map...</source>
+        <translation>地図を開く(&amp;O)...</translation>
     </message>
     <message>
         <source>&amp;Pan and Zoom</source>
         <translation>移動とズーム(&amp;P)</translation>
     </message>
     <message>
-        <source>Please supply a non-blank name, or cancel.</source>
-        <translation>名前を入力するか、キャンセルしてください。</translation>
+        <source>&amp;Paper:</source>
+        <translation>用紙(&amp;P):</translation>
     </message>
     <message>
-        <source>Points</source>
-        <translation>点</translation>
+        <source>&amp;Preview...</source>
+        <translation>プレビュー(&amp;P)...</translation>
     </message>
     <message>
-        <source>Revert Scheme</source>
-        <translation>スキームを元に戻す</translation>
+        <source>&amp;Print...</source>
+        <translation>印刷(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>解像度(&amp;R):</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
         <translation>保存したスキームに戻す(&amp;R)</translation>
     </message>
     <message>
+        <source>&amp;Save Map As...</source>
+        <translation>地図に名前を付けて保存(&amp;S)...</translation>
+    </message>
+    <message>
         <source>&amp;Save Scheme</source>
         <translation>スキームを保存(&amp;S)</translation>
     </message>
     <message>
-        <source>Save Scheme</source>
-        <translation>スキームを保存</translation>
-    </message>
-    <message>
         <source>&amp;Save Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」を保存(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Save the layers as they are to the scheme &quot;%1&quot;?</source>
-        <translation>現在のレイヤをスキーム「%1」に保存しますか?</translation>
-    </message>
-    <message>
-        <source>Scheme: %1</source>
-        <translation>スキーム: %1</translation>
-    </message>
-    <message>
-        <source>Scheme: %1 *</source>
-        <translation>スキーム: %1 *</translation>
     </message>
     <message>
         <source>&amp;Schemes</source>
@@ -356,72 +264,56 @@
         <translation>選択(&amp;S)</translation>
     </message>
     <message>
-        <source>Switch Scheme</source>
-        <translation>スキームの切り替え</translation>
-    </message>
-    <message>
-        <source>S&amp;witch to It</source>
-        <translation>このスキームに切り替え(&amp;W)</translation>
-    </message>
-    <message>
-        <source>The layer &quot;%1&quot; holds no number as &quot;%2&quot;.</source>
-        <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
-    </message>
-    <message>
-        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
-        <translation>「%1」のレイヤスキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
-    </message>
-    <message>
-        <source>The layers are as they were saved in the scheme &quot;%1&quot;.</source>
-        <translation>レイヤはスキーム「%1」に保存されたとおりです。</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
-        <translation>地図「%1」は別のウィンドウまたはプログラムで開かれています。ここでも開きますか?</translation>
-    </message>
-    <message>
-        <source>The map was changed in another window and is shown as it is now.</source>
-        <translation>地図は別のウィンドウで変更されたため、現在の状態で表示しています。</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was exported.</source>
-        <translation>スキーム「%1」を書き出しました。</translation>
-    </message>
-    <message>
-        <source>The scheme &quot;%1&quot; was imported.</source>
-        <translation>スキーム「%1」を読み込みました。</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
-        <translation>スキームファイル「%1」を読み込めません。%2</translation>
-    </message>
-    <message>
-        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
-        <translation>スキームファイル「%1」に書き込めません: %2。</translation>
+        <source>&amp;Size:</source>
+        <translation>大きさ(&amp;S):</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
         <translation>テーマ(&amp;T)</translation>
     </message>
     <message>
-        <source>There is a scheme &quot;%1&quot; already. Replace it by the one of the file?</source>
-        <translation>スキーム「%1」はすでにあります。ファイルのもので置き換えますか?</translation>
-    </message>
-    <message>
-        <source>There is a theme &quot;%1&quot; already. Give it the layers that are visible now?</source>
-        <translation>テーマ「%1」はすでにあります。現在表示中のレイヤに置き換えますか?</translation>
+        <source>&amp;Title:</source>
+        <translation>表題(&amp;T):</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>ツール(&amp;T)</translation>
     </message>
     <message>
+        <source>&amp;Use It Now</source>
+        <translation>今すぐ使う(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>--%1 needs a number from %2 to %3.</source>
+        <translation>--%1 には %2 から %3 までの数が必要です。</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... ほか %1 件。</translation>
     </message>
     <message>
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Orvane レイヤーコントロールのホストとなる、小さなデスクトップ地図プログラムです。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>A layer cannot be created in the file &quot;%1&quot;.</source>
+        <translation>ファイル「%1」にレイヤを作成できません。</translation>
+    </message>
+    <message>
+        <source>A layer from map &amp;data</source>
+        <translation>地図データのレイヤ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>A picture of %1 by %2 pixels is too large.</source>
+        <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
     </message>
     <message>
         <source>A row of &quot;^1&quot; was changed without beginning an edit.</source>
@@ -440,8 +332,12 @@
         <translation>%1 から %2 までの整数</translation>
     </message>
     <message>
-        <source>&amp;About Orvane</source>
-        <translation>Orvane について(&amp;A)</translation>
+        <source>A&amp;ttribute:</source>
+        <translation>属性(&amp;T):</translation>
+    </message>
+    <message>
+        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. The default is A4.</source>
+        <translation>A5～A0、Letter、Legal、Tabloid、200x150mm、1600x900px など。省略時は A4。</translation>
     </message>
     <message>
         <source>About Orvane</source>
@@ -452,24 +348,46 @@
         <translation>このプログラムについて</translation>
     </message>
     <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+        <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
+終了コード: 0 すべて追加、1 追加できないものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
         <source>Add map data from files to the map</source>
         <translation>ファイルの地図データを地図に追加します</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>An &amp;empty layer</source>
+        <translation>空のレイヤ(&amp;E)</translation>
+    </message>
+    <message>
+        <source>An argument is missing.</source>
+        <translation>引数が足りません。</translation>
     </message>
     <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>空の値は「^1」に保存できません。</translation>
     </message>
     <message>
-        <source>&amp;Attribute:</source>
-        <translation>属性(&amp;A):</translation>
-    </message>
-    <message>
-        <source>A&amp;ttribute:</source>
-        <translation>属性(&amp;T):</translation>
-    </message>
-    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>面積: %1、周長: %2</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>As a picture: %1 × %2 pixels</source>
+        <translation>画像として: %1 × %2 ピクセル</translation>
+    </message>
+    <message>
+        <source>At the scale &amp;1:</source>
+        <translation>縮尺(&amp;1) 1:</translation>
     </message>
     <message>
         <source>Attribute</source>
@@ -480,8 +398,8 @@
         <translation>自動 (%1)</translation>
     </message>
     <message>
-        <source>Begin a new map file</source>
-        <translation>新しい地図ファイルを作成します</translation>
+        <source>B&amp;rowse...</source>
+        <translation>参照(&amp;R)...</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -496,12 +414,26 @@
         <translation>縁取り線、ラベル付き</translation>
     </message>
     <message>
-        <source>Change of %1 Layers</source>
+        <source>Change &quot;%1&quot;</source>
+        <translation>「%1」の変更</translation>
+    </message>
+    <message>
+        <source>Change %1 Layers</source>
         <translation>%1個のレイヤーの変更</translation>
     </message>
     <message>
-        <source>Change of &quot;%1&quot;</source>
-        <translation>「%1」の変更</translation>
+        <source>Change Code of &quot;%1&quot;</source>
+        <translation>「%1」のコードの変更</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
+        <translation>一方のウィンドウでの変更はすぐに保存され、もう一方に移ったときに表示されます。</translation>
+    </message>
+    <message>
+        <source>Check a map file for damage, broken references and missing data.
+Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
+        <translation>地図ファイルの問題 (破損、参照先のない行、見つからないデータ) を調べます。
+終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
         <source>Choose the attributes that label and colour the features of a layer</source>
@@ -524,36 +456,52 @@
         <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
     </message>
     <message>
-        <source>Creation of &quot;%1&quot;</source>
+        <source>Create &quot;%1&quot;</source>
         <translation>「%1」の作成</translation>
     </message>
     <message>
-        <source>Creation of the Scheme &quot;%1&quot;</source>
+        <source>Create Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の作成</translation>
     </message>
     <message>
-        <source>Delete layer</source>
+        <source>Create a new map file</source>
+        <translation>新しい地図ファイルを作成します</translation>
+    </message>
+    <message>
+        <source>Custom size</source>
+        <translation>ユーザー定義のサイズ</translation>
+    </message>
+    <message>
+        <source>Data f&amp;ile:</source>
+        <translation>データファイル(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Delete Layer</source>
         <translation>レイヤーの削除</translation>
+    </message>
+    <message>
+        <source>Delete Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Delete Theme</source>
+        <translation>テーマを削除</translation>
     </message>
     <message>
         <source>Delete the layer &quot;%1&quot;?</source>
         <translation>レイヤー「%1」を削除しますか?</translation>
     </message>
     <message>
-        <source>&amp;Division:</source>
-        <translation>区分方法(&amp;D):</translation>
+        <source>Delete the theme &quot;%1&quot;? Its layers stay in the map.</source>
+        <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
     </message>
     <message>
-        <source>Deletion of &quot;%1&quot;</source>
-        <translation>「%1」の削除</translation>
-    </message>
-    <message>
-        <source>Deletion of the Scheme &quot;%1&quot;</source>
-        <translation>スキーム「%1」の削除</translation>
-    </message>
-    <message>
-        <source>Drag a feature of a layer that is not locked to another place</source>
-        <translation>ロックされていないレイヤーの地物を別の場所へドラッグします</translation>
+        <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
+        <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -568,6 +516,24 @@
         <translation>地図をドラッグで移動し、ホイールでズームします</translation>
     </message>
     <message>
+        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
+Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
+        <translation>地図を PDF、SVG、PNG として描きます。地図ファイルは読むだけです。
+終了コード: 0 すべて描画、1 描けないものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
+        <source>Draw at the scale 1:N around the middle of the map.</source>
+        <translation>地図の中央を縮尺 1:N で描きます。</translation>
+    </message>
+    <message>
+        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
+        <translation>このスキームのとおりにレイヤーを描きます。地図ファイルは変わりません。</translation>
+    </message>
+    <message>
+        <source>Drawing the map</source>
+        <translation>地図を描いています</translation>
+    </message>
+    <message>
         <source>Drawing...</source>
         <translation>描画中...</translation>
     </message>
@@ -576,8 +542,8 @@
         <translation>東経</translation>
     </message>
     <message>
-        <source>End Orvane</source>
-        <translation>Orvane を終了します</translation>
+        <source>Enter a name.</source>
+        <translation>名前を入力してください。</translation>
     </message>
     <message>
         <source>Equal counts</source>
@@ -588,8 +554,16 @@
         <translation>等間隔</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>ファイル(&amp;F)</translation>
+        <source>Export Map</source>
+        <translation>地図の書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme</source>
+        <translation>スキームを書き出し</translation>
+    </message>
+    <message>
+        <source>Extent of the &amp;window, fitted to the page</source>
+        <translation>ウィンドウの表示範囲をページに合わせる(&amp;W)</translation>
     </message>
     <message>
         <source>Feature %1</source>
@@ -604,8 +578,24 @@
         <translation>見つかった地物: %1</translation>
     </message>
     <message>
+        <source>Files, or folders with files in them.</source>
+        <translation>ファイル、またはファイルの入ったフォルダー。</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>見つからないデータの検索</translation>
+    </message>
+    <message>
+        <source>GeoPackage</source>
+        <translation>GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage &amp;file:</source>
+        <translation>GeoPackage ファイル(&amp;F):</translation>
+    </message>
+    <message>
+        <source>GeoPackages (*.gpkg)</source>
+        <translation>GeoPackage (*.gpkg)</translation>
     </message>
     <message>
         <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
@@ -620,15 +610,59 @@
         <translation>段階区分、ラベル付き</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>ヘルプ(&amp;H)</translation>
+        <source>Height</source>
+        <translation>高さ</translation>
     </message>
     <message>
-        <source>Import of the Scheme &quot;%1&quot;</source>
+        <source>Highlight features of hitable layers under the pointer with any tool</source>
+        <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
+    </message>
+    <message>
+        <source>Import Scheme</source>
+        <translation>スキームを読み込み</translation>
+    </message>
+    <message>
+        <source>Import Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
     </message>
     <message>
-        <source>It leaves its groups: %1.</source>
+        <source>In the file, not in the map:</source>
+        <translation>ファイルにあり、地図にないもの:</translation>
+    </message>
+    <message>
+        <source>In the map, not in the file:</source>
+        <translation>地図にあり、ファイルにないもの:</translation>
+    </message>
+    <message>
+        <source>It does not contain a scheme name.</source>
+        <translation>スキームの名前がありません。</translation>
+    </message>
+    <message>
+        <source>It does not contain a valid version number.</source>
+        <translation>有効なバージョン番号がありません。</translation>
+    </message>
+    <message>
+        <source>It holds no layers.</source>
+        <translation>レイヤがありません。</translation>
+    </message>
+    <message>
+        <source>It is not a layer scheme.</source>
+        <translation>レイヤスキームではありません。</translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (error at byte %1).</source>
+        <translation>有効な JSON ではありません (%1 バイト目でエラー)。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>大きすぎます。</translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation>このプログラムのより新しいバージョンで書き込まれています。</translation>
+    </message>
+    <message>
+        <source>It will be removed from its groups: %1.</source>
         <translation>属しているグループから外れます: %1。</translation>
     </message>
     <message>
@@ -636,48 +670,128 @@
         <translation>データファイルは残ります。削除は元に戻せます。</translation>
     </message>
     <message>
-        <source>Its saved values go from the layer schemes: %1.</source>
-        <translation>保存された値がレイヤースキームからなくなります: %1。</translation>
+        <source>Its saved values will be removed from the layer schemes: %1.</source>
+        <translation>保存された値がレイヤースキームから削除されます: %1。</translation>
     </message>
     <message>
-        <source>Lay a picture under all layers of the map</source>
-        <translation>地図のすべてのレイヤーの下に画像を敷きます</translation>
+        <source>Labelled</source>
+        <translation>ラベル付き</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no valid &quot;%2&quot;.</source>
+        <translation>レイヤ %1 の「%2」が正しくありません。</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Rendering...</source>
+        <translation>レイヤーの描画(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Layer Rendering</source>
+        <translation>レイヤーの描画</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json)</source>
+        <translation>レイヤスキーム (*.json)</translation>
+    </message>
+    <message>
+        <source>Layer schemes (*.json);;All files (*)</source>
+        <translation>レイヤスキーム (*.json);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Layers added to &quot;%1&quot;: %2</source>
+        <translation>「%1」に追加したレイヤー: %2</translation>
+    </message>
+    <message>
+        <source>Layers differ from the scheme &quot;%1&quot;. Save it before switching to &quot;%2&quot;?</source>
+        <translation>スキーム「%1」と異なるレイヤがあります。「%2」に切り替える前に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Layers in both the file and this map: %1</source>
+        <translation>ファイルとこの地図の両方にあるレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Layers not in the scheme &quot;%1&quot;, left unchanged: %2</source>
+        <translation>スキーム「%1」にないため変更しなかったレイヤ: %2</translation>
+    </message>
+    <message>
+        <source>Layers of the file that this map does not have: %1</source>
+        <translation>この地図にないファイル内のレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Layers of this map that the file does not have, which keep their values: %1</source>
+        <translation>ファイルにないため値を変えないこの地図のレイヤ: %1</translation>
+    </message>
+    <message>
+        <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
+        <translation>スキーム「%1」と異なるレイヤ: %2</translation>
+    </message>
+    <message>
+        <source>Leave the legend out.</source>
+        <translation>凡例を省きます。</translation>
+    </message>
+    <message>
+        <source>Leave the scale bar out.</source>
+        <translation>縮尺バーを省きます。</translation>
     </message>
     <message>
         <source>Length: %1</source>
         <translation>長さ: %1</translation>
     </message>
     <message>
-        <source>Loading of the Scheme &quot;%1&quot;</source>
+        <source>Lines</source>
+        <translation>線</translation>
+    </message>
+    <message>
+        <source>Load Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
     </message>
     <message>
-        <source>Loading of the Startup Schemes</source>
+        <source>Load Startup Schemes</source>
         <translation>起動時スキームの読み込み</translation>
-    </message>
-    <message>
-        <source>Look in a folder for the data files that the map misses</source>
-        <translation>地図に足りないデータファイルをフォルダーから探します</translation>
     </message>
     <message>
         <source>Looking for map data</source>
         <translation>地図データを検索しています</translation>
     </message>
     <message>
-        <source>Make the change again that was taken back last</source>
-        <translation>最後に取り消した変更をもう一度行います</translation>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>Map Data</source>
+        <translation>地図データ</translation>
+    </message>
+    <message>
+        <source>Map File</source>
+        <translation>地図ファイル</translation>
     </message>
     <message>
         <source>Map Tools</source>
         <translation>地図ツール</translation>
     </message>
     <message>
-        <source>Map file</source>
-        <translation>地図ファイル</translation>
+        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
+        <translation>地図データ (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>Mark the feature under the pointer, of hitable layers, with any tool</source>
-        <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
+        <source>Map elements</source>
+        <translation>地図の要素</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane)</source>
+        <translation>地図 (*.orvane)</translation>
+    </message>
+    <message>
+        <source>Maps (*.orvane);;All files (*)</source>
+        <translation>地図 (*.orvane);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Measure &amp;Area</source>
@@ -688,23 +802,27 @@
         <translation>長さの計測(&amp;L)</translation>
     </message>
     <message>
-        <source>Measure a line; its vertices snap to layers that ask for it</source>
+        <source>Measure a line; its vertices snap to layers with snapping turned on</source>
         <translation>線を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
     </message>
     <message>
-        <source>Measure an area; its vertices snap to layers that ask for it</source>
+        <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>面を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
     </message>
     <message>
-        <source>Move in %1</source>
-        <translation>%1 での移動</translation>
+        <source>Move Feature in %1</source>
+        <translation>%1 での地物の移動</translation>
+    </message>
+    <message>
+        <source>Move a feature of an unlocked layer by dragging it</source>
+        <translation>ロックされていないレイヤーの地物を別の場所へドラッグします</translation>
     </message>
     <message>
         <source>Moved a feature of %1.</source>
         <translation>%1 の地物を移動しました。</translation>
     </message>
     <message>
-        <source>Moving a feature of %1. Esc lets go.</source>
+        <source>Moving a feature of %1. Press Esc to cancel.</source>
         <translation>%1 の地物を移動中です。Esc で中止します。</translation>
     </message>
     <message>
@@ -712,32 +830,174 @@
         <translation>地物を移動しています</translation>
     </message>
     <message>
-        <source>New Code of &quot;%1&quot;</source>
-        <translation>「%1」の新しいコード</translation>
+        <source>N</source>
+        <translation>北緯</translation>
+    </message>
+    <message>
+        <source>New Layer</source>
+        <translation>新しいレイヤ</translation>
+    </message>
+    <message>
+        <source>New Map</source>
+        <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New Theme</source>
+        <translation>新しいテーマ</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>新しいレイヤー</translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New map - Orvane</source>
+        <translation>新しい地図 - Orvane</translation>
     </message>
     <message>
         <source>No layer here.</source>
         <translation>ここにはレイヤーがありません。</translation>
     </message>
     <message>
+        <source>No layer of this map is visible.</source>
+        <translation>この地図には表示中のレイヤがありません。</translation>
+    </message>
+    <message>
+        <source>No maps yet</source>
+        <translation>地図はまだありません</translation>
+    </message>
+    <message>
+        <source>No problems were found in &quot;%1&quot;.</source>
+        <translation>「%1」に問題はありません。</translation>
+    </message>
+    <message>
         <source>No selectable feature in the rectangle.</source>
         <translation>矩形の中に選択できる地物がありません。</translation>
+    </message>
+    <message>
+        <source>No themes yet</source>
+        <translation>テーマはまだありません</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
     </message>
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>見つからないファイルは「%1」にありません。</translation>
     </message>
     <message>
+        <source>Nothing but the map, up to the edges of the page.</source>
+        <translation>地図だけを、ページの端まで描きます。</translation>
+    </message>
+    <message>
+        <source>One statement at a time can be run on &quot;^1&quot;.</source>
+        <translation>「^1」で一度に実行できる文は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
+        <translation>「^1」で読み取り用に開けるのはクエリだけです。</translation>
+    </message>
+    <message>
+        <source>Open &amp;Data...</source>
+        <translation>データを開く(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使った地図(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open Data</source>
+        <translation>データを開く</translation>
+    </message>
+    <message>
+        <source>Open Map</source>
+        <translation>地図を開く</translation>
+    </message>
+    <message>
+        <source>Open Map Data</source>
+        <translation>地図データを開く操作</translation>
+    </message>
+    <message>
         <source>Open Recent</source>
         <translation>最近使った地図を開く</translation>
     </message>
     <message>
-        <source>Opening of Map Data</source>
-        <translation>地図データを開く操作</translation>
+        <source>Open a map file</source>
+        <translation>地図ファイルを開きます</translation>
+    </message>
+    <message>
+        <source>Open the layer control at startup.</source>
+        <translation>起動時にレイヤーコントロールを開きます。</translation>
+    </message>
+    <message>
+        <source>Opening map data</source>
+        <translation>地図データを開いています</translation>
     </message>
     <message>
         <source>Opening the picture</source>
         <translation>画像を開いています</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Orvane</source>
+        <translation>Orvane</translation>
+    </message>
+    <message>
+        <source>Orvane, a small desktop map program.
+
+These commands run without a window; each has its own --help:
+  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
+  orvane import DATA --to MAP  add data to a map file
+  orvane check MAP             check a map file for problems</source>
+        <translation>Orvane は小さなデスクトップ地図プログラムです。
+
+ウィンドウなしで次のことができます。それぞれに --help があります:
+  orvane MAP --export FILE     地図を PDF、SVG、PNG として描く
+  orvane import DATA --to MAP  地図ファイルにデータを追加する
+  orvane check MAP             地図ファイルの問題を調べる</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF 文書 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 画像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Print Map</source>
+        <translation>地図の印刷</translation>
+    </message>
+    <message>
+        <source>Print the map, with a preview</source>
+        <translation>プレビューを見てから地図を印刷します</translation>
+    </message>
+    <message>
+        <source>Quit Orvane</source>
+        <translation>Orvane を終了します</translation>
     </message>
     <message>
         <source>R&amp;emove Raster Backdrop</source>
@@ -756,104 +1016,8 @@
         <translation>属性を読み込んでいます</translation>
     </message>
     <message>
-        <source>Renaming of &quot;%1&quot;</source>
-        <translation>「%1」の名前の変更</translation>
-    </message>
-    <message>
-        <source>Renaming of the Group &quot;%1&quot;</source>
-        <translation>グループ「%1」の名前の変更</translation>
-    </message>
-    <message>
-        <source>Saving of the Scheme &quot;%1&quot;</source>
-        <translation>スキーム「%1」の保存</translation>
-    </message>
-    <message>
-        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
-        <translation>選択可能なレイヤーの地物をクリックまたは矩形で選択します。Ctrl で追加します</translation>
-    </message>
-    <message>
-        <source>Selected features: %1</source>
-        <translation>選択された地物: %1</translation>
-    </message>
-    <message>
-        <source>Show or hide the panel with the attributes of identified features</source>
-        <translation>照会した地物の属性パネルを表示または非表示にします</translation>
-    </message>
-    <message>
-        <source>Show the attributes of features of enquirable layers</source>
-        <translation>照会可能なレイヤーの地物の属性を表示します</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>画像なしで地図を表示します</translation>
-    </message>
-    <message>
-        <source>Take back the last change of layers, groups and schemes</source>
-        <translation>レイヤー、グループ、スキームへの最後の変更を取り消します</translation>
-    </message>
-    <message>
-        <source>The feature was changed by somebody else and stays where it is.</source>
-        <translation>地物は他の人によって変更されたため、そのままにします。</translation>
-    </message>
-    <message>
-        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
-        <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
-    </message>
-    <message>
-        <source>The map &quot;%1&quot; is no longer there. It was taken off the list.</source>
-        <translation>地図「%1」はもうありません。一覧から削除しました。</translation>
-    </message>
-    <message>
-        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
-        <translation>地図ファイル「%1」は移動または削除されました。変更は、別の名前で地図を保存した場合にのみ残ります。</translation>
-    </message>
-    <message>
-        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
-        <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Use It Now</source>
-        <translation>今すぐ使う(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
-    </message>
-    <message>
-        <source>it does not say where its pixels lie</source>
-        <translation>画素の位置が記されていません</translation>
-    </message>
-    <message>
-        <source>it has no attribute named %1</source>
-        <translation>%1 という名前の属性がありません</translation>
-    </message>
-    <message>
-        <source>Labelled</source>
-        <translation>ラベル付き</translation>
-    </message>
-    <message>
-        <source>Labels</source>
-        <translation>ラベル</translation>
-    </message>
-    <message>
-        <source>Layer Rendering</source>
-        <translation>レイヤーの描画</translation>
-    </message>
-    <message>
-        <source>Layer &amp;Rendering...</source>
-        <translation>レイヤーの描画(&amp;R)...</translation>
-    </message>
-    <message>
-        <source>&amp;Layer:</source>
-        <translation>レイヤ(&amp;L):</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>&amp;Number of classes:</source>
-        <translation>階級数(&amp;N):</translation>
+        <source>Reading map data</source>
+        <translation>地図データを読み込んでいます</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -864,160 +1028,36 @@
         <translation>やり直す: %1</translation>
     </message>
     <message>
-        <source>Rows of &quot;%1&quot; that belong to something missing from &quot;%2&quot;: %3.</source>
+        <source>Redo the last undone change</source>
+        <translation>最後に元に戻した変更をやり直します</translation>
+    </message>
+    <message>
+        <source>Rename &quot;%1&quot;</source>
+        <translation>「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Rename Group &quot;%1&quot;</source>
+        <translation>グループ「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Repair what can be repaired.</source>
+        <translation>直せるものを直します。</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Revert Scheme</source>
+        <translation>スキームを元に戻す</translation>
+    </message>
+    <message>
+        <source>Revert the layers to the values saved in the scheme &quot;%1&quot;?</source>
+        <translation>レイヤをスキーム「%1」に保存された値に戻しますか?</translation>
+    </message>
+    <message>
+        <source>Rows of &quot;%1&quot; that refer to missing rows of &quot;%2&quot;: %3.</source>
         <translation>「%2」にないものを参照している「%1」の行: %3。</translation>
-    </message>
-    <message>
-        <source>Style:</source>
-        <translation>スタイル:</translation>
-    </message>
-    <message>
-        <source>The data file &quot;%1&quot; is missing.</source>
-        <translation>データファイル「%1」が見つかりません。</translation>
-    </message>
-    <message>
-        <source>The data of this layer cannot be read.</source>
-        <translation>このレイヤーのデータを読み込めません。</translation>
-    </message>
-    <message>
-        <source>The map file is damaged: %1.</source>
-        <translation>地図ファイルが壊れています: %1。</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>元に戻す: %1</translation>
-    </message>
-    <message>
-        <source>it has no layer named %1</source>
-        <translation>%1 という名前のレイヤーがありません</translation>
-    </message>
-    <message>
-        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
-        <translation>スタイルエディターのコンポーネントではありません (「%1」がありません)</translation>
-    </message>
-    <message>
-        <source>it is too large for this computer's memory</source>
-        <translation>このコンピューターのメモリには大きすぎます</translation>
-    </message>
-    <message>
-        <source>it made no entry object</source>
-        <translation>エントリーオブジェクトが作成されませんでした</translation>
-    </message>
-    <message>
-        <source>it was built with Qt %1, this program with Qt %2</source>
-        <translation>このコンポーネントは Qt %1 で、このプログラムは Qt %2 でビルドされています</translation>
-    </message>
-    <message>
-        <source>it speaks version %1 of the contract, this program speaks %2</source>
-        <translation>インターフェイスのバージョンは %1 ですが、このプログラムは %2 です</translation>
-    </message>
-    <message>
-        <source>&amp;Layer Control</source>
-        <translation>レイヤーコントロール(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Layers</source>
-        <translation>レイヤー(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Map</source>
-        <translation>地図</translation>
-    </message>
-    <message>
-        <source>Map data</source>
-        <translation>地図データ</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>地図データ (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane)</source>
-        <translation>地図 (*.orvane)</translation>
-    </message>
-    <message>
-        <source>Maps (*.orvane);;All files (*)</source>
-        <translation>地図 (*.orvane);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>N</source>
-        <translation>北緯</translation>
-    </message>
-    <message>
-        <source>New layer</source>
-        <translation>新しいレイヤー</translation>
-    </message>
-    <message>
-        <source>New Map</source>
-        <translation>新しい地図</translation>
-    </message>
-    <message>
-        <source>New map</source>
-        <translation>新しい地図</translation>
-    </message>
-    <message>
-        <source>New map - Orvane</source>
-        <translation>新しい地図 - Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;New Map...</source>
-        <translation>新しい地図(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>No maps yet</source>
-        <translation>地図はまだありません</translation>
-    </message>
-    <message>
-        <source>One statement at a time can be run on &quot;^1&quot;.</source>
-        <translation>「^1」で一度に実行できる文は 1 つだけです。</translation>
-    </message>
-    <message>
-        <source>Only a query can be opened for reading on &quot;^1&quot;.</source>
-        <translation>「^1」で読み取り用に開けるのはクエリだけです。</translation>
-    </message>
-    <message>
-        <source>Open a map file</source>
-        <translation>地図ファイルを開きます</translation>
-    </message>
-    <message>
-        <source>Open Data</source>
-        <translation>データを開く</translation>
-    </message>
-    <message>
-        <source>Open &amp;Data...</source>
-        <translation>データを開く(&amp;D)...</translation>
-    </message>
-    <message>
-        <source>Open Map</source>
-        <translation>地図を開く</translation>
-    </message>
-    <message>
-        <source>&amp;Open Map...</source>
-        <translation>地図を開く(&amp;O)...</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>最近使った地図(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Opening map data</source>
-        <translation>地図データを開いています</translation>
-    </message>
-    <message>
-        <source>Orvane</source>
-        <translation>Orvane</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Reading map data</source>
-        <translation>地図データを読み込んでいます</translation>
     </message>
     <message>
         <source>Rows of &quot;^1&quot; can be sought with &quot;=&quot; only, not with &quot;^2&quot;.</source>
@@ -1032,24 +1072,88 @@
         <translation>南緯</translation>
     </message>
     <message>
+        <source>S&amp;witch to It</source>
+        <translation>このスキームに切り替え(&amp;W)</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG 図形 (*.svg)</translation>
+    </message>
+    <message>
         <source>Save Map As</source>
         <translation>地図に名前を付けて保存</translation>
     </message>
     <message>
-        <source>&amp;Save Map As...</source>
-        <translation>地図に名前を付けて保存(&amp;S)...</translation>
+        <source>Save Scheme</source>
+        <translation>スキームを保存</translation>
+    </message>
+    <message>
+        <source>Save Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の保存</translation>
+    </message>
+    <message>
+        <source>Save the current layer settings to the scheme &quot;%1&quot;?</source>
+        <translation>現在のレイヤ設定をスキーム「%1」に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Save the map to another file and continue with that file</source>
+        <translation>地図を別のファイルに保存し、そのファイルで作業を続けます</translation>
+    </message>
+    <message>
+        <source>Save this map before closing it?</source>
+        <translation>この地図を閉じる前に保存しますか?</translation>
+    </message>
+    <message>
+        <source>Scale &amp;bar</source>
+        <translation>縮尺バー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Scale 1:</source>
+        <translation>縮尺 1:</translation>
+    </message>
+    <message>
+        <source>Scheme: %1</source>
+        <translation>スキーム: %1</translation>
+    </message>
+    <message>
+        <source>Scheme: %1 *</source>
+        <translation>スキーム: %1 *</translation>
+    </message>
+    <message>
+        <source>Search a folder for the missing data files of the map</source>
+        <translation>地図に足りないデータファイルをフォルダーから探します</translation>
+    </message>
+    <message>
+        <source>Select features of selectable layers by a click or a rectangle; Ctrl adds</source>
+        <translation>選択可能なレイヤーの地物をクリックまたは矩形で選択します。Ctrl で追加します</translation>
+    </message>
+    <message>
+        <source>Selected features: %1</source>
+        <translation>選択された地物: %1</translation>
+    </message>
+    <message>
+        <source>Show a picture below all layers of the map</source>
+        <translation>地図のすべてのレイヤーの下に画像を表示します</translation>
     </message>
     <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>レイヤー、グループ、スキームを表示して編集します</translation>
     </message>
     <message>
-        <source>Show less, larger</source>
-        <translation>範囲を狭めて大きく表示します</translation>
+        <source>Show or hide the panel with the attributes of identified features</source>
+        <translation>照会した地物の属性パネルを表示または非表示にします</translation>
     </message>
     <message>
-        <source>Show more, smaller</source>
-        <translation>範囲を広げて小さく表示します</translation>
+        <source>Show the attributes of features of enquirable layers</source>
+        <translation>照会可能なレイヤーの地物の属性を表示します</translation>
+    </message>
+    <message>
+        <source>Show the map without the picture</source>
+        <translation>画像なしで地図を表示します</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
     </message>
     <message>
         <source>Show the whole map</source>
@@ -1060,8 +1164,12 @@
         <translation>標準</translation>
     </message>
     <message>
-        <source>Store a copy of the map in another file and go on with it</source>
-        <translation>地図のコピーを別のファイルに保存し、そのファイルで作業を続けます</translation>
+        <source>Style:</source>
+        <translation>スタイル:</translation>
+    </message>
+    <message>
+        <source>Switch Scheme</source>
+        <translation>スキームの切り替え</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1072,44 +1180,116 @@
         <translation>データファイル「%1」に書き込めません。</translation>
     </message>
     <message>
+        <source>The data file &quot;%1&quot; is missing.</source>
+        <translation>データファイル「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The data of this layer cannot be read.</source>
+        <translation>このレイヤーのデータを読み込めません。</translation>
+    </message>
+    <message>
+        <source>The feature was changed by another user or program and was not moved.</source>
+        <translation>地物は他のユーザーまたはプログラムによって変更されたため、移動しませんでした。</translation>
+    </message>
+    <message>
+        <source>The file to export must end in .pdf, .svg or .png.</source>
+        <translation>書き出すファイルの拡張子は .pdf、.svg、.png のいずれかです。</translation>
+    </message>
+    <message>
+        <source>The file to write; its extension .pdf, .svg or .png sets the format.</source>
+        <translation>書き出すファイル。拡張子 .pdf、.svg、.png が形式を決めます。</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>最後のレイヤースキームは削除できません。</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; cannot be created: ^2</source>
-        <translation>レイヤーデータベース「^1」を作成できません: ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; cannot be opened: ^2</source>
-        <translation>レイヤーデータベース「^1」を開けません: ^2</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; does not exist.</source>
-        <translation>レイヤーデータベース「^1」は存在しません。</translation>
+        <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
+        <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
     </message>
     <message>
         <source>The layer database &quot;^1&quot; has no table &quot;^2&quot; to open.</source>
         <translation>レイヤーデータベース「^1」にはテーブル「^2」がありません。</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; is damaged. Use a copy of it that was saved earlier.</source>
-        <translation>レイヤーデータベース「^1」は破損しています。以前に保存したコピーを使用してください。</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is in use by another program. Try again in a moment.</source>
-        <translation>レイヤーデータベース「^1」は別のプログラムで使用中です。しばらくしてからもう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>The layer database &quot;^1&quot; is read-only and cannot be changed.</source>
-        <translation>レイヤーデータベース「^1」は読み取り専用のため、変更できません。</translation>
-    </message>
-    <message>
         <source>The layer database &quot;^1&quot; refused an operation: ^2</source>
         <translation>レイヤーデータベース「^1」が操作を拒否しました: ^2</translation>
     </message>
     <message>
-        <source>The layer database &quot;^1&quot; was written by a newer version of this program.</source>
-        <translation>レイヤーデータベース「^1」は、このプログラムのより新しいバージョンで書き込まれています。</translation>
+        <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
+        <translation>「%1」のレイヤスキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
+    </message>
+    <message>
+        <source>The layers match the scheme &quot;%1&quot;.</source>
+        <translation>レイヤはスキーム「%1」と一致しています。</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open in another window or program. Open it here too?</source>
+        <translation>地図「%1」は別のウィンドウまたはプログラムで開かれています。ここでも開きますか?</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; no longer exists. It was removed from the list.</source>
+        <translation>地図「%1」はもうありません。一覧から削除しました。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created: ^2</source>
+        <translation>地図「^1」を作成できません: ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be opened: ^2</source>
+        <translation>地図「^1」を開けません: ^2</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; does not exist.</source>
+        <translation>地図「^1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is damaged. Use an earlier copy of it.</source>
+        <translation>地図「^1」は破損しています。以前に保存したコピーを使用してください。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is in use by another program. Try again in a moment.</source>
+        <translation>地図「^1」は別のプログラムで使用中です。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
+        <translation>地図「^1」は読み取り専用のため、変更できません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was written by a newer version of this program.</source>
+        <translation>地図「^1」は、このプログラムのより新しいバージョンで書き込まれています。</translation>
+    </message>
+    <message>
+        <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
+        <translation>地図ファイル「%1」は移動または削除されました。変更は、別の名前で地図を保存した場合にのみ残ります。</translation>
+    </message>
+    <message>
+        <source>The map file is damaged: %1.</source>
+        <translation>地図ファイルが壊れています: %1。</translation>
+    </message>
+    <message>
+        <source>The map file to add to; it is made when there is none.</source>
+        <translation>追加先の地図ファイル。なければ作成します。</translation>
+    </message>
+    <message>
+        <source>The map file to open.</source>
+        <translation>開く地図ファイル。</translation>
+    </message>
+    <message>
+        <source>The map file.</source>
+        <translation>地図ファイル。</translation>
+    </message>
+    <message>
+        <source>The map was changed in another window and has been reloaded.</source>
+        <translation>地図が別のウィンドウで変更されたため、再読み込みしました。</translation>
+    </message>
+    <message>
+        <source>The map was written to %1</source>
+        <translation>地図を %1 に書き出しました</translation>
+    </message>
+    <message>
+        <source>The page cannot be painted.</source>
+        <translation>ページを描けません。</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
@@ -1128,12 +1308,48 @@
         <translation>「^1」から読み込んだ行には列「^2」がありません。</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
+        <translation>スキーム「%1」はすでにあります。ファイルのもので置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was exported.</source>
+        <translation>スキーム「%1」を書き出しました。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported.</source>
+        <translation>スキーム「%1」を読み込みました。</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be read. %2</source>
+        <translation>スキームファイル「%1」を読み込めません。%2</translation>
+    </message>
+    <message>
+        <source>The scheme file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>スキームファイル「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
         <source>The style editor component &quot;%1&quot; cannot be used: %2.</source>
         <translation>スタイルエディターのコンポーネント「%1」は使用できません: %2。</translation>
     </message>
     <message>
+        <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
+        <translation>テーマ「%1」はすでにあります。そのレイヤを表示中のレイヤで置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The title. The default is the name of the map; &quot;&quot; for no title.</source>
+        <translation>表題。省略時は地図の名前、&quot;&quot; ならなし。</translation>
+    </message>
+    <message>
+        <source>The value &quot;%2&quot; of the layer &quot;%1&quot; is not a number.</source>
+        <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>種類 %1 のパターンはありません。</translation>
+    </message>
+    <message>
+        <source>There are too many arguments.</source>
+        <translation>引数が多すぎます。</translation>
     </message>
     <message>
         <source>There is a layer scheme named &quot;%1&quot; already.</source>
@@ -1152,32 +1368,80 @@
         <translation>「%1」という名前のレイヤースキームはありません。</translation>
     </message>
     <message>
-        <source>There is no room left on the disk of the layer database &quot;^1&quot;.</source>
-        <translation>レイヤーデータベース「^1」のディスクに空き容量がありません。</translation>
-    </message>
-    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>「^1」にはコミットするトランザクションがありません。</translation>
     </message>
     <message>
-        <source>This map has no file yet. Keep it?</source>
-        <translation>この地図にはまだファイルがありません。保存しますか?</translation>
+        <source>There is not enough disk space for the map &quot;^1&quot;.</source>
+        <translation>ディスクの空き容量が不足しているため、地図「^1」を保存できません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>取り込むものがありません。</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to record the changes to &quot;^1&quot;; they cannot be undone.</source>
+        <translation>メモリ不足のため「^1」への変更を記録できませんでした。これらの変更は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
+        <translation>この地図は空です。［ファイル］&gt;［データを開く...］を選ぶか、データファイルをここにドロップしてください。</translation>
     </message>
     <message>
         <source>This program has no startup database.</source>
         <translation>このプログラムには起動時のデータベースがありません。</translation>
     </message>
     <message>
+        <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
+        <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
+    </message>
+    <message>
+        <source>Title of the map</source>
+        <translation>地図の表題</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>ツール</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation>表示(&amp;V)</translation>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Undo the last change to layers, groups or schemes</source>
+        <translation>レイヤー、グループ、スキームへの最後の変更を取り消します</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Use portrait orientation.</source>
+        <translation>用紙を縦にします。</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
     </message>
     <message>
         <source>W</source>
         <translation>西経</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Write each call between the map and the layer control to FILE.</source>
+        <translation>地図とレイヤーコントロールの間の呼び出しをすべて FILE に書き込みます。</translation>
+    </message>
+    <message>
+        <source>Write the map as PDF, SVG or PNG</source>
+        <translation>地図を PDF、SVG、PNG として書き出します</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1188,176 +1452,52 @@
         <translation>縮小(&amp;O)</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>地図を拡大します</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>地図を縮小します</translation>
+    </message>
+    <message>
         <source>Zoom to &amp;All</source>
         <translation>全体表示(&amp;A)</translation>
-    </message>
-    <message>
-        <source>What is changed in one window is stored at once, and shown in the other when you go to it.</source>
-        <translation>一方のウィンドウでの変更はすぐに保存され、もう一方に移ったときに表示されます。</translation>
-    </message>
-    <message>
-        <source>Write each call between the map and the layer control to FILE.</source>
-        <translation>地図とレイヤーコントロールの間の呼び出しをすべて FILE に書き込みます。</translation>
-    </message>
-    <message>
-        <source>Open the layer control at once.</source>
-        <translation>レイヤーコントロールをすぐに開きます。</translation>
-    </message>
-    <message>
-        <source>The map file to open.</source>
-        <translation>開く地図ファイル。</translation>
-    </message>
-    <message>
-        <source>Orvane, a small desktop map program.
-
-Without a window it does these, each with a --help of its own:
-  orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             look for what is wrong with a map file</source>
-        <translation>Orvane は小さなデスクトップ地図プログラムです。
-
-ウィンドウなしで次のことができます。それぞれに --help があります:
-  orvane MAP --export FILE     地図を PDF、SVG、PNG として描く
-  orvane import DATA --to MAP  地図ファイルにデータを追加する
-  orvane check MAP             地図ファイルの問題を調べる</translation>
-    </message>
-    <message>
-        <source>Tell the version.</source>
-        <translation>バージョンを表示します。</translation>
-    </message>
-    <message>
-        <source>An argument is missing.</source>
-        <translation>引数が足りません。</translation>
-    </message>
-    <message>
-        <source>There is an argument too many.</source>
-        <translation>引数が多すぎます。</translation>
-    </message>
-    <message>
-        <source>&quot;orvane %1--help&quot; lists what can be asked for.</source>
-        <translation>「orvane %1--help」で使い方の一覧が表示されます。</translation>
-    </message>
-    <message>
-        <source>Mend what can be mended.</source>
-        <translation>直せるものを直します。</translation>
-    </message>
-    <message>
-        <source>Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.
-Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.</source>
-        <translation>地図ファイルの問題 (破損、参照先のない行、見つからないデータ) を調べます。
-終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>地図ファイル。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is sound.</source>
-        <translation>「%1」に問題はありません。</translation>
-    </message>
-    <message>
-        <source>There is nothing to import.</source>
-        <translation>取り込むものがありません。</translation>
-    </message>
-    <message>
-        <source>Layers added to &quot;%1&quot;: %2</source>
-        <translation>「%1」に追加したレイヤー: %2</translation>
-    </message>
-    <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>追加先の地図ファイル。なければ作成します。</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
-終了コード: 0 すべて追加、1 追加できないものあり、2 コマンドが正しくありません。</translation>
-    </message>
-    <message>
-        <source>Files, or folders with files in them.</source>
-        <translation>ファイル、またはファイルの入ったフォルダー。</translation>
-    </message>
-    <message>
-        <source>&quot;--to MAP&quot; is missing.</source>
-        <translation>「--to MAP」がありません。</translation>
-    </message>
-    <message>
-        <source>The file to write; its ending .pdf, .svg or .png says what.</source>
-        <translation>書き出すファイル。拡張子 .pdf、.svg、.png が形式を決めます。</translation>
-    </message>
-    <message>
-        <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
-        <translation>このスキームのとおりにレイヤーを描きます。地図ファイルは変わりません。</translation>
-    </message>
-    <message>
-        <source>Draw at the scale 1:N around the middle of the map.</source>
-        <translation>地図の中央を縮尺 1:N で描きます。</translation>
-    </message>
-    <message>
-        <source>A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given.</source>
-        <translation>A5～A0、Letter、Legal、Tabloid、200x150mm、1600x900px など。省略時は A4。</translation>
-    </message>
-    <message>
-        <source>Stand the paper upright.</source>
-        <translation>用紙を縦にします。</translation>
-    </message>
-    <message>
-        <source>Dots an inch; 300 unless given, 96 for a size in pixels.</source>
-        <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
-    </message>
-    <message>
-        <source>The title; the map's name unless given, none for &quot;&quot;.</source>
-        <translation>表題。省略時は地図の名前、&quot;&quot; ならなし。</translation>
-    </message>
-    <message>
-        <source>Leave the legend out.</source>
-        <translation>凡例を省きます。</translation>
-    </message>
-    <message>
-        <source>Leave the scale bar out.</source>
-        <translation>縮尺バーを省きます。</translation>
-    </message>
-    <message>
-        <source>Nothing but the map, up to the edges of the page.</source>
-        <translation>地図だけを、ページの端まで描きます。</translation>
-    </message>
-    <message>
-        <source>--%1 needs a number from %2 to %3.</source>
-        <translation>--%1 には %2 から %3 までの数が必要です。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no size of a page.</source>
-        <translation>「%1」はページの大きさではありません。</translation>
-    </message>
-    <message>
-        <source>The file to export must end in .pdf, .svg or .png.</source>
-        <translation>書き出すファイルの拡張子は .pdf、.svg、.png のいずれかです。</translation>
-    </message>
-    <message>
-        <source>Draw a map as PDF, SVG or PNG. The map file is only read.
-Exit code: 0 all was drawn, 1 something was not, 2 the command was not understood.</source>
-        <translation>地図を PDF、SVG、PNG として描きます。地図ファイルは読むだけです。
-終了コード: 0 すべて描画、1 描けないものあり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
         <source>and %1 more</source>
         <translation>ほか %1 件</translation>
     </message>
     <message>
-        <source>1:%1</source>
-        <translation>1:%1</translation>
+        <source>it has no attribute named %1</source>
+        <translation>%1 という名前の属性がありません</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be written: %2.</source>
-        <translation>「%1」を書き込めません: %2</translation>
+        <source>it has no layer named %1</source>
+        <translation>%1 という名前のレイヤーがありません</translation>
     </message>
     <message>
-        <source>The page cannot be painted.</source>
-        <translation>ページを描けません。</translation>
+        <source>it is no style editor component (&quot;%1&quot; is missing)</source>
+        <translation>スタイルエディターのコンポーネントではありません (「%1」がありません)</translation>
     </message>
     <message>
-        <source>A picture of %1 by %2 pixels is too large.</source>
-        <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
+        <source>it is not georeferenced</source>
+        <translation>ジオリファレンスがありません</translation>
+    </message>
+    <message>
+        <source>it is too large for this computer's memory</source>
+        <translation>このコンピューターのメモリには大きすぎます</translation>
+    </message>
+    <message>
+        <source>it made no entry object</source>
+        <translation>エントリーオブジェクトが作成されませんでした</translation>
+    </message>
+    <message>
+        <source>it uses version %1 of the interface, this program uses version %2</source>
+        <translation>インターフェイスのバージョンは %1 ですが、このプログラムは %2 です</translation>
+    </message>
+    <message>
+        <source>it was built with Qt %1, this program with Qt %2</source>
+        <translation>このコンポーネントは Qt %1 で、このプログラムは Qt %2 でビルドされています</translation>
     </message>
     <message>
         <source>its format is read only</source>
@@ -1368,106 +1508,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>名前の末尾は .pdf、.svg、.png のいずれかです</translation>
     </message>
     <message>
-        <source>Export Map</source>
-        <translation>地図の書き出し</translation>
-    </message>
-    <message>
-        <source>Print Map</source>
-        <translation>地図の印刷</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>書き出し(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>&amp;Preview...</source>
-        <translation>プレビュー(&amp;P)...</translation>
-    </message>
-    <message>
-        <source>Own size</source>
-        <translation>任意の大きさ</translation>
-    </message>
-    <message>
-        <source>As a picture: %1 × %2 pixels</source>
-        <translation>画像として: %1 × %2 ピクセル</translation>
-    </message>
-    <message>
-        <source>&amp;Export Map...</source>
-        <translation>地図の書き出し(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>&amp;Print...</source>
-        <translation>印刷(&amp;P)...</translation>
-    </message>
-    <message>
-        <source>Write the map as PDF, SVG or PNG</source>
-        <translation>地図を PDF、SVG、PNG として書き出します</translation>
-    </message>
-    <message>
-        <source>Print the map, with a preview</source>
-        <translation>プレビューを見てから地図を印刷します</translation>
-    </message>
-    <message>
-        <source>Drawing the map</source>
-        <translation>地図を描いています</translation>
-    </message>
-    <message>
-        <source>The map was written to %1</source>
-        <translation>地図を %1 に書き出しました</translation>
-    </message>
-    <message>
-        <source>PDF document (*.pdf)</source>
-        <translation>PDF 文書 (*.pdf)</translation>
-    </message>
-    <message>
-        <source>SVG drawing (*.svg)</source>
-        <translation>SVG 図形 (*.svg)</translation>
-    </message>
-    <message>
-        <source>PNG picture (*.png)</source>
-        <translation>PNG 画像 (*.png)</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>&amp;Paper:</source>
-        <translation>用紙(&amp;P):</translation>
-    </message>
-    <message>
-        <source>Paper</source>
-        <translation>用紙</translation>
-    </message>
-    <message>
-        <source>Orientation</source>
-        <translation>向き</translation>
-    </message>
-    <message>
-        <source>Wide</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Upright</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>&amp;Size:</source>
-        <translation>大きさ(&amp;S):</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>幅</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>高さ</translation>
-    </message>
-    <message>
-        <source>Unit</source>
-        <translation>単位</translation>
-    </message>
-    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -1476,68 +1516,24 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>値なし</translation>
     </message>
     <message>
-        <source>off the earth</source>
-        <translation>地球の範囲外</translation>
+        <source>outside the projection</source>
+        <translation>投影法の範囲外</translation>
     </message>
     <message>
         <source>pixels</source>
         <translation>ピクセル</translation>
     </message>
     <message>
-        <source>&amp;Resolution:</source>
-        <translation>解像度(&amp;R):</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>解像度</translation>
-    </message>
-    <message>
-        <source>All that the &amp;window shows, as large as fits</source>
-        <translation>ウィンドウに見えている範囲をできるだけ大きく(&amp;W)</translation>
-    </message>
-    <message>
-        <source>At the scale &amp;1:</source>
-        <translation>縮尺(&amp;1) 1:</translation>
-    </message>
-    <message>
-        <source>Scale 1:</source>
-        <translation>縮尺 1:</translation>
-    </message>
-    <message>
-        <source>Beside the map</source>
-        <translation>地図のほかに</translation>
-    </message>
-    <message>
-        <source>&amp;Title:</source>
-        <translation>表題(&amp;T):</translation>
-    </message>
-    <message>
-        <source>Title of the map</source>
-        <translation>地図の表題</translation>
-    </message>
-    <message>
-        <source>&amp;Legend of what is shown</source>
-        <translation>見えているものの凡例(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Scale &amp;bar</source>
-        <translation>縮尺バー(&amp;B)</translation>
-    </message>
-    <message>
         <source>the feature is no longer there</source>
         <translation>地物がもうありません</translation>
-    </message>
-    <message>
-        <source>the feature would leave the earth</source>
-        <translation>地物が地球の範囲外に出てしまいます</translation>
     </message>
     <message>
         <source>the file is read only</source>
         <translation>ファイルは読み取り専用です</translation>
     </message>
     <message>
-        <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
-        <translation>この地図は空です。［ファイル］&gt;［データを開く...］を選ぶか、データファイルをここにドロップしてください。</translation>
+        <source>the new position is outside the coordinate system</source>
+        <translation>新しい位置は座標系の範囲外です</translation>
     </message>
 </context>
 </TS>

@@ -42,7 +42,7 @@ QJsonValue ToJsonValue(const Value& value, const QString& layer, const LayerColu
         return ToDouble(value);
     RaiseDamage(
         HostError::SchemeValueUnknown,
-        SchemeDocument::tr("The layer \"%1\" holds no number as \"%2\".")
+        SchemeDocument::tr("The value \"%2\" of the layer \"%1\" is not a number.")
             .arg(layer, QLatin1String(column.name)));
 }
 
@@ -113,9 +113,11 @@ void CheckVersion(const QJsonObject& scheme)
         RaiseDamaged(SchemeDocument::tr("It is not a layer scheme."));
     const double version = scheme.value(QLatin1String("version")).toDouble();
     if (version > SchemeDocument::Version)
-        RaiseDamage(HostError::SchemeTextTooNew, SchemeDocument::tr("A newer program has written it."));
+        RaiseDamage(
+            HostError::SchemeTextTooNew,
+            SchemeDocument::tr("It was written by a newer version of this program."));
     if (version != SchemeDocument::Version)
-        RaiseDamaged(SchemeDocument::tr("It names no version."));
+        RaiseDamaged(SchemeDocument::tr("It does not contain a valid version number."));
 }
 
 } // namespace
@@ -138,12 +140,12 @@ SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
     QJsonParseError error;
     const QJsonObject scheme = QJsonDocument::fromJson(text, &error).object();
     if (error.error != QJsonParseError::NoError)
-        RaiseDamaged(tr("It is no JSON text at byte %1.").arg(error.offset));
+        RaiseDamaged(tr("It is not valid JSON (error at byte %1).").arg(error.offset));
     CheckVersion(scheme);
     SchemeDocument document;
     document.name = scheme.value(QLatin1String("name")).toString().trimmed();
     if (document.name.isEmpty())
-        RaiseDamaged(tr("It names no scheme."));
+        RaiseDamaged(tr("It does not contain a scheme name."));
     if (!scheme.value(QLatin1String("layers")).isArray())
         RaiseDamaged(tr("It holds no layers."));
     for (const QJsonValue layer : scheme.value(QLatin1String("layers")).toArray())

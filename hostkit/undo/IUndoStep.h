@@ -17,7 +17,7 @@ public:
     IUndoStep(const IUndoStep&) = delete;
     IUndoStep& operator=(const IUndoStep&) = delete;
 
-    /// A translated description of the operation, worded to follow "Undo" in a menu, for example "Change of
+    /// A translated description of the operation, worded to follow "Undo" in a menu, for example "Change
     /// Roads".
     virtual QString Text() const = 0;
 

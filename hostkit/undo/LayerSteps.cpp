@@ -101,9 +101,9 @@ QString LayerSteps::EditText(const Changeset& changes)
 {
     const LayerChanges edited = LayerChanges::Of(changes);
     if (edited.changed.size() != 1)
-        return tr("Change of %1 Layers").arg(edited.changed.size());
+        return tr("Change %1 Layers").arg(edited.changed.size());
     const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
-    return edited.onlyCodes ? tr("New Code of \"%1\"").arg(name) : tr("Change of \"%1\"").arg(name);
+    return edited.onlyCodes ? tr("Change Code of \"%1\"").arg(name) : tr("Change \"%1\"").arg(name);
 }
 
 void LayerSteps::RequireNoPendingEdits() const

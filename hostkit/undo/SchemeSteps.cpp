@@ -37,7 +37,7 @@ void SchemeSteps::Load(const QString& name)
     QSet<qint32> changed;
     m_steps.Record([&] {
         changed = m_schemes.Load(name);
-        return tr("Loading of the Scheme \"%1\"").arg(NameInStep(name));
+        return tr("Load Scheme \"%1\"").arg(NameInStep(name));
     });
     if (left != name)
         Leave(left);
@@ -52,7 +52,7 @@ void SchemeSteps::Create(const QString& name)
     m_schemes.Current(); // creates the first scheme, which is not a step
     m_steps.Record([&] {
         m_schemes.Create(name);
-        return tr("Creation of the Scheme \"%1\"").arg(NameInStep(name));
+        return tr("Create Scheme \"%1\"").arg(NameInStep(name));
     });
     Tell();
 }
@@ -62,7 +62,7 @@ void SchemeSteps::Save(const QString& name)
     m_schemes.Current();
     m_steps.Record([&] {
         m_schemes.Save(name);
-        return tr("Saving of the Scheme \"%1\"").arg(NameInStep(name));
+        return tr("Save Scheme \"%1\"").arg(NameInStep(name));
     });
     Tell();
 }
@@ -72,7 +72,7 @@ void SchemeSteps::Delete(const QString& name)
     m_schemes.Current();
     const auto remove = [&] {
         m_schemes.Delete(name);
-        return tr("Deletion of the Scheme \"%1\"").arg(NameInStep(name));
+        return tr("Delete Scheme \"%1\"").arg(NameInStep(name));
     };
     const QString left = std::exchange(m_justLeft, {});
     const bool isOneDeed = !left.isEmpty() && left == name; // the user pressed one button
@@ -86,7 +86,7 @@ SchemeImport SchemeSteps::Import(const SchemeDocument& scheme)
     SchemeImport report;
     m_steps.Record([&] {
         report = SchemeExchange::Import(m_database, scheme);
-        return tr("Import of the Scheme \"%1\"").arg(NameInStep(scheme.name));
+        return tr("Import Scheme \"%1\"").arg(NameInStep(scheme.name));
     });
     Tell();
     return report;
@@ -97,7 +97,7 @@ void SchemeSteps::LoadFromStartup(const QString& startupFile)
     m_schemes.Current();
     m_steps.Record([&] {
         StartupSchemes::Load(m_database, startupFile);
-        return tr("Loading of the Startup Schemes");
+        return tr("Load Startup Schemes");
     });
     Tell();
 }

@@ -31,7 +31,7 @@ public:
 
     bool CanUndo() const { return m_done > 0; }
     bool CanRedo() const { return m_done < m_steps.size(); }
-    /// The text for a menu: "Undo Change of Roads", or just "Undo" if there is nothing to undo.
+    /// The text for a menu: "Undo Change Roads", or just "Undo" if there is nothing to undo.
     QString UndoText() const;
     /// As UndoText, for Redo.
     QString RedoText() const;

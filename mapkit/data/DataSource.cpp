@@ -224,8 +224,7 @@ void DataSource::Fail(const QString& reason) const
 {
     const QString name = QFileInfo(m_path).fileName();
     const QString known = QCoreApplication::translate("DataSource", "\"%1\" cannot be read: %2.");
-    const QString unknown
-        = QCoreApplication::translate("DataSource", "\"%1\" holds no data that can be read.");
+    const QString unknown = QCoreApplication::translate("DataSource", "\"%1\" contains no readable data.");
     throw RunTimeError(SourceUnreadable, reason.isEmpty() ? unknown.arg(name) : known.arg(name, reason));
 }
 

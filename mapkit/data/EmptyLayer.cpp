@@ -91,7 +91,7 @@ QString CreateEmptyLayer(const QString& path, const QString& name, FeatureKind k
         QFile::remove(path);
     throw RunTimeError(
         LayerUncreatable,
-        QCoreApplication::translate("EmptyLayer", "No layer can be made in the file \"%1\".")
+        QCoreApplication::translate("EmptyLayer", "A layer cannot be created in the file \"%1\".")
             .arg(QFileInfo(path).fileName()));
 }
 

@@ -101,7 +101,7 @@ QString WhyNotOpened(const QString& path)
             .arg(file.fileName(), QDir::toNativeSeparators(file.path()));
     }
     if (!file.isFile() && !file.isDir()) {
-        return QCoreApplication::translate("DataSource", "\"%1\" holds no data that can be read.")
+        return QCoreApplication::translate("DataSource", "\"%1\" contains no readable data.")
             .arg(file.fileName());
     }
     return {};

@@ -40,7 +40,7 @@ std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
     std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(path.toUtf8().constData(), flags));
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
-    const QString nothing = QCoreApplication::translate("RasterSource", "\"%1\" holds no picture.");
+    const QString nothing = QCoreApplication::translate("RasterSource", "\"%1\" contains no picture.");
     if (errors.First().isEmpty())
         throw RunTimeError(SourceUnreadable, nothing.arg(QFileInfo(path).fileName()));
     Fail(path, errors.First());
@@ -81,7 +81,7 @@ RasterSource::RasterSource(const QString& path) : m_path(path)
     m_dataset = OpenRaster(path);
     const GdalErrors quiet;
     if (!IsPlaced(*m_dataset))
-        Fail(path, QCoreApplication::translate("RasterSource", "it does not say where its pixels lie"));
+        Fail(path, QCoreApplication::translate("RasterSource", "it is not georeferenced"));
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
 }
 

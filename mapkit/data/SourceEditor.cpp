@@ -140,7 +140,7 @@ QByteArray SourceEditor::Moved(const QByteArray& binary, QPointF offset, const Q
         moved = Transform(*geometry, back.get()) && LeadsBack(*geometry, toMap.get(), there);
     }
     if (!moved || !IsOnEarth(*geometry, m_layer->GetSpatialRef()))
-        Fail(tr("the feature would leave the earth"));
+        Fail(tr("the new position is outside the coordinate system"));
     return ToBinary(*geometry);
 }
 

@@ -22,10 +22,10 @@ DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : 
     QAction* before = commands.value(commands.indexOf(behind) + 1);
     m_find = Add(
         menu, before, "actFindData", tr("&Find Missing Data..."),
-        tr("Look in a folder for the data files that the map misses"));
+        tr("Search a folder for the missing data files of the map"));
     m_backdrop = Add(
         menu, before, "actBackdrop", tr("Raster &Backdrop..."),
-        tr("Lay a picture under all layers of the map"));
+        tr("Show a picture below all layers of the map"));
     m_noBackdrop = Add(
         menu, before, "actNoBackdrop", tr("R&emove Raster Backdrop"), tr("Show the map without the picture"));
     const auto run = [this](QAction* action, void (DataActions::*command)()) {
@@ -43,7 +43,7 @@ void DataActions::ShowProblems(const QString& problems)
 {
     if (problems.isEmpty())
         return;
-    QMessageBox box(QMessageBox::Warning, tr("Map data"), problems, QMessageBox::Ok, &m_window);
+    QMessageBox box(QMessageBox::Warning, tr("Map Data"), problems, QMessageBox::Ok, &m_window);
     box.setObjectName(QStringLiteral("dlgProblems"));
     box.setTextFormat(Qt::PlainText);
     QPushButton* find = nullptr;
@@ -73,7 +73,7 @@ void DataActions::TellMapIsGone()
 {
     const QString name = QFileInfo(m_session->Document().Path()).fileName();
     QMessageBox box(
-        QMessageBox::Warning, tr("Map file"),
+        QMessageBox::Warning, tr("Map File"),
         tr("The map file \"%1\" was moved or deleted. What you change is kept only when you save the map "
            "under "
            "another name.")

@@ -143,7 +143,8 @@ bool SchemeActions::MayLeaveCurrent(const QString& next)
 void SchemeActions::Save()
 {
     const QString name = Current();
-    const QString question = tr("Save the layers as they are to the scheme \"%1\"?").arg(NameInText(name));
+    const QString question
+        = tr("Save the current layer settings to the scheme \"%1\"?").arg(NameInText(name));
     if (Confirm(m_window, tr("Save Scheme"), question))
         m_session->Client().SaveScheme(name);
 }
@@ -152,7 +153,7 @@ void SchemeActions::Revert()
 {
     const QString name = Current();
     const QString question
-        = tr("Give the layers the values that were saved in the scheme \"%1\"?").arg(NameInText(name));
+        = tr("Revert the layers to the values saved in the scheme \"%1\"?").arg(NameInText(name));
     if (Confirm(m_window, tr("Revert Scheme"), question))
         ChangeLayers([&] { Load(name); });
 }
@@ -195,7 +196,8 @@ bool SchemeActions::MayReplace(const QString& name)
     return !m_session->Client().GetSchemeNames().contains(name)
         || Confirm(
             m_window, tr("Import Scheme"),
-            tr("There is a scheme \"%1\" already. Replace it by the one of the file?").arg(NameInText(name)));
+            tr("The scheme \"%1\" already exists. Replace it with the one in the file?")
+                .arg(NameInText(name)));
 }
 
 void SchemeActions::Report(const SchemeImport& import)
@@ -215,7 +217,7 @@ void SchemeActions::TellLayersLeftAlone(const QString& scheme)
     const qsizetype count = m_session->Shell().UnsavedSchemeChanges();
     if (count > 0) {
         m_statusBar.showMessage(
-            tr("Layers that the scheme \"%1\" does not know and left as they are: %2")
+            tr("Layers not in the scheme \"%1\", left unchanged: %2")
                 .arg(NameInText(scheme), QLocale().toString(count)),
             MessageTime);
     }

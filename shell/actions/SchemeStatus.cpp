@@ -50,7 +50,7 @@ void SchemeStatus::ShowScheme(const QString& scheme, qsizetype differing)
     const QString whole = NameInText(scheme, 400);
     QString words;
     if (differing == 0)
-        words = tr("The layers are as they were saved in the scheme \"%1\".").arg(whole);
+        words = tr("The layers match the scheme \"%1\".").arg(whole);
     else
         words = tr("Layers that differ from the scheme \"%1\": %2").arg(whole, QLocale().toString(differing));
     setText(differing == 0 ? tr("Scheme: %1").arg(name) : tr("Scheme: %1 *").arg(name));

@@ -116,8 +116,7 @@ std::optional<QString> ThemeActions::AskForName()
             return std::nullopt;
         name = answer.text.trimmed();
         if (name.isEmpty())
-            QMessageBox::information(
-                &m_window, tr("New Theme"), tr("Please supply a non-blank name, or cancel."));
+            QMessageBox::information(&m_window, tr("New Theme"), tr("Enter a name."));
     }
     return name;
 }
@@ -127,7 +126,7 @@ bool ThemeActions::MayReplace(const QString& name)
     return !MapThemes(m_session->Document().Database()).Find(name)
         || Confirm(
             m_window, tr("New Theme"),
-            tr("There is a theme \"%1\" already. Give it the layers that are visible now?")
+            tr("The theme \"%1\" already exists. Replace its layers with the visible layers?")
                 .arg(NameInText(name)));
 }
 

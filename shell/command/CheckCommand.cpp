@@ -27,11 +27,12 @@ void Tell(const std::vector<MapProblem>& problems, const Terminal& terminal)
 int CheckCommand(const QStringList& arguments, const Terminal& terminal)
 {
     const QCommandLineOption repair(
-        QStringLiteral("repair"), CheckText(QT_TRANSLATE_NOOP("CheckCommand", "Mend what can be mended.")));
+        QStringLiteral("repair"),
+        CheckText(QT_TRANSLATE_NOOP("CheckCommand", "Repair what can be repaired.")));
     CommandReader reader(CheckText(QT_TRANSLATE_NOOP(
         "CheckCommand",
-        "Look for what is wrong with a map file: damage, rows that lead nowhere, data that are not there.\n"
-        "Exit code: 0 nothing is wrong, 1 something is, 2 the command was not understood.")));
+        "Check a map file for damage, broken references and missing data.\nExit code: 0 no problems, 1 "
+        "problems found, 2 the command was not understood.")));
     reader.AddCommand(QStringLiteral("check"));
     reader.RequireWords(1, 1);
     reader.Options().addOption(repair);
@@ -43,9 +44,9 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
     const auto problems = reader.IsSet(repair) ? RepairMap(map) : CheckMap(map);
     Tell(problems, terminal);
     if (problems.empty()) {
-        terminal.out
-            << CheckText(QT_TRANSLATE_NOOP("CheckCommand", "\"%1\" is sound.")).arg(QFileInfo(map).fileName())
-            << '\n';
+        terminal.out << CheckText(QT_TRANSLATE_NOOP("CheckCommand", "No problems were found in \"%1\"."))
+                            .arg(QFileInfo(map).fileName())
+                     << '\n';
     }
     terminal.out.flush();
     return problems.empty() ? ExitCode::Done : ExitCode::Problems;

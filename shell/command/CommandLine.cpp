@@ -34,11 +34,9 @@ QString HelpText()
 {
     return CommandText(QT_TRANSLATE_NOOP(
         "CommandLine",
-        "Orvane, a small desktop map program.\n\n"
-        "Without a window it does these, each with a --help of its own:\n"
-        "  orvane MAP --export FILE     draw a map as PDF, SVG or PNG\n"
-        "  orvane import DATA --to MAP  add data to a map file\n"
-        "  orvane check MAP             look for what is wrong with a map file"));
+        "Orvane, a small desktop map program.\n\nThese commands run without a window; each has its own "
+        "--help:\n  orvane MAP --export FILE     draw a map as PDF, SVG or PNG\n  orvane import DATA --to "
+        "MAP  add data to a map file\n  orvane check MAP             check a map file for problems"));
 }
 
 bool IsExport(const QStringList& arguments)
@@ -52,7 +50,7 @@ bool IsExport(const QStringList& arguments)
 struct WindowOptions {
     QCommandLineOption version{
         {QStringLiteral("v"), QStringLiteral("version")},
-        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Tell the version."))};
+        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Show the version."))};
     QCommandLineOption trace{
         QStringLiteral("trace"),
         CommandText(QT_TRANSLATE_NOOP(
@@ -60,7 +58,7 @@ struct WindowOptions {
         QStringLiteral("FILE")};
     QCommandLineOption control{
         QStringLiteral("layer-control"),
-        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at once."))};
+        CommandText(QT_TRANSLATE_NOOP("CommandLine", "Open the layer control at startup."))};
 };
 
 int TellVersion(const Terminal& terminal)

@@ -43,7 +43,7 @@ std::optional<int> CommandReader::Read(const QStringList& arguments, const Termi
     if (count < m_leastWords)
         return Refuse(terminal, QCoreApplication::translate("CommandLine", "An argument is missing."));
     if (count > m_mostWords)
-        return Refuse(terminal, QCoreApplication::translate("CommandLine", "There is an argument too many."));
+        return Refuse(terminal, QCoreApplication::translate("CommandLine", "There are too many arguments."));
     return std::nullopt;
 }
 
@@ -58,8 +58,7 @@ int CommandReader::Refuse(const Terminal& terminal, const QString& mistake) cons
     TellError(terminal, mistake);
     TellError(
         terminal,
-        QCoreApplication::translate("CommandLine", "\"orvane %1--help\" lists what can be asked for.")
-            .arg(command));
+        QCoreApplication::translate("CommandLine", "\"orvane %1--help\" lists the options.").arg(command));
     return ExitCode::Usage;
 }
 

@@ -40,7 +40,8 @@ QCommandLineOption Option(const char* name, const char* help, const char* value 
 struct Options {
     QCommandLineOption file = Option(
         "export",
-        QT_TRANSLATE_NOOP("ExportCommand", "The file to write; its ending .pdf, .svg or .png says what."),
+        QT_TRANSLATE_NOOP(
+            "ExportCommand", "The file to write; its extension .pdf, .svg or .png sets the format."),
         "FILE");
     QCommandLineOption scheme = Option(
         "scheme",
@@ -53,16 +54,18 @@ struct Options {
     QCommandLineOption size = Option(
         "size",
         QT_TRANSLATE_NOOP(
-            "ExportCommand", "A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. A4 unless given."),
+            "ExportCommand", "A5 to A0, Letter, Legal, Tabloid, 200x150mm or 1600x900px. The default is A4."),
         "SIZE");
     QCommandLineOption portrait
-        = Option("portrait", QT_TRANSLATE_NOOP("ExportCommand", "Stand the paper upright."));
+        = Option("portrait", QT_TRANSLATE_NOOP("ExportCommand", "Use portrait orientation."));
     QCommandLineOption resolution = Option(
         "resolution",
-        QT_TRANSLATE_NOOP("ExportCommand", "Dots an inch; 300 unless given, 96 for a size in pixels."),
+        QT_TRANSLATE_NOOP("ExportCommand", "Dots per inch. The default is 300, or 96 for a size in pixels."),
         "DPI");
     QCommandLineOption title = Option(
-        "title", QT_TRANSLATE_NOOP("ExportCommand", "The title; the map's name unless given, none for \"\"."),
+        "title",
+        QT_TRANSLATE_NOOP(
+            "ExportCommand", "The title. The default is the name of the map; \"\" for no title."),
         "TEXT");
     QCommandLineOption noLegend
         = Option("no-legend", QT_TRANSLATE_NOOP("ExportCommand", "Leave the legend out."));
@@ -92,7 +95,7 @@ PaperSize SizeOf(const CommandReader& reader, const Options& options)
     const auto size = ReadPaperSize(text, reader.IsSet(options.portrait));
     if (!size)
         throw Mistake(
-            ExportText(QT_TRANSLATE_NOOP("ExportCommand", "\"%1\" is no size of a page.")).arg(text));
+            ExportText(QT_TRANSLATE_NOOP("ExportCommand", "\"%1\" is not a valid page size.")).arg(text));
     return *size;
 }
 

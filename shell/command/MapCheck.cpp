@@ -46,8 +46,8 @@ void AddDamage(Problems& problems, SqliteLayerDatabase& database)
 void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
 {
     for (const DanglingRows& rows : FindDanglingRows(database, Undeclared)) {
-        const QString text = Translate(QT_TRANSLATE_NOOP(
-            "MapCheck", "Rows of \"%1\" that belong to something missing from \"%2\": %3."));
+        const QString text = Translate(
+            QT_TRANSLATE_NOOP("MapCheck", "Rows of \"%1\" that refer to missing rows of \"%2\": %3."));
         problems.push_back({Kind::DanglingRows, text.arg(rows.table, rows.parent).arg(rows.count), true});
     }
 }

@@ -115,7 +115,7 @@ QString NewLayerDialog::ReadSource()
     } catch (const RunTimeError& error) {
         return error.Description();
     }
-    return m_layers.empty() ? tr("\"%1\" holds nothing to draw.").arg(QFileInfo(File()).fileName())
+    return m_layers.empty() ? tr("\"%1\" contains nothing to draw.").arg(QFileInfo(File()).fileName())
                             : QString();
 }
 

@@ -45,7 +45,7 @@ QString ReportText(const SchemeImport& import)
 {
     QStringList lines{
         Texts::tr("The scheme \"%1\" was imported.").arg(NameInText(import.name)), QString(),
-        Texts::tr("Layers with values: %1").arg(Number(import.matched))};
+        Texts::tr("Layers in both the file and this map: %1").arg(Number(import.matched))};
     if (!import.onlyInFile.isEmpty())
         lines << Texts::tr("Layers of the file that this map does not have: %1")
                      .arg(Number(import.onlyInFile.size()));

@@ -79,7 +79,7 @@ private:
     static QString Outdated()
     {
         return QCoreApplication::translate(
-            "FeatureMover", "The feature was changed by somebody else and stays where it is.");
+            "FeatureMover", "The feature was changed by another user or program and was not moved.");
     }
 
     MapSession& m_session;
@@ -122,7 +122,7 @@ void FeatureMover::Move(const FeatureKey& key, QPointF offset)
     });
     ShowGeometry(m_session, change, shown);
     const MapLayer* layer = LayerOf(m_session, key.layerID);
-    const QString text = tr("Move in %1").arg(layer ? layer->name : QString());
+    const QString text = tr("Move Feature in %1").arg(layer ? layer->name : QString());
     m_session.Shell().History().Add(std::make_unique<MoveStep>(m_session, m_window, std::move(change), text));
 }
 

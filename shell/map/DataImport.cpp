@@ -75,7 +75,7 @@ FoundData LookInto(const QStringList& paths, Progress& progress)
         try {
             std::vector<SourceLayer> layers = DataSource(path).Layers();
             if (layers.empty())
-                data.problems << QCoreApplication::translate("DataImport", "\"%1\" holds nothing to draw.")
+                data.problems << QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.")
                                      .arg(QFileInfo(path).fileName());
             else
                 data.sources.push_back({QFileInfo(path).absoluteFilePath(), std::move(layers)});

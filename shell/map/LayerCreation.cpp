@@ -53,7 +53,7 @@ qint32 LayerCreation::Make(const NewLayerDialog& wishes)
         Transaction transaction(m_document.Database());
         layerID = wishes.IsEmptyLayer() ? MakeEmpty(wishes) : MakeFromSource(wishes);
         transaction.Commit();
-        return tr("Creation of \"%1\"").arg(NameInStep(wishes.Name()));
+        return tr("Create \"%1\"").arg(NameInStep(wishes.Name()));
     });
     return layerID;
 }

@@ -44,8 +44,8 @@ bool MapSharing::MayOpen(const QString& path)
         QMessageBox::Open | QMessageBox::Cancel, &m_window);
     box.setObjectName(QStringLiteral("dlgMapShared"));
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        tr("What is changed in one window is stored at once, and shown in the other when you go to it."));
+    box.setInformativeText(tr(
+        "Changes made in one window are saved immediately and appear in the other when you switch to it."));
     box.setDefaultButton(QMessageBox::Open);
     return box.exec() == QMessageBox::Open;
 }

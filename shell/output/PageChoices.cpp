@@ -41,7 +41,7 @@ PageChoices PageChoices::Stored()
     choices.paper = settings.value(QStringLiteral("Paper"), usual.paper).toString();
     if (!choices.paper.isEmpty() && !PaperNamed(choices.paper))
         choices.paper = usual.paper;
-    choices.upright = flag("Upright", usual.upright);
+    choices.upright = flag("Portrait", usual.upright);
     const QSizeF own = settings.value(QStringLiteral("OwnSize"), usual.ownSize).toSizeF();
     choices.ownSize = IsSide(own.width()) && IsSide(own.height()) ? own : usual.ownSize;
     choices.ownInPixels = flag("OwnInPixels", usual.ownInPixels);
@@ -60,7 +60,7 @@ void PageChoices::Store() const
     QSettings settings;
     settings.beginGroup(QLatin1String(Group));
     settings.setValue(QStringLiteral("Paper"), paper);
-    settings.setValue(QStringLiteral("Upright"), upright);
+    settings.setValue(QStringLiteral("Portrait"), upright);
     settings.setValue(QStringLiteral("OwnSize"), ownSize);
     settings.setValue(QStringLiteral("OwnInPixels"), ownInPixels);
     settings.setValue(QStringLiteral("Resolution"), resolution);

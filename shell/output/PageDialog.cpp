@@ -95,7 +95,7 @@ void PageDialog::FillPapers()
 {
     for (const Paper& paper : Papers::All())
         m_ui->cmbPaper->addItem(paper.name, paper.name);
-    m_ui->cmbPaper->addItem(tr("Own size"), QString());
+    m_ui->cmbPaper->addItem(tr("Custom size"), QString());
 }
 
 void PageDialog::Connect()

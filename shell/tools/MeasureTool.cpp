@@ -147,7 +147,7 @@ std::vector<QPointF> MeasureTool::Shape() const
 QString MeasureTool::LengthOf(std::span<const QPointF> line) const
 {
     const auto length = m_measure.Length(line);
-    return length ? LengthText(*length, m_measure.KnowsEarth()) : tr("off the earth");
+    return length ? LengthText(*length, m_measure.KnowsEarth()) : tr("outside the projection");
 }
 
 QString MeasureTool::Result(const std::vector<QPointF>& shape) const
@@ -155,7 +155,7 @@ QString MeasureTool::Result(const std::vector<QPointF>& shape) const
     if (m_kind == Kind::Line)
         return LengthOf(shape);
     const auto area = m_measure.Area(shape);
-    return area ? AreaText(*area, m_measure.KnowsEarth()) : tr("off the earth");
+    return area ? AreaText(*area, m_measure.KnowsEarth()) : tr("outside the projection");
 }
 
 QString MeasureTool::Status(const std::vector<QPointF>& shape) const

@@ -64,7 +64,7 @@ bool MoveTool::DragBegin(QPointF from, Qt::KeyboardModifiers)
     grabbed.layer.features = std::make_shared<const FeatureSet>(SubsetOf(*hit.layer->features, {featureID}));
     if (!MayMove(grabbed.key)) // it may take a while, and the map may be read again meanwhile
         return true;
-    emit StatusChanged(tr("Moving a feature of %1. Esc lets go.").arg(grabbed.layer.name));
+    emit StatusChanged(tr("Moving a feature of %1. Press Esc to cancel.").arg(grabbed.layer.name));
     m_grabbed = std::move(grabbed);
     return true;
 }

@@ -103,15 +103,15 @@ void ToolActions::AddTools()
         &m_select);
     AddTool(
         {"actMeasureLine", IconName::MeasureLine, QT_TR_NOOP("Measure &Length"),
-         QT_TR_NOOP("Measure a line; its vertices snap to layers that ask for it"), Qt::Key_4},
+         QT_TR_NOOP("Measure a line; its vertices snap to layers with snapping turned on"), Qt::Key_4},
         &m_measureLine);
     AddTool(
         {"actMeasureArea", IconName::MeasureArea, QT_TR_NOOP("Measure &Area"),
-         QT_TR_NOOP("Measure an area; its vertices snap to layers that ask for it"), Qt::Key_5},
+         QT_TR_NOOP("Measure an area; its vertices snap to layers with snapping turned on"), Qt::Key_5},
         &m_measureArea);
     AddTool(
         {"actMoveFeature", IconName::MoveFeature, QT_TR_NOOP("&Move Feature"),
-         QT_TR_NOOP("Drag a feature of a layer that is not locked to another place"), Qt::Key_6},
+         QT_TR_NOOP("Move a feature of an unlocked layer by dragging it"), Qt::Key_6},
         &m_move);
     m_group->actions().first()->setChecked(true);
 }
@@ -151,7 +151,7 @@ void ToolActions::AddToggles()
     m_toolBar.addSeparator();
     QAction* hover = AddCommand(
         {"actPointOut", IconName::PointOut, QT_TR_NOOP("&Highlight Under Pointer"),
-         QT_TR_NOOP("Mark the feature under the pointer, of hitable layers, with any tool"), Qt::Key_7});
+         QT_TR_NOOP("Highlight features of hitable layers under the pointer with any tool"), Qt::Key_7});
     connect(hover, &QAction::toggled, this, [this](bool on) { m_hover.SetOn(on); });
     m_menu.addSeparator();
     QAction* panel = m_panel->toggleViewAction();

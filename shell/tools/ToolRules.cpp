@@ -39,7 +39,7 @@ const char* SentenceFor(Refusal refusal)
     case Refusal::Locked:
         return QT_TRANSLATE_NOOP("ToolRules", "%1 is here but locked.");
     case Refusal::NoSnap:
-        return QT_TRANSLATE_NOOP("ToolRules", "%1 is here but asks for no snap.");
+        return QT_TRANSLATE_NOOP("ToolRules", "%1 is here but snapping to it is off.");
     case Refusal::None:
         break;
     }

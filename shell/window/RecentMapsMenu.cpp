@@ -36,7 +36,7 @@ void RecentMapsMenu::Choose(const QString& path)
     RecentMaps::Remove(path);
     QMessageBox::information(
         &m_window, tr("Open Recent"),
-        tr("The map \"%1\" is no longer there. It was taken off the list.").arg(path));
+        tr("The map \"%1\" no longer exists. It was removed from the list.").arg(path));
 }
 
 } // namespace Orvane

@@ -114,7 +114,7 @@ TEST_F(Themes, ABlankNameIsRefusedAndCancellingMakesNone)
     user.BeforeAnswer([](QMessageBox&) { WhenAsked([](QDialog& prompt) { prompt.reject(); }); });
     AnswerPrompt("   ");
     Choose("menuThemes", "New Theme");
-    EXPECT_TRUE(user.Only().text.contains("non-blank"));
+    EXPECT_TRUE(user.Only().text.contains("Enter a name."));
     EXPECT_TRUE(Entries("menuThemes").contains("No themes yet"));
 }
 

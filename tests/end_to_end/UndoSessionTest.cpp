@@ -71,7 +71,7 @@ TEST_F(UndoSession, AnAppliedChangeGoesBackInMapPanelAndFile)
     SwitchVisible(Layer);
     const QImage after = Map();
     EXPECT_NE(after, before);
-    EXPECT_EQ(UndoText(), "Undo Change of \"Fields\"");
+    EXPECT_EQ(UndoText(), "Undo Change \"Fields\"");
     Undo();
     EXPECT_EQ(Map(), before);
     EXPECT_TRUE(IsTicked());
@@ -177,7 +177,7 @@ TEST_F(UndoSession, ADeletedSchemeIsBackAndCurrentAtOnce)
         Press(Form(), "cmdDelete");
     }
     ASSERT_EQ(schemes.count(), 1);
-    EXPECT_EQ(UndoText(), "Undo Deletion of the Scheme \"Night\"");
+    EXPECT_EQ(UndoText(), "Undo Delete Scheme \"Night\"");
     Undo();
     EXPECT_EQ(schemes.count(), 2);
     EXPECT_EQ(schemes.currentText(), "Night");
@@ -196,7 +196,7 @@ TEST_F(UndoSession, OpenedDataGoAndComeBackWithTheirFeatures)
     m_window->AddData({data.WriteSquare("square.geojson")});
     m_window->Canvas().ZoomToAll();
     const QImage after = Map();
-    EXPECT_EQ(UndoText(), "Undo Opening of Map Data");
+    EXPECT_EQ(UndoText(), "Undo Open Map Data");
     Undo();
     EXPECT_EQ(Count("Layers"), layers);
     EXPECT_EQ(Count("LayerGroups"), groups);

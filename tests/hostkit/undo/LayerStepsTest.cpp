@@ -10,12 +10,12 @@ using testing::IsEmpty;
 
 TEST_F(Steps, AnApplyToALayerIsOne)
 {
-    ExpectOneStep(QStringLiteral("Change of \"Roads\""), [this] { ApplyTo(1, "Color", 77); });
+    ExpectOneStep(QStringLiteral("Change \"Roads\""), [this] { ApplyTo(1, "Color", 77); });
 }
 
 TEST_F(Steps, StyleAndCodeAppliedTogetherAreOne)
 {
-    ExpectOneStep(QStringLiteral("Change of \"Roads\""), [this] {
+    ExpectOneStep(QStringLiteral("Change \"Roads\""), [this] {
         Edit(1, "Color", 77);
         Edit(1, "Code", 12.0);
         Host().RedrawMap();
@@ -24,36 +24,36 @@ TEST_F(Steps, StyleAndCodeAppliedTogetherAreOne)
 
 TEST_F(Steps, ANewCodeIsOne)
 {
-    ExpectOneStep(QStringLiteral("New Code of \"Roads\""), [this] { ApplyTo(1, "Code", 12.0); });
+    ExpectOneStep(QStringLiteral("Change Code of \"Roads\""), [this] { ApplyTo(1, "Code", 12.0); });
 }
 
 TEST_F(Steps, AnApplyToAGroupIsOne)
 {
-    ExpectOneStep(QStringLiteral("Change of 2 Layers"), [this] { ApplyToGroup({1, 2}, "Visible", false); });
+    ExpectOneStep(QStringLiteral("Change 2 Layers"), [this] { ApplyToGroup({1, 2}, "Visible", false); });
 }
 
 TEST_F(Steps, RenamingALayerIsOne)
 {
-    ExpectOneStep(QStringLiteral("Renaming of \"Streets\""), [this] {
+    ExpectOneStep(QStringLiteral("Rename \"Streets\""), [this] {
         Host().RenameLayer(1, QStringLiteral("Streets"));
     });
 }
 
 TEST_F(Steps, RenamingAGroupIsOne)
 {
-    ExpectOneStep(QStringLiteral("Renaming of the Group \"Ways\""), [this] {
+    ExpectOneStep(QStringLiteral("Rename Group \"Ways\""), [this] {
         Host().RenameGroup(5, QStringLiteral("Ways"));
     });
 }
 
 TEST_F(Steps, CreatingALayerIsOne)
 {
-    ExpectOneStep(QStringLiteral("Creation of \"New layer\""), [this] { Host().CreateLayer(); });
+    ExpectOneStep(QStringLiteral("Create \"New layer\""), [this] { Host().CreateLayer(); });
 }
 
 TEST_F(Steps, DeletingALayerIsOneThatBringsItsPlacesBack)
 {
-    ExpectOneStep(QStringLiteral("Deletion of \"Roads\""), [this] { Host().DeleteLayer(1); });
+    ExpectOneStep(QStringLiteral("Delete \"Roads\""), [this] { Host().DeleteLayer(1); });
 }
 
 TEST_F(Steps, WhatAHostDoesToItsOwnTablesIsOne)
@@ -93,7 +93,7 @@ TEST_F(Steps, AnApplyThatFailedHalfwayCanBeUndone)
 {
     Edit(1, "Color", 77);
     QCoreApplication::processEvents(); // no redraw came
-    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Change of \"Roads\""));
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Change \"Roads\""));
     History().Undo();
     EXPECT_THAT(Get(1, "Color"), IsNumber(0));
 }
@@ -159,7 +159,7 @@ TEST_F(Steps, OutdatedByAnotherHandChangeNothingAndSayWhich)
     Told();
     const QStringList before = Everything();
     const QString description = DescriptionOf([this] { History().Undo(); });
-    EXPECT_TRUE(description.contains(QStringLiteral("Change of 2 Layers"))) << qPrintable(description);
+    EXPECT_TRUE(description.contains(QStringLiteral("Change 2 Layers"))) << qPrintable(description);
     EXPECT_EQ(Everything(), before);
     EXPECT_THAT(Told(), IsEmpty());
     EXPECT_FALSE(History().CanUndo());

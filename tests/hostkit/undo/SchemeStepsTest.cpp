@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 TEST_F(Steps, CreatingASchemeIsOne)
 {
-    ExpectOneStep(QStringLiteral("Creation of the Scheme \"Night\""), [this] { Host().CreateScheme(Night); });
+    ExpectOneStep(QStringLiteral("Create Scheme \"Night\""), [this] { Host().CreateScheme(Night); });
 }
 
 TEST_F(Steps, SavingASchemeIsOne)
@@ -17,7 +17,7 @@ TEST_F(Steps, SavingASchemeIsOne)
     Host().GetSchemeNames();
     Set(1, "Color", 5);
     ExpectOneStep(
-        QStringLiteral("Saving of the Scheme \"Standard\""), [this] { Host().SaveScheme(Standard); });
+        QStringLiteral("Save Scheme \"Standard\""), [this] { Host().SaveScheme(Standard); });
 }
 
 TEST_F(Steps, LoadingASchemeIsOne)
@@ -26,7 +26,7 @@ TEST_F(Steps, LoadingASchemeIsOne)
     Set(1, "Color", 5);
     History().Clear();
     ExpectOneStep(
-        QStringLiteral("Loading of the Scheme \"Standard\""), [this] { Host().LoadScheme(Standard); });
+        QStringLiteral("Load Scheme \"Standard\""), [this] { Host().LoadScheme(Standard); });
 }
 
 TEST_F(Steps, DeletingASchemeIsOne)
@@ -34,7 +34,7 @@ TEST_F(Steps, DeletingASchemeIsOne)
     Host().CreateScheme(Night);
     History().Clear();
     ExpectOneStep(
-        QStringLiteral("Deletion of the Scheme \"Standard\""), [this] { Host().DeleteScheme(Standard); });
+        QStringLiteral("Delete Scheme \"Standard\""), [this] { Host().DeleteScheme(Standard); });
 }
 
 TEST_F(Steps, LeavingASchemeAndDeletingItAtOnceIsOne)
@@ -42,7 +42,7 @@ TEST_F(Steps, LeavingASchemeAndDeletingItAtOnceIsOne)
     Host().CreateScheme(Night);
     Set(1, "Color", 5);
     History().Clear();
-    ExpectOneStep(QStringLiteral("Deletion of the Scheme \"Night\""), [this] {
+    ExpectOneStep(QStringLiteral("Delete Scheme \"Night\""), [this] {
         Host().LoadScheme(Standard);
         Host().DeleteScheme(Night);
     });
@@ -56,7 +56,7 @@ TEST_F(Steps, LeavingASchemeAndDeletingItLaterAreTwo)
     Host().DeleteScheme(Night);
     History().Undo();
     EXPECT_EQ(Host().GetCurrentScheme(), Standard);
-    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Loading of the Scheme \"Standard\""));
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Load Scheme \"Standard\""));
 }
 
 TEST_F(Steps, TheFirstSchemeThatComesByItselfIsNone)

@@ -83,17 +83,17 @@ TEST_F(History, UndoesFromTheLastStepBackAndRedoesForward)
 
 TEST_F(History, NamesTheStepsThatComeNext)
 {
-    Do(QStringLiteral("Change of Roads"));
-    Do(QStringLiteral("Change of Rivers"));
+    Do(QStringLiteral("Change Roads"));
+    Do(QStringLiteral("Change Rivers"));
     m_history.Undo();
-    EXPECT_EQ(m_history.UndoText(), QStringLiteral("Undo Change of Roads"));
-    EXPECT_EQ(m_history.RedoText(), QStringLiteral("Redo Change of Rivers"));
+    EXPECT_EQ(m_history.UndoText(), QStringLiteral("Undo Change Roads"));
+    EXPECT_EQ(m_history.RedoText(), QStringLiteral("Redo Change Rivers"));
 }
 
 TEST_F(History, APercentSignInAStepsTextStays)
 {
-    Do(QStringLiteral("Change of 50 %1 grey"));
-    EXPECT_EQ(m_history.UndoText(), QStringLiteral("Undo Change of 50 %1 grey"));
+    Do(QStringLiteral("Change 50 %1 grey"));
+    EXPECT_EQ(m_history.UndoText(), QStringLiteral("Undo Change 50 %1 grey"));
 }
 
 TEST_F(History, ANewStepCutsOffWhatWasUndone)

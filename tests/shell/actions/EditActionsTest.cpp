@@ -86,15 +86,15 @@ TEST_F(EditActionsTest, AreOffWithNothingToDo)
 
 TEST_F(EditActionsTest, NameWhatTheyWouldDo)
 {
-    Do("Change of A & B");
+    Do("Change A & B");
     EXPECT_TRUE(m_undo->isEnabled());
-    EXPECT_EQ(m_undo->text(), "&Undo Change of A && B");
-    EXPECT_EQ(m_undo->toolTip(), "Undo Change of A & B");
+    EXPECT_EQ(m_undo->text(), "&Undo Change A && B");
+    EXPECT_EQ(m_undo->toolTip(), "Undo Change A & B");
     m_undo->trigger();
     EXPECT_FALSE(m_undo->isEnabled());
     EXPECT_TRUE(m_redo->isEnabled());
-    EXPECT_EQ(m_redo->text(), "&Redo Change of A && B");
-    EXPECT_THAT(m_diary, ElementsAre("undo Change of A & B"));
+    EXPECT_EQ(m_redo->text(), "&Redo Change A && B");
+    EXPECT_THAT(m_diary, ElementsAre("undo Change A & B"));
 }
 
 TEST_F(EditActionsTest, AnswerToTheirKeys)

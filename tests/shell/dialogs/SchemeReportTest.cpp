@@ -32,7 +32,7 @@ TEST(SchemeReport, CountsWhatMatchedAndWhatDidNot)
 {
     const QString text = ReportText(SomeImport());
     EXPECT_TRUE(text.contains("\"Night\""));
-    EXPECT_TRUE(text.contains("values: 12"));
+    EXPECT_TRUE(text.contains("this map: 12"));
     EXPECT_TRUE(text.contains("does not have: 2"));
     EXPECT_TRUE(text.contains("keep their values: 1"));
 }

@@ -95,7 +95,7 @@ TEST_F(FeatureMoverTest, CheckingAFeatureThatCanBeMovedChangesNothing)
 TEST_F(FeatureMoverTest, AMoveIsOneStepThatCanBeUndoneAndRedone)
 {
     Move(2, {30, 0});
-    EXPECT_TRUE(History().UndoText().contains("Move in Trees")) << qPrintable(History().UndoText());
+    EXPECT_TRUE(History().UndoText().contains("Move Feature in Trees")) << qPrintable(History().UndoText());
     History().Undo();
     EXPECT_THAT(StoredWests(), ElementsAre(0, 100));
     EXPECT_THAT(Wests(0), ElementsAre(0, 100));

@@ -80,7 +80,7 @@ TEST_F(PageDialogTest, AMapBeginsOnAWidePageWithEverything)
 TEST_F(PageDialogTest, PaperAndOrientationGiveTheSize)
 {
     Choose("cmbPaper", "A3");
-    Choose("cmbOrientation", "Upright");
+    Choose("cmbOrientation", "Portrait");
     EXPECT_EQ(m_dialog->Settings().size, QSizeF(297, 420));
     EXPECT_EQ(Of<QDoubleSpinBox>("spnHeight").value(), 420);
     EXPECT_FALSE(Of<QDoubleSpinBox>("spnHeight").isEnabled());
@@ -88,7 +88,7 @@ TEST_F(PageDialogTest, PaperAndOrientationGiveTheSize)
 
 TEST_F(PageDialogTest, AnOwnSizeIsTypedInPixels)
 {
-    Choose("cmbPaper", "Own size");
+    Choose("cmbPaper", "Custom size");
     TypeInto("spnWidth", "600");
     TypeInto("spnHeight", "300");
     EXPECT_NEAR(m_dialog->Settings().size.width(), 600 / 300.0 * 25.4, 1e-9);
@@ -98,7 +98,7 @@ TEST_F(PageDialogTest, AnOwnSizeIsTypedInPixels)
 
 TEST_F(PageDialogTest, AnotherUnitKeepsTheSize)
 {
-    Choose("cmbPaper", "Own size");
+    Choose("cmbPaper", "Custom size");
     TypeInto("spnWidth", "600");
     TypeInto("spnHeight", "300");
     Choose("cmbUnit", "mm");
@@ -108,10 +108,10 @@ TEST_F(PageDialogTest, AnotherUnitKeepsTheSize)
 
 TEST_F(PageDialogTest, AnOwnSizeOutlivesALookAtThePapers)
 {
-    Choose("cmbPaper", "Own size");
+    Choose("cmbPaper", "Custom size");
     TypeInto("spnWidth", "777");
     Choose("cmbPaper", "A4");
-    Choose("cmbPaper", "Own size");
+    Choose("cmbPaper", "Custom size");
     EXPECT_EQ(Of<QDoubleSpinBox>("spnWidth").value(), 777);
     EXPECT_EQ(Of<QComboBox>("cmbUnit").currentText(), "pixels");
 }

@@ -189,7 +189,7 @@ TEST_F(MeasureToolTest, OffTheEarthThereIsNothingToMeasure)
     m_line.SetSystem("EPSG:4326");
     Click(50, 80);
     Click(50, 99);
-    EXPECT_EQ(m_status, "Length: off the earth");
+    EXPECT_EQ(m_status, "Length: outside the projection");
 }
 
 } // namespace Orvane

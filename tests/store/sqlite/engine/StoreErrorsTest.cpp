@@ -50,7 +50,7 @@ TEST(StoreErrors, ADatabaseInMemoryHasANameToo)
 {
     EXPECT_EQ(
         StoreErrors(QString()).Failure(StoreTexts::NotALayerDatabase).Description(),
-        QStringLiteral("\":memory:\" is not a layer database."));
+        QStringLiteral("\":memory:\" is not a map file."));
 }
 
 } // namespace Orvane::Testing
