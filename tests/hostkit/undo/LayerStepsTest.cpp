@@ -34,16 +34,14 @@ TEST_F(Steps, AnApplyToAGroupIsOne)
 
 TEST_F(Steps, RenamingALayerIsOne)
 {
-    ExpectOneStep(QStringLiteral("Rename \"Streets\""), [this] {
-        Host().RenameLayer(1, QStringLiteral("Streets"));
-    });
+    ExpectOneStep(
+        QStringLiteral("Rename \"Streets\""), [this] { Host().RenameLayer(1, QStringLiteral("Streets")); });
 }
 
 TEST_F(Steps, RenamingAGroupIsOne)
 {
-    ExpectOneStep(QStringLiteral("Rename Group \"Ways\""), [this] {
-        Host().RenameGroup(5, QStringLiteral("Ways"));
-    });
+    ExpectOneStep(
+        QStringLiteral("Rename Group \"Ways\""), [this] { Host().RenameGroup(5, QStringLiteral("Ways")); });
 }
 
 TEST_F(Steps, CreatingALayerIsOne)

@@ -16,8 +16,7 @@ TEST_F(Steps, SavingASchemeIsOne)
 {
     Host().GetSchemeNames();
     Set(1, "Color", 5);
-    ExpectOneStep(
-        QStringLiteral("Save Scheme \"Standard\""), [this] { Host().SaveScheme(Standard); });
+    ExpectOneStep(QStringLiteral("Save Scheme \"Standard\""), [this] { Host().SaveScheme(Standard); });
 }
 
 TEST_F(Steps, LoadingASchemeIsOne)
@@ -25,16 +24,14 @@ TEST_F(Steps, LoadingASchemeIsOne)
     Host().CreateScheme(Night);
     Set(1, "Color", 5);
     History().Clear();
-    ExpectOneStep(
-        QStringLiteral("Load Scheme \"Standard\""), [this] { Host().LoadScheme(Standard); });
+    ExpectOneStep(QStringLiteral("Load Scheme \"Standard\""), [this] { Host().LoadScheme(Standard); });
 }
 
 TEST_F(Steps, DeletingASchemeIsOne)
 {
     Host().CreateScheme(Night);
     History().Clear();
-    ExpectOneStep(
-        QStringLiteral("Delete Scheme \"Standard\""), [this] { Host().DeleteScheme(Standard); });
+    ExpectOneStep(QStringLiteral("Delete Scheme \"Standard\""), [this] { Host().DeleteScheme(Standard); });
 }
 
 TEST_F(Steps, LeavingASchemeAndDeletingItAtOnceIsOne)

@@ -143,7 +143,9 @@ TEST_F(SourceEditorTest, AFeatureCannotLeaveTheEarth)
     const LayerSource source = GeoPackage();
     const SourceEditor editor(source);
     const QByteArray before = editor.Geometry(1);
-    EXPECT_TRUE(ErrorOf([&] { (void)editor.Moved(before, {1e12, 1e12}, "EPSG:8857"); }).contains("outside the coordinate system"));
+    EXPECT_TRUE(ErrorOf([&] {
+                    (void)editor.Moved(before, {1e12, 1e12}, "EPSG:8857");
+                }).contains("outside the coordinate system"));
 }
 
 } // namespace Orvane
