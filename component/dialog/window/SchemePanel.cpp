@@ -45,7 +45,7 @@ void SchemePanel::Fill()
 
 void SchemePanel::SwitchTo(const QString& name)
 {
-    if (Client().GetCurrentScheme() == name) {
+    if (CurrentScheme() == name) {
         EnableButtons();
         return;
     }
@@ -57,6 +57,17 @@ void SchemePanel::SwitchTo(const QString& name)
         LoadAndShow(name);
     else if (self)
         ShowCurrent();
+}
+
+// The list shows the user's choice already: without an answer it goes back to the scheme that it showed.
+QString SchemePanel::CurrentScheme()
+{
+    try {
+        return Client().GetCurrentScheme();
+    } catch (...) {
+        ShowInList(m_shown);
+        throw;
+    }
 }
 
 void SchemePanel::New()
@@ -138,10 +149,15 @@ void SchemePanel::Wire(QAbstractButton* button, void (SchemePanel::*action)())
 
 void SchemePanel::ShowCurrent()
 {
-    QComboBox& list = *m_widgets.cmbScheme;
-    list.setCurrentIndex(
-        list.findText(Client().GetCurrentScheme(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    ShowInList(Client().GetCurrentScheme());
     EnableButtons();
+}
+
+void SchemePanel::ShowInList(const QString& name)
+{
+    m_shown = name;
+    QComboBox& list = *m_widgets.cmbScheme;
+    list.setCurrentIndex(list.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
 void SchemePanel::EnableButtons()

@@ -50,7 +50,9 @@ signals:
 
 private:
     void Wire(QAbstractButton* button, void (SchemePanel::*action)());
+    QString CurrentScheme();
     void ShowCurrent();
+    void ShowInList(const QString& name);
     void EnableButtons();
     void LoadAndShow(const QString& name);
     void ChangeSchemes(const std::function<void()>& change);
@@ -60,6 +62,7 @@ private:
     QWidget* Owner() const;
 
     Widgets m_widgets;
+    QString m_shown; ///< the current scheme as the host named it last
 };
 
 } // namespace Orvane

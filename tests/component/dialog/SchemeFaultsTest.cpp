@@ -30,6 +30,11 @@ private:
             throw RunTimeError(10001, Fault);
     }
 
+    QString IStyleEditorClient_GetCurrentScheme() override
+    {
+        Enter("GetCurrentScheme");
+        return ForwardingClient::IStyleEditorClient_GetCurrentScheme();
+    }
     void IStyleEditorClient_LoadScheme(const QString& name) override
     {
         Enter("LoadScheme");
@@ -79,6 +84,16 @@ TEST_F(SchemeFaults, ASwitchThatFailsShowsTheHostsSchemeAndRestoresThePointer)
     EXPECT_TRUE(user.Boxes()[1].text.contains(Fault));
     EXPECT_EQ(List().currentText(), "Night");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SchemeFaults, ASwitchFromASchemeThatCannotBeAskedForShowsItAgain)
+{
+    m_client.faulty = "GetCurrentScheme";
+    MessageBoxRobot user{BoxKey::Enter};
+    PickScheme("Print");
+    EXPECT_TRUE(user.Only().text.contains(Fault));
+    EXPECT_EQ(List().currentText(), "Night");
+    EXPECT_EQ(host.currentScheme, "Night");
 }
 
 TEST_F(SchemeFaults, ARevertThatFailsRestoresThePointer)
