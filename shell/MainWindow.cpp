@@ -76,6 +76,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    ShareKeys();
     WindowPlace::Restore(*this);
     Use(MapDocument::Untitled());
 }
@@ -175,6 +176,17 @@ void MainWindow::ConnectActions()
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
     connect(
         m_data.get(), &DataActions::DataChanged, this, [this] { m_status->SetSystem(Document().System()); });
+}
+
+// The keys of the commands work in the layer control too, except those that its lists use.
+void MainWindow::ShareKeys()
+{
+    for (QAction* action : findChildren<QAction*>()) {
+        const QKeySequence keys = action->shortcut();
+        const bool isCommand = !keys.isEmpty() && keys[0].keyboardModifiers().testFlag(Qt::ControlModifier);
+        if (isCommand && action->shortcutContext() == Qt::WindowShortcut)
+            action->setShortcutContext(Qt::ApplicationShortcut);
+    }
 }
 
 void MainWindow::SetIcons()

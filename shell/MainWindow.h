@@ -65,6 +65,7 @@ protected:
 
 private:
     void ConnectActions();
+    void ShareKeys();
     void SetIcons();
     void NewMap();
     void AskForMap();

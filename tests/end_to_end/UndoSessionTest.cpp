@@ -93,6 +93,19 @@ TEST_F(UndoSession, TheKeysWorkInTheLayerControl)
     EXPECT_FALSE(ToBoolean(Stored(Layer, "Visible")));
 }
 
+TEST_F(UndoSession, TheOtherKeysWorkInTheLayerControlToo)
+{
+    SwitchVisible(Layer);
+    Form()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Form()));
+    const double before = m_window->Canvas().ScaleDenominator();
+    QTest::keyClick(&Find(Form(), "tvLayers2"), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_LT(m_window->Canvas().ScaleDenominator(), before);
+    const double after = m_window->Canvas().ScaleDenominator();
+    QTest::keyClick(&Find(Form(), "tvLayers2"), Qt::Key_Home);
+    EXPECT_EQ(m_window->Canvas().ScaleDenominator(), after) << "the key is the list's";
+}
+
 TEST_F(UndoSession, EditsThatAreNotAppliedAreNotLost)
 {
     SwitchVisible(Layer);
