@@ -1200,6 +1200,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die zu schreibende Datei; ihre Endung .pdf, .svg oder .png bestimmt das Format.</translation>
     </message>
     <message>
+        <source>The last change was stored, but it cannot be undone: %1</source>
+        <translation>Die letzte Änderung wurde gespeichert, kann aber nicht rückgängig gemacht werden: %1</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
     </message>

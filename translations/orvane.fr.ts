@@ -1200,6 +1200,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le fichier à écrire ; son extension .pdf, .svg ou .png détermine le format.</translation>
     </message>
     <message>
+        <source>The last change was stored, but it cannot be undone: %1</source>
+        <translation>La dernière modification a été enregistrée, mais elle ne peut pas être annulée : %1</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
     </message>

@@ -1200,6 +1200,10 @@ These commands run without a window; each has its own --help:
         <translation>書き出すファイル。拡張子 .pdf、.svg、.png が形式を決めます。</translation>
     </message>
     <message>
+        <source>The last change was stored, but it cannot be undone: %1</source>
+        <translation>最後の変更は保存されましたが、元に戻すことはできません: %1</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>最後のレイヤースキームは削除できません。</translation>
     </message>

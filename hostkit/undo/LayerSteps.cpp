@@ -92,8 +92,9 @@ void LayerSteps::Keep(const std::function<QString(const Changeset&)>& text, Chan
             return;
         const QString named = text(changes);
         m_history.Add(std::make_unique<ChangeStep>(m_surroundings, named, std::move(changes), joins));
-    } catch (const std::exception&) {
-        m_history.Clear();
+    } catch (const std::exception& error) {
+        m_history.ForgetUndone();
+        emit m_notifications.StepNotRecorded(QString::fromUtf8(error.what()));
     }
 }
 
@@ -134,14 +135,15 @@ void LayerSteps::Emit(const Changeset& changed)
         emit m_notifications.LayerDeleted(layerID);
     for (const qint32 layerID : changes.created)
         emit m_notifications.LayerCreated(layerID);
+    if (!changes.changed
+             .isEmpty()) // before anything that may raise: they are stored, and the map must show them
+        emit m_notifications.LayersChanged(changes.changed);
     for (const qint32 layerID : changes.renamed)
         emit m_notifications.LayerRenamed(layerID, m_names.Name(layerID));
     for (const qint32 groupID : changes.renamedGroups)
         emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
     if (changes.schemes)
         emit m_notifications.SchemesChanged(LayerSchemes(m_database).Current());
-    if (!changes.changed.isEmpty())
-        emit m_notifications.LayersChanged(changes.changed);
 }
 
 } // namespace Orvane

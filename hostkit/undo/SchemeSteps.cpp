@@ -41,9 +41,9 @@ void SchemeSteps::Load(const QString& name)
     });
     if (left != name)
         Leave(left);
-    Tell();
-    if (!changed.isEmpty())
+    if (!changed.isEmpty()) // before anything that may raise: they are stored, and the map must show them
         emit m_notifications.LayersChanged(changed);
+    Tell();
     emit m_notifications.SchemeLoaded(name);
 }
 

@@ -41,6 +41,14 @@ void UndoHistory::Clear()
     emit Changed();
 }
 
+void UndoHistory::ForgetUndone()
+{
+    if (m_running || !CanRedo())
+        return;
+    m_steps.resize(m_done);
+    emit Changed();
+}
+
 void UndoHistory::Run(Direction direction)
 {
     if (m_running)

@@ -44,6 +44,8 @@ public:
 
     /// Forgets all steps.
     void Clear();
+    /// Forgets the steps that were undone: something that is no step has changed what they would redo.
+    void ForgetUndone();
 
     /// The action is called at the beginning of each Undo and Redo, before the step is chosen; if it raises,
     /// nothing is undone or redone. An empty function removes the action.

@@ -5,6 +5,8 @@
 #include "mapkit/common/Guard.h"
 #include "shell/map/MapSession.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QKeySequence>
@@ -48,6 +50,10 @@ void EditActions::SetUp(QAction& action, void (UndoHistory::*command)())
 void EditActions::Use(MapSession& session)
 {
     Use(session.Shell().History());
+    // Later: a change is being stored.
+    connect(
+        &session, &MapSession::StepNotRecorded, this,
+        [this](const QString& reason) { TellOfLostStep(reason); }, Qt::QueuedConnection);
 }
 
 void EditActions::Use(UndoHistory& history)
@@ -58,6 +64,15 @@ void EditActions::Use(UndoHistory& history)
     connect(&history, &UndoHistory::Changed, this, &EditActions::Show);
     connect(&history, &QObject::destroyed, this, &EditActions::Show);
     Show();
+}
+
+void EditActions::TellOfLostStep(const QString& reason)
+{
+    Guard(&m_window, [&] {
+        throw RunTimeError(
+            ErrorNumber::DatabaseFailure,
+            tr("The last change was stored, but it cannot be undone: %1").arg(reason));
+    });
 }
 
 void EditActions::Run(void (UndoHistory::*command)())

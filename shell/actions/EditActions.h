@@ -33,6 +33,7 @@ public:
 
 private:
     void SetUp(QAction& action, void (UndoHistory::*command)());
+    void TellOfLostStep(const QString& reason);
     void Run(void (UndoHistory::*command)());
     void Show();
 

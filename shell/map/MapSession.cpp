@@ -172,6 +172,7 @@ void MapSession::Connect()
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(&events, &HostNotifications::LayerCreated, this, &MapSession::ReadNewLayer);
+    connect(&events, &HostNotifications::StepNotRecorded, this, &MapSession::StepNotRecorded);
     connect(
         &events, &HostNotifications::LayerRenamed, this, [this](qint32 layerID) { DrawAgain({layerID}); });
     connect(

@@ -68,6 +68,8 @@ signals:
     void MapFileGone();
     /// Data that were shown cannot be read any more.
     void DataFailed(const QString& reason);
+    /// A change was stored, but cannot be undone.
+    void StepNotRecorded(const QString& reason);
     /// All layers were read again.
     void LayersRead();
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/undo/LayerStepsFixture.h"
+#include "store/ChangeRecorder.h"
+#include "store/ILayerStore.h"
 
 namespace Orvane::Testing {
 
@@ -223,6 +225,82 @@ TEST_F(Steps, BringBackADeletedLayerWithAnyName)
     History().Undo();
     EXPECT_THAT(Get(1, "Name"), IsValue(name));
     EXPECT_EQ(Host().LayerDisplayName(1), name);
+}
+
+/// A store that forgets how it was changed.
+class ForgetfulStore final : public ILayerStore
+{
+public:
+    explicit ForgetfulStore(ILayerStore& store) : m_store(store) { }
+
+    qint64 Execute(const QString& sql, const std::vector<Value>& values) override
+    {
+        return m_store.Execute(sql, values);
+    }
+    std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values) override
+    {
+        return m_store.OpenQuery(sql, values);
+    }
+    void PrepareTable(const StoreTable& table) override { m_store.PrepareTable(table); }
+    bool HasTable(const QString& table) override { return m_store.HasTable(table); }
+    bool HasColumn(const QString& table, const QString& column) override
+    {
+        return m_store.HasColumn(table, column);
+    }
+    std::unique_ptr<ChangeRecorder> RecordChanges() override
+    {
+        class Recorder final : public ChangeRecorder
+        {
+            Changeset Changes() const override
+            {
+                throw RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("no memory"));
+            }
+        };
+        return isForgetful ? std::make_unique<Recorder>() : m_store.RecordChanges();
+    }
+    std::optional<Changeset> Apply(const Changeset& changes) override { return m_store.Apply(changes); }
+    qint64 ForeignChanges() override { return m_store.ForeignChanges(); }
+    bool IsReadOnly() const override { return m_store.IsReadOnly(); }
+    QString Path() const override { return m_store.Path(); }
+    void CopyToFile(const QString& path) override { m_store.CopyToFile(path); }
+    void SetQueryListener(std::function<void(const QString&)> listener) override
+    {
+        m_store.SetQueryListener(std::move(listener));
+    }
+
+    bool isForgetful = false;
+
+private:
+    std::unique_ptr<IRecordset> ILayerDatabase_OpenRecordset(const QString& source) override
+    {
+        return m_store.OpenRecordset(source);
+    }
+    void ILayerDatabase_BeginTrans() override { m_store.BeginTrans(); }
+    void ILayerDatabase_CommitTrans() override { m_store.CommitTrans(); }
+    void ILayerDatabase_Rollback() override { m_store.Rollback(); }
+
+    ILayerStore& m_store;
+};
+
+TEST_F(Steps, AStepThatCannotBeRecordedKeepsThoseBeforeItAndIsTold)
+{
+    ForgetfulStore store(Database());
+    SilentClient client(store, m_services);
+    IStyleEditorClient& host = client;
+    QStringList told;
+    QObject::connect(
+        &client.Notifications(), &HostNotifications::StepNotRecorded, &client.Notifications(),
+        [&](const QString& reason) { told << reason; });
+    host.RenameLayer(1, QStringLiteral("Streets"));
+    host.RenameLayer(2, QStringLiteral("Streams"));
+    client.History().Undo();
+    store.isForgetful = true;
+    host.RenameLayer(3, QStringLiteral("Meadows"));
+    EXPECT_EQ(told, QStringList{QStringLiteral("no memory")});
+    EXPECT_FALSE(client.History().CanRedo());
+    client.History().Undo();
+    EXPECT_THAT(Get(1, "Name"), IsValue(QStringLiteral("Roads")));
+    EXPECT_THAT(Get(3, "Name"), IsValue(QStringLiteral("Meadows")));
 }
 
 } // namespace

@@ -89,6 +89,22 @@ TEST_F(Steps, ADeletedLayersSchemeValuesTellNothingOfSchemes)
     EXPECT_THAT(Told(), ElementsAre(QStringLiteral("created 1")));
 }
 
+TEST_F(Steps, LayersOfASchemeAreToldEvenIfWhatFollowsFails)
+{
+    Host().CreateScheme(Night);
+    Set(1, "Color", 5);
+    HostNotifications& events = m_client.Notifications();
+    const auto listener = QObject::connect(&events, &HostNotifications::SchemesChanged, &events, [] {
+        throw RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("unreadable"));
+    });
+    Told();
+    EXPECT_EQ(ErrorOf([&] { Host().LoadScheme(Standard); }), int(ErrorNumber::DatabaseFailure));
+    EXPECT_TRUE(Told().contains(QStringLiteral("changed 1")));
+    EXPECT_EQ(ErrorOf([&] { History().Undo(); }), int(ErrorNumber::DatabaseFailure));
+    EXPECT_TRUE(Told().contains(QStringLiteral("changed 1")));
+    QObject::disconnect(listener);
+}
+
 } // namespace
 
 } // namespace Orvane::Testing
