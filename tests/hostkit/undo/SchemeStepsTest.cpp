@@ -73,7 +73,7 @@ TEST_F(Steps, OfSchemesAreToldAsTheChangesWere)
     Host().LoadScheme(Standard);
     Told();
     History().Undo();
-    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Night"), QStringLiteral("changed 1")));
+    EXPECT_THAT(Told(), ElementsAre(QStringLiteral("changed 1"), QStringLiteral("scheme Night")));
     History().Undo();
     EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Night")));
     History().Undo();
