@@ -59,9 +59,9 @@ public:
     /// The layer database. The host owns it and keeps it alive as long as the client.
     ILayerDatabase& Database() { return IStyleEditorClient_Database(); }
 
-    /// A table cursor over Layers, never nullptr. The caller owns it. To read or change a group, the component
-    /// takes one cursor for all members and seeks each of them with it; BeginLayerEdit, LayerChanged and Update
-    /// are called for each member.
+    /// A table cursor over Layers, never nullptr. The caller owns it. To read or change a group, the
+    /// component takes one cursor for all members and seeks each of them with it; BeginLayerEdit,
+    /// LayerChanged and Update are called for each member.
     std::unique_ptr<IRecordset> LayersTable() { return IStyleEditorClient_LayersTable(); }
 
     /// The scale index (0 to 256) for a value of the MinVisScale or MaxVisScale column. 0 and 256 mean "no
