@@ -48,7 +48,7 @@ void Append(std::string& bytes, const ChangedRow& row);
 /// Appends the head of a row; columnCount columns must follow.
 void AppendHead(std::string& bytes, size_t table, ChangeKind kind, std::string_view key, size_t columnCount);
 void AppendColumn(std::string& bytes, ChangeKind kind, const ChangedRow::Column& column);
-/// Reads one row; keyCounts: how many columns the key of each table has.
+/// Reads one row. tables: those that the row may belong to.
 void Read(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row);
 
 } // namespace ChangedRows

@@ -50,10 +50,8 @@ void EditActions::SetUp(QAction& action, void (UndoHistory::*command)())
 void EditActions::Use(MapSession& session)
 {
     Use(session.Shell().History());
-    // Later: a change is being stored.
-    connect(
-        &session, &MapSession::StepNotRecorded, this,
-        [this](const QString& reason) { TellOfLostStep(reason); }, Qt::QueuedConnection);
+    // Later: the operation that stored the change is still running.
+    connect(&session, &MapSession::StepNotRecorded, this, &EditActions::TellOfLostStep, Qt::QueuedConnection);
 }
 
 void EditActions::Use(UndoHistory& history)
@@ -68,17 +66,19 @@ void EditActions::Use(UndoHistory& history)
 
 void EditActions::TellOfLostStep(const QString& reason)
 {
-    Guard(&m_window, [&] {
-        throw RunTimeError(
-            ErrorNumber::DatabaseFailure,
-            tr("The last change was stored, but it cannot be undone: %1").arg(reason));
-    });
+    const QString text = tr("The last change was stored, but it cannot be undone: %1").arg(reason);
+    ShowError(Owner(), RunTimeError(ErrorNumber::DatabaseFailure, text));
+}
+
+QWidget* EditActions::Owner() const
+{
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : &m_window;
 }
 
 void EditActions::Run(void (UndoHistory::*command)())
 {
-    QWidget* active = QApplication::activeWindow();
-    Guard(active ? active : &m_window, [&] {
+    Guard(Owner(), [&] {
         if (m_history)
             (m_history->*command)();
     });

@@ -34,6 +34,7 @@ public:
 private:
     void SetUp(QAction& action, void (UndoHistory::*command)());
     void TellOfLostStep(const QString& reason);
+    QWidget* Owner() const;
     void Run(void (UndoHistory::*command)());
     void Show();
 

@@ -3,8 +3,6 @@
 
 #include <QObject>
 
-#include <functional>
-
 class QMenu;
 class QWidget;
 

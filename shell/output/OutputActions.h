@@ -6,8 +6,6 @@
 
 #include <QObject>
 
-#include <functional>
-
 class QAction;
 class QMainWindow;
 class QMenu;

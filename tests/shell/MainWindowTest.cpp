@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainWindow.h"
 
+#include "hostkit/common/HostNotifications.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Progress.h"
@@ -326,6 +327,16 @@ TEST_F(MainWindowTest, TheWindowsPlaceIsKept)
     m_window->resize(700, 500);
     m_window->close();
     EXPECT_EQ(MainWindow().size(), QSize(700, 500));
+}
+
+TEST_F(MainWindowTest, AChangeThatCannotBeUndoneIsShownOnce)
+{
+    MessageBoxRobot user{BoxKey::Enter};
+    emit m_window->Session().Shell().Notifications().StepNotRecorded("no memory");
+    EXPECT_TRUE(user.Boxes().empty()) << "not while the change is being stored";
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(user.Only().text.contains("no memory"));
+    EXPECT_EQ(user.Only().owner, m_window.get());
 }
 
 } // namespace Orvane

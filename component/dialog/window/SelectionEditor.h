@@ -55,8 +55,7 @@ public:
     void Load();
     /// As Load, but if the node cannot be read, the edits stay.
     void Cancel();
-    /// Leaves the controls as they are where nobody sees them, and reads nothing: for the Schemes tab, until
-    /// the next Load.
+    /// Covers the controls without reading anything: for the Schemes tab, until the next Load.
     void CoverUp();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
