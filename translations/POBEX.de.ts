@@ -28,12 +28,36 @@
         <translation>[verschiedene]</translation>
     </message>
     <message>
+        <source>^1 &apos;^2&apos; is not a number.</source>
+        <translation>^1: „^2“ ist keine Zahl.</translation>
+    </message>
+    <message>
         <source>^1 (highest)</source>
         <translation>^1 (höchste)</translation>
     </message>
     <message>
         <source>^1 (lowest)</source>
         <translation>^1 (niedrigste)</translation>
+    </message>
+    <message>
+        <source>^1 ^2 cannot be used.</source>
+        <translation>^1 ^2 kann nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too large.</source>
+        <translation>^1 ^2 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too small.</source>
+        <translation>^1 ^2 ist zu klein.</translation>
+    </message>
+    <message>
+        <source>^1 has no value.</source>
+        <translation>^1 hat keinen Wert.</translation>
+    </message>
+    <message>
+        <source>^1: ^2</source>
+        <translation>^1: ^2</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>

@@ -28,12 +28,36 @@
         <translation>[divers]</translation>
     </message>
     <message>
+        <source>^1 &apos;^2&apos; is not a number.</source>
+        <translation>^1 : « ^2 » n’est pas un nombre.</translation>
+    </message>
+    <message>
         <source>^1 (highest)</source>
         <translation>^1 (la plus haute)</translation>
     </message>
     <message>
         <source>^1 (lowest)</source>
         <translation>^1 (la plus basse)</translation>
+    </message>
+    <message>
+        <source>^1 ^2 cannot be used.</source>
+        <translation>^1 ^2 ne peut pas être utilisé.</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too large.</source>
+        <translation>^1 ^2 est trop grand.</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too small.</source>
+        <translation>^1 ^2 est trop petit.</translation>
+    </message>
+    <message>
+        <source>^1 has no value.</source>
+        <translation>^1 n’a pas de valeur.</translation>
+    </message>
+    <message>
+        <source>^1: ^2</source>
+        <translation>^1 : ^2</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>

@@ -28,12 +28,36 @@
         <translation>[複数の値]</translation>
     </message>
     <message>
+        <source>^1 &apos;^2&apos; is not a number.</source>
+        <translation>^1 の「^2」は数値ではありません。</translation>
+    </message>
+    <message>
         <source>^1 (highest)</source>
         <translation>^1 (最高)</translation>
     </message>
     <message>
         <source>^1 (lowest)</source>
         <translation>^1 (最低)</translation>
+    </message>
+    <message>
+        <source>^1 ^2 cannot be used.</source>
+        <translation>^1 ^2 は使用できません。</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too large.</source>
+        <translation>^1 ^2 は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>^1 ^2 is too small.</source>
+        <translation>^1 ^2 は小さすぎます。</translation>
+    </message>
+    <message>
+        <source>^1 has no value.</source>
+        <translation>^1 に値がありません。</translation>
+    </message>
+    <message>
+        <source>^1: ^2</source>
+        <translation>^1：^2</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>

@@ -7,11 +7,7 @@ namespace Orvane {
 
 QString TranslatedDescription(const QString& description)
 {
-    const qsizetype column = description.endsWith(u')') ? description.lastIndexOf(QStringLiteral(" (")) : -1;
-    if (column <= 0)
-        return TranslateMsg(description);
-    const QString whole = TranslateMsg(description);
-    return whole != description ? whole : TranslateMsg(description.left(column)) + description.mid(column);
+    return TranslateMsg(description);
 }
 
 void RaiseTranslated(const RunTimeError& error)

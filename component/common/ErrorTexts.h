@@ -9,8 +9,8 @@
 
 namespace Orvane {
 
-/// An error's description in the user's language. A column name at its end, as in "Type mismatch (Color)", is
-/// kept. A text that is not in the message file, such as one from the host, is returned unchanged.
+/// An error's description in the user's language. A text that is not in the message file, such as one from
+/// the host, is returned unchanged.
 QString TranslatedDescription(const QString& description);
 
 /// Raises the error with its description translated, if the translation differs from the description.

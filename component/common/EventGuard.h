@@ -44,6 +44,12 @@ template <typename Action> void GuardAfterEvent(QObject* context, QWidget* owner
     });
 }
 
+/// Reports an error after the current event, for the same reason. context, owner: as above.
+inline void ReportAfterEvent(QObject* context, QWidget* owner, std::exception_ptr error)
+{
+    GuardAfterEvent(context, owner, [error = std::move(error)] { std::rethrow_exception(error); });
+}
+
 /// The guard of painting, where no window may be opened: if the action raises, the picture stays unfinished.
 /// Returns false if something was raised.
 template <typename Action> bool GuardPaint(Action&& action) noexcept

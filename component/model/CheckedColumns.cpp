@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/CheckedColumns.h"
 
+#include "component/model/ColumnError.h"
 #include "component/model/LayerQueries.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
@@ -9,30 +10,39 @@ namespace Orvane {
 
 namespace {
 
-[[noreturn]] void RaiseWithColumn(const RunTimeError& error, std::string_view columnName)
-{
-    const auto column = QString::fromLatin1(columnName.data(), qsizetype(columnName.size()));
-    throw RunTimeError(
-        error.Number(), QStringLiteral("%1 (%2)").arg(error.Description(), column), error.Source());
-}
-
-template <typename Conversion>
-auto Converted(const Value& value, std::string_view columnName, Conversion conversion)
+// A row of a query may have no such column, and that it has none must not hide the error.
+QString TextIn(const IRecordset& row, std::string_view columnName)
 {
     try {
-        return conversion(value);
-    } catch (const RunTimeError& error) {
-        RaiseWithColumn(error, columnName);
+        return ToText(row.Field(columnName));
+    } catch (const RunTimeError&) {
+        return {};
     }
 }
 
+QString NameOf(const IRecordset& row)
+{
+    const QString name = TextIn(row, "Name");
+    if (!name.isEmpty())
+        return name;
+    const QString layerID = TextIn(row, "LayerID");
+    return layerID.isEmpty() ? layerID : QStringLiteral("LayerID ") + layerID;
+}
+
 } // namespace
+
+void RaiseColumnError(
+    const IRecordset& row, std::string_view columnName, const Value& value, const RunTimeError& cause)
+{
+    const auto column = QString::fromLatin1(columnName.data(), qsizetype(columnName.size()));
+    throw ColumnError(cause, NameOf(row), column, value);
+}
 
 Value NumberColumn(const IRecordset& row, std::string_view columnName)
 {
     Value value = row.Field(columnName);
     if (!value.IsNull() && !value.IsNumber())
-        Converted(value, columnName, ToDouble);
+        ConvertedFor(row, columnName, value, ToDouble);
     return value;
 }
 
@@ -41,7 +51,7 @@ Value FlagColumn(const IRecordset& row, std::string_view columnName)
     Value value = row.Field(columnName);
     if (value.IsNull() || value.IsBoolean())
         return value;
-    return Converted(value, columnName, ToBoolean);
+    return ConvertedFor(row, columnName, value, ToBoolean);
 }
 
 Value Int32Column(const IRecordset& row, std::string_view columnName)
@@ -49,12 +59,12 @@ Value Int32Column(const IRecordset& row, std::string_view columnName)
     Value value = row.Field(columnName);
     if (value.IsNull())
         return value;
-    return Converted(value, columnName, ToInt32);
+    return ConvertedFor(row, columnName, value, ToInt32);
 }
 
 qint32 IntegerColumn(const IRecordset& row, std::string_view columnName)
 {
-    return Converted(row.Field(columnName), columnName, ToInt32);
+    return ConvertedFor(row, columnName, row.Field(columnName), ToInt32);
 }
 
 bool FlagIsSet(const IRecordset& row, std::string_view columnName)
@@ -65,7 +75,7 @@ bool FlagIsSet(const IRecordset& row, std::string_view columnName)
 
 qint16 QuickModeColumn(const IRecordset& row)
 {
-    return Converted(row.Field("OverrideMode"), "OverrideMode", QuickModeFromOverrideMode);
+    return ConvertedFor(row, "OverrideMode", row.Field("OverrideMode"), QuickModeFromOverrideMode);
 }
 
 } // namespace Orvane

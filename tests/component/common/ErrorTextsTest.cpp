@@ -26,12 +26,6 @@ TEST(ErrorTexts, ATextIsTranslated)
     EXPECT_EQ(TranslatedDescription("Overflow"), Pseudo("Overflow"));
 }
 
-TEST(ErrorTexts, AColumnBehindATextStays)
-{
-    const PseudoLanguage pseudo;
-    EXPECT_EQ(TranslatedDescription("Overflow (MinVisScale)"), Pseudo("Overflow") + " (MinVisScale)");
-}
-
 TEST(ErrorTexts, AnUnknownTextStaysAsItIs)
 {
     const PseudoLanguage pseudo;

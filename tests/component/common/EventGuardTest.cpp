@@ -52,14 +52,6 @@ TEST(GuardEvent, TranslatesTheDescription)
     EXPECT_EQ(user.Only().text, Testing::Pseudo("Overflow"));
 }
 
-TEST(GuardEvent, TranslatesAnErrorThatNamesAColumn)
-{
-    const Testing::PseudoLanguage pseudo;
-    MessageBoxRobot user{BoxKey::Enter};
-    GuardEvent(nullptr, [] { throw RunTimeError(ErrorNumber::TypeMismatch, "Type mismatch (Priority)"); });
-    EXPECT_EQ(user.Only().text, Testing::Pseudo("Type mismatch") + " (Priority)");
-}
-
 TEST(GuardEvent, NamesAnotherExceptionByItsOwnWords)
 {
     MessageBoxRobot user{BoxKey::Enter};
