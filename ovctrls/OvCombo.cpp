@@ -55,6 +55,22 @@ void OvCombo::Insert(const QString& item, int position)
     m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(item, font()));
 }
 
+void OvCombo::Replace(int index, const QString& item)
+{
+    setItemText(index, m_renderer.PlainText(item));
+    setItemData(index, item, commandsRole);
+    FindTabColumn();
+}
+
+void OvCombo::Remove(int index)
+{
+    removeItem(index);
+    if (m_newIndex == index)
+        m_newIndex = -1;
+    else if (m_newIndex > index)
+        --m_newIndex;
+}
+
 QString OvCombo::List(int index) const
 {
     return itemData(index, commandsRole).toString();

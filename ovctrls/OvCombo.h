@@ -35,6 +35,10 @@ public:
     void Append(const QString& item) { Insert(item, AtEnd); }
     /// Inserts before the item at the position; beyond the end it appends. The selected item stays selected.
     void Insert(const QString& item, int position);
+    /// Replaces an item's commands; its number and the selection stay, its description does not.
+    void Replace(int index, const QString& item);
+    /// Removes an item that is not selected; the selected item stays selected.
+    void Remove(int index);
     int ListCount() const { return count(); }
     /// The commands of an item.
     QString List(int index) const;

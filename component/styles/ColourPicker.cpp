@@ -39,17 +39,25 @@ void ColourPicker::BuildColourList()
         AddColourItem(standard.colour);
     if (m_offer == Offer::ColoursAndTransparent)
         AddColourItem(TransparentColour);
-    m_list.RememberLast(Special::LastStandard);
     m_list.AddSpecial(Special::Custom, TranslateMsg("Custom Colour..."));
-    m_list.SetRows(m_list.Count() + 2);
+    FitRows();
 }
 
 void ColourPicker::AddColourItem(qint32 colour, qint32 position)
 {
+    const PickerList::ItemTexts item = ItemOf(colour);
+    m_list.Add(item.text, item.description, colour, position);
+    FitRows();
+}
+
+PickerList::ItemTexts ColourPicker::ItemOf(qint32 colour) const
+{
     const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
-    m_list.Add(
-        strings.ColourItem(colour, SwatchExtentOf(m_list.Size())), ColourDescription(colour), colour,
-        position);
+    return {strings.ColourItem(colour, SwatchExtentOf(m_list.Size())), ColourDescription(colour)};
+}
+
+void ColourPicker::FitRows()
+{
     m_list.SetRows(m_list.Count() + 2);
 }
 
@@ -57,6 +65,16 @@ void ColourPicker::SetColourSelection(const Value& value)
 {
     ShowColour(value);
     m_layerValue = value;
+    if (!value.IsNull()) {
+        m_list.RemoveVarious();
+        FitRows();
+    }
+    emit Changed();
+}
+
+void ColourPicker::ShowEdit(const Value& value)
+{
+    ShowColour(value);
     emit Changed();
 }
 
@@ -84,7 +102,7 @@ void ColourPicker::ShowColour(const Value& value)
 void ColourPicker::AddVariousItem()
 {
     m_list.AddVarious();
-    m_list.SetRows(m_list.Count() + 2);
+    FitRows();
 }
 
 void ColourPicker::AddBeforeCustom(qint32 colour)
@@ -94,18 +112,7 @@ void ColourPicker::AddBeforeCustom(qint32 colour)
 
 void ColourPicker::Rebuild()
 {
-    if (m_list.Count() == 0)
-        return;
-    const bool isSelected = m_list.Selected() >= 0;
-    const bool hadVarious = m_list.IndexOf(Special::Various) >= 0;
-    const std::vector<qint32> added = m_list.AddedData();
-    BuildColourList();
-    for (const qint32 colour : added)
-        AddBeforeCustom(colour);
-    if (hadVarious)
-        AddVariousItem();
-    if (isSelected)
-        ShowColour(m_shown);
+    m_list.Redraw([this](qint32 colour) { return ItemOf(colour); }, TranslateMsg("Custom Colour..."));
 }
 
 // The items were drawn for the previous size of the combo box.

@@ -37,8 +37,10 @@ public:
     void AddColourItem(qint32 colour, qint32 position = PickerList::AtEnd);
 
     /// Shows a layer's colour. A colour that is not in the list is added before "Custom Colour..."; Null
-    /// shows "[various]". The colour dialog starts with this colour.
+    /// shows "[various]", which is in the list only then. The colour dialog starts with this colour.
     void SetColourSelection(const Value& value);
+    /// Shows another colour than the layer's, as if the user had chosen it.
+    void ShowEdit(const Value& value);
 
     /// The colour shown; Null for "[various]".
     Value GetSelectedColour() const;
@@ -57,6 +59,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    PickerList::ItemTexts ItemOf(qint32 colour) const;
+    void FitRows();
     void ShowColour(const Value& value);
     void AddVariousItem();
     void AddBeforeCustom(qint32 colour);

@@ -46,13 +46,23 @@ void FillStylePicker::BuildFillStyleList()
         LoadPicture(style);
         AddFillStyleItem(style);
     }
-    m_list.SetRows(std::min(m_list.Count() + 1, mostRows));
+    FitRows();
 }
 
 void FillStylePicker::AddFillStyleItem(qint16 style)
 {
-    const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
-    m_list.Add(strings.FillItem(), FillDescription(style), style);
+    const PickerList::ItemTexts item = ItemOf(style);
+    m_list.Add(item.text, item.description, style);
+}
+
+PickerList::ItemTexts FillStylePicker::ItemOf(qint32 style) const
+{
+    return {StyleStrings(m_stylePrefix, TranslatedStyleWords()).FillItem(), FillDescription(style)};
+}
+
+void FillStylePicker::FitRows()
+{
+    m_list.SetRows(std::min(m_list.Count() + 1, mostRows));
 }
 
 void FillStylePicker::LoadPicture(qint16 style)
@@ -64,21 +74,37 @@ void FillStylePicker::LoadPicture(qint16 style)
 void FillStylePicker::AddVariousItem()
 {
     m_list.AddVarious();
-    m_list.SetRows(std::min(m_list.Count() + 1, mostRows));
+    FitRows();
 }
 
 void FillStylePicker::SetFillStyleSelection(const Value& value)
 {
+    const bool isKnown = ShowStyle(value);
+    if (!value.IsNull()) {
+        m_list.RemoveVarious();
+        FitRows();
+    }
+    if (!isKnown)
+        ReportUnknownStyle();
+    emit Changed();
+}
+
+void FillStylePicker::ShowEdit(const Value& value)
+{
+    ShowStyle(value);
+    emit Changed();
+}
+
+bool FillStylePicker::ShowStyle(const Value& value)
+{
     if (value.IsNull()) {
         AddVariousItem();
         m_list.Select(Special::Various);
-    } else {
-        const int index = m_list.Find(ToInt32(value));
-        m_list.Select(std::max(index, 0));
-        if (index < 0)
-            ReportUnknownStyle();
+        return true;
     }
-    emit Changed();
+    const int index = m_list.Find(ToInt32(value));
+    m_list.Select(std::max(index, 0));
+    return index >= 0;
 }
 
 // Queued: while the message box waits, nothing may be half shown, and the host may close the dialog.
@@ -104,14 +130,7 @@ Value FillStylePicker::GetSelectedFillStyle() const
 
 void FillStylePicker::Rebuild()
 {
-    if (m_list.Count() == 0)
-        return;
-    const int selected = m_list.Selected();
-    const bool hadVarious = m_list.IndexOf(Special::Various) >= 0;
-    BuildFillStyleList();
-    if (hadVarious)
-        AddVariousItem();
-    m_list.Select(selected);
+    m_list.Redraw([this](qint32 style) { return ItemOf(style); }, QString());
 }
 
 void FillStylePicker::RepaintSamples()

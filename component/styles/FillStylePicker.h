@@ -33,10 +33,12 @@ public:
     /// host's FillPattern raises.
     void BuildFillStyleList();
 
-    /// Shows a layer's fill style; Null shows "[various]". For a style that is not in the list, the first
-    /// item is shown, and the user gets a message as soon as the event loop runs. Raises 13 (type mismatch)
-    /// or 6 (overflow).
+    /// Shows a layer's fill style; Null shows "[various]", which is in the list only then. For a style that
+    /// is not in the list, the first item is shown, and the user gets a message as soon as the event loop
+    /// runs. Raises 13 (type mismatch) or 6 (overflow).
     void SetFillStyleSelection(const Value& value);
+    /// Shows another fill style than the layer's, as if the user had chosen it.
+    void ShowEdit(const Value& value);
 
     /// The fill style shown; Null for "[various]".
     Value GetSelectedFillStyle() const;
@@ -55,6 +57,9 @@ signals:
 
 private:
     void AddFillStyleItem(qint16 style);
+    PickerList::ItemTexts ItemOf(qint32 style) const;
+    void FitRows();
+    bool ShowStyle(const Value& value);
     void LoadPicture(qint16 style);
     void AddVariousItem();
     void PaintItem(QPainter& painter, int index, const QRect& item);

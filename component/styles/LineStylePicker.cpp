@@ -47,30 +47,53 @@ void LineStylePicker::BuildLineStyleList()
     m_list.Clear();
     for (const LineItem& line : StandardLineItems)
         AddLineStyleItem(line.style, line.thickness);
-    m_list.RememberLast(Special::LastStandard);
-    m_list.AddSpecial(
-        Special::Custom, StyleStrings(m_stylePrefix, TranslatedStyleWords()).CustomLineCaption());
+    m_list.AddSpecial(Special::Custom, CustomCaption());
+}
+
+QString LineStylePicker::CustomCaption() const
+{
+    return StyleStrings(m_stylePrefix, TranslatedStyleWords()).CustomLineCaption();
 }
 
 void LineStylePicker::AddLineStyleItem(qint16 style, qint16 thickness, qint32 position)
 {
-    const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
-    const QString text = strings.LineItemText({style, thickness}, LineExtentOf(m_list.Size()));
-    m_list.Add(text, LineDescription({style, thickness}), LineStyleItemData(style, thickness), position);
+    const PickerList::ItemTexts item = ItemOf({style, thickness});
+    m_list.Add(item.text, item.description, LineStyleItemData(style, thickness), position);
     m_list.SetRows(m_list.Count() + 1);
+}
+
+PickerList::ItemTexts LineStylePicker::ItemOf(const LineItem& line) const
+{
+    const StyleStrings strings(m_stylePrefix, TranslatedStyleWords());
+    return {strings.LineItemText(line, LineExtentOf(m_list.Size())), LineDescription(line)};
 }
 
 void LineStylePicker::SetLineStyleSelection(const Value& style, const Value& thickness)
 {
-    if (style.IsNull() || thickness.IsNull()) {
-        ShowVarious();
-    } else {
-        const LineItem line{ToInt16(style), ToInt16(thickness)};
-        const bool isTold = LineOf(LineStyleItemData(line.style, line.thickness)).style == line.style;
-        isTold ? ShowLine(line) : ShowVarious();
-    }
+    ShowLayerLine(style, thickness);
     m_layerValue = {style, thickness};
+    if (!m_list.IsSelected(Special::Various)) {
+        m_list.RemoveVarious();
+        m_list.SetRows(m_list.Count() + 1);
+    }
     emit Changed();
+}
+
+void LineStylePicker::ShowEdit(const Value& style, const Value& thickness)
+{
+    ShowLayerLine(style, thickness);
+    emit Changed();
+}
+
+void LineStylePicker::ShowLayerLine(const Value& style, const Value& thickness)
+{
+    const qint16 number = style.IsNull() ? qint16(0) : ToInt16(style);
+    const qint32 data = LineStyleItemData(number, thickness.IsNull() ? qint16(0) : ToInt16(thickness));
+    const bool isTold = LineOf(data).style == number;
+    if (style.IsNull() || thickness.IsNull() || !isTold)
+        ShowVarious();
+    else
+        ShowLine({number, ToInt16(thickness)});
 }
 
 void LineStylePicker::ShowLine(const LineItem& line)
@@ -107,17 +130,7 @@ SelectedLine LineStylePicker::GetSelectedLineStyle() const
 
 void LineStylePicker::Rebuild()
 {
-    if (m_list.Count() == 0)
-        return;
-    const int selected = m_list.Selected();
-    const bool hadVarious = m_list.IndexOf(Special::Various) >= 0;
-    const std::vector<qint32> added = m_list.AddedData();
-    BuildLineStyleList();
-    for (const qint32 data : added)
-        AddBeforeCustom(LineOf(data));
-    if (hadVarious)
-        AddVariousItem();
-    m_list.Select(selected);
+    m_list.Redraw([this](qint32 data) { return ItemOf(LineOf(data)); }, CustomCaption());
 }
 
 // The items were drawn for the previous size of the combo box.

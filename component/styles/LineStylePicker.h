@@ -39,8 +39,10 @@ public:
 
     /// Shows a layer's line. A line that is not in the list is added before "Custom Line Style...".
     /// "[various]" is shown if either value is Null, and for a style of 20 or more, which would be read back
-    /// as a thickness: the layer then keeps its values.
+    /// as a thickness: the layer then keeps its values. "[various]" is in the list only then.
     void SetLineStyleSelection(const Value& style, const Value& thickness);
+    /// Shows another line than the layer's, as if the user had chosen it.
+    void ShowEdit(const Value& style, const Value& thickness);
 
     /// The line shown; both Null for "[various]".
     SelectedLine GetSelectedLineStyle() const;
@@ -60,6 +62,9 @@ protected:
 
 private:
     void AddBeforeCustom(const LineItem& line);
+    PickerList::ItemTexts ItemOf(const LineItem& line) const;
+    QString CustomCaption() const;
+    void ShowLayerLine(const Value& style, const Value& thickness);
     void ShowLine(const LineItem& line);
     void ShowVarious();
     void AddVariousItem();

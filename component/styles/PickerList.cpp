@@ -6,6 +6,7 @@
 #include "ovctrls/OvCombo.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Orvane {
 
@@ -57,6 +58,28 @@ void PickerList::AddVarious()
         AddSpecial(Special::Various, TranslateMsg("[various]"));
 }
 
+void PickerList::RemoveVarious()
+{
+    const int index = std::exchange(m_remembered[size_t(Special::Various)], -1);
+    if (index >= 0)
+        m_combo.Remove(index); // the last item: no other index moves
+}
+
+void PickerList::Redraw(const std::function<ItemTexts(qint32 data)>& texts, const QString& customText)
+{
+    for (int index = 0; index < Count(); ++index) {
+        if (index == IndexOf(Special::Custom)) {
+            m_combo.Replace(index, customText);
+        } else if (index == IndexOf(Special::Various)) {
+            m_combo.Replace(index, TranslateMsg("[various]"));
+        } else {
+            const ItemTexts item = texts(m_combo.ItemData(index));
+            m_combo.Replace(index, item.text);
+            m_combo.SetItemDescription(index, item.description);
+        }
+    }
+}
+
 void PickerList::RememberLast(Special item)
 {
     m_remembered[size_t(item)] = Count() - 1;
@@ -85,14 +108,6 @@ qint32 PickerList::SelectedData() const
 int PickerList::Find(qint32 data) const
 {
     return FindByItemData(m_combo, data);
-}
-
-std::vector<qint32> PickerList::AddedData() const
-{
-    std::vector<qint32> added;
-    for (int index = IndexOf(Special::LastStandard) + 1; index < IndexOf(Special::Custom); ++index)
-        added.push_back(m_combo.ItemData(index));
-    return added;
 }
 
 } // namespace Orvane

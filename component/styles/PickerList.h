@@ -7,7 +7,7 @@
 #include <QtGlobal>
 
 #include <array>
-#include <vector>
+#include <functional>
 
 namespace Orvane {
 
@@ -23,7 +23,6 @@ public:
 
     /// The items that are found by their index, because their data does not identify them.
     enum class Special {
-        LastStandard, ///< the last item that every list has, before the added items
         Custom, ///< "Custom Colour..." or "Custom Line Style..."
         Various, ///< "[various]"
     };
@@ -47,6 +46,17 @@ public:
     /// Appends the translated "[various]" and remembers it, but only once.
     void AddVarious();
 
+    /// Removes "[various]" if the list has it. It must not be selected.
+    void RemoveVarious();
+
+    /// The text of the item with that data, and its description.
+    struct ItemTexts {
+        QString text;
+        QString description;
+    };
+    /// Draws and translates all items again; they stay where they are. customText: of Special::Custom.
+    void Redraw(const std::function<ItemTexts(qint32 data)>& texts, const QString& customText);
+
     /// Remembers the last item as the given special item.
     void RememberLast(Special item);
     /// The index, -1 when the list has no such item.
@@ -62,11 +72,8 @@ public:
     /// The index of the first item with that data, -1 when there is none.
     int Find(qint32 data) const;
 
-    /// The data of the items that were added to the standard ones, before the custom item.
-    std::vector<qint32> AddedData() const;
-
 private:
-    static constexpr size_t specialCount = 3;
+    static constexpr size_t specialCount = 2;
 
     OvCombo& m_combo;
     std::array<int, specialCount> m_remembered;

@@ -150,7 +150,6 @@ TEST_F(ColourPickerTest, AnInsertedColourMovesEveryRememberedIndexBehindIt)
 {
     line.SetColourSelection(Value::Null());
     line.AddColourItem(orange, 3);
-    EXPECT_EQ(line.List().IndexOf(Special::LastStandard), 15);
     EXPECT_EQ(line.List().IndexOf(Special::Custom), 16);
     EXPECT_EQ(line.List().IndexOf(Special::Various), 17);
     EXPECT_TRUE(line.GetSelectedColour().IsNull());
@@ -175,6 +174,35 @@ TEST_F(ColourPickerTest, RebuildingKeepsWhatWasAddedAndSelected)
     EXPECT_EQ(lineList.ItemData(15), orange);
     EXPECT_EQ(line.List().IndexOf(Special::Custom), 16);
     EXPECT_EQ(lineList.ListIndex(), line.List().IndexOf(Special::Various));
+}
+
+TEST_F(ColourPickerTest, AColourBeforeTheStandardOnesStaysWhenTheListIsResized)
+{
+    line.AddColourItem(orange, 0);
+    line.SetColourSelection(orange);
+    lineList.resize(200, 21);
+    EXPECT_EQ(lineList.ItemData(0), orange);
+    EXPECT_EQ(lineList.ItemData(1), 0);
+    EXPECT_EQ(lineList.ListCount(), 17);
+    EXPECT_EQ(lineList.ListIndex(), 0);
+}
+
+TEST_F(ColourPickerTest, OffersVariousOnlyWhileTheLayersDiffer)
+{
+    line.SetColourSelection(Value::Null());
+    EXPECT_EQ(lineList.ListCount(), 17);
+    line.SetColourSelection(0);
+    EXPECT_EQ(lineList.ListCount(), 16);
+    EXPECT_EQ(line.List().IndexOf(Special::Various), -1);
+    EXPECT_EQ(line.List().IndexOf(Special::Custom), customOfLine);
+}
+
+TEST_F(ColourPickerTest, AnEditLeavesTheLayersOwnColourAsItIs)
+{
+    line.SetColourSelection(Value::Null());
+    line.ShowEdit(0xFF0000);
+    EXPECT_THAT(line.GetSelectedColour(), IsValue(0xFF0000));
+    EXPECT_GE(line.List().IndexOf(Special::Various), 0);
 }
 
 TEST_F(ColourPickerTest, RebuildingTellsNobody)
@@ -258,7 +286,7 @@ TEST_F(ColourPickerTest, CancellingTheColourDialogKeepsVarious)
 TEST_F(ColourPickerTest, KeysStepOverTheCustomItemWithoutOpeningTheDialog)
 {
     line.SetColourSelection(Value::Null());
-    line.SetColourSelection(0x008080);
+    line.ShowEdit(0x008080);
     const ColourDialogRobot user(ColourDialogRobot::Cancel());
     Key(lineList, Qt::Key_Down);
     EXPECT_EQ(lineList.ListIndex(), 16);

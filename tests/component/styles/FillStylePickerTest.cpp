@@ -159,10 +159,18 @@ TEST_F(FillStylePickerTest, PaintingWithoutAHostRaisesNothing)
     EXPECT_NO_THROW(PaintedItem(3));
 }
 
-TEST_F(FillStylePickerTest, RebuildingKeepsTheSelection)
+TEST_F(FillStylePickerTest, OffersVariousOnlyWhileTheLayersDiffer)
 {
     picker.SetFillStyleSelection(Value::Null());
     picker.SetFillStyleSelection(7);
+    EXPECT_EQ(list.ListCount(), 32);
+    EXPECT_EQ(picker.List().IndexOf(Special::Various), -1);
+}
+
+TEST_F(FillStylePickerTest, RebuildingKeepsTheSelection)
+{
+    picker.SetFillStyleSelection(Value::Null());
+    picker.ShowEdit(7);
     picker.Rebuild();
     EXPECT_EQ(list.ListCount(), 33);
     EXPECT_THAT(picker.GetSelectedFillStyle(), IsValue(7));

@@ -63,7 +63,6 @@ protected:
 TEST_F(LineStylePickerTest, OffersTheStandardLinesInTheirOrder)
 {
     EXPECT_THAT(DataOf(list), ElementsAre(15, 0, 1, 2, 3, 4, -40, -60, -80, -100, 0));
-    EXPECT_EQ(picker.List().IndexOf(Special::LastStandard), 9);
     EXPECT_EQ(picker.List().IndexOf(Special::Custom), customIndex);
     EXPECT_EQ(picker.List().IndexOf(Special::Various), -1);
     EXPECT_EQ(list.List(customIndex), "~FCMS Sans Serif,8,.Custom Line Style...");
@@ -84,6 +83,25 @@ TEST_F(LineStylePickerTest, DrawsAllLinesAnewWhenTheListIsResized)
     list.resize(182, 21);
     EXPECT_EQ(list.List(3), "~DRP=0/2/0/:M0,7:D160,+0.");
     ExpectLine(0, -8);
+}
+
+TEST_F(LineStylePickerTest, AWidthBeforeTheStandardLinesStaysWhenTheListIsResized)
+{
+    picker.AddLineStyleItem(0, -9, 0);
+    picker.SetLineStyleSelection(0, -9);
+    list.resize(182, 21);
+    EXPECT_EQ(list.ItemData(0), -180);
+    EXPECT_EQ(list.ListCount(), 12);
+    ExpectLine(0, -9);
+}
+
+TEST_F(LineStylePickerTest, OffersVariousOnlyWhileTheLayersDiffer)
+{
+    picker.SetLineStyleSelection(Value::Null(), Value::Null());
+    EXPECT_GE(picker.List().IndexOf(Special::Various), 0);
+    picker.SetLineStyleSelection(0, -3);
+    EXPECT_EQ(picker.List().IndexOf(Special::Various), -1);
+    EXPECT_EQ(list.ListCount(), 11);
 }
 
 TEST_F(LineStylePickerTest, SelectsTheLineOfTheLayer)
@@ -145,7 +163,6 @@ TEST_F(LineStylePickerTest, AnInsertedLineMovesEveryRememberedIndexBehindIt)
 {
     picker.SetLineStyleSelection(Value::Null(), Value::Null());
     picker.AddLineStyleItem(0, -9, 0);
-    EXPECT_EQ(picker.List().IndexOf(Special::LastStandard), 10);
     EXPECT_EQ(picker.List().IndexOf(Special::Custom), 11);
     EXPECT_EQ(picker.List().IndexOf(Special::Various), 12);
     ExpectVarious();
@@ -231,7 +248,7 @@ TEST_F(LineStylePickerTest, RebuildingKeepsWhatWasAddedAndSelected)
 {
     picker.SetLineStyleSelection(7, 0);
     picker.SetLineStyleSelection(Value::Null(), Value::Null());
-    picker.SetLineStyleSelection(0, 2);
+    picker.ShowEdit(0, 2);
     picker.Rebuild();
     EXPECT_EQ(list.ListCount(), 14);
     ExpectLine(0, 2);
