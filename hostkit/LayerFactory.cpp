@@ -102,7 +102,6 @@ qint32 LayerFactory::Insert(const QString& name)
     layer.Set("Code", LayerRow::LowestFreeCode(m_database));
     layer.Set("FillBackColor", TransparentColour);
     layer.Set("FillStyle", HollowFill);
-    layer.Set("MaxVisScale", StoredScale::NoMaximum);
     layer.Set("Priority", DefaultPriority);
     return layer.StoreNew(m_database);
 }

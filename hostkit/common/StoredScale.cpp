@@ -9,20 +9,14 @@ namespace Orvane::StoredScale {
 
 qint32 ToIndex(double stored, const IShellServices& services)
 {
-    if (!(stored > NoMinimum))
-        return ScaleTable::FirstIndex - 1;
-    if (stored >= NoMaximum)
-        return ScaleTable::LastIndex + 1;
-    return services.IndexFromScale(stored);
+    const bool isLimit = stored > NoLimit && stored < BeyondAllScales; // false for NaN
+    return isLimit ? services.IndexFromScale(stored) : ScaleTable::FirstIndex - 1;
 }
 
 double FromIndex(qint32 index, const IShellServices& services)
 {
-    if (index < ScaleTable::FirstIndex)
-        return NoMinimum;
-    if (index > ScaleTable::LastIndex)
-        return NoMaximum;
-    return services.ScaleFromIndex(index);
+    const bool isLimit = index >= ScaleTable::FirstIndex && index <= ScaleTable::LastIndex;
+    return isLimit ? services.ScaleFromIndex(index) : NoLimit;
 }
 
 } // namespace Orvane::StoredScale

@@ -8,19 +8,19 @@ namespace Orvane {
 class IShellServices;
 
 /// How the columns MinVisScale and MaxVisScale keep a scale: as its denominator. 0 means no limit, in either
-/// column.
+/// column; older maps also hold numbers beyond any map scale.
 namespace StoredScale {
 
-/// Stored where there is no lower limit (scale index 0).
-inline constexpr double NoMinimum = 0;
-/// Stored where there is no upper limit (scale index 256); beyond any map scale, but still a 32-bit integer.
-inline constexpr double NoMaximum = 2'000'000'000;
+/// Stored where there is no limit.
+inline constexpr double NoLimit = 0;
+/// From here on, a stored scale means no limit: it is beyond any map scale.
+inline constexpr double BeyondAllScales = 2'000'000'000;
 
-/// The scale index, 0 to 256, of a stored scale: 0 for NoMinimum and less, 256 for NoMaximum and more,
-/// otherwise the nearest index in the services' scales. The inverse of FromIndex.
+/// The scale index of a stored scale: 0 for no limit, otherwise the nearest of 1 to 255 in the services'
+/// scales. The inverse of FromIndex.
 qint32 ToIndex(double stored, const IShellServices& services);
 
-/// The value to store for a scale index; below 1 there is no lower limit, above 255 no upper limit.
+/// The value to store for a scale index; 0 and less, and 256 and more, mean no limit.
 double FromIndex(qint32 index, const IShellServices& services);
 
 } // namespace StoredScale

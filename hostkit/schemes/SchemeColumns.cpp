@@ -22,8 +22,7 @@ QString Joined(const QString& form, const QString& separator)
     return pieces.join(separator);
 }
 
-// The expression to compare for a column. Both stored forms of "no limit" count as equal, because applying
-// turns one into the other.
+// The expression to compare for a column. Both stored forms of "no limit" count as equal.
 QString Compared(const char* table, const LayerColumn& column)
 {
     QString value = QLatin1String(table) + QLatin1String(column.name);
@@ -31,7 +30,7 @@ QString Compared(const char* table, const LayerColumn& column)
         return value;
     return QStringLiteral("CASE WHEN %1 >= %2 THEN 0 ELSE %1 END")
         .arg(value)
-        .arg(qint64(StoredScale::NoMaximum));
+        .arg(qint64(StoredScale::BeyondAllScales));
 }
 
 } // namespace

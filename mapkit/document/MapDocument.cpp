@@ -179,7 +179,7 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
     row.Set("FillStyle", layer.values.fillStyle);
     row.Set("LineThickness", layer.values.lineThickness);
     row.Set("MinVisScale", layer.minDenominator);
-    row.Set("MaxVisScale", layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoMaximum);
+    row.Set("MaxVisScale", layer.maxDenominator > 0 ? layer.maxDenominator : StoredScale::NoLimit);
     row.Set("Priority", layer.priority);
     row.Set("Style", layer.values.style);
     Transaction transaction(*m_database);

@@ -177,7 +177,7 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
     layer.mode = ModeOfRow(row);
     layer.priority = WholeOr(row, "Priority", MaximumPriority);
     const double minimum = NumberOr(row, "MinVisScale", 0);
-    layer.minDenominator = minimum < StoredScale::NoMaximum ? minimum : 0; // beyond every scale: no limit
+    layer.minDenominator = minimum < StoredScale::BeyondAllScales ? minimum : StoredScale::NoLimit;
     const double limit = NumberOr(row, "MaxVisScale", 0);
     if (limit > 0)
         layer.maxDenominator = limit;

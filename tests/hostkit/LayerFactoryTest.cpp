@@ -27,7 +27,7 @@ TEST_F(Factory, ANewLayerIsVisibleEditableAndDrawnAtEveryScale)
     EXPECT_THAT(Get(layerID, "FillStyle"), IsNumber(15));
     EXPECT_THAT(Get(layerID, "FillBackColor"), IsNumber(qint32(0xFF000000)));
     EXPECT_THAT(Get(layerID, "MinVisScale"), IsNumber(0));
-    EXPECT_THAT(Get(layerID, "MaxVisScale"), IsNumber(2'000'000'000));
+    EXPECT_THAT(Get(layerID, "MaxVisScale"), IsNumber(0));
 }
 
 TEST_F(Factory, ANewLayersIDIsAboveAllOthers)

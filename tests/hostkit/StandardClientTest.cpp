@@ -82,8 +82,9 @@ TEST_F(Client, SeeksAndEditsLayersThroughItsTable)
 
 TEST_F(Client, ConvertsScalesThereAndBack)
 {
-    for (qint32 index = 0; index <= 256; ++index)
+    for (qint32 index = 0; index < 256; ++index)
         EXPECT_EQ(Host().StoredScaleToDialog(Host().DialogScaleToStored(index)), index);
+    EXPECT_EQ(Host().StoredScaleToDialog(Host().DialogScaleToStored(256)), 0) << "no limit, as 0 is";
 }
 
 TEST_F(Client, TellsAllChangedLayersOnceAtTheRedraw)

@@ -13,7 +13,7 @@ namespace {
 TEST(StoredScale, TheTwoConversionsAreInverseForAllIndexes)
 {
     const StandardShellServices services;
-    for (qint32 index = 0; index <= 256; ++index)
+    for (qint32 index = 0; index < 256; ++index)
         EXPECT_EQ(StoredScale::ToIndex(StoredScale::FromIndex(index, services), services), index);
 }
 
@@ -26,12 +26,14 @@ TEST(StoredScale, EveryStoredScaleSurvivesStorageAsAWholeThirtyTwoBitNumber)
     }
 }
 
-TEST(StoredScale, NoLimitIsZeroBelowAndBeyondAnyMapAbove)
+TEST(StoredScale, NoLimitIsStoredInOneWayAndReadInBoth)
 {
     const StandardShellServices services;
     EXPECT_EQ(StoredScale::FromIndex(0, services), 0);
-    EXPECT_EQ(StoredScale::FromIndex(256, services), StoredScale::NoMaximum);
-    EXPECT_GT(StoredScale::NoMaximum, services.ScaleFromIndex(255));
+    EXPECT_EQ(StoredScale::FromIndex(256, services), 0);
+    EXPECT_EQ(StoredScale::ToIndex(0, services), 0);
+    EXPECT_EQ(StoredScale::ToIndex(2'000'000'000, services), 0);
+    EXPECT_GT(StoredScale::BeyondAllScales, services.ScaleFromIndex(255));
 }
 
 TEST(StoredScale, StoredNonsenseReadsAsNoLimit)
@@ -39,14 +41,14 @@ TEST(StoredScale, StoredNonsenseReadsAsNoLimit)
     const StandardShellServices services;
     EXPECT_EQ(StoredScale::ToIndex(-1, services), 0);
     EXPECT_EQ(StoredScale::ToIndex(std::numeric_limits<double>::quiet_NaN(), services), 0);
-    EXPECT_EQ(StoredScale::ToIndex(1e300, services), 256);
+    EXPECT_EQ(StoredScale::ToIndex(1e300, services), 0);
 }
 
 TEST(StoredScale, AnIndexOutsideTheDialogsRangeIsNoLimit)
 {
     const StandardShellServices services;
-    EXPECT_EQ(StoredScale::FromIndex(-7, services), StoredScale::NoMinimum);
-    EXPECT_EQ(StoredScale::FromIndex(1000, services), StoredScale::NoMaximum);
+    EXPECT_EQ(StoredScale::FromIndex(-7, services), StoredScale::NoLimit);
+    EXPECT_EQ(StoredScale::FromIndex(1000, services), StoredScale::NoLimit);
 }
 
 } // namespace
