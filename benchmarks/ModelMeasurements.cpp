@@ -56,7 +56,7 @@ Run Apply(const QString& path, const JobSize& size)
     return [host, style, group = GroupOf(size.members), visible = false]() mutable {
         visible = !visible;
         style.lsSet(Slot::Visible, visible);
-        ApplyGroupStyle(host->client, group, style, 1, [] { return Value(1); });
+        ApplyGroupStyle(host->client, group, {style, 1, [] { return Value(1); }});
         host->client.RedrawMap();
     };
 }

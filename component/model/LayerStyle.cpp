@@ -16,6 +16,16 @@ std::size_t Checked(qint16 index)
 
 } // namespace
 
+const char* ColumnOf(qint16 slot)
+{
+    static constexpr std::array<const char*, LayerStyle::SlotCount> columns{
+        "Name",          "Code",         "Visible",      "Selectable", "locked",
+        "Hitable",       "SnapRequired", "Enquirable",   "Color",      "FillForeColor",
+        "FillBackColor", "Color",        "OutlineStyle", "FillStyle",  "LineThickness",
+        "MinVisScale",   "MaxVisScale",  "Style",        "Priority"};
+    return columns[Checked(slot)];
+}
+
 LayerStyle::LayerStyle()
 {
     m_values.fill(Value::Null());

@@ -50,6 +50,9 @@ inline constexpr std::array FlagColumns{
     SlotColumn{Slot::Enquirable, "Enquirable"},
 };
 
+/// The name of the column of Layers that a slot is stored in.
+const char* ColumnOf(qint16 slot);
+
 /// The editable properties of one layer, or what several layers have in common. A Null slot means "not known"
 /// in a new record and "various" in a combined one.
 class LayerStyle

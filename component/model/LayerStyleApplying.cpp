@@ -5,7 +5,6 @@
 #include "component/model/LayerColour.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerQueries.h"
-#include "component/model/LayerStyle.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -18,14 +17,14 @@ namespace {
 void WriteFlag(IRecordset& row, std::string_view columnName, const Value& flag)
 {
     if (!flag.IsNull())
-        row.SetField(columnName, ToBoolean(flag));
+        row.SetField(columnName, ConvertedFor(row, columnName, flag, ToBoolean));
 }
 
 void WriteNumber(IRecordset& row, std::string_view columnName, const Value& number)
 {
     if (number.IsNull())
         return;
-    ToDouble(number); // a text in a number column would later be read as another value
+    ConvertedFor(row, columnName, number, ToDouble); // a text would later be read as another value
     row.SetField(columnName, number);
 }
 
@@ -57,32 +56,54 @@ void WriteColour(IRecordset& row, const Value& colour, const Value& useForSymbol
     row.SetField(
         "Color",
         JoinColour(
-            colour.IsNull() ? current : ToInt32(colour),
-            useForSymbols.IsNull() ? UsesForSymbols(current) : ToBoolean(useForSymbols)));
+            colour.IsNull() ? current : ConvertedFor(row, "Color", colour, ToInt32),
+            useForSymbols.IsNull() ? UsesForSymbols(current)
+                                   : ConvertedFor(row, "Color", useForSymbols, ToBoolean)));
 }
 
-// The minimum is stored as the host converts it, the maximum as a whole number: hosts rely on both.
-void WriteScales(IRecordset& row, const IStyleEditorClient& client, const LayerStyle& style)
+// An index stands for many scales: one that the user did not touch was not meant to change.
+bool KeepsScale(
+    const IRecordset& row, std::string_view columnName, const StyleEdits& edits, qint16 slot, double scale)
 {
-    if (const Value minimum = style.lsGet(Slot::MinVisScale); !minimum.IsNull())
-        row.SetField("MinVisScale", client.DialogScaleToStored(ToInt32(minimum)));
-    if (const Value maximum = style.lsGet(Slot::MaxVisScale); !maximum.IsNull())
-        row.SetField("MaxVisScale", ToInt32(client.DialogScaleToStored(ToInt32(maximum))));
+    if (!edits.asRead.Compare(slot, edits.style.lsGet(slot)))
+        return false;
+    const Value stored = row.Field(columnName);
+    return stored.IsNumber() && ToDouble(stored) != scale;
 }
 
-void WriteRendererStyle(IRecordset& row, const LayerStyle& style, const SelectedRendererStyle& selectedStyle)
+void WriteMinimum(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
 {
-    if (style.lsIsNull(Slot::RendererStyle))
+    const Value minimum = edits.style.lsGet(Slot::MinVisScale);
+    if (minimum.IsNull())
         return;
-    if (const Value number = selectedStyle(); !number.IsNull())
-        row.SetField("Style", ToInt32(number));
+    const double scale = client.DialogScaleToStored(ToInt32(minimum));
+    if (!KeepsScale(row, "MinVisScale", edits, Slot::MinVisScale, scale))
+        row.SetField("MinVisScale", scale);
 }
 
-void WriteRow(
-    IRecordset& row, const IStyleEditorClient& client, const LayerStyle& style, qint16 quickMode,
-    const SelectedRendererStyle& selectedStyle)
+void WriteMaximum(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
 {
-    WriteQuickMode(row, quickMode);
+    const Value maximum = edits.style.lsGet(Slot::MaxVisScale);
+    if (maximum.IsNull())
+        return;
+    const Value scale = client.DialogScaleToStored(ToInt32(maximum));
+    const qint32 whole = ConvertedFor(row, "MaxVisScale", scale, ToInt32);
+    if (!KeepsScale(row, "MaxVisScale", edits, Slot::MaxVisScale, whole))
+        row.SetField("MaxVisScale", whole);
+}
+
+void WriteRendererStyle(IRecordset& row, const StyleEdits& edits)
+{
+    if (edits.style.lsIsNull(Slot::RendererStyle))
+        return;
+    if (const Value number = edits.selectedStyle(); !number.IsNull())
+        row.SetField("Style", ConvertedFor(row, "Style", number, ToInt32));
+}
+
+void WriteRow(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
+{
+    const LayerStyle& style = edits.style;
+    WriteQuickMode(row, edits.quickMode);
     WriteFlags(row, style);
     WriteNumber(row, "FillForeColor", style.lsGet(Slot::FillForeColour));
     WriteNumber(row, "FillBackColor", style.lsGet(Slot::FillBackColour));
@@ -90,42 +111,38 @@ void WriteRow(
     WriteNumber(row, "OutlineStyle", style.lsGet(Slot::OutlineStyle));
     WriteNumber(row, "FillStyle", style.lsGet(Slot::FillStyle));
     WriteNumber(row, "LineThickness", style.lsGet(Slot::LineThickness));
-    WriteScales(row, client, style);
+    // The minimum is stored as the host converts it, the maximum as a whole number: hosts rely on both.
+    WriteMinimum(row, client, edits);
+    WriteMaximum(row, client, edits);
     WriteNumber(row, "Priority", style.lsGet(Slot::DrawPriority));
-    WriteRendererStyle(row, style, selectedStyle);
+    WriteRendererStyle(row, edits);
 }
 
-void ApplyTo(
-    IRecordset& layers, IStyleEditorClient& client, qint32 layerID, const LayerStyle& style, qint16 quickMode,
-    const SelectedRendererStyle& selectedStyle)
+void ApplyTo(IRecordset& layers, IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits)
 {
     if (!SeekID(layers, layerID))
         return;
     client.BeginLayerEdit(layers);
-    WriteRow(layers, client, style, quickMode, selectedStyle);
+    WriteRow(layers, client, edits);
     client.LayerChanged(IntegerColumn(layers, "LayerID"));
     layers.Update();
 }
 
 } // namespace
 
-void ApplyLayerStyle(
-    IStyleEditorClient& client, qint32 layerID, const LayerStyle& style, qint16 quickMode,
-    const SelectedRendererStyle& selectedStyle)
+void ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits)
 {
-    ApplyTo(*OpenLayersByID(client), client, layerID, style, quickMode, selectedStyle);
+    ApplyTo(*OpenLayersByID(client), client, layerID, edits);
 }
 
-void ApplyGroupStyle(
-    IStyleEditorClient& client, qint32 groupID, const LayerStyle& style, qint16 quickMode,
-    const SelectedRendererStyle& selectedStyle)
+void ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
 {
     Transaction transaction(client.Database());
     const std::vector<qint32> layerIDs = ReadMemberLayerIDs(client, groupID);
     {
         const auto layers = OpenLayersByID(client);
         for (const qint32 layerID : layerIDs)
-            ApplyTo(*layers, client, layerID, style, quickMode, selectedStyle);
+            ApplyTo(*layers, client, layerID, edits);
     }
     transaction.Commit();
 }

@@ -10,6 +10,12 @@
 
 namespace Orvane {
 
+/// A layer and its quick mode: 1, 2 or 4.
+struct LayerMode {
+    qint32 layerID = 0;
+    qint16 quickMode = QuickMode::Normal;
+};
+
 /// A layer as a tree lists it.
 struct LayerEntry {
     qint32 layerID = 0;

@@ -54,11 +54,11 @@ std::vector<SlotControl> FlagEditor::Controls() const
     return controls;
 }
 
-void FlagEditor::Show(const LayerStyle& record)
+void FlagEditor::Show(const LayerStyle& record, const LayerStyle& shown)
 {
     for (const Flag& flag : m_flags) {
         flag.box->setCycleMode(record.lsIsNull(flag.slot) ? ThreeStateCycle : TwoStateCycle);
-        flag.box->setValue(StateOf(record.lsGet(flag.slot)));
+        flag.box->setValue(StateOf(shown.lsGet(flag.slot)));
         NotifyChanged(flag.box);
     }
     EnableDependents();

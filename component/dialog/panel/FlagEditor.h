@@ -32,7 +32,7 @@ public:
     explicit FlagEditor(const std::vector<Flag>& flags);
 
     std::vector<SlotControl> Controls() const override;
-    void Show(const LayerStyle& record) override;
+    void Show(const LayerStyle& record, const LayerStyle& shown) override;
     void Read(LayerStyle& style) const override;
 
 private:

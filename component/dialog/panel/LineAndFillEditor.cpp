@@ -24,6 +24,11 @@ qint16 ColourSlot(int index)
     return qint16(Slot::LineColour + index);
 }
 
+bool Differs(const LayerStyle& record, const LayerStyle& shown, qint16 slot)
+{
+    return !record.Compare(slot, shown.lsGet(slot));
+}
+
 } // namespace
 
 LineAndFillEditor::LineAndFillEditor(const Rows& rows, const QString& stylePrefix)
@@ -51,7 +56,20 @@ void LineAndFillEditor::Fill()
     m_pickers.Build();
 }
 
-void LineAndFillEditor::Show(const LayerStyle& record)
+void LineAndFillEditor::Show(const LayerStyle& record, const LayerStyle& shown)
+{
+    ShowRecord(record);
+    for (int index = 0; index < StylePickers::ColourCount; ++index) {
+        if (Differs(record, shown, ColourSlot(index)))
+            m_pickers.Colour(index).ShowEdit(shown.lsGet(ColourSlot(index)));
+    }
+    if (Differs(record, shown, Slot::FillStyle))
+        m_pickers.FillStyles().ShowEdit(shown.lsGet(Slot::FillStyle));
+    if (Differs(record, shown, Slot::OutlineStyle) || Differs(record, shown, Slot::LineThickness))
+        m_pickers.LineStyles().ShowEdit(shown.lsGet(Slot::OutlineStyle), shown.lsGet(Slot::LineThickness));
+}
+
+void LineAndFillEditor::ShowRecord(const LayerStyle& record)
 {
     for (int index = 0; index < StylePickers::ColourCount; ++index)
         m_pickers.Colour(index).SetColourSelection(record.lsGet(ColourSlot(index)));

@@ -37,7 +37,7 @@ public:
 
     std::vector<SlotControl> Controls() const override;
     void Fill() override;
-    void Show(const LayerStyle& record) override;
+    void Show(const LayerStyle& record, const LayerStyle& shown) override;
     void Read(LayerStyle& style) const override;
     void Retranslate() override;
 
@@ -45,6 +45,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void ShowRecord(const LayerStyle& record);
+
     Rows m_rows;
     StylePickers m_pickers;
 };

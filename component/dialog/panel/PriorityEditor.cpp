@@ -22,10 +22,11 @@ std::vector<SlotControl> PriorityEditor::Controls() const
     return {{Slot::DrawPriority, m_widgets.lblPriority, m_widgets.cmdEditPriority}};
 }
 
-void PriorityEditor::Show(const LayerStyle& record)
+void PriorityEditor::Show(const LayerStyle& record, const LayerStyle& shown)
 {
     m_differs = record.lsIsNull(Slot::DrawPriority);
-    m_priority.Set(record.lsGet(Slot::DrawPriority));
+    m_priority.Set(shown.lsGet(Slot::DrawPriority));
+    m_priority.Read(); // what cannot be read back could be neither edited nor applied
 }
 
 void PriorityEditor::Read(LayerStyle& style) const

@@ -41,9 +41,10 @@ public:
     /// Fills the lists that do not depend on the selection; at initialisation, and again if that failed.
     virtual void Fill() { }
 
-    /// Shows the record's values in the controls; a Null slot as "various". Each control that is set is
-    /// reported as changed.
-    virtual void Show(const LayerStyle& record) = 0;
+    /// Shows values in the controls; a Null slot as "various". record: what is stored, which says whether
+    /// "various" can be chosen. shown: the values to show, those of the record or edits of it. Each control
+    /// that is set is reported as changed.
+    virtual void Show(const LayerStyle& record, const LayerStyle& shown) = 0;
 
     /// Reads what the controls show into the slots of this editor. Raises 13 (type mismatch) for a text that
     /// cannot be read.

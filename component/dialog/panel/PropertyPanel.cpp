@@ -22,6 +22,11 @@ void Underline(QWidget& control, bool underlined)
     control.setFont(mark);
 }
 
+bool IsAboutTheValue(const RunTimeError& error)
+{
+    return error.Number() == int(ErrorNumber::Overflow) || error.Number() == int(ErrorNumber::TypeMismatch);
+}
+
 } // namespace
 
 PropertyPanel::PropertyPanel(QObject* parent) : QObject(parent)
@@ -61,20 +66,94 @@ void PropertyPanel::Prepare()
     }
 }
 
-void PropertyPanel::Show(const LayerStyle& record)
+std::optional<PropertyPanel::Fault> PropertyPanel::Show(const LayerStyle& record)
+{
+    const std::optional<Fault> fault = ShowAll(record, record);
+    ClearMarks();
+    return fault;
+}
+
+std::optional<PropertyPanel::Fault> PropertyPanel::Follow(const LayerStyle& record)
+{
+    LayerStyle controls;
+    ReadPanelStyle(controls);
+    LayerStyle shown = record;
+    for (const auto& editor : m_editors) {
+        for (const SlotControl& entry : editor->Controls()) {
+            if (m_marked.contains(entry.control))
+                shown.lsSet(entry.slot, controls.lsGet(entry.slot));
+        }
+    }
+    return ShowAll(record, shown);
+}
+
+std::optional<PropertyPanel::Fault> PropertyPanel::ShowAll(const LayerStyle& record, const LayerStyle& shown)
 {
     // A maximum scale of 256 reads back as 0, so marks are not reliable while values are being shown.
     const QScopedValueRollback showing(m_showing, true);
     m_record = record;
+    LayerStyle values = shown;
+    std::optional<Fault> fault;
     for (const auto& editor : m_editors)
-        editor->Show(m_record);
-    ClearMarks();
+        ShowIn(*editor, values, fault);
+    return fault;
+}
+
+void PropertyPanel::ShowIn(PropertyEditor& editor, LayerStyle& shown, std::optional<Fault>& fault)
+{
+    try {
+        editor.Show(m_record, shown);
+    } catch (const RunTimeError& error) {
+        if (!IsAboutTheValue(error))
+            throw;
+        ShowWhatFits(editor, shown, fault);
+    }
+}
+
+// Which value did not fit is found by showing one more each time.
+void PropertyPanel::ShowWhatFits(PropertyEditor& editor, LayerStyle& shown, std::optional<Fault>& fault)
+{
+    const LayerStyle record = m_record;
+    const LayerStyle wanted = shown;
+    const std::vector<SlotControl> controls = editor.Controls();
+    for (const SlotControl& entry : controls) {
+        m_record.lsSet(entry.slot, Value::Null());
+        shown.lsSet(entry.slot, Value::Null());
+    }
+    for (const SlotControl& entry : controls) {
+        m_record.lsSet(entry.slot, record.lsGet(entry.slot));
+        shown.lsSet(entry.slot, wanted.lsGet(entry.slot));
+        try {
+            editor.Show(m_record, shown);
+        } catch (const RunTimeError& error) {
+            if (!IsAboutTheValue(error))
+                throw;
+            if (!fault)
+                fault = Fault{entry.slot, record.lsGet(entry.slot), error};
+            m_record.lsSet(entry.slot, Value::Null());
+            shown.lsSet(entry.slot, Value::Null());
+        }
+    }
+    editor.Show(m_record, shown);
 }
 
 void PropertyPanel::ReadPanelStyle(LayerStyle& style) const
 {
     for (const auto& editor : m_editors)
         editor->Read(style);
+}
+
+void PropertyPanel::ReadEdits(LayerStyle& style) const
+{
+    ReadPanelStyle(style);
+    for (const auto& editor : m_editors) {
+        for (const SlotControl& entry : editor->Controls()) {
+            const bool isKept
+                = m_marked.contains(entry.control) || m_record.Compare(entry.slot, style.lsGet(entry.slot));
+            if (!isKept)
+                style.lsSet(entry.slot, Value::Null());
+        }
+    }
 }
 
 bool PropertyPanel::ControlValueChanged(const QWidget* control) const

@@ -4,11 +4,14 @@
 #include "component/dialog/panel/PropertyEditor.h"
 #include "component/model/LayerStyle.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QHash>
 #include <QObject>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QWidget;
@@ -43,13 +46,34 @@ public:
     /// Writes each control's slot number into its Tag.
     void Prepare();
 
-    /// Shows the record and clears all marks. If it raises, some controls may still show the old record: then
-    /// show another one.
-    void Show(const LayerStyle& record);
+    /// A value of the record that no control can show.
+    struct Fault {
+        qint16 slot;
+        Value value;
+        RunTimeError error;
+    };
+
+    /// Shows the record and clears all marks. A value that does not fit its control (6, 13) is shown as
+    /// "various", so that it can be replaced; returns the first one. Anything else that an editor raises is
+    /// passed on: some controls may then still show the old record, so show another one.
+    std::optional<Fault> Show(const LayerStyle& record);
+
+    /// As Show, but controls that are marked keep the user's values.
+    std::optional<Fault> Follow(const LayerStyle& record);
 
     /// Reads what the controls show into the style; Null for "various". Slots without a control are
     /// unchanged.
     void ReadPanelStyle(LayerStyle& style) const;
+
+    /// The record that was shown last, with Null for what could not be shown.
+    const LayerStyle& Record() const { return m_record; }
+
+    /// As ReadPanelStyle, for storing: Null also for a value that the user did not touch and that its control
+    /// would give back changed, such as a fill style that is not in the list.
+    void ReadEdits(LayerStyle& style) const;
+
+    /// True if the control is marked as changed.
+    bool IsMarked(QWidget* control) const { return m_marked.contains(control); }
 
     /// True if the control shows a value other than the record's for the slot in its Tag.
     bool ControlValueChanged(const QWidget* control) const;
@@ -68,6 +92,9 @@ signals:
     void Edited();
 
 private:
+    std::optional<Fault> ShowAll(const LayerStyle& record, const LayerStyle& shown);
+    void ShowIn(PropertyEditor& editor, LayerStyle& shown, std::optional<Fault>& fault);
+    void ShowWhatFits(PropertyEditor& editor, LayerStyle& shown, std::optional<Fault>& fault);
     void ClearMarks();
     void Speak(QWidget& control) const;
 

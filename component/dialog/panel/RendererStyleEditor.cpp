@@ -40,9 +40,9 @@ std::vector<SlotControl> RendererStyleEditor::Controls() const
     return {{Slot::RendererStyle, &m_list}};
 }
 
-void RendererStyleEditor::Show(const LayerStyle& record)
+void RendererStyleEditor::Show(const LayerStyle&, const LayerStyle& shown)
 {
-    const Value style = record.lsGet(Slot::RendererStyle);
+    const Value style = shown.lsGet(Slot::RendererStyle);
     m_showsVarious = style.IsNull();
     // Never empty: without a placeholder Qt would select the first entry if none was selected.
     m_list.setPlaceholderText(m_showsVarious ? TranslateMsg("various") : ToText(style));

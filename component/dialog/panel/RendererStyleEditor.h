@@ -30,7 +30,7 @@ public:
     std::vector<SlotControl> Controls() const override;
     /// Selects the entry with the record's number. Selects none for "various" and for a number that the host
     /// does not know; such a number is shown as it is and stays as it is stored.
-    void Show(const LayerStyle& record) override;
+    void Show(const LayerStyle& record, const LayerStyle& shown) override;
     void Read(LayerStyle& style) const override;
     void Retranslate() override;
 

@@ -41,12 +41,12 @@ std::vector<SlotControl> ScaleRangeEditor::Controls() const
         {Slot::MaxVisScale, m_widgets.lblScaleMax, m_widgets.cmdEditMaxScale}};
 }
 
-void ScaleRangeEditor::Show(const LayerStyle& record)
+void ScaleRangeEditor::Show(const LayerStyle& record, const LayerStyle& shown)
 {
     m_minimumDiffers = record.lsIsNull(Slot::MinVisScale);
     m_maximumDiffers = record.lsIsNull(Slot::MaxVisScale);
-    m_minimum.Set(record.lsGet(Slot::MinVisScale));
-    m_maximum.Set(record.lsGet(Slot::MaxVisScale));
+    m_minimum.Set(shown.lsGet(Slot::MinVisScale));
+    m_maximum.Set(shown.lsGet(Slot::MaxVisScale));
 }
 
 void ScaleRangeEditor::Read(LayerStyle& style) const

@@ -29,7 +29,7 @@ public:
     ScaleRangeEditor(const Widgets& widgets, const IUITranslator& translator, AskSlider ask);
 
     std::vector<SlotControl> Controls() const override;
-    void Show(const LayerStyle& record) override;
+    void Show(const LayerStyle& record, const LayerStyle& shown) override;
     void Read(LayerStyle& style) const override;
     void Retranslate() override;
 

@@ -5,6 +5,7 @@
 #include "component/dialog/trees/NodeIndexes.h"
 #include "component/dialog/trees/NodeNameDelegate.h"
 
+#include <QEvent>
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QTreeView>
@@ -44,6 +45,8 @@ void LayerTreeList::Wire()
     connect(
         m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &LayerTreeList::FollowSelection);
+    connect(m_view, &QTreeView::clicked, this, &LayerTreeList::FollowClick);
+    m_view->viewport()->installEventFilter(this);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         FollowExpansion(index, true);
     });
@@ -210,8 +213,23 @@ void LayerTreeList::FollowSelection()
         return;
     }
     const NodeReference node = NodeIndexes::NodeAt(selected.first());
-    if (!m_current || !IsSameNode(*m_current, node))
-        emit NodeChosen(node);
+    if (m_current && IsSameNode(*m_current, node))
+        return;
+    m_pressChose = true;
+    emit NodeChosen(node);
+}
+
+bool LayerTreeList::eventFilter(QObject*, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        m_pressChose = false; // the view selects after this
+    return false;
+}
+
+void LayerTreeList::FollowClick(const QModelIndex& index)
+{
+    if (!m_pressChose && m_current && IsSameNode(*m_current, NodeIndexes::NodeAt(index)))
+        emit CurrentClicked();
 }
 
 void LayerTreeList::FollowExpansion(const QModelIndex& index, bool expanded)

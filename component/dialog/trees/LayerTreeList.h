@@ -71,10 +71,15 @@ public:
 signals:
     /// The user selected a node other than the current one.
     void NodeChosen(const Orvane::NodeReference& node);
+    /// The user clicked the current node, which was already selected.
+    void CurrentClicked();
     /// The user expanded or collapsed a group.
     void ExpansionChanged(qint32 groupID, bool expanded);
     /// The user gave a node another name; its editor is closed.
     void NameEntered(const Orvane::NodeReference& node, const QString& name);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void SetUpView();
@@ -85,6 +90,7 @@ private:
     void Select(const QModelIndex& index);
     void SelectCurrent();
     void FollowSelection();
+    void FollowClick(const QModelIndex& index);
     void FollowExpansion(const QModelIndex& index, bool expanded);
     void TellName();
 
@@ -100,6 +106,7 @@ private:
     std::optional<NodeReference> m_current;
     LayerTreePlace m_place; ///< of the last nodes; read after they are removed
     bool m_stale = false;
+    bool m_pressChose = false; ///< the last press of the mouse chose another node
     bool m_quiet = false; ///< true while this class changes the view
     bool m_refusing = false; ///< true until the event whose choice was refused is over
 };

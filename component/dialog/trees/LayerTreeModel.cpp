@@ -78,8 +78,8 @@ QModelIndex LayerTreeModel::IndexOf(const NodeReference& node) const
 
 QModelIndex LayerTreeModel::IndexOfLayer(const NodeReference& node) const
 {
-    for (int number : NumbersOf(node.layerID)) {
-        const QModelIndex index = IndexOfNumber(number);
+    for (auto [entry, last] = NumbersOf(node.layerID); entry != last; ++entry) {
+        const QModelIndex index = IndexOfNumber(entry->number);
         if (IsSameNode(Reference(index), node))
             return index;
     }
@@ -112,11 +112,21 @@ QSet<qint32> LayerTreeModel::LayersAmong(const QSet<qint32>& layerIDs) const
 
 void LayerTreeModel::SetQuickMode(const std::vector<qint32>& layerIDs, qint16 quickMode)
 {
+    std::vector<LayerMode> modes;
+    modes.reserve(layerIDs.size());
+    for (qint32 layerID : layerIDs)
+        modes.push_back({layerID, quickMode});
+    SetQuickModes(modes);
+}
+
+void LayerTreeModel::SetQuickModes(const std::vector<LayerMode>& modes)
+{
     std::vector<int> changed;
-    for (qint32 layerID : layerIDs) {
-        for (int number : NumbersOf(layerID)) {
-            if (std::exchange(m_layers[size_t(number)].quickMode, quickMode) != quickMode)
-                changed.push_back(number);
+    for (const LayerMode& mode : modes) {
+        for (auto [entry, last] = NumbersOf(mode.layerID); entry != last; ++entry) {
+            qint16& shown = m_layers[size_t(entry->number)].quickMode;
+            if (std::exchange(shown, mode.quickMode) != mode.quickMode)
+                changed.push_back(entry->number);
         }
     }
     std::sort(changed.begin(), changed.end());
@@ -127,9 +137,9 @@ void LayerTreeModel::SetQuickMode(const std::vector<qint32>& layerIDs, qint16 qu
 void LayerTreeModel::SetLayerText(qint32 layerID, const QString& text)
 {
     std::vector<int> changed;
-    for (int number : NumbersOf(layerID)) {
-        if (std::exchange(m_layers[size_t(number)].text, text) != text)
-            changed.push_back(number);
+    for (auto [entry, last] = NumbersOf(layerID); entry != last; ++entry) {
+        if (std::exchange(m_layers[size_t(entry->number)].text, text) != text)
+            changed.push_back(entry->number);
     }
     ReportLayers(changed);
 }
@@ -277,17 +287,17 @@ const std::vector<LayerTreeModel::LayerNumber>& LayerTreeModel::ByLayerID() cons
     return m_byLayerID;
 }
 
-std::vector<int> LayerTreeModel::NumbersOf(qint32 layerID) const
+std::pair<LayerTreeModel::LayerNumbers, LayerTreeModel::LayerNumbers>
+LayerTreeModel::NumbersOf(qint32 layerID) const
 {
     const std::vector<LayerNumber>& all = ByLayerID();
-    auto entry
+    const auto first
         = std::lower_bound(all.begin(), all.end(), layerID, [](const LayerNumber& left, qint32 wanted) {
               return left.layerID < wanted;
           });
-    std::vector<int> numbers;
-    for (; entry != all.end() && entry->layerID == layerID; ++entry)
-        numbers.push_back(entry->number);
-    return numbers;
+    const auto last = std::find_if(
+        first, all.end(), [layerID](const LayerNumber& each) { return each.layerID != layerID; });
+    return {first, last};
 }
 
 qint16 LayerTreeModel::CommonQuickMode(const GroupNode& group) const

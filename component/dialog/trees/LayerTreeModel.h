@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QSet>
 
+#include <utility>
 #include <vector>
 
 namespace Orvane {
@@ -51,6 +52,8 @@ public:
 
     /// Gives all nodes of these layers the image of the quick mode, and updates the images of their groups.
     void SetQuickMode(const std::vector<qint32>& layerIDs, qint16 quickMode);
+    /// Gives all nodes of each layer the image of its quick mode, and updates the images of their groups.
+    void SetQuickModes(const std::vector<LayerMode>& modes);
     void SetLayerText(qint32 layerID, const QString& text);
     /// Gives the layers these texts, by layer ID, in one command; other layers keep their texts.
     void SetLayerTexts(const QHash<qint32, QString>& texts);
@@ -88,7 +91,8 @@ private:
     const QString& TextAt(const QModelIndex& index) const;
 
     const std::vector<LayerNumber>& ByLayerID() const;
-    std::vector<int> NumbersOf(qint32 layerID) const;
+    using LayerNumbers = std::vector<LayerNumber>::const_iterator;
+    std::pair<LayerNumbers, LayerNumbers> NumbersOf(qint32 layerID) const;
     qint16 CommonQuickMode(const GroupNode& group) const;
     void ReportLayers(const std::vector<int>& numbers);
     void RefreshGroupImages(const std::vector<int>& changedNumbers);

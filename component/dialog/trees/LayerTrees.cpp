@@ -5,6 +5,7 @@
 #include "component/common/EventGuard.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
+#include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTreeGestures.h"
 #include "component/dialog/trees/LayerTreeList.h"
 #include "component/dialog/trees/LayerTreeModel.h"
@@ -29,14 +30,16 @@ namespace {
 std::vector<GroupEntry> ReadGroups()
 {
     const BusyPointer busy;
-    return LoadLayerTree(
-        Client(), std::nullopt, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
+    return WithColumnTexts([] {
+        return LoadLayerTree(
+            Client(), std::nullopt, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
+    });
 }
 
 std::vector<LayerEntry> ReadLayers(const IStyleFilter* filter)
 {
     const BusyPointer busy;
-    return ReloadLayerList(Client(), filter);
+    return WithColumnTexts([filter] { return ReloadLayerList(Client(), filter); });
 }
 
 bool Holds(const std::vector<LayerEntry>& layers, qint32 layerID)
@@ -65,6 +68,10 @@ void LayerTrees::Wire(LayerTreeList& list)
 {
     connect(&list, &LayerTreeList::NodeChosen, this, [this, &list](const NodeReference& node) {
         OnNodeChosen(list, node);
+    });
+    connect(&list, &LayerTreeList::CurrentClicked, this, [this, &list] {
+        if (IsShown(list))
+            GuardAfterEvent(this, &list.View(), [this] { emit CurrentNodeClicked(); });
     });
     connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByUser);
     connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
@@ -194,20 +201,29 @@ QString LayerTrees::CurrentText() const
     return At(m_shown).CurrentText();
 }
 
-// Do not ask a question during an event of the view: the view may be destroyed before the answer.
+// Do not ask a question or show an error during an event of the view: the view may be destroyed meanwhile.
 void LayerTrees::OnNodeChosen(LayerTreeList& list, const NodeReference& node)
 {
     const bool waits = m_isPending && IsShown(list) && list.Current() && m_isPending();
-    const auto connection = waits ? Qt::QueuedConnection : Qt::DirectConnection;
+    if (!waits) {
+        MoveByUser(list, node);
+        return;
+    }
     QMetaObject::invokeMethod(
-        this, [this, &list, node] { MoveByUser(list, node); }, connection);
+        this, [this, &list, node] { MoveByUser(list, node); }, Qt::QueuedConnection);
 }
 
 void LayerTrees::MoveByUser(LayerTreeList& list, const NodeReference& node)
 {
     const QPointer<LayerTrees> self(this);
-    if (!GuardEvent(&list.View(), [&] { MoveTo(list, node); }) && self)
+    try {
+        MoveTo(list, node);
+    } catch (...) {
+        if (!self)
+            return;
         list.RefuseChoice();
+        ReportAfterEvent(this, &list.View(), std::current_exception());
+    }
 }
 
 // Returns false if this object was destroyed.
@@ -238,6 +254,12 @@ void LayerTrees::SetLayerImage(qint32 layerID, qint16 quickMode)
 {
     m_groups->Model().SetQuickMode({layerID}, quickMode);
     m_layers->Model().SetQuickMode({layerID}, quickMode);
+}
+
+void LayerTrees::SetLayerImages(const std::vector<LayerMode>& modes)
+{
+    m_groups->Model().SetQuickModes(modes);
+    m_layers->Model().SetQuickModes(modes);
 }
 
 void LayerTrees::SetGroupImage(qint32 groupID, qint16 quickMode)
@@ -275,7 +297,8 @@ void LayerTrees::ShowLayer(qint32 layerID)
     EnsureLoaded(List::Layers);
     if (!self)
         return;
-    const std::optional<LayerEntry> layer = ReadOneLayer(Client(), layerID);
+    const std::optional<LayerEntry> layer
+        = WithColumnTexts([layerID] { return ReadOneLayer(Client(), layerID); });
     if (!layer)
         return;
     const NodeReference node{.isGroup = false, .groupID = 0, .layerID = layerID, .image = layer->quickMode};

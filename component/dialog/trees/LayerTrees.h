@@ -3,6 +3,7 @@
 
 #include "component/dialog/place/ListTab.h"
 #include "component/dialog/trees/NodeKey.h"
+#include "component/model/LayerTreeEntries.h"
 
 #include <QObject>
 #include <QSet>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QTreeView;
 
@@ -86,6 +88,8 @@ public:
     /// Gives the image of the quick mode to the group, to the layers that are listed under it or stored as
     /// its members, and to all other nodes of these layers in both trees.
     void SetGroupImage(qint32 groupID, qint16 quickMode);
+    /// Gives all nodes of each layer the image of its mode, as SetLayerImage does.
+    void SetLayerImages(const std::vector<LayerMode>& modes);
     /// Shows the text on all nodes of the layer. The order of the flat list changes only when it is loaded
     /// again.
     void SetLayerText(qint32 layerID, const QString& text);
@@ -109,6 +113,8 @@ public:
 signals:
     /// The dialog's current node has changed to another node or to none.
     void CurrentNodeChanged();
+    /// The user clicked the dialog's current node again.
+    void CurrentNodeClicked();
     /// The user pressed Delete in a tree.
     void DeleteRequested();
 

@@ -48,6 +48,11 @@ std::optional<QString> EditableName(QWidget* owner, const NodeReference& node)
     return name;
 }
 
+bool EndsTheEdit(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 } // namespace
 
 QWidget*
@@ -105,19 +110,16 @@ void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
     option->features |= QStyleOptionViewItem::HasDecoration;
 }
 
-// Tab ends the edit at this node: by default it would go to the next node, and ask about pending changes.
+// Tab would go to the next node, and ask about pending changes. Enter would end the edit after the event,
+// when the dialog may be gone.
 bool NodeNameDelegate::eventFilter(QObject* editor, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
-            auto* widget = static_cast<QWidget*>(editor);
-            emit commitData(widget);
-            emit closeEditor(widget, NoHint);
-            return true;
-        }
-    }
-    return QStyledItemDelegate::eventFilter(editor, event);
+    if (event->type() != QEvent::KeyPress || !EndsTheEdit(static_cast<QKeyEvent*>(event)->key()))
+        return QStyledItemDelegate::eventFilter(editor, event);
+    auto* widget = static_cast<QWidget*>(editor);
+    emit commitData(widget);
+    emit closeEditor(widget, NoHint);
+    return true;
 }
 
 } // namespace Orvane

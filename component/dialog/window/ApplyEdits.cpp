@@ -21,7 +21,7 @@ bool IsSingleMode(qint16 quickMode)
 
 ApplyOutcome ApplyToGroup(LayerTrees& trees, const NodeReference& group, const PanelEdits& edits)
 {
-    ApplyGroupStyle(Client(), group.groupID, edits.style, edits.quickMode, edits.selectedStyle);
+    ApplyGroupStyle(Client(), group.groupID, edits);
     if (edits.quickMode == group.image)
         return ApplyOutcome::Applied;
     if (!IsSingleMode(edits.quickMode))
@@ -32,9 +32,12 @@ ApplyOutcome ApplyToGroup(LayerTrees& trees, const NodeReference& group, const P
 
 void ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const PanelEdits& edits)
 {
-    ApplyLayerStyle(Client(), layer.layerID, edits.style, edits.quickMode, edits.selectedStyle);
+    ApplyLayerStyle(Client(), layer.layerID, edits);
     FirstError errors; // the properties are stored: the map shows them even if the code is rejected
-    errors.Try([&] { SetLayerCode(Client(), layer.layerID, edits.codeText); });
+    errors.Try([&] {
+        if (edits.codeText)
+            SetLayerCode(Client(), layer.layerID, *edits.codeText);
+    });
     if (edits.quickMode != layer.image && IsSingleMode(edits.quickMode))
         errors.Try([&] { trees.SetLayerImage(layer.layerID, edits.quickMode); });
     errors.Try([] { Client().RedrawMap(); });

@@ -2,21 +2,19 @@
 #pragma once
 
 #include "component/dialog/trees/NodeKey.h"
-#include "component/model/LayerStyle.h"
 #include "component/model/LayerStyleApplying.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace Orvane {
 
 class LayerTrees;
 
 /// The values of the controls when they are applied.
-struct PanelEdits {
-    LayerStyle style;
-    qint16 quickMode = 0; ///< 1, 2 or 4; any other is not written
-    QString codeText; ///< of a layer
-    SelectedRendererStyle selectedStyle;
+struct PanelEdits : StyleEdits {
+    std::optional<QString> codeText; ///< of a layer; nothing leaves the stored code
 };
 
 enum class ApplyOutcome {
@@ -25,8 +23,8 @@ enum class ApplyOutcome {
 };
 
 /// Writes the edits to the layers of one node, gives the tree nodes their new images, and has the map redrawn
-/// once. node: with the image that it shows now. Raises what the database and the host raise; for a group,
-/// nothing is written then.
+/// once. node: its image is the mode that its rows held when they were read. Raises what the database and the
+/// host raise; for a group, nothing is written then.
 ApplyOutcome ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
 
 } // namespace Orvane

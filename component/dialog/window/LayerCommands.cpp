@@ -31,10 +31,18 @@ LayerCommands::LayerCommands(const Widgets& widgets, QObject* parent) : QObject(
 void LayerCommands::Show(
     const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer)
 {
+    m_isCodeEdited = false;
+    Follow(node, record, isSystemLayer);
+}
+
+void LayerCommands::Follow(
+    const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer)
+{
     const bool isLayer = node && !node->isGroup;
     m_node = node;
     m_storedCode = isLayer ? record.lsGet(Slot::Code) : Value::Null();
-    m_widgets.lblCode->setText(ToTextOrNone(m_storedCode));
+    if (!m_isCodeEdited)
+        m_widgets.lblCode->setText(ToTextOrNone(m_storedCode));
     m_widgets.cmdDeleteLayer->setEnabled(isLayer);
     m_widgets.lblCode->setEnabled(isLayer && !isSystemLayer);
 }
@@ -42,6 +50,12 @@ void LayerCommands::Show(
 QString LayerCommands::CodeText() const
 {
     return m_widgets.lblCode->text();
+}
+
+std::optional<QString> LayerCommands::CodeToStore() const
+{
+    const bool comesBack = m_storedCode.IsNumber() && LeadingNumber(CodeText()) == ToDouble(m_storedCode);
+    return m_isCodeEdited || comesBack ? std::optional(CodeText()) : std::nullopt;
 }
 
 void LayerCommands::NewLayer()
@@ -94,6 +108,7 @@ void LayerCommands::SetCode(const QString& answer)
     if (code == LeadingNumber(CodeText()) && !CodeText().isEmpty())
         return;
     m_widgets.lblCode->setText(answer);
+    m_isCodeEdited = true;
     emit CodeEdited(m_widgets.lblCode);
 }
 

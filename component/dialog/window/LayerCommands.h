@@ -36,8 +36,13 @@ public:
     /// its code cannot be edited.
     void Show(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
 
+    /// As Show, but a code that the user has entered meanwhile stays in the label.
+    void Follow(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
+
     /// The code as the label shows it; empty when there is none.
     QString CodeText() const;
+    /// The code to store; nothing if the user did not touch it and it would not come back as it was stored.
+    std::optional<QString> CodeToStore() const;
 
     /// Creates a layer through the host.
     void NewLayer();
@@ -61,6 +66,7 @@ private:
     Widgets m_widgets;
     std::optional<NodeReference> m_node;
     Value m_storedCode = Value::Null();
+    bool m_isCodeEdited = false;
 };
 
 } // namespace Orvane

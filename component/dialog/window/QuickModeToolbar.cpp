@@ -49,6 +49,19 @@ void QuickModeToolbar::SetEnabled(bool enabled)
 void QuickModeToolbar::ShowMode(qint16 mode)
 {
     m_shownMode = mode;
+    Press(mode);
+}
+
+void QuickModeToolbar::FollowMode(qint16 mode)
+{
+    const bool isEdited = ReadMode() != m_shownMode;
+    m_shownMode = mode;
+    if (!isEdited)
+        Press(mode);
+}
+
+void QuickModeToolbar::Press(qint16 mode)
+{
     for (std::size_t button = 0; button < m_buttons.size(); ++button)
         m_buttons[button]->setChecked(mode & BitOf(button));
 }

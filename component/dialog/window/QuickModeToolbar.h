@@ -28,6 +28,8 @@ public:
 
     /// Presses the buttons of the mode's bits. A later click is compared with this mode.
     void ShowMode(qint16 mode);
+    /// As ShowMode, but a mode that the user has chosen meanwhile stays pressed.
+    void FollowMode(qint16 mode);
     /// The bits of the buttons that are pressed.
     qint16 ReadMode() const;
 
@@ -39,6 +41,7 @@ signals:
     void Edited();
 
 private:
+    void Press(qint16 mode);
     void OnClicked(const QToolButton* clicked);
 
     QWidget& m_bar;

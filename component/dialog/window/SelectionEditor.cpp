@@ -4,14 +4,13 @@
 #include "component/common/Component.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
-#include "component/dialog/panel/PropertyPanel.h"
+#include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/window/ApplyEdits.h"
 #include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/PendingChangesPrompt.h"
 #include "component/dialog/window/QuickModeToolbar.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/LayerStyleLoading.h"
 #include "ovctrls/BusyPointer.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -19,7 +18,22 @@
 
 #include <QPointer>
 
+#include <algorithm>
+#include <utility>
+
 namespace Orvane {
+
+namespace {
+
+qint16 CommonMode(const std::vector<LayerMode>& modes)
+{
+    const bool isCommon = std::all_of(modes.begin(), modes.end(), [&](const LayerMode& mode) {
+        return mode.quickMode == modes.front().quickMode;
+    });
+    return isCommon && !modes.empty() ? modes.front().quickMode : QuickMode::Various;
+}
+
+} // namespace
 
 SelectionEditor::SelectionEditor(QWidget& form, const Parts& parts) : m_form(form), m_parts(parts)
 {
@@ -56,12 +70,14 @@ void SelectionEditor::Cancel()
 
 void SelectionEditor::ShowOrNothing(const Selection& selection)
 {
+    std::optional<PropertyPanel::Fault> unshown;
     try {
-        Show(selection);
+        unshown = Show(selection);
     } catch (...) {
         ShowNothing();
         throw;
     }
+    ReportFault(selection, unshown);
 }
 
 void SelectionEditor::CoverUp()
@@ -80,36 +96,68 @@ void SelectionEditor::ShowNothing()
 SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReference>& node)
 {
     const BusyPointer busy;
-    Selection selection{.node = node, .record = {}};
+    Selection selection{.node = node, .record = {}, .reading = {}};
     if (node && node->isGroup) {
-        LoadGroupStyle(Client(), node->groupID, selection.record);
+        selection.reading = LoadGroupStyle(Client(), node->groupID, selection.record);
+        selection.node->image = CommonMode(selection.reading.modes);
     } else if (node) {
-        LoadLayerStyle(Client(), node->layerID, selection.record);
+        selection.reading = LoadLayerStyle(Client(), node->layerID, selection.record);
         selection.isSystemLayer = IsSystemLayer(Client(), node->layerID);
+        if (!selection.reading.modes.empty())
+            selection.node->image = selection.reading.modes.front().quickMode;
     }
     return selection;
 }
 
-void SelectionEditor::Show(const Selection& selection)
+std::optional<PropertyPanel::Fault> SelectionEditor::Show(const Selection& selection)
 {
     const std::optional<NodeReference>& node = selection.node;
     m_current = node;
-    m_record = selection.record;
-    m_parts.panel.Show(m_record);
+    m_parts.trees.SetLayerImages(selection.reading.modes);
+    std::optional<PropertyPanel::Fault> unshown = m_parts.panel.Show(selection.record);
     m_parts.quickModes.ShowMode(node ? node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
-    m_parts.commands.Show(node, m_record, selection.isSystemLayer);
+    m_parts.commands.Show(node, selection.record, selection.isSystemLayer);
     emit Shown(node.has_value());
     SetModified(false);
+    return unshown;
+}
+
+void SelectionEditor::Follow()
+{
+    if (!m_modified || !HoldsCurrentNode()) {
+        Load();
+        return;
+    }
+    const Selection selection = Read(m_parts.trees.CurrentNode());
+    m_current = selection.node;
+    m_parts.trees.SetLayerImages(selection.reading.modes);
+    const auto unshown = m_parts.panel.Follow(selection.record);
+    m_parts.quickModes.FollowMode(selection.node->image);
+    m_parts.commands.Follow(selection.node, selection.record, selection.isSystemLayer);
+    ReportFault(selection, unshown);
+}
+
+// The same fault is reported once while the node is shown: applying another property must not repeat it.
+void SelectionEditor::ReportFault(
+    const Selection& selection, const std::optional<PropertyPanel::Fault>& unshown)
+{
+    std::optional<ColumnError> fault = selection.reading.fault;
+    if (!fault && unshown)
+        fault.emplace(unshown->error, m_parts.trees.CurrentText(), ColumnOf(unshown->slot), unshown->value);
+    const QString text = fault ? TextOf(*fault) : QString();
+    if (std::exchange(m_reportedFault, text) != text && fault)
+        throw RunTimeError(fault->Number(), text, fault->Source());
 }
 
 PanelEdits SelectionEditor::ReadEdits() const
 {
     PanelEdits edits;
     edits.quickMode = m_parts.quickModes.ReadMode();
-    edits.codeText = m_parts.commands.CodeText();
+    edits.codeText = m_parts.commands.CodeToStore();
     edits.selectedStyle = m_parts.selectedStyle;
-    m_parts.panel.ReadPanelStyle(edits.style);
+    m_parts.panel.ReadEdits(edits.style);
+    edits.asRead = m_parts.panel.Record();
     return edits;
 }
 
@@ -123,7 +171,7 @@ void SelectionEditor::Apply()
 {
     if (!m_modified || !HoldsCurrentNode())
         return;
-    const bool isExpected = Write(*m_parts.trees.CurrentNode());
+    const bool isExpected = Write(*m_current);
     Load();
     if (!isExpected)
         ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
@@ -134,7 +182,8 @@ bool SelectionEditor::Write(const NodeReference& node)
     m_modified = false;
     try {
         const BusyPointer busy;
-        return ApplyEdits(m_parts.trees, node, ReadEdits()) == ApplyOutcome::Applied;
+        return WithColumnTexts([&] { return ApplyEdits(m_parts.trees, node, ReadEdits()); })
+            == ApplyOutcome::Applied;
     } catch (...) {
         m_modified = true;
         throw;

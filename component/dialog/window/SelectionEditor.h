@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/place/ListTab.h"
 #include "component/dialog/trees/NodeKey.h"
 #include "component/model/LayerStyle.h"
 #include "component/model/LayerStyleApplying.h"
+#include "component/model/LayerStyleLoading.h"
 
 #include <QObject>
 
@@ -16,7 +18,6 @@ namespace Orvane {
 
 class LayerCommands;
 class LayerTrees;
-class PropertyPanel;
 class QuickModeToolbar;
 struct PanelEdits;
 
@@ -55,6 +56,8 @@ public:
     void Load();
     /// As Load, but if the node cannot be read, the edits stay.
     void Cancel();
+    /// Reads the current node again; the controls that the user has edited keep their values.
+    void Follow();
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load.
     void CoverUp();
     /// Shows that no node is selected. Never raises.
@@ -76,14 +79,16 @@ signals:
 
 private:
     struct Selection {
-        std::optional<NodeReference> node;
+        std::optional<NodeReference> node; ///< its image is the mode that its rows hold
         LayerStyle record;
+        ReadingResult reading;
         bool isSystemLayer = false;
     };
 
     static Selection Read(const std::optional<NodeReference>& node);
-    void Show(const Selection& selection);
+    std::optional<PropertyPanel::Fault> Show(const Selection& selection);
     void ShowOrNothing(const Selection& selection);
+    void ReportFault(const Selection& selection, const std::optional<PropertyPanel::Fault>& unshown);
     PanelEdits ReadEdits() const;
     /// Edits are applied to the node that they were made for, or not at all.
     bool HoldsCurrentNode() const;
@@ -91,8 +96,8 @@ private:
 
     QWidget& m_form;
     Parts m_parts;
-    LayerStyle m_record;
     std::optional<NodeReference> m_current; // as it was when the record was read
+    QString m_reportedFault; // of the node shown
     ListTab m_tab = ListTab::Groups;
     bool m_modified = false;
 };

@@ -68,6 +68,7 @@ void frmLayerStyles::Wire()
     // Not guarded: the code that chose the node is guarded, and in a call from the host the host gets the
     // error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
+    connect(&m_parts->trees, &LayerTrees::CurrentNodeClicked, m_selection.get(), &SelectionEditor::Follow);
 }
 
 // Only the first is guarded here: the commands guard themselves.

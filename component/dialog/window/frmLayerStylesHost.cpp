@@ -47,7 +47,14 @@ void frmLayerStyles::IStyleEditor_RefreshGroups()
     WithTranslatedErrors([&] {
         EnsureInitialised();
         m_selection->SetModified(false);
-        m_parts->trees.LoadGroups();
+        FirstError errors;
+        const std::optional<NodeReference> before = m_parts->trees.CurrentNode();
+        errors.Try([this] { m_parts->trees.LoadGroups(); });
+        const std::optional<NodeReference> after = m_parts->trees.CurrentNode();
+        const bool stayed = before && after && IsSameNode(*before, *after);
+        if (stayed && m_tab != ListTab::Schemes) // a node that took its place has been read already
+            errors.Try([this] { m_selection->Load(); });
+        errors.Rethrow();
     });
 }
 
@@ -135,8 +142,8 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
         errors.Try([this] { m_parts->schemes.Fill(); });
         errors.Try([this] { UpdateCaption(); });
         errors.Try([this] { LoadList(); });
-        if (self && !m_unloaded && !m_selection->IsModified())
-            errors.Try([this] { m_selection->Load(); });
+        if (self && !m_unloaded && m_tab != ListTab::Schemes)
+            errors.Try([this] { m_selection->Follow(); });
         errors.Rethrow();
     });
 }

@@ -115,7 +115,32 @@ void ErrorOfApplyBeforeAnotherNode(EndedMeanwhile& test)
             test.End();
     });
     test.ClickLayer("Rivers");
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(); // the question
+    QCoreApplication::processEvents(); // then the error
+}
+
+void ErrorOfReadingANode(EndedMeanwhile& test)
+{
+    test.Open();
+    test.ClickLayer("Roads");
+    test.form = test.Form();
+    test.host.SetLayerColumn(2, "LineThickness", qint32(1639));
+    test.AtTheBox([&] {
+        test.ClickLayer("Rivers");
+        QCoreApplication::processEvents();
+    });
+}
+
+void ErrorOfReadingTheSameNodeAgain(EndedMeanwhile& test)
+{
+    test.Open();
+    test.ClickLayer("Roads");
+    test.form = test.Form();
+    test.host.SetLayerColumn(1, "LineThickness", qint32(1639));
+    test.AtTheBox([&] {
+        test.ClickLayer("Roads");
+        QCoreApplication::processEvents();
+    });
 }
 
 void ErrorOfApplyBeforeAnotherTab(EndedMeanwhile& test)
@@ -274,7 +299,7 @@ void SchemeCreating(EndedMeanwhile& test)
     test.Click("cmdNew");
 }
 
-constexpr std::array<std::pair<const char*, Situation>, 31> situations{
+constexpr std::array<std::pair<const char*, Situation>, 33> situations{
     {{"NodeQuestion", NodeQuestion},
      {"GroupsTabQuestion", GroupsTabQuestion},
      {"SchemesTabQuestion", SchemesTabQuestion},
@@ -289,6 +314,8 @@ constexpr std::array<std::pair<const char*, Situation>, 31> situations{
      {"RefreshOfAnEmptiedGroup", RefreshOfAnEmptiedGroup},
      {"ErrorOfApply", ErrorOfApply},
      {"ErrorOfApplyBeforeAnotherNode", ErrorOfApplyBeforeAnotherNode},
+     {"ErrorOfReadingANode", ErrorOfReadingANode},
+     {"ErrorOfReadingTheSameNodeAgain", ErrorOfReadingTheSameNodeAgain},
      {"ErrorOfApplyBeforeAnotherTab", ErrorOfApplyBeforeAnotherTab},
      {"SystemLayerMessage", SystemLayerMessage},
      {"InvalidNameMessage", InvalidNameMessage},

@@ -235,6 +235,7 @@ TEST_F(HostFaults, ANodeThatCannotBeReadShowsNothing)
     client.faulty = "LayersTable";
     MessageBoxRobot user{BoxKey::Enter};
     ClickLayer("Rivers");
+    QCoreApplication::processEvents();
     EXPECT_EQ(user.Only().text, Fault);
     EXPECT_FALSE(Find("chkVisible").isVisible());
     EXPECT_FALSE(CanApply());
@@ -355,13 +356,15 @@ TEST_F(HostFaults, ACancelThatFailsHalfWayKeepsTheEditsOrShowsNothing)
     }
 }
 
-TEST_F(HostFaults, ALayerWhoseValuesCannotBeShownShowsNothing)
+TEST_F(HostFaults, AValueThatCannotBeShownIsNamedAndHidesNoOther)
 {
     OpenWithEdits();
     host.SetLayerColumn(1, "OutlineStyle", qint32(70000));
     MessageBoxRobot user{BoxKey::Enter};
     Click("cmdCancel");
-    EXPECT_FALSE(Find("chkVisible").isVisible());
+    EXPECT_EQ(user.Only().text, "Roads: OutlineStyle 70000 is too large.");
+    EXPECT_TRUE(Find("chkVisible").isVisible());
+    EXPECT_EQ(CheckState("chkVisible"), 1);
     EXPECT_FALSE(CanApply());
 }
 

@@ -83,6 +83,58 @@ TEST_F(Refreshing, KeepsEditsThatWereNotApplied)
     EXPECT_EQ(Nodes("tvLayers2"), 5);
 }
 
+TEST_F(Refreshing, ControlsThatWereNotEditedFollowWhatIsStored)
+{
+    Click("chkVisible");
+    const auto edited = CheckState("chkVisible");
+    host.SetLayerColumn(1, "Priority", qint32(7));
+    host.SetLayerColumn(1, "Code", qint32(77));
+    host.SetLayerColumn(1, "OverrideMode", qint32(2));
+    EditorForm().Refresh();
+    EXPECT_EQ(CheckState("chkVisible"), edited);
+    EXPECT_TRUE(IsUnderlined("chkVisible"));
+    EXPECT_EQ(TextOf("lblPriority"), "7");
+    EXPECT_EQ(TextOf("lblCode"), "77");
+    EXPECT_EQ(PressedModes(), 4);
+}
+
+TEST_F(Refreshing, AClickOnTheCurrentNodeShowsWhatIsStored)
+{
+    host.SetLayerColumn(1, "Priority", qint32(7));
+    ClickLayer("Roads");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextOf("lblPriority"), "7");
+    EXPECT_FALSE(CanApply());
+}
+
+TEST_F(Refreshing, AClickOnTheCurrentNodeAsksNothingAndKeepsEdits)
+{
+    const MessageBoxRobot nobody{};
+    Click("chkVisible");
+    const auto edited = CheckState("chkVisible");
+    ChooseScale("cmdEditMinScale", 8);
+    Click("Hidden");
+    host.SetLayerColumn(1, "Priority", qint32(7));
+    host.SetLayerColumn(1, "Color", qint32(0x00FF00));
+    ClickLayer("Roads");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(CheckState("chkVisible"), edited);
+    EXPECT_EQ(PressedModes(), 4);
+    EXPECT_EQ(TextOf("lblPriority"), "7");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "MinVisScale"), 8000);
+    EXPECT_EQ(Stored(1, "Color"), 0x00FF00);
+    EXPECT_EQ(Stored(1, "OverrideMode"), 2);
+}
+
+TEST_F(Refreshing, AChoiceOfAnotherNodeReadsItOnce)
+{
+    host.ClearLog();
+    ClickLayer("Rivers");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(host.Log().CallsTo("Seek").size(), 2); // the record, and whether its code may be edited
+}
+
 TEST_F(Refreshing, AnEditorThatWasNotShownReadsNothing)
 {
     Close();

@@ -29,7 +29,7 @@ TEST_F(ApplyGroupStyleTo, EveryMemberIsWrittenInTheOrderOfTheMembersQueryInOneTr
     host.AddLayer({.id = 17});
     host.AddLayer({.id = 18});
     host.AddGroup({.id = 3, .members = {18, 17}});
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::Visible, false}}), 0, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::Visible, false}}), 0, NoSelectedStyle});
     EXPECT_EQ(host.Log().Trace().first(), "BeginTrans()");
     EXPECT_EQ(host.Log().Trace().last(), "CommitTrans()");
     EXPECT_EQ(host.Log().CallsTo("BeginTrans").size(), 1);
@@ -48,7 +48,7 @@ TEST_F(ApplyGroupStyleTo, EachMemberKeepsItsOwnPartOfTheColour)
     host.AddLayer({.id = 17, .color = redNotForSymbols});
     host.AddLayer({.id = 18, .color = 0x0000FF});
     host.AddGroup({.id = 3, .members = {17, 18}});
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::LineColour, qint32(0x00FF00)}}), 0, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::LineColour, qint32(0x00FF00)}}), 0, NoSelectedStyle});
     EXPECT_THAT(host.LayerColumn(17, "Color"), IsNumber(qint32(0xFF00FF00U)));
     EXPECT_THAT(host.LayerColumn(18, "Color"), IsNumber(0x00FF00));
 }
@@ -60,7 +60,7 @@ TEST_F(ApplyGroupStyleTo, TheListIsAskedForEachMember)
     host.AddGroup({.id = 3, .members = {17, 18}});
     qint32 selected = 4;
     const auto list = [&] { return Value(++selected); };
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::RendererStyle, qint32(1)}}), 0, list);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::RendererStyle, qint32(1)}}), 0, list});
     EXPECT_THAT(host.LayerColumn(17, "Style"), IsNumber(5));
     EXPECT_THAT(host.LayerColumn(18, "Style"), IsNumber(6));
 }
@@ -71,7 +71,7 @@ TEST_F(ApplyGroupStyleTo, LayersOfOtherGroupsAreLeftAlone)
     host.AddLayer({.id = 18, .visible = true});
     host.AddGroup({.id = 3, .members = {17}});
     host.AddGroup({.id = 4, .members = {18}});
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::Visible, false}}), 0, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::Visible, false}}), 0, NoSelectedStyle});
     EXPECT_THAT(host.LayerColumn(18, "Visible"), IsFlag(true));
 }
 
@@ -79,7 +79,7 @@ TEST_F(ApplyGroupStyleTo, MissingMembersAreLeftOut)
 {
     host.AddLayer({.id = 18});
     host.AddGroup({.id = 3, .members = {17, 18}});
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::Visible, false}}), 2, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::Visible, false}}), 2, NoSelectedStyle});
     EXPECT_THAT(host.LayerColumn(18, "OverrideMode"), IsNumber(1));
     EXPECT_THAT(host.Log().CallsTo("LayerChanged"), ElementsAre("LayerChanged(18)"));
 }
@@ -87,7 +87,7 @@ TEST_F(ApplyGroupStyleTo, MissingMembersAreLeftOut)
 TEST_F(ApplyGroupStyleTo, AGroupWithoutMembersWritesNothing)
 {
     host.AddGroup({.id = 3});
-    ApplyGroupStyle(host, 3, FullStyle(), 2, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {FullStyle(), 2, NoSelectedStyle});
     EXPECT_THAT(host.Log().CallsTo("Edit"), IsEmpty());
     EXPECT_EQ(host.Log().Trace().last(), "CommitTrans()");
 }
@@ -109,7 +109,7 @@ protected:
     {
         FailingClient client(host, {member, call, RunTimeError(10042, "disk full", "store")});
         const LayerStyle style = StyleWith({{Slot::Visible, false}});
-        return ErrorOf([&] { ApplyGroupStyle(client, 3, style, 4, NoSelectedStyle); });
+        return ErrorOf([&] { ApplyGroupStyle(client, 3, {style, 4, NoSelectedStyle}); });
     }
 
     void ExpectAllAsBefore()
@@ -156,7 +156,7 @@ TEST_F(GroupOfFive, PassesTheErrorOnUnchanged)
 TEST_F(GroupOfFive, CanBeWrittenAfterAFailure)
 {
     HideAllWhile("Update", 3);
-    ApplyGroupStyle(host, 3, StyleWith({{Slot::Visible, false}}), 4, NoSelectedStyle);
+    ApplyGroupStyle(host, 3, {StyleWith({{Slot::Visible, false}}), 4, NoSelectedStyle});
     for (qint32 layerID = 1; layerID <= 5; ++layerID)
         EXPECT_THAT(host.LayerColumn(layerID, "Visible"), IsFlag(false)) << layerID;
 }

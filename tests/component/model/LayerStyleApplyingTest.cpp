@@ -45,7 +45,7 @@ class ApplyLayerStyleTo : public testing::Test
 protected:
     void Apply(const LayerStyle& style, qint16 quickMode = variousMode)
     {
-        ApplyLayerStyle(host, 17, style, quickMode, NoSelectedStyle);
+        ApplyLayerStyle(host, 17, {style, quickMode, NoSelectedStyle});
     }
 
     /// What applying wrote, as "SetField(column, value)".
@@ -59,7 +59,7 @@ protected:
 TEST_F(ApplyLayerStyleTo, EverythingIsWrittenInItsOrder)
 {
     host.AddLayer({.id = 17});
-    ApplyLayerStyle(host, 17, FullStyle(), 4, Selects(8));
+    ApplyLayerStyle(host, 17, {FullStyle(), 4, Selects(8)});
     EXPECT_THAT(
         host.Log().Trace(),
         ElementsAre(
@@ -73,10 +73,24 @@ TEST_F(ApplyLayerStyleTo, EverythingIsWrittenInItsOrder)
             "SetField(Style, 8)", "LayerChanged(17)", "Update()"));
 }
 
+TEST_F(ApplyLayerStyleTo, AScaleThatWasNotEditedStaysAsItIsStored)
+{
+    host.AddLayer({.id = 17, .minVisScale = 500.5, .maxVisScale = 25300.0});
+    LayerStyle style;
+    LoadLayerStyle(host, 17, style);
+    const LayerStyle asRead = style;
+    ApplyLayerStyle(host, 17, {style, 0, NoSelectedStyle, asRead});
+    EXPECT_THAT(host.LayerColumn(17, "MinVisScale"), IsNumber(500.5));
+    EXPECT_THAT(host.LayerColumn(17, "MaxVisScale"), IsNumber(25300));
+    style.lsSet(Slot::MinVisScale, 2);
+    ApplyLayerStyle(host, 17, {style, 0, NoSelectedStyle, asRead});
+    EXPECT_THAT(host.LayerColumn(17, "MinVisScale"), IsNumber(2000));
+}
+
 TEST_F(ApplyLayerStyleTo, WhatIsReadBackIsWhatWasApplied)
 {
     host.AddLayer({.id = 17, .name = "Roads", .code = 3});
-    ApplyLayerStyle(host, 17, FullStyle(), 4, Selects(8));
+    ApplyLayerStyle(host, 17, {FullStyle(), 4, Selects(8)});
     LayerStyle read;
     LoadLayerStyle(host, 17, read);
     for (qint16 slot = Slot::Visible; slot < LayerStyle::SlotCount; ++slot)
@@ -111,7 +125,7 @@ TEST_F(ApplyLayerStyleTo, OnlyKnownSlotsAreWritten)
 
 TEST_F(ApplyLayerStyleTo, AMissingLayerIsLeftAlone)
 {
-    ApplyLayerStyle(host, 99, FullStyle(), 4, Selects(8));
+    ApplyLayerStyle(host, 99, {FullStyle(), 4, Selects(8)});
     EXPECT_THAT(host.Log().Trace(), ElementsAre("LayersTable()", "Index(LayerIDIDX)", "Seek(=, 99)"));
 }
 
@@ -179,8 +193,8 @@ TEST_F(ApplyLayerStyleTo, TheMinimumScaleIsStoredAsItComesAndTheMaximumAsAWholeN
     host.AddLayer({.id = 17});
     OneScaleClient client(host, 2500.5);
     ApplyLayerStyle(
-        client, 17, StyleWith({{Slot::MinVisScale, qint32(3)}, {Slot::MaxVisScale, qint32(3)}}), 0,
-        NoSelectedStyle);
+        client, 17,
+        {StyleWith({{Slot::MinVisScale, qint32(3)}, {Slot::MaxVisScale, qint32(3)}}), 0, NoSelectedStyle});
     EXPECT_THAT(host.LayerColumn(17, "MinVisScale"), IsNumber(2500.5));
     EXPECT_THAT(host.LayerColumn(17, "MaxVisScale"), IsNumber(2500));
     EXPECT_THAT(host.Log().LastWritten("MinVisScale"), IsValue(2500.5));
@@ -191,7 +205,7 @@ TEST_F(ApplyLayerStyleTo, AHalfInTheMaximumScaleGoesToTheEvenNeighbour)
 {
     host.AddLayer({.id = 17});
     OneScaleClient client(host, 2501.5);
-    ApplyLayerStyle(client, 17, StyleWith({{Slot::MaxVisScale, qint32(3)}}), 0, NoSelectedStyle);
+    ApplyLayerStyle(client, 17, {StyleWith({{Slot::MaxVisScale, qint32(3)}}), 0, NoSelectedStyle});
     EXPECT_THAT(host.Log().LastWritten("MaxVisScale"), IsValue(qint32(2502)));
 }
 
@@ -200,7 +214,7 @@ TEST_F(ApplyLayerStyleTo, AMaximumScaleBeyond32BitsRaisesOverflowAndStoresNothin
     host.AddLayer({.id = 17, .visible = true, .maxVisScale = 7000.0});
     OneScaleClient client(host, 1e12);
     const LayerStyle style = StyleWith({{Slot::Visible, false}, {Slot::MaxVisScale, qint32(3)}});
-    const int number = ErrorNumberOf([&] { ApplyLayerStyle(client, 17, style, 0, NoSelectedStyle); });
+    const int number = ErrorNumberOf([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
     EXPECT_EQ(number, overflowError);
     EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(true));
     EXPECT_THAT(host.Log().CallsTo("LayerChanged"), IsEmpty());
@@ -212,7 +226,7 @@ TEST_F(ApplyLayerStyleTo, TheRendererStyleComesFromTheListAtThatMomentAndNotFrom
     qint32 selected = 1;
     const auto list = [&] { return Value(selected); };
     selected = 5;
-    ApplyLayerStyle(host, 17, StyleWith({{Slot::RendererStyle, qint32(8)}}), 0, list);
+    ApplyLayerStyle(host, 17, {StyleWith({{Slot::RendererStyle, qint32(8)}}), 0, list});
     EXPECT_THAT(host.Log().LastWritten("Style"), IsValue(qint32(5)));
 }
 
@@ -223,7 +237,7 @@ TEST_F(ApplyLayerStyleTo, TheListIsNotAskedWhenTheRecordsStyleIsVarious)
         ADD_FAILURE() << "asked";
         return qint32(1);
     };
-    ApplyLayerStyle(host, 17, StyleWith({{Slot::Visible, true}}), 0, list);
+    ApplyLayerStyle(host, 17, {StyleWith({{Slot::Visible, true}}), 0, list});
     EXPECT_THAT(host.LayerColumn(17, "Style"), IsNumber(2));
 }
 
@@ -238,7 +252,7 @@ TEST_F(ApplyLayerStyleTo, TheHostIsToldOfTheRowsOwnID)
 {
     host.AddLayer({.id = 17});
     PatchingClient client(host, {{"LayerID", qint32(1017)}});
-    ApplyLayerStyle(client, 17, LayerStyle(), 0, NoSelectedStyle);
+    ApplyLayerStyle(client, 17, {LayerStyle(), 0, NoSelectedStyle});
     EXPECT_THAT(host.Log().CallsTo("LayerChanged"), ElementsAre("LayerChanged(1017)"));
 }
 
@@ -249,7 +263,7 @@ TEST_F(ApplyLayerStyleTo, ATextOrNothingInASlotRaisesTypeMismatchAndStoresNothin
         for (const Value& bad : {Value(QStringLiteral("red")), Value()}) {
             const LayerStyle style = StyleWith({{Slot::Visible, false}, {slot, bad}});
             const auto list = [&] { return bad; };
-            const int number = ErrorNumberOf([&] { ApplyLayerStyle(host, 17, style, 0, list); });
+            const int number = ErrorNumberOf([&] { ApplyLayerStyle(host, 17, {style, 0, list}); });
             EXPECT_EQ(number, typeMismatchError) << slot;
         }
     }
@@ -261,7 +275,7 @@ TEST_F(ApplyLayerStyleTo, NothingIsStoredWhenTheHostRefusesTheChange)
     host.AddLayer({.id = 17, .visible = true});
     FailingClient client(host, {"LayerChanged", 1, RunTimeError(10009, "frozen", "host")});
     const LayerStyle style = StyleWith({{Slot::Visible, false}});
-    const auto error = ErrorOf([&] { ApplyLayerStyle(client, 17, style, 0, NoSelectedStyle); });
+    const auto error = ErrorOf([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), 10009);
     EXPECT_EQ(error->Source(), "host");

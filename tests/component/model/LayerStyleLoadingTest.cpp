@@ -158,27 +158,40 @@ TEST_F(LoadLayerStyleFrom, AMissingLayerLeavesTheRecordAsItWas)
     EXPECT_TRUE(style.lsIsNull(Slot::Code));
 }
 
-TEST_F(LoadLayerStyleFrom, ATextInANumbersColumnRaisesTypeMismatch)
+TEST_F(LoadLayerStyleFrom, ATextInANumbersColumnIsNamedAndHidesNoOtherValue)
 {
-    host.AddLayer({.id = 17});
-    for (const char* column : numberColumns) {
-        const ColumnPatches patches{{column, QStringLiteral("red")}};
-        EXPECT_EQ(ErrorNumberOf([&] { LoadedWith(patches); }), typeMismatchError) << column;
-    }
-    for (const char* column : flagColumns) {
-        const ColumnPatches patches{{column, QStringLiteral("maybe")}};
-        EXPECT_EQ(ErrorNumberOf([&] { LoadedWith(patches); }), typeMismatchError) << column;
+    host.AddLayer({.id = 17, .name = "Roads", .priority = 7});
+    for (const char* column : {"Color", "LineThickness", "MinVisScale", "Style", "Visible", "OverrideMode"}) {
+        PatchingClient client(host, {{column, QStringLiteral("red")}});
+        LayerStyle style;
+        const ReadingResult result = LoadLayerStyle(client, 17, style);
+        ASSERT_TRUE(result.fault) << column;
+        EXPECT_EQ(
+            result.fault->Description(),
+            QStringLiteral("Roads: %1 'red' is not a number.").arg(QLatin1String(column)));
+        EXPECT_THAT(style.lsGet(Slot::DrawPriority), IsNumber(7)) << column;
     }
 }
 
-TEST_F(LoadLayerStyleFrom, AnErrorLeavesTheRecordAsItWas)
+TEST_F(LoadLayerStyleFrom, AValueThatCannotBeReadIsNull)
 {
-    host.AddLayer({.id = 17, .name = "Roads"});
-    PatchingClient client(host, {{"Style", QStringLiteral("dashed")}});
+    host.AddLayer({.id = 17});
+    PatchingClient client(host, {{"Color", 1e12}, {"FillStyle", QStringLiteral("dots")}});
     LayerStyle style;
-    style.lsSet(Slot::Name, QStringLiteral("before"));
-    EXPECT_THROW(LoadLayerStyle(client, 17, style), RunTimeError);
-    EXPECT_THAT(style.lsGet(Slot::Name), IsValue(QStringLiteral("before")));
+    EXPECT_EQ(LoadLayerStyle(client, 17, style).fault->Number(), overflowError);
+    for (qint16 slot : {Slot::LineColour, Slot::UseForSymbols, Slot::FillStyle})
+        EXPECT_TRUE(style.lsIsNull(slot)) << slot;
+}
+
+TEST_F(LoadLayerStyleFrom, TheQuickModeIsThatOfTheRow)
+{
+    host.AddLayer({.id = 17});
+    host.SetLayerColumn(17, "OverrideMode", qint16(2));
+    LayerStyle style;
+    const ReadingResult result = LoadLayerStyle(host, 17, style);
+    ASSERT_EQ(result.modes.size(), 1U);
+    EXPECT_EQ(result.modes.front().layerID, 17);
+    EXPECT_EQ(result.modes.front().quickMode, 4);
 }
 
 TEST_F(LoadGroupStyleFrom, WhatAllMembersShareIsKnownAndTheRestIsVarious)
@@ -253,6 +266,33 @@ TEST_F(LoadGroupStyleFrom, AHiddenMemberCountsToo)
     host.AddLayer({.id = 18, .code = -3, .priority = 6});
     host.AddGroup({.id = 3, .members = {17, 18}});
     EXPECT_THAT(LoadedGroup(3).lsGet(Slot::DrawPriority), IsNullValue());
+}
+
+TEST_F(LoadGroupStyleFrom, AValueThatOneMemberCannotGiveIsVarious)
+{
+    host.AddLayer({.id = 17, .priority = 7});
+    host.AddLayer({.id = 18, .name = "Roads", .priority = 7});
+    host.SetLayerColumn(18, "Priority", QStringLiteral("high"));
+    host.AddGroup({.id = 3, .members = {17, 18}});
+    LayerStyle style;
+    const ReadingResult result = LoadGroupStyle(host, 3, style);
+    EXPECT_TRUE(style.lsIsNull(Slot::DrawPriority)); // an apply must not write the other's value over it
+    ASSERT_TRUE(result.fault);
+    EXPECT_EQ(result.fault->Description(), "Roads: Priority 'high' is not a number.");
+}
+
+TEST_F(LoadGroupStyleFrom, TheQuickModesAreThoseOfTheMembersRows)
+{
+    host.AddLayer({.id = 17});
+    host.AddLayer({.id = 18});
+    host.SetLayerColumn(18, "OverrideMode", qint16(1));
+    host.AddGroup({.id = 3, .members = {17, 99, 18}});
+    LayerStyle style;
+    const ReadingResult result = LoadGroupStyle(host, 3, style);
+    ASSERT_EQ(result.modes.size(), 2U);
+    EXPECT_EQ(result.modes[0].quickMode, 1);
+    EXPECT_EQ(result.modes[1].layerID, 18);
+    EXPECT_EQ(result.modes[1].quickMode, 2);
 }
 
 TEST_F(LoadGroupStyleFrom, EverythingIsReadInsideOneTransaction)

@@ -262,20 +262,33 @@ TEST_F(LineAndFillEditorTest, AColumnThatHoldsNoNumberIsToldAndNothingIsStored)
     const MessageBoxRobot user{BoxKey::Enter};
     Open();
     ClickLayer("Roads");
-    EXPECT_EQ(user.Boxes().size(), 1u);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.Only().text, "Roads: FillForeColor 'green' is not a number.");
     EXPECT_FALSE(CanApply());
+    Click("chkVisible");
+    Click("cmdApply");
     EXPECT_THAT(host.LayerColumn(1, "FillForeColor"), IsValue(QString("green")));
 }
 
-TEST_F(LineAndFillEditorTest, AThicknessBeyondTheListIsToldAndNothingIsStored)
+TEST_F(LineAndFillEditorTest, AThicknessBeyondTheListIsNamedAndCanBeRepaired)
 {
-    host.SetLayerColumn(1, "LineThickness", qint32(2000));
+    host.SetLayerColumn(1, "LineThickness", qint32(1639));
     const MessageBoxRobot user{BoxKey::Enter};
     Open();
     ClickLayer("Roads");
-    EXPECT_EQ(user.Only().text, "Overflow");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.Only().text, "Roads: LineThickness 1639 is too large.");
+    EXPECT_EQ(Shown("cmbLineStyles"), "[various]");
+    EXPECT_TRUE(IsEnabled("cmdDeleteLayer"));
     EXPECT_FALSE(CanApply());
-    EXPECT_EQ(Stored(1, "LineThickness"), 2000);
+    Click("chkVisible");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "LineThickness"), 1639) << "the user did not touch it";
+    List("cmbLineStyles").setFocus();
+    QTest::keyClick(&List("cmbLineStyles"), Qt::Key_Home);
+    QTest::keyClick(&List("cmbLineStyles"), Qt::Key_Down);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "LineThickness"), 0);
 }
 
 TEST_F(LineAndFillEditorTest, NullColumnsShowAsVariousAndStayNull)

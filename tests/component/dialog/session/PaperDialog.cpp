@@ -98,17 +98,23 @@ std::optional<Node> Dialog::CurrentNode() const
 
 // ---- the panel
 
+std::vector<qint32> Dialog::LayerIDsOf(const Node& node) const
+{
+    if (!node.isGroup)
+        return {node.layerID};
+    const auto group = m_map.groups.find(node.groupID);
+    if (group == m_map.groups.end())
+        return {};
+    return {group->second.members.begin(), group->second.members.end()};
+}
+
 std::vector<const Layer*> Dialog::LayersOf(const Node& node) const
 {
     std::vector<const Layer*> layers;
-    const auto add = [&](qint32 layerID) {
+    for (const qint32 layerID : LayerIDsOf(node)) {
         if (const auto found = m_map.layers.find(layerID); found != m_map.layers.end())
             layers.push_back(&found->second);
-    };
-    if (!node.isGroup)
-        add(node.layerID);
-    else if (const auto group = m_map.groups.find(node.groupID); group != m_map.groups.end())
-        std::for_each(group->second.members.begin(), group->second.members.end(), add);
+    }
     return layers;
 }
 
@@ -117,19 +123,65 @@ void Dialog::Load()
     panel = {};
     isModified = false;
     panel.node = CurrentNode();
-    if (!panel.node)
-        return;
+    if (panel.node)
+        Read();
+}
+
+// What the user has changed stays.
+void Dialog::Read()
+{
     const auto layers = LayersOf(*panel.node);
     panel.record = CommonValues(layers);
-    panel.shown = AsShown(panel.record);
-    panel.loadedMode = panel.mode = lists[shownList].ModeOf(*panel.node);
+    const Values shown = AsShown(panel.record);
+    for (int property = 0; property < PropertyCount; ++property) {
+        if (!IsMarked(Property(property)))
+            panel.shown[size_t(property)] = shown[size_t(property)];
+    }
+    const int mode = ReadMode();
+    panel.mode = panel.mode == panel.loadedMode ? mode : panel.mode;
+    panel.loadedMode = mode;
     if (panel.node->isGroup)
         return;
     panel.canEditCode = layers.empty() || !layers.front()->isSystem;
-    if (!layers.empty()) {
-        panel.storedCode = layers.front()->columns[Code];
+    if (layers.empty())
+        return;
+    panel.storedCode = layers.front()->columns[Code];
+    if (!panel.isCodeMarked)
         panel.code = QString::number(*panel.storedCode);
+}
+
+// The nodes of the layers that are read show their modes, too.
+int Dialog::ReadMode()
+{
+    std::set<int> modes;
+    for (const qint32 layerID : LayerIDsOf(*panel.node)) {
+        if (!m_map.layers.count(layerID))
+            continue;
+        modes.insert(EntryOf(layerID).mode);
+        for (List& list : lists)
+            list.SetMode(layerID, EntryOf(layerID).mode);
     }
+    if (modes.empty() && !panel.node->isGroup)
+        return lists[shownList].ModeOf(*panel.node);
+    return modes.size() == 1 ? *modes.begin() : 0;
+}
+
+bool Dialog::IsMarked(Property property) const
+{
+    return panel.marked.count(property == Thickness ? LineStyle : property) > 0;
+}
+
+// A value that nobody touched and that would come back changed is not written.
+Values Dialog::ValuesToWrite() const
+{
+    Values values = panel.shown;
+    for (int property = 0; property < PropertyCount; ++property) {
+        const bool isScale = property == MinScale || property == MaxScale; // one index for many scales
+        const bool wouldChange = panel.shown[size_t(property)] != panel.record[size_t(property)];
+        if (!IsMarked(Property(property)) && (wouldChange || isScale))
+            values[size_t(property)].reset();
+    }
+    return values;
 }
 
 void Dialog::Mark(Property property)
@@ -223,16 +275,17 @@ void Dialog::Apply()
     const std::optional<Node> node = CurrentNode();
     if (!isModified || !node || panel.node != node)
         return;
-    const auto write = [this](qint32 layerID) {
+    const Values values = ValuesToWrite();
+    const auto write = [&](qint32 layerID) {
         const auto found = m_map.layers.find(layerID);
         if (found == m_map.layers.end())
             return;
-        Write(found->second, panel.shown);
+        Write(found->second, values);
         if (IsSingle(panel.mode))
             found->second.columns[OverrideMode] = panel.mode / 2; // 1, 2, 4 are stored as 0, 1, 2
     };
     List& list = lists[shownList];
-    const bool newMode = panel.mode != list.ModeOf(*node);
+    const bool newMode = panel.mode != panel.loadedMode;
     std::vector<qint32> imaged{node->layerID};
     if (node->isGroup) {
         const auto group = m_map.groups.find(node->groupID);
@@ -294,11 +347,21 @@ void Dialog::ClickShownTab(Answer answer)
 void Dialog::Choose(const Node& node, Answer answer)
 {
     List& list = lists[shownList];
-    if (list.current == node)
+    if (list.current == node) {
+        ChooseAgain();
         return;
+    }
     Ask(answer);
     list.current = node;
     Load();
+}
+
+void Dialog::ChooseAgain()
+{
+    if (isModified && panel.node && panel.node == CurrentNode())
+        Read();
+    else
+        Load();
 }
 
 void Dialog::Rename(const Node& node, const QString& name)
@@ -373,6 +436,8 @@ void Dialog::RefreshGroups()
 {
     isModified = false;
     LoadList(Groups, Answer::No);
+    if (tab != 3)
+        Load();
 }
 
 void Dialog::ReadLayersAgain(Answer answer)

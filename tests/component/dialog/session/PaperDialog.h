@@ -98,7 +98,13 @@ private:
     std::vector<Branch> ReadLayers() const;
     bool IsHidden(qint32 layerID) const;
     Entry EntryOf(qint32 layerID) const;
+    std::vector<qint32> LayerIDsOf(const Node& node) const;
     std::vector<const Layer*> LayersOf(const Node& node) const;
+    void Read();
+    int ReadMode();
+    bool IsMarked(Property property) const;
+    Values ValuesToWrite() const;
+    void ChooseAgain();
     void Mark(Property property);
 
     Map& m_map;

@@ -137,6 +137,7 @@ TEST_F(LayerTreesMoveTest, StaysWithAClickWhenApplyFails)
     LetApplyFail();
     MessageBoxRobot user{BoxKey::Enter};
     Click(layers, "Roads");
+    Settle();
     EXPECT_EQ(user.Only().text, "locked");
     EXPECT_EQ(trees.CurrentText(), "Rails");
     EXPECT_EQ(Selected(layers), "Rails");
@@ -151,6 +152,7 @@ TEST_F(LayerTreesMoveTest, StaysWithAKeyWhenApplyFails)
     LetApplyFail();
     MessageBoxRobot user{BoxKey::Enter}; // once, though the view selects twice
     Press(layers, Qt::Key_Down);
+    Settle();
     EXPECT_EQ(trees.CurrentText(), "Rails");
     EXPECT_EQ(Selected(layers), "Rails");
     EXPECT_EQ(layers.currentIndex().data().toString(), "Rails");
@@ -164,8 +166,8 @@ TEST_F(LayerTreesMoveTest, GoesOnAfterAFailedApplyOnceItSucceeds)
     {
         MessageBoxRobot user{BoxKey::Enter};
         Click(layers, "Roads");
+        Settle();
     }
-    Settle();
     trees.SetPendingChangesQuestion([this] { ++asked; });
     Click(layers, "Roads");
     EXPECT_EQ(trees.CurrentText(), "Roads");

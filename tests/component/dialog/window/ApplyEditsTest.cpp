@@ -3,6 +3,7 @@
 
 #include "component/common/Component.h"
 #include "component/dialog/EditorFixture.h"
+#include "component/dialog/trees/LayerTreeModel.h"
 #include "component/dialog/trees/LayerTrees.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
@@ -96,12 +97,27 @@ TEST_F(Applying, StoresScalesAndPriority)
 }
 
 // "dont care" reads back as 0, whatever it stood for.
-TEST_F(Applying, AnUnlimitedMaximumIsStoredAsIndexZero)
+TEST_F(Applying, AValueThatWouldComeBackChangedIsLeftAlone)
 {
+    const double before = Stored(1, "MaxVisScale");
+    ASSERT_NE(before, 0);
     ClickLayer("Roads");
+    ASSERT_EQ(TextOf("lblScaleMax"), "dont care");
     Click("chkLocked");
     Click("cmdApply");
-    EXPECT_EQ(Stored(1, "MaxVisScale"), 0);
+    EXPECT_EQ(Stored(1, "MaxVisScale"), before);
+}
+
+TEST_F(Applying, AFillStyleThatIsNotListedIsLeftAlone)
+{
+    host.SetLayerColumn(1, "FillStyle", qint32(77));
+    const MessageBoxRobot user{BoxKey::Enter, BoxKey::Enter};
+    ClickLayer("Roads");
+    QCoreApplication::processEvents();
+    Click("chkLocked");
+    Click("cmdApply");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Stored(1, "FillStyle"), 77);
 }
 
 TEST_F(Applying, ShowsWhatIsStoredAfterwards)
@@ -149,21 +165,28 @@ TEST_F(Applying, AModeThatCannotBeShownIsReportedAndNotStored)
     EXPECT_EQ(Stored(2, "OverrideMode"), 1);
 }
 
-TEST_F(Applying, AGroupThatChangedBehindTheDialogIsReportedOnce)
+TEST_F(Applying, AModeThatChangedBehindTheDialogIsThatOfTheRowsThatAreRead)
 {
     SelectTransport();
     ASSERT_EQ(PressedModes(), 0);
-    // Another program gives both layers one mode: the group's image follows, the buttons do not.
     host.SetLayerColumn(2, "OverrideMode", qint32(0));
-    auto* trees = Find<QTreeView>("tvLayers1").model();
-    ASSERT_NE(trees, nullptr);
-    Editor().RefreshGroups();
+    ClickGroup("Transport");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(PressedModes(), 1);
+    const QTreeView& tree = Find<QTreeView>("tvLayers1");
+    EXPECT_EQ(tree.currentIndex().data(LayerTreeModel::QuickModeRole), 1);
     Click("chkLocked");
-    MessageBoxRobot user{BoxKey::Enter};
     Click("cmdApply");
-    EXPECT_EQ(user.Only().text, "Unexpected program flow in frmLayerStyles");
-    EXPECT_EQ(user.Only().icon, QMessageBox::NoIcon);
     EXPECT_EQ(Stored(2, "OverrideMode"), 0);
+}
+
+TEST_F(Applying, ATickWritesNoModeThatTheRowLostMeanwhile)
+{
+    host.SetLayerColumn(1, "OverrideMode", qint32(2));
+    ClickLayer("Roads");
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "OverrideMode"), 2);
 }
 
 TEST_F(Applying, RedrawsAfterTheCommit)

@@ -14,7 +14,7 @@ using testing::Contains;
 using testing::IsEmpty;
 using testing::Not;
 
-TEST_F(Lifecycle, RefreshGroupsForgetsThatThereAreEditsAndReadsTheGroupsOnly)
+TEST_F(Lifecycle, RefreshGroupsDropsEditsAndShowsWhatIsStored)
 {
     Open();
     ClickTab(1);
@@ -26,8 +26,8 @@ TEST_F(Lifecycle, RefreshGroupsForgetsThatThereAreEditsAndReadsTheGroupsOnly)
     EXPECT_FALSE(CanApply());
     EXPECT_EQ(Nodes("tvLayers1"), 3);
     EXPECT_THAT(host.Queries(), Not(Contains(Mentions("ORDER BY Name"))));
-    EXPECT_EQ(CheckState("chkVisible"), 0);
-    EXPECT_TRUE(IsUnderlined("chkVisible"));
+    EXPECT_EQ(CheckState("chkVisible"), 1);
+    EXPECT_FALSE(IsUnderlined("chkVisible"));
 }
 
 TEST_F(Lifecycle, RefreshGroupsInitialisesAnEditorThatWasNotShown)
@@ -243,7 +243,7 @@ TEST_F(Lifecycle, RefreshGroupsFollowsAGroupThatVanished)
     EXPECT_FALSE(CanApply());
 }
 
-TEST_F(Lifecycle, RefreshGroupsChangesOnlyTheTreeWhileTheLayersAreShown)
+TEST_F(Lifecycle, RefreshGroupsStaysWithTheLayerThatIsShown)
 {
     Open();
     ClickTab(1);
@@ -257,7 +257,7 @@ TEST_F(Lifecycle, RefreshGroupsChangesOnlyTheTreeWhileTheLayersAreShown)
     EXPECT_EQ(Nodes("tvLayers1"), 1);
     EXPECT_EQ(CurrentTab(), 2);
     EXPECT_EQ(TextOf("lblCode"), "12");
-    EXPECT_EQ(TextOf("lblPriority"), "100") << "the layer was not read again";
+    EXPECT_EQ(TextOf("lblPriority"), "7");
 }
 
 TEST_F(Lifecycle, AClickOnTheShownTabReadsAListThatIsStale)
