@@ -4,6 +4,18 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;dont care&quot; means that there is no limit.</source>
+        <translation>„beliebig“ bedeutet, dass es keine Grenze gibt.</translation>
+    </message>
+    <message>
+        <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
+        <translation>(OBS): verdeckt; der Layer wird im aktuellen Maßstab nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
+        <translation>(SUP): unterdrückt; der Layer wird nicht gezeichnet, zum Beispiel weil seine Daten nicht gelesen werden können.</translation>
+    </message>
+    <message>
         <source>1 pixel</source>
         <translation>1 Pixel</translation>
     </message>
@@ -34,6 +46,10 @@
     <message>
         <source>^1 (lowest)</source>
         <translation>^1 (niedrigste)</translation>
+    </message>
+    <message>
+        <source>A click on an object of the layer can show its attributes. Needs a hitable layer.</source>
+        <translation>Ein Klick auf ein Objekt des Layers kann dessen Attribute zeigen. Setzt einen anklickbaren Layer voraus.</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>
@@ -276,10 +292,6 @@
         <translation>Anklic&amp;kbar</translation>
     </message>
     <message>
-        <source>Hollow</source>
-        <translation>Hohl</translation>
-    </message>
-    <message>
         <source>How the renderer draws the layer.</source>
         <translation>Wie der Layer dargestellt wird.</translation>
     </message>
@@ -356,10 +368,6 @@
         <translation>Marineblau</translation>
     </message>
     <message>
-        <source>New points on the layer must snap to existing ones.</source>
-        <translation>Neue Punkte auf dem Layer müssen auf vorhandene gefangen werden.</translation>
-    </message>
-    <message>
         <source>New Scheme</source>
         <translation>Neues Schema</translation>
     </message>
@@ -384,16 +392,12 @@
         <translation>Normal</translation>
     </message>
     <message>
-        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
-        <translation>Objekte des Layers können abgefragt werden. Setzt einen anklickbaren Layer voraus.</translation>
+        <source>Objects of the layer can be clicked on the map.</source>
+        <translation>Objekte des Layers können auf der Karte angeklickt werden.</translation>
     </message>
     <message>
         <source>Objects of the layer can be selected. Needs a hitable layer.</source>
         <translation>Objekte des Layers können ausgewählt werden. Setzt einen anklickbaren Layer voraus.</translation>
-    </message>
-    <message>
-        <source>Objects of the layer react to the pointer.</source>
-        <translation>Objekte des Layers reagieren auf den Mauszeiger.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -402,6 +406,10 @@
     <message>
         <source>Olive</source>
         <translation>Oliv</translation>
+    </message>
+    <message>
+        <source>Outline only</source>
+        <translation>Nur Umriss</translation>
     </message>
     <message>
         <source>Overflow</source>
@@ -418,6 +426,10 @@
     <message>
         <source>Please supply a non-blank name, or cancel.</source>
         <translation>Bitte geben Sie einen Namen ein, der nicht leer ist, oder brechen Sie ab.</translation>
+    </message>
+    <message>
+        <source>Points that are set near objects of the layer snap to them.</source>
+        <translation>Punkte, die nahe bei Objekten des Layers gesetzt werden, werden auf diesen gefangen.</translation>
     </message>
     <message>
         <source>P&amp;riority:</source>
@@ -484,16 +496,16 @@
         <translation>Kleinsten sichtbaren Maßstab festlegen</translation>
     </message>
     <message>
-        <source>Set the largest scale index at which the layer is drawn.</source>
-        <translation>Den größten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird.</translation>
+        <source>Set the largest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Den größten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird; „beliebig“ setzt keine Grenze.</translation>
     </message>
     <message>
         <source>Set the order in which layers are drawn; 1 is the highest.</source>
         <translation>Die Reihenfolge festlegen, in der Layer gezeichnet werden; 1 ist die höchste Priorität.</translation>
     </message>
     <message>
-        <source>Set the smallest scale index at which the layer is drawn.</source>
-        <translation>Den kleinsten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird.</translation>
+        <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Den kleinsten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird; „beliebig“ setzt keine Grenze.</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -516,7 +528,7 @@
         <translation>Fan&amp;g erforderlich</translation>
     </message>
     <message>
-        <source>Solid fill</source>
+        <source>Solid</source>
         <translation>Vollfläche</translation>
     </message>
     <message>

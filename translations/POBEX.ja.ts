@@ -4,6 +4,18 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;dont care&quot; means that there is no limit.</source>
+        <translation>「指定なし」は制限がないことを表します。</translation>
+    </message>
+    <message>
+        <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
+        <translation>(OBS): 隠れています。現在の縮尺ではレイヤーは描画されません。</translation>
+    </message>
+    <message>
+        <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
+        <translation>(SUP): 抑制されています。データを読み込めないなどの理由で、レイヤーは描画されません。</translation>
+    </message>
+    <message>
         <source>1 pixel</source>
         <translation>1 ピクセル</translation>
     </message>
@@ -34,6 +46,10 @@
     <message>
         <source>^1 (lowest)</source>
         <translation>^1 (最低)</translation>
+    </message>
+    <message>
+        <source>A click on an object of the layer can show its attributes. Needs a hitable layer.</source>
+        <translation>レイヤーのオブジェクトをクリックして属性を表示できます。クリック可能なレイヤーである必要があります。</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>
@@ -276,10 +292,6 @@
         <translation>クリック可能(&amp;T)</translation>
     </message>
     <message>
-        <source>Hollow</source>
-        <translation>塗りなし</translation>
-    </message>
-    <message>
         <source>How the renderer draws the layer.</source>
         <translation>レイヤーの描画方法です。</translation>
     </message>
@@ -356,10 +368,6 @@
         <translation>紺</translation>
     </message>
     <message>
-        <source>New points on the layer must snap to existing ones.</source>
-        <translation>レイヤー上の新しい点は既存の点にスナップする必要があります。</translation>
-    </message>
-    <message>
         <source>New Scheme</source>
         <translation>新しいスキーム</translation>
     </message>
@@ -384,16 +392,12 @@
         <translation>標準表示</translation>
     </message>
     <message>
-        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
-        <translation>レイヤーのオブジェクトを照会できます。クリック可能なレイヤーである必要があります。</translation>
+        <source>Objects of the layer can be clicked on the map.</source>
+        <translation>レイヤーのオブジェクトを地図上でクリックできます。</translation>
     </message>
     <message>
         <source>Objects of the layer can be selected. Needs a hitable layer.</source>
         <translation>レイヤーのオブジェクトを選択できます。クリック可能なレイヤーである必要があります。</translation>
-    </message>
-    <message>
-        <source>Objects of the layer react to the pointer.</source>
-        <translation>レイヤーのオブジェクトがポインターに反応します。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -402,6 +406,10 @@
     <message>
         <source>Olive</source>
         <translation>オリーブ</translation>
+    </message>
+    <message>
+        <source>Outline only</source>
+        <translation>輪郭のみ</translation>
     </message>
     <message>
         <source>Overflow</source>
@@ -418,6 +426,10 @@
     <message>
         <source>Please supply a non-blank name, or cancel.</source>
         <translation>空白でない名前を入力するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Points that are set near objects of the layer snap to them.</source>
+        <translation>レイヤーのオブジェクトの近くに置いた点は、オブジェクトにスナップします。</translation>
     </message>
     <message>
         <source>P&amp;riority:</source>
@@ -484,16 +496,16 @@
         <translation>最小表示縮尺の設定</translation>
     </message>
     <message>
-        <source>Set the largest scale index at which the layer is drawn.</source>
-        <translation>レイヤーを描画する最大の縮尺インデックスを設定します。</translation>
+        <source>Set the largest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>レイヤーを描画する最大の縮尺インデックスを設定します。「指定なし」では制限がありません。</translation>
     </message>
     <message>
         <source>Set the order in which layers are drawn; 1 is the highest.</source>
         <translation>レイヤーの描画順を設定します。1 が最高です。</translation>
     </message>
     <message>
-        <source>Set the smallest scale index at which the layer is drawn.</source>
-        <translation>レイヤーを描画する最小の縮尺インデックスを設定します。</translation>
+        <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>レイヤーを描画する最小の縮尺インデックスを設定します。「指定なし」では制限がありません。</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -516,7 +528,7 @@
         <translation>スナップ必須(&amp;P)</translation>
     </message>
     <message>
-        <source>Solid fill</source>
+        <source>Solid</source>
         <translation>塗りつぶし</translation>
     </message>
     <message>
