@@ -228,6 +228,10 @@
         <translation>Code bearbeiten</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>Layereinstellungen werden auf den Registerkarten „Gruppen“ und „Layer“ bearbeitet.</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>Namen bearbeiten</translation>
     </message>
@@ -598,10 +602,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Das Muster oder die Breite von Linien und Umrissen.</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>Die Einstellungen von Layern werden auf den anderen Registerkarten bearbeitet.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

@@ -228,6 +228,10 @@
         <translation>Modifier le code</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>Modifiez les réglages des couches dans les onglets « Groupes » et « Couches ».</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>Modifier le nom</translation>
     </message>
@@ -598,10 +602,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Le motif ou l’épaisseur des lignes et des contours.</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>Les réglages des couches se modifient dans les autres onglets.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

@@ -228,6 +228,10 @@
         <translation>コードの編集</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>レイヤーの設定は「グループ」タブと「レイヤー」タブで編集します。</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>名前の編集</translation>
     </message>
@@ -598,10 +602,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>線と輪郭のパターンまたは幅です。</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>レイヤーの設定は他のタブで編集します。</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>
