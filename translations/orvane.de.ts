@@ -456,6 +456,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>Code:</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Anlegen von „%1“</translation>
     </message>
@@ -834,6 +838,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>N</translation>
     </message>
     <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>Neuer Layer</translation>
     </message>
@@ -892,6 +900,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>Nur die Karte, bis an den Rand der Seite.</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Zahl:</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1430,6 +1442,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Wert:</translation>
     </message>
     <message>
         <source>W</source>

@@ -456,6 +456,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>Code :</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Création de « %1 »</translation>
     </message>
@@ -834,6 +838,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>N</translation>
     </message>
     <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>Nouvelle couche</translation>
     </message>
@@ -892,6 +900,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nombre :</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1430,6 +1442,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value</source>
         <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Valeur :</translation>
     </message>
     <message>
         <source>W</source>

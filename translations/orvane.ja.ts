@@ -456,6 +456,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>コード:</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>「%1」の作成</translation>
     </message>
@@ -834,6 +838,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>北緯</translation>
     </message>
     <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+    <message>
         <source>New Layer</source>
         <translation>新しいレイヤ</translation>
     </message>
@@ -892,6 +900,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>地図だけを、ページの端まで描きます。</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>数値:</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1430,6 +1442,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value</source>
         <translation>値</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>値:</translation>
     </message>
     <message>
         <source>W</source>
