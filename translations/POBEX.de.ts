@@ -460,8 +460,8 @@
         <translation>S&amp;peichern</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>Alle Schemas in der Startdatenbank speichern, aus der neue Karten entstehen.</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>Alle Schemas dieser Karte in der Startdatenbank speichern, aus der neue Karten ihre Schemas übernehmen.</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>

@@ -460,8 +460,8 @@
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>Enregistrer tous les schémas dans la base de données de démarrage, à partir de laquelle les nouvelles cartes sont créées.</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>Enregistrer tous les schémas de cette carte dans la base de données de démarrage, dont les nouvelles cartes reprennent les schémas.</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>

@@ -460,8 +460,8 @@
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>すべてのスキームを、新しい地図の元になる起動時のデータベースに保存します。</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>この地図のすべてのスキームを、新しい地図のスキームの元になる起動時のデータベースに保存します。</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>

@@ -362,6 +362,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>Alle Schemas dieser Karte wurden für neue Karten gespeichert.</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>&amp;Leerer Layer</translation>
     </message>

@@ -362,6 +362,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>Tous les schémas de cette carte ont été enregistrés pour les nouvelles cartes.</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>Une couche &amp;vide</translation>
     </message>

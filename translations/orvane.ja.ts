@@ -362,6 +362,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>この地図のすべてのスキームを、新しい地図用に保存しました。</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>空のレイヤ(&amp;E)</translation>
     </message>
