@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Back&amp;ground:</source>
-        <translation>Hi&amp;ntergrund:</translation>
+        <translation>Füllhi&amp;ntergrund:</translation>
     </message>
     <message>
         <source>Black</source>
