@@ -104,6 +104,26 @@
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>Ü&amp;ber Orvane</translation>
     </message>
@@ -546,10 +566,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Zeichnen...</translation>
     </message>
     <message>
-        <source>E</source>
-        <translation>O</translation>
-    </message>
-    <message>
         <source>Enter a name.</source>
         <translation>Geben Sie einen Namen ein.</translation>
     </message>
@@ -838,10 +854,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Das Objekt wird verschoben</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>N</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>Name:</translation>
     </message>
@@ -1082,10 +1094,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>Zeilen von „^1“ wurden nach dem Schließen verwendet.</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>S</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1450,10 +1458,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <translation>W</translation>
     </message>
     <message>
         <source>Width</source>

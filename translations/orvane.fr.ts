@@ -104,6 +104,26 @@
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>À &amp;propos d’Orvane</translation>
     </message>
@@ -546,10 +566,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessin...</translation>
     </message>
     <message>
-        <source>E</source>
-        <translation>E</translation>
-    </message>
-    <message>
         <source>Enter a name.</source>
         <translation>Saisissez un nom.</translation>
     </message>
@@ -838,10 +854,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Déplacement de l’objet</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>N</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>Nom :</translation>
     </message>
@@ -1082,10 +1094,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>Des lignes de « ^1 » ont été utilisées après leur fermeture.</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>S</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1450,10 +1458,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <translation>O</translation>
     </message>
     <message>
         <source>Width</source>

@@ -104,6 +104,26 @@
         <translation>他%1個</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>東経%1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>北緯%1°</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>南緯%1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>西経%1°</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>Orvane について(&amp;A)</translation>
     </message>
@@ -546,10 +566,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>描画中...</translation>
     </message>
     <message>
-        <source>E</source>
-        <translation>東経</translation>
-    </message>
-    <message>
         <source>Enter a name.</source>
         <translation>名前を入力してください。</translation>
     </message>
@@ -838,10 +854,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地物を移動しています</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>北緯</translation>
-    </message>
-    <message>
         <source>Name:</source>
         <translation>名前:</translation>
     </message>
@@ -1082,10 +1094,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>「^1」の行が閉じられた後に使用されました。</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>南緯</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1450,10 +1458,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <translation>西経</translation>
     </message>
     <message>
         <source>Width</source>
