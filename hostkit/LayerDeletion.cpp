@@ -4,6 +4,7 @@
 #include "messages/NameInText.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QMessageBox>
 
 namespace Orvane {
@@ -22,7 +23,7 @@ QString Listed(const QStringList& names)
     for (const QString& name : names.mid(0, MostNames))
         listed << QLatin1Char('"') + NameInStep(name) + QLatin1Char('"');
     if (names.size() > MostNames)
-        listed << Texts::tr("%1 more").arg(names.size() - MostNames);
+        listed << Texts::tr("%1 more").arg(QLocale().toString(names.size() - MostNames));
     return listed.join(QLatin1String(", "));
 }
 

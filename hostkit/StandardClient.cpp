@@ -252,6 +252,7 @@ void StandardClient::IStyleEditorClient_SaveSchemesToStartup()
             QStringLiteral("StandardClient"));
     }
     StartupSchemes::Save(m_database, m_parts->startupFile);
+    emit m_parts->notifications.SchemesSavedToStartup();
 }
 
 PromptAnswer StandardClient::IStyleEditorClient_PromptText(const PromptRequest& request)

@@ -57,6 +57,7 @@ void StandardShellServices::IShellServices_EnterValue(
     const QPointer<QWidget> guarded(control);
     const QString current = control->property("text").toString();
     TextPrompt prompt({title, current, kind, minimum, maximum, 0}, control->window());
+    prompt.SetLabel(QCoreApplication::translate("StandardShellServices", "Value:"));
     prompt.PlaceOver(*control);
     const PromptAnswer answer = prompt.Ask();
     if (answer.accepted && guarded)

@@ -89,6 +89,7 @@ void OvCombo::SetItemData(int index, qint32 value)
 void OvCombo::SetItemDescription(int index, const QString& description)
 {
     setItemText(index, description);
+    setItemData(index, description, Qt::ToolTipRole);
 }
 
 void OvCombo::SetListIndex(int index)

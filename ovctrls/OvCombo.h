@@ -49,7 +49,8 @@ public:
     qint32 ItemData(int index) const;
     void SetItemData(int index, qint32 value);
 
-    /// Describes an item without words, such as a swatch, for screen readers and searches.
+    /// Describes an item without words, such as a swatch: for screen readers and searches, and as its tool
+    /// tip in the open list.
     void SetItemDescription(int index, const QString& description);
 
     /// The selected index, -1 for none.

@@ -4,6 +4,18 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;dont care&quot; means that there is no limit.</source>
+        <translation>„beliebig“ bedeutet, dass es keine Grenze gibt.</translation>
+    </message>
+    <message>
+        <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
+        <translation>(OBS): verdeckt; der Layer wird im aktuellen Maßstab nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
+        <translation>(SUP): unterdrückt; der Layer wird nicht gezeichnet, zum Beispiel weil seine Daten nicht gelesen werden können.</translation>
+    </message>
+    <message>
         <source>1 pixel</source>
         <translation>1 Pixel</translation>
     </message>
@@ -60,6 +72,10 @@
         <translation>^1: ^2</translation>
     </message>
     <message>
+        <source>A click on an object of the layer can show its attributes. Needs a hitable layer.</source>
+        <translation>Ein Klick auf ein Objekt des Layers kann dessen Attribute zeigen. Setzt einen anklickbaren Layer voraus.</translation>
+    </message>
+    <message>
         <source>A size has no finite value in pixels.</source>
         <translation>Eine Größe hat keinen endlichen Wert in Pixeln.</translation>
     </message>
@@ -89,7 +105,7 @@
     </message>
     <message>
         <source>Back&amp;ground:</source>
-        <translation>Hi&amp;ntergrund:</translation>
+        <translation>Füllhi&amp;ntergrund:</translation>
     </message>
     <message>
         <source>Black</source>
@@ -236,6 +252,10 @@
         <translation>Code bearbeiten</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>Layereinstellungen werden auf den Registerkarten „Gruppen“ und „Layer“ bearbeitet.</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>Namen bearbeiten</translation>
     </message>
@@ -298,10 +318,6 @@
     <message>
         <source>Hi&amp;table</source>
         <translation>Anklic&amp;kbar</translation>
-    </message>
-    <message>
-        <source>Hollow</source>
-        <translation>Hohl</translation>
     </message>
     <message>
         <source>How the renderer draws the layer.</source>
@@ -380,10 +396,6 @@
         <translation>Marineblau</translation>
     </message>
     <message>
-        <source>New points on the layer must snap to existing ones.</source>
-        <translation>Neue Punkte auf dem Layer müssen auf vorhandene gefangen werden.</translation>
-    </message>
-    <message>
         <source>New Scheme</source>
         <translation>Neues Schema</translation>
     </message>
@@ -408,16 +420,12 @@
         <translation>Normal</translation>
     </message>
     <message>
-        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
-        <translation>Objekte des Layers können abgefragt werden. Setzt einen anklickbaren Layer voraus.</translation>
+        <source>Objects of the layer can be clicked on the map.</source>
+        <translation>Objekte des Layers können auf der Karte angeklickt werden.</translation>
     </message>
     <message>
         <source>Objects of the layer can be selected. Needs a hitable layer.</source>
         <translation>Objekte des Layers können ausgewählt werden. Setzt einen anklickbaren Layer voraus.</translation>
-    </message>
-    <message>
-        <source>Objects of the layer react to the pointer.</source>
-        <translation>Objekte des Layers reagieren auf den Mauszeiger.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -426,6 +434,10 @@
     <message>
         <source>Olive</source>
         <translation>Oliv</translation>
+    </message>
+    <message>
+        <source>Outline only</source>
+        <translation>Nur Umriss</translation>
     </message>
     <message>
         <source>Overflow</source>
@@ -442,6 +454,10 @@
     <message>
         <source>Please supply a non-blank name, or cancel.</source>
         <translation>Bitte geben Sie einen Namen ein, der nicht leer ist, oder brechen Sie ab.</translation>
+    </message>
+    <message>
+        <source>Points that are set near objects of the layer snap to them.</source>
+        <translation>Punkte, die nahe bei Objekten des Layers gesetzt werden, werden auf diesen gefangen.</translation>
     </message>
     <message>
         <source>P&amp;riority:</source>
@@ -468,8 +484,8 @@
         <translation>S&amp;peichern</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>Alle Schemas in der Startdatenbank speichern, aus der neue Karten entstehen.</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>Alle Schemas dieser Karte in der Startdatenbank speichern, aus der neue Karten ihre Schemas übernehmen.</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>
@@ -508,16 +524,16 @@
         <translation>Kleinsten sichtbaren Maßstab festlegen</translation>
     </message>
     <message>
-        <source>Set the largest scale index at which the layer is drawn.</source>
-        <translation>Den größten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird.</translation>
+        <source>Set the largest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Den größten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird; „beliebig“ setzt keine Grenze.</translation>
     </message>
     <message>
         <source>Set the order in which layers are drawn; 1 is the highest.</source>
         <translation>Die Reihenfolge festlegen, in der Layer gezeichnet werden; 1 ist die höchste Priorität.</translation>
     </message>
     <message>
-        <source>Set the smallest scale index at which the layer is drawn.</source>
-        <translation>Den kleinsten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird.</translation>
+        <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Den kleinsten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird; „beliebig“ setzt keine Grenze.</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -540,7 +556,7 @@
         <translation>Fan&amp;g erforderlich</translation>
     </message>
     <message>
-        <source>Solid fill</source>
+        <source>Solid</source>
         <translation>Vollfläche</translation>
     </message>
     <message>
@@ -610,10 +626,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Das Muster oder die Breite von Linien und Umrissen.</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>Die Einstellungen von Layern werden auf den anderen Registerkarten bearbeitet.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

@@ -4,6 +4,18 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;dont care&quot; means that there is no limit.</source>
+        <translation>« indifférent » signifie qu’il n’y a pas de limite.</translation>
+    </message>
+    <message>
+        <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
+        <translation>(OBS) : masquée ; la couche n’est pas dessinée à l’échelle actuelle.</translation>
+    </message>
+    <message>
+        <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
+        <translation>(SUP) : supprimée de l’affichage ; la couche n’est pas dessinée, par exemple parce que ses données ne peuvent pas être lues.</translation>
+    </message>
+    <message>
         <source>1 pixel</source>
         <translation>1 pixel</translation>
     </message>
@@ -58,6 +70,10 @@
     <message>
         <source>^1: ^2</source>
         <translation>^1 : ^2</translation>
+    </message>
+    <message>
+        <source>A click on an object of the layer can show its attributes. Needs a hitable layer.</source>
+        <translation>Un clic sur un objet de la couche peut afficher ses attributs. Nécessite une couche cliquable.</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>
@@ -236,6 +252,10 @@
         <translation>Modifier le code</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>Modifiez les réglages des couches dans les onglets « Groupes » et « Couches ».</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>Modifier le nom</translation>
     </message>
@@ -298,10 +318,6 @@
     <message>
         <source>Hi&amp;table</source>
         <translation>&amp;Cliquable</translation>
-    </message>
-    <message>
-        <source>Hollow</source>
-        <translation>Vide</translation>
     </message>
     <message>
         <source>How the renderer draws the layer.</source>
@@ -380,10 +396,6 @@
         <translation>Bleu marine</translation>
     </message>
     <message>
-        <source>New points on the layer must snap to existing ones.</source>
-        <translation>Les nouveaux points de la couche doivent s’accrocher à des points existants.</translation>
-    </message>
-    <message>
         <source>New Scheme</source>
         <translation>Nouveau schéma</translation>
     </message>
@@ -408,16 +420,12 @@
         <translation>Normal</translation>
     </message>
     <message>
-        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
-        <translation>Les objets de la couche répondent aux interrogations. Nécessite une couche cliquable.</translation>
+        <source>Objects of the layer can be clicked on the map.</source>
+        <translation>Les objets de la couche sont cliquables sur la carte.</translation>
     </message>
     <message>
         <source>Objects of the layer can be selected. Needs a hitable layer.</source>
         <translation>Les objets de la couche peuvent être sélectionnés. Nécessite une couche cliquable.</translation>
-    </message>
-    <message>
-        <source>Objects of the layer react to the pointer.</source>
-        <translation>Les objets de la couche réagissent au pointeur.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -426,6 +434,10 @@
     <message>
         <source>Olive</source>
         <translation>Olive</translation>
+    </message>
+    <message>
+        <source>Outline only</source>
+        <translation>Contour seul</translation>
     </message>
     <message>
         <source>Overflow</source>
@@ -442,6 +454,10 @@
     <message>
         <source>Please supply a non-blank name, or cancel.</source>
         <translation>Veuillez saisir un nom non vide, ou annulez.</translation>
+    </message>
+    <message>
+        <source>Points that are set near objects of the layer snap to them.</source>
+        <translation>Les points posés près d’objets de la couche s’y accrochent.</translation>
     </message>
     <message>
         <source>P&amp;riority:</source>
@@ -468,8 +484,8 @@
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>Enregistrer tous les schémas dans la base de données de démarrage, à partir de laquelle les nouvelles cartes sont créées.</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>Enregistrer tous les schémas de cette carte dans la base de données de démarrage, dont les nouvelles cartes reprennent les schémas.</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>
@@ -508,16 +524,16 @@
         <translation>Définir l’échelle visible minimale</translation>
     </message>
     <message>
-        <source>Set the largest scale index at which the layer is drawn.</source>
-        <translation>Définir l’indice d’échelle maximal auquel la couche est dessinée.</translation>
+        <source>Set the largest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Définir l’indice d’échelle maximal auquel la couche est dessinée ; « indifférent » ne fixe pas de limite.</translation>
     </message>
     <message>
         <source>Set the order in which layers are drawn; 1 is the highest.</source>
         <translation>Définir l’ordre de dessin des couches ; 1 est la priorité la plus haute.</translation>
     </message>
     <message>
-        <source>Set the smallest scale index at which the layer is drawn.</source>
-        <translation>Définir l’indice d’échelle minimal auquel la couche est dessinée.</translation>
+        <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>Définir l’indice d’échelle minimal auquel la couche est dessinée ; « indifférent » ne fixe pas de limite.</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -540,8 +556,8 @@
         <translation>Accroc&amp;hage obligatoire</translation>
     </message>
     <message>
-        <source>Solid fill</source>
-        <translation>Remplissage uni</translation>
+        <source>Solid</source>
+        <translation>Uni</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -610,10 +626,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Le motif ou l’épaisseur des lignes et des contours.</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>Les réglages des couches se modifient dans les autres onglets.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

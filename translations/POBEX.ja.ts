@@ -4,6 +4,18 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;dont care&quot; means that there is no limit.</source>
+        <translation>「指定なし」は制限がないことを表します。</translation>
+    </message>
+    <message>
+        <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
+        <translation>(OBS): 隠れています。現在の縮尺ではレイヤーは描画されません。</translation>
+    </message>
+    <message>
+        <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
+        <translation>(SUP): 抑制されています。データを読み込めないなどの理由で、レイヤーは描画されません。</translation>
+    </message>
+    <message>
         <source>1 pixel</source>
         <translation>1 ピクセル</translation>
     </message>
@@ -58,6 +70,10 @@
     <message>
         <source>^1: ^2</source>
         <translation>^1：^2</translation>
+    </message>
+    <message>
+        <source>A click on an object of the layer can show its attributes. Needs a hitable layer.</source>
+        <translation>レイヤーのオブジェクトをクリックして属性を表示できます。クリック可能なレイヤーである必要があります。</translation>
     </message>
     <message>
         <source>A size has no finite value in pixels.</source>
@@ -236,6 +252,10 @@
         <translation>コードの編集</translation>
     </message>
     <message>
+        <source>Edit layer settings on the Groups and Layers tabs.</source>
+        <translation>レイヤーの設定は「グループ」タブと「レイヤー」タブで編集します。</translation>
+    </message>
+    <message>
         <source>Edit Name</source>
         <translation>名前の編集</translation>
     </message>
@@ -298,10 +318,6 @@
     <message>
         <source>Hi&amp;table</source>
         <translation>クリック可能(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Hollow</source>
-        <translation>塗りなし</translation>
     </message>
     <message>
         <source>How the renderer draws the layer.</source>
@@ -380,10 +396,6 @@
         <translation>紺</translation>
     </message>
     <message>
-        <source>New points on the layer must snap to existing ones.</source>
-        <translation>レイヤー上の新しい点は既存の点にスナップする必要があります。</translation>
-    </message>
-    <message>
         <source>New Scheme</source>
         <translation>新しいスキーム</translation>
     </message>
@@ -408,16 +420,12 @@
         <translation>標準表示</translation>
     </message>
     <message>
-        <source>Objects of the layer answer enquiries. Needs a hitable layer.</source>
-        <translation>レイヤーのオブジェクトを照会できます。クリック可能なレイヤーである必要があります。</translation>
+        <source>Objects of the layer can be clicked on the map.</source>
+        <translation>レイヤーのオブジェクトを地図上でクリックできます。</translation>
     </message>
     <message>
         <source>Objects of the layer can be selected. Needs a hitable layer.</source>
         <translation>レイヤーのオブジェクトを選択できます。クリック可能なレイヤーである必要があります。</translation>
-    </message>
-    <message>
-        <source>Objects of the layer react to the pointer.</source>
-        <translation>レイヤーのオブジェクトがポインターに反応します。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -426,6 +434,10 @@
     <message>
         <source>Olive</source>
         <translation>オリーブ</translation>
+    </message>
+    <message>
+        <source>Outline only</source>
+        <translation>輪郭のみ</translation>
     </message>
     <message>
         <source>Overflow</source>
@@ -442,6 +454,10 @@
     <message>
         <source>Please supply a non-blank name, or cancel.</source>
         <translation>空白でない名前を入力するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Points that are set near objects of the layer snap to them.</source>
+        <translation>レイヤーのオブジェクトの近くに置いた点は、オブジェクトにスナップします。</translation>
     </message>
     <message>
         <source>P&amp;riority:</source>
@@ -468,8 +484,8 @@
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Save all schemes to the startup database, from which new maps begin.</source>
-        <translation>すべてのスキームを、新しい地図の元になる起動時のデータベースに保存します。</translation>
+        <source>Save all schemes of this map to the startup database, from which new maps take their schemes.</source>
+        <translation>この地図のすべてのスキームを、新しい地図のスキームの元になる起動時のデータベースに保存します。</translation>
     </message>
     <message>
         <source>Save current layer setup to scheme &apos;^1&apos;?</source>
@@ -508,16 +524,16 @@
         <translation>最小表示縮尺の設定</translation>
     </message>
     <message>
-        <source>Set the largest scale index at which the layer is drawn.</source>
-        <translation>レイヤーを描画する最大の縮尺インデックスを設定します。</translation>
+        <source>Set the largest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>レイヤーを描画する最大の縮尺インデックスを設定します。「指定なし」では制限がありません。</translation>
     </message>
     <message>
         <source>Set the order in which layers are drawn; 1 is the highest.</source>
         <translation>レイヤーの描画順を設定します。1 が最高です。</translation>
     </message>
     <message>
-        <source>Set the smallest scale index at which the layer is drawn.</source>
-        <translation>レイヤーを描画する最小の縮尺インデックスを設定します。</translation>
+        <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
+        <translation>レイヤーを描画する最小の縮尺インデックスを設定します。「指定なし」では制限がありません。</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -540,7 +556,7 @@
         <translation>スナップ必須(&amp;P)</translation>
     </message>
     <message>
-        <source>Solid fill</source>
+        <source>Solid</source>
         <translation>塗りつぶし</translation>
     </message>
     <message>
@@ -610,10 +626,6 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>線と輪郭のパターンまたは幅です。</translation>
-    </message>
-    <message>
-        <source>The settings of layers are edited on the other tabs.</source>
-        <translation>レイヤーの設定は他のタブで編集します。</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

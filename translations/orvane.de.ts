@@ -104,6 +104,26 @@
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° W</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>Ü&amp;ber Orvane</translation>
     </message>
@@ -362,6 +382,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>Alle Schemas dieser Karte wurden für neue Karten gespeichert.</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>&amp;Leerer Layer</translation>
     </message>
@@ -456,6 +480,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>Code:</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Anlegen von „%1“</translation>
     </message>
@@ -536,10 +564,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Drawing...</source>
         <translation>Zeichnen...</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <translation>O</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -830,8 +854,8 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Das Objekt wird verschoben</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>N</translation>
+        <source>Name:</source>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>New Layer</source>
@@ -892,6 +916,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>Nur die Karte, bis an den Rand der Seite.</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Zahl:</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1066,10 +1094,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>Zeilen von „^1“ wurden nach dem Schließen verwendet.</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>S</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1432,8 +1456,8 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Wert</translation>
     </message>
     <message>
-        <source>W</source>
-        <translation>W</translation>
+        <source>Value:</source>
+        <translation>Wert:</translation>
     </message>
     <message>
         <source>Width</source>

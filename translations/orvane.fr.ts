@@ -104,6 +104,26 @@
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>%1° E</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>%1° N</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>%1° S</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>%1° O</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>À &amp;propos d’Orvane</translation>
     </message>
@@ -362,6 +382,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>Tous les schémas de cette carte ont été enregistrés pour les nouvelles cartes.</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>Une couche &amp;vide</translation>
     </message>
@@ -456,6 +480,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>Code :</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Création de « %1 »</translation>
     </message>
@@ -536,10 +564,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Drawing...</source>
         <translation>Dessin...</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <translation>E</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -830,8 +854,8 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Déplacement de l’objet</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>N</translation>
+        <source>Name:</source>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>New Layer</source>
@@ -892,6 +916,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nombre :</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1066,10 +1094,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>Des lignes de « ^1 » ont été utilisées après leur fermeture.</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>S</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1432,8 +1456,8 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Valeur</translation>
     </message>
     <message>
-        <source>W</source>
-        <translation>O</translation>
+        <source>Value:</source>
+        <translation>Valeur :</translation>
     </message>
     <message>
         <source>Width</source>

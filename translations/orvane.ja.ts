@@ -104,6 +104,26 @@
         <translation>他%1個</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1° E</source>
+        <translation>東経%1°</translation>
+    </message>
+    <message>
+        <source>%1° N</source>
+        <translation>北緯%1°</translation>
+    </message>
+    <message>
+        <source>%1° S</source>
+        <translation>南緯%1°</translation>
+    </message>
+    <message>
+        <source>%1° W</source>
+        <translation>西経%1°</translation>
+    </message>
+    <message>
         <source>&amp;About Orvane</source>
         <translation>Orvane について(&amp;A)</translation>
     </message>
@@ -362,6 +382,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
+        <source>All schemes of this map were saved for new maps.</source>
+        <translation>この地図のすべてのスキームを、新しい地図用に保存しました。</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>空のレイヤ(&amp;E)</translation>
     </message>
@@ -456,6 +480,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
     </message>
     <message>
+        <source>Code:</source>
+        <translation>コード:</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>「%1」の作成</translation>
     </message>
@@ -536,10 +564,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Drawing...</source>
         <translation>描画中...</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <translation>東経</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -830,8 +854,8 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地物を移動しています</translation>
     </message>
     <message>
-        <source>N</source>
-        <translation>北緯</translation>
+        <source>Name:</source>
+        <translation>名前:</translation>
     </message>
     <message>
         <source>New Layer</source>
@@ -892,6 +916,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
         <translation>地図だけを、ページの端まで描きます。</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>数値:</translation>
     </message>
     <message>
         <source>One statement at a time can be run on &quot;^1&quot;.</source>
@@ -1066,10 +1094,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Rows of &quot;^1&quot; were used after they were closed.</source>
         <translation>「^1」の行が閉じられた後に使用されました。</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>南緯</translation>
     </message>
     <message>
         <source>S&amp;witch to It</source>
@@ -1432,8 +1456,8 @@ These commands run without a window; each has its own --help:
         <translation>値</translation>
     </message>
     <message>
-        <source>W</source>
-        <translation>西経</translation>
+        <source>Value:</source>
+        <translation>値:</translation>
     </message>
     <message>
         <source>Width</source>

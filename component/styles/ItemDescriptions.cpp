@@ -61,8 +61,8 @@ QString FillDescription(qint32 style)
 {
     constexpr qint32 solid = 0;
     if (style == solid)
-        return TranslateMsg("Solid fill");
-    return style == HollowFill ? TranslateMsg("Hollow") : TranslateMsg("Pattern ^1", style);
+        return TranslateMsg("Solid");
+    return style == HollowFill ? TranslateMsg("Outline only") : TranslateMsg("Pattern ^1", style);
 }
 
 } // namespace Orvane

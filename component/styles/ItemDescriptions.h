@@ -8,8 +8,8 @@
 
 namespace Orvane {
 
-/// Descriptions, in the user's language, of items that are pictures: for screen readers, and for searching
-/// the list by typing.
+/// Descriptions, in the user's language, of items that are pictures: for screen readers, as tool tips, and
+/// for searching the list by typing.
 
 /// The name of a standard colour, "#RRGGBB" for any other. colour: BGR.
 QString ColourDescription(qint32 colour);

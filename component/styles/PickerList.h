@@ -37,7 +37,7 @@ public:
     /// Removes all items and all remembered indexes.
     void Clear();
     /// Adds an item with its data, at the end or before the item at the position. description: for screen
-    /// readers and searches.
+    /// readers, searches and tool tips.
     void Add(const QString& text, const QString& description, qint32 data, qint32 position = AtEnd);
     /// Appends an item without data and remembers it.
     void AddSpecial(Special item, const QString& text);

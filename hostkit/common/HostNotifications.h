@@ -32,6 +32,8 @@ signals:
     void SchemesChanged(const QString& currentScheme);
     /// The layers now have the scheme's saved values. Emitted after SchemesChanged and LayersChanged.
     void SchemeLoaded(const QString& scheme);
+    /// All schemes were written to the startup database.
+    void SchemesSavedToStartup();
     /// A change was stored, but it cannot be undone; steps before it still can, as far as it does not
     /// conflict with them. reason: for the user.
     void StepNotRecorded(const QString& reason);

@@ -14,6 +14,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QLocale>
 #include <QScopedValueRollback>
 
 namespace Orvane {
@@ -102,7 +103,7 @@ QString LayerSteps::EditText(const Changeset& changes)
 {
     const LayerChanges edited = LayerChanges::Of(changes);
     if (edited.changed.size() != 1)
-        return tr("Change %1 Layers").arg(edited.changed.size());
+        return tr("Change %1 Layers").arg(QLocale().toString(edited.changed.size()));
     const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
     return edited.onlyCodes ? tr("Change Code of \"%1\"").arg(name) : tr("Change \"%1\"").arg(name);
 }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace Orvane {
 
@@ -35,7 +36,7 @@ TextPrompt::TextPrompt(const PromptRequest& request, QWidget* parent)
 {
     m_ui->setupUi(this);
     setWindowTitle(request.title);
-    m_ui->bedText->setAccessibleName(request.title);
+    SetLabel(UsualLabel());
     m_ui->bedText->setText(request.defaultText);
     m_ui->bedText->selectAll();
     SetEntryWidth(request.width > 0 ? request.width : UsualWidth);
@@ -53,6 +54,11 @@ PromptAnswer TextPrompt::Ask()
     return {true, m_ui->bedText->text()};
 }
 
+void TextPrompt::SetLabel(const QString& label)
+{
+    m_ui->lblText->setText(label);
+}
+
 void TextPrompt::PlaceOver(const QWidget& control)
 {
     adjustSize();
@@ -61,6 +67,16 @@ void TextPrompt::PlaceOver(const QWidget& control)
     move(
         Within(wanted.x(), screen.left(), screen.right() - width()),
         Within(wanted.y(), screen.top(), screen.bottom() - height()));
+}
+
+QString TextPrompt::UsualLabel() const
+{
+    if (m_request.kind == EntryKind::Text)
+        return tr("Name:");
+    // Editors ask for the code of a layer with the limits of its type.
+    const bool isCode = m_request.minimum == std::numeric_limits<qint16>::min()
+        && m_request.maximum == std::numeric_limits<qint16>::max();
+    return isCode ? tr("Code:") : tr("Number:");
 }
 
 bool TextPrompt::IsAcceptable(const QString& text) const

@@ -33,10 +33,24 @@ std::unique_ptr<OGRCoordinateTransformation> ToDegrees(const QString& system)
     return TransformationTo(QStringLiteral("EPSG:4326"), &known);
 }
 
-QString Degrees(double value, const QString& positive, const QString& negative)
+QString Degrees(const char* text, double degrees)
 {
-    return QLocale().toString(std::abs(value), 'f', Decimals) + QStringLiteral("° ")
-        + (value < 0 ? negative : positive);
+    return QCoreApplication::translate("PositionText", text)
+        .arg(QLocale().toString(std::abs(degrees), 'f', Decimals));
+}
+
+QString Latitude(double degrees)
+{
+    const char* north = QT_TRANSLATE_NOOP("PositionText", "%1° N");
+    const char* south = QT_TRANSLATE_NOOP("PositionText", "%1° S");
+    return Degrees(degrees < 0 ? south : north, degrees);
+}
+
+QString Longitude(double degrees)
+{
+    const char* east = QT_TRANSLATE_NOOP("PositionText", "%1° E");
+    const char* west = QT_TRANSLATE_NOOP("PositionText", "%1° W");
+    return Degrees(degrees < 0 ? west : east, degrees);
 }
 
 } // namespace
@@ -63,13 +77,8 @@ QString PositionText::Of(QPointF map) const
         return {};
     if (!IsOnEarth(map, x, y))
         return {};
-    return Degrees(
-               y, QCoreApplication::translate("PositionText", "N"),
-               QCoreApplication::translate("PositionText", "S"))
-        + QStringLiteral(", ")
-        + Degrees(
-               x, QCoreApplication::translate("PositionText", "E"),
-               QCoreApplication::translate("PositionText", "W"));
+    return QCoreApplication::translate("PositionText", "%1, %2", "latitude and longitude")
+        .arg(Latitude(y), Longitude(x));
 }
 
 // Outside its valid area a projection gives positions that transform back to a different place.

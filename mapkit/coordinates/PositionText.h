@@ -20,8 +20,8 @@ public:
     PositionText& operator=(PositionText&&) noexcept;
     ~PositionText();
 
-    /// "48.1374° N, 11.5755° E"; empty if the point is not on the earth. In map units if the system is not
-    /// known.
+    /// "48.1374° N, 11.5755° E", its parts in the order of the user's language; empty if the point is not on
+    /// the earth. In map units if the system is not known.
     QString Of(QPointF map) const;
 
 private:

@@ -7,6 +7,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -48,7 +49,8 @@ QString SourceContents::FailureText() const
     const qsizetype more = lines.size() - MostLines;
     if (more > 0) {
         lines.resize(MostLines);
-        lines << QCoreApplication::translate("SourceReader", "... and %1 more.").arg(more);
+        lines
+            << QCoreApplication::translate("SourceReader", "... and %1 more.").arg(QLocale().toString(more));
     }
     return lines.join(QLatin1Char('\n'));
 }

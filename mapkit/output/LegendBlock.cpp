@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
@@ -92,7 +93,7 @@ void LegendBlock::Paint(QPainter& painter, const QRectF& room) const
             double(index % size_t(grid.rows)) * RowHeight);
         const QRectF place(room.topLeft() + corner, QSizeF(grid.columnWidth, RowHeight));
         if (index + 1 == places && places < m_rows.size()) {
-            const int more = int(m_rows.size() - index);
+            const QString more = QLocale().toString(m_rows.size() - index);
             const QString text = QCoreApplication::translate("LegendBlock", "and %1 more").arg(more);
             PaintRow(painter, place, LegendRow::Heading(text));
         } else {

@@ -5,7 +5,7 @@
 #include "mapkit/coordinates/GroundScale.h"
 #include "mapkit/drawing/MapPainter.h"
 #include "mapkit/drawing/MapView.h"
-#include "mapkit/drawing/RoundedScale.h"
+#include "mapkit/drawing/ScaleText.h"
 #include "mapkit/drawing/Sheets.h"
 #include "mapkit/output/PageFonts.h"
 #include "mapkit/output/PatternPictures.h"
@@ -13,9 +13,7 @@
 
 #include <OrvaneShellLib/ILayerDatabase.h>
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -189,8 +187,7 @@ QString MapPage::ScaleText() const
 {
     if (std::abs(m_groundMetresPerUnit / m_metresPerUnit - 1) > HonestWithin)
         return {};
-    return QCoreApplication::translate("MapPage", "1:%1")
-        .arg(QLocale().toString(RoundedScale(ScaleDenominator()), 'f', 0));
+    return Orvane::ScaleText(ScaleDenominator());
 }
 
 void MapPage::PaintTitle(QPainter& painter) const

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
+#include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -79,9 +80,9 @@ QImage EmptyPicture(const PageSettings& settings)
     if (std::max(size.width(), size.height()) <= LargestSide)
         picture = QImage(size.expandedTo({1, 1}), QImage::Format_RGB32);
     if (picture.isNull()) {
+        const QLocale locale;
         Fail(QCoreApplication::translate("PageWriter", "A picture of %1 by %2 pixels is too large.")
-                 .arg(exact.width(), 0, 'f', 0)
-                 .arg(exact.height(), 0, 'f', 0));
+                 .arg(locale.toString(exact.width(), 'f', 0), locale.toString(exact.height(), 'f', 0)));
     }
     picture.setDotsPerMeterX(int(std::lround(settings.resolution * InchesPerMetre)));
     picture.setDotsPerMeterY(picture.dotsPerMeterX());

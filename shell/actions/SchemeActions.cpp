@@ -54,9 +54,13 @@ void SchemeActions::Use(MapSession& session)
 {
     m_session = &session;
     m_status->Use(session);
-    connect(
-        &session.Shell().Notifications(), &HostNotifications::SchemeLoaded, this,
-        [this](const QString& name) { Guard(&m_window, [&] { TellLayersLeftAlone(name); }); });
+    const HostNotifications& events = session.Shell().Notifications();
+    connect(&events, &HostNotifications::SchemeLoaded, this, [this](const QString& name) {
+        Guard(&m_window, [&] { TellLayersLeftAlone(name); });
+    });
+    connect(&events, &HostNotifications::SchemesSavedToStartup, this, [this] {
+        m_statusBar.showMessage(tr("All schemes of this map were saved for new maps."), MessageTime);
+    });
 }
 
 void SchemeActions::MakeCommands()

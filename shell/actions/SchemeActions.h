@@ -22,7 +22,7 @@ struct SchemeImport;
 
 /// The menu of layer schemes: lists them to switch to, saves the current one and reverts to it, exports one
 /// to a file and imports one. Asks before anything is lost, and shows in the status bar what a scheme left
-/// unchanged.
+/// unchanged and when the schemes were saved for new maps.
 class SchemeActions : public QObject
 {
     Q_OBJECT

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QTextStream>
 
 #include <limits>
@@ -50,8 +51,7 @@ int Import(const QStringList& files, const QString& map, const Terminal& termina
     const auto document = QFileInfo::exists(map) ? MapDocument::Open(map) : MapDocument::Create(map);
     AddToMap(*document, found);
     terminal.out << ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
-                        .arg(QFileInfo(map).fileName())
-                        .arg(LayerCount(found))
+                        .arg(QFileInfo(map).fileName(), QLocale().toString(LayerCount(found)))
                  << '\n';
     terminal.out.flush();
     return found.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;

@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
 #include <map>
@@ -48,7 +49,8 @@ void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
     for (const DanglingRows& rows : FindDanglingRows(database, Undeclared)) {
         const QString text = Translate(
             QT_TRANSLATE_NOOP("MapCheck", "Rows of \"%1\" that refer to missing rows of \"%2\": %3."));
-        problems.push_back({Kind::DanglingRows, text.arg(rows.table, rows.parent).arg(rows.count), true});
+        problems.push_back(
+            {Kind::DanglingRows, text.arg(rows.table, rows.parent, QLocale().toString(rows.count)), true});
     }
 }
 

@@ -5,6 +5,7 @@
 #include "shell/features/FeatureSelection.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPainter>
 
 #include <utility>
@@ -107,7 +108,7 @@ ToolSearch SelectTool::Search() const
 
 void SelectTool::TellCount()
 {
-    emit StatusChanged(tr("Selected features: %1").arg(m_selection.Keys().size()));
+    emit StatusChanged(tr("Selected features: %1").arg(QLocale().toString(m_selection.Keys().size())));
 }
 
 } // namespace Orvane

@@ -2,10 +2,9 @@
 #include "shell/window/MapStatus.h"
 
 #include "mapkit/canvas/MapCanvas.h"
-#include "mapkit/drawing/RoundedScale.h"
+#include "mapkit/drawing/ScaleText.h"
 
 #include <QLabel>
-#include <QLocale>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -16,6 +15,7 @@ namespace Orvane {
 namespace {
 
 constexpr std::chrono::milliseconds MarkAfter{500};
+constexpr double WidestScale = 8'888'000'000;
 
 } // namespace
 
@@ -23,7 +23,7 @@ MapStatus::MapStatus(QStatusBar& bar, MapCanvas& canvas)
     : QObject(&bar), m_bar(bar), m_canvas(canvas), m_drawing(AddLabel(QStringLiteral("lblDrawing"))),
       m_position(AddLabel(QStringLiteral("lblPosition"))), m_scale(AddLabel(QStringLiteral("lblScale")))
 {
-    m_scale->setMinimumWidth(m_scale->fontMetrics().horizontalAdvance(QStringLiteral("1:8,888,888,888")));
+    m_scale->setMinimumWidth(m_scale->fontMetrics().horizontalAdvance(ScaleText(WidestScale)));
     connect(&canvas, &MapCanvas::ViewChanged, this, &MapStatus::ShowScale);
     connect(&canvas, &MapCanvas::PointerMoved, this, [this](QPointF map) {
         m_position->setText(m_positionText.Of(map));
@@ -61,8 +61,7 @@ void MapStatus::MarkDrawing()
 
 void MapStatus::ShowScale()
 {
-    const double rounded = RoundedScale(m_canvas.ScaleDenominator());
-    m_scale->setText(tr("1:%1").arg(QLocale().toString(rounded, 'f', 0)));
+    m_scale->setText(ScaleText(m_canvas.ScaleDenominator()));
 }
 
 } // namespace Orvane

@@ -262,6 +262,18 @@ TEST_F(SchemesOfTheMap, NewMapsBeginWithTheSchemesOfTheStartupDatabase)
     EXPECT_EQ(fresh->findChild<QLabel*>("lblScheme")->text(), "Scheme: " + client.GetCurrentScheme());
 }
 
+TEST_F(SchemesOfTheMap, TheStatusBarTellsThatTheSchemesWereSavedForNewMaps)
+{
+    OpenLayerControl();
+    ClickTab(Form(), 3);
+    EXPECT_TRUE(Find(Form(), "cmdSaveStartup").toolTip().contains("new maps"));
+    const MessageBoxRobot user{BoxKey::Yes};
+    Press(Form(), "cmdSaveStartup");
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "All schemes of this map were saved for new maps.");
+    EXPECT_TRUE(QFile::exists(StartupFile()));
+    Form()->close();
+}
+
 TEST_F(SchemesOfTheMap, ANewMapsFirstDataAreInItsScheme)
 {
     auto fresh = std::make_unique<MainWindow>();

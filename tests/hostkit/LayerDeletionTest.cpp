@@ -3,6 +3,7 @@
 
 #include "hostkit/HostKitTest.h"
 
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -63,6 +64,15 @@ TEST(LayerDeletion, CountsWhatIsTooMuchToName)
     EXPECT_TRUE(question.consequences.contains(QStringLiteral("\"N5\", 3 more")));
     EXPECT_FALSE(question.consequences.contains(QStringLiteral("\"N6\"")));
     EXPECT_FALSE(question.consequences.contains(QStringLiteral("0 more")));
+}
+
+TEST(LayerDeletion, GroupsTheDigitsOfALargeNumber)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const Question question = Asked({QStringLiteral("Roads"), Names(1239), {}});
+    EXPECT_TRUE(question.consequences.contains(QStringLiteral("\"N5\", 1.234 more")));
+    QLocale::setDefault(before);
 }
 
 TEST(LayerDeletion, TakesEveryNameAsPlainTextInAnOrdinaryBox)

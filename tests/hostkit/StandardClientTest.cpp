@@ -258,7 +258,9 @@ TEST_F(Client, SavesSchemesToTheStartupDatabaseAndTakesThemFromThere)
 {
     m_client.SetStartupFile(PathOf("startup.ovl"));
     Host().CreateScheme(QStringLiteral("Night"));
+    const QSignalSpy saved(&Signals(), &HostNotifications::SchemesSavedToStartup);
     Host().SaveSchemesToStartup();
+    EXPECT_EQ(saved.count(), 1);
     const auto map = SqliteLayerDatabase::CreateInMemory();
     StandardClient other(*map, m_services);
     other.SetStartupFile(PathOf("startup.ovl"));
@@ -268,7 +270,9 @@ TEST_F(Client, SavesSchemesToTheStartupDatabaseAndTakesThemFromThere)
 
 TEST_F(Client, WithoutAStartupFileSavingToItIsAClearError)
 {
+    const QSignalSpy saved(&Signals(), &HostNotifications::SchemesSavedToStartup);
     EXPECT_EQ(ErrorOf([&] { Host().SaveSchemesToStartup(); }), int(HostError::NoStartupDatabase));
+    EXPECT_EQ(saved.count(), 0);
 }
 
 TEST_F(Client, AsksForATextThroughItsPrompt)

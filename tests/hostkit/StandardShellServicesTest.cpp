@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -68,6 +69,16 @@ TEST_F(Services, TheEntryPopupPutsTheValueIntoTheControl)
         QTest::keyClick(&entry, Qt::Key_Return);
     });
     EXPECT_EQ(m_entry->text(), QStringLiteral("57"));
+}
+
+TEST_F(Services, TheEntryPopupLabelsItsEntryAsAValue)
+{
+    ShowEntry();
+    EnterWhole(0, 100, [](QLineEdit& entry) {
+        EXPECT_EQ(
+            entry.window()->findChild<QLabel*>(QStringLiteral("lblText"))->text(), QStringLiteral("Value:"));
+        QTest::keyClick(&entry, Qt::Key_Escape);
+    });
 }
 
 TEST_F(Services, TheEntryPopupLeavesTheControlWhenItIsCancelled)

@@ -6,6 +6,7 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/drawing/ScaleText.h"
 #include "shell/window/RecentMaps.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
@@ -151,6 +152,7 @@ TEST_F(MainWindowTest, OpensAMapAndShowsAllOfIt)
     EXPECT_LT(shown.minX, 0);
     EXPECT_GT(shown.maxX, 10);
     EXPECT_TRUE(Label("lblScale").startsWith("1:"));
+    EXPECT_EQ(Label("lblScale"), ScaleText(m_window->Canvas().ScaleDenominator()));
 }
 
 TEST_F(MainWindowTest, AMapThatWasOpenedIsAmongTheRecentOnes)

@@ -124,6 +124,16 @@ TEST_P(Catalogue, KeepsTheBlanksAroundEveryText)
     }
 }
 
+TEST_P(Catalogue, HasDifferentWordsForABackdropAndAFillsBackground)
+{
+    QStringList words;
+    for (const LinguistEntry& entry : m_entries) {
+        if (entry.source == "Backdrop" || entry.source == "Back&ground:")
+            words.append(Found(entry.translation, "\\pL+").join(QString()));
+    }
+    EXPECT_EQ(words.removeDuplicates(), 0) << qPrintable(words.join(' '));
+}
+
 TEST_P(Catalogue, HoldsEachTextOfAContextOnce)
 {
     QSet<QString> seen;

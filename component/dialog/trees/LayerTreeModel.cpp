@@ -219,7 +219,7 @@ QVariant LayerTreeModel::data(const QModelIndex& index, int role) const
     case Qt::EditRole:
         return TextAt(index);
     case Qt::ToolTipRole:
-        return NodeToolTip(TextAt(index), Reference(index).image);
+        return NodeToolTip(TextAt(index), Reference(index));
     case Qt::AccessibleDescriptionRole:
         return QuickModeText(Reference(index).image);
     default:

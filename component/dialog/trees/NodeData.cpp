@@ -13,6 +13,21 @@ namespace {
 
 constexpr qsizetype LongestToolTip = 120; // characters
 
+// What the marks in a listed name mean, each in a line of its own.
+QString MarksExplained(const QString& text)
+{
+    QString lines;
+    const auto append
+        = [&lines](const QString& line) { lines += QLatin1String("<br>") + line.toHtmlEscaped(); };
+    if (text.contains(QLatin1String("(OBS)")))
+        append(TranslateMsg("(OBS): obscured; the layer is not drawn at the current scale."));
+    if (text.contains(QLatin1String("(SUP)"))) {
+        append(TranslateMsg(
+            "(SUP): suppressed; the layer is not drawn, for example because its data cannot be read."));
+    }
+    return lines;
+}
+
 } // namespace
 
 QVariant NodeData(const NodeReference& node, int role)
@@ -51,11 +66,12 @@ QString QuickModeText(qint16 quickMode)
     }
 }
 
-QString NodeToolTip(const QString& text, qint16 quickMode)
+QString NodeToolTip(const QString& text, const NodeReference& node)
 {
     // A plain text must not be taken for rich text because of a "<" in a name.
     const QString name = NameInText(text, LongestToolTip).toHtmlEscaped();
-    return QStringLiteral("<qt>%1<br>%2</qt>").arg(name, QuickModeText(quickMode));
+    const QString marks = node.isGroup ? QString() : MarksExplained(text);
+    return QStringLiteral("<qt>%1<br>%2%3</qt>").arg(name, QuickModeText(node.image), marks);
 }
 
 } // namespace Orvane

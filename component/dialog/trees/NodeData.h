@@ -14,7 +14,8 @@ QVariant NodeData(const NodeReference& node, int role);
 /// The word for a quick mode, translated: "Normal", "Backdrop", "Hidden", and "various" for any other.
 QString QuickModeText(qint16 quickMode);
 
-/// The node's full text, which a narrow tree cuts off, and its quick mode, which the image shows.
-QString NodeToolTip(const QString& text, qint16 quickMode);
+/// The node's full text, which a narrow tree cuts off, its quick mode, which the image shows, and what the
+/// marks in a layer's name mean.
+QString NodeToolTip(const QString& text, const NodeReference& node);
 
 } // namespace Orvane

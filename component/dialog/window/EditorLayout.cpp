@@ -50,7 +50,7 @@ void ForgetSizes(QWidget& parent)
 QString HintOf(EditorLayout::Cover cover)
 {
     if (cover == EditorLayout::Cover::Schemes)
-        return TranslateMsg("The settings of layers are edited on the other tabs.");
+        return TranslateMsg("Edit layer settings on the Groups and Layers tabs.");
     return TranslateMsg("Select a layer or a group to see its settings.");
 }
 

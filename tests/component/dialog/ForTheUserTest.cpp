@@ -229,6 +229,17 @@ TEST_F(ForTheUser, EveryTextOfTheFormIsTranslated)
     }
 }
 
+TEST_F(ForTheUser, ToolTipsExplainTheWordsOfTheForm)
+{
+    OpenOn("Roads");
+    for (const char* name : {"lblScaleMin", "lblScaleMax", "cmdEditMinScale", "cmdEditMaxScale"})
+        EXPECT_TRUE(Find(name).toolTip().contains("\"dont care\"")) << name;
+    EXPECT_TRUE(Find("chkHitable").toolTip().contains("clicked on the map"));
+    EXPECT_TRUE(Find("chkEnquirable").toolTip().contains("attributes"));
+    EXPECT_TRUE(Find("chkSnapRequired").toolTip().contains("snap to them"));
+    EXPECT_TRUE(Find("Backdrop").toolTip().contains("faintly, behind the others"));
+}
+
 TEST_F(ForTheUser, AChangeOfLanguageIsShownAtOnceAndKeepsTheEdits)
 {
     Library();

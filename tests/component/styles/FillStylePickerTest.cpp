@@ -184,9 +184,16 @@ TEST_F(FillStylePickerTest, AValueThatIsNoNumberRaises)
 
 TEST_F(FillStylePickerTest, SaysWhatTheFillsAre)
 {
-    EXPECT_EQ(TextOf(list, 0), "Solid fill");
-    EXPECT_EQ(TextOf(list, 1), "Hollow");
+    EXPECT_EQ(TextOf(list, 0), "Solid");
+    EXPECT_EQ(TextOf(list, 1), "Outline only");
     EXPECT_EQ(TextOf(list, 2), "Pattern 1");
+}
+
+TEST_F(FillStylePickerTest, TheItemsOfTheListSayTheirNamesAsToolTips)
+{
+    EXPECT_EQ(list.itemData(0, Qt::ToolTipRole).toString(), "Solid");
+    EXPECT_EQ(list.itemData(1, Qt::ToolTipRole).toString(), "Outline only");
+    EXPECT_EQ(list.itemData(31, Qt::ToolTipRole).toString(), "Pattern 31");
 }
 
 } // namespace Orvane::Testing

@@ -39,8 +39,8 @@ TEST(ItemDescriptions, LinesAreNamedByPatternOrWidth)
 
 TEST(ItemDescriptions, FillsAreNamedByTheirNumbers)
 {
-    EXPECT_EQ(FillDescription(0), "Solid fill");
-    EXPECT_EQ(FillDescription(15), "Hollow");
+    EXPECT_EQ(FillDescription(0), "Solid");
+    EXPECT_EQ(FillDescription(15), "Outline only");
     EXPECT_EQ(FillDescription(31), "Pattern 31");
 }
 

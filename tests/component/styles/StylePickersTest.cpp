@@ -158,7 +158,7 @@ TEST_F(StylePickersTest, AllWordsFollowTheLanguage)
     EXPECT_EQ(TextOf(colours[1], 16), Pseudo("Custom Colour..."));
     EXPECT_EQ(TextOf(lineStyles, 0), Pseudo("<none>"));
     EXPECT_EQ(TextOf(lineStyles, 10), Pseudo("Custom Line Style..."));
-    EXPECT_EQ(TextOf(fillStyles, 0), Pseudo("Solid fill"));
+    EXPECT_EQ(TextOf(fillStyles, 0), Pseudo("Solid"));
     EXPECT_TRUE(pickers.Colour(0).GetSelectedColour().IsNull());
 }
 

@@ -3,6 +3,7 @@
 
 #include "hostkit/HostKitTest.h"
 
+#include <QAccessible>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +33,15 @@ protected:
     static QPushButton& Button(QWidget& prompt, QDialogButtonBox::StandardButton button)
     {
         return *prompt.findChild<QDialogButtonBox*>()->button(button);
+    }
+    // The text of the label that stands by the entry.
+    static QString LabelOf(QWidget& prompt)
+    {
+        for (const QLabel* label : prompt.findChildren<QLabel*>()) {
+            if (label->buddy() == &Entry(prompt))
+                return label->text();
+        }
+        return {};
     }
     static bool CanAccept(QWidget& prompt) { return Button(prompt, QDialogButtonBox::Ok).isEnabled(); }
 
@@ -140,11 +150,28 @@ TEST_F(Prompt, SaysTheLimitsOfANumberAndNoneForAText)
     EXPECT_TRUE(text.findChild<QLabel*>(QStringLiteral("lblLimits"))->isHidden());
 }
 
-TEST_F(Prompt, IsNamedByItsTitleForScreenReadersToo)
+TEST_F(Prompt, IsNamedByItsTitle)
 {
     TextPrompt prompt(TextRequest());
     EXPECT_EQ(prompt.windowTitle(), QStringLiteral("New Scheme"));
-    EXPECT_EQ(Entry(prompt).accessibleName(), QStringLiteral("New Scheme"));
+}
+
+TEST_F(Prompt, TheEntryHasALabelThatSaysWhatIsAskedFor)
+{
+    TextPrompt name(TextRequest());
+    EXPECT_EQ(LabelOf(name), QStringLiteral("Name:"));
+    TextPrompt code(CodeRequest());
+    EXPECT_EQ(LabelOf(code), QStringLiteral("Code:"));
+    TextPrompt number({QStringLiteral("Copies"), {}, EntryKind::Integer, 1, 99, 0});
+    EXPECT_EQ(LabelOf(number), QStringLiteral("Number:"));
+}
+
+TEST_F(Prompt, ScreenReadersNameTheEntryByItsLabel)
+{
+    TextPrompt prompt(TextRequest());
+    const QAccessibleInterface* entry = QAccessible::queryAccessibleInterface(&Entry(prompt));
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->text(QAccessible::Name), QStringLiteral("Name:"));
 }
 
 TEST_F(Prompt, TheEntryIsAsWideAsTheRequestAsks)

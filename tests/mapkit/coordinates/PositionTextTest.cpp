@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/coordinates/PositionText.h"
 
+#include "messages/CatalogueTranslator.h"
+#include "support/LinguistFile.h"
+
+#include <QCoreApplication>
+
 #include <gtest/gtest.h>
 
 namespace Orvane {
+
+using namespace Testing;
 
 TEST(PositionText, WritesDegreesOfAProjectedMap)
 {
@@ -15,6 +22,15 @@ TEST(PositionText, NamesTheHemispheres)
     const PositionText degrees("EPSG:4326");
     EXPECT_EQ(degrees.Of({-11.5, 48.25}), "48.2500° N, 11.5000° W");
     EXPECT_EQ(degrees.Of({11.5, -48.25}), "48.2500° S, 11.5000° E");
+}
+
+TEST(PositionText, OrdersTheirPartsAsTheLanguageDoes)
+{
+    CatalogueTranslator japanese(MessageCatalogue::FromFile(SourcePath("translations/orvane.ja.ts")));
+    QCoreApplication::installTranslator(&japanese);
+    const QString shown = PositionText("EPSG:4326").Of({-11.5, 48.25});
+    QCoreApplication::removeTranslator(&japanese);
+    EXPECT_EQ(shown, QString("北緯48.2500°、西経11.5000°"));
 }
 
 TEST(PositionText, IsEmptyOffTheEarth)

@@ -4,6 +4,8 @@
 #include "shell/features/FeatureSelection.h"
 #include "shell/tools/ToolCanvas.h"
 
+#include <QLocale>
+
 namespace Orvane {
 
 using namespace Testing;
@@ -118,6 +120,19 @@ TEST_F(SelectToolTest, TheSelectionIsTheSameThroughPanAndZoom)
     m_canvas.ZoomIn();
     m_canvas.SetTool(nullptr);
     EXPECT_THAT(m_selection.Keys(), ElementsAre(FirstRoad));
+}
+
+TEST_F(SelectToolTest, GroupsTheDigitsOfALargeNumberForTheUser)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    FeatureBuilder many;
+    for (int number = 0; number < 1234; ++number)
+        many.Square(10, 10, 20);
+    Show({NamedLayer(3, "Fields", many.Done())});
+    Drag({0, 0}, {40, 40});
+    EXPECT_EQ(m_status, "Selected features: 1,234");
+    QLocale::setDefault(before);
 }
 
 } // namespace Orvane

@@ -98,7 +98,7 @@ TEST_F(LineAndFillEditorTest, ShowsColoursThatTheListLacksAndTransparentOnes)
     EXPECT_EQ(Shown("cmbColor1"), "Transparent");
     EXPECT_EQ(Shown("cmbColor2"), "#FF8000");
     EXPECT_EQ(Shown("cmbLineStyles"), "Dotted line");
-    EXPECT_EQ(Shown("cmbFillStyles"), "Hollow");
+    EXPECT_EQ(Shown("cmbFillStyles"), "Outline only");
 }
 
 TEST_F(LineAndFillEditorTest, ShowsVariousWhereTheLayersOfAGroupDiffer)
@@ -252,7 +252,7 @@ TEST_F(LineAndFillEditorTest, AnUnknownFillStyleIsToldAndTheFirstShown)
     ClickLayer("Roads");
     QCoreApplication::processEvents();
     EXPECT_EQ(user.Only().text, "Unknown Fill Style!");
-    EXPECT_EQ(Shown("cmbFillStyles"), "Solid fill");
+    EXPECT_EQ(Shown("cmbFillStyles"), "Solid");
     EXPECT_FALSE(CanApply());
 }
 

@@ -113,6 +113,16 @@ TEST_F(LayerTreeModelTest, SaysTheQuickModeInWordsAndTakesNoNameForMarkup)
         model.index(0, 0).data(Qt::ToolTipRole).toString().contains("&lt;b&gt;Roads&lt;/b&gt;<br>Hidden"));
 }
 
+TEST_F(LayerTreeModelTest, TheToolTipExplainsTheMarksOfALayersName)
+{
+    model.SetLayers({Layer(1, 1, "(OBS)Roads "), Layer(2, 1, "(SUP)Rivers "), Layer(3, 1, "Parcels")});
+    const auto tip = [this](int row) { return model.index(row, 0).data(Qt::ToolTipRole).toString(); };
+    EXPECT_TRUE(tip(0).contains("Normal<br>(OBS): obscured")) << qPrintable(tip(0));
+    EXPECT_FALSE(tip(0).contains("(SUP)"));
+    EXPECT_TRUE(tip(1).contains("Normal<br>(SUP): suppressed")) << qPrintable(tip(1));
+    EXPECT_TRUE(tip(2).endsWith("Normal</qt>")) << qPrintable(tip(2));
+}
+
 TEST_F(LayerTreeModelTest, MarksLayersAsLeavesAndGroupsNot)
 {
     FillGroups();

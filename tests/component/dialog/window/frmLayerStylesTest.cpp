@@ -323,6 +323,13 @@ TEST_F(Lifecycle, NothingSelectedShowsAHintInsteadOfValues)
     EXPECT_FALSE(CanApply());
 }
 
+TEST_F(Lifecycle, TheSchemesTabSaysWhereLayerSettingsAreEdited)
+{
+    Open();
+    ClickTab(3);
+    EXPECT_EQ(TextOf("lblHint"), "Edit layer settings on the Groups and Layers tabs.");
+}
+
 // ---- expansion
 
 TEST_F(Lifecycle, ResizingHidesTheSettingsAndTheirWidth)
