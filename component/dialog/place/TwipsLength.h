@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdlib>
 #include <optional>
 
 namespace Orvane {
@@ -16,10 +17,11 @@ public:
     /// From now on these twips stand for these pixels.
     void Restore(float twips, int pixels) { m_restored = Restored{twips, pixels}; }
 
-    /// The pixels in twips. twipsPerPixel: of the screen that the window is on.
-    float TwipsOf(int pixels, double twipsPerPixel) const
+    /// The pixels in twips. twipsPerPixel: of the screen that the window is on. slack: by how many pixels the
+    /// window system may have changed the restored ones.
+    float TwipsOf(int pixels, double twipsPerPixel, int slack = 0) const
     {
-        if (m_restored && m_restored->pixels == pixels)
+        if (m_restored && std::abs(m_restored->pixels - pixels) <= slack)
             return m_restored->twips;
         return float(pixels * twipsPerPixel);
     }

@@ -2,6 +2,7 @@
 #include "component/dialog/place/WindowGeometry.h"
 
 #include "component/controls/Twips.h"
+#include "component/dialog/place/ExactWidth.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -47,7 +48,9 @@ WindowSize WindowGeometry::Current() const
 {
     const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
     const QSize pixels = SizeInPixels();
-    return {m_width.TwipsOf(pixels.width(), scale.x), m_height.TwipsOf(pixels.height(), scale.y)};
+    const int slack = RoundedPixels(m_window);
+    return {
+        m_width.TwipsOf(pixels.width(), scale.x, slack), m_height.TwipsOf(pixels.height(), scale.y, slack)};
 }
 
 void WindowGeometry::KeepOnScreen()

@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace Orvane {
@@ -56,7 +57,7 @@ QString HintOf(EditorLayout::Cover cover)
 
 } // namespace
 
-EditorLayout::EditorLayout(QDialog& form, Ui::frmLayerStyles& ui) : m_form(form), m_ui(ui)
+EditorLayout::EditorLayout(QDialog& form, Ui::frmLayerStyles& ui) : m_form(form), m_ui(ui), m_width(form)
 {
 }
 
@@ -93,8 +94,8 @@ void EditorLayout::SetExpanded(bool expanded)
         return;
     const int change = expanded ? SettingsWidth() : -SettingsWidth();
     // A collapsed dialog may be wider than wanted because of its buttons: restoring must not depend on that.
-    const int wanted = before == m_widthAfter ? m_widthBefore : before + change;
-    m_form.resize(wanted, m_form.height());
+    const bool isBack = std::abs(before - m_widthAfter) <= RoundedPixels(m_form);
+    m_width.Resize(isBack ? m_widthBefore : before + change);
     m_widthBefore = before;
     m_widthAfter = m_form.width();
 }

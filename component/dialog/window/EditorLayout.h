@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/dialog/place/ExactWidth.h"
 #include "component/dialog/place/ListTab.h"
 
 #include <QDialog>
@@ -49,6 +50,7 @@ private:
 
     QDialog& m_form;
     Ui::frmLayerStyles& m_ui;
+    ExactWidth m_width;
     bool m_expanded = true;
     Cover m_cover = Cover::None;
     int m_widthBefore = 0; ///< pixels, before the last SetExpanded
