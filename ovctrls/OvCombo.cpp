@@ -117,7 +117,7 @@ void OvCombo::PaintItem(QPainter& painter, const QRect& rectangle, int index, bo
 {
     QFont plain = font();
     plain.setUnderline(false);
-    PaintContent(painter, rectangle, index, {plain, TextColour(isSelected), m_tabColumn});
+    PaintContent(painter, rectangle, index, {plain, TextColour(isSelected), TabColumn(index)});
 }
 
 void OvCombo::PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look)
@@ -139,7 +139,7 @@ void OvCombo::paintEvent(QPaintEvent*)
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect content
         = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    PaintContent(painter, content, currentIndex(), {font(), TextColour(false), m_tabColumn});
+    PaintContent(painter, content, currentIndex(), {font(), TextColour(false), TabColumn(currentIndex())});
 }
 
 void OvCombo::changeEvent(QEvent* event)
@@ -147,6 +147,12 @@ void OvCombo::changeEvent(QEvent* event)
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         FindTabColumn();
+}
+
+// An item without a label begins at the left, whatever labels the others have.
+int OvCombo::TabColumn(int index) const
+{
+    return m_renderer.LabelWidth(List(index), font()) > 0 ? m_tabColumn : 0;
 }
 
 QColor OvCombo::TextColour(bool isSelected) const

@@ -81,6 +81,7 @@ protected:
 
 private:
     void PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look);
+    int TabColumn(int index) const;
     QColor TextColour(bool isSelected) const;
     void FindTabColumn();
 

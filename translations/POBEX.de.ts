@@ -68,6 +68,14 @@
         <translation>^1 hat keinen Wert.</translation>
     </message>
     <message>
+        <source>^1 mm will be stored.</source>
+        <translation>Gespeichert werden ^1 mm.</translation>
+    </message>
+    <message>
+        <source>^1 pixels will be stored.</source>
+        <translation>Gespeichert werden ^1 Pixel.</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1: ^2</translation>
     </message>
@@ -626,6 +634,10 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Das Muster oder die Breite von Linien und Umrissen.</translation>
+    </message>
+    <message>
+        <source>The thinnest line will be stored.</source>
+        <translation>Gespeichert wird die dünnste Linie.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

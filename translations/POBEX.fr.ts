@@ -68,6 +68,14 @@
         <translation>^1 n’a pas de valeur.</translation>
     </message>
     <message>
+        <source>^1 mm will be stored.</source>
+        <translation>^1 mm seront enregistrés.</translation>
+    </message>
+    <message>
+        <source>^1 pixels will be stored.</source>
+        <translation>^1 pixels seront enregistrés.</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1 : ^2</translation>
     </message>
@@ -626,6 +634,10 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>Le motif ou l’épaisseur des lignes et des contours.</translation>
+    </message>
+    <message>
+        <source>The thinnest line will be stored.</source>
+        <translation>La ligne la plus fine sera enregistrée.</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

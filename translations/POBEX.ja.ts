@@ -68,6 +68,14 @@
         <translation>^1 に値がありません。</translation>
     </message>
     <message>
+        <source>^1 mm will be stored.</source>
+        <translation>^1 mm として保存されます。</translation>
+    </message>
+    <message>
+        <source>^1 pixels will be stored.</source>
+        <translation>^1 ピクセルとして保存されます。</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1：^2</translation>
     </message>
@@ -626,6 +634,10 @@
     <message>
         <source>The pattern or the width of lines and outlines.</source>
         <translation>線と輪郭のパターンまたは幅です。</translation>
+    </message>
+    <message>
+        <source>The thinnest line will be stored.</source>
+        <translation>最も細い線として保存されます。</translation>
     </message>
     <message>
         <source>The value of a check box is 0, 1 or 2.</source>

@@ -15,6 +15,7 @@
 #include <QEvent>
 #include <QPointer>
 
+#include <cmath>
 #include <cstdlib>
 
 namespace Orvane {
@@ -46,8 +47,8 @@ void frmOtherLineStyle::Init()
     m_ui->WidthSpin->SetBoundText(m_ui->bedThickness);
     connect(m_ui->bedThickness, &QLineEdit::textChanged, this, &frmOtherLineStyle::OnTextChanged);
     connect(m_ui->WidthSpin, &OvSpin::Change, this, &frmOtherLineStyle::OnSpinChanged);
-    connect(m_ui->optPixels, &QAbstractButton::clicked, this, &frmOtherLineStyle::EnableConfirm);
-    connect(m_ui->optMillimetres, &QAbstractButton::clicked, this, &frmOtherLineStyle::EnableConfirm);
+    connect(m_ui->optPixels, &QAbstractButton::clicked, this, &frmOtherLineStyle::OnUnitChosen);
+    connect(m_ui->optMillimetres, &QAbstractButton::clicked, this, &frmOtherLineStyle::OnUnitChosen);
     connect(m_ui->cmdOK, &QAbstractButton::clicked, this, &frmOtherLineStyle::Confirm);
     connect(m_ui->cmdCancel, &QAbstractButton::clicked, this, &frmOtherLineStyle::reject);
 }
@@ -82,6 +83,7 @@ void frmOtherLineStyle::Prepare(qint16 thickness)
     m_ui->optMillimetres->setChecked(thickness >= 0);
     m_ui->optPixels->setChecked(thickness < 0);
     m_ui->bedThickness->setText(ToText(qint32(std::abs(int(thickness)))));
+    m_ui->lblStored->setMinimumHeight(m_ui->lblStored->fontMetrics().height()); // stays as high when empty
     m_ui->bedThickness->selectAll();
     m_ui->bedThickness->setFocus();
     // Last: showing the width does not count as a change.
@@ -129,6 +131,33 @@ void frmOtherLineStyle::ApplyText()
     } else if (NumberInText(WithPoint(m_ui->bedThickness->text()))) {
         m_ui->bedThickness->setText(WithPoint(m_ui->bedThickness->text()));
     }
+    TellStoredWidth();
+}
+
+// Only whole widths are stored: the user should see that before OK.
+void frmOtherLineStyle::TellStoredWidth()
+{
+    m_ui->lblStored->setText(StoredWidthText());
+}
+
+QString frmOtherLineStyle::StoredWidthText() const
+{
+    const auto number = NumberInText(m_ui->bedThickness->text());
+    if (!number || *number == std::floor(*number))
+        return {};
+    const qint32 width = ToInt32(*number);
+    if (width == 0)
+        return TranslateMsg("The thinnest line will be stored.");
+    return m_ui->optPixels->isChecked() ? TranslateMsg("^1 pixels will be stored.", width)
+                                        : TranslateMsg("^1 mm will be stored.", width);
+}
+
+void frmOtherLineStyle::OnUnitChosen()
+{
+    GuardEvent(this, [this] {
+        EnableConfirm();
+        TellStoredWidth();
+    });
 }
 
 void frmOtherLineStyle::LimitText(double number)

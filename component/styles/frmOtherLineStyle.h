@@ -61,6 +61,9 @@ private:
     void ApplyText();
     void LimitText(double number);
     void OnSpinChanged();
+    void OnUnitChosen();
+    void TellStoredWidth();
+    QString StoredWidthText() const;
     void EnableConfirm();
 
     std::unique_ptr<Ui::frmOtherLineStyle> m_ui;

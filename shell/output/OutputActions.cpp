@@ -23,6 +23,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace Orvane {
 
 namespace {
@@ -40,13 +42,13 @@ QString EndingOf(const QString& filter)
     return filter.section(QStringLiteral("*."), 1).chopped(1);
 }
 
-// Wide enough for all its tools; Print is the last of them.
+// Wide enough for all its tools, of which Print is the last, and high enough for a page.
 QSize SizeOf(const QPrintPreviewDialog& preview)
 {
     const auto* tools = preview.findChild<QToolBar*>();
     const int width = tools ? tools->sizeHint().width() + PreviewMargins : 0;
     const QSize screen = preview.screen()->availableSize();
-    return preview.sizeHint().expandedTo({width, preview.height()}).boundedTo(screen);
+    return QSize(std::max(width, screen.width() / 2), screen.height() * 3 / 4).boundedTo(screen);
 }
 
 } // namespace

@@ -37,6 +37,19 @@ protected:
     QColor Middle() { return m_combo.grab().toImage().pixelColor(60, m_combo.height() / 2); }
     QString Swatch(qint32 colour) { return StyleStrings("@", {}).ColourItem(colour, {138, 19}); }
 
+    /// The first x, from the given one on, at which the item is not blank.
+    int FirstInkFrom(int x, int item)
+    {
+        QImage picture(160, 20, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        m_combo.PaintItem(painter, picture.rect(), item, false);
+        painter.end();
+        while (x < 159 && picture.pixelColor(x, 10) == QColor(Qt::white))
+            ++x;
+        return x;
+    }
+
     OvCombo m_combo;
 };
 
@@ -173,25 +186,46 @@ TEST_F(OvComboTest, LabelsOfAllItemsShareOneTabColumn)
 {
     const StyleStrings strings("@", {"", "", "mm", "pixels", ""});
     const QString wide = strings.LineItemText({0, -100}, {20, 138, 10});
-    const QString thinnest = strings.LineItemText({0, 0}, {20, 138, 10});
-    const auto firstInk = [&] {
-        QImage picture(160, 20, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-        m_combo.PaintItem(painter, picture.rect(), m_combo.ListCount() - 1, false);
-        painter.end();
-        int x = 0;
-        while (x < 159 && picture.pixelColor(x, 10) == QColor(Qt::white))
-            ++x;
-        return x;
-    };
-    m_combo.Append(thinnest);
-    EXPECT_EQ(firstInk(), 0);
-    m_combo.Insert(wide, 0);
-    EXPECT_EQ(firstInk(), m_combo.fontMetrics().horizontalAdvance("100 pixels  "));
+    const QString narrow = strings.LineItemText({0, 2}, {20, 138, 10});
+    m_combo.Append(narrow);
+    m_combo.Append(wide);
+    const int column = m_combo.fontMetrics().horizontalAdvance("100 pixels  ");
+    EXPECT_EQ(FirstInkFrom(column - 20, 0), column);
     m_combo.Clear();
-    m_combo.Append(thinnest);
-    EXPECT_EQ(firstInk(), 0);
+    m_combo.Append(narrow);
+    EXPECT_EQ(FirstInkFrom(column - 20, 0), column - 20) << "the narrow label needs less";
+}
+
+TEST_F(OvComboTest, AnItemWithoutALabelBeginsAtTheLeft)
+{
+    const StyleStrings strings("@", {"", "", "mm", "pixels", ""});
+    m_combo.Append(strings.LineItemText({0, 0}, {20, 138, 10}));
+    m_combo.Append(strings.LineItemText({0, -100}, {20, 138, 10}));
+    EXPECT_EQ(FirstInkFrom(0, 0), 0);
+}
+
+TEST_F(OvComboTest, AnItemIsReplacedWithItsNumberAndTheSelectionKept)
+{
+    for (const char* item : {"a", "b", "c"})
+        m_combo.Append(item);
+    m_combo.SetItemData(1, 7);
+    m_combo.SetListIndex(1);
+    m_combo.Replace(1, "d");
+    EXPECT_THAT(Items(), testing::ElementsAre("a", "d", "c"));
+    EXPECT_EQ(m_combo.ItemData(1), 7);
+    EXPECT_EQ(m_combo.ListIndex(), 1);
+}
+
+TEST_F(OvComboTest, TheSelectedItemStaysSelectedWhenAnotherIsRemoved)
+{
+    for (const char* item : {"a", "b", "c"})
+        m_combo.Append(item);
+    m_combo.SetListIndex(1);
+    m_combo.Remove(2);
+    EXPECT_EQ(m_combo.NewIndex(), -1);
+    m_combo.Remove(0);
+    EXPECT_THAT(Items(), testing::ElementsAre("b"));
+    EXPECT_EQ(m_combo.ListIndex(), 0);
 }
 
 TEST_F(OvComboTest, WordsAreForReadersAndSearchesAndCommandsAreNot)

@@ -19,7 +19,7 @@ bool AsksToEdit(int key)
 
 } // namespace
 
-CodeLabel::CodeLabel(QWidget* parent) : QLabel(parent)
+CodeLabel::CodeLabel(QWidget* parent) : ValueLabel(parent)
 {
 }
 
@@ -46,7 +46,7 @@ void CodeLabel::keyPressEvent(QKeyEvent* event)
 
 void CodeLabel::paintEvent(QPaintEvent* event)
 {
-    QLabel::paintEvent(event);
+    ValueLabel::paintEvent(event);
     if (!hasFocus())
         return;
     QStylePainter painter(this);

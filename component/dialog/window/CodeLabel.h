@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "component/dialog/panel/ValueLabel.h"
 
 namespace Orvane {
 
 /// A label that can request an edit: on a double click, and on F2, Enter or Space while it has the focus. A
 /// frame shows the focus.
-class CodeLabel : public QLabel
+class CodeLabel : public ValueLabel
 {
     Q_OBJECT
 

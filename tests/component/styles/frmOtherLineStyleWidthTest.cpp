@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/styles/frmOtherLineStyleFixture.h"
 
+#include <QLabel>
+
 namespace Orvane::Testing {
 
 TEST_F(frmOtherLineStyleTest, MillimetresArePositive)
@@ -35,6 +37,21 @@ TEST_F(frmOtherLineStyleTest, HalvesGoToTheEvenNeighbour)
         Click(Ok());
     });
     EXPECT_EQ(thickness, -4);
+}
+
+TEST_F(frmOtherLineStyleTest, SaysWhatWillBeStoredForAWidthThatIsNotWhole)
+{
+    const auto told = [this] { return form->findChild<QLabel*>("lblStored")->text(); };
+    Choose([&] {
+        Type("2.4");
+        EXPECT_EQ(told(), "2 mm will be stored.");
+        QTest::mouseClick(&Pixels(), Qt::LeftButton);
+        EXPECT_EQ(told(), "2 pixels will be stored.");
+        Type("0.3");
+        EXPECT_EQ(told(), "The thinnest line will be stored.");
+        Type("3");
+        EXPECT_EQ(told(), "");
+    });
 }
 
 TEST_F(frmOtherLineStyleTest, AWidthAboveTheMaximumBecomesTheMaximum)

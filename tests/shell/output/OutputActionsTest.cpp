@@ -41,6 +41,7 @@ public:
     QStringList seen; ///< the dialogs, in their order
     int pages = 0; ///< of the preview
     bool showsAllTools = false; ///< the preview
+    bool showsAPage = false; ///< the preview
 
 private:
     // A dialog that an answer did not close is cancelled, so that no test waits for ever.
@@ -80,6 +81,7 @@ private:
     {
         seen << "preview";
         const auto* tools = preview.findChild<QToolBar*>();
+        showsAPage = preview.height() * 2 > preview.screen()->availableSize().height();
         showsAllTools = tools->width() >= tools->sizeHint().width();
         pages = preview.findChild<QPrintPreviewWidget*>()->pageCount();
         preview.reject();
@@ -177,6 +179,7 @@ TEST_F(OutputActionsTest, PrintingShowsAPreviewOfOnePage)
     EXPECT_EQ(user.seen, QStringList({"page", "preview"}));
     EXPECT_EQ(user.pages, 1);
     EXPECT_TRUE(user.showsAllTools);
+    EXPECT_TRUE(user.showsAPage);
 }
 
 } // namespace Orvane
