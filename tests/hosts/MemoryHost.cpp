@@ -226,6 +226,8 @@ PromptAnswer MemoryHost::IStyleEditorClient_PromptText(const PromptRequest& requ
 {
     Note("PromptText", {request.title, request.defaultText});
     promptRequests.push_back(request);
+    if (onPrompt)
+        onPrompt();
     if (promptAnswers.empty())
         return {};
     const PromptAnswer answer = promptAnswers.front();

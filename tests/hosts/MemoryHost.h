@@ -73,6 +73,8 @@ public:
     std::vector<RendererStyle> rendererStyles;
     /// The answers of PromptText, taken from the front; when none is left the prompt is cancelled.
     std::deque<PromptAnswer> promptAnswers;
+    /// Called while PromptText waits for the user.
+    std::function<void()> onPrompt;
     /// The layers that CreateLayer makes, taken from the front; when none is left, "New Layer" with the next
     /// ID and code.
     std::deque<LayerSpec> layersToCreate;

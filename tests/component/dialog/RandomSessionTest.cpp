@@ -30,7 +30,8 @@ constexpr std::array weaknesses{
 std::vector<Deed> AllDeeds()
 {
     std::vector<Deed> deeds;
-    for (const auto& some : {EditingDeeds(), ListDeeds(), SchemeDeeds(), HostDeeds(), StrangerDeeds()})
+    for (const auto& some :
+         {EditingDeeds(), ListDeeds(), SchemeDeeds(), HostDeeds(), EndingDeeds(), StrangerDeeds()})
         deeds.insert(deeds.end(), some.begin(), some.end());
     return deeds;
 }
@@ -118,7 +119,7 @@ TEST_P(RandomSession, KeepsRowsAndEditsWholeWhenTheHostFails)
     OpenEditor();
     int failures = 0;
     for (int step = 0; step < stepsOfASession && !HasFailure(); ++step) {
-        if (dialog.isModified && dice.Chance(20))
+        if (dialog.isModified && dice.Chance(30))
             failures += ApplyWithAFailure(step);
         else
             ActAndCheck(step);

@@ -23,6 +23,8 @@ std::vector<Deed> ListDeeds();
 std::vector<Deed> SchemeDeeds();
 /// The host's calls to the dialog.
 std::vector<Deed> HostDeeds();
+/// The host ends the dialog while something waits for the user.
+std::vector<Deed> EndingDeeds();
 /// Changes to the database by another program meanwhile.
 std::vector<Deed> StrangerDeeds();
 
