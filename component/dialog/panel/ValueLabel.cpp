@@ -9,7 +9,8 @@ namespace Orvane {
 
 namespace {
 
-constexpr int padding = 3; // between frame and text
+constexpr int frameWidth = 1; // pixels
+constexpr int textIndent = 3;
 
 // In pixels of the device, where a line cannot fall between two of them.
 void PaintFrame(QPainter& painter, const QWidget& field)
@@ -30,7 +31,8 @@ void PaintFrame(QPainter& painter, const QWidget& field)
 
 ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent)
 {
-    setMargin(padding);
+    setMargin(frameWidth);
+    setIndent(textIndent);
 }
 
 void ValueLabel::paintEvent(QPaintEvent* event)
