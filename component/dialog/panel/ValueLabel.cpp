@@ -9,7 +9,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr int frameWidth = 1; // pixels
+constexpr int outline = 1; // pixels
 constexpr int textIndent = 3;
 
 // In pixels of the device, where a line cannot fall between two of them.
@@ -31,7 +31,7 @@ void PaintFrame(QPainter& painter, const QWidget& field)
 
 ValueLabel::ValueLabel(QWidget* parent) : QLabel(parent)
 {
-    setMargin(frameWidth);
+    setMargin(outline);
     setIndent(textIndent);
 }
 
