@@ -22,10 +22,10 @@ QString TextIn(const IRecordset& row, std::string_view columnName)
 
 QString NameOf(const IRecordset& row)
 {
-    const QString name = TextIn(row, "Name");
+    QString name = TextIn(row, "Name");
     if (!name.isEmpty())
         return name;
-    const QString layerID = TextIn(row, "LayerID");
+    QString layerID = TextIn(row, "LayerID");
     return layerID.isEmpty() ? layerID : QStringLiteral("LayerID ") + layerID;
 }
 

@@ -68,7 +68,7 @@ void PropertyPanel::Prepare()
 
 std::optional<PropertyPanel::Fault> PropertyPanel::Show(const LayerStyle& record)
 {
-    const std::optional<Fault> fault = ShowAll(record, record);
+    std::optional<Fault> fault = ShowAll(record, record);
     ClearMarks();
     return fault;
 }
