@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 namespace Orvane {
@@ -12,7 +13,7 @@ namespace Orvane {
 ///         using ForwardingClient::ForwardingClient;
 ///         void IStyleEditorClient_RedrawMap() override { }
 ///     };
-class ForwardingClient : public IStyleEditorClient
+class ForwardingClient : public IStyleEditorClient, public IConflictQuestion
 {
 public:
     /// client: not owned; outlives this object.
@@ -76,6 +77,13 @@ protected:
     }
     QString IStyleEditorClient_ThemeName(QWidget* form) const override { return m_client.ThemeName(form); }
     void IStyleEditorClient_RedrawMap() override { m_client.RedrawMap(); }
+    /// Overwrite if the other client does not ask.
+    ConflictChoice IConflictQuestion_AskAboutConflicts(
+        QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override
+    {
+        auto* question = dynamic_cast<IConflictQuestion*>(&m_client);
+        return question ? question->AskAboutConflicts(form, node, edits) : ConflictChoice::Overwrite;
+    }
 
     /// The wrapped client, for use in overrides.
     IStyleEditorClient& Wrapped() const { return m_client; }

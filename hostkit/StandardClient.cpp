@@ -13,6 +13,7 @@
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/undo/LayerSteps.h"
 #include "hostkit/undo/SchemeSteps.h"
+#include "hostkit/windows/ConflictBox.h"
 #include "hostkit/windows/EditorWindows.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "messages/NameInText.h"
@@ -22,6 +23,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
+#include <QTimer>
 
 namespace Orvane {
 
@@ -30,6 +32,13 @@ struct StandardClient::Parts {
         : names(database), factory(database, names), steps(database, names, windows, notifications),
           schemes(database, steps, notifications)
     {
+        refreshSoon.setSingleShot(true);
+        QObject::connect(&refreshSoon, &QTimer::timeout, &notifications, [this] { RefreshNow(); });
+        const auto changed = [this] { RefreshOtherEditors(); };
+        QObject::connect(&notifications, &HostNotifications::LayersChanged, &notifications, changed);
+        QObject::connect(&notifications, &HostNotifications::LayerCreated, &notifications, changed);
+        QObject::connect(&notifications, &HostNotifications::LayerDeleted, &notifications, changed);
+        QObject::connect(&notifications, &HostNotifications::GroupRenamed, &notifications, changed);
     }
 
     HostNotifications notifications;
@@ -41,6 +50,22 @@ struct StandardClient::Parts {
     SchemeSteps schemes;
     QString startupFile;
     QSet<qint32> changedLayers; // since the last RedrawMap
+    QTimer refreshSoon; // after the operation that changed something
+
+    // An editor that is alone has shown its own changes already.
+    void RefreshOtherEditors()
+    {
+        if (windows.Shown().size() > 1)
+            refreshSoon.start(0);
+    }
+
+    void RefreshNow() noexcept
+    {
+        try {
+            windows.RefreshEditors();
+        } catch (const std::exception&) { // such an editor shows nothing; using it says why
+        }
+    }
 
     SettingsStore& Settings()
     {
@@ -115,6 +140,12 @@ void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
         if (auto* editor = dynamic_cast<IStyleEditorForm*>(window))
             editor->RefreshLayerNames(layerIDs);
     }
+}
+
+void StandardClient::RefreshEditors()
+{
+    InvalidateLayerNames();
+    m_parts->windows.RefreshEditors();
 }
 
 void StandardClient::InvalidateLayerNames()
@@ -317,6 +348,12 @@ void StandardClient::IStyleEditorClient_RedrawMap()
     const QSet<qint32> changed = std::exchange(m_parts->changedLayers, {});
     if (!changed.isEmpty())
         emit m_parts->notifications.LayersChanged(changed);
+}
+
+ConflictChoice StandardClient::IConflictQuestion_AskAboutConflicts(
+    QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits)
+{
+    return AskInConflictBox(form, node, edits);
 }
 
 bool StandardClient::ConfirmDeletion(const LayerDeletion& deletion)

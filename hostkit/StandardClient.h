@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QCoreApplication>
@@ -31,7 +32,7 @@ struct SchemeImport;
 ///
 /// The signals of Notifications() report what happened to the layers. All calls are made on the
 /// user-interface thread; errors of the database are passed on unchanged.
-class StandardClient : public IStyleEditorClient
+class StandardClient : public IStyleEditorClient, public IConflictQuestion
 {
     Q_DECLARE_TR_FUNCTIONS(StandardClient)
 
@@ -79,6 +80,10 @@ public:
     /// Refreshes the listed names of these layers in every open editor. For a host whose LayerDisplayName
     /// depends on more than the name: call it when the result for these layers has changed.
     void RefreshListedNames(const QSet<qint32>& layerIDs);
+    /// Makes every open editor read what is stored; edits that are not applied stay. Call it after the layer
+    /// database was changed without this object. Raises the first error after all editors have been
+    /// refreshed.
+    void RefreshEditors();
     /// Forgets the layers' names and which layers differ from the scheme. Call it after layers were added or
     /// changed without this object.
     void InvalidateLayerNames();
@@ -127,6 +132,9 @@ protected:
     QString IStyleEditorClient_ThemeName(QWidget* form) const override;
     /// Emits LayersChanged with the layers noted since the last call, if there are any.
     void IStyleEditorClient_RedrawMap() override;
+    /// Asks in a message box that names each value.
+    ConflictChoice IConflictQuestion_AskAboutConflicts(
+        QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
 
     /// Asks the user whether to delete the layer and everything that is removed with it; true deletes it.
     virtual bool ConfirmDeletion(const LayerDeletion& deletion);

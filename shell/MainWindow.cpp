@@ -70,7 +70,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
-    m_sharing = std::make_unique<MapSharing>(*this, [this] { return ShowMapAgain(); });
+    m_sharing = std::make_unique<MapSharing>(*this, [this] { ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     ConnectActions();
     m_output = new OutputActions(*this, Canvas());
@@ -287,15 +287,13 @@ void MainWindow::LetGoOf(const QString& path)
         Use(MapDocument::Untitled());
 }
 
-bool MainWindow::ShowMapAgain()
+void MainWindow::ShowMapAgain()
 {
     using View = MapSession::View;
-    const View view = Canvas().Layers().empty() ? View::All : View::Stays;
-    const bool shown = m_layerControl.WithEditorsClosed([&] { ReadMap(view); });
-    if (shown)
-        statusBar()->showMessage(
-            tr("The map was changed in another window and has been reloaded."), ShortMessageTime);
-    return shown;
+    ReadMap(Canvas().Layers().empty() ? View::All : View::Stays);
+    m_session->Shell().RefreshEditors();
+    statusBar()->showMessage(
+        tr("The map was changed in another window and has been reloaded."), ShortMessageTime);
 }
 
 void MainWindow::ReadMap(MapSession::View view)

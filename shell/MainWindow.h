@@ -76,7 +76,7 @@ private:
     void Use(std::unique_ptr<MapDocument> document);
     bool LeaveMap();
     void LetGoOf(const QString& path);
-    bool ShowMapAgain();
+    void ShowMapAgain();
     bool KeepUntitledMap();
     void ReadMap(MapSession::View view);
     QString AskForMapFileToWrite(const QString& title);

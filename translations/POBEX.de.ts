@@ -136,6 +136,10 @@
         <translation>geändert</translation>
     </message>
     <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
         <source>Code ^1 has already been assigned. Please assign another code.</source>
         <translation>Code ^1 ist bereits vergeben. Bitte vergeben Sie einen anderen Code.</translation>
     </message>
@@ -420,6 +424,10 @@
         <translation>&amp;Nein</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
         <source>Norma&amp;l</source>
         <translation>Norm&amp;al</translation>
     </message>
@@ -608,6 +616,14 @@
         <translation>Blaugrün</translation>
     </message>
     <message>
+        <source>The ^1 &apos;^2&apos; no longer exists. The changes were not applied.</source>
+        <translation>„^2“ (^1) gibt es nicht mehr. Die Änderungen wurden nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>The changes were not applied.</source>
+        <translation>Die Änderungen wurden nicht angewendet.</translation>
+    </message>
+    <message>
         <source>The colour between the lines of patterns.</source>
         <translation>Die Farbe zwischen den Linien von Mustern.</translation>
     </message>
@@ -706,6 +722,10 @@
     <message>
         <source>&amp;Yes</source>
         <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
     </message>
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>

@@ -136,6 +136,10 @@
         <translation>modifié</translation>
     </message>
     <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
         <source>Code ^1 has already been assigned. Please assign another code.</source>
         <translation>Le code ^1 est déjà attribué. Veuillez en attribuer un autre.</translation>
     </message>
@@ -420,6 +424,10 @@
         <translation>&amp;Non</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
         <source>Norma&amp;l</source>
         <translation>Norma&amp;l</translation>
     </message>
@@ -608,6 +616,14 @@
         <translation>Bleu canard</translation>
     </message>
     <message>
+        <source>The ^1 &apos;^2&apos; no longer exists. The changes were not applied.</source>
+        <translation>« ^2 » (^1) n’existe plus. Les modifications n’ont pas été appliquées.</translation>
+    </message>
+    <message>
+        <source>The changes were not applied.</source>
+        <translation>Les modifications n’ont pas été appliquées.</translation>
+    </message>
+    <message>
         <source>The colour between the lines of patterns.</source>
         <translation>La couleur entre les lignes des motifs.</translation>
     </message>
@@ -706,6 +722,10 @@
     <message>
         <source>&amp;Yes</source>
         <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
     </message>
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>

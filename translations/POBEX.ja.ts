@@ -136,6 +136,10 @@
         <translation>変更あり</translation>
     </message>
     <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
         <source>Code ^1 has already been assigned. Please assign another code.</source>
         <translation>コード ^1 はすでに割り当てられています。別のコードを割り当ててください。</translation>
     </message>
@@ -420,6 +424,10 @@
         <translation>いいえ(&amp;N)</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
         <source>Norma&amp;l</source>
         <translation>標準表示(&amp;L)</translation>
     </message>
@@ -608,6 +616,14 @@
         <translation>青緑</translation>
     </message>
     <message>
+        <source>The ^1 &apos;^2&apos; no longer exists. The changes were not applied.</source>
+        <translation>^1「^2」は存在しません。変更は適用されませんでした。</translation>
+    </message>
+    <message>
+        <source>The changes were not applied.</source>
+        <translation>変更は適用されませんでした。</translation>
+    </message>
+    <message>
         <source>The colour between the lines of patterns.</source>
         <translation>パターンの線の間の色です。</translation>
     </message>
@@ -706,6 +722,10 @@
     <message>
         <source>&amp;Yes</source>
         <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
     </message>
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>

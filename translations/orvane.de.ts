@@ -64,6 +64,10 @@
         <translation>„orvane %1--help“ zeigt die Optionen.</translation>
     </message>
     <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (in %2 Layern)</translation>
+    </message>
+    <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
     </message>
@@ -106,6 +110,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: your value is %2, stored is %3</source>
+        <translation>%1: Ihr Wert ist %2, gespeichert ist %3</translation>
     </message>
     <message>
         <source>%1° E</source>
@@ -194,6 +202,10 @@
     <message>
         <source>&amp;Keep Layers</source>
         <translation>Layer be&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the Stored Ones</source>
+        <translation>Gespeicherte &amp;behalten</translation>
     </message>
     <message>
         <source>&amp;Layer Control</source>
@@ -286,6 +298,10 @@
     <message>
         <source>&amp;Size:</source>
         <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>&amp;Store My Values</source>
+        <translation>Meine Werte &amp;speichern</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -450,8 +466,12 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Ändern des Codes von „%1“</translation>
     </message>
     <message>
-        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
-        <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen im anderen, sobald Sie dorthin wechseln.</translation>
+        <source>Changed Elsewhere</source>
+        <translation>Anderswo geändert</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
+        <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen innerhalb einer Sekunde im anderen.</translation>
     </message>
     <message>
         <source>Check a map file for damage, broken references and missing data.
@@ -1458,6 +1478,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
+        <translation>Was Sie in „%1“ bearbeitet haben, wurde inzwischen anderswo geändert.</translation>
     </message>
     <message>
         <source>Width</source>

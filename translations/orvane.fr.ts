@@ -64,6 +64,10 @@
         <translation>« orvane %1--help » affiche les options.</translation>
     </message>
     <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (dans %2 couches)</translation>
+    </message>
+    <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
     </message>
@@ -106,6 +110,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: your value is %2, stored is %3</source>
+        <translation>%1 : votre valeur est %2, la valeur enregistrée est %3</translation>
     </message>
     <message>
         <source>%1° E</source>
@@ -194,6 +202,10 @@
     <message>
         <source>&amp;Keep Layers</source>
         <translation>&amp;Garder les couches</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the Stored Ones</source>
+        <translation>&amp;Garder les valeurs enregistrées</translation>
     </message>
     <message>
         <source>&amp;Layer Control</source>
@@ -286,6 +298,10 @@
     <message>
         <source>&amp;Size:</source>
         <translation>Ta&amp;ille :</translation>
+    </message>
+    <message>
+        <source>&amp;Store My Values</source>
+        <translation>&amp;Enregistrer mes valeurs</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -450,8 +466,12 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Modification du code de « %1 »</translation>
     </message>
     <message>
-        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
-        <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre dès que vous y passez.</translation>
+        <source>Changed Elsewhere</source>
+        <translation>Modifié ailleurs</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
+        <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre en moins d’une seconde.</translation>
     </message>
     <message>
         <source>Check a map file for damage, broken references and missing data.
@@ -1458,6 +1478,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
+        <translation>Ce que vous avez modifié dans « %1 » a été changé ailleurs entre-temps.</translation>
     </message>
     <message>
         <source>Width</source>

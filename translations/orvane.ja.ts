@@ -64,6 +64,10 @@
         <translation>「orvane %1--help」でオプションを表示します。</translation>
     </message>
     <message>
+        <source>%1 (in %2 layers)</source>
+        <translation>%1 (%2 レイヤー)</translation>
+    </message>
+    <message>
         <source>%1 - Orvane</source>
         <translation>%1 - Orvane</translation>
     </message>
@@ -106,6 +110,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1: your value is %2, stored is %3</source>
+        <translation>%1: あなたの値は %2、保存されている値は %3</translation>
     </message>
     <message>
         <source>%1° E</source>
@@ -194,6 +202,10 @@
     <message>
         <source>&amp;Keep Layers</source>
         <translation>レイヤを変えない(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the Stored Ones</source>
+        <translation>保存されている値を保持(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Layer Control</source>
@@ -286,6 +298,10 @@
     <message>
         <source>&amp;Size:</source>
         <translation>大きさ(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Store My Values</source>
+        <translation>自分の値を保存(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -450,8 +466,12 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>「%1」のコードの変更</translation>
     </message>
     <message>
-        <source>Changes made in one window are saved immediately and appear in the other when you switch to it.</source>
-        <translation>一方のウィンドウでの変更はすぐに保存され、もう一方に移ったときに表示されます。</translation>
+        <source>Changed Elsewhere</source>
+        <translation>別の場所で変更されました</translation>
+    </message>
+    <message>
+        <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
+        <translation>一方のウィンドウでの変更はすぐに保存され、1秒以内にもう一方にも表示されます。</translation>
     </message>
     <message>
         <source>Check a map file for damage, broken references and missing data.
@@ -1458,6 +1478,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
+    </message>
+    <message>
+        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
+        <translation>「%1」で編集した値は、その間に別の場所で変更されました。</translation>
     </message>
     <message>
         <source>Width</source>

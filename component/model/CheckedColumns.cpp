@@ -40,7 +40,11 @@ void RaiseColumnError(
 
 Value NumberColumn(const IRecordset& row, std::string_view columnName)
 {
-    Value value = row.Field(columnName);
+    return NumberColumn(row, columnName, row.Field(columnName));
+}
+
+Value NumberColumn(const IRecordset& row, std::string_view columnName, const Value& value)
+{
     if (!value.IsNull() && !value.IsNumber())
         ConvertedFor(row, columnName, value, ToDouble);
     return value;
@@ -48,7 +52,11 @@ Value NumberColumn(const IRecordset& row, std::string_view columnName)
 
 Value FlagColumn(const IRecordset& row, std::string_view columnName)
 {
-    Value value = row.Field(columnName);
+    return FlagColumn(row, columnName, row.Field(columnName));
+}
+
+Value FlagColumn(const IRecordset& row, std::string_view columnName, const Value& value)
+{
     if (value.IsNull() || value.IsBoolean())
         return value;
     return ConvertedFor(row, columnName, value, ToBoolean);
@@ -56,7 +64,11 @@ Value FlagColumn(const IRecordset& row, std::string_view columnName)
 
 Value Int32Column(const IRecordset& row, std::string_view columnName)
 {
-    Value value = row.Field(columnName);
+    return Int32Column(row, columnName, row.Field(columnName));
+}
+
+Value Int32Column(const IRecordset& row, std::string_view columnName, const Value& value)
+{
     if (value.IsNull())
         return value;
     return ConvertedFor(row, columnName, value, ToInt32);
@@ -75,7 +87,12 @@ bool FlagIsSet(const IRecordset& row, std::string_view columnName)
 
 qint16 QuickModeColumn(const IRecordset& row)
 {
-    return ConvertedFor(row, "OverrideMode", row.Field("OverrideMode"), QuickModeFromOverrideMode);
+    return QuickModeColumn(row, row.Field("OverrideMode"));
+}
+
+qint16 QuickModeColumn(const IRecordset& row, const Value& overrideMode)
+{
+    return ConvertedFor(row, "OverrideMode", overrideMode, QuickModeFromOverrideMode);
 }
 
 } // namespace Orvane

@@ -15,14 +15,17 @@ namespace Orvane {
 /// mismatch), a value that does not fit 6 (overflow), both as a ColumnError. What Field and SetField raise is
 /// passed on unchanged.
 
-/// The number as it is stored; Null for Null.
+/// The number as it is stored; Null for Null. The second form is for a value that was read already.
 Value NumberColumn(const IRecordset& row, std::string_view columnName);
+Value NumberColumn(const IRecordset& row, std::string_view columnName, const Value& value);
 
 /// True for a number other than 0, false for 0, Null for Null.
 Value FlagColumn(const IRecordset& row, std::string_view columnName);
+Value FlagColumn(const IRecordset& row, std::string_view columnName, const Value& value);
 
 /// The number as a 32-bit integer; Null for Null.
 Value Int32Column(const IRecordset& row, std::string_view columnName);
+Value Int32Column(const IRecordset& row, std::string_view columnName, const Value& value);
 
 /// As Int32Column, for columns that are never Null: Null raises 13.
 qint32 IntegerColumn(const IRecordset& row, std::string_view columnName);
@@ -48,5 +51,6 @@ auto ConvertedFor(
 
 /// The quick mode (1, 2 or 4) that the row's OverrideMode stands for.
 qint16 QuickModeColumn(const IRecordset& row);
+qint16 QuickModeColumn(const IRecordset& row, const Value& overrideMode);
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerStyleApplying.h"
 
+#include "component/model/ChangesMeanwhile.h"
 #include "component/model/CheckedColumns.h"
 #include "component/model/LayerColour.h"
 #include "component/model/LayerCursors.h"
@@ -71,9 +72,9 @@ bool KeepsScale(
     return stored.IsNumber() && ToDouble(stored) != scale;
 }
 
-void WriteMinimum(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
+void WriteMinimum(
+    IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits, const Value& minimum)
 {
-    const Value minimum = edits.style.lsGet(Slot::MinVisScale);
     if (minimum.IsNull())
         return;
     const double scale = client.DialogScaleToStored(ToInt32(minimum));
@@ -81,9 +82,9 @@ void WriteMinimum(IRecordset& row, const IStyleEditorClient& client, const Style
         row.SetField("MinVisScale", scale);
 }
 
-void WriteMaximum(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
+void WriteMaximum(
+    IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits, const Value& maximum)
 {
-    const Value maximum = edits.style.lsGet(Slot::MaxVisScale);
     if (maximum.IsNull())
         return;
     const Value scale = client.DialogScaleToStored(ToInt32(maximum));
@@ -92,18 +93,19 @@ void WriteMaximum(IRecordset& row, const IStyleEditorClient& client, const Style
         row.SetField("MaxVisScale", whole);
 }
 
-void WriteRendererStyle(IRecordset& row, const StyleEdits& edits)
+void WriteRendererStyle(IRecordset& row, const LayerStyle& style, const SelectedRendererStyle& selectedStyle)
 {
-    if (edits.style.lsIsNull(Slot::RendererStyle))
+    if (style.lsIsNull(Slot::RendererStyle))
         return;
-    if (const Value number = edits.selectedStyle(); !number.IsNull())
+    if (const Value number = selectedStyle(); !number.IsNull())
         row.SetField("Style", ConvertedFor(row, "Style", number, ToInt32));
 }
 
-void WriteRow(IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits)
+void WriteRow(
+    IRecordset& row, const IStyleEditorClient& client, const StyleEdits& edits, const RowEdits& rowEdits)
 {
-    const LayerStyle& style = edits.style;
-    WriteQuickMode(row, edits.quickMode);
+    const LayerStyle& style = rowEdits.style;
+    WriteQuickMode(row, rowEdits.quickMode);
     WriteFlags(row, style);
     WriteNumber(row, "FillForeColor", style.lsGet(Slot::FillForeColour));
     WriteNumber(row, "FillBackColor", style.lsGet(Slot::FillBackColour));
@@ -112,39 +114,70 @@ void WriteRow(IRecordset& row, const IStyleEditorClient& client, const StyleEdit
     WriteNumber(row, "FillStyle", style.lsGet(Slot::FillStyle));
     WriteNumber(row, "LineThickness", style.lsGet(Slot::LineThickness));
     // The minimum is stored as the host converts it, the maximum as a whole number: hosts rely on both.
-    WriteMinimum(row, client, edits);
-    WriteMaximum(row, client, edits);
+    WriteMinimum(row, client, edits, style.lsGet(Slot::MinVisScale));
+    WriteMaximum(row, client, edits, style.lsGet(Slot::MaxVisScale));
     WriteNumber(row, "Priority", style.lsGet(Slot::DrawPriority));
-    WriteRendererStyle(row, edits);
+    WriteRendererStyle(row, style, edits.selectedStyle);
 }
 
-void ApplyTo(IRecordset& layers, IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits)
+/// Writes one layer after the other, as long as there is no conflict.
+class LayerWriter
 {
-    if (!SeekID(layers, layerID))
-        return;
-    client.BeginLayerEdit(layers);
-    WriteRow(layers, client, edits);
-    client.LayerChanged(IntegerColumn(layers, "LayerID"));
-    layers.Update();
+public:
+    LayerWriter(IStyleEditorClient& client, const StyleEdits& edits)
+        : m_client(client), m_edits(edits), m_changes(client, edits), m_layers(OpenLayersByID(client))
+    {
+    }
+
+    void Write(qint32 layerID)
+    {
+        if (!SeekID(*m_layers, layerID))
+            return;
+        const RowEdits& edits = m_changes.EditsFor(*m_layers, layerID);
+        if (m_changes.HasConflicts())
+            return; // the other layers are only counted
+        m_client.BeginLayerEdit(*m_layers);
+        WriteRow(*m_layers, m_client, m_edits, edits);
+        m_client.LayerChanged(IntegerColumn(*m_layers, "LayerID"));
+        m_layers->Update();
+        ++m_written;
+    }
+
+    ApplyResult Result() { return {m_written, m_changes.TakeConflicts(), m_changes.IsCodeChanged()}; }
+
+private:
+    IStyleEditorClient& m_client;
+    const StyleEdits& m_edits;
+    ChangesMeanwhile m_changes;
+    std::unique_ptr<IRecordset> m_layers;
+    int m_written = 0;
+};
+
+ApplyResult WriteMembers(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
+{
+    const std::vector<qint32> layerIDs = ReadMemberLayerIDs(client, groupID);
+    LayerWriter writer(client, edits);
+    for (const qint32 layerID : layerIDs)
+        writer.Write(layerID);
+    return writer.Result();
 }
 
 } // namespace
 
-void ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits)
+ApplyResult ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits)
 {
-    ApplyTo(*OpenLayersByID(client), client, layerID, edits);
+    LayerWriter writer(client, edits);
+    writer.Write(layerID);
+    return writer.Result();
 }
 
-void ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
+ApplyResult ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
 {
     Transaction transaction(client.Database());
-    const std::vector<qint32> layerIDs = ReadMemberLayerIDs(client, groupID);
-    {
-        const auto layers = OpenLayersByID(client);
-        for (const qint32 layerID : layerIDs)
-            ApplyTo(*layers, client, layerID, edits);
-    }
-    transaction.Commit();
+    ApplyResult result = WriteMembers(client, groupID, edits);
+    if (result.conflicts.empty())
+        transaction.Commit();
+    return result;
 }
 
 } // namespace Orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "component/model/LayerStyle.h"
+#include "component/model/LayerStyleLoading.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/Value.h>
@@ -9,6 +10,7 @@
 #include <QtGlobal>
 
 #include <functional>
+#include <vector>
 
 namespace Orvane {
 
@@ -23,6 +25,25 @@ struct StyleEdits {
     qint16 quickMode = QuickMode::Various; ///< 1, 2 or 4; any other value leaves the row's mode unchanged
     SelectedRendererStyle selectedStyle; ///< asked for the value to write, if the slot is not Null
     LayerStyle asRead = LayerStyle(); ///< the record that was edited; a new record if there was none
+    qint16 modeAsRead = QuickMode::Various;
+    std::vector<SeenLayer> seen = {}; ///< the layers as they were read; empty: they are not compared
+    bool overwrites = false; ///< edited values are written over those that were changed meanwhile
+};
+
+/// A property that was edited here and changed elsewhere since it was read.
+struct EditConflict {
+    static constexpr qint16 Mode = -1; ///< stands for the quick mode
+
+    qint16 slot = 0;
+    Value stored; ///< what is stored now, in the first such layer; a quick mode as 1, 2 or 4
+    int layers = 0; ///< how many layers hold another value than the one that was read
+};
+
+/// What writing did.
+struct ApplyResult {
+    int layers = 0; ///< how many were written
+    std::vector<EditConflict> conflicts; ///< if there are any, nothing was written
+    bool isCodeChanged = false; ///< a layer has another code now than when it was read
 };
 
 /// Writing a record to layers. Both functions raise what the host and its database raise, unchanged, and a
@@ -30,12 +51,12 @@ struct StyleEdits {
 /// dropped. Neither function asks for a redraw.
 
 /// Writes the slots that are not Null to the layer's row; then calls LayerChanged and stores the row. A scale
-/// that was not edited stays as it is stored, if it would be stored as another number now. A layer that does
-/// not exist is skipped.
-void ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits);
+/// that was not edited stays as it is stored, if it would be stored as another number now; so does every
+/// value that was not edited and that was changed since it was read. A layer that does not exist is skipped.
+ApplyResult ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits);
 
 /// Does the same for every layer of the group, in one transaction: all are written, or none. LayerChanged may
 /// have been called for layers whose change was then rolled back.
-void ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits);
+ApplyResult ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits);
 
 } // namespace Orvane

@@ -14,8 +14,15 @@ namespace Orvane {
 class IStyleEditorClient;
 class LayerStyle;
 
+/// A layer as it was when it was read.
+struct SeenLayer {
+    qint32 layerID = 0;
+    quint64 fingerprint = 0; ///< LayerRowValues::Fingerprint
+};
+
 /// What a reading finds besides the properties.
 struct ReadingResult {
+    std::vector<SeenLayer> seen; ///< the layers that exist, in their order
     std::vector<LayerMode> modes; ///< of the layers that exist and whose mode can be read, in their order
     std::optional<ColumnError> fault; ///< the first value of the wrong type
 };

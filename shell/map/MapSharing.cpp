@@ -7,19 +7,33 @@
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
 
-// The map is not shown again while a dialog is open or the program is busy.
+constexpr int LookInterval = 500; // milliseconds: changes of others are seen within a second
+
+// A field that is open inside a list would be closed when the list is read again.
+bool EditsInAList()
+{
+    const QWidget* field = QApplication::focusWidget();
+    const QWidget* viewport = field ? field->parentWidget() : nullptr;
+    return viewport && qobject_cast<const QAbstractItemView*>(viewport->parentWidget());
+}
+
+// The map is not shown again while something waits for the user, or while the program is busy.
 bool IsBusy()
 {
-    return QApplication::activeModalWidget() || QApplication::overrideCursor();
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget()
+        || QApplication::overrideCursor() || EditsInAList();
 }
 
 } // namespace
@@ -27,10 +41,13 @@ bool IsBusy()
 MapSharing::MapSharing(QWidget& window, ShowAgain showAgain)
     : m_window(window), m_showAgain(std::move(showAgain))
 {
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive && m_document && !IsBusy())
+    const auto look = [this] {
+        if (m_document && m_window.isVisible() && !IsBusy())
             Guard(&m_window, [this] { Look(); });
-    });
+    };
+    connect(&m_lookAgain, &QTimer::timeout, this, look);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, look);
+    m_lookAgain.start(LookInterval);
 }
 
 bool MapSharing::MayOpen(const QString& path)
@@ -44,8 +61,8 @@ bool MapSharing::MayOpen(const QString& path)
         QMessageBox::Open | QMessageBox::Cancel, &m_window);
     box.setObjectName(QStringLiteral("dlgMapShared"));
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr(
-        "Changes made in one window are saved immediately and appear in the other when you switch to it."));
+    box.setInformativeText(
+        tr("Changes made in one window are saved immediately and appear in the other within a second."));
     box.setDefaultButton(QMessageBox::Open);
     return box.exec() == QMessageBox::Open;
 }
@@ -56,11 +73,12 @@ void MapSharing::Use(MapSession& session)
     m_version = m_document->Database().ForeignChanges();
 }
 
+// Whatever goes wrong while showing is reported once, not with each look.
 void MapSharing::Look()
 {
     const qint64 now = m_document->Database().ForeignChanges();
-    if (now != m_version && m_showAgain())
-        m_version = now;
+    if (std::exchange(m_version, now) != now)
+        m_showAgain();
 }
 
 } // namespace Orvane

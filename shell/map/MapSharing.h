@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
@@ -13,14 +14,13 @@ class MapDocument;
 class MapSession;
 
 /// A map file that several windows or programs have open. Each commits its changes at once, so nothing is
-/// lost. This class asks before a map is opened twice, and shows the changes of others as soon as the user
-/// returns to this window.
+/// lost. This class asks before a map is opened twice, and shows the changes of others within a second.
 class MapSharing : public QObject
 {
     Q_OBJECT
 public:
-    /// Shows the map again; false, with nothing done, when an editor with edits stays open.
-    using ShowAgain = std::function<bool()>;
+    /// Shows the map again; edits that are not applied stay.
+    using ShowAgain = std::function<void()>;
 
     /// The window outlives this object.
     MapSharing(QWidget& window, ShowAgain showAgain);
@@ -38,6 +38,7 @@ private:
     QWidget& m_window;
     ShowAgain m_showAgain;
     const MapDocument* m_document = nullptr;
+    QTimer m_lookAgain;
     qint64 m_version = 0; // of the content, as SQLite counts the commits of others
 };
 

@@ -156,6 +156,17 @@ void PropertyPanel::ReadEdits(LayerStyle& style) const
     }
 }
 
+SlotControl PropertyPanel::ControlOf(qint16 slot) const
+{
+    for (const auto& editor : m_editors) {
+        for (const SlotControl& entry : editor->Controls()) {
+            if (entry.slot == slot)
+                return entry;
+        }
+    }
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Subscript out of range"));
+}
+
 bool PropertyPanel::ControlValueChanged(const QWidget* control) const
 {
     for (const auto& editor : m_editors) {

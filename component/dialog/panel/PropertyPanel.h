@@ -65,6 +65,9 @@ public:
     /// unchanged.
     void ReadPanelStyle(LayerStyle& style) const;
 
+    /// The control that edits the slot. Raises 9 (subscript out of range) if there is none.
+    SlotControl ControlOf(qint16 slot) const;
+
     /// The record that was shown last, with Null for what could not be shown.
     const LayerStyle& Record() const { return m_record; }
 

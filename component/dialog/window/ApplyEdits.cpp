@@ -9,6 +9,8 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/LayerValues.h>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -19,42 +21,53 @@ bool IsSingleMode(qint16 quickMode)
         || quickMode == QuickMode::Hidden;
 }
 
-ApplyOutcome ApplyToGroup(LayerTrees& trees, const NodeReference& group, const PanelEdits& edits)
+AppliedEdits ApplyToGroup(LayerTrees& trees, const NodeReference& group, const PanelEdits& edits)
 {
-    ApplyGroupStyle(Client(), group.groupID, edits);
+    ApplyResult result = ApplyGroupStyle(Client(), group.groupID, edits);
+    if (!result.conflicts.empty())
+        return {ApplyOutcome::Conflicts, std::move(result.conflicts)};
+    if (result.layers == 0 && !edits.seen.empty())
+        return {ApplyOutcome::Gone, {}};
     if (edits.quickMode == group.image)
-        return ApplyOutcome::Applied;
+        return {};
     if (!IsSingleMode(edits.quickMode))
-        return ApplyOutcome::UnexpectedMode;
+        return {ApplyOutcome::UnexpectedMode, {}};
     trees.SetGroupImage(group.groupID, edits.quickMode);
-    return ApplyOutcome::Applied;
+    return {};
 }
 
-void ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const PanelEdits& edits)
+bool StoresCode(const PanelEdits& edits, const ApplyResult& result)
 {
-    ApplyLayerStyle(Client(), layer.layerID, edits);
+    return edits.codeText && (edits.isCodeEdited || !result.isCodeChanged);
+}
+
+AppliedEdits ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const PanelEdits& edits)
+{
+    ApplyResult result = ApplyLayerStyle(Client(), layer.layerID, edits);
+    if (!result.conflicts.empty())
+        return {ApplyOutcome::Conflicts, std::move(result.conflicts)};
     FirstError errors; // the properties are stored: the map shows them even if the code is rejected
     errors.Try([&] {
-        if (edits.codeText)
+        if (StoresCode(edits, result))
             SetLayerCode(Client(), layer.layerID, *edits.codeText);
     });
     if (edits.quickMode != layer.image && IsSingleMode(edits.quickMode))
         errors.Try([&] { trees.SetLayerImage(layer.layerID, edits.quickMode); });
     errors.Try([] { Client().RedrawMap(); });
     errors.Rethrow();
+    return {result.layers == 0 ? ApplyOutcome::Gone : ApplyOutcome::Applied, {}};
 }
 
 } // namespace
 
-ApplyOutcome ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits)
+AppliedEdits ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits)
 {
-    if (!node.isGroup) {
-        ApplyToLayer(trees, node, edits);
-        return ApplyOutcome::Applied;
-    }
-    const ApplyOutcome outcome = ApplyToGroup(trees, node, edits);
-    Client().RedrawMap();
-    return outcome;
+    if (!node.isGroup)
+        return ApplyToLayer(trees, node, edits);
+    AppliedEdits applied = ApplyToGroup(trees, node, edits);
+    if (applied.outcome != ApplyOutcome::Conflicts)
+        Client().RedrawMap();
+    return applied;
 }
 
 } // namespace Orvane

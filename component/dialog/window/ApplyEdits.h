@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace Orvane {
 
@@ -15,16 +16,24 @@ class LayerTrees;
 /// The values of the controls when they are applied.
 struct PanelEdits : StyleEdits {
     std::optional<QString> codeText; ///< of a layer; nothing leaves the stored code
+    bool isCodeEdited = false; ///< the style's code slot is then the edited code
 };
 
 enum class ApplyOutcome {
     Applied,
     UnexpectedMode, ///< applied, but the group's quick mode cannot be shown
+    Gone, ///< the layer, or every layer of the group, no longer exists
+    Conflicts, ///< nothing was written: edited values were changed elsewhere
+};
+
+struct AppliedEdits {
+    ApplyOutcome outcome = ApplyOutcome::Applied;
+    std::vector<EditConflict> conflicts;
 };
 
 /// Writes the edits to the layers of one node, gives the tree nodes their new images, and has the map redrawn
 /// once. node: its image is the mode that its rows held when they were read. Raises what the database and the
 /// host raise; for a group, nothing is written then.
-ApplyOutcome ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
+AppliedEdits ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
 
 } // namespace Orvane

@@ -41,6 +41,8 @@ public:
 
     /// The code as the label shows it; empty when there is none.
     QString CodeText() const;
+    /// True if the user has entered another code since the node was shown.
+    bool IsCodeEdited() const { return m_isCodeEdited; }
     /// The code to store; nothing if the user did not touch it and it would not come back as it was stored.
     std::optional<QString> CodeToStore() const;
 

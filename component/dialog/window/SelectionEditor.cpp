@@ -7,10 +7,13 @@
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/window/ApplyEdits.h"
+#include "component/dialog/window/ConflictPrompt.h"
 #include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/PendingChangesPrompt.h"
 #include "component/dialog/window/QuickModeToolbar.h"
+#include "component/model/LayerCode.h"
 #include "component/model/LayerCursors.h"
+#include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -109,11 +112,18 @@ SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReferen
     return selection;
 }
 
+void SelectionEditor::Keep(const Selection& selection)
+{
+    m_current = selection.node;
+    m_asRead = selection.record;
+    m_seen = selection.reading.seen;
+    m_parts.trees.SetLayerImages(selection.reading.modes);
+}
+
 std::optional<PropertyPanel::Fault> SelectionEditor::Show(const Selection& selection)
 {
     const std::optional<NodeReference>& node = selection.node;
-    m_current = node;
-    m_parts.trees.SetLayerImages(selection.reading.modes);
+    Keep(selection);
     std::optional<PropertyPanel::Fault> unshown = m_parts.panel.Show(selection.record);
     m_parts.quickModes.ShowMode(node ? node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
@@ -130,8 +140,7 @@ void SelectionEditor::Follow()
         return;
     }
     const Selection selection = Read(m_parts.trees.CurrentNode());
-    m_current = selection.node;
-    m_parts.trees.SetLayerImages(selection.reading.modes);
+    Keep(selection);
     const auto unshown = m_parts.panel.Follow(selection.record);
     m_parts.quickModes.FollowMode(selection.node->image);
     m_parts.commands.Follow(selection.node, selection.record, selection.isSystemLayer);
@@ -153,11 +162,16 @@ void SelectionEditor::ReportFault(
 PanelEdits SelectionEditor::ReadEdits() const
 {
     PanelEdits edits;
-    edits.quickMode = m_parts.quickModes.ReadMode();
-    edits.codeText = m_parts.commands.CodeToStore();
-    edits.selectedStyle = m_parts.selectedStyle;
     m_parts.panel.ReadEdits(edits.style);
-    edits.asRead = m_parts.panel.Record();
+    edits.quickMode = m_parts.quickModes.ReadMode();
+    edits.selectedStyle = m_parts.selectedStyle;
+    edits.asRead = m_asRead;
+    edits.modeAsRead = m_current->image;
+    edits.seen = m_seen;
+    edits.codeText = m_parts.commands.CodeToStore();
+    edits.isCodeEdited = m_parts.commands.IsCodeEdited();
+    if (edits.isCodeEdited)
+        edits.style.lsSet(Slot::Code, LeadingNumber(m_parts.commands.CodeText()));
     return edits;
 }
 
@@ -167,27 +181,57 @@ bool SelectionEditor::HoldsCurrentNode() const
     return node && m_current && IsSameNode(*node, *m_current);
 }
 
-void SelectionEditor::Apply()
+bool SelectionEditor::Apply()
 {
     if (!m_modified || !HoldsCurrentNode())
-        return;
-    const bool isExpected = Write(*m_current);
-    Load();
-    if (!isExpected)
-        ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
+        return true;
+    const QPointer<SelectionEditor> self(this);
+    PanelEdits edits = ReadEdits();
+    AppliedEdits applied = Write(edits);
+    while (applied.outcome == ApplyOutcome::Conflicts) {
+        const ConflictChoice choice
+            = AskAboutConflicts(m_form, m_parts.panel, m_parts.trees.CurrentText(), edits, applied.conflicts);
+        if (!self || choice == ConflictChoice::Cancel)
+            return false;
+        FollowChoice(choice, edits, applied.conflicts);
+        applied = Write(edits);
+    }
+    Finish(applied.outcome);
+    return true;
 }
 
-bool SelectionEditor::Write(const NodeReference& node)
+AppliedEdits SelectionEditor::Write(const PanelEdits& edits)
 {
     m_modified = false;
     try {
         const BusyPointer busy;
-        return WithColumnTexts([&] { return ApplyEdits(m_parts.trees, node, ReadEdits()); })
-            == ApplyOutcome::Applied;
+        AppliedEdits applied = WithColumnTexts([&] { return ApplyEdits(m_parts.trees, *m_current, edits); });
+        m_modified = applied.outcome == ApplyOutcome::Conflicts || applied.outcome == ApplyOutcome::Gone;
+        return applied;
     } catch (...) {
         m_modified = true;
         throw;
     }
+}
+
+void SelectionEditor::Finish(ApplyOutcome outcome)
+{
+    if (outcome == ApplyOutcome::Gone) {
+        ReportGoneNode();
+        return;
+    }
+    Load();
+    if (outcome == ApplyOutcome::UnexpectedMode)
+        ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
+}
+
+void SelectionEditor::ReportGoneNode()
+{
+    const QString kind = m_current->isGroup ? TranslateMsg("group") : TranslateMsg("layer");
+    const QString text = TranslateMsg(
+        "The ^1 '^2' no longer exists. The changes were not applied.", kind,
+        NameInQuestion(m_parts.trees.CurrentText()));
+    ShowMessageBox(&m_form, text, BoxStyle::OkExclamation);
 }
 
 bool SelectionEditor::ConfirmPendingChanges()
@@ -197,7 +241,8 @@ bool SelectionEditor::ConfirmPendingChanges()
     const QPointer<SelectionEditor> self(this);
     switch (AskToApply(&m_form, m_current->isGroup, m_parts.trees.CurrentText())) {
     case PendingChangesAnswer::Yes:
-        Apply();
+        if (!Apply() && self) // the node stays, and with it the edits
+            throw RunTimeError(ErrorNumber::DatabaseFailure, TranslateMsg("The changes were not applied."));
         break;
     case PendingChangesAnswer::No:
         break;

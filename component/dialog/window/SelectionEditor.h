@@ -19,7 +19,9 @@ namespace Orvane {
 class LayerCommands;
 class LayerTrees;
 class QuickModeToolbar;
+struct AppliedEdits;
 struct PanelEdits;
+enum class ApplyOutcome;
 
 /// What the dialog edits: the current node, the selection record, and whether the controls hold edits that
 /// are not applied yet.
@@ -64,11 +66,13 @@ public:
     void ShowNothing();
 
     /// Writes the edits to the layers of the current node and then shows what is stored; does nothing without
-    /// edits.
-    void Apply();
+    /// edits. Where edited values were changed elsewhere, the host is asked first, who may destroy the form.
+    /// If the node is gone, the user is told, and the edits stay. False if the user cancelled or the form was
+    /// destroyed.
+    bool Apply();
 
     /// If there are edits, asks whether to apply them and does so if the answer is Yes. False if the form was
-    /// destroyed: the host may close it while the question waits.
+    /// destroyed: the host may close it while the question waits. Raises if the user then cancels.
     bool ConfirmPendingChanges();
 
 signals:
@@ -92,11 +96,16 @@ private:
     PanelEdits ReadEdits() const;
     /// Edits are applied to the node that they were made for, or not at all.
     bool HoldsCurrentNode() const;
-    bool Write(const NodeReference& node);
+    void Keep(const Selection& selection);
+    AppliedEdits Write(const PanelEdits& edits);
+    void Finish(ApplyOutcome outcome);
+    void ReportGoneNode();
 
     QWidget& m_form;
     Parts m_parts;
     std::optional<NodeReference> m_current; // as it was when the record was read
+    LayerStyle m_asRead;
+    std::vector<SeenLayer> m_seen; // the layers of the node, as they were read
     QString m_reportedFault; // of the node shown
     ListTab m_tab = ListTab::Groups;
     bool m_modified = false;

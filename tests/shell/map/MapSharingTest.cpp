@@ -12,11 +12,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +74,14 @@ protected:
 
     void ComeBack() { emit qApp->applicationStateChanged(Qt::ApplicationActive); }
     void Trigger(const char* action) { m_window->findChild<QAction*>(QLatin1String(action))->trigger(); }
+    static QWidget* TheForm()
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && window->objectName() == "frmLayerStyles")
+                return window;
+        }
+        return nullptr;
+    }
     size_t Shown() { return m_window->Canvas().Layers().size(); }
 
     DataFolder m_folder;
@@ -88,6 +99,32 @@ TEST_F(MapSharingTest, WhatAnotherWindowAddsIsShownWhenTheUserComesBack)
     ASSERT_EQ(Shown(), 2u);
     EXPECT_EQ(m_window->Canvas().Layers()[1].features->Bounds().minX, 20);
     EXPECT_TRUE(m_window->statusBar()->currentMessage().contains("another window"));
+}
+
+TEST_F(MapSharingTest, WhatAnotherWindowAddsIsShownWithoutAnyAction)
+{
+    AddSquare(*m_other, "More", 20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Shown() == 2u; }));
+}
+
+TEST_F(MapSharingTest, TheLayerControlFollowsAnotherWindowAndKeepsEdits)
+{
+    Trigger("actLayerControl");
+    auto* form = TheForm();
+    ASSERT_TRUE(form);
+    auto* list = form->findChild<QTreeView*>("tvLayers2");
+    QTest::mouseClick(
+        list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+    auto* locked = form->findChild<QWidget*>("chkLocked")->findChild<QCheckBox*>();
+    QTest::mouseClick(locked, Qt::LeftButton, {}, QPoint(8, locked->height() / 2));
+    ASSERT_TRUE(form->findChild<QWidget*>("cmdApply")->isEnabled());
+    m_other->Database().Execute("UPDATE Layers SET Priority = 7");
+    const auto* priority = form->findChild<QLabel*>("lblPriority");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return priority->text() == "7"; }));
+    QTest::mouseClick(form->findChild<QWidget*>("cmdApply"), Qt::LeftButton);
+    const auto map = MapDocument::Open(Path());
+    const QString kept = "SELECT * FROM Layers WHERE locked <> 0 AND Priority = 7";
+    EXPECT_FALSE(map->Database().OpenRecordset(kept)->AtEOF());
 }
 
 TEST_F(MapSharingTest, OnesOwnChangesAreNotTakenForOthers)

@@ -131,6 +131,7 @@ void Dialog::Load()
 void Dialog::Read()
 {
     const auto layers = LayersOf(*panel.node);
+    panel.hasLayers = !layers.empty();
     panel.record = CommonValues(layers);
     const Values shown = AsShown(panel.record);
     for (int property = 0; property < PropertyCount; ++property) {
@@ -171,13 +172,16 @@ bool Dialog::IsMarked(Property property) const
     return panel.marked.count(property == Thickness ? LineStyle : property) > 0;
 }
 
-// A value that nobody touched and that would come back changed is not written.
-Values Dialog::ValuesToWrite() const
+// A value that nobody touched is not written if it would come back changed, or if the layer has another one
+// by now.
+Values Dialog::ValuesToWrite(const Layer& layer) const
 {
+    const Values stored = CommonValues({&layer});
     Values values = panel.shown;
     for (int property = 0; property < PropertyCount; ++property) {
         const bool isScale = property == MinScale || property == MaxScale; // one index for many scales
-        const bool wouldChange = panel.shown[size_t(property)] != panel.record[size_t(property)];
+        const bool wouldChange = panel.shown[size_t(property)] != panel.record[size_t(property)]
+            || stored[size_t(property)] != panel.record[size_t(property)];
         if (!IsMarked(Property(property)) && (wouldChange || isScale))
             values[size_t(property)].reset();
     }
@@ -275,13 +279,15 @@ void Dialog::Apply()
     const std::optional<Node> node = CurrentNode();
     if (!isModified || !node || panel.node != node)
         return;
-    const Values values = ValuesToWrite();
+    int written = 0;
     const auto write = [&](qint32 layerID) {
         const auto found = m_map.layers.find(layerID);
         if (found == m_map.layers.end())
             return;
-        Write(found->second, values);
-        if (IsSingle(panel.mode))
+        ++written;
+        const bool isModeKept = panel.mode == panel.loadedMode && EntryOf(layerID).mode != panel.loadedMode;
+        Write(found->second, ValuesToWrite(found->second));
+        if (IsSingle(panel.mode) && !isModeKept)
             found->second.columns[OverrideMode] = panel.mode / 2; // 1, 2, 4 are stored as 0, 1, 2
     };
     List& list = lists[shownList];
@@ -302,7 +308,11 @@ void Dialog::Apply()
         }
     } else {
         write(node->layerID);
-        SetLayerCode(node->layerID);
+        const auto layer = m_map.layers.find(node->layerID);
+        const bool isCodeKept = layer != m_map.layers.end() && !panel.isCodeMarked
+            && panel.storedCode != layer->second.columns[Code];
+        if (!isCodeKept)
+            SetLayerCode(node->layerID);
     }
     if (newMode && IsSingle(panel.mode)) {
         for (qint32 layerID : imaged) {
@@ -312,6 +322,12 @@ void Dialog::Apply()
     }
     const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
     ++redraws;
+    if (written == 0 && panel.hasLayers) {
+        const QString kind = node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
+        m_boxes.append(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
+                           .arg(kind, list.TextOf(*node)));
+        return;
+    }
     Load();
     if (isUnexpected)
         m_boxes.append(QStringLiteral("Unexpected program flow in frmLayerStyles"));

@@ -21,6 +21,7 @@ struct Panel {
     std::optional<double> storedCode;
     bool isCodeMarked = false;
     bool canEditCode = false;
+    bool hasLayers = false; ///< of the node, when it was read
     int loadedMode = 0;
     int mode = 0;
 
@@ -103,7 +104,7 @@ private:
     void Read();
     int ReadMode();
     bool IsMarked(Property property) const;
-    Values ValuesToWrite() const;
+    Values ValuesToWrite(const Layer& layer) const;
     void ChooseAgain();
     void Mark(Property property);
 

@@ -127,19 +127,22 @@ TEST_F(Applying, ShowsWhatIsStoredAfterwards)
     host.SetLayerColumn(1, "Name", QString("Streets"));
     host.SetLayerColumn(1, "Code", qint32(99));
     Click("cmdApply");
-    EXPECT_EQ(TextOf("lblCode"), "11");
+    EXPECT_EQ(TextOf("lblCode"), "99");
     EXPECT_EQ(CheckState("chkLocked"), 1);
 }
 
-TEST_F(Applying, ALayerThatIsGoneIsLeftOut)
+TEST_F(Applying, ALayerThatIsGoneIsToldAndTheEditsStay)
 {
     ClickLayer("Roads");
     Click("chkLocked");
     host.RemoveLayerRow(1);
     host.ClearLog();
+    const MessageBoxRobot user{BoxKey::Enter};
     Click("cmdApply");
+    EXPECT_EQ(user.Only().text, "The layer 'Roads' no longer exists. The changes were not applied.");
     EXPECT_THAT(host.Log().CallsTo("Update"), IsEmpty());
-    EXPECT_FALSE(CanApply());
+    EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
 }
 
 TEST_F(Applying, AMemberThatIsGoneIsLeftOut)
@@ -160,7 +163,7 @@ TEST_F(Applying, AModeThatCannotBeShownIsReportedAndNotStored)
     trees.LoadGroups();
     const NodeReference group{.isGroup = true, .groupID = 10, .image = 1};
     const auto outcome = ApplyEdits(trees, group, PanelEdits());
-    EXPECT_EQ(outcome, ApplyOutcome::UnexpectedMode);
+    EXPECT_EQ(outcome.outcome, ApplyOutcome::UnexpectedMode);
     EXPECT_EQ(Stored(1, "OverrideMode"), 0);
     EXPECT_EQ(Stored(2, "OverrideMode"), 1);
 }
@@ -187,6 +190,33 @@ TEST_F(Applying, ATickWritesNoModeThatTheRowLostMeanwhile)
     Click("chkLocked");
     Click("cmdApply");
     EXPECT_EQ(Stored(1, "OverrideMode"), 2);
+}
+
+TEST_F(Applying, ValuesOfAnotherUserThatWereNotEditedStay)
+{
+    ClickLayer("Roads");
+    host.SetLayerColumn(1, "Priority", qint32(9));
+    host.SetLayerColumn(1, "Color", qint32(0x00FF00));
+    host.SetLayerColumn(1, "Code", qint32(70));
+    host.SetLayerColumn(1, "OverrideMode", qint32(1));
+    Click("chkLocked");
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "locked"), 1);
+    EXPECT_EQ(Stored(1, "Priority"), 9);
+    EXPECT_EQ(Stored(1, "Color"), 0x00FF00);
+    EXPECT_EQ(Stored(1, "Code"), 70);
+    EXPECT_EQ(Stored(1, "OverrideMode"), 1);
+    EXPECT_EQ(TextOf("lblPriority"), "9");
+}
+
+TEST_F(Applying, AHostThatDoesNotAskGetsTheUsersValues)
+{
+    ClickLayer("Roads");
+    host.SetLayerColumn(1, "locked", qint32(1));
+    ChooseScale("cmdEditPriority", 17);
+    host.SetLayerColumn(1, "Priority", qint32(9));
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "Priority"), 17);
 }
 
 TEST_F(Applying, RedrawsAfterTheCommit)
