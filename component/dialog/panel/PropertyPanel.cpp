@@ -156,6 +156,17 @@ void PropertyPanel::ReadEdits(LayerStyle& style) const
     }
 }
 
+bool PropertyPanel::IsEdited(qint16 slot) const
+{
+    for (const auto& editor : m_editors) {
+        for (const SlotControl& entry : editor->Controls()) {
+            if (entry.slot == slot && m_marked.contains(entry.control))
+                return true;
+        }
+    }
+    return false;
+}
+
 SlotControl PropertyPanel::ControlOf(qint16 slot) const
 {
     for (const auto& editor : m_editors) {

@@ -75,6 +75,9 @@ public:
     /// would give back changed, such as a fill style that is not in the list.
     void ReadEdits(LayerStyle& style) const;
 
+    /// True if a control that edits the slot is marked as changed.
+    bool IsEdited(qint16 slot) const;
+
     /// True if the control is marked as changed.
     bool IsMarked(QWidget* control) const { return m_marked.contains(control); }
 

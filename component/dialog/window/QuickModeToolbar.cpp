@@ -54,7 +54,7 @@ void QuickModeToolbar::ShowMode(qint16 mode)
 
 void QuickModeToolbar::FollowMode(qint16 mode)
 {
-    const bool isEdited = ReadMode() != m_shownMode;
+    const bool isEdited = IsEdited();
     m_shownMode = mode;
     if (!isEdited)
         Press(mode);
@@ -87,7 +87,7 @@ void QuickModeToolbar::OnClicked(const QToolButton* clicked)
 {
     for (QToolButton* button : m_buttons)
         button->setChecked(button == clicked);
-    if (ReadMode() != m_shownMode)
+    if (IsEdited())
         emit Edited();
 }
 

@@ -30,6 +30,8 @@ public:
     void ShowMode(qint16 mode);
     /// As ShowMode, but a mode that the user has chosen meanwhile stays pressed.
     void FollowMode(qint16 mode);
+    /// True if the buttons show another mode than the one shown or followed last.
+    bool IsEdited() const { return ReadMode() != m_shownMode; }
     /// The bits of the buttons that are pressed.
     qint16 ReadMode() const;
 

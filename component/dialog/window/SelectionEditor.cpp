@@ -115,9 +115,33 @@ SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReferen
 void SelectionEditor::Keep(const Selection& selection)
 {
     m_current = selection.node;
-    m_asRead = selection.record;
-    m_seen = selection.reading.seen;
+    const qint16 mode = selection.node ? selection.node->image : QuickMode::Various;
+    m_origin = {selection.record, mode, selection.reading.seen};
     m_parts.trees.SetLayerImages(selection.reading.modes);
+}
+
+// What was changed elsewhere after the user had edited it must still be found by the next apply.
+void SelectionEditor::KeepOriginOfEdits(const Origin& before)
+{
+    bool isOlder = false;
+    for (qint16 slot = 0; slot < LayerStyle::SlotCount; ++slot) {
+        const Value was = before.style.lsGet(slot);
+        if (!IsEdited(slot) || m_origin.style.Compare(slot, was))
+            continue;
+        m_origin.style.lsSet(slot, was);
+        isOlder = true;
+    }
+    if (m_parts.quickModes.IsEdited() && m_origin.mode != before.mode) {
+        m_origin.mode = before.mode;
+        isOlder = true;
+    }
+    for (SeenLayer& layer : m_origin.seen)
+        layer.fingerprint = isOlder ? 0 : layer.fingerprint; // then its values are compared
+}
+
+bool SelectionEditor::IsEdited(qint16 slot) const
+{
+    return slot == Slot::Code ? m_parts.commands.IsCodeEdited() : m_parts.panel.IsEdited(slot);
 }
 
 std::optional<PropertyPanel::Fault> SelectionEditor::Show(const Selection& selection)
@@ -140,7 +164,9 @@ void SelectionEditor::Follow()
         return;
     }
     const Selection selection = Read(m_parts.trees.CurrentNode());
+    const Origin before = m_origin;
     Keep(selection);
+    KeepOriginOfEdits(before);
     const auto unshown = m_parts.panel.Follow(selection.record);
     m_parts.quickModes.FollowMode(selection.node->image);
     m_parts.commands.Follow(selection.node, selection.record, selection.isSystemLayer);
@@ -165,9 +191,9 @@ PanelEdits SelectionEditor::ReadEdits() const
     m_parts.panel.ReadEdits(edits.style);
     edits.quickMode = m_parts.quickModes.ReadMode();
     edits.selectedStyle = m_parts.selectedStyle;
-    edits.asRead = m_asRead;
-    edits.modeAsRead = m_current->image;
-    edits.seen = m_seen;
+    edits.asRead = m_origin.style;
+    edits.modeAsRead = m_origin.mode;
+    edits.seen = m_origin.seen;
     edits.codeText = m_parts.commands.CodeToStore();
     edits.isCodeEdited = m_parts.commands.IsCodeEdited();
     if (edits.isCodeEdited)

@@ -89,6 +89,13 @@ private:
         bool isSystemLayer = false;
     };
 
+    /// What the edits started from.
+    struct Origin {
+        LayerStyle style;
+        qint16 mode = 0;
+        std::vector<SeenLayer> seen; ///< the layers of the node
+    };
+
     static Selection Read(const std::optional<NodeReference>& node);
     std::optional<PropertyPanel::Fault> Show(const Selection& selection);
     void ShowOrNothing(const Selection& selection);
@@ -97,6 +104,8 @@ private:
     /// Edits are applied to the node that they were made for, or not at all.
     bool HoldsCurrentNode() const;
     void Keep(const Selection& selection);
+    void KeepOriginOfEdits(const Origin& before);
+    bool IsEdited(qint16 slot) const;
     AppliedEdits Write(const PanelEdits& edits);
     void Finish(ApplyOutcome outcome);
     void ReportGoneNode();
@@ -104,8 +113,7 @@ private:
     QWidget& m_form;
     Parts m_parts;
     std::optional<NodeReference> m_current; // as it was when the record was read
-    LayerStyle m_asRead;
-    std::vector<SeenLayer> m_seen; // the layers of the node, as they were read
+    Origin m_origin;
     QString m_reportedFault; // of the node shown
     ListTab m_tab = ListTab::Groups;
     bool m_modified = false;

@@ -131,6 +131,30 @@ TEST_F(Conflicts, KeepTheNodeWhenTheUserCancelsWhileLeavingIt)
     EditorForm().UnloadWithoutApply();
 }
 
+TEST_F(Conflicts, AreFoundThoughTheDialogHasFollowedTheChange)
+{
+    EditBoth();
+    Click("Hidden");
+    host.SetLayerColumn(1, "OverrideMode", qint32(1));
+    EditorForm().Refresh();
+    ClickLayer("Roads");
+    QCoreApplication::processEvents();
+    Click("cmdApply");
+    EXPECT_EQ(client.asked.size(), 2U);
+    EXPECT_EQ(Stored(1, "Priority"), 9);
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Conflicts, OfValuesThatWereEditedAfterwardsAreNone)
+{
+    host.SetLayerColumn(1, "Priority", qint32(9));
+    EditorForm().Refresh();
+    ChooseScale("cmdEditPriority", 17);
+    Click("cmdApply");
+    EXPECT_TRUE(client.asked.empty());
+    EXPECT_EQ(Stored(1, "Priority"), 17);
+}
+
 TEST_F(Conflicts, TheHostMayEndTheEditorWhileItAsks)
 {
     client.choice = ConflictChoice::Overwrite;
