@@ -98,6 +98,28 @@ QString Of(const PromptAnswer& answer)
     return answer.accepted ? Of(answer.text) : QStringLiteral("cancelled");
 }
 
+QString Of(const std::vector<ConflictingEdit>& edits)
+{
+    QStringList listed;
+    for (const ConflictingEdit& edit : edits)
+        listed << QStringList{Of(edit.property), Of(edit.mine), Of(edit.stored), Of(qint32(edit.layers))}
+                      .join(u' ');
+    return u'[' + listed.join(QStringLiteral(", ")) + u']';
+}
+
+QString Of(ConflictChoice choice)
+{
+    switch (choice) {
+    case ConflictChoice::Overwrite:
+        return QStringLiteral("overwrite");
+    case ConflictChoice::KeepStored:
+        return QStringLiteral("keep stored");
+    case ConflictChoice::Cancel:
+        break;
+    }
+    return QStringLiteral("cancel");
+}
+
 QString Of(const std::vector<RendererStyle>& styles)
 {
     QStringList listed;

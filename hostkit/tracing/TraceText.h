@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/MonochromeBitmap.h>
 #include <OrvaneShellLib/Value.h>
@@ -38,6 +39,10 @@ QString Of(const QStringList& texts);
 QString Of(EntryKind kind);
 /// The quoted text, or cancelled.
 QString Of(const PromptAnswer& answer);
+/// ["Priority" "17" "9" 1]: property, the user's value, the stored one, layers
+QString Of(const std::vector<ConflictingEdit>& edits);
+/// overwrite, keep stored or cancel
+QString Of(ConflictChoice choice);
 /// [1 "Hachured", 2 "Shaded"]
 QString Of(const std::vector<RendererStyle>& styles);
 /// bitmap 8x8

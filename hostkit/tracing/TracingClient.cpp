@@ -156,6 +156,13 @@ PromptAnswer TracingClient::IStyleEditorClient_PromptText(const PromptRequest& r
         request.maximum, request.width);
 }
 
+ConflictChoice TracingClient::IConflictQuestion_AskAboutConflicts(
+    QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits)
+{
+    const auto ask = [&] { return ForwardingClient::IConflictQuestion_AskAboutConflicts(form, node, edits); };
+    return m_trace.Question("client.AskAboutConflicts", ask, Form, node, edits);
+}
+
 qint32 TracingClient::IStyleEditorClient_CreateLayer()
 {
     return m_trace.Question("client.CreateLayer", [&] { return Wrapped().CreateLayer(); });

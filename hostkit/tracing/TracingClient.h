@@ -48,6 +48,8 @@ protected:
     void IStyleEditorClient_DeleteScheme(const QString& name) override;
     void IStyleEditorClient_SaveSchemesToStartup() override;
     PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override;
+    ConflictChoice IConflictQuestion_AskAboutConflicts(
+        QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
     bool IStyleEditorClient_IsCodeAssigned(qint16 code) override;

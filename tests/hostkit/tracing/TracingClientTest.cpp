@@ -111,6 +111,17 @@ TEST_F(ClientTrace, ShowsTheUsersAnswers)
             QStringLiteral("client.PromptText(\"Edit code\", \"7\", integer, -5, 5, 0) -> cancelled")));
 }
 
+TEST_F(ClientTrace, ShowsWhatBecomesOfConflicts)
+{
+    auto& question = dynamic_cast<IConflictQuestion&>(Client());
+    EXPECT_EQ(
+        question.AskAboutConflicts(nullptr, QStringLiteral("Roads"), {{"Priority", "17", "9", 1}}),
+        ConflictChoice::Overwrite)
+        << "the host does not ask";
+    const char* line = R"(client.AskAboutConflicts(form, "Roads", ["Priority" "17" "9" 1]) -> overwrite)";
+    EXPECT_EQ(Lines().constLast(), QLatin1String(line));
+}
+
 TEST_F(ClientTrace, ShowsTheShellServicesAndAlwaysTheSameOnes)
 {
     IShellServices* services = Client().GetShellServices();
