@@ -19,7 +19,7 @@ LayerStyle LayerRowReader::Read(const IRecordset& row, const LayerRowValues& val
 {
     LayerStyle style;
     const Target target{row, values, style};
-    style.lsSet(Slot::Name, values[RowColumn::Name]);
+    style.lsSet(Slot::Name, row.Field("Name"));
     ReadNumber(target, RowColumn::Code, Slot::Code);
     ReadFlags(target);
     ReadColour(target);

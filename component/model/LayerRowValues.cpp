@@ -11,11 +11,10 @@ namespace Orvane {
 
 namespace {
 
-constexpr std::array ColumnNames{"Name",      "Code",          "Visible",       "Selectable",
-                                 "locked",    "Hitable",       "SnapRequired",  "Enquirable",
-                                 "Color",     "FillForeColor", "FillBackColor", "OutlineStyle",
-                                 "FillStyle", "LineThickness", "MinVisScale",   "MaxVisScale",
-                                 "Priority",  "Style",         "OverrideMode"};
+constexpr std::array ColumnNames{
+    "Code",          "Visible",     "Selectable",    "locked",        "Hitable",      "SnapRequired",
+    "Enquirable",    "Color",       "FillForeColor", "FillBackColor", "OutlineStyle", "FillStyle",
+    "LineThickness", "MinVisScale", "MaxVisScale",   "Priority",      "Style",        "OverrideMode"};
 
 quint64 Mixed(quint64 sum, quint64 next)
 {

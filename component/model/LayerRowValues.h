@@ -10,9 +10,9 @@
 
 namespace Orvane {
 
-/// The columns of Layers that the dialog shows, in the order in which they are read.
+/// The columns of Layers that the dialog shows and applies, in the order in which they are read; the name is
+/// not among them.
 enum class RowColumn : quint8 {
-    Name,
     Code,
     Visible,
     Selectable,
