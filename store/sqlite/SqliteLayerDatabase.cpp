@@ -108,6 +108,7 @@ SqliteLayerDatabase::~SqliteLayerDatabase() = default;
 
 std::unique_ptr<IRecordset> SqliteLayerDatabase::ILayerDatabase_OpenRecordset(const QString& source)
 {
+    m_session->transactions.Settle();
     if (IsQuery(source))
         return OpenQuery(source);
     if (IsTable(source, m_session->layers))
@@ -120,6 +121,7 @@ std::unique_ptr<IRecordset> SqliteLayerDatabase::ILayerDatabase_OpenRecordset(co
 std::unique_ptr<IRecordset>
 SqliteLayerDatabase::OpenQuery(const QString& sql, const std::vector<Value>& values)
 {
+    m_session->transactions.Settle();
     StatementLease statement = m_session->statements.Lease(sql);
     if (!statement->IsReadOnly())
         throw m_session->connection.Errors().Failure(StoreTexts::NotAQuery);
@@ -129,6 +131,7 @@ SqliteLayerDatabase::OpenQuery(const QString& sql, const std::vector<Value>& val
 
 qint64 SqliteLayerDatabase::Execute(const QString& sql, const std::vector<Value>& values)
 {
+    m_session->transactions.RequireIntact();
     const StatementLease statement = m_session->statements.Lease(sql);
     statement->BindAll(values);
     if (statement->IsReadOnly()) {
