@@ -58,7 +58,8 @@ void TransactionStack::Commit()
     else
         RunInside("RELEASE " + Savepoint(m_depth - 1));
     m_places.pop_back();
-    --m_depth;
+    if (--m_depth == 0)
+        m_connection.Patience().NoteSuccess();
 }
 
 void TransactionStack::Rollback()
@@ -160,15 +161,18 @@ void TransactionStack::RunWrite(SqliteStatement& statement)
     const size_t place = m_changes.Place();
     const int result = StepWaiting(statement);
     statement.Reset();
-    if (result == SQLITE_DONE && !IsLost())
+    if (result == SQLITE_DONE && !IsLost()) {
+        if (m_depth == 0)
+            m_connection.Patience().NoteSuccess();
         return;
+    }
     m_changes.GoBackTo(place);
     if (result != SQLITE_DONE)
         m_connection.Raise(result);
     throw m_connection.Errors().Failure(StoreTexts::TransactionLost);
 }
 
-// SQLite does not wait while a cursor reads an older state.
+// SQLite does not wait while a cursor reads an older state. If it has waited, the second attempt does not.
 int TransactionStack::StepWaiting(SqliteStatement& statement)
 {
     int result = statement.TryStep();
