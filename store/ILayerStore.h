@@ -30,6 +30,11 @@ struct StoreTable;
 /// stays usable after changes made by other cursors, commits and rollbacks; it reads its row again after its
 /// Update, and raises if the row is gone. Query cursors that are open while rows are changed may be read into
 /// memory, so close long ones first.
+///
+/// Errors never leave half of a transaction in the store: after an error that ends a transaction, or leaves
+/// it uncertain, each further write in it raises until its outermost level is rolled back. If a store cannot
+/// undo what failed, it refuses everything else until it can. Transactions begin and end with BeginTrans,
+/// CommitTrans and Rollback, never with a statement.
 class ILayerStore : public ILayerDatabase
 {
 public:
@@ -65,7 +70,7 @@ public:
     /// The location of the store: for a file the path as it was given, empty for a store in memory.
     virtual QString Path() const = 0;
     /// Stores a consistent copy of everything in a new layer database file. Raises DatabaseFailure if the
-    /// file exists or cannot be written.
+    /// file exists or cannot be written; no incomplete file remains then.
     virtual void CopyToFile(const QString& path) = 0;
 
     /// The listener is called with the text of each statement as it starts to run, with parameters as "?1";

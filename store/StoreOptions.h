@@ -13,7 +13,9 @@ enum class OpenMode {
 
 /// What a host may choose when it opens or creates a layer database.
 struct StoreOptions {
-    /// How long to wait for another program's lock before DatabaseLocked is raised.
+    /// How long to wait for other programs' locks before DatabaseLocked is raised. All waits during one
+    /// action of the user, that is, until the program returns to its event loop, count together. Where no
+    /// event loop is running, the waits count together until a write succeeds.
     std::chrono::milliseconds busyTimeout{5000};
 };
 

@@ -57,6 +57,10 @@ inline constexpr const char* NoTransaction
     = QT_TRANSLATE_NOOP("LayerStore", "There is no transaction to commit in \"^1\".");
 inline constexpr const char* TransactionLost
     = QT_TRANSLATE_NOOP("LayerStore", "The changes to \"^1\" were undone after an error; begin them again.");
+inline constexpr const char* StillOpen = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "An earlier change to the map \"^1\" failed and cannot be undone at present: ^2. Try again, or open the "
+    "map again.");
 inline constexpr const char* NothingToStore
     = QT_TRANSLATE_NOOP("LayerStore", "An empty value cannot be stored in \"^1\".");
 inline constexpr const char* ChangesNotRecorded = QT_TRANSLATE_NOOP(

@@ -410,6 +410,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Ein Argument fehlt.</translation>
     </message>
     <message>
+        <source>An earlier change to the map &quot;^1&quot; failed and cannot be undone at present: ^2. Try again, or open the map again.</source>
+        <translation>Eine frühere Änderung an der Karte „^1“ ist fehlgeschlagen und kann derzeit nicht zurückgenommen werden: ^2. Versuchen Sie es erneut oder öffnen Sie die Karte noch einmal.</translation>
+    </message>
+    <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
     </message>

@@ -410,6 +410,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Il manque un argument.</translation>
     </message>
     <message>
+        <source>An earlier change to the map &quot;^1&quot; failed and cannot be undone at present: ^2. Try again, or open the map again.</source>
+        <translation>Une modification précédente de la carte « ^1 » a échoué et ne peut pas être annulée pour le moment : ^2. Réessayez ou ouvrez de nouveau la carte.</translation>
+    </message>
+    <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>Une valeur vide ne peut pas être enregistrée dans « ^1 ».</translation>
     </message>

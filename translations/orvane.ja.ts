@@ -410,6 +410,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>引数が足りません。</translation>
     </message>
     <message>
+        <source>An earlier change to the map &quot;^1&quot; failed and cannot be undone at present: ^2. Try again, or open the map again.</source>
+        <translation>地図「^1」に対する以前の変更が失敗し、現在は元に戻せません: ^2。もう一度試すか、地図を開き直してください。</translation>
+    </message>
+    <message>
         <source>An empty value cannot be stored in &quot;^1&quot;.</source>
         <translation>空の値は「^1」に保存できません。</translation>
     </message>

@@ -9,6 +9,7 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <map>
+#include <optional>
 #include <sqlite3.h>
 
 namespace Orvane {
@@ -19,25 +20,41 @@ constexpr int NoKey = -1; // instead of the position of a table
 
 using ValueReader = int (*)(sqlite3*, int, sqlite3_value**);
 
-void Code(std::string& bytes, sqlite3_value* value, bool isReal)
+std::optional<std::string_view> Content(sqlite3_value* value, const void* data)
+{
+    const auto size = size_t(sqlite3_value_bytes(value));
+    if (!data && size > 0)
+        return std::nullopt;
+    return std::string_view(static_cast<const char*>(data), data ? size : 0);
+}
+
+// False when SQLite runs out of memory.
+bool Code(std::string& bytes, sqlite3_value* value, bool isReal)
 {
     bytes.clear();
-    const auto content = [&](const void* data) {
-        return std::string_view(static_cast<const char*>(data), size_t(sqlite3_value_bytes(value)));
-    };
     switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
         if (isReal) // SQLite stores and reports whole numbers as integers
-            return ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
-        return ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(value));
+            ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
+        else
+            ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(value));
+        return true;
     case SQLITE_FLOAT:
-        return ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
-    case SQLITE_TEXT:
-        return ChangeCoding::AppendText(bytes, content(sqlite3_value_text(value)));
-    case SQLITE_BLOB:
-        return ChangeCoding::AppendBlob(bytes, content(sqlite3_value_blob(value)));
+        ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
+        return true;
+    case SQLITE_TEXT: {
+        const auto text = Content(value, sqlite3_value_text(value));
+        ChangeCoding::AppendText(bytes, text.value_or(std::string_view()));
+        return text.has_value();
+    }
+    case SQLITE_BLOB: {
+        const auto blob = Content(value, sqlite3_value_blob(value));
+        ChangeCoding::AppendBlob(bytes, blob.value_or(std::string_view()));
+        return blob.has_value();
+    }
     default:
-        return ChangeCoding::AppendNull(bytes);
+        ChangeCoding::AppendNull(bytes);
+        return true;
     }
 }
 
@@ -50,7 +67,8 @@ bool ReadAll(
         sqlite3_value* value = nullptr;
         if (read(handle, int(column), &value) != SQLITE_OK || !value)
             return false;
-        Code(values[column], value, isReal[column]);
+        if (!Code(values[column], value, isReal[column]))
+            return false;
     }
     return true;
 }

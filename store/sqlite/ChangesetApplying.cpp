@@ -27,7 +27,7 @@ public:
             return;
         try {
             m_session.transactions.Rollback();
-        } catch (const RunTimeError&) {
+        } catch (...) { // the error that led here is the one to report
         }
     }
     Attempt(const Attempt&) = delete;
@@ -122,7 +122,7 @@ std::optional<Changeset> ApplyChangeset(SqliteSession& session, const Changeset&
         if (!ChangeRows(session, changes) || !references.AreWhole())
             return std::nullopt;
     }
-    const Changeset changed = attempt.Changes();
+    std::optional<Changeset> changed = attempt.Changes(); // once it is stored, nothing may fail
     attempt.Commit();
     return changed;
 }

@@ -131,6 +131,7 @@ SqliteStatement& RowChanger::StatementFor(const ChangedTable& table, const Chang
 RowChanger::Outcome
 RowChanger::Run(SqliteStatement& statement, const ChangedTable& table, const ChangedRow& row)
 {
+    m_session.transactions.RequireIntact();
     const size_t place = m_session.changes.Place();
     const int result = statement.TryStep();
     const bool hasChanged = sqlite3_changes(m_session.connection.Handle()) > 0;

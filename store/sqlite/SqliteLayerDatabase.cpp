@@ -10,10 +10,9 @@
 #include "store/sqlite/TableMaking.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerSchema.h"
+#include "store/sqlite/files/NewLayerFile.h"
 
 #include <OrvaneShellLib/Transaction.h>
-
-#include <QFile>
 
 #include <sqlite3.h>
 
@@ -46,17 +45,6 @@ bool IsTable(const QString& source, const TableAccess& table)
     return source.compare(QLatin1String(name.data(), qsizetype(name.size())), Qt::CaseInsensitive) == 0;
 }
 
-// Creates the file first, so that an existing file can never be mistaken for the new one.
-void MakeEmptyFile(const QString& path)
-{
-    const StoreErrors errors(path);
-    if (QFile::exists(path))
-        throw errors.Failure(StoreTexts::FileExists);
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        throw errors.Failure(StoreTexts::CannotCreate, file.errorString());
-}
-
 class Recorder final : public ChangeRecorder
 {
 public:
@@ -85,13 +73,9 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
 std::unique_ptr<SqliteLayerDatabase>
 SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
 {
-    MakeEmptyFile(path);
-    try {
-        return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(NewSession(path, options)));
-    } catch (const RunTimeError&) {
-        QFile::remove(path);
-        throw;
-    }
+    std::unique_ptr<SqliteSession> session;
+    MakeLayerFile(path, [&] { session = NewSession(path, options); });
+    return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(std::move(session)));
 }
 
 std::unique_ptr<SqliteLayerDatabase>
@@ -124,6 +108,7 @@ SqliteLayerDatabase::~SqliteLayerDatabase() = default;
 
 std::unique_ptr<IRecordset> SqliteLayerDatabase::ILayerDatabase_OpenRecordset(const QString& source)
 {
+    m_session->transactions.Settle();
     if (IsQuery(source))
         return OpenQuery(source);
     if (IsTable(source, m_session->layers))
@@ -136,6 +121,7 @@ std::unique_ptr<IRecordset> SqliteLayerDatabase::ILayerDatabase_OpenRecordset(co
 std::unique_ptr<IRecordset>
 SqliteLayerDatabase::OpenQuery(const QString& sql, const std::vector<Value>& values)
 {
+    m_session->transactions.Settle();
     StatementLease statement = m_session->statements.Lease(sql);
     if (!statement->IsReadOnly())
         throw m_session->connection.Errors().Failure(StoreTexts::NotAQuery);
@@ -145,6 +131,7 @@ SqliteLayerDatabase::OpenQuery(const QString& sql, const std::vector<Value>& val
 
 qint64 SqliteLayerDatabase::Execute(const QString& sql, const std::vector<Value>& values)
 {
+    m_session->transactions.RequireIntact();
     const StatementLease statement = m_session->statements.Lease(sql);
     statement->BindAll(values);
     if (statement->IsReadOnly()) {
@@ -199,7 +186,7 @@ bool SqliteLayerDatabase::IsReadOnly() const
 
 void SqliteLayerDatabase::CopyToFile(const QString& path)
 {
-    Execute(QStringLiteral("VACUUM INTO ?1"), {path});
+    MakeLayerFile(path, [&] { Execute(QStringLiteral("VACUUM INTO ?1"), {path}); });
 }
 
 void SqliteLayerDatabase::SetQueryListener(std::function<void(const QString&)> listener)

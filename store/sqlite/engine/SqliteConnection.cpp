@@ -57,7 +57,7 @@ void SqliteConnection::Closer::operator()(sqlite3* handle) const
 }
 
 SqliteConnection::SqliteConnection(const QString& path, Access access, const StoreOptions& options)
-    : m_path(path), m_access(access), m_errors(path)
+    : m_path(path), m_access(access), m_errors(path), m_patience(options.busyTimeout)
 {
     sqlite3* handle = nullptr;
     const int result
@@ -65,7 +65,7 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
     m_handle.reset(handle);
     if (result != SQLITE_OK)
         Raise(result);
-    sqlite3_busy_timeout(handle, int(options.busyTimeout.count()));
+    m_patience.Attach(handle);
     Harden(handle);
     if (access == Access::QueryOnly)
         Run("PRAGMA query_only = ON");

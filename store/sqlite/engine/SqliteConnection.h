@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/StoreOptions.h"
+#include "store/sqlite/engine/LockPatience.h"
 #include "store/sqlite/engine/StoreErrors.h"
 
 #include <QByteArray>
@@ -35,6 +36,8 @@ public:
 
     sqlite3* Handle() const { return m_handle.get(); }
     const StoreErrors& Errors() const { return m_errors; }
+    /// How it waits for locks.
+    LockPatience& Patience() { return m_patience; }
     /// The path that was passed to the constructor.
     const QString& Path() const { return m_path; }
     /// True when rows cannot be changed, whatever access was requested.
@@ -63,6 +66,7 @@ private:
     QString m_path;
     Access m_access;
     StoreErrors m_errors;
+    LockPatience m_patience; // outlives the handle, which uses it
     std::unique_ptr<sqlite3, Closer> m_handle;
     std::function<void(const QString&)> m_listener;
 };

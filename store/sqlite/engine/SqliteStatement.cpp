@@ -170,6 +170,8 @@ Value SqliteStatement::Column(int position) const
         return Value::Null();
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, position));
+        if (!text && sqlite3_errcode(m_connection.Handle()) == SQLITE_NOMEM)
+            m_connection.Raise(SQLITE_NOMEM); // an empty text would look like the stored one
         return QString::fromUtf8(text, sqlite3_column_bytes(statement, position));
     }
     }

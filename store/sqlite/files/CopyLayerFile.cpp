@@ -4,6 +4,7 @@
 #include "store/sqlite/engine/SqliteStatement.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerSchema.h"
+#include "store/sqlite/files/NewLayerFile.h"
 
 namespace Orvane {
 
@@ -17,7 +18,9 @@ void CopyLayerFile(const QString& from, const QString& to)
     connection.Run("PRAGMA query_only = OFF");
     SqliteStatement copy(connection, QStringLiteral("VACUUM INTO ?1"));
     copy.BindAll({to});
-    while (copy.Step()) { }
+    MakeLayerFile(to, [&] {
+        while (copy.Step()) { }
+    });
 }
 
 } // namespace Orvane
