@@ -1392,8 +1392,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Es gibt kein Füllmuster %1.</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>es gibt keinen Ordner „%1“</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Es gibt kein Layerschema namens „%1“.</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>im Ordner „%1“ ist nicht genug Speicherplatz</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>

@@ -1392,8 +1392,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Il n’y a pas de motif de remplissage %1.</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>il n’y a pas de dossier « %1 »</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Il n’y a pas de schéma nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>il n’y a plus de place dans le dossier « %1 »</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>

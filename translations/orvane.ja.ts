@@ -1392,8 +1392,16 @@ These commands run without a window; each has its own --help:
         <translation>塗りつぶしパターン %1 はありません。</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>フォルダー「%1」がありません</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>「%1」という名前のレイヤースキームはありません。</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>フォルダー「%1」の空き容量が不足しています</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
