@@ -12,10 +12,6 @@
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>„%1“ kann nicht gespeichert werden: %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>„%1“ ist keine gültige Seitengröße.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>„%1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>„^1“ kann nicht angelegt werden, weil eine Datei dieses Namens bereits vorhanden ist.</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>„^1“ kann nicht gespeichert werden: ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>„^1“ ist keine Kartendatei.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>„^1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>

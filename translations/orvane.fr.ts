@@ -12,10 +12,6 @@
         <translation>« %1 » ne peut pas être lu : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>« %1 » ne peut pas être enregistré : %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>« %1 » ne peut pas être écrit : %2.</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>« %1 » n'est pas une taille de page valide.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>« %1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>« ^1 » ne peut pas être créé, car un fichier de ce nom existe déjà.</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>« ^1 » ne peut pas être enregistré : ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>« ^1 » n’est pas un fichier de carte.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>« ^1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>

@@ -12,10 +12,6 @@
         <translation>「%1」を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>「%1」を保存できません: %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>「%1」を書き込めません: %2</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>「%1」は有効なページサイズではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>「%1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>同じ名前のファイルがすでに存在するため、「^1」を作成できません。</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>「^1」を保存できません: ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>「^1」は地図ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>「^1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>

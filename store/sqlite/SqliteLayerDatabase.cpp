@@ -9,11 +9,11 @@
 #include "store/sqlite/TableCursor.h"
 #include "store/sqlite/TableMaking.h"
 #include "store/sqlite/files/LayerFileCheck.h"
+#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
+#include "store/sqlite/files/NewLayerFile.h"
 
 #include <OrvaneShellLib/Transaction.h>
-
-#include <QFile>
 
 #include <sqlite3.h>
 
@@ -46,17 +46,6 @@ bool IsTable(const QString& source, const TableAccess& table)
     return source.compare(QLatin1String(name.data(), qsizetype(name.size())), Qt::CaseInsensitive) == 0;
 }
 
-// Creates the file first, so that an existing file can never be mistaken for the new one.
-void MakeEmptyFile(const QString& path)
-{
-    const StoreErrors errors(path);
-    if (QFile::exists(path))
-        throw errors.Failure(StoreTexts::FileExists);
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        throw errors.Failure(StoreTexts::CannotCreate, file.errorString());
-}
-
 class Recorder final : public ChangeRecorder
 {
 public:
@@ -85,13 +74,24 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
 std::unique_ptr<SqliteLayerDatabase>
 SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
 {
-    MakeEmptyFile(path);
+    Make(path, IfExists::Refuse, {}, options);
     try {
-        return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(NewSession(path, options)));
+        return Open(path, OpenMode::ReadWrite, options);
     } catch (const RunTimeError&) {
-        QFile::remove(path);
+        RemoveLayerFile(path);
         throw;
     }
+}
+
+void SqliteLayerDatabase::Make(
+    const QString& path, IfExists ifExists, const StoreFiller& fill, const StoreOptions& options)
+{
+    NewLayerFile file(path, ifExists, options);
+    std::unique_ptr<ILayerStore> store(new SqliteLayerDatabase(NewSession(file.Path(), file.Options())));
+    if (fill)
+        fill(std::move(store));
+    store.reset();
+    file.PutInPlace();
 }
 
 std::unique_ptr<SqliteLayerDatabase>
@@ -197,9 +197,13 @@ bool SqliteLayerDatabase::IsReadOnly() const
     return m_session->connection.IsReadOnly();
 }
 
-void SqliteLayerDatabase::CopyToFile(const QString& path)
+void SqliteLayerDatabase::CopyToFile(const QString& path, IfExists ifExists, const StoreFiller& change)
 {
-    Execute(QStringLiteral("VACUUM INTO ?1"), {path});
+    NewLayerFile file(path, ifExists, {});
+    file.CopyFrom(m_session->connection);
+    if (change)
+        change(Open(file.Path(), OpenMode::ReadWrite, file.Options()));
+    file.PutInPlace();
 }
 
 void SqliteLayerDatabase::SetQueryListener(std::function<void(const QString&)> listener)
