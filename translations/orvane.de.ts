@@ -348,6 +348,10 @@
         <translation>Einer Anweisung für „^1“ wurde eine falsche Anzahl von Werten übergeben.</translation>
     </message>
     <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>Im Ordner „%2“ kann keine temporäre Kopie von „%1“ angelegt werden. Schaffen Sie dort Platz oder setzen Sie TMPDIR auf einen anderen Ordner.</translation>
+    </message>
+    <message>
         <source>A whole number from %1 to %2</source>
         <translation>Eine ganze Zahl von %1 bis %2</translation>
     </message>

@@ -348,6 +348,10 @@
         <translation>Une instruction sur « ^1 » a reçu un nombre de valeurs incorrect.</translation>
     </message>
     <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>Impossible de créer une copie temporaire de « %1 » dans le dossier « %2 ». Libérez de la place ou indiquez un autre dossier dans TMPDIR.</translation>
+    </message>
+    <message>
         <source>A whole number from %1 to %2</source>
         <translation>Un nombre entier de %1 à %2</translation>
     </message>

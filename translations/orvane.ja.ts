@@ -348,6 +348,10 @@
         <translation>「^1」に対する文に渡された値の個数が正しくありません。</translation>
     </message>
     <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>フォルダー「%2」に「%1」の一時コピーを作成できません。空き容量を増やすか、TMPDIR に別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
         <source>A whole number from %1 to %2</source>
         <translation>%1 から %2 までの整数</translation>
     </message>
