@@ -11,11 +11,13 @@ set(ORVANE_PLUGIN_DESTINATION lib/orvane)
 # For host authors: the contract, the host kit and the libraries that it needs.
 set_target_properties(OrvaneShellLib PROPERTIES EXPORT_NAME ShellLib)
 set_target_properties(orvane_messages PROPERTIES EXPORT_NAME Messages)
+set_target_properties(orvane_files PROPERTIES EXPORT_NAME Files)
 set_target_properties(orvane_store PROPERTIES EXPORT_NAME LayerStore)
 set_target_properties(orvane_hostkit PROPERTIES EXPORT_NAME HostKit)
 set_target_properties(ovctrls PROPERTIES EXPORT_NAME Controls)
 set_target_properties(style_samples PROPERTIES EXPORT_NAME Samples)
-install(TARGETS OrvaneShellLib orvane_messages orvane_store orvane_hostkit ovctrls style_samples EXPORT OrvaneTargets
+install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store orvane_hostkit ovctrls style_samples
+  EXPORT OrvaneTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
   get_filename_component(folder "${header}" DIRECTORY)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/StoreOptions.h"
+
 #include <OrvaneShellLib/ILayerDatabase.h>
 #include <OrvaneShellLib/Value.h>
 
@@ -69,9 +71,13 @@ public:
     virtual bool IsReadOnly() const = 0;
     /// The location of the store: for a file the path as it was given, empty for a store in memory.
     virtual QString Path() const = 0;
-    /// Stores a consistent copy of everything in a new layer database file. Raises DatabaseFailure if the
-    /// file exists or cannot be written; no incomplete file remains then.
-    virtual void CopyToFile(const QString& path) = 0;
+    /// Stores a consistent copy of everything in a new layer database file, which appears at that path when
+    /// it is complete; before that, change may change the copy. A file that is replaced stays as it was if
+    /// anything fails, on a full disk too. Raises DatabaseFailure if the file exists and is to stay, or
+    /// cannot be written, DatabaseLocked if the file to be replaced is open anywhere, and what change raises.
+    virtual void
+    CopyToFile(const QString& path, IfExists ifExists = IfExists::Refuse, const StoreFiller& change = {})
+        = 0;
 
     /// The listener is called with the text of each statement as it starts to run, with parameters as "?1";
     /// an empty function removes it. It must not use the store.

@@ -12,6 +12,11 @@ inline constexpr const char* FileExists
     = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" cannot be created because a file of that name exists already.");
 inline constexpr const char* CannotCreate
     = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" cannot be created: ^2");
+inline constexpr const char* CannotStore = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" cannot be stored: ^2");
+inline constexpr const char* InUse = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "\"^1\" is open in another window or program and cannot be replaced. Close it there, or choose another "
+    "name.");
 inline constexpr const char* CannotOpen
     = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" cannot be opened: ^2");
 inline constexpr const char* NotALayerDatabase = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" is not a map file.");

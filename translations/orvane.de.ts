@@ -12,10 +12,6 @@
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>„%1“ kann nicht gespeichert werden: %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>„%1“ ist keine gültige Seitengröße.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>„%1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>„^1“ kann nicht angelegt werden, weil eine Datei dieses Namens bereits vorhanden ist.</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>„^1“ kann nicht gespeichert werden: ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>„^1“ ist keine Kartendatei.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>„^1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>
@@ -362,6 +362,10 @@
     <message>
         <source>A statement on &quot;^1&quot; was given another number of values than it takes.</source>
         <translation>Einer Anweisung für „^1“ wurde eine falsche Anzahl von Werten übergeben.</translation>
+    </message>
+    <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>Im Ordner „%2“ kann keine temporäre Kopie von „%1“ angelegt werden. Schaffen Sie dort Platz oder setzen Sie TMPDIR auf einen anderen Ordner.</translation>
     </message>
     <message>
         <source>A whole number from %1 to %2</source>
@@ -1416,8 +1420,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Es gibt kein Füllmuster %1.</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>es gibt keinen Ordner „%1“</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Es gibt kein Layerschema namens „%1“.</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>im Ordner „%1“ ist nicht genug Speicherplatz</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>

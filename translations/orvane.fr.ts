@@ -12,10 +12,6 @@
         <translation>« %1 » ne peut pas être lu : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>« %1 » ne peut pas être enregistré : %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>« %1 » ne peut pas être écrit : %2.</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>« %1 » n'est pas une taille de page valide.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>« %1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>« ^1 » ne peut pas être créé, car un fichier de ce nom existe déjà.</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>« ^1 » ne peut pas être enregistré : ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>« ^1 » n’est pas un fichier de carte.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>« ^1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>
@@ -362,6 +362,10 @@
     <message>
         <source>A statement on &quot;^1&quot; was given another number of values than it takes.</source>
         <translation>Une instruction sur « ^1 » a reçu un nombre de valeurs incorrect.</translation>
+    </message>
+    <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>Impossible de créer une copie temporaire de « %1 » dans le dossier « %2 ». Libérez de la place ou indiquez un autre dossier dans TMPDIR.</translation>
     </message>
     <message>
         <source>A whole number from %1 to %2</source>
@@ -1416,8 +1420,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Il n’y a pas de motif de remplissage %1.</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>il n’y a pas de dossier « %1 »</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Il n’y a pas de schéma nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>il n’y a plus de place dans le dossier « %1 »</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>

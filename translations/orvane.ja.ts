@@ -12,10 +12,6 @@
         <translation>「%1」を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be stored: %2</source>
-        <translation>「%1」を保存できません: %2</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>「%1」を書き込めません: %2</translation>
     </message>
@@ -44,10 +40,6 @@
         <translation>「%1」は有効なページサイズではありません。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
-        <translation>「%1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
-    </message>
-    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -56,8 +48,16 @@
         <translation>同じ名前のファイルがすでに存在するため、「^1」を作成できません。</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; cannot be stored: ^2</source>
+        <translation>「^1」を保存できません: ^2</translation>
+    </message>
+    <message>
         <source>&quot;^1&quot; is not a map file.</source>
         <translation>「^1」は地図ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; is open in another window or program and cannot be replaced. Close it there, or choose another name.</source>
+        <translation>「^1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
     </message>
     <message>
         <source>&quot;orvane %1--help&quot; lists the options.</source>
@@ -362,6 +362,10 @@
     <message>
         <source>A statement on &quot;^1&quot; was given another number of values than it takes.</source>
         <translation>「^1」に対する文に渡された値の個数が正しくありません。</translation>
+    </message>
+    <message>
+        <source>A temporary copy of &quot;%1&quot; cannot be made in the folder &quot;%2&quot;. Make room there, or set TMPDIR to another folder.</source>
+        <translation>フォルダー「%2」に「%1」の一時コピーを作成できません。空き容量を増やすか、TMPDIR に別のフォルダーを指定してください。</translation>
     </message>
     <message>
         <source>A whole number from %1 to %2</source>
@@ -1416,8 +1420,16 @@ These commands run without a window; each has its own --help:
         <translation>塗りつぶしパターン %1 はありません。</translation>
     </message>
     <message>
+        <source>there is no folder &quot;%1&quot;</source>
+        <translation>フォルダー「%1」がありません</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>「%1」という名前のレイヤースキームはありません。</translation>
+    </message>
+    <message>
+        <source>there is no room in the folder &quot;%1&quot;</source>
+        <translation>フォルダー「%1」の空き容量が不足しています</translation>
     </message>
     <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>

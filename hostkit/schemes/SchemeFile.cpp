@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/schemes/SchemeFile.h"
 
+#include "files/FileReplacement.h"
 #include "hostkit/common/HostErrors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Orvane::SchemeFile {
 
@@ -58,14 +59,14 @@ SchemeDocument Read(const QString& path)
 
 void Write(const QString& path, const SchemeDocument& scheme)
 {
-    QSaveFile file(path);
     const QByteArray content = scheme.ToJson();
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    FileReplacement file(path);
+    if (file.Begin() && file.write(content) == content.size() && file.Commit())
         return;
     Raise(
         HostError::SchemeFileUnwritable,
         FileTexts::tr("The scheme file \"%1\" cannot be written: %2.")
-            .arg(QFileInfo(path).fileName(), file.errorString()));
+            .arg(QFileInfo(path).fileName(), file.Reason()));
 }
 
 } // namespace Orvane::SchemeFile

@@ -17,7 +17,7 @@ inline constexpr qint64 LargestFile = qint64(128) * 1024 * 1024; // bytes
 /// Raises HostError::SchemeFileUnreadable, which names the file and says what is wrong with it.
 SchemeDocument Read(const QString& path);
 
-/// Writes the file, replacing an existing one completely or not at all. Raises
+/// Writes the file, replacing an existing one completely or not at all, on a full disk too. Raises
 /// HostError::SchemeFileUnwritable, and the errors of SchemeDocument::ToJson.
 void Write(const QString& path, const SchemeDocument& scheme);
 

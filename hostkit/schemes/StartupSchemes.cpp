@@ -14,17 +14,28 @@
 
 namespace Orvane::StartupSchemes {
 
+namespace {
+
+void CopyAll(ILayerStore& map, ILayerStore& startup)
+{
+    Transaction transaction(startup);
+    SchemeTransfer transfer(map, startup);
+    transfer.AddMissingLayers();
+    transfer.CopySchemes();
+    transaction.Commit();
+}
+
+} // namespace
+
 void Save(ILayerStore& map, const QString& startupFile)
 {
     LayerSchemes(map).Current(); // creates the first scheme
     QDir().mkpath(QFileInfo(startupFile).absolutePath());
-    const auto startup
-        = QFile::exists(startupFile) ? LayerStores::Open(startupFile) : LayerStores::Create(startupFile);
-    Transaction transaction(*startup);
-    SchemeTransfer transfer(map, *startup);
-    transfer.AddMissingLayers();
-    transfer.CopySchemes();
-    transaction.Commit();
+    if (QFile::exists(startupFile))
+        return CopyAll(map, *LayerStores::Open(startupFile));
+    LayerStores::Make(startupFile, IfExists::Refuse, [&map](std::unique_ptr<ILayerStore> startup) {
+        CopyAll(map, *startup);
+    });
 }
 
 void Load(ILayerStore& map, const QString& startupFile)

@@ -12,7 +12,8 @@ class ILayerStore;
 namespace StartupSchemes {
 
 /// Writes all schemes of the map to the startup file, in one transaction. The file and its folder are created
-/// if they are missing; layers that the file does not have are added; its schemes with other names stay.
+/// if they are missing, the file with all its content or not at all; layers that the file does not have are
+/// added; its schemes with other names stay.
 void Save(ILayerStore& map, const QString& startupFile);
 
 /// Copies the schemes of the startup file into the map, in one transaction; schemes of the same name are

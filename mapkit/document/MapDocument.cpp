@@ -12,84 +12,39 @@
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
-#include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-#include <system_error>
-
 namespace Orvane {
-
-namespace {
-
-// A map file that has a different name until it is complete. It is removed unless it is put in place.
-class UnfinishedFile
-{
-public:
-    explicit UnfinishedFile(const QString& path) : m_path(path)
-    {
-        RefuseWhileOpen();
-        MapDocument::Remove(Path());
-    }
-    ~UnfinishedFile() { MapDocument::Remove(Path()); }
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-
-    QString Path() const { return m_path + QLatin1String(".part"); }
-
-    void PutInPlace() const
-    {
-        for (const char* companion : {"-wal", "-shm"}) // of the file that is replaced
-            QFile::remove(m_path + QLatin1String(companion));
-        std::error_code error;
-        std::filesystem::rename(Path().toStdU16String(), m_path.toStdU16String(), error);
-        if (error) {
-            throw RunTimeError(
-                ErrorNumber::DatabaseFailure,
-                QCoreApplication::translate("MapDocument", "\"%1\" cannot be stored: %2")
-                    .arg(QFileInfo(m_path).fileName(), QString::fromLocal8Bit(error.message().c_str())));
-        }
-    }
-
-private:
-    // A program that has the old file open would continue to write into a file that no longer exists.
-    void RefuseWhileOpen() const
-    {
-        if (!LayerStores::IsInUse(m_path))
-            return;
-        throw RunTimeError(
-            ErrorNumber::DatabaseLocked,
-            QCoreApplication::translate(
-                "MapDocument",
-                "\"%1\" is open in another window or program and cannot be replaced. "
-                "Close it there, or choose another name.")
-                .arg(QFileInfo(m_path).fileName()));
-    }
-
-    QString m_path;
-};
-
-} // namespace
 
 std::unique_ptr<MapDocument> MapDocument::Untitled()
 {
     return std::unique_ptr<MapDocument>(new MapDocument(LayerStores::CreateInMemory(), {}));
 }
 
-std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
+void MapDocument::Make(const QString& path, IfExists ifExists, const Filler& fill)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    return std::unique_ptr<MapDocument>(new MapDocument(LayerStores::Create(absolute), absolute));
+    LayerStores::Make(absolute, ifExists, [&](std::unique_ptr<ILayerStore> store) {
+        MapDocument document(std::move(store), absolute);
+        if (fill)
+            fill(document);
+    });
+}
+
+std::unique_ptr<MapDocument> MapDocument::Create(const QString& path)
+{
+    Make(path, IfExists::Refuse);
+    try {
+        return Open(path);
+    } catch (const RunTimeError&) {
+        Remove(path);
+        throw;
+    }
 }
 
 std::unique_ptr<MapDocument> MapDocument::CreateOver(const QString& path)
 {
-    {
-        const UnfinishedFile unfinished(path);
-        Create(unfinished.Path());
-        unfinished.PutInPlace();
-    }
+    Make(path, IfExists::Replace);
     return Open(path);
 }
 
@@ -100,9 +55,10 @@ std::unique_ptr<MapDocument> MapDocument::Open(const QString& path)
 
 std::unique_ptr<MapDocument> MapDocument::OpenCopy(const QString& copy, const QString& original)
 {
-    auto database = LayerStores::Open(QFileInfo(copy).absoluteFilePath());
-    const QString path = QFileInfo(original).absoluteFilePath();
-    return std::unique_ptr<MapDocument>(new MapDocument(std::move(database), path));
+    StoreOptions options;
+    options.shownPath = QFileInfo(original).absoluteFilePath();
+    auto database = LayerStores::Open(QFileInfo(copy).absoluteFilePath(), OpenMode::ReadWrite, options);
+    return std::unique_ptr<MapDocument>(new MapDocument(std::move(database), options.shownPath));
 }
 
 MapDocument::MapDocument(std::unique_ptr<ILayerStore> database, const QString& path)
@@ -117,24 +73,21 @@ MapDocument::~MapDocument() = default;
 
 void MapDocument::Remove(const QString& path)
 {
-    for (const char* companion : {"", "-wal", "-shm"})
-        QFile::remove(path + QLatin1String(companion));
+    LayerStores::Remove(path);
 }
 
 void MapDocument::SaveCopy(const QString& path) const
 {
-    const UnfinishedFile unfinished(path);
-    m_database->CopyToFile(unfinished.Path());
-    {
-        // Relative paths start from the folder of the copy, which does not change when it is put in place.
-        const auto copy = Open(unfinished.Path());
-        Transaction transaction(copy->Database());
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    m_database->CopyToFile(absolute, IfExists::Replace, [&](std::unique_ptr<ILayerStore> store) {
+        // Relative paths start from the folder of the copy.
+        MapDocument copy(std::move(store), absolute);
+        Transaction transaction(copy.Database());
         for (const LayerSource& source : Sources())
-            copy->SetSource(source);
-        copy->SetBackdrop(Backdrop());
+            copy.SetSource(source);
+        copy.SetBackdrop(Backdrop());
         transaction.Commit();
-    }
-    unfinished.PutInPlace();
+    });
 }
 
 bool MapDocument::IsAt(const QString& path) const

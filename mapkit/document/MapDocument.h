@@ -4,9 +4,11 @@
 #include "mapkit/document/RenderingTable.h"
 #include "mapkit/document/SourceTable.h"
 #include "mapkit/looks/LayerLook.h"
+#include "store/StoreOptions.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -35,9 +37,16 @@ struct NewLayer {
 class MapDocument
 {
 public:
+    /// Puts the first content into a new map.
+    using Filler = std::function<void(MapDocument& map)>;
+
     /// A map without a file, which exists as long as the object.
     static std::unique_ptr<MapDocument> Untitled();
-    /// Creates a new file; raises if the file already exists.
+    /// Makes a map file, filled by fill, which appears at that path when it is complete. If anything fails,
+    /// no new file remains, and a file to be replaced stays as it was. Raises the errors of LayerStores::Make
+    /// and those of fill.
+    static void Make(const QString& path, IfExists ifExists, const Filler& fill = {});
+    /// Creates a new file; raises if the file already exists. If it cannot be created, none remains.
     static std::unique_ptr<MapDocument> Create(const QString& path);
     /// Creates a new file that replaces an existing one. If it cannot be created, or the old file is open
     /// anywhere, the old file stays.

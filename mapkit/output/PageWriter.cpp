@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/output/PageWriter.h"
 
+#include "files/FileReplacement.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/output/MapPage.h"
 
@@ -13,7 +14,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <cmath>
@@ -89,13 +89,13 @@ QImage EmptyPicture(const PageSettings& settings)
     return picture;
 }
 
-void WritePng(QSaveFile& file, const MapPage& page, const Progress& progress)
+void WritePng(QIODevice& file, const QString& path, const MapPage& page, const Progress& progress)
 {
     QImage picture = EmptyPicture(page.Settings());
     picture.fill(Qt::white);
     PaintOn(picture, page.Settings().resolution, page, progress);
     if (!picture.save(&file, "PNG"))
-        FailToWrite(file.fileName(), file.errorString());
+        FailToWrite(path, file.errorString());
 }
 
 } // namespace
@@ -118,9 +118,9 @@ void WritePage(const MapPage& page, const QString& path, Progress& progress)
     if (!format)
         FailToWrite(
             path, QCoreApplication::translate("PageWriter", "its name must end in .pdf, .svg or .png"));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        FailToWrite(path, file.errorString());
+    FileReplacement file(path);
+    if (!file.Begin())
+        FailToWrite(path, file.Reason());
     switch (*format) {
     case PageFormat::Pdf:
         WritePdf(file, page, progress);
@@ -129,11 +129,11 @@ void WritePage(const MapPage& page, const QString& path, Progress& progress)
         WriteSvg(file, page, progress);
         break;
     case PageFormat::Png:
-        WritePng(file, page, progress);
+        WritePng(file, path, page, progress);
         break;
     }
-    if (!file.commit())
-        FailToWrite(path, file.errorString());
+    if (!file.Commit())
+        FailToWrite(path, file.Reason());
 }
 
 void PrintPage(const MapPage& page, QPrinter& printer, Progress& progress)

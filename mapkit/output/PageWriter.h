@@ -27,8 +27,8 @@ enum class PageFormat { Pdf, Svg, Png };
 std::optional<PageFormat> FormatOfFile(const QString& path);
 
 /// Writes the page to a file, on any thread. An existing file of that name is replaced after everything is
-/// written, and stays as it was if anything fails. Raises OutputFailed for an unknown extension, a file that
-/// cannot be written and a picture that is too large; raises Cancelled.
+/// written to the disk, and stays as it was if anything fails. Raises OutputFailed for an unknown extension,
+/// a file that cannot be written, on a full disk too, and a picture that is too large; raises Cancelled.
 void WritePage(const MapPage& page, const QString& path, Progress& progress);
 
 /// Prints the page. The page's size should be that of the printer's paintable area, and its margin 0. Raises

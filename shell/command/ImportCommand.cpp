@@ -48,8 +48,11 @@ int Import(const QStringList& files, const QString& map, const Terminal& termina
         TellError(terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
         return ExitCode::Problems;
     }
-    const auto document = QFileInfo::exists(map) ? MapDocument::Open(map) : MapDocument::Create(map);
-    AddToMap(*document, found);
+    const auto add = [&found](MapDocument& document) { AddToMap(document, found); };
+    if (QFileInfo::exists(map))
+        add(*MapDocument::Open(map));
+    else
+        MapDocument::Make(map, IfExists::Refuse, add);
     terminal.out << ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
                         .arg(QFileInfo(map).fileName(), QLocale().toString(LayerCount(found)))
                  << '\n';

@@ -14,7 +14,7 @@ class MapDocument;
 class MapCopy
 {
 public:
-    /// Raises the errors of opening a layer database.
+    /// Raises the errors of opening a layer database, and DatabaseFailure if there is no room for the copy.
     explicit MapCopy(const QString& path);
     ~MapCopy();
     MapCopy(const MapCopy&) = delete;

@@ -9,6 +9,7 @@
 #include "store/sqlite/TableCursor.h"
 #include "store/sqlite/TableMaking.h"
 #include "store/sqlite/files/LayerFileCheck.h"
+#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/NewLayerFile.h"
 
@@ -73,9 +74,24 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
 std::unique_ptr<SqliteLayerDatabase>
 SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
 {
-    std::unique_ptr<SqliteSession> session;
-    MakeLayerFile(path, [&] { session = NewSession(path, options); });
-    return std::unique_ptr<SqliteLayerDatabase>(new SqliteLayerDatabase(std::move(session)));
+    Make(path, IfExists::Refuse, {}, options);
+    try {
+        return Open(path, OpenMode::ReadWrite, options);
+    } catch (const RunTimeError&) {
+        RemoveLayerFile(path);
+        throw;
+    }
+}
+
+void SqliteLayerDatabase::Make(
+    const QString& path, IfExists ifExists, const StoreFiller& fill, const StoreOptions& options)
+{
+    NewLayerFile file(path, ifExists, options);
+    std::unique_ptr<ILayerStore> store(new SqliteLayerDatabase(NewSession(file.Path(), file.Options())));
+    if (fill)
+        fill(std::move(store));
+    store.reset();
+    file.PutInPlace();
 }
 
 std::unique_ptr<SqliteLayerDatabase>
@@ -184,9 +200,13 @@ bool SqliteLayerDatabase::IsReadOnly() const
     return m_session->connection.IsReadOnly();
 }
 
-void SqliteLayerDatabase::CopyToFile(const QString& path)
+void SqliteLayerDatabase::CopyToFile(const QString& path, IfExists ifExists, const StoreFiller& change)
 {
-    MakeLayerFile(path, [&] { Execute(QStringLiteral("VACUUM INTO ?1"), {path}); });
+    NewLayerFile file(path, ifExists, {});
+    file.CopyFrom(m_session->connection);
+    if (change)
+        change(Open(file.Path(), OpenMode::ReadWrite, file.Options()));
+    file.PutInPlace();
 }
 
 void SqliteLayerDatabase::SetQueryListener(std::function<void(const QString&)> listener)

@@ -33,6 +33,14 @@ public:
     /// be created; no incomplete file remains then.
     static std::unique_ptr<SqliteLayerDatabase> Create(const QString& path, const StoreOptions& options = {});
 
+    /// Makes a file with empty tables, which fill may change, and puts it at that path when it is complete. A
+    /// file that is replaced stays as it was if anything fails, on a full disk too. Raises DatabaseFailure if
+    /// the file exists and is to stay, or cannot be written, DatabaseLocked if the file to be replaced is
+    /// open anywhere, and what fill raises.
+    static void Make(
+        const QString& path, IfExists ifExists, const StoreFiller& fill = {},
+        const StoreOptions& options = {});
+
     /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for a file of a
     /// newer version, DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if
     /// it is missing; the file is not changed then. A file of an older version is migrated, except in
@@ -56,7 +64,8 @@ public:
     qint64 ForeignChanges() override;
     bool IsReadOnly() const override;
     QString Path() const override;
-    void CopyToFile(const QString& path) override;
+    void CopyToFile(
+        const QString& path, IfExists ifExists = IfExists::Refuse, const StoreFiller& change = {}) override;
     void SetQueryListener(std::function<void(const QString& sql)> listener) override;
 
 private:

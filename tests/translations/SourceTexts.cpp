@@ -164,6 +164,7 @@ TextPlaces HostTexts()
     TextPlaces places;
     const std::vector<ShowingCall> calls{
         {"tr", 0}, {"QT_TR_NOOP", 0}, {"translate", 1}, {"QT_TRANSLATE_NOOP", 1}};
+    NoteFolder(places, "files", calls);
     NoteFolder(places, "hostkit", calls);
     NoteFolder(places, "mapkit", calls);
     NoteFolder(places, "shell", calls);

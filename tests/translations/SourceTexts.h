@@ -23,8 +23,8 @@ using TextPlaces = QMap<QString, QStringList>;
 /// The texts of the component: TranslateMsg, QT_TR_NOOP, forms, and descriptions of errors.
 TextPlaces ComponentTexts();
 
-/// The texts of hosts built from store/, hostkit/, mapkit/ and shell/: tr, translate, QT_TR_NOOP,
-/// QT_TRANSLATE_NOOP and forms.
+/// The texts of hosts built from files/, store/, hostkit/, mapkit/ and shell/: tr, translate,
+/// QT_TR_NOOP, QT_TRANSLATE_NOOP and forms.
 TextPlaces HostTexts();
 
 } // namespace Orvane::Testing

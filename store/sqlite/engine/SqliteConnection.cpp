@@ -57,7 +57,8 @@ void SqliteConnection::Closer::operator()(sqlite3* handle) const
 }
 
 SqliteConnection::SqliteConnection(const QString& path, Access access, const StoreOptions& options)
-    : m_path(path), m_access(access), m_errors(path), m_patience(options.busyTimeout)
+    : m_path(path), m_access(access), m_errors(options.shownPath.isEmpty() ? path : options.shownPath),
+      m_patience(options.busyTimeout)
 {
     sqlite3* handle = nullptr;
     const int result
@@ -72,6 +73,14 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
 }
 
 SqliteConnection::~SqliteConnection() = default;
+
+void SqliteConnection::Close()
+{
+    const int result = sqlite3_close(Handle());
+    if (result != SQLITE_OK)
+        Raise(result);
+    static_cast<void>(m_handle.release()); // is closed
+}
 
 bool SqliteConnection::IsReadOnly() const
 {

@@ -34,6 +34,10 @@ public:
     SqliteConnection(const SqliteConnection&) = delete;
     SqliteConnection& operator=(const SqliteConnection&) = delete;
 
+    /// Closes the database before the object is destroyed, to learn whether that works. Nothing else may be
+    /// called afterwards.
+    void Close();
+
     sqlite3* Handle() const { return m_handle.get(); }
     const StoreErrors& Errors() const { return m_errors; }
     /// How it waits for locks.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/files/CopyLayerFile.h"
 
-#include "store/sqlite/engine/SqliteStatement.h"
+#include "store/sqlite/engine/SqliteConnection.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/NewLayerFile.h"
@@ -16,11 +16,9 @@ void CopyLayerFile(const QString& from, const QString& to)
     LayerSchema::Check(connection);
     // SQLite treats a copy as a write, although it does not change this file.
     connection.Run("PRAGMA query_only = OFF");
-    SqliteStatement copy(connection, QStringLiteral("VACUUM INTO ?1"));
-    copy.BindAll({to});
-    MakeLayerFile(to, [&] {
-        while (copy.Step()) { }
-    });
+    NewLayerFile copy(to, IfExists::Refuse, {});
+    copy.CopyFrom(connection);
+    copy.PutInPlace();
 }
 
 } // namespace Orvane

@@ -2,6 +2,7 @@
 #include "store/sqlite/files/LayerFileCheck.h"
 
 #include "store/StoreTexts.h"
+#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
 
 #include <QFile>
@@ -59,13 +60,6 @@ void CheckHeader(const QByteArray& header, const StoreErrors& errors)
         throw errors.Error(ErrorNumber::DatabaseTooNew, StoreTexts::TooNew);
 }
 
-bool HasJournal(const QString& path)
-{
-    const auto hasContent
-        = [&path](const char* suffix) { return QFileInfo(path + QLatin1String(suffix)).size() > 0; };
-    return hasContent("-wal") || hasContent("-journal");
-}
-
 void CheckLength(const QString& path, const QByteArray& header, const StoreErrors& errors)
 {
     const bool countIsKnown = NumberAt(header, ChangeCounter) == NumberAt(header, CountIsOf);
@@ -96,7 +90,7 @@ bool IsWritable(const QString& path)
 SqliteConnection::Access CheckLayerFile(const QString& path, OpenMode mode, const StoreOptions& options)
 {
     using Access = SqliteConnection::Access;
-    const StoreErrors errors(path);
+    const StoreErrors errors(options.shownPath.isEmpty() ? path : options.shownPath);
     const QByteArray header = ReadHeader(path, errors);
     CheckHeader(header, errors);
     // If there is a journal, the file alone cannot be checked: SQLite combines both when it opens the file.

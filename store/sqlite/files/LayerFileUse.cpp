@@ -2,17 +2,30 @@
 #include "store/sqlite/files/LayerFileUse.h"
 
 #include "store/sqlite/engine/SqliteConnection.h"
-#include "store/sqlite/files/LayerSchema.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QFileInfo>
 
+#include <sqlite3.h>
+
 namespace Orvane {
 
 namespace {
 
-constexpr StoreOptions NoWaiting{std::chrono::milliseconds(0)};
+// Asks for the lock that nobody gets while another connection has the file open with a write-ahead log.
+bool CanBeLocked(sqlite3* handle)
+{
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    if (!file || !file->pMethods)
+        return true;
+    int result = file->pMethods->xLock(file, SQLITE_LOCK_SHARED);
+    if (result == SQLITE_OK)
+        result = file->pMethods->xLock(file, SQLITE_LOCK_EXCLUSIVE);
+    file->pMethods->xUnlock(file, SQLITE_LOCK_NONE);
+    return (result & 0xFF) != SQLITE_BUSY;
+}
 
 } // namespace
 
@@ -22,12 +35,10 @@ bool IsLayerFileInUse(const QString& path)
     try {
         if (!QFileInfo(path).isFile())
             return false;
-        SqliteConnection connection(path, SqliteConnection::Access::ReadWrite, NoWaiting);
-        if (quint32(connection.Number("PRAGMA application_id")) == LayerSchema::ApplicationID)
-            connection.Run("PRAGMA journal_mode = DELETE"); // possible only if the file is not open elsewhere
+        const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite, {});
+        return !CanBeLocked(connection.Handle());
+    } catch (const RunTimeError&) {
         return false;
-    } catch (const RunTimeError& error) {
-        return error.Number() == int(ErrorNumber::DatabaseLocked);
     }
 }
 

@@ -5,9 +5,8 @@ class QString;
 
 namespace Orvane {
 
-/// True while a layer database is open anywhere, including in this program. If the file is not open anywhere,
-/// its write-ahead log is written into it. A file that is missing or is not a layer database is not in use.
-/// Raises nothing.
+/// True while a layer database is open for changes anywhere, including in this program. A file that is
+/// missing or is not a database is not in use. Changes neither the file nor those beside it; raises nothing.
 bool IsLayerFileInUse(const QString& path);
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -91,6 +92,22 @@ TEST_F(SchemeFiles, AreWrittenWholeOrNotAtAll)
     EXPECT_EQ(ErrorOf([&] { SchemeFile::Write(path, m_scheme); }), int(HostError::SchemeValueUnknown));
     EXPECT_EQ(ContentOf(path), QByteArray("kept"));
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("night.json")});
+}
+
+TEST_F(SchemeFiles, WithoutRoomLeaveTheOldFile)
+{
+    const QString path = WriteText("night.json", "kept");
+    const qint64 size = m_scheme.ToJson().size();
+    for (qint64 room = 0; room < size; room += size / 7 + 1) {
+        const FileSizeLimit limit(room);
+        EXPECT_EQ(ErrorOf([&] { SchemeFile::Write(path, m_scheme); }), int(HostError::SchemeFileUnwritable))
+            << room;
+        EXPECT_EQ(ContentOf(path), QByteArray("kept")) << room;
+    }
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("night.json")});
+    const FileSizeLimit limit(size);
+    SchemeFile::Write(path, m_scheme);
+    EXPECT_EQ(ContentOf(path), m_scheme.ToJson());
 }
 
 TEST_F(SchemeFiles, ThatCannotBeWrittenAreNamed)

@@ -3,7 +3,9 @@
 
 #include "hostkit/HostKitTest.h"
 #include "hostkit/schemes/LayerSchemes.h"
+#include "support/FileSizeLimit.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -25,6 +27,14 @@ protected:
     {
         database.Execute(
             QStringLiteral("UPDATE Layers SET Color = ?2 WHERE LayerID = ?1"), {layerID, colour});
+    }
+
+    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    int ErrorOfSavingWithRoom(qint64 room)
+    {
+        const FileSizeLimit limit(room);
+        return ErrorOf([&] { StartupSchemes::Save(Database(), File()); });
     }
 
     // Roads are red by day and blue at night.
@@ -53,6 +63,17 @@ TEST_F(Startup, SavingMakesTheFileWithLayersAndSchemes)
     EXPECT_THAT(Get(*startup, 1, "Name"), IsValue(QStringLiteral("Roads")));
     schemes.Load(Standard);
     EXPECT_THAT(Get(*startup, 1, "Color"), IsNumber(0x0000FF));
+}
+
+TEST_F(Startup, WithoutRoomNoFileIsMade)
+{
+    MakeTwoSchemes();
+    qint64 room = 0;
+    for (; room < 4000000 && ErrorOfSavingWithRoom(room) != 0; room += 8000)
+        EXPECT_EQ(Files(), QStringList()) << room;
+    EXPECT_GT(room, 16000);
+    EXPECT_EQ(Files(), QStringList{QStringLiteral("startup.ovl")});
+    EXPECT_THAT(LayerSchemes(*OpenStartup()).Names(), ElementsAre(Night, Standard));
 }
 
 TEST_F(Startup, SavingAgainReplacesSchemesOfTheSameNameAndKeepsOthers)

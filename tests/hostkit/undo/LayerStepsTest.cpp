@@ -262,7 +262,10 @@ public:
     qint64 ForeignChanges() override { return m_store.ForeignChanges(); }
     bool IsReadOnly() const override { return m_store.IsReadOnly(); }
     QString Path() const override { return m_store.Path(); }
-    void CopyToFile(const QString& path) override { m_store.CopyToFile(path); }
+    void CopyToFile(const QString& path, IfExists ifExists, const StoreFiller& change) override
+    {
+        m_store.CopyToFile(path, ifExists, change);
+    }
     void SetQueryListener(std::function<void(const QString&)> listener) override
     {
         m_store.SetQueryListener(std::move(listener));

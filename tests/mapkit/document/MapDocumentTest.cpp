@@ -3,6 +3,7 @@
 
 #include "mapkit/DataFolder.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/FileSizeLimit.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -33,6 +34,43 @@ protected:
     static int Count(MapDocument& document, const QString& table)
     {
         return ToInt32(document.Database().OpenRecordset("SELECT count(*) AS N FROM " + table)->Field("N"));
+    }
+
+    // Tries the act with more and more room on the disk until it works. After each failure the files are as
+    // they were: only a map with these bytes, or none.
+    void TryWithGrowingRoom(const QByteArray& old, const std::function<void()>& act) const
+    {
+        int failures = 0;
+        for (qint64 room = 0; room < 4000000; room += 8000) {
+            if (WorksWithRoom(room, act)) {
+                EXPECT_GT(failures, 2);
+                return;
+            }
+            ++failures;
+            EXPECT_EQ(Files(), old.isEmpty() ? QStringList() : QStringList("map.orvane"));
+            EXPECT_TRUE(old.isEmpty() || Bytes() == old);
+        }
+        FAIL() << "everything failed";
+    }
+
+    static bool WorksWithRoom(qint64 room, const std::function<void()>& act)
+    {
+        const FileSizeLimit limit(room);
+        try {
+            act();
+            return true;
+        } catch (const RunTimeError& error) {
+            EXPECT_FALSE(error.Description().contains(".part")) << error.what();
+            return false;
+        }
+    }
+
+    QStringList Files() const { return QDir(m_folder.Path("")).entryList(QDir::Files | QDir::Hidden); }
+    QByteArray Bytes() const
+    {
+        QFile file(m_folder.Path("map.orvane"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
     }
 
     DataFolder m_folder;
@@ -173,6 +211,42 @@ TEST_F(MapDocumentTest, ACopyThatCannotBeStoredLeavesTheFileThatIsThere)
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "precious");
+}
+
+TEST_F(MapDocumentTest, WithoutRoomForACopyTheOldMapStays)
+{
+    const QString path = MapDocument::Create(m_folder.Path("map.orvane"))->Path();
+    const auto document = MapDocument::Untitled();
+    for (int i = 0; i < 300; ++i)
+        document->AddLayer(LayerOf("/data/roads.gpkg"));
+    TryWithGrowingRoom(Bytes(), [&] { document->SaveCopy(path); });
+    EXPECT_EQ(Files(), QStringList("map.orvane"));
+    EXPECT_EQ(MapDocument::Open(path)->Sources().size(), 300u);
+}
+
+TEST_F(MapDocumentTest, WithoutRoomForANewMapTheOldOneStays)
+{
+    const QString path = m_folder.Path("map.orvane");
+    MapDocument::Create(path)->AddLayer(LayerOf("a"));
+    TryWithGrowingRoom(Bytes(), [&] { MapDocument::CreateOver(path); });
+    EXPECT_FALSE(MapDocument::Open(path)->HasLayers());
+}
+
+TEST_F(MapDocumentTest, WithoutRoomNoMapIsCreated)
+{
+    const QString path = m_folder.Path("map.orvane");
+    TryWithGrowingRoom({}, [&] { MapDocument::Create(path); });
+    EXPECT_FALSE(MapDocument::Open(path)->HasLayers());
+}
+
+TEST_F(MapDocumentTest, AMapThatCannotBeFilledIsNotMade)
+{
+    const auto fail = [this](MapDocument& map) {
+        map.AddLayer(LayerOf("a"));
+        throw RunTimeError(ErrorNumber::DatabaseFailure, "no more");
+    };
+    EXPECT_THROW(MapDocument::Make(m_folder.Path("map.orvane"), IfExists::Refuse, fail), RunTimeError);
+    EXPECT_EQ(Files(), QStringList());
 }
 
 TEST_F(MapDocumentTest, AMapThatIsOpenIsNotReplacedAndGoesOn)

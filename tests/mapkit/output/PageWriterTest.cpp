@@ -3,9 +3,11 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/output/OutputFixture.h"
+#include "support/FileSizeLimit.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPrinter>
@@ -123,6 +125,27 @@ TEST_F(PageWriterTest, AFileThatCannotBeWrittenIsNamed)
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.Number(), OutputFailed);
         EXPECT_TRUE(error.Description().contains("map.pdf")) << error.what();
+    }
+}
+
+TEST_F(PageWriterTest, WithoutRoomTheOldFileStaysInEachFormat)
+{
+    AddSquare("Square");
+    for (const char* name : {"map.pdf", "map.svg", "map.png"}) {
+        const qint64 size = QFileInfo(Write(name, Bare())).size();
+        m_folder.Write(name, "old");
+        const QStringList before = QDir(m_folder.Path("")).entryList(QDir::Files);
+        for (qint64 room = 0; room < size - 16; room += size / 9 + 1) { // a document varies by some bytes
+            const FileSizeLimit limit(room);
+            EXPECT_THROW(Write(name, Bare()), RunTimeError) << name << ' ' << room << " of " << size;
+            EXPECT_EQ(Content(m_folder.Path(name)), "old") << name;
+        }
+        {
+            const FileSizeLimit limit(size - 16);
+            EXPECT_THROW(Write(name, Bare()), RunTimeError) << name;
+        }
+        EXPECT_EQ(QDir(m_folder.Path("")).entryList(QDir::Files), before);
+        EXPECT_GT(QFileInfo(Write(name, Bare())).size(), size - 16) << name;
     }
 }
 

@@ -2,6 +2,7 @@
 #include "shell/command/ImportCommand.h"
 
 #include "shell/command/CommandFixture.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 
@@ -63,6 +64,32 @@ TEST_F(ImportCommandTest, WithNothingToImportNoMapIsMade)
 {
     EXPECT_EQ(Run({"import", m_folder.Path("none.shp"), "--to", m_map}), ExitCode::Problems);
     EXPECT_FALSE(QFile::exists(m_map));
+}
+
+TEST_F(ImportCommandTest, WithoutRoomNoMapIsMade)
+{
+    const QString data = m_folder.WriteSquare("a.geojson");
+    for (const qint64 room : {0, 20000, 40000}) {
+        int code = ExitCode::Done;
+        {
+            const FileSizeLimit limit(room);
+            code = Run({"import", data, "--to", m_map});
+        }
+        EXPECT_EQ(code, ExitCode::Problems) << room;
+        EXPECT_TRUE(m_errors.contains("map.orvane")) << m_errors.toStdString();
+        EXPECT_EQ(QDir(m_folder.Path("")).entryList({"map*"}), QStringList()) << room;
+    }
+}
+
+TEST_F(ImportCommandTest, WithoutRoomAMapThatIsThereKeepsItsLayers)
+{
+    MakeMap("map.orvane");
+    const QString data = m_folder.WriteSquare("a.geojson");
+    for (const qint64 room : {1000, 34000}) {
+        const FileSizeLimit limit(room);
+        EXPECT_EQ(Run({"import", data, "--to", m_map}), ExitCode::Problems) << room;
+    }
+    EXPECT_EQ(LayersOf(m_map), 1u);
 }
 
 TEST_F(ImportCommandTest, AFileThatIsNoMapIsLeftAlone)

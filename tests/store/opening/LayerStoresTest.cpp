@@ -62,4 +62,31 @@ TEST_F(LayerStoresTest, ACopyHoldsEverything)
         QStringLiteral("Roads"));
 }
 
+TEST_F(LayerStoresTest, AStoreIsMadeWithItsFirstContentAndRemoved)
+{
+    const auto fill = [](std::unique_ptr<ILayerStore> store) {
+        store->Execute(QStringLiteral("INSERT INTO Layers (LayerID) VALUES (7)"));
+    };
+    LayerStores::Make(m_place, IfExists::Refuse, fill);
+    EXPECT_EQ(
+        ErrorOf([&] { LayerStores::Make(m_place, IfExists::Refuse, fill); }),
+        int(ErrorNumber::DatabaseFailure));
+    LayerStores::Make(m_place, IfExists::Replace, fill);
+    EXPECT_FALSE(
+        LayerStores::Open(m_place)->OpenQuery(QStringLiteral("SELECT LayerID FROM Layers"))->AtEOF());
+    LayerStores::Remove(m_place);
+    EXPECT_EQ(FilesThere(), QStringList());
+    LayerStores::Remove(m_place); // nothing is there
+}
+
+TEST_F(LayerStoresTest, ErrorsNameThePathThatIsToBeShown)
+{
+    StoreOptions options;
+    options.shownPath = QStringLiteral("/maps/town.ovl");
+    FileWith("a shopping list", QStringLiteral("map.ovl"));
+    const QString text = DescriptionOf([&] { LayerStores::Open(m_place, OpenMode::ReadWrite, options); });
+    EXPECT_TRUE(text.contains(options.shownPath)) << qPrintable(text);
+    EXPECT_FALSE(text.contains(m_place)) << qPrintable(text);
+}
+
 } // namespace Orvane::Testing

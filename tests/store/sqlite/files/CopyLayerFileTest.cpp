@@ -2,6 +2,7 @@
 #include "store/sqlite/files/CopyLayerFile.h"
 
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/FileSizeLimit.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -76,6 +77,16 @@ TEST_F(CopyLayerFileTest, AFileThatExistsIsNotReplaced)
     CopyLayerFile(Path("map"), Path("copy"));
     EXPECT_THROW(CopyLayerFile(Path("map"), Path("copy")), RunTimeError);
     EXPECT_EQ(NameInCopy(), "Roads");
+}
+
+TEST_F(CopyLayerFileTest, WithoutRoomNoPartOfTheCopyIsLeft)
+{
+    Original();
+    {
+        const Testing::FileSizeLimit limit(40000); // enough to read the original
+        EXPECT_THROW(CopyLayerFile(Path("map"), Path("copy")), RunTimeError);
+    }
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList("map"));
 }
 
 TEST_F(CopyLayerFileTest, WhatIsNoLayerDatabaseIsRefused)

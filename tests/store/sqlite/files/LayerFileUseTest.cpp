@@ -53,6 +53,20 @@ TEST_F(LayerFileUseTest, AskingChangesNothingForThoseWhoHaveItOpen)
         ToText(other->OpenRecordset("SELECT Name FROM Layers WHERE LayerID = 7")->Field("Name")), "Roads");
 }
 
+TEST_F(LayerFileUseTest, AskingChangesNoByteOfAFileThatIsClosed)
+{
+    SqliteLayerDatabase::Create(Path("map"));
+    const auto bytes = [&] {
+        QFile file(Path("map"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    };
+    const QByteArray before = bytes();
+    EXPECT_FALSE(IsLayerFileInUse(Path("map")));
+    EXPECT_EQ(bytes(), before);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList("map"));
+}
+
 TEST_F(LayerFileUseTest, WhatIsMissingOrNoLayerDatabaseIsNotInUse)
 {
     EXPECT_FALSE(IsLayerFileInUse(Path("none")));
