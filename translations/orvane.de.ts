@@ -48,6 +48,10 @@
         <translation>„%1“ ist in einem anderen Fenster oder Programm geöffnet und kann nicht ersetzt werden. Schließen Sie es dort oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>„%1“ wurde nicht geöffnet, weil „%2“ keine gewöhnliche Datei ist.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -674,6 +678,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Sie ist kein Layerschema.</translation>
     </message>
     <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Sie ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
         <source>It is not valid JSON (error at byte %1).</source>
         <translation>Sie ist kein gültiges JSON (Fehler bei Byte %1).</translation>
     </message>
@@ -1264,6 +1272,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ kann nicht angelegt werden: ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>Die Karte „^1“ kann nicht geöffnet werden, weil „^2“ keine gewöhnliche Datei ist.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>Die Karte „^1“ kann nicht geöffnet werden: ^2</translation>
     </message>
@@ -1280,8 +1292,36 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ wird von einem anderen Programm verwendet. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: „^2“ ist eine Sicht.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: „^2“ ist keine gewöhnliche Tabelle.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Sie enthält den Trigger „^2“.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Die Spalte „^2“ wird berechnet.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Der Index „^2“ wird berechnet.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Die Tabelle „^2“ hat eine Bedingung.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>Die Karte „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>Die Karte „^1“ wurde nicht geöffnet, weil ihre Prüfung zu lange dauert.</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

@@ -48,6 +48,10 @@
         <translation>« %1 » est ouvert dans une autre fenêtre ou un autre programme et ne peut pas être remplacé. Fermez-le là-bas ou choisissez un autre nom.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>« %1 » n'a pas été ouvert, car « %2 » n'est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -674,6 +678,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Ce n’est pas un schéma de couches.</translation>
     </message>
     <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Ce n'est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
         <source>It is not valid JSON (error at byte %1).</source>
         <translation>Ce n’est pas du JSON valide (erreur à l’octet %1).</translation>
     </message>
@@ -1264,6 +1272,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » ne peut pas être créée : ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>La carte « ^1 » ne peut pas être ouverte, car « ^2 » n'est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>La carte « ^1 » ne peut pas être ouverte : ^2</translation>
     </message>
@@ -1280,8 +1292,36 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » est utilisée par un autre programme. Réessayez dans un instant.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>La carte « ^1 » est incorrecte : « ^2 » est une vue.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>La carte « ^1 » est incorrecte : « ^2 » n'est pas une table ordinaire.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>La carte « ^1 » est incorrecte : elle contient le déclencheur « ^2 ».</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>La carte « ^1 » est incorrecte : la colonne « ^2 » est calculée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>La carte « ^1 » est incorrecte : l'index « ^2 » est calculé.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>La carte « ^1 » est incorrecte : la table « ^2 » a une condition.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>La carte « ^1 » est en lecture seule et ne peut pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>La carte « ^1 » n'a pas été ouverte, car sa vérification prend trop de temps.</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

@@ -48,6 +48,10 @@
         <translation>「%1」は別のウィンドウまたはプログラムで開かれているため、置き換えられません。そちらを閉じるか、別の名前を選んでください。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>「%2」は通常のファイルではないため、「%1」を開きませんでした。</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -674,6 +678,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>レイヤスキームではありません。</translation>
     </message>
     <message>
+        <source>It is not an ordinary file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
         <source>It is not valid JSON (error at byte %1).</source>
         <translation>有効な JSON ではありません (%1 バイト目でエラー)。</translation>
     </message>
@@ -1264,6 +1272,10 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」を作成できません: ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>「^2」は通常のファイルではないため、地図「^1」を開けません。</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>地図「^1」を開けません: ^2</translation>
     </message>
@@ -1280,8 +1292,36 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」は別のプログラムで使用中です。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>地図「^1」は正しくありません: 「^2」はビューです。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>地図「^1」は正しくありません: 「^2」は通常のテーブルではありません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>地図「^1」は正しくありません: トリガー「^2」が含まれています。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>地図「^1」は正しくありません: 列「^2」は計算列です。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>地図「^1」は正しくありません: インデックス「^2」は式によるものです。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>地図「^1」は正しくありません: テーブル「^2」に条件があります。</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>地図「^1」は読み取り専用のため、変更できません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>地図「^1」は、検査に時間がかかりすぎるため開きませんでした。</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

@@ -2,7 +2,9 @@
 #include "store/sqlite/files/LayerFileCheck.h"
 
 #include "store/StoreTexts.h"
+#include "store/sqlite/engine/TimeBound.h"
 #include "store/sqlite/files/LayerSchema.h"
+#include "store/sqlite/files/PlainTables.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +16,7 @@ namespace {
 
 constexpr qint64 HeaderSize = 100;
 constexpr auto Magic = "SQLite format 3";
+constexpr std::chrono::seconds LongestCheck{60}; // reads some gigabytes
 
 // Offsets of the big-endian numbers in the file header.
 enum HeaderOffset {
@@ -61,8 +64,9 @@ void CheckHeader(const QByteArray& header, const StoreErrors& errors)
 
 bool HasJournal(const QString& path)
 {
+    const QString real = QFileInfo(path).canonicalFilePath(); // journals are where a link leads
     const auto hasContent
-        = [&path](const char* suffix) { return QFileInfo(path + QLatin1String(suffix)).size() > 0; };
+        = [&real](const char* suffix) { return QFileInfo(real + QLatin1String(suffix)).size() > 0; };
     return hasContent("-wal") || hasContent("-journal");
 }
 
@@ -76,8 +80,10 @@ void CheckLength(const QString& path, const QByteArray& header, const StoreError
 void CheckContent(const QString& path, const StoreErrors& errors, const StoreOptions& options)
 {
     SqliteConnection connection(path, SqliteConnection::Access::Immutable, options);
+    const TimeBound bound(connection, LongestCheck);
     if (connection.Text("PRAGMA quick_check(1)") != QLatin1String("ok"))
         throw errors.Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
+    RequirePlainTables(connection);
     if (connection.Number("PRAGMA user_version") > 0)
         LayerSchema::Check(connection);
 }
