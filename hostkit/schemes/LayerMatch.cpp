@@ -14,9 +14,9 @@ LayerIdentity IdentityAt(const IRecordset& row)
 {
     LayerIdentity layer;
     layer.id = ToInt32(row.Field("LayerID"));
-    const Value code = row.Field("Code");
-    if (!code.IsNull() && ToDouble(code) >= 0)
-        layer.code = ToDouble(code);
+    const std::optional<double> code = NumberIn(row.Field("Code"));
+    if (code && *code >= 0)
+        layer.code = code;
     const Value name = row.Field("Name");
     layer.name = ToTextOrNone(name);
     return layer;

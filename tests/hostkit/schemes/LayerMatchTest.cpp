@@ -47,6 +47,13 @@ TEST_F(Matching, GoesByNameWhereACodeIsNotOneLayersAlone)
     EXPECT_EQ(Found(), (Matches{{2, 5}}));
 }
 
+TEST_F(Matching, TakesACodeThatIsATextForNone)
+{
+    There(1, "Roads", QStringLiteral("x"));
+    Here(5, "Roads", 11);
+    EXPECT_EQ(Found(), (Matches{{1, 5}}));
+}
+
 TEST_F(Matching, TakesNegativeAndMissingCodesForNone)
 {
     There(1, "Roads", -1);
