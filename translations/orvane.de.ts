@@ -52,6 +52,14 @@
         <translation>„%1“ wurde nicht geöffnet, weil „%2“ keine gewöhnliche Datei ist.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>„%1“, Zeile „%2“: %3 „%4“ ist kein gültiger Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -316,6 +324,10 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... und %1 weitere Werte.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... und %1 weitere.</translation>
     </message>
@@ -458,9 +470,9 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen im anderen, sobald Sie dorthin wechseln.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Eine Kartendatei auf Schäden, ungültige Verweise und fehlende Daten prüfen.
+        <translation>Eine Kartendatei auf Schäden, ungültige Werte, ungültige Verweise und fehlende Daten prüfen.
 Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>

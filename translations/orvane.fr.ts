@@ -52,6 +52,14 @@
         <translation>« %1 » n'a pas été ouvert, car « %2 » n'est pas un fichier ordinaire.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>« %1 », ligne « %2 » : %3 « %4 » n'est pas une valeur valide.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -316,6 +324,10 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... et %1 autres valeurs.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... et %1 de plus.</translation>
     </message>
@@ -458,9 +470,9 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre dès que vous y passez.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Rechercher dans un fichier de carte les dégâts, les références non valides et les données absentes.
+        <translation>Rechercher dans un fichier de carte les dégâts, les valeurs non valides, les références non valides et les données absentes.
 Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>

@@ -52,6 +52,14 @@
         <translation>「%2」は通常のファイルではないため、「%1」を開きませんでした。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>「%1」の行「%2」: %3「%4」は無効な値です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -316,6 +324,10 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... ほか %1 個の値。</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... ほか %1 件。</translation>
     </message>
@@ -458,9 +470,9 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>一方のウィンドウでの変更はすぐに保存され、もう一方に移ったときに表示されます。</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>地図ファイルの問題 (破損、参照先のない行、見つからないデータ) を調べます。
+        <translation>地図ファイルの問題 (破損、無効な値、参照先のない行、見つからないデータ) を調べます。
 終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
