@@ -49,8 +49,10 @@ std::vector<LayerIdentity> IdentitiesOf(ILayerDatabase& database)
     std::vector<LayerIdentity> layers;
     const auto rows
         = database.OpenRecordset(QStringLiteral("SELECT LayerID, Code, Name FROM Layers ORDER BY LayerID"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        layers.push_back(IdentityAt(*rows));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (Int32In(rows->Field("LayerID"))) // nothing could refer to the layer
+            layers.push_back(IdentityAt(*rows));
+    }
     return layers;
 }
 
