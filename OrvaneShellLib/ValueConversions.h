@@ -110,6 +110,26 @@ inline qint32 ToInt32(const Value& value)
     return Detail::RoundedTo<qint32>(ToDouble(value));
 }
 
+/// As ToDouble, but returns nothing where that raises: for readers that go on without the value.
+inline std::optional<double> NumberIn(const Value& value)
+{
+    try {
+        return ToDouble(value);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+/// As ToInt32, but returns nothing where that raises.
+inline std::optional<qint32> Int32In(const Value& value)
+{
+    try {
+        return ToInt32(value);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
 /// As ToDouble, in single precision. Raises 13 as ToDouble does, and 6 (overflow) outside its range.
 inline float ToSingle(const Value& value)
 {

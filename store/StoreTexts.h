@@ -22,6 +22,22 @@ inline constexpr const char* CannotOpen
 inline constexpr const char* NotALayerDatabase = QT_TRANSLATE_NOOP("LayerStore", "\"^1\" is not a map file.");
 inline constexpr const char* Damaged
     = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is damaged. Use an earlier copy of it.");
+inline constexpr const char* NotARegularFile = QT_TRANSLATE_NOOP(
+    "LayerStore", "The map \"^1\" cannot be opened because \"^2\" is not an ordinary file.");
+inline constexpr const char* TooLong
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" was not opened because checking it takes too long.");
+inline constexpr const char* UnsoundView
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: \"^2\" is a view.");
+inline constexpr const char* UnsoundTable
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: \"^2\" is not an ordinary table.");
+inline constexpr const char* UnsoundTrigger
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: it contains the trigger \"^2\".");
+inline constexpr const char* UnsoundColumn
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: the column \"^2\" is computed.");
+inline constexpr const char* UnsoundIndex
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: the index \"^2\" is computed.");
+inline constexpr const char* UnsoundCondition
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is not sound: the table \"^2\" has a condition.");
 inline constexpr const char* TooNew
     = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" was written by a newer version of this program.");
 inline constexpr const char* ReadOnly

@@ -88,6 +88,14 @@
         <translation>Eine Größe hat keinen endlichen Wert in Pixeln.</translation>
     </message>
     <message>
+        <source>A value of this group cannot be read.</source>
+        <translation>Ein Wert dieser Gruppe kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A value of this layer cannot be read.</source>
+        <translation>Ein Wert dieses Layers kann nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>An unexpected error stopped the action.</source>
         <translation>Ein unerwarteter Fehler hat die Aktion abgebrochen.</translation>
     </message>

@@ -88,6 +88,14 @@
         <translation>Une taille n’a pas de valeur finie en pixels.</translation>
     </message>
     <message>
+        <source>A value of this group cannot be read.</source>
+        <translation>Une valeur de ce groupe ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>A value of this layer cannot be read.</source>
+        <translation>Une valeur de cette couche ne peut pas être lue.</translation>
+    </message>
+    <message>
         <source>An unexpected error stopped the action.</source>
         <translation>Une erreur inattendue a interrompu l’action.</translation>
     </message>

@@ -88,6 +88,14 @@
         <translation>サイズをピクセル単位の有限な値にできません。</translation>
     </message>
     <message>
+        <source>A value of this group cannot be read.</source>
+        <translation>このグループの値を読み込めません。</translation>
+    </message>
+    <message>
+        <source>A value of this layer cannot be read.</source>
+        <translation>このレイヤーの値を読み込めません。</translation>
+    </message>
+    <message>
         <source>An unexpected error stopped the action.</source>
         <translation>予期しないエラーのため、操作が中断されました。</translation>
     </message>

@@ -40,6 +40,18 @@
         <translation>„%1“ ist keine gültige Seitengröße.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>„%1“ wurde nicht geöffnet, weil „%2“ keine gewöhnliche Datei ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>„%1“, Zeile „%2“: %3 „%4“ ist kein gültiger Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -328,6 +340,10 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... und %1 weitere Werte.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... und %1 weitere.</translation>
     </message>
@@ -482,9 +498,9 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen innerhalb einer Sekunde im anderen.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Eine Kartendatei auf Schäden, ungültige Verweise und fehlende Daten prüfen.
+        <translation>Eine Kartendatei auf Schäden, ungültige Werte, ungültige Verweise und fehlende Daten prüfen.
 Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
@@ -700,6 +716,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>It is not a layer scheme.</source>
         <translation>Sie ist kein Layerschema.</translation>
+    </message>
+    <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Sie ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>It is not valid JSON (error at byte %1).</source>
@@ -1292,6 +1312,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ kann nicht angelegt werden: ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>Die Karte „^1“ kann nicht geöffnet werden, weil „^2“ keine gewöhnliche Datei ist.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>Die Karte „^1“ kann nicht geöffnet werden: ^2</translation>
     </message>
@@ -1308,8 +1332,36 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ wird von einem anderen Programm verwendet. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: „^2“ ist eine Sicht.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: „^2“ ist keine gewöhnliche Tabelle.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Sie enthält den Trigger „^2“.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Die Spalte „^2“ wird berechnet.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Der Index „^2“ wird berechnet.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Die Tabelle „^2“ hat eine Bedingung.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>Die Karte „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>Die Karte „^1“ wurde nicht geöffnet, weil ihre Prüfung zu lange dauert.</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

@@ -40,6 +40,18 @@
         <translation>« %1 » n'est pas une taille de page valide.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>« %1 » n'a pas été ouvert, car « %2 » n'est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>« %1 », ligne « %2 » : %3 « %4 » n'est pas une valeur valide.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -328,6 +340,10 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... et %1 autres valeurs.</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... et %1 de plus.</translation>
     </message>
@@ -482,9 +498,9 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre en moins d’une seconde.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Rechercher dans un fichier de carte les dégâts, les références non valides et les données absentes.
+        <translation>Rechercher dans un fichier de carte les dégâts, les valeurs non valides, les références non valides et les données absentes.
 Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
@@ -700,6 +716,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>It is not a layer scheme.</source>
         <translation>Ce n’est pas un schéma de couches.</translation>
+    </message>
+    <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Ce n'est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>It is not valid JSON (error at byte %1).</source>
@@ -1292,6 +1312,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » ne peut pas être créée : ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>La carte « ^1 » ne peut pas être ouverte, car « ^2 » n'est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>La carte « ^1 » ne peut pas être ouverte : ^2</translation>
     </message>
@@ -1308,8 +1332,36 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » est utilisée par un autre programme. Réessayez dans un instant.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>La carte « ^1 » est incorrecte : « ^2 » est une vue.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>La carte « ^1 » est incorrecte : « ^2 » n'est pas une table ordinaire.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>La carte « ^1 » est incorrecte : elle contient le déclencheur « ^2 ».</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>La carte « ^1 » est incorrecte : la colonne « ^2 » est calculée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>La carte « ^1 » est incorrecte : l'index « ^2 » est calculé.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>La carte « ^1 » est incorrecte : la table « ^2 » a une condition.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>La carte « ^1 » est en lecture seule et ne peut pas être modifiée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>La carte « ^1 » n'a pas été ouverte, car sa vérification prend trop de temps.</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

@@ -40,6 +40,18 @@
         <translation>「%1」は有効なページサイズではありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
+        <translation>「%2」は通常のファイルではないため、「%1」を開きませんでした。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; is not a valid value.</source>
+        <translation>「%1」の行「%2」: %3「%4」は無効な値です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
+        <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -328,6 +340,10 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>... and %1 more values.</source>
+        <translation>... ほか %1 個の値。</translation>
+    </message>
+    <message>
         <source>... and %1 more.</source>
         <translation>... ほか %1 件。</translation>
     </message>
@@ -482,9 +498,9 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>一方のウィンドウでの変更はすぐに保存され、1秒以内にもう一方にも表示されます。</translation>
     </message>
     <message>
-        <source>Check a map file for damage, broken references and missing data.
+        <source>Check a map file for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>地図ファイルの問題 (破損、参照先のない行、見つからないデータ) を調べます。
+        <translation>地図ファイルの問題 (破損、無効な値、参照先のない行、見つからないデータ) を調べます。
 終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
@@ -700,6 +716,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>It is not a layer scheme.</source>
         <translation>レイヤスキームではありません。</translation>
+    </message>
+    <message>
+        <source>It is not an ordinary file.</source>
+        <translation>通常のファイルではありません。</translation>
     </message>
     <message>
         <source>It is not valid JSON (error at byte %1).</source>
@@ -1292,6 +1312,10 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」を作成できません: ^2</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; cannot be opened because &quot;^2&quot; is not an ordinary file.</source>
+        <translation>「^2」は通常のファイルではないため、地図「^1」を開けません。</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; cannot be opened: ^2</source>
         <translation>地図「^1」を開けません: ^2</translation>
     </message>
@@ -1308,8 +1332,36 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」は別のプログラムで使用中です。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is a view.</source>
+        <translation>地図「^1」は正しくありません: 「^2」はビューです。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: &quot;^2&quot; is not an ordinary table.</source>
+        <translation>地図「^1」は正しくありません: 「^2」は通常のテーブルではありません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains the trigger &quot;^2&quot;.</source>
+        <translation>地図「^1」は正しくありません: トリガー「^2」が含まれています。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the column &quot;^2&quot; is computed.</source>
+        <translation>地図「^1」は正しくありません: 列「^2」は計算列です。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the index &quot;^2&quot; is computed.</source>
+        <translation>地図「^1」は正しくありません: インデックス「^2」は式によるものです。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; has a condition.</source>
+        <translation>地図「^1」は正しくありません: テーブル「^2」に条件があります。</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>地図「^1」は読み取り専用のため、変更できません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; was not opened because checking it takes too long.</source>
+        <translation>地図「^1」は、検査に時間がかかりすぎるため開きませんでした。</translation>
     </message>
     <message>
         <source>The map &quot;^1&quot; was written by a newer version of this program.</source>

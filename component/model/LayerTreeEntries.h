@@ -21,6 +21,7 @@ struct LayerEntry {
     qint32 layerID = 0;
     qint16 quickMode = QuickMode::Normal;
     QString text; ///< decorated display name
+    bool faulty = false; ///< a value of its row could not be read
 };
 
 /// A group as the groups tree lists it, with its layers in their order.
@@ -29,6 +30,7 @@ struct GroupEntry {
     QString text;
     bool expanded = false;
     std::vector<LayerEntry> layers;
+    bool faulty = false; ///< a value of its row could not be read
 };
 
 } // namespace Orvane

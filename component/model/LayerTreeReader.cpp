@@ -12,20 +12,67 @@
 
 #include <QHash>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
 
-LayerEntry ReadEntry(IStyleEditorClient& client, const IRecordset& row, qint32 layerID)
+/// Reads on where a value cannot be read, and keeps the first such error.
+class RowFaults
 {
-    return {layerID, QuickModeColumn(row), DecorateLayerName(client.LayerDisplayName(layerID))};
+public:
+    /// What read returns, or otherwise if the value cannot be read.
+    template <typename Read, typename Result> Result Or(Result otherwise, Read&& read)
+    {
+        try {
+            return std::forward<Read>(read)();
+        } catch (const ColumnError& error) {
+            if (!m_first)
+                m_first.emplace(error);
+            m_inRow = true;
+            return otherwise;
+        }
+    }
+
+    /// True if there was a fault since the last call.
+    bool EndRow() { return std::exchange(m_inRow, false); }
+
+    const std::optional<ColumnError>& First() const { return m_first; }
+
+private:
+    std::optional<ColumnError> m_first;
+    bool m_inRow = false;
+};
+
+std::optional<qint32> IDIn(const IRecordset& row, const char* column, RowFaults& faults)
+{
+    return faults.Or(std::optional<qint32>(), [&] { return std::optional(IntegerColumn(row, column)); });
+}
+
+LayerEntry ReadEntry(IStyleEditorClient& client, const IRecordset& row, qint32 layerID, RowFaults& faults)
+{
+    const qint16 mode = faults.Or(QuickMode::Normal, [&] { return QuickModeColumn(row); });
+    return {layerID, mode, DecorateLayerName(client.LayerDisplayName(layerID)), faults.EndRow()};
 }
 
 // The tree's query also returns hidden layers. A Null code hides a layer, as it does in the other queries.
-bool IsListed(const IRecordset& row)
+bool IsListed(const IRecordset& row, RowFaults& faults)
 {
-    const Value code = NumberColumn(row, "Code");
-    return !code.IsNull() && ToDouble(code) > -2;
+    return faults.Or(true, [&] {
+        const Value code = NumberColumn(row, "Code");
+        return !code.IsNull() && ToDouble(code) > -2;
+    });
+}
+
+// A code that is a text passes the query, and is a fault of the row.
+bool IsShown(const IStyleFilter* filter, const IRecordset& row, qint32 layerID, RowFaults& faults)
+{
+    if (!IsListed(row, faults))
+        return false;
+    if (!filter)
+        return true;
+    return filter->IsLayerShown(layerID, faults.Or(false, [&] { return FlagIsSet(row, "Pseudo"); }));
 }
 
 /// Collects the rows of the tree's query into groups.
@@ -39,13 +86,18 @@ public:
 
     void AddRow(const IRecordset& row)
     {
-        if (!IsListed(row))
+        m_faults.EndRow();
+        if (!IsListed(row, m_faults))
             return;
-        GroupEntry& group = GroupOf(IntegerColumn(row, "GroupID"));
-        group.layers.push_back(ReadEntry(m_client, row, IntegerColumn(row, "LayerID")));
+        const std::optional<qint32> groupID = IDIn(row, "GroupID", m_faults);
+        const std::optional<qint32> layerID = IDIn(row, "LayerID", m_faults);
+        if (!groupID || !layerID)
+            return;
+        LayerEntry layer = ReadEntry(m_client, row, *layerID, m_faults);
+        GroupOf(*groupID).layers.push_back(std::move(layer));
     }
 
-    std::vector<GroupEntry> Finished() { return std::move(m_entries); }
+    TreeReading Finished() { return {std::move(m_entries), m_faults.First()}; }
 
 private:
     // Groups with the same ordering come interleaved, so a group may occur again after another one.
@@ -68,12 +120,14 @@ private:
             return {groupID, m_texts.groupNotFound, false, {}};
         const Value name = m_groups->Field("Name");
         const QString text = ToTextOrNone(name);
-        return {groupID, text.isEmpty() ? m_texts.noName : text, FlagIsSet(*m_groups, "Expanded"), {}};
+        const bool expanded = m_faults.Or(false, [this] { return FlagIsSet(*m_groups, "Expanded"); });
+        return {groupID, text.isEmpty() ? m_texts.noName : text, expanded, {}, m_faults.EndRow()};
     }
 
     IStyleEditorClient& m_client;
     const TreeTexts& m_texts;
     std::unique_ptr<IRecordset> m_groups;
+    RowFaults m_faults;
     std::vector<GroupEntry> m_entries;
     QHash<qint32, std::size_t> m_indexes;
     std::size_t m_current = 0;
@@ -81,7 +135,7 @@ private:
 
 } // namespace
 
-std::vector<GroupEntry>
+TreeReading
 LoadLayerTree(IStyleEditorClient& client, const std::optional<QString>& groupFilter, const TreeTexts& texts)
 {
     const auto rows = client.Database().OpenRecordset(LayerQueries::Tree(groupFilter));
@@ -91,16 +145,18 @@ LoadLayerTree(IStyleEditorClient& client, const std::optional<QString>& groupFil
     return gathering.Finished();
 }
 
-std::vector<LayerEntry> ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filter)
+ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filter)
 {
     std::vector<LayerEntry> layers;
+    RowFaults faults;
     const auto rows = client.Database().OpenRecordset(LayerQueries::LayerList());
     for (; !rows->AtEOF(); rows->MoveNext()) {
-        const qint32 layerID = IntegerColumn(*rows, "LayerID");
-        if (!filter || filter->IsLayerShown(layerID, FlagIsSet(*rows, "Pseudo")))
-            layers.push_back(ReadEntry(client, *rows, layerID));
+        faults.EndRow();
+        const std::optional<qint32> layerID = IDIn(*rows, "LayerID", faults);
+        if (layerID && IsShown(filter, *rows, *layerID, faults))
+            layers.push_back(ReadEntry(client, *rows, *layerID, faults));
     }
-    return layers;
+    return {std::move(layers), faults.First()};
 }
 
 std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerID)
@@ -108,7 +164,9 @@ std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerI
     const auto rows = client.Database().OpenRecordset(LayerQueries::OneLayer(layerID));
     if (rows->AtEOF())
         return std::nullopt;
-    return ReadEntry(client, *rows, layerID);
+    RowFaults faults;
+    IsListed(*rows, faults); // a code that is a text is a fault
+    return ReadEntry(client, *rows, layerID, faults);
 }
 
 } // namespace Orvane

@@ -52,8 +52,11 @@ void LayerNames::Load()
         return;
     QHash<qint32, QString> names;
     const auto layers = m_database.OpenRecordset(QStringLiteral("SELECT LayerID, Name FROM Layers"));
-    for (; !layers->AtEOF(); layers->MoveNext())
-        names.insert(ToInt32(layers->Field("LayerID")), NameIn(*layers));
+    for (; !layers->AtEOF(); layers->MoveNext()) {
+        // One row with an ID beyond 32 bits must not hide the names of all others.
+        if (const std::optional<qint32> layerID = Int32In(layers->Field("LayerID")))
+            names.insert(*layerID, NameIn(*layers));
+    }
     m_names = std::move(names);
     m_loaded = true;
 }

@@ -35,7 +35,8 @@ Value DefaultOf(const LayerColumn& column)
 qint32 NextLayerID(ILayerStore& store)
 {
     const auto highest
-        = store.OpenQuery(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"));
+        = store.OpenQuery(QStringLiteral("SELECT COALESCE(MAX(LayerID), 0) AS Highest FROM Layers"
+                                         " WHERE LayerID <= 2147483647"));
     return ToInt32(ToDouble(highest->Field("Highest")) + 1);
 }
 
@@ -44,7 +45,7 @@ std::optional<double> HighestWithoutGap(ILayerStore& store)
 {
     const auto codes = store.OpenQuery(
         QStringLiteral("SELECT COUNT(DISTINCT CAST(Code AS INTEGER)) AS Number, MAX(Code) AS Highest"
-                       " FROM Layers WHERE Code >= 0 AND Code = CAST(Code AS INTEGER)"));
+                       " FROM Layers WHERE Code BETWEEN 0 AND 32767 AND Code = CAST(Code AS INTEGER)"));
     const double number = ToDouble(codes->Field("Number"));
     const double highest = number == 0 ? -1 : ToDouble(codes->Field("Highest"));
     return number == highest + 1 ? std::optional(highest) : std::nullopt;
@@ -52,8 +53,8 @@ std::optional<double> HighestWithoutGap(ILayerStore& store)
 
 qint32 FirstGap(ILayerStore& store)
 {
-    const auto taken
-        = store.OpenQuery(QStringLiteral("SELECT DISTINCT Code FROM Layers WHERE Code >= 0 ORDER BY Code"));
+    const auto taken = store.OpenQuery(
+        QStringLiteral("SELECT DISTINCT Code FROM Layers WHERE Code BETWEEN 0 AND 32767 ORDER BY Code"));
     qint32 code = 0;
     for (; !taken->AtEOF() && ToDouble(taken->Field("Code")) <= code; taken->MoveNext()) {
         if (ToDouble(taken->Field("Code")) == code)

@@ -14,9 +14,9 @@ LayerIdentity IdentityAt(const IRecordset& row)
 {
     LayerIdentity layer;
     layer.id = ToInt32(row.Field("LayerID"));
-    const Value code = row.Field("Code");
-    if (!code.IsNull() && ToDouble(code) >= 0)
-        layer.code = ToDouble(code);
+    const std::optional<double> code = NumberIn(row.Field("Code"));
+    if (code && *code >= 0)
+        layer.code = code;
     const Value name = row.Field("Name");
     layer.name = ToTextOrNone(name);
     return layer;
@@ -49,8 +49,10 @@ std::vector<LayerIdentity> IdentitiesOf(ILayerDatabase& database)
     std::vector<LayerIdentity> layers;
     const auto rows
         = database.OpenRecordset(QStringLiteral("SELECT LayerID, Code, Name FROM Layers ORDER BY LayerID"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        layers.push_back(IdentityAt(*rows));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (Int32In(rows->Field("LayerID"))) // nothing could refer to the layer
+            layers.push_back(IdentityAt(*rows));
+    }
     return layers;
 }
 

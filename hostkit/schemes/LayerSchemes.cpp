@@ -58,8 +58,10 @@ QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 scheme
 {
     QSet<qint32> layerIDs;
     const auto layers = database.OpenQuery(query, {schemeID});
-    for (; !layers->AtEOF(); layers->MoveNext())
-        layerIDs.insert(ToInt32(layers->Field("LayerID")));
+    for (; !layers->AtEOF(); layers->MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(layers->Field("LayerID")))
+            layerIDs.insert(*layerID);
+    }
     return layerIDs;
 }
 

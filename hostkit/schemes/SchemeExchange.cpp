@@ -54,8 +54,10 @@ QSet<qint32> ListedLayers(ILayerStore& map)
 {
     QSet<qint32> layerIDs;
     const auto rows = map.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers WHERE Code > -2"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        layerIDs.insert(ToInt32(rows->Field("LayerID")));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
+            layerIDs.insert(*layerID);
+    }
     return layerIDs;
 }
 

@@ -33,10 +33,13 @@ class FileTexts
 
 QByteArray ContentOf(const QString& path)
 {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) // opening a pipe waits for a writer
+        RaiseUnreadable(path, FileTexts::tr("It is not an ordinary file."));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         RaiseUnreadable(path, file.errorString());
-    // Reads one byte more than allowed, because the size of a device may not be known.
+    // Reads one byte more than allowed, because the file may grow meanwhile.
     const QByteArray content = file.read(LargestFile + 1);
     if (content.size() > LargestFile)
         RaiseUnreadable(path, FileTexts::tr("It is too large."));

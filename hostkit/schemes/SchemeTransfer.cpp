@@ -32,9 +32,9 @@ void SchemeTransfer::AddMissingLayers()
 {
     const auto layers = m_from.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers ORDER BY LayerID"));
     for (; !layers->AtEOF(); layers->MoveNext()) {
-        const qint32 layerID = ToInt32(layers->Field("LayerID"));
-        if (!m_matches.contains(layerID))
-            AddLayer(layerID);
+        const std::optional<qint32> layerID = Int32In(layers->Field("LayerID"));
+        if (layerID && !m_matches.contains(*layerID))
+            AddLayer(*layerID);
     }
 }
 
@@ -73,7 +73,8 @@ void SchemeTransfer::CopyValues(qint32 schemeID, qint32 newSchemeID)
     const auto rows
         = m_from.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
     for (; !rows->AtEOF(); rows->MoveNext()) {
-        const auto match = m_matches.constFind(ToInt32(rows->Field("LayerID")));
+        const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));
+        const auto match = layerID ? m_matches.constFind(*layerID) : m_matches.constEnd();
         if (match == m_matches.constEnd())
             continue;
         std::vector<Value> values{*match, newSchemeID};

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <algorithm>
 #include <cerrno>
 #include <cpl_conv.h>
 #include <cpl_http.h>
@@ -77,6 +78,27 @@ FetchNothing(const char*, CSLConstList, GDALProgressFunc, void*, CPLHTTPFetchWri
     return refusal;
 }
 
+// Neither a file nor a folder, for example a pipe; GDAL would wait for a writer.
+QFileInfoList SpecialFilesIn(const QString& folder)
+{
+    QFileInfoList special = QDir(folder).entryInfoList(QDir::System | QDir::Hidden);
+    const auto isOrdinary
+        = [](const QFileInfo& file) { return !file.exists() || file.isFile() || file.isDir(); };
+    special.erase(std::remove_if(special.begin(), special.end(), isOrdinary), special.end());
+    return special;
+}
+
+// GDAL opens the files in a folder, and those that accompany a file and have its name.
+QString SpecialPartOf(const QFileInfo& data)
+{
+    const QString beginning = data.isDir() ? QString() : data.completeBaseName() + QLatin1Char('.');
+    for (const QFileInfo& file : SpecialFilesIn(data.isDir() ? data.filePath() : data.path())) {
+        if (file.fileName().startsWith(beginning, Qt::CaseInsensitive))
+            return file.fileName();
+    }
+    return {};
+}
+
 } // namespace
 
 void PrepareGdal()
@@ -103,6 +125,12 @@ QString WhyNotOpened(const QString& path)
     if (!file.isFile() && !file.isDir()) {
         return QCoreApplication::translate("DataSource", "\"%1\" contains no readable data.")
             .arg(file.fileName());
+    }
+    const QString part = SpecialPartOf(file);
+    if (!part.isEmpty()) {
+        return QCoreApplication::translate(
+                   "DataSource", "\"%1\" was not opened because \"%2\" is not an ordinary file.")
+            .arg(file.fileName(), part);
     }
     return {};
 }

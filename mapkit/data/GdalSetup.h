@@ -12,7 +12,8 @@ namespace Orvane {
 void PrepareGdal();
 
 /// The reason why a name cannot be opened as data, as a sentence for the user: nothing of that name exists,
-/// or it is neither a file nor a folder. Empty if opening it can be tried.
+/// or it, a file in that folder or a file that accompanies it is neither a file nor a folder. Empty if
+/// opening it can be tried.
 QString WhyNotOpened(const QString& path);
 
 } // namespace Orvane

@@ -97,6 +97,9 @@ bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference* system)
 
 SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path)
 {
+    const QString whyNot = WhyNotOpened(m_path);
+    if (!whyNot.isEmpty())
+        throw RunTimeError(SourceUnchangeable, whyNot);
     if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())
         Fail(tr("the file is read only"));
     const GdalErrors errors;

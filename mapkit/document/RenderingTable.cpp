@@ -38,10 +38,10 @@ LayerRendering RenderingOfRow(const IRecordset& row)
     LayerRendering rendering;
     rendering.labelAttribute = ToText(row.Field("LabelAttribute"));
     rendering.classAttribute = ToText(row.Field("ClassAttribute"));
-    if (ToInt32(row.Field("Division")) == int(ClassDivision::EqualSteps))
+    if (Int32In(row.Field("Division")) == int(ClassDivision::EqualSteps))
         rendering.division = ClassDivision::EqualSteps;
-    rendering.classCount = std::clamp(
-        int(ToInt32(row.Field("ClassCount"))), Classification::MinCount, Classification::MaxCount);
+    if (const std::optional<qint32> count = Int32In(row.Field("ClassCount")))
+        rendering.classCount = std::clamp(int(*count), Classification::MinCount, Classification::MaxCount);
     return rendering;
 }
 
@@ -56,8 +56,10 @@ std::map<qint32, LayerRendering> RenderingTable::All() const
 {
     std::map<qint32, LayerRendering> all;
     const auto rows = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        all[ToInt32(rows->Field("LayerID"))] = RenderingOfRow(*rows);
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
+            all[*layerID] = RenderingOfRow(*rows);
+    }
     return all;
 }
 

@@ -45,10 +45,13 @@ std::vector<LayerSource> SourceTable::All() const
                                    .arg(QLatin1String(older ? "NULL" : "RelativePath")));
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
+        const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));
+        if (!layerID) // belongs to no layer that can be shown
+            continue;
         const SourcePaths::Place place{
             ToTextOrNone(rows->Field("Path")), ToTextOrNone(rows->Field("RelativePath"))};
         sources.push_back(
-            {ToInt32(rows->Field("LayerID")), m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
+            {*layerID, m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
              ToTextOrNone(rows->Field("Filter"))});
     }
     return sources;

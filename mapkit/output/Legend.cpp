@@ -122,7 +122,8 @@ LegendOf(ILayerDatabase& database, const IShellServices& services, const std::ve
     Block block{Value::Null(), {}, 0, {}};
     const auto rows = database.OpenRecordset(QString::fromLatin1(ListedLayers));
     for (; !rows->AtEOF() && !left.isEmpty(); rows->MoveNext()) {
-        const MapLayer* layer = left.take(ToInt32(rows->Field("LayerID")));
+        const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));
+        const MapLayer* layer = layerID ? left.take(*layerID) : nullptr;
         if (!layer)
             continue;
         const Value groupID = rows->Field("GroupID");

@@ -31,7 +31,8 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
         CheckText(QT_TRANSLATE_NOOP("CheckCommand", "Repair what can be repaired.")));
     CommandReader reader(CheckText(QT_TRANSLATE_NOOP(
         "CheckCommand",
-        "Check a map file for damage, broken references and missing data.\nExit code: 0 no problems, 1 "
+        "Check a map file for damage, invalid values, broken references and missing data.\nExit code: 0 no "
+        "problems, 1 "
         "problems found, 2 the command was not understood.")));
     reader.AddCommand(QStringLiteral("check"));
     reader.RequireWords(1, 1);
@@ -41,7 +42,10 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     const QString map = reader.Words().first();
-    const auto problems = reader.IsSet(repair) ? RepairMap(map) : CheckMap(map);
+    QStringList replaced;
+    const auto problems = reader.IsSet(repair) ? RepairMap(map, &replaced) : CheckMap(map);
+    for (const QString& sentence : replaced)
+        terminal.out << sentence << '\n';
     Tell(problems, terminal);
     if (problems.empty()) {
         terminal.out << CheckText(QT_TRANSLATE_NOOP("CheckCommand", "No problems were found in \"%1\"."))

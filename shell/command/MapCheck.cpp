@@ -5,6 +5,7 @@
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/BackdropPlace.h"
 #include "mapkit/document/SourceTable.h"
+#include "shell/command/ValueCheck.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "store/sqlite/repair/DanglingRows.h"
 #include "store/sqlite/repair/FileDamage.h"
@@ -112,10 +113,17 @@ void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
     }
 }
 
+void AddBadValues(Problems& problems, SqliteLayerDatabase& database)
+{
+    const Problems values = FindValueProblems(database);
+    problems.insert(problems.end(), values.begin(), values.end());
+}
+
 Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path)
 {
     Problems problems;
     AddDamage(problems, database);
+    AddBadValues(problems, database);
     AddDanglingRows(problems, database);
     AddMissingData(problems, SourceTable(database, path).All());
     AddBackdrop(problems, FindBackdrop(database, path));
@@ -129,15 +137,19 @@ bool HasRepairable(const Problems& problems, Kind kind)
     });
 }
 
-void Repair(const QString& path, const Problems& problems)
+QStringList Repair(const QString& path, const Problems& problems)
 {
+    QStringList replaced;
     const auto database = SqliteLayerDatabase::Open(path);
     Transaction transaction(*database);
     if (HasRepairable(problems, Kind::Damage))
         RepairDamage(*database);
+    if (HasRepairable(problems, Kind::BadValue))
+        replaced = RepairValues(*database);
     if (HasRepairable(problems, Kind::DanglingRows))
         RemoveDanglingRows(*database, Undeclared);
     transaction.Commit();
+    return replaced;
 }
 
 } // namespace
@@ -149,13 +161,17 @@ std::vector<MapProblem> CheckMap(const QString& path)
     return ProblemsIn(*database, absolute);
 }
 
-std::vector<MapProblem> RepairMap(const QString& path)
+std::vector<MapProblem> RepairMap(const QString& path, QStringList* replaced)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     Problems problems = CheckMap(absolute);
-    if (!HasRepairable(problems, Kind::Damage) && !HasRepairable(problems, Kind::DanglingRows))
+    const bool repairable = std::any_of(
+        problems.begin(), problems.end(), [](const MapProblem& problem) { return problem.repairable; });
+    if (!repairable)
         return problems;
-    Repair(absolute, problems);
+    const QStringList done = Repair(absolute, problems);
+    if (replaced)
+        *replaced = done;
     return CheckMap(absolute);
 }
 

@@ -17,16 +17,15 @@ namespace {
 constexpr int MaximumPriority = 255;
 constexpr qsizetype FewLayers = 64; // from here on reading all rows at once is faster
 
-// A null column counts as the value given.
+// A column that is null or holds no number counts as the value given: the rest of the map is drawn.
 double NumberOr(const IRecordset& row, std::string_view column, double otherwise)
 {
-    const Value value = row.Field(column);
-    return value.IsNull() ? otherwise : ToDouble(value);
+    return NumberIn(row.Field(column)).value_or(otherwise);
 }
 
 int WholeOr(const IRecordset& row, std::string_view column, int otherwise)
 {
-    return int(RoundHalfToEven(NumberOr(row, column, otherwise)));
+    return Int32In(row.Field(column)).value_or(otherwise);
 }
 
 DrawingValues ValuesOfRow(const IRecordset& row)
@@ -76,8 +75,10 @@ void MapLayers::ReadAll()
 {
     std::vector<MapLayer> layers;
     const auto rows = m_document.Database().OpenRecordset(QStringLiteral("SELECT * FROM Layers"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        layers.push_back(LayerOfRow(*rows));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (Int32In(rows->Field("LayerID"))) // nothing else could refer to the layer
+            layers.push_back(LayerOfRow(*rows));
+    }
     m_layers = std::move(layers);
     for (const auto& [layerID, rendering] : m_document.Renderings().All())
         m_attributes.SetRendering(layerID, rendering);

@@ -12,6 +12,7 @@
 #include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/NewLayerFile.h"
+#include "store/sqlite/files/PlainTables.h"
 
 #include <OrvaneShellLib/Transaction.h>
 
@@ -101,6 +102,7 @@ SqliteLayerDatabase::Open(const QString& path, OpenMode mode, const StoreOptions
     auto session = std::make_unique<SqliteSession>(path, access, options);
     SqliteConnection& connection = session->connection;
     LayerSchema::CheckVersion(connection);
+    RequirePlainTables(connection); // again: a journal may have changed them
     UseCache(connection);
     if (access == SqliteConnection::Access::ReadWrite) {
         LayerSchema::Migrate(connection);

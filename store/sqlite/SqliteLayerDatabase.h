@@ -23,9 +23,10 @@ struct SqliteSession;
 ///     layers->Seek("=", 17);
 ///
 /// The file is an ordinary SQLite database with a write-ahead log; a committed change is written to disk. The
-/// host may keep its own tables in it, and run any statement that SQLite understands. Errors: DatabaseLocked
-/// when another program kept the file locked for longer than StoreOptions allows, NotALayerDatabase also when
-/// damage is found only while reading, DatabaseReadOnly, and DatabaseFailure for everything else.
+/// host may keep its own tables in it, and run any statement that SQLite understands, except that triggers
+/// and views work only as temporary ones. Errors: DatabaseLocked when another program kept the file locked
+/// for longer than StoreOptions allows, NotALayerDatabase also when damage is found only while reading,
+/// DatabaseReadOnly, and DatabaseFailure for everything else.
 class SqliteLayerDatabase final : public ILayerStore
 {
 public:
@@ -41,10 +42,10 @@ public:
         const QString& path, IfExists ifExists, const StoreFiller& fill = {},
         const StoreOptions& options = {});
 
-    /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for a file of a
-    /// newer version, DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if
-    /// it is missing; the file is not changed then. A file of an older version is migrated, except in
-    /// ReadOnly mode.
+    /// Opens a file. Raises NotALayerDatabase for a foreign or damaged file and for one whose layer tables
+    /// are views, virtual or computed or have triggers, DatabaseTooNew for a file of a newer version,
+    /// DatabaseReadOnly if it is opened for writing and cannot be written, DatabaseFailure if it is missing;
+    /// the file is not changed then. A file of an older version is migrated, except in ReadOnly mode.
     static std::unique_ptr<SqliteLayerDatabase>
     Open(const QString& path, OpenMode mode = OpenMode::ReadWrite, const StoreOptions& options = {});
 

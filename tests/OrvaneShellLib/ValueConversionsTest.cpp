@@ -77,5 +77,17 @@ TEST(ValueConversions, AnyNumberButZeroIsTrue)
     EXPECT_TRUE(ToBoolean(QStringLiteral("1")));
 }
 
+TEST(ValueConversions, WhatIsNoNumberIsNothingForWhomIsToGoOn)
+{
+    EXPECT_EQ(NumberIn(QStringLiteral("2.5")), 2.5);
+    EXPECT_EQ(Int32In(2.5), 2);
+    EXPECT_EQ(Int32In(2147483647.0), 2147483647);
+    EXPECT_EQ(Int32In(2147483648.0), std::nullopt);
+    for (const Value& value : {Value(), Value::Null(), Value(QStringLiteral("red"))}) {
+        EXPECT_EQ(NumberIn(value), std::nullopt);
+        EXPECT_EQ(Int32In(value), std::nullopt);
+    }
+}
+
 } // namespace
 } // namespace Orvane

@@ -126,7 +126,7 @@ TEST_F(Factory, DeletingIsOneTransaction)
     AddLayers(1);
     Database().Execute(QStringLiteral("INSERT INTO LayerGroups (ID, Name) VALUES (5, 'Group')"));
     Database().Execute(QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID) VALUES (5, 1)"));
-    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE DELETE ON Layers"
+    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
                                       " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
     EXPECT_EQ(ErrorOf([&] { m_factory.Delete(1); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM LayerGroupMembers")), 1);

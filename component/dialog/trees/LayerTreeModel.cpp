@@ -39,7 +39,8 @@ void LayerTreeModel::SetGroups(std::vector<GroupEntry> groups)
     for (GroupEntry& group : groups) {
         const int first = int(m_layers.size());
         std::move(group.layers.begin(), group.layers.end(), std::back_inserter(m_layers));
-        m_groups.push_back({group.groupID, 0, first, int(m_layers.size()) - first, std::move(group.text)});
+        m_groups.push_back(
+            {group.groupID, 0, first, int(m_layers.size()) - first, std::move(group.text), group.faulty});
         m_groups.back().image = CommonQuickMode(m_groups.back());
     }
     endResetModel();
@@ -219,7 +220,7 @@ QVariant LayerTreeModel::data(const QModelIndex& index, int role) const
     case Qt::EditRole:
         return TextAt(index);
     case Qt::ToolTipRole:
-        return NodeToolTip(TextAt(index), Reference(index));
+        return NodeToolTip(TextAt(index), Reference(index), IsFaulty(index));
     case Qt::AccessibleDescriptionRole:
         return QuickModeText(Reference(index).image);
     default:
@@ -272,6 +273,11 @@ QModelIndex LayerTreeModel::IndexOfNumber(int number) const
 const QString& LayerTreeModel::TextAt(const QModelIndex& index) const
 {
     return IsGroup(index) ? m_groups[size_t(index.row())].text : m_layers[size_t(NumberOf(index))].text;
+}
+
+bool LayerTreeModel::IsFaulty(const QModelIndex& index) const
+{
+    return IsGroup(index) ? m_groups[size_t(index.row())].faulty : m_layers[size_t(NumberOf(index))].faulty;
 }
 
 const std::vector<LayerTreeModel::LayerNumber>& LayerTreeModel::ByLayerID() const

@@ -76,6 +76,7 @@ private:
         int firstLayer = 0; ///< index into m_layers
         int layerCount = 0;
         QString text;
+        bool faulty = false;
     };
 
     struct LayerNumber {
@@ -89,6 +90,7 @@ private:
     int GroupOfNumber(int number) const;
     QModelIndex IndexOfLayer(const NodeReference& node) const;
     const QString& TextAt(const QModelIndex& index) const;
+    bool IsFaulty(const QModelIndex& index) const;
 
     const std::vector<LayerNumber>& ByLayerID() const;
     using LayerNumbers = std::vector<LayerNumber>::const_iterator;

@@ -27,19 +27,17 @@ namespace Orvane {
 
 namespace {
 
-std::vector<GroupEntry> ReadGroups()
+TreeReading ReadGroups()
 {
     const BusyPointer busy;
-    return WithColumnTexts([] {
-        return LoadLayerTree(
-            Client(), std::nullopt, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
-    });
+    return LoadLayerTree(
+        Client(), std::nullopt, {TranslateMsg("ERROR: Group not Found"), TranslateMsg("<No Name>")});
 }
 
-std::vector<LayerEntry> ReadLayers(const IStyleFilter* filter)
+ListReading ReadLayers(const IStyleFilter* filter)
 {
     const BusyPointer busy;
-    return WithColumnTexts([filter] { return ReloadLayerList(Client(), filter); });
+    return ReloadLayerList(Client(), filter);
 }
 
 bool Holds(const std::vector<LayerEntry>& layers, qint32 layerID)
@@ -129,25 +127,36 @@ void LayerTrees::DropNameEdit()
 void LayerTrees::LoadGroups()
 {
     const std::optional<NodeReference> current = m_groups->CurrentNode();
-    std::vector<GroupEntry> groups = ReadGroups();
-    if (Loses(List::Groups, !current || Holds(groups, *current))) {
+    TreeReading reading = ReadGroups();
+    if (Loses(List::Groups, !current || Holds(reading.groups, *current))) {
         if (!AskAboutChanges())
             return;
-        groups = ReadGroups();
+        reading = ReadGroups();
     }
-    Replace(List::Groups, [&] { m_groups->ShowGroups(std::move(groups)); });
+    ReportFault(List::Groups, reading.fault);
+    Replace(List::Groups, [&] { m_groups->ShowGroups(std::move(reading.groups)); });
 }
 
 void LayerTrees::LoadLayers()
 {
     const std::optional<NodeReference> current = m_layers->CurrentNode();
-    std::vector<LayerEntry> layers = ReadLayers(m_filter);
-    if (Loses(List::Layers, !current || Holds(layers, current->layerID))) {
+    ListReading reading = ReadLayers(m_filter);
+    if (Loses(List::Layers, !current || Holds(reading.layers, current->layerID))) {
         if (!AskAboutChanges())
             return;
-        layers = ReadLayers(m_filter);
+        reading = ReadLayers(m_filter);
     }
-    Replace(List::Layers, [&] { m_layers->ShowLayers(std::move(layers)); });
+    ReportFault(List::Layers, reading.fault);
+    Replace(List::Layers, [&] { m_layers->ShowLayers(std::move(reading.layers)); });
+}
+
+// After the event: the list is shown then, and the host may have called.
+void LayerTrees::ReportFault(List list, const std::optional<ColumnError>& fault)
+{
+    if (!fault)
+        return;
+    const RunTimeError error(fault->Number(), TextOf(*fault), fault->Source());
+    ReportAfterEvent(this, &At(list).View(), std::make_exception_ptr(error));
 }
 
 // A current node that exists but is no longer in the list can still take its pending changes.
@@ -297,8 +306,7 @@ void LayerTrees::ShowLayer(qint32 layerID)
     EnsureLoaded(List::Layers);
     if (!self)
         return;
-    const std::optional<LayerEntry> layer
-        = WithColumnTexts([layerID] { return ReadOneLayer(Client(), layerID); });
+    const std::optional<LayerEntry> layer = ReadOneLayer(Client(), layerID);
     if (!layer)
         return;
     const NodeReference node{.isGroup = false, .groupID = 0, .layerID = layerID, .image = layer->quickMode};

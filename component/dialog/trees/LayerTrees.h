@@ -17,6 +17,7 @@ class QTreeView;
 
 namespace Orvane {
 
+class ColumnError;
 class IStyleFilter;
 class LayerTreeList;
 
@@ -61,9 +62,11 @@ public:
     /// Drops an open edit of a name, and a name that was entered and not stored yet.
     void DropNameEdit();
 
-    /// Reads the groups and their layers again. If it raises, the old nodes stay.
+    /// Reads the groups and their layers again. If it raises, the old nodes stay. A value that cannot be read
+    /// does not raise: what can be listed is listed, and the first such value is shown to the user after the
+    /// current event.
     void LoadGroups();
-    /// Reads the flat list again, through the filter. If it raises, the old nodes stay.
+    /// Reads the flat list again, through the filter, as LoadGroups does.
     void LoadLayers();
     void Load(List list);
     /// Loads the list if it has no nodes or is stale.
@@ -127,6 +130,7 @@ private:
     void MoveByUser(LayerTreeList& list, const NodeReference& node);
     bool MoveTo(LayerTreeList& list, const NodeReference& node);
     bool AskAboutChanges();
+    void ReportFault(List list, const std::optional<ColumnError>& fault);
     bool Loses(List list, bool kept) const;
     void Replace(List list, const std::function<void()>& fill);
     void RenameByUser(const NodeReference& node, const QString& name);

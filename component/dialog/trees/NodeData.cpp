@@ -28,6 +28,12 @@ QString MarksExplained(const QString& text)
     return lines;
 }
 
+QString FaultText(const NodeReference& node)
+{
+    return node.isGroup ? TranslateMsg("A value of this group cannot be read.")
+                        : TranslateMsg("A value of this layer cannot be read.");
+}
+
 } // namespace
 
 QVariant NodeData(const NodeReference& node, int role)
@@ -66,11 +72,13 @@ QString QuickModeText(qint16 quickMode)
     }
 }
 
-QString NodeToolTip(const QString& text, const NodeReference& node)
+QString NodeToolTip(const QString& text, const NodeReference& node, bool faulty)
 {
     // A plain text must not be taken for rich text because of a "<" in a name.
     const QString name = NameInText(text, LongestToolTip).toHtmlEscaped();
-    const QString marks = node.isGroup ? QString() : MarksExplained(text);
+    QString marks = node.isGroup ? QString() : MarksExplained(text);
+    if (faulty)
+        marks += QLatin1String("<br>") + FaultText(node).toHtmlEscaped();
     return QStringLiteral("<qt>%1<br>%2%3</qt>").arg(name, QuickModeText(node.image), marks);
 }
 

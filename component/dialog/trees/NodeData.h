@@ -15,7 +15,7 @@ QVariant NodeData(const NodeReference& node, int role);
 QString QuickModeText(qint16 quickMode);
 
 /// The node's full text, which a narrow tree cuts off, its quick mode, which the image shows, and what the
-/// marks in a layer's name mean.
-QString NodeToolTip(const QString& text, const NodeReference& node);
+/// marks in a layer's name mean. faulty: a last line says that a value of the node cannot be read.
+QString NodeToolTip(const QString& text, const NodeReference& node, bool faulty = false);
 
 } // namespace Orvane

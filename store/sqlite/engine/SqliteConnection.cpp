@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/engine/SqliteConnection.h"
 
+#include "store/sqlite/engine/RegularFiles.h"
+
 #include <QFileInfo>
 #include <QUrl>
 
+#include <array>
 #include <sqlite3.h>
+#include <utility>
 
 namespace Orvane {
 
@@ -36,6 +40,28 @@ void Harden(sqlite3* handle)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+    // Those that this program makes as temporary ones still work.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+}
+
+// Far above what any statement here needs, far below what a crafted schema could use.
+void Limit(sqlite3* handle)
+{
+    constexpr std::array limits = {
+        std::pair(SQLITE_LIMIT_SQL_LENGTH, 1'000'000), // bytes
+        std::pair(SQLITE_LIMIT_COLUMN, 500),
+        std::pair(SQLITE_LIMIT_EXPR_DEPTH, 200),
+        std::pair(SQLITE_LIMIT_COMPOUND_SELECT, 50),
+        std::pair(SQLITE_LIMIT_VDBE_OP, 250'000),
+        std::pair(SQLITE_LIMIT_ATTACHED, 1), // a copy is made through one
+        std::pair(SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000), // bytes
+        std::pair(SQLITE_LIMIT_VARIABLE_NUMBER, 1000),
+        std::pair(SQLITE_LIMIT_TRIGGER_DEPTH, 100), // removing what refers to a row counts too
+        std::pair(SQLITE_LIMIT_WORKER_THREADS, 0),
+    };
+    for (const auto& [limit, most] : limits)
+        sqlite3_limit(handle, limit, most);
 }
 
 int TellListener(unsigned, void* listener, void*, void* sql)
@@ -60,6 +86,8 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
     : m_path(path), m_access(access), m_errors(options.shownPath.isEmpty() ? path : options.shownPath),
       m_patience(options.busyTimeout)
 {
+    if (!path.isEmpty())
+        RequireRegularFiles(path, m_errors);
     sqlite3* handle = nullptr;
     const int result
         = sqlite3_open_v2(OpenName(path, access).constData(), &handle, OpenFlags(access), nullptr);
@@ -68,6 +96,8 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
         Raise(result);
     m_patience.Attach(handle);
     Harden(handle);
+    Limit(handle);
+    Run("PRAGMA cell_size_check = ON");
     if (access == Access::QueryOnly)
         Run("PRAGMA query_only = ON");
 }

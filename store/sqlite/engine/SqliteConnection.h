@@ -16,6 +16,9 @@ struct sqlite3;
 namespace Orvane {
 
 /// One open SQLite database. Closes it when destroyed; destroy everything that was created with it first.
+///
+/// The file may come from an unknown source. Triggers in it do not run, views in it cannot be read (temporary
+/// ones can be used), and the size of statements is limited.
 class SqliteConnection
 {
 public:
@@ -28,7 +31,8 @@ public:
         Immutable, ///< takes no lock and creates no extra file: only while no other program writes
     };
 
-    /// Opens the file, which must exist, or a new database in memory when path is empty.
+    /// Opens the file, which must exist, or a new database in memory when path is empty. Raises
+    /// DatabaseFailure if the file or a journal of it is not a regular file.
     SqliteConnection(const QString& path, Access access, const StoreOptions& options);
     ~SqliteConnection();
     SqliteConnection(const SqliteConnection&) = delete;

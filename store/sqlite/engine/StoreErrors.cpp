@@ -57,6 +57,8 @@ RunTimeError StoreErrors::FromSqlite(int resultCode, const char* message) const
         return Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
     case SQLITE_READONLY:
         return Error(ErrorNumber::DatabaseReadOnly, StoreTexts::ReadOnly);
+    case SQLITE_INTERRUPT: // by TimeBound alone
+        return Failure(StoreTexts::TooLong);
     case SQLITE_FULL:
         return Failure(StoreTexts::DiskFull);
     case SQLITE_CANTOPEN:

@@ -5,6 +5,7 @@
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/NewLayerFile.h"
+#include "store/sqlite/files/PlainTables.h"
 
 namespace Orvane {
 
@@ -13,6 +14,7 @@ void CopyLayerFile(const QString& from, const QString& to)
     const StoreOptions options;
     SqliteConnection connection(from, CheckLayerFile(from, OpenMode::ReadOnly, options), options);
     LayerSchema::CheckVersion(connection);
+    RequirePlainTables(connection);
     LayerSchema::Check(connection);
     // SQLite treats a copy as a write, although it does not change this file.
     connection.Run("PRAGMA query_only = OFF");

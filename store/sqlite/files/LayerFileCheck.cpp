@@ -3,7 +3,9 @@
 
 #include "store/StoreTexts.h"
 #include "store/sqlite/files/LayerFileJournals.h"
+#include "store/sqlite/engine/TimeBound.h"
 #include "store/sqlite/files/LayerSchema.h"
+#include "store/sqlite/files/PlainTables.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,6 +17,7 @@ namespace {
 
 constexpr qint64 HeaderSize = 100;
 constexpr auto Magic = "SQLite format 3";
+constexpr std::chrono::seconds LongestCheck{60}; // reads some gigabytes
 
 // Offsets of the big-endian numbers in the file header.
 enum HeaderOffset {
@@ -70,8 +73,10 @@ void CheckLength(const QString& path, const QByteArray& header, const StoreError
 void CheckContent(const QString& path, const StoreErrors& errors, const StoreOptions& options)
 {
     SqliteConnection connection(path, SqliteConnection::Access::Immutable, options);
+    const TimeBound bound(connection, LongestCheck);
     if (connection.Text("PRAGMA quick_check(1)") != QLatin1String("ok"))
         throw errors.Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
+    RequirePlainTables(connection);
     if (connection.Number("PRAGMA user_version") > 0)
         LayerSchema::Check(connection);
 }

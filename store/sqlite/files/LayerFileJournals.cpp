@@ -34,8 +34,9 @@ void Absorb(const QString& path)
 
 bool HasJournal(const QString& path)
 {
+    const QString real = QFileInfo(path).canonicalFilePath(); // journals are where a link leads
     const auto hasContent
-        = [&path](const char* suffix) { return QFileInfo(path + QLatin1String(suffix)).size() > 0; };
+        = [&real](const char* suffix) { return QFileInfo(real + QLatin1String(suffix)).size() > 0; };
     return hasContent(Log) || hasContent(RollbackJournal);
 }
 

@@ -73,8 +73,8 @@ FindDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredRefe
 void RemoveDanglingRows(SqliteLayerDatabase& database, const std::vector<UndeclaredReference>& undeclared)
 {
     database.Execute(QStringLiteral("PRAGMA defer_foreign_keys = ON")); // until the transaction ends
-    // Each round may create new dangling rows. The number of rounds is limited, because a trigger may keep
-    // rows for ever.
+    // Each round may create new dangling rows. The number of rounds is limited, because a file of
+    // unknown source may refer in circles.
     for (int round = 0; round < MostRounds; ++round) {
         const std::vector<DanglingRows> dangling = FindDanglingRows(database, undeclared);
         if (dangling.empty())

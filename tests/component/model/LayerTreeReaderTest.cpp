@@ -22,12 +22,12 @@ namespace {
 
 const TreeTexts texts{QStringLiteral("not found"), QStringLiteral("no name")};
 
-class TreeReading : public testing::Test
+class ReadingOfTrees : public testing::Test
 {
 protected:
     std::vector<GroupEntry> Tree(const std::optional<QString>& groupFilter = std::nullopt)
     {
-        return LoadLayerTree(host, groupFilter, texts);
+        return LoadLayerTree(host, groupFilter, texts).groups;
     }
 
     /// The tree as lines "group: layer layer".
@@ -46,7 +46,7 @@ protected:
     QStringList ListNames(const IStyleFilter* filter = nullptr)
     {
         QStringList names;
-        for (const LayerEntry& layer : ReloadLayerList(host, filter))
+        for (const LayerEntry& layer : ReloadLayerList(host, filter).layers)
             names.append(layer.text);
         return names;
     }
@@ -60,9 +60,9 @@ protected:
     MemoryHost host;
 };
 
-using GroupsTree = TreeReading;
-using LayerList = TreeReading;
-using OneLayer = TreeReading;
+using GroupsTree = ReadingOfTrees;
+using LayerList = ReadingOfTrees;
+using OneLayer = ReadingOfTrees;
 
 /// Shows the layers with one of the two flags and records the calls.
 class PseudoFilter : public IStyleFilter
@@ -175,7 +175,7 @@ TEST_F(GroupsTree, AGroupThatIsNotFoundHasTheTextForThatAndIsCollapsed)
     AddLayers({{1, "a"}});
     host.AddGroup({.id = 10, .expanded = true, .members = {1}});
     PatchingClient client(host, {{"GroupID", qint32(404)}});
-    const auto tree = LoadLayerTree(client, std::nullopt, texts);
+    const auto tree = LoadLayerTree(client, std::nullopt, texts).groups;
     ASSERT_EQ(tree.size(), 1U);
     EXPECT_EQ(tree[0].groupID, 404);
     EXPECT_EQ(tree[0].text, "not found");
@@ -252,15 +252,62 @@ TEST_F(GroupsTree, AnErrorOfTheHostIsPassedOnUnchanged)
     EXPECT_EQ(error->Source(), "host");
 }
 
-TEST_F(GroupsTree, ATextInAnIDRaisesTypeMismatch)
+TEST_F(GroupsTree, ARowWhoseIDCannotBeReadIsLeftOutAndItsFaultKept)
 {
     AddLayers({{1, "a"}});
     host.AddGroup({.id = 10, .members = {1}});
-    for (const char* column : {"GroupID", "LayerID", "OverrideMode", "Code"}) {
-        PatchingClient client(host, {{column, QStringLiteral("x")}});
-        const int number = ErrorNumberOf([&] { LoadLayerTree(client, std::nullopt, texts); });
-        EXPECT_EQ(number, typeMismatchError) << column;
+    for (const char* column : {"GroupID", "LayerID"}) {
+        for (const Value& value : {Value(QStringLiteral("x")), Value(2147483648.0)}) {
+            PatchingClient client(host, {{column, value}});
+            const TreeReading reading = LoadLayerTree(client, std::nullopt, texts);
+            EXPECT_THAT(reading.groups, IsEmpty()) << column;
+            ASSERT_TRUE(reading.fault) << column;
+            EXPECT_EQ(reading.fault->ColumnName(), column);
+        }
     }
+}
+
+TEST_F(GroupsTree, ALayerWithABadCodeOrModeIsListedAndMarked)
+{
+    AddLayers({{1, "a"}, {2, "b"}, {3, "c"}});
+    host.AddGroup({.id = 10, .name = "g", .members = {1, 2, 3}});
+    host.SetLayerColumn(1, "Code", QStringLiteral("x"));
+    host.SetLayerColumn(2, "OverrideMode", QStringLiteral("y"));
+    const TreeReading reading = LoadLayerTree(host, std::nullopt, texts);
+    ASSERT_EQ(reading.groups.size(), 1U);
+    const std::vector<LayerEntry>& layers = reading.groups[0].layers;
+    ASSERT_EQ(layers.size(), 3U);
+    EXPECT_EQ(layers[0].text, "a");
+    EXPECT_TRUE(layers[0].faulty);
+    EXPECT_TRUE(layers[1].faulty);
+    EXPECT_EQ(layers[1].quickMode, QuickMode::Normal);
+    EXPECT_FALSE(layers[2].faulty);
+    EXPECT_FALSE(reading.groups[0].faulty);
+    ASSERT_TRUE(reading.fault);
+    EXPECT_EQ(reading.fault->Description(), "a: Code 'x' is not a number.");
+}
+
+TEST_F(GroupsTree, AGroupWithABadValueIsListedCollapsedAndMarked)
+{
+    AddLayers({{1, "a"}});
+    host.AddGroup({.id = 10, .name = "g", .expanded = true, .members = {1}});
+    host.SetGroupColumn(10, "Expanded", QStringLiteral("x"));
+    const TreeReading reading = LoadLayerTree(host, std::nullopt, texts);
+    ASSERT_EQ(reading.groups.size(), 1U);
+    EXPECT_EQ(reading.groups[0].text, "g");
+    EXPECT_FALSE(reading.groups[0].expanded);
+    EXPECT_TRUE(reading.groups[0].faulty);
+    EXPECT_FALSE(reading.groups[0].layers[0].faulty);
+    ASSERT_TRUE(reading.fault);
+    EXPECT_EQ(reading.fault->ColumnName(), "Expanded");
+}
+
+TEST_F(GroupsTree, WithoutAFaultNoneIsTold)
+{
+    AddLayers({{1, "a"}});
+    host.AddGroup({.id = 10, .members = {1}});
+    EXPECT_FALSE(LoadLayerTree(host, std::nullopt, texts).fault);
+    EXPECT_FALSE(ReloadLayerList(host, nullptr).fault);
 }
 
 TEST_F(LayerList, GoesByName)
@@ -306,7 +353,7 @@ TEST_F(LayerList, ALayerThatTheFilterHidesIsNotAskedForItsName)
 TEST_F(LayerList, CarriesIDsModesAndDecoratedNames)
 {
     host.AddLayer({.id = 17, .name = "Roads (suppressed)", .overrideMode = 1});
-    const auto layers = ReloadLayerList(host, nullptr);
+    const auto layers = ReloadLayerList(host, nullptr).layers;
     ASSERT_EQ(layers.size(), 1U);
     EXPECT_EQ(layers[0].layerID, 17);
     EXPECT_EQ(layers[0].quickMode, 2);
@@ -317,7 +364,43 @@ TEST_F(LayerList, OnlyNeededColumnsAreRead)
 {
     AddLayers({{1, "a"}});
     ListNames();
-    EXPECT_THAT(host.Log().Of(CallKind::Read), ElementsAre("Field(LayerID)", "Field(OverrideMode)"));
+    EXPECT_THAT(
+        host.Log().Of(CallKind::Read), ElementsAre("Field(LayerID)", "Field(Code)", "Field(OverrideMode)"));
+}
+
+TEST_F(LayerList, ALayerWithABadValueIsListedAndMarked)
+{
+    AddLayers({{1, "a"}, {2, "b"}, {3, "c"}});
+    host.SetLayerColumn(1, "Code", QStringLiteral("x"));
+    host.SetLayerColumn(2, "Pseudo", QStringLiteral("y"));
+    const PseudoFilter filter(false);
+    const ListReading reading = ReloadLayerList(host, &filter);
+    ASSERT_EQ(reading.layers.size(), 3U);
+    EXPECT_TRUE(reading.layers[0].faulty);
+    EXPECT_TRUE(reading.layers[1].faulty);
+    EXPECT_FALSE(reading.layers[2].faulty);
+    ASSERT_TRUE(reading.fault);
+    EXPECT_EQ(reading.fault->ColumnName(), "Code");
+}
+
+TEST_F(LayerList, ALayerWhoseIDIsBeyond32BitsIsLeftOut)
+{
+    AddLayers({{1, "a"}, {2, "b"}});
+    PatchingClient client(host, {{"LayerID", 2147483648.0}});
+    const ListReading reading = ReloadLayerList(client, nullptr);
+    EXPECT_THAT(reading.layers, IsEmpty());
+    ASSERT_TRUE(reading.fault);
+    EXPECT_EQ(reading.fault->Number(), int(ErrorNumber::Overflow));
+}
+
+TEST_F(OneLayer, WithABadModeIsMarked)
+{
+    host.AddLayer({.id = 17, .name = "Roads"});
+    host.SetLayerColumn(17, "OverrideMode", QStringLiteral("x"));
+    const auto layer = ReadOneLayer(host, 17);
+    ASSERT_TRUE(layer);
+    EXPECT_TRUE(layer->faulty);
+    EXPECT_EQ(layer->text, "Roads");
 }
 
 TEST_F(OneLayer, IsReadByItsOwnQuery)

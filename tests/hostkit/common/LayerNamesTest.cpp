@@ -29,6 +29,14 @@ TEST_F(Names, AreNotReadBeforeTheFirstQuestion)
     EXPECT_EQ(m_names.Name(1), QStringLiteral("Layer 1")); // the stored name is used
 }
 
+TEST_F(Names, AreReadAlthoughALayerHasAnIDBeyond32Bits)
+{
+    AddLayers(2);
+    Database().Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (2147483648, 'far')"));
+    EXPECT_EQ(m_names.Name(2), QStringLiteral("Layer 2"));
+    EXPECT_EQ(m_names.All().size(), 2);
+}
+
 TEST_F(Names, OfAMissingLayerAreEmpty)
 {
     AddLayers(1);

@@ -52,6 +52,15 @@ TEST_F(LayerRowTest, ARowCanBeCopied)
     EXPECT_THAT(Get(2, "Code"), IsNumber(5));
 }
 
+TEST_F(LayerRowTest, AnotherRowsBadValuesDoNotPreventANewOne)
+{
+    AddLayer(41, QStringLiteral("Roads"), 0);
+    AddLayer(42, QStringLiteral("Rivers"), QStringLiteral("x"));
+    Database().Execute(QStringLiteral("INSERT INTO Layers (LayerID, Code) VALUES (2147483648, 2)"));
+    EXPECT_EQ(LayerRow::LowestFreeCode(Database()), 1);
+    EXPECT_EQ(LayerRow().StoreNew(Database()), 43);
+}
+
 TEST_F(LayerRowTest, CodesBeyondTheirRangeLeaveTheLowOnesFree)
 {
     AddLayer(1, QStringLiteral("Far"), 1e12);

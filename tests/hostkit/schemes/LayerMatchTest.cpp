@@ -47,6 +47,21 @@ TEST_F(Matching, GoesByNameWhereACodeIsNotOneLayersAlone)
     EXPECT_EQ(Found(), (Matches{{2, 5}}));
 }
 
+TEST_F(Matching, TakesACodeThatIsATextForNone)
+{
+    There(1, "Roads", QStringLiteral("x"));
+    Here(5, "Roads", 11);
+    EXPECT_EQ(Found(), (Matches{{1, 5}}));
+}
+
+TEST_F(Matching, LeavesALayerWithAnIDBeyond32BitsOut)
+{
+    There(1, "Roads", 10);
+    Here(5, "Roads", 10);
+    Database().Execute(QStringLiteral("INSERT INTO Layers (LayerID, Code) VALUES (2147483648, 10)"));
+    EXPECT_EQ(Found(), (Matches{{1, 5}}));
+}
+
 TEST_F(Matching, TakesNegativeAndMissingCodesForNone)
 {
     There(1, "Roads", -1);

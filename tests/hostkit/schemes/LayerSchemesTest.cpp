@@ -269,8 +269,9 @@ TEST_F(Schemes, ALoadThatFailsChangesNothing)
     m_schemes.Names();
     m_schemes.Create(Night);
     Database().Execute(QStringLiteral("UPDATE Layers SET Color = 5"));
-    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE UPDATE ON Layers WHEN OLD.LayerID = 2"
-                                      " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    Database().Execute(
+        QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE UPDATE ON Layers WHEN OLD.LayerID = 2"
+                       " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
     EXPECT_EQ(ErrorOf([&] { m_schemes.Load(Standard); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_THAT(Hue(1), IsNumber(5));
     EXPECT_EQ(m_schemes.Current(), Night);
@@ -282,7 +283,7 @@ TEST_F(Schemes, ASaveThatFailsKeepsTheSavedValues)
     SetHue(1, 10);
     m_schemes.Names();
     SetHue(1, 20);
-    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
+    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
                                       " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
     EXPECT_EQ(ErrorOf([&] { m_schemes.Save(Standard); }), int(ErrorNumber::DatabaseFailure));
     m_schemes.Load(Standard);

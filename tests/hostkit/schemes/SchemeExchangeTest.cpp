@@ -149,7 +149,7 @@ TEST_F(Exchange, AnImportReplacesASchemeOfItsName)
 TEST_F(Exchange, AnImportThatFailsChangesNothing)
 {
     const SchemeDocument night = ExportNight();
-    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
+    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
                                       " WHEN NEW.LayerID = 2 BEGIN SELECT RAISE(ABORT, 'kept'); END"));
     EXPECT_EQ(ErrorOf([&] { SchemeExchange::Import(Database(), night); }), int(ErrorNumber::DatabaseFailure));
     Set(1, "Priority", 99);

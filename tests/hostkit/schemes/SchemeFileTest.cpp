@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace Orvane::Testing {
 namespace {
 
@@ -72,6 +74,13 @@ TEST_F(SchemeFiles, ThatAreMissingOrFoldersOrDamagedOrTooNewAreRefusedByName)
         const QString name = path.section(u'/', -1);
         EXPECT_TRUE(DescriptionOf([&] { SchemeFile::Read(path); }).contains(name)) << qPrintable(path);
     }
+}
+
+TEST_F(SchemeFiles, ThatArePipesAreNotWaitedFor)
+{
+    ASSERT_EQ(mkfifo(Path("pipe.json").toUtf8().constData(), 0600), 0);
+    EXPECT_EQ(ErrorIn(Path("pipe.json")), int(HostError::SchemeFileUnreadable));
+    EXPECT_TRUE(DescriptionOf([&] { SchemeFile::Read(Path("pipe.json")); }).contains("pipe.json"));
 }
 
 TEST_F(SchemeFiles, ThatAreHugeAreRefusedUnread)

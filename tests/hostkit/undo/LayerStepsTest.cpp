@@ -82,7 +82,7 @@ TEST_F(Steps, WhatChangesNothingIsNone)
 
 TEST_F(Steps, WhatFailsIsNone)
 {
-    Database().Execute(QStringLiteral("CREATE TRIGGER Refuse BEFORE DELETE ON Layers"
+    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
                                       " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
     EXPECT_NE(ErrorOf([&] { Host().DeleteLayer(1); }), 0);
     EXPECT_NE(ErrorOf([&] { Host().LoadScheme(QStringLiteral("nowhere")); }), 0);

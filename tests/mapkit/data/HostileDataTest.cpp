@@ -3,8 +3,13 @@
 #include "mapkit/DataFolder.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/SourceEditor.h"
+#include "mapkit/data/SourceReader.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+
+#include <QDir>
 
 #include <cerrno>
 #include <cmath>
@@ -218,6 +223,30 @@ TEST_F(HostileDataTest, APipeIsNotWaitedFor)
     const QString path = m_folder.Path("pipe");
     ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
     EXPECT_FALSE(Features(path).has_value());
+}
+
+TEST_F(HostileDataTest, APipeThatAccompaniesAFileIsNotWaitedFor)
+{
+    const QString path = m_folder.WriteSquare("roads.geojson");
+    EXPECT_TRUE(Features(path).has_value());
+    ASSERT_EQ(mkfifo(m_folder.Path("roads.dbf").toUtf8().constData(), 0600), 0);
+    EXPECT_FALSE(Features(path).has_value());
+    EXPECT_TRUE(WhyNotOpened(path).contains("roads.dbf"));
+}
+
+TEST_F(HostileDataTest, APipeInAFolderIsNotWaitedFor)
+{
+    ASSERT_TRUE(QDir().mkpath(m_folder.Path("folder")));
+    EXPECT_TRUE(WhyNotOpened(m_folder.Path("folder")).isEmpty());
+    ASSERT_EQ(mkfifo(m_folder.Path("folder/roads.shp").toUtf8().constData(), 0600), 0);
+    EXPECT_TRUE(WhyNotOpened(m_folder.Path("folder")).contains("roads.shp"));
+}
+
+TEST_F(HostileDataTest, APipeIsNotWaitedForWhenItIsToBeChanged)
+{
+    const QString path = m_folder.Path("pipe");
+    ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
+    EXPECT_THROW(SourceEditor({1, path, "pipe", {}}), RunTimeError);
 }
 
 TEST_F(HostileDataTest, CoordinatesThatAreNoNumbersAreLeftOut)

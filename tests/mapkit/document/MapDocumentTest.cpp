@@ -94,6 +94,16 @@ TEST_F(MapDocumentTest, ALayerKeepsWhatItBeganWith)
     EXPECT_EQ(ToInt32(row->Field("MaxVisScale")), 0);
 }
 
+TEST_F(MapDocumentTest, ASourceWithAnIDBeyond32BitsHidesNoOther)
+{
+    const auto document = MapDocument::Untitled();
+    document->AddLayer(LayerOf("/data/roads.gpkg"));
+    document->Database().Execute("INSERT INTO Layers (LayerID) VALUES (2147483648)");
+    document->Database().Execute(
+        "INSERT INTO LayerSources (LayerID, Path, OgrLayer) VALUES (2147483648, 'a', 'a')");
+    EXPECT_EQ(document->Sources().size(), 1u);
+}
+
 TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
 {
     const auto document = MapDocument::Untitled();

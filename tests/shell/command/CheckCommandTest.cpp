@@ -49,6 +49,17 @@ TEST_F(CheckCommandTest, RepairedProblemsAreGone)
     EXPECT_EQ(Run({"check", map}), ExitCode::Done) << m_out.toStdString();
 }
 
+TEST_F(CheckCommandTest, ARepairListsTheValuesThatItReplaced)
+{
+    const QString map = MakeMap("map.orvane");
+    MapDocument::Open(map)->Database().Execute("UPDATE Layers SET Code = 'red'");
+    EXPECT_EQ(Run({"check", map}), ExitCode::Problems);
+    EXPECT_TRUE(m_out.contains("red")) << m_out.toStdString();
+    EXPECT_EQ(Run({"check", map, "--repair"}), ExitCode::Done) << m_out.toStdString();
+    EXPECT_TRUE(m_out.contains("red")) << m_out.toStdString();
+    EXPECT_EQ(Run({"check", map}), ExitCode::Done) << m_out.toStdString();
+}
+
 TEST_F(CheckCommandTest, WhatCannotBeMendedIsToldAfterARepair)
 {
     const QString map = MakeMap("map.orvane");

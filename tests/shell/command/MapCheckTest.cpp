@@ -6,7 +6,9 @@
 #include "mapkit/RasterFile.h"
 #include "mapkit/RawDatabase.h"
 #include "mapkit/document/MapDocument.h"
+#include "shell/map/MapThemes.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/sqlite/files/PlainTables.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -147,6 +149,88 @@ TEST_F(MapCheckTest, AnIndexThatDoesNotMatchItsTableIsMended)
     EXPECT_EQ(problems[0].kind, Kind::Damage);
     EXPECT_TRUE(problems[0].repairable);
     EXPECT_TRUE(RepairMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, ABadValueIsNamedWithItsLayerAndColumn)
+{
+    RawDatabase(m_map).Run("UPDATE Layers SET Code = 'red' WHERE LayerID = 2");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::BadValue));
+    EXPECT_TRUE(problems[0].repairable);
+    for (const char* word : {"Layers", "\"b\"", "Code", "red"})
+        EXPECT_TRUE(problems[0].text.contains(word)) << problems[0].text.toStdString();
+}
+
+TEST_F(MapCheckTest, BadValuesOfSchemesAreFoundToo)
+{
+    RawDatabase(m_map).Run(
+        "UPDATE LayerSchemeValues SET Priority = x'00' WHERE LayerID = 1 AND SchemeID = 1");
+    RawDatabase(m_map).Run("UPDATE LayerSchemes SET IsCurrent = 'no' WHERE SchemeID = 1");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    EXPECT_THAT(Kinds(problems), testing::ElementsAre(Kind::BadValue, Kind::BadValue));
+    EXPECT_TRUE(problems[1].text.contains("\"a\""));
+    EXPECT_TRUE(RepairMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, RepairReplacesBadValuesAndSaysSo)
+{
+    RawDatabase(m_map).Run("UPDATE Layers SET Visible = 'red', Priority = 99999999999 WHERE LayerID = 2");
+    QStringList replaced;
+    EXPECT_TRUE(RepairMap(m_map, &replaced).empty());
+    ASSERT_EQ(replaced.size(), 2);
+    EXPECT_TRUE(replaced[0].contains("Visible") && replaced[0].contains("red"));
+    EXPECT_TRUE(replaced[1].contains("99999999999"));
+    EXPECT_EQ(Count("Layers WHERE Visible = 1"), 2);
+}
+
+TEST_F(MapCheckTest, AnIDBeyond32BitsIsNamedAndStays)
+{
+    RawDatabase(m_map).Run("INSERT INTO Layers (LayerID, Name) VALUES (2147483648, 'far')");
+    const std::vector<MapProblem> problems = RepairMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::BadValue));
+    EXPECT_TRUE(problems[0].text.contains("2147483648"));
+    EXPECT_FALSE(problems[0].repairable);
+    EXPECT_EQ(Count("Layers"), 3);
+}
+
+TEST_F(MapCheckTest, ControlCharactersInAValueDoNotReachTheTerminal)
+{
+    RawDatabase(m_map).Run(
+        "UPDATE Layers SET Name = 'a' || char(27) || '[2J', Code = char(27) WHERE LayerID = 1");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_FALSE(problems[0].text.contains(QChar(27)));
+}
+
+TEST_F(MapCheckTest, ManyBadValuesAreCounted)
+{
+    RawDatabase(m_map).Run("WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100)"
+                           " INSERT INTO Layers (Name, Code) SELECT 'many', 'x' FROM n");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    EXPECT_LT(problems.size(), 40u);
+    EXPECT_THAT(Kinds(problems), testing::Each(Kind::BadValue));
+    EXPECT_TRUE(problems.back().text.contains("more"));
+    EXPECT_TRUE(RepairMap(m_map).empty());
+}
+
+TEST_F(MapCheckTest, AMapWhoseTablesRunCodeIsAnError)
+{
+    RawDatabase(m_map).Run("DROP TABLE LayerSources; CREATE VIEW LayerSources AS WITH RECURSIVE n (i) AS"
+                           " (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i AS LayerID FROM n");
+    EXPECT_THROW(CheckMap(m_map), RunTimeError);
+    EXPECT_THROW(RepairMap(m_map), RunTimeError);
+}
+
+TEST_F(MapCheckTest, EveryTableOfAMapIsKnownToTheCheckBeforeOpening)
+{
+    const auto document = MapDocument::Open(m_map);
+    MapThemes(document->Database()).StoreVisibleLayers("Theme");
+    const auto tables = document->Database().OpenQuery(
+        "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
+    for (; !tables->AtEOF(); tables->MoveNext()) {
+        const std::string name = ToText(tables->Field("name")).toStdString();
+        EXPECT_TRUE(std::count(PlainTableNames.begin(), PlainTableNames.end(), name)) << name;
+    }
 }
 
 TEST_F(MapCheckTest, MissingDataAreNamedOnceAndStay)

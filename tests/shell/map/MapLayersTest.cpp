@@ -57,6 +57,21 @@ TEST_F(MapLayersTest, ReadsWhatARowSaysOfDrawing)
     EXPECT_EQ(First().maxDenominator, 2500);
 }
 
+TEST_F(MapLayersTest, AValueThatIsNoNumberCountsAsUnknownAndHidesNoLayer)
+{
+    Change(
+        "Color = 'red', LineThickness = 99999999999, OverrideMode = 'x', Visible = 'no', MinVisScale = 'y'");
+    m_document->Database().Execute("INSERT INTO Layers (LayerID) VALUES (2147483648)");
+    m_layers.ReadAll();
+    ASSERT_EQ(m_layers.All().size(), 2u);
+    EXPECT_EQ(First().name, "Roads");
+    EXPECT_EQ(First().values.color, 0);
+    EXPECT_EQ(First().values.lineThickness, 0);
+    EXPECT_EQ(First().mode, DrawMode::Normal);
+    EXPECT_TRUE(First().visible);
+    EXPECT_EQ(First().minDenominator, 0);
+}
+
 TEST_F(MapLayersTest, ReadsWhatARowSaysOfTheToolsOnTheMap)
 {
     EXPECT_EQ(First().name, "Roads");

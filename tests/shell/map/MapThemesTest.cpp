@@ -122,7 +122,7 @@ TEST_F(MapThemesTest, ALayerIsAddedOnce)
 TEST_F(MapThemesTest, AThemeThatCannotBeStoredChangesNothing)
 {
     const qint32 themeID = m_themes.StoreVisibleLayers("Water");
-    m_database->Execute("CREATE TRIGGER Refuse BEFORE INSERT ON ThemeLayers WHEN NEW.LayerID = 3"
+    m_database->Execute("CREATE TEMP TRIGGER Refuse BEFORE INSERT ON ThemeLayers WHEN NEW.LayerID = 3"
                         " BEGIN SELECT RAISE(ABORT, 'kept'); END");
     EXPECT_ANY_THROW(m_themes.StoreVisibleLayers("Water"));
     EXPECT_EQ(m_themes.LayersOf(themeID).size(), 3);

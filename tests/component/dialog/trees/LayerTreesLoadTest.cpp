@@ -2,6 +2,7 @@
 #include "component/dialog/trees/LayerTreesLoadFixture.h"
 #include "hosts/FailingClient.h"
 #include "hosts/PatchingClient.h"
+#include "support/MessageBoxRobot.h"
 
 #include <QSignalSpy>
 
@@ -129,6 +130,44 @@ TEST_F(LayerTreesLoadTest, ReadsAgainWhatTheAnswerMayHaveChanged)
     trees.SetFilter(&filter);
     trees.LoadLayers();
     EXPECT_EQ(ImageOf(layers, "Rivers"), "L4");
+}
+
+TEST_F(LayerTreesLoadTest, ABadValueIsToldOnceAndHidesNoNode)
+{
+    host.SetLayerColumn(11, "Code", QStringLiteral("x"));
+    host.SetLayerColumn(21, "OverrideMode", QStringLiteral("y"));
+    Testing::MessageBoxRobot user{Testing::BoxKey::Enter};
+    trees.LoadGroups();
+    EXPECT_TRUE(user.Boxes().empty()) << "the host is not kept waiting";
+    EXPECT_THAT(Lines(groups), ElementsAre("Transport", "Water", "  Rivers", "  Roads"));
+    Settle();
+    EXPECT_EQ(user.Only().text, "Roads: Code 'x' is not a number.");
+}
+
+TEST_F(LayerTreesLoadTest, ABadValueIsToldInTheToolTipOfItsNode)
+{
+    host.SetLayerColumn(11, "OverrideMode", QStringLiteral("x"));
+    host.SetGroupColumn(1, "Expanded", QStringLiteral("x"));
+    Testing::MessageBoxRobot user{Testing::BoxKey::Enter};
+    trees.LoadGroups();
+    Settle();
+    const auto tip = [](const QModelIndex& index) { return index.data(Qt::ToolTipRole).toString(); };
+    EXPECT_TRUE(tip(Node(groups, "Roads", "Water")).contains("A value of this layer cannot be read."));
+    EXPECT_FALSE(tip(Node(groups, "Rivers", "Water")).contains("cannot be read"));
+    EXPECT_TRUE(tip(Node(groups, "Transport")).contains("A value of this group cannot be read."));
+    EXPECT_FALSE(tip(Node(groups, "Water")).contains("cannot be read"));
+}
+
+TEST_F(LayerTreesLoadTest, AListReadAgainTellsItsBadValueAgain)
+{
+    host.SetLayerColumn(12, "OverrideMode", QStringLiteral("x"));
+    for (int reading = 0; reading < 2; ++reading) {
+        Testing::MessageBoxRobot user{Testing::BoxKey::Enter};
+        trees.LoadLayers();
+        Settle();
+        EXPECT_EQ(user.Only().text, "Rails: OverrideMode 'x' is not a number.");
+        EXPECT_THAT(Lines(layers), ElementsAre("Base", "Rails", "Rivers", "Roads"));
+    }
 }
 
 } // namespace Orvane

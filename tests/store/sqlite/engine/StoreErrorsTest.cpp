@@ -26,6 +26,7 @@ TEST(StoreErrors, EachKindOfResultHasItsNumber)
     EXPECT_EQ(NumberFor(SQLITE_NOTADB), int(ErrorNumber::NotALayerDatabase));
     EXPECT_EQ(NumberFor(SQLITE_READONLY), int(ErrorNumber::DatabaseReadOnly));
     EXPECT_EQ(NumberFor(SQLITE_FULL), int(ErrorNumber::DatabaseFailure));
+    EXPECT_EQ(NumberFor(SQLITE_INTERRUPT), int(ErrorNumber::DatabaseFailure));
     EXPECT_EQ(NumberFor(SQLITE_CANTOPEN), int(ErrorNumber::DatabaseFailure));
     EXPECT_EQ(NumberFor(SQLITE_CONSTRAINT), int(ErrorNumber::DatabaseFailure));
 }

@@ -8,6 +8,7 @@
 #include <QMap>
 
 #include <random>
+#include <sys/stat.h>
 
 namespace Orvane::Testing {
 
@@ -69,6 +70,42 @@ TEST_F(LayerFileCheck, AMissingFileIsNotMade)
 TEST_F(LayerFileCheck, ADirectoryIsRefused)
 {
     ExpectRefused(PathOf(QStringLiteral(".")), ErrorNumber::NotALayerDatabase);
+}
+
+TEST_F(LayerFileCheck, APipeIsRefusedAndNotWaitedFor)
+{
+    const QString path = PathOf(QStringLiteral("pipe.ovl"));
+    ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
+    for (const OpenMode mode : {OpenMode::ReadWrite, OpenMode::ReadOnly}) {
+        EXPECT_EQ(
+            ErrorOf([&] { SqliteLayerDatabase::Open(path, mode); }), int(ErrorNumber::NotALayerDatabase));
+    }
+}
+
+TEST_F(LayerFileCheck, APipeOrFolderInPlaceOfAJournalIsRefusedByName)
+{
+    const QString path = MadeFile();
+    for (const char* suffix : {"-journal", "-wal", "-shm"}) {
+        const QString beside = path + QLatin1String(suffix);
+        const auto open = [&] { SqliteLayerDatabase::Open(path, OpenMode::ReadWrite, Impatient()); };
+        ASSERT_EQ(mkfifo(beside.toUtf8().constData(), 0600), 0);
+        EXPECT_EQ(ErrorOf(open), int(ErrorNumber::DatabaseFailure)) << suffix;
+        EXPECT_TRUE(DescriptionOf(open).contains(QDir::toNativeSeparators(beside))) << suffix;
+        ASSERT_TRUE(QFile::remove(beside));
+        ASSERT_TRUE(QDir().mkpath(beside));
+        EXPECT_EQ(ErrorOf(open), int(ErrorNumber::DatabaseFailure)) << suffix;
+        ASSERT_TRUE(QDir().rmdir(beside));
+    }
+    EXPECT_EQ(NameOfLayer(*SqliteLayerDatabase::Open(path), 2), QStringLiteral("Layer 2"));
+}
+
+TEST_F(LayerFileCheck, JournalsAreSoughtWhereALinkLeads)
+{
+    const QString path = MadeFile();
+    const QString link = PathOf(QStringLiteral("link.ovl"));
+    ASSERT_TRUE(QFile::link(path, link));
+    ASSERT_EQ(mkfifo((path + QStringLiteral("-journal")).toUtf8().constData(), 0600), 0);
+    EXPECT_EQ(ErrorOf([&] { SqliteLayerDatabase::Open(link); }), int(ErrorNumber::DatabaseFailure));
 }
 
 TEST_F(LayerFileCheck, AnEmptyFileIsRefused)

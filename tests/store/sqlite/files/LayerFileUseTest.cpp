@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace Orvane {
 
@@ -77,6 +78,13 @@ TEST_F(LayerFileUseTest, WhatIsMissingOrNoLayerDatabaseIsNotInUse)
     text.close();
     EXPECT_FALSE(IsLayerFileInUse(Path("text")));
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList("text"));
+}
+
+TEST_F(LayerFileUseTest, APipeInPlaceOfAJournalIsNotWaitedFor)
+{
+    SqliteLayerDatabase::Create(Path("map"));
+    ASSERT_EQ(mkfifo(Path("map-journal").toUtf8().constData(), 0600), 0);
+    EXPECT_FALSE(IsLayerFileInUse(Path("map")));
 }
 
 } // namespace Orvane

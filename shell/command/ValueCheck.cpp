@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "shell/command/ValueCheck.h"
+
+#include "hostkit/schemes/SchemeColumns.h"
+#include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/sqlite/repair/BadValues.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Orvane {
+
+namespace {
+
+QString TranslateValueText(const char* text)
+{
+    return QCoreApplication::translate("MapCheck", text);
+}
+
+std::vector<ValueRule> AllRules()
+{
+    std::vector<ValueRule> rules = LayerValueRules();
+    const QString schemes = QStringLiteral("LayerSchemes");
+    const QString name = QStringLiteral("Name");
+    rules.push_back(WholeRule(schemes, QStringLiteral("SchemeID"), name, true));
+    rules.push_back(WholeRule(schemes, QStringLiteral("IsCurrent"), name));
+    const QString layerName = QStringLiteral("coalesce((SELECT nullif(Name, '') FROM Layers"
+                                             " WHERE Layers.LayerID = LayerSchemeValues.LayerID), LayerID)");
+    for (const LayerColumn& column : SchemeColumns::All)
+        rules.push_back(RuleOf(column, QStringLiteral("LayerSchemeValues"), layerName));
+    return rules;
+}
+
+// A terminal obeys control characters.
+QString Printable(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar character) { return !character.isPrint(); }, QLatin1Char('?'));
+    return text;
+}
+
+QString MoreText(qint64 count)
+{
+    return TranslateValueText(QT_TRANSLATE_NOOP("MapCheck", "... and %1 more values."))
+        .arg(QLocale().toString(count));
+}
+
+} // namespace
+
+std::vector<MapProblem> FindValueProblems(SqliteLayerDatabase& database)
+{
+    const std::vector<ValueRule> rules = AllRules();
+    const BadValues found = FindBadValues(database, rules, BadValueKind::All);
+    if (found.listed.empty())
+        return {};
+    const bool repairable = !FindBadValues(database, rules, BadValueKind::Repairable).listed.empty();
+    const QString text = TranslateValueText(
+        QT_TRANSLATE_NOOP("MapCheck", "\"%1\", row \"%2\": %3 \"%4\" is not a valid value."));
+    std::vector<MapProblem> problems;
+    for (const BadValue& bad : found.listed) {
+        problems.push_back(
+            {MapProblem::Kind::BadValue,
+             text.arg(bad.table, Printable(bad.row), bad.column, Printable(bad.value)), repairable});
+    }
+    if (found.more > 0)
+        problems.push_back({MapProblem::Kind::BadValue, MoreText(found.more), repairable});
+    return problems;
+}
+
+QStringList RepairValues(SqliteLayerDatabase& database)
+{
+    const std::vector<ValueRule> rules = AllRules();
+    const BadValues found = FindBadValues(database, rules, BadValueKind::Repairable);
+    const QString text = TranslateValueText(
+        QT_TRANSLATE_NOOP("MapCheck", "\"%1\", row \"%2\": %3 \"%4\" was replaced by %5."));
+    QStringList done;
+    for (const BadValue& bad : found.listed) {
+        done << text.arg(
+            bad.table, Printable(bad.row), bad.column, Printable(bad.value),
+            QString::number(bad.standard, 'g', 17));
+    }
+    if (found.more > 0)
+        done << MoreText(found.more);
+    RepairBadValues(database, rules);
+    return done;
+}
+
+} // namespace Orvane

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+
+namespace Orvane {
+
+class SqliteConnection;
+
+/// Ends statements that run too long: once the time is over, each statement of the connection raises
+/// DatabaseFailure, until this object is destroyed. One per connection at a time.
+class TimeBound
+{
+public:
+    /// connection: outlives this object.
+    TimeBound(SqliteConnection& connection, std::chrono::milliseconds time);
+    ~TimeBound();
+    TimeBound(const TimeBound&) = delete;
+    TimeBound& operator=(const TimeBound&) = delete;
+
+private:
+    static int IsOver(void* bound);
+
+    SqliteConnection& m_connection;
+    std::chrono::steady_clock::time_point m_end;
+};
+
+} // namespace Orvane
