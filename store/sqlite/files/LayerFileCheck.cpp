@@ -2,8 +2,8 @@
 #include "store/sqlite/files/LayerFileCheck.h"
 
 #include "store/StoreTexts.h"
-#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/engine/TimeBound.h"
+#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/PlainTables.h"
 
