@@ -223,11 +223,14 @@ void MainWindow::AskForMap()
 void MainWindow::SaveMapAs()
 {
     const QString path = AskForMapFileToWrite(tr("Save Map As"));
-    if (path.isEmpty() || Document().IsAt(path) || !m_layerControl.Close())
+    if (path.isEmpty() || Document().IsAt(path))
         return;
-    Document().SaveCopy(path);
-    Use(MapDocument::Open(path));
-    RecentMaps::Add(path);
+    const bool isSaved = m_layerControl.WithEditorsClosed([&] {
+        Document().SaveCopy(path);
+        Use(MapDocument::Open(path));
+    });
+    if (isSaved)
+        RecentMaps::Add(path);
 }
 
 void MainWindow::AskForData()

@@ -23,7 +23,7 @@ struct ConflictTexts {
 
 QString LineOf(const ConflictingEdit& edit)
 {
-    const QString line
+    QString line
         = ConflictTexts::tr("%1: your value is %2, stored is %3").arg(edit.property, edit.mine, edit.stored);
     if (edit.layers < 2)
         return line;

@@ -49,6 +49,7 @@ ConflictChoice AskAboutConflicts(
     if (!question)
         return ConflictChoice::Overwrite;
     std::vector<ConflictingEdit> described;
+    described.reserve(conflicts.size());
     for (const EditConflict& conflict : conflicts)
         described.push_back(Described(panel, edits, conflict));
     return question->AskAboutConflicts(&form, node, described);

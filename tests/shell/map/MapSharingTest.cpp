@@ -188,6 +188,20 @@ TEST_F(MapSharingTest, SavingOverTheMapThatIsShownKeepsIt)
     EXPECT_FALSE(map->Database().OpenRecordset("SELECT * FROM Layers WHERE Color = 255")->AtEOF());
 }
 
+TEST_F(MapSharingTest, TheLayerControlStaysOpenWhetherSavingUnderAnotherNameWorksOrNot)
+{
+    Trigger("actLayerControl");
+    ChooseFile(m_folder.Path("copy.orvane"));
+    Trigger("actSaveMapAs");
+    EXPECT_EQ(m_window->Document().Path(), m_folder.Path("copy.orvane"));
+    EXPECT_TRUE(TheForm());
+    const auto precious = MapDocument::Create(m_folder.Path("precious.orvane"));
+    ChooseFile(precious->Path());
+    MessageBoxRobot user{BoxKey::Enter};
+    Trigger("actSaveMapAs");
+    EXPECT_TRUE(TheForm());
+}
+
 TEST_F(MapSharingTest, SavingOverAMapOfAnotherWindowIsRefusedAndBothMapsStay)
 {
     const auto precious = MapDocument::Create(m_folder.Path("precious.orvane"));
