@@ -702,6 +702,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>In der Karte, nicht in der Datei:</translation>
     </message>
     <message>
+        <source>It contains a line that is too long.</source>
+        <translation>Sie enthält eine zu lange Zeile.</translation>
+    </message>
+    <message>
         <source>It does not contain a scheme name.</source>
         <translation>Sie enthält keinen Schemanamen.</translation>
     </message>

@@ -702,6 +702,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dans la carte, pas dans le fichier :</translation>
     </message>
     <message>
+        <source>It contains a line that is too long.</source>
+        <translation>Il contient une ligne trop longue.</translation>
+    </message>
+    <message>
         <source>It does not contain a scheme name.</source>
         <translation>Il ne contient pas de nom de schéma.</translation>
     </message>

@@ -702,6 +702,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図にあり、ファイルにないもの:</translation>
     </message>
     <message>
+        <source>It contains a line that is too long.</source>
+        <translation>長すぎる行が含まれています。</translation>
+    </message>
+    <message>
         <source>It does not contain a scheme name.</source>
         <translation>スキームの名前がありません。</translation>
     </message>

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QIODevice>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -120,6 +121,41 @@ void CheckVersion(const QJsonObject& scheme)
         RaiseDamaged(SchemeDocument::tr("It does not contain a valid version number."));
 }
 
+QString CheckedName(const QJsonObject& scheme)
+{
+    CheckVersion(scheme);
+    QString name = scheme.value(QLatin1String("name")).toString().trimmed();
+    if (name.isEmpty())
+        RaiseDamaged(SchemeDocument::tr("It does not contain a scheme name."));
+    return name;
+}
+
+[[noreturn]] void RaiseNoJson(qint64 position)
+{
+    RaiseDamaged(SchemeDocument::tr("It is not valid JSON (error at byte %1).").arg(position));
+}
+
+// start: the text's position in the file.
+QJsonObject Parsed(const QByteArray& text, qint64 start)
+{
+    QJsonParseError error;
+    QJsonObject object = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError)
+        RaiseNoJson(start + error.offset);
+    return object;
+}
+
+constexpr auto BeginOfLayers = "\"layers\": [";
+constexpr auto EndOfLayers = "]}";
+
+QByteArray NextLine(QIODevice& text)
+{
+    const QByteArray line = text.readLine(SchemeDocument::LongestLine);
+    if (!line.endsWith('\n') && !text.atEnd())
+        RaiseDamaged(SchemeDocument::tr("It contains a line that is too long."));
+    return line.trimmed();
+}
+
 } // namespace
 
 QByteArray SchemeDocument::ToJson() const
@@ -137,19 +173,34 @@ QByteArray SchemeDocument::ToJson() const
 
 SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
 {
-    QJsonParseError error;
-    const QJsonObject scheme = QJsonDocument::fromJson(text, &error).object();
-    if (error.error != QJsonParseError::NoError)
-        RaiseDamaged(tr("It is not valid JSON (error at byte %1).").arg(error.offset));
-    CheckVersion(scheme);
+    const QJsonObject scheme = Parsed(text, 0);
     SchemeDocument document;
-    document.name = scheme.value(QLatin1String("name")).toString().trimmed();
-    if (document.name.isEmpty())
-        RaiseDamaged(tr("It does not contain a scheme name."));
+    document.name = CheckedName(scheme);
     if (!scheme.value(QLatin1String("layers")).isArray())
         RaiseDamaged(tr("It holds no layers."));
     for (const QJsonValue layer : scheme.value(QLatin1String("layers")).toArray())
         document.layers.push_back(ToLayer(layer, int(document.layers.size())));
+    return document;
+}
+
+std::optional<SchemeDocument> SchemeDocument::FromLines(QIODevice& text)
+{
+    const QByteArray first = text.readLine(LongestLine).trimmed();
+    if (!first.endsWith(BeginOfLayers))
+        return std::nullopt;
+    SchemeDocument document;
+    document.name = CheckedName(Parsed(first + EndOfLayers, 0));
+    qint64 start = text.pos();
+    for (QByteArray line = NextLine(text); line != EndOfLayers; line = NextLine(text)) {
+        if (line.isEmpty() && text.atEnd())
+            RaiseNoJson(start);
+        if (line.endsWith(','))
+            line.chop(1);
+        document.layers.push_back(ToLayer(Parsed(line, start), int(document.layers.size())));
+        start = text.pos();
+    }
+    if (!text.readAll().trimmed().isEmpty())
+        RaiseNoJson(text.size());
     return document;
 }
 

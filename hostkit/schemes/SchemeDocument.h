@@ -11,7 +11,10 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <vector>
+
+class QIODevice;
 
 namespace Orvane {
 
@@ -49,6 +52,12 @@ public:
     /// Reads a complete JSON text. Raises HostError::SchemeTextDamaged, which says what is wrong, and
     /// HostError::SchemeTextTooNew.
     static SchemeDocument FromJson(const QByteArray& text);
+
+    /// Reads a text that has one line per layer, as ToJson writes it, without holding all of it in memory.
+    /// Returns nothing for any other text, of which the beginning has then been read. Raises as FromJson
+    /// does, and SchemeTextDamaged for a line of more than LongestLine.
+    static std::optional<SchemeDocument> FromLines(QIODevice& text);
+    static constexpr qint64 LongestLine = qint64(1024) * 1024; // bytes
 };
 
 } // namespace Orvane

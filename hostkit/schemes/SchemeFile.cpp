@@ -31,33 +31,48 @@ class FileTexts
         FileTexts::tr("The scheme file \"%1\" cannot be read. %2").arg(QFileInfo(path).fileName(), reason));
 }
 
-QByteArray ContentOf(const QString& path)
+void Open(QFile& file, const QString& path)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile()) // opening a pipe waits for a writer
         RaiseUnreadable(path, FileTexts::tr("It is not an ordinary file."));
-    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         RaiseUnreadable(path, file.errorString());
+}
+
+void SkipByteOrderMark(QFile& file)
+{
+    if (file.peek(3) == "\xEF\xBB\xBF")
+        file.skip(3);
+}
+
+QByteArray ContentOf(QFile& file, const QString& path)
+{
     // Reads one byte more than allowed, because the file may grow meanwhile.
     const QByteArray content = file.read(LargestFile + 1);
     if (content.size() > LargestFile)
         RaiseUnreadable(path, FileTexts::tr("It is too large."));
     if (file.error() != QFileDevice::NoError)
         RaiseUnreadable(path, file.errorString());
-    return content.startsWith("\xEF\xBB\xBF") ? content.mid(3) : content;
+    return content;
 }
 
 } // namespace
 
 SchemeDocument Read(const QString& path)
 {
-    const QByteArray content = ContentOf(path);
+    QFile file(path);
+    Open(file, path);
+    SkipByteOrderMark(file);
     try {
-        return SchemeDocument::FromJson(content);
+        if (file.size() <= LargestFile)
+            return SchemeDocument::FromJson(ContentOf(file, path));
+        if (std::optional<SchemeDocument> document = SchemeDocument::FromLines(file))
+            return *std::move(document);
     } catch (const RunTimeError& error) {
         RaiseUnreadable(path, error.Description());
     }
+    RaiseUnreadable(path, FileTexts::tr("It is too large."));
 }
 
 void Write(const QString& path, const SchemeDocument& scheme)

@@ -11,7 +11,8 @@ namespace Orvane {
 /// Layer schemes in files of their own, in the format of SchemeDocument, for copying them from map to map.
 namespace SchemeFile {
 
-/// Larger files are rejected without being read. A scheme of 100,000 layers takes a third of this size.
+/// Larger files are read only if they have one line per layer, as Write writes them. A scheme of 100,000
+/// layers takes a third of this size.
 inline constexpr qint64 LargestFile = qint64(128) * 1024 * 1024; // bytes
 
 /// Raises HostError::SchemeFileUnreadable, which names the file and says what is wrong with it.

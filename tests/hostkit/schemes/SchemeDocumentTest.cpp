@@ -4,6 +4,7 @@
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
 
+#include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -58,6 +59,32 @@ TEST(SchemeDocument, ComesBackAsItWas)
         EXPECT_TRUE(read.layers[0].values[at].IsIdenticalTo(scheme.layers[0].values[at]))
             << SchemeColumns::All.at(at).name;
     }
+}
+
+std::optional<SchemeDocument> Lines(QByteArray text)
+{
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+    return SchemeDocument::FromLines(buffer);
+}
+
+TEST(SchemeDocument, IsTheSameWhenItIsReadLineByLine)
+{
+    const std::optional<SchemeDocument> read = Lines(SomeScheme().ToJson());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->ToJson(), SomeScheme().ToJson());
+    EXPECT_FALSE(Lines("{\"format\":\n\"orvane-scheme\"}")) << "not one line per layer";
+}
+
+TEST(SchemeDocument, CutAnywhereIsNeverReadLineByLine)
+{
+    const QByteArray text = SomeScheme().ToJson();
+    for (qsizetype length = 0; length < text.size() - 1; ++length) {
+        std::optional<SchemeDocument> read;
+        const int error = ErrorOf([&] { read = Lines(text.first(length)); });
+        EXPECT_TRUE(error != 0 || !read) << length;
+    }
+    EXPECT_EQ(ErrorOf([&] { Lines(text + "more"); }), int(HostError::SchemeTextDamaged));
 }
 
 TEST(SchemeDocument, IsOneJsonObjectWithAFormatAndAVersionAndALineALayer)
