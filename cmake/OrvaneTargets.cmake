@@ -56,6 +56,8 @@ if(ORVANE_SANITIZE)
   set(ORVANE_TEST_OPTIONS -O0) # saves compile time; the tests run fast without optimisation
 endif()
 
+include(OrvaneHardening)
+
 # orvane_headers(<target> <header> LIBRARIES ...): headers that are compiled once and shared by all targets of a kind.
 # The headers of Qt and GoogleTest take most of the time of a compilation.
 function(orvane_headers target header)
