@@ -15,6 +15,7 @@ void ShowError(QWidget* owner, const std::exception& error) noexcept
             QMessageBox::Warning, QCoreApplication::applicationName(), QString::fromUtf8(error.what()),
             QMessageBox::Ok, owner);
         box.setObjectName(QStringLiteral("dlgError"));
+        box.setTextFormat(Qt::PlainText);
         box.exec();
     } catch (const std::exception& again) {
         std::fprintf(stderr, "%s\n%s\n", error.what(), again.what());

@@ -80,6 +80,7 @@ void DataActions::TellMapIsGone()
             .arg(name),
         QMessageBox::Save | QMessageBox::Ignore, &m_window);
     box.setObjectName(QStringLiteral("dlgMapGone"));
+    box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(QMessageBox::Ignore);
     if (box.exec() == QMessageBox::Save)
         emit SaveAsWanted();
@@ -114,8 +115,11 @@ void DataActions::FindData()
         found = LookForData(missing, folder, progress);
     });
     if (found.empty()) {
-        QMessageBox::information(
-            &m_window, tr("Find Missing Data"), tr("None of the missing files is in \"%1\".").arg(folder));
+        QMessageBox box(
+            QMessageBox::Information, tr("Find Missing Data"),
+            tr("None of the missing files is in \"%1\".").arg(folder), QMessageBox::Ok, &m_window);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
         return;
     }
     TakeFoundData(document, found);

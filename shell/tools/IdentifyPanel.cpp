@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QTextDocument>
 #include <QTreeWidget>
 
 namespace Orvane {
@@ -16,10 +17,16 @@ namespace {
 enum Column { NameColumn, ValueColumn, ColumnCount };
 enum Role { LayerRole = Qt::UserRole, FeatureRole };
 
+// A tool tip takes a text that looks like markup for markup.
+QString PlainToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
 QTreeWidgetItem* AttributeItem(const FeatureAttribute& attribute, const QPalette& palette)
 {
     auto* item = new QTreeWidgetItem({attribute.name, attribute.value});
-    item->setToolTip(ValueColumn, attribute.value);
+    item->setToolTip(ValueColumn, PlainToolTip(attribute.value));
     if (attribute.isNull) {
         item->setText(ValueColumn, IdentifyPanel::tr("no value"));
         item->setForeground(ValueColumn, palette.brush(QPalette::Disabled, QPalette::Text));
@@ -87,7 +94,7 @@ void IdentifyPanel::AddFeature(const IdentifiedFeature& feature)
     auto* top = new QTreeWidgetItem(m_tree, {feature.layerName, tr("Feature %1").arg(feature.key.featureID)});
     top->setData(NameColumn, LayerRole, feature.key.layerID);
     top->setData(NameColumn, FeatureRole, feature.key.featureID);
-    top->setToolTip(NameColumn, feature.layerName);
+    top->setToolTip(NameColumn, PlainToolTip(feature.layerName));
     QFont font = top->font(NameColumn);
     font.setBold(true);
     top->setFont(NameColumn, font);

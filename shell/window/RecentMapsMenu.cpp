@@ -34,9 +34,12 @@ void RecentMapsMenu::Choose(const QString& path)
         return;
     }
     RecentMaps::Remove(path);
-    QMessageBox::information(
-        &m_window, tr("Open Recent"),
-        tr("The map \"%1\" no longer exists. It was removed from the list.").arg(path));
+    QMessageBox box(
+        QMessageBox::Information, tr("Open Recent"),
+        tr("The map \"%1\" no longer exists. It was removed from the list.").arg(path), QMessageBox::Ok,
+        &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 } // namespace Orvane
