@@ -1,0 +1,9 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+<name>A</name>
+<message><source>x</source><translation>y</translation></message>
+</context>
+</TS>
+<

@@ -1,0 +1,8 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+
+<message><source>Delete</source><translation>Effacer</translation></message>
+</context>
+</TS>

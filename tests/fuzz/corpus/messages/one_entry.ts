@@ -1,0 +1,8 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+<name>frmLayerStyles</name>
+<message><source>Delete</source><translation>Löschen</translation></message>
+</context>
+</TS>
