@@ -49,7 +49,7 @@ void SkipByteOrderMark(QFile& file)
 QByteArray ContentOf(QFile& file, const QString& path)
 {
     // Reads one byte more than allowed, because the file may grow meanwhile.
-    const QByteArray content = file.read(LargestFile + 1);
+    QByteArray content = file.read(LargestFile + 1);
     if (content.size() > LargestFile)
         RaiseUnreadable(path, FileTexts::tr("It is too large."));
     if (file.error() != QFileDevice::NoError)
