@@ -81,7 +81,7 @@ TEST(SchemeDocument, CutAnywhereIsNeverReadLineByLine)
     const QByteArray text = SomeScheme().ToJson();
     for (qsizetype length = 0; length < text.size() - 1; ++length) {
         std::optional<SchemeDocument> read;
-        const int error = ErrorOf([&] { read = Lines(text.first(length)); });
+        const int error = ErrorOf([&] { read = Lines(text.left(length)); });
         EXPECT_TRUE(error != 0 || !read) << length;
     }
     EXPECT_EQ(ErrorOf([&] { Lines(text + "more"); }), int(HostError::SchemeTextDamaged));
