@@ -57,8 +57,6 @@ public:
     /// Draws and translates all items again; they stay where they are. customText: of Special::Custom.
     void Redraw(const std::function<ItemTexts(qint32 data)>& texts, const QString& customText);
 
-    /// Remembers the last item as the given special item.
-    void RememberLast(Special item);
     /// The index, -1 when the list has no such item.
     int IndexOf(Special item) const { return m_remembered[size_t(item)]; }
 
@@ -73,6 +71,8 @@ public:
     int Find(qint32 data) const;
 
 private:
+    void RememberLast(Special item);
+
     static constexpr size_t specialCount = 2;
 
     OvCombo& m_combo;

@@ -158,16 +158,11 @@ void PropertyPanel::ReadEdits(LayerStyle& style) const
 
 bool PropertyPanel::IsEdited(qint16 slot) const
 {
-    for (const auto& editor : m_editors) {
-        for (const SlotControl& entry : editor->Controls()) {
-            if (entry.slot == slot && m_marked.contains(entry.control))
-                return true;
-        }
-    }
-    return false;
+    const std::optional<SlotControl> entry = ControlOf(slot);
+    return entry && m_marked.contains(entry->control);
 }
 
-SlotControl PropertyPanel::ControlOf(qint16 slot) const
+std::optional<SlotControl> PropertyPanel::ControlOf(qint16 slot) const
 {
     for (const auto& editor : m_editors) {
         for (const SlotControl& entry : editor->Controls()) {
@@ -175,7 +170,7 @@ SlotControl PropertyPanel::ControlOf(qint16 slot) const
                 return entry;
         }
     }
-    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Subscript out of range"));
+    return std::nullopt;
 }
 
 bool PropertyPanel::ControlValueChanged(const QWidget* control) const

@@ -65,21 +65,15 @@ public:
     /// unchanged.
     void ReadPanelStyle(LayerStyle& style) const;
 
-    /// The control that edits the slot. Raises 9 (subscript out of range) if there is none.
-    SlotControl ControlOf(qint16 slot) const;
-
-    /// The record that was shown last, with Null for what could not be shown.
-    const LayerStyle& Record() const { return m_record; }
+    /// The control that edits the slot; nothing if there is none, as for the name and the code.
+    std::optional<SlotControl> ControlOf(qint16 slot) const;
 
     /// As ReadPanelStyle, for storing: Null also for a value that the user did not touch and that its control
     /// would give back changed, such as a fill style that is not in the list.
     void ReadEdits(LayerStyle& style) const;
 
-    /// True if a control that edits the slot is marked as changed.
+    /// True if the control that edits the slot is marked as changed.
     bool IsEdited(qint16 slot) const;
-
-    /// True if the control is marked as changed.
-    bool IsMarked(QWidget* control) const { return m_marked.contains(control); }
 
     /// True if the control shows a value other than the record's for the slot in its Tag.
     bool ControlValueChanged(const QWidget* control) const;

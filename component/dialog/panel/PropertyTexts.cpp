@@ -36,7 +36,7 @@ QString LabelOf(const SlotControl& entry)
 QString StyleName(const QWidget& control, qint32 number)
 {
     const auto* list = qobject_cast<const QComboBox*>(&control);
-    const int index = list ? list->findData(number) : -1;
+    const int index = list ? FindByItemData(*list, number) : -1;
     return index < 0 ? QString::number(number) : list->itemText(index);
 }
 

@@ -33,7 +33,7 @@ ConflictingEdit Described(const PropertyPanel& panel, const PanelEdits& edits, c
         return ModeConflict(edits, conflict);
     if (conflict.slot == Slot::Code)
         return CodeConflict(edits, conflict);
-    const SlotControl entry = panel.ControlOf(conflict.slot);
+    const SlotControl entry = panel.ControlOf(conflict.slot).value();
     return {
         PropertyName(entry), PropertyText(entry, edits.style.lsGet(conflict.slot)),
         PropertyText(entry, conflict.stored), conflict.layers};
