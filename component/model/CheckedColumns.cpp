@@ -2,8 +2,8 @@
 #include "component/model/CheckedColumns.h"
 
 #include "component/model/ColumnError.h"
-#include "component/model/LayerQueries.h"
 
+#include <OrvaneShellLib/QuickModes.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {

@@ -2,9 +2,9 @@
 #include "component/model/LayerCursors.h"
 
 #include "component/model/CheckedColumns.h"
-#include "component/model/LayerQueries.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/LayerQueries.h>
 
 namespace Orvane {
 

@@ -5,9 +5,9 @@
 #include "component/model/CheckedColumns.h"
 #include "component/model/LayerColour.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/LayerQueries.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
+#include <OrvaneShellLib/QuickModes.h>
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 

@@ -3,11 +3,11 @@
 
 #include "component/model/CheckedColumns.h"
 #include "component/model/LayerCursors.h"
-#include "component/model/LayerQueries.h"
 #include "component/model/ListedName.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/IStyleFilter.h>
+#include <OrvaneShellLib/LayerQueries.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QHash>

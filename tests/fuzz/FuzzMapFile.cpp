@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "component/model/LayerQueries.h"
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTargets.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/LayerColumns.h>
+#include <OrvaneShellLib/LayerQueries.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QFile>
