@@ -70,7 +70,7 @@ public:
 
 private:
     struct NullTag {
-        bool operator==(const NullTag&) const = default;
+        bool operator==(const NullTag&) const { return true; }
     };
 
     std::variant<std::monostate, NullTag, bool, qint16, qint32, float, double, QString> m_data;

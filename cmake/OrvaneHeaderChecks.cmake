@@ -27,7 +27,9 @@ foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
 endforeach()
 orvane_header_check(public_header_checks HEADERS ${ORVANE_PUBLIC_HEADERS}
   LIBRARIES Qt${QT_VERSION_MAJOR}::Widgets)
-set_target_properties(public_header_checks PROPERTIES INCLUDE_DIRECTORIES "${installed}")
+# A host may use C++17, and none of Qt's conveniences that break other libraries.
+set_target_properties(public_header_checks PROPERTIES INCLUDE_DIRECTORIES "${installed}" CXX_STANDARD 17)
+target_compile_definitions(public_header_checks PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 
 file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS OrvaneShellLib/*.h messages/*.h files/*.h
   store/*.h ovctrls/*.h samples/*.h hostkit/*.h component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)

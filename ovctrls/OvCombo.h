@@ -69,7 +69,7 @@ public:
     /// selection colours. An underlined font applies to the closed box only.
     void PaintItem(QPainter& painter, const QRect& rectangle, int index, bool isSelected);
 
-signals:
+Q_SIGNALS:
     /// A user-drawn item must be painted, in the list or in the closed box. rectangle: pixels of the painter.
     /// A listener must not raise.
     void DrawItem(QPainter& painter, int index, const QRect& rectangle);

@@ -49,11 +49,11 @@ public:
     void SetBoundText(QWidget* control);
     QWidget* BoundText() const { return m_boundText; }
 
-public slots:
+public Q_SLOTS:
     void StepUp();
     void StepDown();
 
-signals:
+Q_SIGNALS:
     /// The value was changed by the user or by the program.
     void Change(float value);
 

@@ -18,7 +18,7 @@ class HostNotifications : public QObject
 public:
     using QObject::QObject;
 
-signals:
+Q_SIGNALS:
     /// The drawing properties of these layers were stored: redraw them. Emitted by RedrawMap with all layers
     /// passed to LayerChanged, and after a scheme was loaded.
     void LayersChanged(const QSet<qint32>& layerIDs);

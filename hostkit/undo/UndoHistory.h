@@ -54,7 +54,7 @@ public:
     /// up to date; errors that it raises are passed on. An empty function removes the action.
     void SetAfterStep(std::function<void()> action) { m_afterStep = std::move(action); }
 
-signals:
+Q_SIGNALS:
     /// What can be undone or redone has changed.
     void Changed();
 
