@@ -1,12 +1,14 @@
 # SPDX-License-Identifier: MIT
-# The rules of "cmake --install". No installed file contains the prefix, so that the installation can be moved: the
-# program finds its component and its texts relative to its own folder, and find_package(Orvane) of a host author finds
-# the libraries in the same way.
+# The rules of "cmake --install", in three components: "program" is Orvane, "plugin" the component with its texts, and
+# "development" what host authors build with. No installed file contains the prefix, so that the installation can be
+# moved: programs find the component and their texts relative to their own folder, find_package(Orvane) finds the
+# libraries in the same way.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # Private to the program, so it does not depend on the name of the system's library folder.
 set(ORVANE_PLUGIN_DESTINATION lib/orvane)
+set(ORVANE_TEXTS_DESTINATION share/orvane/translations)
 
 # For host authors: the contract, the host kit and the libraries that it needs.
 set_target_properties(OrvaneShellLib PROPERTIES EXPORT_NAME ShellLib)
@@ -18,51 +20,50 @@ set_target_properties(ovctrls PROPERTIES EXPORT_NAME Controls)
 set_target_properties(style_samples PROPERTIES EXPORT_NAME Samples)
 install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store orvane_hostkit ovctrls style_samples
   EXPORT OrvaneTargets
-  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
   get_filename_component(folder "${header}" DIRECTORY)
-  install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}")
+  install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}" COMPONENT development)
 endforeach()
+
+# The component for hosts that link it, as one archive a room.
+set_target_properties(OrvaneLayerControlStatic PROPERTIES EXPORT_NAME LayerControlStatic EXCLUDE_FROM_ALL OFF)
+install(TARGETS OrvaneLayerControlStatic component_common component_model component_controls component_styles
+    component_place component_trees component_panel component_window component_entry
+  EXPORT OrvaneLayerControlStaticTargets
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}/orvane-static" COMPONENT development)
+
+math(EXPR orvane_other_qt "11 - ${QT_VERSION_MAJOR}") # 5 or 6
 set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
-install(EXPORT OrvaneTargets NAMESPACE Orvane:: DESTINATION "${config_folder}")
-configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrvaneConfig.cmake.in" "${CMAKE_BINARY_DIR}/OrvaneConfig.cmake"
-  INSTALL_DESTINATION "${config_folder}" PATH_VARS ORVANE_PLUGIN_DESTINATION)
-write_basic_package_version_file("${CMAKE_BINARY_DIR}/OrvaneConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
-install(FILES "${CMAKE_BINARY_DIR}/OrvaneConfig.cmake" "${CMAKE_BINARY_DIR}/OrvaneConfigVersion.cmake"
-  DESTINATION "${config_folder}")
+foreach(targets OrvaneTargets OrvaneLayerControlStaticTargets)
+  install(EXPORT ${targets} NAMESPACE Orvane:: DESTINATION "${config_folder}" COMPONENT development)
+endforeach()
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrvaneConfig.cmake.in"
+  "${PROJECT_BINARY_DIR}/OrvaneConfig.cmake"
+  INSTALL_DESTINATION "${config_folder}" PATH_VARS ORVANE_PLUGIN_DESTINATION ORVANE_TEXTS_DESTINATION)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrvaneConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/OrvaneConfig.cmake" "${PROJECT_BINARY_DIR}/OrvaneConfigVersion.cmake"
+  DESTINATION "${config_folder}" COMPONENT development)
 
 # The component, with its message files next to it.
-install(TARGETS OrvaneLayerControl LIBRARY DESTINATION "${ORVANE_PLUGIN_DESTINATION}")
+install(TARGETS OrvaneLayerControl LIBRARY DESTINATION "${ORVANE_PLUGIN_DESTINATION}" COMPONENT plugin)
 foreach(language IN LISTS ORVANE_LANGUAGES)
   install(FILES "${PROJECT_SOURCE_DIR}/translations/POBEX.${language}.ts"
-    DESTINATION "${ORVANE_PLUGIN_DESTINATION}/${language}" RENAME POBEX.LRT)
+    DESTINATION "${ORVANE_PLUGIN_DESTINATION}/${language}" RENAME POBEX.LRT COMPONENT plugin)
+  # The texts of the host kit and of Orvane, which each host can use.
+  install(FILES "${PROJECT_SOURCE_DIR}/translations/orvane.${language}.ts"
+    DESTINATION "${ORVANE_TEXTS_DESTINATION}" COMPONENT plugin)
 endforeach()
 
 # Orvane itself, and its files for the desktop.
 if(ORVANE_BUILD_SHELL)
-  install(TARGETS orvane RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-  foreach(language IN LISTS ORVANE_LANGUAGES)
-    install(FILES "${PROJECT_SOURCE_DIR}/translations/orvane.${language}.ts" DESTINATION share/orvane/translations)
-  endforeach()
+  install(TARGETS orvane RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
   set(packaging "${PROJECT_SOURCE_DIR}/packaging")
-  install(FILES "${packaging}/orvane.desktop" DESTINATION share/applications)
-  install(FILES "${packaging}/orvane-mime.xml" DESTINATION share/mime/packages RENAME orvane.xml)
-  install(FILES "${packaging}/orvane.svg" DESTINATION share/icons/hicolor/scalable/apps)
-  install(FILES "${packaging}/orvane-map.svg" DESTINATION share/icons/hicolor/scalable/mimetypes)
-  install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION share/doc/orvane RENAME copyright)
-  install(FILES "${packaging}/orvane.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+  install(FILES "${packaging}/orvane.desktop" DESTINATION share/applications COMPONENT program)
+  install(FILES "${packaging}/orvane-mime.xml" DESTINATION share/mime/packages RENAME orvane.xml COMPONENT program)
+  install(FILES "${packaging}/orvane.svg" DESTINATION share/icons/hicolor/scalable/apps COMPONENT program)
+  install(FILES "${packaging}/orvane-map.svg" DESTINATION share/icons/hicolor/scalable/mimetypes COMPONENT program)
+  install(CODE "execute_process(COMMAND gzip -9nc \"${packaging}/orvane.1\" \
+    OUTPUT_FILE \"${PROJECT_BINARY_DIR}/orvane.1.gz\" COMMAND_ERROR_IS_FATAL ANY)" COMPONENT program)
+  install(FILES "${PROJECT_BINARY_DIR}/orvane.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
 endif()
-
-# "cpack" in the build folder makes a Debian package.
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME orvane)
-set(CPACK_PACKAGE_VENDOR Orvane)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Small desktop map program with a layer control for other programs")
-set(CPACK_DEBIAN_PACKAGE_MAINTAINER "The Orvane authors")
-set(CPACK_DEBIAN_PACKAGE_SECTION science)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-include(CPack)

@@ -8,8 +8,8 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
 set(ORVANE_LANGUAGES de fr ja)
 
@@ -40,7 +40,7 @@ endif()
 
 add_library(orvane_settings INTERFACE)
 target_compile_options(orvane_settings INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual $<$<BOOL:${ORVANE_WARNINGS_ARE_ERRORS}>:-Werror>
   # So that ccache can tell whether a precompiled header is still the same.
   $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
   "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
@@ -62,7 +62,7 @@ include(OrvaneHardening)
 # The headers of Qt and GoogleTest take most of the time of a compilation.
 function(orvane_headers target header)
   cmake_parse_arguments(ARG "" "" "LIBRARIES;OPTIONS" ${ARGN})
-  set(source "${CMAKE_BINARY_DIR}/${target}.cpp")
+  set(source "${PROJECT_BINARY_DIR}/${target}.cpp")
   file(CONFIGURE OUTPUT "${source}" CONTENT "// Carries the precompiled header.\n")
   add_library(${target} OBJECT EXCLUDE_FROM_ALL "${source}")
   target_link_libraries(${target} PRIVATE orvane_settings ${ARG_LIBRARIES})

@@ -26,7 +26,7 @@ prefix=$folder/prefix
 orvane=$prefix/bin/orvane
 
 for file in lib/orvane/libOrvaneLayerControlQt6.so lib/orvane/de/POBEX.LRT share/applications/orvane.desktop \
-    share/mime/packages/orvane.xml share/icons/hicolor/scalable/apps/orvane.svg share/man/man1/orvane.1 \
+    share/mime/packages/orvane.xml share/icons/hicolor/scalable/apps/orvane.svg share/man/man1/orvane.1.gz \
     include/orvane/OrvaneShellLib/IStyleEditorClient.h include/orvane/hostkit/StandardClient.h; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
@@ -55,4 +55,14 @@ expect 0 cmake -S "$source/tests/packaging/consumer" -B "$folder/consumer" -DCMA
 expect 0 cmake --build "$folder/consumer"
 expect 0 "$folder/consumer/consumer"
 grep -q "was shown" "$folder/out" || fail "the consumer saw no layer control"
+expect 0 "$folder/consumer/linked_consumer"
+expect 1 cmake -S "$source/tests/packaging/consumer" -B "$folder/unknown" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCONSUMER_COMPONENT=Nonsense
+grep -q 'there is no component "Nonsense"' "$folder/out" || fail "an unknown component is not named"
+
+# As a part of another project: neither GDAL nor GoogleTest is needed, and nothing is installed unasked.
+expect 0 cmake -S "$source/tests/packaging/subproject" -B "$folder/parent" -DORVANE_SOURCE="$source" \
+    -DCMAKE_DISABLE_FIND_PACKAGE_GDAL=ON -DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON
+! grep -q 'file(INSTALL' -r "$folder/parent/orvane" --include=cmake_install.cmake ||
+    fail "a part of another project is installed with it"
 echo "installed, moved and used: all well"
