@@ -364,6 +364,14 @@
         <translation>Layer aus &amp;Kartendaten</translation>
     </message>
     <message>
+        <source>A list has an entry with the ID %1.</source>
+        <translation>Eine Liste hat einen Eintrag mit der ID %1.</translation>
+    </message>
+    <message>
+        <source>A list has the ID %1 twice.</source>
+        <translation>Eine Liste enthält die ID %1 zweimal.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
@@ -1480,8 +1488,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>es gibt keinen Ordner „%1“</translation>
     </message>
     <message>
+        <source>There is no group with the ID %1.</source>
+        <translation>Es gibt keine Gruppe mit der ID %1.</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Es gibt kein Layerschema namens „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no layer with the ID %1.</source>
+        <translation>Es gibt keinen Layer mit der ID %1.</translation>
     </message>
     <message>
         <source>there is no room in the folder &quot;%1&quot;</source>

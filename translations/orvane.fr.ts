@@ -364,6 +364,14 @@
         <translation>Une couche de &amp;données cartographiques</translation>
     </message>
     <message>
+        <source>A list has an entry with the ID %1.</source>
+        <translation>Une liste contient une entrée avec l’ID %1.</translation>
+    </message>
+    <message>
+        <source>A list has the ID %1 twice.</source>
+        <translation>Une liste contient deux fois l’ID %1.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
@@ -1480,8 +1488,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>il n’y a pas de dossier « %1 »</translation>
     </message>
     <message>
+        <source>There is no group with the ID %1.</source>
+        <translation>Il n’y a pas de groupe avec l’ID %1.</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Il n’y a pas de schéma nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no layer with the ID %1.</source>
+        <translation>Il n’y a pas de couche avec l’ID %1.</translation>
     </message>
     <message>
         <source>there is no room in the folder &quot;%1&quot;</source>
