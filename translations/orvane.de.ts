@@ -726,6 +726,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Sie enthält keine Layer.</translation>
     </message>
     <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>sie ist in keinem dieser Ordner: %1</translation>
+    </message>
+    <message>
         <source>It is not a layer scheme.</source>
         <translation>Sie ist kein Layerschema.</translation>
     </message>
@@ -1410,6 +1414,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The page cannot be painted.</source>
         <translation>Die Seite kann nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>das Programm muss eine QApplication anlegen, bevor es sie lädt</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>

@@ -726,6 +726,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Il ne contient aucune couche.</translation>
     </message>
     <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>il n’est dans aucun de ces dossiers : %1</translation>
+    </message>
+    <message>
         <source>It is not a layer scheme.</source>
         <translation>Ce n’est pas un schéma de couches.</translation>
     </message>
@@ -1410,6 +1414,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The page cannot be painted.</source>
         <translation>La page ne peut pas être dessinée.</translation>
+    </message>
+    <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>le programme doit créer une QApplication avant de le charger</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>

@@ -726,6 +726,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>レイヤがありません。</translation>
     </message>
     <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>次のどのフォルダーにもありません: %1</translation>
+    </message>
+    <message>
         <source>It is not a layer scheme.</source>
         <translation>レイヤスキームではありません。</translation>
     </message>
@@ -1410,6 +1414,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The page cannot be painted.</source>
         <translation>ページを描けません。</translation>
+    </message>
+    <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>プログラムは読み込む前に QApplication を作成する必要があります</translation>
     </message>
     <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
