@@ -34,7 +34,8 @@ public:
     void Initialise(IStyleEditorClient* client) { IStyleEditorLibrary_Initialise(client); }
 
     /// Creates a hidden editor and registers it under the ID. Owned by the component. Raises 1234 if the ID
-    /// is already registered; the registered editor is then left untouched.
+    /// is already registered; the registered editor is then left untouched. Raises 91 (not initialised) if
+    /// the program has no QApplication.
     IStyleEditor* NewStyleEditor(const QString& styleEditorID)
     {
         return IStyleEditorLibrary_NewStyleEditor(styleEditorID);

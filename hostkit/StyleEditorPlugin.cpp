@@ -4,8 +4,10 @@
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QApplication>
 #include <QDir>
-#include <QFileInfo>
+
+#include <algorithm>
 
 namespace Orvane {
 
@@ -14,6 +16,17 @@ namespace {
 bool IsPath(const QString& pathOrName)
 {
     return pathOrName.contains(u'/') || pathOrName.contains(u'\\');
+}
+
+// True if there is a file that QLibrary would load under that name, or would fail to load.
+bool HasLibrary(const QString& folder, const QString& name)
+{
+    const QStringList files = QDir(folder).entryList(
+        {name + QLatin1Char('*'), QLatin1String("lib") + name + QLatin1Char('*')}, QDir::Files);
+    return std::any_of(files.begin(), files.end(), [&name](const QString& file) {
+        const QString stem = file.section(QLatin1Char('.'), 0, 0);
+        return (stem == name || stem == QLatin1String("lib") + name) && QLibrary::isLibrary(file);
+    });
 }
 
 } // namespace
@@ -41,23 +54,42 @@ QStringList StyleEditorPlugin::SearchFolders()
 
 void StyleEditorPlugin::Load(const QString& pathOrName)
 {
-    QStringList candidates{pathOrName};
-    if (!IsPath(pathOrName)) {
-        candidates.clear();
-        for (const QString& folder : SearchFolders())
-            candidates << folder + u'/' + pathOrName;
-    }
+    m_file.setFileName(pathOrName);
+    // Without one, Qt ends the program at the first window.
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        Refuse(tr("the program must make a QApplication before it loads it"));
+    if (IsPath(pathOrName))
+        LoadFile(pathOrName);
+    else
+        LoadByName(pathOrName);
+}
+
+void StyleEditorPlugin::LoadFile(const QString& path)
+{
+    m_file.setFileName(path);
+    if (!m_file.load())
+        Refuse(m_file.errorString());
+}
+
+void StyleEditorPlugin::LoadByName(const QString& name)
+{
+    QStringList tried;
     QString reason;
-    for (const QString& candidate : candidates) {
-        m_file.setFileName(candidate);
+    for (const QString& folder : SearchFolders()) {
+        tried << QDir::toNativeSeparators(QDir::cleanPath(folder));
+        if (!HasLibrary(folder, name))
+            continue;
+        m_file.setFileName(folder + QLatin1Char('/') + name);
         if (m_file.load())
             return;
-        // Reports the error for a file that exists, if there is one.
-        if (reason.isEmpty() || QFileInfo::exists(m_file.fileName()))
+        if (reason.isEmpty())
             reason = m_file.errorString();
     }
-    m_file.setFileName(pathOrName);
-    Refuse(reason);
+    m_file.setFileName(name);
+    tried.removeDuplicates();
+    Refuse(
+        reason.isEmpty() ? tr("it is in none of these folders: %1").arg(tried.join(QLatin1String(", ")))
+                         : reason);
 }
 
 void StyleEditorPlugin::CheckContract()

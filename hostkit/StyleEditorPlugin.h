@@ -33,7 +33,8 @@ public:
 
     /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
     /// Raises PluginFailure when it cannot be loaded, is not a style editor component, has a different
-    /// contract version, or was built with another major version of Qt.
+    /// contract version, or was built with another major version of Qt, and when there is no QApplication
+    /// yet. If none of the folders has it, the description names them all.
     explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
     ~StyleEditorPlugin();
     Q_DISABLE_COPY_MOVE(StyleEditorPlugin)
@@ -51,6 +52,8 @@ public:
 
 private:
     void Load(const QString& pathOrName);
+    void LoadFile(const QString& path);
+    void LoadByName(const QString& name);
     void CheckContract();
     void CheckQt();
     void CreateLibrary();

@@ -38,6 +38,10 @@ check_order() {
     tools/include_order.py || fail "a folder uses one that it may not use"
 }
 
+check_samples() {
+    tools/host_guide.py || fail "a sample in the guide for host authors is in no example"
+}
+
 check_headers() {
     cmake --build "$headers" --target header_checks || fail "a header does not compile alone"
 }
@@ -51,7 +55,7 @@ check_lint() {
     sources | grep '\.cpp$' | grep -vE '^(tests|benchmarks)/' | xargs tools/lint.py "$release" || fail "lint"
 }
 
-for check in format lengths habits order headers release lint; do
+for check in format lengths habits order samples headers release lint; do
     step "Checking: $check"
     started=$SECONDS
     "check_$check"

@@ -660,6 +660,10 @@
         <translation>Das Muster oder die Breite von Linien und Umrissen.</translation>
     </message>
     <message>
+        <source>The program must make a QApplication before it makes a layer control.</source>
+        <translation>Das Programm muss eine QApplication anlegen, bevor es eine Layersteuerung anlegt.</translation>
+    </message>
+    <message>
         <source>The thinnest line will be stored.</source>
         <translation>Gespeichert wird die dünnste Linie.</translation>
     </message>

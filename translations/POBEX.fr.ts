@@ -660,6 +660,10 @@
         <translation>Le motif ou l’épaisseur des lignes et des contours.</translation>
     </message>
     <message>
+        <source>The program must make a QApplication before it makes a layer control.</source>
+        <translation>Le programme doit créer une QApplication avant de créer un contrôle des couches.</translation>
+    </message>
+    <message>
         <source>The thinnest line will be stored.</source>
         <translation>La ligne la plus fine sera enregistrée.</translation>
     </message>

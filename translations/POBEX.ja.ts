@@ -660,6 +660,10 @@
         <translation>線と輪郭のパターンまたは幅です。</translation>
     </message>
     <message>
+        <source>The program must make a QApplication before it makes a layer control.</source>
+        <translation>プログラムはレイヤーコントロールを作成する前に QApplication を作成する必要があります。</translation>
+    </message>
+    <message>
         <source>The thinnest line will be stored.</source>
         <translation>最も細い線として保存されます。</translation>
     </message>

@@ -364,6 +364,14 @@
         <translation>Layer aus &amp;Kartendaten</translation>
     </message>
     <message>
+        <source>A list has an entry with the ID %1.</source>
+        <translation>Eine Liste hat einen Eintrag mit der ID %1.</translation>
+    </message>
+    <message>
+        <source>A list has the ID %1 twice.</source>
+        <translation>Eine Liste enthält die ID %1 zweimal.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
@@ -716,6 +724,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>It holds no layers.</source>
         <translation>Sie enthält keine Layer.</translation>
+    </message>
+    <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>sie ist in keinem dieser Ordner: %1</translation>
     </message>
     <message>
         <source>It is not a layer scheme.</source>
@@ -1404,6 +1416,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Seite kann nicht gezeichnet werden.</translation>
     </message>
     <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>das Programm muss eine QApplication anlegen, bevor es sie lädt</translation>
+    </message>
+    <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
         <translation>Die zu ändernde Zeile ist nicht mehr in „^1“.</translation>
     </message>
@@ -1480,8 +1496,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>es gibt keinen Ordner „%1“</translation>
     </message>
     <message>
+        <source>There is no group with the ID %1.</source>
+        <translation>Es gibt keine Gruppe mit der ID %1.</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Es gibt kein Layerschema namens „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no layer with the ID %1.</source>
+        <translation>Es gibt keinen Layer mit der ID %1.</translation>
     </message>
     <message>
         <source>there is no room in the folder &quot;%1&quot;</source>

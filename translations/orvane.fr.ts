@@ -364,6 +364,14 @@
         <translation>Une couche de &amp;données cartographiques</translation>
     </message>
     <message>
+        <source>A list has an entry with the ID %1.</source>
+        <translation>Une liste contient une entrée avec l’ID %1.</translation>
+    </message>
+    <message>
+        <source>A list has the ID %1 twice.</source>
+        <translation>Une liste contient deux fois l’ID %1.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
@@ -716,6 +724,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>It holds no layers.</source>
         <translation>Il ne contient aucune couche.</translation>
+    </message>
+    <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>il n’est dans aucun de ces dossiers : %1</translation>
     </message>
     <message>
         <source>It is not a layer scheme.</source>
@@ -1404,6 +1416,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La page ne peut pas être dessinée.</translation>
     </message>
     <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>le programme doit créer une QApplication avant de le charger</translation>
+    </message>
+    <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
         <translation>La ligne à modifier n’est plus dans « ^1 ».</translation>
     </message>
@@ -1480,8 +1496,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>il n’y a pas de dossier « %1 »</translation>
     </message>
     <message>
+        <source>There is no group with the ID %1.</source>
+        <translation>Il n’y a pas de groupe avec l’ID %1.</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>Il n’y a pas de schéma nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no layer with the ID %1.</source>
+        <translation>Il n’y a pas de couche avec l’ID %1.</translation>
     </message>
     <message>
         <source>there is no room in the folder &quot;%1&quot;</source>

@@ -364,6 +364,14 @@
         <translation>地図データのレイヤ(&amp;D)</translation>
     </message>
     <message>
+        <source>A list has an entry with the ID %1.</source>
+        <translation>一覧に ID %1 の項目があります。</translation>
+    </message>
+    <message>
+        <source>A list has the ID %1 twice.</source>
+        <translation>一覧に ID %1 が二つあります。</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
     </message>
@@ -716,6 +724,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>It holds no layers.</source>
         <translation>レイヤがありません。</translation>
+    </message>
+    <message>
+        <source>it is in none of these folders: %1</source>
+        <translation>次のどのフォルダーにもありません: %1</translation>
     </message>
     <message>
         <source>It is not a layer scheme.</source>
@@ -1404,6 +1416,10 @@ These commands run without a window; each has its own --help:
         <translation>ページを描けません。</translation>
     </message>
     <message>
+        <source>the program must make a QApplication before it loads it</source>
+        <translation>プログラムは読み込む前に QApplication を作成する必要があります</translation>
+    </message>
+    <message>
         <source>The row to change is no longer in &quot;^1&quot;.</source>
         <translation>変更する行は「^1」にもうありません。</translation>
     </message>
@@ -1480,8 +1496,16 @@ These commands run without a window; each has its own --help:
         <translation>フォルダー「%1」がありません</translation>
     </message>
     <message>
+        <source>There is no group with the ID %1.</source>
+        <translation>ID %1 のグループはありません。</translation>
+    </message>
+    <message>
         <source>There is no layer scheme named &quot;%1&quot;.</source>
         <translation>「%1」という名前のレイヤースキームはありません。</translation>
+    </message>
+    <message>
+        <source>There is no layer with the ID %1.</source>
+        <translation>ID %1 のレイヤーはありません。</translation>
     </message>
     <message>
         <source>there is no room in the folder &quot;%1&quot;</source>

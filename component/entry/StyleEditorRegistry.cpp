@@ -5,6 +5,8 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QApplication>
+
 #include <algorithm>
 
 namespace Orvane {
@@ -35,6 +37,10 @@ StyleEditorWindow& StyleEditorRegistry::Create(const QString& editorID)
     if (Find(editorID))
         throw RunTimeError(
             ErrorNumber::DuplicateEditorID, TranslateMsg("Style Editor with that ID already exists."));
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) // Qt would end the program
+        throw RunTimeError(
+            ErrorNumber::NotInitialised,
+            TranslateMsg("The program must make a QApplication before it makes a layer control."));
     auto window = m_factory();
     window->SetEditorID(editorID);
     Register(editorID, window.get());

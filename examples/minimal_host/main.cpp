@@ -5,6 +5,7 @@
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/StyleEditorPlugin.h"
+#include "hostkit/lists/StoredList.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
@@ -21,32 +22,23 @@ using namespace Orvane;
 
 namespace {
 
-void AddLayer(ILayerStore& database, qint32 number, const QString& name, qint32 colour)
+void FillStore(std::unique_ptr<ILayerStore> store)
 {
-    database.Execute(
-        "INSERT INTO Layers (LayerID, Name, Code, Color, Priority) VALUES (?1, ?2, ?1, ?3, ?1)",
-        {number, name, colour});
-    database.Execute(
-        "INSERT INTO LayerGroupMembers (GroupID, LayerID, Ordering) VALUES (1, ?1, ?1)", {number});
-}
-
-std::unique_ptr<ILayerStore> OpenOrCreate(const QString& path)
-{
-    if (QFile::exists(path))
-        return LayerStores::Open(path);
-    auto database = LayerStores::Create(path);
-    database->Execute("INSERT INTO LayerGroups (ID, Name, Expanded) VALUES (1, 'Base map', 1)");
-    AddLayer(*database, 1, "Roads", 0x0000FF); // colours are BGR
-    AddLayer(*database, 2, "Rivers", 0xFF0000);
-    AddLayer(*database, 3, "Buildings", 0x808080);
-    return database;
+    StoredList::Update(
+        *store,
+        {{.id = 1, .name = "Roads", .lineColour = 0x0000FF, .priority = 1}, // colours are BGR
+         {.id = 2, .name = "Rivers", .lineColour = 0xFF0000, .priority = 2},
+         {.id = 3, .name = "Buildings", .lineColour = 0x808080, .priority = 3}},
+        {{.id = 1, .name = "Base map", .layers = {1, 2, 3}, .expanded = true}});
 }
 
 int ShowLayerControl(const QString& path)
 {
-    const auto database = OpenOrCreate(path);
+    if (!QFile::exists(path))
+        LayerStores::Make(path, IfExists::Refuse, FillStore);
+    const auto store = LayerStores::Open(path);
     StandardShellServices services;
-    StandardClient client(*database, services);
+    StandardClient client(*store, services);
     StyleEditorPlugin component; // destroyed first: it ends its editors through the client
     component.Library().Initialise(&client);
     component.Library().NewStyleEditor("Main")->Visible(true);
@@ -57,9 +49,8 @@ int ShowLayerControl(const QString& path)
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QApplication::setOrganizationName("Orvane");
-    QApplication::setApplicationName("minimal_host");
+    const QApplication application(argc, argv);
+    QApplication::setOrganizationName("Orvane"); // the user's settings are kept under it
     try {
         return ShowLayerControl(QApplication::arguments().value(1, "map.ovl"));
     } catch (const RunTimeError& error) {

@@ -17,6 +17,9 @@ enum class HostError {
     SchemeTextDamaged = 10013, ///< a text is not a scheme
     SchemeTextTooNew = 10014, ///< a scheme's text is from a newer program
     SchemeValueUnknown = 10015, ///< a saved value is not a number
+    UnknownLayer = 10021, ///< no layer has that ID
+    UnknownGroup = 10022, ///< no group has that ID
+    ListInvalid = 10023, ///< in a list of layers or groups an ID is 0 or occurs twice
 };
 
 } // namespace Orvane

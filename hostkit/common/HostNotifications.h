@@ -28,6 +28,8 @@ Q_SIGNALS:
     void LayerDeleted(qint32 layerID);
     void LayerRenamed(qint32 layerID, const QString& name);
     void GroupRenamed(qint32 groupID, const QString& name);
+    /// Undo or redo has created, deleted or reordered groups, or changed which layers they have.
+    void GroupsChanged();
     /// The current scheme or the set of schemes has changed.
     void SchemesChanged(const QString& currentScheme);
     /// The layers now have the scheme's saved values. Emitted after SchemesChanged and LayersChanged.

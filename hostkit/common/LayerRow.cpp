@@ -88,6 +88,12 @@ void LayerRow::Set(std::string_view column, const Value& value)
 qint32 LayerRow::StoreNew(ILayerStore& store)
 {
     const qint32 layerID = NextLayerID(store);
+    StoreAs(layerID, store);
+    return layerID;
+}
+
+void LayerRow::StoreAs(qint32 layerID, ILayerStore& store)
+{
     Set("LayerID", layerID);
     QStringList names;
     QStringList parameters;
@@ -99,7 +105,6 @@ qint32 LayerRow::StoreNew(ILayerStore& store)
         QStringLiteral("INSERT INTO Layers (%1) VALUES (%2)")
             .arg(names.join(QLatin1String(", ")), parameters.join(QLatin1String(", "))),
         std::vector<Value>(m_values.begin(), m_values.end()));
-    return layerID;
 }
 
 qint16 LayerRow::LowestFreeCode(ILayerStore& store)

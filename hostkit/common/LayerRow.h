@@ -31,6 +31,9 @@ public:
 
     /// Stores the row with the next free LayerID, and returns that. Raises errors of the store.
     qint32 StoreNew(ILayerStore& store);
+    /// Stores the row as a new one with that LayerID. Raises errors of the store, DatabaseFailure if a layer
+    /// has that ID.
+    void StoreAs(qint32 layerID, ILayerStore& store);
 
     /// The code of a layer when all codes from 0 to 32767 are taken; any number of layers may have it.
     static constexpr qint16 NoCode = -1;

@@ -24,8 +24,10 @@ public:
     {
         if (row.table == "Layers")
             TakeLayer(row, qint32(row.key));
-        else if (row.table == "LayerGroups" && Contains(row.columns, "Name"))
-            m_changes.renamedGroups.insert(qint32(row.key));
+        else if (row.table == "LayerGroups")
+            TakeGroup(row, qint32(row.key));
+        else if (row.table == "LayerGroupMembers")
+            m_changes.groups = true;
         else if (row.table == "LayerSchemes")
             m_changes.schemes = true;
         else if (row.table == "LayerSchemeValues")
@@ -50,6 +52,14 @@ private:
             m_changes.deleted.insert(layerID);
         else
             TakeColumns(row.columns, layerID);
+    }
+
+    void TakeGroup(const RowChange& row, qint32 groupID)
+    {
+        if (Contains(row.columns, "Name"))
+            m_changes.renamedGroups.insert(groupID);
+        m_changes.groups |= row.kind != ChangeKind::Updated || Contains(row.columns, "GroupOrdering")
+            || Contains(row.columns, "Pseudo");
     }
 
     void TakeColumns(const std::vector<std::string_view>& columns, qint32 layerID)

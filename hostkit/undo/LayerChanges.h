@@ -14,6 +14,7 @@ struct LayerChanges {
     QSet<qint32> changed; ///< layers with changes in columns other than the name
     QSet<qint32> renamed;
     QSet<qint32> renamedGroups;
+    bool groups = false; ///< groups or their layers have changed, apart from names and Expanded
     bool onlyCodes = true; ///< true when only the code of the changed layers has changed
     bool schemes = false; ///< the schemes, the current one, or saved values of layers that stay have changed
 

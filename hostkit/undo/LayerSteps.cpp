@@ -143,6 +143,8 @@ void LayerSteps::Emit(const Changeset& changed)
         emit m_notifications.LayerRenamed(layerID, m_names.Name(layerID));
     for (const qint32 groupID : changes.renamedGroups)
         emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
+    if (changes.groups)
+        emit m_notifications.GroupsChanged();
     if (changes.schemes)
         emit m_notifications.SchemesChanged(LayerSchemes(m_database).Current());
 }

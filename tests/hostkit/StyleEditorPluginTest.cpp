@@ -99,6 +99,27 @@ TEST(StyleEditorPlugin, NamesTheComponentThatIsInNoneOfTheFolders)
     EXPECT_TRUE(LoadComplaint(QStringLiteral("NoSuchComponent")).contains(QStringLiteral("NoSuchComponent")));
 }
 
+TEST(StyleEditorPlugin, NamesAllFoldersThatItLookedIn)
+{
+    const QString complaint = LoadComplaint(QStringLiteral("NoSuchComponent"));
+    for (const QString& folder : StyleEditorPlugin::SearchFolders())
+        EXPECT_TRUE(complaint.contains(QDir::cleanPath(folder))) << qPrintable(folder);
+}
+
+TEST(StyleEditorPlugin, SaysWhatIsWrongWithAFoundFileNotWhereItWasNotFound)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("libBrokenComponent.so")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("not a library");
+    file.close();
+    QCoreApplication::addLibraryPath(folder.path());
+    const QString complaint = LoadComplaint(QStringLiteral("BrokenComponent"));
+    QCoreApplication::removeLibraryPath(folder.path());
+    EXPECT_TRUE(complaint.contains(file.fileName())) << qPrintable(complaint);
+    EXPECT_FALSE(complaint.contains(QCoreApplication::applicationDirPath())) << qPrintable(complaint);
+}
+
 TEST(StyleEditorPlugin, RefusesAFileThatIsNoLibrary)
 {
     QTemporaryDir folder;

@@ -4,9 +4,11 @@
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/lists/StoredList.h"
 #include "hostkit/tracing/CallTrace.h"
 #include "hostkit/tracing/TracingClient.h"
 #include "hostkit/tracing/TracingLibrary.h"
+#include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
@@ -144,6 +146,22 @@ TEST(MinimalHostProgram, SaysWhatIsWrongWithAFileThatIsNoMap)
     ASSERT_TRUE(program.waitForFinished());
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_TRUE(program.readAllStandardError().contains("list.txt"));
+}
+
+TEST(MinimalHostProgram, MakesAMapThatIsMissing)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    QProcess program;
+    program.start(QStringLiteral(MINIMAL_HOST), {path});
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return QFile::exists(path) || program.state() == QProcess::NotRunning; }, 60000));
+    program.kill();
+    program.waitForFinished();
+    const auto map = LayerStores::Open(path);
+    EXPECT_EQ(StoredList::Layers(*map).size(), 3U);
+    ASSERT_EQ(StoredList::Groups(*map).size(), 1U);
+    EXPECT_EQ(StoredList::Groups(*map)[0].layers, (std::vector<qint32>{1, 2, 3}));
 }
 
 } // namespace

@@ -34,6 +34,13 @@ TEST_F(LayerRowTest, AColumnKeepsWhatItIsGiven)
     EXPECT_THAT(Get(42, "Color"), IsNullValue());
 }
 
+TEST_F(LayerRowTest, ARowIsStoredUnderAGivenIDOnce)
+{
+    LayerRow().StoreAs(17, Database());
+    EXPECT_THAT(Get(17, "LayerID"), IsNumber(17));
+    EXPECT_EQ(ErrorOf([this] { LayerRow().StoreAs(17, Database()); }), int(ErrorNumber::DatabaseFailure));
+}
+
 TEST_F(LayerRowTest, AColumnThatThereIsNotIsRefused)
 {
     LayerRow row;

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <hostkit/LayerList.h>
 #include <hostkit/StandardClient.h>
 #include <hostkit/StandardShellServices.h>
 #include <hostkit/StyleEditorPlugin.h>
@@ -17,9 +18,10 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     const auto database = LayerStores::CreateInMemory();
-    database->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
     StandardShellServices services;
     StandardClient client(*database, services);
+    LayerList list(*database, client);
+    list.Update({{.id = 1, .name = QStringLiteral("Roads")}});
     StyleEditorPlugin plugin(
         QStringLiteral(PLUGIN_FOLDER "/") + QLatin1String(StyleEditorPlugin::DefaultName));
     plugin.Library().Initialise(&client);

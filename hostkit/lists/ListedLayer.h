@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <vector>
+
+namespace Orvane {
+
+/// A layer as a program keeps it in a list of its own. Each field stands for a column of Layers, and begins
+/// with that column's default in LayerColumns.
+///
+///     std::vector<ListedLayer> layers{{.id = 1, .name = "Roads", .lineColour = 0x0000FF}};
+struct ListedLayer {
+    qint32 id = 0; ///< chosen by the program, not 0; different for each layer
+    QString name = {};
+    qint32 code = 0; ///< a layer with -2 or less is never listed
+    bool visible = true;
+    bool selectable = true;
+    bool locked = false;
+    bool hitable = true;
+    bool snapRequired = false;
+    bool enquirable = true;
+    qint32 lineColour = 0; ///< BGR (red in the low byte), 0 to 0xFFFFFF
+    bool usedForSymbols = true; ///< whether symbols have the line colour; kept in the top byte of Color
+    qint32 fillForeColour = 0; ///< BGR, or TransparentColour
+    qint32 fillBackColour = 0xFFFFFF; ///< BGR, or TransparentColour
+    qint32 outlineStyle = 0; ///< the number of a line pattern, 0 for solid
+    qint32 fillStyle = 0; ///< 0 to LastFillStyle
+    qint32 lineThickness = 0; ///< in pixels below 0, in millimetres above
+    double minVisScale = 0; ///< a denominator; 0 for no limit
+    double maxVisScale = 0; ///< a denominator; 0 for no limit
+    qint32 priority = 0; ///< 1 is drawn on top, 255 at the bottom
+    qint32 rendererStyle = 0; ///< 0 for "Standard"
+    qint32 overrideMode = 0; ///< 0 normal, 1 backdrop, 2 hidden
+    bool systemLayer = false; ///< not to be deleted, renamed or recoded
+    bool pseudo = false; ///< for filters of the flat list
+
+    bool operator==(const ListedLayer&) const = default;
+};
+
+/// A group as a program keeps it in a list of its own.
+struct ListedGroup {
+    qint32 id = 0; ///< chosen by the program, not 0; different for each group
+    QString name = {};
+    std::vector<qint32> layers = {}; ///< the IDs of its layers, in the order of the tree, each once
+    bool pseudo = false; ///< such a group is not in the tree
+    bool expanded = false; ///< of a new group; after that it is as the user leaves it
+
+    bool operator==(const ListedGroup&) const = default;
+};
+
+} // namespace Orvane
