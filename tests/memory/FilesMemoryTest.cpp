@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "memory/StoreWithoutMemory.h"
+
+namespace Orvane::Testing {
+
+using FilesWithoutMemory = StoreWithoutMemory;
+
+TEST_P(FilesWithoutMemory, AMapIsOpenedOrRefusedForLackOfMemory)
+{
+    SweepPlain([this]() -> Act {
+        m_database.reset();
+        return [this] { m_database = SqliteLayerDatabase::Open(m_run); };
+    });
+}
+
+TEST_P(FilesWithoutMemory, ACopyIsWholeOrNotThere)
+{
+    Sweep([this](SqliteLayerDatabase& database) -> Act { return [&] { database.CopyToFile(m_copy); }; });
+}
+
+TEST_P(FilesWithoutMemory, ACopyReplacesAMapWholeOrNotAtAll)
+{
+    Sweep([this](SqliteLayerDatabase& database) -> Act {
+        database.CopyToFile(m_copy);
+        SetCode(database, 1, 5);
+        return [&] { database.CopyToFile(m_copy, IfExists::Replace); };
+    });
+}
+
+TEST_P(FilesWithoutMemory, ANewMapIsMadeWholeOrNotAtAll)
+{
+    SweepPlain([this]() -> Act { return [this] { SqliteLayerDatabase::Create(m_copy); }; });
+}
+
+TEST_P(FilesWithoutMemory, AMapThatIsOpenIsNotReplaced)
+{
+    m_afterwards = [this] { m_other.reset(); };
+    Sweep([this](SqliteLayerDatabase& database) -> Act {
+        database.CopyToFile(m_copy);
+        m_other = SqliteLayerDatabase::Open(m_copy);
+        return [&] {
+            try {
+                database.CopyToFile(m_copy, IfExists::Replace);
+                m_read = "replaced";
+            } catch (const RunTimeError& error) {
+                if (error.Number() != int(ErrorNumber::DatabaseLocked))
+                    throw;
+            }
+        };
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(WhateverFails, FilesWithoutMemory, AllKindsOfMissingMemory(), NameOfKind);
+
+} // namespace Orvane::Testing
