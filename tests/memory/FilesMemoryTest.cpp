@@ -3,7 +3,21 @@
 
 namespace Orvane::Testing {
 
-using FilesWithoutMemory = StoreWithoutMemory;
+namespace {
+
+/// Commands on whole files. SQLite makes thousands of allocations for each, the store itself few.
+class FilesWithoutMemory : public StoreWithoutMemory
+{
+protected:
+    FilesWithoutMemory()
+    {
+        const bool isInSqlite
+            = GetParam() == MissingMemory::OnceInSqlite || GetParam() == MissingMemory::InSqliteFromThenOn;
+        m_stride = isInSqlite ? 41 : 1;
+    }
+};
+
+} // namespace
 
 TEST_P(FilesWithoutMemory, AMapIsOpenedOrRefusedForLackOfMemory)
 {

@@ -19,6 +19,9 @@ struct SweptCommand {
     std::function<void()> goOn;
     /// Everything that is stored or was read, after goOn.
     std::function<std::string()> state;
+    /// Only each nth allocation fails, for commands that make thousands; ORVANE_EACH_ALLOCATION=1 in the
+    /// environment lets all fail nevertheless.
+    int stride = 1;
 };
 
 /// Lets the first allocation of the command fail, then the second, and so on until none fails any more. After

@@ -48,7 +48,8 @@ protected:
                      return prepare();
                  },
              .goOn = [this] { EditOnceMore(); },
-             .state = [this] { return State(); }});
+             .state = [this] { return State(); },
+             .stride = m_stride});
     }
 
     static void SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code)
@@ -64,6 +65,7 @@ protected:
     std::unique_ptr<SqliteLayerDatabase> m_database;
     std::unique_ptr<SqliteLayerDatabase> m_other;
     std::string m_read; // what a command has read, once it has read all
+    int m_stride = 1;
     Act m_afterwards; // runs on the open map when nothing fails any more
 
 private:
