@@ -10,14 +10,14 @@ namespace Orvane {
 ChangesMeanwhile::ChangesMeanwhile(const IStyleEditorClient& client, const StyleEdits& edits)
     : m_edits(edits), m_all{edits.style, edits.quickMode}, m_reader(client)
 {
-    m_seen.reserve(qsizetype(edits.seen.size()));
+    m_seen.reserve(edits.seen.size());
     for (const SeenLayer& layer : edits.seen)
-        m_seen.insert(layer.layerID, layer.fingerprint);
+        m_seen.insert_or_assign(layer.layerID, layer.fingerprint);
 }
 
 const RowEdits& ChangesMeanwhile::EditsFor(const IRecordset& row, qint32 layerID)
 {
-    if (m_seen.isEmpty())
+    if (m_seen.empty())
         return m_all;
     const LayerRowValues values(row);
     if (IsAsSeen(values, layerID))
@@ -33,8 +33,8 @@ const RowEdits& ChangesMeanwhile::EditsFor(const IRecordset& row, qint32 layerID
 
 bool ChangesMeanwhile::IsAsSeen(const LayerRowValues& values, qint32 layerID) const
 {
-    const auto seen = m_seen.constFind(layerID);
-    return seen != m_seen.constEnd() && *seen == values.Fingerprint();
+    const auto seen = m_seen.find(layerID);
+    return seen != m_seen.end() && seen->second == values.Fingerprint();
 }
 
 void ChangesMeanwhile::Reconcile(RowEdits& edits, const LayerStyle& now, qint16 slot)

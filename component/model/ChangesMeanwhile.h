@@ -4,8 +4,9 @@
 #include "component/model/LayerRowReader.h"
 #include "component/model/LayerStyleApplying.h"
 
-#include <QHash>
+#include <QtGlobal>
 
+#include <unordered_map>
 #include <vector>
 
 namespace Orvane {
@@ -45,7 +46,7 @@ private:
     RowEdits m_all;
     RowEdits m_reduced;
     LayerRowReader m_reader;
-    QHash<qint32, quint64> m_seen;
+    std::unordered_map<qint32, quint64> m_seen; // QHash ends the program when there is no memory
     std::vector<EditConflict> m_conflicts;
     bool m_isCodeChanged = false;
 };

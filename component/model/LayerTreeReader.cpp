@@ -10,8 +10,7 @@
 #include <OrvaneShellLib/LayerQueries.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
-#include <QHash>
-
+#include <unordered_map>
 #include <utility>
 
 namespace Orvane {
@@ -105,12 +104,12 @@ private:
     {
         if (!m_entries.empty() && m_entries[m_current].groupID == groupID)
             return m_entries[m_current];
-        const auto known = m_indexes.constFind(groupID);
-        if (known != m_indexes.constEnd())
-            return m_entries[m_current = *known];
+        const auto known = m_indexes.find(groupID);
+        if (known != m_indexes.end())
+            return m_entries[m_current = known->second];
         m_entries.push_back(StartGroup(groupID));
         m_current = m_entries.size() - 1;
-        m_indexes.insert(groupID, m_current);
+        m_indexes.emplace(groupID, m_current);
         return m_entries.back();
     }
 
@@ -129,7 +128,7 @@ private:
     std::unique_ptr<IRecordset> m_groups;
     RowFaults m_faults;
     std::vector<GroupEntry> m_entries;
-    QHash<qint32, std::size_t> m_indexes;
+    std::unordered_map<qint32, std::size_t> m_indexes; // QHash ends the program when there is no memory
     std::size_t m_current = 0;
 };
 

@@ -40,7 +40,7 @@ Open(const QString& place, OpenMode mode = OpenMode::ReadWrite, const StoreOptio
 std::unique_ptr<ILayerStore> CreateInMemory(const StoreOptions& options = {});
 
 /// True while the store is open anywhere, including in this program. If it is missing or is not a layer
-/// store, it is not in use. Raises nothing.
+/// store, it is not in use. Raises only for lack of memory.
 bool IsInUse(const QString& place);
 
 } // namespace LayerStores

@@ -184,7 +184,10 @@ int ChangeWatch::TableNamed(const char* name)
     const int known = m_log.FindTable(name);
     if (known >= 0 && int(m_log.Table(known).columns.size()) == count)
         return m_log.Table(known).keys.empty() ? NoKey : known;
-    const int added = m_log.AddTable(ReadTable(m_connection, name, m_isReal.emplace_back()));
+    std::vector<bool> isReal;
+    m_isReal.reserve(m_isReal.size() + 1); // both lists grow, or neither
+    const int added = m_log.AddTable(ReadTable(m_connection, name, isReal));
+    m_isReal.push_back(std::move(isReal));
     return m_log.Table(added).keys.empty() ? NoKey : added;
 }
 

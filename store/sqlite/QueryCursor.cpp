@@ -41,12 +41,14 @@ void QueryCursor::IRecordset_MoveNext()
 {
     if (m_atEOF)
         throw m_session.connection.Errors().Failure(StoreTexts::NoCurrentRow);
-    if (!m_released) {
-        StepStatement();
-        return;
-    }
+    if (m_kept.empty())
+        return StepStatement();
     m_kept.pop_front();
-    m_atEOF = m_kept.empty();
+    if (!m_kept.empty() || !m_released)
+        return;
+    m_atEOF = true;
+    if (m_cutShort)
+        std::rethrow_exception(m_cutShort);
 }
 
 Value QueryCursor::IRecordset_Field(std::string_view columnName) const
@@ -58,18 +60,31 @@ Value QueryCursor::IRecordset_Field(std::string_view columnName) const
         throw m_session.connection.Errors().Failure(
             StoreTexts::UnknownColumn, QString::fromUtf8(columnName.data(), qsizetype(columnName.size())));
     }
-    return m_released ? m_kept.front()[size_t(position)] : m_statement->Column(position);
+    return m_kept.empty() ? m_statement->Column(position) : m_kept.front()[size_t(position)];
 }
 
 void QueryCursor::ReleaseRow()
 {
     if (m_released || m_atEOF)
         return;
+    // If a row cannot be kept, the statement stays on it, and the rows before it stay in their order.
     do {
         m_kept.push_back(CurrentRow());
-    } while (m_statement->Step());
+    } while (StepWhileKeeping());
     m_statement->Reset();
     m_released = true;
+}
+
+// After an error the statement has no rows any more: who reads on must not take that for the end.
+bool QueryCursor::StepWhileKeeping()
+{
+    try {
+        return m_statement->Step();
+    } catch (...) {
+        m_cutShort = std::current_exception();
+        m_released = true;
+        throw;
+    }
 }
 
 std::vector<Value> QueryCursor::CurrentRow() const

@@ -7,6 +7,7 @@
 #include <OrvaneShellLib/IRecordset.h>
 
 #include <deque>
+#include <exception>
 #include <vector>
 
 namespace Orvane {
@@ -35,13 +36,15 @@ private:
 
     void ReleaseRow() override;
     void StepStatement();
+    bool StepWhileKeeping();
     std::vector<Value> CurrentRow() const;
     [[noreturn]] void RaiseReadOnly() const;
 
     SqliteSession& m_session;
     StatementLease m_statement;
     std::deque<std::vector<Value>> m_kept; // rows that were read ahead, the current one first
-    bool m_released = false;
+    std::exception_ptr m_cutShort; // why there are no rows after those
+    bool m_released = false; // the statement has ended
     bool m_atEOF = false;
 };
 

@@ -75,13 +75,12 @@ std::unique_ptr<SqliteSession> NewSession(const QString& path, const StoreOption
 std::unique_ptr<SqliteLayerDatabase>
 SqliteLayerDatabase::Create(const QString& path, const StoreOptions& options)
 {
+    LayerFileRemoval removal(path);
     Make(path, IfExists::Refuse, {}, options);
-    try {
-        return Open(path, OpenMode::ReadWrite, options);
-    } catch (const RunTimeError&) {
-        RemoveLayerFile(path);
-        throw;
-    }
+    removal.Arm();
+    auto database = Open(path, OpenMode::ReadWrite, options);
+    removal.Disarm();
+    return database;
 }
 
 void SqliteLayerDatabase::Make(

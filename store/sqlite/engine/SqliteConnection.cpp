@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/engine/SqliteConnection.h"
 
+#include "store/sqlite/engine/NoMemoryError.h"
 #include "store/sqlite/engine/RegularFiles.h"
 
 #include <QFileInfo>
@@ -134,9 +135,13 @@ QString SqliteConnection::Text(const QByteArray& sql)
     QString text;
     const auto keepFirst = [](void* target, int, char** values, char**) {
         auto& result = *static_cast<QString*>(target);
-        if (result.isNull())
-            result = QString::fromUtf8(values[0] ? values[0] : "");
-        return 0;
+        try {
+            if (result.isNull())
+                result = QString::fromUtf8(values[0] ? values[0] : "");
+            return 0;
+        } catch (...) { // an exception must not pass through SQLite's frames
+            return 1;
+        }
     };
     const int result = sqlite3_exec(Handle(), sql.constData(), keepFirst, &text, nullptr);
     if (result != SQLITE_OK)
@@ -147,7 +152,10 @@ QString SqliteConnection::Text(const QByteArray& sql)
 void SqliteConnection::Raise(int resultCode) const
 {
     const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
-    throw m_errors.FromSqlite(resultCode, message);
+    const RunTimeError error = m_errors.FromSqlite(resultCode, message);
+    if ((resultCode & 0xFF) == SQLITE_NOMEM)
+        throw NoMemoryError(error);
+    throw error;
 }
 
 void SqliteConnection::SetQueryListener(std::function<void(const QString&)> listener)

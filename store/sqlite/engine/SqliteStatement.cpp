@@ -123,10 +123,12 @@ bool SqliteStatement::Step()
         return true;
     if (result == SQLITE_DONE)
         return false;
-    const RunTimeError error
-        = m_connection.Errors().FromSqlite(result, sqlite3_errmsg(m_connection.Handle()));
-    Reset();
-    throw error;
+    try {
+        m_connection.Raise(result);
+    } catch (...) {
+        Reset();
+        throw;
+    }
 }
 
 int SqliteStatement::TryStep()

@@ -58,4 +58,20 @@ void RemoveLayerFile(const QString& path)
     RemoveBeside(path);
 }
 
+LayerFileRemoval::LayerFileRemoval(const QString& path)
+{
+    size_t next = 0;
+    for (const char* suffix : {"", Log, LogIndex, RollbackJournal})
+        m_files[next++] = (path + QLatin1String(suffix)).toStdU16String();
+}
+
+LayerFileRemoval::~LayerFileRemoval()
+{
+    std::error_code ignored;
+    for (const auto& file : m_files) {
+        if (m_isArmed)
+            std::filesystem::remove(file, ignored);
+    }
+}
+
 } // namespace Orvane

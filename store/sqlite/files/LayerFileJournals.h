@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class QString;
+#include <QString>
+
+#include <array>
+#include <filesystem>
 
 namespace Orvane {
 
@@ -20,5 +23,24 @@ void SettleJournals(const QString& path);
 /// Removes a database file that is not open, with the files beside it; does nothing if it is missing. Raises
 /// nothing.
 void RemoveLayerFile(const QString& path);
+
+/// Removes a database file that is not open, with the files beside it, when this object is destroyed. Needs
+/// no memory for that: it often happens because there is none.
+class LayerFileRemoval
+{
+public:
+    /// Removes nothing until it is armed.
+    explicit LayerFileRemoval(const QString& path);
+    ~LayerFileRemoval();
+    LayerFileRemoval(const LayerFileRemoval&) = delete;
+    LayerFileRemoval& operator=(const LayerFileRemoval&) = delete;
+
+    void Arm() { m_isArmed = true; }
+    void Disarm() { m_isArmed = false; }
+
+private:
+    std::array<std::filesystem::path, 4> m_files;
+    bool m_isArmed = false;
+};
 
 } // namespace Orvane

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/files/LayerFileUse.h"
 
+#include "store/sqlite/engine/NoMemoryError.h"
 #include "store/sqlite/engine/SqliteConnection.h"
-
-#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QFileInfo>
 
@@ -37,6 +36,8 @@ bool IsLayerFileInUse(const QString& path)
             return false;
         const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite, {});
         return !CanBeLocked(connection.Handle());
+    } catch (const NoMemoryError&) { // who takes this for "no" may replace a file that is open
+        throw;
     } catch (const RunTimeError&) {
         return false;
     }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <sqlite3.h>
 
 namespace Orvane::LayerSchema {
 
@@ -150,8 +151,8 @@ void Check(SqliteConnection& connection)
         connection.Run(LayerCheck(std::max(VersionOf(connection), 1)));
         for (const char* query : ColumnChecks)
             connection.Run(query);
-    } catch (const RunTimeError& error) {
-        if (error.Number() != int(ErrorNumber::DatabaseFailure))
+    } catch (const RunTimeError&) {
+        if ((sqlite3_errcode(connection.Handle()) & 0xFF) != SQLITE_ERROR) // the file could not be read
             throw;
         throw connection.Errors().Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
     }

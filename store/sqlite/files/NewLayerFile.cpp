@@ -6,7 +6,6 @@
 #include "store/StoreTexts.h"
 #include "store/sqlite/engine/SqliteStatement.h"
 #include "store/sqlite/files/LayerFileCheck.h"
-#include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerFileUse.h"
 
 #include <QFile>
@@ -18,6 +17,11 @@
 namespace Orvane {
 
 namespace {
+
+QString PartPath(const QString& place)
+{
+    return place + QLatin1String(".part");
+}
 
 QString AbsolutePlace(const QString& place, const StoreErrors& errors)
 {
@@ -83,21 +87,15 @@ bool IsAboutOriginal(int resultCode)
 } // namespace
 
 NewLayerFile::NewLayerFile(const QString& place, IfExists ifExists, const StoreOptions& options)
-    : m_ifExists(ifExists), m_options(OptionsNaming(place, options)), m_errors(m_options.shownPath)
+    : m_ifExists(ifExists), m_options(OptionsNaming(place, options)), m_errors(m_options.shownPath),
+      m_place(AbsolutePlace(place, m_errors)), m_path(PartPath(m_place)), m_removal(m_path)
 {
-    m_place = AbsolutePlace(place, m_errors);
-    m_path = m_place + QLatin1String(".part");
     CheckPlace();
     if (IsLayerFileInUse(m_path))
         throw m_errors.Error(ErrorNumber::DatabaseLocked, StoreTexts::InUse);
     RemoveLayerFile(m_path);
     MakeEmptyFile(m_path, m_errors);
-}
-
-NewLayerFile::~NewLayerFile()
-{
-    if (!m_isMoved) // what is there now may be another program's
-        RemoveLayerFile(m_path);
+    m_removal.Arm();
 }
 
 void NewLayerFile::CopyFrom(SqliteConnection& original) const
@@ -121,9 +119,10 @@ void NewLayerFile::PutInPlace()
     // What a crash has left beside the old file belongs to it: it must not be lost if the new file cannot be
     // moved, and never be applied to the new file.
     SettleJournals(m_place);
+    const QString folder = QFileInfo(m_place).path(); // once it is moved, nothing may fail
     Move();
-    m_isMoved = true;
-    SyncFolder(QFileInfo(m_place).path());
+    m_removal.Disarm(); // what is there from now on may be another program's
+    SyncFolder(folder);
 }
 
 // A program that has the old file open would continue to write into a file that no longer exists.
@@ -137,14 +136,17 @@ void NewLayerFile::CheckPlace() const
 
 void NewLayerFile::Move() const
 {
+    const std::filesystem::path from(m_path.toStdU16String());
+    const std::filesystem::path place(m_place.toStdU16String());
     if (m_ifExists == IfExists::Refuse)
         MakeEmptyFile(m_place, m_errors); // takes the name
     std::error_code error;
-    std::filesystem::rename(m_path.toStdU16String(), m_place.toStdU16String(), error);
+    std::filesystem::rename(from, place, error);
     if (!error)
         return;
+    std::error_code ignored;
     if (m_ifExists == IfExists::Refuse)
-        QFile::remove(m_place);
+        std::filesystem::remove(place, ignored);
     throw m_errors.Failure(StoreTexts::CannotStore, WhyNotWritten(m_place, qt_error_string(error.value())));
 }
 

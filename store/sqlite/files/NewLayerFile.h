@@ -3,6 +3,7 @@
 
 #include "store/StoreOptions.h"
 #include "store/sqlite/engine/StoreErrors.h"
+#include "store/sqlite/files/LayerFileJournals.h"
 
 #include <QString>
 
@@ -24,7 +25,6 @@ public:
     /// DatabaseFailure if there is a file to be kept or none can be created, DatabaseLocked if the file to be
     /// replaced is open anywhere or another program is making one for the same place.
     NewLayerFile(const QString& place, IfExists ifExists, const StoreOptions& options);
-    ~NewLayerFile();
     NewLayerFile(const NewLayerFile&) = delete;
     NewLayerFile& operator=(const NewLayerFile&) = delete;
 
@@ -45,12 +45,12 @@ private:
     void CheckPlace() const;
     void Move() const;
 
-    QString m_place; // absolute
-    QString m_path;
     IfExists m_ifExists;
     StoreOptions m_options;
     StoreErrors m_errors;
-    bool m_isMoved = false;
+    QString m_place; // absolute
+    QString m_path;
+    LayerFileRemoval m_removal;
 };
 
 } // namespace Orvane
