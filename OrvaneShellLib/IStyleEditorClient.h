@@ -38,8 +38,8 @@ public:
     /// Shows the form, or brings it to the front if it is shown already. The host may keep a pointer to it
     /// until EditorClosed.
     ///
-    /// The host chooses the place: a window, or a dock, tab, dialog or layout of its own. It may give the form
-    /// a parent, move it to another, show, hide and resize it, at any time and with no further call. The
+    /// The host chooses the place: a window, or a dock, tab, dialog or layout of its own. It may give the
+    /// form a parent, move it to another, show, hide and resize it, at any time and with no further call. The
     /// component owns the form and destroys it after EditorClosed. A host that destroys it, with its parent
     /// for example, loses edits that were not applied, and EditorClosed is not called.
     ///

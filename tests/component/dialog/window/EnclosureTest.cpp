@@ -107,6 +107,23 @@ TEST_F(Docked, TheMainWindowAsksForAFloatingDock)
     EXPECT_EQ(Stored(1, "Visible"), 0);
 }
 
+TEST_F(Docked, OneOfTwoEditorsCanKeepTheMainWindowOpen)
+{
+    auto* second = new QDockWidget(&window);
+    window.addDockWidget(Qt::LeftDockWidgetArea, second);
+    OpenWithEdits();
+    CauseConflict();
+    host.OnShowEditor = [&](QWidget* form) { Put(*second, form); };
+    Library().NewStyleEditor("Second")->Visible(true);
+    MessageBoxRobot user{BoxKey::Yes, BoxKey::Enter};
+    EXPECT_FALSE(window.close());
+    EXPECT_NE(Form(), nullptr);
+    EXPECT_NE(Library().GetStyleEditor("Second"), nullptr);
+    EditorForm().UnloadWithoutApply();
+    EXPECT_TRUE(window.close());
+    EXPECT_EQ(Library().GetStyleEditor("Second"), nullptr);
+}
+
 TEST_F(Docked, AFormThatIsMovedElsewhereIsAskedThere)
 {
     OpenWithEdits();
