@@ -62,7 +62,7 @@ public:
     }
 
     /// Stores the text under the key, for the current user, so that it is still there in the next run. May
-    /// also be called after EditorClosed.
+    /// also be called after EditorClosed. form: nullptr if the host has destroyed it in EditorClosed.
     void WriteSetting(QWidget* form, const QString& key, const QString& value)
     {
         IStyleEditorClient_WriteSetting(form, key, value);

@@ -130,10 +130,14 @@ void frmLayerStyles::Hide()
     const QPointer self(this);
     m_closing = true;
     m_enclosure->Leave(); // the host may close what encloses the form
+    const QString key = SettingKey(EditorID());
+    const QString state = ViewStateText();
     FirstError errors;
     errors.Try([this] { Client().EditorClosed(this); });
     if (self)
         errors.Try([this] { Unload(); });
+    else if (HasClient()) // the host has destroyed the form
+        errors.Try([&] { Client().WriteSetting(nullptr, key, state); });
     errors.Rethrow();
 }
 
@@ -172,9 +176,9 @@ void frmLayerStyles::TellUnload(FirstError& errors)
     const QString state = ViewStateText();
     const QPointer self(this);
     errors.Try([this] { Client().EditorClosed(this); });
-    errors.Try([&] { Client().WriteSetting(self, key, state); });
-    auto* watch = dynamic_cast<IEditorWatch*>(&Client());
-    if (watch && self)
+    if (HasClient())
+        errors.Try([&] { Client().WriteSetting(self, key, state); });
+    if (auto* watch = self && HasClient() ? dynamic_cast<IEditorWatch*>(&Client()) : nullptr)
         errors.Try([&] { watch->EditorEnded(this); });
 }
 

@@ -138,6 +138,7 @@ TEST_F(DockHost, ClosingTheWindowAsksTheDockedEditorAndRemembersTheDock)
 TEST_F(DockHost, OpensTheEditorAgainInTheSameDock)
 {
     PressCloseButtonOfDock();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_component.Library().NewStyleEditor(EditorID)->Visible(true);
     EXPECT_TRUE(m_window.Dock().isVisible());
     ClickLayer(QStringLiteral("Roads (17)"));

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
 #include <QAction>
+#include <QCheckBox>
 
 namespace Orvane::Testing {
 
@@ -38,12 +39,14 @@ TEST_F(Embedded, ItsMnemonicsNeedTheFocus)
 {
     OpenActive();
     ClickLayer("Roads");
+    const auto* box = Find("chkVisible").findChild<QCheckBox*>();
     window.centralWidget()->setFocus();
     QTest::keyClick(window.centralWidget(), Qt::Key_V, Qt::AltModifier);
-    EXPECT_FALSE(CanApply());
+    EXPECT_FALSE(box->isDown());
     Find("tvLayers2").setFocus();
     QTest::keyClick(&Find("tvLayers2"), Qt::Key_V, Qt::AltModifier);
-    EXPECT_TRUE(CanApply());
+    EXPECT_TRUE(box->isDown()) << "for a moment, as if it were clicked";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CanApply(); }));
     EditorForm().UnloadWithoutApply();
 }
 
@@ -105,6 +108,7 @@ TEST_F(Embedded, HidingTheSettingsLeavesTheSizeToTheDock)
     Open();
     QCoreApplication::sendPostedEvents();
     window.resizeDocks({dock}, {700}, Qt::Horizontal);
+    QCoreApplication::processEvents();
     const int width = Form()->width();
     Click("cmdResize");
     QCoreApplication::sendPostedEvents();
@@ -117,6 +121,7 @@ TEST_F(Embedded, HidingTheSettingsLeavesTheSizeToTheDock)
 TEST_F(Embedded, ALowDockShowsListAndButtons)
 {
     Open();
+    ClickLayer("Roads");
     window.resize(900, 300);
     QCoreApplication::sendPostedEvents();
     EXPECT_LE(window.height(), 300);

@@ -164,7 +164,7 @@ TEST_F(Docked, TheHostMayDestroyTheMainWindowWhileTheQuestionWaits)
     other->show();
     host.OnShowEditor = [&](QWidget* form) { Put(*otherDock, form); };
     OpenWithEdits();
-    MessageBoxRobot user{BoxKey::Escape};
+    MessageBoxRobot user(std::initializer_list<BoxKey>{});
     user.BeforeAnswer([&](QMessageBox&) { delete other; });
     QCoreApplication::postEvent(otherDock, new QCloseEvent);
     QCoreApplication::sendPostedEvents();
