@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/windows/EditorDock.h"
 
+#include <QIcon>
 #include <QShowEvent>
 #include <QTimer>
 

@@ -54,7 +54,7 @@ TEST_F(Embedded, TheHostsShortcutsWorkWhereTheFormHasTheSame)
 {
     OpenActive();
     QAction view(QString("View"));
-    view.setShortcut(QKeySequence(Qt::ALT | Qt::Key_V));
+    view.setShortcut(QKeySequence(QStringLiteral("Alt+V")));
     window.addAction(&view);
     int triggered = 0;
     QObject::connect(&view, &QAction::triggered, [&] { ++triggered; });
