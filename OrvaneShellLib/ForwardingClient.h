@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OrvaneShellLib/IConflictQuestion.h>
+#include <OrvaneShellLib/IEditorWatch.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 namespace Orvane {
@@ -13,7 +14,7 @@ namespace Orvane {
 ///         using ForwardingClient::ForwardingClient;
 ///         void IStyleEditorClient_RedrawMap() override { }
 ///     };
-class ForwardingClient : public IStyleEditorClient, public IConflictQuestion
+class ForwardingClient : public IStyleEditorClient, public IConflictQuestion, public IEditorWatch
 {
 public:
     /// client: not owned; outlives this object.
@@ -83,6 +84,17 @@ protected:
     {
         auto* question = dynamic_cast<IConflictQuestion*>(&m_client);
         return question ? question->AskAboutConflicts(form, node, edits) : ConflictChoice::Overwrite;
+    }
+    /// Nothing happens if the other client does not watch.
+    void IEditorWatch_EditorShown(QWidget* form) override
+    {
+        if (auto* watch = dynamic_cast<IEditorWatch*>(&m_client))
+            watch->EditorShown(form);
+    }
+    void IEditorWatch_EditorEnded(QWidget* form) override
+    {
+        if (auto* watch = dynamic_cast<IEditorWatch*>(&m_client))
+            watch->EditorEnded(form);
     }
 
     /// The wrapped client, for use in overrides.

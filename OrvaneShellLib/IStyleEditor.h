@@ -22,13 +22,14 @@ public:
     /// is next shown.
     void StyleFilter(const IStyleFilter* filter) { IStyleEditor_StyleFilter(filter); }
 
-    /// True while the dialog's window is shown.
+    /// True while the dialog's form is visible to the user; false also behind another tab of the host.
     bool Visible() const { return IStyleEditor_Visible(); }
 
     /// true shows the dialog with its stored view state, through IStyleEditorClient::ShowEditor; false closes
     /// it: the user is asked about edits that were not applied, and then the editor is destroyed, so this
     /// pointer is no longer valid. If applying fails, the dialog stays open and the error is raised. Setting
-    /// the state that it already has does nothing.
+    /// the state that it already has does nothing. Within a widget of the host, a form that is open but not
+    /// visible can be shown again, which keeps it as it is, and closed.
     void Visible(bool visible) { IStyleEditor_Visible(visible); }
 
     /// Discards edits that were not applied and reads the groups again. The flat list and the panel stay as

@@ -35,12 +35,24 @@ public:
     /// Initialise.
     IShellServices* GetShellServices() { return IStyleEditorClient_GetShellServices(); }
 
-    /// Shows the form as a window and keeps a pointer to it until EditorClosed. The host chooses the kind of
-    /// window. The component keeps ownership of the form; the host may give it a parent.
+    /// Shows the form, or brings it to the front if it is shown already. The host may keep a pointer to it
+    /// until EditorClosed.
+    ///
+    /// The host chooses the place: a window, or a dock, tab, dialog or layout of its own. It may give the
+    /// form a parent, move it to another, show, hide and resize it, at any time and with no further call. The
+    /// component owns the form and destroys it after EditorClosed. A host that destroys it, with its parent
+    /// for example, loses edits that were not applied, and EditorClosed is not called.
+    ///
+    /// Hiding the form does not close it, nor does hiding or destroying another tab. It is closed by
+    /// IStyleEditor::Visible(false) or QWidget::close, which a host calls from its tab's close button, and by
+    /// closing any widget that it is in: a dock, an MDI window, a dialog, the main window. The user is then
+    /// asked about edits that were not applied. Unless they are settled, the widget stays open, except a
+    /// dialog that is accepted or rejected, which is shown again. The form is closed only if the host's own
+    /// closeEvent accepts too.
     void ShowEditor(QWidget* form) { IStyleEditorClient_ShowEditor(form); }
 
-    /// The form is about to be hidden or destroyed: the host must stop using its pointer to it. May be called
-    /// twice for the same form.
+    /// The form is about to be hidden or destroyed: the host must stop using its pointer to it, and may hide
+    /// what the form is in; to destroy that, use deleteLater. May be called twice for the same form.
     void EditorClosed(QWidget* form) { IStyleEditorClient_EditorClosed(form); }
 
     /// The text stored under the key, or an empty text. key: "DrawStyleEditor::" followed by the editor's ID.
@@ -50,7 +62,7 @@ public:
     }
 
     /// Stores the text under the key, for the current user, so that it is still there in the next run. May
-    /// also be called after EditorClosed.
+    /// also be called after EditorClosed. form: nullptr if the host has destroyed it in EditorClosed.
     void WriteSetting(QWidget* form, const QString& key, const QString& value)
     {
         IStyleEditorClient_WriteSetting(form, key, value);

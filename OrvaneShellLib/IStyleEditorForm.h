@@ -16,6 +16,12 @@ class IStyleFilter;
 /// What an editor offers the host besides IStyleEditor. Use dynamic_cast from the form or from IStyleEditor
 /// to get it.
 ///
+/// The form is a QWidget of the component, which IStyleEditorClient::ShowEditor hands to the host; there it
+/// says what the host may do with it and what closes it. Within another widget the form follows the size that
+/// its parent gives it, and keeps the size of its window for the next one. Its shortcuts are then valid only
+/// while it has the focus, and Escape drops edits but closes nothing. A host that shows the form's title and
+/// icon takes them from windowTitle and windowIcon, and their signals.
+///
 /// All calls are made on the user-interface thread. Errors that the host's own members raise are passed on
 /// unchanged. AddNewLayer, Popup and Filter may ask the user about edits that were not applied, and the
 /// editor may have been destroyed when they return.

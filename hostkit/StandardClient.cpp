@@ -356,6 +356,18 @@ ConflictChoice StandardClient::IConflictQuestion_AskAboutConflicts(
     return AskInConflictBox(form, node, edits);
 }
 
+void StandardClient::IEditorWatch_EditorShown(QWidget* form)
+{
+    if (m_parts->windows.Adopt(form))
+        emit m_parts->notifications.EditorShown(form);
+}
+
+void StandardClient::IEditorWatch_EditorEnded(QWidget* form)
+{
+    if (m_parts->windows.Forget(form))
+        emit m_parts->notifications.EditorClosed(form);
+}
+
 bool StandardClient::ConfirmDeletion(const LayerDeletion& deletion)
 {
     return deletion.Confirm(DialogParent());

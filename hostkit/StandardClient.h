@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OrvaneShellLib/IConflictQuestion.h>
+#include <OrvaneShellLib/IEditorWatch.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ struct SchemeImport;
 ///
 /// The signals of Notifications() report what happened to the layers. All calls are made on the
 /// user-interface thread; errors of the database are passed on unchanged.
-class StandardClient : public IStyleEditorClient, public IConflictQuestion
+class StandardClient : public IStyleEditorClient, public IConflictQuestion, public IEditorWatch
 {
     Q_DECLARE_TR_FUNCTIONS(StandardClient)
 
@@ -90,7 +91,8 @@ public:
 
 protected:
     IShellServices* IStyleEditorClient_GetShellServices() override;
-    /// Shows the form as a window in front of the main window.
+    /// Shows the form as a window in front of the main window; a form that a host has put into another widget
+    /// is only shown and raised. A host that shows the form in its own way need not call this.
     void IStyleEditorClient_ShowEditor(QWidget* form) override;
     void IStyleEditorClient_EditorClosed(QWidget* form) override;
     QString IStyleEditorClient_ReadSetting(QWidget* form, const QString& key) override;
@@ -135,6 +137,11 @@ protected:
     /// Asks in a message box that names each value.
     ConflictChoice IConflictQuestion_AskAboutConflicts(
         QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
+    /// Knows the editor from now on, whoever shows it: undo, RefreshEditors and RefreshListedNames reach it.
+    /// Emits EditorShown for an editor that was not known.
+    void IEditorWatch_EditorShown(QWidget* form) final;
+    /// Emits EditorClosed for an editor that was known.
+    void IEditorWatch_EditorEnded(QWidget* form) final;
 
     /// Asks the user whether to delete the layer and everything that is removed with it; true deletes it.
     virtual bool ConfirmDeletion(const LayerDeletion& deletion);

@@ -39,7 +39,7 @@ Q_SIGNALS:
     /// A change was stored, but it cannot be undone; steps before it still can, as far as it does not
     /// conflict with them. reason: for the user.
     void StepNotRecorded(const QString& reason);
-    /// The form is shown as a window.
+    /// The form is shown, as a window or in a widget of the host.
     void EditorShown(QWidget* form);
     /// The form is about to be hidden or destroyed.
     void EditorClosed(QWidget* form);

@@ -14,7 +14,7 @@ void EditorWindows::Show(QWidget* form)
 {
     Forget(form);
     m_forms.emplace_back(form);
-    if (m_mainWindow && m_mainWindow != form) {
+    if (m_mainWindow && m_mainWindow != form && form->isWindow()) {
         form->winId(); // creates the window handle
         form->windowHandle()->setTransientParent(m_mainWindow->windowHandle());
     }
@@ -22,6 +22,14 @@ void EditorWindows::Show(QWidget* form)
     form->raise();
     if (!form->testAttribute(Qt::WA_ShowWithoutActivating))
         form->activateWindow();
+}
+
+bool EditorWindows::Adopt(QWidget* form)
+{
+    if (std::find(m_forms.begin(), m_forms.end(), form) != m_forms.end())
+        return false;
+    m_forms.emplace_back(form);
+    return true;
 }
 
 bool EditorWindows::Forget(QWidget* form)

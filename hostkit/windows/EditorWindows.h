@@ -8,7 +8,8 @@
 
 namespace Orvane {
 
-/// The editors' forms that a host shows as windows of their own, in front of its main window.
+/// The editors' forms that a host shows: as windows of their own, in front of its main window, or in its own
+/// widgets.
 class EditorWindows
 {
 public:
@@ -17,8 +18,11 @@ public:
     QWidget* MainWindow() const { return m_mainWindow; }
 
     /// Shows the form as a window, or brings it to the front, and gives it the keyboard focus unless it has
-    /// the attribute Qt::WA_ShowWithoutActivating. The caller keeps ownership of the form.
+    /// the attribute Qt::WA_ShowWithoutActivating. A form within another widget stays there. The caller keeps
+    /// ownership of the form.
     void Show(QWidget* form);
+    /// Notes a form that the host shows itself; returns false if it is known already.
+    bool Adopt(QWidget* form);
     /// Forgets the form; returns false if it is not known.
     bool Forget(QWidget* form);
     /// The forms that are shown, in the order in which they were shown.

@@ -45,6 +45,51 @@ TEST_F(Client, HandsOutItsDatabaseAndServices)
     EXPECT_EQ(&Host().Database(), &Database());
 }
 
+/// A host that shows editors in its own window and calls nothing of the base class.
+class OwnWindowClient : public StandardClient
+{
+public:
+    using StandardClient::StandardClient;
+
+private:
+    void IStyleEditorClient_ShowEditor(QWidget* form) override { form->setParent(&m_window); }
+    void IStyleEditorClient_EditorClosed(QWidget* form) override { form->setParent(nullptr); }
+
+    QWidget m_window;
+};
+
+TEST_F(Client, KnowsAnEditorThatTheHostShowsItself)
+{
+    OwnWindowClient client(Database(), m_services);
+    QSignalSpy shown(&client.Notifications(), &HostNotifications::EditorShown);
+    QSignalSpy closed(&client.Notifications(), &HostNotifications::EditorClosed);
+    IStyleEditorClient& host = client;
+    auto& watch = dynamic_cast<IEditorWatch&>(host);
+    QWidget form;
+    host.ShowEditor(&form);
+    watch.EditorShown(&form);
+    watch.EditorShown(&form);
+    EXPECT_EQ(shown.count(), 1);
+    host.EditorClosed(&form);
+    watch.EditorEnded(&form);
+    watch.EditorEnded(&form);
+    EXPECT_EQ(closed.count(), 1);
+}
+
+TEST_F(Client, TellsOnceOfAnEditorThatItShowsItself)
+{
+    QSignalSpy shown(&Signals(), &HostNotifications::EditorShown);
+    QSignalSpy closed(&Signals(), &HostNotifications::EditorClosed);
+    auto& watch = dynamic_cast<IEditorWatch&>(Host());
+    QWidget form;
+    Host().ShowEditor(&form);
+    watch.EditorShown(&form);
+    Host().EditorClosed(&form);
+    watch.EditorEnded(&form);
+    EXPECT_EQ(shown.count(), 1);
+    EXPECT_EQ(closed.count(), 1);
+}
+
 TEST_F(Client, ShowsAnEditorAndForgetsItOnce)
 {
     QSignalSpy shown(&Signals(), &HostNotifications::EditorShown);

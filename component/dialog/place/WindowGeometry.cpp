@@ -34,8 +34,10 @@ QSize ScreenSize(const QWidget& window)
 
 void WindowGeometry::Restore(const WindowSize& size)
 {
-    const QSize wanted = PixelsOf(size);
-    m_window.resize(wanted);
+    m_asWindow = size;
+    if (!m_window.isWindow())
+        return;
+    m_window.resize(PixelsOf(size));
     // A side that the screen or the layout has changed is a new size, not the stored one.
     const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
     if (std::round(double(size.width) / scale.x) == m_window.width())
@@ -44,8 +46,16 @@ void WindowGeometry::Restore(const WindowSize& size)
         m_height.Restore(size.height, m_window.height());
 }
 
+void WindowGeometry::Note()
+{
+    if (m_window.isWindow())
+        m_asWindow = Current();
+}
+
 WindowSize WindowGeometry::Current() const
 {
+    if (!m_window.isWindow() && m_asWindow)
+        return *m_asWindow;
     const TwipsPerPixel scale = TwipsPerPixelOf(m_window);
     const QSize pixels = SizeInPixels();
     const int slack = RoundedPixels(m_window);

@@ -7,13 +7,16 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 class QWidget;
 
 namespace Orvane {
 
-/// The size of a window in twips, and its position on the screens. The frame that a window manager adds is
-/// not included: it is not known before the window is shown, and with it the window would grow each time it
-/// is opened.
+/// The size of a window in twips, and its position on the screens. A window that a host has put into another
+/// widget follows that widget; the size is then the one that it last had as a window. The frame that a window
+/// manager adds is not included: it is not known before the window is shown, and with it the window would
+/// grow each time it is opened.
 class WindowGeometry
 {
 public:
@@ -23,6 +26,9 @@ public:
     /// Gives the window that size at its present position, no larger than its screen and no smaller than its
     /// layout allows.
     void Restore(const WindowSize& size);
+
+    /// Notes the size for the time when it is no window.
+    void Note();
 
     /// The window's size; exactly the restored size while its pixels are the same.
     WindowSize Current() const;
@@ -37,6 +43,7 @@ private:
     QWidget& m_window;
     TwipsLength m_width;
     TwipsLength m_height;
+    std::optional<WindowSize> m_asWindow;
 };
 
 /// The rectangle itself if it meets one of the screens; else moved to the middle of the first one and made no

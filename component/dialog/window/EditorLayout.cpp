@@ -79,6 +79,8 @@ void EditorLayout::FitTexts()
 void EditorLayout::TakeDesignedSize()
 {
     m_form.layout()->activate();
+    if (!m_form.isWindow())
+        return;
     m_form.resize(m_form.sizeHint().boundedTo(m_form.screen()->availableGeometry().size()));
 }
 
@@ -90,7 +92,7 @@ void EditorLayout::SetExpanded(bool expanded)
     const int before = m_form.width(); // the layout may widen the form at once
     ShowExpansion();
     m_form.layout()->activate();
-    if (m_form.isMaximized() || m_form.isFullScreen())
+    if (!m_form.isWindow() || m_form.isMaximized() || m_form.isFullScreen())
         return;
     const int change = expanded ? SettingsWidth() : -SettingsWidth();
     // A collapsed dialog may be wider than wanted because of its buttons: restoring must not depend on that.

@@ -30,13 +30,15 @@ public:
     /// Gives the settings the width that their texts need in the current language and font. It stays until
     /// the next call, so that no value shown makes the dialog wider.
     void FitTexts();
-    /// Gives the dialog the size that its contents need, as far as the screen has room for it.
+    /// Gives the dialog the size that its contents need, as far as the screen has room for it; within
+    /// another widget it keeps its size.
     void TakeDesignedSize();
 
     /// True while the settings are shown next to the lists.
     bool Expanded() const { return m_expanded; }
     /// Shows or hides the settings; the dialog grows or shrinks by their width. Two calls restore its former
-    /// width exactly, unless it was resized between them. A maximised dialog keeps its size.
+    /// width exactly, unless it was resized between them. A maximised dialog, and one within
+    /// another widget, keeps its size.
     void SetExpanded(bool expanded);
 
     /// Shows the content of the tab.

@@ -6,28 +6,18 @@
 #include "component/common/Messages.h"
 #include "component/dialog/panel/RendererStyleEditor.h"
 #include "component/dialog/window/EditorParts.h"
+#include "component/dialog/window/Enclosure.h"
 #include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
 #include "component/model/LayerCursors.h"
 #include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
-#include <OrvaneShellLib/IStyleFilter.h>
 
-#include <QCloseEvent>
 #include <QPointer>
 #include <QTimer>
 
 namespace Orvane {
-
-namespace {
-
-QString SettingKey(const QString& editorID)
-{
-    return QStringLiteral("DrawStyleEditor::") + editorID;
-}
-
-} // namespace
 
 frmLayerStyles::frmLayerStyles(QWidget* parent)
     : StyleEditorWindow(parent), m_ui(std::make_unique<Ui::frmLayerStyles>()), m_tab(ListTab::Groups)
@@ -41,6 +31,8 @@ frmLayerStyles::frmLayerStyles(QWidget* parent)
         SelectionEditor::Parts{
             m_parts->trees, m_parts->panel, m_parts->quickModes, m_parts->commands,
             [this] { return m_parts->RendererStyles().SelectedStyle(); }});
+    m_enclosure = std::make_unique<Enclosure>(
+        *this, [this] { return MayClose(); }, [this] { GuardEvent(this, [this] { Unload(); }); });
     m_parts->layout.TakeDesignedSize();
     Wire();
     WireCommands();
@@ -151,87 +143,6 @@ void frmLayerStyles::changeEvent(QEvent* event)
 void frmLayerStyles::FitTexts()
 {
     GuardEvent(this, [this] { m_parts->layout.FitTexts(); });
-}
-
-// ---- showing and unloading
-
-void frmLayerStyles::RestoreViewState()
-{
-    const ViewState state = ViewState::FromText(Client().ReadSetting(this, SettingKey(EditorID())));
-    SelectTab(m_filter && m_filter->ShowsGroups() ? ListTab::Groups : state.tab);
-    if (state.expanded)
-        m_parts->layout.SetExpanded(*state.expanded);
-    if (state.size)
-        m_parts->geometry.Restore(*state.size);
-}
-
-void frmLayerStyles::StoreViewState()
-{
-    const bool expanded = m_initialised && m_parts->layout.Expanded();
-    const ViewState state{m_parts->geometry.Current(), expanded, m_tab};
-    Client().WriteSetting(this, SettingKey(EditorID()), state.ToText());
-}
-
-void frmLayerStyles::showEvent(QShowEvent* event)
-{
-    StyleEditorWindow::showEvent(event);
-    GuardEvent(this, [this] { m_parts->geometry.KeepOnScreen(); });
-}
-
-void frmLayerStyles::reject()
-{
-    if (m_selection->IsModified())
-        GuardEvent(this, [this] { m_selection->Cancel(); });
-    else
-        close();
-}
-
-void frmLayerStyles::closeEvent(QCloseEvent* event)
-{
-    event->ignore();
-    const QPointer<frmLayerStyles> self(this);
-    GuardEvent(this, [this] {
-        if (ConfirmUnload())
-            Unload();
-    });
-    event->setAccepted(!self || m_unloaded);
-}
-
-void frmLayerStyles::Hide()
-{
-    if (!ConfirmUnload())
-        return;
-    const QPointer self(this);
-    m_closing = true;
-    FirstError errors;
-    errors.Try([this] { Client().EditorClosed(this); });
-    if (self)
-        errors.Try([this] { Unload(); });
-    errors.Rethrow();
-}
-
-bool frmLayerStyles::ConfirmUnload()
-{
-    const QPointer self(this);
-    m_parts->trees.FinishNameEdit();
-    return self && m_selection->ConfirmPendingChanges() && !m_unloaded;
-}
-
-// Once started, it always completes: if a host fails here, no window without an owner may be left.
-void frmLayerStyles::Unload()
-{
-    if (m_unloaded)
-        return;
-    m_unloaded = true;
-    m_parts->trees.DropNameEdit();
-    FirstError errors;
-    if (HasClient()) {
-        errors.Try([this] { Client().EditorClosed(this); });
-        errors.Try([this] { StoreViewState(); });
-    }
-    hide();
-    emit Unloaded(EditorID());
-    errors.Rethrow();
 }
 
 // ---- tabs

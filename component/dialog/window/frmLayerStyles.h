@@ -15,6 +15,8 @@ class frmLayerStyles;
 }
 
 class EditorParts;
+class Enclosure;
+class FirstError;
 class SelectionEditor;
 enum class ListTab;
 
@@ -34,13 +36,17 @@ public:
     explicit frmLayerStyles(QWidget* parent = nullptr);
     ~frmLayerStyles() override;
 
-    /// Escape drops pending edits; without any it closes the dialog.
+    /// Escape drops pending edits; without any it closes the dialog's window, or is left to the widget that
+    /// the dialog is in.
     void reject() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void IStyleEditor_StyleFilter(const IStyleFilter* filter) override;
@@ -68,10 +74,14 @@ private:
     void FitTexts();
 
     void RestoreViewState();
-    void StoreViewState();
+    QString ViewStateText() const;
+    bool IsOpen() const;
+    void ShowByHost();
     void Hide();
+    bool MayClose();
     bool ConfirmUnload();
     void Unload();
+    void TellUnload(FirstError& errors);
 
     void OnTabChanged(int index);
     void OnTabClicked(int index);
@@ -88,11 +98,13 @@ private:
     std::unique_ptr<Ui::frmLayerStyles> m_ui;
     std::unique_ptr<EditorParts> m_parts;
     std::unique_ptr<SelectionEditor> m_selection;
+    std::unique_ptr<Enclosure> m_enclosure;
     QString m_styleCommandPrefix;
     std::optional<std::vector<RendererStyle>> m_rendererStyles;
     const IStyleFilter* m_filter = nullptr;
     ListTab m_tab;
     bool m_initialised = false;
+    bool m_shown = false; ///< the host was asked to show it
     bool m_closing = false; ///< the host was notified, and may hide it again
     bool m_unloaded = false;
 };

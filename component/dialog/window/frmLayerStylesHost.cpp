@@ -29,16 +29,18 @@ bool frmLayerStyles::IStyleEditor_Visible() const
 void frmLayerStyles::IStyleEditor_Visible(bool visible)
 {
     WithTranslatedErrors([&] {
-        if (m_unloaded || m_closing || visible == isVisible())
+        if (m_unloaded || m_closing || visible == (visible ? isVisible() : IsOpen()))
             return;
         if (!visible) {
             Hide();
             return;
         }
-        EnsureInitialised();
-        RestoreViewState();
-        UpdateCaption();
-        Client().ShowEditor(this);
+        if (!IsOpen()) {
+            EnsureInitialised();
+            RestoreViewState();
+            UpdateCaption();
+        }
+        ShowByHost();
     });
 }
 
@@ -74,7 +76,7 @@ void frmLayerStyles::IStyleEditorForm_Popup()
         if (!isVisible()) {
             EnsureInitialised();
             SelectTab(m_tab);
-            Client().ShowEditor(this);
+            ShowByHost();
         }
         UpdateCaption();
         if (m_filter && m_filter->ShowsGroups() && m_tab != ListTab::Groups)

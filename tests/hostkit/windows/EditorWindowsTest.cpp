@@ -99,6 +99,21 @@ TEST(EditorWindows, ListAFormOnceHoweverOftenItIsShown)
     EXPECT_THAT(windows.Shown(), ElementsAre(&form));
 }
 
+TEST(EditorWindows, NoteAFormThatTheHostShowsAndLeaveItWhereItIs)
+{
+    QWidget mainWindow;
+    QWidget form(&mainWindow);
+    mainWindow.show();
+    EditorWindows windows;
+    windows.SetMainWindow(&mainWindow);
+    EXPECT_TRUE(windows.Adopt(&form));
+    EXPECT_FALSE(windows.Adopt(&form));
+    windows.Show(&form);
+    EXPECT_THAT(windows.Shown(), ElementsAre(&form));
+    EXPECT_EQ(form.parentWidget(), &mainWindow);
+    EXPECT_FALSE(form.windowHandle()) << "a widget within a window needs no handle of its own";
+}
+
 TEST(EditorWindows, DoNotListAFormThatIsGone)
 {
     EditorWindows windows;

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/StandardClient.h"
+#include "hostkit/windows/EditorDock.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QCloseEvent>
+#include <QInputDialog>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QSettings>
+
+namespace Orvane {
+
+/// The main window: a list of the layers in place of a map, and the dock.
+class MapWindow : public QMainWindow
+{
+public:
+    MapWindow()
+    {
+        setCentralWidget(m_map);
+        addDockWidget(Qt::RightDockWidgetArea, m_dock);
+        menuBar()->addMenu("&View")->addAction(m_dock->toggleViewAction());
+    }
+
+    EditorDock& Dock() { return *m_dock; }
+
+    void Draw(ILayerStore& layers)
+    {
+        m_map->clear();
+        for (const auto row = layers.OpenRecordset("Layers"); !row->AtEOF(); row->MoveNext())
+            m_map->addItem(ToTextOrNone(row->Field("Name")));
+    }
+
+    void Restore() { restoreState(QSettings().value("window").toByteArray()); }
+
+protected:
+    // The editor is asked before, and closed after this.
+    void closeEvent(QCloseEvent* event) override
+    {
+        QSettings().setValue("window", saveState());
+        QMainWindow::closeEvent(event);
+    }
+
+private:
+    QListWidget* m_map = new QListWidget;
+    EditorDock* m_dock = new EditorDock("Main", this);
+};
+
+/// The client, with all that this host does in its own way.
+class DockClient : public StandardClient
+{
+public:
+    DockClient(ILayerStore& layers, IShellServices& services, MapWindow& window)
+        : StandardClient(layers, services), m_window(window)
+    {
+    }
+
+private:
+    void IStyleEditorClient_ShowEditor(QWidget* form) override { m_window.Dock().ShowEditor(form); }
+    void IStyleEditorClient_EditorClosed(QWidget* form) override { m_window.Dock().EditorClosed(form); }
+
+    QString IStyleEditorClient_ReadSetting(QWidget*, const QString& key) override
+    {
+        return QSettings().value(key).toString();
+    }
+    void IStyleEditorClient_WriteSetting(QWidget*, const QString& key, const QString& value) override
+    {
+        QSettings().setValue(key, value);
+    }
+    PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override
+    {
+        if (request.kind != EntryKind::Text)
+            return StandardClient::IStyleEditorClient_PromptText(request); // checks the range
+        bool isGiven = false;
+        const QString text = QInputDialog::getText(
+            &m_window, QString(), request.title, QLineEdit::Normal, request.defaultText, &isGiven);
+        return {isGiven, text};
+    }
+    QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override
+    {
+        const QString name = StandardClient::IStyleEditorClient_LayerDisplayName(layerID);
+        return QString("%1 (%2)").arg(name).arg(layerID);
+    }
+    std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override
+    {
+        return {{1, "Sketched"}};
+    }
+    void IStyleEditorClient_RedrawMap() override
+    {
+        StandardClient::IStyleEditorClient_RedrawMap();
+        m_window.Draw(LayerDatabase());
+    }
+
+    MapWindow& m_window;
+};
+
+} // namespace Orvane
