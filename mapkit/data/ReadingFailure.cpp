@@ -5,12 +5,18 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/ReadingBound.h"
 
-#include <OrvaneShellLib/RunTimeError.h>
-
 #include <QCoreApplication>
 #include <QFileInfo>
 
 namespace Orvane {
+
+ReadingGivenUp::ReadingGivenUp(const QString& subject)
+    : RunTimeError(
+        SourceUnreadable,
+        QCoreApplication::translate("DataSource", "Reading \"%1\" was given up because it does not end.")
+            .arg(QFileInfo(subject).fileName()))
+{
+}
 
 QString WhyReadingFailed(const QString& reason)
 {

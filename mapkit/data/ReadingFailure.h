@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QString>
 
 namespace Orvane {
+
+/// Raised when the user cancelled reading that then did not end. The number is SourceUnreadable.
+class ReadingGivenUp : public RunTimeError
+{
+public:
+    /// subject: the file that was read last, with or without its folder; the description names it.
+    explicit ReadingGivenUp(const QString& subject);
+};
 
 /// Why reading failed, as part of a sentence for the user: reason, or that it takes too long when a
 /// ReadingBound of this thread is over. Raises Cancelled if the user cancelled.
