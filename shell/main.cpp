@@ -83,7 +83,7 @@ QStringList WordsOf(int argc, char** argv)
 void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
-        std::fprintf(stderr, "%s\n", qPrintable(message));
+        std::fprintf(stderr, "%s\n", qPrintable(TerminalText(message)));
 }
 
 // Fonts and pictures need a platform, but not a display.
