@@ -81,7 +81,7 @@ TEST(TerminalText, ShowsWhatATerminalObeysAsQuestionMarks)
 {
     EXPECT_EQ(TerminalText("a\x1b[2J\x07\r\n\t\x7f"), "a?[2J?????");
     EXPECT_EQ(TerminalText(QString::fromUtf16(u"\x009b\x202e\x2066\x2028\xfeff|")), "?????|");
-    EXPECT_EQ(TerminalText(QString(QChar(0xD800)) + "|"), "?|");
+    EXPECT_EQ(TerminalText(QString(QChar(0xD800)) + "|"), QString(QChar(QChar::ReplacementCharacter)) + "|");
 }
 
 TEST(TerminalText, LeavesTextsOfAllScriptsAsTheyAre)
