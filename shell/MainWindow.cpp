@@ -104,9 +104,8 @@ void MainWindow::OpenMap(const QString& path)
 
 void MainWindow::AddData(const QStringList& paths)
 {
-    FoundData found;
-    RunWithProgress(
-        this, tr("Opening map data"), [&](Progress& progress) { found = LookInto(paths, progress); });
+    const FoundData found = ReadOrGiveUp(
+        this, tr("Opening map data"), [paths](Progress& progress) { return LookInto(paths, progress); });
     const bool added = m_layerControl.WithEditorsClosed([&] {
         const bool first = !Document().HasLayers();
         m_session->Shell().RecordStep([&] {

@@ -7,6 +7,7 @@
 #include "shell/window/CatalogueFile.h"
 #include "shell/window/QtTexts.h"
 #include "shell/window/RecentMaps.h"
+#include "shell/window/RunWithProgress.h"
 
 #include <QApplication>
 #include <QFile>
@@ -15,6 +16,7 @@
 #include <QTranslator>
 
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 
 using namespace Orvane;
@@ -81,7 +83,7 @@ QStringList WordsOf(int argc, char** argv)
 void DropHints(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
-        std::fprintf(stderr, "%s\n", qPrintable(message));
+        std::fprintf(stderr, "%s\n", qPrintable(TerminalText(message)));
 }
 
 // Fonts and pictures need a platform, but not a display.
@@ -111,5 +113,8 @@ int main(int argc, char** argv)
     const auto answer = RunCommandLine(QCoreApplication::arguments(), terminal);
     if (const int* ended = std::get_if<int>(&answer))
         return *ended;
-    return ShowWindow(application, std::get<WindowRequest>(answer), terminal);
+    const int code = ShowWindow(application, std::get<WindowRequest>(answer), terminal);
+    if (IsGivenUpWorkRunning())
+        std::_Exit(code); // its thread may use what would be destroyed now
+    return code;
 }

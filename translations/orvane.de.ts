@@ -40,6 +40,10 @@
         <translation>„%1“ ist keine gültige Seitengröße.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not an ordinary file</source>
+        <translation>„%1“ ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
         <translation>„%1“ wurde nicht geöffnet, weil „%2“ keine gewöhnliche Datei ist.</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>--time-limit needs a whole number of seconds.</source>
+        <translation>--time-limit braucht eine ganze Zahl von Sekunden.</translation>
+    </message>
+    <message>
         <source>... and %1 more values.</source>
         <translation>... und %1 weitere Werte.</translation>
     </message>
@@ -618,6 +626,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Zeichnen...</translation>
     </message>
     <message>
+        <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
+        <translation>Die Prüfung der Datei nach dieser Zeit beenden; 0 für keine Grenze. Voreinstellung: 600.</translation>
+    </message>
+    <message>
         <source>Enter a name.</source>
         <translation>Geben Sie einen Namen ein.</translation>
     </message>
@@ -744,6 +756,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>It is too large.</source>
         <translation>Sie ist zu groß.</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>es dauert zu lange</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
@@ -982,6 +998,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Nur die Karte, bis an den Rand der Seite.</translation>
     </message>
     <message>
+        <source>Nothing was repaired because the repair was not finished within %1 seconds.</source>
+        <translation>Nichts wurde repariert, weil die Reparatur in %1 Sekunden nicht fertig wurde.</translation>
+    </message>
+    <message>
         <source>Number:</source>
         <translation>Zahl:</translation>
     </message>
@@ -1102,6 +1122,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Raster Backdrop</source>
         <translation>Rasterhintergrund</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot; was given up because it does not end.</source>
+        <translation>Das Lesen von „%1“ wurde aufgegeben, weil es nicht endet.</translation>
     </message>
     <message>
         <source>Reading attributes</source>
@@ -1398,6 +1422,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The map file to open.</source>
         <translation>Die Kartendatei, die geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
+        <translation>Die Kartendatei wurde in %1 Sekunden nicht bis zum Ende geprüft. Sie ist vielleicht sehr groß oder so gemacht, dass sie Programme aufhält. --time-limit setzt eine andere Grenze.</translation>
     </message>
     <message>
         <source>The map file.</source>

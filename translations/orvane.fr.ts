@@ -40,6 +40,10 @@
         <translation>« %1 » n'est pas une taille de page valide.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not an ordinary file</source>
+        <translation>« %1 » n'est pas un fichier ordinaire</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
         <translation>« %1 » n'a pas été ouvert, car « %2 » n'est pas un fichier ordinaire.</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>--time-limit needs a whole number of seconds.</source>
+        <translation>--time-limit demande un nombre entier de secondes.</translation>
+    </message>
+    <message>
         <source>... and %1 more values.</source>
         <translation>... et %1 autres valeurs.</translation>
     </message>
@@ -618,6 +626,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessin...</translation>
     </message>
     <message>
+        <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
+        <translation>Terminer la vérification du fichier après ce délai ; 0 pour aucune limite. Par défaut : 600.</translation>
+    </message>
+    <message>
         <source>Enter a name.</source>
         <translation>Saisissez un nom.</translation>
     </message>
@@ -744,6 +756,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>It is too large.</source>
         <translation>Il est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>cela prend trop de temps</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
@@ -982,6 +998,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Rien que la carte, jusqu'aux bords de la page.</translation>
     </message>
     <message>
+        <source>Nothing was repaired because the repair was not finished within %1 seconds.</source>
+        <translation>Rien n'a été réparé, car la réparation n'était pas terminée en %1 secondes.</translation>
+    </message>
+    <message>
         <source>Number:</source>
         <translation>Nombre :</translation>
     </message>
@@ -1102,6 +1122,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Raster Backdrop</source>
         <translation>Fond raster</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot; was given up because it does not end.</source>
+        <translation>La lecture de « %1 » a été abandonnée, car elle ne se termine pas.</translation>
     </message>
     <message>
         <source>Reading attributes</source>
@@ -1398,6 +1422,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The map file to open.</source>
         <translation>Le fichier de carte à ouvrir.</translation>
+    </message>
+    <message>
+        <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
+        <translation>Le fichier de carte n'a pas été vérifié jusqu'au bout en %1 secondes. Il est peut-être très volumineux, ou conçu pour occuper les programmes. --time-limit fixe une autre limite.</translation>
     </message>
     <message>
         <source>The map file.</source>

@@ -40,6 +40,10 @@
         <translation>「%1」は有効なページサイズではありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not an ordinary file</source>
+        <translation>「%1」は通常のファイルではありません</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; was not opened because &quot;%2&quot; is not an ordinary file.</source>
         <translation>「%2」は通常のファイルではないため、「%1」を開きませんでした。</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>--time-limit needs a whole number of seconds.</source>
+        <translation>--time-limit には秒数を整数で指定してください。</translation>
+    </message>
+    <message>
         <source>... and %1 more values.</source>
         <translation>... ほか %1 個の値。</translation>
     </message>
@@ -618,6 +626,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>描画中...</translation>
     </message>
     <message>
+        <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
+        <translation>この時間が過ぎたらファイルの検査を終えます。0 は制限なしです。既定値は 600 です。</translation>
+    </message>
+    <message>
         <source>Enter a name.</source>
         <translation>名前を入力してください。</translation>
     </message>
@@ -744,6 +756,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>It is too large.</source>
         <translation>大きすぎます。</translation>
+    </message>
+    <message>
+        <source>it takes too long</source>
+        <translation>時間がかかりすぎます</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
@@ -982,6 +998,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図だけを、ページの端まで描きます。</translation>
     </message>
     <message>
+        <source>Nothing was repaired because the repair was not finished within %1 seconds.</source>
+        <translation>修復が%1秒以内に終わらなかったため、何も修復しませんでした。</translation>
+    </message>
+    <message>
         <source>Number:</source>
         <translation>数値:</translation>
     </message>
@@ -1102,6 +1122,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Raster Backdrop</source>
         <translation>ラスター背景</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot; was given up because it does not end.</source>
+        <translation>「%1」の読み込みは終わらないため、中止しました。</translation>
     </message>
     <message>
         <source>Reading attributes</source>
@@ -1398,6 +1422,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The map file to open.</source>
         <translation>開く地図ファイル。</translation>
+    </message>
+    <message>
+        <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
+        <translation>地図ファイルの検査は%1秒以内に終わりませんでした。ファイルが非常に大きいか、プログラムを占有するように作られている可能性があります。--time-limit で制限を変えられます。</translation>
     </message>
     <message>
         <source>The map file.</source>

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <atomic>
 #include <exception>
+#include <mutex>
 
 namespace Orvane {
 
@@ -22,6 +25,18 @@ public:
     void Report(double done) { m_done = done; }
     double Done() const { return m_done; }
 
+    /// What is being worked on now, for example a file; empty until it is set.
+    void SetSubject(const QString& subject)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_subject = subject;
+    }
+    QString Subject() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_subject;
+    }
+
     void Cancel() { m_cancelled = true; }
     bool IsCancelled() const { return m_cancelled; }
     /// For workers that check a flag.
@@ -36,6 +51,8 @@ public:
 private:
     std::atomic<double> m_done = 0;
     std::atomic<bool> m_cancelled = false;
+    mutable std::mutex m_mutex;
+    QString m_subject;
 };
 
 } // namespace Orvane

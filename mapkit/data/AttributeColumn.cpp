@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/AttributeColumn.h"
 
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/ReadingBound.h"
 
 #include <QRegularExpression>
 
@@ -72,6 +74,7 @@ QString BestAttribute(const std::vector<SourceField>& fields, AttributeUse use)
 
 AttributeColumn ReadAttribute(const AttributeRequest& request, Progress& progress)
 {
+    const ReadingBound untilCancelled(progress.CancelledFlag());
     const DataSource source(request.source.path);
     AttributeColumn column;
     column.attribute = AttributeToRead(request, source.Fields(request.source.ogrLayer));

@@ -6,17 +6,19 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/data/ReadingFailure.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <cmath>
 #include <cpl_conv.h>
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
+#include <utility>
 
 namespace Orvane {
 
@@ -67,6 +69,12 @@ double BytesOf(const FeatureSet& features)
         + double(features.Features().size()) * sizeof(FeatureSet::Feature);
 }
 
+double BytesOf(const FieldValue& value)
+{
+    constexpr double Node = 4 * sizeof(void*); // of the table, for each value
+    return Node + sizeof value + double(value.text.size()) * sizeof(QChar);
+}
+
 // Reads attributes without geometries, which is several times as fast if the driver supports it.
 class WithoutGeometry
 {
@@ -108,6 +116,7 @@ DataSource::DataSource(const QString& path) : m_path(path)
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
     const GdalErrors errors;
+    const ReadingBound bound;
     m_dataset = Open(path);
     if (!m_dataset)
         Fail(errors.First());
@@ -122,6 +131,7 @@ DataSource::~DataSource()
 std::vector<SourceLayer> DataSource::Layers() const
 {
     const GdalErrors quiet;
+    const ReadingBound bound;
     std::vector<SourceLayer> layers;
     for (OGRLayer* layer : m_dataset->GetLayers()) {
         if (layer->GetGeomType() == wkbNone)
@@ -130,6 +140,7 @@ std::vector<SourceLayer> DataSource::Layers() const
             {QString::fromUtf8(layer->GetName()), KindOf(layer->GetGeomType()),
              SystemText(layer->GetSpatialRef()), ExtentOf(*layer)});
     }
+    RequireReadingInTime(m_path);
     return layers;
 }
 
@@ -150,22 +161,29 @@ FeatureSet DataSource::Read(
     const QString& layerName, const QString& filter, const QString& mapSystem, Progress& progress) const
 {
     const GdalErrors errors;
+    ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, filter, errors);
     FeatureSet features;
     GeometryReader reader(features, TransformationTo(mapSystem, layer.GetSpatialRef()));
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
     const double mostBytes = MostBytes();
     GIntBig count = 0;
+    size_t gained = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (const OGRGeometry* geometry = feature->GetGeometryRef())
             reader.Add(*geometry, feature->GetFID());
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
             if (BytesOf(features) > mostBytes)
-                Fail(QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
+                FailTooLarge();
+            if (std::exchange(gained, features.Features().size()) != features.Features().size())
+                bound.Renew();
+            if (bound.IsOver())
+                Fail({});
             progress.Report(std::min(1.0, double(count) / expected));
         }
     }
+    RequireReadingInTime(m_path);
     if (!errors.First().isEmpty())
         Fail(errors.First());
     return features;
@@ -174,6 +192,7 @@ FeatureSet DataSource::Read(
 std::vector<SourceField> DataSource::Fields(const QString& layerName) const
 {
     const GdalErrors errors;
+    const ReadingBound bound;
     const OGRFeatureDefn& definition = *FilteredLayer(layerName, {}, errors).GetLayerDefn();
     std::vector<SourceField> fields;
     for (int i = 0; i < definition.GetFieldCount(); ++i) {
@@ -188,6 +207,7 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
     const QString& layerName, const QString& filter, const QString& field, Progress& progress) const
 {
     const GdalErrors errors;
+    ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, filter, errors);
     const int index = layer.GetLayerDefn()->GetFieldIndex(field.toUtf8().constData());
     if (index < 0)
@@ -195,12 +215,26 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
     const bool isNumber = IsNumber(*layer.GetLayerDefn()->GetFieldDefn(index));
     const WithoutGeometry sparing(layer);
     std::unordered_map<qint64, FieldValue> values;
+    const double mostBytes = MostBytes();
+    double bytes = 0;
+    GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
-        if (feature->IsFieldSetAndNotNull(index))
-            values[feature->GetFID()] = ValueOf(*feature, index, isNumber);
-        if (values.size() % FeaturesBetweenReports == 0)
+        if (feature->IsFieldSetAndNotNull(index)) {
+            const auto [place, isNew]
+                = values.insert_or_assign(feature->GetFID(), ValueOf(*feature, index, isNumber));
+            bytes += isNew ? BytesOf(place->second) : 0;
+            if (isNew)
+                bound.Renew();
+        }
+        if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
+            if (bytes > mostBytes)
+                FailTooLarge();
+            if (bound.IsOver())
+                Fail({});
+        }
     }
+    RequireReadingInTime(m_path);
     if (!errors.First().isEmpty())
         Fail(errors.First());
     return values;
@@ -209,6 +243,7 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
 std::vector<FeatureAttribute> DataSource::Attributes(const QString& layerName, qint64 featureID) const
 {
     const GdalErrors quiet;
+    const ReadingBound bound;
     OGRLayer* layer = m_dataset->GetLayerByName(layerName.toUtf8().constData());
     const OGRFeatureUniquePtr feature(layer ? layer->GetFeature(featureID) : nullptr);
     std::vector<FeatureAttribute> attributes;
@@ -217,15 +252,18 @@ std::vector<FeatureAttribute> DataSource::Attributes(const QString& layerName, q
             {QString::fromUtf8(feature->GetFieldDefnRef(i)->GetNameRef()),
              QString::fromUtf8(feature->GetFieldAsString(i)), feature->IsFieldSetAndNotNull(i) == 0});
     }
+    RequireReadingInTime(m_path);
     return attributes;
+}
+
+void DataSource::FailTooLarge() const
+{
+    Fail(QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
 }
 
 void DataSource::Fail(const QString& reason) const
 {
-    const QString name = QFileInfo(m_path).fileName();
-    const QString known = QCoreApplication::translate("DataSource", "\"%1\" cannot be read: %2.");
-    const QString unknown = QCoreApplication::translate("DataSource", "\"%1\" contains no readable data.");
-    throw RunTimeError(SourceUnreadable, reason.isEmpty() ? unknown.arg(name) : known.arg(name, reason));
+    FailReading(m_path, reason);
 }
 
 } // namespace Orvane

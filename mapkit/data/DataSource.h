@@ -57,7 +57,8 @@ struct FeatureAttribute {
 ///         features = source.Read(layer.name, {}, "EPSG:3857", progress);
 ///
 /// An object may be used by only one thread at a time; different objects may be used by different threads.
-/// Errors are RunTimeError with SourceUnreadable and a sentence that names the file.
+/// Errors are RunTimeError with SourceUnreadable and a sentence that names the file. A source that gives
+/// nothing for ReadingBound::LongestWait is one; members raise Cancelled when an outer ReadingBound was.
 class DataSource
 {
 public:
@@ -87,6 +88,7 @@ public:
 
 private:
     OGRLayer& FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const;
+    [[noreturn]] void FailTooLarge() const;
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;

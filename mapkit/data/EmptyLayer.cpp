@@ -2,6 +2,8 @@
 #include "mapkit/data/EmptyLayer.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -35,7 +37,6 @@ OGRwkbGeometryType TypeOf(FeatureKind kind)
 
 std::unique_ptr<GDALDataset> OpenOrMake(const QString& path)
 {
-    GDALAllRegister();
     const QByteArray file = path.toUtf8();
     if (QFile::exists(path)) {
         const char* drivers[] = {"GPKG", nullptr};
@@ -80,7 +81,9 @@ bool AddLayer(GDALDataset& dataset, const QString& name, FeatureKind kind, const
 
 QString CreateEmptyLayer(const QString& path, const QString& name, FeatureKind kind, const QString& system)
 {
+    PrepareGdal();
     const GdalErrors quiet;
+    const ReadingBound bound;
     const bool isNew = !QFile::exists(path);
     auto dataset = OpenOrMake(path);
     QString table = dataset ? UnusedName(*dataset, name) : QString();

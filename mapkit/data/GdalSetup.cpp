@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/GdalSetup.h"
 
+#include "mapkit/data/OrdinaryFiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +27,9 @@ constexpr auto RemoteDrivers
       "MSSQLSpatial"
       " MySQL NGW OAPIF ODBC OGCAPI OGR_OGDI PLMOSAIC PLSCENES PostGISRaster PostgreSQL STACIT STACTA WCS WFS"
       " WMS WMTS";
+
+// These open files by themselves, past GDAL's file systems: a pipe would be waited for.
+constexpr auto DriversWithOwnFiles = "COASP FITS HDF4 HDF4Image MFF2 XLS";
 
 constexpr auto LocalFileSystems
     = {"/vsigzip/", "/vsimem/", "/vsisparse/", "/vsisubfile/", "/vsitar/", "/vsizip/"};
@@ -105,13 +110,15 @@ void PrepareGdal()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        CPLSetConfigOption("GDAL_SKIP", RemoteDrivers);
+        const QByteArray skipped = QByteArray(RemoteDrivers) + ' ' + DriversWithOwnFiles;
+        CPLSetConfigOption("GDAL_SKIP", skipped.constData());
         CPLSetConfigOption("GDAL_VRT_ENABLE_PYTHON", "NO");
         CPLSetConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
         OSRSetPROJEnableNetwork(0);
         CPLHTTPSetFetchCallback(FetchNothing, nullptr);
         GDALAllRegister();
         CloseFileSystems();
+        OpenOnlyOrdinaryFiles();
     });
 }
 

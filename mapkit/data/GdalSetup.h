@@ -7,7 +7,8 @@ namespace Orvane {
 
 /// Prepares GDAL, once per process, for files from unknown sources: drivers that connect to servers,
 /// databases or other programs are removed, file systems on the network or on the terminal are disabled, and
-/// code inside files is not run. So a file can refer to other files, but to nothing else. May be called on
+/// code inside files is not run. So a file can refer to other ordinary files, but to nothing else; a
+/// ReadingBound ends what takes too long. May be called on
 /// any thread.
 void PrepareGdal();
 

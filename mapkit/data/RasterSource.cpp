@@ -7,6 +7,8 @@
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/RasterShades.h"
 #include "mapkit/data/RasterWarp.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/data/ReadingFailure.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -24,12 +26,6 @@ namespace {
 
 constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
 
-[[noreturn]] void Fail(const QString& path, const QString& reason)
-{
-    const QString known = QCoreApplication::translate("DataSource", "\"%1\" cannot be read: %2.");
-    throw RunTimeError(SourceUnreadable, known.arg(QFileInfo(path).fileName(), reason));
-}
-
 std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
 {
     const QString whyNot = WhyNotOpened(path);
@@ -40,10 +36,11 @@ std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
     std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(path.toUtf8().constData(), flags));
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
+    RequireReadingInTime(path);
     const QString nothing = QCoreApplication::translate("RasterSource", "\"%1\" contains no picture.");
     if (errors.First().isEmpty())
         throw RunTimeError(SourceUnreadable, nothing.arg(QFileInfo(path).fileName()));
-    Fail(path, errors.First());
+    FailReading(path, errors.First());
 }
 
 bool IsPlaced(GDALDataset& dataset)
@@ -78,11 +75,13 @@ Box MapArea(const QRect& area, const Box& extent, QSize pixels)
 RasterSource::RasterSource(const QString& path) : m_path(path)
 {
     PrepareGdal();
+    const ReadingBound bound;
     m_dataset = OpenRaster(path);
     const GdalErrors quiet;
     if (!IsPlaced(*m_dataset))
-        Fail(path, QCoreApplication::translate("RasterSource", "it is not georeferenced"));
+        FailReading(path, QCoreApplication::translate("RasterSource", "it is not georeferenced"));
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
+    RequireReadingInTime(path);
 }
 
 RasterSource::~RasterSource()
@@ -106,6 +105,7 @@ Box RasterSource::ExtentIn(const QString& mapSystem) const
 {
     const QMutexLocker lock(&m_mutex);
     const GdalErrors quiet;
+    const ReadingBound bound;
     return PlaceRaster(*m_dataset, mapSystem).extent;
 }
 
@@ -114,6 +114,8 @@ QImage RasterSource::Draw(
 {
     const QMutexLocker lock(&m_mutex);
     const GdalErrors errors;
+    const ReadingBound untilCancelled(cancelled);
+    ReadingBound bound(ReadingBound::LongestWait);
     const RasterPlace place = PlaceRaster(*m_dataset, mapSystem);
     if (cancelled || !place.extent.Intersects(extent))
         return {};
@@ -123,13 +125,14 @@ QImage RasterSource::Draw(
     const auto warped = WarpRaster(
         *m_dataset, place, {mapSystem, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
     if (!warped)
-        Fail(m_path, errors.First());
+        FailReading(m_path, errors.First());
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     for (int row = 0; row < area.height() && !cancelled; row += RowsAtOnce) {
         const QRect rows(0, row, area.width(), std::min(RowsAtOnce, area.height() - row));
         if (!m_shades->Read(*warped, rows, image, area.topLeft() + rows.topLeft()))
-            Fail(m_path, errors.First());
+            FailReading(m_path, errors.First());
+        bound.Renew();
     }
     return cancelled ? QImage() : image;
 }

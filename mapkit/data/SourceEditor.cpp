@@ -5,6 +5,8 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/data/ReadingFailure.h"
 #include "mapkit/data/SourceReader.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -103,6 +105,7 @@ SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path)
     if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())
         Fail(tr("the file is read only"));
     const GdalErrors errors;
+    const ReadingBound bound;
     m_dataset = OpenForUpdate(m_path);
     if (!m_dataset)
         Fail(errors.First().isEmpty() ? tr("its format is read only") : errors.First());
@@ -122,6 +125,7 @@ SourceEditor::~SourceEditor()
 QByteArray SourceEditor::Geometry(qint64 featureID) const
 {
     const GdalErrors quiet;
+    const ReadingBound bound;
     const OGRFeatureUniquePtr feature(m_layer->GetFeature(featureID));
     const OGRGeometry* geometry = feature ? feature->GetGeometryRef() : nullptr;
     if (!geometry)
@@ -160,6 +164,7 @@ FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const
 void SourceEditor::SetGeometry(qint64 featureID, const QByteArray& binary)
 {
     const GdalErrors errors;
+    const ReadingBound bound;
     const OGRFeatureUniquePtr feature(m_layer->GetFeature(featureID));
     if (!feature)
         Fail(tr("the feature is no longer there"));
@@ -174,6 +179,7 @@ void SourceEditor::SetGeometry(qint64 featureID, const QByteArray& binary)
 void SourceEditor::Save()
 {
     const GdalErrors errors;
+    const ReadingBound bound;
     m_layer = nullptr;
     m_dataset.reset(); // several drivers write only when they are closed
     if (!errors.First().isEmpty())
@@ -183,7 +189,8 @@ void SourceEditor::Save()
 void SourceEditor::Fail(const QString& reason) const
 {
     const QString sentence = tr("\"%1\" cannot be changed: %2.");
-    throw RunTimeError(SourceUnchangeable, sentence.arg(QFileInfo(m_path).fileName(), reason));
+    throw RunTimeError(
+        SourceUnchangeable, sentence.arg(QFileInfo(m_path).fileName(), WhyReadingFailed(reason)));
 }
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -61,11 +62,13 @@ SourceContents ReadSources(std::vector<LayerSource> sources, const QString& mapS
         return a.path < b.path;
     });
     SourceContents contents;
+    const ReadingBound untilCancelled(progress.CancelledFlag());
     OpenSource open;
     double done = 0;
     for (const LayerSource& source : sources) {
         try {
             progress.StopIfCancelled();
+            progress.SetSubject(source.path);
             auto features = open.At(source.path).Read(source.ogrLayer, source.filter, mapSystem, progress);
             contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
         } catch (const RunTimeError& error) {

@@ -146,8 +146,8 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
 qint32 MapDocument::AddGroup(const QString& name, bool expanded)
 {
     const QString table = QStringLiteral("LayerGroups");
-    const qint32 groupID = NextOf(QStringLiteral("max(ID)"), table);
-    const qint32 ordering = NextOf(QStringLiteral("max(GroupOrdering)"), table);
+    const qint32 groupID = NextOf(QStringLiteral("ID"), table);
+    const qint32 ordering = NextOf(QStringLiteral("GroupOrdering"), table);
     m_database->Execute(
         QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering, Expanded) VALUES (?1, ?2, ?3, ?4)"),
         {groupID, name, ordering, expanded});
@@ -177,9 +177,12 @@ bool MapDocument::HasLayers() const
     return !m_database->OpenRecordset(QStringLiteral("SELECT LayerID FROM Layers LIMIT 1"))->AtEOF();
 }
 
-qint32 MapDocument::NextOf(const QString& expression, const QString& table) const
+// A number beyond 32 bits, which another program may have stored, is passed over.
+qint32 MapDocument::NextOf(const QString& column, const QString& table) const
 {
-    const QString sql = QStringLiteral("SELECT coalesce(%1, 0) + 1 AS Next FROM %2").arg(expression, table);
+    const QString sql = QStringLiteral("SELECT coalesce(max(%1), 0) + 1 AS Next FROM %2 WHERE %1 < 2147483647"
+                                       " AND typeof(%1) = 'integer'")
+                            .arg(column, table);
     return ToInt32(m_database->OpenRecordset(sql)->Field("Next"));
 }
 

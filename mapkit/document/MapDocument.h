@@ -98,7 +98,7 @@ public:
 
 private:
     MapDocument(std::unique_ptr<ILayerStore> database, const QString& path);
-    qint32 NextOf(const QString& expression, const QString& table) const;
+    qint32 NextOf(const QString& column, const QString& table) const;
 
     std::unique_ptr<ILayerStore> m_database;
     QString m_path;

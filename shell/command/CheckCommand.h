@@ -5,9 +5,9 @@
 
 namespace Orvane {
 
-/// "orvane check MAP [--repair]": lists the problems of a map file, one per line, and repairs them on
-/// request. Returns ExitCode::Problems when there are problems, or some remain. Raises the errors of opening
-/// the map.
+/// "orvane check MAP [--repair] [--time-limit SECONDS]": lists the problems of a map file, one per line, and
+/// repairs them on request. Returns ExitCode::Problems when there are problems, or some remain. Raises the
+/// errors of opening the map.
 int CheckCommand(const QStringList& arguments, const Terminal& terminal);
 
 } // namespace Orvane

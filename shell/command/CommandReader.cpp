@@ -6,9 +6,38 @@
 
 namespace Orvane {
 
+namespace {
+
+bool IsHarmless(char32_t character)
+{
+    constexpr char32_t NonJoiner = 0x200C;
+    constexpr char32_t Joiner = 0x200D;
+    const QChar::Category category = QChar::category(character);
+    const bool breaksLine = category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+    return character == NonJoiner || character == Joiner || (QChar::isPrint(character) && !breaksLine);
+}
+
+} // namespace
+
+QString TerminalText(const QString& text)
+{
+    auto characters = text.toUcs4();
+    for (auto& character : characters) {
+        if (!IsHarmless(char32_t(character)))
+            character = U'?';
+    }
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size());
+}
+
+void TellLine(const Terminal& terminal, const QString& text)
+{
+    terminal.out << TerminalText(text) << '\n';
+    terminal.out.flush();
+}
+
 void TellError(const Terminal& terminal, const QString& text)
 {
-    terminal.errors << "orvane: " << text << '\n';
+    terminal.errors << "orvane: " << TerminalText(text) << '\n';
     terminal.errors.flush();
 }
 

@@ -25,7 +25,14 @@ struct Terminal {
     QTextStream& errors;
 };
 
-/// Writes "orvane: ..." to the errors.
+/// text as it may be written to a terminal: "?" for each character that a terminal obeys or that changes the
+/// order or the place of others. Joiners, which some scripts need, stay.
+QString TerminalText(const QString& text);
+
+/// Writes a line of results, as TerminalText has it.
+void TellLine(const Terminal& terminal, const QString& text);
+
+/// Writes "orvane: ..." to the errors, as TerminalText has it.
 void TellError(const Terminal& terminal, const QString& text);
 
 /// Reads the arguments of one command; adds --help.

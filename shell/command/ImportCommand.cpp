@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
-#include <QTextStream>
 
 #include <limits>
 
@@ -53,10 +52,10 @@ int Import(const QStringList& files, const QString& map, const Terminal& termina
         add(*MapDocument::Open(map));
     else
         MapDocument::Make(map, IfExists::Refuse, add);
-    terminal.out << ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
-                        .arg(QFileInfo(map).fileName(), QLocale().toString(LayerCount(found)))
-                 << '\n';
-    terminal.out.flush();
+    TellLine(
+        terminal,
+        ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
+            .arg(QFileInfo(map).fileName(), QLocale().toString(LayerCount(found))));
     return found.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
 }
 

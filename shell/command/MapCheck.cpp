@@ -19,6 +19,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 
@@ -119,12 +120,38 @@ void AddBadValues(Problems& problems, SqliteLayerDatabase& database)
     problems.insert(problems.end(), values.begin(), values.end());
 }
 
-Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path)
+// Runs work on the file. Returns false if it took longer than the limit.
+bool IsFinished(SqliteLayerDatabase& database, CheckLimit limit, const std::function<void()>& work)
+{
+    if (limit)
+        return database.RunWithin(*limit, work);
+    work();
+    return true;
+}
+
+// text: with a place for the number of seconds.
+MapProblem Unfinished(const char* text, CheckLimit limit)
+{
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(*limit).count();
+    return {Kind::Unfinished, Translate(text).arg(QLocale().toString(qint64(seconds))), false};
+}
+
+Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path, CheckLimit limit)
 {
     Problems problems;
-    AddDamage(problems, database);
-    AddBadValues(problems, database);
-    AddDanglingRows(problems, database);
+    const bool finished = IsFinished(database, limit, [&] {
+        AddDamage(problems, database);
+        AddBadValues(problems, database);
+        AddDanglingRows(problems, database);
+    });
+    if (!finished) {
+        problems.push_back(Unfinished(
+            QT_TRANSLATE_NOOP(
+                "MapCheck",
+                "The map file was not checked to its end within %1 seconds. It may be very large, or made to "
+                "keep programs busy. --time-limit sets another limit."),
+            limit));
+    }
     AddMissingData(problems, SourceTable(database, path).All());
     AddBackdrop(problems, FindBackdrop(database, path));
     return problems;
@@ -137,42 +164,58 @@ bool HasRepairable(const Problems& problems, Kind kind)
     });
 }
 
-QStringList Repair(const QString& path, const Problems& problems)
+QStringList RepairIn(SqliteLayerDatabase& database, const Problems& problems)
 {
     QStringList replaced;
-    const auto database = SqliteLayerDatabase::Open(path);
-    Transaction transaction(*database);
+    Transaction transaction(database);
     if (HasRepairable(problems, Kind::Damage))
-        RepairDamage(*database);
+        RepairDamage(database);
     if (HasRepairable(problems, Kind::BadValue))
-        replaced = RepairValues(*database);
+        replaced = RepairValues(database);
     if (HasRepairable(problems, Kind::DanglingRows))
-        RemoveDanglingRows(*database, Undeclared);
+        RemoveDanglingRows(database, Undeclared);
     transaction.Commit();
     return replaced;
 }
 
+// Returns the sentences about the values that were replaced; nothing if it took too long, and then nothing
+// was changed.
+std::optional<QStringList> Repair(const QString& path, const Problems& problems, CheckLimit limit)
+{
+    const auto database = SqliteLayerDatabase::Open(path);
+    QStringList replaced;
+    const bool finished = IsFinished(*database, limit, [&] { replaced = RepairIn(*database, problems); });
+    return finished ? std::optional(replaced) : std::nullopt;
+}
+
 } // namespace
 
-std::vector<MapProblem> CheckMap(const QString& path)
+std::vector<MapProblem> CheckMap(const QString& path, CheckLimit limit)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const auto database = SqliteLayerDatabase::Open(absolute, OpenMode::ReadOnly);
-    return ProblemsIn(*database, absolute);
+    return ProblemsIn(*database, absolute, limit);
 }
 
-std::vector<MapProblem> RepairMap(const QString& path, QStringList* replaced)
+std::vector<MapProblem> RepairMap(const QString& path, QStringList* replaced, CheckLimit limit)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    Problems problems = CheckMap(absolute);
+    Problems problems = CheckMap(absolute, limit);
     const bool repairable = std::any_of(
         problems.begin(), problems.end(), [](const MapProblem& problem) { return problem.repairable; });
     if (!repairable)
         return problems;
-    const QStringList done = Repair(absolute, problems);
+    const std::optional<QStringList> done = Repair(absolute, problems, limit);
+    if (!done) {
+        problems.push_back(Unfinished(
+            QT_TRANSLATE_NOOP(
+                "MapCheck", "Nothing was repaired because the repair was not finished within %1 seconds."),
+            limit));
+        return problems;
+    }
     if (replaced)
-        *replaced = done;
-    return CheckMap(absolute);
+        *replaced = *done;
+    return CheckMap(absolute, limit);
 }
 
 } // namespace Orvane

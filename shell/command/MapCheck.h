@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+#include <optional>
 #include <vector>
 
 namespace Orvane {
@@ -16,20 +18,28 @@ struct MapProblem {
         DanglingRows, ///< rows of a layer, group or scheme that no longer exists
         MissingData, ///< the data of a layer are not at their path
         UnreadableData, ///< the data exist, but cannot be read
+        Unfinished, ///< the check or the repair took too long
     };
     Kind kind = Kind::Damage;
     QString text; ///< a sentence for a user, translated
     bool repairable = false; ///< RepairMap repairs it; of bad values at least one
 };
 
+/// How long a check, or a repair, of the file itself may take; nothing for no limit. Reading the data has
+/// limits of its own.
+using CheckLimit = std::optional<std::chrono::milliseconds>;
+inline constexpr std::chrono::minutes LongestMapCheck{10};
+
 /// The problems of the map file, worst first; empty if there are none. The file is not changed, and may be
 /// open elsewhere. Raises what LayerStores::Open raises for a file that is missing, is not a map, or is too
 /// damaged to be opened.
-std::vector<MapProblem> CheckMap(const QString& path);
+std::vector<MapProblem> CheckMap(const QString& path, CheckLimit limit = LongestMapCheck);
 
 /// Repairs what can be repaired in one transaction, and returns the remaining problems. A map without such
-/// problems is not written. Raises the errors of opening the file for writing, and of the database; the file
-/// is then as before. replaced: gets a sentence for each value that was replaced; may be nullptr.
-std::vector<MapProblem> RepairMap(const QString& path, QStringList* replaced = nullptr);
+/// problems is not written; neither is one whose repair takes longer than the limit. Raises the errors of
+/// opening the file for writing, and of the database; the file is then as before. replaced: gets a sentence
+/// for each value that was replaced; may be nullptr.
+std::vector<MapProblem>
+RepairMap(const QString& path, QStringList* replaced = nullptr, CheckLimit limit = LongestMapCheck);
 
 } // namespace Orvane

@@ -8,8 +8,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-#include <algorithm>
-
 namespace Orvane {
 
 namespace {
@@ -33,14 +31,6 @@ std::vector<ValueRule> AllRules()
     return rules;
 }
 
-// A terminal obeys control characters.
-QString Printable(QString text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](QChar character) { return !character.isPrint(); }, QLatin1Char('?'));
-    return text;
-}
-
 QString MoreText(qint64 count)
 {
     return TranslateValueText(QT_TRANSLATE_NOOP("MapCheck", "... and %1 more values."))
@@ -61,8 +51,7 @@ std::vector<MapProblem> FindValueProblems(SqliteLayerDatabase& database)
     std::vector<MapProblem> problems;
     for (const BadValue& bad : found.listed) {
         problems.push_back(
-            {MapProblem::Kind::BadValue,
-             text.arg(bad.table, Printable(bad.row), bad.column, Printable(bad.value)), repairable});
+            {MapProblem::Kind::BadValue, text.arg(bad.table, bad.row, bad.column, bad.value), repairable});
     }
     if (found.more > 0)
         problems.push_back({MapProblem::Kind::BadValue, MoreText(found.more), repairable});
@@ -77,9 +66,7 @@ QStringList RepairValues(SqliteLayerDatabase& database)
         QT_TRANSLATE_NOOP("MapCheck", "\"%1\", row \"%2\": %3 \"%4\" was replaced by %5."));
     QStringList done;
     for (const BadValue& bad : found.listed) {
-        done << text.arg(
-            bad.table, Printable(bad.row), bad.column, Printable(bad.value),
-            QString::number(bad.standard, 'g', 17));
+        done << text.arg(bad.table, bad.row, bad.column, bad.value, QString::number(bad.standard, 'g', 17));
     }
     if (found.more > 0)
         done << MoreText(found.more);

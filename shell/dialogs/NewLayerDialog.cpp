@@ -2,6 +2,7 @@
 #include "shell/dialogs/NewLayerDialog.h"
 
 #include "mapkit/common/Guard.h"
+#include "mapkit/data/ReadingBound.h"
 #include "messages/NameInText.h"
 #include "ui_NewLayerDialog.h"
 
@@ -111,6 +112,7 @@ QString NewLayerDialog::ReadSource()
     if (IsEmptyLayer() || File().isEmpty())
         return {};
     try {
+        const ReadingBound soon(ReadingBound::WhileUserWaits);
         m_layers = DataSource(File()).Layers();
     } catch (const RunTimeError& error) {
         return error.Description();

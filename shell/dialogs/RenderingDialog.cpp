@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Guard.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "ui_RenderingDialog.h"
@@ -33,6 +34,7 @@ std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID)
         if (source.layerID != layerID)
             continue;
         try {
+            const ReadingBound soon(ReadingBound::WhileUserWaits);
             return DataSource(source.path).Fields(source.ogrLayer);
         } catch (const RunTimeError&) { // the dialog says so
         }

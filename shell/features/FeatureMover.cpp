@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/undo/UndoHistory.h"
+#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/features/FeatureSubset.h"
@@ -49,6 +50,14 @@ void ShowGeometry(MapSession& session, const GeometryChange& change, const Featu
     session.TakeFeatures(contents);
 }
 
+// The geometry as it is stored. Only reading may be cancelled: what is written gets its undo step.
+QByteArray Stored(const LayerSource& source, qint64 featureID, Progress& progress)
+{
+    const ReadingBound untilCancelled(progress.CancelledFlag());
+    progress.SetSubject(source.path);
+    return SourceEditor(source).Geometry(featureID);
+}
+
 class MoveStep : public IUndoStep
 {
 public:
@@ -67,8 +76,9 @@ private:
         FeatureSet shown;
         const QString system = m_session.Document().System();
         RunWithProgress(
-            &m_window, QCoreApplication::translate("FeatureMover", "Moving the feature"), [&](Progress&) {
-                if (SourceEditor(m_change.source).Geometry(m_change.featureID) != expected)
+            &m_window, QCoreApplication::translate("FeatureMover", "Moving the feature"),
+            [&](Progress& progress) {
+                if (Stored(m_change.source, m_change.featureID, progress) != expected)
                     throw RunTimeError(int(HostError::StepOutdated), Outdated());
                 wanted = Written(m_change.source, m_change.featureID, wanted);
                 shown = SourceEditor(m_change.source).Shown(wanted, m_change.featureID, system);
@@ -101,8 +111,8 @@ LayerSource SourceOf(MapSession& session, qint32 layerID)
 void FeatureMover::Check(const FeatureKey& key)
 {
     const LayerSource source = SourceOf(m_session, key.layerID);
-    RunWithProgress(&m_window, tr("Moving the feature"), [&](Progress&) {
-        SourceEditor(source).Geometry(key.featureID);
+    RunOrGiveUp(&m_window, tr("Moving the feature"), [source, key](Progress& progress) {
+        Stored(source, key.featureID, progress);
     });
 }
 
@@ -111,8 +121,9 @@ void FeatureMover::Move(const FeatureKey& key, QPointF offset)
     GeometryChange change{SourceOf(m_session, key.layerID), key.featureID, {}, {}};
     FeatureSet shown;
     const QString system = m_session.Document().System();
-    RunWithProgress(&m_window, tr("Moving the feature"), [&](Progress&) {
+    RunWithProgress(&m_window, tr("Moving the feature"), [&](Progress& progress) {
         {
+            const ReadingBound untilCancelled(progress.CancelledFlag());
             SourceEditor editor(change.source);
             change.before = editor.Geometry(change.featureID);
             change.after = editor.Moved(change.before, offset, system);

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
 #include "store/ILayerStore.h"
@@ -68,9 +69,11 @@ NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 
 FoundData LookInto(const QStringList& paths, Progress& progress)
 {
+    const ReadingBound untilCancelled(progress.CancelledFlag());
     FoundData data;
     for (const QString& path : paths) {
         progress.StopIfCancelled();
+        progress.SetSubject(path);
         progress.Report(double(data.sources.size() + size_t(data.problems.size())) / double(paths.size()));
         try {
             std::vector<SourceLayer> layers = DataSource(path).Layers();

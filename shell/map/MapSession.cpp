@@ -7,6 +7,8 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/output/PageSettings.h"
@@ -76,12 +78,8 @@ QString MapSession::ReadAndShow(View view)
     m_layers.DropFeaturesOfOtherData();
     m_layers.ReadAll();
     m_follower.Follow();
-    const std::vector<LayerSource> sources = m_layers.MissingSources();
     SourceContents contents;
-    RunWithProgress(
-        &m_mainWindow, tr("Reading map data"), [&, system = m_document->System()](Progress& progress) {
-            contents = ReadSources(sources, system, progress);
-        });
+    const QString givenUp = ReadMissing(contents);
     m_layers.TakeFeatures(contents);
     const OpenedBackdrop backdrop = OpenBackdrop();
     if (view == View::All) {
@@ -91,9 +89,23 @@ QString MapSession::ReadAndShow(View view)
         Show();
     }
     emit LayersRead();
-    QStringList problems = {contents.FailureText(), backdrop.problem};
+    QStringList problems = {contents.FailureText(), givenUp, backdrop.problem};
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
+}
+
+QString MapSession::ReadMissing(SourceContents& contents) const
+{
+    try {
+        contents = ReadOrGiveUp(
+            &m_mainWindow, tr("Reading map data"),
+            [sources = m_layers.MissingSources(), system = m_document->System()](Progress& progress) {
+                return ReadSources(sources, system, progress);
+            });
+    } catch (const ReadingGivenUp& error) {
+        return error.Description();
+    }
+    return {};
 }
 
 bool MapSession::HasUnreadLayers() const
@@ -111,22 +123,30 @@ MapSession::OpenedBackdrop MapSession::OpenBackdrop() const
     if (path.isEmpty() || (shown && shown->Source().Path() == path))
         return {path.isEmpty() ? nullptr : shown, {}};
     try {
-        return {std::make_shared<const RasterBackdrop>(path, m_document->System()), {}};
+        return {ReadBackdrop(path), {}};
+    } catch (const Cancelled&) {
+        return {};
     } catch (const RunTimeError& error) {
         return {nullptr, error.Description()};
     }
+}
+
+std::shared_ptr<const RasterBackdrop> MapSession::ReadBackdrop(const QString& path) const
+{
+    return ReadOrGiveUp(
+        &m_mainWindow, tr("Opening the picture"), [path, system = m_document->System()](Progress& progress) {
+            const ReadingBound untilCancelled(progress.CancelledFlag());
+            progress.SetSubject(path);
+            return std::make_shared<const RasterBackdrop>(path, system);
+        });
 }
 
 void MapSession::SetBackdrop(const QString& path)
 {
     std::shared_ptr<const RasterBackdrop> backdrop;
     const bool first = m_document->System().isEmpty();
-    if (!path.isEmpty()) {
-        RunWithProgress(
-            &m_mainWindow, tr("Opening the picture"), [&, system = m_document->System()](Progress&) {
-                backdrop = std::make_shared<const RasterBackdrop>(path, system);
-            });
-    }
+    if (!path.isEmpty())
+        backdrop = ReadBackdrop(path);
     Transaction transaction(m_document->Database());
     if (backdrop && first) {
         const RasterSource& source = backdrop->Source();

@@ -82,6 +82,9 @@ private:
     };
 
     OpenedBackdrop OpenBackdrop() const;
+    std::shared_ptr<const RasterBackdrop> ReadBackdrop(const QString& path) const;
+    // Returns why the reading was given up; empty if it was not.
+    QString ReadMissing(SourceContents& contents) const;
     void Show();
     void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);
     void FollowLayers();

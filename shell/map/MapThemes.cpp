@@ -37,8 +37,11 @@ std::vector<MapThemes::Theme> MapThemes::All() const
         return themes;
     const auto rows
         = m_database.OpenQuery(QStringLiteral("SELECT ThemeID, Name FROM Themes ORDER BY ThemeID"));
-    for (; !rows->AtEOF(); rows->MoveNext())
-        themes.push_back({ToInt32(rows->Field("ThemeID")), ToText(rows->Field("Name"))});
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        // An ID beyond 32 bits, which another program may have stored, must not hide the other themes.
+        if (const std::optional<qint32> themeID = Int32In(rows->Field("ThemeID")))
+            themes.push_back({*themeID, ToText(rows->Field("Name"))});
+    }
     SortForUser(themes);
     return themes;
 }
@@ -68,8 +71,10 @@ QSet<qint32> MapThemes::LayersOf(qint32 themeID) const
         return layerIDs;
     const auto rows = m_database.OpenQuery(
         QStringLiteral("SELECT LayerID FROM ThemeLayers WHERE ThemeID = ?1"), {themeID});
-    for (; !rows->AtEOF(); rows->MoveNext())
-        layerIDs.insert(ToInt32(rows->Field("LayerID")));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
+            layerIDs.insert(*layerID);
+    }
     return layerIDs;
 }
 

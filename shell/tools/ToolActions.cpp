@@ -3,6 +3,7 @@
 
 #include "hostkit/undo/UndoHistory.h"
 #include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/features/FeatureMover.h"
 #include "shell/map/MapSession.h"
@@ -24,6 +25,31 @@ namespace {
 
 constexpr QRgb SelectedColour = 0xffffc400;
 constexpr QRgb IdentifiedColour = 0xffe0457b;
+
+std::vector<FeatureAttribute>
+AttributesOf(const FeatureKey& key, const std::vector<LayerSource>& sources, Progress& progress)
+{
+    const auto source = std::find_if(sources.begin(), sources.end(), [&](const LayerSource& entry) {
+        return entry.layerID == key.layerID;
+    });
+    if (source == sources.end())
+        return {};
+    progress.SetSubject(source->path);
+    return DataSource(source->path).Attributes(source->ogrLayer, key.featureID);
+}
+
+std::vector<std::vector<FeatureAttribute>>
+AttributesOf(const std::vector<FeatureKey>& keys, const std::vector<LayerSource>& sources, Progress& progress)
+{
+    const ReadingBound untilCancelled(progress.CancelledFlag());
+    std::vector<std::vector<FeatureAttribute>> attributes;
+    attributes.reserve(keys.size());
+    for (const FeatureKey& key : keys) {
+        progress.StopIfCancelled();
+        attributes.push_back(AttributesOf(key, sources, progress));
+    }
+    return attributes;
+}
 
 } // namespace
 
@@ -187,21 +213,11 @@ void ToolActions::ShowIdentified(const std::vector<IdentifiedFeature>& features)
 
 std::vector<std::vector<FeatureAttribute>> ToolActions::ReadAttributes(const std::vector<FeatureKey>& keys)
 {
-    const std::vector<LayerSource> sources = m_session->Document().Sources();
-    std::vector<std::vector<FeatureAttribute>> attributes;
-    RunWithProgress(&m_window, tr("Reading attributes"), [&](Progress& progress) {
-        for (const FeatureKey& key : keys) {
-            progress.StopIfCancelled();
-            const auto source = std::find_if(sources.begin(), sources.end(), [&](const LayerSource& entry) {
-                return entry.layerID == key.layerID;
-            });
-            attributes.push_back(
-                source == sources.end()
-                    ? std::vector<FeatureAttribute>()
-                    : DataSource(source->path).Attributes(source->ogrLayer, key.featureID));
-        }
-    });
-    return attributes;
+    return ReadOrGiveUp(
+        &m_window, tr("Reading attributes"),
+        [keys, sources = m_session->Document().Sources()](Progress& progress) {
+            return AttributesOf(keys, sources, progress);
+        });
 }
 
 } // namespace Orvane

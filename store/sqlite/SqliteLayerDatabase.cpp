@@ -8,12 +8,14 @@
 #include "store/sqlite/SqliteSession.h"
 #include "store/sqlite/TableCursor.h"
 #include "store/sqlite/TableMaking.h"
+#include "store/sqlite/engine/TimeBound.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerFileJournals.h"
 #include "store/sqlite/files/LayerSchema.h"
 #include "store/sqlite/files/NewLayerFile.h"
 #include "store/sqlite/files/PlainTables.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 
 #include <sqlite3.h>
@@ -208,6 +210,19 @@ void SqliteLayerDatabase::CopyToFile(const QString& path, IfExists ifExists, con
     if (change)
         change(Open(file.Path(), OpenMode::ReadWrite, file.Options()));
     file.PutInPlace();
+}
+
+bool SqliteLayerDatabase::RunWithin(std::chrono::milliseconds time, const std::function<void()>& work)
+{
+    const TimeBound bound(m_session->connection, time);
+    try {
+        work();
+    } catch (const RunTimeError&) {
+        if (!bound.HasEnded())
+            throw;
+        return false;
+    }
+    return true;
 }
 
 void SqliteLayerDatabase::SetQueryListener(std::function<void(const QString&)> listener)

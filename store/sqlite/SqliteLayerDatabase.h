@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -68,6 +69,10 @@ public:
     void CopyToFile(
         const QString& path, IfExists ifExists = IfExists::Refuse, const StoreFiller& change = {}) override;
     void SetQueryListener(std::function<void(const QString& sql)> listener) override;
+
+    /// Runs work, whose statements end with an error once the time is over. Returns false if one was ended;
+    /// raises what work raises otherwise. Not to be nested.
+    bool RunWithin(std::chrono::milliseconds time, const std::function<void()>& work);
 
 private:
     explicit SqliteLayerDatabase(std::unique_ptr<SqliteSession> session);

@@ -2,6 +2,7 @@
 #include "messages/LinguistReader.h"
 #include "messages/MessageCatalogue.h"
 #include "support/LinguistFile.h"
+#include "support/ProcessorTime.h"
 
 #include <QBuffer>
 
@@ -75,6 +76,7 @@ private:
 
 TEST(DamagedCatalogue, AFileCutAnywhereBeforeItsEndIsEmpty)
 {
+    const Testing::ProcessorTime time(std::chrono::seconds(120));
     const QByteArray whole = RealFile().trimmed();
     ASSERT_FALSE(Read(whole).IsEmpty());
     const qsizetype step = whole.size() / 400;
@@ -85,6 +87,7 @@ TEST(DamagedCatalogue, AFileCutAnywhereBeforeItsEndIsEmpty)
 
 TEST(DamagedCatalogue, AnyDamageGivesAnEmptyCatalogueOrAWholeOne)
 {
+    const Testing::ProcessorTime time(std::chrono::seconds(120));
     const QByteArray whole = RealFile();
     Damager damager;
     int refused = 0;
@@ -102,6 +105,7 @@ TEST(DamagedCatalogue, AnyDamageGivesAnEmptyCatalogueOrAWholeOne)
 
 TEST(DamagedCatalogue, RandomBytesAreAnEmptyCatalogue)
 {
+    const Testing::ProcessorTime time(std::chrono::seconds(120));
     Damager damager;
     for (int round = 0; round < 500; ++round)
         EXPECT_TRUE(Read(damager.Noise(round * 7)).IsEmpty()) << "round " << round;

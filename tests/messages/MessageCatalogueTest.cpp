@@ -2,6 +2,7 @@
 #include "messages/MessageCatalogue.h"
 
 #include "support/LinguistFile.h"
+#include "support/ProcessorTime.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -135,6 +136,7 @@ TEST(MessageCatalogue, AFileOfTheMaximumSizeIsReadAndALargerOneIsNot)
 
 TEST(MessageCatalogue, OnlyRegularFilesAreRead)
 {
+    const Testing::ProcessorTime time(std::chrono::seconds(10));
     const QTemporaryDir folder;
     const QByteArray pipe = QFile::encodeName(folder.filePath("pipe"));
     ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);

@@ -26,7 +26,9 @@ TimeBound::~TimeBound()
 
 int TimeBound::IsOver(void* bound)
 {
-    return std::chrono::steady_clock::now() >= static_cast<TimeBound*>(bound)->m_end ? 1 : 0;
+    auto* self = static_cast<TimeBound*>(bound);
+    self->m_hasEnded = self->m_hasEnded || std::chrono::steady_clock::now() >= self->m_end;
+    return self->m_hasEnded ? 1 : 0;
 }
 
 } // namespace Orvane

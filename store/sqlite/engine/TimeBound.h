@@ -18,8 +18,13 @@ public:
     TimeBound(const TimeBound&) = delete;
     TimeBound& operator=(const TimeBound&) = delete;
 
+    /// Whether a statement was ended.
+    bool HasEnded() const { return m_hasEnded; }
+
 private:
     static int IsOver(void* bound);
+
+    bool m_hasEnded = false;
 
     SqliteConnection& m_connection;
     std::chrono::steady_clock::time_point m_end;

@@ -3,6 +3,7 @@
 
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
+#include "support/ProcessorTime.h"
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -188,6 +189,7 @@ TEST(SchemeDocument, WithABadValueIsRefusedAndNamesLayerAndKey)
 
 TEST(SchemeDocument, CutAnywhereIsRefusedAndNeverHalfRead)
 {
+    const ProcessorTime time(std::chrono::seconds(60));
     const QByteArray text = SomeScheme().ToJson();
     for (qsizetype length = 0; length < text.size() - 2; ++length)
         EXPECT_EQ(ErrorIn(text.left(length)), int(HostError::SchemeTextDamaged)) << length;
@@ -195,12 +197,14 @@ TEST(SchemeDocument, CutAnywhereIsRefusedAndNeverHalfRead)
 
 TEST(SchemeDocument, NestedWithoutEndIsRefused)
 {
+    const ProcessorTime time(std::chrono::seconds(60));
     EXPECT_EQ(ErrorIn(QByteArray(200000, '[')), int(HostError::SchemeTextDamaged));
     EXPECT_EQ(ErrorIn(QByteArray("{\"a\":").repeated(50000)), int(HostError::SchemeTextDamaged));
 }
 
 TEST(SchemeDocument, WithEachByteReplacedIsReadOrRefusedWithoutHarm)
 {
+    const ProcessorTime time(std::chrono::seconds(60));
     const QByteArray text = SomeScheme().ToJson();
     for (qsizetype place = 0; place < text.size(); ++place) {
         for (const char byte : {'\0', '"', '{', ']', '-', '\xff'}) {

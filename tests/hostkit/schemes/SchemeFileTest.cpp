@@ -4,6 +4,7 @@
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
 #include "support/FileSizeLimit.h"
+#include "support/ProcessorTime.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,6 +18,8 @@ namespace {
 class SchemeFiles : public testing::Test
 {
 protected:
+    const ProcessorTime m_time{std::chrono::seconds(20)};
+
     SchemeFiles() { m_scheme.name = QStringLiteral("Night"); }
 
     QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }

@@ -6,6 +6,7 @@
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/data/SourceReader.h"
+#include "support/ProcessorTime.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -79,6 +80,7 @@ protected:
                 + "</SrcDataSource><SrcLayer>" + layer + "</SrcLayer></OGRVRTLayer></OGRVRTDataSource>");
     }
 
+    const ProcessorTime m_time{std::chrono::seconds(30)};
     DataFolder m_folder;
     Progress m_progress;
 };

@@ -104,6 +104,15 @@ TEST_F(MapDocumentTest, ASourceWithAnIDBeyond32BitsHidesNoOther)
     EXPECT_EQ(document->Sources().size(), 1u);
 }
 
+TEST_F(MapDocumentTest, AGroupIsAddedBesideOneWithAnIDBeyond32Bits)
+{
+    const auto document = MapDocument::Untitled();
+    document->Database().Execute("INSERT INTO LayerGroups (ID, Name, GroupOrdering)"
+                                 " VALUES (4294967296, 'Far', 4294967296), (2147483647, 'Last', 'x')");
+    EXPECT_EQ(document->AddGroup("First", true), 1);
+    EXPECT_EQ(document->AddGroup("Second", true), 2);
+}
+
 TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
 {
     const auto document = MapDocument::Untitled();

@@ -74,4 +74,37 @@ TEST_F(CheckCommandTest, WhatIsNoMapIsAProblem)
     EXPECT_TRUE(m_errors.contains("none.orvane"));
 }
 
+TEST_F(CheckCommandTest, TheTimeLimitIsAWholeNumberOfSeconds)
+{
+    const QString map = MakeMap("map.orvane");
+    for (const char* seconds : {"0", "60"})
+        EXPECT_EQ(Run({"check", map, "--time-limit", seconds}), ExitCode::Done) << seconds;
+    for (const char* other : {"-1", "1.5", "soon", "", "99999999999"}) {
+        EXPECT_EQ(Run({"check", map, "--time-limit", other}), ExitCode::Usage) << other;
+        EXPECT_TRUE(m_errors.contains("--time-limit")) << m_errors.toStdString();
+    }
+}
+
+TEST_F(CheckCommandTest, CharactersThatATerminalObeysAreNotWritten)
+{
+    const QString map = MakeMap("map.orvane");
+    MapDocument::Open(map)->Database().Execute(
+        "UPDATE Layers SET Name = 'a' || char(27) || '[2J', Code = char(27) || char(8238)");
+    MapDocument::Open(map)->Database().Execute(
+        "UPDATE LayerSources SET OgrLayer = 'b' || char(27) || char(10) || char(155)");
+    EXPECT_EQ(Run({"check", map}), ExitCode::Problems);
+    EXPECT_TRUE(m_out.contains("a?[2J")) << m_out.toStdString();
+    EXPECT_TRUE(m_out.contains("b???")) << m_out.toStdString();
+    for (const char16_t character : {u'\x1b', u'\x9b', u'\x202e'})
+        EXPECT_FALSE(m_out.contains(QChar(character)));
+}
+
+TEST_F(CheckCommandTest, AnErrorAboutAStrangeNameIsOneLine)
+{
+    EXPECT_EQ(
+        Run({"check", m_folder.Path(QString::fromUtf16(u"no\x1bne\n\x202e.orvane"))}), ExitCode::Problems);
+    EXPECT_TRUE(m_errors.contains("no?ne??.orvane")) << m_errors.toStdString();
+    EXPECT_EQ(m_errors.count('\n'), 1);
+}
+
 } // namespace Orvane

@@ -77,4 +77,18 @@ TEST_F(CommandLineTest, MistakesAreUsageErrorsAndPointToTheHelp)
     }
 }
 
+TEST(TerminalText, ShowsWhatATerminalObeysAsQuestionMarks)
+{
+    EXPECT_EQ(TerminalText("a\x1b[2J\x07\r\n\t\x7f"), "a?[2J?????");
+    EXPECT_EQ(TerminalText(QString::fromUtf16(u"\x009b\x202e\x2066\x2028\xfeff|")), "?????|");
+    EXPECT_EQ(TerminalText(QString(QChar(0xD800)) + "|"), QString(QChar(QChar::ReplacementCharacter)) + "|");
+}
+
+TEST(TerminalText, LeavesTextsOfAllScriptsAsTheyAre)
+{
+    const QString text
+        = QString::fromUtf8("Größe 東京 \xf0\x9f\x97\xba \xd9\x85\xdb\x8c\xe2\x80\x8c\xd8\xae e\xcc\x81 ?");
+    EXPECT_EQ(TerminalText(text), text);
+}
+
 } // namespace Orvane

@@ -40,6 +40,14 @@ protected:
         LayerSchemes(document->Database()).Create("Night");
     }
 
+    // So many that checking them takes more steps than SQLite makes between two looks at the clock.
+    void AddManyLayers() const
+    {
+        RawDatabase(m_map).Run(
+            "WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 5000)"
+            " INSERT INTO Layers (Name) SELECT 'many' FROM n");
+    }
+
     std::vector<Kind> Kinds(const std::vector<MapProblem>& problems) const
     {
         std::vector<Kind> kinds;
@@ -193,13 +201,26 @@ TEST_F(MapCheckTest, AnIDBeyond32BitsIsNamedAndStays)
     EXPECT_EQ(Count("Layers"), 3);
 }
 
-TEST_F(MapCheckTest, ControlCharactersInAValueDoNotReachTheTerminal)
+TEST_F(MapCheckTest, ACheckThatTakesTooLongSaysSoAndTheDataAreStillChecked)
 {
-    RawDatabase(m_map).Run(
-        "UPDATE Layers SET Name = 'a' || char(27) || '[2J', Code = char(27) WHERE LayerID = 1");
-    const std::vector<MapProblem> problems = CheckMap(m_map);
-    ASSERT_EQ(problems.size(), 1u);
-    EXPECT_FALSE(problems[0].text.contains(QChar(27)));
+    AddManyLayers();
+    QFile::remove(m_folder.Path("a.geojson"));
+    EXPECT_THAT(
+        Kinds(CheckMap(m_map, std::chrono::milliseconds(0))),
+        testing::ElementsAre(Kind::Unfinished, Kind::MissingData));
+    EXPECT_THAT(Kinds(CheckMap(m_map, std::nullopt)), testing::ElementsAre(Kind::MissingData));
+}
+
+TEST_F(MapCheckTest, ARepairThatTakesTooLongChangesNothing)
+{
+    AddManyLayers();
+    RawDatabase(m_map).Run("UPDATE Layers SET Code = 'red' WHERE LayerID = 1");
+    const int bad = Count("Layers WHERE Code = 'red'");
+    QStringList replaced;
+    const auto problems = RepairMap(m_map, &replaced, std::chrono::milliseconds(0));
+    EXPECT_THAT(Kinds(problems), testing::Contains(Kind::Unfinished));
+    EXPECT_TRUE(replaced.isEmpty());
+    EXPECT_EQ(Count("Layers WHERE Code = 'red'"), bad);
 }
 
 TEST_F(MapCheckTest, ManyBadValuesAreCounted)

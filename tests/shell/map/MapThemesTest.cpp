@@ -46,6 +46,16 @@ TEST_F(MapThemesTest, AMapBeginsWithoutThemes)
     EXPECT_TRUE(m_themes.LayersOf(1).isEmpty());
 }
 
+TEST_F(MapThemesTest, IDsBeyond32BitsHideNothingElse)
+{
+    const qint32 themeID = m_themes.StoreVisibleLayers("Water");
+    m_database->Execute("INSERT INTO Themes (ThemeID, Name) VALUES (4294967296, 'Far')");
+    m_database->Execute("INSERT INTO Layers (LayerID, Name) VALUES (4294967297, 'Far')");
+    m_database->Execute("INSERT INTO ThemeLayers (ThemeID, LayerID) VALUES (?1, 4294967297)", {themeID});
+    EXPECT_EQ(Names(), QStringList("Water"));
+    EXPECT_EQ(m_themes.LayersOf(themeID), (QSet<qint32>{1, 2, 3}));
+}
+
 TEST_F(MapThemesTest, AThemeHoldsTheVisibleLayers)
 {
     Set("Visible", 1, 0);

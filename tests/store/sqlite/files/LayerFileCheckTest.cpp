@@ -2,6 +2,7 @@
 #include "store/sqlite/files/LayerFileCheck.h"
 
 #include "store/sqlite/StoreTest.h"
+#include "support/ProcessorTime.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,6 +27,8 @@ QByteArray RandomBytes(int count)
 class LayerFileCheck : public StoreTest
 {
 protected:
+    const ProcessorTime m_time{std::chrono::seconds(60)};
+
     /// Opens the file in both modes, expects the error each time, and the directory as it was.
     void ExpectRefused(const QString& path, ErrorNumber number)
     {

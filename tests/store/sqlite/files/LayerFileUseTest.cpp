@@ -2,6 +2,7 @@
 #include "store/sqlite/files/LayerFileUse.h"
 
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/ProcessorTime.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -82,6 +83,7 @@ TEST_F(LayerFileUseTest, WhatIsMissingOrNoLayerDatabaseIsNotInUse)
 
 TEST_F(LayerFileUseTest, APipeInPlaceOfAJournalIsNotWaitedFor)
 {
+    const Testing::ProcessorTime time(std::chrono::seconds(10));
     SqliteLayerDatabase::Create(Path("map"));
     ASSERT_EQ(mkfifo(Path("map-journal").toUtf8().constData(), 0600), 0);
     EXPECT_FALSE(IsLayerFileInUse(Path("map")));

@@ -3,6 +3,7 @@
 
 #include "store/sqlite/StoreTest.h"
 #include "store/sqlite/files/CopyLayerFile.h"
+#include "support/ProcessorTime.h"
 
 namespace Orvane::Testing {
 
@@ -14,6 +15,8 @@ constexpr auto Endless
 class PlainTables : public StoreTest
 {
 protected:
+    const ProcessorTime m_time{std::chrono::seconds(20)};
+
     /// Runs the statements on a new map, and expects that every way to open it is refused, with that word.
     void ExpectRefused(const QByteArray& sql, const QString& word)
     {
