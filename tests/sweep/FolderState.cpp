@@ -99,6 +99,17 @@ bool IsMap(const QString& name)
     return name.endsWith(QLatin1String(".orvane"));
 }
 
+// What belongs to a map is read with it; without the map it is a stray file.
+bool IsPartOfAMap(const QString& name, const QStringList& names)
+{
+    for (const char* suffix : {"-wal", "-shm", "-journal"}) {
+        const QLatin1String end(suffix);
+        if (name.endsWith(end) && names.contains(name.chopped(end.size())))
+            return true;
+    }
+    return false;
+}
+
 std::set<std::string> LinesOf(const std::string& state)
 {
     std::set<std::string> lines;
@@ -131,7 +142,7 @@ std::string FolderState(const QString& folder)
     for (const QString& name : names) {
         if (IsMap(name))
             AddPrefixed(lines, {}, LinesOfMap(dir.filePath(name), name.toStdString()));
-        else
+        else if (!IsPartOfAMap(name, names))
             lines.push_back(LineOfFile(dir.filePath(name), name.toStdString()));
     }
     std::sort(lines.begin(), lines.end());

@@ -11,8 +11,8 @@ namespace Orvane::Testing {
 inline constexpr auto TableOfLaterEdits = "SweepEdits";
 
 /// Everything in a folder, as sorted lines: for a map its tables, its rows and what SQLite finds wrong, for
-/// another file its name and content. All files must be closed. A page with a date in it counts as whole or
-/// cut.
+/// another file its name and content. All files must be closed. What a failure left in a map's journals
+/// counts with the map, as it does when the map is opened. A page with a date in it counts as whole or cut.
 std::string FolderState(const QString& folder);
 
 /// How many rows are in the table of later edits; -1 if it cannot be read.

@@ -97,35 +97,30 @@ CommandPreparation ImportTo(const char* map)
     };
 }
 
-// As a program leaves it that respects neither references nor the kinds of values.
-void Spoil(const QString& path)
+// As another program does it, which respects neither references nor the kinds of values.
+void RunSql(const QString& path, const char* sql)
 {
     sqlite3* handle = nullptr;
     sqlite3_open(path.toUtf8().constData(), &handle);
-    sqlite3_exec(
-        handle, "DELETE FROM Layers WHERE LayerID = 2; UPDATE Layers SET Color = 'red' WHERE LayerID = 1",
-        nullptr, nullptr, nullptr);
+    sqlite3_exec(handle, sql, nullptr, nullptr, nullptr);
     sqlite3_close(handle);
 }
 
 PreparedCommand PrepareRepair(const SweepBench& bench)
 {
     const QString path = bench.folder.MapPath();
-    Spoil(path);
+    RunSql(path, "DELETE FROM Layers WHERE LayerID = 2; UPDATE Layers SET Color = 'red' WHERE LayerID = 1");
     return {[path] { RepairMap(path); }};
 }
 
+// The map that takes the later edit is another one: opening the older map would finish what was not done.
 PreparedCommand PrepareOlderMap(const SweepBench& bench)
 {
-    const QString path = bench.folder.MapPath();
-    sqlite3* handle = nullptr;
-    sqlite3_open(path.toUtf8().constData(), &handle);
-    sqlite3_exec(
-        handle,
-        "DROP INDEX LayerNameIDX; DROP INDEX GroupOrderingIDX; DROP INDEX MemberOrderingIDX;"
-        "DROP INDEX MemberLayerIDX; DELETE FROM sqlite_stat1; PRAGMA user_version = 1",
-        nullptr, nullptr, nullptr);
-    sqlite3_close(handle);
+    QFile script(QStringLiteral(FIXTURE_FOLDER "/map_0_1.sql"));
+    if (!script.open(QIODevice::ReadOnly))
+        throw RunTimeError(1, script.fileName());
+    const QString path = bench.folder.PathOf("old.orvane");
+    RunSql(path, script.readAll().constData());
     return {[path] { LayerStores::Open(path); }};
 }
 

@@ -10,8 +10,8 @@
 #include <QFile>
 
 #include <cstdio>
-#include <iterator>
 #include <stdexcept>
+#include <utility>
 
 namespace Orvane::Testing {
 
@@ -37,7 +37,8 @@ void PrintLoss(const std::string& loss, int number, const IFault& fault)
 
 } // namespace
 
-Sweep::Sweep(const SweepOptions& options) : m_options(options), m_faults(MakeFileFaults(m_files))
+Sweep::Sweep(const SweepOptions& options, std::vector<SweepCommand> commands)
+    : m_options(options), m_commands(std::move(commands)), m_faults(MakeFileFaults(m_files))
 {
     auto host = std::make_unique<HostFault>();
     m_host = host.get();
@@ -48,7 +49,7 @@ Sweep::Sweep(const SweepOptions& options) : m_options(options), m_faults(MakeFil
 
 void Sweep::List() const
 {
-    for (const SweepCommand& command : SweepCommands())
+    for (const SweepCommand& command : m_commands)
         std::printf("%s\n", command.name.c_str());
     for (const auto& fault : m_faults)
         std::printf("%s\n", fault->Name().c_str());
@@ -58,7 +59,7 @@ int Sweep::Run()
 {
     if (m_options.every > 1)
         std::printf("Each %dth call, from call %d.\n", m_options.every, m_options.from);
-    for (const SweepCommand& command : SweepCommands())
+    for (const SweepCommand& command : m_commands)
         SweepCommandThrough(command);
     std::printf("%d runs, %d survivors.\n", m_total.runs, m_total.survivors);
     return m_total.runs > 0 && m_total.runs == m_total.survivors && m_unswept == 0 ? 0 : 1;
@@ -103,7 +104,7 @@ Sweep::Counts Sweep::SweepWith(const SweepCommand& command, const Expected& expe
     }
     if (counts.runs > 0)
         std::printf(
-            "%-34s %-24s %5d runs, %5d survivors\n", command.name.c_str(), fault.Name().c_str(), counts.runs,
+            "%-42s %-24s %5d runs, %5d survivors\n", command.name.c_str(), fault.Name().c_str(), counts.runs,
             counts.survivors);
     std::fflush(stdout);
     return counts;

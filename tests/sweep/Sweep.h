@@ -19,7 +19,7 @@ namespace Orvane::Testing {
 class Sweep
 {
 public:
-    explicit Sweep(const SweepOptions& options);
+    Sweep(const SweepOptions& options, std::vector<SweepCommand> commands);
 
     /// Prints the names of the commands and of the faults.
     void List() const;
@@ -54,6 +54,7 @@ private:
     static std::string WhatIsLost(const Outcome& outcome, const Expected& expected, bool hasFailed);
 
     SweepOptions m_options;
+    std::vector<SweepCommand> m_commands;
     FailingFiles m_files;
     HostFault* m_host = nullptr; // owned by m_faults
     std::vector<std::unique_ptr<IFault>> m_faults;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "sweep/SweepCommand.h"
 
-#include <iterator>
-
 namespace Orvane::Testing {
 
 std::vector<SweepCommand> SweepCommands()

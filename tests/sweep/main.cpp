@@ -8,10 +8,17 @@
 
 namespace {
 
+// The offscreen platform says this whenever a window is raised or resized.
+void PrintUnlessNoise(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    if (!message.contains(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "Qt: %s\n", qPrintable(message));
+}
+
 int RunSweep(const Orvane::Testing::SweepOptions& options)
 {
     try {
-        Orvane::Testing::Sweep sweep(options);
+        Orvane::Testing::Sweep sweep(options, Orvane::Testing::SweepCommands());
         if (!options.isList)
             return sweep.Run();
         sweep.List();
@@ -26,6 +33,7 @@ int RunSweep(const Orvane::Testing::SweepOptions& options)
 
 int main(int argc, char** argv)
 {
+    qInstallMessageHandler(PrintUnlessNoise);
     QStandardPaths::setTestModeEnabled(true);
     const QApplication application(argc, argv);
     if (const auto options = Orvane::Testing::SweepOptions::Read(QApplication::arguments()))
