@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/command/ImportCommand.h"
 #include "shell/command/MapCheck.h"
@@ -7,6 +6,7 @@
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 #include "sweep/SweepCommand.h"
+#include "sweep/SweepData.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -20,24 +20,6 @@ namespace Orvane::Testing {
 namespace {
 
 constexpr auto Other = "other.orvane";
-constexpr auto Field = R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{},)"
-                       R"("geometry":{"type":"LineString","coordinates":[[1,2],[3,4]]}}]})";
-
-QString DataOf(const SweepBench& bench)
-{
-    const QString path = bench.folder.PathBeside("field.geojson");
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(Field) < 0)
-        throw RunTimeError(1, path);
-    return path;
-}
-
-FoundData FoundIn(const QString& path)
-{
-    Progress progress;
-    return LookInto({path}, progress);
-}
-
 void FillNewMap(MapDocument& map)
 {
     NewLayer layer;
@@ -74,7 +56,7 @@ PreparedCommand PrepareSaveOver(const SweepBench& bench)
 PreparedCommand PrepareImport(const SweepBench& bench)
 {
     const std::shared_ptr<MapDocument> map = MapDocument::Open(bench.folder.MapPath());
-    return {[map, found = FoundIn(DataOf(bench))] { AddToMap(*map, found); }, &map->Database()};
+    return {[map, found = FindSweepData(bench.folder)] { AddToMap(*map, found); }, &map->Database()};
 }
 
 // Its first line of error is raised.
@@ -91,8 +73,8 @@ CommandPreparation ImportTo(const char* map)
 {
     return [map](const SweepBench& bench) -> PreparedCommand {
         const QStringList arguments{
-            QStringLiteral("orvane"), QStringLiteral("import"), DataOf(bench), QStringLiteral("--to"),
-            bench.folder.PathOf(map)};
+            QStringLiteral("orvane"), QStringLiteral("import"), WriteSweepData(bench.folder),
+            QStringLiteral("--to"), bench.folder.PathOf(map)};
         return {[arguments] { RunImport(arguments); }};
     };
 }

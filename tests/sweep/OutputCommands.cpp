@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/schemes/LayerSchemes.h"
 #include "mapkit/Drawings.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
@@ -6,6 +7,7 @@
 #include "mapkit/output/PageWriter.h"
 #include "shell/command/ExportCommand.h"
 #include "sweep/SweepCommand.h"
+#include "sweep/SweepData.h"
 #include "sweep/SweepHost.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -44,20 +46,34 @@ CommandPreparation WritingPage(const char* name)
     };
 }
 
-PreparedCommand PrepareCommandLine(const SweepBench& bench)
+// A map whose data can be read, with a scheme.
+QString MakeDrawableMap(const SweepFolder& folder)
 {
-    const QString picture = bench.folder.PathOf("page.svg");
-    const QStringList arguments{QStringLiteral("orvane"),   bench.folder.MapPath(),
-                                QStringLiteral("--export"), picture,
-                                QStringLiteral("--scheme"), QStringLiteral("Night")};
+    const QString path = folder.PathOf("drawable.orvane");
+    MapDocument::Make(path, IfExists::Refuse, [&](MapDocument& map) {
+        AddToMap(map, FindSweepData(folder));
+        LayerSchemes(map.Database()).Create(QStringLiteral("Night"));
+    });
+    return path;
+}
+
+// What it says is raised.
+void RunExport(const QStringList& arguments)
+{
+    QString text;
+    QTextStream out(&text);
+    QTextStream errors(&text);
+    if (ExportCommand(arguments, {out, errors}) != ExitCode::Done)
+        throw RunTimeError(1, QStringLiteral("orvane --export: ") + text);
+}
+
+PreparedCommand PrepareExport(const SweepBench& bench)
+{
     bench.folder.Write("page.svg", "old");
-    return {[arguments] {
-        QString text;
-        QTextStream out(&text);
-        QTextStream errors(&text);
-        if (ExportCommand(arguments, {out, errors}) != ExitCode::Done)
-            throw RunTimeError(1, text);
-    }};
+    const QStringList arguments{QStringLiteral("orvane"),   MakeDrawableMap(bench.folder),
+                                QStringLiteral("--export"), bench.folder.PathOf("page.svg"),
+                                QStringLiteral("--scheme"), QStringLiteral("Night")};
+    return {[arguments] { RunExport(arguments); }};
 }
 
 CommandPreparation WritingScheme(bool isThere)
@@ -82,7 +98,7 @@ std::vector<SweepCommand> OutputCommands()
         {"output: page as PDF", WritingPage("page.pdf")},
         {"output: page as SVG", WritingPage("page.svg")},
         {"output: page as PNG", WritingPage("page.png")},
-        {"output: orvane --export", PrepareCommandLine},
+        {"output: orvane --export", PrepareExport},
         {"output: scheme file", WritingScheme(false)},
         {"output: scheme over another file", WritingScheme(true)},
     };
