@@ -17,6 +17,8 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <utility>
+
 namespace Orvane::Testing {
 
 namespace {

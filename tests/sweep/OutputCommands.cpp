@@ -49,7 +49,7 @@ CommandPreparation WritingPage(const char* name)
 // A map whose data can be read, with a scheme.
 QString MakeDrawableMap(const SweepFolder& folder)
 {
-    const QString path = folder.PathOf("drawable.orvane");
+    QString path = folder.PathOf("drawable.orvane");
     MapDocument::Make(path, IfExists::Refuse, [&](MapDocument& map) {
         AddToMap(map, FindSweepData(folder));
         LayerSchemes(map.Database()).Create(QStringLiteral("Night"));

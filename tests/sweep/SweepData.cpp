@@ -19,7 +19,7 @@ constexpr auto OneLine = R"({"type":"FeatureCollection","features":[{"type":"Fea
 
 QString WriteSweepData(const SweepFolder& folder)
 {
-    const QString path = folder.PathBeside("field.geojson");
+    QString path = folder.PathBeside("field.geojson");
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(OneLine) < 0)
         throw RunTimeError(1, QStringLiteral("This file cannot be written: ") + path);
