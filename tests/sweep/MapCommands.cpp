@@ -95,14 +95,16 @@ PreparedCommand PrepareRepair(const SweepBench& bench)
     return {[path] { RepairMap(path); }};
 }
 
-// The map that takes the later edit is another one: opening the older map would finish what was not done.
+// As the first version of the store made it. The map that takes the later edit is another one: opening the
+// older map would finish what was not done.
 PreparedCommand PrepareOlderMap(const SweepBench& bench)
 {
-    QFile script(QStringLiteral(FIXTURE_FOLDER "/map_0_1.sql"));
-    if (!script.open(QIODevice::ReadOnly))
-        throw RunTimeError(1, script.fileName());
     const QString path = bench.folder.PathOf("old.orvane");
-    RunSql(path, script.readAll().constData());
+    QFile::copy(bench.folder.OriginalMap(), path);
+    RunSql(
+        path,
+        "DROP INDEX LayerNameIDX; DROP INDEX GroupOrderingIDX; DROP INDEX MemberOrderingIDX;"
+        "DROP INDEX MemberLayerIDX; DELETE FROM sqlite_stat1; PRAGMA user_version = 1");
     return {[path] { LayerStores::Open(path); }};
 }
 
