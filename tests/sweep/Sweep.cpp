@@ -20,6 +20,13 @@ namespace {
 constexpr int MostCalls = 5000; // more than any command makes
 constexpr qint64 RoomStep = 509; // bytes; a prime, so that it meets any place in a page
 
+// Never destroyed: GDAL keeps a database of its own open until the program ends.
+FailingFiles& FilesOfTheProgram()
+{
+    static auto* const files = new FailingFiles;
+    return *files;
+}
+
 std::string ErrorOf(const std::function<void()>& act)
 {
     try {
@@ -38,7 +45,8 @@ void PrintLoss(const std::string& loss, int number, const IFault& fault)
 } // namespace
 
 Sweep::Sweep(const SweepOptions& options, std::vector<SweepCommand> commands)
-    : m_options(options), m_commands(std::move(commands)), m_faults(MakeFileFaults(m_files))
+    : m_options(options), m_commands(std::move(commands)), m_files(FilesOfTheProgram()),
+      m_faults(MakeFileFaults(m_files))
 {
     auto host = std::make_unique<HostFault>();
     m_host = host.get();

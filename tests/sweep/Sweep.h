@@ -55,7 +55,7 @@ private:
 
     SweepOptions m_options;
     std::vector<SweepCommand> m_commands;
-    FailingFiles m_files;
+    FailingFiles& m_files;
     HostFault* m_host = nullptr; // owned by m_faults
     std::vector<std::unique_ptr<IFault>> m_faults;
     SweepFolder m_folder;
