@@ -58,6 +58,66 @@ void FailingClient::IStyleEditorClient_LoadScheme(const QString& name)
     Wrapped().LoadScheme(name);
 }
 
+void FailingClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)
+{
+    m_failure.Called("RenameLayer");
+    Wrapped().RenameLayer(layerID, name);
+}
+
+void FailingClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name)
+{
+    m_failure.Called("RenameGroup");
+    Wrapped().RenameGroup(groupID, name);
+}
+
+QStringList FailingClient::IStyleEditorClient_GetSchemeNames()
+{
+    m_failure.Called("GetSchemeNames");
+    return Wrapped().GetSchemeNames();
+}
+
+QString FailingClient::IStyleEditorClient_GetCurrentScheme()
+{
+    m_failure.Called("GetCurrentScheme");
+    return Wrapped().GetCurrentScheme();
+}
+
+void FailingClient::IStyleEditorClient_CreateScheme(const QString& name)
+{
+    m_failure.Called("CreateScheme");
+    Wrapped().CreateScheme(name);
+}
+
+void FailingClient::IStyleEditorClient_SaveScheme(const QString& name)
+{
+    m_failure.Called("SaveScheme");
+    Wrapped().SaveScheme(name);
+}
+
+void FailingClient::IStyleEditorClient_DeleteScheme(const QString& name)
+{
+    m_failure.Called("DeleteScheme");
+    Wrapped().DeleteScheme(name);
+}
+
+void FailingClient::IStyleEditorClient_SaveSchemesToStartup()
+{
+    m_failure.Called("SaveSchemesToStartup");
+    Wrapped().SaveSchemesToStartup();
+}
+
+PromptAnswer FailingClient::IStyleEditorClient_PromptText(const PromptRequest& request)
+{
+    m_failure.Called("PromptText");
+    return Wrapped().PromptText(request);
+}
+
+bool FailingClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
+{
+    m_failure.Called("IsCodeAssigned");
+    return Wrapped().IsCodeAssigned(code);
+}
+
 void FailingClient::IStyleEditorClient_RedrawMap()
 {
     m_failure.Called("RedrawMap");

@@ -20,20 +20,31 @@ public:
     {
     }
 
+    /// The nth call raises, whichever member it is of.
+    static PlannedFailure InAnyMember(int call, RunTimeError error)
+    {
+        return {std::string(), call, std::move(error)};
+    }
+
     /// Counts the call, and raises the error when it is the planned one.
     void Called(const char* member)
     {
-        if (m_member == member && --m_callsToGo == 0)
-            throw m_error;
+        if ((!m_member.empty() && m_member != member) || --m_callsToGo != 0)
+            return;
+        m_failedMember = member;
+        throw m_error;
     }
 
     /// True once it has raised.
-    bool HasCome() const { return m_callsToGo <= 0; }
+    bool HasCome() const { return !m_failedMember.empty(); }
+    /// The member that has raised; empty before that.
+    const std::string& FailedMember() const { return m_failedMember; }
 
 private:
     std::string m_member;
     int m_callsToGo;
     RunTimeError m_error;
+    std::string m_failedMember;
 };
 
 /// Passes everything on to another database and raises as planned, in its own members and in those of its

@@ -115,6 +115,7 @@ void NewLayerFile::PutInPlace()
 {
     FinishFile(m_path, m_options, m_errors);
     CheckFile(m_path, m_options, m_errors);
+    SettleJournals(m_path); // an empty log that SQLite could not remove
     CheckPlace();
     // What a crash has left beside the old file belongs to it: it must not be lost if the new file cannot be
     // moved, and never be applied to the new file.

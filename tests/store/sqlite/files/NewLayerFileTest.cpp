@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/files/NewLayerFile.h"
 
+#include "store/failing_files/FailingFiles.h"
 #include "store/sqlite/StoreTest.h"
 #include "support/FileSizeLimit.h"
 
@@ -221,6 +222,21 @@ TEST_F(NewLayerFileTest, ErrorsNameThePlaceOfTheFile)
         EXPECT_TRUE(text.isEmpty() || text.contains(PathOf(m_name))) << qPrintable(text);
         EXPECT_FALSE(text.contains(QStringLiteral(".part"))) << qPrintable(text);
     }
+}
+
+TEST_F(NewLayerFileTest, AnEmptyLogThatCannotBeRemovedIsNotLeft)
+{
+    const QString path = PathOf(m_name);
+    FailingFiles files;
+    int number = 0;
+    do {
+        QFile::remove(path);
+        files.Fail({.calls = FailingFiles::Delete, .number = ++number});
+        const int error = ErrorOf([&] { Replace(path); });
+        files.Heal();
+        EXPECT_EQ(FilesThere(), error == 0 ? QStringList{m_name} : QStringList()) << files.FirstFailure();
+    } while (files.HasFailed());
+    EXPECT_GT(number, 1) << "nothing failed";
 }
 
 } // namespace Orvane::Testing
