@@ -19,11 +19,27 @@ set_target_properties(style_samples PROPERTIES EXPORT_NAME Samples)
 install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store orvane_hostkit ovctrls style_samples
   EXPORT OrvaneTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
   get_filename_component(folder "${header}" DIRECTORY)
-  install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}")
+  if(folder STREQUAL "hosttests")
+    if(NOT TARGET orvane_host_tests)
+      continue()
+    endif()
+    set(header_component HostTests)
+  else()
+    set(header_component Unspecified)
+  endif()
+  install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}" COMPONENT ${header_component})
 endforeach()
-set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
+
+# Their own component: only who asks for it needs GoogleTest.
+if(TARGET orvane_host_tests)
+  set_target_properties(orvane_host_tests PROPERTIES EXPORT_NAME HostTests)
+  install(TARGETS orvane_host_tests EXPORT OrvaneHostTestsTargets
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT HostTests)
+  install(EXPORT OrvaneHostTestsTargets NAMESPACE Orvane:: DESTINATION "${config_folder}" COMPONENT HostTests)
+endif()
 install(EXPORT OrvaneTargets NAMESPACE Orvane:: DESTINATION "${config_folder}")
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrvaneConfig.cmake.in" "${CMAKE_BINARY_DIR}/OrvaneConfig.cmake"
   INSTALL_DESTINATION "${config_folder}" PATH_VARS ORVANE_PLUGIN_DESTINATION)
