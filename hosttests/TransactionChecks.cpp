@@ -158,7 +158,9 @@ void CheckReadingInTransaction(CheckRun& run)
 {
     const auto styles = ComponentCalls::LoadGroup(run.Client(), TownGroup::Water);
     run.ExpectNumber(QStringLiteral("layers read"), qint64(styles.size()), 3);
-    CheckRollback(run);
+    SetPriority(run.Client(), edited, 11);
+    run.Database().Rollback();
+    ExpectPriority(run, QStringLiteral("after a rollback outside of a transaction"), edited, 11);
 }
 
 void CheckSecondProgram(CheckRun& run)

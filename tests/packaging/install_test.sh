@@ -55,4 +55,6 @@ expect 0 cmake -S "$source/tests/packaging/consumer" -B "$folder/consumer" -DCMA
 expect 0 cmake --build "$folder/consumer"
 expect 0 "$folder/consumer/consumer"
 grep -q "was shown" "$folder/out" || fail "the consumer saw no layer control"
+expect 0 "$folder/consumer/host_tests"
+grep -q 'MyHost_Dialog.ItListsAndShowsAllLayers' "$folder/out" || fail "the tests for hosts did not run"
 echo "installed, moved and used: all well"
