@@ -258,6 +258,12 @@ std::vector<HostCheck> ClientChecks()
         {"Client", "AChangedCodeIsKnownAtOnce",
          "IsCodeAssigned: follows codes that were changed through LayersTable.", writing, Town,
          CheckCodesAfterChange},
+    };
+}
+
+std::vector<HostCheck> WindowChecks()
+{
+    return {
         {"Client",
          "RendererStylesHaveNumbersOfTheirOwn",
          "RendererStyles: each has a name, and a number that is not 0 and that no other has.",

@@ -159,7 +159,7 @@ void CheckErrorTypes(CheckRun& run)
 
 } // namespace
 
-std::vector<HostCheck> CursorChecks()
+std::vector<HostCheck> SeekChecks()
 {
     return {
         {"Cursors",
@@ -193,6 +193,12 @@ std::vector<HostCheck> CursorChecks()
          {},
          Town,
          CheckOtherComparison},
+    };
+}
+
+std::vector<HostCheck> CursorChecks()
+{
+    return {
         {"Cursors",
          "ATableHasNoRowBeforeSeek",
          "IRecordset: a table cursor has no row until Seek finds one; AtEOF is true.",

@@ -69,8 +69,8 @@ std::vector<HostCheck> AllHostChecks()
 {
     std::vector<HostCheck> all;
     for (const auto list :
-         {QueryChecks, ColumnChecks, CursorChecks, WritingChecks, TransactionChecks, ClientChecks,
-          SchemeChecks, ServiceChecks, SessionChecks}) {
+         {TreeChecks, ListChecks, MembershipChecks, ColumnChecks, SeekChecks, CursorChecks, WritingChecks,
+          TransactionChecks, ClientChecks, WindowChecks, SchemeChecks, ServiceChecks, SessionChecks}) {
         std::vector<HostCheck> checks = list();
         all.insert(all.end(), std::make_move_iterator(checks.begin()), std::make_move_iterator(checks.end()));
     }

@@ -216,7 +216,7 @@ void CheckNothing(CheckRun& run)
 
 } // namespace
 
-std::vector<HostCheck> QueryChecks()
+std::vector<HostCheck> TreeChecks()
 {
     return {
         {"Queries",
@@ -263,6 +263,12 @@ std::vector<HostCheck> QueryChecks()
          {Ability::NullValues},
          WithNulls,
          CheckGroupWithoutName},
+    };
+}
+
+std::vector<HostCheck> ListChecks()
+{
+    return {
         {"Queries",
          "TheListGoesByNameWithoutCase",
          "LayerQueries::LayerList: rows come by Name, without regard to upper and lower case.",
@@ -287,6 +293,12 @@ std::vector<HostCheck> QueryChecks()
          {},
          Town,
          CheckOneLayerQuery},
+    };
+}
+
+std::vector<HostCheck> MembershipChecks()
+{
+    return {
         {"Queries",
          "TheMembersOfAGroupAreFound",
          "LayerQueries::MemberLayerIDs: the LayerID of each member, in any order; none for an empty group.",
