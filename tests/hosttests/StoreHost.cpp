@@ -8,7 +8,10 @@ namespace Orvane::Testing {
 
 namespace {
 
-constexpr StoreOptions Impatient{std::chrono::milliseconds(1), {}};
+StoreOptions Impatient()
+{
+    return {std::chrono::milliseconds(1), {}};
+}
 
 std::unique_ptr<ILayerStore> InMemory(const HostContents& contents)
 {
@@ -38,12 +41,12 @@ QString MapFolder::MakeMap(const HostContents& contents) const
 }
 
 FileHost::FileHost(const HostContents& contents)
-    : StoreHost(LayerStores::Open(MakeMap(contents), OpenMode::ReadWrite, Impatient)), m_path(MapPath())
+    : StoreHost(LayerStores::Open(MakeMap(contents), OpenMode::ReadWrite, Impatient())), m_path(MapPath())
 {
 }
 
 FileHost::FileHost(const QString& path)
-    : StoreHost(LayerStores::Open(path, OpenMode::ReadWrite, Impatient)), m_path(path)
+    : StoreHost(LayerStores::Open(path, OpenMode::ReadWrite, Impatient())), m_path(path)
 {
 }
 
