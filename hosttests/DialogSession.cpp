@@ -113,7 +113,7 @@ void DialogSession::Tick(const char* box)
 {
     if (auto* outer = Find<QWidget>(&Window(), box)) {
         if (auto* inner = outer->findChild<QCheckBox*>())
-            Click(*inner, QPointF(8, inner->height() / 2));
+            Click(*inner, QPointF(8, inner->height() / 2.0));
     }
     QApplication::processEvents();
 }

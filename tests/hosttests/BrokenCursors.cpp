@@ -270,7 +270,7 @@ std::vector<BrokenHost> HostsThatSeekBadly()
 {
     return {
         {"ItSeeksTheNextRow",
-         Cursors({.seek = [](qint32 key) { return key == 3 ? 4 : key; }}),
+         Cursors({.seek = [](qint32 key) { return key == 2 ? 3 : key; }}),
          {"SeekFindsTheRow"}},
         {"ItNeverSaysNoMatch",
          WithCursor<NoMatchIsFalse>(),

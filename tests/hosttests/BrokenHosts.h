@@ -3,6 +3,7 @@
 
 #include "hosttests/StoreHost.h"
 
+#include <ostream>
 #include <vector>
 
 namespace Orvane::Testing {
@@ -13,6 +14,11 @@ struct BrokenHost {
     HostTests::MakeHost make;
     std::vector<const char*> foundBy; ///< names of checks
 };
+
+inline void PrintTo(const BrokenHost& host, std::ostream* stream)
+{
+    *stream << host.fault;
+}
 
 std::vector<BrokenHost> HostsWithBrokenQueries();
 std::vector<BrokenHost> HostsWithBrokenCursors();
