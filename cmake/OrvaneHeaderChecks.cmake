@@ -32,7 +32,7 @@ set_target_properties(public_header_checks PROPERTIES INCLUDE_DIRECTORIES "${ins
 target_compile_definitions(public_header_checks PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 
 file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS OrvaneShellLib/*.h messages/*.h files/*.h
-  store/*.h ovctrls/*.h samples/*.h hostkit/*.h component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
+  store/*.h ovctrls/*.h samples/*.h hostkit/*.h hosttests/*.h component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
 list(REMOVE_ITEM headers ${ORVANE_PUBLIC_HEADERS})
 orvane_header_check(inner_header_checks HEADERS ${headers} LIBRARIES
   component_entry orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)

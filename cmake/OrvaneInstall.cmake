@@ -23,7 +23,9 @@ install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store orvane_
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
   get_filename_component(folder "${header}" DIRECTORY)
-  install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}" COMPONENT development)
+  if(TARGET orvane_host_tests OR NOT folder STREQUAL "hosttests")
+    install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "include/orvane/${folder}" COMPONENT development)
+  endif()
 endforeach()
 
 # The component for hosts that link it, as one archive a room.
@@ -33,9 +35,17 @@ install(TARGETS OrvaneLayerControlStatic component_common component_model compon
   EXPORT OrvaneLayerControlStaticTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}/orvane-static" COMPONENT development)
 
+# Only a host that asks for them needs GoogleTest.
+if(TARGET orvane_host_tests)
+  set_target_properties(orvane_host_tests PROPERTIES EXPORT_NAME HostTests)
+  install(TARGETS orvane_host_tests EXPORT OrvaneHostTestsTargets
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+  set(host_tests_targets OrvaneHostTestsTargets)
+endif()
+
 math(EXPR orvane_other_qt "11 - ${QT_VERSION_MAJOR}") # 5 or 6
 set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
-foreach(targets OrvaneTargets OrvaneLayerControlStaticTargets)
+foreach(targets OrvaneTargets OrvaneLayerControlStaticTargets ${host_tests_targets})
   install(EXPORT ${targets} NAMESPACE Orvane:: DESTINATION "${config_folder}" COMPONENT development)
 endforeach()
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/OrvaneConfig.cmake.in"

@@ -165,7 +165,7 @@ QString MemoryHost::IStyleEditorClient_LayerDisplayName(qint32 layerID)
 {
     Note("LayerDisplayName", {layerID});
     const auto text = displayNames.find(layerID);
-    return text != displayNames.end() ? text->second : ToText(LayerColumn(layerID, "Name"));
+    return text != displayNames.end() ? text->second : ToTextOrNone(LayerColumn(layerID, "Name"));
 }
 
 void MemoryHost::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)

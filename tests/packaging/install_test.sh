@@ -56,6 +56,8 @@ expect 0 cmake --build "$folder/consumer"
 expect 0 "$folder/consumer/consumer"
 grep -q "was shown" "$folder/out" || fail "the consumer saw no layer control"
 expect 0 "$folder/consumer/linked_consumer"
+expect 0 "$folder/consumer/host_tests"
+grep -q 'MyHost_Dialog.ItListsAndShowsAllLayers' "$folder/out" || fail "the tests for hosts did not run"
 expect 1 cmake -S "$source/tests/packaging/consumer" -B "$folder/unknown" -DCMAKE_PREFIX_PATH="$prefix" \
     -DCONSUMER_COMPONENT=Nonsense
 grep -q 'there is no component "Nonsense"' "$folder/out" || fail "an unknown component is not named"
