@@ -157,7 +157,7 @@ void Dialog::Apply()
     }
     const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
     ++redraws;
-    if (written == 0 && panel.hasLayers) {
+    if (written == 0 && (panel.hasLayers || !node->isGroup)) {
         const QString kind = node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
         m_boxes.append(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
                            .arg(kind, list.TextOf(*node)));
