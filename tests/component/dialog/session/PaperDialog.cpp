@@ -185,8 +185,12 @@ void Dialog::ShowTab(int wanted, Answer answer)
     if (wanted != 3) {
         shownList = wantedList;
         EnsureLoaded(wantedList, answer);
+        Load();
+        return;
     }
-    Load();
+    panel.mode = panel.loadedMode; // nothing is read
+    panel.code = panel.storedCode ? QString::number(*panel.storedCode) : QString();
+    panel.isCodeMarked = false;
 }
 
 void Dialog::ClickShownTab(Answer answer)
