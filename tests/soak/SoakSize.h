@@ -7,11 +7,11 @@
 
 namespace Orvane::Testing {
 
-/// How often a soak test opens the layer control: the number in ORVANE_SOAK, else a sample of 40.
+/// How often a soak test opens the layer control: the number in ORVANE_SOAK, else a sample of 25.
 inline int SoakSize()
 {
     const int size = qEnvironmentVariableIntValue("ORVANE_SOAK");
-    return size > 0 ? std::max(size, 40) : 40;
+    return size > 0 ? std::max(size, 20) : 25;
 }
 
 /// The random events of a soak test, in all sessions together.
