@@ -48,7 +48,7 @@ std::vector<Branch> Dialog::ReadLayers() const
 {
     Branch all;
     for (const auto& [layerID, layer] : m_map.layers) {
-        if (!IsHidden(layerID) && !filteredOut.count(layerID))
+        if (!IsHidden(layerID) && !(isFilteredOut && isFilteredOut(layerID)))
             all.entries.push_back(EntryOf(layerID));
     }
     return all.entries.empty() ? std::vector<Branch>() : std::vector{all};
@@ -255,7 +255,7 @@ void Dialog::Open(int storedTab)
     lists = {};
     panel = {};
     isModified = false;
-    filteredOut.clear();
+    isFilteredOut = nullptr;
     shownList = Groups;
     ShowTab(storedTab, Answer::No);
 }
