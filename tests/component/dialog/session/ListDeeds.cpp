@@ -94,6 +94,7 @@ void ExpandOrCollapseAll(SessionFixture& session)
     QTreeView& tree = session.Tree(Groups);
     if (session.dialog.tab != 1)
         return;
+    session.Settle(); // the activation of a window that has just opened would close the menu
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, tree.mapToGlobal(tree.rect().center()));
     QApplication::sendEvent(&tree, &event);
     session.Settle();
