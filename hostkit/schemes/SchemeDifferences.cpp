@@ -13,7 +13,7 @@ constexpr qsizetype FewLayers = 1000; // above this, comparing all layers at onc
 
 qsizetype SchemeDifferences::Count()
 {
-    if (!m_known || m_noted.size() > FewLayers)
+    if (!m_known)
         CompareAll();
     CompareNoted();
     return m_differing.size();
@@ -21,8 +21,13 @@ qsizetype SchemeDifferences::Count()
 
 void SchemeDifferences::Note(const QSet<qint32>& layerIDs)
 {
-    if (m_known)
-        m_noted.unite(layerIDs);
+    if (!m_known)
+        return;
+    m_noted.unite(layerIDs);
+    if (m_noted.size() <= FewLayers)
+        return;
+    m_known = false; // all are compared with the next count
+    m_noted.clear();
 }
 
 void SchemeDifferences::CompareAll()

@@ -31,6 +31,7 @@ public:
     void Undo() override { Run(); }
     void Redo() override { Run(); }
     bool Absorb(const IUndoStep& next) override;
+    qsizetype KeptBytes() const override { return m_changes.KeptBytes(); }
 
 private:
     void Run();

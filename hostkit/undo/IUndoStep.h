@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QtGlobal>
 
 namespace Orvane {
 
@@ -32,6 +33,10 @@ public:
     /// Merges the step done directly after this one into this step, if they are one operation to the user.
     /// Returns true if next is no longer needed. By default steps are not merged.
     virtual bool Absorb([[maybe_unused]] const IUndoStep& next) { return false; }
+
+    /// How much memory the step uses for what it must remember, in bytes: the history drops old steps when
+    /// all together use too much. By default 0.
+    virtual qsizetype KeptBytes() const { return 0; }
 
 protected:
     IUndoStep() = default;

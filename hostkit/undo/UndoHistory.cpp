@@ -7,6 +7,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace Orvane {
 
 void UndoHistory::Add(std::unique_ptr<IUndoStep> step)
@@ -16,10 +18,21 @@ void UndoHistory::Add(std::unique_ptr<IUndoStep> step)
     m_steps.resize(m_done);
     if (m_steps.empty() || !m_steps.back()->Absorb(*step))
         m_steps.push_back(std::move(step));
-    if (m_steps.size() > size_t(MaxSteps))
-        m_steps.erase(m_steps.begin());
+    DropOldest();
     m_done = m_steps.size();
     emit Changed();
+}
+
+void UndoHistory::DropOldest()
+{
+    const size_t most = std::min(m_steps.size(), size_t(MaxSteps));
+    size_t kept = 1;
+    for (qsizetype bytes = m_steps.back()->KeptBytes(); kept < most; ++kept) {
+        bytes += m_steps[m_steps.size() - kept - 1]->KeptBytes();
+        if (bytes > MaxBytes)
+            break;
+    }
+    m_steps.erase(m_steps.begin(), m_steps.end() - std::ptrdiff_t(kept));
 }
 
 QString UndoHistory::UndoText() const

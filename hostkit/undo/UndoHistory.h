@@ -22,6 +22,9 @@ class UndoHistory : public QObject
 public:
     /// The number of steps that are kept; adding one more drops the oldest.
     static constexpr int MaxSteps = 100;
+    /// The memory that all steps together may use, in bytes; adding one drops the oldest until it suffices.
+    /// The latest step is kept, however large it is.
+    static constexpr qsizetype MaxBytes = 256 * 1024 * 1024;
 
     using QObject::QObject;
 
@@ -61,6 +64,7 @@ Q_SIGNALS:
 private:
     enum class Direction { Undo, Redo };
 
+    void DropOldest();
     void Run(Direction direction);
     void RunStep(Direction direction, size_t position);
 

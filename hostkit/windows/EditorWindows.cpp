@@ -13,6 +13,7 @@ namespace Orvane {
 void EditorWindows::Show(QWidget* form)
 {
     Forget(form);
+    std::erase(m_forms, nullptr); // destroyed by the host without a word
     m_forms.emplace_back(form);
     if (m_mainWindow && m_mainWindow != form && form->isWindow()) {
         form->winId(); // creates the window handle

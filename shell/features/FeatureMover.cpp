@@ -69,6 +69,7 @@ public:
     QString Text() const override { return m_text; }
     void Undo() override { Swap(m_change.after, m_change.before); }
     void Redo() override { Swap(m_change.before, m_change.after); }
+    qsizetype KeptBytes() const override { return m_change.before.size() + m_change.after.size(); }
 
 private:
     void Swap(QByteArray& expected, QByteArray& wanted)

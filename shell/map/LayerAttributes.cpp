@@ -56,11 +56,25 @@ void LayerAttributes::Take(const AttributeRequest& request, std::shared_ptr<cons
 
 void LayerAttributes::Fit(MapLayer& layer, const IShellServices& services)
 {
+    DropOutdated(layer);
     layer.labels = Needs(layer, AttributeUse::Labels) ? Column(layer, AttributeUse::Labels) : nullptr;
     layer.classes = Needs(layer, AttributeUse::Classes) ? ClassesOf(layer) : nullptr;
     layer.classLooks.clear();
     if (layer.classes)
         layer.classLooks = ClassLooksOf(layer.values, services, layer.classes->Count());
+}
+
+// What was read holds its features: while it stayed, so would the old ones, as large as the layer's data.
+void LayerAttributes::DropOutdated(const MapLayer& layer)
+{
+    for (const AttributeUse use : {AttributeUse::Labels, AttributeUse::Classes}) {
+        const auto found = m_read.find({layer.layerID, use});
+        if (found == m_read.end() || found->second.features == layer.features)
+            continue;
+        m_read.erase(found);
+        if (use == AttributeUse::Classes)
+            m_classes.erase(layer.layerID);
+    }
 }
 
 LayerRendering LayerAttributes::RenderingOf(qint32 layerID) const

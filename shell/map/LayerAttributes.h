@@ -33,8 +33,8 @@ public:
     Missing(const std::vector<MapLayer>& layers, const std::vector<LayerSource>& sources) const;
     void Take(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
 
-    /// Gives the layer the labels and classes of its style, as far as they are read. Passes on errors of the
-    /// services.
+    /// Gives the layer the labels and classes of its style, as far as they are read, and drops what was read
+    /// for features that it no longer has. Passes on errors of the services.
     void Fit(MapLayer& layer, const IShellServices& services);
 
 private:
@@ -50,6 +50,7 @@ private:
         std::shared_ptr<const Classification> classification;
     };
 
+    void DropOutdated(const MapLayer& layer);
     LayerRendering RenderingOf(qint32 layerID) const;
     std::shared_ptr<const AttributeColumn> Column(const MapLayer& layer, AttributeUse use) const;
     std::shared_ptr<const Classification> ClassesOf(const MapLayer& layer);

@@ -87,14 +87,40 @@ void MapLayers::ReadAll()
 
 void MapLayers::DropFeaturesOfOtherData()
 {
-    for (const LayerSource& source : m_document.Sources()) {
+    const std::vector<LayerSource> sources = m_document.Sources();
+    QSet<qint32> withSource;
+    withSource.reserve(qsizetype(sources.size()));
+    for (const LayerSource& source : sources) {
+        withSource.insert(source.layerID);
         const auto [known, isNew] = m_sources.try_emplace(source.layerID, source);
         if (isNew || IsSameData(known->second, source))
             continue;
         known->second = source;
-        m_features.erase(source.layerID);
-        m_unreadable.remove(source.layerID);
+        DropFeatures(source.layerID);
     }
+    DropFeaturesExcept(withSource);
+}
+
+void MapLayers::DropFeatures(qint32 layerID)
+{
+    m_features.erase(layerID);
+    m_unreadable.remove(layerID);
+}
+
+// Layers that another window or program deleted.
+void MapLayers::DropFeaturesExcept(const QSet<qint32>& withSource)
+{
+    std::vector<qint32> gone;
+    gone.reserve(m_features.size());
+    for (const auto& [layerID, features] : m_features) {
+        if (!withSource.contains(layerID))
+            gone.push_back(layerID);
+    }
+    for (const qint32 layerID : gone) {
+        DropFeatures(layerID);
+        m_attributes.Forget(layerID);
+    }
+    m_unreadable.intersect(withSource);
 }
 
 void MapLayers::Read(const QSet<qint32>& layerIDs)
@@ -197,8 +223,7 @@ void MapLayers::Replace(qint32 layerID, const IRecordset& row)
     if (row.NoMatch()) {
         if (known != m_layers.end())
             m_layers.erase(known);
-        m_features.erase(layerID);
-        m_unreadable.remove(layerID);
+        DropFeatures(layerID);
         m_attributes.Forget(layerID);
         return;
     }

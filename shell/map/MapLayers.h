@@ -33,7 +33,8 @@ public:
     void Read(const QSet<qint32>& layerIDs);
 
     /// Drops the features of layers whose data are no longer those of the last call: the ID of a deleted
-    /// layer may now belong to a new one. Call before ReadAll.
+    /// layer may now belong to a new one. Drops those of layers that have no source any more, too. Call
+    /// before ReadAll.
     void DropFeaturesOfOtherData();
     /// Takes over the features that were read, and the layers that could not be read; the features of other
     /// layers stay.
@@ -55,6 +56,8 @@ private:
     MapLayer LayerOfRow(const IRecordset& row) const;
     void Replace(qint32 layerID, const IRecordset& row);
     void FitAttributes();
+    void DropFeatures(qint32 layerID);
+    void DropFeaturesExcept(const QSet<qint32>& withSource);
 
     const MapDocument& m_document;
     const IShellServices& m_services;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <OrvaneShellLib/Transaction.h>
 
@@ -58,7 +58,7 @@ TEST_F(TransactionOf, UndoesWhatWasNotCommitted)
 TEST_F(TransactionOf, RollsBackAfterACommitThatRaised)
 {
     FailingClient client(host, {"CommitTrans", 1, RunTimeError(10001, "disk full")});
-    const auto error = ErrorOf([&] {
+    const auto error = RaisedBy([&] {
         Transaction transaction(client.Database());
         transaction.Commit();
     });
@@ -70,14 +70,14 @@ TEST_F(TransactionOf, RollsBackAfterACommitThatRaised)
 TEST_F(TransactionOf, DoesNotRollBackWhatNeverBegan)
 {
     FailingClient client(host, {"BeginTrans", 1, RunTimeError(10001, "locked")});
-    EXPECT_EQ(ErrorNumberOf([&] { Transaction transaction(client.Database()); }), 10001);
+    EXPECT_EQ(ErrorOf([&] { Transaction transaction(client.Database()); }), 10001);
     EXPECT_TRUE(host.Log().Trace().isEmpty());
 }
 
 TEST_F(TransactionOf, AFailingRollbackDoesNotHideTheErrorBefore)
 {
     FailingClient client(host, {"Rollback", 1, RunTimeError(10001, "connection lost")});
-    const int number = ErrorNumberOf([&] {
+    const int number = ErrorOf([&] {
         Transaction transaction(client.Database());
         throw RunTimeError(10002, "first");
     });

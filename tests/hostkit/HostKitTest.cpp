@@ -70,26 +70,6 @@ QStringList HostKitTest::StatementsOf(const std::function<void()>& act)
     return statements;
 }
 
-int ErrorOf(const std::function<void()>& act)
-{
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-QString DescriptionOf(const std::function<void()>& act)
-{
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.Description();
-    }
-    return {};
-}
-
 void WhenModal(const std::function<void(QWidget& window)>& act)
 {
     QTimer::singleShot(0, qApp, [act] {

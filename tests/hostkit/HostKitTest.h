@@ -3,6 +3,7 @@
 
 #include "hosts/ValueMatchers.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/Errors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -40,11 +41,6 @@ protected:
 private:
     std::unique_ptr<SqliteLayerDatabase> m_database;
 };
-
-/// The number of the RunTimeError that the act raises, 0 when it raises none.
-int ErrorOf(const std::function<void()>& act);
-/// The description of that RunTimeError.
-QString DescriptionOf(const std::function<void()>& act);
 
 /// Calls act, the user's operation, with the next modal window as soon as its event loop runs. The operation
 /// must close the window; otherwise the test fails.

@@ -27,11 +27,13 @@ bool IsExpected(const QString& message)
         if (expectation->Accepts(message))
             return true;
     }
-    return IsPlatformNoise(message);
+    return false;
 }
 
 void Handle(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
+    if (IsPlatformNoise(message))
+        return;
     std::fprintf(stderr, "Qt: %s\n", qPrintable(message));
     const bool severe = type == QtWarningMsg || type == QtCriticalMsg;
     if (severe && !IsExpected(message))

@@ -15,6 +15,8 @@
 #include <QAbstractButton>
 #include <QPointer>
 
+#include <utility>
+
 namespace Orvane {
 
 LayerCommands::LayerCommands(const Widgets& widgets, QObject* parent) : QObject(parent), m_widgets(widgets)
@@ -50,6 +52,14 @@ void LayerCommands::Follow(
 QString LayerCommands::CodeText() const
 {
     return m_widgets.lblCode->text();
+}
+
+void LayerCommands::DropCodeEdit()
+{
+    if (!std::exchange(m_isCodeEdited, false))
+        return;
+    m_widgets.lblCode->setText(ToTextOrNone(m_storedCode));
+    emit CodeEditDropped(m_widgets.lblCode);
 }
 
 std::optional<QString> LayerCommands::CodeToStore() const

@@ -43,6 +43,8 @@ public:
     QString CodeText() const;
     /// True if the user has entered another code since the node was shown.
     bool IsCodeEdited() const { return m_isCodeEdited; }
+    /// Shows the code as it was read instead of the one that the user has entered.
+    void DropCodeEdit();
     /// The code to store; nothing if the user did not touch it and it would not come back as it was stored.
     std::optional<QString> CodeToStore() const;
 
@@ -56,6 +58,8 @@ public:
 signals:
     /// The label shows another code now.
     void CodeEdited(QWidget* label);
+    /// The label shows the code that was read again.
+    void CodeEditDropped(QWidget* label);
     /// The host created a layer.
     void LayerCreated(qint32 layerID);
     /// The host was asked to delete a layer, and may have done so.

@@ -46,6 +46,9 @@ SelectionEditor::SelectionEditor(QWidget& form, const Parts& parts) : m_form(for
     connect(&parts.commands, &LayerCommands::CodeEdited, this, [this](QWidget* label) {
         m_parts.panel.MarkControlChanged(label, true);
     });
+    connect(&parts.commands, &LayerCommands::CodeEditDropped, this, [this](QWidget* label) {
+        m_parts.panel.MarkControlChanged(label, false);
+    });
 }
 
 void SelectionEditor::SetModified(bool modified)
@@ -85,7 +88,9 @@ void SelectionEditor::ShowOrNothing(const Selection& selection)
 
 void SelectionEditor::CoverUp()
 {
+    m_parts.quickModes.ShowMode(m_current ? m_current->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(false);
+    m_parts.commands.DropCodeEdit();
     emit Shown(m_current.has_value());
     SetModified(false);
 }

@@ -60,7 +60,8 @@ public:
     void Cancel();
     /// Reads the current node again; the controls that the user has edited keep their values.
     void Follow();
-    /// Covers the controls without reading anything: for the Schemes tab, until the next Load.
+    /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
+    /// the code, which stay in sight, are those that were read.
     void CoverUp();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();

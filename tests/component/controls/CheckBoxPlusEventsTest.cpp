@@ -118,17 +118,17 @@ TEST_F(CheckBoxPlusTest, ATextThatIsNoNumberIsATypeMismatchAndChangesNothing)
 {
     m_box.setValue(1);
     EventLog log(m_box);
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setValue("greyed"); }), typeMismatch);
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setValue(""); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([this] { m_box.setValue("greyed"); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([this] { m_box.setValue(""); }), typeMismatch);
     EXPECT_EQ(m_box.Value(), 1);
     EXPECT_THAT(log.entries, ElementsAre());
 }
 
 TEST_F(CheckBoxPlusTest, AValueThatNoCheckBoxHasIsRefused)
 {
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setValue("3"); }), subscriptOutOfRange);
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setValue("-1"); }), subscriptOutOfRange);
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setValue("40000"); }), overflow);
+    EXPECT_EQ(ErrorOf([this] { m_box.setValue("3"); }), subscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([this] { m_box.setValue("-1"); }), subscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([this] { m_box.setValue("40000"); }), overflow);
     EXPECT_EQ(m_box.Value(), 0);
 }
 
@@ -173,7 +173,7 @@ TEST_F(CheckBoxPlusTest, EventsAreDeclaredInTheirOrder)
 
 TEST_F(CheckBoxPlusTest, ACycleModeBeyond16BitsOverflows)
 {
-    EXPECT_EQ(ErrorNumberOf([this] { m_box.setCycleMode(40000); }), overflow);
+    EXPECT_EQ(ErrorOf([this] { m_box.setCycleMode(40000); }), overflow);
     EXPECT_EQ(m_box.CycleMode(), 0);
 }
 

@@ -198,7 +198,7 @@ TEST(CheckBoxPlusBag, ABadBagRaisesAndChangesNothing)
     CheckBoxPlus box;
     box.setBackColor(7);
     const auto read = [&](const char* key, const QVariant& value) {
-        return ErrorNumberOf([&] { box.ReadProperties(PropertyBag({{key, value}})); });
+        return ErrorOf([&] { box.ReadProperties(PropertyBag({{key, value}})); });
     };
     EXPECT_EQ(read("BackColor", "blue"), typeMismatch);
     EXPECT_EQ(read("ForeColor", "9999999999"), overflow);

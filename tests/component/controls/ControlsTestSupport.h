@@ -4,6 +4,7 @@
 #include "component/common/Component.h"
 #include "component/common/MessageTable.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 #include "support/LinguistFile.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -15,17 +16,6 @@
 #include <vector>
 
 namespace Orvane::Testing {
-
-/// The number of the RunTimeError that the action raises; 0 when it raises none.
-template <typename Action> int ErrorNumberOf(Action&& action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 constexpr int overflow = int(ErrorNumber::Overflow);
 constexpr int subscriptOutOfRange = int(ErrorNumber::SubscriptOutOfRange);

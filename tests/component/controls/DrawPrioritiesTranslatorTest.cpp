@@ -59,13 +59,13 @@ TEST_F(DrawPrioritiesTranslatorTest, EachTextGivesItsValueBackAsA16BitInteger)
 TEST_F(DrawPrioritiesTranslatorTest, ATextThatIsNoNumberIsATypeMismatch)
 {
     for (const char* text : {"abc", "", "Various", "1 (HIGHEST)", "2 (highest)"})
-        EXPECT_EQ(ErrorNumberOf([&] { m_priorities.FromString(text); }), typeMismatch) << text;
+        EXPECT_EQ(ErrorOf([&] { m_priorities.FromString(text); }), typeMismatch) << text;
 }
 
 TEST_F(DrawPrioritiesTranslatorTest, ANumberBeyond16BitsOverflows)
 {
     EXPECT_THAT(m_priorities.FromString("32767"), IsValue(qint16(32767)));
-    EXPECT_EQ(ErrorNumberOf([&] { m_priorities.FromString("32768"); }), overflow);
+    EXPECT_EQ(ErrorOf([&] { m_priorities.FromString("32768"); }), overflow);
 }
 
 TEST_F(DrawPrioritiesTranslatorTest, AHalfGoesToTheEvenNeighbour)
@@ -83,7 +83,7 @@ TEST_F(DrawPrioritiesTranslatorTest, ATranslatedInterfaceReadsItsOwnTexts)
     EXPECT_THAT(m_priorities.FromString("oberste (1)"), IsValue(qint16(1)));
     EXPECT_THAT(m_priorities.FromString("unterste (255)"), IsValue(qint16(255)));
     EXPECT_THAT(m_priorities.FromString("verschieden"), IsNullValue());
-    EXPECT_EQ(ErrorNumberOf([&] { m_priorities.FromString("1 (highest)"); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_priorities.FromString("1 (highest)"); }), typeMismatch);
 }
 
 TEST_F(DrawPrioritiesTranslatorTest, TextsReadBackInThePseudoLanguage)

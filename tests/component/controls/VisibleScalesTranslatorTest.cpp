@@ -135,26 +135,26 @@ TEST_F(VisibleScalesTranslatorTest, AHalfDenominatorGoesToTheEvenNeighbour)
 
 TEST_F(VisibleScalesTranslatorTest, AnotherCaseIsNotVarious)
 {
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString("Various"); }), typeMismatch);
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString("Dont care"); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_scales.FromString("Various"); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_scales.FromString("Dont care"); }), typeMismatch);
 }
 
 TEST_F(VisibleScalesTranslatorTest, ATailThatIsNoNumberIsATypeMismatch)
 {
     for (const char* text : {"", "1", "1:", "1:abc", "1:10,000", "abc"})
-        EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString(text); }), typeMismatch) << text;
+        EXPECT_EQ(ErrorOf([&] { m_scales.FromString(text); }), typeMismatch) << text;
 }
 
 TEST_F(VisibleScalesTranslatorTest, ADenominatorBeyond32BitsOverflows)
 {
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString("1:2147483647"); }), 0);
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString("1:2147483648"); }), overflow);
+    EXPECT_EQ(ErrorOf([&] { m_scales.FromString("1:2147483647"); }), 0);
+    EXPECT_EQ(ErrorOf([&] { m_scales.FromString("1:2147483648"); }), overflow);
 }
 
 TEST_F(VisibleScalesTranslatorTest, AValueThatIsNoNumberIsATypeMismatch)
 {
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.toString(QString("abc")); }), typeMismatch);
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.toString(Value()); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_scales.toString(QString("abc")); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_scales.toString(Value()); }), typeMismatch);
 }
 
 TEST_F(VisibleScalesTranslatorTest, ATranslatedInterfaceReadsItsOwnTexts)
@@ -165,7 +165,7 @@ TEST_F(VisibleScalesTranslatorTest, ATranslatedInterfaceReadsItsOwnTexts)
     EXPECT_THAT(m_scales.FromString("M 50000"), IsValue(5));
     EXPECT_THAT(m_scales.FromString(m_scales.toString(256)), IsValue(qint16(0)));
     EXPECT_THAT(m_scales.FromString(m_scales.toString(Value::Null())), IsNullValue());
-    EXPECT_EQ(ErrorNumberOf([&] { m_scales.FromString("various"); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([&] { m_scales.FromString("various"); }), typeMismatch);
 }
 
 TEST_F(VisibleScalesTranslatorTest, TextsReadBackInThePseudoLanguage)

@@ -220,12 +220,12 @@ TEST_F(frmDropSliderTest, TheCaptionIsNotUsed)
 TEST_F(frmDropSliderTest, AValueThatIsNoNumberRaisesAndShowsNothing)
 {
     m_value = QString("abc");
-    EXPECT_EQ(ErrorNumberOf([this] { Popup([] {}); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([this] { Popup([] {}); }), typeMismatch);
     m_value = Value::Null();
     m_default = Value();
-    EXPECT_EQ(ErrorNumberOf([this] { Popup([] {}); }), typeMismatch);
+    EXPECT_EQ(ErrorOf([this] { Popup([] {}); }), typeMismatch);
     m_default = 3e9;
-    EXPECT_EQ(ErrorNumberOf([this] { Popup([] {}); }), overflow);
+    EXPECT_EQ(ErrorOf([this] { Popup([] {}); }), overflow);
     EXPECT_FALSE(m_form.isVisible());
 }
 

@@ -4,8 +4,6 @@
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
-#include <numeric>
-
 namespace Orvane::Testing {
 
 namespace {
@@ -27,15 +25,6 @@ constexpr std::array weaknesses{
     Weakness{"LayerChanged", 3}, Weakness{"RedrawMap", 1},    Weakness{"BeginTrans", 2},
     Weakness{"CommitTrans", 2},  Weakness{"OpenRecordset", 3}};
 
-std::vector<Deed> AllDeeds()
-{
-    std::vector<Deed> deeds;
-    for (const auto& some :
-         {EditingDeeds(), ListDeeds(), SchemeDeeds(), HostDeeds(), EndingDeeds(), StrangerDeeds()})
-        deeds.insert(deeds.end(), some.begin(), some.end());
-    return deeds;
-}
-
 class RandomSession : public SessionFixture, public testing::WithParamInterface<unsigned>
 {
 protected:
@@ -43,7 +32,7 @@ protected:
 
     void ActAndCheck(int step)
     {
-        const Deed& deed = NextDeed();
+        const Deed& deed = m_deeds.Next(dice);
         const testing::ScopedTrace trace(__FILE__, __LINE__, std::to_string(step) + ": " + deed.name);
         deed.act(*this);
         Check();
@@ -73,15 +62,6 @@ protected:
     }
 
 private:
-    const Deed& NextDeed()
-    {
-        const int all = std::accumulate(
-            m_deeds.begin(), m_deeds.end(), 0, [](int sum, const Deed& deed) { return sum + deed.weight; });
-        int left = dice.Below(all);
-        return *std::find_if(
-            m_deeds.begin(), m_deeds.end(), [&](const Deed& deed) { return (left -= deed.weight) < 0; });
-    }
-
     // A group is stored completely or not at all; the code of a layer is stored after its other columns.
     void CheckRows(const Map& before, const Node& node)
     {
@@ -102,7 +82,7 @@ private:
         CheckPanel();
     }
 
-    std::vector<Deed> m_deeds = AllDeeds();
+    DeedChoice m_deeds;
 };
 
 TEST_P(RandomSession, LeavesInTheDatabaseWhatTheUserDid)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/CheckedColumns.h"
 
-#include "hosts/Errors.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/PatchingClient.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -78,25 +78,25 @@ TEST_F(LayerColumns, AnIntegerIsRoundedHalfToEven)
 TEST_F(LayerColumns, ATextInsteadOfANumberRaisesTypeMismatchAndNamesTheColumn)
 {
     const IRecordset& patched = RowWith("Priority", QStringLiteral("high"));
-    const auto error = ErrorOf([&] { NumberColumn(patched, "Priority"); });
+    const auto error = RaisedBy([&] { NumberColumn(patched, "Priority"); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), typeMismatchError);
     EXPECT_TRUE(error->Description().contains(QStringLiteral("Priority")));
-    EXPECT_EQ(ErrorNumberOf([&] { FlagColumn(patched, "Priority"); }), typeMismatchError);
-    EXPECT_EQ(ErrorNumberOf([&] { Int32Column(patched, "Priority"); }), typeMismatchError);
-    EXPECT_EQ(ErrorNumberOf([&] { IntegerColumn(patched, "Priority"); }), typeMismatchError);
+    EXPECT_EQ(ErrorOf([&] { FlagColumn(patched, "Priority"); }), typeMismatchError);
+    EXPECT_EQ(ErrorOf([&] { Int32Column(patched, "Priority"); }), typeMismatchError);
+    EXPECT_EQ(ErrorOf([&] { IntegerColumn(patched, "Priority"); }), typeMismatchError);
 }
 
 TEST_F(LayerColumns, AKeyThatIsNullRaisesTypeMismatch)
 {
     const IRecordset& patched = RowWith("LayerID", Value::Null());
-    EXPECT_EQ(ErrorNumberOf([&] { IntegerColumn(patched, "LayerID"); }), typeMismatchError);
+    EXPECT_EQ(ErrorOf([&] { IntegerColumn(patched, "LayerID"); }), typeMismatchError);
 }
 
 TEST_F(LayerColumns, ANumberBeyond32BitsRaisesOverflow)
 {
     const IRecordset& patched = RowWith("Color", 4294967296.0);
-    EXPECT_EQ(ErrorNumberOf([&] { Int32Column(patched, "Color"); }), overflowError);
+    EXPECT_EQ(ErrorOf([&] { Int32Column(patched, "Color"); }), overflowError);
 }
 
 TEST_F(LayerColumns, TheQuickModeComesFromTheOverrideMode)
@@ -104,14 +104,14 @@ TEST_F(LayerColumns, TheQuickModeComesFromTheOverrideMode)
     EXPECT_EQ(QuickModeColumn(RowWith("OverrideMode", qint32(2))), 4);
     EXPECT_EQ(QuickModeColumn(RowWith("OverrideMode", Value::Null())), 1);
     const IRecordset& patched = RowWith("OverrideMode", QStringLiteral("hidden"));
-    EXPECT_EQ(ErrorNumberOf([&] { QuickModeColumn(patched); }), typeMismatchError);
+    EXPECT_EQ(ErrorOf([&] { QuickModeColumn(patched); }), typeMismatchError);
 }
 
 TEST_F(LayerColumns, TheDatabasesOwnErrorIsPassedOnUnchanged)
 {
     const IRecordset& plain = RowWith("Priority", qint32(1));
-    const auto own = ErrorOf([&] { plain.Field("NoSuchColumn"); });
-    const auto passedOn = ErrorOf([&] { NumberColumn(plain, "NoSuchColumn"); });
+    const auto own = RaisedBy([&] { plain.Field("NoSuchColumn"); });
+    const auto passedOn = RaisedBy([&] { NumberColumn(plain, "NoSuchColumn"); });
     ASSERT_TRUE(own && passedOn);
     EXPECT_EQ(passedOn->Number(), own->Number());
     EXPECT_EQ(passedOn->Description(), own->Description());

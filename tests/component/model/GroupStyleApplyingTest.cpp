@@ -2,10 +2,10 @@
 #include "component/model/ApplyingVocabulary.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleApplying.h"
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -109,7 +109,7 @@ protected:
     {
         FailingClient client(host, {member, call, RunTimeError(10042, "disk full", "store")});
         const LayerStyle style = StyleWith({{Slot::Visible, false}});
-        return ErrorOf([&] { ApplyGroupStyle(client, 3, {style, 4, NoSelectedStyle}); });
+        return RaisedBy([&] { ApplyGroupStyle(client, 3, {style, 4, NoSelectedStyle}); });
     }
 
     void ExpectAllAsBefore()

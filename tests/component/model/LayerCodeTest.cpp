@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerCode.h"
 
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ TEST(LeadingNumber, NeverReadsTheCommaAsSeparator)
 
 TEST(LeadingNumber, RaisesOverflowBeyondADouble)
 {
-    EXPECT_EQ(ErrorNumberOf([] { LeadingNumber("1e999"); }), overflowError);
+    EXPECT_EQ(ErrorOf([] { LeadingNumber("1e999"); }), overflowError);
 }
 
 TEST(SetLayerCode, StoresTheNumberAsADouble)
@@ -96,7 +96,7 @@ TEST(SetLayerCode, PassesADatabaseErrorOnAndStoresNothing)
     MemoryHost host;
     host.AddLayer({.id = 17, .code = 3});
     FailingClient client(host, {"Update", 1, RunTimeError(ErrorNumber::DatabaseLocked, "locked", "store")});
-    const auto error = ErrorOf([&] { SetLayerCode(client, 17, QStringLiteral("12")); });
+    const auto error = RaisedBy([&] { SetLayerCode(client, 17, QStringLiteral("12")); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), int(ErrorNumber::DatabaseLocked));
     EXPECT_EQ(error->Description(), "locked");

@@ -3,11 +3,11 @@
 
 #include "component/model/ApplyingVocabulary.h"
 #include "component/model/LayerStyleLoading.h"
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/PatchingClient.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 
@@ -214,7 +214,7 @@ TEST_F(ApplyLayerStyleTo, AMaximumScaleBeyond32BitsRaisesOverflowAndStoresNothin
     host.AddLayer({.id = 17, .visible = true, .maxVisScale = 7000.0});
     OneScaleClient client(host, 1e12);
     const LayerStyle style = StyleWith({{Slot::Visible, false}, {Slot::MaxVisScale, qint32(3)}});
-    const int number = ErrorNumberOf([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
+    const int number = ErrorOf([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
     EXPECT_EQ(number, overflowError);
     EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(true));
     EXPECT_THAT(host.Log().CallsTo("LayerChanged"), IsEmpty());
@@ -263,7 +263,7 @@ TEST_F(ApplyLayerStyleTo, ATextOrNothingInASlotRaisesTypeMismatchAndStoresNothin
         for (const Value& bad : {Value(QStringLiteral("red")), Value()}) {
             const LayerStyle style = StyleWith({{Slot::Visible, false}, {slot, bad}});
             const auto list = [&] { return bad; };
-            const int number = ErrorNumberOf([&] { ApplyLayerStyle(host, 17, {style, 0, list}); });
+            const int number = ErrorOf([&] { ApplyLayerStyle(host, 17, {style, 0, list}); });
             EXPECT_EQ(number, typeMismatchError) << slot;
         }
     }
@@ -275,7 +275,7 @@ TEST_F(ApplyLayerStyleTo, NothingIsStoredWhenTheHostRefusesTheChange)
     host.AddLayer({.id = 17, .visible = true});
     FailingClient client(host, {"LayerChanged", 1, RunTimeError(10009, "frozen", "host")});
     const LayerStyle style = StyleWith({{Slot::Visible, false}});
-    const auto error = ErrorOf([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
+    const auto error = RaisedBy([&] { ApplyLayerStyle(client, 17, {style, 0, NoSelectedStyle}); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), 10009);
     EXPECT_EQ(error->Source(), "host");

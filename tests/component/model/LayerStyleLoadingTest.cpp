@@ -2,11 +2,11 @@
 #include "component/model/LayerStyleLoading.h"
 
 #include "component/model/LayerStyle.h"
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/PatchingClient.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -314,7 +314,7 @@ TEST_F(LoadGroupStyleFrom, AnErrorIsPassedOnUnchangedAfterARollback)
     FailingClient client(host, {"Field", 5, RunTimeError(10007, "unreadable", "disk")});
     LayerStyle style;
     style.lsSet(Slot::Name, QStringLiteral("before"));
-    const auto error = ErrorOf([&] { LoadGroupStyle(client, 3, style); });
+    const auto error = RaisedBy([&] { LoadGroupStyle(client, 3, style); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), 10007);
     EXPECT_EQ(error->Description(), "unreadable");

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerStyle.h"
 
-#include "hosts/Errors.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -171,10 +171,10 @@ TEST(LayerStyle, AnIndexOutsideRaisesTheSubscriptErrorInEveryMember)
 {
     LayerStyle style;
     for (const qint16 index : {qint16(19), qint16(-1), qint16(32767), qint16(-32768)}) {
-        EXPECT_EQ(ErrorNumberOf([&] { style.lsGet(index); }), subscriptError) << index;
-        EXPECT_EQ(ErrorNumberOf([&] { style.lsIsNull(index); }), subscriptError) << index;
-        EXPECT_EQ(ErrorNumberOf([&] { style.Compare(index, qint32(1)); }), subscriptError) << index;
-        EXPECT_EQ(ErrorNumberOf([&] { style.lsSet(index, qint32(1)); }), subscriptError) << index;
+        EXPECT_EQ(ErrorOf([&] { style.lsGet(index); }), subscriptError) << index;
+        EXPECT_EQ(ErrorOf([&] { style.lsIsNull(index); }), subscriptError) << index;
+        EXPECT_EQ(ErrorOf([&] { style.Compare(index, qint32(1)); }), subscriptError) << index;
+        EXPECT_EQ(ErrorOf([&] { style.lsSet(index, qint32(1)); }), subscriptError) << index;
     }
 }
 

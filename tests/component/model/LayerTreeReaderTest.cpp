@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "component/model/LayerTreeReaderFixture.h"
-#include "hosts/Errors.h"
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/PatchingClient.h"
 #include "hosts/ValueMatchers.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -175,7 +175,7 @@ TEST_F(GroupsTree, AnErrorOfTheHostIsPassedOnUnchanged)
     AddLayers({{1, "a"}, {2, "b"}});
     host.AddGroup({.id = 10, .members = {1, 2}});
     FailingClient client(host, {"LayerDisplayName", 2, RunTimeError(10003, "gone", "host")});
-    const auto error = ErrorOf([&] { LoadLayerTree(client, std::nullopt, texts); });
+    const auto error = RaisedBy([&] { LoadLayerTree(client, std::nullopt, texts); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Number(), 10003);
     EXPECT_EQ(error->Source(), "host");

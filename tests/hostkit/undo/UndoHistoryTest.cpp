@@ -119,6 +119,36 @@ TEST_F(History, TheHundredAndFirstStepPushesOutTheFirst)
     EXPECT_EQ(m_diary.lines.last(), QStringLiteral("undo 2"));
 }
 
+// A step that remembers much.
+class LargeStep : public DiaryStep
+{
+public:
+    LargeStep(Diary& diary, const QString& name, qsizetype bytes) : DiaryStep(diary, name), m_bytes(bytes) { }
+    qsizetype KeptBytes() const override { return m_bytes; }
+
+private:
+    qsizetype m_bytes;
+};
+
+TEST_F(History, StepsThatNeedTooMuchMemoryPushOutTheOldest)
+{
+    for (const char* name : {"a", "b", "c"})
+        m_history.Add(
+            std::make_unique<LargeStep>(m_diary, QLatin1String(name), UndoHistory::MaxBytes * 2 / 5));
+    while (m_history.CanUndo())
+        m_history.Undo();
+    EXPECT_THAT(m_diary.lines, ElementsAre(QStringLiteral("undo c"), QStringLiteral("undo b")));
+}
+
+TEST_F(History, TheLatestStepIsKeptHoweverLargeItIs)
+{
+    Do(QStringLiteral("a"));
+    m_history.Add(std::make_unique<LargeStep>(m_diary, QStringLiteral("b"), UndoHistory::MaxBytes + 1));
+    EXPECT_EQ(m_history.UndoText(), QStringLiteral("Undo b"));
+    m_history.Undo();
+    EXPECT_FALSE(m_history.CanUndo());
+}
+
 TEST_F(History, TellsEachChangeOnce)
 {
     QSignalSpy changed(&m_history, &UndoHistory::Changed);

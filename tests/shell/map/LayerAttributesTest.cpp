@@ -102,6 +102,16 @@ TEST_F(LayerAttributesTest, FeaturesReadAnewNeedTheirAttributesAgain)
     EXPECT_FALSE(m_layers[0].labels);
 }
 
+TEST_F(LayerAttributesTest, FeaturesThatWereReplacedAreNotKeptByAPlainStyle)
+{
+    ReadAll();
+    const std::weak_ptr<const FeatureSet> before = m_layers[0].features;
+    m_layers[0].values.style = 0;
+    m_layers[0].features = Area(0, 0, 2, 2);
+    m_attributes.Fit(m_layers[0], m_services);
+    EXPECT_TRUE(before.expired());
+}
+
 TEST_F(LayerAttributesTest, APlainStyleLeavesThemAside)
 {
     ReadAll();

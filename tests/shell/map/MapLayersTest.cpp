@@ -161,6 +161,18 @@ TEST_F(MapLayersTest, FeaturesStayThroughEveryReading)
     EXPECT_EQ(First().features, contents.features[1]);
 }
 
+TEST_F(MapLayersTest, FeaturesOfALayerThatIsGoneAreNotKept)
+{
+    SourceContents contents;
+    contents.features[1] = Area(0, 0, 1, 1);
+    const std::weak_ptr<const FeatureSet> features = contents.features[1];
+    m_layers.TakeFeatures(std::exchange(contents, {}));
+    m_document->Database().Execute("DELETE FROM Layers WHERE LayerID = 1");
+    m_layers.DropFeaturesOfOtherData();
+    m_layers.ReadAll();
+    EXPECT_TRUE(features.expired());
+}
+
 TEST_F(MapLayersTest, OnlyLayersWithoutFeaturesAreMissing)
 {
     EXPECT_EQ(m_layers.MissingSources().size(), 2u);

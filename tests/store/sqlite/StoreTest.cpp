@@ -109,24 +109,4 @@ std::vector<qint32> StoreTest::Column(SqliteLayerDatabase& database, const QStri
     return numbers;
 }
 
-int ErrorOf(const std::function<void()>& act)
-{
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-QString DescriptionOf(const std::function<void()>& act)
-{
-    try {
-        act();
-    } catch (const RunTimeError& error) {
-        return error.Description();
-    }
-    return {};
-}
-
 } // namespace Orvane::Testing

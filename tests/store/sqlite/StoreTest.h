@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/Errors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -65,10 +66,5 @@ protected:
 private:
     QTemporaryDir m_directory;
 };
-
-/// The number of the RunTimeError that the act raises, 0 when it raises none.
-int ErrorOf(const std::function<void()>& act);
-/// The description of that RunTimeError.
-QString DescriptionOf(const std::function<void()>& act);
 
 } // namespace Orvane::Testing

@@ -31,11 +31,9 @@ const DivisorFilter* ChooseFilter(SessionFixture& session)
     static const std::array filters{DivisorFilter(2), DivisorFilter(3)};
     const int choice = session.dice.Below(4);
     const DivisorFilter* filter = choice < 2 ? &filters[size_t(choice)] : nullptr;
-    session.dialog.filteredOut.clear();
-    for (qint32 layerID = 1; layerID < 200; ++layerID) {
-        if (filter && filter->Hides(layerID))
-            session.dialog.filteredOut.insert(layerID);
-    }
+    session.dialog.isFilteredOut = nullptr;
+    if (filter)
+        session.dialog.isFilteredOut = [filter](qint32 layerID) { return filter->Hides(layerID); };
     return filter;
 }
 

@@ -94,11 +94,13 @@ void ExpandOrCollapseAll(SessionFixture& session)
     QTreeView& tree = session.Tree(Groups);
     if (session.dialog.tab != 1)
         return;
+    session.Settle(); // the activation of a window that has just opened would close the menu
     QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, tree.mapToGlobal(tree.rect().center()));
     QApplication::sendEvent(&tree, &event);
     session.Settle();
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_TRUE(menu);
+    QWidget* popup = QApplication::activePopupWidget();
+    auto* menu = qobject_cast<QMenu*>(popup);
+    ASSERT_TRUE(menu) << (popup ? popup->metaObject()->className() : "nothing popped up");
     const bool expands = session.dice.Chance(50);
     menu->setActiveAction(menu->actions().at(expands ? 2 : 3));
     QTest::keyClick(menu, Qt::Key_Return);

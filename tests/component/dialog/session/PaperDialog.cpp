@@ -48,7 +48,7 @@ std::vector<Branch> Dialog::ReadLayers() const
 {
     Branch all;
     for (const auto& [layerID, layer] : m_map.layers) {
-        if (!IsHidden(layerID) && !filteredOut.count(layerID))
+        if (!IsHidden(layerID) && !(isFilteredOut && isFilteredOut(layerID)))
             all.entries.push_back(EntryOf(layerID));
     }
     return all.entries.empty() ? std::vector<Branch>() : std::vector{all};
@@ -157,7 +157,7 @@ void Dialog::Apply()
     }
     const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
     ++redraws;
-    if (written == 0 && panel.hasLayers) {
+    if (written == 0 && (panel.hasLayers || !node->isGroup)) {
         const QString kind = node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
         m_boxes.append(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
                            .arg(kind, list.TextOf(*node)));
@@ -185,8 +185,12 @@ void Dialog::ShowTab(int wanted, Answer answer)
     if (wanted != 3) {
         shownList = wantedList;
         EnsureLoaded(wantedList, answer);
+        Load();
+        return;
     }
-    Load();
+    panel.mode = panel.loadedMode; // nothing is read
+    panel.code = panel.storedCode ? QString::number(*panel.storedCode) : QString();
+    panel.isCodeMarked = false;
 }
 
 void Dialog::ClickShownTab(Answer answer)
@@ -251,7 +255,7 @@ void Dialog::Open(int storedTab)
     lists = {};
     panel = {};
     isModified = false;
-    filteredOut.clear();
+    isFilteredOut = nullptr;
     shownList = Groups;
     ShowTab(storedTab, Answer::No);
 }

@@ -52,7 +52,7 @@ public:
     Panel panel;
     bool isModified = false;
     int redraws = 0; ///< since the start
-    std::set<qint32> filteredOut;
+    std::function<bool(qint32 layerID)> isFilteredOut; ///< empty without a filter
 
     /// The current node of the shown list, if it is listed.
     std::optional<Node> CurrentNode() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Dice.h"
+
 #include <functional>
 #include <vector>
 
@@ -27,5 +29,18 @@ std::vector<Deed> HostDeeds();
 std::vector<Deed> EndingDeeds();
 /// Changes to the database by another program meanwhile.
 std::vector<Deed> StrangerDeeds();
+
+/// Chooses one of all operations at random, the more probable the greater its weight.
+class DeedChoice
+{
+public:
+    DeedChoice();
+
+    const Deed& Next(Dice& dice) const;
+
+private:
+    std::vector<Deed> m_deeds;
+    int m_weight = 0; // of all
+};
 
 } // namespace Orvane::Testing

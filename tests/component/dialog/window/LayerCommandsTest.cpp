@@ -55,6 +55,26 @@ TEST_F(Commands, DeleteRemovesTheLayer)
     EXPECT_FALSE(Find("chkVisible").isVisible() && TextOf("lblCode") == "11");
 }
 
+TEST_F(Commands, ACodeThatWasRefusedIsNotShownOnTheSchemesTab)
+{
+    host.promptAnswers = {{true, "77"}};
+    DoubleClickCode();
+    const MessageBoxRobot user{BoxKey::No};
+    ClickTab(3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextOf("lblCode"), "11");
+    EXPECT_FALSE(IsUnderlined("lblCode"));
+}
+
+TEST_F(Commands, AModeThatWasRefusedIsNotShownOnTheSchemesTab)
+{
+    Click("Hidden");
+    const MessageBoxRobot user{BoxKey::No};
+    ClickTab(3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(PressedModes(), 1);
+}
+
 TEST_F(Commands, DeletingForgetsTheEditsOfTheLayer)
 {
     Click("chkVisible");
