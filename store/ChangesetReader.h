@@ -26,6 +26,8 @@ public:
 
     /// Goes to the next row; false past the last one.
     bool Next();
+    /// How much has been read, from 0 to 1.
+    double Done() const;
     const ChangedRow& Row() const { return m_row; }
     const ChangedTable& Table() const { return m_tables[m_row.table]; }
     const std::vector<ChangedTable>& Tables() const { return m_tables; }

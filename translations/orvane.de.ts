@@ -364,6 +364,10 @@
         <translation>Layer aus &amp;Kartendaten</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>Ein längerer Vorgang für „^1“ ist noch nicht beendet. Warten Sie, bis er beendet ist, oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
@@ -1398,6 +1402,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The map was written to %1</source>
         <translation>Die Karte wurde nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>Der Vorgang für „^1“ wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -364,6 +364,10 @@
         <translation>Une couche de &amp;données cartographiques</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>Une longue opération sur « ^1 » n’est pas encore terminée. Attendez qu’elle le soit, ou annulez-la.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
@@ -1398,6 +1402,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The map was written to %1</source>
         <translation>La carte a été écrite dans %1</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>L’opération sur « ^1 » a été annulée.</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -364,6 +364,10 @@
         <translation>地図データのレイヤ(&amp;D)</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>「^1」の長い操作がまだ終わっていません。終わるまで待つか、キャンセルしてください。</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
     </message>
@@ -1398,6 +1402,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The map was written to %1</source>
         <translation>地図を %1 に書き出しました</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>「^1」の操作はキャンセルされました。</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/engine/SqliteConnection.h"
 
+#include "store/StoreTexts.h"
 #include "store/sqlite/engine/RegularFiles.h"
+
+#include <OrvaneShellLib/Cancellation.h>
 
 #include <QFileInfo>
 #include <QUrl>
@@ -95,6 +98,7 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
     if (result != SQLITE_OK)
         Raise(result);
     m_patience.Attach(handle);
+    m_watch.Attach(handle);
     Harden(handle);
     Limit(handle);
     Run("PRAGMA cell_size_check = ON");
@@ -122,8 +126,15 @@ bool SqliteConnection::IsAutoCommit() const
     return sqlite3_get_autocommit(Handle()) != 0;
 }
 
+void SqliteConnection::RequireUsable() const
+{
+    if (m_watch.IsAsking())
+        throw m_errors.Failure(StoreTexts::Working);
+}
+
 void SqliteConnection::Run(const QByteArray& sql)
 {
+    RequireUsable();
     const int result = sqlite3_exec(Handle(), sql.constData(), nullptr, nullptr, nullptr);
     if (result != SQLITE_OK)
         Raise(result);
@@ -131,6 +142,7 @@ void SqliteConnection::Run(const QByteArray& sql)
 
 QString SqliteConnection::Text(const QByteArray& sql)
 {
+    RequireUsable();
     QString text;
     const auto keepFirst = [](void* target, int, char** values, char**) {
         auto& result = *static_cast<QString*>(target);
@@ -144,10 +156,17 @@ QString SqliteConnection::Text(const QByteArray& sql)
     return text;
 }
 
+RunTimeError SqliteConnection::ErrorOf(int resultCode) const
+{
+    if ((resultCode & 0xFF) == SQLITE_INTERRUPT && m_watch.IsCancelled())
+        return m_errors.Error(UserCancelled, StoreTexts::Cancelled);
+    const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
+    return m_errors.FromSqlite(resultCode, message);
+}
+
 void SqliteConnection::Raise(int resultCode) const
 {
-    const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
-    throw m_errors.FromSqlite(resultCode, message);
+    throw ErrorOf(resultCode);
 }
 
 void SqliteConnection::SetQueryListener(std::function<void(const QString&)> listener)

@@ -15,6 +15,7 @@ namespace {
 
 sqlite3_stmt* Prepared(SqliteConnection& connection, const QByteArray& sql)
 {
+    connection.RequireUsable();
     sqlite3_stmt* statement = nullptr;
     const char* rest = nullptr;
     const int result = sqlite3_prepare_v3(
@@ -123,14 +124,14 @@ bool SqliteStatement::Step()
         return true;
     if (result == SQLITE_DONE)
         return false;
-    const RunTimeError error
-        = m_connection.Errors().FromSqlite(result, sqlite3_errmsg(m_connection.Handle()));
+    const RunTimeError error = m_connection.ErrorOf(result);
     Reset();
     throw error;
 }
 
 int SqliteStatement::TryStep()
 {
+    m_connection.RequireUsable();
     return sqlite3_step(m_statement.get());
 }
 

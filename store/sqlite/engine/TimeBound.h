@@ -19,10 +19,7 @@ public:
     TimeBound& operator=(const TimeBound&) = delete;
 
 private:
-    static int IsOver(void* bound);
-
     SqliteConnection& m_connection;
-    std::chrono::steady_clock::time_point m_end;
 };
 
 } // namespace Orvane
