@@ -634,6 +634,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Schema exportieren</translation>
     </message>
     <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>Export des Schemas „%1“</translation>
+    </message>
+    <message>
         <source>Extent of the &amp;window, fitted to the page</source>
         <translation>Ausschnitt des &amp;Fensters, an die Seite angepasst</translation>
     </message>
@@ -1154,6 +1158,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>S&amp;witch to It</source>
         <translation>&amp;Dorthin wechseln</translation>
+    </message>
+    <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>Speichern der Schemas für neue Karten</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>

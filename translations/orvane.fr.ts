@@ -634,6 +634,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Exporter le schéma</translation>
     </message>
     <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>Exportation du schéma « %1 »</translation>
+    </message>
+    <message>
         <source>Extent of the &amp;window, fitted to the page</source>
         <translation>Étendue de la &amp;fenêtre, ajustée à la page</translation>
     </message>
@@ -1154,6 +1158,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>S&amp;witch to It</source>
         <translation>&amp;Passer à ce schéma</translation>
+    </message>
+    <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>

@@ -634,6 +634,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>スキームを書き出し</translation>
     </message>
     <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の書き出し</translation>
+    </message>
+    <message>
         <source>Extent of the &amp;window, fitted to the page</source>
         <translation>ウィンドウの表示範囲をページに合わせる(&amp;W)</translation>
     </message>
@@ -1154,6 +1158,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>S&amp;witch to It</source>
         <translation>このスキームに切り替え(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>新しい地図用のスキームの保存</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>

@@ -46,6 +46,22 @@ public:
     QString name; ///< without leading or trailing blanks, and not empty
     std::vector<Layer> layers;
 
+    /// Writes the JSON text of a scheme piece by piece: the beginning with its name, each layer, the end.
+    class Writer
+    {
+    public:
+        explicit Writer(QIODevice& text) : m_text(text) { }
+
+        void Begin(const QString& scheme);
+        /// Raises as ToJson does.
+        void Add(const Layer& layer);
+        void End();
+
+    private:
+        QIODevice& m_text;
+        const char* m_separator = "\n";
+    };
+
     /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
     QByteArray ToJson() const;
 

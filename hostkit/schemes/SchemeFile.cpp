@@ -75,16 +75,24 @@ SchemeDocument Read(const QString& path)
     RaiseUnreadable(path, FileTexts::tr("It is too large."));
 }
 
-void Write(const QString& path, const SchemeDocument& scheme)
+void Make(const QString& path, const Writer& write)
 {
-    const QByteArray content = scheme.ToJson();
     FileReplacement file(path);
-    if (file.Begin() && file.write(content) == content.size() && file.Commit())
-        return;
+    if (file.Begin()) {
+        write(file);
+        if (file.Commit())
+            return;
+    }
     Raise(
         HostError::SchemeFileUnwritable,
         FileTexts::tr("The scheme file \"%1\" cannot be written: %2.")
             .arg(QFileInfo(path).fileName(), file.Reason()));
+}
+
+void Write(const QString& path, const SchemeDocument& scheme)
+{
+    const QByteArray content = scheme.ToJson();
+    Make(path, [&](QIODevice& text) { text.write(content); });
 }
 
 } // namespace Orvane::SchemeFile
