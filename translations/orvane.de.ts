@@ -1260,6 +1260,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Schema wechseln</translation>
     </message>
     <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>Die Änderungen können nicht zum Rückgängigmachen im Ordner „^1“ aufbewahrt werden: ^2.</translation>
+    </message>
+    <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
         <translation>Die Änderungen an „^1“ wurden nach einem Fehler zurückgenommen; beginnen Sie erneut.</translation>
     </message>

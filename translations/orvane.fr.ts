@@ -1260,6 +1260,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Changer de schéma</translation>
     </message>
     <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>Les modifications ne peuvent pas être conservées pour l’annulation dans le dossier « ^1 » : ^2.</translation>
+    </message>
+    <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
         <translation>Les modifications de « ^1 » ont été annulées après une erreur ; recommencez-les.</translation>
     </message>

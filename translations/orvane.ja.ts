@@ -1260,6 +1260,10 @@ These commands run without a window; each has its own --help:
         <translation>スキームの切り替え</translation>
     </message>
     <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>元に戻すための変更内容をフォルダー「^1」に保存できません: ^2。</translation>
+    </message>
+    <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
         <translation>エラーのため「^1」への変更は元に戻されました。もう一度やり直してください。</translation>
     </message>
