@@ -133,6 +133,12 @@ void StandardClient::ExportScheme(const QString& name, const QString& path)
     SchemeFile::Make(path, [&](QIODevice& text) { SchemeExchange::ExportTo(text, m_database, name); });
 }
 
+SchemeDocument StandardClient::ReadSchemeFile(const QString& path)
+{
+    const LongWork work(m_database, tr("Import Scheme"), m_parts->steps.Window());
+    return SchemeFile::Read(path, [this](double done) { m_database.AskWatcher(done); });
+}
+
 SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
 {
     return m_parts->schemes.Import(scheme);

@@ -202,7 +202,8 @@ SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
     return document;
 }
 
-std::optional<SchemeDocument> SchemeDocument::FromLines(QIODevice& text)
+std::optional<SchemeDocument>
+SchemeDocument::FromLines(QIODevice& text, const std::function<void(double done)>& told)
 {
     const QByteArray first = text.readLine(LongestLine).trimmed();
     if (!first.endsWith(BeginOfLayers))
@@ -217,6 +218,8 @@ std::optional<SchemeDocument> SchemeDocument::FromLines(QIODevice& text)
             line.chop(1);
         document.layers.push_back(ToLayer(Parsed(line, start), int(document.layers.size())));
         start = text.pos();
+        if (told)
+            told(double(start) / double(text.size()));
     }
     if (!text.readAll().trimmed().isEmpty())
         RaiseNoJson(text.size());

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -72,7 +73,10 @@ public:
     /// Reads a text that has one line per layer, as ToJson writes it, without holding all of it in memory.
     /// Returns nothing for any other text, of which the beginning has then been read. Raises as FromJson
     /// does, and SchemeTextDamaged for a line of more than LongestLine.
-    static std::optional<SchemeDocument> FromLines(QIODevice& text);
+    ///
+    /// told: called after each line with the part that was read, from 0 to 1; what it raises is passed on.
+    static std::optional<SchemeDocument>
+    FromLines(QIODevice& text, const std::function<void(double done)>& told = {});
     static constexpr qint64 LongestLine = qint64(1024) * 1024; // bytes
 };
 

@@ -4,6 +4,7 @@
 #include "files/FileReplacement.h"
 #include "hostkit/common/HostErrors.h"
 
+#include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
@@ -59,17 +60,24 @@ QByteArray ContentOf(QFile& file, const QString& path)
 
 } // namespace
 
-SchemeDocument Read(const QString& path)
+SchemeDocument Read(const QString& path, const std::function<void(double done)>& told)
 {
     QFile file(path);
     Open(file, path);
     SkipByteOrderMark(file);
     try {
-        if (file.size() <= LargestFile)
+        if (file.size() > SmallFile) {
+            if (std::optional<SchemeDocument> document = SchemeDocument::FromLines(file, told))
+                return *std::move(document);
+        }
+        if (file.size() <= LargestFile) {
+            file.seek(0);
+            SkipByteOrderMark(file);
             return SchemeDocument::FromJson(ContentOf(file, path));
-        if (std::optional<SchemeDocument> document = SchemeDocument::FromLines(file))
-            return *std::move(document);
+        }
     } catch (const RunTimeError& error) {
+        if (IsCancellation(error))
+            throw;
         RaiseUnreadable(path, error.Description());
     }
     RaiseUnreadable(path, FileTexts::tr("It is too large."));
