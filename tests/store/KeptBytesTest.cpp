@@ -2,6 +2,7 @@
 #include "store/KeptBytes.h"
 
 #include "store/sqlite/StoreTest.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 
@@ -15,16 +16,9 @@ constexpr qsizetype Large = 4 * KeptBytes::Small;
 class KeptBytesTest : public StoreTest
 {
 protected:
-    ~KeptBytesTest() override
-    {
-        KeptBytes::SetMost(KeptBytes::UsualMost);
-        qputenv("TMPDIR", m_folder);
-    }
+    ~KeptBytesTest() override { KeptBytes::SetMost(KeptBytes::UsualMost); }
 
     static void AllowInMemory(qsizetype bytes) { KeptBytes::SetMost(KeptBytes::AllInMemory() + bytes); }
-
-private:
-    QByteArray m_folder = qgetenv("TMPDIR");
 };
 
 TEST_F(KeptBytesTest, OfNothingAreEmpty)
@@ -75,11 +69,10 @@ TEST_F(KeptBytesTest, AreSharedByCopies)
 TEST_F(KeptBytesTest, RaiseWhenThereIsNoRoomForThem)
 {
     AllowInMemory(0);
-    const QString missing = PathOf(QStringLiteral("missing"));
-    qputenv("TMPDIR", missing.toUtf8());
+    const FileSizeLimit noRoom(0);
     const auto keep = [] { KeptBytes(QByteArray(Large, 'a')); };
     EXPECT_EQ(ErrorOf(keep), int(ErrorNumber::DatabaseFailure));
-    EXPECT_TRUE(DescriptionOf(keep).contains(QDir::toNativeSeparators(missing)));
+    EXPECT_TRUE(DescriptionOf(keep).contains(QDir::toNativeSeparators(QDir::tempPath())));
     EXPECT_NO_THROW(KeptBytes(QByteArray(KeptBytes::Small, 'a')));
 }
 
