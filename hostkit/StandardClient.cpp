@@ -15,12 +15,14 @@
 #include "hostkit/undo/SchemeSteps.h"
 #include "hostkit/windows/ConflictBox.h"
 #include "hostkit/windows/EditorWindows.h"
+#include "hostkit/windows/LongWork.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "messages/NameInText.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QApplication>
 #include <QTimer>
@@ -124,7 +126,17 @@ qsizetype StandardClient::UnsavedSchemeChanges()
 
 void StandardClient::ExportScheme(const QString& name, const QString& path)
 {
-    SchemeFile::Write(path, SchemeExchange::Export(m_database, name));
+    m_parts->steps.EndEdits(); // before the work, which may be cancelled
+    const LongWork work(
+        m_database, tr("Export Scheme \"%1\"").arg(NameInStep(name)), m_parts->steps.Window());
+    const Transaction oneState(m_database);
+    SchemeFile::Make(path, [&](QIODevice& text) { SchemeExchange::ExportTo(text, m_database, name); });
+}
+
+SchemeDocument StandardClient::ReadSchemeFile(const QString& path)
+{
+    const LongWork work(m_database, tr("Import Scheme"), m_parts->steps.Window());
+    return SchemeFile::Read(path, [this](double done) { m_database.AskWatcher(done); });
 }
 
 SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
@@ -282,7 +294,11 @@ void StandardClient::IStyleEditorClient_SaveSchemesToStartup()
             int(HostError::NoStartupDatabase), tr("This program has no startup database."),
             QStringLiteral("StandardClient"));
     }
-    StartupSchemes::Save(m_database, m_parts->startupFile);
+    {
+        m_parts->steps.EndEdits();
+        const LongWork work(m_database, tr("Save Schemes for New Maps"), m_parts->steps.Window());
+        StartupSchemes::Save(m_database, m_parts->startupFile);
+    }
     emit m_parts->notifications.SchemesSavedToStartup();
 }
 

@@ -74,6 +74,9 @@ public:
     /// Writes the saved values of the scheme to a file, as described in SchemeFile.h. Raises
     /// HostError::UnknownScheme and SchemeFileUnwritable.
     void ExportScheme(const QString& name, const QString& path);
+    /// Reads a scheme file as SchemeFile::Read does, with progress and Cancel; raises its errors and
+    /// UserCancelled.
+    SchemeDocument ReadSchemeFile(const QString& path);
     /// Stores the scheme in the map in one transaction, replacing an existing scheme of that name, and
     /// reports what did not match. The layers and the current scheme stay as they are.
     SchemeImport ImportScheme(const SchemeDocument& scheme);

@@ -37,6 +37,8 @@ class ChangeBytes
 public:
     explicit ChangeBytes(std::string_view bytes) : m_rest(bytes) { }
 
+    /// How many bytes are left to read.
+    size_t Left() const { return m_rest.size(); }
     bool AtEnd() const { return m_rest.empty(); }
     quint64 Count();
     /// The bytes of the next value.

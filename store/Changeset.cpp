@@ -62,28 +62,28 @@ Changeset::Changeset(const std::vector<ChangedTable>& tables, std::string_view r
     std::string bytes;
     ChangedRows::Append(bytes, tables);
     bytes += rows;
-    m_kept = QByteArray(bytes.data(), qsizetype(bytes.size()));
-    m_compressed = m_kept.size() >= Large;
-    if (m_compressed)
-        m_kept = qCompress(m_kept, FastCompression);
+    m_compressed = qsizetype(bytes.size()) >= Large;
+    const QByteArray all = QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size()));
+    m_kept
+        = KeptBytes(m_compressed ? qCompress(all, FastCompression) : QByteArray(all.constData(), all.size()));
 }
 
 QByteArray Changeset::Bytes() const
 {
-    return m_compressed ? qUncompress(m_kept) : m_kept;
+    return m_compressed ? qUncompress(m_kept.Read()) : m_kept.Read();
 }
 
 // From back to front, because the last change must be undone first.
 Changeset Changeset::Inverted() const
 {
     ChangesetReader reader(*this);
-    std::vector<std::string> inverses;
-    while (reader.Next())
-        inverses.push_back(Inverse(reader.Row()));
-    std::reverse(inverses.begin(), inverses.end());
-    std::string rows;
-    for (const std::string& inverse : inverses)
-        rows += inverse;
+    std::string rows(reader.BytesLeft(), '\0'); // an inverse is as long as its row
+    size_t place = rows.size();
+    while (reader.Next()) {
+        const std::string inverse = Inverse(reader.Row());
+        place -= inverse.size();
+        rows.replace(place, inverse.size(), inverse);
+    }
     return Changeset(reader.Tables(), rows);
 }
 

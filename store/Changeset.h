@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/ChangedRow.h"
+#include "store/KeptBytes.h"
 
 #include <QByteArray>
 #include <QtGlobal>
@@ -28,10 +29,11 @@ class Changeset
 public:
     /// An empty changeset.
     Changeset() = default;
-    /// rows: as ChangesetReader returns them, at most one for each key. Large ones are kept compressed.
+    /// rows: as ChangesetReader returns them, at most one for each key. Large ones are kept
+    /// compressed, as KeptBytes. Raises as that does.
     Changeset(const std::vector<ChangedTable>& tables, std::string_view rows);
 
-    bool IsEmpty() const { return m_kept.isEmpty(); }
+    bool IsEmpty() const { return m_kept.IsEmpty(); }
     /// The changeset that undoes this one.
     Changeset Inverted() const;
     /// This changeset and the next one combined.
@@ -41,11 +43,13 @@ public:
 
     /// The changes as bytes, for ChangesetReader.
     QByteArray Bytes() const;
+    /// How much is kept, in memory or in a file, in bytes.
+    qsizetype KeptSize() const { return m_kept.Size(); }
     /// How much memory it uses, in bytes.
-    qsizetype KeptBytes() const { return m_kept.size(); }
+    qsizetype BytesInMemory() const { return m_kept.InMemory(); }
 
 private:
-    QByteArray m_kept;
+    KeptBytes m_kept;
     bool m_compressed = false;
 };
 

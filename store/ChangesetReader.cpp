@@ -55,6 +55,11 @@ bool ChangesetReader::Next()
     return true;
 }
 
+double ChangesetReader::Done() const
+{
+    return m_kept.isEmpty() ? 1 : 1 - double(m_bytes.Left()) / double(m_kept.size());
+}
+
 void ChangedRows::Append(std::string& bytes, const std::vector<ChangedTable>& tables)
 {
     ChangeCoding::AppendCount(bytes, tables.size());

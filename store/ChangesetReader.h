@@ -26,6 +26,10 @@ public:
 
     /// Goes to the next row; false past the last one.
     bool Next();
+    /// The size of the rows that are left to read.
+    size_t BytesLeft() const { return m_bytes.Left(); }
+    /// How much has been read, from 0 to 1.
+    double Done() const;
     const ChangedRow& Row() const { return m_row; }
     const ChangedTable& Table() const { return m_tables[m_row.table]; }
     const std::vector<ChangedTable>& Tables() const { return m_tables; }

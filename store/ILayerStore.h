@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/StoreOptions.h"
+#include "store/StoreWatcher.h"
 
 #include <OrvaneShellLib/ILayerDatabase.h>
 #include <OrvaneShellLib/Value.h>
@@ -66,6 +67,14 @@ public:
     /// A number that differs from the one returned earlier if other connections have committed changes since
     /// then. Changes made through this object do not count.
     virtual qint64 ForeignChanges() = 0;
+
+    /// The watcher is called now and then while statements run, and by AskWatcher. When it returns false, the
+    /// running operation raises UserCancelled, as does everything else until the next call of SetWatcher;
+    /// commits and rollbacks are never ended. An empty function removes the watcher.
+    virtual void SetWatcher(StoreWatcher watcher) = 0;
+    /// Calls the watcher, for a loop of the caller that belongs to the watched operation. done: as in
+    /// StoreWatcher. Raises UserCancelled.
+    virtual void AskWatcher(double done = UnknownShare) = 0;
 
     /// True when rows cannot be changed.
     virtual bool IsReadOnly() const = 0;

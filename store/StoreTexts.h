@@ -84,6 +84,12 @@ inline constexpr const char* StillOpen = QT_TRANSLATE_NOOP(
     "map again.");
 inline constexpr const char* NothingToStore
     = QT_TRANSLATE_NOOP("LayerStore", "An empty value cannot be stored in \"^1\".");
+inline constexpr const char* Cancelled
+    = QT_TRANSLATE_NOOP("LayerStore", "The operation on \"^1\" was cancelled.");
+inline constexpr const char* Working = QT_TRANSLATE_NOOP(
+    "LayerStore", "A longer operation on \"^1\" is not finished yet. Wait until it is, or cancel it.");
+inline constexpr const char* ChangesNotKept
+    = QT_TRANSLATE_NOOP("LayerStore", "The changes cannot be kept for undoing in the folder \"^1\": ^2.");
 inline constexpr const char* ChangesNotRecorded = QT_TRANSLATE_NOOP(
     "LayerStore", "There was not enough memory to record the changes to \"^1\"; they cannot be undone.");
 

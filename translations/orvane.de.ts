@@ -380,6 +380,10 @@
         <translation>Eine Liste enthält die ID %1 zweimal.</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>Ein längerer Vorgang für „^1“ ist noch nicht beendet. Warten Sie, bis er beendet ist, oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
@@ -648,6 +652,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Export Scheme</source>
         <translation>Schema exportieren</translation>
+    </message>
+    <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>Export des Schemas „%1“</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -1188,6 +1196,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>&amp;Dorthin wechseln</translation>
     </message>
     <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>Speichern der Schemas für neue Karten</translation>
+    </message>
+    <message>
         <source>SVG drawing (*.svg)</source>
         <translation>SVG-Zeichnung (*.svg)</translation>
     </message>
@@ -1282,6 +1294,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Switch Scheme</source>
         <translation>Schema wechseln</translation>
+    </message>
+    <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>Die Änderungen können nicht zum Rückgängigmachen im Ordner „^1“ aufbewahrt werden: ^2.</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1438,6 +1454,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The map was written to %1</source>
         <translation>Die Karte wurde nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>Der Vorgang für „^1“ wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -380,6 +380,10 @@
         <translation>Une liste contient deux fois l’ID %1.</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>Une longue opération sur « ^1 » n’est pas encore terminée. Attendez qu’elle le soit, ou annulez-la.</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
@@ -648,6 +652,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Export Scheme</source>
         <translation>Exporter le schéma</translation>
+    </message>
+    <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>Exportation du schéma « %1 »</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -1188,6 +1196,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>&amp;Passer à ce schéma</translation>
     </message>
     <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
+    </message>
+    <message>
         <source>SVG drawing (*.svg)</source>
         <translation>Dessin SVG (*.svg)</translation>
     </message>
@@ -1282,6 +1294,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Switch Scheme</source>
         <translation>Changer de schéma</translation>
+    </message>
+    <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>Les modifications ne peuvent pas être conservées pour l’annulation dans le dossier « ^1 » : ^2.</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1438,6 +1454,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The map was written to %1</source>
         <translation>La carte a été écrite dans %1</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>L’opération sur « ^1 » a été annulée.</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -380,6 +380,10 @@
         <translation>一覧に ID %1 が二つあります。</translation>
     </message>
     <message>
+        <source>A longer operation on &quot;^1&quot; is not finished yet. Wait until it is, or cancel it.</source>
+        <translation>「^1」の長い操作がまだ終わっていません。終わるまで待つか、キャンセルしてください。</translation>
+    </message>
+    <message>
         <source>A picture of %1 by %2 pixels is too large.</source>
         <translation>%1 × %2 ピクセルの画像は大きすぎます。</translation>
     </message>
@@ -648,6 +652,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Export Scheme</source>
         <translation>スキームを書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の書き出し</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -1188,6 +1196,10 @@ These commands run without a window; each has its own --help:
         <translation>このスキームに切り替え(&amp;W)</translation>
     </message>
     <message>
+        <source>Save Schemes for New Maps</source>
+        <translation>新しい地図用のスキームの保存</translation>
+    </message>
+    <message>
         <source>SVG drawing (*.svg)</source>
         <translation>SVG 図形 (*.svg)</translation>
     </message>
@@ -1282,6 +1294,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Switch Scheme</source>
         <translation>スキームの切り替え</translation>
+    </message>
+    <message>
+        <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
+        <translation>元に戻すための変更内容をフォルダー「^1」に保存できません: ^2。</translation>
     </message>
     <message>
         <source>The changes to &quot;^1&quot; were undone after an error; begin them again.</source>
@@ -1438,6 +1454,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The map was written to %1</source>
         <translation>地図を %1 に書き出しました</translation>
+    </message>
+    <message>
+        <source>The operation on &quot;^1&quot; was cancelled.</source>
+        <translation>「^1」の操作はキャンセルされました。</translation>
     </message>
     <message>
         <source>The page cannot be painted.</source>

@@ -5,6 +5,8 @@
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
 
+#include <OrvaneShellLib/Cancellation.h>
+
 #include <QApplication>
 #include <QScopedValueRollback>
 
@@ -32,6 +34,8 @@ void Show(QWidget* owner, const QString& text)
 
 void ReportError(QWidget* owner, const std::exception& error) noexcept
 {
+    if (IsCancellation(error))
+        return;
     try {
         Show(owner, TextOf(error));
     } catch (...) { // no memory for a message: nothing more can be shown

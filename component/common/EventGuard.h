@@ -11,8 +11,8 @@
 namespace Orvane {
 
 /// Shows the user an error that reached an event handler: the translated description of a RunTimeError, a
-/// general text for anything else. While one error is shown, further errors are dropped; otherwise a handler
-/// that fails at each paint would block the user. Never raises.
+/// general text for anything else, nothing if the user cancelled. While one error is shown, further errors
+/// are dropped; otherwise a handler that fails at each paint would block the user. Never raises.
 void ReportError(QWidget* owner, const std::exception& error) noexcept;
 /// The same for an exception of unknown type.
 void ReportUnknownError(QWidget* owner) noexcept;

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QBuffer>
 #include <QIODevice>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -158,17 +159,35 @@ QByteArray NextLine(QIODevice& text)
 
 } // namespace
 
+void SchemeDocument::Writer::Begin(const QString& scheme)
+{
+    m_text.write(
+        QByteArrayLiteral("{\"format\": \"") + Format + QByteArrayLiteral("\", \"version\": ")
+        + QByteArray::number(Version) + QByteArrayLiteral(", \"name\": ") + Compact(scheme)
+        + QByteArrayLiteral(", \"layers\": ["));
+}
+
+void SchemeDocument::Writer::Add(const Layer& layer)
+{
+    m_text.write(m_separator + Compact(ToJsonObject(layer)));
+    m_separator = ",\n";
+}
+
+void SchemeDocument::Writer::End()
+{
+    m_text.write(QByteArrayLiteral("\n]}\n"));
+}
+
 QByteArray SchemeDocument::ToJson() const
 {
-    QByteArray text = QByteArrayLiteral("{\"format\": \"") + Format + QByteArrayLiteral("\", \"version\": ")
-        + QByteArray::number(Version) + QByteArrayLiteral(", \"name\": ") + Compact(name)
-        + QByteArrayLiteral(", \"layers\": [");
-    const char* separator = "\n";
-    for (const Layer& layer : layers) {
-        text += separator + Compact(ToJsonObject(layer));
-        separator = ",\n";
-    }
-    return text + QByteArrayLiteral("\n]}\n");
+    QBuffer text;
+    text.open(QIODevice::WriteOnly);
+    Writer writer(text);
+    writer.Begin(name);
+    for (const Layer& layer : layers)
+        writer.Add(layer);
+    writer.End();
+    return text.data();
 }
 
 SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
@@ -183,7 +202,8 @@ SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
     return document;
 }
 
-std::optional<SchemeDocument> SchemeDocument::FromLines(QIODevice& text)
+std::optional<SchemeDocument>
+SchemeDocument::FromLines(QIODevice& text, const std::function<void(double done)>& told)
 {
     const QByteArray first = text.readLine(LongestLine).trimmed();
     if (!first.endsWith(BeginOfLayers))
@@ -198,6 +218,8 @@ std::optional<SchemeDocument> SchemeDocument::FromLines(QIODevice& text)
             line.chop(1);
         document.layers.push_back(ToLayer(Parsed(line, start), int(document.layers.size())));
         start = text.pos();
+        if (told)
+            told(double(start) / double(text.size()));
     }
     if (!text.readAll().trimmed().isEmpty())
         RaiseNoJson(text.size());

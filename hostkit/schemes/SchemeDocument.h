@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -46,6 +47,22 @@ public:
     QString name; ///< without leading or trailing blanks, and not empty
     std::vector<Layer> layers;
 
+    /// Writes the JSON text of a scheme piece by piece: the beginning with its name, each layer, the end.
+    class Writer
+    {
+    public:
+        explicit Writer(QIODevice& text) : m_text(text) { }
+
+        void Begin(const QString& scheme);
+        /// Raises as ToJson does.
+        void Add(const Layer& layer);
+        void End();
+
+    private:
+        QIODevice& m_text;
+        const char* m_separator = "\n";
+    };
+
     /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
     QByteArray ToJson() const;
 
@@ -56,7 +73,10 @@ public:
     /// Reads a text that has one line per layer, as ToJson writes it, without holding all of it in memory.
     /// Returns nothing for any other text, of which the beginning has then been read. Raises as FromJson
     /// does, and SchemeTextDamaged for a line of more than LongestLine.
-    static std::optional<SchemeDocument> FromLines(QIODevice& text);
+    ///
+    /// told: called after each line with the part that was read, from 0 to 1; what it raises is passed on.
+    static std::optional<SchemeDocument>
+    FromLines(QIODevice& text, const std::function<void(double done)>& told = {});
     static constexpr qint64 LongestLine = qint64(1024) * 1024; // bytes
 };
 

@@ -93,13 +93,34 @@ void StoreValues(
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
               .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
+    qsizetype stored = 0;
     for (auto match = byLayerID.begin(); match != byLayerID.end(); ++match) {
+        map.AskWatcher(double(++stored) / double(byLayerID.size()));
         std::vector<Value> row{match.key(), schemeID};
         const SchemeDocument::Values values
             = Completed(map, match.key(), scheme.layers.at(std::size_t(match.value())).values);
         row.insert(row.end(), values.begin(), values.end());
         map.Execute(insertion, row);
     }
+}
+
+std::unique_ptr<IRecordset> SavedLayers(ILayerStore& map, qint32 schemeID)
+{
+    return map.OpenQuery(
+        QStringLiteral("SELECT Layers.LayerID, Layers.Code, Layers.Name, %1 FROM LayerSchemeValues, Layers"
+                       " WHERE SchemeID = ?1 AND Layers.LayerID = LayerSchemeValues.LayerID"
+                       " ORDER BY Layers.LayerID")
+            .arg(SchemeColumns::SavedList()),
+        {schemeID});
+}
+
+double SavedCount(ILayerStore& map, qint32 schemeID)
+{
+    return ToDouble(
+        map.OpenQuery(
+               QStringLiteral("SELECT count(*) AS Count FROM LayerSchemeValues WHERE SchemeID = ?1"),
+               {schemeID})
+            ->Field("Count"));
 }
 
 } // namespace
@@ -109,15 +130,24 @@ SchemeDocument Export(ILayerStore& map, const QString& schemeName)
     const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
     SchemeDocument document;
     document.name = schemeName;
-    const auto rows = map.OpenQuery(
-        QStringLiteral("SELECT Layers.LayerID, Layers.Code, Layers.Name, %1 FROM LayerSchemeValues, Layers"
-                       " WHERE SchemeID = ?1 AND Layers.LayerID = LayerSchemeValues.LayerID"
-                       " ORDER BY Layers.LayerID")
-            .arg(SchemeColumns::SavedList()),
-        {schemeID});
+    const auto rows = SavedLayers(map, schemeID);
     for (; !rows->AtEOF(); rows->MoveNext())
         document.layers.push_back(LayerAt(*rows, int(document.layers.size())));
     return document;
+}
+
+void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName)
+{
+    const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
+    const double count = SavedCount(map, schemeID);
+    SchemeDocument::Writer writer(text);
+    writer.Begin(schemeName);
+    const auto rows = SavedLayers(map, schemeID);
+    for (int position = 0; !rows->AtEOF(); rows->MoveNext()) {
+        writer.Add(LayerAt(*rows, position));
+        map.AskWatcher(++position / count);
+    }
+    writer.End();
 }
 
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class QIODevice;
+
 namespace Orvane {
 
 class ILayerStore;
@@ -24,6 +26,10 @@ namespace SchemeExchange {
 
 /// The saved values of the scheme. Raises HostError::UnknownScheme.
 SchemeDocument Export(ILayerStore& map, const QString& schemeName);
+
+/// Writes the saved values of the scheme as SchemeDocument::ToJson does, layer by layer, whatever their
+/// number. Asks the watcher of the map after each layer. Raises as Export and ToJson do.
+void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName);
 
 /// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
 /// replaced. The layers and the current scheme stay as they are. For values that the document does not have,

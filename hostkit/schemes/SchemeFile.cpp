@@ -4,6 +4,7 @@
 #include "files/FileReplacement.h"
 #include "hostkit/common/HostErrors.h"
 
+#include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
@@ -59,32 +60,47 @@ QByteArray ContentOf(QFile& file, const QString& path)
 
 } // namespace
 
-SchemeDocument Read(const QString& path)
+SchemeDocument Read(const QString& path, const std::function<void(double done)>& told)
 {
     QFile file(path);
     Open(file, path);
     SkipByteOrderMark(file);
     try {
-        if (file.size() <= LargestFile)
+        if (file.size() > SmallFile) {
+            if (std::optional<SchemeDocument> document = SchemeDocument::FromLines(file, told))
+                return *std::move(document);
+        }
+        if (file.size() <= LargestFile) {
+            file.seek(0);
+            SkipByteOrderMark(file);
             return SchemeDocument::FromJson(ContentOf(file, path));
-        if (std::optional<SchemeDocument> document = SchemeDocument::FromLines(file))
-            return *std::move(document);
+        }
     } catch (const RunTimeError& error) {
+        if (IsCancellation(error))
+            throw;
         RaiseUnreadable(path, error.Description());
     }
     RaiseUnreadable(path, FileTexts::tr("It is too large."));
 }
 
-void Write(const QString& path, const SchemeDocument& scheme)
+void Make(const QString& path, const Writer& write)
 {
-    const QByteArray content = scheme.ToJson();
     FileReplacement file(path);
-    if (file.Begin() && file.write(content) == content.size() && file.Commit())
-        return;
+    if (file.Begin()) {
+        write(file);
+        if (file.Commit())
+            return;
+    }
     Raise(
         HostError::SchemeFileUnwritable,
         FileTexts::tr("The scheme file \"%1\" cannot be written: %2.")
             .arg(QFileInfo(path).fileName(), file.Reason()));
+}
+
+void Write(const QString& path, const SchemeDocument& scheme)
+{
+    const QByteArray content = scheme.ToJson();
+    Make(path, [&](QIODevice& text) { text.write(content); });
 }
 
 } // namespace Orvane::SchemeFile

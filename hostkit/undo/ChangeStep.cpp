@@ -2,6 +2,7 @@
 #include "hostkit/undo/ChangeStep.h"
 
 #include "hostkit/common/HostErrors.h"
+#include "hostkit/windows/LongWork.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -25,11 +26,27 @@ bool ChangeStep::Absorb(const IUndoStep& next)
     return true;
 }
 
+void ChangeStep::Undo()
+{
+    Run(QCoreApplication::translate("UndoHistory", "Undo %1").arg(m_text));
+}
+
+void ChangeStep::Redo()
+{
+    Run(QCoreApplication::translate("UndoHistory", "Redo %1").arg(m_text));
+}
+
+std::optional<Changeset> ChangeStep::Applied(const Changeset& changes, const QString& what)
+{
+    const LongWork work(m_surroundings.database, what, m_surroundings.window());
+    return m_surroundings.database.Apply(changes);
+}
+
 // Each run stores what it actually changed, so that the next run undoes exactly that.
-void ChangeStep::Run()
+void ChangeStep::Run(const QString& what)
 {
     m_surroundings.begin();
-    const std::optional<Changeset> changed = m_surroundings.database.Apply(m_changes.Inverted());
+    const std::optional<Changeset> changed = Applied(m_changes.Inverted(), what);
     if (!changed) {
         throw RunTimeError(
             int(HostError::StepOutdated),

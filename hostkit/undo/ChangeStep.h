@@ -5,6 +5,9 @@
 #include "store/Changeset.h"
 
 #include <functional>
+#include <optional>
+
+class QWidget;
 
 namespace Orvane {
 
@@ -20,6 +23,7 @@ public:
     /// What steps work with; everything here must outlive them.
     struct Surroundings {
         ILayerStore& database;
+        std::function<QWidget*()> window; ///< in front of which progress is shown; may return nullptr
         std::function<void()> begin; ///< called before rows change; if it raises, the step is not run
         std::function<void(const Changeset& changed)> end; ///< called after rows changed; raises nothing
     };
@@ -28,13 +32,14 @@ public:
     ChangeStep(const Surroundings& surroundings, const QString& text, Changeset changes, Joins joins);
 
     QString Text() const override { return m_text; }
-    void Undo() override { Run(); }
-    void Redo() override { Run(); }
+    void Undo() override;
+    void Redo() override;
     bool Absorb(const IUndoStep& next) override;
-    qsizetype KeptBytes() const override { return m_changes.KeptBytes(); }
+    qsizetype KeptBytes() const override { return m_changes.KeptSize(); }
 
 private:
-    void Run();
+    void Run(const QString& what);
+    std::optional<Changeset> Applied(const Changeset& changes, const QString& what);
 
     const Surroundings& m_surroundings;
     QString m_text;

@@ -34,8 +34,8 @@ public:
     /// Returns true if next is no longer needed. By default steps are not merged.
     virtual bool Absorb([[maybe_unused]] const IUndoStep& next) { return false; }
 
-    /// How much memory the step uses for what it must remember, in bytes: the history drops old steps when
-    /// all together use too much. By default 0.
+    /// How much the step keeps of what it must remember, in memory or in files, in bytes: the history drops
+    /// old steps when all together keep too much. By default 0.
     virtual qsizetype KeptBytes() const { return 0; }
 
 protected:

@@ -35,7 +35,8 @@ LayerSteps::LayerSteps(
     ILayerStore& database, LayerNames& names, EditorWindows& windows, HostNotifications& notifications)
     : m_database(database), m_names(names), m_windows(windows),
       m_notifications(notifications), m_surroundings{
-                                          database, [this] { RequireNoPendingEdits(); },
+                                          database, [this] { return Window(); },
+                                          [this] { RequireNoPendingEdits(); },
                                           [this](const Changeset& changed) { m_untold.push_back(changed); }}
 {
     m_endOfEdits.setSingleShot(true);
@@ -45,6 +46,11 @@ LayerSteps::LayerSteps(
 }
 
 LayerSteps::~LayerSteps() = default;
+
+QWidget* LayerSteps::Window() const
+{
+    return m_windows.MainWindow();
+}
 
 void LayerSteps::Record(const std::function<QString()>& act, ChangeStep::Joins joins)
 {

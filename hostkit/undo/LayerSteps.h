@@ -32,6 +32,8 @@ public:
     Q_DISABLE_COPY_MOVE(LayerSteps)
 
     UndoHistory& History() { return m_history; }
+    /// The window in front of which progress is shown; nullptr for none.
+    QWidget* Window() const;
 
     /// Runs act and keeps its changes as one step; without changes there is no step. act must change
     /// everything or nothing, and return a description as IUndoStep::Text does. Inside another Record, the

@@ -3,7 +3,7 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/StartupSchemes.h"
-#include "hostkit/undo/LayerSteps.h"
+#include "hostkit/windows/LongWork.h"
 #include "messages/NameInText.h"
 #include "store/ILayerStore.h"
 
@@ -33,11 +33,11 @@ void SchemeSteps::ListenToChanges()
 
 void SchemeSteps::Load(const QString& name)
 {
-    const QString left = m_schemes.Current();
+    QString left;
     QSet<qint32> changed;
-    m_steps.Record([&] {
+    Run(tr("Load Scheme \"%1\"").arg(NameInStep(name)), [&] {
+        left = m_schemes.Current();
         changed = m_schemes.Load(name);
-        return tr("Load Scheme \"%1\"").arg(NameInStep(name));
     });
     if (left != name)
         Leave(left);
@@ -49,57 +49,51 @@ void SchemeSteps::Load(const QString& name)
 
 void SchemeSteps::Create(const QString& name)
 {
-    m_schemes.Current(); // creates the first scheme, which is not a step
-    m_steps.Record([&] {
-        m_schemes.Create(name);
-        return tr("Create Scheme \"%1\"").arg(NameInStep(name));
-    });
+    Run(tr("Create Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Create(name); });
     Tell();
 }
 
 void SchemeSteps::Save(const QString& name)
 {
-    m_schemes.Current();
-    m_steps.Record([&] {
-        m_schemes.Save(name);
-        return tr("Save Scheme \"%1\"").arg(NameInStep(name));
-    });
+    Run(tr("Save Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Save(name); });
     Tell();
 }
 
 void SchemeSteps::Delete(const QString& name)
 {
-    m_schemes.Current();
-    const auto remove = [&] {
-        m_schemes.Delete(name);
-        return tr("Delete Scheme \"%1\"").arg(NameInStep(name));
-    };
     const QString left = std::exchange(m_justLeft, {});
     const bool isOneDeed = !left.isEmpty() && left == name; // the user pressed one button
-    m_steps.Record(remove, isOneDeed ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No);
+    Run(
+        tr("Delete Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Delete(name); },
+        isOneDeed ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No);
     Tell();
 }
 
 SchemeImport SchemeSteps::Import(const SchemeDocument& scheme)
 {
-    m_schemes.Current();
     SchemeImport report;
-    m_steps.Record([&] {
-        report = SchemeExchange::Import(m_database, scheme);
-        return tr("Import Scheme \"%1\"").arg(NameInStep(scheme.name));
-    });
+    Run(tr("Import Scheme \"%1\"").arg(NameInStep(scheme.name)),
+        [&] { report = SchemeExchange::Import(m_database, scheme); });
     Tell();
     return report;
 }
 
 void SchemeSteps::LoadFromStartup(const QString& startupFile)
 {
-    m_schemes.Current();
-    m_steps.Record([&] {
-        StartupSchemes::Load(m_database, startupFile);
-        return tr("Load Startup Schemes");
-    });
+    Run(tr("Load Startup Schemes"), [&] { StartupSchemes::Load(m_database, startupFile); });
     Tell();
+}
+
+void SchemeSteps::Run(const QString& text, const std::function<void()>& act, ChangeStep::Joins joins)
+{
+    m_steps.EndEdits(); // before the work, which may be cancelled
+    const LongWork work(m_database, text, m_steps.Window());
+    m_schemes.Current(); // creates the first scheme, which is not a step
+    const auto actAndTell = [&] {
+        act();
+        return text;
+    };
+    m_steps.Record(actAndTell, joins);
 }
 
 void SchemeSteps::Leave(const QString& name)

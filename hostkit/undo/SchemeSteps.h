@@ -4,15 +4,17 @@
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeDifferences.h"
 #include "hostkit/schemes/SchemeExchange.h"
+#include "hostkit/undo/LayerSteps.h"
 
 #include <QCoreApplication>
 #include <QObject>
 #include <QString>
 
+#include <functional>
+
 namespace Orvane {
 
 class HostNotifications;
-class LayerSteps;
 class ILayerStore;
 
 /// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
@@ -47,6 +49,10 @@ public:
 
 private:
     void ListenToChanges();
+    // Runs act as one step of that name, which the user can cancel while it runs.
+    void
+    Run(const QString& text, const std::function<void()>& act,
+        ChangeStep::Joins joins = ChangeStep::Joins::No);
     void Leave(const QString& name);
     void Tell();
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/common/Guard.h"
 
+#include <OrvaneShellLib/Cancellation.h>
+
 #include <QCoreApplication>
 #include <QMessageBox>
 
@@ -10,6 +12,8 @@ namespace Orvane {
 
 void ShowError(QWidget* owner, const std::exception& error) noexcept
 {
+    if (IsCancellation(error))
+        return;
     try {
         QMessageBox box(
             QMessageBox::Warning, QCoreApplication::applicationName(), QString::fromUtf8(error.what()),

@@ -10,7 +10,8 @@ class QWidget;
 
 namespace Orvane {
 
-/// Shows the user an error, in a message box over the window. Never raises.
+/// Shows the user an error, in a message box over the window; nothing if the user cancelled. Never
+/// raises.
 void ShowError(QWidget* owner, const std::exception& error) noexcept;
 
 /// Use this at the top of every slot and event handler: it runs the action and shows errors that it raises,

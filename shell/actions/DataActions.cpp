@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/actions/DataActions.h"
 
+#include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/dialogs/MissingData.h"
@@ -62,10 +63,13 @@ void DataActions::Use(MapSession& session)
     // Queued: saving the map under another name ends the session that emits the signal.
     connect(
         &session, &MapSession::DataFailed, this,
-        [this](const QString& reason) { Guard(&m_window, [&] { ShowProblems(reason); }); },
+        [this](const QString& reason) {
+            LongWork::RunAfter(this, [this, reason] { Guard(&m_window, [&] { ShowProblems(reason); }); });
+        },
         Qt::QueuedConnection);
     connect(
-        &session, &MapSession::MapFileGone, this, [this] { Guard(&m_window, [this] { TellMapIsGone(); }); },
+        &session, &MapSession::MapFileGone, this,
+        [this] { LongWork::RunAfter(this, [this] { Guard(&m_window, [this] { TellMapIsGone(); }); }); },
         Qt::QueuedConnection);
 }
 

@@ -2,6 +2,7 @@
 #include "shell/actions/EditActions.h"
 
 #include "hostkit/undo/UndoHistory.h"
+#include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
 #include "shell/map/MapSession.h"
 
@@ -66,8 +67,10 @@ void EditActions::Use(UndoHistory& history)
 
 void EditActions::TellOfLostStep(const QString& reason)
 {
-    const QString text = tr("The last change was stored, but it cannot be undone: %1").arg(reason);
-    ShowError(Owner(), RunTimeError(ErrorNumber::DatabaseFailure, text));
+    LongWork::RunAfter(this, [this, reason] {
+        const QString text = tr("The last change was stored, but it cannot be undone: %1").arg(reason);
+        ShowError(Owner(), RunTimeError(ErrorNumber::DatabaseFailure, text));
+    });
 }
 
 QWidget* EditActions::Owner() const

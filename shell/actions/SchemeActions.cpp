@@ -3,7 +3,6 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/SchemeExchange.h"
-#include "hostkit/schemes/SchemeFile.h"
 #include "mapkit/common/Guard.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
@@ -184,7 +183,7 @@ void SchemeActions::Import()
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const SchemeDocument scheme = SchemeFile::Read(dialog.selectedFiles().value(0));
+    const SchemeDocument scheme = m_session->Shell().ReadSchemeFile(dialog.selectedFiles().value(0));
     if (!MayReplace(scheme.name))
         return;
     SchemeImport import;

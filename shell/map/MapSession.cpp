@@ -4,6 +4,7 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/StartupSchemes.h"
+#include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
@@ -174,10 +175,7 @@ void MapSession::Connect()
     connect(&m_markSoon, &QTimer::timeout, this, [this] { Guard(&m_mainWindow, [this] { MarkNames(); }); });
     connect(&m_canvas, &MapCanvas::ViewChanged, &m_markSoon, qOverload<>(&QTimer::start));
     connect(&m_follower, &SourceFollower::Read, this, [this](const SourceContents& contents) {
-        Guard(&m_mainWindow, [&] {
-            m_layers.TakeFeatures(contents);
-            Show();
-        });
+        LongWork::RunAfter(this, [this, contents] { Guard(&m_mainWindow, [&] { TakeFeatures(contents); }); });
     });
     connect(
         &m_attributes, &AttributeLoader::Loaded, this,

@@ -123,6 +123,7 @@ ChangeWatch::~ChangeWatch()
 
 size_t ChangeWatch::Begin()
 {
+    m_connection.RequireUsable();
     if (m_watchers++ == 0) {
         ForgetRows();
         m_hasGaps = false;
@@ -184,6 +185,7 @@ int ChangeWatch::TableNamed(const char* name)
     const int known = m_log.FindTable(name);
     if (known >= 0 && int(m_log.Table(known).columns.size()) == count)
         return m_log.Table(known).keys.empty() ? NoKey : known;
+    const StatementWatch::Pause whole(m_connection.Watch());
     std::vector<bool> isReal;
     m_isReal.reserve(m_isReal.size() + 1); // both lists grow, or neither
     const int added = m_log.AddTable(ReadTable(m_connection, name, isReal));

@@ -96,12 +96,22 @@ bool ChangeBlockedRows(
     return true;
 }
 
+// Says how much is done, and ends what the user cancelled.
+void Report(SqliteSession& session, const ChangesetReader& reader)
+{
+    StatementWatch& watch = session.connection.Watch();
+    watch.SetShare(reader.Done());
+    if (watch.IsCancelled())
+        session.connection.Raise(SQLITE_INTERRUPT);
+}
+
 bool ChangeRows(SqliteSession& session, const Changeset& changes)
 {
     RowChanger changer(session);
     ChangesetReader reader(changes);
     std::vector<std::string> blocked;
     while (reader.Next()) {
+        Report(session, reader);
         const RowChanger::Outcome outcome = changer.Change(reader.Table(), reader.Row());
         if (outcome == RowChanger::Outcome::Conflict)
             return false;

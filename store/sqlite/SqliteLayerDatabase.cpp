@@ -15,6 +15,7 @@
 #include "store/sqlite/files/NewLayerFile.h"
 #include "store/sqlite/files/PlainTables.h"
 
+#include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 
@@ -191,6 +192,21 @@ std::optional<Changeset> SqliteLayerDatabase::Apply(const Changeset& changes)
 qint64 SqliteLayerDatabase::ForeignChanges()
 {
     return m_session->connection.Number("PRAGMA data_version");
+}
+
+void SqliteLayerDatabase::SetWatcher(StoreWatcher watcher)
+{
+    m_session->connection.RequireUsable();
+    m_session->connection.Watch().SetWatcher(std::move(watcher));
+}
+
+void SqliteLayerDatabase::AskWatcher(double done)
+{
+    m_session->connection.RequireUsable();
+    StatementWatch& watch = m_session->connection.Watch();
+    watch.SetShare(done);
+    if (!watch.Ask())
+        throw m_session->connection.Errors().Error(UserCancelled, StoreTexts::Cancelled);
 }
 
 QString SqliteLayerDatabase::Path() const

@@ -64,6 +64,8 @@ public:
     std::unique_ptr<ChangeRecorder> RecordChanges() override;
     std::optional<Changeset> Apply(const Changeset& changes) override;
     qint64 ForeignChanges() override;
+    void SetWatcher(StoreWatcher watcher) override;
+    void AskWatcher(double done = UnknownShare) override;
     bool IsReadOnly() const override;
     QString Path() const override;
     void CopyToFile(

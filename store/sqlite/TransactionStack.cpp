@@ -53,6 +53,7 @@ void TransactionStack::Commit()
     if (m_depth == 0)
         throw m_connection.Errors().Failure(StoreTexts::NoTransaction);
     RequireIntact();
+    const StatementWatch::Pause whole(m_connection.Watch());
     if (m_depth == 1)
         m_connection.Run("COMMIT");
     else
@@ -64,8 +65,10 @@ void TransactionStack::Commit()
 
 void TransactionStack::Rollback()
 {
+    m_connection.RequireUsable();
     if (m_depth == 0)
         return Settle();
+    const StatementWatch::Pause whole(m_connection.Watch());
     --m_depth;
     m_changes.GoBackTo(m_places.back());
     m_places.pop_back();
@@ -95,6 +98,7 @@ void TransactionStack::RollBackLevel()
 // When a statement for savepoints fails, it may have run in part.
 void TransactionStack::RunInside(const QByteArray& sql)
 {
+    const StatementWatch::Pause whole(m_connection.Watch());
     m_isUncertain = true;
     m_connection.Run(sql);
     m_isUncertain = false;
@@ -108,8 +112,10 @@ bool TransactionStack::IsLost() const
 
 void TransactionStack::Settle()
 {
+    m_connection.RequireUsable();
     if (m_depth > 0 || m_connection.IsAutoCommit())
         return;
+    const StatementWatch::Pause whole(m_connection.Watch());
     m_rollback.TryStep();
     m_rollback.Reset();
     if (!m_connection.IsAutoCommit()) {

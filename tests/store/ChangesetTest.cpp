@@ -210,7 +210,7 @@ TEST_F(ChangesetTest, LargeChangesAreKeptSmall)
     for (int number = 0; number < 5000; ++number)
         Rename(number, "Bonn", "Bern");
     const Changeset changes = Taken();
-    EXPECT_LT(changes.KeptBytes() * 4, changes.Bytes().size());
+    EXPECT_LT(changes.BytesInMemory() * 4, changes.Bytes().size());
     EXPECT_EQ(Told(changes).size(), 5000u);
 }
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/engine/SqliteConnection.h"
 
+#include "store/StoreTexts.h"
 #include "store/sqlite/engine/NoMemoryError.h"
 #include "store/sqlite/engine/RegularFiles.h"
+
+#include <OrvaneShellLib/Cancellation.h>
 
 #include <QFileInfo>
 #include <QUrl>
@@ -96,6 +99,7 @@ SqliteConnection::SqliteConnection(const QString& path, Access access, const Sto
     if (result != SQLITE_OK)
         Raise(result);
     m_patience.Attach(handle);
+    m_watch.Attach(handle);
     Harden(handle);
     Limit(handle);
     Run("PRAGMA cell_size_check = ON");
@@ -123,8 +127,15 @@ bool SqliteConnection::IsAutoCommit() const
     return sqlite3_get_autocommit(Handle()) != 0;
 }
 
+void SqliteConnection::RequireUsable() const
+{
+    if (m_watch.IsAsking())
+        throw m_errors.Failure(StoreTexts::Working);
+}
+
 void SqliteConnection::Run(const QByteArray& sql)
 {
+    RequireUsable();
     const int result = sqlite3_exec(Handle(), sql.constData(), nullptr, nullptr, nullptr);
     if (result != SQLITE_OK)
         Raise(result);
@@ -132,6 +143,7 @@ void SqliteConnection::Run(const QByteArray& sql)
 
 QString SqliteConnection::Text(const QByteArray& sql)
 {
+    RequireUsable();
     QString text;
     const auto keepFirst = [](void* target, int, char** values, char**) {
         auto& result = *static_cast<QString*>(target);
@@ -149,10 +161,17 @@ QString SqliteConnection::Text(const QByteArray& sql)
     return text;
 }
 
+RunTimeError SqliteConnection::ErrorOf(int resultCode) const
+{
+    if ((resultCode & 0xFF) == SQLITE_INTERRUPT && m_watch.IsCancelled())
+        return m_errors.Error(UserCancelled, StoreTexts::Cancelled);
+    const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
+    return m_errors.FromSqlite(resultCode, message);
+}
+
 void SqliteConnection::Raise(int resultCode) const
 {
-    const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
-    const RunTimeError error = m_errors.FromSqlite(resultCode, message);
+    const RunTimeError error = ErrorOf(resultCode);
     if ((resultCode & 0xFF) == SQLITE_NOMEM)
         throw NoMemoryError(error);
     throw error;

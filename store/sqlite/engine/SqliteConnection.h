@@ -3,6 +3,7 @@
 
 #include "store/StoreOptions.h"
 #include "store/sqlite/engine/LockPatience.h"
+#include "store/sqlite/engine/StatementWatch.h"
 #include "store/sqlite/engine/StoreErrors.h"
 
 #include <QByteArray>
@@ -46,6 +47,10 @@ public:
     const StoreErrors& Errors() const { return m_errors; }
     /// How it waits for locks.
     LockPatience& Patience() { return m_patience; }
+    /// What looks at its statements while they run.
+    StatementWatch& Watch() { return m_watch; }
+    /// Raises DatabaseFailure while the watcher of the statements runs: SQLite cannot be used then.
+    void RequireUsable() const;
     /// The path that was passed to the constructor.
     const QString& Path() const { return m_path; }
     /// True when rows cannot be changed, whatever access was requested.
@@ -59,7 +64,9 @@ public:
     QString Text(const QByteArray& sql);
     /// As Text, as a number.
     qint32 Number(const QByteArray& sql) { return Text(sql).toInt(); }
-    /// Raises the error of a result code.
+    /// The error of a result code, with SQLite's message for what failed last.
+    RunTimeError ErrorOf(int resultCode) const;
+    /// Raises ErrorOf.
     [[noreturn]] void Raise(int resultCode) const;
 
     /// The listener is called with the text of each statement as it starts to run; an empty function removes
@@ -75,6 +82,7 @@ private:
     Access m_access;
     StoreErrors m_errors;
     LockPatience m_patience; // outlives the handle, which uses it
+    StatementWatch m_watch; // as above
     std::unique_ptr<sqlite3, Closer> m_handle;
     std::function<void(const QString&)> m_listener;
 };

@@ -15,6 +15,7 @@ namespace {
 
 sqlite3_stmt* Prepared(SqliteConnection& connection, const QByteArray& sql)
 {
+    connection.RequireUsable();
     sqlite3_stmt* statement = nullptr;
     const char* rest = nullptr;
     const int result = sqlite3_prepare_v3(
@@ -133,6 +134,7 @@ bool SqliteStatement::Step()
 
 int SqliteStatement::TryStep()
 {
+    m_connection.RequireUsable();
     return sqlite3_step(m_statement.get());
 }
 

@@ -57,7 +57,7 @@ RunTimeError StoreErrors::FromSqlite(int resultCode, const char* message) const
         return Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
     case SQLITE_READONLY:
         return Error(ErrorNumber::DatabaseReadOnly, StoreTexts::ReadOnly);
-    case SQLITE_INTERRUPT: // by TimeBound alone
+    case SQLITE_INTERRUPT: // by TimeBound; the connection knows when the user cancelled
         return Failure(StoreTexts::TooLong);
     case SQLITE_FULL:
         return Failure(StoreTexts::DiskFull);

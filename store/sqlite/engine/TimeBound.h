@@ -19,15 +19,10 @@ public:
     TimeBound& operator=(const TimeBound&) = delete;
 
     /// Whether a statement was ended.
-    bool HasEnded() const { return m_hasEnded; }
+    bool HasEnded() const;
 
 private:
-    static int IsOver(void* bound);
-
-    bool m_hasEnded = false;
-
     SqliteConnection& m_connection;
-    std::chrono::steady_clock::time_point m_end;
 };
 
 } // namespace Orvane

@@ -4,6 +4,7 @@
 #include "support/MessageBoxRobot.h"
 #include "support/PseudoLanguage.h"
 
+#include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QWidget>
@@ -42,6 +43,13 @@ TEST(GuardEvent, ShowsTheDescriptionOfARunTimeError)
     EXPECT_EQ(user.Only().text, QString("The database is locked."));
     EXPECT_EQ(user.Only().icon, QMessageBox::Warning);
     EXPECT_EQ(user.Only().buttons, QStringList("OK"));
+}
+
+TEST(GuardEvent, SaysNothingOfWhatTheUserCancelled)
+{
+    MessageBoxRobot user{};
+    EXPECT_FALSE(GuardEvent(nullptr, [] { throw RunTimeError(UserCancelled, "Cancelled."); }));
+    EXPECT_TRUE(user.Boxes().empty());
 }
 
 TEST(GuardEvent, TranslatesTheDescription)

@@ -260,6 +260,8 @@ public:
     }
     std::optional<Changeset> Apply(const Changeset& changes) override { return m_store.Apply(changes); }
     qint64 ForeignChanges() override { return m_store.ForeignChanges(); }
+    void SetWatcher(StoreWatcher watcher) override { m_store.SetWatcher(std::move(watcher)); }
+    void AskWatcher(double done) override { m_store.AskWatcher(done); }
     bool IsReadOnly() const override { return m_store.IsReadOnly(); }
     QString Path() const override { return m_store.Path(); }
     void CopyToFile(const QString& path, IfExists ifExists, const StoreFiller& change) override

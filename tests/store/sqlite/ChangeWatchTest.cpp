@@ -136,7 +136,7 @@ TEST_F(Recorder, KeepsLargeChangesSmall)
     const auto recorder = m_database->RecordChanges();
     Run("UPDATE Layers SET Color = 255, Visible = 0");
     const Changeset changes = recorder->Changes();
-    EXPECT_LT(changes.KeptBytes() * 5, changes.Bytes().size());
+    EXPECT_LT(changes.BytesInMemory() * 5, changes.Bytes().size());
     EXPECT_EQ(RowsOf(changes).size(), 5003u);
 }
 
