@@ -4,6 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <tuple>
 #include <vector>
 
 namespace Orvane {
@@ -37,7 +38,16 @@ struct ListedLayer {
     bool systemLayer = false; ///< not to be deleted, renamed or recoded
     bool pseudo = false; ///< for filters of the flat list
 
-    bool operator==(const ListedLayer&) const = default;
+    /// All fields, in order.
+    auto AsTuple() const
+    {
+        return std::tie(
+            id, name, code, visible, selectable, locked, hitable, snapRequired, enquirable, lineColour,
+            usedForSymbols, fillForeColour, fillBackColour, outlineStyle, fillStyle, lineThickness,
+            minVisScale, maxVisScale, priority, rendererStyle, overrideMode, systemLayer, pseudo);
+    }
+    bool operator==(const ListedLayer& other) const { return AsTuple() == other.AsTuple(); }
+    bool operator!=(const ListedLayer& other) const { return !(*this == other); }
 };
 
 /// A group as a program keeps it in a list of its own.
@@ -48,7 +58,10 @@ struct ListedGroup {
     bool pseudo = false; ///< such a group is not in the tree
     bool expanded = false; ///< of a new group; after that it is as the user leaves it
 
-    bool operator==(const ListedGroup&) const = default;
+    /// All fields, in order.
+    auto AsTuple() const { return std::tie(id, name, layers, pseudo, expanded); }
+    bool operator==(const ListedGroup& other) const { return AsTuple() == other.AsTuple(); }
+    bool operator!=(const ListedGroup& other) const { return !(*this == other); }
 };
 
 } // namespace Orvane
