@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/RunTimeError.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
 
 namespace Orvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/ILayerDatabase.h>
+#include <orvane/OrvaneShellLib/ILayerDatabase.h>
 
 namespace Orvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IRecordset.h>
+#include <orvane/OrvaneShellLib/IRecordset.h>
 
 #include <memory>
 #include <utility>

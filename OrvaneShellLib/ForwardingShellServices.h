@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IShellServices.h>
+#include <orvane/OrvaneShellLib/IShellServices.h>
 
 namespace Orvane {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/Value.h>
 
 #include <QString>
 

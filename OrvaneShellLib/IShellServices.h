@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/MonochromeBitmap.h>
-#include <OrvaneShellLib/PromptRequest.h>
+#include <orvane/OrvaneShellLib/MonochromeBitmap.h>
+#include <orvane/OrvaneShellLib/PromptRequest.h>
 
 #include <QString>
 

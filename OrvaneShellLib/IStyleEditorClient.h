@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/ILayerDatabase.h>
-#include <OrvaneShellLib/IRecordset.h>
-#include <OrvaneShellLib/PromptRequest.h>
-#include <OrvaneShellLib/RendererStyle.h>
+#include <orvane/OrvaneShellLib/ILayerDatabase.h>
+#include <orvane/OrvaneShellLib/IRecordset.h>
+#include <orvane/OrvaneShellLib/PromptRequest.h>
+#include <orvane/OrvaneShellLib/RendererStyle.h>
 
 #include <QString>
 #include <QStringList>

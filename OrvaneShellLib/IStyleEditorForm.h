@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/RendererStyle.h>
+#include <orvane/OrvaneShellLib/RendererStyle.h>
 
 #include <QSet>
 #include <QString>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
-#include <OrvaneShellLib/PluginContract.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/PluginContract.h>
 
 #include <memory>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/LayerValues.h>
-#include <OrvaneShellLib/Value.h>
-#include <OrvaneShellLib/ValueConversions.h>
+#include <orvane/OrvaneShellLib/LayerValues.h>
+#include <orvane/OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/ValueConversions.h>
 
 #include <QtGlobal>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/RunTimeError.h>
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
+#include <orvane/OrvaneShellLib/Value.h>
 
 #include <QLocale>
 #include <QString>

@@ -23,10 +23,11 @@ endfunction()
 
 set(installed "${PROJECT_BINARY_DIR}/public_headers")
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
-  configure_file("${PROJECT_SOURCE_DIR}/${header}" "${installed}/${header}" COPYONLY)
+  configure_file("${PROJECT_SOURCE_DIR}/${header}" "${installed}/orvane/${header}" COPYONLY)
 endforeach()
-orvane_header_check(public_header_checks HEADERS ${ORVANE_PUBLIC_HEADERS}
-  LIBRARIES Qt${QT_VERSION_MAJOR}::Widgets)
+list(TRANSFORM ORVANE_PUBLIC_HEADERS PREPEND "orvane/" OUTPUT_VARIABLE installed_headers)
+orvane_header_check(public_header_checks HEADERS ${installed_headers}
+  LIBRARIES Qt${QT_VERSION_MAJOR}::Widgets GTest::gtest)
 # A host may use C++17, and none of Qt's conveniences that break other libraries.
 set_target_properties(public_header_checks PROPERTIES INCLUDE_DIRECTORIES "${installed}" CXX_STANDARD 17)
 target_compile_definitions(public_header_checks PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)

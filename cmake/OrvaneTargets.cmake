@@ -58,6 +58,21 @@ endif()
 
 include(OrvaneHardening)
 
+# Installed headers name each other and are named by hosts as <orvane/...>; so they are found in the tree, too.
+file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/include")
+file(CREATE_LINK "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/include/orvane" SYMBOLIC)
+
+# orvane_public(<target> [INTERFACE]): a library that hosts build with.
+function(orvane_public target)
+  set(reach PUBLIC)
+  if("INTERFACE" IN_LIST ARGN)
+    set(reach INTERFACE)
+  endif()
+  target_compile_features(${target} ${reach} cxx_std_17)
+  target_include_directories(${target} ${reach}
+    "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>" "$<INSTALL_INTERFACE:include>")
+endfunction()
+
 # orvane_headers(<target> <header> LIBRARIES ...): headers that are compiled once and shared by all targets of a kind.
 # The headers of Qt and GoogleTest take most of the time of a compilation.
 function(orvane_headers target header)

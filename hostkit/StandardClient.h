@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IConflictQuestion.h>
-#include <OrvaneShellLib/IEditorWatch.h>
-#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <orvane/OrvaneShellLib/IConflictQuestion.h>
+#include <orvane/OrvaneShellLib/IEditorWatch.h>
+#include <orvane/OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QCoreApplication>
 #include <QSet>

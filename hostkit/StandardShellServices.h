@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/common/ScaleTable.h"
-#include "hostkit/windows/ModalForms.h"
-
-#include <OrvaneShellLib/IShellServices.h>
+#include <orvane/OrvaneShellLib/IShellServices.h>
+#include <orvane/hostkit/common/ScaleTable.h>
+#include <orvane/hostkit/windows/ModalForms.h>
 
 namespace Orvane {
 

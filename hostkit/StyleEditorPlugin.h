@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/PluginContract.h>
+#include <orvane/OrvaneShellLib/PluginContract.h>
 
 #include <QCoreApplication>
 #include <QLibrary>

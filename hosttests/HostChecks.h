@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosttests/HostContents.h"
-#include "hosttests/IHostUnderTest.h"
+#include <orvane/hosttests/HostContents.h>
+#include <orvane/hosttests/IHostUnderTest.h>
 
 #include <QString>
 #include <QStringList>

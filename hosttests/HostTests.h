@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosttests/IHostUnderTest.h"
+#include <orvane/hosttests/IHostUnderTest.h>
 
 #include <QString>
 

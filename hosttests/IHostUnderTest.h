@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosttests/HostContents.h"
-
-#include <OrvaneShellLib/IStyleEditorClient.h>
+#include <orvane/OrvaneShellLib/IStyleEditorClient.h>
+#include <orvane/hosttests/HostContents.h>
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "messages/MessageCatalogue.h"
+#include <orvane/messages/MessageCatalogue.h>
 
 #include <QTranslator>
 

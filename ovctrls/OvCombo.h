@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ovctrls/StyleStringRenderer.h"
+#include <orvane/ovctrls/StyleStringRenderer.h>
 
 #include <QComboBox>
 

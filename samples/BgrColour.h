@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/LayerValues.h>
+#include <orvane/OrvaneShellLib/LayerValues.h>
 
 #include <QColor>
 

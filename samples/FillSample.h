@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/MonochromeBitmap.h>
+#include <orvane/OrvaneShellLib/MonochromeBitmap.h>
 
 #include <QtGlobal>
 

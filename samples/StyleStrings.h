@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "samples/ComboGeometry.h"
-
-#include <OrvaneShellLib/LayerValues.h>
+#include <orvane/OrvaneShellLib/LayerValues.h>
+#include <orvane/samples/ComboGeometry.h>
 
 #include <QString>
 #include <QtGlobal>

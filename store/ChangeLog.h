@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/Changeset.h"
+#include <orvane/store/Changeset.h>
 
 #include <algorithm>
 #include <string>

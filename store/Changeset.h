@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/ChangedRow.h"
-#include "store/KeptBytes.h"
+#include <orvane/store/ChangedRow.h>
+#include <orvane/store/KeptBytes.h>
 
 #include <QByteArray>
 #include <QtGlobal>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/ChangeCoding.h"
-#include "store/ChangedRow.h"
+#include <orvane/store/ChangeCoding.h>
+#include <orvane/store/ChangedRow.h>
 
 #include <QByteArray>
 

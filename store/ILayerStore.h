@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/StoreOptions.h"
-#include "store/StoreWatcher.h"
-
-#include <OrvaneShellLib/ILayerDatabase.h>
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/ILayerDatabase.h>
+#include <orvane/OrvaneShellLib/Value.h>
+#include <orvane/store/StoreOptions.h>
+#include <orvane/store/StoreWatcher.h>
 
 #include <QString>
 #include <QtGlobal>

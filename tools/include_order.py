@@ -40,7 +40,7 @@ def folder_of(path, rows):
 
 def headers_named(path):
     for match in INCLUDE.finditer(open(path, encoding="utf-8").read()):
-        yield match[1] or match[2]
+        yield (match[1] or match[2]).removeprefix("orvane/")
 
 
 def faults_of(path, rows):

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/StandardClient.h"
-#include "hostkit/windows/EditorDock.h"
-#include "store/ILayerStore.h"
-
-#include <OrvaneShellLib/ValueConversions.h>
+#include <orvane/OrvaneShellLib/ValueConversions.h>
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/windows/EditorDock.h>
+#include <orvane/store/ILayerStore.h>
 
 #include <QCloseEvent>
 #include <QInputDialog>

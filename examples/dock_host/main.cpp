@@ -3,13 +3,13 @@
 //
 //     dock_host map.ovl
 #include "examples/dock_host/DockHost.h"
-#include "hostkit/StandardShellServices.h"
-#include "hostkit/StyleEditorPlugin.h"
-#include "store/opening/LayerStores.h"
 
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
-#include <OrvaneShellLib/RunTimeError.h>
+#include <orvane/OrvaneShellLib/IStyleEditor.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/hostkit/StyleEditorPlugin.h>
+#include <orvane/store/opening/LayerStores.h>
 
 #include <QApplication>
 

@@ -2,16 +2,15 @@
 // The smallest useful host: the layer control on a layer database, which is made if it is missing.
 //
 //     minimal_host map.ovl
-#include "hostkit/StandardClient.h"
-#include "hostkit/StandardShellServices.h"
-#include "hostkit/StyleEditorPlugin.h"
-#include "hostkit/lists/StoredList.h"
-#include "store/ILayerStore.h"
-#include "store/opening/LayerStores.h"
-
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
-#include <OrvaneShellLib/RunTimeError.h>
+#include <orvane/OrvaneShellLib/IStyleEditor.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/hostkit/StyleEditorPlugin.h>
+#include <orvane/hostkit/lists/StoredList.h>
+#include <orvane/store/ILayerStore.h>
+#include <orvane/store/opening/LayerStores.h>
 
 #include <QApplication>
 #include <QFile>

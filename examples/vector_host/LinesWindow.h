@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/LayerList.h"
-#include "hostkit/StandardClient.h"
-#include "hostkit/StandardShellServices.h"
-#include "hostkit/StyleEditorPlugin.h"
-#include "samples/BgrColour.h"
-#include "store/ILayerStore.h"
-#include "store/opening/LayerStores.h"
-
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/IStyleEditor.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/hostkit/LayerList.h>
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/hostkit/StyleEditorPlugin.h>
+#include <orvane/samples/BgrColour.h>
+#include <orvane/store/ILayerStore.h>
+#include <orvane/store/opening/LayerStores.h>
 
 #include <QPainter>
 #include <QWidget>

@@ -2,7 +2,7 @@
 // A host whose layers are a std::vector and no file: the layer control edits the lines that it draws.
 #include "LinesWindow.h"
 
-#include <OrvaneShellLib/RunTimeError.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
 

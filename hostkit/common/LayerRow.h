@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/LayerColumns.h>
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/LayerColumns.h>
+#include <orvane/OrvaneShellLib/Value.h>
 
 #include <QtGlobal>
 

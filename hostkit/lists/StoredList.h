@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/lists/ListedLayer.h"
+#include <orvane/hostkit/lists/ListedLayer.h>
 
 #include <optional>
 #include <vector>

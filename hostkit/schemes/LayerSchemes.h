@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/schemes/SchemeTables.h"
+#include <orvane/hostkit/schemes/SchemeTables.h>
 
 #include <QCoreApplication>
 #include <QSet>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/LayerColumns.h>
+#include <orvane/OrvaneShellLib/LayerColumns.h>
 
 #include <QString>
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/schemes/LayerMatch.h"
-#include "hostkit/schemes/SchemeColumns.h"
-
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/Value.h>
+#include <orvane/hostkit/schemes/LayerMatch.h>
+#include <orvane/hostkit/schemes/SchemeColumns.h>
 
 #include <QByteArray>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/schemes/SchemeDocument.h"
+#include <orvane/hostkit/schemes/SchemeDocument.h>
 
 #include <QString>
 #include <QtGlobal>

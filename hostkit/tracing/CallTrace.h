@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/tracing/TraceText.h"
+#include <orvane/hostkit/tracing/TraceText.h>
 
 #include <QString>
 #include <QStringList>

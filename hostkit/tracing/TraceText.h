@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IConflictQuestion.h>
-#include <OrvaneShellLib/IStyleEditorClient.h>
-#include <OrvaneShellLib/MonochromeBitmap.h>
-#include <OrvaneShellLib/Value.h>
+#include <orvane/OrvaneShellLib/IConflictQuestion.h>
+#include <orvane/OrvaneShellLib/IStyleEditorClient.h>
+#include <orvane/OrvaneShellLib/MonochromeBitmap.h>
+#include <orvane/OrvaneShellLib/Value.h>
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/ForwardingClient.h>
+#include <orvane/OrvaneShellLib/ForwardingClient.h>
 
 #include <memory>
 

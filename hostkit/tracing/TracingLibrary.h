@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
 
 #include <memory>
 #include <vector>

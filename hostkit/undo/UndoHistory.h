@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/undo/IUndoStep.h"
+#include <orvane/hostkit/undo/IUndoStep.h>
 
 #include <QObject>
 

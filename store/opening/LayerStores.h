@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/StoreOptions.h"
+#include <orvane/store/StoreOptions.h>
 
 #include <QString>
 

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 // A host author's tests.
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/hostkit/StyleEditorPlugin.h>
+#include <orvane/hosttests/HostTests.h>
+#include <orvane/hosttests/StoreContents.h>
+#include <orvane/store/ILayerStore.h>
+#include <orvane/store/opening/LayerStores.h>
+
 #include <QApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-#include <hostkit/StandardClient.h>
-#include <hostkit/StandardShellServices.h>
-#include <hostkit/StyleEditorPlugin.h>
-#include <hosttests/HostTests.h>
-#include <hosttests/StoreContents.h>
-#include <store/ILayerStore.h>
-#include <store/opening/LayerStores.h>
 
 using namespace Orvane;
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The same with the component linked in.
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/LinkedComponent.h>
+#include <orvane/OrvaneShellLib/IStyleEditor.h>
+#include <orvane/OrvaneShellLib/LinkedComponent.h>
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/store/ILayerStore.h>
+#include <orvane/store/opening/LayerStores.h>
 
 #include <QApplication>
 
 #include <cstdio>
-#include <hostkit/StandardClient.h>
-#include <hostkit/StandardShellServices.h>
-#include <store/ILayerStore.h>
-#include <store/opening/LayerStores.h>
 
 using namespace Orvane;
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/IStyleEditor.h>
+#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/hostkit/LayerList.h>
+#include <orvane/hostkit/StandardClient.h>
+#include <orvane/hostkit/StandardShellServices.h>
+#include <orvane/hostkit/StyleEditorPlugin.h>
+#include <orvane/store/ILayerStore.h>
+#include <orvane/store/opening/LayerStores.h>
 
 #include <QApplication>
 
 #include <cstdio>
-#include <hostkit/LayerList.h>
-#include <hostkit/StandardClient.h>
-#include <hostkit/StandardShellServices.h>
-#include <hostkit/StyleEditorPlugin.h>
-#include <store/ILayerStore.h>
-#include <store/opening/LayerStores.h>
 
 using namespace Orvane;
 
@@ -21,7 +21,10 @@ int main(int argc, char** argv)
     StandardShellServices services;
     StandardClient client(*database, services);
     LayerList list(*database, client);
-    list.Update({{.id = 1, .name = QStringLiteral("Roads")}});
+    ListedLayer roads;
+    roads.id = 1;
+    roads.name = QStringLiteral("Roads");
+    list.Update({roads});
     StyleEditorPlugin plugin(
         QStringLiteral(PLUGIN_FOLDER "/") + QLatin1String(StyleEditorPlugin::DefaultName));
     plugin.Library().Initialise(&client);
