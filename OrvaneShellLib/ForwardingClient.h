@@ -32,7 +32,7 @@ protected:
     {
         m_client.WriteSetting(form, key, value);
     }
-    ILayerDatabase& IStyleEditorClient_Database() override { return m_client.Database(); }
+    ILayerDatabase& IStyleEditorClient_Database() override { return m_client.GetDatabase(); }
     std::unique_ptr<IRecordset> IStyleEditorClient_LayersTable() override { return m_client.LayersTable(); }
     qint32 IStyleEditorClient_StoredScaleToDialog(double storedScale) const override
     {

@@ -69,7 +69,7 @@ public:
     }
 
     /// The layer database. The host owns it and keeps it alive as long as the client.
-    ILayerDatabase& Database() { return IStyleEditorClient_Database(); }
+    ILayerDatabase& GetDatabase() { return IStyleEditorClient_Database(); }
 
     /// A table cursor over Layers, never nullptr. The caller owns it. To read or change a group, the
     /// component takes one cursor for all members and seeks each of them with it; BeginLayerEdit,

@@ -23,7 +23,7 @@ public:
 
     IHostUnderTest& Host() { return m_host; }
     IStyleEditorClient& Client() { return m_host.Client(); }
-    ILayerDatabase& Database() { return m_host.Client().Database(); }
+    ILayerDatabase& Database() { return m_host.Client().GetDatabase(); }
     IShellServices& Services();
     /// What the layer database held at first.
     const HostContents& Contents() const { return m_contents; }

@@ -63,7 +63,7 @@ void WriteLayer(IStyleEditorClient& client, IRecordset& layers, qint32 layerID, 
 
 void WriteMembers(IStyleEditorClient& client, qint32 groupID, const ColumnValues& edits)
 {
-    const auto members = IDsIn(client.Database(), LayerQueries::MemberLayerIDs(groupID), "LayerID");
+    const auto members = IDsIn(client.GetDatabase(), LayerQueries::MemberLayerIDs(groupID), "LayerID");
     const auto layers = OpenLayersByID(client);
     for (const qint32 layerID : members)
         WriteLayer(client, *layers, layerID, edits);
@@ -121,9 +121,9 @@ ColumnValues LoadLayer(IStyleEditorClient& client, qint32 layerID)
 
 std::vector<ColumnValues> LoadGroup(IStyleEditorClient& client, qint32 groupID)
 {
-    Transaction transaction(client.Database());
+    Transaction transaction(client.GetDatabase());
     const std::vector<qint32> members
-        = IDsIn(client.Database(), LayerQueries::MemberLayerIDs(groupID), "LayerID");
+        = IDsIn(client.GetDatabase(), LayerQueries::MemberLayerIDs(groupID), "LayerID");
     std::vector<ColumnValues> found;
     found.reserve(members.size());
     {
@@ -148,7 +148,7 @@ void ApplyToLayer(IStyleEditorClient& client, qint32 layerID, const ColumnValues
 
 void ApplyToGroup(IStyleEditorClient& client, qint32 groupID, const ColumnValues& edits)
 {
-    Transaction transaction(client.Database());
+    Transaction transaction(client.GetDatabase());
     WriteMembers(client, groupID, edits);
     transaction.Commit();
     client.RedrawMap();
@@ -166,7 +166,7 @@ void SetCode(IStyleEditorClient& client, qint32 layerID, double code)
 
 void SetExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded)
 {
-    const auto groups = OpenGroupsByID(client.Database());
+    const auto groups = OpenGroupsByID(client.GetDatabase());
     if (!SeekID(*groups, groupID))
         return;
     groups->Edit();

@@ -31,7 +31,7 @@ bool SeekID(IRecordset& table, qint32 id)
 std::vector<qint32> ReadMemberLayerIDs(IStyleEditorClient& client, qint32 groupID)
 {
     std::vector<qint32> layerIDs;
-    const auto members = client.Database().OpenRecordset(LayerQueries::MemberLayerIDs(groupID));
+    const auto members = client.GetDatabase().OpenRecordset(LayerQueries::MemberLayerIDs(groupID));
     for (; !members->AtEOF(); members->MoveNext())
         layerIDs.push_back(IntegerColumn(*members, "LayerID"));
     members->Close();
@@ -46,7 +46,7 @@ bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID)
 
 void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded)
 {
-    const auto groups = OpenGroupsByID(client.Database());
+    const auto groups = OpenGroupsByID(client.GetDatabase());
     if (!SeekID(*groups, groupID))
         return;
     groups->Edit();

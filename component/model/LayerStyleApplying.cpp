@@ -173,7 +173,7 @@ ApplyResult ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const St
 
 ApplyResult ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
 {
-    Transaction transaction(client.Database());
+    Transaction transaction(client.GetDatabase());
     ApplyResult result = WriteMembers(client, groupID, edits);
     if (result.conflicts.empty())
         transaction.Commit();

@@ -83,7 +83,7 @@ ReadingResult LoadLayerStyle(IStyleEditorClient& client, qint32 layerID, LayerSt
 
 ReadingResult LoadGroupStyle(IStyleEditorClient& client, qint32 groupID, LayerStyle& style)
 {
-    Transaction transaction(client.Database());
+    Transaction transaction(client.GetDatabase());
     LayerStyle common;
     ReadingResult result = LoadMembers(client, ReadMemberLayerIDs(client, groupID), common);
     transaction.Commit();

@@ -79,7 +79,7 @@ class TreeGathering
 {
 public:
     TreeGathering(IStyleEditorClient& client, const TreeTexts& texts)
-        : m_client(client), m_texts(texts), m_groups(OpenGroupsByID(client.Database()))
+        : m_client(client), m_texts(texts), m_groups(OpenGroupsByID(client.GetDatabase()))
     {
     }
 
@@ -137,7 +137,7 @@ private:
 TreeReading
 LoadLayerTree(IStyleEditorClient& client, const std::optional<QString>& groupFilter, const TreeTexts& texts)
 {
-    const auto rows = client.Database().OpenRecordset(LayerQueries::Tree(groupFilter));
+    const auto rows = client.GetDatabase().OpenRecordset(LayerQueries::Tree(groupFilter));
     TreeGathering gathering(client, texts);
     for (; !rows->AtEOF(); rows->MoveNext())
         gathering.AddRow(*rows);
@@ -148,7 +148,7 @@ ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filt
 {
     std::vector<LayerEntry> layers;
     RowFaults faults;
-    const auto rows = client.Database().OpenRecordset(LayerQueries::LayerList());
+    const auto rows = client.GetDatabase().OpenRecordset(LayerQueries::LayerList());
     for (; !rows->AtEOF(); rows->MoveNext()) {
         faults.EndRow();
         const std::optional<qint32> layerID = IDIn(*rows, "LayerID", faults);
@@ -160,7 +160,7 @@ ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filt
 
 std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerID)
 {
-    const auto rows = client.Database().OpenRecordset(LayerQueries::OneLayer(layerID));
+    const auto rows = client.GetDatabase().OpenRecordset(LayerQueries::OneLayer(layerID));
     if (rows->AtEOF())
         return std::nullopt;
     RowFaults faults;

@@ -74,7 +74,7 @@ TEST_F(Forwarding, TheClientPassesOnWhatItIsTold)
 TEST_F(Forwarding, TheClientGivesTheOthersAnswers)
 {
     EXPECT_EQ(client.GetShellServices(), &host.Shell());
-    EXPECT_EQ(&client.Database(), &host.Database());
+    EXPECT_EQ(&client.GetDatabase(), &host.GetDatabase());
     EXPECT_EQ(client.ReadSetting(nullptr, QStringLiteral("key")), "stored");
     EXPECT_EQ(client.StoredScaleToDialog(5000), 5);
     EXPECT_EQ(client.DialogScaleToStored(5), 5000);
@@ -103,7 +103,7 @@ TEST_F(Forwarding, TheClientHandsOutTheOthersCursorForAnEdit)
 
 TEST_F(Forwarding, TheDatabasePassesEverythingOn)
 {
-    ForwardingDatabase database(host.Database());
+    ForwardingDatabase database(host.GetDatabase());
     database.BeginTrans();
     database.CommitTrans();
     database.Rollback();

@@ -37,7 +37,7 @@ TEST_F(TransactionOf, KeepsWhatWasCommitted)
 {
     host.AddLayer({.id = 17, .visible = true});
     {
-        Transaction transaction(host.Database());
+        Transaction transaction(host.GetDatabase());
         HideLayer();
         transaction.Commit();
     }
@@ -49,7 +49,7 @@ TEST_F(TransactionOf, UndoesWhatWasNotCommitted)
 {
     host.AddLayer({.id = 17, .visible = true});
     {
-        Transaction transaction(host.Database());
+        Transaction transaction(host.GetDatabase());
         HideLayer();
     }
     EXPECT_THAT(host.LayerColumn(17, "Visible"), IsFlag(true));
@@ -59,7 +59,7 @@ TEST_F(TransactionOf, RollsBackAfterACommitThatRaised)
 {
     FailingClient client(host, {"CommitTrans", 1, RunTimeError(10001, "disk full")});
     const auto error = RaisedBy([&] {
-        Transaction transaction(client.Database());
+        Transaction transaction(client.GetDatabase());
         transaction.Commit();
     });
     ASSERT_TRUE(error);
@@ -70,7 +70,7 @@ TEST_F(TransactionOf, RollsBackAfterACommitThatRaised)
 TEST_F(TransactionOf, DoesNotRollBackWhatNeverBegan)
 {
     FailingClient client(host, {"BeginTrans", 1, RunTimeError(10001, "locked")});
-    EXPECT_EQ(ErrorOf([&] { Transaction transaction(client.Database()); }), 10001);
+    EXPECT_EQ(ErrorOf([&] { Transaction transaction(client.GetDatabase()); }), 10001);
     EXPECT_TRUE(host.Log().Trace().isEmpty());
 }
 
@@ -78,7 +78,7 @@ TEST_F(TransactionOf, AFailingRollbackDoesNotHideTheErrorBefore)
 {
     FailingClient client(host, {"Rollback", 1, RunTimeError(10001, "connection lost")});
     const int number = ErrorOf([&] {
-        Transaction transaction(client.Database());
+        Transaction transaction(client.GetDatabase());
         throw RunTimeError(10002, "first");
     });
     EXPECT_EQ(number, 10002);

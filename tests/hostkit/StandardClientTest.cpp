@@ -42,7 +42,7 @@ protected:
 TEST_F(Client, HandsOutItsDatabaseAndServices)
 {
     EXPECT_EQ(Host().GetShellServices(), &m_services);
-    EXPECT_EQ(&Host().Database(), &Database());
+    EXPECT_EQ(&Host().GetDatabase(), &Database());
 }
 
 /// A host that shows editors in its own window and calls nothing of the base class.

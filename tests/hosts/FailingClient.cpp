@@ -5,7 +5,7 @@ namespace Orvane::Testing {
 
 FailingClient::FailingClient(IStyleEditorClient& client, PlannedFailure failure)
     : ForwardingClient(client), m_failure(std::move(failure)),
-      m_database(std::make_unique<FailingDatabase>(client.Database(), m_failure))
+      m_database(std::make_unique<FailingDatabase>(client.GetDatabase(), m_failure))
 {
 }
 

@@ -29,7 +29,7 @@ private:
 } // namespace
 
 PatchingClient::PatchingClient(IStyleEditorClient& client, ColumnPatches patches)
-    : ForwardingClient(client), m_patches(std::move(patches)), m_database(client.Database(), m_patches)
+    : ForwardingClient(client), m_patches(std::move(patches)), m_database(client.GetDatabase(), m_patches)
 {
 }
 

@@ -12,7 +12,7 @@ namespace {
 class FlatClient : public ForwardingClient
 {
 public:
-    explicit FlatClient(IStyleEditorClient& client) : ForwardingClient(client), m_database(client.Database())
+    explicit FlatClient(IStyleEditorClient& client) : ForwardingClient(client), m_database(client.GetDatabase())
     {
     }
 
@@ -50,7 +50,7 @@ class StrictClient : public ForwardingClient
 {
 public:
     explicit StrictClient(IStyleEditorClient& client)
-        : ForwardingClient(client), m_database(client.Database())
+        : ForwardingClient(client), m_database(client.GetDatabase())
     {
     }
 

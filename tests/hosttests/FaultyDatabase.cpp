@@ -31,7 +31,7 @@ void FaultyDatabaseHost::FaultyDatabase::ILayerDatabase_Rollback()
 }
 
 FaultyDatabaseHost::FaultyClient::FaultyClient(IStyleEditorClient& client, DatabaseFaults faults)
-    : ForwardingClient(client), m_database(client.Database(), std::move(faults))
+    : ForwardingClient(client), m_database(client.GetDatabase(), std::move(faults))
 {
 }
 

@@ -15,7 +15,7 @@ namespace {
 // A cursor on the node's row; nullptr when there is none.
 std::unique_ptr<IRecordset> RowOf(IStyleEditorClient& client, const NodeReference& node)
 {
-    auto table = node.isGroup ? OpenGroupsByID(client.Database()) : OpenLayersByID(client);
+    auto table = node.isGroup ? OpenGroupsByID(client.GetDatabase()) : OpenLayersByID(client);
     return SeekID(*table, node.isGroup ? node.groupID : node.layerID) ? std::move(table) : nullptr;
 }
 
@@ -41,7 +41,7 @@ QString ReadNodeName(IStyleEditorClient& client, const NodeReference& node)
 
 void StoreGroupsExpanded(IStyleEditorClient& client, const std::vector<qint32>& groupIDs, bool expanded)
 {
-    Transaction transaction(client.Database());
+    Transaction transaction(client.GetDatabase());
     for (qint32 groupID : groupIDs)
         StoreGroupExpanded(client, groupID, expanded);
     transaction.Commit();

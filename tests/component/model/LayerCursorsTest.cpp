@@ -27,7 +27,7 @@ TEST(LayerCursors, AGroupIsSoughtOnItsIndexInTheDatabase)
 {
     MemoryHost host;
     host.AddGroup({.id = 3});
-    const auto groups = OpenGroupsByID(host.Database());
+    const auto groups = OpenGroupsByID(host.GetDatabase());
     EXPECT_TRUE(SeekID(*groups, 3));
     EXPECT_FALSE(SeekID(*groups, 4));
     EXPECT_THAT(

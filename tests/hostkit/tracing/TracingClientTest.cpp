@@ -64,14 +64,14 @@ TEST_F(ClientTrace, ShowsQueryTextsAndTheRowsRead)
 {
     m_host.AddLayer({.id = 17, .name = QStringLiteral("Roads")});
     const QString query = QStringLiteral("SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name");
-    const auto rows = Client().Database().OpenRecordset(query);
+    const auto rows = Client().GetDatabase().OpenRecordset(query);
     EXPECT_THAT(rows->Field("Name"), IsValue(QStringLiteral("Roads")));
     rows->MoveNext();
     EXPECT_TRUE(rows->AtEOF());
     EXPECT_THAT(
         Lines(),
         ElementsAre(
-            QStringLiteral("client.Database()"), QStringLiteral("database.OpenRecordset(\"%1\")").arg(query),
+            QStringLiteral("client.GetDatabase()"), QStringLiteral("database.OpenRecordset(\"%1\")").arg(query),
             QStringLiteral("recordset.Field(\"Name\") -> \"Roads\""), QStringLiteral("recordset.MoveNext()"),
             QStringLiteral("recordset.AtEOF() -> true")));
 }
@@ -86,9 +86,9 @@ TEST_F(ClientTrace, ShowsASeekThatFindsNothing)
 
 TEST_F(ClientTrace, ShowsTransactions)
 {
-    Client().Database().BeginTrans();
-    Client().Database().CommitTrans();
-    Client().Database().Rollback();
+    Client().GetDatabase().BeginTrans();
+    Client().GetDatabase().CommitTrans();
+    Client().GetDatabase().Rollback();
     const QStringList lines = Lines();
     EXPECT_EQ(
         lines.filter(QStringLiteral("database.")),
