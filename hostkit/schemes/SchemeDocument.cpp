@@ -69,7 +69,7 @@ bool IsWholeInRange(double number)
 }
 
 // The value if the column can hold it, Empty if it is missing; nothing for any other value.
-std::optional<Value> ColumnValue(const QJsonValue& json, const LayerColumn& column)
+std::optional<Value> JsonColumnValue(const QJsonValue& json, const LayerColumn& column)
 {
     if (json.isUndefined())
         return Value();
@@ -102,7 +102,7 @@ SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
         layer.identity.code = code.toDouble();
     for (std::size_t number = 0; number < SchemeColumns::Count; ++number) {
         const LayerColumn& column = SchemeColumns::All.at(number);
-        const std::optional<Value> value = ColumnValue(object.value(QLatin1String(column.name)), column);
+        const std::optional<Value> value = JsonColumnValue(object.value(QLatin1String(column.name)), column);
         check(value.has_value(), column.name);
         layer.values.at(number) = *value;
     }
