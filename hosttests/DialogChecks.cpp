@@ -27,13 +27,18 @@ class FailingRename : public ForwardingClient
     }
 };
 
+QString ListedName(CheckRun& run, qint32 layerID)
+{
+    return run.Client().LayerDisplayName(layerID);
+}
+
 QString ListedLayers(CheckRun& run)
 {
     QStringList names;
     for (const qint32 id :
          {TownLayer::Airports, TownLayer::Drafts, TownLayer::Quoted, TownLayer::Rivers, TownLayer::Roads,
           TownLayer::Zoning})
-        names << ToText(run.Contents().Layer(id).Get("Name"));
+        names << ListedName(run, id);
     return names.join(QLatin1Char('|'));
 }
 
@@ -50,10 +55,20 @@ void CheckDialogList(CheckRun& run, const QString& component)
 void CheckDialogGroups(CheckRun& run, const QString& component)
 {
     DialogSession session(run, run.Client(), component, true);
-    const QString quoted = ToText(run.Contents().Layer(TownLayer::Quoted).Get("Name"));
+    const QString roads = ListedName(run, TownLayer::Roads);
+    const QStringList expected{
+        QStringLiteral("Traffic"),
+        ListedName(run, TownLayer::Airports),
+        roads,
+        QStringLiteral("Water"),
+        roads,
+        ListedName(run, TownLayer::Zoning),
+        ListedName(run, TownLayer::Rivers),
+        QStringLiteral(u"King's 'Cross' \u9053"),
+        ListedName(run, TownLayer::Quoted)};
     run.ExpectText(
         QStringLiteral("the dialog's groups and layers"), session.Listed().join(QLatin1Char('|')),
-        QStringLiteral(u"Traffic|airports|roads|Water|roads|Zoning|Rivers|King's 'Cross' \u9053|") + quoted);
+        expected.join(QLatin1Char('|')));
     session.Choose(QStringLiteral("Water"));
     session.Choose(QStringLiteral("Traffic"));
 }
@@ -66,7 +81,7 @@ Value DialogVisibleOf(CheckRun& run, qint32 layerID)
 void CheckDialogApply(CheckRun& run, const QString& component)
 {
     DialogSession session(run, run.Client(), component, false);
-    session.Choose(QStringLiteral("Rivers"));
+    session.Choose(ListedName(run, TownLayer::Rivers));
     session.Tick("chkVisible");
     run.Expect(session.Form().HasPendingEdits(), QStringLiteral("a click on Visible is no edit"));
     session.Apply();
@@ -92,11 +107,14 @@ void CheckDialogRename(CheckRun& run, const QString& component)
     DialogSession session(run, run.Client(), component, false);
     session.Form().SetLayerName(TownLayer::Rivers, QStringLiteral("Brooks' \"own\""));
     run.Expect(
-        session.Listed().contains(QStringLiteral("Brooks' \"own\"")),
+        ListedName(run, TownLayer::Rivers).contains(QStringLiteral("Brooks' \"own\"")),
+        QStringLiteral("LayerDisplayName has not the new name"));
+    run.Expect(
+        session.Listed().contains(ListedName(run, TownLayer::Rivers)),
         QStringLiteral("the dialog does not list the new name"));
     session.Form().Refresh();
     run.Expect(
-        session.Listed().contains(QStringLiteral("Brooks' \"own\"")),
+        session.Listed().contains(ListedName(run, TownLayer::Rivers)),
         QStringLiteral("the dialog does not list the new name after Refresh"));
 }
 

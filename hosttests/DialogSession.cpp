@@ -63,7 +63,13 @@ DialogSession::DialogSession(
     QApplication::processEvents();
 }
 
-DialogSession::~DialogSession() = default;
+// The host may have loaded the component itself, which then still uses what the session leaves behind.
+DialogSession::~DialogSession()
+{
+    if (m_plugin.Library().GetStyleEditor(EditorID) == m_editor)
+        m_form->UnloadWithoutApply();
+    m_plugin.Library().Initialise(&m_run.Client());
+}
 
 QWidget& DialogSession::Window() const
 {
