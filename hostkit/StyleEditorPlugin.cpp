@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -49,7 +50,10 @@ QStringList StyleEditorPlugin::SearchFolders()
     QStringList folders{
         program.path(), program.absoluteFilePath(QStringLiteral("../lib")),
         program.absoluteFilePath(QStringLiteral("../lib/orvane"))};
-    return folders + QCoreApplication::libraryPaths();
+    folders += QCoreApplication::libraryPaths();
+    for (const QString& share : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+        folders << QDir::cleanPath(share + QStringLiteral("/../lib/orvane"));
+    return folders;
 }
 
 void StyleEditorPlugin::Load(const QString& pathOrName)

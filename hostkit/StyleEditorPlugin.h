@@ -47,7 +47,8 @@ public:
     QString FileName() const { return m_file.fileName(); }
 
     /// Where a plain name is looked for, in this order: the program's folder, ../lib and ../lib/orvane
-    /// relative to it, then Qt's library paths.
+    /// relative to it; Qt's library paths; then lib/orvane beside the system's folders for data, where packages
+    /// put the component, such as /usr/lib/orvane.
     static QStringList SearchFolders();
 
 private:

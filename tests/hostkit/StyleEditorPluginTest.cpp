@@ -120,6 +120,21 @@ TEST(StyleEditorPlugin, SaysWhatIsWrongWithAFoundFileNotWhereItWasNotFound)
     EXPECT_FALSE(complaint.contains(QCoreApplication::applicationDirPath())) << qPrintable(complaint);
 }
 
+TEST(StyleEditorPlugin, LooksAtLastWhereTheSystemInstallsIt)
+{
+    QTemporaryDir folder;
+    QDir(folder.path()).mkpath(QStringLiteral("lib/orvane"));
+    QFile file(folder.filePath(QStringLiteral("lib/orvane/libInstalledComponent.so")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("not a library");
+    file.close();
+    const QByteArray before = qgetenv("XDG_DATA_DIRS");
+    qputenv("XDG_DATA_DIRS", folder.filePath(QStringLiteral("share")).toLocal8Bit());
+    const QString complaint = LoadComplaint(QStringLiteral("InstalledComponent"));
+    before.isEmpty() ? qunsetenv("XDG_DATA_DIRS") : qputenv("XDG_DATA_DIRS", before);
+    EXPECT_TRUE(complaint.contains(file.fileName())) << qPrintable(complaint);
+}
+
 TEST(StyleEditorPlugin, RefusesAFileThatIsNoLibrary)
 {
     QTemporaryDir folder;
