@@ -23,6 +23,7 @@ public:
     {
         setCentralWidget(m_map);
         addDockWidget(Qt::RightDockWidgetArea, m_dock);
+        m_map->setMinimumWidth(150);
         menuBar()->addMenu("&View")->addAction(m_dock->toggleViewAction());
     }
 
@@ -31,7 +32,8 @@ public:
     void Draw(ILayerStore& layers)
     {
         m_map->clear();
-        for (const auto row = layers.OpenRecordset("Layers"); !row->AtEOF(); row->MoveNext())
+        for (const auto row = layers.OpenRecordset("SELECT Name FROM Layers ORDER BY Name"); !row->AtEOF();
+             row->MoveNext())
             m_map->addItem(ToTextOrNone(row->Field("Name")));
     }
 
@@ -83,7 +85,7 @@ private:
     QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override
     {
         const QString name = StandardClient::IStyleEditorClient_LayerDisplayName(layerID);
-        return QString("%1 (%2)").arg(name).arg(layerID);
+        return name + QString(" (%1)").arg(layerID);
     }
     std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override
     {

@@ -2,7 +2,7 @@
 // A main window with the layer control docked in it.
 //
 //     dock_host map.ovl
-#include "examples/dock_host/DockHost.h"
+#include "DockHost.h"
 
 #include <orvane/OrvaneShellLib/IStyleEditor.h>
 #include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>

@@ -56,8 +56,12 @@ expect 0 cmake --build "$folder/consumer"
 expect 0 "$folder/consumer/consumer"
 grep -q "was shown" "$folder/out" || fail "the consumer saw no layer control"
 expect 0 "$folder/consumer/linked_consumer"
-expect 0 "$folder/consumer/host_tests"
-grep -q 'MyHost_Dialog.ItListsAndShowsAllLayers' "$folder/out" || fail "the tests for hosts did not run"
+expect 0 cmake -S "$prefix/share/doc/liborvane-dev/examples" -B "$folder/examples" -DCMAKE_PREFIX_PATH="$prefix"
+expect 0 cmake --build "$folder/examples"
+expect 0 env XDG_DATA_DIRS="$prefix/share" "$folder/examples/host_tests"
+for host in File Dock Vector; do
+    grep -q "${host}Host_Dialog.ItListsAndShowsAllLayers" "$folder/out" || fail "the tests for hosts did not run: $host"
+done
 expect 1 cmake -S "$source/tests/packaging/consumer" -B "$folder/unknown" -DCMAKE_PREFIX_PATH="$prefix" \
     -DCONSUMER_COMPONENT=Nonsense
 grep -q 'there is no component "Nonsense"' "$folder/out" || fail "an unknown component is not named"

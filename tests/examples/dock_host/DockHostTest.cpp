@@ -83,6 +83,19 @@ TEST_F(DockHost, ShowsTheEditorInItsDockWithItsOwnNames)
     EXPECT_TRUE(Editor()->Visible());
 }
 
+TEST_F(DockHost, DrawsTheLayersAgainWhenOneIsChanged)
+{
+    auto* map = dynamic_cast<QListWidget*>(m_window.centralWidget());
+    m_window.Draw(Database());
+    ASSERT_EQ(map->count(), 2);
+    EXPECT_EQ(map->item(0)->text(), QStringLiteral("Rivers"));
+    Database().Execute(QStringLiteral("UPDATE Layers SET Name = 'Brooks' WHERE LayerID = 16"));
+    ClickLayer(QStringLiteral("Roads (17)"));
+    ClickVisible();
+    QTest::mouseClick(Control("cmdApply"), Qt::LeftButton);
+    EXPECT_EQ(map->item(0)->text(), QStringLiteral("Brooks"));
+}
+
 TEST_F(DockHost, RefusesUndoWhileTheDockedEditorHoldsEdits)
 {
     ClickLayer(QStringLiteral("Roads (17)"));
