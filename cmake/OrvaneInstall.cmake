@@ -55,6 +55,14 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/OrvaneConfigVersion.cmak
 install(FILES "${PROJECT_BINARY_DIR}/OrvaneConfig.cmake" "${PROJECT_BINARY_DIR}/OrvaneConfigVersion.cmake"
   DESTINATION "${config_folder}" COMPONENT development)
 
+# The pages for host authors, and the examples, which are a project of their own.
+set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/liborvane-dev")
+install(FILES docs/host_guide.md docs/host_tests.md docs/public_headers.md
+  DESTINATION "${documents}" COMPONENT development)
+install(FILES examples/CMakeLists.txt DESTINATION "${documents}/examples" COMPONENT development)
+install(DIRECTORY examples/minimal_host examples/vector_host examples/dock_host examples/host_tests
+  DESTINATION "${documents}/examples" COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp")
+
 # The component, with its message files next to it.
 install(TARGETS OrvaneLayerControl LIBRARY DESTINATION "${ORVANE_PLUGIN_DESTINATION}" COMPONENT plugin)
 foreach(language IN LISTS ORVANE_LANGUAGES)

@@ -10,6 +10,7 @@ packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev qt6-translations
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
+packages_package=(debootstrap lintian xvfb openbox xdotool imagemagick)
 packages_bench=(libbenchmark-dev)
 packages_check=(clang-format clang-tidy libbenchmark-dev python3)
 

@@ -1,57 +1,120 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# usage: package_test.sh PACKAGE_DIRECTORY ROOT_DIRECTORY
-# Installs the packages into a bare Debian 12 and uses them there: as a user, and as a host author who builds the
-# installed examples. The bare system is kept as ROOT_DIRECTORY/base.tar for the next time.
+# usage: package_test.sh PACKAGE_DIRECTORY WORK_DIRECTORY
+# Installs the packages into a bare Debian 12 and uses them there: as a host author, who builds the installed examples,
+# runs them and tests them, and as a user. The bare system and the fetched packages are kept for the next time;
+# pictures of the examples go to the work directory.
 set -euo pipefail
 here=$(dirname "$(readlink -f "$0")")
 . "$here/common.sh"
+. "$here/virtual_desktop.sh"
 packages=$(readlink -f "$1")
 mkdir -p "$2"
-base=$(readlink -f "$2")/base.tar
-root=$(readlink -f "$2")/root
+work=$(readlink -f "$2")
+base=$work/base.tar root=$work/root log=$work/log
 site=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | head -n 1)
+mounts=()
 
-inside() { as_root chroot "$root" env DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen "$@"; }
+inside() {
+    as_root chroot "$root" env DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 HOME=/root "DISPLAY=${DISPLAY:-}" "$@"
+}
+
+fail() {
+    tail -n 30 "$log" >&2
+    echo "package: $*" >&2
+    exit 1
+}
 
 leave() {
-    mountpoint -q "$root/proc" && as_root umount "$root/proc"
-    as_root rm -rf "$root"
+    local place
+    finish_desktop
+    for place in "${mounts[@]}"; do as_root umount "$place"; done
+    as_root rm -rf --one-file-system "$root"
+}
+
+attach() { # attach PLACE MOUNT_ARGUMENT...
+    local place=$root/$1
+    shift
+    as_root mkdir -p "$place"
+    as_root mount "$@" "$place"
+    mounts=("$place" "${mounts[@]}")
 }
 
 make_base() {
     step "Making a bare system"
-    as_root debootstrap --variant=minbase bookworm "$root" "$site" >"$base.log"
+    as_root rm -rf "$root"
+    as_root debootstrap --variant=minbase bookworm "$root" "$site" >"$log" 2>&1 || fail "no bare system was made"
     as_root tar -C "$root" -cf "$base.part" .
     as_root mv "$base.part" "$base"
     as_root rm -rf "$root"
 }
 
+enter() {
+    mkdir -p "$root" "$work/archives"
+    as_root tar -C "$root" -xf "$base"
+    as_root cp -a /etc/apt/. "$root/etc/apt/" # what this machine needs to reach its packages
+    as_root cp /etc/resolv.conf "$root/etc/resolv.conf"
+    echo force-unsafe-io | as_root tee "$root/etc/dpkg/dpkg.cfg.d/quick" >/dev/null
+    as_root rm -f "$root/etc/apt/apt.conf.d/docker-clean"
+    as_root cp "$packages"/*.deb "$root/tmp/"
+    attach proc -t proc proc
+    attach var/cache/apt/archives --bind "$work/archives"
+    inside apt-get update -q >"$log" 2>&1 || fail "the packages of Debian cannot be reached"
+}
+
+install_packages() { # install_packages PACKAGE...
+    inside sh -c "apt-get install -y -q --no-install-recommends $*" >>"$log" 2>&1 || fail "cannot be installed: $*"
+}
+
+# wait_window TITLE: until a window with this title is on the screen.
+wait_window() {
+    for _ in $(seq 300); do
+        [ -z "$(xdotool search --onlyvisible --name "$1" 2>/dev/null)" ] || return 0
+        sleep 0.1
+    done
+    return 1
+}
+
+# show_host TITLE NAME [ARGUMENT]: it must show a window with that title and live on.
+show_host() {
+    local title=$1 name=$2 pid
+    inside sh -c "cd /tmp && exec /tmp/examples/$name ${3:-}" >>"$log" 2>&1 &
+    pid=$!
+    own_processes=("$pid" "${own_processes[@]}")
+    wait_window "$title" || fail "$name shows no window"
+    sleep 1 # until it has drawn itself
+    import -window root "$work/$name.png"
+    kill "$pid" 2>/dev/null || fail "$name has ended"
+    wait "$pid" || true
+    own_processes=("${own_processes[@]:1}")
+    echo "$name: $work/$name.png"
+}
+
+rm -f "$log"
 trap leave EXIT
 [ -e "$base" ] || make_base
-mkdir -p "$root"
-as_root tar -C "$root" -xf "$base"
-as_root cp -a /etc/apt/. "$root/etc/apt/" # what this machine needs to reach its packages
-as_root cp /etc/resolv.conf "$root/etc/resolv.conf"
-as_root mount -t proc proc "$root/proc"
-as_root cp "$packages"/*.deb "$root/tmp/"
+enter
 
-step "Installing the packages into it"
-inside apt-get update -q >"$base.log" 2>&1
-inside sh -c 'apt-get install -y -q --no-install-recommends /tmp/liborvane-dev_*.deb /tmp/orvane-layer-control_*.deb \
-    g++ cmake ninja-build' >>"$base.log" 2>&1 || { tail -n 30 "$base.log" >&2; exit 1; }
-! inside dpkg -s libgdal32 >/dev/null 2>&1 || { echo "package_test: a host author got GDAL" >&2; exit 1; }
+step "Installing what a host author needs"
+install_packages '/tmp/liborvane-dev_*.deb' '/tmp/orvane-layer-control_*.deb' g++ cmake make libgtest-dev
+! inside dpkg -s libgdal32 >/dev/null 2>&1 || fail "a host author got GDAL"
 
-step "Building the installed examples there"
-inside cmake -G Ninja -S /usr/share/doc/liborvane-dev/examples -B /tmp/examples >>"$base.log" 2>&1 ||
-    { tail -n 30 "$base.log" >&2; exit 1; }
-inside cmake --build /tmp/examples
-inside ctest --test-dir /tmp/examples --output-on-failure
+step "Building and testing the installed examples"
+inside cmake -S /usr/share/doc/liborvane-dev/examples -B /tmp/examples >>"$log" 2>&1 || fail "cmake failed"
+inside cmake --build /tmp/examples -j 2 >>"$log" 2>&1 || fail "the examples cannot be built"
+inside ctest --test-dir /tmp/examples --output-on-failure 2>&1 | tail -n 20
 
-step "Using Orvane there"
-inside sh -c 'apt-get install -y -q --no-install-recommends /tmp/orvane_*.deb' >>"$base.log" 2>&1
-inside orvane --version
-inside apt-get purge -y -q orvane orvane-layer-control liborvane-dev >>"$base.log" 2>&1
+step "Using the examples"
+start_desktop "$work" 1280x900
+trap leave EXIT
+show_host '^Layer Control' minimal_host /tmp/map.ovl
+show_host '^Layer Control' vector_host
+show_host '^dock_host' dock_host /tmp/map.ovl
+
+step "Using Orvane"
+install_packages '/tmp/orvane_*.deb'
+inside env QT_QPA_PLATFORM=offscreen orvane --version
+inside apt-get purge -y -q orvane orvane-layer-control liborvane-dev >>"$log" 2>&1 || fail "the packages stay"
 left=$(cd "$root/usr" && as_root find . -iname '*orvane*' | head -n 5)
-[ -z "$left" ] || { echo "package_test: after the removal there still are: $left" >&2; exit 1; }
+[ -z "$left" ] || fail "after the removal there still are: $left"
 echo "installed, built, used and removed: all well"
