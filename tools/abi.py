@@ -3,7 +3,8 @@
 """usage: abi.py PLUGIN FOLDER [RELEASE]
 
 Compares the contract with that of the last release (the commit that changed VERSION last): interfaces, values and
-functions that were released must be as they were, as long as the major version is the same. docs/promises.md tells why.
+functions that were released must be as they were, as long as the major version is the same. docs/promises.md tells why,
+and must have an upgrade note for each minor version.
 PLUGIN: the component of this tree. FOLDER: for what is made here. RELEASE: another commit to compare with.
 """
 import glob
@@ -15,6 +16,7 @@ import subprocess
 import sys
 
 CONTRACT = "OrvaneShellLib"
+NOTES = "docs/promises.md"
 # Conveniences that a host or a component compiles for itself; they do not cross the border.
 PRIVATE_TYPES = re.compile(r"Forwarding\w+|Transaction|LayerColumn|InSchemes")
 TYPE = re.compile(r"^(?:(?:class|struct|enum class) (?:Q_DECL_EXPORT )?(\w+)(?: .*)?|using (\w+Function)(?: .*)?)$", re.M)
@@ -126,6 +128,10 @@ def complaints(old, new, plugin):
         yield f"the component does not export {', '.join(missing)}"
     if (added := sorted(set(new.types) - set(old.types))) and new.version <= old.version:
         yield f"{', '.join(added)}: what is new needs a higher minor version of the contract"
+    notes = open(NOTES, encoding="utf-8").read()
+    for minor in range(1, new.version[1] + 1):
+        if f"### Contract {new.version[0]}.{minor - 1} to {new.version[0]}.{minor} " not in notes:
+            yield f"{NOTES} has no upgrade note for contract {new.version[0]}.{minor}"
 
 
 def check(plugin, folder, release=None):
