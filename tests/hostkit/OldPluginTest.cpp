@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/IStyleFilter.h>
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -14,6 +15,15 @@
 namespace Orvane::Testing {
 
 namespace {
+
+class EvenLayers : public IStyleFilter
+{
+    bool IStyleFilter_ShowsGroups() const override { return true; }
+    bool IStyleFilter_IsLayerShown(qint32 layerID, bool pseudo) const override
+    {
+        return layerID % 2 == 0 && !pseudo;
+    }
+};
 
 class OldPlugin : public testing::Test
 {
@@ -53,6 +63,18 @@ TEST_F(OldPlugin, ChangesALayerThroughTheHost)
 {
     Form().Popup();
     EXPECT_EQ(ToInt32(host.LayerColumn(1, "Visible")), 0);
+}
+
+TEST_F(OldPlugin, ReadsAQueryThroughAFilterOfTheHost)
+{
+    host.AddLayer({.id = 2, .name = "Rivers", .code = qint32(12)});
+    host.AddLayer({.id = 3, .name = "Lakes", .code = qint32(13)});
+    host.AddLayer({.id = 4, .name = "Fields", .code = qint32(14)});
+    const EvenLayers filter;
+    editor->StyleFilter(&filter);
+    EXPECT_EQ(Form().Filter(), &filter);
+    Form().AddNewLayer(4);
+    EXPECT_EQ(host.settings[QStringLiteral("groups")], QStringLiteral("Fields,Rivers"));
 }
 
 // Members of an interface that changed their places would be called under each other's names.
