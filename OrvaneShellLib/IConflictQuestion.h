@@ -30,6 +30,10 @@ enum class ConflictChoice {
 class IConflictQuestion
 {
 public:
+    /// The minor version of the contract that added it; never asked of a host that was built with an earlier
+    /// one.
+    static constexpr int ContractMinor = 2;
+
     virtual ~IConflictQuestion() = default;
     IConflictQuestion(const IConflictQuestion&) = delete;
     IConflictQuestion& operator=(const IConflictQuestion&) = delete;

@@ -11,6 +11,10 @@ namespace Orvane {
 class IEditorWatch
 {
 public:
+    /// The minor version of the contract that added it; never asked of a host that was built with an earlier
+    /// one.
+    static constexpr int ContractMinor = 3;
+
     virtual ~IEditorWatch() = default;
     IEditorWatch(const IEditorWatch&) = delete;
     IEditorWatch& operator=(const IEditorWatch&) = delete;

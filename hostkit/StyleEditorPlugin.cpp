@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/StyleEditorPlugin.h"
 
+#include <OrvaneShellLib/HostDescription.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -39,6 +40,7 @@ StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
     Load(pathOrName);
     CheckContract();
     CheckQt();
+    CheckCompiler();
     CreateLibrary();
 }
 
@@ -116,13 +118,36 @@ void StyleEditorPlugin::CheckQt()
         Refuse(tr("it was built with Qt %1, this program with Qt %2").arg(major).arg(QT_VERSION_MAJOR));
 }
 
+// Types of the standard library cross the border.
+void StyleEditorPlugin::CheckCompiler()
+{
+    const auto abi = reinterpret_cast<CompilerAbiFunction>(m_file.resolve(CompilerAbiSymbol));
+    const QLatin1String theirs(abi ? abi() : CompilerAbi());
+    const QLatin1String ours(CompilerAbi());
+    if (theirs != ours)
+        Refuse(
+            tr("it was built with the standard library \"%1\", this program with \"%2\"").arg(theirs, ours));
+}
+
 void StyleEditorPlugin::CreateLibrary()
 {
-    const auto create = reinterpret_cast<CreateLibraryFunction>(Resolve(CreateLibrarySymbol));
-    m_library.reset(create());
+    QString reason;
+    m_library.reset(NewLibrary(reason));
     if (m_library)
         return;
-    Refuse(tr("it made no entry object"));
+    Refuse(reason.isEmpty() ? tr("it made no entry object") : reason);
+}
+
+IStyleEditorLibrary* StyleEditorPlugin::NewLibrary(QString& reason)
+{
+    const auto createFor = reinterpret_cast<CreateLibraryForFunction>(m_file.resolve(CreateLibraryForSymbol));
+    if (!createFor)
+        return reinterpret_cast<CreateLibraryFunction>(Resolve(CreateLibrarySymbol))();
+    const HostDescription host = DescribeHost();
+    char text[512] = {};
+    IStyleEditorLibrary* library = createFor(&host, text, sizeof text);
+    reason = QString::fromUtf8(text);
+    return library;
 }
 
 QFunctionPointer StyleEditorPlugin::Resolve(const char* symbol)

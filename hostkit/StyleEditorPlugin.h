@@ -33,8 +33,9 @@ public:
 
     /// Loads the component from a file, or by its plain name from the first of SearchFolders that has it.
     /// Raises PluginFailure when it cannot be loaded, is not a style editor component, has a different
-    /// contract version, or was built with another major version of Qt, and when there is no QApplication
-    /// yet. If none of the folders has it, the description names them all.
+    /// contract version, or was built with another major version of Qt or a standard library that does not
+    /// fit, when the component itself refuses this program, and when there is no QApplication yet. If none of
+    /// the folders has it, the description names them all.
     explicit StyleEditorPlugin(const QString& pathOrName = QString::fromLatin1(DefaultName));
     ~StyleEditorPlugin();
     Q_DISABLE_COPY_MOVE(StyleEditorPlugin)
@@ -57,7 +58,9 @@ private:
     void LoadByName(const QString& name);
     void CheckContract();
     void CheckQt();
+    void CheckCompiler();
     void CreateLibrary();
+    IStyleEditorLibrary* NewLibrary(QString& reason);
     QFunctionPointer Resolve(const char* symbol);
     [[noreturn]] void Refuse(const QString& reason) const;
 

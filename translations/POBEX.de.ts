@@ -348,6 +348,18 @@
         <translation>Ungültiger Name</translation>
     </message>
     <message>
+        <source>it runs with Qt ^1, this program with Qt ^2</source>
+        <translation>sie läuft mit Qt ^1, dieses Programm mit Qt ^2</translation>
+    </message>
+    <message>
+        <source>it uses version ^1 of the interface, this program uses version ^2</source>
+        <translation>sie verwendet Version ^1 der Schnittstelle, dieses Programm Version ^2</translation>
+    </message>
+    <message>
+        <source>it was built with the standard library &quot;^1&quot;, this program with &quot;^2&quot;</source>
+        <translation>sie wurde mit der Standardbibliothek „^1“ erstellt, dieses Programm mit „^2“</translation>
+    </message>
+    <message>
         <source>layer</source>
         <translation>den Layer</translation>
     </message>
@@ -678,6 +690,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Dünnste Linie</translation>
+    </message>
+    <message>
+        <source>this program does not tell which version it uses</source>
+        <translation>dieses Programm teilt nicht mit, welche Version es verwendet</translation>
     </message>
     <message>
         <source>Transparent</source>

@@ -348,6 +348,18 @@
         <translation>Nom non valide</translation>
     </message>
     <message>
+        <source>it runs with Qt ^1, this program with Qt ^2</source>
+        <translation>il s’exécute avec Qt ^1, ce programme avec Qt ^2</translation>
+    </message>
+    <message>
+        <source>it uses version ^1 of the interface, this program uses version ^2</source>
+        <translation>il utilise la version ^1 de l’interface, ce programme la version ^2</translation>
+    </message>
+    <message>
+        <source>it was built with the standard library &quot;^1&quot;, this program with &quot;^2&quot;</source>
+        <translation>il a été compilé avec la bibliothèque standard « ^1 », ce programme avec « ^2 »</translation>
+    </message>
+    <message>
         <source>layer</source>
         <translation>la couche</translation>
     </message>
@@ -678,6 +690,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
+        <source>this program does not tell which version it uses</source>
+        <translation>ce programme n’indique pas quelle version il utilise</translation>
     </message>
     <message>
         <source>Transparent</source>

@@ -348,6 +348,18 @@
         <translation>名前が無効です</translation>
     </message>
     <message>
+        <source>it runs with Qt ^1, this program with Qt ^2</source>
+        <translation>このコンポーネントは Qt ^1 で、このプログラムは Qt ^2 で実行されています</translation>
+    </message>
+    <message>
+        <source>it uses version ^1 of the interface, this program uses version ^2</source>
+        <translation>インターフェイスのバージョンは ^1 ですが、このプログラムは ^2 です</translation>
+    </message>
+    <message>
+        <source>it was built with the standard library &quot;^1&quot;, this program with &quot;^2&quot;</source>
+        <translation>このコンポーネントは標準ライブラリ「^1」で、このプログラムは「^2」でビルドされています</translation>
+    </message>
+    <message>
         <source>layer</source>
         <translation>レイヤー</translation>
     </message>
@@ -678,6 +690,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>最も細い線</translation>
+    </message>
+    <message>
+        <source>this program does not tell which version it uses</source>
+        <translation>このプログラムは使用しているバージョンを通知していません</translation>
     </message>
     <message>
         <source>Transparent</source>

@@ -770,6 +770,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>es dauert zu lange</translation>
     </message>
     <message>
+        <source>it was built with the standard library &quot;%1&quot;, this program with &quot;%2&quot;</source>
+        <translation>sie wurde mit der Standardbibliothek „%1“ erstellt, dieses Programm mit „%2“</translation>
+    </message>
+    <message>
         <source>It was written by a newer version of this program.</source>
         <translation>Sie wurde von einer neueren Version dieses Programms geschrieben.</translation>
     </message>

@@ -770,6 +770,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>cela prend trop de temps</translation>
     </message>
     <message>
+        <source>it was built with the standard library &quot;%1&quot;, this program with &quot;%2&quot;</source>
+        <translation>il a été compilé avec la bibliothèque standard « %1 », ce programme avec « %2 »</translation>
+    </message>
+    <message>
         <source>It was written by a newer version of this program.</source>
         <translation>Il a été écrit par une version plus récente de ce programme.</translation>
     </message>

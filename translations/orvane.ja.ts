@@ -770,6 +770,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>時間がかかりすぎます</translation>
     </message>
     <message>
+        <source>it was built with the standard library &quot;%1&quot;, this program with &quot;%2&quot;</source>
+        <translation>このコンポーネントは標準ライブラリ「%1」で、このプログラムは「%2」でビルドされています</translation>
+    </message>
+    <message>
         <source>It was written by a newer version of this program.</source>
         <translation>このプログラムのより新しいバージョンで書き込まれています。</translation>
     </message>

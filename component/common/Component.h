@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OrvaneShellLib/PluginContract.h>
+
 #include <QString>
 
 #include <memory>
@@ -49,6 +51,10 @@ public:
     IStyleEditorClient* Client() const { return m_client; }
     IShellServices* ShellServices() const { return m_services; }
 
+    /// The contract that the host was built with; this component's own until a host has told another.
+    ContractVersion HostContract() const { return m_hostContract; }
+    void SetHostContract(const ContractVersion& contract) { m_hostContract = contract; }
+
     /// The registry of the editors while a StyleEditorLib exists, else nullptr. The StyleEditorLib objects
     /// own it.
     std::shared_ptr<StyleEditorRegistry> Registry() const { return m_registry.lock(); }
@@ -62,6 +68,7 @@ private:
     std::unique_ptr<MessageFormatter> m_formatter;
     IStyleEditorClient* m_client = nullptr;
     IShellServices* m_services = nullptr;
+    ContractVersion m_hostContract = CurrentContract;
     std::weak_ptr<StyleEditorRegistry> m_registry;
 };
 

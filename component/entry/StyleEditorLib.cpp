@@ -8,7 +8,9 @@
 
 namespace Orvane {
 
-StyleEditorLib::StyleEditorLib(const StyleEditorFactory& factory, const QString& messageFolder)
+StyleEditorLib::StyleEditorLib(
+    const StyleEditorFactory& factory, const QString& messageFolder, const ContractVersion& host)
+    : m_host(host)
 {
     Component& component = Component::Get();
     m_editors = component.Registry();
@@ -27,8 +29,10 @@ StyleEditorLib::~StyleEditorLib()
     if (m_editors.use_count() == 1)
         m_editors->UnloadAll();
     m_editors.reset();
-    if (!component.Registry())
-        component.SetHost(nullptr, nullptr);
+    if (component.Registry())
+        return;
+    component.SetHost(nullptr, nullptr);
+    component.SetHostContract(CurrentContract);
 }
 
 IStyleEditor* StyleEditorLib::IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept
@@ -40,6 +44,7 @@ void StyleEditorLib::IStyleEditorLibrary_Initialise(IStyleEditorClient* client)
 {
     Component& component = Component::Get();
     component.SetHost(client, nullptr); // if the next line raises, the former host is removed
+    component.SetHostContract(m_host);
     component.SetHost(client, client ? client->GetShellServices() : nullptr);
 }
 

@@ -4,6 +4,7 @@
 #include "component/common/StyleEditorWindow.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/PluginContract.h>
 
 #include <QString>
 
@@ -23,8 +24,11 @@ class StyleEditorLib final : public IStyleEditorLibrary
 {
 public:
     /// factory: creates the editors' windows. messageFolder: the folder of the message file; loading never
-    /// fails. Only the first of several entry objects uses them.
-    StyleEditorLib(const StyleEditorFactory& factory, const QString& messageFolder);
+    /// fails. Only the first of several entry objects uses them. host: the contract of the host that will
+    /// call Initialise.
+    StyleEditorLib(
+        const StyleEditorFactory& factory, const QString& messageFolder,
+        const ContractVersion& host = CurrentContract);
     /// The last entry object unloads every editor without applying. Never raises.
     ~StyleEditorLib() override;
 
@@ -33,6 +37,7 @@ private:
     void IStyleEditorLibrary_Initialise(IStyleEditorClient* client) override;
     IStyleEditor* IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID) override;
 
+    ContractVersion m_host;
     std::shared_ptr<StyleEditorRegistry> m_editors;
 };
 

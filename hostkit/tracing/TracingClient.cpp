@@ -55,7 +55,8 @@ void TracingClient::IStyleEditorClient_WriteSetting(QWidget* form, const QString
 
 ILayerDatabase& TracingClient::IStyleEditorClient_Database()
 {
-    ILayerDatabase* database = m_trace.Command("client.GetDatabase", [&] { return &Wrapped().GetDatabase(); });
+    ILayerDatabase* database
+        = m_trace.Command("client.GetDatabase", [&] { return &Wrapped().GetDatabase(); });
     if (!m_database)
         m_database = std::make_unique<TracingDatabase>(*database, m_trace);
     return *m_database;

@@ -4,6 +4,7 @@
 #include "hostkit/HostKitTest.h"
 #include "hosts/MemoryHost.h"
 
+#include <OrvaneShellLib/HostDescription.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 
 #include <QDir>
@@ -72,6 +73,45 @@ TEST(StyleEditorPlugin, RefusesAComponentOfTheOtherQtWithBothVersionsInTheText)
     EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("built with Qt %1, this program with Qt %2")
                                                  .arg(11 - QT_VERSION_MAJOR)
                                                  .arg(QT_VERSION_MAJOR)));
+}
+
+TEST(StyleEditorPlugin, TellsTheComponentItsContractItsQtAndItsStandardLibrary)
+{
+    MemoryHost host;
+    StyleEditorPlugin plugin(FakeFile("fake_plugin_newer_factory"));
+    plugin.Library().Initialise(&host);
+    const QVersionNumber qt = QLibraryInfo::version();
+    EXPECT_EQ(
+        host.settings[QStringLiteral("host")],
+        QStringLiteral("%1.%2 %3.%4 %5")
+            .arg(CurrentContract.major)
+            .arg(CurrentContract.minor)
+            .arg(qt.majorVersion())
+            .arg(qt.minorVersion())
+            .arg(QLatin1String(CompilerAbi())));
+}
+
+TEST(StyleEditorPlugin, UsesTheOldFactoryOfAComponentThatHasNoOther)
+{
+    MemoryHost host;
+    StyleEditorPlugin plugin(FakeFile("fake_plugin_same"));
+    plugin.Library().Initialise(&host);
+    EXPECT_EQ(host.settings[QStringLiteral("host")], QString());
+}
+
+TEST(StyleEditorPlugin, TellsWhyTheComponentRefuses)
+{
+    const QString path = FakeFile("fake_plugin_refusing");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("cannot be used: it is Sunday.")));
+}
+
+TEST(StyleEditorPlugin, RefusesAComponentOfAnotherStandardLibraryWithBothInTheText)
+{
+    const QString path = FakeFile("fake_plugin_other_compiler");
+    EXPECT_EQ(LoadError(path), int(ErrorNumber::PluginFailure));
+    EXPECT_TRUE(LoadComplaint(path).contains(QStringLiteral("\"home made\"")));
+    EXPECT_TRUE(LoadComplaint(path).contains(QLatin1String(CompilerAbi())));
 }
 
 TEST(StyleEditorPlugin, RefusesALibraryThatIsNoComponent)

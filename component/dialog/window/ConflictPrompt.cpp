@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/window/ConflictPrompt.h"
 
-#include "component/common/Component.h"
+#include "component/common/HostInterface.h"
 #include "component/common/Messages.h"
 #include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/panel/PropertyTexts.h"
 #include "component/dialog/trees/NodeData.h"
 #include "component/dialog/window/ApplyEdits.h"
 
-#include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane {
@@ -45,7 +44,7 @@ ConflictChoice AskAboutConflicts(
     QWidget& form, const PropertyPanel& panel, const QString& node, const PanelEdits& edits,
     const std::vector<EditConflict>& conflicts)
 {
-    auto* question = dynamic_cast<IConflictQuestion*>(&Client());
+    auto* question = HostInterface<IConflictQuestion>();
     if (!question)
         return ConflictChoice::Overwrite;
     std::vector<ConflictingEdit> described;

@@ -2,6 +2,7 @@
 // How the dialog is shown, hidden and unloaded, as a window or within a widget of the host.
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/HostInterface.h"
 #include "component/dialog/window/EditorParts.h"
 #include "component/dialog/window/Enclosure.h"
 #include "component/dialog/window/FirstError.h"
@@ -56,7 +57,7 @@ void frmLayerStyles::ShowByHost()
     m_shown = true;
     const QPointer self(this);
     Client().ShowEditor(this);
-    auto* watch = dynamic_cast<IEditorWatch*>(&Client());
+    auto* watch = HostInterface<IEditorWatch>();
     if (watch && self && !m_unloaded)
         watch->EditorShown(this);
 }
@@ -178,7 +179,7 @@ void frmLayerStyles::TellUnload(FirstError& errors)
     errors.Try([this] { Client().EditorClosed(this); });
     if (HasClient())
         errors.Try([&] { Client().WriteSetting(self, key, state); });
-    if (auto* watch = self && HasClient() ? dynamic_cast<IEditorWatch*>(&Client()) : nullptr)
+    if (auto* watch = self ? HostInterface<IEditorWatch>() : nullptr)
         errors.Try([&] { watch->EditorEnded(this); });
 }
 

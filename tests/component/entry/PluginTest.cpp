@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/MemoryHost.h"
 
+#include <OrvaneShellLib/HostDescription.h>
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
@@ -45,6 +46,17 @@ protected:
         return *m_library;
     }
 
+    /// The reason why that host is refused; empty if it is not.
+    QString Refusal(const HostDescription& host)
+    {
+        char reason[400] = {};
+        m_library.reset();
+        m_library.reset(
+            Resolve<CreateLibraryForFunction>(CreateLibraryForSymbol)(&host, reason, sizeof reason));
+        EXPECT_EQ(m_library == nullptr, reason[0] != 0);
+        return QString::fromUtf8(reason);
+    }
+
     QString ErrorOfADuplicate(const QString& language)
     {
         QLocale::setDefault(QLocale(language));
@@ -80,6 +92,34 @@ TEST_F(Plugin, LoadsAndSpeaksTheContractOfItsSourceTree)
 TEST_F(Plugin, TellsTheQtThatItWasBuiltWith)
 {
     EXPECT_EQ(Resolve<QtMajorFunction>(QtMajorSymbol)(), QT_VERSION_MAJOR);
+}
+
+TEST_F(Plugin, TellsTheStandardLibraryThatItWasBuiltWith)
+{
+    EXPECT_STREQ(Resolve<CompilerAbiFunction>(CompilerAbiSymbol)(), CompilerAbi());
+}
+
+TEST_F(Plugin, WorksForAHostThatDescribesItself)
+{
+    EXPECT_EQ(Refusal(DescribeHost()), QString());
+    m_library->Initialise(&m_host);
+    EXPECT_NE(m_library->NewStyleEditor("Main"), nullptr);
+}
+
+TEST_F(Plugin, RefusesAHostThatDoesNotFitInItsLanguage)
+{
+    HostDescription host = DescribeHost();
+    host.compilerAbi = "home made";
+    QLocale::setDefault(QLocale("de_AT"));
+    EXPECT_TRUE(Refusal(host).startsWith("sie wurde mit der Standardbibliothek"))
+        << qPrintable(Refusal(host));
+}
+
+TEST_F(Plugin, RefusesWithoutABufferForTheReason)
+{
+    HostDescription host = DescribeHost();
+    host.size = 4;
+    EXPECT_EQ(Resolve<CreateLibraryForFunction>(CreateLibraryForSymbol)(&host, nullptr, 0), nullptr);
 }
 
 TEST_F(Plugin, MakesAnEditorThatIsAWidgetAndAForm)

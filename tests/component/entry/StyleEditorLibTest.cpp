@@ -39,6 +39,11 @@ protected:
         return std::make_unique<StyleEditorLib>(Testing::FakeEditors(m_events), m_folder.path());
     }
 
+    std::unique_ptr<IStyleEditorLibrary> NewLibraryFor(const ContractVersion& host)
+    {
+        return std::make_unique<StyleEditorLib>(Testing::FakeEditors(m_events), m_folder.path(), host);
+    }
+
     // A library that is initialised, with one editor.
     Testing::FakeEditorWindow& Start(IStyleEditorClient& client, const QString& editorID = "Main")
     {
@@ -281,6 +286,26 @@ TEST_F(Library, MayBeAGlobalObjectOfTheHost)
             std::exit(0);
         },
         testing::ExitedWithCode(0), "");
+}
+
+TEST_F(Library, KeepsTheContractOfTheHostThatInitialisedIt)
+{
+    Testing::MemoryHost host;
+    const auto older = NewLibraryFor({1, 1});
+    m_library = NewLibraryFor({1, 2});
+    older->Initialise(&host);
+    EXPECT_EQ(Component::Get().HostContract().minor, 1);
+    m_library->Initialise(&host);
+    EXPECT_EQ(Component::Get().HostContract().minor, 2);
+}
+
+TEST_F(Library, ForgetsTheContractOfTheHostWithTheLastOne)
+{
+    Testing::MemoryHost host;
+    m_library = NewLibraryFor(UntoldContract);
+    m_library->Initialise(&host);
+    m_library.reset();
+    EXPECT_EQ(Component::Get().HostContract().minor, CurrentContract.minor);
 }
 
 } // namespace Orvane

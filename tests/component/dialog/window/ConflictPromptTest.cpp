@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/window/ConflictPrompt.h"
 
+#include "component/common/Component.h"
 #include "component/dialog/EditorFixture.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
@@ -70,6 +71,16 @@ TEST_F(Conflicts, AreDescribedAsTheUserSeesThem)
     EXPECT_EQ(client.asked[1].mine, "Hidden");
     EXPECT_EQ(client.asked[1].stored, "Backdrop");
     EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Conflicts, AreNotAskedAboutInAHostThatIsOlderThanTheQuestion)
+{
+    EditBoth();
+    Component::Get().SetHostContract({CurrentContract.major, IConflictQuestion::ContractMinor - 1});
+    Click("cmdApply");
+    Component::Get().SetHostContract(CurrentContract);
+    EXPECT_TRUE(client.asked.empty());
+    EXPECT_EQ(Stored(1, "Priority"), 17);
 }
 
 TEST_F(Conflicts, StayWithTheUserWhoCancels)
