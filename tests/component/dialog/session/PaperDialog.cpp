@@ -149,6 +149,11 @@ void Dialog::Apply()
         if (!isCodeKept)
             SetLayerCode(node->layerID);
     }
+    ++redraws;
+    if (written == 0) {
+        TellThatNothingWasWritten(*node);
+        return;
+    }
     if (newMode && IsSingle(panel.mode)) {
         for (qint32 layerID : imaged) {
             lists[Groups].SetMode(layerID, panel.mode);
@@ -156,16 +161,20 @@ void Dialog::Apply()
         }
     }
     const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
-    ++redraws;
-    if (written == 0 && (panel.hasLayers || !node->isGroup)) {
-        const QString kind = node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
-        m_boxes.append(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
-                           .arg(kind, list.TextOf(*node)));
-        return;
-    }
     Load();
     if (isUnexpected)
         m_boxes.append(QStringLiteral("Unexpected program flow in frmLayerStyles"));
+}
+
+void Dialog::TellThatNothingWasWritten(const Node& node)
+{
+    const QString name = lists[shownList].TextOf(node);
+    if (node.isGroup && m_map.groups.count(node.groupID))
+        Tell(QStringLiteral("The group '%1' no longer has any layers. The changes were not applied.")
+                 .arg(name));
+    else
+        Tell(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
+                 .arg(node.isGroup ? QStringLiteral("group") : QStringLiteral("layer"), name));
 }
 
 void Dialog::SetLayerCode(qint32 layerID)
