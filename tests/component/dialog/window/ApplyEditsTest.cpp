@@ -199,6 +199,18 @@ TEST_F(Applying, AGroupThatIsGoneIsToldAndItsLayersKeepTheirImages)
     EditorForm().UnloadWithoutApply();
 }
 
+TEST_F(Applying, ALayerThatHasLeftItsGroupKeepsItsImage)
+{
+    SelectTransport();
+    Click("Hidden");
+    host.RemoveMembers(1);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "OverrideMode"), 0);
+    EXPECT_EQ(Stored(2, "OverrideMode"), 2);
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers1"), "Roads"), 1);
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers1"), "Rivers"), 4);
+}
+
 TEST_F(Applying, AModeThatWasNotStoredIsNotListed)
 {
     ClickLayer("Roads");
