@@ -656,6 +656,10 @@
         <translation>Die Farbe von Linien und Umrissen.</translation>
     </message>
     <message>
+        <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
+        <translation>Die Gruppe „^1“ enthält keine Layer mehr. Die Änderungen wurden nicht angewendet.</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
     </message>

@@ -656,6 +656,10 @@
         <translation>La couleur des lignes et des contours.</translation>
     </message>
     <message>
+        <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
+        <translation>Le groupe « ^1 » ne contient plus de couche. Les modifications n’ont pas été appliquées.</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
     </message>

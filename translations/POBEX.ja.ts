@@ -656,6 +656,10 @@
         <translation>線と輪郭の色です。</translation>
     </message>
     <message>
+        <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
+        <translation>グループ「^1」にはレイヤーがもうありません。変更は適用されませんでした。</translation>
+    </message>
+    <message>
         <source>The last layer scheme cannot be deleted.</source>
         <translation>最後のレイヤースキームは削除できません。</translation>
     </message>

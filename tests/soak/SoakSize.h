@@ -20,4 +20,10 @@ inline int SoakEvents()
     return SoakSize() * 100;
 }
 
+/// The rounds of work in Orvane's window: fewer, for each draws the whole map.
+inline int SoakRounds()
+{
+    return std::max(25, SoakSize() / 4);
+}
+
 } // namespace Orvane::Testing

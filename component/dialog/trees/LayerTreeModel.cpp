@@ -87,20 +87,6 @@ QModelIndex LayerTreeModel::IndexOfLayer(const NodeReference& node) const
     return {};
 }
 
-std::vector<qint32> LayerTreeModel::LayersOfGroup(qint32 groupID) const
-{
-    std::vector<qint32> layerIDs;
-    for (const GroupNode& group : m_groups) {
-        if (group.groupID != groupID)
-            continue;
-        const auto first = m_layers.begin() + group.firstLayer;
-        std::transform(
-            first, first + group.layerCount, std::back_inserter(layerIDs),
-            [](const LayerEntry& layer) { return layer.layerID; });
-    }
-    return layerIDs;
-}
-
 QSet<qint32> LayerTreeModel::LayersAmong(const QSet<qint32>& layerIDs) const
 {
     QSet<qint32> listed;

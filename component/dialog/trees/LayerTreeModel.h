@@ -45,8 +45,6 @@ public:
     NodeReference Reference(const QModelIndex& index) const;
     /// The first node with the reference's identity, whatever its image; invalid if there is none.
     QModelIndex IndexOf(const NodeReference& node) const;
-    /// The IDs of the layers under the group, in their order.
-    std::vector<qint32> LayersOfGroup(qint32 groupID) const;
     /// Those of the given layers that have a node.
     QSet<qint32> LayersAmong(const QSet<qint32>& layerIDs) const;
 

@@ -273,9 +273,7 @@ void LayerTrees::SetLayerImages(const std::vector<LayerMode>& modes)
 
 void LayerTrees::SetGroupImage(qint32 groupID, qint16 quickMode)
 {
-    std::vector<qint32> layerIDs = m_groups->Model().LayersOfGroup(groupID);
-    const std::vector<qint32> members = ReadMemberLayerIDs(Client(), groupID); // some may not be listed yet
-    layerIDs.insert(layerIDs.end(), members.begin(), members.end());
+    const std::vector<qint32> layerIDs = ReadMemberLayerIDs(Client(), groupID); // not all are listed there
     m_groups->Model().SetQuickMode(layerIDs, quickMode);
     m_layers->Model().SetQuickMode(layerIDs, quickMode);
 }

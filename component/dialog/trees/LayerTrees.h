@@ -88,8 +88,8 @@ public:
     /// Gives all nodes of the layer the image of the quick mode (1, 2 or 4); updates the images of their
     /// groups.
     void SetLayerImage(qint32 layerID, qint16 quickMode);
-    /// Gives the image of the quick mode to the group, to the layers that are listed under it or stored as
-    /// its members, and to all other nodes of these layers in both trees.
+    /// Gives the image of the quick mode to all nodes of the layers that are stored as the group's members
+    /// now; updates the images of their groups.
     void SetGroupImage(qint32 groupID, qint16 quickMode);
     /// Gives all nodes of each layer the image of its mode, as SetLayerImage does.
     void SetLayerImages(const std::vector<LayerMode>& modes);

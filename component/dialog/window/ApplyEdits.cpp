@@ -26,7 +26,7 @@ AppliedEdits ApplyToGroup(LayerTrees& trees, const NodeReference& group, const P
     ApplyResult result = ApplyGroupStyle(Client(), group.groupID, edits);
     if (!result.conflicts.empty())
         return {ApplyOutcome::Conflicts, std::move(result.conflicts)};
-    if (result.layers == 0 && !edits.seen.empty())
+    if (result.layers == 0)
         return {ApplyOutcome::Gone, {}};
     if (edits.quickMode == group.image)
         return {};
@@ -46,6 +46,10 @@ AppliedEdits ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const P
     ApplyResult result = ApplyLayerStyle(Client(), layer.layerID, edits);
     if (!result.conflicts.empty())
         return {ApplyOutcome::Conflicts, std::move(result.conflicts)};
+    if (result.layers == 0) {
+        Client().RedrawMap();
+        return {ApplyOutcome::Gone, {}};
+    }
     FirstError errors; // the properties are stored: the map shows them even if the code is rejected
     errors.Try([&] {
         if (StoresCode(edits, result))
@@ -55,7 +59,7 @@ AppliedEdits ApplyToLayer(LayerTrees& trees, const NodeReference& layer, const P
         errors.Try([&] { trees.SetLayerImage(layer.layerID, edits.quickMode); });
     errors.Try([] { Client().RedrawMap(); });
     errors.Rethrow();
-    return {result.layers == 0 ? ApplyOutcome::Gone : ApplyOutcome::Applied, {}};
+    return {};
 }
 
 } // namespace

@@ -22,7 +22,7 @@ struct PanelEdits : StyleEdits {
 enum class ApplyOutcome {
     Applied,
     UnexpectedMode, ///< applied, but the group's quick mode cannot be shown
-    Gone, ///< the layer, or every layer of the group, no longer exists
+    Gone, ///< nothing was written: the layer no longer exists, or the group has no layers
     Conflicts, ///< nothing was written: edited values were changed elsewhere
 };
 
@@ -31,9 +31,9 @@ struct AppliedEdits {
     std::vector<EditConflict> conflicts;
 };
 
-/// Writes the edits to the layers of one node, gives the tree nodes their new images, and has the map redrawn
-/// once. node: its image is the mode that its rows held when they were read. Raises what the database and the
-/// host raise; for a group, nothing is written then.
+/// Writes the edits to the layers of one node, gives the tree nodes their new images if they were written,
+/// and has the map redrawn once. node: its image is the mode that its rows held when they were read. Raises
+/// what the database and the host raise; for a group, nothing is written then.
 AppliedEdits ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
 
 } // namespace Orvane

@@ -6,6 +6,7 @@
 #include "component/common/Messages.h"
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
+#include "component/dialog/trees/NodeStore.h"
 #include "component/dialog/window/ApplyEdits.h"
 #include "component/dialog/window/ConflictPrompt.h"
 #include "component/dialog/window/LayerCommands.h"
@@ -259,9 +260,11 @@ void SelectionEditor::Finish(ApplyOutcome outcome)
 void SelectionEditor::ReportGoneNode()
 {
     const QString kind = m_current->isGroup ? TranslateMsg("group") : TranslateMsg("layer");
-    const QString text = TranslateMsg(
-        "The ^1 '^2' no longer exists. The changes were not applied.", kind,
-        NameInQuestion(m_parts.trees.CurrentText()));
+    const QString name = NameInQuestion(m_parts.trees.CurrentText());
+    const bool isEmptyGroup = m_current->isGroup && NodeExists(Client(), *m_current);
+    const QString text = isEmptyGroup
+        ? TranslateMsg("The group '^1' no longer has any layers. The changes were not applied.", name)
+        : TranslateMsg("The ^1 '^2' no longer exists. The changes were not applied.", kind, name);
     ShowMessageBox(&m_form, text, BoxStyle::OkExclamation);
 }
 

@@ -68,8 +68,8 @@ public:
 
     /// Writes the edits to the layers of the current node and then shows what is stored; does nothing without
     /// edits. Where edited values were changed elsewhere, the host is asked first, who may destroy the form.
-    /// If the node is gone, the user is told, and the edits stay. False if the user cancelled or the form was
-    /// destroyed.
+    /// If the node is gone, or a group has no layers left, the user is told, and the edits stay. False if the
+    /// user cancelled or the form was destroyed.
     bool Apply();
 
     /// If there are edits, asks whether to apply them and does so if the answer is Yes. False if the form was

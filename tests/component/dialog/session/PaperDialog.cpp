@@ -125,47 +125,42 @@ void Dialog::Apply()
         if (IsSingle(panel.mode) && !isModeKept)
             found->second.columns[OverrideMode] = panel.mode / 2; // 1, 2, 4 are stored as 0, 1, 2
     };
-    List& list = lists[shownList];
+    const std::vector<qint32> layerIDs = LayerIDsOf(*node);
     const bool newMode = panel.mode != panel.loadedMode;
-    std::vector<qint32> imaged{node->layerID};
-    if (node->isGroup) {
-        const auto group = m_map.groups.find(node->groupID);
-        imaged.clear();
-        if (group != m_map.groups.end()) {
-            std::for_each(group->second.members.begin(), group->second.members.end(), write);
-            imaged.assign(group->second.members.begin(), group->second.members.end());
-        }
-        for (const Branch& branch : list.branches) {
-            for (const Entry& entry : branch.entries) {
-                if (branch.groupID == node->groupID)
-                    imaged.push_back(entry.layerID);
-            }
-        }
-    } else {
-        write(node->layerID);
+    std::for_each(layerIDs.begin(), layerIDs.end(), write);
+    if (!node->isGroup) {
         const auto layer = m_map.layers.find(node->layerID);
         const bool isCodeKept = layer != m_map.layers.end() && !panel.isCodeMarked
             && panel.storedCode != layer->second.columns[Code];
         if (!isCodeKept)
             SetLayerCode(node->layerID);
     }
+    ++redraws;
+    if (written == 0) {
+        TellThatNothingWasWritten(*node);
+        return;
+    }
     if (newMode && IsSingle(panel.mode)) {
-        for (qint32 layerID : imaged) {
+        for (qint32 layerID : layerIDs) {
             lists[Groups].SetMode(layerID, panel.mode);
             lists[Layers].SetMode(layerID, panel.mode);
         }
     }
     const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
-    ++redraws;
-    if (written == 0 && (panel.hasLayers || !node->isGroup)) {
-        const QString kind = node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
-        m_boxes.append(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
-                           .arg(kind, list.TextOf(*node)));
-        return;
-    }
     Load();
     if (isUnexpected)
         m_boxes.append(QStringLiteral("Unexpected program flow in frmLayerStyles"));
+}
+
+void Dialog::TellThatNothingWasWritten(const Node& node)
+{
+    const QString name = lists[shownList].TextOf(node);
+    if (node.isGroup && m_map.groups.count(node.groupID))
+        Tell(QStringLiteral("The group '%1' no longer has any layers. The changes were not applied.")
+                 .arg(name));
+    else
+        Tell(QStringLiteral("The %1 '%2' no longer exists. The changes were not applied.")
+                 .arg(node.isGroup ? QStringLiteral("group") : QStringLiteral("layer"), name));
 }
 
 void Dialog::SetLayerCode(qint32 layerID)

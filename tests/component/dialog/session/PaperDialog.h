@@ -21,7 +21,6 @@ struct Panel {
     std::optional<double> storedCode;
     bool isCodeMarked = false;
     bool canEditCode = false;
-    bool hasLayers = false; ///< of the node, when it was read
     int loadedMode = 0;
     int mode = 0;
 
@@ -92,6 +91,7 @@ public:
 
 private:
     void Ask(Answer answer);
+    void TellThatNothingWasWritten(const Node& node);
     void EnsureLoaded(ListNumber number, Answer answer);
     void LoadList(ListNumber number, Answer answer);
     std::vector<Branch> Read(ListNumber number) const;

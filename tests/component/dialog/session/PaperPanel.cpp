@@ -37,7 +37,6 @@ void Dialog::Load()
 void Dialog::Read()
 {
     const auto layers = LayersOf(*panel.node);
-    panel.hasLayers = !layers.empty();
     panel.record = CommonValues(layers);
     const Values shown = AsShown(panel.record);
     for (int property = 0; property < PropertyCount; ++property) {

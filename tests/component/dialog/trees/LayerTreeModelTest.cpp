@@ -246,13 +246,6 @@ TEST_F(LayerTreeModelTest, InsertsALayerAtItsPlaceAndFindsAllAfterwards)
     EXPECT_EQ(model.IndexOf(LayerNode(0, 2)).row(), 2);
 }
 
-TEST_F(LayerTreeModelTest, ListsTheLayersOfAGroupInTheirOrder)
-{
-    FillGroups();
-    EXPECT_THAT(model.LayersOfGroup(30), ElementsAre(3, 4));
-    EXPECT_THAT(model.LayersOfGroup(99), ElementsAre());
-}
-
 TEST_F(LayerTreeModelTest, ForgetsAllNodesWhenItShowsNoLayers)
 {
     FillGroups();

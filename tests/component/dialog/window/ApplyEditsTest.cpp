@@ -32,6 +32,14 @@ protected:
         ClickGroup("Transport");
     }
 
+    /// The quick mode that the image of the first such node shows.
+    static int ListedMode(const QTreeView& tree, const QString& text)
+    {
+        const QModelIndexList found = tree.model()->match(
+            tree.model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchRecursive);
+        return found.value(0).data(LayerTreeModel::QuickModeRole).toInt();
+    }
+
     int Redraws() { return int(host.Log().CallsTo("RedrawMap").size()); }
 };
 
@@ -142,6 +150,76 @@ TEST_F(Applying, ALayerThatIsGoneIsToldAndTheEditsStay)
     EXPECT_EQ(user.Only().text, "The layer 'Roads' no longer exists. The changes were not applied.");
     EXPECT_THAT(host.Log().CallsTo("Update"), IsEmpty());
     EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Applying, AGroupWithoutLayersIsToldAndTheEditsStay)
+{
+    SelectTransport();
+    Click("chkLocked");
+    host.RemoveLayerRow(1);
+    host.RemoveLayerRow(2);
+    const MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(
+        user.Only().text, "The group 'Transport' no longer has any layers. The changes were not applied.");
+    EXPECT_TRUE(CanApply());
+    EXPECT_TRUE(IsUnderlined("chkLocked"));
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Applying, AGroupThatWasFoundWithoutLayersBeforeIsToldToo)
+{
+    SelectTransport();
+    Click("chkLocked");
+    host.RemoveMembers(1);
+    host.RemoveMembers(2);
+    ClickGroup("Transport"); // reads it again
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(CanApply());
+    const MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(
+        user.Only().text, "The group 'Transport' no longer has any layers. The changes were not applied.");
+    EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Applying, AGroupThatIsGoneIsToldAndItsLayersKeepTheirImages)
+{
+    SelectTransport();
+    Click("Hidden");
+    host.RemoveGroup(10);
+    const MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(user.Only().text, "The group 'Transport' no longer exists. The changes were not applied.");
+    EXPECT_EQ(Stored(1, "OverrideMode"), 0);
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers1"), "Roads"), 1);
+    EXPECT_TRUE(CanApply());
+    EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Applying, ALayerThatHasLeftItsGroupKeepsItsImage)
+{
+    SelectTransport();
+    Click("Hidden");
+    host.RemoveMembers(1);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "OverrideMode"), 0);
+    EXPECT_EQ(Stored(2, "OverrideMode"), 2);
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers1"), "Roads"), 1);
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers1"), "Rivers"), 4);
+}
+
+TEST_F(Applying, AModeThatWasNotStoredIsNotListed)
+{
+    ClickLayer("Roads");
+    Click("Hidden");
+    host.RemoveLayerRow(1);
+    const MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdApply");
+    EXPECT_EQ(ListedMode(Find<QTreeView>("tvLayers2"), "Roads"), 1);
+    EXPECT_EQ(PressedModes(), 4);
     EditorForm().UnloadWithoutApply();
 }
 
