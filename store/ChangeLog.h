@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/SpooledBytes.h"
+
 #include <orvane/store/Changeset.h>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +12,8 @@
 namespace Orvane {
 
 /// Changed rows in the order in which they changed, possibly with several changes of one row. A store writes
-/// it while changes are recorded.
+/// it while changes are recorded. A long log is in a temporary file; what writes or reads it raises as
+/// TemporaryFile does.
 class ChangeLog
 {
 public:
@@ -28,11 +30,13 @@ public:
     void AddColumn(int position, std::string_view before, std::string_view after);
     /// An update without changed columns adds no row.
     void FinishRow();
+    /// Adds a whole row.
+    void Add(const ChangedRow& row);
 
     /// How much was written so far, for GoBackTo and ChangesSince.
-    size_t Size() const { return m_rows.size(); }
-    /// Forgets the rows that were written after that size was reached.
-    void GoBackTo(size_t size) { m_rows.resize(std::min(size, m_rows.size())); }
+    size_t Size() const { return size_t(m_rows.Size()); }
+    /// Forgets the rows that were written after that size was reached. Raises nothing.
+    void GoBackTo(size_t size);
     void Clear();
 
     /// All changes since that size was reached, once per row.
@@ -40,7 +44,8 @@ public:
 
 private:
     std::vector<ChangedTable> m_tables;
-    std::string m_rows;
+    SpooledBytes m_rows;
+    std::string m_row; // coded
     std::string m_key; // of the row that was begun
     std::string m_columns;
     int m_table = 0;
