@@ -3,10 +3,17 @@
 
 #include "store/ChangeMerger.h"
 #include "store/ChangesetReader.h"
+#include "store/SpooledBytes.h"
 
 #include <algorithm>
 
 namespace Orvane {
+
+ChangeLog::ChangeLog() : m_rows(std::make_unique<SpooledBytes>())
+{
+}
+
+ChangeLog::~ChangeLog() = default;
 
 int ChangeLog::FindTable(std::string_view name) const
 {
@@ -43,31 +50,36 @@ void ChangeLog::FinishRow()
     m_row.clear();
     ChangedRows::AppendHead(m_row, size_t(m_table), m_kind, m_key, size_t(m_columnCount));
     m_row += m_columns;
-    m_rows.Append(m_row);
+    m_rows->Append(m_row);
 }
 
 void ChangeLog::Add(const ChangedRow& row)
 {
     m_row.clear();
     ChangedRows::Append(m_row, row);
-    m_rows.Append(m_row);
+    m_rows->Append(m_row);
+}
+
+size_t ChangeLog::Size() const
+{
+    return size_t(m_rows->Size());
 }
 
 void ChangeLog::GoBackTo(size_t size)
 {
-    if (size < m_rows.Size())
-        m_rows.ShrinkTo(size);
+    if (size < m_rows->Size())
+        m_rows->ShrinkTo(size);
 }
 
 void ChangeLog::Clear()
 {
     m_tables.clear();
-    m_rows.ShrinkTo(0);
+    m_rows->ShrinkTo(0);
 }
 
 Changeset ChangeLog::ChangesSince(size_t size) const
 {
-    return ChangeMerger(m_rows, m_tables).ChangesSince(size);
+    return ChangeMerger(*m_rows, m_tables).ChangesSince(size);
 }
 
 } // namespace Orvane

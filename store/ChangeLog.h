@@ -1,22 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/SpooledBytes.h"
-
 #include <orvane/store/Changeset.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Orvane {
 
+class SpooledBytes;
+
 /// Changed rows in the order in which they changed, possibly with several changes of one row. A store writes
-/// it while changes are recorded. A long log is in a temporary file; what writes or reads it raises as
-/// TemporaryFile does.
+/// it while changes are recorded. A long log is in a temporary file; what writes or reads it raises
+/// DatabaseFailure when there is no room for that.
 class ChangeLog
 {
 public:
+    ChangeLog();
+    ~ChangeLog();
+    ChangeLog(const ChangeLog&) = delete;
+    ChangeLog& operator=(const ChangeLog&) = delete;
+
     /// The position of the table in the log, or -1. A table that got more columns may have been added again;
     /// the last position is returned.
     int FindTable(std::string_view name) const;
@@ -34,7 +40,7 @@ public:
     void Add(const ChangedRow& row);
 
     /// How much was written so far, for GoBackTo and ChangesSince.
-    size_t Size() const { return size_t(m_rows.Size()); }
+    size_t Size() const;
     /// Forgets the rows that were written after that size was reached. Raises nothing.
     void GoBackTo(size_t size);
     void Clear();
@@ -44,7 +50,7 @@ public:
 
 private:
     std::vector<ChangedTable> m_tables;
-    SpooledBytes m_rows;
+    std::unique_ptr<SpooledBytes> m_rows;
     std::string m_row; // coded
     std::string m_key; // of the row that was begun
     std::string m_columns;
