@@ -51,6 +51,8 @@ int PriorityOf(FeatureKind kind)
     return 170;
 }
 
+} // namespace
+
 size_t LayerCount(const FoundData& data)
 {
     size_t count = 0;
@@ -58,8 +60,6 @@ size_t LayerCount(const FoundData& data)
         count += source.layers.size();
     return count;
 }
-
-} // namespace
 
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 {

@@ -27,6 +27,9 @@ struct FoundData {
 /// Examines files without reading their features; for any thread. Raises Cancelled.
 FoundData LookInto(const QStringList& paths, Progress& progress);
 
+/// How many layers were found in all files.
+size_t LayerCount(const FoundData& data);
+
 /// A new layer with the data of a source's layer. The number selects its colours; points are drawn over
 /// lines, and lines over areas.
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
