@@ -144,6 +144,15 @@ SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
     return m_parts->schemes.Import(scheme);
 }
 
+std::optional<SchemeImport> StandardClient::ImportSchemeFile(
+    const QString& path, const std::function<bool(const QString& name)>& mayImport)
+{
+    SchemeFile::Reader file(path);
+    if (!mayImport(file.Name()))
+        return std::nullopt;
+    return m_parts->schemes.Import(file);
+}
+
 void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
 {
     if (layerIDs.isEmpty())

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Orvane {
 
@@ -80,6 +81,12 @@ public:
     /// Stores the scheme in the map in one transaction, replacing an existing scheme of that name, and
     /// reports what did not match. The layers and the current scheme stay as they are.
     SchemeImport ImportScheme(const SchemeDocument& scheme);
+    /// Stores the scheme of a file in the same way, whatever the size of the file, with progress and Cancel.
+    /// mayImport: called with the scheme's name before anything is changed, and may ask the user; if it
+    /// returns false, nothing is done and nothing returned. Raises the errors of SchemeFile::Read and of the
+    /// database, and UserCancelled; the map is then as before.
+    std::optional<SchemeImport>
+    ImportSchemeFile(const QString& path, const std::function<bool(const QString& name)>& mayImport);
 
     /// Refreshes the listed names of these layers in every open editor. For a host whose LayerDisplayName
     /// depends on more than the name: call it when the result for these layers has changed.

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/MainWindow.h"
 
-#include "hostkit/undo/UndoHistory.h"
+#include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
+#include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/actions/DataActions.h"
 #include "shell/actions/EditActions.h"
@@ -97,29 +98,58 @@ void MainWindow::OpenMap(const QString& path)
 {
     if ((!Document().IsAt(path) && !m_sharing->MayOpen(path)) || !LeaveMap())
         return;
+    const bool again = Document().IsAt(path);
     LetGoOf(path);
-    Use(MapDocument::Open(path));
+    std::unique_ptr<MapDocument> document = MapDocument::Open(path);
+    const SourceContents contents = again ? SourceContents() : ContentsOf(*document);
+    Use(std::move(document), contents);
     RecentMaps::Add(Document().Path());
+}
+
+// Before the map takes the place of the other, which stays when the user cancels. A map whose reading does
+// not end then is opened without its data: another file must not keep it closed.
+SourceContents MainWindow::ContentsOf(const MapDocument& document)
+{
+    const std::vector<LayerSource> sources = document.Sources();
+    try {
+        return ReadOrGiveUp(
+            this, tr("Reading map data"), [sources, system = document.System()](Progress& progress) {
+                SourceContents contents = ReadSources(sources, system, progress);
+                progress.StopIfCancelled(); // then it is not all
+                return contents;
+            });
+    } catch (const ReadingGivenUp& error) {
+        SourceContents nothing;
+        for (const LayerSource& source : sources)
+            nothing.failures.emplace(source.layerID, error.Description());
+        return nothing;
+    }
 }
 
 void MainWindow::AddData(const QStringList& paths)
 {
     const FoundData found = ReadOrGiveUp(
         this, tr("Opening map data"), [paths](Progress& progress) { return LookInto(paths, progress); });
-    const bool added = m_layerControl.WithEditorsClosed([&] {
-        const bool first = !Document().HasLayers();
-        m_session->Shell().RecordStep([&] {
-            AddToMap(Document(), found);
-            return tr("Open Map Data");
+    const SourceContents contents = ReadOrGiveUp(
+        this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
+            return ReadFound(found, system, progress);
         });
-        if (first)
-            m_session->BeginSchemes();
-        ReadMap(first ? MapSession::View::All : MapSession::View::Stays);
-        if (m_session->HasUnreadLayers()) // the user cancelled
-            m_session->Shell().History().Undo();
-    });
-    if (added)
+    if (m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
         m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
+}
+
+void MainWindow::AddFound(const FoundData& found, const SourceContents& contents)
+{
+    const bool first = !Document().HasLayers();
+    std::vector<qint32> layerIDs;
+    m_session->Shell().RecordStep([&] {
+        const LongWork work(Document().Database(), tr("Adding layers to the map"), this);
+        layerIDs = AddToMap(Document(), found);
+        return tr("Open Map Data");
+    });
+    if (first)
+        m_session->BeginSchemes();
+    ReadMap(first ? MapSession::View::All : MapSession::View::Stays, WithIDs(contents, layerIDs));
 }
 
 void MainWindow::ShowLayerControl()
@@ -251,7 +281,7 @@ void MainWindow::ShowAbout()
             .arg(QCoreApplication::applicationVersion()));
 }
 
-void MainWindow::Use(std::unique_ptr<MapDocument> document)
+void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
     m_layerControl.Use(*session); // first: it still uses the client of the old session
@@ -262,7 +292,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document)
     setWindowFilePath(path);
     setWindowTitle(
         path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
-    ReadMap(MapSession::View::All);
+    ReadMap(MapSession::View::All, contents);
 }
 
 bool MainWindow::LeaveMap()
@@ -298,9 +328,9 @@ void MainWindow::ShowMapAgain()
         tr("The map was changed in another window and has been reloaded."), ShortMessageTime);
 }
 
-void MainWindow::ReadMap(MapSession::View view)
+void MainWindow::ReadMap(MapSession::View view, const SourceContents& known)
 {
-    const QString problems = m_session->ReadAndShow(view);
+    const QString problems = m_session->ReadAndShow(view, known);
     m_tools->SetSystem(Document().System());
     m_status->SetSystem(Document().System());
     m_data->ShowProblems(problems);

@@ -47,9 +47,11 @@ public:
     ~MainWindow() override;
 
     /// Opens another map file, unless the user keeps the current map, or does not want a file that is open
-    /// elsewhere. The current map stays open when the file cannot be opened.
+    /// elsewhere. The current map stays open when the file cannot be opened, or when the user cancels the
+    /// reading of its data, which raises Cancelled.
     void OpenMap(const QString& path);
-    /// Adds every layer of these files to the map. Files that cannot be read are named in one message.
+    /// Adds every layer of these files to the map. Files that cannot be read are named in one message. When
+    /// the user cancels, the map is as before, and Cancelled or UserCancelled is raised.
     void AddData(const QStringList& paths);
     /// Opens the layer control, or brings it to the front.
     void ShowLayerControl();
@@ -73,12 +75,14 @@ private:
     void AskForData();
     void ShowAbout();
 
-    void Use(std::unique_ptr<MapDocument> document);
+    void AddFound(const FoundData& found, const SourceContents& contents);
+    SourceContents ContentsOf(const MapDocument& document);
+    void Use(std::unique_ptr<MapDocument> document, const SourceContents& contents = {});
     bool LeaveMap();
     void LetGoOf(const QString& path);
     void ShowMapAgain();
     bool KeepUntitledMap();
-    void ReadMap(MapSession::View view);
+    void ReadMap(MapSession::View view, const SourceContents& known = {});
     QString AskForMapFileToWrite(const QString& title);
 
     std::unique_ptr<Ui::MainWindow> m_ui;

@@ -3,43 +3,17 @@
 
 #include "store/ChangeMerger.h"
 #include "store/ChangesetReader.h"
+#include "store/SpooledBytes.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 namespace Orvane {
 
-namespace {
-
-using KeySet = std::unordered_set<std::string_view>;
-
-// True when no row occurs twice; then there is nothing to merge.
-bool AreAllDifferent(std::string_view rows, const std::vector<ChangedTable>& tables)
+ChangeLog::ChangeLog() : m_rows(std::make_unique<SpooledBytes>())
 {
-    std::vector<KeySet> keys(tables.size());
-    ChangeBytes bytes(rows);
-    ChangedRow row;
-    while (!bytes.AtEnd()) {
-        ChangedRows::Read(bytes, tables, row);
-        if (!keys[row.table].insert(row.key).second)
-            return false;
-    }
-    return true;
 }
 
-std::string Merged(std::string_view rows, const std::vector<ChangedTable>& tables)
-{
-    ChangeMerger merger;
-    ChangeBytes bytes(rows);
-    ChangedRow row;
-    while (!bytes.AtEnd()) {
-        ChangedRows::Read(bytes, tables, row);
-        merger.Add(row);
-    }
-    return merger.Rows();
-}
-
-} // namespace
+ChangeLog::~ChangeLog() = default;
 
 int ChangeLog::FindTable(std::string_view name) const
 {
@@ -73,22 +47,39 @@ void ChangeLog::FinishRow()
 {
     if (m_columnCount == 0)
         return;
-    ChangedRows::AppendHead(m_rows, size_t(m_table), m_kind, m_key, size_t(m_columnCount));
-    m_rows += m_columns;
+    m_row.clear();
+    ChangedRows::AppendHead(m_row, size_t(m_table), m_kind, m_key, size_t(m_columnCount));
+    m_row += m_columns;
+    m_rows->Append(m_row);
+}
+
+void ChangeLog::Add(const ChangedRow& row)
+{
+    m_row.clear();
+    ChangedRows::Append(m_row, row);
+    m_rows->Append(m_row);
+}
+
+size_t ChangeLog::Size() const
+{
+    return size_t(m_rows->Size());
+}
+
+void ChangeLog::GoBackTo(size_t size)
+{
+    if (size < m_rows->Size())
+        m_rows->ShrinkTo(size);
 }
 
 void ChangeLog::Clear()
 {
     m_tables.clear();
-    m_rows.clear();
+    m_rows->ShrinkTo(0);
 }
 
 Changeset ChangeLog::ChangesSince(size_t size) const
 {
-    const std::string_view rows = std::string_view(m_rows).substr(std::min(size, m_rows.size()));
-    if (AreAllDifferent(rows, m_tables))
-        return Changeset(m_tables, rows);
-    return Changeset(m_tables, Merged(rows, m_tables));
+    return ChangeMerger(*m_rows, m_tables).ChangesSince(size);
 }
 
 } // namespace Orvane

@@ -3,18 +3,26 @@
 
 #include <orvane/store/Changeset.h>
 
-#include <algorithm>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Orvane {
 
+class SpooledBytes;
+
 /// Changed rows in the order in which they changed, possibly with several changes of one row. A store writes
-/// it while changes are recorded.
+/// it while changes are recorded. A long log is in a temporary file; what writes or reads it raises
+/// DatabaseFailure when there is no room for that.
 class ChangeLog
 {
 public:
+    ChangeLog();
+    ~ChangeLog();
+    ChangeLog(const ChangeLog&) = delete;
+    ChangeLog& operator=(const ChangeLog&) = delete;
+
     /// The position of the table in the log, or -1. A table that got more columns may have been added again;
     /// the last position is returned.
     int FindTable(std::string_view name) const;
@@ -28,11 +36,13 @@ public:
     void AddColumn(int position, std::string_view before, std::string_view after);
     /// An update without changed columns adds no row.
     void FinishRow();
+    /// Adds a whole row.
+    void Add(const ChangedRow& row);
 
     /// How much was written so far, for GoBackTo and ChangesSince.
-    size_t Size() const { return m_rows.size(); }
-    /// Forgets the rows that were written after that size was reached.
-    void GoBackTo(size_t size) { m_rows.resize(std::min(size, m_rows.size())); }
+    size_t Size() const;
+    /// Forgets the rows that were written after that size was reached. Raises nothing.
+    void GoBackTo(size_t size);
     void Clear();
 
     /// All changes since that size was reached, once per row.
@@ -40,7 +50,8 @@ public:
 
 private:
     std::vector<ChangedTable> m_tables;
-    std::string m_rows;
+    std::unique_ptr<SpooledBytes> m_rows;
+    std::string m_row; // coded
     std::string m_key; // of the row that was begun
     std::string m_columns;
     int m_table = 0;

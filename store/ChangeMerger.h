@@ -1,33 +1,47 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/ChangedRow.h"
+#include "store/Changeset.h"
+#include "store/SpooledBytes.h"
 
 #include <string>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Orvane {
 
-/// Merges several changes to the same row into one. The bytes of the rows must outlive it.
+class ChangesetMaker;
+
+/// Merges several changes to the same row of a log into one. Of each change it holds only a few bytes in
+/// memory, and reads the rows again where they are.
 class ChangeMerger
 {
 public:
-    void Add(const ChangedRow& row);
-    /// The coded rows, in the order of their first changes.
-    std::string Rows() const;
+    /// Neither is owned; both outlive this object and stay as they are.
+    ChangeMerger(const SpooledBytes& log, const std::vector<ChangedTable>& tables)
+        : m_log(log), m_tables(tables)
+    {
+    }
+
+    /// The changes from there on, in the order of the first change of each row. Raises as TemporaryFile and
+    /// KeptBytes do.
+    Changeset ChangesSince(quint64 start);
 
 private:
-    struct Entry {
-        ChangedRow row;
-        bool isGone = false; // the row is as it was before all changes
+    // Where a change is. Changes of one row have the same hash; others almost never do.
+    struct Change {
+        quint64 place;
+        size_t hash;
     };
+    using Changes = std::vector<Change>;
 
-    static void Merge(Entry& entry, const ChangedRow& next);
+    Changes Read(quint64 start);
+    Changeset AsTheyAre(quint64 start);
+    Changeset Merged(Changes& changes);
+    void AddRow(ChangesetMaker& maker, Changes::const_iterator first, Changes::const_iterator end);
 
-    std::vector<Entry> m_entries;
-    std::vector<std::unordered_map<std::string_view, size_t>> m_places; // by table, then key
+    const SpooledBytes& m_log;
+    const std::vector<ChangedTable>& m_tables;
+    std::string m_buffer; // of the row that was read last
 };
 
 } // namespace Orvane

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/Changeset.h"
 
-#include "store/ChangeMerger.h"
+#include "store/ChangeLog.h"
+#include "store/ChangesetMaker.h"
 #include "store/ChangesetReader.h"
 
 #include <algorithm>
@@ -10,9 +11,6 @@
 namespace Orvane {
 
 namespace {
-
-constexpr qsizetype Large = 16384; // bytes
-constexpr int FastCompression = 1;
 
 ChangeKind Opposite(ChangeKind kind)
 {
@@ -39,69 +37,95 @@ qint64 WholeKey(std::string_view key)
     return number ? *number : 0;
 }
 
-// The positions of the other tables in the list; tables that are missing in it are added.
-std::vector<size_t> Places(std::vector<ChangedTable>& tables, const std::vector<ChangedTable>& others)
+// The positions of the tables in the log; tables that are missing in it are added.
+std::vector<size_t> Places(ChangeLog& log, const std::vector<ChangedTable>& tables)
 {
     std::vector<size_t> places;
-    for (const ChangedTable& other : others) {
-        const auto found = std::find_if(
-            tables.begin(), tables.end(), [&](const auto& table) { return table.name == other.name; });
-        places.push_back(size_t(found - tables.begin()));
-        if (found == tables.end())
-            tables.push_back(other);
+    places.reserve(tables.size());
+    for (const ChangedTable& table : tables) {
+        const int known = log.FindTable(table.name);
+        places.push_back(size_t(known >= 0 ? known : log.AddTable(table)));
     }
     return places;
+}
+
+void AddAll(ChangeLog& log, const Changeset& changes)
+{
+    ChangesetReader reader(changes);
+    const std::vector<size_t> places = Places(log, reader.Tables());
+    while (reader.Next()) {
+        ChangedRow row = reader.Row();
+        row.table = places[row.table];
+        log.Add(row);
+    }
+}
+
+// The inverse of each row, from back to front.
+std::string InverseOfAll(const std::string& rows, const std::vector<ChangedTable>& tables)
+{
+    std::string inverses(rows.size(), '\0'); // an inverse is as long as its row
+    size_t place = rows.size();
+    ChangeBytes bytes(rows);
+    ChangedRow row;
+    while (!bytes.AtEnd()) {
+        ChangedRows::Read(bytes, tables, row);
+        const std::string inverse = Inverse(row);
+        place -= inverse.size();
+        inverses.replace(place, inverse.size(), inverse);
+    }
+    return inverses;
 }
 
 } // namespace
 
 Changeset::Changeset(const std::vector<ChangedTable>& tables, std::string_view rows)
 {
-    if (rows.empty())
-        return;
-    std::string bytes;
-    ChangedRows::Append(bytes, tables);
-    bytes += rows;
-    m_compressed = qsizetype(bytes.size()) >= Large;
-    const QByteArray all = QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size()));
-    m_kept
-        = KeptBytes(m_compressed ? qCompress(all, FastCompression) : QByteArray(all.constData(), all.size()));
+    ChangesetMaker maker(tables);
+    ChangeBytes bytes(rows);
+    ChangedRow row;
+    while (!bytes.AtEnd()) {
+        const size_t left = bytes.Left();
+        ChangedRows::Read(bytes, tables, row);
+        maker.Add(rows.substr(rows.size() - left, left - bytes.Left()));
+    }
+    *this = maker.Finish();
+}
+
+Changeset::Changeset(KeptBytes kept) : m_kept(std::move(kept))
+{
+}
+
+QByteArray Changeset::Piece(size_t number) const
+{
+    const QByteArray piece = m_kept.Piece(number);
+    const QByteArray content = QByteArray::fromRawData(piece.constData() + 1, piece.size() - 1);
+    return piece.front() == Compressed ? qUncompress(content) : piece.mid(1);
 }
 
 QByteArray Changeset::Bytes() const
 {
-    return m_compressed ? qUncompress(m_kept.Read()) : m_kept.Read();
+    QByteArray bytes;
+    for (size_t number = 0; number < m_kept.PieceCount(); ++number)
+        bytes += Piece(number);
+    return bytes;
 }
 
 // From back to front, because the last change must be undone first.
 Changeset Changeset::Inverted() const
 {
-    ChangesetReader reader(*this);
-    std::string rows(reader.BytesLeft(), '\0'); // an inverse is as long as its row
-    size_t place = rows.size();
-    while (reader.Next()) {
-        const std::string inverse = Inverse(reader.Row());
-        place -= inverse.size();
-        rows.replace(place, inverse.size(), inverse);
-    }
-    return Changeset(reader.Tables(), rows);
+    const ChangesetReader reader(*this);
+    ChangesetMaker inverse(reader.Tables());
+    for (size_t number = m_kept.PieceCount(); number-- > 1;)
+        inverse.Add(InverseOfAll(Piece(number).toStdString(), reader.Tables()));
+    return inverse.Finish();
 }
 
 Changeset Changeset::Then(const Changeset& next) const
 {
-    ChangesetReader first(*this);
-    ChangesetReader second(next);
-    ChangeMerger merger;
-    while (first.Next())
-        merger.Add(first.Row());
-    std::vector<ChangedTable> tables = first.Tables();
-    const std::vector<size_t> places = Places(tables, second.Tables());
-    while (second.Next()) {
-        ChangedRow row = second.Row();
-        row.table = places[row.table];
-        merger.Add(row);
-    }
-    return Changeset(tables, merger.Rows());
+    ChangeLog log;
+    AddAll(log, *this);
+    AddAll(log, next);
+    return log.ChangesSince(0);
 }
 
 void Changeset::ForEachRow(const std::function<void(const RowChange& row)>& visitor) const

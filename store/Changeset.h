@@ -29,8 +29,8 @@ class Changeset
 public:
     /// An empty changeset.
     Changeset() = default;
-    /// rows: as ChangesetReader returns them, at most one for each key. Large ones are kept
-    /// compressed, as KeptBytes. Raises as that does.
+    /// rows: coded as ChangesetReader reads them, at most one for each key. They are kept in pieces, large
+    /// ones compressed, as KeptBytes. Raises as that does.
     Changeset(const std::vector<ChangedTable>& tables, std::string_view rows);
 
     bool IsEmpty() const { return m_kept.IsEmpty(); }
@@ -41,7 +41,7 @@ public:
     /// Calls the visitor for each row.
     void ForEachRow(const std::function<void(const RowChange& row)>& visitor) const;
 
-    /// The changes as bytes, for ChangesetReader.
+    /// The tables and then all rows as bytes.
     QByteArray Bytes() const;
     /// How much is kept, in memory or in a file, in bytes.
     qsizetype KeptSize() const { return m_kept.Size(); }
@@ -49,8 +49,16 @@ public:
     qsizetype BytesInMemory() const { return m_kept.InMemory(); }
 
 private:
-    KeptBytes m_kept;
-    bool m_compressed = false;
+    friend class ChangesetMaker;
+    friend class ChangesetReader;
+
+    static constexpr char Plain = 0; // the first byte of a piece
+    static constexpr char Compressed = 1;
+
+    explicit Changeset(KeptBytes kept);
+    QByteArray Piece(size_t number) const;
+
+    KeptBytes m_kept; // the tables, then pieces of rows
 };
 
 } // namespace Orvane

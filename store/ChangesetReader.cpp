@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/ChangesetReader.h"
 
-#include "store/Changeset.h"
-
 namespace Orvane {
 
 namespace {
@@ -41,23 +39,40 @@ std::string_view ReadKey(ChangeBytes& bytes, size_t count)
 
 } // namespace
 
-ChangesetReader::ChangesetReader(const Changeset& changes) : m_kept(changes.Bytes()), m_bytes(View(m_kept))
+ChangesetReader::ChangesetReader(const Changeset& changes) : m_changes(changes), m_bytes({})
 {
-    if (!m_bytes.AtEnd())
-        m_tables = ChangedRows::ReadTables(m_bytes);
+    if (m_changes.IsEmpty())
+        return;
+    ReadPiece(0);
+    m_tables = ChangedRows::ReadTables(m_bytes);
+}
+
+void ChangesetReader::ReadPiece(size_t number)
+{
+    m_content = m_changes.Piece(number);
+    m_bytes = ChangeBytes(View(m_content));
+    m_piece = number;
 }
 
 bool ChangesetReader::Next()
 {
-    if (m_bytes.AtEnd())
-        return false;
+    if (m_bytes.AtEnd()) {
+        if (m_piece + 1 >= m_changes.m_kept.PieceCount())
+            return false;
+        ReadPiece(m_piece + 1);
+    }
     ChangedRows::Read(m_bytes, m_tables, m_row);
     return true;
 }
 
+// The pieces are about equally large.
 double ChangesetReader::Done() const
 {
-    return m_kept.isEmpty() ? 1 : 1 - double(m_bytes.Left()) / double(m_kept.size());
+    if (m_changes.IsEmpty())
+        return 1;
+    const double inPiece = m_content.isEmpty() ? 1 : 1 - double(m_bytes.Left()) / double(m_content.size());
+    const auto rowPieces = double(m_changes.m_kept.PieceCount() - 1);
+    return m_piece == 0 ? 0 : (double(m_piece - 1) + inPiece) / rowPieces;
 }
 
 void ChangedRows::Append(std::string& bytes, const std::vector<ChangedTable>& tables)

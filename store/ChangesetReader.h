@@ -3,6 +3,7 @@
 
 #include <orvane/store/ChangeCoding.h>
 #include <orvane/store/ChangedRow.h>
+#include <orvane/store/Changeset.h>
 
 #include <QByteArray>
 
@@ -12,8 +13,6 @@
 
 namespace Orvane {
 
-class Changeset;
-
 /// Reads the rows of a changeset one after another.
 ///
 ///     ChangesetReader reader(changes);
@@ -22,12 +21,11 @@ class Changeset;
 class ChangesetReader
 {
 public:
+    /// Raises as KeptBytes does, as does Next.
     explicit ChangesetReader(const Changeset& changes);
 
     /// Goes to the next row; false past the last one.
     bool Next();
-    /// The size of the rows that are left to read.
-    size_t BytesLeft() const { return m_bytes.Left(); }
     /// How much has been read, from 0 to 1.
     double Done() const;
     const ChangedRow& Row() const { return m_row; }
@@ -35,8 +33,12 @@ public:
     const std::vector<ChangedTable>& Tables() const { return m_tables; }
 
 private:
-    QByteArray m_kept;
-    ChangeBytes m_bytes;
+    void ReadPiece(size_t number);
+
+    Changeset m_changes;
+    size_t m_piece = 0; // the one that is read
+    QByteArray m_content; // of it
+    ChangeBytes m_bytes; // of it, from the next row on
     std::vector<ChangedTable> m_tables;
     ChangedRow m_row;
 };

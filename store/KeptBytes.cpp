@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/KeptBytes.h"
 
-#include "store/StoreTexts.h"
-
-#include <OrvaneShellLib/RunTimeError.h>
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QTemporaryFile>
+#include "store/TemporaryFile.h"
 
 #include <atomic>
+#include <utility>
+#include <vector>
 
 namespace Orvane {
 
@@ -18,64 +14,92 @@ namespace {
 std::atomic<qsizetype> g_inMemory = 0;
 std::atomic<qsizetype> g_most = KeptBytes::UsualMost;
 
-[[noreturn]] void RaiseNotKept(const QTemporaryFile& file)
-{
-    QString text = QCoreApplication::translate("LayerStore", StoreTexts::ChangesNotKept);
-    text.replace(QLatin1String("^2"), file.errorString());
-    text.replace(QLatin1String("^1"), QDir::toNativeSeparators(QDir::tempPath()));
-    throw RunTimeError(ErrorNumber::DatabaseFailure, text, QStringLiteral("LayerStore"));
-}
-
-std::unique_ptr<QTemporaryFile> FileWith(const QByteArray& bytes)
-{
-    auto file
-        = std::make_unique<QTemporaryFile>(QDir(QDir::tempPath()).filePath(QStringLiteral("orvane-undo")));
-    if (!file->open() || file->write(bytes) != bytes.size() || !file->flush())
-        RaiseNotKept(*file);
-    return file;
-}
-
 } // namespace
 
 struct KeptBytes::Content {
-    explicit Content(const QByteArray& bytes) : size(bytes.size())
-    {
-        if (size > Small && g_inMemory + size > g_most) {
-            file = FileWith(bytes);
-            return;
-        }
-        memory = bytes;
-        counted = size > Small ? size : 0;
-        g_inMemory += counted;
-    }
+    struct Piece {
+        QByteArray memory;
+        qint64 place = 0; // in the file, if memory is empty
+        qsizetype size = 0;
+    };
+
+    Content() = default;
     ~Content() { g_inMemory -= counted; }
     Content(const Content&) = delete;
     Content& operator=(const Content&) = delete;
 
-    QByteArray memory;
-    std::unique_ptr<QTemporaryFile> file; // instead of memory
-    qsizetype size;
-    qsizetype counted = 0;
+    void Add(const QByteArray& bytes)
+    {
+        const bool isSmall = size + bytes.size() <= Small;
+        pieces.reserve(pieces.size() + 1);
+        if (!isSmall && g_inMemory + bytes.size() > g_most)
+            AddToFile(bytes);
+        else
+            AddToMemory(bytes, isSmall ? 0 : bytes.size());
+        size += bytes.size();
+    }
+    void AddToFile(const QByteArray& bytes)
+    {
+        if (!file)
+            file = std::make_unique<TemporaryFile>();
+        const qint64 place = file->Size();
+        file->Append({bytes.constData(), size_t(bytes.size())});
+        pieces.push_back({{}, place, bytes.size()});
+    }
+    void AddToMemory(const QByteArray& bytes, qsizetype count)
+    {
+        pieces.push_back({bytes, 0, bytes.size()});
+        counted += count;
+        inMemory += bytes.size();
+        g_inMemory += count;
+    }
+    QByteArray Read(const Piece& piece) const
+    {
+        if (!piece.memory.isEmpty())
+            return piece.memory;
+        QByteArray bytes(piece.size, Qt::Uninitialized);
+        file->Read(piece.place, bytes.data(), piece.size);
+        return bytes;
+    }
+
+    std::vector<Piece> pieces;
+    std::unique_ptr<TemporaryFile> file; // one for all pieces that are not in memory
+    qsizetype size = 0;
+    qsizetype inMemory = 0;
+    qsizetype counted = 0; // what counts against the limit
 };
 
 KeptBytes::KeptBytes(const QByteArray& bytes)
-    : m_content(bytes.isEmpty() ? nullptr : std::make_shared<const Content>(bytes))
+{
+    if (bytes.isEmpty())
+        return;
+    Maker maker;
+    maker.Add(bytes);
+    *this = maker.Finish();
+}
+
+KeptBytes::KeptBytes(std::shared_ptr<const Content> content) : m_content(std::move(content))
 {
 }
 
 QByteArray KeptBytes::Read() const
 {
-    if (!m_content)
-        return {};
-    if (!m_content->file)
-        return m_content->memory;
-    QTemporaryFile& file = *m_content->file;
-    if (!file.seek(0))
-        RaiseNotKept(file);
-    QByteArray bytes = file.readAll();
-    if (bytes.size() != m_content->size)
-        RaiseNotKept(file);
+    if (PieceCount() == 1)
+        return Piece(0);
+    QByteArray bytes;
+    for (size_t number = 0; number < PieceCount(); ++number)
+        bytes += Piece(number);
     return bytes;
+}
+
+size_t KeptBytes::PieceCount() const
+{
+    return m_content ? m_content->pieces.size() : 0;
+}
+
+QByteArray KeptBytes::Piece(size_t number) const
+{
+    return m_content->Read(m_content->pieces[number]);
 }
 
 qsizetype KeptBytes::Size() const
@@ -85,7 +109,7 @@ qsizetype KeptBytes::Size() const
 
 qsizetype KeptBytes::InMemory() const
 {
-    return m_content ? m_content->memory.size() : 0;
+    return m_content ? m_content->inMemory : 0;
 }
 
 qsizetype KeptBytes::AllInMemory()
@@ -96,6 +120,18 @@ qsizetype KeptBytes::AllInMemory()
 void KeptBytes::SetMost(qsizetype bytes)
 {
     g_most = bytes;
+}
+
+void KeptBytes::Maker::Add(const QByteArray& piece)
+{
+    if (!m_content)
+        m_content = std::make_shared<Content>();
+    m_content->Add(piece);
+}
+
+KeptBytes KeptBytes::Maker::Finish()
+{
+    return KeptBytes(std::exchange(m_content, nullptr));
 }
 
 } // namespace Orvane

@@ -19,14 +19,20 @@ public:
     /// Bytes of this size or less always stay in memory.
     static constexpr qsizetype Small = 16384;
 
+    class Maker;
+
     /// Nothing.
     KeptBytes() = default;
-    /// Raises DatabaseFailure if a temporary file is needed and cannot be written.
+    /// One piece. Raises DatabaseFailure if a temporary file is needed and cannot be written.
     explicit KeptBytes(const QByteArray& bytes);
 
     bool IsEmpty() const { return !m_content; }
-    /// The bytes themselves. Raises DatabaseFailure if a temporary file cannot be read.
+    /// All bytes. Raises DatabaseFailure if a temporary file cannot be read.
     QByteArray Read() const;
+    /// In how many pieces they were added.
+    size_t PieceCount() const;
+    /// One piece, from 0. Raises as Read does.
+    QByteArray Piece(size_t number) const;
     /// How many there are, in memory or in a file.
     qsizetype Size() const;
     /// How much of it is in memory, in bytes.
@@ -40,7 +46,23 @@ public:
 private:
     struct Content;
 
+    explicit KeptBytes(std::shared_ptr<const Content> content);
+
     std::shared_ptr<const Content> m_content;
+};
+
+/// Makes KeptBytes from pieces, so that not all of them need be in memory at once.
+class KeptBytes::Maker
+{
+public:
+    /// Adds bytes, which may not be empty. Raises DatabaseFailure if a temporary file is needed and cannot be
+    /// written.
+    void Add(const QByteArray& piece);
+    /// What was added; nothing is left to add to.
+    KeptBytes Finish();
+
+private:
+    std::shared_ptr<Content> m_content;
 };
 
 } // namespace Orvane

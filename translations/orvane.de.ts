@@ -434,6 +434,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Der Karte Kartendaten aus Dateien hinzufügen</translation>
     </message>
     <message>
+        <source>Adding layers to the map</source>
+        <translation>Layer werden zur Karte hinzugefügt</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
@@ -874,6 +878,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Laden der Startschemas</translation>
     </message>
     <message>
+        <source>Loading the schemes</source>
+        <translation>Schemata werden geladen</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>Kartendaten werden gesucht</translation>
     </message>
@@ -1146,6 +1154,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Reading map data</source>
         <translation>Kartendaten werden gelesen</translation>
+    </message>
+    <message>
+        <source>Reading the map</source>
+        <translation>Karte wird gelesen</translation>
     </message>
     <message>
         <source>Redo</source>

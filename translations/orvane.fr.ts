@@ -434,6 +434,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Ajouter à la carte des données issues de fichiers</translation>
     </message>
     <message>
+        <source>Adding layers to the map</source>
+        <translation>Ajout des couches à la carte</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
     </message>
@@ -874,6 +878,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Chargement des schémas de démarrage</translation>
     </message>
     <message>
+        <source>Loading the schemes</source>
+        <translation>Chargement des schémas</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>Recherche des données cartographiques</translation>
     </message>
@@ -1146,6 +1154,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Reading map data</source>
         <translation>Lecture des données</translation>
+    </message>
+    <message>
+        <source>Reading the map</source>
+        <translation>Lecture de la carte</translation>
     </message>
     <message>
         <source>Redo</source>

@@ -434,6 +434,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>ファイルの地図データを地図に追加します</translation>
     </message>
     <message>
+        <source>Adding layers to the map</source>
+        <translation>地図にレイヤーを追加しています</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
     </message>
@@ -874,6 +878,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>起動時スキームの読み込み</translation>
     </message>
     <message>
+        <source>Loading the schemes</source>
+        <translation>スキームを読み込んでいます</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>地図データを検索しています</translation>
     </message>
@@ -1146,6 +1154,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Reading map data</source>
         <translation>地図データを読み込んでいます</translation>
+    </message>
+    <message>
+        <source>Reading the map</source>
+        <translation>地図を読み込んでいます</translation>
     </message>
     <message>
         <source>Redo</source>

@@ -202,27 +202,50 @@ SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
     return document;
 }
 
+bool SchemeDocument::Reader::Begin()
+{
+    const QByteArray first = m_text.readLine(LongestLine).trimmed();
+    if (!first.endsWith(BeginOfLayers))
+        return false;
+    m_name = CheckedName(Parsed(first + EndOfLayers, 0));
+    return true;
+}
+
+bool SchemeDocument::Reader::Next(Layer& layer)
+{
+    const qint64 start = m_text.pos();
+    QByteArray line = NextLine(m_text);
+    if (line == EndOfLayers) {
+        if (!m_text.readAll().trimmed().isEmpty())
+            RaiseNoJson(m_text.size());
+        return false;
+    }
+    if (line.isEmpty() && m_text.atEnd())
+        RaiseNoJson(start);
+    if (line.endsWith(','))
+        line.chop(1);
+    layer = ToLayer(Parsed(line, start), m_position++);
+    return true;
+}
+
+double SchemeDocument::Reader::Done() const
+{
+    return double(m_text.pos()) / double(m_text.size());
+}
+
 std::optional<SchemeDocument>
 SchemeDocument::FromLines(QIODevice& text, const std::function<void(double done)>& told)
 {
-    const QByteArray first = text.readLine(LongestLine).trimmed();
-    if (!first.endsWith(BeginOfLayers))
+    Reader reader(text);
+    if (!reader.Begin())
         return std::nullopt;
     SchemeDocument document;
-    document.name = CheckedName(Parsed(first + EndOfLayers, 0));
-    qint64 start = text.pos();
-    for (QByteArray line = NextLine(text); line != EndOfLayers; line = NextLine(text)) {
-        if (line.isEmpty() && text.atEnd())
-            RaiseNoJson(start);
-        if (line.endsWith(','))
-            line.chop(1);
-        document.layers.push_back(ToLayer(Parsed(line, start), int(document.layers.size())));
-        start = text.pos();
+    document.name = reader.Name();
+    for (Layer layer; reader.Next(layer);) {
+        document.layers.push_back(layer);
         if (told)
-            told(double(start) / double(text.size()));
+            told(reader.Done());
     }
-    if (!text.readAll().trimmed().isEmpty())
-        RaiseNoJson(text.size());
     return document;
 }
 

@@ -62,6 +62,29 @@ public:
         const char* m_separator = "\n";
     };
 
+    /// Reads a text that has one line per layer, as ToJson writes it, layer by layer. Raises as FromJson
+    /// does, and SchemeTextDamaged for a line of more than LongestLine.
+    class Reader
+    {
+    public:
+        /// text: not owned; read from where it stands.
+        explicit Reader(QIODevice& text) : m_text(text) { }
+
+        /// Reads the beginning. Returns false for any other text, of which the beginning has then been read.
+        bool Begin();
+        /// Of the scheme.
+        const QString& Name() const { return m_name; }
+        /// Reads the next layer; false when there was none left.
+        bool Next(Layer& layer);
+        /// The part of the text that was read, from 0 to 1.
+        double Done() const;
+
+    private:
+        QIODevice& m_text;
+        QString m_name;
+        int m_position = 0; // of the next layer
+    };
+
     /// In UTF-8, one line per layer. Raises HostError::SchemeValueUnknown for a value that is not a number.
     QByteArray ToJson() const;
 

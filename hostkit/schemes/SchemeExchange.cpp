@@ -30,37 +30,6 @@ SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
     return layer;
 }
 
-// From the layer in the map to the layer in the document. If two layers of the document match one in the map,
-// the first is used.
-QHash<qint32, qint32>
-Matches(const std::vector<LayerIdentity>& present, const SchemeDocument& scheme, SchemeImport& report)
-{
-    std::vector<LayerIdentity> wanted;
-    for (const SchemeDocument::Layer& layer : scheme.layers)
-        wanted.push_back(layer.identity);
-    const QHash<qint32, qint32> matches = MatchLayers(wanted, present);
-    QHash<qint32, qint32> byLayerID;
-    for (const LayerIdentity& layer : wanted) {
-        const auto match = matches.constFind(layer.id);
-        if (match == matches.constEnd() || byLayerID.contains(*match))
-            report.onlyInFile << layer.name;
-        else
-            byLayerID.insert(*match, layer.id);
-    }
-    return byLayerID;
-}
-
-QSet<qint32> ListedLayers(ILayerStore& map)
-{
-    QSet<qint32> layerIDs;
-    const auto rows = map.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers WHERE Code > -2"));
-    for (; !rows->AtEOF(); rows->MoveNext()) {
-        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
-            layerIDs.insert(*layerID);
-    }
-    return layerIDs;
-}
-
 // The scheme of that name, without values; it is created if it is missing.
 qint32 EmptyScheme(ILayerStore& map, const QString& name)
 {
@@ -87,21 +56,72 @@ SchemeDocument::Values Completed(ILayerStore& map, qint32 layerID, SchemeDocumen
     return values;
 }
 
-void StoreValues(
-    ILayerStore& map, qint32 schemeID, const QHash<qint32, qint32>& byLayerID, const SchemeDocument& scheme)
+using Visitor = SchemeFile::Reader::Visitor;
+using EachLayer = std::function<void(const Visitor& visitor)>;
+
+LayerMatcher MatcherOf(ILayerStore& map, const EachLayer& each)
 {
+    LayerMatcher matcher;
+    ForEachIdentity(map, [&](const LayerIdentity& layer) { matcher.AddTo(layer); });
+    each([&](const SchemeDocument::Layer& layer, double done) {
+        map.AskWatcher(done / 2);
+        matcher.AddFrom(layer.identity);
+    });
+    matcher.Prepare();
+    return matcher;
+}
+
+// Returns the layers of the map that got values. If two layers of the scheme match one in the map, the first
+// is used.
+QSet<qint32> StoreValues(ILayerStore& map, qint32 schemeID, const EachLayer& each, QStringList& onlyInScheme)
+{
+    const LayerMatcher matcher = MatcherOf(map, each);
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
               .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
-    qsizetype stored = 0;
-    for (auto match = byLayerID.begin(); match != byLayerID.end(); ++match) {
-        map.AskWatcher(double(++stored) / double(byLayerID.size()));
-        std::vector<Value> row{match.key(), schemeID};
-        const SchemeDocument::Values values
-            = Completed(map, match.key(), scheme.layers.at(std::size_t(match.value())).values);
+    QSet<qint32> stored;
+    each([&](const SchemeDocument::Layer& layer, double done) {
+        map.AskWatcher((1 + done) / 2);
+        const std::optional<qint32> layerID = matcher.Match(layer.identity);
+        if (!layerID || stored.contains(*layerID)) {
+            onlyInScheme << layer.identity.name;
+            return;
+        }
+        stored.insert(*layerID);
+        std::vector<Value> row{*layerID, schemeID};
+        const SchemeDocument::Values values = Completed(map, *layerID, layer.values);
         row.insert(row.end(), values.begin(), values.end());
         map.Execute(insertion, row);
+    });
+    return stored;
+}
+
+// The names of listed layers without values.
+QStringList OthersThan(const QSet<qint32>& stored, ILayerStore& map)
+{
+    QStringList names;
+    const auto rows
+        = map.OpenQuery(QStringLiteral("SELECT LayerID, Name FROM Layers WHERE Code > -2 ORDER BY LayerID"));
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));
+        const Value name = rows->Field("Name");
+        if (layerID && !stored.contains(*layerID))
+            names << ToTextOrNone(name);
     }
+    return names;
+}
+
+SchemeImport ImportLayers(ILayerStore& map, const QString& name, const EachLayer& each)
+{
+    Transaction transaction(map);
+    LayerSchemes(map).Current(); // creates the first scheme
+    SchemeImport report;
+    report.name = name;
+    const QSet<qint32> stored = StoreValues(map, EmptyScheme(map, name), each, report.onlyInFile);
+    report.onlyInMap = OthersThan(stored, map);
+    report.matched = stored.size();
+    transaction.Commit();
+    return report;
 }
 
 std::unique_ptr<IRecordset> SavedLayers(ILayerStore& map, qint32 schemeID)
@@ -152,21 +172,16 @@ void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName)
 
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)
 {
-    Transaction transaction(map);
-    LayerSchemes(map).Current(); // creates the first scheme
-    const std::vector<LayerIdentity> present = IdentitiesOf(map);
-    SchemeImport report;
-    report.name = scheme.name;
-    const QHash<qint32, qint32> byLayerID = Matches(present, scheme, report);
-    StoreValues(map, EmptyScheme(map, scheme.name), byLayerID, scheme);
-    const QSet<qint32> listed = ListedLayers(map);
-    for (const LayerIdentity& layer : present) {
-        if (listed.contains(layer.id) && !byLayerID.contains(layer.id))
-            report.onlyInMap << layer.name;
-    }
-    report.matched = byLayerID.size();
-    transaction.Commit();
-    return report;
+    return ImportLayers(map, scheme.name, [&scheme](const Visitor& visitor) {
+        double read = 0;
+        for (const SchemeDocument::Layer& layer : scheme.layers)
+            visitor(layer, ++read / double(scheme.layers.size()));
+    });
+}
+
+SchemeImport Import(ILayerStore& map, SchemeFile::Reader& file)
+{
+    return ImportLayers(map, file.Name(), [&file](const Visitor& visitor) { file.ForEachLayer(visitor); });
 }
 
 } // namespace Orvane::SchemeExchange

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orvane/hostkit/schemes/SchemeDocument.h>
+#include <orvane/hostkit/schemes/SchemeFile.h>
 
 #include <QString>
 #include <QStringList>
@@ -35,6 +36,10 @@ void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName);
 /// replaced. The layers and the current scheme stay as they are. For values that the document does not have,
 /// the present values of the layer are stored.
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme);
+
+/// The same for a file, whatever its size. Asks the watcher of the map after each layer. Raises the errors of
+/// the reader too; the map is then as before.
+SchemeImport Import(ILayerStore& map, SchemeFile::Reader& file);
 
 } // namespace SchemeExchange
 

@@ -58,6 +58,16 @@ QByteArray ContentOf(QFile& file, const QString& path)
     return content;
 }
 
+// Runs read; an error then names the file.
+bool Named(const QString& path, const std::function<bool()>& read)
+{
+    try {
+        return read();
+    } catch (const RunTimeError& error) {
+        RaiseUnreadable(path, error.Description());
+    }
+}
+
 } // namespace
 
 SchemeDocument Read(const QString& path, const std::function<void(double done)>& told)
@@ -81,6 +91,42 @@ SchemeDocument Read(const QString& path, const std::function<void(double done)>&
         RaiseUnreadable(path, error.Description());
     }
     RaiseUnreadable(path, FileTexts::tr("It is too large."));
+}
+
+Reader::Reader(const QString& path) : m_path(path), m_file(path)
+{
+    Open(m_file, path);
+    SchemeDocument::Reader text(m_file);
+    if (m_file.size() > SmallFile && Begin(text)) {
+        m_name = text.Name();
+        return;
+    }
+    m_file.close();
+    m_document = Read(path);
+    m_name = m_document->name;
+}
+
+void Reader::ForEachLayer(const Visitor& visitor)
+{
+    if (m_document) {
+        const auto count = double(m_document->layers.size());
+        for (const SchemeDocument::Layer& layer : m_document->layers)
+            visitor(layer, layer.identity.id / count);
+        return;
+    }
+    SchemeDocument::Reader text(m_file);
+    if (!Begin(text))
+        RaiseUnreadable(m_path, SchemeDocument::tr("It is not a layer scheme."));
+    SchemeDocument::Layer layer;
+    while (Named(m_path, [&] { return text.Next(layer); }))
+        visitor(layer, text.Done());
+}
+
+bool Reader::Begin(SchemeDocument::Reader& text)
+{
+    m_file.seek(0);
+    SkipByteOrderMark(m_file);
+    return Named(m_path, [&] { return text.Begin(); });
 }
 
 void Make(const QString& path, const Writer& write)

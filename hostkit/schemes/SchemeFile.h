@@ -3,10 +3,12 @@
 
 #include <orvane/hostkit/schemes/SchemeDocument.h>
 
+#include <QFile>
 #include <QString>
 #include <QtGlobal>
 
 #include <functional>
+#include <optional>
 
 class QIODevice;
 
@@ -25,6 +27,31 @@ inline constexpr qint64 SmallFile = qint64(1024) * 1024; // bytes
 /// Raises HostError::SchemeFileUnreadable, which names the file and says what is wrong with it. told: called
 /// now and then with the part that was read, from 0 to 1; if it raises UserCancelled, that is passed on.
 SchemeDocument Read(const QString& path, const std::function<void(double done)>& told = {});
+
+/// A scheme file of which no more than one layer is in memory at a time, if it has one line per layer; the
+/// file stays open meanwhile.
+class Reader
+{
+public:
+    using Visitor = std::function<void(const SchemeDocument::Layer& layer, double done)>;
+
+    /// Raises as Read does.
+    explicit Reader(const QString& path);
+
+    /// Of the scheme.
+    const QString& Name() const { return m_name; }
+    /// Calls the visitor for each layer, with the part that was read, from 0 to 1; may be called again.
+    /// Raises as Read does, and what the visitor raises.
+    void ForEachLayer(const Visitor& visitor);
+
+private:
+    bool Begin(SchemeDocument::Reader& text);
+
+    QString m_path;
+    QFile m_file;
+    QString m_name;
+    std::optional<SchemeDocument> m_document; // of a file that is small, or has other lines
+};
 
 /// Writes a text into the device that it is given.
 using Writer = std::function<void(QIODevice& text)>;

@@ -71,9 +71,18 @@ void SchemeSteps::Delete(const QString& name)
 
 SchemeImport SchemeSteps::Import(const SchemeDocument& scheme)
 {
+    return Import(scheme.name, [&] { return SchemeExchange::Import(m_database, scheme); });
+}
+
+SchemeImport SchemeSteps::Import(SchemeFile::Reader& file)
+{
+    return Import(file.Name(), [&] { return SchemeExchange::Import(m_database, file); });
+}
+
+SchemeImport SchemeSteps::Import(const QString& name, const std::function<SchemeImport()>& act)
+{
     SchemeImport report;
-    Run(tr("Import Scheme \"%1\"").arg(NameInStep(scheme.name)),
-        [&] { report = SchemeExchange::Import(m_database, scheme); });
+    Run(tr("Import Scheme \"%1\"").arg(NameInStep(name)), [&] { report = act(); });
     Tell();
     return report;
 }

@@ -44,11 +44,13 @@ public:
 
     /// Stores the scheme in the map, as SchemeExchange::Import does.
     SchemeImport Import(const SchemeDocument& scheme);
+    SchemeImport Import(SchemeFile::Reader& file);
     /// Gives the map the schemes of that file, as StartupSchemes::Load does.
     void LoadFromStartup(const QString& startupFile);
 
 private:
     void ListenToChanges();
+    SchemeImport Import(const QString& name, const std::function<SchemeImport()>& act);
     // Runs act as one step of that name, which the user can cancel while it runs.
     void
     Run(const QString& text, const std::function<void()>& act,

@@ -42,8 +42,8 @@ bool HasWindows()
 
 } // namespace
 
-LongWork::LongWork(ILayerStore& store, const QString& what, QWidget* parent)
-    : m_store(store), m_what(what), m_parent(parent)
+LongWork::LongWork(ILayerStore& store, const QString& what, QWidget* parent, Cancel cancel)
+    : m_store(store), m_what(what), m_parent(parent), m_cancel(cancel)
 {
     if (UnderWay() || !HasWindows())
         return;
@@ -106,8 +106,13 @@ void LongWork::Show()
     m_dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog->setAutoReset(false);
     m_dialog->setAutoClose(false);
-    QObject::connect(
-        m_dialog.get(), &QProgressDialog::canceled, m_dialog.get(), [this] { m_cancelled = true; });
+    if (m_cancel == Cancel::Impossible) {
+        m_dialog->setCancelButton(nullptr);
+        m_dialog->setWindowFlag(Qt::WindowCloseButtonHint, false);
+    }
+    QObject::connect(m_dialog.get(), &QProgressDialog::canceled, m_dialog.get(), [this] {
+        m_cancelled = m_cancel == Cancel::Possible;
+    });
     m_dialog->show();
 }
 

@@ -36,9 +36,12 @@ public:
     /// How often it looks at the user's input.
     static constexpr std::chrono::milliseconds UsualPause{30};
 
+    /// Whether the dialog has a Cancel button. What follows a commit has none: it must not stop halfway.
+    enum class Cancel { Possible, Impossible };
+
     /// store: not owned, outlives this object. what: what the dialog says, translated. parent: in front of
     /// which window the dialog is shown if none is active; nullptr for none.
-    LongWork(ILayerStore& store, const QString& what, QWidget* parent);
+    LongWork(ILayerStore& store, const QString& what, QWidget* parent, Cancel cancel = Cancel::Possible);
     /// Closes the dialog.
     ~LongWork();
     LongWork(const LongWork&) = delete;
@@ -49,8 +52,9 @@ public:
     /// Runs act now, or after the work that is under way: for calls from other threads and queued calls that
     /// use the store or ask the user. context: if it is destroyed first, act does not run.
     static void RunAfter(QObject* context, std::function<void()> act);
-    /// Other times than usual, for tests: before the dialog appears, and between two looks at the user's
-    /// input.
+    /// For a host that shows progress sooner or later than usual, or that answers input more or less often:
+    /// how long all work of the program takes before its dialog appears, and the time between two looks at
+    /// the user's input. Valid from the next look on.
     static void
     SetPatience(std::chrono::milliseconds beforeDialog, std::chrono::milliseconds betweenLooks = UsualPause);
 
@@ -62,6 +66,7 @@ private:
     ILayerStore& m_store;
     QString m_what;
     QWidget* m_parent;
+    Cancel m_cancel;
     bool m_isOutermost = false;
     bool m_cancelled = false;
     QElapsedTimer m_sinceStart;

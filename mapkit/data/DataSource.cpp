@@ -130,7 +130,7 @@ DataSource::~DataSource()
 
 std::vector<SourceLayer> DataSource::Layers() const
 {
-    const GdalErrors quiet;
+    const GdalErrors errors;
     const ReadingBound bound;
     std::vector<SourceLayer> layers;
     for (OGRLayer* layer : m_dataset->GetLayers()) {
@@ -141,6 +141,8 @@ std::vector<SourceLayer> DataSource::Layers() const
              SystemText(layer->GetSpatialRef()), ExtentOf(*layer)});
     }
     RequireReadingInTime(m_path);
+    if (layers.empty() && !errors.First().isEmpty())
+        Fail(errors.First());
     return layers;
 }
 

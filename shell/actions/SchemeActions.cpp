@@ -183,15 +183,10 @@ void SchemeActions::Import()
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const SchemeDocument scheme = m_session->Shell().ReadSchemeFile(dialog.selectedFiles().value(0));
-    if (!MayReplace(scheme.name))
-        return;
-    SchemeImport import;
-    {
-        const BusyPointer busy;
-        import = m_session->Shell().ImportScheme(scheme);
-    }
-    Report(import);
+    const auto import = m_session->Shell().ImportSchemeFile(
+        dialog.selectedFiles().value(0), [this](const QString& name) { return MayReplace(name); });
+    if (import)
+        Report(*import);
 }
 
 bool SchemeActions::MayReplace(const QString& name)

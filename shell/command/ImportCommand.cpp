@@ -29,14 +29,6 @@ QStringList FilesOf(const QStringList& words)
     return files;
 }
 
-qsizetype LayerCount(const FoundData& data)
-{
-    qsizetype count = 0;
-    for (const FoundData::Source& source : data.sources)
-        count += qsizetype(source.layers.size());
-    return count;
-}
-
 int Import(const QStringList& files, const QString& map, const Terminal& terminal)
 {
     Progress progress;
@@ -55,7 +47,7 @@ int Import(const QStringList& files, const QString& map, const Terminal& termina
     TellLine(
         terminal,
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
-            .arg(QFileInfo(map).fileName(), QLocale().toString(LayerCount(found))));
+            .arg(QFileInfo(map).fileName(), QLocale().toString(qulonglong(LayerCount(found)))));
     return found.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
 }
 

@@ -53,6 +53,14 @@ int PriorityOf(FeatureKind kind)
 
 } // namespace
 
+size_t LayerCount(const FoundData& data)
+{
+    size_t count = 0;
+    for (const FoundData::Source& source : data.sources)
+        count += source.layers.size();
+    return count;
+}
+
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 {
     const Colours& colours = Cycle[number % Cycle.size()];
@@ -89,21 +97,59 @@ FoundData LookInto(const QStringList& paths, Progress& progress)
     return data;
 }
 
-void AddToMap(MapDocument& document, const FoundData& data)
+QString SystemFor(const MapDocument& document, const FoundData& data)
 {
-    if (data.sources.empty())
-        return;
-    Transaction transaction(document.Database());
+    if (data.sources.empty() || !document.System().isEmpty())
+        return document.System();
     const SourceLayer& first = data.sources.front().layers.front();
+    return SystemToShow(first.system, first.extent);
+}
+
+SourceContents ReadFound(const FoundData& data, const QString& system, Progress& progress)
+{
+    std::vector<LayerSource> sources;
+    sources.reserve(LayerCount(data));
+    for (const FoundData::Source& source : data.sources) {
+        for (const SourceLayer& layer : source.layers)
+            sources.push_back({qint32(sources.size()), source.path, layer.name, {}});
+    }
+    SourceContents contents = ReadSources(std::move(sources), system, progress);
+    progress.StopIfCancelled(); // then it is not all
+    return contents;
+}
+
+std::vector<qint32> AddToMap(MapDocument& document, const FoundData& data)
+{
+    std::vector<qint32> layerIDs;
+    if (data.sources.empty())
+        return layerIDs;
+    ILayerStore& database = document.Database();
+    const size_t count = LayerCount(data);
+    layerIDs.reserve(count);
+    Transaction transaction(database);
     if (document.System().isEmpty())
-        document.SetSystem(SystemToShow(first.system, first.extent));
+        document.SetSystem(SystemFor(document, data));
     size_t number = document.Sources().size();
     for (const FoundData::Source& source : data.sources) {
         const qint32 groupID = document.AddGroup(QFileInfo(source.path).completeBaseName(), true);
-        for (const SourceLayer& layer : source.layers)
-            document.AddMember(groupID, document.AddLayer(LayerFor(source.path, layer, number++)));
+        for (const SourceLayer& layer : source.layers) {
+            database.AskWatcher(double(layerIDs.size()) / double(count));
+            layerIDs.push_back(document.AddLayer(LayerFor(source.path, layer, number++)));
+            document.AddMember(groupID, layerIDs.back());
+        }
     }
     transaction.Commit();
+    return layerIDs;
+}
+
+SourceContents WithIDs(const SourceContents& contents, const std::vector<qint32>& layerIDs)
+{
+    SourceContents named;
+    for (const auto& [number, features] : contents.features)
+        named.features.emplace(layerIDs.at(size_t(number)), features);
+    for (const auto& [number, reason] : contents.failures)
+        named.failures.emplace(layerIDs.at(size_t(number)), reason);
+    return named;
 }
 
 } // namespace Orvane

@@ -67,19 +67,20 @@ IStyleEditorClient& MapSession::Client()
 // Not a separate undo step: undoing the import of the data also undoes these values.
 void MapSession::BeginSchemes()
 {
+    using Cancel = LongWork::Cancel;
+    const LongWork work(m_document->Database(), tr("Loading the schemes"), &m_mainWindow, Cancel::Impossible);
     StartupSchemes::Load(m_document->Database(), StartupFile());
     LayerSchemes schemes(m_document->Database());
     schemes.Load(schemes.Current());
     schemes.Save(schemes.Current());
 }
 
-QString MapSession::ReadAndShow(View view)
+QString MapSession::ReadAndShow(View view, const SourceContents& known)
 {
     m_client.InvalidateLayerNames();
-    m_layers.DropFeaturesOfOtherData();
-    m_layers.ReadAll();
+    ReadRows();
     m_follower.Follow();
-    SourceContents contents;
+    SourceContents contents = known;
     const QString givenUp = ReadMissing(contents);
     m_layers.TakeFeatures(contents);
     const OpenedBackdrop backdrop = OpenBackdrop();
@@ -95,26 +96,33 @@ QString MapSession::ReadAndShow(View view)
     return problems.join(QLatin1Char('\n'));
 }
 
+// Without Cancel: what changed the rows is stored already.
+void MapSession::ReadRows()
+{
+    using Cancel = LongWork::Cancel;
+    const LongWork work(m_document->Database(), tr("Reading the map"), &m_mainWindow, Cancel::Impossible);
+    m_layers.DropFeaturesOfOtherData();
+    m_layers.ReadAll();
+}
+
 QString MapSession::ReadMissing(SourceContents& contents) const
 {
+    std::vector<LayerSource> missing = m_layers.MissingSources();
+    std::erase_if(missing, [&](const LayerSource& source) {
+        return contents.features.contains(source.layerID) || contents.failures.contains(source.layerID);
+    });
     try {
-        contents = ReadOrGiveUp(
+        SourceContents read = ReadOrGiveUp(
             &m_mainWindow, tr("Reading map data"),
-            [sources = m_layers.MissingSources(), system = m_document->System()](Progress& progress) {
-                return ReadSources(sources, system, progress);
+            [missing = std::move(missing), system = m_document->System()](Progress& progress) {
+                return ReadSources(missing, system, progress);
             });
+        contents.features.merge(read.features);
+        contents.failures.merge(read.failures);
     } catch (const ReadingGivenUp& error) {
         return error.Description();
     }
     return {};
-}
-
-bool MapSession::HasUnreadLayers() const
-{
-    const std::vector<LayerSource> missing = m_layers.MissingSources();
-    return std::any_of(missing.begin(), missing.end(), [this](const LayerSource& source) {
-        return !m_layers.Unreadable().contains(source.layerID);
-    });
 }
 
 MapSession::OpenedBackdrop MapSession::OpenBackdrop() const

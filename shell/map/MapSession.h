@@ -50,10 +50,9 @@ public:
     enum class View { Stays, All };
 
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
-    /// layers could not be read, empty when all could. Raises errors of the database.
-    QString ReadAndShow(View view = View::Stays);
-    /// True when reading was cancelled before all layers were read.
-    bool HasUnreadLayers() const;
+    /// layers could not be read, empty when all could. Raises errors of the database. known: what was read
+    /// already, features and failures.
+    QString ReadAndShow(View view = View::Stays, const SourceContents& known = {});
     /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
 
@@ -83,7 +82,8 @@ private:
 
     OpenedBackdrop OpenBackdrop() const;
     std::shared_ptr<const RasterBackdrop> ReadBackdrop(const QString& path) const;
-    // Returns why the reading was given up; empty if it was not.
+    void ReadRows();
+    // Reads what contents lacks. Returns why the reading was given up; empty if it was not.
     QString ReadMissing(SourceContents& contents) const;
     void Show();
     void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);

@@ -142,6 +142,37 @@ TEST_F(CancelledCommands, ReadAllOfASchemeFileOrNothing)
     EXPECT_EQ(read.layers.size(), scheme.layers.size());
 }
 
+TEST_F(CancelledCommands, ImportAllOfASchemeFileOrNothing)
+{
+    SchemeDocument scheme = SchemeExchange::Export(Database(), Night);
+    scheme.name = QStringLiteral("Dusk");
+    const std::vector<SchemeDocument::Layer> some = scheme.layers;
+    while (scheme.layers.size() < 5000) // more than a small file
+        scheme.layers.insert(scheme.layers.end(), some.begin(), some.end());
+    SchemeFile::Write(Path("dusk.json"), scheme);
+    std::optional<SchemeImport> import;
+    ExpectAllOrNothing([&] { import = m_client.ImportSchemeFile(Path("dusk.json"), [](const QString&) { return true;
+    });
+});
+ASSERT_TRUE(import);
+EXPECT_EQ(import->matched, qsizetype(some.size()));
+EXPECT_EQ(import->onlyInFile.size(), qsizetype(scheme.layers.size() - some.size()));
+EXPECT_TRUE(Host().GetSchemeNames().contains(scheme.name));
+}
+
+TEST_F(CancelledCommands, ImportNoSchemeFileThatTheUserDoesNotWant)
+{
+    SchemeFile::Write(Path("night.json"), SchemeExchange::Export(Database(), Night));
+    const QStringList before = State();
+    QString asked;
+    EXPECT_FALSE(m_client.ImportSchemeFile(Path("night.json"), [&](const QString& name) {
+        asked = name;
+        return false;
+    }));
+    EXPECT_EQ(asked, Night);
+    EXPECT_EQ(State(), before);
+}
+
 TEST_F(CancelledCommands, SaveAllSchemesForNewMapsOrNone)
 {
     m_client.SetStartupFile(Path("startup.orvane"));

@@ -235,4 +235,57 @@ TEST(ChangeCoding, EveryValueComesBackAsItWas)
     EXPECT_TRUE(std::holds_alternative<std::monostate>(ChangeBytes::Decoded(null)));
 }
 
+// More than one piece, and more than the log holds in memory.
+TEST_F(ChangesetTest, OfManyRowsIsMergedInvertedAndCombinedAsAFewRowsAre)
+{
+    constexpr qint64 Count = 200000;
+    const std::string name(100, 'n');
+    for (qint64 number = 0; number < Count; ++number)
+        Delete(number, name, 1);
+    for (qint64 number = 0; number < Count; ++number)
+        Insert(number, number % 2 ? name : "other", 1);
+    const Changeset changes = Taken();
+    const Changeset back = changes.Inverted();
+    qint64 number = 0;
+    for (ChangesetReader reader(changes); reader.Next(); number += 2) {
+        ASSERT_EQ(reader.Row().kind, ChangeKind::Updated);
+        ASSERT_EQ(reader.Row().key, Coded(number));
+        ASSERT_EQ(reader.Row().columns.size(), 1u);
+        ASSERT_EQ(Text(reader.Row().columns[0].after), "other");
+    }
+    EXPECT_EQ(number, Count);
+    for (ChangesetReader reader(back); reader.Next();) {
+        number -= 2;
+        ASSERT_EQ(reader.Row().key, Coded(number));
+        ASSERT_EQ(Text(reader.Row().columns[0].before), "other");
+    }
+    EXPECT_EQ(number, 0);
+    EXPECT_TRUE(changes.Then(back).IsEmpty());
+}
+
+TEST_F(ChangesetTest, TellsHowMuchOfItIsRead)
+{
+    for (qint64 number = 0; number < 100000; ++number)
+        Resize(number, 1, 2);
+    const Changeset changes = Taken();
+    ChangesetReader reader(changes);
+    double before = reader.Done();
+    EXPECT_EQ(before, 0);
+    while (reader.Next()) {
+        ASSERT_GE(reader.Done(), before);
+        before = reader.Done();
+    }
+    EXPECT_EQ(reader.Done(), 1);
+}
+
+TEST_F(ChangesetTest, OfARowThatOftenChangesHoldsItsFirstAndItsLastValue)
+{
+    for (qint64 size = 0; size < 1000; ++size)
+        Resize(1, size, size + 1);
+    ChangesetReader reader(Taken());
+    ASSERT_TRUE(reader.Next());
+    EXPECT_EQ(Text(reader.Row().columns[0].before), "0");
+    EXPECT_EQ(Text(reader.Row().columns[0].after), "1000");
+    EXPECT_FALSE(reader.Next());
+}
 } // namespace Orvane::Testing

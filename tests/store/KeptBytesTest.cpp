@@ -56,6 +56,22 @@ TEST_F(KeptBytesTest, TakeNoMoreMemoryThanAllowed)
     EXPECT_EQ(KeptBytes::AllInMemory(), before);
 }
 
+TEST_F(KeptBytesTest, AreReadPieceByPieceWhereverEachIs)
+{
+    AllowInMemory(2 * Large);
+    KeptBytes::Maker maker;
+    for (char letter = 'a'; letter < 'f'; ++letter)
+        maker.Add(QByteArray(Large, letter));
+    const KeptBytes kept = maker.Finish();
+    EXPECT_EQ(kept.InMemory(), 2 * Large);
+    EXPECT_EQ(kept.Size(), 5 * Large);
+    ASSERT_EQ(kept.PieceCount(), 5u);
+    for (const size_t number : {4u, 0u, 2u, 3u, 1u})
+        EXPECT_EQ(kept.Piece(number), QByteArray(Large, char('a' + number)));
+    EXPECT_EQ(kept.Read(), kept.Piece(0) + kept.Piece(1) + kept.Piece(2) + kept.Piece(3) + kept.Piece(4));
+    EXPECT_TRUE(maker.Finish().IsEmpty());
+}
+
 TEST_F(KeptBytesTest, AreSharedByCopies)
 {
     const qsizetype before = KeptBytes::AllInMemory();

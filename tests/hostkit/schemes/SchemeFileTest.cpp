@@ -39,9 +39,20 @@ protected:
         return file.readAll();
     }
 
+    // The same whether it is read at once or layer by layer.
     static int ErrorIn(const QString& path)
     {
-        return ErrorOf([&] { SchemeFile::Read(path); });
+        const auto visit = [](const SchemeDocument::Layer&, double) {};
+        const auto read = [&] { SchemeFile::Reader(path).ForEachLayer(visit); };
+        EXPECT_EQ(DescriptionOf(read), DescriptionOf([&] { SchemeFile::Read(path); }));
+        return ErrorOf(read);
+    }
+    // Too large to be read at once, with a line per layer.
+    void AddManyLayers()
+    {
+        SchemeDocument::Layer layer;
+        layer.identity.name = QString(1000, u'n');
+        m_scheme.layers.assign(2000, layer);
     }
 
     QTemporaryDir m_folder;
@@ -77,6 +88,37 @@ TEST_F(SchemeFiles, ThatAreMissingOrFoldersOrDamagedOrTooNewAreRefusedByName)
         const QString name = path.section(u'/', -1);
         EXPECT_TRUE(DescriptionOf([&] { SchemeFile::Read(path); }).contains(name)) << qPrintable(path);
     }
+}
+
+TEST_F(SchemeFiles, OfAnySizeAreReadLayerByLayerAsOftenAsIsWanted)
+{
+    for (const bool isLarge : {false, true}) {
+        if (isLarge)
+            AddManyLayers();
+        SchemeFile::Write(Path("night.json"), m_scheme);
+        SchemeFile::Reader file(Path("night.json"));
+        EXPECT_EQ(file.Name(), m_scheme.name);
+        for (int round = 0; round < 2; ++round) {
+            int position = 0;
+            file.ForEachLayer([&](const SchemeDocument::Layer& layer, double done) {
+                EXPECT_EQ(layer.identity.id, position++);
+                EXPECT_EQ(layer.identity.name.size(), 1000);
+                EXPECT_GE(done, 0);
+                EXPECT_LE(done, 1);
+            });
+            EXPECT_EQ(position, int(m_scheme.layers.size()));
+        }
+    }
+}
+
+TEST_F(SchemeFiles, ThatAreLargeAndDamagedFarBehindAreRefusedByName)
+{
+    AddManyLayers();
+    const QByteArray content = m_scheme.ToJson();
+    for (const QByteArray& damaged :
+         {content.chopped(1000), content.chopped(4) + "]", content.chopped(4) + ", 7\n]}\n",
+          content + "more"})
+        EXPECT_EQ(ErrorIn(WriteText("night.json", damaged)), int(HostError::SchemeFileUnreadable));
 }
 
 TEST_F(SchemeFiles, ThatArePipesAreNotWaitedFor)

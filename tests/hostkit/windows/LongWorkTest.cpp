@@ -80,6 +80,19 @@ TEST_F(LongWorks, EndWhenTheirDialogIsClosed)
     EXPECT_EQ(ErrorOf([&] { Work(); }), int(UserCancelled));
 }
 
+TEST_F(LongWorks, WithoutCancelGoOnWhenTheirDialogIsClosed)
+{
+    const Impatience now;
+    const AtEachLook close([](QProgressDialog& dialog, int) {
+        EXPECT_EQ(dialog.findChild<QPushButton*>(), nullptr);
+        dialog.close();
+    });
+    const LongWork work(Database(), What, nullptr, LongWork::Cancel::Impossible);
+    EXPECT_NO_THROW(ChangeAll());
+    EXPECT_GT(close.Looks(), 0);
+    EXPECT_THAT(Get(1, "Color"), IsValue(1));
+}
+
 TEST_F(LongWorks, LetNobodyElseUseTheStore)
 {
     const Impatience now;

@@ -9,6 +9,7 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 namespace Orvane {
 
@@ -83,6 +84,42 @@ TEST_F(DataImportTest, NothingFoundLeavesTheMapAsItWas)
     AddToMap(*m_document, FoundData());
     EXPECT_FALSE(m_document->HasLayers());
     EXPECT_EQ(m_document->System(), "");
+}
+
+TEST_F(DataImportTest, FeaturesThatAreReadBeforeBelongToTheirLayersAfterwards)
+{
+    m_document->SetSystem("EPSG:4326");
+    const FoundData found
+        = Look({m_folder.WriteSquare("a.geojson", 10), m_folder.WriteSquare("b.geojson", 60)});
+    AddToMap(*m_document, Look({m_folder.WriteSquare("c.geojson")}));
+    const SourceContents read = ReadFound(found, SystemFor(*m_document, found), m_progress);
+    const std::vector<qint32> layerIDs = AddToMap(*m_document, found);
+    const SourceContents contents = WithIDs(read, layerIDs);
+    ASSERT_EQ(layerIDs.size(), 2u);
+    ASSERT_EQ(contents.features.size(), 2u);
+    EXPECT_EQ(contents.features.at(layerIDs[0])->Bounds().minX, 10);
+    EXPECT_EQ(contents.features.at(layerIDs[1])->Bounds().minX, 60);
+    EXPECT_TRUE(contents.failures.empty());
+}
+
+TEST_F(DataImportTest, ACancelledReadingIsNotTakenForAll)
+{
+    const FoundData found = Look({m_folder.WriteSquare("a.geojson")});
+    m_progress.Cancel();
+    EXPECT_THROW(ReadFound(found, SystemFor(*m_document, found), m_progress), Cancelled);
+}
+
+TEST_F(DataImportTest, AVirtualFileThatNamesAPipeIsToldWithTheReason)
+{
+    const QString pipe = m_folder.Path("pipe.geojson");
+    ASSERT_EQ(mkfifo(pipe.toUtf8().constData(), 0600), 0);
+    const FoundData found = Look({m_folder.Write(
+        "layers.vrt",
+        "<OGRVRTDataSource><OGRVRTLayer name=\"a\"><SrcDataSource>" + pipe.toUtf8()
+            + "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>")});
+    ASSERT_EQ(found.problems.size(), 1);
+    EXPECT_TRUE(found.problems[0].contains("layers.vrt")) << qPrintable(found.problems[0]);
+    EXPECT_TRUE(found.problems[0].contains("pipe.geojson")) << qPrintable(found.problems[0]);
 }
 
 TEST_F(DataImportTest, ACancelledLookEnds)
