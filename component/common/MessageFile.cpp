@@ -10,22 +10,6 @@ namespace {
 
 constexpr char FileName[] = "POBEX.LRT";
 
-bool IsEnglish(const QString& tag)
-{
-    return tag == QLatin1String("C") || tag.section(QLatin1Char('-'), 0, 0) == QLatin1String("en");
-}
-
-// "de-Latn-DE", "de-Latn", "de"
-QStringList TagAndItsParents(QString tag)
-{
-    QStringList tags{tag};
-    for (qsizetype dash = tag.lastIndexOf(u'-'); dash > 0; dash = tag.lastIndexOf(u'-')) {
-        tag.truncate(dash);
-        tags.append(tag);
-    }
-    return tags;
-}
-
 QString FileForTag(const QString& folder, const QString& tag)
 {
     for (const QString& candidate : TagAndItsParents(tag)) {
@@ -37,6 +21,21 @@ QString FileForTag(const QString& folder, const QString& tag)
 }
 
 } // namespace
+
+bool IsEnglish(const QString& tag)
+{
+    return tag == QLatin1String("C") || tag.section(QLatin1Char('-'), 0, 0) == QLatin1String("en");
+}
+
+QStringList TagAndItsParents(QString tag)
+{
+    QStringList tags{tag};
+    for (qsizetype dash = tag.lastIndexOf(u'-'); dash > 0; dash = tag.lastIndexOf(u'-')) {
+        tag.truncate(dash);
+        tags.append(tag);
+    }
+    return tags;
+}
 
 QString MessageFilePath(const QString& folder, const QStringList& languages)
 {

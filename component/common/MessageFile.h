@@ -14,6 +14,12 @@ namespace Orvane {
 /// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too.
 QString MessageFilePath(const QString& folder, const QStringList& languages);
 
+/// A language tag and its leading parts: "de-Latn-DE", "de-Latn", "de".
+QStringList TagAndItsParents(QString tag);
+
+/// True for English of any country and for "C".
+bool IsEnglish(const QString& tag);
+
 /// The folder of the shared library that contains this code, or of the program if the code is linked into it.
 QString ComponentFolder();
 

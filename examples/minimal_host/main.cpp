@@ -2,6 +2,7 @@
 // The smallest useful host: the layer control on a layer database, which is made if it is missing.
 //
 //     minimal_host map.ovl
+#include "hostkit/HostKitTexts.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/StyleEditorPlugin.h"
@@ -51,6 +52,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Orvane"); // the user's settings are kept under it
+    HostKitTexts::Install();
     try {
         return ShowLayerControl(QApplication::arguments().value(1, "map.ovl"));
     } catch (const RunTimeError& error) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A host whose layers are a std::vector and no file: the layer control edits the lines that it draws.
 #include "LinesWindow.h"
+#include "hostkit/HostKitTexts.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Orvane");
+    Orvane::HostKitTexts::Install();
     try {
         LinesWindow window({{1, "Roads", Qt::red}, {2, "Rivers", Qt::blue}, {3, "Paths", Qt::darkGreen}});
         window.resize(300, 120);
