@@ -3,6 +3,7 @@
 
 #include "hostkit/StyleEditorPlugin.h"
 #include "messages/CatalogueTranslator.h"
+#include "messages/LanguageTags.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,15 +23,6 @@ QString TranslatorName()
     return QStringLiteral("OrvaneHostKitTexts");
 }
 
-// "de-Latn-DE", "de-Latn", "de"
-QStringList NamesOf(const QString& language)
-{
-    QStringList names;
-    for (qsizetype parts = language.count(u'-'); parts >= 0; --parts)
-        names << language.section(u'-', 0, int(parts));
-    return names;
-}
-
 MessageCatalogue TextsIn(const QStringList& folders, const QString& language)
 {
     for (const QString& folder : folders) {
@@ -45,14 +37,14 @@ MessageCatalogue TextsIn(const QStringList& folders, const QString& language)
 FoundTexts FindTexts(const QLocale& locale, const QString& folder)
 {
     const QStringList folders = HostKitTexts::SearchFolders(folder);
-    for (QString language : locale.uiLanguages()) {
-        for (const QString& name : NamesOf(language.replace(u'_', u'-'))) {
-            MessageCatalogue catalogue = TextsIn(folders, name);
+    for (const QStringList& tags : LanguageTags(locale.uiLanguages())) {
+        for (const QString& tag : tags) {
+            MessageCatalogue catalogue = TextsIn(folders, tag);
             if (!catalogue.IsEmpty())
-                return {name, std::move(catalogue)};
-            if (name == QLatin1String("en") || name == QLatin1String("C"))
-                return {};
+                return {tag, std::move(catalogue)};
         }
+        if (IsEnglish(tags.constFirst()))
+            break;
     }
     return {};
 }

@@ -3,6 +3,7 @@
 
 #include "component/common/AddedTexts.h"
 #include "component/common/MessageFile.h"
+#include "messages/LanguageTags.h"
 
 #include <QFileInfo>
 
@@ -10,10 +11,10 @@ namespace Orvane {
 
 namespace {
 
-std::vector<MessageCatalogue> AddedFor(const AddedTexts& added, QString language)
+std::vector<MessageCatalogue> AddedFor(const AddedTexts& added, const QStringList& tags)
 {
     std::vector<MessageCatalogue> catalogues;
-    for (const QString& tag : TagAndItsParents(language.replace(u'_', u'-'))) {
+    for (const QString& tag : tags) {
         const auto ofTag = added.ForTag(tag);
         catalogues.insert(catalogues.end(), ofTag.begin(), ofTag.end());
     }
@@ -25,10 +26,10 @@ std::vector<MessageCatalogue> AddedFor(const AddedTexts& added, QString language
 std::vector<MessageCatalogue>
 CataloguesFor(const QString& folder, const AddedTexts& added, const QStringList& languages)
 {
-    for (const QString& language : languages) {
-        std::vector<MessageCatalogue> catalogues = AddedFor(added, language);
-        const QString file = MessageFilePath(folder, {language});
-        if (catalogues.empty() && !IsEnglish(language) && !QFileInfo(file).isFile())
+    for (const QStringList& tags : LanguageTags(languages)) {
+        std::vector<MessageCatalogue> catalogues = AddedFor(added, tags);
+        const QString file = MessageFilePath(folder, tags);
+        if (catalogues.empty() && !IsEnglish(tags.constFirst()) && !QFileInfo(file).isFile())
             continue;
         catalogues.push_back(MessageCatalogue::FromFile(file));
         return catalogues;

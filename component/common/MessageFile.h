@@ -11,14 +11,9 @@ namespace Orvane {
 /// texts are English already. If nothing is found, the result is the path in the folder itself, where no file
 /// exists. For an empty folder the result is empty.
 ///
-/// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too.
+/// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too,
+/// after all tags of the language.
 QString MessageFilePath(const QString& folder, const QStringList& languages);
-
-/// A language tag and its leading parts: "de-Latn-DE", "de-Latn", "de".
-QStringList TagAndItsParents(QString tag);
-
-/// True for English of any country and for "C".
-bool IsEnglish(const QString& tag);
 
 /// The folder of the shared library that contains this code, or of the program if the code is linked into it.
 QString ComponentFolder();

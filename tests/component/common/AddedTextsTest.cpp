@@ -100,6 +100,7 @@ TEST_F(Added, TextsOfACountryComeBeforeThoseOfItsLanguage)
     Add("pt_BR", Layer("camada (BR)"));
     Add("pt", Testing::LinguistDocument({{"layer", "camada"}, {"group", "grupo"}}));
     EXPECT_EQ(Shown({"pt-BR", "pt"}), "camada (BR)");
+    EXPECT_EQ(Shown({"pt-Latn-BR", "pt-BR", "pt"}), "camada (BR)");
     EXPECT_EQ(Shown({"pt-BR", "pt"}, "group"), "grupo");
     EXPECT_EQ(Shown({"pt-PT", "pt"}), "camada");
 }
