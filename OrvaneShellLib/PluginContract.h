@@ -16,7 +16,7 @@ struct ContractVersion {
 };
 
 /// The contract version of this source tree.
-inline constexpr ContractVersion CurrentContract{1, 3};
+inline constexpr ContractVersion CurrentContract{1, 4};
 
 /// The names of the functions that the component exports with C linkage, and their types. The host calls them
 /// in this order. The caller owns the library object and deletes it before the plug-in is unloaded. The first

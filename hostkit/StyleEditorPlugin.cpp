@@ -29,6 +29,12 @@ bool HasLibrary(const QString& folder, const QString& name)
     });
 }
 
+QString& LastLoadedFile()
+{
+    static QString file; // a component's code stays loaded until the process ends
+    return file;
+}
+
 } // namespace
 
 StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
@@ -39,6 +45,7 @@ StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
     CheckContract();
     CheckQt();
     CreateLibrary();
+    LastLoadedFile() = m_file.fileName();
 }
 
 StyleEditorPlugin::~StyleEditorPlugin() = default;
@@ -50,6 +57,11 @@ QStringList StyleEditorPlugin::SearchFolders()
         program.path(), program.absoluteFilePath(QStringLiteral("../lib")),
         program.absoluteFilePath(QStringLiteral("../lib/orvane"))};
     return folders + QCoreApplication::libraryPaths();
+}
+
+QString StyleEditorPlugin::LoadedFile()
+{
+    return LastLoadedFile();
 }
 
 void StyleEditorPlugin::Load(const QString& pathOrName)

@@ -50,6 +50,9 @@ public:
     /// relative to it, then Qt's library paths.
     static QStringList SearchFolders();
 
+    /// The file of the component that was loaded last in this process; empty before the first.
+    static QString LoadedFile();
+
 private:
     void Load(const QString& pathOrName);
     void LoadFile(const QString& path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/StyleEditorLib.h"
 
+#include "component/common/AddedTexts.h"
 #include "component/common/Component.h"
 #include "component/entry/StyleEditorRegistry.h"
 
@@ -27,8 +28,10 @@ StyleEditorLib::~StyleEditorLib()
     if (m_editors.use_count() == 1)
         m_editors->UnloadAll();
     m_editors.reset();
-    if (!component.Registry())
-        component.SetHost(nullptr, nullptr);
+    if (component.Registry())
+        return;
+    component.SetHost(nullptr, nullptr);
+    component.Added().Clear();
 }
 
 IStyleEditor* StyleEditorLib::IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept
@@ -46,6 +49,20 @@ void StyleEditorLib::IStyleEditorLibrary_Initialise(IStyleEditorClient* client)
 IStyleEditor* StyleEditorLib::IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID)
 {
     return &m_editors->Create(styleEditorID);
+}
+
+void StyleEditorLib::IStyleEditorTexts_AddTexts(const QString& language, QIODevice& document)
+{
+    Component::Get().Added().Add(language, document);
+    Component::Get().LoadMessages();
+    m_editors->ShowLanguage();
+}
+
+void StyleEditorLib::IStyleEditorTexts_AddTextFolder(const QString& folder)
+{
+    Component::Get().Added().AddFolder(folder);
+    Component::Get().LoadMessages();
+    m_editors->ShowLanguage();
 }
 
 } // namespace Orvane
