@@ -5,15 +5,7 @@
 //
 // The folder may hold texts in a language that the package does not have.
 #include "examples/dock_host/DockHost.h"
-<<<<<<< HEAD
 
-#include <orvane/OrvaneShellLib/IStyleEditor.h>
-#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
-#include <orvane/OrvaneShellLib/RunTimeError.h>
-#include <orvane/hostkit/StandardShellServices.h>
-#include <orvane/hostkit/StyleEditorPlugin.h>
-#include <orvane/store/opening/LayerStores.h>
-    =======
 #include <orvane/OrvaneShellLib/IStyleEditor.h>
 #include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
 #include <orvane/OrvaneShellLib/IStyleEditorTexts.h>
@@ -22,13 +14,12 @@
 #include <orvane/hostkit/StandardShellServices.h>
 #include <orvane/hostkit/StyleEditorPlugin.h>
 #include <orvane/store/opening/LayerStores.h>
-    >>>>>>> 40a5472cbb2cd03ab80c5045ac04627c218ddfdf
 
 #include <QApplication>
 
 #include <cstdio>
 
-    using namespace Orvane;
+using namespace Orvane;
 
 namespace {
 

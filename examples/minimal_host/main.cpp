@@ -2,17 +2,6 @@
 // The smallest useful host: the layer control on a layer database, which is made if it is missing.
 //
 //     minimal_host map.ovl
-<<<<<<< HEAD
-#include <orvane/OrvaneShellLib/IStyleEditor.h>
-#include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
-#include <orvane/OrvaneShellLib/RunTimeError.h>
-#include <orvane/hostkit/StandardClient.h>
-#include <orvane/hostkit/StandardShellServices.h>
-#include <orvane/hostkit/StyleEditorPlugin.h>
-#include <orvane/hostkit/lists/StoredList.h>
-#include <orvane/store/ILayerStore.h>
-#include <orvane/store/opening/LayerStores.h>
-=======
 #include <orvane/OrvaneShellLib/IStyleEditor.h>
 #include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
 #include <orvane/OrvaneShellLib/RunTimeError.h>
@@ -23,14 +12,13 @@
 #include <orvane/hostkit/lists/StoredList.h>
 #include <orvane/store/ILayerStore.h>
 #include <orvane/store/opening/LayerStores.h>
-    >>>>>>> 40a5472cbb2cd03ab80c5045ac04627c218ddfdf
 
 #include <QApplication>
 #include <QFile>
 
 #include <cstdio>
 
-    using namespace Orvane;
+using namespace Orvane;
 
 namespace {
 
