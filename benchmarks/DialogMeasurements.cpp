@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Measurement.h"
-#include "component/controls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
 #include "hostkit/StandardClient.h"

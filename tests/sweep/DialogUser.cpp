@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sweep/DialogUser.h"
 
-#include "component/controls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
 
-#include "component/controls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "support/Without.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The use of the dialog without a mouse.
-#include "component/controls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "component/dialog/EditorFixture.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
