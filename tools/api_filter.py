@@ -1,0 +1,51 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""usage: api_filter.py HEADER: the header as Doxygen gets it.
+
+In our headers a comment holds for all declarations up to the next empty line, and "IX_Member" implements
+IX::Member, which has the comment. Doxygen wants a comment for each declaration.
+"""
+import re
+import sys
+
+IMPLEMENTATION = re.compile(r"\b(I[A-Z]\w*)_(\w+)\(")
+
+
+def indent_of(line):
+    return len(line) - len(line.lstrip())
+
+
+def comment_for(line, block):
+    """The comment of a declaration without one of its own."""
+    implemented = IMPLEMENTATION.search(line)
+    if implemented:
+        return ["/// Implements {}::{}.".format(*implemented.groups())]
+    if line.rstrip().endswith("override;"):
+        return ["/// Reimplemented from Qt."]
+    return block
+
+
+def is_declaration(line):
+    return bool(re.match(r"\s*[A-Za-z\[]", line)) and not re.match(r"\s*(public|protected|private|Q_\w+)\b", line)
+
+
+def filtered(lines):
+    block, fresh, previous = [], False, ""
+    for line in lines:
+        if line.lstrip().startswith("///") and not line.lstrip().startswith("///<"):
+            block = block + [line.strip()] if fresh else [line.strip()]
+            fresh = True
+        elif not line.strip():
+            block, fresh = [], False
+        else:
+            begins = re.search(r"([;}:{]|///<.*|//.*)$", previous.rstrip()) or not previous.strip()
+            if begins and not fresh and "///<" not in line and is_declaration(line):
+                yield from (" " * indent_of(line) + text for text in comment_for(line, block))
+            if line.rstrip().endswith("{") and re.match(r"\s*(struct|class|namespace|enum)\b", line):
+                block = []
+            fresh = False
+        yield line
+        previous = line
+
+
+print("\n".join(filtered(open(sys.argv[1], encoding="utf-8").read().split("\n"))))
