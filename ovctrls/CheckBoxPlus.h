@@ -47,6 +47,7 @@ class CheckBoxPlus : public QWidget
     Q_PROPERTY(QString accessibleName READ accessibleName WRITE setAccessibleName)
 
 public:
+    /// An unchecked box without a caption. parent: owns it; may be nullptr.
     explicit CheckBoxPlus(QWidget* parent = nullptr);
 
     /// The colour behind the box: BGR, or a system colour. With the face colour, the container shows through.

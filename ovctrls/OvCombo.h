@@ -28,13 +28,16 @@ public:
     /// The position that appends.
     static constexpr int AtEnd = 0x7FFFFFFF;
 
+    /// An empty list. parent: owns it; may be nullptr.
     explicit OvCombo(QWidget* parent = nullptr);
 
     /// Sets how the items are read; call it before items are added.
     void SetRenderer(const StyleStringRenderer& renderer);
     const StyleStringRenderer& Renderer() const { return m_renderer; }
 
+    /// Removes all items.
     void Clear();
+    /// Adds the item behind the others.
     void Append(const QString& item) { Insert(item, AtEnd); }
     /// Inserts before the item at the position; beyond the end it appends. The selected item stays selected.
     void Insert(const QString& item, int position);

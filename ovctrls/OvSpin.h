@@ -24,8 +24,10 @@ class OvSpin : public QWidget
     Q_PROPERTY(float Step READ Step WRITE setStep)
 
 public:
+    /// A spin of the value 0. parent: owns it; may be nullptr.
     explicit OvSpin(QWidget* parent = nullptr);
 
+    /// Always within the range.
     float Value() const { return m_value; }
     /// Clamps the value to the range and emits Change if the result differs from the present value. NaN is
     /// ignored.
@@ -50,6 +52,7 @@ public:
     QWidget* BoundText() const { return m_boundText; }
 
 public Q_SLOTS:
+    /// Change the value by one step, as the buttons do.
     void StepUp();
     void StepDown();
 

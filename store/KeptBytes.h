@@ -24,6 +24,7 @@ public:
     /// Raises DatabaseFailure if a temporary file is needed and cannot be written.
     explicit KeptBytes(const QByteArray& bytes);
 
+    /// True if no bytes are kept.
     bool IsEmpty() const { return !m_content; }
     /// The bytes themselves. Raises DatabaseFailure if a temporary file cannot be read.
     QByteArray Read() const;

@@ -10,6 +10,8 @@ import sys
 
 IMPLEMENTATION = re.compile(r"\b(I[A-Z]\w*)_(\w+)\(")
 
+SCOPE = re.compile(r"\s*((template .*|typedef )?(struct|class|namespace|enum)\b|(public|protected|private|Q_SIGNALS).*:|\{)")
+
 
 def indent_of(line):
     return len(line) - len(line.lstrip())
@@ -41,7 +43,7 @@ def filtered(lines):
             begins = re.search(r"([;}:{]|///<.*|//.*)$", previous.rstrip()) or not previous.strip()
             if begins and not fresh and "///<" not in line and is_declaration(line):
                 yield from (" " * indent_of(line) + text for text in comment_for(line, block))
-            if line.rstrip().endswith("{") and re.match(r"\s*(struct|class|namespace|enum)\b", line):
+            if SCOPE.match(line):
                 block = []
             fresh = False
         yield line
