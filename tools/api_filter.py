@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: api_filter.py HEADER: the header as Doxygen gets it.
+"""usage: api_filter.py FILE: the header or page as Doxygen gets it.
 
 In our headers a comment holds for all declarations up to the next empty line, and "IX_Member" implements
-IX::Member, which has the comment. Doxygen wants a comment for each declaration.
+IX::Member, which has the comment. Doxygen wants a comment for each declaration. In a page, blocks of the languages
+"dot" and "msc" become diagrams.
 """
 import re
 import sys
@@ -50,4 +51,15 @@ def filtered(lines):
         previous = line
 
 
-print("\n".join(filtered(open(sys.argv[1], encoding="utf-8").read().split("\n"))))
+def with_diagrams(page):
+    return re.sub(r"```(dot|msc)\n(?:msc \{\n(.*?)\}\n|(.*?))```",
+                  lambda match: "@{0}\n{1}@end{0}".format(match[1], match[2] or match[3]), page, flags=re.DOTALL)
+
+
+def main():
+    text = open(sys.argv[1], encoding="utf-8").read()
+    print(with_diagrams(text) if sys.argv[1].endswith(".md") else "\n".join(filtered(text.split("\n"))))
+
+
+if __name__ == "__main__":
+    main()

@@ -11,7 +11,7 @@ packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-cor
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
 packages_bench=(libbenchmark-dev)
-packages_check=(clang-format clang-tidy libbenchmark-dev python3)
+packages_check=(clang-format clang-tidy libbenchmark-dev python3 doxygen graphviz)
 
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
 export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
