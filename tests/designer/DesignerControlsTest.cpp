@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QMetaProperty>
 #include <QPluginLoader>
 #include <QWidget>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -6,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <vector>
 
 namespace Orvane {
 
@@ -42,6 +44,20 @@ TEST_F(DesignerControlsTest, AreMadeWithTheirClass)
         EXPECT_EQ(widget->metaObject()->className(), control->name());
         EXPECT_EQ(widget->parentWidget(), &form);
         EXPECT_FALSE(control->isContainer());
+    }
+}
+
+TEST_F(DesignerControlsTest, HaveOnlyPropertiesThatDesignerCanEdit)
+{
+    const std::vector<int> editable{
+        QMetaType::Bool, QMetaType::Int, QMetaType::Double, QMetaType::QString, QMetaType::QFont};
+    for (auto* control : Controls()) {
+        const std::unique_ptr<QWidget> widget(control->createWidget(nullptr));
+        const QMetaObject& meta = *widget->metaObject();
+        for (int number = meta.propertyOffset(); number < meta.propertyCount(); ++number) {
+            const QMetaProperty property = meta.property(number);
+            EXPECT_THAT(editable, testing::Contains(property.userType())) << property.name();
+        }
     }
 }
 
