@@ -22,10 +22,10 @@ enum class InSchemes { No, Yes };
 
 /// One column of the table Layers.
 struct LayerColumn {
-    const char* name;
-    ColumnKind kind;
+    const char* name; ///< as queries write it
+    ColumnKind kind; ///< what it holds
     double defaultValue; ///< used when a row gets no other value; texts are empty
-    InSchemes inSchemes;
+    InSchemes inSchemes; ///< whether schemes keep it
     int since; ///< the first layer database version that has it
 };
 

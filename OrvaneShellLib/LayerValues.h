@@ -23,9 +23,9 @@ inline constexpr int FillPatternKind = 7;
 namespace QuickMode {
 
 inline constexpr qint16 Various = 0; ///< members differ; never stored
-inline constexpr qint16 Normal = 1;
-inline constexpr qint16 Backdrop = 2;
-inline constexpr qint16 Hidden = 4;
+inline constexpr qint16 Normal = 1; ///< drawn as it is set
+inline constexpr qint16 Backdrop = 2; ///< drawn behind the others, in the background
+inline constexpr qint16 Hidden = 4; ///< not drawn
 
 } // namespace QuickMode
 

@@ -11,8 +11,8 @@ class IStyleEditorLibrary;
 /// and a component with different major versions refuse to work together. A higher minor version only adds to
 /// the contract.
 struct ContractVersion {
-    qint32 major = 0;
-    qint32 minor = 0;
+    qint32 major = 0; ///< only equal ones work together
+    qint32 minor = 0; ///< a higher one has members that lower ones lack
 };
 
 /// The contract version of this source tree. docs/promises.md lists what each minor version added.

@@ -15,7 +15,7 @@ enum class EntryKind {
 struct PromptRequest {
     QString title; ///< translated
     QString defaultText; ///< shown selected when the prompt opens
-    EntryKind kind = EntryKind::Text;
+    EntryKind kind = EntryKind::Text; ///< what may be entered
     double minimum = 0; ///< of an integer; not used for a text
     double maximum = 0; ///< of an integer; not used for a text
     int width = 0; ///< of the entry field, in average characters; 0 leaves it to the host

@@ -39,6 +39,7 @@ public:
     {
     }
 
+    /// One of the common numbers.
     RunTimeError(ErrorNumber number, const QString& description, const QString& source = {})
         : RunTimeError(static_cast<int>(number), description, source)
     {
@@ -51,6 +52,7 @@ public:
     /// What raised it; empty for the component itself.
     const QString& Source() const { return m_source; }
 
+    /// The description in UTF-8, as long as this object lives.
     const char* what() const noexcept override { return m_utf8.constData(); }
 
 private:

@@ -42,6 +42,7 @@ public:
     }
 
     // Implicit on purpose: a record is filled with plain C++ values.
+    /// Each gives the kind of its argument.
     Value(bool value) : m_data(value) { }
     Value(qint16 value) : m_data(value) { }
     Value(qint32 value) : m_data(value) { }
@@ -52,6 +53,7 @@ public:
     /// Deleted: a pointer would silently become a boolean.
     template <typename T> Value(T*) = delete;
 
+    /// What it holds; IsNumber is true for the four kinds of numbers.
     ValueKind Kind() const { return static_cast<ValueKind>(m_data.index()); }
     bool IsEmpty() const { return Kind() == ValueKind::Empty; }
     bool IsNull() const { return Kind() == ValueKind::Null; }

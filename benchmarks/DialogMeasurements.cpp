@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Measurement.h"
-#include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
 #include "hostkit/StandardClient.h"
 #include "hostkit/StandardShellServices.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>

@@ -34,11 +34,15 @@ target_compile_definitions(public_header_checks PRIVATE QT_NO_KEYWORDS QT_NO_CAS
 
 file(GLOB_RECURSE headers RELATIVE "${PROJECT_SOURCE_DIR}" CONFIGURE_DEPENDS OrvaneShellLib/*.h messages/*.h files/*.h
   store/*.h ovctrls/*.h samples/*.h hostkit/*.h hosttests/*.h component/*.h mapkit/*.h shell/*.h tests/*.h benchmarks/*.h examples/*.h)
+if(TARGET OrvaneDesigner)
+  list(APPEND headers designer/ControlInDesigner.h designer/DesignerControls.h)
+endif()
 list(REMOVE_ITEM headers ${ORVANE_PUBLIC_HEADERS})
 # Headers of earlier contracts include each other, not those of this tree.
 list(FILTER headers EXCLUDE REGEX "^tests/fixtures/contract_")
 orvane_header_check(inner_header_checks HEADERS ${headers} LIBRARIES
-  component_entry orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark)
+  component_entry orvane_shell_parts sample_maps test_message_boxes SQLite::SQLite3 benchmark::benchmark
+  $<TARGET_NAME_IF_EXISTS:Qt${QT_VERSION_MAJOR}::UiPlugin>)
 target_precompile_headers(inner_header_checks REUSE_FROM orvane_widgets_test_headers)
 
 add_custom_target(header_checks)

@@ -28,6 +28,13 @@ foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)
   endif()
 endforeach()
 
+# Qt Designer looks into the folder of Qt's plug-ins; that of Debian, below the prefix.
+set(ORVANE_DESIGNER_DESTINATION "${CMAKE_INSTALL_LIBDIR}/qt${QT_VERSION_MAJOR}/plugins/designer" CACHE STRING
+  "Where the plug-in for Qt Designer is installed, relative to the prefix")
+if(TARGET OrvaneDesigner)
+  install(TARGETS OrvaneDesigner LIBRARY DESTINATION "${ORVANE_DESIGNER_DESTINATION}" COMPONENT development)
+endif()
+
 # The component for hosts that link it, as one archive a room.
 set_target_properties(OrvaneLayerControlStatic PROPERTIES EXPORT_NAME LayerControlStatic EXCLUDE_FROM_ALL OFF)
 install(TARGETS OrvaneLayerControlStatic component_common component_model component_controls component_styles

@@ -50,7 +50,7 @@ public:
     /// is not in the list.
     bool Update(const std::vector<ListedLayer>& layers, const std::vector<ListedGroup>& groups);
 
-signals:
+Q_SIGNALS:
     /// These layers were changed, renamed, created or deleted by the user, by a scheme, by undo or by redo,
     /// and everything is stored: read them. Layer returns nothing for one that was deleted.
     void Changed(const QSet<qint32>& layerIDs);

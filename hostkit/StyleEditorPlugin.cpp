@@ -31,6 +31,12 @@ bool HasLibrary(const QString& folder, const QString& name)
     });
 }
 
+QString& LastLoadedFile()
+{
+    static QString file; // a component's code stays loaded until the process ends
+    return file;
+}
+
 } // namespace
 
 StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
@@ -42,6 +48,7 @@ StyleEditorPlugin::StyleEditorPlugin(const QString& pathOrName)
     CheckQt();
     CheckCompiler();
     CreateLibrary();
+    LastLoadedFile() = m_file.fileName();
 }
 
 StyleEditorPlugin::~StyleEditorPlugin() = default;
@@ -56,6 +63,11 @@ QStringList StyleEditorPlugin::SearchFolders()
     for (const QString& share : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
         folders << QDir::cleanPath(share + QStringLiteral("/../lib/orvane"));
     return folders;
+}
+
+QString StyleEditorPlugin::LoadedFile()
+{
+    return LastLoadedFile();
 }
 
 void StyleEditorPlugin::Load(const QString& pathOrName)

@@ -52,6 +52,9 @@ public:
     /// put the component, such as /usr/lib/orvane.
     static QStringList SearchFolders();
 
+    /// The file of the component that was loaded last in this process; empty before the first.
+    static QString LoadedFile();
+
 private:
     void Load(const QString& pathOrName);
     void LoadFile(const QString& path);

@@ -22,7 +22,7 @@ struct HostCheck {
     const char* duty; ///< what a host must do, for the message of the failed test
     std::vector<Ability> needs; ///< skipped for a host without one of these
     HostContents (*contents)(); ///< what the layer database holds at first
-    std::function<void(CheckRun& run)> run;
+    std::function<void(CheckRun& run)> run; ///< notes what it finds in the run
 };
 
 /// What a check found.

@@ -17,6 +17,7 @@ namespace Orvane::HostTests {
 class ContentsLayer
 {
 public:
+    /// code: a number, or Null.
     ContentsLayer(qint32 layerID, const QString& name, const Value& code);
 
     /// column: a name of LayerColumns. Raises 9 (subscript out of range) for any other name, as Get does.
@@ -31,25 +32,25 @@ private:
 
 /// A row of the table LayerGroups; the members have the columns' names.
 struct ContentsGroup {
-    qint32 id = 0;
+    qint32 id = 0; ///< not 0, different for each group
     Value name; ///< a text, or Null
-    qint32 groupOrdering = 0;
-    bool pseudo = false;
-    bool expanded = false;
+    qint32 groupOrdering = 0; ///< the place in the list of groups
+    bool pseudo = false; ///< such a group is not listed
+    bool expanded = false; ///< shown with its layers
 };
 
 /// A row of the table LayerGroupMembers. The group and the layer exist, and no two rows name the same two.
 struct ContentsMember {
-    qint32 groupID = 0;
-    qint32 layerID = 0;
-    qint32 ordering = 0;
+    qint32 groupID = 0; ///< of a ContentsGroup
+    qint32 layerID = 0; ///< of a ContentsLayer
+    qint32 ordering = 0; ///< the place in the group
 };
 
 /// All rows of a layer database.
 struct HostContents {
-    std::vector<ContentsLayer> layers = {};
-    std::vector<ContentsGroup> groups = {};
-    std::vector<ContentsMember> members = {};
+    std::vector<ContentsLayer> layers = {}; ///< in any order
+    std::vector<ContentsGroup> groups = {}; ///< in any order
+    std::vector<ContentsMember> members = {}; ///< in any order
 
     /// The row of a layer that is there.
     const ContentsLayer& Layer(qint32 layerID) const;

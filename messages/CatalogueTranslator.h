@@ -20,6 +20,7 @@ class CatalogueTranslator : public QTranslator
     Q_OBJECT
 
 public:
+    /// Translates the texts of the catalogue. parent: owns the translator; may be nullptr.
     explicit CatalogueTranslator(MessageCatalogue catalogue, QObject* parent = nullptr);
     ~CatalogueTranslator() override;
 

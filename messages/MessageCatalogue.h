@@ -25,6 +25,7 @@ public:
     /// In bytes; a larger file is not read.
     static constexpr qint64 MaximumSize = qint64(8) << 20;
 
+    /// The translations of a file; one that cannot be read gives an empty catalogue.
     static MessageCatalogue FromFile(const QString& path);
     /// As FromFile, from a device that is open for reading.
     static MessageCatalogue FromDevice(QIODevice& device);
@@ -36,6 +37,7 @@ public:
     /// As Translate, but returns nothing if there is no entry.
     std::optional<QString> Find(const QString& text, const QString& context = {}) const;
 
+    /// True if there is no translation.
     bool IsEmpty() const { return m_inContext.isEmpty(); }
     /// The number of entries; a text in two contexts counts twice.
     qsizetype Count() const { return m_inContext.size(); }

@@ -2,8 +2,10 @@
 #include "ovctrls/OvCombo.h"
 
 #include "ovctrls/OvComboDelegate.h"
+#include "ovctrls/TwipsPerInch.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
@@ -15,12 +17,12 @@ namespace Orvane {
 namespace {
 
 constexpr int commandsRole = Qt::UserRole;
+constexpr int iconGap = 4; // pixels
 constexpr int numberRole = Qt::UserRole + 1;
-constexpr double twipsPerInch = 1440;
 
 int ToTwips(int pixels, int dotsPerInch)
 {
-    return int(std::lround(pixels * twipsPerInch / dotsPerInch));
+    return int(std::lround(pixels * TwipsPerInch / dotsPerInch));
 }
 
 } // namespace
@@ -73,7 +75,7 @@ void OvCombo::Remove(int index)
 
 QString OvCombo::List(int index) const
 {
-    return itemData(index, commandsRole).toString();
+    return HasCommands(index) ? itemData(index, commandsRole).toString() : itemText(index);
 }
 
 qint32 OvCombo::ItemData(int index) const
@@ -120,11 +122,39 @@ void OvCombo::PaintItem(QPainter& painter, const QRect& rectangle, int index, bo
     PaintContent(painter, rectangle, index, {plain, TextColour(isSelected), TabColumn(index)});
 }
 
+bool OvCombo::HasCommands(int index) const
+{
+    return itemData(index, commandsRole).isValid();
+}
+
+void OvCombo::PaintPlain(
+    QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look) const
+{
+    const QIcon icon = itemIcon(index);
+    const int iconWidth = icon.isNull() ? 0 : iconSize().width() + iconGap;
+    const QRect iconPlace(rectangle.topLeft(), QSize(iconWidth, rectangle.height()));
+    const QRect textPlace = rectangle.adjusted(iconWidth, 0, 0, 0);
+    const QString text
+        = QFontMetrics(look.font).elidedText(itemText(index), Qt::ElideRight, textPlace.width());
+    painter.save();
+    painter.setFont(look.font);
+    painter.setPen(look.textColour);
+    icon.paint(&painter, QStyle::visualRect(layoutDirection(), rectangle, iconPlace), Qt::AlignCenter);
+    painter.drawText(
+        QStyle::visualRect(layoutDirection(), rectangle, textPlace),
+        int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter)
+            | Qt::TextSingleLine,
+        text);
+    painter.restore();
+}
+
 void OvCombo::PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look)
 {
     if (index < 0 || index >= count())
         return;
-    if (m_renderer.IsUserDrawn(List(index)))
+    if (!HasCommands(index))
+        PaintPlain(painter, rectangle, index, look);
+    else if (m_renderer.IsUserDrawn(List(index)))
         emit DrawItem(painter, index, rectangle);
     else
         m_renderer.Paint(painter, rectangle, List(index), look);
@@ -152,7 +182,7 @@ void OvCombo::changeEvent(QEvent* event)
 // An item without a label begins at the left, whatever labels the others have.
 int OvCombo::TabColumn(int index) const
 {
-    return m_renderer.LabelWidth(List(index), font()) > 0 ? m_tabColumn : 0;
+    return HasCommands(index) && m_renderer.LabelWidth(List(index), font()) > 0 ? m_tabColumn : 0;
 }
 
 QColor OvCombo::TextColour(bool isSelected) const
@@ -164,8 +194,10 @@ QColor OvCombo::TextColour(bool isSelected) const
 void OvCombo::FindTabColumn()
 {
     m_tabColumn = 0;
-    for (int index = 0; index < count(); ++index)
-        m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(List(index), font()));
+    for (int index = 0; index < count(); ++index) {
+        if (HasCommands(index))
+            m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(List(index), font()));
+    }
 }
 
 } // namespace Orvane

@@ -14,6 +14,9 @@ namespace Orvane {
 ///     colours->Append(strings.ColourItem(255, extent));
 ///     colours->SetItemData(colours->NewIndex(), 255);
 ///
+/// An item that was added by QComboBox's own functions, or in Qt Designer, has no commands: its text and icon
+/// are painted as in any combo box.
+///
 /// Indexes count from 0; an index outside the list reads as an empty text and 0, and setting it does nothing.
 /// Adding items does not select any. QComboBox's activated is emitted when the user chooses an item, its
 /// currentIndexChanged on every change of the selection.
@@ -25,13 +28,16 @@ public:
     /// The position that appends.
     static constexpr int AtEnd = 0x7FFFFFFF;
 
+    /// An empty list. parent: owns it; may be nullptr.
     explicit OvCombo(QWidget* parent = nullptr);
 
     /// Sets how the items are read; call it before items are added.
     void SetRenderer(const StyleStringRenderer& renderer);
     const StyleStringRenderer& Renderer() const { return m_renderer; }
 
+    /// Removes all items.
     void Clear();
+    /// Adds the item behind the others.
     void Append(const QString& item) { Insert(item, AtEnd); }
     /// Inserts before the item at the position; beyond the end it appends. The selected item stays selected.
     void Insert(const QString& item, int position);
@@ -40,7 +46,7 @@ public:
     /// Removes an item that is not selected; the selected item stays selected.
     void Remove(int index);
     int ListCount() const { return count(); }
-    /// The commands of an item.
+    /// The commands of an item; the text of an item without commands.
     QString List(int index) const;
     /// The index of the item added last; -1 if the list has been cleared since.
     int NewIndex() const { return m_newIndex; }
@@ -57,7 +63,7 @@ public:
     int ListIndex() const { return currentIndex(); }
     void SetListIndex(int index);
 
-    /// The maximum number of rows that the drop-down shows; at least 1.
+    /// The maximum number of rows that the drop-down shows; at least 1. In Designer: maxVisibleItems.
     int DropDownRows() const { return maxVisibleItems(); }
     void SetDropDownRows(int rows);
 
@@ -80,6 +86,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool HasCommands(int index) const;
+    void PaintPlain(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look) const;
     void PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look);
     int TabColumn(int index) const;
     QColor TextColour(bool isSelected) const;

@@ -37,6 +37,8 @@ void OvComboDelegate::paint(
     QStyleOptionViewItem chrome = option;
     initStyleOption(&chrome, index);
     chrome.text.clear();
+    chrome.icon = QIcon(); // part of the content
+    chrome.features.setFlag(QStyleOptionViewItem::HasDecoration, false);
     m_combo->style()->drawControl(QStyle::CE_ItemViewItem, &chrome, painter, option.widget);
     const bool isSelected = option.state & QStyle::State_Selected;
     m_combo->PaintItem(

@@ -18,14 +18,17 @@ namespace Orvane {
 class OvSpin : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(float MinValue READ MinValue WRITE setMinValue)
-    Q_PROPERTY(float MaxValue READ MaxValue WRITE setMaxValue)
-    Q_PROPERTY(float Value READ Value WRITE setValue NOTIFY Change USER true)
-    Q_PROPERTY(float Step READ Step WRITE setStep)
+    // Qt Designer edits no float.
+    Q_PROPERTY(double MinValue READ MinValue WRITE setMinValue)
+    Q_PROPERTY(double MaxValue READ MaxValue WRITE setMaxValue)
+    Q_PROPERTY(double Value READ Value WRITE setValue NOTIFY Change USER true)
+    Q_PROPERTY(double Step READ Step WRITE setStep)
 
 public:
+    /// A spin of the value 0. parent: owns it; may be nullptr.
     explicit OvSpin(QWidget* parent = nullptr);
 
+    /// Always within the range.
     float Value() const { return m_value; }
     /// Clamps the value to the range and emits Change if the result differs from the present value. NaN is
     /// ignored.
@@ -50,6 +53,7 @@ public:
     QWidget* BoundText() const { return m_boundText; }
 
 public Q_SLOTS:
+    /// Change the value by one step, as the buttons do.
     void StepUp();
     void StepDown();
 

@@ -33,6 +33,7 @@ public:
     /// prefix: the text before each command.
     explicit StyleStringRenderer(const QString& prefix = {}) : m_prefix(prefix) { }
 
+    /// The text before each command.
     const QString& Prefix() const { return m_prefix; }
 
     /// True when the item is painted by other code ("UD.").

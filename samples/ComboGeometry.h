@@ -9,14 +9,14 @@ namespace Orvane {
 struct ComboSize {
     double width = 0; ///< twips
     double height = 0; ///< twips
-    double twipsPerPixelX = 15;
-    double twipsPerPixelY = 15;
+    double twipsPerPixelX = 15; ///< 1440 / dots per inch
+    double twipsPerPixelY = 15; ///< 1440 / dots per inch
 };
 
 /// How large the colour swatches of a combo box are, in pixels, including fractions.
 struct SwatchExtent {
-    float width = 0;
-    float height = 0;
+    float width = 0; ///< pixels
+    float height = 0; ///< pixels
 };
 
 /// The position of the line samples in a combo box, in pixels.

@@ -12,16 +12,16 @@ namespace Orvane {
 
 /// The colours that a layer is drawn with, BGR; a set bit in the top byte means transparent.
 struct FillColours {
-    qint32 line = 0;
-    qint32 fore = 0;
-    qint32 back = 0;
+    qint32 line = 0; ///< of outlines and lines
+    qint32 fore = 0; ///< of the pattern, and of a solid fill
+    qint32 back = 0; ///< behind the pattern
 };
 
 /// One item of the fill style list.
 struct FillSample {
     qint32 style = 0; ///< 0 solid, 15 hollow, others patterned
     MonochromeBitmap picture; ///< of a patterned style; one without pixels is painted hollow
-    FillColours colours;
+    FillColours colours; ///< of the layer
     qint32 listBack = 0xFFFFFF; ///< background of the list, BGR
 };
 

@@ -16,8 +16,8 @@ constexpr qint16 NoLineStyle = 15;
 
 /// A line style and its thickness: pixels below 0, the thinnest line at 0, millimetres above.
 struct LineItem {
-    qint16 style = 0;
-    qint16 thickness = 0;
+    qint16 style = 0; ///< the number of a line pattern, or NoLineStyle
+    qint16 thickness = 0; ///< pixels below 0, millimetres above
 };
 
 /// The items of the line list, in order; "Custom Line Style..." follows.
@@ -46,6 +46,7 @@ struct StyleWords {
 class StyleStrings
 {
 public:
+    /// prefix: what the host puts before each command. words: copied.
     StyleStrings(const QString& prefix, const StyleWords& words) : m_prefix(prefix), m_words(words) { }
 
     /// A swatch of the colour, one pixel below the top; for TransparentColour, the word for it. colour: BGR.

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/HostKitTexts.h"
 #include "hostkit/tracing/CallTrace.h"
 #include "mapkit/common/Guard.h"
-#include "messages/CatalogueTranslator.h"
 #include "shell/MainWindow.h"
 #include "shell/command/CommandLine.h"
-#include "shell/window/CatalogueFile.h"
 #include "shell/window/QtTexts.h"
 #include "shell/window/RecentMaps.h"
 #include "shell/window/RunWithProgress.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QLocale>
 #include <QTextStream>
 #include <QTranslator>
 
@@ -27,22 +25,19 @@ namespace {
 class Setting
 {
 public:
-    Setting() : Setting(CatalogueFile(QLocale().uiLanguages())) { }
-
-private:
-    // Qt asks the translator that was installed last first.
-    explicit Setting(const QString& catalogue) : m_translator(MessageCatalogue::FromFile(catalogue))
+    Setting()
     {
         QCoreApplication::setOrganizationName(QStringLiteral("Orvane"));
         QCoreApplication::setApplicationName(QStringLiteral("Orvane"));
         QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
-        if (LoadQtTexts(m_qtTranslator, CatalogueLanguage(catalogue)))
+        // Qt asks the translator that was installed last first.
+        if (LoadQtTexts(m_qtTranslator, HostKitTexts::Language()))
             QCoreApplication::installTranslator(&m_qtTranslator);
-        QCoreApplication::installTranslator(&m_translator);
+        HostKitTexts::Install();
     }
 
+private:
     QTranslator m_qtTranslator;
-    CatalogueTranslator m_translator;
 };
 
 void OpenFirstMap(MainWindow& window, const QString& asked)

@@ -12,7 +12,7 @@ namespace Orvane {
 
 /// Bytes that a database stores unchanged.
 struct Blob {
-    QByteArray bytes;
+    QByteArray bytes; ///< as stored
 };
 
 /// A value of a row exactly as its database stores it; std::monostate stands for NULL. Texts are in UTF-8.
@@ -22,6 +22,7 @@ using StoredValue = std::variant<std::monostate, qint64, double, std::string_vie
 /// compared without decoding them.
 namespace ChangeCoding {
 
+/// Each appends one value; a count has as few bytes as it needs.
 void AppendCount(std::string& bytes, quint64 count);
 void AppendNull(std::string& bytes);
 void AppendInteger(std::string& bytes, qint64 number);
@@ -35,6 +36,7 @@ void AppendBlob(std::string& bytes, std::string_view blob);
 class ChangeBytes
 {
 public:
+    /// Reads from the beginning; the bytes must outlive the reader.
     explicit ChangeBytes(std::string_view bytes) : m_rest(bytes) { }
 
     /// How many bytes are left to read.

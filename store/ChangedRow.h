@@ -9,7 +9,7 @@ namespace Orvane {
 
 /// A table whose rows changed.
 struct ChangedTable {
-    std::string name;
+    std::string name; ///< as the store names it
     std::vector<std::string> columns; ///< in the table's order
     std::vector<int> keys; ///< positions in columns of the primary key, in its order; never empty
 };
@@ -20,6 +20,7 @@ enum class ChangeKind { Inserted, Deleted, Updated };
 /// One change of one row. Values are coded, see ChangeCoding, and point into the bytes that they were read
 /// from.
 struct ChangedRow {
+    /// One column of a changed row.
     struct Column {
         int position = 0; ///< in the table, from 0
         std::string_view before; ///< empty for an inserted row
@@ -27,7 +28,7 @@ struct ChangedRow {
     };
 
     size_t table = 0; ///< position in the list of tables
-    ChangeKind kind = ChangeKind::Updated;
+    ChangeKind kind = ChangeKind::Updated; ///< inserted, deleted or updated
     std::string_view key; ///< the values of the primary key one after another; an update keeps them
     std::vector<Column> columns; ///< all columns, or those that an update changed
 };

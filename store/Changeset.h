@@ -16,7 +16,7 @@ namespace Orvane {
 /// How one row changed, for a visitor.
 struct RowChange {
     std::string_view table; ///< valid only during the visitor call, as are the columns
-    ChangeKind kind = ChangeKind::Updated;
+    ChangeKind kind = ChangeKind::Updated; ///< inserted, deleted or updated
     qint64 key = 0; ///< the first column of the primary key, 0 if that is not a whole number
     std::vector<std::string_view> columns; ///< of an updated row: those whose value changed
 };
@@ -33,6 +33,7 @@ public:
     /// ones compressed, as KeptBytes. Raises as that does.
     Changeset(const std::vector<ChangedTable>& tables, std::string_view rows);
 
+    /// True if nothing changed.
     bool IsEmpty() const { return m_kept.IsEmpty(); }
     /// The changeset that undoes this one.
     Changeset Inverted() const;

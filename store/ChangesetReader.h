@@ -21,7 +21,7 @@ namespace Orvane {
 class ChangesetReader
 {
 public:
-    /// Raises as KeptBytes does, as does Next.
+    /// Starts before the first row; keeps the bytes of the changeset. Raises as KeptBytes does, as does Next.
     explicit ChangesetReader(const Changeset& changes);
 
     /// Goes to the next row; false past the last one.
@@ -46,10 +46,12 @@ private:
 /// Converts tables and rows to bytes and back.
 namespace ChangedRows {
 
+/// Appends the list of tables.
 void Append(std::string& bytes, const std::vector<ChangedTable>& tables);
 /// Reads what Append wrote.
 std::vector<ChangedTable> ReadTables(ChangeBytes& bytes);
 
+/// Appends a row.
 void Append(std::string& bytes, const ChangedRow& row);
 /// Appends the head of a row; columnCount columns must follow.
 void AppendHead(std::string& bytes, size_t table, ChangeKind kind, std::string_view key, size_t columnCount);

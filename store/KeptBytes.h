@@ -26,6 +26,7 @@ public:
     /// One piece. Raises DatabaseFailure if a temporary file is needed and cannot be written.
     explicit KeptBytes(const QByteArray& bytes);
 
+    /// True if no bytes are kept.
     bool IsEmpty() const { return !m_content; }
     /// All bytes. Raises DatabaseFailure if a temporary file cannot be read.
     QByteArray Read() const;

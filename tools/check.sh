@@ -42,6 +42,10 @@ check_samples() {
     tools/host_guide.py || fail "a sample in the guide for host authors is in no example"
 }
 
+check_pages() {
+    tools/api_pages.sh build/docs || fail "a public member has no comment, or a link leads nowhere"
+}
+
 check_headers() {
     cmake --build "$headers" --target header_checks || fail "a header does not compile alone"
 }
@@ -55,7 +59,7 @@ check_lint() {
     sources | grep '\.cpp$' | grep -vE '^(tests|benchmarks)/' | xargs tools/lint.py "$release" || fail "lint"
 }
 
-for check in format lengths habits order samples headers release lint; do
+for check in format lengths habits order samples pages headers release lint; do
     step "Checking: $check"
     started=$SECONDS
     "check_$check"

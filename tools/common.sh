@@ -2,18 +2,18 @@
 # Shared by ./dev and the scripts beside this file: packages, steps, counts.
 
 packages_build=(build-essential cmake ninja-build ccache lld pkg-config git
-    qt6-base-dev qt6-svg-dev libgdal-dev libproj-dev libsqlite3-dev)
+    qt6-base-dev qt6-svg-dev qt6-tools-dev libgdal-dev libproj-dev libsqlite3-dev)
 packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
 packages_clang=(clang libclang-rt-14-dev)
 packages_qt5=(qtbase5-dev)
 packages_abi=(abigail-tools binutils python3)
-packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev qt6-translations-l10n fonts-dejavu-core)
+packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev libqt6opengl6-dev qt6-translations-l10n fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
 packages_package=(debootstrap lintian xvfb openbox xdotool imagemagick)
 packages_bench=(libbenchmark-dev)
-packages_check=(clang-format clang-tidy libbenchmark-dev python3)
+packages_check=(clang-format clang-tidy libbenchmark-dev python3 doxygen graphviz)
 
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
 export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1

@@ -4,6 +4,10 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;^1&quot; is no language. Languages are written as &quot;nl&quot; or &quot;pt-BR&quot;, for example.</source>
+        <translation>„^1“ ist keine Sprache. Sprachen schreibt man zum Beispiel „nl“ oder „pt-BR“.</translation>
+    </message>
+    <message>
         <source>&quot;dont care&quot; means that there is no limit.</source>
         <translation>„beliebig“ bedeutet, dass es keine Grenze gibt.</translation>
     </message>
@@ -656,6 +660,10 @@
         <translation>Die Farbe von Linien und Umrissen.</translation>
     </message>
     <message>
+        <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
+        <translation>Der Ordner „^1“ enthält keine Texte. Gesucht werden sie zum Beispiel als „nl/POBEX.LRT“ und „POBEX.nl.ts“.</translation>
+    </message>
+    <message>
         <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
         <translation>Die Gruppe „^1“ enthält keine Layer mehr. Die Änderungen wurden nicht angewendet.</translation>
     </message>
@@ -678,6 +686,14 @@
     <message>
         <source>The program must make a QApplication before it makes a layer control.</source>
         <translation>Das Programm muss eine QApplication anlegen, bevor es eine Layersteuerung anlegt.</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be read: ^2</source>
+        <translation>Die Texte „^1“ können nicht gelesen werden: ^2</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be used: they are larger than 8 MB, or no Qt Linguist document with finished translations.</source>
+        <translation>Die Texte „^1“ können nicht verwendet werden: Sie sind größer als 8 MB oder kein Qt-Linguist-Dokument mit fertigen Übersetzungen.</translation>
     </message>
     <message>
         <source>The thinnest line will be stored.</source>

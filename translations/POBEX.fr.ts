@@ -4,6 +4,10 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;^1&quot; is no language. Languages are written as &quot;nl&quot; or &quot;pt-BR&quot;, for example.</source>
+        <translation>« ^1 » n’est pas une langue. Les langues s’écrivent par exemple « nl » ou « pt-BR ».</translation>
+    </message>
+    <message>
         <source>&quot;dont care&quot; means that there is no limit.</source>
         <translation>« indifférent » signifie qu’il n’y a pas de limite.</translation>
     </message>
@@ -656,6 +660,10 @@
         <translation>La couleur des lignes et des contours.</translation>
     </message>
     <message>
+        <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
+        <translation>Le dossier « ^1 » ne contient pas de textes. Ils sont cherchés par exemple sous « nl/POBEX.LRT » et « POBEX.nl.ts ».</translation>
+    </message>
+    <message>
         <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
         <translation>Le groupe « ^1 » ne contient plus de couche. Les modifications n’ont pas été appliquées.</translation>
     </message>
@@ -678,6 +686,14 @@
     <message>
         <source>The program must make a QApplication before it makes a layer control.</source>
         <translation>Le programme doit créer une QApplication avant de créer un contrôle des couches.</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be read: ^2</source>
+        <translation>Les textes « ^1 » ne peuvent pas être lus : ^2</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be used: they are larger than 8 MB, or no Qt Linguist document with finished translations.</source>
+        <translation>Les textes « ^1 » ne peuvent pas être utilisés : ils dépassent 8 Mo ou ne sont pas un document Qt Linguist avec des traductions terminées.</translation>
     </message>
     <message>
         <source>The thinnest line will be stored.</source>

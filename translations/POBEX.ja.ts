@@ -4,6 +4,10 @@
 <context>
     <name>LayerControl</name>
     <message>
+        <source>&quot;^1&quot; is no language. Languages are written as &quot;nl&quot; or &quot;pt-BR&quot;, for example.</source>
+        <translation>「^1」は言語ではありません。言語は「nl」や「pt-BR」のように書きます。</translation>
+    </message>
+    <message>
         <source>&quot;dont care&quot; means that there is no limit.</source>
         <translation>「指定なし」は制限がないことを表します。</translation>
     </message>
@@ -656,6 +660,10 @@
         <translation>線と輪郭の色です。</translation>
     </message>
     <message>
+        <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
+        <translation>フォルダー「^1」にテキストがありません。「nl/POBEX.LRT」や「POBEX.nl.ts」などの名前で探します。</translation>
+    </message>
+    <message>
         <source>The group &apos;^1&apos; no longer has any layers. The changes were not applied.</source>
         <translation>グループ「^1」にはレイヤーがもうありません。変更は適用されませんでした。</translation>
     </message>
@@ -678,6 +686,14 @@
     <message>
         <source>The program must make a QApplication before it makes a layer control.</source>
         <translation>プログラムはレイヤーコントロールを作成する前に QApplication を作成する必要があります。</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be read: ^2</source>
+        <translation>テキスト「^1」を読み取れません: ^2</translation>
+    </message>
+    <message>
+        <source>The texts &quot;^1&quot; cannot be used: they are larger than 8 MB, or no Qt Linguist document with finished translations.</source>
+        <translation>テキスト「^1」を使用できません。8 MB を超えているか、完了した翻訳を含む Qt Linguist 文書ではありません。</translation>
     </message>
     <message>
         <source>The thinnest line will be stored.</source>

@@ -1524,6 +1524,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Stileditor-Komponente „%1“ kann nicht verwendet werden: %2.</translation>
     </message>
     <message>
+        <source>The style editor component takes no further texts.</source>
+        <translation>Die Stileditor-Komponente nimmt keine weiteren Texte an.</translation>
+    </message>
+    <message>
         <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
         <translation>Das Thema „%1“ ist bereits vorhanden. Sollen seine Layer durch die sichtbaren Layer ersetzt werden?</translation>
     </message>

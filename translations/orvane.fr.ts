@@ -1524,6 +1524,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le composant d’édition de style « %1 » ne peut pas être utilisé : %2.</translation>
     </message>
     <message>
+        <source>The style editor component takes no further texts.</source>
+        <translation>Le composant d’édition de style n’accepte pas d’autres textes.</translation>
+    </message>
+    <message>
         <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
         <translation>Le thème « %1 » existe déjà. Remplacer ses couches par les couches visibles ?</translation>
     </message>

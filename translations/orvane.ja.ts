@@ -1524,6 +1524,10 @@ These commands run without a window; each has its own --help:
         <translation>スタイルエディターのコンポーネント「%1」は使用できません: %2。</translation>
     </message>
     <message>
+        <source>The style editor component takes no further texts.</source>
+        <translation>スタイルエディターのコンポーネントは追加のテキストを受け付けません。</translation>
+    </message>
+    <message>
         <source>The theme &quot;%1&quot; already exists. Replace its layers with the visible layers?</source>
         <translation>テーマ「%1」はすでにあります。そのレイヤを表示中のレイヤで置き換えますか?</translation>
     </message>

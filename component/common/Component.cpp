@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/common/Component.h"
 
-#include "component/common/MessageFile.h"
+#include "component/common/AddedTexts.h"
+#include "component/common/MessageChoice.h"
 #include "component/common/MessageFormatter.h"
 #include "component/common/MessageTable.h"
 #include "component/common/Messages.h"
@@ -62,9 +63,16 @@ const MessageFormatter& Component::Formatter()
     return *m_formatter;
 }
 
+AddedTexts& Component::Added()
+{
+    if (!m_added)
+        m_added = std::make_unique<AddedTexts>();
+    return *m_added;
+}
+
 void Component::LoadMessages()
 {
-    Messages().LoadFile(MessageFilePath(m_messageFolder, QLocale().uiLanguages()));
+    Messages().Load(CataloguesFor(m_messageFolder, Added(), QLocale().uiLanguages()));
 }
 
 void Component::SetHost(IStyleEditorClient* client, IShellServices* services)

@@ -9,6 +9,7 @@
 
 namespace Orvane {
 
+class AddedTexts;
 class IStyleEditorClient;
 class IShellServices;
 class MessageFormatter;
@@ -43,7 +44,10 @@ public:
     /// The folder that holds the message file, or one subfolder per language with a message file. Nothing is
     /// read yet.
     void SetMessageFolder(const QString& folder) { m_messageFolder = folder; }
-    /// Replaces the table by the message file for the current locale; texts stay English if there is none.
+    /// What hosts have added to the message file; used by the next LoadMessages.
+    AddedTexts& Added();
+    /// Replaces the table by the texts for the current locale: added ones and the message file. Texts stay
+    /// English if there are none.
     void LoadMessages();
 
     /// The host's objects; not owned. Both are nullptr if there is no host.
@@ -64,6 +68,7 @@ private:
     Component();
 
     QString m_messageFolder;
+    std::unique_ptr<AddedTexts> m_added;
     std::unique_ptr<MessageTable> m_messages;
     std::unique_ptr<MessageFormatter> m_formatter;
     IStyleEditorClient* m_client = nullptr;

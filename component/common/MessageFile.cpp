@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/common/MessageFile.h"
 
+#include "messages/LanguageTags.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,26 +12,10 @@ namespace {
 
 constexpr char FileName[] = "POBEX.LRT";
 
-bool IsEnglish(const QString& tag)
+QString FileForTags(const QString& folder, const QStringList& tags)
 {
-    return tag == QLatin1String("C") || tag.section(QLatin1Char('-'), 0, 0) == QLatin1String("en");
-}
-
-// "de-Latn-DE", "de-Latn", "de"
-QStringList TagAndItsParents(QString tag)
-{
-    QStringList tags{tag};
-    for (qsizetype dash = tag.lastIndexOf(u'-'); dash > 0; dash = tag.lastIndexOf(u'-')) {
-        tag.truncate(dash);
-        tags.append(tag);
-    }
-    return tags;
-}
-
-QString FileForTag(const QString& folder, const QString& tag)
-{
-    for (const QString& candidate : TagAndItsParents(tag)) {
-        QString path = QDir(folder).filePath(candidate + QLatin1Char('/') + FileName);
+    for (const QString& tag : tags) {
+        QString path = QDir(folder).filePath(tag + QLatin1Char('/') + FileName);
         if (QFileInfo(path).isFile())
             return path;
     }
@@ -45,11 +31,10 @@ QString MessageFilePath(const QString& folder, const QStringList& languages)
     QString common = QDir(folder).filePath(FileName);
     if (QFileInfo(common).isFile())
         return common;
-    for (QString tag : languages) {
-        tag.replace(u'_', u'-');
-        if (IsEnglish(tag))
+    for (const QStringList& tags : LanguageTags(languages)) {
+        if (IsEnglish(tags.constFirst()))
             break;
-        QString path = FileForTag(folder, tag);
+        QString path = FileForTags(folder, tags);
         if (!path.isEmpty())
             return path;
     }

@@ -11,7 +11,8 @@ namespace Orvane {
 /// texts are English already. If nothing is found, the result is the path in the folder itself, where no file
 /// exists. For an empty folder the result is empty.
 ///
-/// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too.
+/// languages: as QLocale::uiLanguages returns them, "de-DE" before "de"; a tag's leading parts are tried too,
+/// after all tags of the language.
 QString MessageFilePath(const QString& folder, const QStringList& languages);
 
 /// The folder of the shared library that contains this code, or of the program if the code is linked into it.

@@ -7,12 +7,16 @@ namespace Orvane {
 
 void MessageTable::LoadFile(const QString& path)
 {
-    m_catalogue = MessageCatalogue::FromFile(path);
+    Load({MessageCatalogue::FromFile(path)});
 }
 
 QString MessageTable::Translate(const QString& text, MessageContext) const
 {
-    return m_catalogue.Translate(text);
+    for (const MessageCatalogue& catalogue : m_catalogues) {
+        if (const auto translation = catalogue.Find(text))
+            return *translation;
+    }
+    return text;
 }
 
 void MessageTable::TranslateForm(QWidget& form) const

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <vector>
+
 class QWidget;
 
 namespace Orvane {
@@ -23,6 +25,9 @@ public:
     /// empty.
     void LoadFile(const QString& path);
 
+    /// Replaces the table by these; the first that has a text translates it.
+    void Load(std::vector<MessageCatalogue> catalogues) { m_catalogues = std::move(catalogues); }
+
     /// The translation of an English text, or the text itself.
     QString Translate(const QString& text, MessageContext context = MessageContext::Any) const;
 
@@ -37,7 +42,7 @@ public:
     void TranslateForm(QWidget& form) const;
 
 private:
-    MessageCatalogue m_catalogue;
+    std::vector<MessageCatalogue> m_catalogues;
 };
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/entry/StyleEditorLib.h"
 
+#include "component/common/AddedTexts.h"
 #include "component/common/Component.h"
 #include "component/entry/StyleEditorRegistry.h"
 
@@ -33,6 +34,7 @@ StyleEditorLib::~StyleEditorLib()
         return;
     component.SetHost(nullptr, nullptr);
     component.SetHostContract(CurrentContract);
+    component.Added().Clear();
 }
 
 IStyleEditor* StyleEditorLib::IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept
@@ -51,6 +53,20 @@ void StyleEditorLib::IStyleEditorLibrary_Initialise(IStyleEditorClient* client)
 IStyleEditor* StyleEditorLib::IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID)
 {
     return &m_editors->Create(styleEditorID);
+}
+
+void StyleEditorLib::IStyleEditorTexts_AddTexts(const QString& language, QIODevice& document)
+{
+    Component::Get().Added().Add(language, document);
+    Component::Get().LoadMessages();
+    m_editors->ShowLanguage();
+}
+
+void StyleEditorLib::IStyleEditorTexts_AddTextFolder(const QString& folder)
+{
+    Component::Get().Added().AddFolder(folder);
+    Component::Get().LoadMessages();
+    m_editors->ShowLanguage();
 }
 
 } // namespace Orvane

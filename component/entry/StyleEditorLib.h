@@ -4,6 +4,7 @@
 #include "component/common/StyleEditorWindow.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/PluginContract.h>
 
 #include <QString>
@@ -20,7 +21,7 @@ class StyleEditorRegistry;
 /// A process may have several entry objects, which share everything. An editor that one created is found by
 /// the others. The client of the last Initialise serves them all and must outlive them all. The editors are
 /// unloaded with the last entry object. Do not destroy one during a call from the component to the host.
-class StyleEditorLib final : public IStyleEditorLibrary
+class StyleEditorLib final : public IStyleEditorLibrary, public IStyleEditorTexts
 {
 public:
     /// factory: creates the editors' windows. messageFolder: the folder of the message file; loading never
@@ -36,6 +37,8 @@ private:
     IStyleEditor* IStyleEditorLibrary_GetStyleEditor(const QString& styleEditorID) const noexcept override;
     void IStyleEditorLibrary_Initialise(IStyleEditorClient* client) override;
     IStyleEditor* IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID) override;
+    void IStyleEditorTexts_AddTexts(const QString& language, QIODevice& document) override;
+    void IStyleEditorTexts_AddTextFolder(const QString& folder) override;
 
     ContractVersion m_host;
     std::shared_ptr<StyleEditorRegistry> m_editors;

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
+#include <QEvent>
 
 #include <algorithm>
 
@@ -86,6 +87,15 @@ void StyleEditorRegistry::UnloadAll() noexcept
     for (const QString& editorID : EditorIDs()) {
         if (StyleEditorWindow* window = Find(editorID))
             UnloadOne(window);
+    }
+}
+
+void StyleEditorRegistry::ShowLanguage()
+{
+    for (const QString& editorID : EditorIDs()) {
+        QEvent change(QEvent::LanguageChange);
+        if (StyleEditorWindow* window = Find(editorID))
+            QCoreApplication::sendEvent(window, &change);
     }
 }
 

@@ -38,6 +38,9 @@ public:
     /// is dropped, and the editor is deleted.
     void UnloadAll() noexcept;
 
+    /// Tells every editor that texts have changed; what they raise meanwhile is theirs to show.
+    void ShowLanguage();
+
     /// The IDs of the open editors, in the order of their creation.
     QStringList EditorIDs() const;
 

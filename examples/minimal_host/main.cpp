@@ -5,6 +5,7 @@
 #include <orvane/OrvaneShellLib/IStyleEditor.h>
 #include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
 #include <orvane/OrvaneShellLib/RunTimeError.h>
+#include <orvane/hostkit/HostKitTexts.h>
 #include <orvane/hostkit/StandardClient.h>
 #include <orvane/hostkit/StandardShellServices.h>
 #include <orvane/hostkit/StyleEditorPlugin.h>
@@ -50,6 +51,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Orvane"); // the user's settings are kept under it
+    HostKitTexts::Install();
     try {
         return ShowLayerControl(QApplication::arguments().value(1, "map.ovl"));
     } catch (const RunTimeError& error) {

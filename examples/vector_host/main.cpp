@@ -3,6 +3,7 @@
 #include "LinesWindow.h"
 
 #include <orvane/OrvaneShellLib/RunTimeError.h>
+#include <orvane/hostkit/HostKitTexts.h>
 
 #include <QApplication>
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName("Orvane");
+    Orvane::HostKitTexts::Install();
     try {
         LinesWindow window({{1, "Roads", Qt::red}, {2, "Rivers", Qt::blue}, {3, "Paths", Qt::darkGreen}});
         window.resize(300, 120);

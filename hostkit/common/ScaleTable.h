@@ -13,6 +13,7 @@ namespace Orvane {
 class ScaleTable
 {
 public:
+    /// The indexes that a user can choose.
     static constexpr qint32 FirstIndex = 1;
     static constexpr qint32 LastIndex = 255;
 

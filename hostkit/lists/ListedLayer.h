@@ -15,14 +15,14 @@ namespace Orvane {
 ///     std::vector<ListedLayer> layers{{.id = 1, .name = "Roads", .lineColour = 0x0000FF}};
 struct ListedLayer {
     qint32 id = 0; ///< chosen by the program, not 0; different for each layer
-    QString name = {};
+    QString name = {}; ///< as the lists show it
     qint32 code = 0; ///< a layer with -2 or less is never listed
-    bool visible = true;
-    bool selectable = true;
-    bool locked = false;
-    bool hitable = true;
-    bool snapRequired = false;
-    bool enquirable = true;
+    bool visible = true; ///< drawn on the map
+    bool selectable = true; ///< can be selected
+    bool locked = false; ///< its features are not to be moved
+    bool hitable = true; ///< its features are found under the pointer
+    bool snapRequired = false; ///< measured lines snap to its features
+    bool enquirable = true; ///< answers enquiries
     qint32 lineColour = 0; ///< BGR (red in the low byte), 0 to 0xFFFFFF
     bool usedForSymbols = true; ///< whether symbols have the line colour; kept in the top byte of Color
     qint32 fillForeColour = 0; ///< BGR, or TransparentColour
@@ -46,6 +46,7 @@ struct ListedLayer {
             usedForSymbols, fillForeColour, fillBackColour, outlineStyle, fillStyle, lineThickness,
             minVisScale, maxVisScale, priority, rendererStyle, overrideMode, systemLayer, pseudo);
     }
+    /// True if all fields are equal.
     bool operator==(const ListedLayer& other) const { return AsTuple() == other.AsTuple(); }
     bool operator!=(const ListedLayer& other) const { return !(*this == other); }
 };
@@ -53,7 +54,7 @@ struct ListedLayer {
 /// A group as a program keeps it in a list of its own.
 struct ListedGroup {
     qint32 id = 0; ///< chosen by the program, not 0; different for each group
-    QString name = {};
+    QString name = {}; ///< as the lists show it
     std::vector<qint32> layers = {}; ///< the IDs of its layers, in the order of the tree, each once
     bool pseudo = false; ///< such a group is not in the tree
     bool expanded = false; ///< of a new group; after that it is as the user leaves it

@@ -18,7 +18,7 @@ class ILayerDatabase;
 struct LayerIdentity {
     qint32 id = 0; ///< the LayerID, or any other number that is unique in its list
     std::optional<double> code; ///< 0 or more; none for a layer that is not matched by code
-    QString name;
+    QString name; ///< as in the column Name
 };
 
 /// Calls the visitor for each layer of a database, in the order of their IDs.

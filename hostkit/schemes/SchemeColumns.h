@@ -13,6 +13,7 @@ namespace Orvane {
 /// fragments of SQL. LayerSchemeValues has columns of the same names.
 namespace SchemeColumns {
 
+/// How many there are.
 inline constexpr std::size_t Count = [] {
     std::size_t count = 0;
     for (const LayerColumn& column : LayerColumns)
@@ -20,6 +21,7 @@ inline constexpr std::size_t Count = [] {
     return count;
 }();
 
+/// The columns themselves.
 inline constexpr std::array<LayerColumn, Count> All = [] {
     std::array<LayerColumn, Count> kept{};
     std::size_t count = 0;

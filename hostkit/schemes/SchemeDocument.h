@@ -38,20 +38,23 @@ public:
     /// Numbers and nulls in the order of SchemeColumns; Empty for a missing value.
     using Values = std::array<Value, SchemeColumns::Count>;
 
+    /// The values of one layer.
     struct Layer {
         LayerIdentity identity; ///< its ID is the position in the list
-        Values values;
+        Values values; ///< one for each of SchemeColumns
     };
 
     QString name; ///< without leading or trailing blanks, and not empty
-    std::vector<Layer> layers;
+    std::vector<Layer> layers; ///< each identity once
 
     /// Writes the JSON text of a scheme piece by piece: the beginning with its name, each layer, the end.
     class Writer
     {
     public:
+        /// text: open for writing; must outlive the writer.
         explicit Writer(QIODevice& text) : m_text(text) { }
 
+        /// Writes what comes before the first layer; call it once, first. scheme: the name.
         void Begin(const QString& scheme);
         /// Raises as ToJson does.
         void Add(const Layer& layer);

@@ -16,7 +16,7 @@ namespace Orvane {
 
 /// A word that is written to a trace as it is, without quotes: "form", "nothing".
 struct TraceWord {
-    const char* word;
+    const char* word; ///< not owned
 };
 
 /// How the arguments and results of calls are written in a trace. Texts are quoted, with quotes, backslashes
@@ -24,6 +24,7 @@ struct TraceWord {
 /// user's locale.
 namespace TraceText {
 
+/// The value as described above.
 QString Of(TraceWord word);
 QString Of(const QString& text);
 QString Of(std::string_view text);

@@ -4,6 +4,8 @@
 #include "hostkit/tracing/CallTrace.h"
 #include "hostkit/tracing/TracingEditor.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <algorithm>
 
 namespace Orvane {
@@ -39,6 +41,29 @@ IStyleEditor* TracingLibrary::IStyleEditorLibrary_NewStyleEditor(const QString& 
     // A new editor may have the same address as a destroyed one.
     std::erase_if(m_editors, [editor](const auto& traced) { return traced->IsFor(editor); });
     return TracedEditor(editor);
+}
+
+void TracingLibrary::IStyleEditorTexts_AddTexts(const QString& language, QIODevice& document)
+{
+    m_trace.Command(
+        "library.AddTexts", [&] { Texts().AddTexts(language, document); }, language);
+}
+
+void TracingLibrary::IStyleEditorTexts_AddTextFolder(const QString& folder)
+{
+    m_trace.Command(
+        "library.AddTextFolder", [&] { Texts().AddTextFolder(folder); }, folder);
+}
+
+// A component of an earlier contract takes none.
+IStyleEditorTexts& TracingLibrary::Texts() const
+{
+    auto* texts = dynamic_cast<IStyleEditorTexts*>(&m_library);
+    if (!texts)
+        throw RunTimeError(
+            ErrorNumber::PluginFailure, tr("The style editor component takes no further texts."),
+            QStringLiteral("TracingLibrary"));
+    return *texts;
 }
 
 IStyleEditor* TracingLibrary::TracedEditor(IStyleEditor* editor) const

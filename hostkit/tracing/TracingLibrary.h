@@ -2,6 +2,9 @@
 #pragma once
 
 #include <orvane/OrvaneShellLib/IStyleEditorLibrary.h>
+#include <orvane/OrvaneShellLib/IStyleEditorTexts.h>
+
+#include <QCoreApplication>
 
 #include <memory>
 #include <vector>
@@ -18,8 +21,10 @@ class TracingEditor;
 /// The editors that it returns implement IStyleEditor and IStyleEditorForm, and are owned by this object.
 /// They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use an editor after this
 /// object is destroyed. Destroy the wrapped library after this object.
-class TracingLibrary : public IStyleEditorLibrary
+class TracingLibrary : public IStyleEditorLibrary, public IStyleEditorTexts
 {
+    Q_DECLARE_TR_FUNCTIONS(TracingLibrary)
+
 public:
     /// Neither is owned; both outlive this object.
     TracingLibrary(IStyleEditorLibrary& library, CallTrace& trace);
@@ -30,8 +35,12 @@ protected:
     /// client: passed on as it is; pass a TracingClient to trace its calls too.
     void IStyleEditorLibrary_Initialise(IStyleEditorClient* client) override;
     IStyleEditor* IStyleEditorLibrary_NewStyleEditor(const QString& styleEditorID) override;
+    /// Both raise PluginFailure if the wrapped library has no IStyleEditorTexts.
+    void IStyleEditorTexts_AddTexts(const QString& language, QIODevice& document) override;
+    void IStyleEditorTexts_AddTextFolder(const QString& folder) override;
 
 private:
+    IStyleEditorTexts& Texts() const;
     IStyleEditor* TracedEditor(IStyleEditor* editor) const;
 
     IStyleEditorLibrary& m_library;

@@ -32,6 +32,7 @@ public:
     /// or Redo is running, nothing is added, because all changes belong to the running step.
     void Add(std::unique_ptr<IUndoStep> step);
 
+    /// True if there is a step to undo, or to redo.
     bool CanUndo() const { return m_done > 0; }
     bool CanRedo() const { return m_done < m_steps.size(); }
     /// The text for a menu: "Undo Change Roads", or just "Undo" if there is nothing to undo.

@@ -31,7 +31,7 @@ public:
     /// Hides the dock and lets the form go; does nothing for a form that is not in the dock.
     void EditorClosed(const QWidget* form);
 
-signals:
+Q_SIGNALS:
     /// The dock is shown without an editor: the user has ticked toggleViewAction, or restoreState has shown
     /// the dock. Show the editor of that ID, or hide the dock.
     void EditorWanted(const QString& editorID);

@@ -300,6 +300,43 @@ TEST_F(OvComboTest, TypingFindsAnItemByItsWords)
     EXPECT_EQ(m_combo.ListIndex(), 1);
 }
 
+TEST_F(OvComboTest, AnItemWithoutCommandsIsPaintedAsText)
+{
+    m_combo.Append("words");
+    m_combo.addItem("words");
+    m_combo.addItem("@FG=255.");
+    EXPECT_LT(FirstInkFrom(0, 1), 159);
+    EXPECT_LT(FirstInkFrom(0, 2), 159) << "what looks like a command is text here";
+    EXPECT_EQ(Items(), (QStringList{"words", "words", "@FG=255."}));
+    m_combo.SetListIndex(1);
+    const QImage words = m_combo.grab().toImage();
+    m_combo.SetListIndex(-1);
+    EXPECT_NE(m_combo.grab().toImage(), words);
+}
+
+TEST_F(OvComboTest, AnIconIsPaintedBesideTheTextOfAnItemWithoutCommands)
+{
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    m_combo.addItem(red, "words");
+    m_combo.addItem("words");
+    QImage picture(160, 20, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    m_combo.PaintItem(painter, picture.rect(), 0, false);
+    painter.end();
+    EXPECT_EQ(picture.pixelColor(m_combo.iconSize().width() / 2, 10), QColor(Qt::red));
+    EXPECT_LT(FirstInkFrom(m_combo.iconSize().width() + 1, 0), 60) << "the words are beside it";
+}
+
+TEST_F(OvComboTest, AnItemWithoutCommandsCanBeReplacedByCommands)
+{
+    m_combo.addItem("words");
+    m_combo.Replace(0, Swatch(0x0000FF));
+    m_combo.SetListIndex(0);
+    EXPECT_EQ(Middle(), QColor(255, 0, 0));
+}
+
 TEST_F(OvComboTest, TheModelKeepsItsPromises)
 {
     const QAbstractItemModelTester tester(

@@ -33,6 +33,9 @@ done
 diff <(cd "$prefix/include/orvane" && find . -name '*.h' -printf '%P\n' | sort) \
     <(sed -n 's/^| `\([A-Za-z/]*\.h\)`.*/\1/p' "$source/docs/public_headers.md" | sort) ||
     fail "other headers are installed than docs/public_headers.md lists"
+designer=libOrvaneDesignerQt6.so
+[ ! -e "$build/lib/designer/$designer" ] ||
+    find "$prefix" -path "*/qt6/plugins/designer/$designer" | grep -q . || fail "$designer is not where Qt Designer looks"
 ! grep -rlI "$source" "$prefix/lib" "$prefix/share" || fail "the source folder is named in what is installed"
 
 expect 0 "$orvane" --version

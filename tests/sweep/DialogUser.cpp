@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sweep/DialogUser.h"
 
-#include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/entry/StyleEditorLib.h"
+#include "ovctrls/CheckBoxPlus.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/RunTimeError.h>

@@ -2,10 +2,12 @@
 #include "component/dialog/panel/FlagEditor.h"
 
 #include "component/common/EventGuard.h"
-#include "component/controls/CheckBoxPlus.h"
 #include "component/model/LayerStyle.h"
+#include "ovctrls/CheckBoxPlus.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
+
+#include <QPointer>
 
 #include <algorithm>
 
@@ -40,6 +42,9 @@ FlagEditor::FlagEditor(const std::vector<Flag>& flags) : m_flags(flags)
 {
     for (const Flag& flag : m_flags) {
         CheckBoxPlus* box = flag.box;
+        box->SetErrorReport([watched = QPointer<QWidget>(box)](const std::exception_ptr& error) {
+            GuardEvent(watched ? watched->window() : nullptr, [&] { std::rethrow_exception(error); });
+        });
         connect(box, &CheckBoxPlus::Click, this, [this, box] {
             GuardEvent(box->window(), [this, box] { OnClick(box); });
         });

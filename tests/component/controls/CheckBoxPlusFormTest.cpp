@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/common/Messages.h"
-#include "component/controls/CheckBoxPlus.h"
 #include "component/controls/ControlsTestSupport.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "ui_CheckBoxPlusForm.h"
 
 #include <QCheckBox>

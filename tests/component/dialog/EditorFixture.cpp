@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
 
-#include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/window/frmLayerStyles.h"
+#include "ovctrls/CheckBoxPlus.h"
 #include "support/Without.h"
 
 #include <OrvaneShellLib/ValueConversions.h>

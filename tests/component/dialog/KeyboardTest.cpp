@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The use of the dialog without a mouse.
-#include "component/controls/CheckBoxPlus.h"
 #include "component/dialog/EditorFixture.h"
+#include "ovctrls/CheckBoxPlus.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
 

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/MemoryHost.h"
+#include "support/LinguistFile.h"
 
 #include <OrvaneShellLib/HostDescription.h>
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
+#include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/PluginContract.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QLibrary>
 #include <QLocale>
 #include <QWidget>
@@ -142,6 +145,36 @@ TEST_F(Plugin, SpeaksTheLanguageOfTheMessageFileBesideIt)
     EXPECT_EQ(ErrorOfADuplicate("de_AT"), QString("Ein Stileditor mit dieser ID ist bereits vorhanden."));
     EXPECT_EQ(
         ErrorOfADuplicate("fr_FR"), QString("Un éditeur de style portant cet identifiant existe déjà."));
+}
+
+TEST_F(Plugin, ShowsTextsThatTheHostAddsInAnOpenEditor)
+{
+    QLocale::setDefault(QLocale("nl_NL"));
+    auto* texts = dynamic_cast<IStyleEditorTexts*>(&Create());
+    ASSERT_NE(texts, nullptr);
+    IStyleEditor* editor = m_library->NewStyleEditor("Main");
+    editor->Visible(true);
+    const auto* window = dynamic_cast<QWidget*>(editor);
+    EXPECT_EQ(window->windowTitle(), QString("Layer Control"));
+    QByteArray document = Testing::LinguistDocument({{"Layer Control", "Laagbeheer"}});
+    QBuffer device(&document);
+    ASSERT_TRUE(device.open(QIODevice::ReadOnly));
+    texts->AddTexts("nl", device);
+    EXPECT_EQ(window->windowTitle(), QString("Laagbeheer"));
+}
+
+TEST_F(Plugin, RaisesTheErrorsOfAddedTextsAcrossTheBorder)
+{
+    auto* texts = dynamic_cast<IStyleEditorTexts*>(&Create());
+    ASSERT_NE(texts, nullptr);
+    const QString folder = QStringLiteral("/no/such/folder");
+    try {
+        texts->AddTextFolder(folder);
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.Number(), IStyleEditorTexts::UnusableTexts);
+        EXPECT_TRUE(error.Description().contains(folder));
+    }
 }
 
 TEST_F(Plugin, LeavesNoWidgetBehindWhenItsLibraryIsReleased)

@@ -10,8 +10,11 @@
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QBuffer>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -30,6 +33,7 @@ protected:
     ~Library() override
     {
         m_library.reset();
+        QLocale::setDefault(m_locale);
         Component::Get().SetMessageFolder(QString());
         Component::Get().LoadMessages();
     }
@@ -62,10 +66,37 @@ protected:
         return 0;
     }
 
+    // Adds a translation of "Invalid Name" and makes its language the user's.
+    void SpeakDutch(IStyleEditorLibrary& library)
+    {
+        QLocale::setDefault(QLocale("nl_NL"));
+        QByteArray document = Testing::LinguistDocument({{"Invalid Name", "Ongeldige naam"}});
+        QBuffer device(&document);
+        ASSERT_TRUE(device.open(QIODevice::ReadOnly));
+        dynamic_cast<IStyleEditorTexts&>(library).AddTexts("nl", device);
+    }
+
+    QLocale m_locale;
     QTemporaryDir m_folder;
     QStringList m_events;
     Testing::MemoryHost m_host;
     std::unique_ptr<IStyleEditorLibrary> m_library;
+};
+
+class EventCounter : public QObject
+{
+public:
+    explicit EventCounter(QEvent::Type type) : m_type(type) { }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+
+private:
+    QEvent::Type m_type;
 };
 
 // Raises while it is asked for its shell services.
@@ -241,6 +272,43 @@ TEST_F(Library, WithoutAMessageFileIsCreatedAllTheSame)
     EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Invalid Name"));
     m_library = nullptr;
     m_folder.remove();
+    m_library = NewLibrary();
+    EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Invalid Name"));
+}
+
+TEST_F(Library, TakesTextsBeforeItIsInitialised)
+{
+    m_library = NewLibrary();
+    SpeakDutch(*m_library);
+    EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Ongeldige naam"));
+    m_library->Initialise(&m_host);
+    ReloadMessages();
+    EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Ongeldige naam"));
+}
+
+TEST_F(Library, TellsItsEditorsOfTextsThatAreAdded)
+{
+    EventCounter counter(QEvent::LanguageChange);
+    Start(m_host).installEventFilter(&counter);
+    SpeakDutch(*m_library);
+    EXPECT_EQ(counter.count, 1);
+}
+
+TEST_F(Library, KeepsAddedTextsWhileAnotherOneIsThere)
+{
+    m_library = NewLibrary();
+    auto second = NewLibrary();
+    SpeakDutch(*second);
+    second.reset();
+    ReloadMessages();
+    EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Ongeldige naam"));
+}
+
+TEST_F(Library, ForgetsAddedTextsWithTheLastOne)
+{
+    m_library = NewLibrary();
+    SpeakDutch(*m_library);
+    m_library.reset();
     m_library = NewLibrary();
     EXPECT_EQ(TranslateMsg("Invalid Name"), QString("Invalid Name"));
 }

@@ -5,7 +5,10 @@
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/IStyleFilter.h>
+
+#include <QBuffer>
 
 #include <map>
 
@@ -63,6 +66,16 @@ private:
     }
 };
 
+class LibraryWithTexts : public PlainLibrary, public IStyleEditorTexts
+{
+public:
+    QStringList added;
+
+private:
+    void IStyleEditorTexts_AddTexts(const QString& language, QIODevice&) override { added << language; }
+    void IStyleEditorTexts_AddTextFolder(const QString& folder) override { added << folder; }
+};
+
 class OddLayersOnly : public IStyleFilter
 {
     bool IStyleFilter_ShowsGroups() const override { return true; }
@@ -111,6 +124,26 @@ TEST_F(LibraryTrace, ADuplicateEditorIsALineWithItsError)
     EXPECT_EQ(ErrorOf([&] { Library().NewStyleEditor(Main); }), 1234);
     EXPECT_EQ(
         Lines().constLast(), QStringLiteral("library.NewStyleEditor(\"Main\") -> error 1234 \"exists\""));
+}
+
+TEST_F(LibraryTrace, PassesTextsOnAndShowsTheirNames)
+{
+    LibraryWithTexts library;
+    TracingLibrary traced(library, m_trace);
+    QBuffer document;
+    traced.AddTexts(QStringLiteral("nl"), document);
+    traced.AddTextFolder(QStringLiteral("texts"));
+    EXPECT_THAT(library.added, ElementsAre(QStringLiteral("nl"), QStringLiteral("texts")));
+    EXPECT_THAT(
+        Lines(),
+        ElementsAre(
+            QStringLiteral("library.AddTexts(\"nl\")"), QStringLiteral("library.AddTextFolder(\"texts\")")));
+}
+
+TEST_F(LibraryTrace, RefusesTextsThatTheLibraryDoesNotTake)
+{
+    const auto add = [this] { m_traced.AddTextFolder(QStringLiteral("texts")); };
+    EXPECT_EQ(ErrorOf(add), int(ErrorNumber::PluginFailure));
 }
 
 TEST_F(LibraryTrace, TheSameEditorIsFoundAgain)

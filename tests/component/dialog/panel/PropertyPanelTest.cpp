@@ -3,6 +3,9 @@
 
 #include "component/dialog/panel/FlagEditor.h"
 #include "component/dialog/panel/PanelFixture.h"
+#include "ovctrls/CheckBoxPlus.h"
+
+#include <OrvaneShellLib/IStyleEditorForm.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,6 +25,18 @@ TEST(CheckStateToValue, GivesTheThreeValuesAndNothingForAnyOther)
     EXPECT_TRUE(CheckStateToValue(2).IsNull());
     EXPECT_TRUE(CheckStateToValue(3).IsEmpty());
     EXPECT_TRUE(CheckStateToValue(-1).IsEmpty());
+}
+
+TEST_F(Panel, WhatAListenerOfACheckBoxRaisesIsToldToTheUser)
+{
+    QObject::connect(&Find<CheckBoxPlus>("chkVisible"), &CheckBoxPlus::MouseUp, [] {
+        throw RunTimeError(ErrorNumber::DatabaseFailure, "The layer table is gone.");
+    });
+    MessageBoxRobot user{BoxKey::Enter};
+    Click("chkVisible");
+    EXPECT_EQ(user.Only().text, "The layer table is gone.");
+    EXPECT_EQ(CheckState("chkVisible"), 0);
+    EditorForm().UnloadWithoutApply();
 }
 
 TEST_F(Panel, EachControlCarriesItsSlot)

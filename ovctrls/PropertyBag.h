@@ -18,6 +18,7 @@ namespace Orvane {
 class PropertyBag
 {
 public:
+    /// An empty bag, or one with stored values by key.
     PropertyBag() = default;
     explicit PropertyBag(const QVariantMap& contents) : m_contents(contents) { }
 
@@ -32,7 +33,9 @@ public:
     /// The stored font, else the default. Raises 13 for a value that is no font.
     QFont ReadFont(const QString& key, const QFont& defaultValue) const;
 
+    /// True if a value is stored under the key.
     bool Contains(const QString& key) const { return m_contents.contains(key); }
+    /// All stored values by key.
     const QVariantMap& Contents() const { return m_contents; }
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/CheckBoxPlusFixture.h"
+#include "ovctrls/CheckBoxPlusFixture.h"
+#include "support/QtMessageGuard.h"
 
 #include <QAccessible>
 #include <QLineEdit>
@@ -278,20 +279,41 @@ TEST_F(CheckBoxPlusTest, AListenerMayDestroyTheBox)
     EXPECT_TRUE(watched.isNull());
 }
 
-TEST_F(CheckBoxPlusTest, WhatAListenerRaisesIsToldToTheUserAndGoesNoFurther)
+TEST_F(CheckBoxPlusTest, WhatAListenerRaisesIsReportedAndGoesNoFurther)
+{
+    QStringList told;
+    m_box.SetErrorReport([&](const std::exception_ptr& error) {
+        told << Testing::RaisedBy([&] { std::rethrow_exception(error); })->Description();
+    });
+    QObject::connect(&m_box, &CheckBoxPlus::Click, [] {
+        throw RunTimeError(ErrorNumber::DatabaseFailure, "the layer table is gone");
+    });
+    EXPECT_NO_THROW(Click());
+    EXPECT_EQ(told, QStringList("the layer table is gone"));
+}
+
+TEST_F(CheckBoxPlusTest, WithoutAReportWhatAListenerRaisesIsAWarning)
 {
     QObject::connect(&m_box, &CheckBoxPlus::Click, [] {
         throw RunTimeError(ErrorNumber::DatabaseFailure, "the layer table is gone");
     });
-    QString told;
-    QTimer::singleShot(0, [&] {
-        QWidget* message = QApplication::activeModalWidget();
-        ASSERT_NE(message, nullptr);
-        told = message->property("text").toString();
-        message->close();
-    });
+    const Testing::ExpectedQtWarning warning("A listener of a control raised: the layer table is gone");
     EXPECT_NO_THROW(Click());
-    EXPECT_EQ(told, "the layer table is gone");
+}
+
+TEST_F(CheckBoxPlusTest, AListenerMayDestroyTheBoxAndRaise)
+{
+    auto* box = new CheckBoxPlus(&m_window);
+    box->show();
+    int told = 0;
+    box->SetErrorReport([&](const std::exception_ptr&) { ++told; });
+    QObject::connect(box, &CheckBoxPlus::KeyDown, [box] {
+        delete box;
+        throw RunTimeError(ErrorNumber::DatabaseFailure, "gone");
+    });
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+    QApplication::sendEvent(box->findChild<QCheckBox*>("Check1"), &down);
+    EXPECT_EQ(told, 1);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ovctrls/ListenerErrors.h"
+
 #include <QCheckBox>
 
 class QKeyEvent;
@@ -20,7 +22,10 @@ class InnerCheckBox : public QCheckBox
 public:
     explicit InnerCheckBox(QWidget* parent);
 
-signals:
+    void SetErrorReport(ListenerErrors::Report report) { m_errors.SetReport(std::move(report)); }
+    const ListenerErrors& Errors() const { return m_errors; }
+
+Q_SIGNALS:
     /// swallow: set it to true to keep the key from the box.
     void KeyPressed(const QKeyEvent& event, bool& swallow);
     void KeyReleased(const QKeyEvent& event);
@@ -30,7 +35,7 @@ signals:
     void MouseReleased(const QMouseEvent& event);
 
 protected:
-    /// Guarded: what a listener raises is shown to the user.
+    /// Guarded: what a listener raises is reported.
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -41,6 +46,7 @@ protected:
     void nextCheckState() override;
 
 private:
+    ListenerErrors m_errors;
     bool m_releasingMouse = false;
 };
 

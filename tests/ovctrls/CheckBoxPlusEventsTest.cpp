@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/CheckBoxPlusFixture.h"
+#include "ovctrls/CheckBoxPlusFixture.h"
 
 #include <QMetaMethod>
 #include <QMouseEvent>

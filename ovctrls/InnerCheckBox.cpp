@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/InnerCheckBox.h"
-
-#include "component/common/EventGuard.h"
+#include "ovctrls/InnerCheckBox.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -17,7 +15,7 @@ InnerCheckBox::InnerCheckBox(QWidget* parent) : QCheckBox(parent)
 bool InnerCheckBox::event(QEvent* event)
 {
     bool handled = false;
-    GuardEvent(window(), [&] { handled = QCheckBox::event(event); });
+    m_errors.Guard([&] { handled = QCheckBox::event(event); });
     return handled;
 }
 

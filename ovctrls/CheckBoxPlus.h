@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/controls/CheckValues.h"
-#include "component/controls/SystemColours.h"
+#include <orvane/ovctrls/CheckValues.h>
+#include <orvane/ovctrls/SystemColours.h>
 
+#include <QFont>
 #include <QWidget>
+
+#include <exception>
+#include <functional>
 
 class QKeyEvent;
 class QMouseEvent;
@@ -28,6 +32,8 @@ class PropertyBag;
 /// A left click sets the value of NextCheckValue when the button is released, wherever the pointer is. The
 /// space bar, a mnemonic and a screen reader toggle between unchecked and checked; they make a greyed box
 /// unchecked.
+///
+/// Qt Designer offers it where Orvane's plug-in for Designer is installed.
 class CheckBoxPlus : public QWidget
 {
     Q_OBJECT
@@ -41,6 +47,7 @@ class CheckBoxPlus : public QWidget
     Q_PROPERTY(QString accessibleName READ accessibleName WRITE setAccessibleName)
 
 public:
+    /// An unchecked box without a caption. parent: owns it; may be nullptr.
     explicit CheckBoxPlus(QWidget* parent = nullptr);
 
     /// The colour behind the box: BGR, or a system colour. With the face colour, the container shows through.
@@ -53,6 +60,7 @@ public:
 
     /// 0 unchecked, 1 checked, 2 greyed; one of CheckValue.
     qint16 Value() const;
+    /// The same as a text, "2" for example.
     QString ValueText() const { return QString::number(Value()); }
     /// Sets the value to the number in the text; emits Click if this changes the value. Raises 13 (type
     /// mismatch) for a text that holds no number, 6 (overflow) beyond 16 bits, and 9 for a number that is no
@@ -82,15 +90,21 @@ public:
     /// Repaints the box at once.
     void Refresh();
 
+    /// Sets who is told of what a listener raised while the box handled an event: no exception leaves the
+    /// box. Without a report, that is a warning in the log. report: must not raise, and may outlive the box
+    /// for the rest of the event.
+    void SetErrorReport(const std::function<void(std::exception_ptr)>& report);
+
     /// Writes colours, Enabled, Font and CycleMode to the bag; Value and Caption are set at run time.
     void WriteProperties(PropertyBag& bag) const;
     /// Reads them from the bag. A missing value gets its default; a missing font is that of the container.
     /// Does not report changes. Raises 6 or 13 for values of a wrong type, and then changes nothing.
     void ReadProperties(const PropertyBag& bag);
 
-signals:
-    // Arguments are passed by reference and may be changed. Codes are those of EventArguments.h; x and y are
-    // in twips from the upper left corner.
+Q_SIGNALS:
+    // Arguments are passed by reference and may be changed. keyCode: 65 to 90 for letters, 48 to 57 for
+    // digits, 112 to 135 for F1 to F24; keyAscii: the UTF-16 code unit; shift: Shift 1, Ctrl 2, Alt 4, added
+    // up; x and y: twips (1/1440 inch) from the upper left corner.
 
     /// The value has changed, by the user or by the program.
     void Click();
@@ -100,9 +114,14 @@ signals:
     void KeyDown(qint16& keyCode, qint16& shift);
     /// If a listener sets keyAscii to 0, the box does not get the key.
     void KeyPress(qint16& keyAscii);
+    /// The box still gets the key, whatever a listener sets.
     void KeyUp(qint16& keyCode, qint16& shift);
+    /// A button went down. button: left 1, right 2, middle 4.
     void MouseDown(qint16& button, qint16& shift, float& x, float& y);
+    /// The pointer moved over the box, with or without a button. button: the sum of the buttons that are
+    /// down.
     void MouseMove(qint16& button, qint16& shift, float& x, float& y);
+    /// A button went up, and the value is set.
     void MouseUp(qint16& button, qint16& shift, float& x, float& y);
 
     /// A setter was called; key: the name of the property.

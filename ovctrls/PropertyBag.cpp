@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/PropertyBag.h"
+#include "ovctrls/PropertyBag.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

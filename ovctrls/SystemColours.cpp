@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/SystemColours.h"
+#include "ovctrls/SystemColours.h"
 
 #include <QPalette>
 

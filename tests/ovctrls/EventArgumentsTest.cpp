@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/EventArguments.h"
+#include "ovctrls/EventArguments.h"
 
 #include <QKeyEvent>
 

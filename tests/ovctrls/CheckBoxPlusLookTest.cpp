@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/CheckBoxPlus.h"
-#include "component/controls/ControlsTestSupport.h"
-#include "component/controls/PropertyBag.h"
+#include "ovctrls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlusFixture.h"
+#include "ovctrls/PropertyBag.h"
 
 #include <QCheckBox>
 #include <QImage>

@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/controls/CheckBoxPlus.h"
-#include "component/controls/ControlsTestSupport.h"
-#include "component/controls/InnerCheckBox.h"
+#include "ovctrls/CheckBoxPlus.h"
+#include "ovctrls/InnerCheckBox.h"
+#include "support/Errors.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QTest>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 namespace Orvane::Testing {
+
+constexpr int overflow = int(ErrorNumber::Overflow);
+constexpr int subscriptOutOfRange = int(ErrorNumber::SubscriptOutOfRange);
+constexpr int typeMismatch = int(ErrorNumber::TypeMismatch);
 
 /// Records the events of a box in their order.
 class EventLog

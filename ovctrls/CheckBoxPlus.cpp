@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "component/controls/CheckBoxPlus.h"
+#include "ovctrls/CheckBoxPlus.h"
 
-#include "component/common/EventGuard.h"
-#include "component/common/Messages.h"
-#include "component/controls/EventArguments.h"
-#include "component/controls/InnerCheckBox.h"
-#include "component/controls/PropertyBag.h"
-#include "component/controls/Twips.h"
+#include "ovctrls/EventArguments.h"
+#include "ovctrls/InnerCheckBox.h"
+#include "ovctrls/PropertyBag.h"
+#include "ovctrls/TwipsPerInch.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -43,7 +41,8 @@ Qt::CheckState StateOf(qint16 value)
         return Qt::PartiallyChecked;
     default:
         throw RunTimeError(
-            ErrorNumber::SubscriptOutOfRange, TranslateMsg("The value of a check box is 0, 1 or 2."));
+            ErrorNumber::SubscriptOutOfRange,
+            QStringLiteral(QT_TR_NOOP("The value of a check box is 0, 1 or 2.")));
     }
 }
 
@@ -70,11 +69,11 @@ struct MouseArguments {
 
 MouseArguments ArgumentsOf(const QMouseEvent& event, Qt::MouseButtons buttons, const QWidget& box)
 {
-    const TwipsPerPixel scale = TwipsPerPixelOf(box);
     const QPoint position = event.pos();
     return {
-        ButtonMaskOf(buttons), ShiftMaskOf(event.modifiers()), float(position.x() * scale.x),
-        float(position.y() * scale.y)};
+        ButtonMaskOf(buttons), ShiftMaskOf(event.modifiers()),
+        float(position.x() * TwipsPerInch / box.logicalDpiX()),
+        float(position.y() * TwipsPerInch / box.logicalDpiY())};
 }
 
 } // namespace
@@ -207,9 +206,14 @@ void CheckBoxPlus::ReadProperties(const PropertyBag& bag)
     ShowColours();
 }
 
+void CheckBoxPlus::SetErrorReport(const std::function<void(std::exception_ptr)>& report)
+{
+    m_check1->SetErrorReport(report);
+}
+
 void CheckBoxPlus::changeEvent(QEvent* event)
 {
-    GuardEvent(window(), [&] {
+    m_check1->Errors().Guard([&] {
         QWidget::changeEvent(event);
         if (event->type() == QEvent::PaletteChange)
             ShowColours();
