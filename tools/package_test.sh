@@ -109,7 +109,7 @@ start_desktop "$work" 1280x900
 trap leave EXIT
 show_host '^Layer Control' minimal_host /tmp/map.ovl
 show_host '^Layer Control' vector_host
-show_host '^dock_host' dock_host /tmp/map.ovl
+show_host '^Dock Host' dock_host /tmp/map.ovl
 
 step "Using Orvane"
 install_packages '/tmp/orvane_*.deb'
