@@ -8,6 +8,8 @@
 
 #include <QMenu>
 #include <QSignalSpy>
+#include <QStyleHints>
+#include <QTimer>
 #include <QtTest>
 
 #include <gmock/gmock.h>
@@ -82,6 +84,17 @@ protected:
         }
         QTest::keyClick(&menu, Qt::Key_Return);
         Settle();
+    }
+
+    /// Until the view has scrolled to the node of the last press, which it does after that time.
+    void WaitForScrolling()
+    {
+        const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+        QTimer scrolled;
+        scrolled.setSingleShot(true);
+        QSignalSpy spy(&scrolled, &QTimer::timeout);
+        scrolled.start(interval + 150);
+        spy.wait();
     }
 
     bool IsStoredExpanded(qint32 groupID) { return ToBoolean(host.GroupColumn(groupID, "Expanded")); }
@@ -169,6 +182,18 @@ TEST_F(LayerTreesMenuTest, CollapsesAllGroupsAndKeepsTheCurrentLayer)
     EXPECT_THAT(Lines(groups), ElementsAre("Transport", "Water"));
     EXPECT_FALSE(IsStoredExpanded(2));
     EXPECT_EQ(trees.CurrentText(), "Rivers");
+}
+
+TEST_F(LayerTreesMenuTest, KeepsTheGroupCollapsedWhoseLayerWasClickedJustBefore)
+{
+    Open(List::Groups);
+    Click(groups, "Rivers", "Water");
+    QMenu* menu = MenuByKey(groups);
+    ASSERT_TRUE(menu);
+    Choose(*menu, "Collapse All");
+    WaitForScrolling();
+    EXPECT_THAT(Lines(groups), ElementsAre("Transport", "Water"));
+    EXPECT_FALSE(IsStoredExpanded(2));
 }
 
 TEST_F(LayerTreesMenuTest, LeavesTheGroupsAsTheyAreWhenTheyCannotBeStored)
