@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/project/ProjectMirror.h"
+
+#include "hostkit/lists/StoredList.h"
+#include "qgis/layers/LayerReader.h"
+#include "qgis/layers/LayerSnap.h"
+#include "qgis/layers/LayerWriter.h"
+#include "qgis/project/LayerOrder.h"
+#include "qgis/project/SignalBatch.h"
+#include "qgis/project/StoredRows.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/Transaction.h>
+
+#include <qgsmaplayer.h>
+#include <qgsproject.h>
+#include <qgsrenderer.h>
+#include <qgsvectorlayer.h>
+
+#include <utility>
+
+namespace Orvane {
+
+namespace {
+
+Value PriorityIn(const QHash<QString, qint32>& priorities, const QgsMapLayer& layer)
+{
+    const auto found = priorities.constFind(layer.id());
+    return found == priorities.constEnd() ? Value::Null() : Value(*found);
+}
+
+} // namespace
+
+ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
+    : m_project(project), m_store(store), m_ids(project), m_groups(project),
+      m_around([](const std::function<void()>& write) { write(); })
+{
+}
+
+void ProjectMirror::SetAround(std::function<void(const std::function<void()>& write)> around)
+{
+    m_around = std::move(around);
+}
+
+bool ProjectMirror::ReadAll()
+{
+    const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
+    return Read([&] {
+        bool differs = DeleteMissing();
+        for (QgsMapLayer* layer : m_project.mapLayers())
+            differs |= Store(RowOf(*layer, PriorityIn(priorities, *layer)));
+        return ReadGroups() || differs;
+    });
+}
+
+bool ProjectMirror::ReadLayers(const QSet<QString>& layers)
+{
+    return Read([&] {
+        bool differs = DeleteMissing();
+        for (const QString& id : layers) {
+            if (QgsMapLayer* layer = m_project.mapLayer(id))
+                differs |= Store(RowOf(*layer, ValueOf(KnownRow(*layer), "Priority")));
+        }
+        return differs;
+    });
+}
+
+bool ProjectMirror::ReadTree()
+{
+    return Read([&] {
+        const bool layersDiffer = ReadPriorities();
+        return ReadGroups() || layersDiffer;
+    });
+}
+
+void ProjectMirror::Forget()
+{
+    Transaction transaction(m_store);
+    for (const char* table : {"LayerGroupMembers", "LayerGroups", "Layers"})
+        m_store.Execute(QStringLiteral("DELETE FROM ") + QLatin1String(table));
+    transaction.Commit();
+    m_rows.clear();
+    m_ids.Reset();
+}
+
+void ProjectMirror::Write(const QSet<qint32>& layerIDs)
+{
+    const std::vector<Change> changes = ChangesOf(layerIDs);
+    if (changes.empty())
+        return;
+    m_around([&] {
+        try {
+            WriteChanges(changes);
+        } catch (...) {
+            TakeBack(changes);
+            StoreTaken(changes);
+            throw;
+        }
+        StoreTaken(changes);
+    });
+}
+
+void ProjectMirror::WriteName(qint32 layerID, const QString& name)
+{
+    QgsMapLayer* layer = Layer(layerID);
+    if (!layer)
+        return;
+    layer->setName(name);
+    m_project.setDirty(true);
+    if (m_rows.contains(layerID))
+        SetValue(m_rows[layerID], "Name", name);
+}
+
+void ProjectMirror::WriteGroupName(qint32 groupID, const QString& name)
+{
+    m_groups.Rename(groupID, name);
+    m_project.setDirty(true);
+}
+
+bool ProjectMirror::Read(const std::function<bool()>& read)
+{
+    const QgsProjectDirtyBlocker unchanged(&m_project); // reading gives layers their numbers
+    const QHash<qint32, LayerValues> before = m_rows;
+    try {
+        Transaction transaction(m_store);
+        const bool differs = read();
+        transaction.Commit();
+        return differs;
+    } catch (...) {
+        m_rows = before;
+        throw;
+    }
+}
+
+LayerValues ProjectMirror::KnownRow(QgsMapLayer& layer)
+{
+    const auto known = m_rows.constFind(m_ids.Of(layer));
+    return known == m_rows.constEnd() ? UnknownLayerValues() : *known;
+}
+
+bool ProjectMirror::ReadPriorities()
+{
+    const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
+    bool differs = false;
+    for (QgsMapLayer* layer : m_project.mapLayers()) {
+        if (!m_rows.contains(m_ids.Of(*layer)))
+            continue;
+        LayerValues row = KnownRow(*layer);
+        SetValue(row, "Priority", PriorityIn(priorities, *layer));
+        SetValue(row, "SnapRequired", ReadSnap(*layer, m_project));
+        differs |= Store(row);
+    }
+    return differs;
+}
+
+bool ProjectMirror::ReadGroups()
+{
+    QHash<QString, qint32> ids;
+    for (QgsMapLayer* layer : m_project.mapLayers())
+        ids.insert(layer->id(), m_ids.Of(*layer));
+    return StoredList::Update(m_store, StoredList::Layers(m_store), m_groups.Read(ids));
+}
+
+bool ProjectMirror::DeleteMissing()
+{
+    std::vector<qint32> missing;
+    missing.reserve(size_t(m_rows.size()));
+    for (auto row = m_rows.keyBegin(); row != m_rows.keyEnd(); ++row) {
+        if (!Layer(*row))
+            missing.push_back(*row);
+    }
+    for (const qint32 layerID : missing) {
+        StoredRows::Delete(m_store, layerID);
+        m_rows.remove(layerID);
+    }
+    return !missing.empty();
+}
+
+LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
+{
+    LayerValues row = Orvane::ReadLayer(layer, m_project);
+    SetValue(row, "LayerID", m_ids.Of(layer));
+    SetValue(row, "Name", layer.name());
+    SetValue(row, "Priority", priority);
+    SetValue(row, "SystemLayer", false);
+    SetValue(row, "Pseudo", false);
+    return row;
+}
+
+bool ProjectMirror::Store(const LayerValues& row)
+{
+    const qint32 layerID = *row.front().Get<qint32>();
+    const auto known = m_rows.constFind(layerID);
+    if (known == m_rows.constEnd()) {
+        StoredRows::Insert(m_store, row);
+        m_rows.insert(layerID, row);
+        return true;
+    }
+    const bool differs = StoredRows::Update(m_store, *known, row);
+    if (differs)
+        m_rows[layerID] = row;
+    return differs;
+}
+
+std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& layerIDs)
+{
+    std::vector<Change> changes;
+    changes.reserve(size_t(layerIDs.size()));
+    for (const qint32 layerID : layerIDs) {
+        QgsMapLayer* layer = Layer(layerID);
+        const auto known = m_rows.constFind(layerID);
+        const auto stored = StoredRows::Read(m_store, layerID);
+        if (layer && stored && known != m_rows.constEnd() && StoredRows::AreDifferent(*known, *stored))
+            changes.push_back({layer, layerID, *known, *stored});
+    }
+    return changes;
+}
+
+void ProjectMirror::WriteChanges(const std::vector<Change>& changes)
+{
+    WriteLooks(changes);
+    WriteSnapping(changes);
+    WritePriorities(changes);
+}
+
+void ProjectMirror::WriteLooks(const std::vector<Change>& changes)
+{
+    SignalBatch batch(m_project, m_panel);
+    for (const Change& change : changes) {
+        WriteLayer(
+            *change.layer, m_project, change.before, change.after,
+            [&](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
+                batch.SetRenderer(layer, std::move(renderer));
+            });
+        batch.Add(*change.layer);
+    }
+}
+
+void ProjectMirror::WriteSnapping(const std::vector<Change>& changes)
+{
+    QHash<QgsMapLayer*, bool> layers;
+    for (const Change& change : changes) {
+        const Value& snap = ValueOf(change.after, "SnapRequired");
+        if (!snap.IsNull() && Differs(change.before, change.after, "SnapRequired"))
+            layers.insert(change.layer, ToBoolean(snap));
+    }
+    if (!layers.isEmpty())
+        WriteSnap(m_project, layers);
+}
+
+void ProjectMirror::WritePriorities(const std::vector<Change>& changes)
+{
+    QHash<QString, qint32> priorities;
+    for (const Change& change : changes) {
+        const Value& priority = ValueOf(change.after, "Priority");
+        if (!priority.IsNull() && Differs(change.before, change.after, "Priority"))
+            priorities.insert(change.layer->id(), ToInt32(priority));
+    }
+    if (!priorities.isEmpty())
+        LayerOrder::Write(m_project, priorities);
+}
+
+void ProjectMirror::TakeBack(const std::vector<Change>& changes)
+{
+    std::vector<Change> reversed = changes;
+    for (Change& change : reversed) {
+        change.after = RowOf(*change.layer, ValueOf(change.before, "Priority"));
+        std::swap(change.before, change.after);
+    }
+    WriteChanges(reversed);
+}
+
+void ProjectMirror::StoreTaken(const std::vector<Change>& changes)
+{
+    const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
+    Transaction transaction(m_store);
+    for (const Change& change : changes) {
+        m_rows[change.layerID] = change.after; // as the store has it
+        Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
+    }
+    transaction.Commit();
+}
+
+} // namespace Orvane

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "qgis/layers/LayerIDs.h"
+#include "qgis/layers/LayerValues.h"
+#include "qgis/project/GroupMirror.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QgsLayerTreeModel;
+class QgsMapLayer;
+class QgsProject;
+
+namespace Orvane {
+
+class ILayerStore;
+
+/// Keeps a layer store alike with a QGIS project. The store has one row for each layer of the project and one
+/// group for each of its groups. A layer's row stays as long as the layer does: only columns that differ are
+/// stored, and only columns that differ are written to the project.
+///
+/// All functions raise errors of the store.
+class ProjectMirror
+{
+public:
+    /// Neither is owned; both outlive this object. store: holds nothing but this project.
+    ProjectMirror(QgsProject& project, ILayerStore& store);
+
+    /// QGIS's panel of layers, refreshed by Write; nullptr for none. Not owned.
+    void SetPanel(QgsLayerTreeModel* panel) { m_panel = panel; }
+    /// Write runs inside this function, which must call its argument once.
+    void SetAround(std::function<void(const std::function<void()>& write)> around);
+
+    /// The layer with that row; nullptr if the project has none.
+    QgsMapLayer* Layer(qint32 layerID) const { return m_ids.Layer(layerID); }
+    /// The row of a layer of the project.
+    qint32 IDOf(QgsMapLayer& layer) { return m_ids.Of(layer); }
+
+    /// Reads everything. Returns true if the store has changed, as ReadLayers and ReadTree do.
+    bool ReadAll();
+    /// Reads these layers, by their IDs in QGIS. Those that have left the project lose their rows.
+    bool ReadLayers(const QSet<QString>& layers);
+    /// Reads the groups, and of all layers the snapping and the priority.
+    bool ReadTree();
+    /// Removes all rows and starts afresh, for another project.
+    void Forget();
+
+    /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
+    /// layers have taken: a raster, for example, takes no colour. Layers that have left the project are
+    /// skipped. Passes on what writing a layer raises.
+    void Write(const QSet<qint32>& layerIDs);
+    /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
+    void WriteName(qint32 layerID, const QString& name);
+    void WriteGroupName(qint32 groupID, const QString& name);
+
+private:
+    struct Change {
+        QgsMapLayer* layer;
+        qint32 layerID;
+        LayerValues before;
+        LayerValues after;
+    };
+
+    bool Read(const std::function<bool()>& read);
+    LayerValues KnownRow(QgsMapLayer& layer);
+    bool ReadPriorities();
+    bool ReadGroups();
+    bool DeleteMissing();
+    LayerValues RowOf(QgsMapLayer& layer, const Value& priority);
+    bool Store(const LayerValues& row);
+    std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs);
+    void WriteChanges(const std::vector<Change>& changes);
+    void WriteLooks(const std::vector<Change>& changes);
+    void WriteSnapping(const std::vector<Change>& changes);
+    void WritePriorities(const std::vector<Change>& changes);
+    void TakeBack(const std::vector<Change>& changes);
+    void StoreTaken(const std::vector<Change>& changes);
+
+    QgsProject& m_project;
+    ILayerStore& m_store;
+    LayerIDs m_ids;
+    GroupMirror m_groups;
+    QHash<qint32, LayerValues> m_rows; // as the project has them
+    QgsLayerTreeModel* m_panel = nullptr;
+    std::function<void(const std::function<void()>&)> m_around;
+};
+
+} // namespace Orvane

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QSet>
+
+#include <memory>
+
+class QgsFeatureRenderer;
+class QgsLayerTreeModel;
+class QgsMapLayer;
+class QgsProject;
+class QgsVectorLayer;
+
+namespace Orvane {
+
+/// Changes the looks of many layers, and tells QGIS once for each at the end. Without it every new renderer
+/// makes QGIS's panel look for its layer among all others and measure all its rows.
+///
+///     SignalBatch batch(project, view->layerTreeModel());
+///     for (...)
+///         batch.SetRenderer(*layer, std::move(renderer));
+///     batch.Finish();
+class SignalBatch
+{
+public:
+    /// Neither is owned; both outlive this object. panel: the model of QGIS's panel of layers, or nullptr.
+    SignalBatch(QgsProject& project, QgsLayerTreeModel* panel) : m_project(project), m_panel(panel) { }
+    /// Calls Finish.
+    ~SignalBatch() { Finish(); }
+    SignalBatch(const SignalBatch&) = delete;
+    SignalBatch& operator=(const SignalBatch&) = delete;
+
+    /// Gives the layer the renderer while it emits nothing.
+    void SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer);
+
+    /// Repaints the layer at the end.
+    void Add(QgsMapLayer& layer) { m_repainted.insert(&layer); }
+
+    /// Tells of the new styles, refreshes their entries in the panel and in the legends of layouts, repaints
+    /// the layers, and marks the project as changed. Raises nothing.
+    void Finish();
+
+private:
+    void RefreshLegends() const;
+
+    QgsProject& m_project;
+    QgsLayerTreeModel* m_panel;
+    QSet<QgsMapLayer*> m_restyled;
+    QSet<QgsMapLayer*> m_repainted; // those with new styles too
+};
+
+} // namespace Orvane
