@@ -1,1 +1,43 @@
 // SPDX-License-Identifier: MIT
+#include "qgis/layers/LayerReader.h"
+
+#include "qgis/layers/KeptValues.h"
+#include "qgis/layers/LayerFlags.h"
+#include "qgis/layers/LayerScales.h"
+#include "qgis/layers/LayerSnap.h"
+#include "qgis/layers/LayerTick.h"
+#include "qgis/layers/OverrideMode.h"
+#include "qgis/layers/SymbolColumns.h"
+
+namespace Orvane {
+
+namespace {
+
+void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const QgsProject& project)
+{
+    const PointingFlags pointing = ReadPointing(layer);
+    SetValue(values, "Visible", ReadVisible(layer, project));
+    SetValue(values, "Selectable", KeptValues::Flag(layer, "Selectable").value_or(true));
+    SetValue(values, "locked", ReadLocked(layer));
+    SetValue(values, "Hitable", pointing.hitable);
+    SetValue(values, "SnapRequired", ReadSnap(layer, project));
+    SetValue(values, "Enquirable", pointing.enquirable);
+}
+
+} // namespace
+
+LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
+{
+    LayerValues values = UnknownLayerValues();
+    const LayerScales scales = ReadScales(layer);
+    SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0));
+    ReadFlags(values, layer, project);
+    ReadSymbolColumns(values, layer);
+    SetValue(values, "MinVisScale", scales.minimum);
+    SetValue(values, "MaxVisScale", scales.maximum);
+    SetValue(values, "Style", KeptValues::Whole(layer, "Style").value_or(0));
+    SetValue(values, "OverrideMode", ReadOverrideMode(layer, project));
+    return values;
+}
+
+} // namespace Orvane

@@ -1,1 +1,95 @@
 // SPDX-License-Identifier: MIT
+#include "qgis/layers/LayerWriter.h"
+
+#include "qgis/layers/KeptValues.h"
+#include "qgis/layers/LayerFlags.h"
+#include "qgis/layers/LayerScales.h"
+#include "qgis/layers/LayerTick.h"
+#include "qgis/layers/OverrideMode.h"
+#include "qgis/layers/SymbolColumns.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <qgsrenderer.h>
+
+namespace Orvane {
+
+namespace {
+
+// The columns of a layer that were changed.
+class Changes
+{
+public:
+    Changes(const LayerValues& before, const LayerValues& after) : m_before(before), m_after(after) { }
+
+    bool Has(std::string_view column) const
+    {
+        return !ValueOf(m_after, column).IsNull() && Differs(m_before, m_after, column);
+    }
+    const Value& New(std::string_view column) const { return ValueOf(m_after, column); }
+
+private:
+    const LayerValues& m_before;
+    const LayerValues& m_after;
+};
+
+void WriteKept(QgsMapLayer& layer, const Changes& changes)
+{
+    for (const std::string_view column : {"Code", "Style"}) {
+        if (changes.Has(column))
+            KeptValues::Keep(layer, column, ToInt32(changes.New(column)));
+    }
+    if (changes.Has("Selectable"))
+        KeptValues::Keep(layer, "Selectable", ToBoolean(changes.New("Selectable")));
+}
+
+void WriteFlags(WrittenLayer& written, QgsMapLayer& layer, const Changes& changes)
+{
+    PointingFlags pointing = ReadPointing(layer);
+    if (changes.Has("Hitable"))
+        pointing.hitable = ToBoolean(changes.New("Hitable"));
+    if (changes.Has("Enquirable"))
+        pointing.enquirable = ToBoolean(changes.New("Enquirable"));
+    if (changes.Has("Hitable") || changes.Has("Enquirable"))
+        WritePointing(layer, pointing);
+    if (changes.Has("locked") && !WriteLocked(layer, ToBoolean(changes.New("locked"))))
+        written.refused.emplace_back("locked");
+}
+
+void WriteScaleColumns(QgsMapLayer& layer, const Changes& changes)
+{
+    LayerScales scales = ReadScales(layer);
+    if (changes.Has("MinVisScale"))
+        scales.minimum = ToDouble(changes.New("MinVisScale"));
+    if (changes.Has("MaxVisScale"))
+        scales.maximum = ToDouble(changes.New("MaxVisScale"));
+    if (changes.Has("MinVisScale") || changes.Has("MaxVisScale"))
+        WriteScales(layer, scales);
+}
+
+void WriteShowing(QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
+{
+    ForgetEndedMode(layer, project);
+    if (changes.Has("OverrideMode"))
+        WriteOverrideMode(layer, project, ToInt32(changes.New("OverrideMode")));
+    if (changes.Has("Visible"))
+        WriteVisible(layer, project, ToBoolean(changes.New("Visible")));
+}
+
+} // namespace
+
+WrittenLayer WriteLayer(
+    QgsMapLayer& layer, const QgsProject& project, const LayerValues& before, const LayerValues& after,
+    const RendererSetter& setRenderer)
+{
+    WrittenLayer written;
+    const Changes changes(before, after);
+    WriteKept(layer, changes);
+    WriteFlags(written, layer, changes);
+    WriteScaleColumns(layer, changes);
+    WriteSymbolColumns(written, layer, before, after, setRenderer);
+    WriteShowing(layer, project, changes);
+    return written;
+}
+
+} // namespace Orvane

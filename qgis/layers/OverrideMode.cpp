@@ -1,1 +1,102 @@
 // SPDX-License-Identifier: MIT
+#include "qgis/layers/OverrideMode.h"
+
+#include "qgis/layers/KeptValues.h"
+#include "qgis/layers/LayerNode.h"
+
+#include <cmath>
+
+namespace Orvane {
+
+namespace {
+
+constexpr std::string_view ModeName = "OverrideMode";
+constexpr std::string_view OpacityName = "FormerOpacity";
+constexpr std::string_view TickName = "FormerTick";
+constexpr qint32 NormalMode = 0;
+constexpr qint32 BackdropMode = 1;
+constexpr qint32 HiddenMode = 2;
+constexpr double BackdropPart = 0.35;
+constexpr double OpacitySlack = 0.001;
+
+bool IsFaded(const QgsMapLayer& layer)
+{
+    const std::optional<double> former = KeptValues::Number(layer, OpacityName);
+    return former && std::abs(layer.opacity() - *former * BackdropPart) < OpacitySlack;
+}
+
+bool IsUnticked(const QgsMapLayer& layer, const QgsProject& project)
+{
+    const QgsLayerTreeLayer* node = NodeOf(layer, project);
+    return node && !node->itemVisibilityChecked();
+}
+
+void SetTick(const QgsMapLayer& layer, const QgsProject& project, bool ticked)
+{
+    if (QgsLayerTreeLayer* node = NodeOf(layer, project))
+        node->setItemVisibilityChecked(ticked);
+}
+
+void ForgetMode(QgsMapLayer& layer)
+{
+    for (const std::string_view name : {ModeName, OpacityName, TickName})
+        KeptValues::Keep(layer, name, Value::Null());
+}
+
+void EndMode(QgsMapLayer& layer, const QgsProject& project)
+{
+    const qint32 mode = ReadOverrideMode(layer, project);
+    const double opacity = KeptValues::Number(layer, OpacityName).value_or(1);
+    const bool ticked = KeptValues::Flag(layer, TickName).value_or(true);
+    ForgetMode(layer);
+    if (mode == BackdropMode)
+        layer.setOpacity(opacity);
+    else if (mode == HiddenMode)
+        SetTick(layer, project, ticked);
+}
+
+} // namespace
+
+qint32 ReadOverrideMode(const QgsMapLayer& layer, const QgsProject& project)
+{
+    const qint32 mode = KeptValues::Whole(layer, ModeName).value_or(NormalMode);
+    const bool lasts
+        = (mode == BackdropMode && IsFaded(layer)) || (mode == HiddenMode && IsUnticked(layer, project));
+    return lasts ? mode : NormalMode;
+}
+
+void WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode)
+{
+    if (mode == ReadOverrideMode(layer, project))
+        return;
+    EndMode(layer, project);
+    if (mode == BackdropMode) {
+        KeptValues::Keep(layer, OpacityName, layer.opacity());
+        layer.setOpacity(layer.opacity() * BackdropPart);
+        KeptValues::Keep(layer, ModeName, mode);
+    } else if (mode == HiddenMode) {
+        KeptValues::Keep(layer, TickName, !IsUnticked(layer, project));
+        SetTick(layer, project, false);
+        KeptValues::Keep(layer, ModeName, mode);
+    }
+}
+
+void ForgetEndedMode(QgsMapLayer& layer, const QgsProject& project)
+{
+    if (KeptValues::Whole(layer, ModeName) && ReadOverrideMode(layer, project) == NormalMode)
+        ForgetMode(layer);
+}
+
+std::optional<bool> TickBeforeHiding(const QgsMapLayer& layer, const QgsProject& project)
+{
+    if (ReadOverrideMode(layer, project) != HiddenMode)
+        return std::nullopt;
+    return KeptValues::Flag(layer, TickName).value_or(true);
+}
+
+void SetTickBeforeHiding(QgsMapLayer& layer, bool ticked)
+{
+    KeptValues::Keep(layer, TickName, ticked);
+}
+
+} // namespace Orvane

@@ -3,6 +3,8 @@
 
 #include <QtGlobal>
 
+#include <optional>
+
 class QgsMapLayer;
 class QgsProject;
 
@@ -15,5 +17,14 @@ qint32 ReadOverrideMode(const QgsMapLayer& layer, const QgsProject& project);
 /// Backdrop lowers the layer's opacity to 0.35 of what it was, hidden unticks it; each mode first takes back
 /// the one before. Any other number than 1 and 2 means normal.
 void WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode);
+
+/// Forgets a mode that the user has ended in QGIS. Without it, a layer that was hidden, ticked and unticked
+/// in QGIS would count as hidden again. Nothing happens to other layers.
+void ForgetEndedMode(QgsMapLayer& layer, const QgsProject& project);
+
+/// The tick that a hidden layer gets back; nothing if the layer is not hidden.
+std::optional<bool> TickBeforeHiding(const QgsMapLayer& layer, const QgsProject& project);
+/// Changes that tick. The layer must be hidden.
+void SetTickBeforeHiding(QgsMapLayer& layer, bool ticked);
 
 } // namespace Orvane

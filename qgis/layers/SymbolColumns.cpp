@@ -1,1 +1,110 @@
 // SPDX-License-Identifier: MIT
+#include "qgis/layers/SymbolColumns.h"
+
+#include "qgis/layers/KeptValues.h"
+#include "qgis/symbols/RendererLook.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <qgsrenderer.h>
+#include <qgsvectorlayer.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr std::array FillColumns{LookColumn::FillForeColor, LookColumn::FillBackColor, LookColumn::FillStyle};
+
+const char* NameOf(LookColumn column)
+{
+    return LookColumnNames[std::size_t(column)];
+}
+
+SymbolLook KeptLook(const QgsMapLayer& layer)
+{
+    SymbolLook kept;
+    for (std::size_t i = 0; i < kept.values.size(); ++i)
+        kept.values[i] = KeptValues::Whole(layer, LookColumnNames[i]);
+    return kept;
+}
+
+SymbolLook ChangesOf(const LayerValues& before, const LayerValues& after)
+{
+    SymbolLook changes;
+    for (std::size_t i = 0; i < changes.values.size(); ++i) {
+        const Value& value = ValueOf(after, LookColumnNames[i]);
+        if (!value.IsNull() && Differs(before, after, LookColumnNames[i]))
+            changes.values[i] = ToInt32(value);
+    }
+    return changes;
+}
+
+void Keep(QgsMapLayer& layer, const SymbolLook& look, LookColumn column)
+{
+    if (look[column])
+        KeptValues::Keep(layer, NameOf(column), *look[column]);
+}
+
+// A fill means what it does by its three columns together.
+void KeepChanges(QgsMapLayer& layer, const SymbolLook& look, const SymbolLook& changes)
+{
+    if (changes[LookColumn::Color])
+        Keep(layer, look, LookColumn::Color);
+    const bool fills = changes[LookColumn::FillForeColor] || changes[LookColumn::FillBackColor]
+        || changes[LookColumn::FillStyle];
+    for (const LookColumn column : FillColumns) {
+        if (fills)
+            Keep(layer, look, column);
+    }
+}
+
+void NoteRefusals(WrittenLayer& written, const SymbolLook& changes, const TakenColumns& taken)
+{
+    for (std::size_t i = 0; i < changes.values.size(); ++i) {
+        if (changes.values[i] && !taken.taken[i])
+            written.refused.push_back(LookColumnNames[i]);
+    }
+}
+
+void SetRenderer(
+    QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer, const RendererSetter& setter)
+{
+    if (setter)
+        setter(layer, std::move(renderer));
+    else
+        layer.setRenderer(renderer.release());
+}
+
+} // namespace
+
+void ReadSymbolColumns(LayerValues& values, const QgsMapLayer& layer)
+{
+    const auto* vectors = qobject_cast<const QgsVectorLayer*>(&layer);
+    if (!vectors)
+        return;
+    const SymbolLook look = ReadRenderer(vectors->renderer(), KeptLook(layer));
+    for (std::size_t i = 0; i < look.values.size(); ++i) {
+        if (look.values[i])
+            SetValue(values, LookColumnNames[i], *look.values[i]);
+    }
+}
+
+void WriteSymbolColumns(
+    WrittenLayer& written, QgsMapLayer& layer, const LayerValues& before, const LayerValues& after,
+    const RendererSetter& setRenderer)
+{
+    const SymbolLook changes = ChangesOf(before, after);
+    auto* vectors = qobject_cast<QgsVectorLayer*>(&layer);
+    if (!vectors)
+        return NoteRefusals(written, changes, {});
+    const SymbolLook kept = KeptLook(layer);
+    ChangedRenderer changed = ChangeRenderer(vectors->renderer(), changes, kept);
+    NoteRefusals(written, changes, changed.taken);
+    if (!changed.renderer)
+        return;
+    KeepChanges(layer, Merged(ReadRenderer(vectors->renderer(), kept), changes), changes);
+    SetRenderer(*vectors, std::move(changed.renderer), setRenderer);
+    written.symbolsChanged = true;
+}
+
+} // namespace Orvane

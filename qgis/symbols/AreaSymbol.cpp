@@ -17,7 +17,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr qint32 DefaultBack = 0xFFFFFF;
+constexpr qint32 DefaultBack = TransparentColour; // hollow then shows what lies below, as in QGIS
 
 bool IsPlain(qint32 fillStyle)
 {
@@ -32,16 +32,6 @@ bool IsClear(const SymbolLook& look, LookColumn column)
 bool AreBothClear(const SymbolLook& look)
 {
     return IsClear(look, LookColumn::FillForeColor) && IsClear(look, LookColumn::FillBackColor);
-}
-
-SymbolLook Merged(const SymbolLook& look, const SymbolLook& changes)
-{
-    SymbolLook merged = look;
-    for (std::size_t i = 0; i < merged.values.size(); ++i) {
-        if (changes.values[i])
-            merged.values[i] = changes.values[i];
-    }
-    return merged;
 }
 
 bool ChangesFill(const SymbolLook& changes)
@@ -63,8 +53,6 @@ std::optional<qint32> PaintOf(const SymbolLook& look)
 {
     if (look[LookColumn::FillStyle] == HollowFill)
         return IsClear(look, LookColumn::FillBackColor) ? std::nullopt : look[LookColumn::FillBackColor];
-    if (AreBothClear(look))
-        return look[LookColumn::Color]; // as in the preview of the fill picker
     return IsClear(look, LookColumn::FillForeColor) ? std::nullopt : look[LookColumn::FillForeColor];
 }
 
@@ -149,8 +137,6 @@ void AreaSymbol::ReadPlainFill(SymbolLook& look, const SymbolLook& kept) const
     look[LookColumn::FillForeColor] = !hollow ? shown
         : drawn                               ? kept[LookColumn::FillForeColor].value_or(colour)
                                               : colour;
-    if (drawn && !hollow && AreBothClear(kept) && look[LookColumn::Color] == colour)
-        look[LookColumn::FillForeColor] = TransparentColour;
     if (drawn && IsFillFromData())
         look[hollow ? LookColumn::FillBackColor : LookColumn::FillForeColor].reset();
 }

@@ -46,6 +46,17 @@ struct TakenColumns {
     }
 };
 
+/// The look with the columns that are set in the changes.
+inline SymbolLook Merged(const SymbolLook& look, const SymbolLook& changes)
+{
+    SymbolLook merged = look;
+    for (std::size_t i = 0; i < merged.values.size(); ++i) {
+        if (changes.values[i])
+            merged.values[i] = changes.values[i];
+    }
+    return merged;
+}
+
 /// Forgets what differs in the other look.
 inline void Intersect(SymbolLook& look, const SymbolLook& other)
 {
