@@ -38,10 +38,10 @@ std::vector<QgsLayerTreeGroup*> GroupsOf(const QgsProject& project)
 }
 
 // The names of the groups around a group, each followed by the separator.
-QString NamesAround(const QgsLayerTreeGroup& group)
+QString NamesAround(QgsLayerTreeGroup& group)
 {
     QString names;
-    const QgsLayerTreeNode* node = group.parent();
+    QgsLayerTreeNode* node = group.parent();
     for (; node && node->parent(); node = node->parent())
         names.prepend(node->name() + Between);
     return names;
@@ -87,7 +87,7 @@ std::vector<ListedGroup> GroupMirror::Read(const QHash<QString, qint32>& layerID
     GiveEachAnID(groups);
     std::vector<ListedGroup> listed;
     listed.reserve(groups.size());
-    for (const QgsLayerTreeGroup* group : groups) {
+    for (QgsLayerTreeGroup* group : groups) {
         ListedGroup one;
         one.id = KeptGroupID(*group);
         one.name = NamesAround(*group) + group->name();

@@ -83,11 +83,12 @@ void ProjectMirror::Forget()
     m_ids.Reset();
 }
 
-void ProjectMirror::Write(const QSet<qint32>& layerIDs)
+bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
 {
     const std::vector<Change> changes = ChangesOf(layerIDs);
+    bool differs = false;
     if (changes.empty())
-        return;
+        return differs;
     m_around([&] {
         try {
             WriteChanges(changes);
@@ -96,8 +97,9 @@ void ProjectMirror::Write(const QSet<qint32>& layerIDs)
             StoreTaken(changes);
             throw;
         }
-        StoreTaken(changes);
+        differs = StoreTaken(changes);
     });
+    return differs;
 }
 
 void ProjectMirror::WriteName(qint32 layerID, const QString& name)
@@ -270,15 +272,17 @@ void ProjectMirror::TakeBack(const std::vector<Change>& changes)
     WriteChanges(reversed);
 }
 
-void ProjectMirror::StoreTaken(const std::vector<Change>& changes)
+bool ProjectMirror::StoreTaken(const std::vector<Change>& changes)
 {
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
-    Transaction transaction(m_store);
-    for (const Change& change : changes) {
-        m_rows[change.layerID] = change.after; // as the store has it
-        Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
-    }
-    transaction.Commit();
+    return Read([&] {
+        bool differs = false;
+        for (const Change& change : changes) {
+            m_rows[change.layerID] = change.after; // as the store has it
+            differs |= Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
+        }
+        return differs;
+    });
 }
 
 } // namespace Orvane

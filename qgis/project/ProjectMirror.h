@@ -52,8 +52,8 @@ public:
 
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
     /// layers have taken: a raster, for example, takes no colour. Layers that have left the project are
-    /// skipped. Passes on what writing a layer raises.
-    void Write(const QSet<qint32>& layerIDs);
+    /// skipped. Returns true if a row then differs from what it was. Passes on what writing a layer raises.
+    bool Write(const QSet<qint32>& layerIDs);
     /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
     void WriteName(qint32 layerID, const QString& name);
     void WriteGroupName(qint32 groupID, const QString& name);
@@ -79,7 +79,7 @@ private:
     void WriteSnapping(const std::vector<Change>& changes);
     void WritePriorities(const std::vector<Change>& changes);
     void TakeBack(const std::vector<Change>& changes);
-    void StoreTaken(const std::vector<Change>& changes);
+    bool StoreTaken(const std::vector<Change>& changes);
 
     QgsProject& m_project;
     ILayerStore& m_store;

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAction>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <qgisplugin.h>
+
+#include <memory>
+
+class QgisInterface;
+
+namespace Orvane {
+
+class EditorDock;
+class ProjectSession;
+class StyleEditorPlugin;
+
+/// The layer control in QGIS: a dock, a button, and entries in the menu of plug-ins. The component is loaded,
+/// and the project read, when the dock is first shown; from then on both are kept alike.
+///
+/// The component is found as StyleEditorPlugin finds it, or in the file that the environment variable
+/// ORVANE_COMPONENT names.
+class LayerControlPlugin : public QObject, public QgisPlugin
+{
+    Q_OBJECT
+
+public:
+    /// qgis: not owned; outlives this object.
+    explicit LayerControlPlugin(QgisInterface& qgis);
+    /// Calls unload.
+    ~LayerControlPlugin() override;
+
+    /// Adds what the user sees.
+    void initGui() override;
+    /// Removes it, and ends the editor; edits that were not applied are lost.
+    void unload() override;
+
+private:
+    void AddDock();
+    void AddActions();
+    void AddAction(QAction& action, const QString& text, void (LayerControlPlugin::*slot)());
+    void ShowFromMenu();
+    void ShowEditor();
+    void Start();
+    void ConnectSession();
+    void Undo();
+    void Redo();
+    void ShowSteps();
+    void WatchPendingEdits();
+    void Tell(const QString& message);
+
+    QgisInterface& m_qgis;
+    QPointer<EditorDock> m_dock;
+    QAction m_show;
+    QAction m_undo;
+    QAction m_redo;
+    QTimer m_pendingEdits;
+    std::unique_ptr<ProjectSession> m_session;
+    std::unique_ptr<StyleEditorPlugin> m_component; // ended first: it ends its editors through the client
+    bool m_isShown = false; // initGui was called
+};
+
+} // namespace Orvane

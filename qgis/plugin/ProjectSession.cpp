@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/plugin/ProjectSession.h"
+
+#include "hostkit/common/HostNotifications.h"
+#include "hostkit/undo/UndoHistory.h"
+#include "store/ILayerStore.h"
+#include "store/opening/LayerStores.h"
+
+#include <qgsexception.h>
+#include <qgsproject.h>
+
+namespace Orvane {
+
+ProjectSession::ProjectSession(QgsProject& project)
+    : m_project(project), m_store(LayerStores::CreateInMemory()), m_mirror(project, *m_store),
+      m_schemes(project, *m_store), m_client(*m_store, m_services, project, m_mirror), m_watcher(project)
+{
+    m_mirror.SetAround([this](const std::function<void()>& write) {
+        const ProjectWatcher::Silence own(m_watcher);
+        write();
+    });
+    ListenToProject();
+    ListenToClient();
+    m_mirror.ReadAll();
+}
+
+ProjectSession::~ProjectSession() = default;
+
+void ProjectSession::ReadSchemes()
+{
+    Guard([this] { m_schemes.Read(); });
+}
+
+bool ProjectSession::Guard(const std::function<void()>& act) noexcept
+{
+    try {
+        act();
+        return true;
+    } catch (const QgsException& error) {
+        emit Failed(error.what());
+    } catch (const std::exception& error) {
+        emit Failed(QString::fromUtf8(error.what()));
+    } catch (...) {
+        emit Failed(tr("An unknown error has occurred."));
+    }
+    return false;
+}
+
+void ProjectSession::ListenToProject()
+{
+    connect(&m_watcher, &ProjectWatcher::Changed, this, [this](const QSet<QString>& layers, bool isTree) {
+        Guard([&] { ReadChanges(layers, isTree); });
+    });
+    connect(&m_watcher, &ProjectWatcher::ProjectReplaced, this, [this] {
+        Guard([this] { ReadOtherProject(); });
+    });
+    connect(&m_project, &QgsProject::cleared, this, [this] {
+        Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
+    });
+    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { m_schemes.Write(); }); });
+}
+
+void ProjectSession::ListenToClient()
+{
+    const HostNotifications& told = m_client.Notifications();
+    connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
+        Guard([&] {
+            if (m_mirror.Write(layerIDs))
+                m_client.RefreshEditors();
+        });
+    });
+    connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
+        Guard([&] { m_mirror.WriteName(layerID, name); });
+    });
+    connect(&told, &HostNotifications::GroupRenamed, this, [this](qint32 groupID, const QString& name) {
+        Guard([&] { m_mirror.WriteGroupName(groupID, name); });
+    });
+    connect(
+        &told, &HostNotifications::SchemesChanged, this, [this] { Guard([this] { m_schemes.Write(); }); });
+    connect(&told, &HostNotifications::StepNotRecorded, this, &ProjectSession::Failed);
+}
+
+void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
+{
+    bool differs = m_mirror.ReadLayers(layers);
+    if (isTree)
+        differs |= m_mirror.ReadTree();
+    if (differs)
+        m_client.RefreshEditors();
+}
+
+void ProjectSession::ReadOtherProject()
+{
+    m_client.DropPendingEdits();
+    m_client.History().Clear();
+    m_mirror.Forget();
+    m_mirror.ReadAll();
+    ReadSchemes();
+    m_client.RefreshEditors();
+}
+
+} // namespace Orvane

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/StandardShellServices.h"
+#include "qgis/plugin/QgisClient.h"
+#include "qgis/project/ProjectMirror.h"
+#include "qgis/project/ProjectSchemes.h"
+#include "qgis/project/ProjectWatcher.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QgsProject;
+
+namespace Orvane {
+
+class ILayerStore;
+
+/// A QGIS project with all that the layer control needs of it: a layer store that is kept alike with it, and
+/// the application object. No error leaves a slot of it: each is told by Failed.
+class ProjectSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Reads the project, without its schemes. Not owned; outlives this object. Raises errors of the store.
+    explicit ProjectSession(QgsProject& project);
+    ~ProjectSession() override;
+
+    /// Reads the schemes of the project; call it when Failed is listened to, before the first editor.
+    void ReadSchemes();
+
+    QgisClient& Client() { return m_client; }
+    ProjectMirror& Mirror() { return m_mirror; }
+    ProjectWatcher& Watcher() { return m_watcher; }
+    ILayerStore& Store() { return *m_store; }
+
+    /// Runs act; what it raises is told by Failed. Returns false then.
+    bool Guard(const std::function<void()>& act) noexcept;
+
+Q_SIGNALS:
+    /// Something went wrong. message: for the user.
+    void Failed(const QString& message);
+
+private:
+    void ListenToProject();
+    void ListenToClient();
+    void ReadChanges(const QSet<QString>& layers, bool isTree);
+    void ReadOtherProject();
+
+    QgsProject& m_project;
+    std::unique_ptr<ILayerStore> m_store;
+    StandardShellServices m_services;
+    ProjectMirror m_mirror;
+    ProjectSchemes m_schemes;
+    QgisClient m_client;
+    ProjectWatcher m_watcher;
+};
+
+} // namespace Orvane

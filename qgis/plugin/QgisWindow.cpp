@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/plugin/QgisWindow.h"
+
+#include "hostkit/windows/EditorDock.h"
+#include "qgis/plugin/ProjectSession.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <qgisinterface.h>
+#include <qgslayertreemodel.h>
+#include <qgslayertreeview.h>
+#include <qgsnewmemorylayerdialog.h>
+#include <qgsproject.h>
+#include <qgsvectorlayer.h>
+
+namespace Orvane {
+
+namespace {
+
+// Keeps the widths of a panel's columns as they are.
+class StillColumns
+{
+public:
+    explicit StillColumns(QHeaderView& header) : m_header(header), m_mode(ModeOf(header))
+    {
+        m_header.setSectionResizeMode(QHeaderView::Fixed);
+    }
+    ~StillColumns() { m_header.setSectionResizeMode(m_mode); }
+    StillColumns(const StillColumns&) = delete;
+    StillColumns& operator=(const StillColumns&) = delete;
+
+private:
+    static QHeaderView::ResizeMode ModeOf(const QHeaderView& header)
+    {
+        return header.count() > 0 ? header.sectionResizeMode(0) : QHeaderView::Interactive;
+    }
+
+    QHeaderView& m_header;
+    QHeaderView::ResizeMode m_mode;
+};
+
+QgsMapLayer* MakeLayerInQgis(QgisInterface& qgis)
+{
+    return QgsNewMemoryLayerDialog::runAndCreateLayer(qgis.mainWindow(), QgsProject::instance()->crs());
+}
+
+void RemoveLayerInQgis(QgisInterface& qgis, QgsMapLayer& layer)
+{
+    auto* remove = qgis.mainWindow()->findChild<QAction*>(QStringLiteral("mActionRemoveLayer"));
+    qgis.setActiveLayer(&layer);
+    if (remove && qgis.layerTreeView()->selectedLayers() == QList<QgsMapLayer*>{&layer})
+        remove->trigger();
+}
+
+} // namespace
+
+void QgisWindow::AddDock(QgisInterface& qgis, EditorDock& dock)
+{
+    auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    if (!window->restoreDockWidget(&dock)) {
+        window->addDockWidget(Qt::RightDockWidgetArea, &dock);
+        dock.hide();
+    }
+    if (auto* panels = window->findChild<QMenu*>(QStringLiteral("mPanelMenu")))
+        panels->addAction(dock.toggleViewAction());
+}
+
+QgisCommands QgisWindow::Commands(QgisInterface& qgis)
+{
+    return {
+        [&qgis] { return MakeLayerInQgis(qgis); },
+        [&qgis](QgsMapLayer& layer) { RemoveLayerInQgis(qgis, layer); }};
+}
+
+void QgisWindow::ConnectPanel(QgisInterface& qgis, ProjectSession& session)
+{
+    QgsLayerTreeView* view = qgis.layerTreeView();
+    session.Mirror().SetPanel(view->layerTreeModel());
+    session.Mirror().SetAround([view, &session](const std::function<void()>& write) {
+        const ProjectWatcher::Silence own(session.Watcher());
+        const StillColumns still(*view->header());
+        write();
+    });
+}
+
+} // namespace Orvane

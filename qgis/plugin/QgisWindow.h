@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "qgis/plugin/QgisClient.h"
+
+class QgisInterface;
+
+namespace Orvane {
+
+class EditorDock;
+class ProjectSession;
+
+/// What the plug-in needs of QGIS's main window, as far as QGIS's interface for plug-ins lacks it.
+namespace QgisWindow {
+
+/// Puts the dock where it was when QGIS ended, otherwise to the right and hidden; and into the menu of
+/// panels.
+void AddDock(QgisInterface& qgis, EditorDock& dock);
+
+/// QGIS's dialog for temporary scratch layers, and its "Remove Layer", which asks as QGIS does.
+QgisCommands Commands(QgisInterface& qgis);
+
+/// Has the session refresh the panel of layers, whose columns keep their widths meanwhile: with all entries
+/// unfolded, measuring them takes most of the time.
+void ConnectPanel(QgisInterface& qgis, ProjectSession& session);
+
+} // namespace QgisWindow
+
+} // namespace Orvane
