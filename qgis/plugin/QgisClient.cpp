@@ -37,6 +37,11 @@ QgisClient::QgisClient(
 {
 }
 
+void QgisClient::SetDock(EditorDock* dock)
+{
+    m_dock = dock;
+}
+
 bool QgisClient::HasPendingEdits() const
 {
     const auto* editor = dynamic_cast<const IStyleEditorForm*>(m_form.data());
@@ -111,7 +116,8 @@ qint32 QgisClient::IStyleEditorClient_CreateLayer()
     QgsMapLayer* layer = m_commands.makeLayer();
     if (!layer)
         return 0;
-    m_project.addMapLayer(layer);
+    if (!m_project.mapLayer(layer->id()))
+        m_project.addMapLayer(layer);
     m_mirror.ReadLayers({layer->id()});
     m_mirror.ReadTree();
     InvalidateLayerNames();

@@ -19,7 +19,7 @@ class ProjectMirror;
 
 /// What the client lets QGIS do, with QGIS's own dialogs.
 struct QgisCommands {
-    /// Makes a layer, or returns nullptr if the user cancelled. Its result is added to the project.
+    /// Makes a layer, in the project or not yet; returns nullptr if the user cancelled.
     std::function<QgsMapLayer*()> makeLayer;
     /// Removes the layer from the project, unless the user does not want it. Empty: the client asks itself.
     std::function<void(QgsMapLayer& layer)> removeLayer;
@@ -36,7 +36,7 @@ public:
     QgisClient(ILayerStore& store, IShellServices& services, QgsProject& project, ProjectMirror& mirror);
 
     /// Shows editors in that dock instead of windows; nullptr ends that. Not owned.
-    void SetDock(EditorDock* dock) { m_dock = dock; }
+    void SetDock(EditorDock* dock);
     /// The commands replace those that need no QGIS window.
     void SetCommands(QgisCommands commands) { m_commands = std::move(commands); }
 

@@ -11,9 +11,7 @@
 #include <qgisinterface.h>
 #include <qgslayertreemodel.h>
 #include <qgslayertreeview.h>
-#include <qgsnewmemorylayerdialog.h>
 #include <qgsproject.h>
-#include <qgsvectorlayer.h>
 
 namespace Orvane {
 
@@ -41,14 +39,26 @@ private:
     QHeaderView::ResizeMode m_mode;
 };
 
+QAction* ActionOf(QgisInterface& qgis, const char* name)
+{
+    return qgis.mainWindow()->findChild<QAction*>(QLatin1String(name));
+}
+
+// The action runs the dialog and adds the layer.
 QgsMapLayer* MakeLayerInQgis(QgisInterface& qgis)
 {
-    return QgsNewMemoryLayerDialog::runAndCreateLayer(qgis.mainWindow(), QgsProject::instance()->crs());
+    QgsMapLayer* made = nullptr;
+    const QMetaObject::Connection listening = QObject::connect(
+        QgsProject::instance(), &QgsProject::layerWasAdded, [&made](QgsMapLayer* layer) { made = layer; });
+    if (QAction* action = ActionOf(qgis, "mActionNewMemoryLayer"))
+        action->trigger();
+    QObject::disconnect(listening);
+    return made;
 }
 
 void RemoveLayerInQgis(QgisInterface& qgis, QgsMapLayer& layer)
 {
-    auto* remove = qgis.mainWindow()->findChild<QAction*>(QStringLiteral("mActionRemoveLayer"));
+    QAction* remove = ActionOf(qgis, "mActionRemoveLayer");
     qgis.setActiveLayer(&layer);
     if (remove && qgis.layerTreeView()->selectedLayers() == QList<QgsMapLayer*>{&layer})
         remove->trigger();

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/project/ProjectMirror.h"
+
+#include "hostkit/lists/StoredList.h"
+#include "qgis/project/ProjectFixture.h"
+#include "support/Errors.h"
+
+#include <QSignalSpy>
+
+namespace Orvane::Testing {
+
+namespace {
+
+constexpr qint32 Red = 0x0000FF; // BGR
+constexpr qint32 Blue = 0xFF0000;
+
+class ProjectMirrorTest : public ProjectFixture
+{
+};
+
+TEST_F(ProjectMirrorTest, EachLayerHasARow)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    Paint(*roads, Qt::red);
+    EXPECT_TRUE(mirror.ReadAll());
+    EXPECT_EQ(ToText(Stored(*roads, "Name")), "Roads");
+    EXPECT_EQ(ToInt32(Stored(*roads, "FillForeColor")), Red);
+    EXPECT_EQ(ToInt32(Stored(*roads, "Priority")), 128);
+    EXPECT_FALSE(mirror.ReadAll());
+}
+
+TEST_F(ProjectMirrorTest, ReadingDoesNotMarkTheProjectAsChanged)
+{
+    AddLayer("Roads");
+    project.layerTreeRoot()->addGroup("Town");
+    project.setDirty(false);
+    mirror.ReadAll();
+    EXPECT_FALSE(project.isDirty());
+}
+
+TEST_F(ProjectMirrorTest, ARowThatStaysKeepsItsSchemes)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    store->Execute("CREATE TABLE Notes (LayerID INTEGER REFERENCES Layers (LayerID) ON DELETE CASCADE)");
+    store->Execute("INSERT INTO Notes VALUES (?1)", {mirror.IDOf(*roads)});
+    Paint(*roads, Qt::blue);
+    EXPECT_TRUE(mirror.ReadLayers({roads->id()}));
+    EXPECT_EQ(ToInt32(Stored(*roads, "FillForeColor")), Blue);
+    EXPECT_FALSE(store->OpenRecordset("SELECT LayerID FROM Notes")->AtEOF());
+}
+
+TEST_F(ProjectMirrorTest, ARemovedLayerLosesItsRow)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    mirror.ReadAll();
+    const QString id = roads->id();
+    project.removeMapLayer(roads);
+    EXPECT_TRUE(mirror.ReadLayers({id}));
+    const auto layers = StoredList::Layers(*store);
+    ASSERT_EQ(layers.size(), 1u);
+    EXPECT_EQ(layers[0].id, mirror.IDOf(*lakes));
+}
+
+TEST_F(ProjectMirrorTest, AStoredColourGoesToTheLayer)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    Paint(*roads, Qt::red);
+    mirror.ReadAll();
+    project.setDirty(false);
+    QSignalSpy repainted(roads, &QgsMapLayer::repaintRequested);
+    StoreValue(*roads, "FillForeColor", Blue);
+    EXPECT_FALSE(mirror.Write({mirror.IDOf(*roads)}));
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
+    EXPECT_EQ(repainted.count(), 1);
+    EXPECT_TRUE(project.isDirty());
+}
+
+TEST_F(ProjectMirrorTest, WhatALayerDoesNotTakeIsNotStored)
+{
+    QgsVectorLayer* table = AddLayer("Table", "None");
+    mirror.ReadAll();
+    ASSERT_TRUE(Stored(*table, "FillForeColor").IsNull());
+    StoreValue(*table, "FillForeColor", Blue);
+    EXPECT_TRUE(mirror.Write({mirror.IDOf(*table)}));
+    EXPECT_TRUE(Stored(*table, "FillForeColor").IsNull());
+}
+
+TEST_F(ProjectMirrorTest, APriorityMovesTheLayerInTheOrderOfDrawing)
+{
+    const auto layers = AddLayers({"Roads", "Lakes"});
+    mirror.ReadAll();
+    StoreValue(*layers[1], "Priority", 1);
+    mirror.Write({mirror.IDOf(*layers[1])});
+    EXPECT_EQ(OrderOfDrawing(), (QStringList{"Lakes", "Roads"}));
+}
+
+TEST_F(ProjectMirrorTest, AnErrorLeavesAllLayersAsTheyWere)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    Paint(*roads, Qt::red);
+    Paint(*lakes, Qt::red);
+    mirror.ReadAll();
+    StoreValue(*roads, "FillForeColor", Blue);
+    StoreValue(*lakes, "FillForeColor", QStringLiteral("blue"));
+    EXPECT_EQ(ErrorOf([&] { mirror.Write({mirror.IDOf(*roads), mirror.IDOf(*lakes)}); }), typeMismatchError);
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
+    EXPECT_EQ(ToInt32(Stored(*roads, "FillForeColor")), Red);
+    EXPECT_EQ(ToInt32(Stored(*lakes, "FillForeColor")), Red);
+}
+
+TEST_F(ProjectMirrorTest, ALayerThatHasLeftTheProjectIsSkipped)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    const qint32 layerID = mirror.IDOf(*roads);
+    StoreValue(*roads, "FillForeColor", Blue);
+    project.removeMapLayer(roads);
+    EXPECT_FALSE(mirror.Write({layerID}));
+    mirror.WriteName(layerID, "Streets");
+}
+
+TEST_F(ProjectMirrorTest, AStoreErrorLeavesTheRowsAsTheyWere)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    store->Execute("CREATE TRIGGER Refuse BEFORE UPDATE ON Layers BEGIN SELECT RAISE(ABORT, 'no'); END");
+    roads->setName("Streets");
+    EXPECT_NE(ErrorOf([&] { mirror.ReadLayers({roads->id()}); }), 0);
+    store->Execute("DROP TRIGGER Refuse");
+    EXPECT_TRUE(mirror.ReadLayers({roads->id()}));
+    EXPECT_EQ(ToText(Stored(*roads, "Name")), "Streets");
+}
+
+TEST_F(ProjectMirrorTest, AnotherProjectStartsWithoutRows)
+{
+    AddLayer("Roads");
+    project.layerTreeRoot()->addGroup("Town");
+    mirror.ReadAll();
+    project.clear();
+    mirror.Forget();
+    EXPECT_TRUE(StoredList::Layers(*store).empty());
+    EXPECT_TRUE(StoredList::Groups(*store).empty());
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    EXPECT_TRUE(mirror.ReadAll());
+    EXPECT_EQ(ToText(Stored(*lakes, "Name")), "Lakes");
+}
+
+} // namespace
+
+} // namespace Orvane::Testing
