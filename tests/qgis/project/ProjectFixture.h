@@ -46,13 +46,13 @@ protected:
 
     static void Paint(QgsVectorLayer& layer, const QColor& colour)
     {
-        auto symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
-        layer.setRenderer(new QgsSingleSymbolRenderer(symbol.release()));
+        auto* symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
+        layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
     }
 
     static QColor FillOf(const QgsVectorLayer& layer)
     {
-        auto* renderer = dynamic_cast<QgsSingleSymbolRenderer*>(layer.renderer());
+        const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
         return renderer ? renderer->symbol()->color() : QColor();
     }
 

@@ -16,8 +16,8 @@ class SignalBatchTest : public ProjectFixture
 protected:
     static std::unique_ptr<QgsFeatureRenderer> Filled(const char* colour)
     {
-        auto symbol = QgsFillSymbol::createSimple({{"color", colour}});
-        return std::make_unique<QgsSingleSymbolRenderer>(symbol.release());
+        auto* symbol = QgsFillSymbol::createSimple({{"color", colour}});
+        return std::make_unique<QgsSingleSymbolRenderer>(symbol);
     }
 };
 
