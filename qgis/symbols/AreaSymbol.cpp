@@ -61,6 +61,14 @@ qint32 PlainColour(const std::optional<qint32>& colour)
     return colour.value_or(0) & 0xFFFFFF;
 }
 
+// The fore colour of a hollow fill, which QGIS does not show. colour: of the plain fill, which has the back
+// colour while it is drawn.
+qint32 HiddenFore(const SymbolLook& kept, qint32 colour, bool drawn)
+{
+    const bool usesKept = drawn || IsClear(kept, LookColumn::FillForeColor);
+    return usesKept ? kept[LookColumn::FillForeColor].value_or(colour) : colour;
+}
+
 } // namespace
 
 std::optional<AreaSymbol> AreaSymbol::Of(QgsSymbol& symbol)
@@ -134,9 +142,7 @@ void AreaSymbol::ReadPlainFill(SymbolLook& look, const SymbolLook& kept) const
     if (!drawn || m_fill->brushStyle() == Qt::SolidPattern)
         look[LookColumn::FillStyle] = hollow ? HollowFill : SolidFill;
     look[LookColumn::FillBackColor] = hollow ? shown : keptBack;
-    look[LookColumn::FillForeColor] = !hollow ? shown
-        : drawn                               ? kept[LookColumn::FillForeColor].value_or(colour)
-                                              : colour;
+    look[LookColumn::FillForeColor] = hollow ? HiddenFore(kept, colour, drawn) : shown;
     if (drawn && IsFillFromData())
         look[hollow ? LookColumn::FillBackColor : LookColumn::FillForeColor].reset();
 }
