@@ -31,16 +31,12 @@ protected:
         return layer;
     }
 
-    /// Layers by name, in this order of the tree.
+    /// Layers by name, in this order of the tree: QGIS adds each at the top.
     QList<QgsVectorLayer*> AddLayers(const QStringList& names)
     {
         QList<QgsVectorLayer*> layers;
-        for (const QString& name : names)
-            layers << AddLayer(name);
-        QgsLayerTree* root = project.layerTreeRoot();
-        root->removeAllChildren();
-        for (QgsVectorLayer* layer : layers)
-            root->addLayer(layer);
+        for (auto name = names.rbegin(); name != names.rend(); ++name)
+            layers.prepend(AddLayer(*name));
         return layers;
     }
 

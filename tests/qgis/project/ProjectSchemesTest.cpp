@@ -82,14 +82,15 @@ TEST_F(ProjectSchemesTest, DamagedSchemesAreNamedAndLeaveNone)
 {
     mirror.ReadAll();
     schemes.Create("Night");
-    project.writeEntry("Orvane", "LayerSchemes", "{\"version\": 1");
+    project.writeEntry("Orvane", "LayerSchemes", QString("{\"version\": 1"));
     EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextDamaged));
     EXPECT_EQ(schemes.Names(), QStringList{"Standard"});
 }
 
 TEST_F(ProjectSchemesTest, SchemesOfANewerProgramAreNotRead)
 {
-    project.writeEntry("Orvane", "LayerSchemes", "{\"version\": 2, \"schemes\": [{\"name\": \"A\"}]}");
+    project.writeEntry(
+        "Orvane", "LayerSchemes", QString("{\"version\": 2, \"schemes\": [{\"name\": \"A\"}]}"));
     EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextTooNew));
 }
 

@@ -49,7 +49,7 @@ TEST_F(SignalBatchTest, ThePanelShowsTheNewSymbol)
     SignalBatch batch(project, &panel);
     batch.SetRenderer(*layer, Filled("#00ff00"));
     batch.Finish();
-    const auto entries = panel.layerLegendNodes(node, true);
+    const auto entries = panel.layerLegendNodes(node);
     ASSERT_EQ(entries.size(), 1);
     const auto* entry = qobject_cast<QgsSymbolLegendNode*>(entries.first());
     ASSERT_TRUE(entry);
