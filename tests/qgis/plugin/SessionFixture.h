@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/undo/UndoHistory.h"
+#include "qgis/plugin/ProjectSession.h"
+#include "qgis/project/StoredRows.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <qgsfillsymbol.h>
+#include <qgslayertree.h>
+#include <qgsproject.h>
+#include <qgssinglesymbolrenderer.h>
+#include <qgsvectorlayer.h>
+
+#include <gmock/gmock.h>
+
+namespace Orvane::Testing {
+
+/// A project with a session; its first layer is "Roads", red.
+class SessionFixture : public testing::Test
+{
+protected:
+    SessionFixture() : roads(AddLayer("Roads")), session(project) { session.ReadSchemes(); }
+
+    QgsVectorLayer* AddLayer(const QString& name, const QString& kind = QStringLiteral("Polygon"))
+    {
+        auto* layer = new QgsVectorLayer(kind + "?crs=EPSG:4326", name, QStringLiteral("memory"));
+        if (layer->isSpatial())
+            Paint(*layer, Qt::red);
+        project.addMapLayer(layer);
+        return layer;
+    }
+
+    static void Paint(QgsVectorLayer& layer, const QColor& colour)
+    {
+        auto* symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
+        layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
+    }
+
+    static QColor FillOf(const QgsVectorLayer& layer)
+    {
+        const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
+        return renderer ? renderer->symbol()->color() : QColor();
+    }
+
+    static void Settle() { QCoreApplication::processEvents(); }
+
+    qint32 IDOf(QgsMapLayer* layer) { return session.Mirror().IDOf(*layer); }
+
+    Value Stored(QgsMapLayer* layer, std::string_view column)
+    {
+        const auto row = StoredRows::Read(session.Store(), IDOf(layer));
+        return row ? ValueOf(*row, column) : Value();
+    }
+
+    /// As the component applies an edit of these layers.
+    void Apply(const QList<QgsMapLayer*>& layers, std::string_view column, const Value& value)
+    {
+        const auto rows = Host().LayersTable();
+        rows->Index("LayerIDIDX");
+        for (QgsMapLayer* layer : layers) {
+            rows->Seek("=", IDOf(layer));
+            Host().BeginLayerEdit(*rows);
+            rows->SetField(column, value);
+            Host().LayerChanged(IDOf(layer));
+            rows->Update();
+        }
+        Host().RedrawMap();
+    }
+
+    IStyleEditorClient& Host() { return session.Client(); }
+    UndoHistory& History() { return session.Client().History(); }
+
+    QgsProject project;
+    QgsVectorLayer* roads;
+    ProjectSession session;
+    QSignalSpy failed{&session, &ProjectSession::Failed};
+};
+
+} // namespace Orvane::Testing
