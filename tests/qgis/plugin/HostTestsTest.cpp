@@ -36,10 +36,14 @@ public:
 private:
     static QgsMapLayer* MakeLayer() { return new QgsVectorLayer("Polygon", "New", "memory"); }
 
+    // A project has no layers with the other numbers: such rows are in the store alone.
     void AddLayer(qint32 layerID, const QString& name)
     {
+        if (layerID < 1)
+            return;
         auto* layer = new QgsVectorLayer("Polygon?crs=EPSG:4326", name, "memory");
         layer->setCustomProperty(KeptValues::PropertyName("id"), layerID);
+        layer->setCustomProperty(KeptValues::PropertyName("idOf"), layer->id());
         m_project.addMapLayer(layer);
     }
 

@@ -21,7 +21,7 @@ TEST_F(QgisClientTest, AnAppliedColourIsUndoneAndRedone)
 {
     Apply({roads}, "FillForeColor", BlueBgr);
     EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
-    EXPECT_EQ(History().UndoText(), "Undo Change of \"Roads\"");
+    EXPECT_EQ(History().UndoText(), "Undo Change \"Roads\"");
     History().Undo();
     EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
     History().Redo();
