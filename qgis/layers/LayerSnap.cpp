@@ -15,7 +15,7 @@ bool IsSnapped(const QgsSnappingConfig& config, QgsVectorLayer* layer)
 {
     if (config.mode() == QgsSnappingConfig::AdvancedConfiguration)
         return config.individualLayerSettings(layer).enabled();
-    return config.mode() == QgsSnappingConfig::AllLayers;
+    return config.enabled() && config.mode() == QgsSnappingConfig::AllLayers;
 }
 
 Settings SettingsOf(const QgsSnappingConfig& config, QgsVectorLayer* layer)

@@ -10,8 +10,8 @@ class QgsProject;
 
 namespace Orvane {
 
-/// Whether the project's snapping uses the layer: a boolean, or Null for a layer without vectors. Snapping
-/// that is switched off as a whole does not count.
+/// Whether the project's snapping uses the layer: a boolean, or Null for a layer without vectors. Once
+/// layers are told apart, it does not count whether snapping is switched on as a whole.
 Value ReadSnap(const QgsMapLayer& layer, const QgsProject& project);
 
 /// Sets for each of the layers whether snapping uses it; others stay as they were. Only if something changes,

@@ -67,11 +67,13 @@ void WriteScaleColumns(QgsMapLayer& layer, const Changes& changes)
         WriteScales(layer, scales);
 }
 
-void WriteShowing(QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
+void WriteShowing(
+    WrittenLayer& written, QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
 {
     ForgetEndedMode(layer, project);
-    if (changes.Has("OverrideMode"))
-        WriteOverrideMode(layer, project, ToInt32(changes.New("OverrideMode")));
+    if (changes.Has("OverrideMode")
+        && !WriteOverrideMode(layer, project, ToInt32(changes.New("OverrideMode"))))
+        written.refused.emplace_back("OverrideMode");
     if (changes.Has("Visible"))
         WriteVisible(layer, project, ToBoolean(changes.New("Visible")));
 }
@@ -88,7 +90,7 @@ WrittenLayer WriteLayer(
     WriteFlags(written, layer, changes);
     WriteScaleColumns(layer, changes);
     WriteSymbolColumns(written, layer, before, after, setRenderer);
-    WriteShowing(layer, project, changes);
+    WriteShowing(written, layer, project, changes);
     return written;
 }
 

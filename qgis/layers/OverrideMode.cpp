@@ -43,6 +43,18 @@ void ForgetMode(QgsMapLayer& layer)
         KeptValues::Keep(layer, name, Value::Null());
 }
 
+void BeginBackdrop(QgsMapLayer& layer)
+{
+    KeptValues::Keep(layer, OpacityName, layer.opacity());
+    layer.setOpacity(layer.opacity() * BackdropPart);
+}
+
+void BeginHiding(QgsMapLayer& layer, const QgsProject& project)
+{
+    KeptValues::Keep(layer, TickName, !IsUnticked(layer, project));
+    SetTick(layer, project, false);
+}
+
 void EndMode(QgsMapLayer& layer, const QgsProject& project)
 {
     const qint32 mode = ReadOverrideMode(layer, project);
@@ -65,20 +77,22 @@ qint32 ReadOverrideMode(const QgsMapLayer& layer, const QgsProject& project)
     return lasts ? mode : NormalMode;
 }
 
-void WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode)
+bool WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode)
 {
     if (mode == ReadOverrideMode(layer, project))
-        return;
+        return true;
     EndMode(layer, project);
-    if (mode == BackdropMode) {
-        KeptValues::Keep(layer, OpacityName, layer.opacity());
-        layer.setOpacity(layer.opacity() * BackdropPart);
-        KeptValues::Keep(layer, ModeName, mode);
-    } else if (mode == HiddenMode) {
-        KeptValues::Keep(layer, TickName, !IsUnticked(layer, project));
-        SetTick(layer, project, false);
-        KeptValues::Keep(layer, ModeName, mode);
-    }
+    if (mode == BackdropMode)
+        BeginBackdrop(layer);
+    else if (mode == HiddenMode)
+        BeginHiding(layer, project);
+    else
+        return true;
+    KeptValues::Keep(layer, ModeName, mode);
+    const bool took = ReadOverrideMode(layer, project) == mode;
+    if (!took)
+        ForgetMode(layer);
+    return took;
 }
 
 void ForgetEndedMode(QgsMapLayer& layer, const QgsProject& project)

@@ -15,8 +15,9 @@ namespace Orvane {
 qint32 ReadOverrideMode(const QgsMapLayer& layer, const QgsProject& project);
 
 /// Backdrop lowers the layer's opacity to 0.35 of what it was, hidden unticks it; each mode first takes back
-/// the one before. Any other number than 1 and 2 means normal.
-void WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode);
+/// the one before. Any other number than 1 and 2 means normal. False if the layer cannot have the mode, e.g.
+/// if it is not in the tree; it is normal then.
+bool WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode);
 
 /// Forgets a mode that the user has ended in QGIS. Without it, a layer that was hidden, ticked and unticked
 /// in QGIS would count as hidden again. Nothing happens to other layers.

@@ -73,7 +73,7 @@ std::optional<FillPicture> FillPicture::Decoded(const QString& path)
     QByteArray bytes = QByteArray::fromBase64(path.mid(Prefix.size()).toLatin1());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, "PNG");
+    QImageReader reader(&buffer);
     return PictureFrom(reader.text(TextKey));
 }
 

@@ -26,7 +26,7 @@ struct FillPicture {
 };
 
 /// The width of the picture on screen and paper, in points: a pixel of the pattern is one at 96 pixels per
-/// inch.
-inline constexpr double FillPictureWidth = 6;
+/// inch. A little more than 6, because QGIS cuts off the fraction of a pixel.
+inline constexpr double FillPictureWidth = 6.01;
 
 } // namespace Orvane

@@ -4,6 +4,10 @@
 #include "qgis/layers/LayerReader.h"
 #include "qgis/layers/LayerWriter.h"
 
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <qgslayertree.h>
 #include <qgsproject.h>
 #include <qgsrasterlayer.h>
 #include <qgsvectorlayer.h>
@@ -30,12 +34,20 @@ protected:
         return added;
     }
 
-    /// A layer of pixels, without data.
+    /// A layer of pixels.
     QgsRasterLayer& AddRaster()
     {
-        auto* layer = new QgsRasterLayer;
-        project.addMapLayer(layer, false);
-        project.layerTreeRoot()->addLayer(layer);
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::darkGreen);
+        const QString path = m_pictures.filePath(QStringLiteral("air.png"));
+        EXPECT_TRUE(picture.save(path));
+        QFile place(m_pictures.filePath(QStringLiteral("air.pgw")));
+        EXPECT_TRUE(place.open(QIODevice::WriteOnly));
+        place.write("10\n0\n0\n-10\n5\n35\n");
+        place.close();
+        auto* layer = new QgsRasterLayer(path, QStringLiteral("Air"), QStringLiteral("gdal"));
+        EXPECT_TRUE(layer->isValid());
+        project.addMapLayer(layer);
         return *layer;
     }
 
@@ -61,6 +73,10 @@ protected:
         EXPECT_TRUE(Get(layer, column).IsIdenticalTo(value)) << column;
     }
 
+private:
+    QTemporaryDir m_pictures; // outlives the layers
+
+protected:
     QgsProject project;
 };
 

@@ -17,6 +17,7 @@ protected:
     {
         QgsSnappingConfig config = project.snappingConfig();
         config.setMode(mode);
+        config.setEnabled(true);
         project.setSnappingConfig(config);
     }
 
@@ -35,6 +36,11 @@ TEST_F(LayerSnapOfQgis, IsReadAsItWasWritten)
     EXPECT_FALSE(Snaps(layer));
 }
 
+TEST_F(LayerSnapOfQgis, IsOffInAProjectThatDoesNotSnap)
+{
+    EXPECT_TRUE(Get(Add("Polygon"), "SnapRequired").IsIdenticalTo(false));
+}
+
 TEST_F(LayerSnapOfQgis, OtherLayersStayAsTheyWereWhenTheProjectTurnsAdvanced)
 {
     QgsVectorLayer& parcels = Add("Polygon");
@@ -51,9 +57,11 @@ TEST_F(LayerSnapOfQgis, TheProjectStaysAsItIsWhenNothingChanges)
 {
     QgsVectorLayer& layer = Add("Polygon");
     UseMode(QgsSnappingConfig::AllLayers);
-    QSignalSpy changes(&project, &QgsProject::snappingConfigChanged);
+    int changes = 0;
+    const QObject listener; // a project that ends changes, too
+    QObject::connect(&project, &QgsProject::snappingConfigChanged, &listener, [&changes] { ++changes; });
     WriteSnap(project, layer, true);
-    EXPECT_EQ(changes.count(), 0);
+    EXPECT_EQ(changes, 0);
     EXPECT_EQ(project.snappingConfig().mode(), QgsSnappingConfig::AllLayers);
 }
 
@@ -62,9 +70,11 @@ TEST_F(LayerSnapOfQgis, TheProjectHearsOfManyLayersOnce)
     QHash<QgsMapLayer*, bool> layers;
     for (int i = 0; i < 5; ++i)
         layers.insert(&Add("Polygon"), true);
-    QSignalSpy changes(&project, &QgsProject::snappingConfigChanged);
+    int changes = 0;
+    const QObject listener; // a project that ends changes, too
+    QObject::connect(&project, &QgsProject::snappingConfigChanged, &listener, [&changes] { ++changes; });
     WriteSnap(project, layers);
-    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(changes, 1);
     for (const QgsMapLayer* layer : layers.keys())
         EXPECT_TRUE(Snaps(*layer));
 }

@@ -5,6 +5,8 @@
 
 #include <qgslayertree.h>
 
+#include <gmock/gmock.h>
+
 namespace Orvane {
 
 namespace {
@@ -100,6 +102,14 @@ TEST_F(OverrideModeOfQgis, ATickInQgisEndsTheHiding)
     Tick(layer, false);
     EXPECT_TRUE(Get(layer, "OverrideMode").IsIdenticalTo(0));
     EXPECT_TRUE(Get(layer, "Visible").IsIdenticalTo(false));
+}
+
+TEST_F(OverrideModeOfQgis, ALayerOutsideTheTreeCannotBeHidden)
+{
+    QgsVectorLayer& layer = Add("Polygon");
+    project.layerTreeRoot()->removeLayer(&layer);
+    EXPECT_THAT(Set(layer, "OverrideMode", 2).refused, testing::ElementsAre("OverrideMode"));
+    EXPECT_TRUE(layer.customPropertyKeys().isEmpty());
 }
 
 TEST_F(OverrideModeOfQgis, ModeAndTickCanBeWrittenAtOnce)

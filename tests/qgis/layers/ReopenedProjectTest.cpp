@@ -2,14 +2,12 @@
 #include "qgis/layers/LayerFixture.h"
 #include "samples/BgrColour.h"
 
+#include <QFile>
 #include <QTemporaryDir>
-#include <qgsfeature.h>
 #include <qgsgeometry.h>
 #include <qgslayertree.h>
 #include <qgsmaprenderersequentialjob.h>
 #include <qgsmapsettings.h>
-#include <qgsvectordataprovider.h>
-#include <qgsvectorfilewriter.h>
 
 namespace Orvane {
 
@@ -17,21 +15,22 @@ namespace {
 
 constexpr int Side = 240; // pixels, of the map image
 
+const char* const Collection = R"({"type": "FeatureCollection",
+ "crs": {"type": "name", "properties": {"name": "urn:ogc:def:crs:EPSG::3857"}},
+ "features": [{"type": "Feature", "properties": {"people": 1}, "geometry": %1}]})";
+
 class ReopenedProject : public Testing::LayerFixture
 {
 protected:
     // A layer of one feature in a file, because a project saves no layers in memory.
-    QgsVectorLayer& AddFile(const char* kind, const char* name, const char* geometry)
+    QgsVectorLayer& AddFile(const char* name, const char* geometry)
     {
-        QgsVectorLayer source(
-            QString::fromLatin1(kind) + QStringLiteral("?crs=EPSG:3857"), QString::fromLatin1(name),
-            QStringLiteral("memory"));
-        QgsFeature feature;
-        feature.setGeometry(QgsGeometry::fromWkt(QString::fromLatin1(geometry)));
-        source.dataProvider()->addFeature(feature);
-        const QString path = m_folder.filePath(QString::fromLatin1(name) + QStringLiteral(".gpkg"));
-        QgsVectorFileWriter::SaveVectorOptions options;
-        QgsVectorFileWriter::writeAsVectorFormatV3(&source, path, project.transformContext(), options);
+        const QString path = m_folder.filePath(QString::fromLatin1(name) + QStringLiteral(".geojson"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        const QString shape = QgsGeometry::fromWkt(QString::fromLatin1(geometry)).asJson();
+        file.write(QString::fromLatin1(Collection).arg(shape).toUtf8());
+        file.close();
         auto* layer = new QgsVectorLayer(path, QString::fromLatin1(name), QStringLiteral("ogr"));
         EXPECT_TRUE(layer->isValid());
         project.addMapLayer(layer);
@@ -73,7 +72,7 @@ const char* const Square = "POLYGON((10 10, 90 10, 90 90, 10 90, 10 10))";
 
 TEST_F(ReopenedProject, HasEveryValueThatWasWritten)
 {
-    QgsVectorLayer& layer = AddFile("Polygon", "Parcels", Square);
+    QgsVectorLayer& layer = AddFile("Parcels", Square);
     Set(layer, "Code", 12);
     Set(layer, "Selectable", false);
     Set(layer, "Hitable", false);
@@ -99,7 +98,7 @@ TEST_F(ReopenedProject, HasEveryValueThatWasWritten)
 
 TEST_F(ReopenedProject, DrawsEveryFillStyleAsBefore)
 {
-    AddFile("Polygon", "Parcels", Square);
+    AddFile("Parcels", Square);
     for (qint32 style = 0; style <= 31; ++style) {
         Set(Named("Parcels"), "FillForeColor", Bgr(0xC02020));
         Set(Named("Parcels"), "FillBackColor", Bgr(0x2020C0));
@@ -113,8 +112,8 @@ TEST_F(ReopenedProject, DrawsEveryFillStyleAsBefore)
 
 TEST_F(ReopenedProject, DrawsEveryLineStyleAsBefore)
 {
-    AddFile("LineString", "Roads", "LINESTRING(5 5, 95 40, 20 95)");
-    AddFile("Polygon", "Parcels", Square);
+    AddFile("Roads", "LINESTRING(5 5, 95 40, 20 95)");
+    AddFile("Parcels", Square);
     for (qint32 style = 0; style <= 15; ++style) {
         for (const char* name : {"Roads", "Parcels"}) {
             Set(Named(name), "LineThickness", -2);
@@ -129,7 +128,7 @@ TEST_F(ReopenedProject, DrawsEveryLineStyleAsBefore)
 
 TEST_F(ReopenedProject, NoTwoLineStylesLookAlike)
 {
-    QgsVectorLayer& layer = AddFile("LineString", "Roads", "LINESTRING(0 50, 100 50)");
+    QgsVectorLayer& layer = AddFile("Roads", "LINESTRING(0 50, 100 50)");
     std::vector<QImage> images;
     for (qint32 style = 0; style <= 15; ++style) {
         Set(layer, "LineThickness", -2);
@@ -143,8 +142,7 @@ TEST_F(ReopenedProject, NoTwoLineStylesLookAlike)
 
 TEST_F(ReopenedProject, APatternShowsItsTwoColoursOnly)
 {
-    QgsVectorLayer& layer
-        = AddFile("Polygon", "Parcels", "POLYGON((-99 -99, 199 -99, 199 199, -99 199, -99 -99))");
+    QgsVectorLayer& layer = AddFile("Parcels", "POLYGON((-99 -99, 199 -99, 199 199, -99 199, -99 -99))");
     Set(layer, "FillForeColor", Bgr(0xFF0000));
     Set(layer, "FillBackColor", Bgr(0x0000FF));
     Set(layer, "FillStyle", 31);
@@ -165,8 +163,7 @@ TEST_F(ReopenedProject, APatternShowsItsTwoColoursOnly)
 
 TEST_F(ReopenedProject, ATransparentBackShowsTheLayerBelow)
 {
-    QgsVectorLayer& layer
-        = AddFile("Polygon", "Parcels", "POLYGON((-99 -99, 199 -99, 199 199, -99 199, -99 -99))");
+    QgsVectorLayer& layer = AddFile("Parcels", "POLYGON((-99 -99, 199 -99, 199 199, -99 199, -99 -99))");
     Set(layer, "FillForeColor", Bgr(0xFF0000));
     Set(layer, "FillBackColor", TransparentColour);
     Set(layer, "FillStyle", 31);
