@@ -3,7 +3,9 @@
 
 #include "qgis/layers/KeptValues.h"
 #include "qgis/symbols/RendererLook.h"
+#include "samples/StyleStrings.h"
 
+#include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <qgsrenderer.h>
@@ -28,13 +30,26 @@ SymbolLook KeptLook(const QgsMapLayer& layer)
     return kept;
 }
 
-SymbolLook ChangesOf(const LayerValues& before, const LayerValues& after)
+// A store may hold numbers that are no style.
+bool IsStyle(const Value& value, const char* column)
+{
+    const double number = ToDouble(value);
+    if (column == NameOf(LookColumn::FillStyle))
+        return number >= SolidFill && number <= LastFillStyle;
+    return column != NameOf(LookColumn::OutlineStyle) || (number >= 0 && number <= NoLineStyle);
+}
+
+SymbolLook ChangesOf(WrittenLayer& written, const LayerValues& before, const LayerValues& after)
 {
     SymbolLook changes;
     for (std::size_t i = 0; i < changes.values.size(); ++i) {
         const Value& value = ValueOf(after, LookColumnNames[i]);
-        if (!value.IsNull() && Differs(before, after, LookColumnNames[i]))
+        if (value.IsNull() || !Differs(before, after, LookColumnNames[i]))
+            continue;
+        if (IsStyle(value, LookColumnNames[i]))
             changes.values[i] = ToInt32(value);
+        else
+            written.refused.emplace_back(LookColumnNames[i]);
     }
     return changes;
 }
@@ -62,7 +77,7 @@ void NoteRefusals(WrittenLayer& written, const SymbolLook& changes, const TakenC
 {
     for (std::size_t i = 0; i < changes.values.size(); ++i) {
         if (changes.values[i] && !taken.taken[i])
-            written.refused.push_back(LookColumnNames[i]);
+            written.refused.emplace_back(LookColumnNames[i]);
     }
 }
 
@@ -93,7 +108,7 @@ void WriteSymbolColumns(
     WrittenLayer& written, QgsMapLayer& layer, const LayerValues& before, const LayerValues& after,
     const RendererSetter& setRenderer)
 {
-    const SymbolLook changes = ChangesOf(before, after);
+    const SymbolLook changes = ChangesOf(written, before, after);
     auto* vectors = qobject_cast<QgsVectorLayer*>(&layer);
     if (!vectors)
         return NoteRefusals(written, changes, {});

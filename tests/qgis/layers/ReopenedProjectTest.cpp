@@ -15,6 +15,8 @@ namespace {
 
 constexpr int Side = 240; // pixels, of the map image
 
+constexpr double ScreenDots = 96; // per inch
+
 const char* const Collection = R"({"type": "FeatureCollection",
  "crs": {"type": "name", "properties": {"name": "urn:ogc:def:crs:EPSG::3857"}},
  "features": [{"type": "Feature", "properties": {"people": 1}, "geometry": %1}]})";
@@ -47,14 +49,14 @@ protected:
 
     QgsMapLayer& Named(const char* name) { return *project.mapLayersByName(QString::fromLatin1(name)).at(0); }
 
-    QImage Map()
+    QImage Map(double dotsPerInch = ScreenDots)
     {
         QgsMapSettings settings;
         settings.setLayers(project.layerTreeRoot()->checkedLayers());
         settings.setDestinationCrs(QgsCoordinateReferenceSystem(QStringLiteral("EPSG:3857")));
         settings.setExtent(QgsRectangle(0, 0, 100, 100));
-        settings.setOutputSize(QSize(Side, Side));
-        settings.setOutputDpi(96);
+        settings.setOutputSize(QSize(Side, Side) * (dotsPerInch / ScreenDots));
+        settings.setOutputDpi(dotsPerInch);
         settings.setBackgroundColor(Qt::white);
         QgsMapRendererSequentialJob job(settings);
         job.start();
@@ -159,6 +161,19 @@ TEST_F(ReopenedProject, APatternShowsItsTwoColoursOnly)
         }
     }
     EXPECT_EQ(fore, Side * Side / 2);
+}
+
+TEST_F(ReopenedProject, APatternIsAsLargeOnPaperAsOnTheScreen)
+{
+    QgsVectorLayer& layer = AddFile("Parcels", "POLYGON((-99 -99, 199 -99, 199 199, -99 199, -99 -99))");
+    Set(layer, "FillForeColor", Bgr(0xFF0000));
+    Set(layer, "FillBackColor", Bgr(0x0000FF));
+    Set(layer, "FillStyle", 31);
+    const QImage image = Map(300);
+    int edges = 0;
+    for (int x = 1; x < image.width(); ++x)
+        edges += (image.pixelColor(x, 3).red() > 127) != (image.pixelColor(x - 1, 3).red() > 127);
+    EXPECT_NEAR(edges, Side / 4, 2);
 }
 
 TEST_F(ReopenedProject, ATransparentBackShowsTheLayerBelow)

@@ -97,6 +97,16 @@ TEST_F(SymbolColumnsOfQgis, ATableHasNoSymbols)
     EXPECT_THAT(Set(layer, "Color", Red).refused, ElementsAre("Color"));
 }
 
+TEST_F(SymbolColumnsOfQgis, NumbersThatAreNoStyleAreRefused)
+{
+    QgsVectorLayer& layer = Add("Polygon");
+    for (const double number : {-1.0, 32.0, 1e300})
+        EXPECT_THAT(Set(layer, "FillStyle", number).refused, ElementsAre("FillStyle"));
+    for (const double number : {-1.0, 16.0})
+        EXPECT_THAT(Set(layer, "OutlineStyle", number).refused, ElementsAre("OutlineStyle"));
+    EXPECT_TRUE(Get(layer, "FillStyle").IsIdenticalTo(0));
+}
+
 TEST_F(SymbolColumnsOfQgis, ANewColourInQgisIsSeen)
 {
     QgsVectorLayer& layer = Add("Polygon");
