@@ -203,7 +203,7 @@ void AreaSymbol::SetPattern(const SymbolLook& look)
 {
     const FillPicture picture{
         *look[LookColumn::FillStyle],
-        look[LookColumn::FillForeColor].value_or(PlainColour(look[LookColumn::Color])),
+        look[LookColumn::FillForeColor].value_or(BgrFromQColor(m_fill->fillColor())),
         look[LookColumn::FillBackColor].value_or(DefaultBack)};
     const QString encoded = picture.Encoded(PlainColour(look[LookColumn::Color]));
     if (!m_pattern) {

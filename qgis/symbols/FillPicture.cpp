@@ -4,6 +4,8 @@
 #include "hostkit/common/FillPatterns.h"
 #include "samples/BgrColour.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
@@ -22,19 +24,13 @@ QRgb PaintOf(qint32 colour)
     return IsTransparent(colour) ? qRgba(0, 0, 0, 0) : QColorFromBgr(colour).rgb();
 }
 
-bool IsBitSet(const MonochromeBitmap& pattern, int x, int y)
-{
-    const int stride = (pattern.width + 7) / 8;
-    return ((pattern.rows.at(y * stride + x / 8) << (x % 8)) & 0x80) != 0;
-}
-
+// Two colours pack faster and smaller than the many that a picture can have.
 QImage PictureOf(const MonochromeBitmap& pattern, QRgb fore, QRgb back)
 {
-    QImage image(pattern.width * BitSide, pattern.height * BitSide, QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, IsBitSet(pattern, x / BitSide, y / BitSide) ? fore : back);
-    }
+    const auto* bits = reinterpret_cast<const uchar*>(pattern.rows.constData());
+    const QImage small(bits, pattern.width, pattern.height, (pattern.width + 7) / 8, QImage::Format_Mono);
+    QImage image = small.scaled(small.size() * BitSide);
+    image.setColorTable({back, fore});
     return image;
 }
 
@@ -48,7 +44,11 @@ std::optional<FillPicture> PictureFrom(const QString& text)
     const QStringList numbers = text.split(QLatin1Char(' '));
     if (numbers.size() != 3)
         return std::nullopt;
-    return FillPicture{numbers.at(0).toInt(), numbers.at(1).toInt(), numbers.at(2).toInt()};
+    bool ok[3] = {};
+    const FillPicture picture{
+        numbers.at(0).toInt(&ok[0]), numbers.at(1).toInt(&ok[1]), numbers.at(2).toInt(&ok[2])};
+    const bool isPattern = ok[0] && ok[1] && ok[2] && picture.style >= 0 && picture.style <= LastFillStyle;
+    return isPattern ? std::optional(picture) : std::nullopt;
 }
 
 } // namespace

@@ -218,6 +218,15 @@ TEST(AreaSymbol, WhatDataDefineStaysWithPatternsAndDashes)
     EXPECT_EQ(fromData.property(QgsSymbolLayer::PropertyStrokeColor), colour);
 }
 
+TEST(AreaSymbol, APatternOverAColourFromDataTakesTheColourOfTheSymbol)
+{
+    Area area;
+    area.Fill().setDataDefinedProperty(
+        QgsSymbolLayer::PropertyFillColor, QgsProperty::fromField(QStringLiteral("colour")));
+    area.Set(LookColumn::FillStyle, 3);
+    EXPECT_EQ(area.Get(LookColumn::FillForeColor), Red);
+}
+
 TEST(AreaSymbol, AnOutlineAloneIsHollowAndCanBeFilled)
 {
     QgsFillSymbol symbol({new QgsSimpleLineSymbolLayer(Qt::green)});

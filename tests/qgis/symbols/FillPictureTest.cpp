@@ -6,6 +6,7 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QBuffer>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -69,6 +70,21 @@ TEST(FillPicture, OtherPicturesAreNotOurs)
     EXPECT_FALSE(FillPicture::Decoded(QString()));
     EXPECT_FALSE(FillPicture::Decoded(QStringLiteral("base64:")));
     EXPECT_FALSE(FillPicture::Decoded(QStringLiteral("base64:c3RvbmVz")));
+}
+
+TEST(FillPicture, PicturesThatTellNonsenseAreNotOurs)
+{
+    for (const char* text : {"32 0 0", "-1 0 0", "3 0", "3 0 0 0", "a b c", ""}) {
+        QImage image(8, 8, QImage::Format_Mono);
+        image.fill(0);
+        image.setText(QStringLiteral("Orvane"), QString::fromLatin1(text));
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        EXPECT_FALSE(FillPicture::Decoded(QStringLiteral("base64:") + QString::fromLatin1(bytes.toBase64())))
+            << text;
+    }
 }
 
 TEST(FillPicture, ThereIsNoPatternThirtyTwo)
