@@ -5,8 +5,10 @@ import subprocess
 import time
 import traceback
 
-from qgis.PyQt.QtCore import QPoint, QTimer
-from qgis.PyQt.QtWidgets import QDockWidget, QToolButton, QWidget
+from qgis.core import QgsProject
+from qgis.PyQt.QtCore import QPoint, Qt, QTimer
+from qgis.PyQt.QtGui import QColor
+from qgis.PyQt.QtWidgets import QDockWidget, QTabBar, QToolButton, QTreeView, QWidget
 from qgis.utils import iface
 
 OUT = os.environ["ORVANE_OUT"]
@@ -37,6 +39,74 @@ def dock():
     return iface.mainWindow().findChild(QDockWidget, "EditorDock.Main")
 
 
+def named(name, kind=QWidget):
+    return dock().findChild(kind, name)
+
+
+def click_tab(number):
+    tabs = named("tsLists", QTabBar)
+    click(tabs, tabs.tabRect(number).center().x(), tabs.tabRect(number).center().y())
+
+
+def click_row(tree, text):
+    row = tree.model().match(tree.model().index(0, 0), 0, text, 1, Qt.MatchExactly | Qt.MatchRecursive)[0]
+    place = tree.visualRect(row).center()
+    click(tree.viewport(), tree.visualRect(row).left() + 30, place.y())
+
+
+def key(*names):
+    subprocess.run(["xdotool", "key", *names], check=False)
+
+
+def fills():
+    layers = sorted(QgsProject.instance().mapLayers().values(), key=lambda layer: layer.name())
+    return {layer.name(): layer.renderer().symbol().color().name() if layer.renderer().type() == "singleSymbol"
+            else [c.symbol().color().name() for c in layer.renderer().categories()] for layer in layers}
+
+
+def all_plugin_actions():
+    found = []
+    for action in iface.pluginMenu().actions():
+        if action.menu():
+            found += action.menu().actions()
+    return found
+
+
+def edit_group():
+    click_tab(0)
+    yield 700
+    tree = named("tvLayers", QTreeView) or named("tvLayers1", QTreeView)
+    click_row(tree, "Nature")
+    yield 700
+    picture("3-group")
+    print("before", fills(), flush=True)
+    click(named("cmbColor1"))
+    yield 700
+    picture("4-colours")
+    key("Home", "Down", "Down", "Down", "Down", "Return")
+    yield 700
+    picture("5-edited")
+    click(named("cmdApply"))
+    yield 1500
+    picture("6-applied")
+    print("applied", fills(), [a.text() for a in all_plugin_actions() if "Change" in a.text()], flush=True)
+
+
+def undo_and_restyle():
+    next(a for a in all_plugin_actions() if a.text().startswith("Undo")).trigger()
+    yield 1500
+    picture("7-undone")
+    print("undone", fills(), flush=True)
+    lakes = QgsProject.instance().mapLayersByName("Lakes")[0]
+    lakes.setName("Ponds")
+    lakes.renderer().symbol().setColor(QColor("#ff00ff"))
+    lakes.emitStyleChanged()
+    lakes.triggerRepaint()
+    QgsProject.instance().layerTreeRoot().findGroup("Town").setName("City")
+    yield 1500
+    picture("8-changed-in-qgis")
+
+
 def steps():
     action = next(a for a in iface.pluginToolBar().actions() if a.objectName() == "OrvaneLayerControl")
     iface.mainWindow().showMaximized()
@@ -54,6 +124,9 @@ def steps():
     for widget in dock().findChildren(QWidget):
         if os.environ.get("ORVANE_NAMES") and widget.isVisible() and widget.objectName():
             print(type(widget).__name__, widget.objectName(), flush=True)
+    yield from edit_group()
+    yield from undo_and_restyle()
+    print("saved", QgsProject.instance().write(), flush=True)
 
 
 def run(iterator):

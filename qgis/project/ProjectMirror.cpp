@@ -29,6 +29,16 @@ Value PriorityIn(const QHash<QString, qint32>& priorities, const QgsMapLayer& la
     return found == priorities.constEnd() ? Value::Null() : Value(*found);
 }
 
+// What is unknown cannot be written: a colour for all would flatten the classes of a layer.
+LayerValues Writable(const LayerValues& known, LayerValues wanted)
+{
+    for (size_t column = 0; column < known.size(); ++column) {
+        if (known.at(column).IsNull())
+            wanted.at(column) = Value::Null();
+    }
+    return wanted;
+}
+
 } // namespace
 
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
@@ -213,7 +223,7 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
         const auto known = m_rows.constFind(layerID);
         const auto stored = StoredRows::Read(m_store, layerID);
         if (layer && stored && known != m_rows.constEnd() && StoredRows::AreDifferent(*known, *stored))
-            changes.push_back({layer, layerID, *known, *stored});
+            changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored});
     }
     return changes;
 }
@@ -278,7 +288,7 @@ bool ProjectMirror::StoreTaken(const std::vector<Change>& changes)
     return Read([&] {
         bool differs = false;
         for (const Change& change : changes) {
-            m_rows[change.layerID] = change.after; // as the store has it
+            m_rows[change.layerID] = change.stored;
             differs |= Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
         }
         return differs;

@@ -51,8 +51,9 @@ public:
     void Forget();
 
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
-    /// layers have taken: a raster, for example, takes no colour. Layers that have left the project are
-    /// skipped. Returns true if a row then differs from what it was. Passes on what writing a layer raises.
+    /// layers have taken: a raster, for example, takes no colour, and a column that is Null because the
+    /// classes of a layer differ stays as it is. Layers that have left the project are skipped. Returns true
+    /// if a row then differs from what it was. Passes on what writing a layer raises.
     bool Write(const QSet<qint32>& layerIDs);
     /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
     void WriteName(qint32 layerID, const QString& name);
@@ -62,8 +63,9 @@ private:
     struct Change {
         QgsMapLayer* layer;
         qint32 layerID;
-        LayerValues before;
-        LayerValues after;
+        LayerValues before; // as the project has it
+        LayerValues after; // as it is to be
+        LayerValues stored;
     };
 
     bool Read(const std::function<bool()>& read);

@@ -39,6 +39,18 @@ TEST_F(QgisClientTest, AGroupWithATableIsUndone)
     EXPECT_TRUE(Stored(table, "FillForeColor").IsNull());
 }
 
+TEST_F(QgisClientTest, AGroupWithAClassifiedLayerLeavesItsClasses)
+{
+    QgsVectorLayer* soil = AddLayer("Soil");
+    Classify(*soil, {"#ff0000", "#00ff00"});
+    Settle();
+    Apply({roads, soil}, "FillForeColor", BlueBgr);
+    EXPECT_EQ(ClassColours(*soil), (QStringList{"#ff0000", "#00ff00"}));
+    EXPECT_TRUE(Stored(soil, "FillForeColor").IsNull());
+    History().Undo();
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
+}
+
 TEST_F(QgisClientTest, AFailedApplyLeavesAllLayersAsTheyWere)
 {
     QgsVectorLayer* lakes = AddLayer("Lakes");

@@ -10,6 +10,7 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <qgscategorizedsymbolrenderer.h>
 #include <qgsfillsymbol.h>
 #include <qgslayertree.h>
 #include <qgsproject.h>
@@ -45,6 +46,26 @@ protected:
     {
         const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
         return renderer ? renderer->symbol()->color() : QColor();
+    }
+
+    static void Classify(QgsVectorLayer& layer, const QStringList& colours)
+    {
+        QgsCategoryList classes;
+        for (const QString& colour : colours) {
+            auto* symbol = QgsFillSymbol::createSimple({{"color", colour}});
+            classes << QgsRendererCategory(classes.size(), symbol, colour);
+        }
+        layer.setRenderer(new QgsCategorizedSymbolRenderer("kind", classes));
+    }
+
+    static QStringList ClassColours(const QgsVectorLayer& layer)
+    {
+        QStringList colours;
+        if (const auto* renderer = dynamic_cast<const QgsCategorizedSymbolRenderer*>(layer.renderer())) {
+            for (const QgsRendererCategory& one : renderer->categories())
+                colours << one.symbol()->color().name();
+        }
+        return colours;
     }
 
     static void Settle() { QCoreApplication::processEvents(); }
