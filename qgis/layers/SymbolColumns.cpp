@@ -39,6 +39,14 @@ bool IsStyle(const Value& value, const char* column)
     return column != NameOf(LookColumn::OutlineStyle) || (number >= 0 && number <= NoLineStyle);
 }
 
+// Where colours differ, the layer control joins black with a flag "for symbols" that the user has cleared.
+bool IsFlagAlone(const LayerValues& before, const LayerValues& after)
+{
+    const Value& colour = ValueOf(after, NameOf(LookColumn::Color));
+    return ValueOf(before, NameOf(LookColumn::Color)).IsNull() && colour.IsNumber()
+        && ToInt32(colour) == TransparentColour;
+}
+
 SymbolLook ChangesOf(WrittenLayer& written, const LayerValues& before, const LayerValues& after)
 {
     SymbolLook changes;
@@ -51,6 +59,8 @@ SymbolLook ChangesOf(WrittenLayer& written, const LayerValues& before, const Lay
         else
             written.refused.emplace_back(LookColumnNames[i]);
     }
+    if (IsFlagAlone(before, after))
+        changes[LookColumn::Color].reset();
     return changes;
 }
 

@@ -7,6 +7,7 @@
 #include <qgsfillsymbol.h>
 #include <qgsgraduatedsymbolrenderer.h>
 #include <qgsheatmaprenderer.h>
+#include <qgslinesymbol.h>
 #include <qgspallabeling.h>
 #include <qgsproperty.h>
 #include <qgssinglesymbolrenderer.h>
@@ -67,6 +68,19 @@ TEST_F(SymbolColumnsOfQgis, AClassifiedLayerIsNeverFlattened)
     EXPECT_EQ(ClassFill(layer, 0), QColor(Qt::red));
     EXPECT_EQ(ClassFill(layer, 1), QColor(Qt::blue));
     EXPECT_TRUE(Get(layer, "LineThickness").IsIdenticalTo(-4));
+}
+
+TEST_F(SymbolColumnsOfQgis, ClassesKeepTheirColoursWhenTheyAreNoLongerForSymbols)
+{
+    QgsVectorLayer& layer = Add("LineString");
+    auto* renderer = new QgsGraduatedSymbolRenderer(QStringLiteral("people"));
+    for (const char* colour : {"red", "blue"}) {
+        auto* symbol = QgsLineSymbol::createSimple({{QStringLiteral("color"), QString::fromLatin1(colour)}});
+        renderer->addClass(QgsRendererRange(0, 1, symbol, QString::fromLatin1(colour)));
+    }
+    layer.setRenderer(renderer);
+    EXPECT_FALSE(Set(layer, "Color", TransparentColour).symbolsChanged);
+    EXPECT_EQ(ClassFill(layer, 1), QColor(Qt::blue));
 }
 
 TEST_F(SymbolColumnsOfQgis, LinesAndPointsHaveNoFillStyle)
