@@ -462,6 +462,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Fläche: %1, Umfang: %2</translation>
     </message>
@@ -632,6 +636,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Drawing...</source>
         <translation>Zeichnen...</translation>
+    </message>
+    <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>Bearbeitet die Eigenschaften vieler Layer auf einmal und hält sie in Schemas fest.</translation>
     </message>
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
@@ -814,6 +822,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Layer&amp;darstellung...</translation>
     </message>
     <message>
+        <source>Layer Control</source>
+        <translation>Layersteuerung</translation>
+    </message>
+    <message>
         <source>Layer Rendering</source>
         <translation>Layerdarstellung</translation>
     </message>
@@ -964,6 +976,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>New Map</source>
         <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>Neuer temporärer Layer</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1168,6 +1184,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Wiederholen: %1</translation>
     </message>
     <message>
+        <source>Redo Layer Change</source>
+        <translation>Änderung an Layern wiederholen</translation>
+    </message>
+    <message>
         <source>Redo the last undone change</source>
         <translation>Die zuletzt rückgängig gemachte Änderung wiederholen</translation>
     </message>
@@ -1366,6 +1386,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>Die Layerschemata dieses Projekts sind beschädigt und können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>Die Layerschemata dieses Projekts wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1622,6 +1650,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Undo %1</source>
         <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>Änderung an Layern rückgängig machen</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>

@@ -462,6 +462,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Une valeur vide ne peut pas être enregistrée dans « ^1 ».</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>Une erreur inconnue s’est produite.</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Surface : %1, périmètre : %2</translation>
     </message>
@@ -632,6 +636,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Drawing...</source>
         <translation>Dessin...</translation>
+    </message>
+    <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>Modifie les propriétés de plusieurs couches à la fois et les conserve dans des schémas.</translation>
     </message>
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
@@ -814,6 +822,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>&amp;Rendu de la couche...</translation>
     </message>
     <message>
+        <source>Layer Control</source>
+        <translation>Contrôle des couches</translation>
+    </message>
+    <message>
         <source>Layer Rendering</source>
         <translation>Rendu de la couche</translation>
     </message>
@@ -964,6 +976,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>New Map</source>
         <translation>Nouvelle carte</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>Nouvelle couche temporaire</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1168,6 +1184,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Rétablir : %1</translation>
     </message>
     <message>
+        <source>Redo Layer Change</source>
+        <translation>Rétablir la modification des couches</translation>
+    </message>
+    <message>
         <source>Redo the last undone change</source>
         <translation>Rétablir la dernière modification annulée</translation>
     </message>
@@ -1366,6 +1386,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>Les schémas de couches de « %1 » ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>Les schémas de couches de ce projet sont endommagés et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>Les schémas de couches de ce projet ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1622,6 +1650,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Undo %1</source>
         <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>Annuler la modification des couches</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>

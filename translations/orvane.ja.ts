@@ -462,6 +462,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>空の値は「^1」に保存できません。</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>不明なエラーが発生しました。</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>面積: %1、周長: %2</translation>
     </message>
@@ -632,6 +636,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Drawing...</source>
         <translation>描画中...</translation>
+    </message>
+    <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>多数のレイヤーのプロパティを一度に編集し、スキームに保存します。</translation>
     </message>
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
@@ -814,6 +822,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>レイヤーの描画(&amp;R)...</translation>
     </message>
     <message>
+        <source>Layer Control</source>
+        <translation>レイヤーコントロール</translation>
+    </message>
+    <message>
         <source>Layer Rendering</source>
         <translation>レイヤーの描画</translation>
     </message>
@@ -964,6 +976,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>New Map</source>
         <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>新しい一時レイヤー</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1168,6 +1184,10 @@ These commands run without a window; each has its own --help:
         <translation>やり直す: %1</translation>
     </message>
     <message>
+        <source>Redo Layer Change</source>
+        <translation>レイヤーの変更をやり直す</translation>
+    </message>
+    <message>
         <source>Redo the last undone change</source>
         <translation>最後に元に戻した変更をやり直します</translation>
     </message>
@@ -1366,6 +1386,14 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>「%1」のレイヤスキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>このプロジェクトのレイヤースキームは壊れているため読み取れません。</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>このプロジェクトのレイヤースキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1622,6 +1650,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Undo %1</source>
         <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>レイヤーの変更を元に戻す</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>

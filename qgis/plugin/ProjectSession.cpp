@@ -6,6 +6,8 @@
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
+#include <OrvaneShellLib/Cancellation.h>
+
 #include <qgsexception.h>
 #include <qgsproject.h>
 
@@ -39,7 +41,8 @@ bool ProjectSession::Guard(const std::function<void()>& act) noexcept
     } catch (const QgsException& error) {
         emit Failed(error.what());
     } catch (const std::exception& error) {
-        emit Failed(QString::fromUtf8(error.what()));
+        if (!IsCancellation(error))
+            emit Failed(QString::fromUtf8(error.what()));
     } catch (...) {
         emit Failed(tr("An unknown error has occurred."));
     }
