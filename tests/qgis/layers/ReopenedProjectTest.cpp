@@ -132,6 +132,7 @@ TEST_F(ReopenedProject, NoTwoLineStylesLookAlike)
 {
     QgsVectorLayer& layer = AddFile("Roads", "LINESTRING(0 50, 100 50)");
     std::vector<QImage> images;
+    images.reserve(16);
     for (qint32 style = 0; style <= 15; ++style) {
         Set(layer, "LineThickness", -2);
         Set(layer, "OutlineStyle", style);
