@@ -12,11 +12,13 @@ namespace {
 class LayerIDsOfQgis : public Testing::LayerFixture
 {
 protected:
+    // A copy that the project lists before the layer itself.
     QgsMapLayer& AddCopy(const QgsMapLayer& layer)
     {
-        QgsMapLayer* copy = layer.clone();
-        project.addMapLayer(copy);
-        return *copy;
+        std::unique_ptr<QgsMapLayer> copy(layer.clone());
+        while (copy->id() > layer.id()) // QGIS makes up its IDs
+            copy.reset(layer.clone());
+        return *project.addMapLayer(copy.release());
     }
 };
 
