@@ -53,6 +53,15 @@ TEST_F(LayerSnapOfQgis, OtherLayersStayAsTheyWereWhenTheProjectTurnsAdvanced)
     EXPECT_TRUE(Snaps(roads));
 }
 
+TEST_F(LayerSnapOfQgis, TheFirstLayerThatSnapsIsTheOnlyOne)
+{
+    QgsVectorLayer& parcels = Add("Polygon");
+    QgsVectorLayer& roads = Add("LineString", "Roads");
+    WriteSnap(project, parcels, true);
+    EXPECT_TRUE(Snaps(parcels));
+    EXPECT_FALSE(Snaps(roads));
+}
+
 TEST_F(LayerSnapOfQgis, TheProjectStaysAsItIsWhenNothingChanges)
 {
     QgsVectorLayer& layer = Add("Polygon");

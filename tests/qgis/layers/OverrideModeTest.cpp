@@ -104,6 +104,16 @@ TEST_F(OverrideModeOfQgis, ATickInQgisEndsTheHiding)
     EXPECT_TRUE(Get(layer, "Visible").IsIdenticalTo(false));
 }
 
+TEST_F(OverrideModeOfQgis, AModeThatEndedIsForgottenWithTheNextChange)
+{
+    QgsVectorLayer& layer = Add("Polygon");
+    Set(layer, "OverrideMode", 2);
+    Tick(layer, true);
+    Set(layer, "Visible", false);
+    EXPECT_TRUE(Get(layer, "OverrideMode").IsIdenticalTo(0));
+    EXPECT_TRUE(Get(layer, "Visible").IsIdenticalTo(false));
+}
+
 TEST_F(OverrideModeOfQgis, ALayerOutsideTheTreeCannotBeHidden)
 {
     QgsVectorLayer& layer = Add("Polygon");

@@ -237,6 +237,14 @@ TEST(AreaSymbol, AnOutlineAloneIsHollowAndCanBeFilled)
     EXPECT_EQ(look[LookColumn::Color], Green);
 }
 
+TEST(AreaSymbol, AFillThatCoversAPatternIsNotDescribed)
+{
+    Area area;
+    area.Set(LookColumn::FillStyle, 3);
+    area.Fill(1).setBrushStyle(Qt::SolidPattern);
+    EXPECT_FALSE(AreaSymbol::Of(area.Symbol()));
+}
+
 TEST(AreaSymbol, OtherShapesAreNotDescribed)
 {
     QgsFillSymbol twoFills({new QgsSimpleFillSymbolLayer, new QgsSimpleFillSymbolLayer});
