@@ -8,7 +8,7 @@ import traceback
 from qgis.core import QgsProject
 from qgis.PyQt.QtCore import QPoint, Qt, QTimer
 from qgis.PyQt.QtGui import QColor
-from qgis.PyQt.QtWidgets import QDockWidget, QTabBar, QToolButton, QTreeView, QWidget
+from qgis.PyQt.QtWidgets import QApplication, QDockWidget, QTabBar, QToolButton, QTreeView, QWidget
 from qgis.utils import iface
 
 OUT = os.environ["ORVANE_OUT"]
@@ -75,7 +75,7 @@ def all_plugin_actions():
 def edit_group():
     click_tab(0)
     yield 700
-    tree = named("tvLayers", QTreeView) or named("tvLayers1", QTreeView)
+    tree = named("tvLayers1", QTreeView)
     click_row(tree, "Nature")
     yield 700
     picture("3-group")
@@ -107,12 +107,43 @@ def undo_and_restyle():
     picture("8-changed-in-qgis")
 
 
+def settled(begin):
+    """Seconds until QGIS has done all that it had to do."""
+    QApplication.processEvents()
+    return time.time() - begin
+
+
+def colour_many(name):
+    """One colour for the group with many layers, by the dialog."""
+    click_tab(0)
+    yield 700
+    click_row(named("tvLayers1", QTreeView), "Many")
+    yield 1500
+    for unfolded in (False, True):
+        iface.layerTreeView().expandAll() if unfolded else iface.layerTreeView().collapseAll()
+        yield 2500
+        click(named("cmbColor1"))
+        yield 700
+        key("Home", *["Down"] * (5 if unfolded else 4), "Return")
+        yield 700
+        begin = time.time()
+        named("cmdApply").click()
+        applied = time.time() - begin
+        print("many", "unfolded" if unfolded else "folded", "apply %.3f s, idle %.3f s" % (applied, settled(begin)),
+              flush=True)
+        yield 1500
+    picture(name)
+
+
 def steps():
     action = next(a for a in iface.pluginToolBar().actions() if a.objectName() == "OrvaneLayerControl")
     iface.mainWindow().showMaximized()
     iface.mainWindow().insertToolBarBreak(iface.pluginToolBar())  # on a small screen it is cut off
     iface.zoomFull()
     yield 1500
+    if os.environ.get("ORVANE_MANY"):
+        iface.mapCanvas().setRenderFlag(False)  # drawing a thousand layers takes longer than all else
+        yield 3000
     picture("1-before")
     begin = time.time()
     click(button_of(action))
@@ -124,6 +155,15 @@ def steps():
     for widget in dock().findChildren(QWidget):
         if os.environ.get("ORVANE_NAMES") and widget.isVisible() and widget.objectName():
             print(type(widget).__name__, widget.objectName(), flush=True)
+    if os.environ.get("ORVANE_MANY"):
+        yield from colour_many("3-many")
+        begin = time.time()
+        QgsProject.instance().mapLayersByName("Layer 7")[0].setName("Layer seven")
+        print("one layer, gathered and shown: %.4f s" % settled(begin), flush=True)
+        begin = time.time()
+        next(a for a in all_plugin_actions() if a.text().startswith("Undo")).trigger()
+        print("undo %.3f s" % settled(begin), flush=True)
+        return
     yield from edit_group()
     yield from undo_and_restyle()
     print("saved", QgsProject.instance().write(), flush=True)

@@ -17,7 +17,7 @@ ProjectSession::ProjectSession(QgsProject& project)
     : m_project(project), m_store(LayerStores::CreateInMemory()), m_mirror(project, *m_store),
       m_schemes(project, *m_store), m_client(*m_store, m_services, project, m_mirror), m_watcher(project)
 {
-    m_mirror.SetAround([this](const std::function<void()>& write) {
+    m_mirror.SetAround([this](size_t, const std::function<void()>& write) {
         const ProjectWatcher::Silence own(m_watcher);
         write();
     });
@@ -68,7 +68,7 @@ void ProjectSession::ListenToClient()
     const HostNotifications& told = m_client.Notifications();
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
-            if (m_mirror.Write(layerIDs))
+            if (!m_client.IsApplying() && m_mirror.Write(layerIDs))
                 m_client.RefreshEditors();
         });
     });

@@ -13,9 +13,11 @@
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
+#include <QScopedValueRollback>
 #include <qgsproject.h>
 #include <qgsvectorlayer.h>
 
+#include <exception>
 #include <utility>
 
 namespace Orvane {
@@ -102,13 +104,16 @@ void QgisClient::IStyleEditorClient_LoadScheme(const QString& name)
 void QgisClient::IStyleEditorClient_RedrawMap()
 {
     const QSet<qint32> changed = std::exchange(m_changed, {});
+    std::exception_ptr error;
     try {
         m_mirror.Write(changed);
     } catch (...) {
-        StandardClient::IStyleEditorClient_RedrawMap();
-        throw;
+        error = std::current_exception(); // the step ends with what was taken back
     }
+    const QScopedValueRollback<bool> applying(m_isApplying, true);
     StandardClient::IStyleEditorClient_RedrawMap();
+    if (error)
+        std::rethrow_exception(error);
 }
 
 qint32 QgisClient::IStyleEditorClient_CreateLayer()

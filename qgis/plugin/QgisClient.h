@@ -40,6 +40,8 @@ public:
     /// The commands replace those that need no QGIS window.
     void SetCommands(QgisCommands commands) { m_commands = std::move(commands); }
 
+    /// True while LayersChanged names layers that were written already.
+    bool IsApplying() const { return m_isApplying; }
     /// True while the editor has edits that were not applied.
     bool HasPendingEdits() const;
     /// Drops them: their layers are gone.
@@ -66,6 +68,7 @@ private:
     QPointer<EditorDock> m_dock;
     QPointer<QWidget> m_form;
     QSet<qint32> m_changed; // since the last RedrawMap
+    bool m_isApplying = false;
 };
 
 } // namespace Orvane

@@ -11,6 +11,7 @@
 #include <qgisinterface.h>
 #include <qgslayertreemodel.h>
 #include <qgslayertreeview.h>
+#include <qgsmapcanvas.h>
 #include <qgsproject.h>
 
 namespace Orvane {
@@ -88,8 +89,11 @@ void QgisWindow::ConnectPanel(QgisInterface& qgis, ProjectSession& session)
 {
     QgsLayerTreeView* view = qgis.layerTreeView();
     session.Mirror().SetPanel(view->layerTreeModel());
-    session.Mirror().SetAround([view, &session](const std::function<void()>& write) {
+    QgsMapCanvas* canvas = qgis.mapCanvas();
+    session.Mirror().SetAround([view, canvas, &session](size_t layers, const std::function<void()>& write) {
         const ProjectWatcher::Silence own(session.Watcher());
+        if (layers > size_t(canvas->layerCount()) / 4) // dropping images one by one looks at all of them
+            canvas->clearCache();
         const StillColumns still(*view->header());
         write();
     });

@@ -29,6 +29,16 @@ Value PriorityIn(const QHash<QString, qint32>& priorities, const QgsMapLayer& la
     return found == priorities.constEnd() ? Value::Null() : Value(*found);
 }
 
+// Whether a group is unfolded is left to the editor.
+bool AreAlike(std::vector<ListedGroup> stored, std::vector<ListedGroup> wanted)
+{
+    for (std::vector<ListedGroup>* groups : {&stored, &wanted}) {
+        for (ListedGroup& group : *groups)
+            group.expanded = false;
+    }
+    return stored == wanted;
+}
+
 // What is unknown cannot be written: a colour for all would flatten the classes of a layer.
 LayerValues Writable(const LayerValues& known, LayerValues wanted)
 {
@@ -43,11 +53,11 @@ LayerValues Writable(const LayerValues& known, LayerValues wanted)
 
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
     : m_project(project), m_store(store), m_ids(project), m_groups(project),
-      m_around([](const std::function<void()>& write) { write(); })
+      m_around([](size_t, const std::function<void()>& write) { write(); })
 {
 }
 
-void ProjectMirror::SetAround(std::function<void(const std::function<void()>& write)> around)
+void ProjectMirror::SetAround(Around around)
 {
     m_around = std::move(around);
 }
@@ -99,7 +109,7 @@ bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
     bool differs = false;
     if (changes.empty())
         return differs;
-    m_around([&] {
+    m_around(changes.size(), [&] {
         try {
             WriteChanges(changes);
         } catch (...) {
@@ -155,12 +165,14 @@ bool ProjectMirror::ReadPriorities()
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
     bool differs = false;
     for (QgsMapLayer* layer : m_project.mapLayers()) {
-        if (!m_rows.contains(m_ids.Of(*layer)))
+        const auto known = m_rows.constFind(m_ids.Of(*layer));
+        if (known == m_rows.constEnd())
             continue;
-        LayerValues row = KnownRow(*layer);
+        LayerValues row = *known;
         SetValue(row, "Priority", PriorityIn(priorities, *layer));
         SetValue(row, "SnapRequired", ReadSnap(*layer, m_project));
-        differs |= Store(row);
+        if (Differs(*known, row, "Priority") || Differs(*known, row, "SnapRequired"))
+            differs |= Store(row);
     }
     return differs;
 }
@@ -170,7 +182,10 @@ bool ProjectMirror::ReadGroups()
     QHash<QString, qint32> ids;
     for (QgsMapLayer* layer : m_project.mapLayers())
         ids.insert(layer->id(), m_ids.Of(*layer));
-    return StoredList::Update(m_store, StoredList::Layers(m_store), m_groups.Read(ids));
+    const std::vector<ListedGroup> groups = m_groups.Read(ids);
+    if (AreAlike(StoredList::Groups(m_store), groups))
+        return false; // comparing all layers takes longer
+    return StoredList::Update(m_store, StoredList::Layers(m_store), groups);
 }
 
 bool ProjectMirror::DeleteMissing()

@@ -33,8 +33,9 @@ public:
 
     /// QGIS's panel of layers, refreshed by Write; nullptr for none. Not owned.
     void SetPanel(QgsLayerTreeModel* panel) { m_panel = panel; }
-    /// Write runs inside this function, which must call its argument once.
-    void SetAround(std::function<void(const std::function<void()>& write)> around);
+    /// What Write runs inside. layers: how many change. write: to be called once.
+    using Around = std::function<void(size_t layers, const std::function<void()>& write)>;
+    void SetAround(Around around);
 
     /// The layer with that row; nullptr if the project has none.
     QgsMapLayer* Layer(qint32 layerID) const { return m_ids.Layer(layerID); }
@@ -89,7 +90,7 @@ private:
     GroupMirror m_groups;
     QHash<qint32, LayerValues> m_rows; // as the project has them
     QgsLayerTreeModel* m_panel = nullptr;
-    std::function<void(const std::function<void()>&)> m_around;
+    Around m_around;
 };
 
 } // namespace Orvane

@@ -59,7 +59,10 @@ void ProjectWatcher::ListenToTree()
     const auto note = [this] { NoteTree(); };
     connect(tree, &QgsLayerTree::addedChildren, this, note);
     connect(tree, &QgsLayerTree::removedChildren, this, note);
-    connect(tree, &QgsLayerTree::nameChanged, this, note);
+    connect(tree, &QgsLayerTree::nameChanged, this, [this](QgsLayerTreeNode* node) {
+        if (QgsLayerTree::isGroup(node)) // a layer tells it itself
+            NoteTree();
+    });
     connect(tree, &QgsLayerTree::visibilityChanged, this, [this](const QgsLayerTreeNode* node) {
         if (const auto* layer = qobject_cast<const QgsLayerTreeLayer*>(node))
             NoteLayer(layer->layerId());
