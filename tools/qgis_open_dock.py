@@ -107,6 +107,50 @@ def undo_and_restyle():
     picture("8-changed-in-qgis")
 
 
+def layer_names():
+    return sorted(layer.name() for layer in QgsProject.instance().mapLayers().values())
+
+
+def new_and_delete():
+    click_tab(1)
+    yield 700
+    click(named("cmdNewLayer"))
+    yield 2000
+    picture("9-new-layer")
+    key("Tab", "Down", "Down", "Return")
+    yield 2000
+    print("new", layer_names(), flush=True)
+    click_row(named("tvLayers2", QTreeView), layer_names()[0])
+    yield 700
+    click(named("cmdDeleteLayer"))
+    yield 1500
+    picture("10-delete-layer")
+    key("Return")
+    yield 1500
+    print("deleted", layer_names(), flush=True)
+
+
+def lose_pending_edits():
+    """A layer goes, then the whole project, while edits were not applied."""
+    click_row(named("tvLayers2", QTreeView), "Woods")
+    yield 700
+    click(named("chkLocked"))
+    yield 1200
+    print("pending: project is dirty", QgsProject.instance().isDirty(), flush=True)
+    QgsProject.instance().removeMapLayer(QgsProject.instance().mapLayersByName("Woods")[0].id())
+    yield 1500
+    picture("11-layer-gone")
+    click(named("cmdApply"))
+    yield 1500
+    picture("12-applied-to-nothing")
+    key("Escape")
+    yield 700
+    iface.newProject(False)
+    yield 1500
+    picture("13-new-project")
+    print("messages", [item.text() for item in iface.messageBar().items()], flush=True)
+
+
 def settled(begin):
     """Seconds until QGIS has done all that it had to do."""
     QApplication.processEvents()
@@ -167,6 +211,8 @@ def steps():
     yield from edit_group()
     yield from undo_and_restyle()
     print("saved", QgsProject.instance().write(), flush=True)
+    yield from new_and_delete()
+    yield from lose_pending_edits()
 
 
 def run(iterator):
