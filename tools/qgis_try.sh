@@ -28,7 +28,10 @@ END
 
 "$here/qgis_project.py" "$work/town.qgz" "$layers"
 export ORVANE_OUT=$out ORVANE_PROJECT=$work/town.qgz
-export ORVANE_COMPONENT=${ORVANE_COMPONENT:-$(find "$build" -name 'libOrvaneLayerControlQt5.so' | head -1)}
+mkdir "$work/component" # with its texts beside it
+(cd "$build/lib" && cp --parents libOrvaneLayerControlQt5.so */POBEX.LRT "$work/component")
+cp -r "$build/bin/translations" "$work/component/"
+export ORVANE_COMPONENT=${ORVANE_COMPONENT:-$work/component/libOrvaneLayerControlQt5.so}
 . "$here/virtual_desktop.sh"
 start_desktop "$work" 1400x900
 rm -f "$out/done"

@@ -11,8 +11,11 @@
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMainWindow>
+#include <QScopeGuard>
 #include <qgisinterface.h>
 #include <qgsapplication.h>
 #include <qgsmessagebar.h>
@@ -30,6 +33,24 @@ QString ComponentFile()
     return qEnvironmentVariable("ORVANE_COMPONENT", QString::fromLatin1(StyleEditorPlugin::DefaultName));
 }
 
+// The component is not loaded yet when the menus get their texts.
+void InstallTexts()
+{
+    const QFileInfo component(ComponentFile());
+    HostKitTexts::Install(
+        QLocale(QgsApplication::locale()),
+        component.isAbsolute() ? component.dir().filePath(QStringLiteral("translations")) : QString());
+}
+
+// The component takes the language of the default locale, which QGIS uses for numbers only.
+std::unique_ptr<StyleEditorPlugin> LoadInLanguageOfQgis()
+{
+    const QLocale numbers;
+    const auto restore = qScopeGuard([&numbers] { QLocale::setDefault(numbers); });
+    QLocale::setDefault(QLocale(QgsApplication::locale()));
+    return std::make_unique<StyleEditorPlugin>(ComponentFile());
+}
+
 } // namespace
 
 LayerControlPlugin::LayerControlPlugin(QgisInterface& qgis) : m_qgis(qgis)
@@ -45,7 +66,7 @@ LayerControlPlugin::~LayerControlPlugin()
 
 void LayerControlPlugin::initGui()
 {
-    HostKitTexts::Install(QLocale(QgsApplication::locale()));
+    InstallTexts();
     AddActions();
     AddDock();
     m_isShown = true;
@@ -117,8 +138,7 @@ void LayerControlPlugin::ShowEditor()
 
 void LayerControlPlugin::Start()
 {
-    auto component = std::make_unique<StyleEditorPlugin>(ComponentFile());
-    HostKitTexts::Install(QLocale(QgsApplication::locale())); // beside the component that was found
+    std::unique_ptr<StyleEditorPlugin> component = LoadInLanguageOfQgis();
     m_session = std::make_unique<ProjectSession>(*QgsProject::instance());
     ConnectSession();
     component->Library().Initialise(&m_session->Client());
