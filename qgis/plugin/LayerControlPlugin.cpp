@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/plugin/LayerControlPlugin.h"
 
-#include "hostkit/HostKitTexts.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
 #include "qgis/plugin/ProjectSession.h"
+#include "qgis/plugin/QgisTexts.h"
 #include "qgis/plugin/QgisWindow.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
@@ -37,7 +37,7 @@ QString ComponentFile()
 void InstallTexts()
 {
     const QFileInfo component(ComponentFile());
-    HostKitTexts::Install(
+    QgisTexts::Install(
         QLocale(QgsApplication::locale()),
         component.isAbsolute() ? component.dir().filePath(QStringLiteral("translations")) : QString());
 }
@@ -84,6 +84,7 @@ void LayerControlPlugin::unload()
         m_qgis.removePluginMenu(tr("Layer Control"), action);
     m_qgis.removeToolBarIcon(&m_show);
     delete m_dock;
+    QgisTexts::Remove();
 }
 
 void LayerControlPlugin::AddDock()
