@@ -7,39 +7,90 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <array>
 
 namespace Orvane {
 
 namespace {
 
-const QString OwnName = QStringLiteral("OrvaneHostKitTexts");
+const QString HostKitName = QStringLiteral("OrvaneHostKitTexts");
+const QString OwnName = QStringLiteral("OrvaneQgisTexts");
 
-QList<QTranslator*> TranslatorsOfQgis()
+// Those of classes that are no QObjects; the others begin with the namespace.
+constexpr std::array PlainContexts{
+    "ChangeStep",
+    "ConflictBox",
+    "FileReplacement",
+    "FillPatterns",
+    "LayerDeletion",
+    "LayerFactory",
+    "LayerList",
+    "LayerSchemes",
+    "LayerSteps",
+    "LayerStore",
+    "LongWork",
+    "ProjectSchemes",
+    "QgisClient",
+    "SchemeDocument",
+    "SchemeFile",
+    "SchemeSteps",
+    "SchemeTables",
+    "StandardClient",
+    "StandardShellServices",
+    "StyleEditorPlugin",
+    "TextPrompt",
+    "TracingLibrary",
+    "UndoHistory"};
+
+/// Asks the host kit's translator, which answers any context, for own texts only.
+class OwnTranslator : public QTranslator
 {
-    QList<QTranslator*> found = qApp->findChildren<QTranslator*>(QString(), Qt::FindDirectChildrenOnly);
-    found.erase(
-        std::remove_if(
-            found.begin(), found.end(), [](const QTranslator* one) { return one->objectName() == OwnName; }),
-        found.end());
-    return found;
+public:
+    OwnTranslator(QTranslator& all, QObject* parent) : QTranslator(parent), m_all(all)
+    {
+        setObjectName(OwnName);
+    }
+
+    bool isEmpty() const override { return m_all.isEmpty(); }
+
+    QString translate(const char* context, const char* text, const char* remark, int count) const override
+    {
+        return QgisTexts::IsOwn(context) ? m_all.translate(context, text, remark, count) : QString();
+    }
+
+private:
+    QTranslator& m_all;
+};
+
+QTranslator* Found(const QString& name)
+{
+    return qApp->findChild<QTranslator*>(name, Qt::FindDirectChildrenOnly);
 }
 
 } // namespace
 
-// The translator that was installed last is asked first.
+bool QgisTexts::IsOwn(const char* context)
+{
+    const QByteArray name(context);
+    return name.startsWith("Orvane::")
+        || std::find(PlainContexts.begin(), PlainContexts.end(), name) != PlainContexts.end();
+}
+
 void QgisTexts::Install(const QLocale& locale, const QString& folder)
 {
-    if (HostKitTexts::Install(locale, folder).isEmpty())
+    Remove();
+    HostKitTexts::Install(locale, folder);
+    QTranslator* all = Found(HostKitName);
+    if (!all)
         return;
-    for (QTranslator* translator : TranslatorsOfQgis()) {
-        if (QCoreApplication::removeTranslator(translator))
-            QCoreApplication::installTranslator(translator);
-    }
+    QCoreApplication::removeTranslator(all);
+    QCoreApplication::installTranslator(new OwnTranslator(*all, qApp));
 }
 
 void QgisTexts::Remove()
 {
-    delete qApp->findChild<QTranslator*>(OwnName, Qt::FindDirectChildrenOnly);
+    delete Found(OwnName);
+    delete Found(HostKitName);
 }
 
 } // namespace Orvane

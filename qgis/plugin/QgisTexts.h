@@ -9,12 +9,15 @@ namespace Orvane {
 /// The plug-in's texts, and those of the host kit, in the language of QGIS.
 namespace QgisTexts {
 
-/// Shows them from now on. QGIS's own translators come before: a word of a menu that both have stays QGIS's.
+/// Shows them from now on, in their own contexts only: a word of QGIS's menus stays as QGIS translates it.
 /// folder: searched first, may be empty.
 void Install(const QLocale& locale, const QString& folder);
 
 /// Ends that.
 void Remove();
+
+/// True for a context of the plug-in, the host kit or the store.
+bool IsOwn(const char* context);
 
 } // namespace QgisTexts
 
