@@ -217,7 +217,8 @@ def run(iterator):
     try:
         wait = next(iterator)
     except StopIteration:
-        open(os.path.join(OUT, "done"), "w").close()
+        QgsProject.instance().setDirty(False)
+        iface.actionExit().trigger()
         return
     except Exception:
         traceback.print_exc()

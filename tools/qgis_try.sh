@@ -3,7 +3,7 @@
 # Shows the plug-in in the real QGIS on a virtual screen, and takes pictures.
 #   tools/qgis_try.sh BUILD OUT [SCRIPT] [LAYERS]
 # BUILD has the plug-in and the component. SCRIPT: Python, run inside QGIS when the project is open; by default
-# it opens the dock. The file OUT/done ends the session.
+# it opens the dock. The file OUT/done ends the session by force.
 set -euo pipefail
 build=$(realpath "$1") out=$(mkdir -p "$2" && realpath "$2") here=$(dirname "$(realpath "$0")")
 script=${3:-$here/qgis_open_dock.py} layers=${4:-0}
@@ -40,5 +40,7 @@ qgis=$!
 while kill -0 $qgis 2>/dev/null && [ ! -e "$out/done" ]; do sleep 0.2; done
 cp "$work/town.qgz" "$out/" 2>/dev/null || true
 kill $qgis 2>/dev/null || true
-wait $qgis || true
+code=0
+wait $qgis || code=$?
+echo "QGIS has ended with $code."
 rm -rf "$work"
