@@ -121,6 +121,9 @@ void LayerControlPlugin::ShowFromMenu()
     } catch (const std::exception& error) {
         m_dock->hide();
         Tell(QString::fromUtf8(error.what()));
+    } catch (...) {
+        m_dock->hide();
+        Tell(tr("An unknown error has occurred."));
     }
 }
 
@@ -181,9 +184,13 @@ void LayerControlPlugin::ShowSteps()
 // QGIS tells nobody that a project is about to be closed, but it asks the user if the project has changed.
 void LayerControlPlugin::WatchPendingEdits()
 {
-    QgsProject& project = *QgsProject::instance();
-    if (m_session && m_session->Client().HasPendingEdits() && !project.isDirty())
-        project.setDirty(true);
+    if (!m_session)
+        return;
+    m_session->Guard([this] {
+        QgsProject& project = *QgsProject::instance();
+        if (!project.isDirty() && m_session->Client().HasPendingEdits())
+            project.setDirty(true);
+    });
 }
 
 void LayerControlPlugin::Tell(const QString& message)
