@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <orvane/OrvaneShellLib/Value.h>
+
+#include <QString>
+
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -64,6 +68,21 @@ constexpr std::size_t FindLayerColumn(std::string_view name)
     while (position < LayerColumns.size() && LayerColumns[position].name != name)
         ++position;
     return position;
+}
+
+/// What a new row has in a column that gets no other value.
+inline Value DefaultValue(const LayerColumn& column)
+{
+    switch (column.kind) {
+    case ColumnKind::Text:
+        return QStringLiteral("");
+    case ColumnKind::Flag:
+        return column.defaultValue != 0;
+    case ColumnKind::Real:
+        return column.defaultValue;
+    default:
+        return qint32(column.defaultValue);
+    }
 }
 
 /// The version of the newest column.

@@ -64,7 +64,7 @@ install(FILES "${PROJECT_BINARY_DIR}/OrvaneConfig.cmake" "${PROJECT_BINARY_DIR}/
 
 # The pages for host authors, and the examples, which are a project of their own.
 set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/liborvane-dev")
-install(FILES docs/host_guide.md docs/host_tests.md docs/public_headers.md
+install(FILES docs/host_guide.md docs/host_tests.md docs/promises.md docs/public_headers.md
   DESTINATION "${documents}" COMPONENT development)
 install(FILES examples/CMakeLists.txt DESTINATION "${documents}/examples" COMPONENT development)
 install(DIRECTORY examples/minimal_host examples/vector_host examples/dock_host examples/host_tests

@@ -2,20 +2,14 @@
 #include "hostkit/StandardClient.h"
 
 #include "hostkit/LayerDeletion.h"
-#include "hostkit/LayerFactory.h"
+#include "hostkit/StandardClientParts.h"
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/common/LayerNames.h"
-#include "hostkit/common/SettingsStore.h"
 #include "hostkit/common/StoredScale.h"
-#include "hostkit/schemes/SchemeExchange.h"
-#include "hostkit/schemes/SchemeFile.h"
-#include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/undo/LayerSteps.h"
-#include "hostkit/undo/SchemeSteps.h"
 #include "hostkit/windows/ConflictBox.h"
 #include "hostkit/windows/EditorWindows.h"
-#include "hostkit/windows/LongWork.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "messages/NameInText.h"
 #include "store/ILayerStore.h"
@@ -25,57 +19,8 @@
 #include <OrvaneShellLib/Transaction.h>
 
 #include <QApplication>
-#include <QTimer>
 
 namespace Orvane {
-
-struct StandardClient::Parts {
-    explicit Parts(ILayerStore& database)
-        : names(database), factory(database, names), steps(database, names, windows, notifications),
-          schemes(database, steps, notifications)
-    {
-        refreshSoon.setSingleShot(true);
-        QObject::connect(&refreshSoon, &QTimer::timeout, &notifications, [this] { RefreshNow(); });
-        const auto changed = [this] { RefreshOtherEditors(); };
-        QObject::connect(&notifications, &HostNotifications::LayersChanged, &notifications, changed);
-        QObject::connect(&notifications, &HostNotifications::LayerCreated, &notifications, changed);
-        QObject::connect(&notifications, &HostNotifications::LayerDeleted, &notifications, changed);
-        QObject::connect(&notifications, &HostNotifications::GroupRenamed, &notifications, changed);
-    }
-
-    HostNotifications notifications;
-    EditorWindows windows;
-    std::unique_ptr<SettingsStore> settings; // created at the first use
-    LayerNames names;
-    LayerFactory factory;
-    LayerSteps steps;
-    SchemeSteps schemes;
-    QString startupFile;
-    QSet<qint32> changedLayers; // since the last RedrawMap
-    QTimer refreshSoon; // after the operation that changed something
-
-    // An editor that is alone has shown its own changes already.
-    void RefreshOtherEditors()
-    {
-        if (windows.Shown().size() > 1)
-            refreshSoon.start(0);
-    }
-
-    void RefreshNow() noexcept
-    {
-        try {
-            windows.RefreshEditors();
-        } catch (const std::exception&) { // such an editor shows nothing; using it says why
-        }
-    }
-
-    SettingsStore& Settings()
-    {
-        if (!settings)
-            settings = std::make_unique<SettingsStore>();
-        return *settings;
-    }
-};
 
 StandardClient::StandardClient(ILayerStore& database, IShellServices& shellServices)
     : m_database(database), m_shellServices(shellServices), m_parts(std::make_unique<Parts>(database))
@@ -112,45 +57,6 @@ void StandardClient::SetSettingsFile(const QString& path)
 void StandardClient::SetStartupFile(const QString& path)
 {
     m_parts->startupFile = path;
-}
-
-void StandardClient::LoadSchemesFromStartup()
-{
-    m_parts->schemes.LoadFromStartup(m_parts->startupFile);
-}
-
-qsizetype StandardClient::UnsavedSchemeChanges()
-{
-    return m_parts->schemes.UnsavedChanges();
-}
-
-void StandardClient::ExportScheme(const QString& name, const QString& path)
-{
-    m_parts->steps.EndEdits(); // before the work, which may be cancelled
-    const LongWork work(
-        m_database, tr("Export Scheme \"%1\"").arg(NameInStep(name)), m_parts->steps.Window());
-    const Transaction oneState(m_database);
-    SchemeFile::Make(path, [&](QIODevice& text) { SchemeExchange::ExportTo(text, m_database, name); });
-}
-
-SchemeDocument StandardClient::ReadSchemeFile(const QString& path)
-{
-    const LongWork work(m_database, tr("Import Scheme"), m_parts->steps.Window());
-    return SchemeFile::Read(path, [this](double done) { m_database.AskWatcher(done); });
-}
-
-SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
-{
-    return m_parts->schemes.Import(scheme);
-}
-
-std::optional<SchemeImport> StandardClient::ImportSchemeFile(
-    const QString& path, const std::function<bool(const QString& name)>& mayImport)
-{
-    SchemeFile::Reader file(path);
-    if (!mayImport(file.Name()))
-        return std::nullopt;
-    return m_parts->schemes.Import(file);
 }
 
 void StandardClient::RefreshListedNames(const QSet<qint32>& layerIDs)
@@ -264,51 +170,6 @@ void StandardClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QStrin
     });
     if (isThere)
         emit m_parts->notifications.GroupRenamed(groupID, name);
-}
-
-QStringList StandardClient::IStyleEditorClient_GetSchemeNames()
-{
-    return m_parts->schemes.Names();
-}
-
-QString StandardClient::IStyleEditorClient_GetCurrentScheme()
-{
-    return m_parts->schemes.Current();
-}
-
-void StandardClient::IStyleEditorClient_LoadScheme(const QString& name)
-{
-    m_parts->schemes.Load(name);
-}
-
-void StandardClient::IStyleEditorClient_CreateScheme(const QString& name)
-{
-    m_parts->schemes.Create(name);
-}
-
-void StandardClient::IStyleEditorClient_SaveScheme(const QString& name)
-{
-    m_parts->schemes.Save(name);
-}
-
-void StandardClient::IStyleEditorClient_DeleteScheme(const QString& name)
-{
-    m_parts->schemes.Delete(name);
-}
-
-void StandardClient::IStyleEditorClient_SaveSchemesToStartup()
-{
-    if (m_parts->startupFile.isEmpty()) {
-        throw RunTimeError(
-            int(HostError::NoStartupDatabase), tr("This program has no startup database."),
-            QStringLiteral("StandardClient"));
-    }
-    {
-        m_parts->steps.EndEdits();
-        const LongWork work(m_database, tr("Save Schemes for New Maps"), m_parts->steps.Window());
-        StartupSchemes::Save(m_database, m_parts->startupFile);
-    }
-    emit m_parts->notifications.SchemesSavedToStartup();
 }
 
 PromptAnswer StandardClient::IStyleEditorClient_PromptText(const PromptRequest& request)

@@ -48,8 +48,8 @@ public:
     QString FileName() const { return m_file.fileName(); }
 
     /// Where a plain name is looked for, in this order: the program's folder, ../lib and ../lib/orvane
-    /// relative to it; Qt's library paths; then lib/orvane beside the system's folders for data, where packages
-    /// put the component, such as /usr/lib/orvane.
+    /// relative to it; Qt's library paths; then lib/orvane beside the system's folders for data, where
+    /// packages put the component, such as /usr/lib/orvane.
     static QStringList SearchFolders();
 
     /// The file of the component that was loaded last in this process; empty before the first.

@@ -10,20 +10,6 @@ namespace Orvane::HostTests {
 
 namespace {
 
-Value DefaultOf(const LayerColumn& column)
-{
-    switch (column.kind) {
-    case ColumnKind::Text:
-        return QString();
-    case ColumnKind::Flag:
-        return column.defaultValue != 0;
-    case ColumnKind::Real:
-        return column.defaultValue;
-    default:
-        return qint32(column.defaultValue);
-    }
-}
-
 std::size_t PositionOf(std::string_view column)
 {
     const std::size_t position = FindLayerColumn(column);
@@ -36,7 +22,7 @@ std::size_t PositionOf(std::string_view column)
 
 ContentsLayer::ContentsLayer(qint32 layerID, const QString& name, const Value& code)
 {
-    std::transform(LayerColumns.begin(), LayerColumns.end(), m_values.begin(), DefaultOf);
+    std::transform(LayerColumns.begin(), LayerColumns.end(), m_values.begin(), DefaultValue);
     Set("LayerID", layerID).Set("Name", name).Set("Code", code);
 }
 

@@ -90,8 +90,8 @@ public:
     /// Repaints the box at once.
     void Refresh();
 
-    /// Sets who is told of what a listener raised while the box handled an event: no exception leaves the
-    /// box. Without a report, that is a warning in the log. report: must not raise, and may outlive the box
+    /// Sets who gets what a listener raised while the box handled an event: no exception leaves the box.
+    /// Without a report, that is a warning in the log. report: must not raise, and may outlive the box
     /// for the rest of the event.
     void SetErrorReport(const std::function<void(std::exception_ptr)>& report);
 

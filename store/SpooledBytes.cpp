@@ -72,7 +72,7 @@ void SpooledBytes::ReadFromFile(quint64 place, char* to, size_t size) const
         const std::string& block = BlockAt(qint64(place) / BlockSize);
         const auto offset = size_t(qint64(place) % BlockSize);
         const size_t part = std::min(size, block.size() - offset);
-        std::memcpy(to, block.data() + offset, part);
+        std::copy_n(block.data() + offset, part, to);
         place += part;
         to += part;
         size -= part;

@@ -13,5 +13,5 @@ headers=$(sed -n 's/^| `\([A-Za-z/]*\.h\)`.*/\1/p' docs/public_headers.md)
     echo "PROJECT_NUMBER = $(cat VERSION)"
     echo "OUTPUT_DIRECTORY = $output"
     echo "STRIP_FROM_PATH = $PWD"
-    echo "INPUT =" docs/host_guide.md docs/public_headers.md docs/host_tests.md $headers
+    echo "INPUT =" docs/host_guide.md docs/public_headers.md docs/host_tests.md docs/promises.md $headers
 } | doxygen -

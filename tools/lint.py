@@ -88,8 +88,10 @@ class Batch:
         with tempfile.NamedTemporaryFile("w", suffix=".cpp", encoding="utf-8") as together:
             together.write("\n".join(lines))
             together.flush()
+            folders = sorted({"-iquote" + os.path.dirname(source) for source in self.sources})
             run = subprocess.run(
-                ["clang-tidy", "--quiet", "--config-file=.clang-tidy", *STATES, together.name, "--", *self.flags, "-I."],
+                ["clang-tidy", "--quiet", "--config-file=.clang-tidy", *STATES, together.name, "--", *self.flags,
+                 "-I.", *folders],
                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
         if run.returncode == 0:
             open(self.stamp, "w").close()

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <map>
 
 namespace Orvane {
@@ -103,10 +104,11 @@ std::vector<MessageCatalogue> AddedTexts::ForTag(const QString& tag) const
 {
     std::vector<MessageCatalogue> catalogues;
     catalogues.reserve(m_entries.size());
-    for (auto entry = m_entries.rbegin(); entry != m_entries.rend(); ++entry) {
-        if (entry->tag.compare(tag, Qt::CaseInsensitive) == 0)
-            catalogues.push_back(entry->catalogue);
+    for (const Entry& entry : m_entries) {
+        if (entry.tag.compare(tag, Qt::CaseInsensitive) == 0)
+            catalogues.push_back(entry.catalogue);
     }
+    std::reverse(catalogues.begin(), catalogues.end());
     return catalogues;
 }
 

@@ -21,6 +21,7 @@ class MapWindow : public QMainWindow
 public:
     MapWindow()
     {
+        setWindowTitle("Dock Host");
         setCentralWidget(m_map);
         addDockWidget(Qt::RightDockWidgetArea, m_dock);
         m_map->setMinimumWidth(150);

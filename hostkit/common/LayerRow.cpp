@@ -18,20 +18,6 @@ namespace {
 
 constexpr double HighestCode = std::numeric_limits<qint16>::max();
 
-Value DefaultOf(const LayerColumn& column)
-{
-    switch (column.kind) {
-    case ColumnKind::Text:
-        return QStringLiteral("");
-    case ColumnKind::Flag:
-        return column.defaultValue != 0;
-    case ColumnKind::Real:
-        return column.defaultValue;
-    default:
-        return qint32(column.defaultValue);
-    }
-}
-
 qint32 NextLayerID(ILayerStore& store)
 {
     const auto highest
@@ -68,7 +54,7 @@ qint32 FirstGap(ILayerStore& store)
 LayerRow::LayerRow()
 {
     for (std::size_t column = 0; column < LayerColumns.size(); ++column)
-        m_values.at(column) = DefaultOf(LayerColumns.at(column));
+        m_values.at(column) = DefaultValue(LayerColumns.at(column));
 }
 
 LayerRow::LayerRow(const IRecordset& row)

@@ -36,7 +36,9 @@ void ForEachIdentity(
 class LayerMatcher
 {
 public:
+    /// Adds a layer of the list in which it searches.
     void AddTo(const LayerIdentity& layer);
+    /// Adds a layer that is searched.
     void AddFrom(const LayerIdentity& layer);
     /// Call it after all layers were added.
     void Prepare();

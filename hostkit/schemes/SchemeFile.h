@@ -33,6 +33,7 @@ SchemeDocument Read(const QString& path, const std::function<void(double done)>&
 class Reader
 {
 public:
+    /// Gets a layer of the scheme, and the part of the file that was read, from 0 to 1.
     using Visitor = std::function<void(const SchemeDocument::Layer& layer, double done)>;
 
     /// Raises as Read does.

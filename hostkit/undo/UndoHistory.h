@@ -24,7 +24,7 @@ public:
     static constexpr int MaxSteps = 100;
     /// The memory that all steps together may use, in bytes; adding one drops the oldest until it suffices.
     /// The latest step is kept, however large it is.
-    static constexpr qsizetype MaxBytes = 256 * 1024 * 1024;
+    static constexpr qsizetype MaxBytes = qsizetype(256) * 1024 * 1024;
 
     using QObject::QObject;
 

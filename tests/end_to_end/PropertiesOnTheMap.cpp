@@ -99,6 +99,9 @@ void PropertiesOnTheMap::SetUp()
     m_window->show();
     m_window->OpenMap(path);
     m_window->findChild<QAction*>("actLayerControl")->trigger();
+    // Until then, the main window's shortcuts get some of the keys. A tool window counts as active too early.
+    QWidget* form = Control("tvLayers2").window();
+    ASSERT_TRUE(QTest::qWaitFor([form] { return QApplication::activeWindow() == form; }));
 }
 
 void PropertiesOnTheMap::TearDown()
@@ -154,7 +157,9 @@ template <typename IsWanted> void PropertiesOnTheMap::WalkTo(QComboBox& list, co
     QTest::keyClick(&list, Qt::Key_Home);
     for (int i = 0; i < list.count() && !isWanted(); ++i)
         QTest::keyClick(&list, Qt::Key_Down);
-    EXPECT_TRUE(isWanted()) << qPrintable(list.objectName());
+    EXPECT_TRUE(isWanted()) << qPrintable(list.objectName()) << " stands at " << list.currentIndex() << " of "
+                            << list.count() << (list.isEnabled() ? "" : ", disabled")
+                            << (list.hasFocus() ? "" : ", without the focus");
 }
 
 void PropertiesOnTheMap::Pick(const char* name, qint32 number)

@@ -12,7 +12,8 @@ namespace {
 class FlatClient : public ForwardingClient
 {
 public:
-    explicit FlatClient(IStyleEditorClient& client) : ForwardingClient(client), m_database(client.GetDatabase())
+    explicit FlatClient(IStyleEditorClient& client)
+        : ForwardingClient(client), m_database(client.GetDatabase())
     {
     }
 

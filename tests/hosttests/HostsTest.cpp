@@ -83,7 +83,8 @@ private:
     {
     public:
         explicit PassingClient(IStyleEditorClient& client)
-            : ForwardingClient(client), m_database(client.GetDatabase()), m_services(*client.GetShellServices())
+            : ForwardingClient(client), m_database(client.GetDatabase()),
+              m_services(*client.GetShellServices())
         {
         }
 

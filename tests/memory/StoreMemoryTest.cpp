@@ -29,19 +29,7 @@ TEST_P(StoreWithoutMemory, AnEditIsStoredWholeOrNotAtAll)
 
 TEST_P(StoreWithoutMemory, ATransactionIsStoredWholeOrNotAtAll)
 {
-    const auto edit = [](SqliteLayerDatabase& database) {
-        Transaction transaction(database);
-        SetCode(database, 1, 5);
-        AddLayer(database, 9, QStringLiteral("New"));
-        {
-            Transaction inner(database);
-            AddMember(database, 5, 9, 2);
-            inner.Commit();
-        }
-        database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 2"));
-        transaction.Commit();
-    };
-    Sweep([&](SqliteLayerDatabase& database) -> Act { return [&] { edit(database); }; });
+    Sweep([](SqliteLayerDatabase& database) -> Act { return [&] { ChangeInTransactions(database); }; });
 }
 
 TEST_P(StoreWithoutMemory, ATransactionThatIsRolledBackLeavesNothing)

@@ -52,14 +52,6 @@ protected:
              .stride = m_stride});
     }
 
-    static void SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code)
-    {
-        const auto layer = SeekLayer(database, id);
-        layer->Edit();
-        layer->SetField("Code", code);
-        layer->Update();
-    }
-
     const QString m_run = PathOf(QStringLiteral("run.ovl"));
     const QString m_copy = PathOf(QStringLiteral("copy.ovl"));
     std::unique_ptr<SqliteLayerDatabase> m_database;

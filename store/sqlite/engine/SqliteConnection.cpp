@@ -18,10 +18,9 @@ namespace Orvane {
 
 namespace {
 
-using Access = SqliteConnection::Access;
-
-int OpenFlags(Access access)
+int OpenFlags(SqliteConnection::Access access)
 {
+    using Access = SqliteConnection::Access;
     const bool writes = access == Access::ReadWrite || access == Access::QueryOnly;
     // All calls come from one thread, so that the connection needs no mutex.
     return (writes ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI

@@ -71,7 +71,8 @@ TEST_F(ClientTrace, ShowsQueryTextsAndTheRowsRead)
     EXPECT_THAT(
         Lines(),
         ElementsAre(
-            QStringLiteral("client.GetDatabase()"), QStringLiteral("database.OpenRecordset(\"%1\")").arg(query),
+            QStringLiteral("client.GetDatabase()"),
+            QStringLiteral("database.OpenRecordset(\"%1\")").arg(query),
             QStringLiteral("recordset.Field(\"Name\") -> \"Roads\""), QStringLiteral("recordset.MoveNext()"),
             QStringLiteral("recordset.AtEOF() -> true")));
 }

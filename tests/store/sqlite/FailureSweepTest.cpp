@@ -90,14 +90,6 @@ protected:
         m_files.Fail(failure);
     }
 
-    static void SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code)
-    {
-        const auto layer = SeekLayer(database, id);
-        layer->Edit();
-        layer->SetField("Code", code);
-        layer->Update();
-    }
-
     const QString m_run = PathOf(QStringLiteral("run.ovl"));
     const QString m_copy = PathOf(QStringLiteral("copy.ovl"));
     FailingFiles m_files;
@@ -168,19 +160,7 @@ TEST_P(FailureSweep, AnEditIsStoredWholeOrNotAtAll)
 
 TEST_P(FailureSweep, ATransactionIsStoredWholeOrNotAtAll)
 {
-    const auto edit = [](SqliteLayerDatabase& database) {
-        Transaction transaction(database);
-        SetCode(database, 1, 5);
-        AddLayer(database, 9, QStringLiteral("New"));
-        {
-            Transaction inner(database);
-            AddMember(database, 5, 9, 2);
-            inner.Commit();
-        }
-        database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 2"));
-        transaction.Commit();
-    };
-    Sweep([&](SqliteLayerDatabase& database) -> Act { return [&] { edit(database); }; });
+    Sweep([](SqliteLayerDatabase& database) -> Act { return [&] { ChangeInTransactions(database); }; });
 }
 
 TEST_P(FailureSweep, AnUndoIsStoredWholeOrNotAtAll)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/StoreTest.h"
 
+#include <OrvaneShellLib/Transaction.h>
+
 #include <QDir>
 #include <QFile>
 
@@ -94,6 +96,28 @@ std::unique_ptr<IRecordset> StoreTest::SeekLayer(SqliteLayerDatabase& database, 
     layers->Index("LayerIDIDX");
     layers->Seek("=", id);
     return layers;
+}
+
+void StoreTest::SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code)
+{
+    const auto layer = SeekLayer(database, id);
+    layer->Edit();
+    layer->SetField("Code", code);
+    layer->Update();
+}
+
+void StoreTest::ChangeInTransactions(SqliteLayerDatabase& database)
+{
+    Transaction transaction(database);
+    SetCode(database, 1, 5);
+    AddLayer(database, 9, QStringLiteral("New"));
+    {
+        Transaction inner(database);
+        AddMember(database, 5, 9, 2);
+        inner.Commit();
+    }
+    database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 2"));
+    transaction.Commit();
 }
 
 QString StoreTest::NameOfLayer(SqliteLayerDatabase& database, qint32 id)

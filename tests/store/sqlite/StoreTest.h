@@ -57,6 +57,9 @@ protected:
     static void AddGroup(SqliteLayerDatabase& database, qint32 id, const QString& name, qint32 ordering);
     static void AddMember(SqliteLayerDatabase& database, qint32 group, qint32 layer, qint32 ordering);
     static std::unique_ptr<IRecordset> SeekLayer(SqliteLayerDatabase& database, qint32 id);
+    static void SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code);
+    /// Sets a code, adds layer 9 to group 5 in an inner transaction, and deletes layer 2.
+    static void ChangeInTransactions(SqliteLayerDatabase& database);
     static QString NameOfLayer(SqliteLayerDatabase& database, qint32 id);
     static std::vector<qint32> Column(SqliteLayerDatabase& database, const QString& sql, const char* name);
 

@@ -22,14 +22,6 @@ protected:
         return SqliteLayerDatabase::Open(m_path, OpenMode::ReadWrite, options);
     }
 
-    static void SetCode(SqliteLayerDatabase& database, qint32 id, qint32 code)
-    {
-        const auto layer = SeekLayer(database, id);
-        layer->Edit();
-        layer->SetField("Code", code);
-        layer->Update();
-    }
-
     /// While act runs, the other program keeps its lock until the database begins to run sql.
     void ReleaseAt(SqliteLayerDatabase& database, const QString& sql, const std::function<void()>& act)
     {
