@@ -494,6 +494,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Du&amp;rchsuchen...</translation>
     </message>
     <message>
+        <source>background</source>
+        <translation>Füllhintergrund</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -520,6 +524,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
     <message>
         <source>Changed Elsewhere</source>
         <translation>Anderswo geändert</translation>
+    </message>
+    <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>Änderungen in der Layersteuerung, die nicht angewendet waren, wurden verworfen.</translation>
     </message>
     <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
@@ -550,6 +558,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -600,6 +612,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>Darstellungsart</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Punkte je Zoll. Voreinstellung: 300, bei einer Größe in Pixeln 96.</translation>
     </message>
@@ -626,6 +642,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Im Maßstab 1:N um die Kartenmitte zeichnen.</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>Die Layer so zeichnen, wie dieses Schema sie hat; die Kartendatei bleibt, wie sie ist.</translation>
     </message>
@@ -644,6 +664,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>Die Prüfung der Datei nach dieser Zeit beenden; 0 für keine Grenze. Voreinstellung: 600.</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>abfragbar</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -690,6 +714,14 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Dateien, oder Ordner mit Dateien.</translation>
     </message>
     <message>
+        <source>fill colour</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>Fülltyp</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>Fehlende Daten suchen</translation>
     </message>
@@ -724,6 +756,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>Objekte anklickbarer Layer unter dem Zeiger hervorheben, mit jedem Werkzeug</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>anklickbar</translation>
     </message>
     <message>
         <source>Import Scheme</source>
@@ -814,6 +850,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Querformat</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>Layer „%1“: %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
     </message>
@@ -878,6 +918,18 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Länge: %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>Linienfarbe oder ihre Verwendung für Symbole</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>Linien</translation>
     </message>
@@ -892,6 +944,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Loading the schemes</source>
         <translation>Schemata werden geladen</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -930,6 +986,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Karten (*.orvane);;Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>Maximum der Maßstäbe</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>&amp;Fläche messen</translation>
     </message>
@@ -944,6 +1004,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>Eine Fläche messen; ihre Stützpunkte rasten an Layern mit eingeschaltetem Fang ein</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>Minimum der Maßstäbe</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1144,6 +1208,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte drucken, mit Vorschau</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2.</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2. Auch bei %3 weiteren Layern konnten diese oder andere Einstellungen nicht gesetzt werden.</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Orvane beenden</translation>
     </message>
@@ -1234,6 +1306,18 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>Speichern der Schemas für neue Karten</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>auswählbar</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>Fang erforderlich</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1674,6 +1758,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>sichtbar</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

@@ -494,6 +494,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Par&amp;courir...</translation>
     </message>
     <message>
+        <source>background</source>
+        <translation>couleur de fond</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
@@ -520,6 +524,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
     <message>
         <source>Changed Elsewhere</source>
         <translation>Modifié ailleurs</translation>
+    </message>
+    <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>Des modifications non appliquées du contrôle des couches ont été abandonnées.</translation>
     </message>
     <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
@@ -550,6 +558,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>code</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -600,6 +612,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>mode d’affichage</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Points par pouce. Par défaut : 300, ou 96 pour une taille en pixels.</translation>
     </message>
@@ -626,6 +642,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessiner à l'échelle 1:N autour du centre de la carte.</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>priorité</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>Dessiner les couches comme dans ce schéma ; le fichier de carte reste tel quel.</translation>
     </message>
@@ -644,6 +664,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>Terminer la vérification du fichier après ce délai ; 0 pour aucune limite. Par défaut : 600.</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>interrogeable</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -690,6 +714,14 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
     </message>
     <message>
+        <source>fill colour</source>
+        <translation>couleur de remplissage</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>motif</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>Rechercher les données manquantes</translation>
     </message>
@@ -724,6 +756,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>Mettre en évidence les objets des couches cliquables sous le pointeur, avec tout outil</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>cliquable</translation>
     </message>
     <message>
         <source>Import Scheme</source>
@@ -814,6 +850,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Paysage</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>Couche « %1 » : %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>La couche %1 n’a pas de « %2 » valide.</translation>
     </message>
@@ -878,6 +918,18 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Longueur : %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>couleur de ligne, ou son emploi pour les symboles</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>style de ligne</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>épaisseur de ligne</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>Lignes</translation>
     </message>
@@ -892,6 +944,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Loading the schemes</source>
         <translation>Chargement des schémas</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillée</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -930,6 +986,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Cartes (*.orvane);;Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>échelle maximale</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>Mesurer une s&amp;urface</translation>
     </message>
@@ -944,6 +1004,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>Mesurer une surface ; ses sommets s’accrochent aux couches dont l’accrochage est activé</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>échelle minimale</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1144,6 +1208,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Imprimer la carte, avec aperçu</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2. Ces réglages ou d’autres n’ont pas non plus pu être faits pour %3 autres couches.</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Quitter Orvane</translation>
     </message>
@@ -1234,6 +1306,18 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>sélectionnable</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>accrochage obligatoire</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>style</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1674,6 +1758,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>visible</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

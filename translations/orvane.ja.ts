@@ -494,6 +494,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>参照(&amp;R)...</translation>
     </message>
     <message>
+        <source>background</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -520,6 +524,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
     <message>
         <source>Changed Elsewhere</source>
         <translation>別の場所で変更されました</translation>
+    </message>
+    <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>レイヤーコントロールで適用されていない変更は破棄されました。</translation>
     </message>
     <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
@@ -550,6 +558,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>コード</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -600,6 +612,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>表示モード</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
     </message>
@@ -626,6 +642,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図の中央を縮尺 1:N で描きます。</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>このスキームのとおりにレイヤーを描きます。地図ファイルは変わりません。</translation>
     </message>
@@ -644,6 +664,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>この時間が過ぎたらファイルの検査を終えます。0 は制限なしです。既定値は 600 です。</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>照会可能</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -690,6 +714,14 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>ファイル、またはファイルの入ったフォルダー。</translation>
     </message>
     <message>
+        <source>fill colour</source>
+        <translation>塗りの色</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>塗りパターン</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>見つからないデータの検索</translation>
     </message>
@@ -724,6 +756,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>クリック可能</translation>
     </message>
     <message>
         <source>Import Scheme</source>
@@ -814,6 +850,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>横</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>レイヤー「%1」: %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>レイヤ %1 の「%2」が正しくありません。</translation>
     </message>
@@ -878,6 +918,18 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>長さ: %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>線の色、またはシンボルへの使用</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>線種</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>線の幅</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>線</translation>
     </message>
@@ -892,6 +944,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Loading the schemes</source>
         <translation>スキームを読み込んでいます</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -930,6 +986,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図 (*.orvane);;すべてのファイル (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>最大縮尺</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>面積の計測(&amp;A)</translation>
     </message>
@@ -944,6 +1004,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>面を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>最小縮尺</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1144,6 +1208,14 @@ These commands run without a window; each has its own --help:
         <translation>プレビューを見てから地図を印刷します</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。ほかに %3 個のレイヤーでも、同じ、または別の設定ができませんでした。</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Orvane を終了します</translation>
     </message>
@@ -1234,6 +1306,18 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>新しい地図用のスキームの保存</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>選択可能</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>スナップ必須</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>スタイル</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1674,6 +1758,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>表示</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

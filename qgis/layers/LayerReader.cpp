@@ -9,6 +9,8 @@
 #include "qgis/layers/OverrideMode.h"
 #include "qgis/layers/SymbolColumns.h"
 
+#include <qgsmaplayer.h>
+
 namespace Orvane {
 
 namespace {
@@ -29,6 +31,10 @@ void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const QgsProject& 
 LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
 {
     LayerValues values = UnknownLayerValues();
+    if (!layer.isValid()) {
+        SetValue(values, "Visible", ReadVisible(layer, project));
+        return values;
+    }
     const LayerScales scales = ReadScales(layer);
     SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0));
     ReadFlags(values, layer, project);

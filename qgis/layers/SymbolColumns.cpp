@@ -15,6 +15,8 @@ namespace Orvane {
 
 namespace {
 
+constexpr quint32 TopByte = 0xFF000000U; // symbols keep their colours
+
 constexpr std::array FillColumns{LookColumn::FillForeColor, LookColumn::FillBackColor, LookColumn::FillStyle};
 
 const char* NameOf(LookColumn column)
@@ -62,6 +64,16 @@ SymbolLook ChangesOf(WrittenLayer& written, const LayerValues& before, const Lay
     if (IsFlagAlone(before, after))
         changes[LookColumn::Color].reset();
     return changes;
+}
+
+// Where the fills of markers differ, one colour for all symbols would merge the classes, for good.
+void SpareFills(WrittenLayer& written, SymbolLook& changes, const SymbolLook& now)
+{
+    auto& colour = changes[LookColumn::Color];
+    if (!colour || now[LookColumn::FillForeColor] || (quint32(*colour) & TopByte) != 0)
+        return;
+    written.refused.emplace_back(NameOf(LookColumn::Color));
+    colour = qint32(quint32(*colour) | TopByte);
 }
 
 void Keep(QgsMapLayer& layer, const SymbolLook& look, LookColumn column)
@@ -118,11 +130,13 @@ void WriteSymbolColumns(
     WrittenLayer& written, QgsMapLayer& layer, const LayerValues& before, const LayerValues& after,
     const RendererSetter& setRenderer)
 {
-    const SymbolLook changes = ChangesOf(written, before, after);
+    SymbolLook changes = ChangesOf(written, before, after);
     auto* vectors = qobject_cast<QgsVectorLayer*>(&layer);
     if (!vectors)
         return NoteRefusals(written, changes, {});
     const SymbolLook kept = KeptLook(layer);
+    if (vectors->geometryType() == QgsWkbTypes::PointGeometry)
+        SpareFills(written, changes, ReadRenderer(vectors->renderer(), kept));
     ChangedRenderer changed = ChangeRenderer(vectors->renderer(), changes, kept);
     NoteRefusals(written, changes, changed.taken);
     if (!changed.renderer)

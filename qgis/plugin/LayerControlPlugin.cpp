@@ -4,6 +4,7 @@
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
+#include "qgis/plugin/LateEnd.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
 #include "qgis/plugin/QgisWindow.h"
@@ -16,6 +17,7 @@
 #include <QIcon>
 #include <QMainWindow>
 #include <QScopeGuard>
+#include <QThread>
 #include <qgisinterface.h>
 #include <qgsapplication.h>
 #include <qgsmessagebar.h>
@@ -66,10 +68,12 @@ LayerControlPlugin::~LayerControlPlugin()
 
 void LayerControlPlugin::initGui()
 {
-    InstallTexts();
-    AddActions();
-    AddDock();
     m_isShown = true;
+    Guard([this] {
+        InstallTexts();
+        AddActions();
+        AddDock();
+    });
 }
 
 void LayerControlPlugin::unload()
@@ -78,13 +82,30 @@ void LayerControlPlugin::unload()
         return;
     m_isShown = false;
     m_pendingEdits.stop();
-    m_component.reset();
-    m_session.reset();
+    Guard([this] { EndSession(); });
+    RemoveActions();
+    delete m_dock;
+    QgisTexts::Remove();
+}
+
+void LayerControlPlugin::EndSession()
+{
+    if (!m_session)
+        return;
+    const bool isQuitting = QThread::currentThread()->loopLevel() == 0; // QGIS has asked the user
+    if (!isQuitting && m_session->Client().HasPendingEdits())
+        Tell(tr("Changes in the layer control that were not applied have been dropped."));
+    m_session->Client().SetDock(nullptr);
+    m_session->Client().History().disconnect(this);
+    m_session->Mirror().SetPanel(nullptr);
+    LateEnd::Of(std::move(m_session), std::move(m_component));
+}
+
+void LayerControlPlugin::RemoveActions()
+{
     for (QAction* action : {&m_show, &m_undo, &m_redo})
         m_qgis.removePluginMenu(tr("Layer Control"), action);
     m_qgis.removeToolBarIcon(&m_show);
-    delete m_dock;
-    QgisTexts::Remove();
 }
 
 void LayerControlPlugin::AddDock()
@@ -113,18 +134,10 @@ void LayerControlPlugin::AddAction(QAction& action, const QString& text, void (L
     m_qgis.addPluginToMenu(tr("Layer Control"), &action);
 }
 
-// Without a component there is no session that could guard this.
 void LayerControlPlugin::ShowFromMenu()
 {
-    try {
-        ShowEditor();
-    } catch (const std::exception& error) {
+    if (!Guard([this] { ShowEditor(); }) && m_dock)
         m_dock->hide();
-        Tell(QString::fromUtf8(error.what()));
-    } catch (...) {
-        m_dock->hide();
-        Tell(tr("An unknown error has occurred."));
-    }
 }
 
 void LayerControlPlugin::ShowEditor()
@@ -164,12 +177,14 @@ void LayerControlPlugin::ConnectSession()
 
 void LayerControlPlugin::Undo()
 {
-    m_session->Guard([this] { m_session->Client().History().Undo(); });
+    if (m_session)
+        m_session->Undo();
 }
 
 void LayerControlPlugin::Redo()
 {
-    m_session->Guard([this] { m_session->Client().History().Redo(); });
+    if (m_session)
+        m_session->Redo();
 }
 
 void LayerControlPlugin::ShowSteps()
@@ -196,6 +211,20 @@ void LayerControlPlugin::WatchPendingEdits()
 void LayerControlPlugin::Tell(const QString& message)
 {
     m_qgis.messageBar()->pushMessage(tr("Layer Control"), message, Qgis::MessageLevel::Warning);
+}
+
+// Without a component there is no session that could guard this.
+bool LayerControlPlugin::Guard(const std::function<void()>& act) noexcept
+{
+    try {
+        act();
+        return true;
+    } catch (const std::exception& error) {
+        Tell(QString::fromUtf8(error.what()));
+    } catch (...) {
+        Tell(tr("An unknown error has occurred."));
+    }
+    return false;
 }
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <qgisplugin.h>
 
+#include <functional>
 #include <memory>
 
 class QgisInterface;
@@ -34,7 +35,8 @@ public:
 
     /// Adds what the user sees.
     void initGui() override;
-    /// Removes it, and ends the editor; edits that were not applied are lost.
+    /// Removes it, and ends the editor; edits that were not applied are lost, and the user is told. May be
+    /// called at any time, also from within an apply.
     void unload() override;
 
 private:
@@ -45,11 +47,14 @@ private:
     void ShowEditor();
     void Start();
     void ConnectSession();
+    void EndSession();
+    void RemoveActions();
     void Undo();
     void Redo();
     void ShowSteps();
     void WatchPendingEdits();
     void Tell(const QString& message);
+    bool Guard(const std::function<void()>& act) noexcept;
 
     QgisInterface& m_qgis;
     QPointer<EditorDock> m_dock;

@@ -3,13 +3,17 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
+#include "qgis/plugin/RefusalText.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/Cancellation.h>
 
+#include <QScopedValueRollback>
 #include <qgsexception.h>
 #include <qgsproject.h>
+
+#include <utility>
 
 namespace Orvane {
 
@@ -21,6 +25,8 @@ ProjectSession::ProjectSession(QgsProject& project)
         const ProjectWatcher::Silence own(m_watcher);
         write();
     });
+    m_mirror.SetRefused(
+        [this](const std::vector<RefusedColumns>& layers) { emit Failed(RefusalText::Of(layers)); });
     ListenToProject();
     ListenToClient();
     m_mirror.ReadAll();
@@ -33,8 +39,32 @@ void ProjectSession::ReadSchemes()
     Guard([this] { m_schemes.Read(); });
 }
 
+void ProjectSession::Undo()
+{
+    Guard([this] {
+        m_watcher.TellNow();
+        m_client.History().Undo();
+    });
+}
+
+void ProjectSession::Redo()
+{
+    Guard([this] {
+        m_watcher.TellNow();
+        m_client.History().Redo();
+    });
+}
+
+void ProjectSession::Stop()
+{
+    m_watcher.disconnect(this);
+    m_project.disconnect(this);
+    disconnect();
+}
+
 bool ProjectSession::Guard(const std::function<void()>& act) noexcept
 {
+    const QScopedValueRollback<int> running(m_running, m_running + 1);
     try {
         act();
         return true;
@@ -85,9 +115,11 @@ void ProjectSession::ListenToClient()
 
 void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
 {
-    bool differs = m_mirror.ReadLayers(layers);
+    const bool readsAll = std::exchange(m_isBehind, true);
+    bool differs = readsAll ? m_mirror.ReadAll() : m_mirror.ReadLayers(layers);
     if (isTree)
         differs |= m_mirror.ReadTree();
+    m_isBehind = false;
     if (differs)
         m_client.RefreshEditors();
 }

@@ -37,6 +37,16 @@ public:
     ProjectWatcher& Watcher() { return m_watcher; }
     ILayerStore& Store() { return *m_store; }
 
+    /// Undoes or redoes the last step, with what has changed in QGIS up to now. A step that QGIS has
+    /// overtaken is dropped, and told by Failed.
+    void Undo();
+    void Redo();
+
+    /// True while a function of this object, or of the client, is running.
+    bool IsBusy() const { return m_running > 0 || m_client.IsBusy(); }
+    /// Hears and tells nothing more.
+    void Stop();
+
     /// Runs act; what it raises is told by Failed. Returns false then.
     bool Guard(const std::function<void()>& act) noexcept;
 
@@ -57,6 +67,8 @@ private:
     ProjectSchemes m_schemes;
     QgisClient m_client;
     ProjectWatcher m_watcher;
+    bool m_isBehind = false; // a change could not be read
+    int m_running = 0;
 };
 
 } // namespace Orvane

@@ -31,6 +31,9 @@ QgsMapLayer* MakeScratchLayer()
         QStringLiteral("memory"));
 }
 
+/// While it exists, the client is busy.
+using Running = QScopedValueRollback<int>;
+
 } // namespace
 
 QgisClient::QgisClient(
@@ -41,6 +44,8 @@ QgisClient::QgisClient(
 
 void QgisClient::SetDock(EditorDock* dock)
 {
+    if (m_dock && !dock)
+        m_dock->EditorClosed(m_form);
     m_dock = dock;
 }
 
@@ -82,12 +87,14 @@ void QgisClient::IStyleEditorClient_LayerChanged(qint32 layerID)
 
 void QgisClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)
 {
+    const Running running(m_running, m_running + 1);
     StandardClient::IStyleEditorClient_RenameLayer(layerID, name);
     m_mirror.WriteName(layerID, name);
 }
 
 void QgisClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name)
 {
+    const Running running(m_running, m_running + 1);
     StandardClient::IStyleEditorClient_RenameGroup(groupID, name);
     m_mirror.WriteGroupName(groupID, name);
 }
@@ -95,6 +102,7 @@ void QgisClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& n
 // The layers are written while the signals of the scheme are sent, in the same step.
 void QgisClient::IStyleEditorClient_LoadScheme(const QString& name)
 {
+    const Running running(m_running, m_running + 1);
     RecordStep([&] {
         StandardClient::IStyleEditorClient_LoadScheme(name);
         return QCoreApplication::translate("SchemeSteps", "Load Scheme \"%1\"").arg(NameInStep(name));
@@ -103,6 +111,7 @@ void QgisClient::IStyleEditorClient_LoadScheme(const QString& name)
 
 void QgisClient::IStyleEditorClient_RedrawMap()
 {
+    const Running running(m_running, m_running + 1);
     const QSet<qint32> changed = std::exchange(m_changed, {});
     std::exception_ptr error;
     try {
@@ -116,8 +125,22 @@ void QgisClient::IStyleEditorClient_RedrawMap()
         std::rethrow_exception(error);
 }
 
+PromptAnswer QgisClient::IStyleEditorClient_PromptText(const PromptRequest& request)
+{
+    const Running running(m_running, m_running + 1);
+    return StandardClient::IStyleEditorClient_PromptText(request);
+}
+
+ConflictChoice QgisClient::IConflictQuestion_AskAboutConflicts(
+    QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits)
+{
+    const Running running(m_running, m_running + 1);
+    return StandardClient::IConflictQuestion_AskAboutConflicts(form, node, edits);
+}
+
 qint32 QgisClient::IStyleEditorClient_CreateLayer()
 {
+    const Running running(m_running, m_running + 1);
     QgsMapLayer* layer = m_commands.makeLayer();
     if (!layer)
         return 0;
@@ -133,6 +156,7 @@ qint32 QgisClient::IStyleEditorClient_CreateLayer()
 
 void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
 {
+    const Running running(m_running, m_running + 1);
     QgsMapLayer* layer = m_mirror.Layer(layerID);
     if (layer && m_commands.removeLayer)
         m_commands.removeLayer(*layer);

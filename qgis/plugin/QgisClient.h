@@ -35,13 +35,16 @@ public:
     /// None of these is owned; all outlive this object. mirror: of that project and store.
     QgisClient(ILayerStore& store, IShellServices& services, QgsProject& project, ProjectMirror& mirror);
 
-    /// Shows editors in that dock instead of windows; nullptr ends that. Not owned.
+    /// Shows editors in that dock instead of windows; nullptr ends that, and takes the editor out of the
+    /// dock. Not owned.
     void SetDock(EditorDock* dock);
     /// The commands replace those that need no QGIS window.
     void SetCommands(QgisCommands commands) { m_commands = std::move(commands); }
 
     /// True while LayersChanged names layers that were written already.
     bool IsApplying() const { return m_isApplying; }
+    /// True while a call is running that writes layers, or waits for the user.
+    bool IsBusy() const { return m_running > 0; }
     /// True while the editor has edits that were not applied.
     bool HasPendingEdits() const;
     /// Drops them: their layers are gone.
@@ -56,6 +59,9 @@ protected:
     void IStyleEditorClient_LoadScheme(const QString& name) override;
     /// Writes the changed layers, and passes on what that raises; nothing of the operation is left then.
     void IStyleEditorClient_RedrawMap() override;
+    PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override;
+    ConflictChoice IConflictQuestion_AskAboutConflicts(
+        QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
 
@@ -69,6 +75,7 @@ private:
     QPointer<QWidget> m_form;
     QSet<qint32> m_changed; // since the last RedrawMap
     bool m_isApplying = false;
+    int m_running = 0;
 };
 
 } // namespace Orvane

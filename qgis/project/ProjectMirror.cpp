@@ -5,11 +5,13 @@
 #include "qgis/layers/LayerReader.h"
 #include "qgis/layers/LayerSnap.h"
 #include "qgis/layers/LayerWriter.h"
+#include "qgis/layers/OverrideMode.h"
 #include "qgis/project/LayerOrder.h"
 #include "qgis/project/SignalBatch.h"
 #include "qgis/project/StoredRows.h"
 #include "store/ILayerStore.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 
 #include <qgsmaplayer.h>
@@ -49,11 +51,24 @@ LayerValues Writable(const LayerValues& known, LayerValues wanted)
     return wanted;
 }
 
+// The user may have hundreds of layers.
+template <typename Act> auto NamingTheLayer(const QString& name, const Act& act)
+{
+    try {
+        return act();
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(
+            error.Number(), ProjectMirror::tr("Layer \"%1\": %2").arg(name, error.Description()),
+            error.Source());
+    }
+}
+
 } // namespace
 
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
     : m_project(project), m_store(store), m_ids(project), m_groups(project),
-      m_around([](size_t, const std::function<void()>& write) { write(); })
+      m_around([](size_t, const std::function<void()>& write) { write(); }),
+      m_refused([](const std::vector<RefusedColumns>&) {})
 {
 }
 
@@ -62,13 +77,18 @@ void ProjectMirror::SetAround(Around around)
     m_around = std::move(around);
 }
 
+void ProjectMirror::SetRefused(Refused refused)
+{
+    m_refused = std::move(refused);
+}
+
 bool ProjectMirror::ReadAll()
 {
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
     return Read([&] {
         bool differs = DeleteMissing();
         for (QgsMapLayer* layer : m_project.mapLayers())
-            differs |= Store(RowOf(*layer, PriorityIn(priorities, *layer)));
+            differs |= StoreLayer(*layer, PriorityIn(priorities, *layer));
         return ReadGroups() || differs;
     });
 }
@@ -79,7 +99,7 @@ bool ProjectMirror::ReadLayers(const QSet<QString>& layers)
         bool differs = DeleteMissing();
         for (const QString& id : layers) {
             if (QgsMapLayer* layer = m_project.mapLayer(id))
-                differs |= Store(RowOf(*layer, ValueOf(KnownRow(*layer), "Priority")));
+                differs |= StoreLayer(*layer, ValueOf(KnownRow(*layer), "Priority"));
         }
         return differs;
     });
@@ -109,9 +129,10 @@ bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
     bool differs = false;
     if (changes.empty())
         return differs;
+    RefusedChanges refused;
     m_around(changes.size(), [&] {
         try {
-            WriteChanges(changes);
+            refused = WriteChanges(changes);
         } catch (...) {
             TakeBack(changes);
             StoreTaken(changes);
@@ -119,6 +140,8 @@ bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
         }
         differs = StoreTaken(changes);
     });
+    if (const std::vector<RefusedColumns> layers = refused.All(); !layers.empty())
+        m_refused(layers);
     return differs;
 }
 
@@ -205,6 +228,7 @@ bool ProjectMirror::DeleteMissing()
 
 LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
 {
+    ForgetEndedMode(layer, m_project);
     LayerValues row = Orvane::ReadLayer(layer, m_project);
     SetValue(row, "LayerID", m_ids.Of(layer));
     SetValue(row, "Name", layer.name());
@@ -212,6 +236,11 @@ LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
     SetValue(row, "SystemLayer", false);
     SetValue(row, "Pseudo", false);
     return row;
+}
+
+bool ProjectMirror::StoreLayer(QgsMapLayer& layer, const Value& priority)
+{
+    return NamingTheLayer(layer.name(), [&] { return Store(RowOf(layer, priority)); });
 }
 
 bool ProjectMirror::Store(const LayerValues& row)
@@ -243,24 +272,33 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
     return changes;
 }
 
-void ProjectMirror::WriteChanges(const std::vector<Change>& changes)
+RefusedChanges ProjectMirror::WriteChanges(const std::vector<Change>& changes)
 {
-    WriteLooks(changes);
+    RefusedChanges refused = WriteLooks(changes);
     WriteSnapping(changes);
     WritePriorities(changes);
+    return refused;
 }
 
-void ProjectMirror::WriteLooks(const std::vector<Change>& changes)
+RefusedChanges ProjectMirror::WriteLooks(const std::vector<Change>& changes)
 {
+    RefusedChanges refused;
     SignalBatch batch(m_project, m_panel);
+    const auto setRenderer = [&batch](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
+        batch.SetRenderer(layer, std::move(renderer));
+    };
     for (const Change& change : changes) {
-        WriteLayer(
-            *change.layer, m_project, change.before, change.after,
-            [&](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
-                batch.SetRenderer(layer, std::move(renderer));
-            });
-        batch.Add(*change.layer);
+        if (!change.layer)
+            continue;
+        const QString name = change.layer->name();
+        const WrittenLayer written = NamingTheLayer(name, [&] {
+            return WriteLayer(*change.layer, m_project, change.before, change.after, setRenderer);
+        });
+        refused.Add(name, written.refused, change.before, change.stored);
+        if (change.layer)
+            batch.Add(*change.layer);
     }
+    return refused;
 }
 
 void ProjectMirror::WriteSnapping(const std::vector<Change>& changes)
@@ -268,7 +306,7 @@ void ProjectMirror::WriteSnapping(const std::vector<Change>& changes)
     QHash<QgsMapLayer*, bool> layers;
     for (const Change& change : changes) {
         const Value& snap = ValueOf(change.after, "SnapRequired");
-        if (!snap.IsNull() && Differs(change.before, change.after, "SnapRequired"))
+        if (change.layer && !snap.IsNull() && Differs(change.before, change.after, "SnapRequired"))
             layers.insert(change.layer, ToBoolean(snap));
     }
     if (!layers.isEmpty())
@@ -280,7 +318,7 @@ void ProjectMirror::WritePriorities(const std::vector<Change>& changes)
     QHash<QString, qint32> priorities;
     for (const Change& change : changes) {
         const Value& priority = ValueOf(change.after, "Priority");
-        if (!priority.IsNull() && Differs(change.before, change.after, "Priority"))
+        if (change.layer && !priority.IsNull() && Differs(change.before, change.after, "Priority"))
             priorities.insert(change.layer->id(), ToInt32(priority));
     }
     if (!priorities.isEmpty())
@@ -290,6 +328,7 @@ void ProjectMirror::WritePriorities(const std::vector<Change>& changes)
 void ProjectMirror::TakeBack(const std::vector<Change>& changes)
 {
     std::vector<Change> reversed = changes;
+    std::erase_if(reversed, [](const Change& change) { return !change.layer; });
     for (Change& change : reversed) {
         change.after = RowOf(*change.layer, ValueOf(change.before, "Priority"));
         std::swap(change.before, change.after);
@@ -303,6 +342,8 @@ bool ProjectMirror::StoreTaken(const std::vector<Change>& changes)
     return Read([&] {
         bool differs = false;
         for (const Change& change : changes) {
+            if (!change.layer)
+                continue;
             m_rows[change.layerID] = change.stored;
             differs |= Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
         }

@@ -4,16 +4,19 @@
 #include "qgis/layers/LayerIDs.h"
 #include "qgis/layers/LayerValues.h"
 #include "qgis/project/GroupMirror.h"
+#include "qgis/project/RefusedChanges.h"
 
+#include <QCoreApplication>
 #include <QHash>
+#include <QPointer>
 #include <QSet>
 #include <QString>
+#include <qgsmaplayer.h>
 
 #include <functional>
 #include <vector>
 
 class QgsLayerTreeModel;
-class QgsMapLayer;
 class QgsProject;
 
 namespace Orvane {
@@ -27,6 +30,8 @@ class ILayerStore;
 /// All functions raise errors of the store.
 class ProjectMirror
 {
+    Q_DECLARE_TR_FUNCTIONS(ProjectMirror)
+
 public:
     /// Neither is owned; both outlive this object. store: holds nothing but this project.
     ProjectMirror(QgsProject& project, ILayerStore& store);
@@ -36,6 +41,9 @@ public:
     /// What Write runs inside. layers: how many change. write: to be called once.
     using Around = std::function<void(size_t layers, const std::function<void()>& write)>;
     void SetAround(Around around);
+    /// Called at the end of a Write that could not set everything, with the layers that did not take it.
+    using Refused = std::function<void(const std::vector<RefusedColumns>& layers)>;
+    void SetRefused(Refused refused);
 
     /// The layer with that row; nullptr if the project has none.
     QgsMapLayer* Layer(qint32 layerID) const { return m_ids.Layer(layerID); }
@@ -54,7 +62,8 @@ public:
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
     /// layers have taken: a raster, for example, takes no colour, and a column that is Null because the
     /// classes of a layer differ stays as it is. Layers that have left the project are skipped. Returns true
-    /// if a row then differs from what it was. Passes on what writing a layer raises.
+    /// if a row then differs from what it was. Passes on what writing a layer raises; the description then
+    /// names the layer.
     bool Write(const QSet<qint32>& layerIDs);
     /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
     void WriteName(qint32 layerID, const QString& name);
@@ -62,7 +71,7 @@ public:
 
 private:
     struct Change {
-        QgsMapLayer* layer;
+        QPointer<QgsMapLayer> layer; // whoever hears of a change may remove it
         qint32 layerID;
         LayerValues before; // as the project has it
         LayerValues after; // as it is to be
@@ -75,10 +84,11 @@ private:
     bool ReadGroups();
     bool DeleteMissing();
     LayerValues RowOf(QgsMapLayer& layer, const Value& priority);
+    bool StoreLayer(QgsMapLayer& layer, const Value& priority);
     bool Store(const LayerValues& row);
     std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs);
-    void WriteChanges(const std::vector<Change>& changes);
-    void WriteLooks(const std::vector<Change>& changes);
+    RefusedChanges WriteChanges(const std::vector<Change>& changes);
+    RefusedChanges WriteLooks(const std::vector<Change>& changes);
     void WriteSnapping(const std::vector<Change>& changes);
     void WritePriorities(const std::vector<Change>& changes);
     void TakeBack(const std::vector<Change>& changes);
@@ -91,6 +101,7 @@ private:
     QHash<qint32, LayerValues> m_rows; // as the project has them
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;
+    Refused m_refused;
 };
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/project/SignalBatch.h"
 
+#include <QSet>
 #include <QSignalBlocker>
 #include <qgslayertree.h>
 #include <qgslayertreemodel.h>
@@ -43,19 +44,30 @@ void SignalBatch::SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureR
 {
     const QSignalBlocker silence(&layer);
     layer.setRenderer(renderer.release());
-    m_restyled.insert(&layer);
-    m_repainted.insert(&layer);
+    Note(m_restyled, layer);
+    Note(m_repainted, layer);
+}
+
+// A layer is changed once in a batch, and often added right after its renderer.
+void SignalBatch::Note(Layers& layers, QgsMapLayer& layer)
+{
+    if (layers.isEmpty() || layers.constLast() != &layer)
+        layers.append(&layer);
 }
 
 void SignalBatch::Finish()
 {
     if (m_repainted.isEmpty())
         return;
-    for (QgsMapLayer* layer : std::as_const(m_restyled))
-        layer->emitStyleChanged();
+    for (const QPointer<QgsMapLayer>& layer : std::as_const(m_restyled)) {
+        if (layer)
+            layer->emitStyleChanged();
+    }
     RefreshLegends();
-    for (QgsMapLayer* layer : std::as_const(m_repainted))
-        layer->triggerRepaint();
+    for (const QPointer<QgsMapLayer>& layer : std::as_const(m_repainted)) {
+        if (layer)
+            layer->triggerRepaint();
+    }
     m_restyled.clear();
     m_repainted.clear();
     m_project.setDirty(true);
@@ -65,9 +77,12 @@ void SignalBatch::RefreshLegends() const
 {
     if (m_restyled.isEmpty())
         return;
+    QSet<QgsMapLayer*> layers;
+    for (const QPointer<QgsMapLayer>& layer : m_restyled)
+        layers.insert(layer.data());
     if (m_panel)
-        RefreshEntries(*m_panel, m_restyled);
-    RefreshLayoutLegends(m_project, m_restyled);
+        RefreshEntries(*m_panel, layers);
+    RefreshLayoutLegends(m_project, layers);
 }
 
 } // namespace Orvane

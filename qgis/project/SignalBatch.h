@@ -2,13 +2,13 @@
 #pragma once
 
 #include <QPointer>
-#include <QSet>
+#include <QVector>
+#include <qgsmaplayer.h>
 
 #include <memory>
 
 class QgsFeatureRenderer;
 class QgsLayerTreeModel;
-class QgsMapLayer;
 class QgsProject;
 class QgsVectorLayer;
 
@@ -35,19 +35,23 @@ public:
     void SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer);
 
     /// Repaints the layer at the end.
-    void Add(QgsMapLayer& layer) { m_repainted.insert(&layer); }
+    void Add(QgsMapLayer& layer) { Note(m_repainted, layer); }
 
     /// Tells of the new styles, refreshes their entries in the panel and in the legends of layouts, repaints
-    /// the layers, and marks the project as changed. Raises nothing.
+    /// the layers, and marks the project as changed. Layers that are gone by then are left out. Raises
+    /// nothing.
     void Finish();
 
 private:
+    using Layers = QVector<QPointer<QgsMapLayer>>; // whoever is told may remove a layer
+
+    static void Note(Layers& layers, QgsMapLayer& layer);
     void RefreshLegends() const;
 
     QgsProject& m_project;
     QgsLayerTreeModel* m_panel;
-    QSet<QgsMapLayer*> m_restyled;
-    QSet<QgsMapLayer*> m_repainted; // those with new styles too
+    Layers m_restyled;
+    Layers m_repainted; // those with new styles too
 };
 
 } // namespace Orvane
