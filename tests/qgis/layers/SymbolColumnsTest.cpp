@@ -8,6 +8,7 @@
 #include <qgsgraduatedsymbolrenderer.h>
 #include <qgsheatmaprenderer.h>
 #include <qgslinesymbol.h>
+#include <qgsmarkersymbol.h>
 #include <qgspallabeling.h>
 #include <qgsproperty.h>
 #include <qgssinglesymbolrenderer.h>
@@ -165,6 +166,30 @@ TEST_F(SymbolColumnsOfQgis, TheRendererIsSetOnceForManyColumns)
     EXPECT_TRUE(WriteLayer(layer, project, before, after, setter).symbolsChanged);
     EXPECT_EQ(calls, 1);
     EXPECT_TRUE(Get(layer, "FillStyle").IsIdenticalTo(4));
+}
+
+TEST_F(SymbolColumnsOfQgis, MarkersInTwoColoursTakeTheLineColourForSymbols)
+{
+    QgsVectorLayer& layer = Add("Point");
+    auto* symbol = QgsMarkerSymbol::createSimple({{"color", "blue"}, {"outline_color", "black"}});
+    layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
+    EXPECT_TRUE(Set(layer, "Color", Red).refused.empty());
+    EXPECT_TRUE(Get(layer, "FillForeColor").IsIdenticalTo(Red));
+}
+
+TEST_F(SymbolColumnsOfQgis, MarkersOfDifferentFillsKeepThemWhenTheFlagForSymbolsIsSet)
+{
+    QgsVectorLayer& layer = Add("Point");
+    auto* renderer = new QgsGraduatedSymbolRenderer(QStringLiteral("people"));
+    for (const char* colour : {"red", "blue"}) {
+        auto* symbol = QgsMarkerSymbol::createSimple({{"color", colour}, {"outline_color", "black"}});
+        renderer->addClass(QgsRendererRange(0, 1, symbol, QString::fromLatin1(colour)));
+    }
+    layer.setRenderer(renderer);
+    EXPECT_THAT(Set(layer, "Color", Blue).refused, ElementsAre("Color"));
+    EXPECT_EQ(ClassFill(layer, 0), QColor(Qt::red));
+    EXPECT_EQ(ClassFill(layer, 1), QColor(Qt::blue));
+    EXPECT_TRUE(Get(layer, "Color").IsIdenticalTo(qint32(quint32(Blue) | 0xFF000000U)));
 }
 
 } // namespace Orvane

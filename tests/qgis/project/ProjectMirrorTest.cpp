@@ -111,6 +111,44 @@ TEST_F(ProjectMirrorTest, AnErrorLeavesAllLayersAsTheyWere)
     EXPECT_EQ(ToInt32(Stored(*lakes, "FillForeColor")), Red);
 }
 
+TEST_F(ProjectMirrorTest, AnErrorNamesTheLayer)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    StoreValue(*roads, "FillForeColor", QStringLiteral("blue"));
+    EXPECT_TRUE(DescriptionOf([&] { mirror.Write({mirror.IDOf(*roads)}); }).contains("\"Roads\""));
+}
+
+TEST_F(ProjectMirrorTest, WhatALayerRefusesIsTold)
+{
+    QgsVectorLayer* table = AddLayer("Table", "None");
+    mirror.ReadAll();
+    std::vector<RefusedColumns> refused;
+    mirror.SetRefused([&](const std::vector<RefusedColumns>& layers) { refused = layers; });
+    StoreValue(*table, "FillForeColor", Blue);
+    mirror.Write({mirror.IDOf(*table)});
+    ASSERT_EQ(refused.size(), 1u);
+    EXPECT_EQ(refused[0].layer, "Table");
+    EXPECT_EQ(refused[0].columns, std::vector<std::string_view>{"FillForeColor"});
+}
+
+TEST_F(ProjectMirrorTest, AQuickModeThatWasEndedInQgisIsForgottenAtOnce)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    StoreValue(*roads, "OverrideMode", 2);
+    mirror.Write({mirror.IDOf(*roads)});
+    QgsLayerTreeLayer* node = project.layerTreeRoot()->findLayer(roads);
+    EXPECT_FALSE(node->itemVisibilityChecked());
+    node->setItemVisibilityChecked(true);
+    mirror.ReadLayers({roads->id()});
+    node->setItemVisibilityChecked(false);
+    mirror.ReadLayers({roads->id()});
+    EXPECT_EQ(ToInt32(Stored(*roads, "OverrideMode")), 0);
+    EXPECT_FALSE(ToBoolean(Stored(*roads, "Visible")));
+    EXPECT_TRUE(roads->customProperty("orvane/FormerTick").isNull());
+}
+
 TEST_F(ProjectMirrorTest, ALayerThatHasLeftTheProjectIsSkipped)
 {
     QgsVectorLayer* roads = AddLayer("Roads");

@@ -56,6 +56,18 @@ TEST_F(SignalBatchTest, ThePanelShowsTheNewSymbol)
     EXPECT_EQ(entry->symbol()->color(), QColor("#00ff00"));
 }
 
+TEST_F(SignalBatchTest, ALayerThatAListenerRemovesIsLeftOut)
+{
+    QgsVectorLayer* first = AddLayer("A");
+    QgsVectorLayer* second = AddLayer("B");
+    QObject::connect(first, &QgsMapLayer::styleChanged, first, [&] { project.removeMapLayer(second); });
+    SignalBatch batch(project, nullptr);
+    batch.SetRenderer(*first, Filled("#ff0000"));
+    batch.SetRenderer(*second, Filled("#ff0000"));
+    batch.Finish();
+    EXPECT_EQ(project.count(), 1);
+}
+
 TEST_F(SignalBatchTest, AnEmptyBatchChangesNothing)
 {
     AddLayer("A");
