@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "qgis/layers/LayerNodes.h"
 #include "qgis/layers/LayerValues.h"
 
 class QgsMapLayer;
-class QgsProject;
 
 namespace Orvane {
 
@@ -12,6 +12,6 @@ namespace Orvane {
 /// are not read here, and what does not apply: the symbol columns of a raster, or a colour that differs
 /// between the classes of a layer. Kinds are those of the columns: bool for a flag, qint32, double. Never
 /// raises.
-LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project);
+LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes);
 
 } // namespace Orvane

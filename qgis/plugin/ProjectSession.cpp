@@ -68,8 +68,8 @@ void ProjectSession::ListenToClient()
     const HostNotifications& told = m_client.Notifications();
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
-            if (!m_client.IsApplying() && m_mirror.Write(layerIDs))
-                m_client.RefreshEditors();
+            if (!m_client.IsApplying())
+                Show(m_mirror.Write(layerIDs));
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
@@ -85,11 +85,18 @@ void ProjectSession::ListenToClient()
 
 void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
 {
-    bool differs = m_mirror.ReadLayers(layers);
+    MirrorChanges changes = m_mirror.ReadLayers(layers);
     if (isTree)
-        differs |= m_mirror.ReadTree();
-    if (differs)
+        changes.Add(m_mirror.ReadTree());
+    Show(changes);
+}
+
+void ProjectSession::Show(const MirrorChanges& changes)
+{
+    if (changes.isList)
         m_client.RefreshEditors();
+    else
+        m_client.RefreshEditors(changes.layers);
 }
 
 void ProjectSession::ReadOtherProject()
