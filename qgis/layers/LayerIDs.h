@@ -28,6 +28,11 @@ public:
     /// The layer with that number; nullptr if the project has none.
     QgsMapLayer* Layer(qint32 id) const;
 
+    /// The number of the layer with this ID in QGIS, which may have left the project; 0 if none was given.
+    qint32 Known(const QString& text) const { return m_numbers.value(text); }
+    /// The other way round.
+    QString TextOf(qint32 id) const { return m_texts.value(id); }
+
     /// Takes over the project's layers as they are now, e.g. after another project was read.
     void Reset();
 

@@ -15,20 +15,20 @@ namespace Orvane {
 
 namespace {
 
-void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const QgsProject& project)
+void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const LayerNodes& nodes)
 {
     const PointingFlags pointing = ReadPointing(layer);
-    SetValue(values, "Visible", ReadVisible(layer, project));
+    SetValue(values, "Visible", ReadVisible(layer, nodes));
     SetValue(values, "Selectable", KeptValues::Flag(layer, "Selectable").value_or(true));
     SetValue(values, "locked", ReadLocked(layer));
     SetValue(values, "Hitable", pointing.hitable);
-    SetValue(values, "SnapRequired", ReadSnap(layer, project));
+    SetValue(values, "SnapRequired", ReadSnap(layer, nodes.Project()));
     SetValue(values, "Enquirable", pointing.enquirable);
 }
 
 } // namespace
 
-LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
+LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
     LayerValues values = UnknownLayerValues();
     if (!layer.isValid()) {
@@ -37,12 +37,12 @@ LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
     }
     const LayerScales scales = ReadScales(layer);
     SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0));
-    ReadFlags(values, layer, project);
+    ReadFlags(values, layer, nodes);
     ReadSymbolColumns(values, layer);
     SetValue(values, "MinVisScale", scales.minimum);
     SetValue(values, "MaxVisScale", scales.maximum);
     SetValue(values, "Style", KeptValues::Whole(layer, "Style").value_or(0));
-    SetValue(values, "OverrideMode", ReadOverrideMode(layer, project));
+    SetValue(values, "OverrideMode", ReadOverrideMode(layer, nodes));
     return values;
 }
 

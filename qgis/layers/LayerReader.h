@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "qgis/layers/LayerNodes.h"
 #include "qgis/layers/LayerValues.h"
 
 class QgsMapLayer;
-class QgsProject;
 
 namespace Orvane {
 
@@ -13,6 +13,6 @@ namespace Orvane {
 /// between the classes of a layer. Of a layer whose data are missing only the tick is known: QGIS saves the
 /// rest of it as it was read. Kinds are those of the columns: bool for a flag, qint32, double. Never
 /// raises.
-LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project);
+LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes);
 
 } // namespace Orvane

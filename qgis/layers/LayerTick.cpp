@@ -1,24 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/layers/LayerTick.h"
 
-#include "qgis/layers/LayerNode.h"
 #include "qgis/layers/OverrideMode.h"
+
+#include <qgslayertreelayer.h>
 
 namespace Orvane {
 
-Value ReadVisible(const QgsMapLayer& layer, const QgsProject& project)
+Value ReadVisible(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    if (const std::optional<bool> before = TickBeforeHiding(layer, project))
+    if (const std::optional<bool> before = TickBeforeHiding(layer, nodes))
         return *before;
-    const QgsLayerTreeLayer* node = NodeOf(layer, project);
+    const QgsLayerTreeLayer* node = nodes.Of(layer);
     return node ? Value(node->itemVisibilityChecked()) : Value::Null();
 }
 
-void WriteVisible(QgsMapLayer& layer, const QgsProject& project, bool visible)
+void WriteVisible(QgsMapLayer& layer, const LayerNodes& nodes, bool visible)
 {
-    if (TickBeforeHiding(layer, project))
+    if (TickBeforeHiding(layer, nodes))
         return SetTickBeforeHiding(layer, visible);
-    if (QgsLayerTreeLayer* node = NodeOf(layer, project))
+    if (QgsLayerTreeLayer* node = nodes.Of(layer))
         node->setItemVisibilityChecked(visible);
 }
 

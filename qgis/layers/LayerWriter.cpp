@@ -67,21 +67,19 @@ void WriteScaleColumns(QgsMapLayer& layer, const Changes& changes)
         WriteScales(layer, scales);
 }
 
-void WriteShowing(
-    WrittenLayer& written, QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
+void WriteShowing(WrittenLayer& written, QgsMapLayer& layer, const LayerNodes& nodes, const Changes& changes)
 {
-    ForgetEndedMode(layer, project);
-    if (changes.Has("OverrideMode")
-        && !WriteOverrideMode(layer, project, ToInt32(changes.New("OverrideMode"))))
+    ForgetEndedMode(layer, nodes);
+    if (changes.Has("OverrideMode") && !WriteOverrideMode(layer, nodes, ToInt32(changes.New("OverrideMode"))))
         written.refused.emplace_back("OverrideMode");
     if (changes.Has("Visible"))
-        WriteVisible(layer, project, ToBoolean(changes.New("Visible")));
+        WriteVisible(layer, nodes, ToBoolean(changes.New("Visible")));
 }
 
 } // namespace
 
 WrittenLayer WriteLayer(
-    QgsMapLayer& layer, const QgsProject& project, const LayerValues& before, const LayerValues& after,
+    QgsMapLayer& layer, const LayerNodes& nodes, const LayerValues& before, const LayerValues& after,
     const RendererSetter& setRenderer)
 {
     WrittenLayer written;
@@ -90,7 +88,7 @@ WrittenLayer WriteLayer(
     WriteFlags(written, layer, changes);
     WriteScaleColumns(layer, changes);
     WriteSymbolColumns(written, layer, before, after, setRenderer);
-    WriteShowing(written, layer, project, changes);
+    WriteShowing(written, layer, nodes, changes);
     return written;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "qgis/layers/LayerNodes.h"
 #include "qgis/layers/LayerValues.h"
 
 #include <functional>
@@ -10,7 +11,6 @@
 
 class QgsFeatureRenderer;
 class QgsMapLayer;
-class QgsProject;
 class QgsVectorLayer;
 
 namespace Orvane {
@@ -32,7 +32,7 @@ struct WrittenLayer {
 /// QgsVectorLayer::setRenderer; the map is not told to draw again. Raises 13 (type mismatch) for a text that
 /// holds no number.
 WrittenLayer WriteLayer(
-    QgsMapLayer& layer, const QgsProject& project, const LayerValues& before, const LayerValues& after,
+    QgsMapLayer& layer, const LayerNodes& nodes, const LayerValues& before, const LayerValues& after,
     const RendererSetter& setRenderer = {});
 
 } // namespace Orvane

@@ -2,7 +2,9 @@
 #include "qgis/layers/OverrideMode.h"
 
 #include "qgis/layers/KeptValues.h"
-#include "qgis/layers/LayerNode.h"
+
+#include <qgslayertreelayer.h>
+#include <qgsmaplayer.h>
 
 #include <cmath>
 
@@ -25,15 +27,15 @@ bool IsFaded(const QgsMapLayer& layer)
     return former && std::abs(layer.opacity() - *former * BackdropPart) < OpacitySlack;
 }
 
-bool IsUnticked(const QgsMapLayer& layer, const QgsProject& project)
+bool IsUnticked(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    const QgsLayerTreeLayer* node = NodeOf(layer, project);
+    const QgsLayerTreeLayer* node = nodes.Of(layer);
     return node && !node->itemVisibilityChecked();
 }
 
-void SetTick(const QgsMapLayer& layer, const QgsProject& project, bool ticked)
+void SetTick(const QgsMapLayer& layer, const LayerNodes& nodes, bool ticked)
 {
-    if (QgsLayerTreeLayer* node = NodeOf(layer, project))
+    if (QgsLayerTreeLayer* node = nodes.Of(layer))
         node->setItemVisibilityChecked(ticked);
 }
 
@@ -49,61 +51,61 @@ void BeginBackdrop(QgsMapLayer& layer)
     layer.setOpacity(layer.opacity() * BackdropPart);
 }
 
-void BeginHiding(QgsMapLayer& layer, const QgsProject& project)
+void BeginHiding(QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    KeptValues::Keep(layer, TickName, !IsUnticked(layer, project));
-    SetTick(layer, project, false);
+    KeptValues::Keep(layer, TickName, !IsUnticked(layer, nodes));
+    SetTick(layer, nodes, false);
 }
 
-void EndMode(QgsMapLayer& layer, const QgsProject& project)
+void EndMode(QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    const qint32 mode = ReadOverrideMode(layer, project);
+    const qint32 mode = ReadOverrideMode(layer, nodes);
     const double opacity = KeptValues::Number(layer, OpacityName).value_or(1);
     const bool ticked = KeptValues::Flag(layer, TickName).value_or(true);
     ForgetMode(layer);
     if (mode == BackdropMode)
         layer.setOpacity(opacity);
     else if (mode == HiddenMode)
-        SetTick(layer, project, ticked);
+        SetTick(layer, nodes, ticked);
 }
 
 } // namespace
 
-qint32 ReadOverrideMode(const QgsMapLayer& layer, const QgsProject& project)
+qint32 ReadOverrideMode(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
     const qint32 mode = KeptValues::Whole(layer, ModeName).value_or(NormalMode);
     const bool lasts
-        = (mode == BackdropMode && IsFaded(layer)) || (mode == HiddenMode && IsUnticked(layer, project));
+        = (mode == BackdropMode && IsFaded(layer)) || (mode == HiddenMode && IsUnticked(layer, nodes));
     return lasts ? mode : NormalMode;
 }
 
-bool WriteOverrideMode(QgsMapLayer& layer, const QgsProject& project, qint32 mode)
+bool WriteOverrideMode(QgsMapLayer& layer, const LayerNodes& nodes, qint32 mode)
 {
-    if (mode == ReadOverrideMode(layer, project))
+    if (mode == ReadOverrideMode(layer, nodes))
         return true;
-    EndMode(layer, project);
+    EndMode(layer, nodes);
     if (mode == BackdropMode)
         BeginBackdrop(layer);
     else if (mode == HiddenMode)
-        BeginHiding(layer, project);
+        BeginHiding(layer, nodes);
     else
         return true;
     KeptValues::Keep(layer, ModeName, mode);
-    const bool took = ReadOverrideMode(layer, project) == mode;
+    const bool took = ReadOverrideMode(layer, nodes) == mode;
     if (!took)
         ForgetMode(layer);
     return took;
 }
 
-void ForgetEndedMode(QgsMapLayer& layer, const QgsProject& project)
+void ForgetEndedMode(QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    if (KeptValues::Whole(layer, ModeName) && ReadOverrideMode(layer, project) == NormalMode)
+    if (KeptValues::Whole(layer, ModeName) && ReadOverrideMode(layer, nodes) == NormalMode)
         ForgetMode(layer);
 }
 
-std::optional<bool> TickBeforeHiding(const QgsMapLayer& layer, const QgsProject& project)
+std::optional<bool> TickBeforeHiding(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
-    if (ReadOverrideMode(layer, project) != HiddenMode)
+    if (ReadOverrideMode(layer, nodes) != HiddenMode)
         return std::nullopt;
     return KeptValues::Flag(layer, TickName).value_or(true);
 }

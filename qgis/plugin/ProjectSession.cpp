@@ -98,8 +98,8 @@ void ProjectSession::ListenToClient()
     const HostNotifications& told = m_client.Notifications();
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
-            if (!m_client.IsApplying() && m_mirror.Write(layerIDs))
-                m_client.RefreshEditors();
+            if (!m_client.IsApplying())
+                Show(m_mirror.Write(layerIDs));
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
@@ -116,12 +116,19 @@ void ProjectSession::ListenToClient()
 void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
 {
     const bool readsAll = std::exchange(m_isBehind, true);
-    bool differs = readsAll ? m_mirror.ReadAll() : m_mirror.ReadLayers(layers);
+    MirrorChanges changes = readsAll ? m_mirror.ReadAll() : m_mirror.ReadLayers(layers);
     if (isTree)
-        differs |= m_mirror.ReadTree();
+        changes.Add(m_mirror.ReadTree());
     m_isBehind = false;
-    if (differs)
+    Show(changes);
+}
+
+void ProjectSession::Show(const MirrorChanges& changes)
+{
+    if (changes.isList)
         m_client.RefreshEditors();
+    else
+        m_client.RefreshEditors(changes.layers);
 }
 
 void ProjectSession::ReadOtherProject()

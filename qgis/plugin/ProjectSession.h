@@ -57,6 +57,7 @@ Q_SIGNALS:
 private:
     void ListenToProject();
     void ListenToClient();
+    void Show(const MirrorChanges& changes);
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
 

@@ -164,7 +164,7 @@ void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
         RemoveAfterQuestion(*layer, layerID);
     if (m_mirror.Layer(layerID))
         return;
-    m_mirror.ReadLayers({});
+    m_mirror.ReadLayers({m_mirror.TextOf(layerID)});
     InvalidateLayerNames();
     m_changed.remove(layerID);
     emit Notifications().LayerDeleted(layerID);

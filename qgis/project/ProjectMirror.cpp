@@ -25,6 +25,8 @@ namespace Orvane {
 
 namespace {
 
+constexpr size_t FewLayers = 10; // are found in the tree sooner one by one
+
 Value PriorityIn(const QHash<QString, qint32>& priorities, const QgsMapLayer& layer)
 {
     const auto found = priorities.constFind(layer.id());
@@ -65,6 +67,12 @@ template <typename Act> auto NamingTheLayer(const QString& name, const Act& act)
 
 } // namespace
 
+void MirrorChanges::Add(const MirrorChanges& others)
+{
+    layers += others.layers;
+    isList = isList || others.isList;
+}
+
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
     : m_project(project), m_store(store), m_ids(project), m_groups(project),
       m_around([](size_t, const std::function<void()>& write) { write(); }),
@@ -82,34 +90,36 @@ void ProjectMirror::SetRefused(Refused refused)
     m_refused = std::move(refused);
 }
 
-bool ProjectMirror::ReadAll()
+MirrorChanges ProjectMirror::ReadAll()
 {
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
-    return Read([&] {
-        bool differs = DeleteMissing();
+    const LayerNodes nodes = LayerNodes::Indexed(m_project);
+    return Read([&](MirrorChanges& changes) {
+        DeleteMissing(changes);
         for (QgsMapLayer* layer : m_project.mapLayers())
-            differs |= StoreLayer(*layer, PriorityIn(priorities, *layer));
-        return ReadGroups() || differs;
+            StoreLayer(*layer, nodes, PriorityIn(priorities, *layer), changes);
+        ReadGroups(changes);
     });
 }
 
-bool ProjectMirror::ReadLayers(const QSet<QString>& layers)
+MirrorChanges ProjectMirror::ReadLayers(const QSet<QString>& layers)
 {
-    return Read([&] {
-        bool differs = DeleteMissing();
+    const LayerNodes nodes = NodesFor(size_t(layers.size()));
+    return Read([&](MirrorChanges& changes) {
         for (const QString& id : layers) {
             if (QgsMapLayer* layer = m_project.mapLayer(id))
-                differs |= StoreLayer(*layer, ValueOf(KnownRow(*layer), "Priority"));
+                StoreLayer(*layer, nodes, KnownPriority(*layer), changes);
+            else
+                Delete(m_ids.Known(id), changes);
         }
-        return differs;
     });
 }
 
-bool ProjectMirror::ReadTree()
+MirrorChanges ProjectMirror::ReadTree()
 {
-    return Read([&] {
-        const bool layersDiffer = ReadPriorities();
-        return ReadGroups() || layersDiffer;
+    return Read([&](MirrorChanges& changes) {
+        ReadPriorities(changes);
+        ReadGroups(changes);
     });
 }
 
@@ -119,16 +129,16 @@ void ProjectMirror::Forget()
     for (const char* table : {"LayerGroupMembers", "LayerGroups", "Layers"})
         m_store.Execute(QStringLiteral("DELETE FROM ") + QLatin1String(table));
     transaction.Commit();
-    m_rows.clear();
+    m_rows.Clear();
     m_ids.Reset();
 }
 
-bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
+MirrorChanges ProjectMirror::Write(const QSet<qint32>& layerIDs)
 {
     const std::vector<Change> changes = ChangesOf(layerIDs);
-    bool differs = false;
+    MirrorChanges taken;
     if (changes.empty())
-        return differs;
+        return taken;
     RefusedChanges refused;
     m_around(changes.size(), [&] {
         try {
@@ -138,11 +148,11 @@ bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
             StoreTaken(changes);
             throw;
         }
-        differs = StoreTaken(changes);
+        taken = StoreTaken(changes);
     });
     if (const std::vector<RefusedColumns> layers = refused.All(); !layers.empty())
         m_refused(layers);
-    return differs;
+    return taken;
 }
 
 void ProjectMirror::WriteName(qint32 layerID, const QString& name)
@@ -152,8 +162,11 @@ void ProjectMirror::WriteName(qint32 layerID, const QString& name)
         return;
     layer->setName(name);
     m_project.setDirty(true);
-    if (m_rows.contains(layerID))
-        SetValue(m_rows[layerID], "Name", name);
+    if (const LayerValues* known = m_rows.Find(layerID)) {
+        LayerValues row = *known;
+        SetValue(row, "Name", name);
+        m_rows.Set(layerID, row);
+    }
 }
 
 void ProjectMirror::WriteGroupName(qint32 groupID, const QString& name)
@@ -162,74 +175,84 @@ void ProjectMirror::WriteGroupName(qint32 groupID, const QString& name)
     m_project.setDirty(true);
 }
 
-bool ProjectMirror::Read(const std::function<bool()>& read)
+MirrorChanges ProjectMirror::Read(const std::function<void(MirrorChanges& changes)>& read)
 {
     const QgsProjectDirtyBlocker unchanged(&m_project); // reading gives layers their numbers
-    const QHash<qint32, LayerValues> before = m_rows;
+    MirrorChanges changes;
+    m_rows.Begin();
     try {
         Transaction transaction(m_store);
-        const bool differs = read();
+        read(changes);
         transaction.Commit();
-        return differs;
     } catch (...) {
-        m_rows = before;
+        m_rows.TakeBack();
         throw;
     }
+    m_rows.Begin();
+    return changes;
 }
 
-LayerValues ProjectMirror::KnownRow(QgsMapLayer& layer)
+LayerNodes ProjectMirror::NodesFor(size_t layers) const
 {
-    const auto known = m_rows.constFind(m_ids.Of(layer));
-    return known == m_rows.constEnd() ? UnknownLayerValues() : *known;
+    return layers > FewLayers ? LayerNodes::Indexed(m_project) : LayerNodes(m_project);
 }
 
-bool ProjectMirror::ReadPriorities()
+Value ProjectMirror::KnownPriority(QgsMapLayer& layer)
+{
+    const LayerValues* known = m_rows.Find(m_ids.Of(layer));
+    return known ? ValueOf(*known, "Priority") : Value::Null();
+}
+
+void ProjectMirror::ReadPriorities(MirrorChanges& changes)
 {
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
-    bool differs = false;
     for (QgsMapLayer* layer : m_project.mapLayers()) {
-        const auto known = m_rows.constFind(m_ids.Of(*layer));
-        if (known == m_rows.constEnd())
+        const LayerValues* known = m_rows.Find(m_ids.Known(layer->id()));
+        if (!known)
             continue;
         LayerValues row = *known;
         SetValue(row, "Priority", PriorityIn(priorities, *layer));
         SetValue(row, "SnapRequired", ReadSnap(*layer, m_project));
         if (Differs(*known, row, "Priority") || Differs(*known, row, "SnapRequired"))
-            differs |= Store(row);
+            Store(row, changes);
     }
-    return differs;
 }
 
-bool ProjectMirror::ReadGroups()
+void ProjectMirror::ReadGroups(MirrorChanges& changes)
 {
     QHash<QString, qint32> ids;
-    for (QgsMapLayer* layer : m_project.mapLayers())
-        ids.insert(layer->id(), m_ids.Of(*layer));
+    for (QgsMapLayer* layer : m_project.mapLayers()) {
+        const qint32 known = m_ids.Known(layer->id());
+        ids.insert(layer->id(), known != 0 ? known : m_ids.Of(*layer));
+    }
     const std::vector<ListedGroup> groups = m_groups.Read(ids);
     if (AreAlike(StoredList::Groups(m_store), groups))
-        return false; // comparing all layers takes longer
-    return StoredList::Update(m_store, StoredList::Layers(m_store), groups);
+        return; // comparing all layers takes longer
+    if (StoredList::Update(m_store, StoredList::Layers(m_store), groups))
+        changes.isList = true;
 }
 
-bool ProjectMirror::DeleteMissing()
+void ProjectMirror::DeleteMissing(MirrorChanges& changes)
 {
-    std::vector<qint32> missing;
-    missing.reserve(size_t(m_rows.size()));
-    for (auto row = m_rows.keyBegin(); row != m_rows.keyEnd(); ++row) {
-        if (!Layer(*row))
-            missing.push_back(*row);
+    for (const qint32 layerID : m_rows.LayerIDs()) {
+        if (!Layer(layerID))
+            Delete(layerID, changes);
     }
-    for (const qint32 layerID : missing) {
-        StoredRows::Delete(m_store, layerID);
-        m_rows.remove(layerID);
-    }
-    return !missing.empty();
 }
 
-LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
+void ProjectMirror::Delete(qint32 layerID, MirrorChanges& changes)
 {
-    ForgetEndedMode(layer, m_project);
-    LayerValues row = Orvane::ReadLayer(layer, m_project);
+    if (!m_rows.Find(layerID))
+        return;
+    StoredRows::Delete(m_store, layerID);
+    m_rows.Remove(layerID);
+    changes.isList = true;
+}
+
+LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority)
+{
+    ForgetEndedMode(layer, nodes);
+    LayerValues row = Orvane::ReadLayer(layer, nodes);
     SetValue(row, "LayerID", m_ids.Of(layer));
     SetValue(row, "Name", layer.name());
     SetValue(row, "Priority", priority);
@@ -238,24 +261,24 @@ LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
     return row;
 }
 
-bool ProjectMirror::StoreLayer(QgsMapLayer& layer, const Value& priority)
+void ProjectMirror::StoreLayer(
+    QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority, MirrorChanges& changes)
 {
-    return NamingTheLayer(layer.name(), [&] { return Store(RowOf(layer, priority)); });
+    NamingTheLayer(layer.name(), [&] { Store(RowOf(layer, nodes, priority), changes); });
 }
 
-bool ProjectMirror::Store(const LayerValues& row)
+void ProjectMirror::Store(const LayerValues& row, MirrorChanges& changes)
 {
     const qint32 layerID = *row.front().Get<qint32>();
-    const auto known = m_rows.constFind(layerID);
-    if (known == m_rows.constEnd()) {
+    if (const LayerValues* known = m_rows.Find(layerID)) {
+        if (!StoredRows::Update(m_store, *known, row))
+            return;
+        changes.layers.insert(layerID);
+    } else {
         StoredRows::Insert(m_store, row);
-        m_rows.insert(layerID, row);
-        return true;
+        changes.isList = true;
     }
-    const bool differs = StoredRows::Update(m_store, *known, row);
-    if (differs)
-        m_rows[layerID] = row;
-    return differs;
+    m_rows.Set(layerID, row);
 }
 
 std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& layerIDs)
@@ -264,9 +287,9 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
     changes.reserve(size_t(layerIDs.size()));
     for (const qint32 layerID : layerIDs) {
         QgsMapLayer* layer = Layer(layerID);
-        const auto known = m_rows.constFind(layerID);
+        const LayerValues* known = m_rows.Find(layerID);
         const auto stored = StoredRows::Read(m_store, layerID);
-        if (layer && stored && known != m_rows.constEnd() && StoredRows::AreDifferent(*known, *stored))
+        if (layer && stored && known && StoredRows::AreDifferent(*known, *stored))
             changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored});
     }
     return changes;
@@ -284,6 +307,7 @@ RefusedChanges ProjectMirror::WriteLooks(const std::vector<Change>& changes)
 {
     RefusedChanges refused;
     SignalBatch batch(m_project, m_panel);
+    const LayerNodes nodes = NodesFor(changes.size());
     const auto setRenderer = [&batch](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
         batch.SetRenderer(layer, std::move(renderer));
     };
@@ -292,7 +316,7 @@ RefusedChanges ProjectMirror::WriteLooks(const std::vector<Change>& changes)
             continue;
         const QString name = change.layer->name();
         const WrittenLayer written = NamingTheLayer(name, [&] {
-            return WriteLayer(*change.layer, m_project, change.before, change.after, setRenderer);
+            return WriteLayer(*change.layer, nodes, change.before, change.after, setRenderer);
         });
         refused.Add(name, written.refused, change.before, change.stored);
         if (change.layer)
@@ -329,25 +353,25 @@ void ProjectMirror::TakeBack(const std::vector<Change>& changes)
 {
     std::vector<Change> reversed = changes;
     std::erase_if(reversed, [](const Change& change) { return !change.layer; });
+    const LayerNodes nodes = NodesFor(reversed.size());
     for (Change& change : reversed) {
-        change.after = RowOf(*change.layer, ValueOf(change.before, "Priority"));
+        change.after = RowOf(*change.layer, nodes, ValueOf(change.before, "Priority"));
         std::swap(change.before, change.after);
     }
     WriteChanges(reversed);
 }
 
-bool ProjectMirror::StoreTaken(const std::vector<Change>& changes)
+MirrorChanges ProjectMirror::StoreTaken(const std::vector<Change>& changes)
 {
     const QHash<QString, qint32> priorities = LayerOrder::Read(m_project);
-    return Read([&] {
-        bool differs = false;
+    const LayerNodes nodes = NodesFor(changes.size());
+    return Read([&](MirrorChanges& differing) {
         for (const Change& change : changes) {
             if (!change.layer)
                 continue;
-            m_rows[change.layerID] = change.stored;
-            differs |= Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
+            m_rows.Set(change.layerID, change.stored);
+            Store(RowOf(*change.layer, nodes, PriorityIn(priorities, *change.layer)), differing);
         }
-        return differs;
     });
 }
 

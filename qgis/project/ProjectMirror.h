@@ -2,12 +2,13 @@
 #pragma once
 
 #include "qgis/layers/LayerIDs.h"
+#include "qgis/layers/LayerNodes.h"
 #include "qgis/layers/LayerValues.h"
 #include "qgis/project/GroupMirror.h"
+#include "qgis/project/KnownRows.h"
 #include "qgis/project/RefusedChanges.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QPointer>
 #include <QSet>
 #include <QString>
@@ -22,6 +23,15 @@ class QgsProject;
 namespace Orvane {
 
 class ILayerStore;
+
+/// What has changed in a store.
+struct MirrorChanges {
+    QSet<qint32> layers; ///< rows with other values
+    bool isList = false; ///< rows or groups came, went, or are others
+
+    explicit operator bool() const { return isList || !layers.isEmpty(); }
+    void Add(const MirrorChanges& others);
+};
 
 /// Keeps a layer store alike with a QGIS project. The store has one row for each layer of the project and one
 /// group for each of its groups. A layer's row stays as long as the layer does: only columns that differ are
@@ -50,21 +60,24 @@ public:
     /// The row of a layer of the project.
     qint32 IDOf(QgsMapLayer& layer) { return m_ids.Of(layer); }
 
-    /// Reads everything. Returns true if the store has changed, as ReadLayers and ReadTree do.
-    bool ReadAll();
+    /// The ID in QGIS of the layer with that row, which may have left the project.
+    QString TextOf(qint32 layerID) const { return m_ids.TextOf(layerID); }
+
+    /// Reads everything. Returns what has changed in the store, as ReadLayers and ReadTree do.
+    MirrorChanges ReadAll();
     /// Reads these layers, by their IDs in QGIS. Those that have left the project lose their rows.
-    bool ReadLayers(const QSet<QString>& layers);
+    MirrorChanges ReadLayers(const QSet<QString>& layers);
     /// Reads the groups, and of all layers the snapping and the priority.
-    bool ReadTree();
+    MirrorChanges ReadTree();
     /// Removes all rows and starts afresh, for another project.
     void Forget();
 
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
     /// layers have taken: a raster, for example, takes no colour, and a column that is Null because the
-    /// classes of a layer differ stays as it is. Layers that have left the project are skipped. Returns true
-    /// if a row then differs from what it was. Passes on what writing a layer raises; the description then
-    /// names the layer.
-    bool Write(const QSet<qint32>& layerIDs);
+    /// classes of a layer differ stays as it is. Layers that have left the project are skipped. Returns
+    /// the rows that then differ from what they were. Passes on what writing a layer raises; the description
+    /// then names the layer.
+    MirrorChanges Write(const QSet<qint32>& layerIDs);
     /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
     void WriteName(qint32 layerID, const QString& name);
     void WriteGroupName(qint32 groupID, const QString& name);
@@ -78,27 +91,30 @@ private:
         LayerValues stored;
     };
 
-    bool Read(const std::function<bool()>& read);
-    LayerValues KnownRow(QgsMapLayer& layer);
-    bool ReadPriorities();
-    bool ReadGroups();
-    bool DeleteMissing();
-    LayerValues RowOf(QgsMapLayer& layer, const Value& priority);
-    bool StoreLayer(QgsMapLayer& layer, const Value& priority);
-    bool Store(const LayerValues& row);
+    MirrorChanges Read(const std::function<void(MirrorChanges& changes)>& read);
+    LayerNodes NodesFor(size_t layers) const;
+    Value KnownPriority(QgsMapLayer& layer);
+    void ReadPriorities(MirrorChanges& changes);
+    void ReadGroups(MirrorChanges& changes);
+    void DeleteMissing(MirrorChanges& changes);
+    void Delete(qint32 layerID, MirrorChanges& changes);
+    LayerValues RowOf(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority);
+    void StoreLayer(
+        QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority, MirrorChanges& changes);
+    void Store(const LayerValues& row, MirrorChanges& changes);
     std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs);
     RefusedChanges WriteChanges(const std::vector<Change>& changes);
     RefusedChanges WriteLooks(const std::vector<Change>& changes);
     void WriteSnapping(const std::vector<Change>& changes);
     void WritePriorities(const std::vector<Change>& changes);
     void TakeBack(const std::vector<Change>& changes);
-    bool StoreTaken(const std::vector<Change>& changes);
+    MirrorChanges StoreTaken(const std::vector<Change>& changes);
 
     QgsProject& m_project;
     ILayerStore& m_store;
     LayerIDs m_ids;
     GroupMirror m_groups;
-    QHash<qint32, LayerValues> m_rows; // as the project has them
+    KnownRows m_rows;
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;
     Refused m_refused;

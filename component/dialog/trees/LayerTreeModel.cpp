@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace Orvane {
@@ -87,6 +88,12 @@ QModelIndex LayerTreeModel::IndexOfLayer(const NodeReference& node) const
     return {};
 }
 
+bool LayerTreeModel::Lists(qint32 layerID) const
+{
+    const auto [first, last] = NumbersOf(layerID);
+    return first != last;
+}
+
 QSet<qint32> LayerTreeModel::LayersAmong(const QSet<qint32>& layerIDs) const
 {
     QSet<qint32> listed;
@@ -151,6 +158,40 @@ void LayerTreeModel::SetGroupText(qint32 groupID, const QString& text)
         const QModelIndex changed = index(int(row), 0);
         emit dataChanged(changed, changed);
     }
+}
+
+bool LayerTreeModel::UpdateLayer(const LayerEntry& layer)
+{
+    std::vector<int> changed;
+    bool isRenamed = false;
+    for (auto [entry, last] = NumbersOf(layer.layerID); entry != last; ++entry) {
+        LayerEntry& shown = m_layers[size_t(entry->number)];
+        const bool differs = shown != layer;
+        isRenamed = isRenamed || shown.text != layer.text;
+        shown = layer;
+        if (differs)
+            changed.push_back(entry->number);
+    }
+    ReportLayers(changed);
+    RefreshGroupImages(changed);
+    return isRenamed;
+}
+
+bool LayerTreeModel::PlaceLayer(qint32 layerID, const QString& name)
+{
+    const int from = NumbersOf(layerID).first->number;
+    const std::optional<int> to = PlaceByName(m_layers, from, name);
+    if (!to)
+        return false;
+    if (*to == from)
+        return true;
+    beginMoveRows({}, from, from, {}, *to > from ? *to + 1 : *to);
+    const auto row = m_layers.begin() + from;
+    const auto place = m_layers.begin() + *to;
+    place > row ? std::rotate(row, row + 1, place + 1) : std::rotate(place, row, row + 1);
+    m_byLayerID.clear();
+    endMoveRows();
+    return true;
 }
 
 QModelIndex LayerTreeModel::InsertLayer(const LayerEntry& layer)
