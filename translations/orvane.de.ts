@@ -1608,6 +1608,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>im Ordner „%1“ ist nicht genug Speicherplatz</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Den Stil „%1“ gibt es in diesen Layern nicht, sie behalten ihren: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>In „^1“ gibt es keine Transaktion, die abgeschlossen werden kann.</translation>
     </message>

@@ -1608,6 +1608,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>il n’y a plus de place dans le dossier « %1 »</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Ces couches n’ont pas de style « %1 » et gardent le leur : %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>Il n’y a pas de transaction à valider dans « ^1 ».</translation>
     </message>

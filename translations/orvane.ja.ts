@@ -1608,6 +1608,10 @@ These commands run without a window; each has its own --help:
         <translation>フォルダー「%1」の空き容量が不足しています</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>スタイル「%1」は次のレイヤにないため、元のままです: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>「^1」にはコミットするトランザクションがありません。</translation>
     </message>

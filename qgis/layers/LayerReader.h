@@ -8,8 +8,8 @@ class QgsProject;
 
 namespace Orvane {
 
-/// The values of a layer, as QGIS shows it. Null are LayerID, Name, Priority, Pseudo and SystemLayer, which
-/// are not read here, and what does not apply: the symbol columns of a raster, or a colour that differs
+/// The values of a layer, as QGIS shows it. Null are LayerID, Name, Priority, Style, Pseudo and SystemLayer,
+/// which are not read here, and what does not apply: the symbol columns of a raster, or a colour that differs
 /// between the classes of a layer. Kinds are those of the columns: bool for a flag, qint32, double. Never
 /// raises.
 LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project);

@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
+#include "qgis/project/LayerOwnValues.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
@@ -10,6 +11,8 @@
 
 #include <qgsexception.h>
 #include <qgsproject.h>
+
+#include <utility>
 
 namespace Orvane {
 
@@ -21,9 +24,11 @@ ProjectSession::ProjectSession(QgsProject& project)
         const ProjectWatcher::Silence own(m_watcher);
         write();
     });
+    m_mirror.SetTeller([this](const QString& message) { emit Failed(message); });
     ListenToProject();
     ListenToClient();
     m_mirror.ReadAll();
+    TellStyles();
 }
 
 ProjectSession::~ProjectSession() = default;
@@ -57,10 +62,13 @@ void ProjectSession::ListenToProject()
     connect(&m_watcher, &ProjectWatcher::ProjectReplaced, this, [this] {
         Guard([this] { ReadOtherProject(); });
     });
+    connect(&m_watcher, &ProjectWatcher::StyleRenamed, this, [this](const QString& from, const QString& to) {
+        Guard([&] { m_mirror.Styles().Rename(from, to); });
+    });
     connect(&m_project, &QgsProject::cleared, this, [this] {
         Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
     });
-    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { m_schemes.Write(); }); });
+    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { Save(); }); });
 }
 
 void ProjectSession::ListenToClient()
@@ -68,7 +76,7 @@ void ProjectSession::ListenToClient()
     const HostNotifications& told = m_client.Notifications();
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
-            if (!m_client.IsApplying() && m_mirror.Write(layerIDs))
+            if (!m_client.IsApplying() && m_mirror.Write(layerIDs, ProjectMirror::Meant::WholeRows))
                 m_client.RefreshEditors();
         });
     });
@@ -88,6 +96,7 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
     bool differs = m_mirror.ReadLayers(layers);
     if (isTree)
         differs |= m_mirror.ReadTree();
+    TellStyles();
     if (differs)
         m_client.RefreshEditors();
 }
@@ -99,7 +108,26 @@ void ProjectSession::ReadOtherProject()
     m_mirror.Forget();
     m_mirror.ReadAll();
     ReadSchemes();
+    TellStyles();
     m_client.RefreshEditors();
+}
+
+// The styles that are not current go into the file as they are kept.
+void ProjectSession::Save()
+{
+    const ProjectWatcher::Silence own(m_watcher);
+    for (QgsMapLayer* layer : m_project.mapLayers())
+        LayerOwnValues::CarryToStyles(*layer);
+    m_schemes.Write();
+}
+
+void ProjectSession::TellStyles()
+{
+    QStringList names;
+    for (const RendererStyle& style : m_mirror.Styles().Offered())
+        names << style.name;
+    if (std::exchange(m_offeredStyles, names) != names)
+        emit RendererStylesChanged();
 }
 
 } // namespace Orvane

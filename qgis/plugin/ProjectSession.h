@@ -8,6 +8,7 @@
 #include "qgis/project/ProjectWatcher.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -43,12 +44,16 @@ public:
 Q_SIGNALS:
     /// Something went wrong. message: for the user.
     void Failed(const QString& message);
+    /// The styles of QgisClient::RendererStyles have changed.
+    void RendererStylesChanged();
 
 private:
     void ListenToProject();
     void ListenToClient();
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
+    void Save();
+    void TellStyles();
 
     QgsProject& m_project;
     std::unique_ptr<ILayerStore> m_store;
@@ -57,6 +62,7 @@ private:
     ProjectSchemes m_schemes;
     QgisClient m_client;
     ProjectWatcher m_watcher;
+    QStringList m_offeredStyles;
 };
 
 } // namespace Orvane

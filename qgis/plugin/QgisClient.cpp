@@ -106,7 +106,7 @@ void QgisClient::IStyleEditorClient_RedrawMap()
     const QSet<qint32> changed = std::exchange(m_changed, {});
     std::exception_ptr error;
     try {
-        m_mirror.Write(changed);
+        m_mirror.Write(changed, ProjectMirror::Meant::Changes);
     } catch (...) {
         error = std::current_exception(); // the step ends with what was taken back
     }
@@ -114,6 +114,11 @@ void QgisClient::IStyleEditorClient_RedrawMap()
     StandardClient::IStyleEditorClient_RedrawMap();
     if (error)
         std::rethrow_exception(error);
+}
+
+std::vector<RendererStyle> QgisClient::IStyleEditorClient_RendererStyles() const
+{
+    return m_mirror.Styles().Offered();
 }
 
 qint32 QgisClient::IStyleEditorClient_CreateLayer()

@@ -56,6 +56,8 @@ protected:
     void IStyleEditorClient_LoadScheme(const QString& name) override;
     /// Writes the changed layers, and passes on what that raises; nothing of the operation is left then.
     void IStyleEditorClient_RedrawMap() override;
+    /// The named styles of the project's layers.
+    std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
 

@@ -6,12 +6,15 @@
 #include "qgis/layers/LayerSnap.h"
 #include "qgis/layers/LayerWriter.h"
 #include "qgis/project/LayerOrder.h"
+#include "qgis/project/LayerOwnValues.h"
 #include "qgis/project/SignalBatch.h"
 #include "qgis/project/StoredRows.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
 
+#include <QMap>
+#include <QStringList>
 #include <qgsmaplayer.h>
 #include <qgsproject.h>
 #include <qgsrenderer.h>
@@ -49,10 +52,20 @@ LayerValues Writable(const LayerValues& known, LayerValues wanted)
     return wanted;
 }
 
+// The columns in which the user's edit differs from what was there, the others as they are.
+LayerValues OnlyChanges(const LayerValues& was, const LayerValues& edited, LayerValues present)
+{
+    for (size_t column = 0; column < was.size(); ++column) {
+        if (Differs(was, edited, LayerColumns.at(column).name))
+            present.at(column) = edited.at(column);
+    }
+    return present;
+}
+
 } // namespace
 
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
-    : m_project(project), m_store(store), m_ids(project), m_groups(project),
+    : m_project(project), m_store(store), m_ids(project), m_groups(project), m_styles(project),
       m_around([](size_t, const std::function<void()>& write) { write(); })
 {
 }
@@ -68,7 +81,7 @@ bool ProjectMirror::ReadAll()
     return Read([&] {
         bool differs = DeleteMissing();
         for (QgsMapLayer* layer : m_project.mapLayers())
-            differs |= Store(RowOf(*layer, PriorityIn(priorities, *layer)));
+            differs |= Store(RestoredRow(*layer, PriorityIn(priorities, *layer)));
         return ReadGroups() || differs;
     });
 }
@@ -79,7 +92,7 @@ bool ProjectMirror::ReadLayers(const QSet<QString>& layers)
         bool differs = DeleteMissing();
         for (const QString& id : layers) {
             if (QgsMapLayer* layer = m_project.mapLayer(id))
-                differs |= Store(RowOf(*layer, ValueOf(KnownRow(*layer), "Priority")));
+                differs |= Store(RestoredRow(*layer, ValueOf(KnownRow(*layer), "Priority")));
         }
         return differs;
     });
@@ -101,11 +114,12 @@ void ProjectMirror::Forget()
     transaction.Commit();
     m_rows.clear();
     m_ids.Reset();
+    m_styles.Reset();
 }
 
-bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
+bool ProjectMirror::Write(const QSet<qint32>& layerIDs, Meant meant)
 {
-    const std::vector<Change> changes = ChangesOf(layerIDs);
+    const std::vector<Change> changes = ChangesOf(layerIDs, meant);
     bool differs = false;
     if (changes.empty())
         return differs;
@@ -119,6 +133,7 @@ bool ProjectMirror::Write(const QSet<qint32>& layerIDs)
         }
         differs = StoreTaken(changes);
     });
+    TellRefusals(changes);
     return differs;
 }
 
@@ -209,9 +224,19 @@ LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
     SetValue(row, "LayerID", m_ids.Of(layer));
     SetValue(row, "Name", layer.name());
     SetValue(row, "Priority", priority);
+    SetValue(row, "Style", m_styles.Of(layer));
     SetValue(row, "SystemLayer", false);
     SetValue(row, "Pseudo", false);
     return row;
+}
+
+// QGIS may have replaced the layer's style, with all that was kept in it.
+LayerValues ProjectMirror::RestoredRow(QgsMapLayer& layer, const Value& priority)
+{
+    const auto known = m_rows.constFind(m_ids.Of(layer));
+    if (known != m_rows.constEnd())
+        LayerOwnValues::Restore(layer, m_project, *known);
+    return RowOf(layer, priority);
 }
 
 bool ProjectMirror::Store(const LayerValues& row)
@@ -229,7 +254,7 @@ bool ProjectMirror::Store(const LayerValues& row)
     return differs;
 }
 
-std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& layerIDs)
+std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& layerIDs, Meant meant)
 {
     std::vector<Change> changes;
     changes.reserve(size_t(layerIDs.size()));
@@ -238,7 +263,7 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
         const auto known = m_rows.constFind(layerID);
         const auto stored = StoredRows::Read(m_store, layerID);
         if (layer && stored && known != m_rows.constEnd() && StoredRows::AreDifferent(*known, *stored))
-            changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored});
+            changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored, meant});
     }
     return changes;
 }
@@ -254,13 +279,45 @@ void ProjectMirror::WriteLooks(const std::vector<Change>& changes)
 {
     SignalBatch batch(m_project, m_panel);
     for (const Change& change : changes) {
+        const std::optional<Change> restyled = Restyled(change, batch);
+        const Change& written = restyled ? *restyled : change;
         WriteLayer(
-            *change.layer, m_project, change.before, change.after,
+            *change.layer, m_project, written.before, written.after,
             [&](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
                 batch.SetRenderer(layer, std::move(renderer));
             });
         batch.Add(*change.layer);
     }
+}
+
+// With another style current, other columns differ from those that are wanted.
+std::optional<ProjectMirror::Change> ProjectMirror::Restyled(const Change& change, SignalBatch& batch)
+{
+    const Value& number = ValueOf(change.after, "Style");
+    if (number.IsNull() || !Differs(change.before, change.after, "Style"))
+        return std::nullopt;
+    const QString style = m_styles.NameIn(*change.layer, ToInt32(number));
+    if (style.isEmpty())
+        return std::nullopt;
+    batch.Restyle(*change.layer, [&] { LayerOwnValues::SwitchStyle(*change.layer, m_project, style); });
+    Change restyled = change;
+    restyled.before = RowOf(*change.layer, ValueOf(change.before, "Priority"));
+    if (change.meant == Meant::Changes)
+        restyled.after = OnlyChanges(change.before, change.stored, restyled.before);
+    restyled.after = Writable(restyled.before, restyled.after);
+    return restyled;
+}
+
+void ProjectMirror::TellRefusals(const std::vector<Change>& changes)
+{
+    QMap<qint32, QStringList> refusals; // layers by styles that they lack
+    for (const Change& change : changes) {
+        const Value& style = ValueOf(change.stored, "Style");
+        if (!style.IsNull() && Differs(m_rows.value(change.layerID), change.stored, "Style"))
+            refusals[ToInt32(style)] << change.layer->name();
+    }
+    for (auto refusal = refusals.begin(); m_tell && refusal != refusals.end(); ++refusal)
+        m_tell(m_styles.RefusalText(refusal.key(), refusal.value()));
 }
 
 void ProjectMirror::WriteSnapping(const std::vector<Change>& changes)
@@ -293,6 +350,7 @@ void ProjectMirror::TakeBack(const std::vector<Change>& changes)
     for (Change& change : reversed) {
         change.after = RowOf(*change.layer, ValueOf(change.before, "Priority"));
         std::swap(change.before, change.after);
+        change.meant = Meant::WholeRows;
     }
     WriteChanges(reversed);
 }

@@ -81,6 +81,36 @@ TEST_F(ProjectSessionTest, TheFirstSchemeIsSavedWithoutAChangeOfTheUser)
     EXPECT_FALSE(opened.readEntry("Orvane", "LayerSchemes").isEmpty());
 }
 
+TEST_F(ProjectSessionTest, NewAndRemovedStylesAreTold)
+{
+    const QSignalSpy told(&session, &ProjectSession::RendererStylesChanged);
+    AddStyle(*roads, "Night", Qt::blue);
+    Settle();
+    EXPECT_EQ(told.count(), 1);
+    Paint(*roads, Qt::green);
+    Settle();
+    EXPECT_EQ(told.count(), 1);
+    roads->styleManager()->removeStyle("Night");
+    Settle();
+    EXPECT_EQ(told.count(), 2);
+}
+
+TEST_F(ProjectSessionTest, ASavedLayerHasItsNumberInEachStyle)
+{
+    const QTemporaryDir folder;
+    AddStyle(*roads, "Night", Qt::blue);
+    roads->styleManager()->removeStyle("Night");
+    AddStyle(*roads, "Evening", Qt::blue);
+    Apply({roads}, "Code", 7);
+    ASSERT_TRUE(project.write(folder.filePath("map.qgz")));
+    QgsProject opened;
+    ASSERT_TRUE(opened.read(folder.filePath("map.qgz")));
+    QgsMapLayer* saved = opened.mapLayer(roads->id());
+    ASSERT_TRUE(saved->styleManager()->setCurrentStyle("Evening"));
+    EXPECT_EQ(saved->customProperty("orvane/id").toInt(), IDOf(roads));
+    EXPECT_EQ(saved->customProperty("orvane/Code").toInt(), 7);
+}
+
 TEST_F(ProjectSessionTest, AnotherProjectStartsWithoutStepsAndSchemes)
 {
     const QTemporaryDir folder;
