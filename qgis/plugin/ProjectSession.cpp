@@ -9,6 +9,7 @@
 
 #include <OrvaneShellLib/Cancellation.h>
 
+#include <QFileInfo>
 #include <qgsexception.h>
 #include <qgsproject.h>
 
@@ -33,9 +34,27 @@ ProjectSession::ProjectSession(QgsProject& project)
 
 ProjectSession::~ProjectSession() = default;
 
+void ProjectSession::SetStartupFile(const QString& path)
+{
+    m_startupFile = path;
+    m_client.SetStartupFile(path);
+}
+
 void ProjectSession::ReadSchemes()
 {
-    Guard([this] { m_schemes.Read(); });
+    Guard([this] {
+        m_schemes.Read();
+        if (!m_schemes.AreKept() && QFileInfo::exists(m_startupFile))
+            ReadStartupSchemes();
+    });
+}
+
+// No change that the user has made.
+void ProjectSession::ReadStartupSchemes()
+{
+    const QgsProjectDirtyBlocker unchanged(&m_project);
+    m_client.LoadSchemesFromStartup();
+    m_client.History().Clear();
 }
 
 bool ProjectSession::Guard(const std::function<void()>& act) noexcept

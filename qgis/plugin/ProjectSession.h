@@ -30,8 +30,12 @@ public:
     explicit ProjectSession(QgsProject& project);
     ~ProjectSession() override;
 
-    /// Reads the schemes of the project; call it when Failed is listened to, before the first editor.
+    /// Reads the schemes of the project, or those of the startup file if it has none; call it when Failed is
+    /// listened to, before the first editor.
     void ReadSchemes();
+
+    /// The file of the schemes for projects that have none; it may be missing. path: absolute.
+    void SetStartupFile(const QString& path);
 
     QgisClient& Client() { return m_client; }
     ProjectMirror& Mirror() { return m_mirror; }
@@ -52,6 +56,7 @@ private:
     void ListenToClient();
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
+    void ReadStartupSchemes();
     void Save();
     void TellStyles();
 
@@ -63,6 +68,7 @@ private:
     QgisClient m_client;
     ProjectWatcher m_watcher;
     QStringList m_offeredStyles;
+    QString m_startupFile;
 };
 
 } // namespace Orvane

@@ -17,12 +17,19 @@ const QString HostKitName = QStringLiteral("OrvaneHostKitTexts");
 const QString OwnName = QStringLiteral("OrvaneQgisTexts");
 
 // Those of classes that are no QObjects; the others begin with the namespace.
-constexpr std::array PlainContexts{
-    "ChangeStep",        "ConflictBox",    "FileReplacement", "FillPatterns",   "LayerDeletion",
-    "LayerFactory",      "LayerList",      "LayerSchemes",    "LayerSteps",     "LayerStore",
-    "LongWork",          "ProjectSchemes", "ProjectStyles",   "QgisClient",     "SchemeDocument",
-    "SchemeFile",        "SchemeSteps",    "SchemeTables",    "StandardClient", "StandardShellServices",
-    "StyleEditorPlugin", "TextPrompt",     "TracingLibrary",  "UndoHistory"};
+constexpr std::array PlainContexts{"ChangeStep",        "ConflictBox",
+                                   "FileReplacement",   "FillPatterns",
+                                   "LayerDeletion",     "LayerFactory",
+                                   "LayerList",         "LayerSchemes",
+                                   "LayerSteps",        "LayerStore",
+                                   "LongWork",          "ProjectSchemes",
+                                   "ProjectStyles",     "QgisClient",
+                                   "SchemeDocument",    "SchemeFile",
+                                   "SchemeSteps",       "SchemeTables",
+                                   "ThemeChoice",       "ThemeStep",
+                                   "StandardClient",    "StandardShellServices",
+                                   "StyleEditorPlugin", "TextPrompt",
+                                   "TracingLibrary",    "UndoHistory"};
 
 /// Asks the host kit's translator, which answers any context, for own texts only.
 class OwnTranslator : public QTranslator

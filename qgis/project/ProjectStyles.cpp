@@ -39,8 +39,12 @@ ProjectStyles::ProjectStyles(QgsProject& project) : m_project(project)
 
 qint32 ProjectStyles::Of(const QgsMapLayer& layer)
 {
-    const QString current = layer.styleManager()->currentStyle();
-    return current == DefaultStyleOf(layer) ? 0 : NumberOf(current);
+    return NumberIn(layer, layer.styleManager()->currentStyle());
+}
+
+qint32 ProjectStyles::NumberIn(const QgsMapLayer& layer, const QString& style)
+{
+    return style == DefaultStyleOf(layer) ? 0 : NumberOf(style);
 }
 
 QString ProjectStyles::NameIn(const QgsMapLayer& layer, qint32 number) const

@@ -26,6 +26,8 @@ public:
 
     /// The number of the layer's current style.
     qint32 Of(const QgsMapLayer& layer);
+    /// The number of a style that the layer has.
+    qint32 NumberIn(const QgsMapLayer& layer, const QString& style);
     /// The name of the layer's style with that number; empty if it has none.
     QString NameIn(const QgsMapLayer& layer, qint32 number) const;
     /// Says to the user that these layers have no style of that number.
