@@ -240,6 +240,10 @@
         <translation>&amp;Legende des Gezeigten</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>&amp;Aus jedem dieser Kartenthemen ein Layerschema machen:</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>&amp;Objekt verschieben</translation>
     </message>
@@ -686,12 +690,28 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Karte exportieren</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>Kartenthema „%1“ exportieren</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>Schema exportieren</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>Export des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>Schema als Kartenthema exportieren</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>Schema als Kartenthema exportieren...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>Schema exportieren...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -758,6 +778,18 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Objekte anklickbarer Layer unter dem Zeiger hervorheben, mit jedem Werkzeug</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>Kartenthema „%1“ importieren</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>Kartenthemen importieren</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>Kartenthemen importieren...</translation>
+    </message>
+    <message>
         <source>hitable</source>
         <translation>anklickbar</translation>
     </message>
@@ -768,6 +800,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>Import des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>Schema importieren...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -1308,6 +1344,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Speichern der Schemas für neue Karten</translation>
     </message>
     <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>Aus Kartenthemen erzeugte Schemas: %1</translation>
+    </message>
+    <message>
         <source>selectable</source>
         <translation>auswählbar</translation>
     </message>
@@ -1576,6 +1616,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Kartendatei.</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>Das Kartenthema „%1“ ist bereits vorhanden. Soll es durch das Schema ersetzt werden?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>Die Karte wurde in einem anderen Fenster geändert und neu geladen.</translation>
     </message>
@@ -1612,12 +1656,24 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die aus „^1“ gelesenen Zeilen haben keine Spalte „^2“.</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>Das Schema „%1“ ist bereits vorhanden. Soll es durch das Kartenthema ersetzt werden?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>Das Schema „%1“ ist bereits vorhanden. Soll es durch das Schema in der Datei ersetzt werden?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>Das Schema „%1“ wurde als Kartenthema exportiert.</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>Das Schema „%1“ wurde exportiert.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>Das Schema „%1“ wurde importiert. Passende Layer: %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1692,6 +1748,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>im Ordner „%1“ ist nicht genug Speicherplatz</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Den Stil „%1“ gibt es in diesen Layern nicht, sie behalten ihren: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>In „^1“ gibt es keine Transaktion, die abgeschlossen werden kann.</translation>
     </message>
@@ -1716,8 +1776,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Dieses Programm hat keine Startdatenbank.</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>Dieses Projekt hat keine Kartenthemen.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>Dieser Schritt ist nicht mehr möglich, weil das Kartenthema seither geändert wurde. Es wurde nichts geändert: %1</translation>
     </message>
     <message>
         <source>Title of the map</source>

@@ -240,6 +240,10 @@
         <translation>&amp;Légende de ce qui est montré</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>&amp;Créer un schéma de couches de chacun de ces thèmes de carte :</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>Déplacer un &amp;objet</translation>
     </message>
@@ -686,12 +690,28 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Exporter la carte</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>Exporter le thème de carte « %1 »</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>Exporter le schéma</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>Exportation du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>Exporter le schéma comme thème de carte</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>Exporter le schéma comme thème de carte...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>Exporter le schéma...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -758,6 +778,18 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Mettre en évidence les objets des couches cliquables sous le pointeur, avec tout outil</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>Importer le thème de carte « %1 »</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>Importer des thèmes de carte</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>Importer des thèmes de carte...</translation>
+    </message>
+    <message>
         <source>hitable</source>
         <translation>cliquable</translation>
     </message>
@@ -768,6 +800,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>Importation du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>Importer un schéma...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -1308,6 +1344,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
     </message>
     <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>Schémas créés à partir de thèmes de carte : %1</translation>
+    </message>
+    <message>
         <source>selectable</source>
         <translation>sélectionnable</translation>
     </message>
@@ -1576,6 +1616,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le fichier de carte.</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>Il existe déjà un thème de carte « %1 ». Le remplacer par le schéma ?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>La carte a été modifiée dans une autre fenêtre et a été rechargée.</translation>
     </message>
@@ -1612,12 +1656,24 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Les lignes lues dans « ^1 » n’ont pas de colonne « ^2 ».</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>Il existe déjà un schéma « %1 ». Le remplacer par le thème de carte ?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>Il existe déjà un schéma « %1 ». Le remplacer par celui du fichier ?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>Le schéma « %1 » a été exporté comme thème de carte.</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>Le schéma « %1 » a été exporté.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>Le schéma « %1 » a été importé. Couches correspondantes : %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1692,6 +1748,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>il n’y a plus de place dans le dossier « %1 »</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Ces couches n’ont pas de style « %1 » et gardent le leur : %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>Il n’y a pas de transaction à valider dans « ^1 ».</translation>
     </message>
@@ -1716,8 +1776,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Ce programme n’a pas de base de données de démarrage.</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>Ce projet n’a pas de thèmes de carte.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>Cette étape n’est plus possible, car le thème de carte a été modifié depuis. Rien n’a été changé : %1</translation>
     </message>
     <message>
         <source>Title of the map</source>

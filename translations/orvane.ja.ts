@@ -240,6 +240,10 @@
         <translation>見えているものの凡例(&amp;L)</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>これらの地図テーマからレイヤースキームを作成(&amp;M):</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>地物を移動(&amp;M)</translation>
     </message>
@@ -686,12 +690,28 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図の書き出し</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>地図テーマ「%1」を書き出し</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>スキームを書き出し</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>スキームを地図テーマとして書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>スキームを地図テーマとして書き出し...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>スキームを書き出し...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -758,6 +778,18 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>地図テーマ「%1」を読み込み</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>地図テーマを読み込み</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>地図テーマを読み込み...</translation>
+    </message>
+    <message>
         <source>hitable</source>
         <translation>クリック可能</translation>
     </message>
@@ -768,6 +800,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>スキームを読み込み...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -1308,6 +1344,10 @@ These commands run without a window; each has its own --help:
         <translation>新しい地図用のスキームの保存</translation>
     </message>
     <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>地図テーマから作成したスキーム: %1</translation>
+    </message>
+    <message>
         <source>selectable</source>
         <translation>選択可能</translation>
     </message>
@@ -1576,6 +1616,10 @@ These commands run without a window; each has its own --help:
         <translation>地図ファイル。</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>地図テーマ「%1」はすでにあります。スキームで置き換えますか?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>地図が別のウィンドウで変更されたため、再読み込みしました。</translation>
     </message>
@@ -1612,12 +1656,24 @@ These commands run without a window; each has its own --help:
         <translation>「^1」から読み込んだ行には列「^2」がありません。</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>スキーム「%1」はすでにあります。地図テーマで置き換えますか?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>スキーム「%1」はすでにあります。ファイルのもので置き換えますか?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>スキーム「%1」を地図テーマとして書き出しました。</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>スキーム「%1」を書き出しました。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>スキーム「%1」を読み込みました。一致したレイヤー: %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1692,6 +1748,10 @@ These commands run without a window; each has its own --help:
         <translation>フォルダー「%1」の空き容量が不足しています</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>スタイル「%1」は次のレイヤーにないため、元のままです: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>「^1」にはコミットするトランザクションがありません。</translation>
     </message>
@@ -1716,8 +1776,16 @@ These commands run without a window; each has its own --help:
         <translation>このプログラムには起動時のデータベースがありません。</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>このプロジェクトに地図テーマはありません。</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>その後に地図テーマが変更されたため、この操作はできません。何も変更されていません: %1</translation>
     </message>
     <message>
         <source>Title of the map</source>

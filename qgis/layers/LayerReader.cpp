@@ -41,7 +41,6 @@ LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes)
     ReadSymbolColumns(values, layer);
     SetValue(values, "MinVisScale", scales.minimum);
     SetValue(values, "MaxVisScale", scales.maximum);
-    SetValue(values, "Style", KeptValues::Whole(layer, "Style").value_or(0));
     SetValue(values, "OverrideMode", ReadOverrideMode(layer, nodes));
     return values;
 }

@@ -35,10 +35,8 @@ private:
 
 void WriteKept(QgsMapLayer& layer, const Changes& changes)
 {
-    for (const std::string_view column : {"Code", "Style"}) {
-        if (changes.Has(column))
-            KeptValues::Keep(layer, column, ToInt32(changes.New(column)));
-    }
+    if (changes.Has("Code"))
+        KeptValues::Keep(layer, "Code", ToInt32(changes.New("Code")));
     if (changes.Has("Selectable"))
         KeptValues::Keep(layer, "Selectable", ToBoolean(changes.New("Selectable")));
 }

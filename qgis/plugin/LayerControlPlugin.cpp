@@ -2,16 +2,20 @@
 #include "qgis/plugin/LayerControlPlugin.h"
 
 #include "hostkit/StyleEditorPlugin.h"
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
 #include "qgis/plugin/LateEnd.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
 #include "qgis/plugin/QgisWindow.h"
+#include "qgis/plugin/SchemeCommands.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
@@ -51,6 +55,13 @@ std::unique_ptr<StyleEditorPlugin> LoadInLanguageOfQgis()
     const auto restore = qScopeGuard([&numbers] { QLocale::setDefault(numbers); });
     QLocale::setDefault(QLocale(QgsApplication::locale()));
     return std::make_unique<StyleEditorPlugin>(ComponentFile());
+}
+
+// Of the user's profile.
+QString StartupFile()
+{
+    return QDir(QgsApplication::qgisSettingsDirPath())
+        .absoluteFilePath(QStringLiteral("orvane/startup.orvane"));
 }
 
 } // namespace
@@ -95,6 +106,7 @@ void LayerControlPlugin::EndSession()
     const bool isQuitting = QThread::currentThread()->loopLevel() == 0; // QGIS has asked the user
     if (!isQuitting && m_session->Client().HasPendingEdits())
         Tell(tr("Changes in the layer control that were not applied have been dropped."));
+    m_schemes.reset();
     m_session->Client().SetDock(nullptr);
     m_session->Client().History().disconnect(this);
     m_session->Mirror().SetPanel(nullptr);
@@ -105,6 +117,9 @@ void LayerControlPlugin::RemoveActions()
 {
     for (QAction* action : {&m_show, &m_undo, &m_redo})
         m_qgis.removePluginMenu(tr("Layer Control"), action);
+    for (const auto& action : m_schemeActions)
+        m_qgis.removePluginMenu(tr("Layer Control"), action.get());
+    m_schemeActions.clear();
     m_qgis.removeToolBarIcon(&m_show);
 }
 
@@ -121,6 +136,7 @@ void LayerControlPlugin::AddActions()
     AddAction(m_show, tr("Layer Control"), &LayerControlPlugin::ShowFromMenu);
     AddAction(m_undo, tr("Undo Layer Change"), &LayerControlPlugin::Undo);
     AddAction(m_redo, tr("Redo Layer Change"), &LayerControlPlugin::Redo);
+    AddSchemeActions();
     m_show.setIcon(QIcon(QStringLiteral(":/orvane/qgis/orvane.svg")));
     m_show.setObjectName(QStringLiteral("OrvaneLayerControl"));
     m_qgis.addToolBarIcon(&m_show);
@@ -134,6 +150,28 @@ void LayerControlPlugin::AddAction(QAction& action, const QString& text, void (L
     m_qgis.addPluginToMenu(tr("Layer Control"), &action);
 }
 
+void LayerControlPlugin::AddSchemeActions()
+{
+    AddSchemeAction("OrvaneImportScheme", tr("Import Scheme..."), &SchemeCommands::ImportFile);
+    AddSchemeAction("OrvaneExportScheme", tr("Export Scheme..."), &SchemeCommands::ExportFile);
+    AddSchemeAction("OrvaneImportThemes", tr("Import Map Themes..."), &SchemeCommands::ImportThemes);
+    AddSchemeAction("OrvaneExportTheme", tr("Export Scheme as Map Theme..."), &SchemeCommands::ExportTheme);
+}
+
+void LayerControlPlugin::AddSchemeAction(const char* objectName, const QString& text, SchemeCommand command)
+{
+    auto action = std::make_unique<QAction>(text);
+    action->setObjectName(QLatin1String(objectName));
+    connect(action.get(), &QAction::triggered, this, [this, command] {
+        Guard([this, command] {
+            Start();
+            m_session->Guard([&] { (*m_schemes.*command)(); });
+        });
+    });
+    m_qgis.addPluginToMenu(tr("Layer Control"), action.get());
+    m_schemeActions.push_back(std::move(action));
+}
+
 void LayerControlPlugin::ShowFromMenu()
 {
     if (!Guard([this] { ShowEditor(); }) && m_dock)
@@ -142,21 +180,25 @@ void LayerControlPlugin::ShowFromMenu()
 
 void LayerControlPlugin::ShowEditor()
 {
-    if (!m_component)
-        Start();
+    Start();
     IStyleEditorLibrary& library = m_component->Library();
     IStyleEditor* editor = library.GetStyleEditor(EditorID);
-    if (!editor)
+    const bool isNew = !editor;
+    if (isNew)
         editor = library.NewStyleEditor(EditorID);
     editor->Visible(true);
+    m_isEditorOld = m_isEditorOld && !isNew;
     m_dock->show();
     m_pendingEdits.start();
 }
 
 void LayerControlPlugin::Start()
 {
+    if (m_component)
+        return;
     std::unique_ptr<StyleEditorPlugin> component = LoadInLanguageOfQgis();
     m_session = std::make_unique<ProjectSession>(*QgsProject::instance());
+    m_schemes = std::make_unique<SchemeCommands>(*m_qgis.mainWindow(), *m_session);
     ConnectSession();
     component->Library().Initialise(&m_session->Client());
     m_component = std::move(component);
@@ -166,9 +208,15 @@ void LayerControlPlugin::ConnectSession()
 {
     QgisClient& client = m_session->Client();
     connect(m_session.get(), &ProjectSession::Failed, this, &LayerControlPlugin::Tell);
+    connect(m_schemes.get(), &SchemeCommands::Done, this, &LayerControlPlugin::TellDone);
+    connect(&client.Notifications(), &HostNotifications::SchemesSavedToStartup, this, [this] {
+        TellDone(tr("All schemes of this map were saved for new maps."));
+    });
+    connect(m_session.get(), &ProjectSession::RendererStylesChanged, this, [this] { m_isEditorOld = true; });
     connect(&client.History(), &UndoHistory::Changed, this, &LayerControlPlugin::ShowSteps);
     client.SetMainWindow(m_qgis.mainWindow());
     client.SetDock(m_dock);
+    m_session->SetStartupFile(StartupFile());
     client.SetCommands(QgisWindow::Commands(m_qgis));
     QgisWindow::ConnectPanel(m_qgis, *m_session);
     m_session->ReadSchemes();
@@ -205,12 +253,33 @@ void LayerControlPlugin::WatchPendingEdits()
         QgsProject& project = *QgsProject::instance();
         if (!project.isDirty() && m_session->Client().HasPendingEdits())
             project.setDirty(true);
+        if (m_isEditorOld && m_dock->isVisible() && !m_session->Client().HasPendingEdits())
+            RenewEditor();
     });
+}
+
+// An editor reads the renderer styles once.
+void LayerControlPlugin::RenewEditor()
+{
+    m_isEditorOld = false;
+    auto* editor = dynamic_cast<IStyleEditorForm*>(m_component->Library().GetStyleEditor(EditorID));
+    if (!editor)
+        return;
+    const QPointer<QWidget> focused = QApplication::focusWidget();
+    editor->UnloadWithoutApply();
+    ShowEditor();
+    if (focused && focused->isVisible())
+        focused->setFocus();
 }
 
 void LayerControlPlugin::Tell(const QString& message)
 {
     m_qgis.messageBar()->pushMessage(tr("Layer Control"), message, Qgis::MessageLevel::Warning);
+}
+
+void LayerControlPlugin::TellDone(const QString& message)
+{
+    m_qgis.messageBar()->pushMessage(tr("Layer Control"), message, Qgis::MessageLevel::Success);
 }
 
 // Without a component there is no session that could guard this.

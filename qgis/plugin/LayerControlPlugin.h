@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QgisInterface;
 
@@ -16,6 +17,7 @@ namespace Orvane {
 
 class EditorDock;
 class ProjectSession;
+class SchemeCommands;
 class StyleEditorPlugin;
 
 /// The layer control in QGIS: a dock, a button, and entries in the menu of plug-ins. The component is loaded,
@@ -43,6 +45,9 @@ private:
     void AddDock();
     void AddActions();
     void AddAction(QAction& action, const QString& text, void (LayerControlPlugin::*slot)());
+    void AddSchemeActions();
+    using SchemeCommand = void (SchemeCommands::*)();
+    void AddSchemeAction(const char* objectName, const QString& text, SchemeCommand command);
     void ShowFromMenu();
     void ShowEditor();
     void Start();
@@ -53,7 +58,9 @@ private:
     void Redo();
     void ShowSteps();
     void WatchPendingEdits();
+    void RenewEditor();
     void Tell(const QString& message);
+    void TellDone(const QString& message);
     bool Guard(const std::function<void()>& act) noexcept;
 
     QgisInterface& m_qgis;
@@ -62,9 +69,12 @@ private:
     QAction m_undo;
     QAction m_redo;
     QTimer m_pendingEdits;
+    std::vector<std::unique_ptr<QAction>> m_schemeActions;
     std::unique_ptr<ProjectSession> m_session;
+    std::unique_ptr<SchemeCommands> m_schemes;
     std::unique_ptr<StyleEditorPlugin> m_component; // ended first: it ends its editors through the client
     bool m_isShown = false; // initGui was called
+    bool m_isEditorOld = false; // it has read renderer styles that are others now
 };
 
 } // namespace Orvane

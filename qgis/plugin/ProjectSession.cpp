@@ -4,11 +4,13 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "qgis/plugin/RefusalText.h"
+#include "qgis/project/LayerOwnValues.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/Cancellation.h>
 
+#include <QFileInfo>
 #include <QScopedValueRollback>
 #include <qgsexception.h>
 #include <qgsproject.h>
@@ -27,16 +29,36 @@ ProjectSession::ProjectSession(QgsProject& project)
     });
     m_mirror.SetRefused(
         [this](const std::vector<RefusedColumns>& layers) { emit Failed(RefusalText::Of(layers)); });
+    m_mirror.SetTeller([this](const QString& message) { emit Failed(message); });
     ListenToProject();
     ListenToClient();
     m_mirror.ReadAll();
+    TellStyles();
 }
 
 ProjectSession::~ProjectSession() = default;
 
+void ProjectSession::SetStartupFile(const QString& path)
+{
+    m_startupFile = path;
+    m_client.SetStartupFile(path);
+}
+
 void ProjectSession::ReadSchemes()
 {
-    Guard([this] { m_schemes.Read(); });
+    Guard([this] {
+        m_schemes.Read();
+        if (!m_schemes.AreKept() && QFileInfo::exists(m_startupFile))
+            ReadStartupSchemes();
+    });
+}
+
+// No change that the user has made.
+void ProjectSession::ReadStartupSchemes()
+{
+    const QgsProjectDirtyBlocker unchanged(&m_project);
+    m_client.LoadSchemesFromStartup();
+    m_client.History().Clear();
 }
 
 void ProjectSession::Undo()
@@ -87,10 +109,13 @@ void ProjectSession::ListenToProject()
     connect(&m_watcher, &ProjectWatcher::ProjectReplaced, this, [this] {
         Guard([this] { ReadOtherProject(); });
     });
+    connect(&m_watcher, &ProjectWatcher::StyleRenamed, this, [this](const QString& from, const QString& to) {
+        Guard([&] { m_mirror.Styles().Rename(from, to); });
+    });
     connect(&m_project, &QgsProject::cleared, this, [this] {
         Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
     });
-    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { m_schemes.Write(); }); });
+    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { Save(); }); });
 }
 
 void ProjectSession::ListenToClient()
@@ -99,7 +124,7 @@ void ProjectSession::ListenToClient()
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
             if (!m_client.IsApplying())
-                Show(m_mirror.Write(layerIDs));
+                Show(m_mirror.Write(layerIDs, ProjectMirror::Meant::WholeRows));
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
@@ -120,6 +145,7 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
     if (isTree)
         changes.Add(m_mirror.ReadTree());
     m_isBehind = false;
+    TellStyles();
     Show(changes);
 }
 
@@ -138,7 +164,26 @@ void ProjectSession::ReadOtherProject()
     m_mirror.Forget();
     m_mirror.ReadAll();
     ReadSchemes();
+    TellStyles();
     m_client.RefreshEditors();
+}
+
+// The styles that are not current go into the file as they are kept.
+void ProjectSession::Save()
+{
+    const ProjectWatcher::Silence own(m_watcher);
+    for (QgsMapLayer* layer : m_project.mapLayers())
+        LayerOwnValues::CarryToStyles(*layer);
+    m_schemes.Write();
+}
+
+void ProjectSession::TellStyles()
+{
+    QStringList names;
+    for (const RendererStyle& style : m_mirror.Styles().Offered())
+        names << style.name;
+    if (std::exchange(m_offeredStyles, names) != names)
+        emit RendererStylesChanged();
 }
 
 } // namespace Orvane

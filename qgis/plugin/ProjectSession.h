@@ -8,6 +8,7 @@
 #include "qgis/project/ProjectWatcher.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -29,8 +30,12 @@ public:
     explicit ProjectSession(QgsProject& project);
     ~ProjectSession() override;
 
-    /// Reads the schemes of the project; call it when Failed is listened to, before the first editor.
+    /// Reads the schemes of the project, or those of the startup file if it has none; call it when Failed is
+    /// listened to, before the first editor.
     void ReadSchemes();
+
+    /// The file of the schemes for projects that have none; it may be missing. path: absolute.
+    void SetStartupFile(const QString& path);
 
     QgisClient& Client() { return m_client; }
     ProjectMirror& Mirror() { return m_mirror; }
@@ -53,6 +58,8 @@ public:
 Q_SIGNALS:
     /// Something went wrong. message: for the user.
     void Failed(const QString& message);
+    /// The styles of QgisClient::RendererStyles have changed.
+    void RendererStylesChanged();
 
 private:
     void ListenToProject();
@@ -60,6 +67,9 @@ private:
     void Show(const MirrorChanges& changes);
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
+    void ReadStartupSchemes();
+    void Save();
+    void TellStyles();
 
     QgsProject& m_project;
     std::unique_ptr<ILayerStore> m_store;
@@ -68,6 +78,8 @@ private:
     ProjectSchemes m_schemes;
     QgisClient m_client;
     ProjectWatcher m_watcher;
+    QStringList m_offeredStyles;
+    QString m_startupFile;
     bool m_isBehind = false; // a change could not be read
     int m_running = 0;
 };

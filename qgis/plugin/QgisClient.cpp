@@ -115,7 +115,7 @@ void QgisClient::IStyleEditorClient_RedrawMap()
     const QSet<qint32> changed = std::exchange(m_changed, {});
     std::exception_ptr error;
     try {
-        m_mirror.Write(changed);
+        m_mirror.Write(changed, ProjectMirror::Meant::Changes);
     } catch (...) {
         error = std::current_exception(); // the step ends with what was taken back
     }
@@ -136,6 +136,11 @@ ConflictChoice QgisClient::IConflictQuestion_AskAboutConflicts(
 {
     const Running running(m_running, m_running + 1);
     return StandardClient::IConflictQuestion_AskAboutConflicts(form, node, edits);
+}
+
+std::vector<RendererStyle> QgisClient::IStyleEditorClient_RendererStyles() const
+{
+    return m_mirror.Styles().Offered();
 }
 
 qint32 QgisClient::IStyleEditorClient_CreateLayer()

@@ -62,6 +62,8 @@ protected:
     PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override;
     ConflictChoice IConflictQuestion_AskAboutConflicts(
         QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
+    /// The named styles of the project's layers.
+    std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
 

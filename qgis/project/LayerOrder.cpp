@@ -100,6 +100,12 @@ QHash<QString, qint32> LayerOrder::Read(const QgsProject& project)
     return priorities;
 }
 
+Value LayerOrder::PriorityIn(const QHash<QString, qint32>& priorities, const QgsMapLayer& layer)
+{
+    const auto found = priorities.constFind(layer.id());
+    return found == priorities.constEnd() ? Value::Null() : Value(*found);
+}
+
 void LayerOrder::Write(QgsProject& project, const QHash<QString, qint32>& priorities)
 {
     QHash<QString, qint32> wanted = Read(project);

@@ -6,6 +6,7 @@
 #include "qgis/layers/LayerValues.h"
 #include "qgis/project/GroupMirror.h"
 #include "qgis/project/KnownRows.h"
+#include "qgis/project/ProjectStyles.h"
 #include "qgis/project/RefusedChanges.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,8 @@
 #include <qgsmaplayer.h>
 
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 class QgsLayerTreeModel;
@@ -23,6 +26,7 @@ class QgsProject;
 namespace Orvane {
 
 class ILayerStore;
+class SignalBatch;
 
 /// What has changed in a store.
 struct MirrorChanges {
@@ -54,6 +58,11 @@ public:
     /// Called at the end of a Write that could not set everything, with the layers that did not take it.
     using Refused = std::function<void(const std::vector<RefusedColumns>& layers)>;
     void SetRefused(Refused refused);
+    /// What is told, for the user, when layers do not have the style that was stored.
+    void SetTeller(std::function<void(const QString& message)> tell) { m_tell = std::move(tell); }
+
+    /// The numbers of the layers' named styles.
+    ProjectStyles& Styles() { return m_styles; }
 
     /// The layer with that row; nullptr if the project has none.
     QgsMapLayer* Layer(qint32 layerID) const { return m_ids.Layer(layerID); }
@@ -72,12 +81,16 @@ public:
     /// Removes all rows and starts afresh, for another project.
     void Forget();
 
+    /// Whether the columns that are as before are meant as well, when a layer gets another named style: those
+    /// of a scheme and of a step that is undone are, those beside an edit are not.
+    enum class Meant { Changes, WholeRows };
+
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the
     /// layers have taken: a raster, for example, takes no colour, and a column that is Null because the
-    /// classes of a layer differ stays as it is. Layers that have left the project are skipped. Returns
-    /// the rows that then differ from what they were. Passes on what writing a layer raises; the description
-    /// then names the layer.
-    MirrorChanges Write(const QSet<qint32>& layerIDs);
+    /// classes of a layer differ stays as it is. A named style is made current before the other columns are
+    /// written. Layers that have left the project are skipped. Returns the rows that then differ from what
+    /// they were. Passes on what writing a layer raises; the description then names the layer.
+    MirrorChanges Write(const QSet<qint32>& layerIDs, Meant meant = Meant::WholeRows);
     /// Does nothing if the layer has left the project, as WriteGroupName does for a group.
     void WriteName(qint32 layerID, const QString& name);
     void WriteGroupName(qint32 groupID, const QString& name);
@@ -89,6 +102,7 @@ private:
         LayerValues before; // as the project has it
         LayerValues after; // as it is to be
         LayerValues stored;
+        Meant meant;
     };
 
     MirrorChanges Read(const std::function<void(MirrorChanges& changes)>& read);
@@ -99,12 +113,15 @@ private:
     void DeleteMissing(MirrorChanges& changes);
     void Delete(qint32 layerID, MirrorChanges& changes);
     LayerValues RowOf(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority);
-    void StoreLayer(
-        QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority, MirrorChanges& changes);
+    LayerValues RestoredRow(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority);
+    void
+    StoreLayer(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority, MirrorChanges& changes);
     void Store(const LayerValues& row, MirrorChanges& changes);
-    std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs);
+    std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs, Meant meant);
     RefusedChanges WriteChanges(const std::vector<Change>& changes);
     RefusedChanges WriteLooks(const std::vector<Change>& changes);
+    std::optional<Change> Restyled(const Change& change, const LayerNodes& nodes, SignalBatch& batch);
+    void TellMissingStyles(const std::vector<Change>& changes);
     void WriteSnapping(const std::vector<Change>& changes);
     void WritePriorities(const std::vector<Change>& changes);
     void TakeBack(const std::vector<Change>& changes);
@@ -114,10 +131,12 @@ private:
     ILayerStore& m_store;
     LayerIDs m_ids;
     GroupMirror m_groups;
+    ProjectStyles m_styles;
     KnownRows m_rows;
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;
     Refused m_refused;
+    std::function<void(const QString&)> m_tell;
 };
 
 } // namespace Orvane

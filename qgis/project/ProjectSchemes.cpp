@@ -139,6 +139,11 @@ void ProjectSchemes::Read()
         Store(text.toUtf8());
 }
 
+bool ProjectSchemes::AreKept() const
+{
+    return !m_project.readEntry(Scope, Entry).isEmpty();
+}
+
 void ProjectSchemes::Write()
 {
     SchemeTables tables(m_store);

@@ -30,6 +30,9 @@ public:
     /// has no schemes. Raises errors of the store.
     void Read();
 
+    /// True if the project has schemes.
+    bool AreKept() const;
+
     /// Gives the project the schemes of the store, which marks it as changed if they differ from what it has.
     void Write();
 

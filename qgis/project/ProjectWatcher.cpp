@@ -2,6 +2,7 @@
 #include "qgis/project/ProjectWatcher.h"
 
 #include <qgslayertree.h>
+#include <qgsmaplayerstylemanager.h>
 #include <qgsproject.h>
 #include <qgsvectorlayer.h>
 
@@ -88,6 +89,18 @@ void ProjectWatcher::ListenToLayer(QgsMapLayer& layer)
         connect(vector, &QgsVectorLayer::editingStarted, this, note);
         connect(vector, &QgsVectorLayer::editingStopped, this, note);
     }
+    ListenToStyles(layer);
+}
+
+void ProjectWatcher::ListenToStyles(QgsMapLayer& layer)
+{
+    const auto note = [this, id = layer.id()] { NoteLayer(id); };
+    const QgsMapLayerStyleManager* styles = layer.styleManager();
+    connect(styles, &QgsMapLayerStyleManager::currentStyleChanged, this, note);
+    connect(styles, &QgsMapLayerStyleManager::styleAdded, this, note);
+    connect(styles, &QgsMapLayerStyleManager::styleRemoved, this, note);
+    connect(styles, &QgsMapLayerStyleManager::styleRenamed, this, note);
+    connect(styles, &QgsMapLayerStyleManager::styleRenamed, this, &ProjectWatcher::StyleRenamed);
 }
 
 void ProjectWatcher::NoteLayer(const QString& layerID)

@@ -44,11 +44,14 @@ Q_SIGNALS:
     /// These layers were added, removed or changed, by their IDs in QGIS. isTree: nodes of the tree, the
     /// order of drawing or the snapping may have changed as well.
     void Changed(const QSet<QString>& layerIDs, bool isTree);
+    /// A named style of a layer got another name; told at once, by whomever it was renamed.
+    void StyleRenamed(const QString& from, const QString& to);
 
 private:
     void ListenToProject();
     void ListenToTree();
     void ListenToLayer(QgsMapLayer& layer);
+    void ListenToStyles(QgsMapLayer& layer);
     void NoteLayer(const QString& layerID);
     void NoteTree();
     void NoteProject();

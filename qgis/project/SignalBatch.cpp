@@ -42,8 +42,13 @@ void RefreshLayoutLegends(const QgsProject& project, const QSet<QgsMapLayer*>& l
 
 void SignalBatch::SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer)
 {
+    Restyle(layer, [&] { layer.setRenderer(renderer.release()); });
+}
+
+void SignalBatch::Restyle(QgsMapLayer& layer, const std::function<void()>& change)
+{
     const QSignalBlocker silence(&layer);
-    layer.setRenderer(renderer.release());
+    change();
     Note(m_restyled, layer);
     Note(m_repainted, layer);
 }

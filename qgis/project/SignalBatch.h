@@ -5,6 +5,7 @@
 #include <QVector>
 #include <qgsmaplayer.h>
 
+#include <functional>
 #include <memory>
 
 class QgsFeatureRenderer;
@@ -33,6 +34,9 @@ public:
 
     /// Gives the layer the renderer while it emits nothing.
     void SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer);
+
+    /// Makes a change of the layer's style while it emits nothing.
+    void Restyle(QgsMapLayer& layer, const std::function<void()>& change);
 
     /// Repaints the layer at the end.
     void Add(QgsMapLayer& layer) { Note(m_repainted, layer); }

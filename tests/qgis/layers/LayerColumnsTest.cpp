@@ -36,7 +36,6 @@ TEST_F(LayerColumnsOfQgis, EachNumberIsReadAsItWasWritten)
 {
     QgsVectorLayer& layer = Add("Polygon");
     ExpectRoundTrip(layer, "Code", 4711);
-    ExpectRoundTrip(layer, "Style", 2);
     ExpectRoundTrip(layer, "MinVisScale", 500.0);
     ExpectRoundTrip(layer, "MaxVisScale", 250000.0);
     ExpectRoundTrip(layer, "MinVisScale", 0.0);

@@ -107,6 +107,51 @@ TEST_F(QgisClientTest, ASchemeForALayerThatNoLongerTakesItsValuesIsUndone)
     EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
 }
 
+TEST_F(QgisClientTest, ANamedStyleIsAppliedToAGroupAndUndone)
+{
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    AddStyle(*roads, "Night", Qt::blue);
+    AddStyle(*lakes, "Night", Qt::green);
+    Settle();
+    const auto styles = Host().RendererStyles();
+    ASSERT_EQ(styles.size(), 1u);
+    EXPECT_EQ(styles[0].name, "Night");
+    Apply({roads, lakes}, "Style", styles[0].number);
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
+    EXPECT_EQ(ToInt32(Stored(lakes, "FillForeColor")), 0x00FF00);
+    History().Undo();
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
+    EXPECT_NE(lakes->styleManager()->currentStyle(), "Night");
+    History().Redo();
+    EXPECT_EQ(FillOf(*lakes), QColor(0, 255, 0));
+    EXPECT_EQ(failed.count(), 0);
+}
+
+TEST_F(QgisClientTest, ALayerThatLacksTheStyleIsTold)
+{
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    AddStyle(*roads, "Night", Qt::blue);
+    Settle();
+    Apply({roads, lakes}, "Style", Host().RendererStyles().at(0).number);
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
+    EXPECT_EQ(ToInt32(Stored(lakes, "Style")), 0);
+    ASSERT_EQ(failed.count(), 1);
+    EXPECT_TRUE(failed.at(0).at(0).toString().contains("Lakes"));
+}
+
+TEST_F(QgisClientTest, ASchemeSwitchesStyles)
+{
+    AddStyle(*roads, "Night", Qt::blue);
+    Settle();
+    Host().CreateScheme("Day");
+    Apply({roads}, "Style", Host().RendererStyles().at(0).number);
+    Host().LoadScheme("Day");
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
+    EXPECT_NE(roads->styleManager()->currentStyle(), "Night");
+    History().Undo();
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
+}
+
 TEST_F(QgisClientTest, ANewLayerIsInTheProjectWithARow)
 {
     const qint32 layerID = Host().CreateLayer();

@@ -13,6 +13,7 @@
 #include <qgscategorizedsymbolrenderer.h>
 #include <qgsfillsymbol.h>
 #include <qgslayertree.h>
+#include <qgsmaplayerstylemanager.h>
 #include <qgsproject.h>
 #include <qgssinglesymbolrenderer.h>
 #include <qgsvectorlayer.h>
@@ -46,6 +47,17 @@ protected:
     {
         const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
         return renderer ? renderer->symbol()->color() : QColor();
+    }
+
+    /// A style in which the layer has that colour; the current style stays.
+    static void AddStyle(QgsVectorLayer& layer, const QString& name, const QColor& colour)
+    {
+        QgsMapLayerStyleManager& styles = *layer.styleManager();
+        const QString current = styles.currentStyle();
+        styles.addStyleFromLayer(name);
+        styles.setCurrentStyle(name);
+        Paint(layer, colour);
+        styles.setCurrentStyle(current);
     }
 
     static void Classify(QgsVectorLayer& layer, const QStringList& colours)

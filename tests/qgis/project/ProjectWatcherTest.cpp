@@ -4,6 +4,7 @@
 #include "qgis/project/ProjectFixture.h"
 
 #include <QSignalSpy>
+#include <qgsmaplayerstylemanager.h>
 
 namespace Orvane::Testing {
 
@@ -69,6 +70,26 @@ TEST_F(ProjectWatcherTest, EachPropertyOfALayerIsNoticed)
         EXPECT_EQ(told, 1);
         EXPECT_EQ(changed, QSet<QString>{layer->id()});
     }
+}
+
+TEST_F(ProjectWatcherTest, TheStylesOfALayerAreNoticed)
+{
+    QgsVectorLayer* layer = AddLayers({"A"})[0];
+    QgsMapLayerStyleManager& styles = *layer->styleManager();
+    const QSignalSpy renamed(&watcher, &ProjectWatcher::StyleRenamed);
+    const std::vector<std::function<void()>> changes{
+        [&] { styles.addStyleFromLayer("Night"); }, [&] { styles.setCurrentStyle("Night"); },
+        [&] { styles.renameStyle("Night", "Evening"); }, [&] { styles.removeStyle("Evening"); }};
+    for (const auto& change : changes) {
+        Settle();
+        told = 0;
+        change();
+        Settle();
+        EXPECT_EQ(told, 1);
+        EXPECT_EQ(changed, QSet<QString>{layer->id()});
+    }
+    ASSERT_EQ(renamed.count(), 1);
+    EXPECT_EQ(renamed.at(0).at(1).toString(), "Evening");
 }
 
 TEST_F(ProjectWatcherTest, OwnChangesAreNotTold)
