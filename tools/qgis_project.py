@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 # Makes a QGIS project with a small town: qgis_project.py FILE [LAYERS]
+import json
 import os
 import sys
 
@@ -66,10 +67,21 @@ def add_town(folder):
 
 
 def add_many(folder, count):
-    group = QgsProject.instance().layerTreeRoot().addGroup("Many")
+    """Blocks of a hundred layers, each with a square in a row below the town."""
+    many = QgsProject.instance().layerTreeRoot().addGroup("Many")
     for number in range(count):
-        layer = QgsVectorLayer("Polygon?crs=EPSG:3857", "Layer %d" % number, "memory")
-        add(group, layer, fill("#80c0c0"))
+        if number % 100 == 0:
+            block = many.addGroup("Block %d" % (number // 100))
+        row, column = divmod(number, 50)
+        west, south = column * 20, -40 - row * 20
+        corners = [(west, south), (west + 16, south), (west + 16, south + 16), (west, south + 16), (west, south)]
+        path = os.path.join(folder, "layer%d.geojson" % number)
+        with open(path, "w", encoding="utf-8") as file:
+            json.dump({"type": "FeatureCollection",
+                       "crs": {"type": "name", "properties": {"name": "EPSG:3857"}},
+                       "features": [{"type": "Feature", "properties": {"kind": number % 3},
+                                     "geometry": {"type": "Polygon", "coordinates": [corners]}}]}, file)
+        add(block, QgsVectorLayer(path, "Layer %d" % number, "ogr"), fill("#80c0c0"))
 
 
 def main():

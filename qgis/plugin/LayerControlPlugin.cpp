@@ -4,6 +4,7 @@
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
+#include "qgis/plugin/ComponentFile.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
 #include "qgis/plugin/QgisWindow.h"
@@ -27,11 +28,6 @@ namespace {
 
 const QString EditorID = QStringLiteral("Main");
 constexpr int PendingEditsInterval = 500; // milliseconds
-
-QString ComponentFile()
-{
-    return qEnvironmentVariable("ORVANE_COMPONENT", QString::fromLatin1(StyleEditorPlugin::DefaultName));
-}
 
 // The component is not loaded yet when the menus get their texts.
 void InstallTexts()
