@@ -9,11 +9,12 @@ import subprocess
 import time
 import traceback
 
-from qgis.core import Qgis, QgsApplication, QgsPointXY, QgsProject
-from qgis.PyQt.QtCore import QPoint, Qt, QTimer
-from qgis.PyQt.QtGui import QGuiApplication
+from qgis.core import (
+    Qgis, QgsApplication, QgsMapRendererSequentialJob, QgsMapSettings, QgsPointXY, QgsProject)
+from qgis.PyQt.QtCore import QPoint, QSize, Qt, QTimer
+from qgis.PyQt.QtGui import QColor, QGuiApplication, QImage
 from qgis.PyQt.QtWidgets import (
-    QAbstractButton, QApplication, QComboBox, QDockWidget, QMenu, QTabBar, QToolButton, QTreeView, QWidget)
+    QAbstractButton, QApplication, QComboBox, QDockWidget, QTabBar, QToolButton, QTreeView, QWidget)
 from qgis.utils import iface
 
 OUT = os.environ["ORVANE_OUT"]
@@ -28,12 +29,14 @@ class Until:
 
     def __init__(self, what, condition):
         self.what, self.condition = what, condition
-        self.end = time.monotonic() + PATIENCE
+        self.begin = time.monotonic()
 
     def is_over(self):
+        passed = time.monotonic() - self.begin
         if self.condition():
+            tell("%.1f s for %s" % (passed, self.what))
             return True
-        if time.monotonic() > self.end:
+        if passed > PATIENCE:
             raise AssertionError("waited in vain for " + self.what)
         return False
 
@@ -100,6 +103,11 @@ def answer(title, *keys):
     shown = QApplication.activeModalWidget()
     key(*keys)
     yield Until("the end of " + title, lambda: QApplication.activeModalWidget() is not shown)
+
+
+def confirm():
+    """Answers a question of the layer control with Yes."""
+    yield from answer("Layer Control", "Return")
 
 
 # The layer control
@@ -175,6 +183,7 @@ def switch_scheme(name):
     click(box)
     yield Until("the open list of schemes", lambda: QApplication.activePopupWidget() is not None)
     key("Home", *["Down"] * box.findText(name), "Return")
+    yield from confirm()
     yield Until("the scheme " + name, lambda: box.currentText() == name)
 
 
@@ -186,6 +195,48 @@ def layer(name):
 
 def fill(name):
     return layer(name).renderer().symbol().color().name()
+
+
+def block(number):
+    """The names of the layers of a block."""
+    return ["Layer %d" % at for at in range(number * 100, number * 100 + 100)]
+
+
+def fills():
+    """The fill colours of all layers in the blocks."""
+    return {each.name(): each.renderer().symbol().color().name()
+            for each in QgsProject.instance().mapLayers().values() if each.name().startswith("Layer ")}
+
+
+def place_of(name):
+    """The middle of the square that a layer of a block has."""
+    row, column = divmod(int(name.split()[1]), 50)
+    return column * 20 + 8, -40 - row * 20 + 8
+
+
+def shown(colours):
+    """Waits until the canvas on the screen shows them."""
+    names = list(colours)
+    places = [place_of(name) for name in names]
+    yield Until("the colours on the canvas", lambda: colours_at(places) == [colours[name] for name in names])
+
+
+def drawn():
+    """The whole map, drawn apart from the screen."""
+    settings = QgsMapSettings(iface.mapCanvas().mapSettings())
+    settings.setOutputSize(QSize(900, 900))
+    settings.setExtent(iface.mapCanvas().fullExtent())
+    job = QgsMapRendererSequentialJob(settings)
+    job.start()
+    job.waitForFinished()
+    return job.renderedImage().convertToFormat(QImage.Format_RGB32)
+
+
+def selectable(name):
+    """Whether the layer control shows that layer as selectable."""
+    yield from select(1, name)
+    yield Until("the settings of " + name, lambda: named("chkSelectable").isEnabled())
+    return named("chkSelectable").checkState() == Qt.Checked
 
 
 def save():
