@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # Sourced by the scripts that run QGIS with the plug-in, with settings that are not those of the user.
 
+qgis_command=(qgis)
+
 # install_plugin BUILD FOLDER: puts the plug-in there as it is installed; prints the folder for QGIS to search.
 install_plugin() {
     local destination
@@ -30,7 +32,7 @@ play() {
     mkdir -p "$output/tmp"
     rm -f "$output/passed" "$output/failed"
     TMPDIR=$output/tmp ORVANE_OUT=$output ORVANE_SCRIPTS=$(dirname "$script") LC_ALL=C.UTF-8 timeout "${TO:-240}" \
-        qgis --profiles-path "$profile" --nologo --noversioncheck --code "$script" "$project" >"$output/qgis.log" 2>&1 &
+        "${qgis_command[@]}" --profiles-path "$profile" --nologo --noversioncheck --code "$script" "$project" >"$output/qgis.log" 2>&1 &
     qgis=$!
     while kill -0 $qgis 2>/dev/null && [ ! -e "$output/failed" ]; do sleep 0.2; done
     [ ! -e "$output/failed" ] || kill $qgis 2>/dev/null || true
