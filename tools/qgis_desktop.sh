@@ -11,7 +11,7 @@ install_plugin() {
     echo "$2/$destination"
 }
 
-# make_profile FOLDER [SWITCH PLUGIN_FOLDER]: a new user's settings. SWITCH: true or false, whether the plug-in is on;
+# make_profile FOLDER [SWITCH PLUGIN_FOLDER]: a new user's settings, in English or the language ORVANE_LANGUAGE. SWITCH: true or false, whether the plug-in is on;
 # PLUGIN_FOLDER may be empty, if QGIS finds the plug-in by itself.
 make_profile() {
     local settings=$1/profiles/default/QGIS
@@ -19,7 +19,8 @@ make_profile() {
     {
         printf '[app]\nprojectOpenAtLaunch=0\n'
         printf '[qgis]\ncheckVersion=false\nshowTips343=false\n'
-        printf '[locale]\noverrideFlag=true\nuserLocale=%s\n' "${ORVANE_LANGUAGE:-en_US}"
+        [ "${ORVANE_LANGUAGE:-}" = system ] ||
+            printf '[locale]\noverrideFlag=true\nuserLocale=%s\n' "${ORVANE_LANGUAGE:-en_US}"
         [ -z "${2:-}" ] || printf '[Plugins]\nliborvanelayercontrol=%s\n' "$2"
         [ -z "${3:-}" ] || printf '[plugins]\nsearchPathsForPlugins=%s\n' "$3"
     } >"$settings/QGIS3.ini"

@@ -7,8 +7,9 @@ import sys
 
 os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
 from qgis.core import (  # noqa: E402
-    QgsApplication, QgsCategorizedSymbolRenderer, QgsFeature, QgsFillSymbol, QgsGeometry, QgsLineSymbol,
-    QgsProject, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter, QgsVectorLayer)
+    QgsApplication, QgsCategorizedSymbolRenderer, QgsCoordinateReferenceSystem, QgsFeature, QgsFillSymbol, QgsGeometry,
+    QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter, QgsVectorLayer)
+from qgis.gui import QgsMapCanvas  # noqa: E402
 
 SQUARE = "POLYGON(({0} {1}, {2} {1}, {2} {3}, {0} {3}, {0} {1}))"
 
@@ -67,6 +68,8 @@ def add_town(folder):
 
 
 def add_many(folder, count):
+    if count == 0:
+        return
     """Blocks of a hundred layers, each with a square in a row below the town."""
     many = QgsProject.instance().layerTreeRoot().addGroup("Many")
     for number in range(count):
@@ -86,10 +89,15 @@ def add_many(folder, count):
 
 def main():
     path = os.path.abspath(sys.argv[1])
-    application = QgsApplication([], False)
+    application = QgsApplication([], True)
     application.initQgis()
+    QgsProject.instance().setCrs(QgsCoordinateReferenceSystem("EPSG:3857"))
     add_town(os.path.dirname(path))
     add_many(os.path.dirname(path), int(sys.argv[2]) if len(sys.argv) > 2 else 0)
+    canvas = QgsMapCanvas() # QGIS opens the project with the view of a canvas of that name
+    canvas.setObjectName("theMapCanvas")
+    canvas.setDestinationCrs(QgsProject.instance().crs())
+    canvas.setExtent(QgsRectangle(-20, -20, 1000, 700))
     if not QgsProject.instance().write(path):
         sys.exit("The project could not be written: " + path)
     application.exitQgis()

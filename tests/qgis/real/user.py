@@ -236,7 +236,7 @@ def selectable(name):
     """Whether the layer control shows that layer as selectable."""
     yield from select(1, name)
     yield Until("the settings of " + name, lambda: named("chkSelectable").isEnabled())
-    return named("chkSelectable").property("Value")
+    return named("chkSelectable").property("Value") == "1"
 
 
 def save():
