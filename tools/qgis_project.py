@@ -1,13 +1,15 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 # Makes a QGIS project with a small town: qgis_project.py FILE [LAYERS]
+import json
 import os
 import sys
 
 os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
 from qgis.core import (  # noqa: E402
-    QgsApplication, QgsCategorizedSymbolRenderer, QgsFeature, QgsFillSymbol, QgsGeometry, QgsLineSymbol,
-    QgsProject, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter, QgsVectorLayer)
+    QgsApplication, QgsCategorizedSymbolRenderer, QgsCoordinateReferenceSystem, QgsFeature, QgsFillSymbol, QgsGeometry,
+    QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter, QgsVectorLayer)
+from qgis.gui import QgsMapCanvas  # noqa: E402
 
 SQUARE = "POLYGON(({0} {1}, {2} {1}, {2} {3}, {0} {3}, {0} {1}))"
 
@@ -66,18 +68,36 @@ def add_town(folder):
 
 
 def add_many(folder, count):
-    group = QgsProject.instance().layerTreeRoot().addGroup("Many")
+    if count == 0:
+        return
+    """Blocks of a hundred layers, each with a square in a row below the town."""
+    many = QgsProject.instance().layerTreeRoot().addGroup("Many")
     for number in range(count):
-        layer = QgsVectorLayer("Polygon?crs=EPSG:3857", "Layer %d" % number, "memory")
-        add(group, layer, fill("#80c0c0"))
+        if number % 100 == 0:
+            block = many.addGroup("Block %d" % (number // 100))
+        row, column = divmod(number, 50)
+        west, south = column * 20, -40 - row * 20
+        corners = [(west, south), (west + 16, south), (west + 16, south + 16), (west, south + 16), (west, south)]
+        path = os.path.join(folder, "layer%d.geojson" % number)
+        with open(path, "w", encoding="utf-8") as file:
+            json.dump({"type": "FeatureCollection",
+                       "crs": {"type": "name", "properties": {"name": "EPSG:3857"}},
+                       "features": [{"type": "Feature", "properties": {"kind": number % 3},
+                                     "geometry": {"type": "Polygon", "coordinates": [corners]}}]}, file)
+        add(block, QgsVectorLayer(path, "Layer %d" % number, "ogr"), fill("#80c0c0"))
 
 
 def main():
     path = os.path.abspath(sys.argv[1])
-    application = QgsApplication([], False)
+    application = QgsApplication([], True)
     application.initQgis()
+    QgsProject.instance().setCrs(QgsCoordinateReferenceSystem("EPSG:3857"))
     add_town(os.path.dirname(path))
     add_many(os.path.dirname(path), int(sys.argv[2]) if len(sys.argv) > 2 else 0)
+    canvas = QgsMapCanvas() # QGIS opens the project with the view of a canvas of that name
+    canvas.setObjectName("theMapCanvas")
+    canvas.setDestinationCrs(QgsProject.instance().crs())
+    canvas.setExtent(QgsRectangle(-20, -20, 1000, 700))
     if not QgsProject.instance().write(path):
         sys.exit("The project could not be written: " + path)
     application.exitQgis()

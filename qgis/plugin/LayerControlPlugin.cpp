@@ -5,6 +5,7 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
+#include "qgis/plugin/ComponentFile.h"
 #include "qgis/plugin/LateEnd.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
@@ -33,11 +34,6 @@ namespace {
 
 const QString EditorID = QStringLiteral("Main");
 constexpr int PendingEditsInterval = 500; // milliseconds
-
-QString ComponentFile()
-{
-    return qEnvironmentVariable("ORVANE_COMPONENT", QString::fromLatin1(StyleEditorPlugin::DefaultName));
-}
 
 // The component is not loaded yet when the menus get their texts.
 void InstallTexts()

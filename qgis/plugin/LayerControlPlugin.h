@@ -23,8 +23,7 @@ class StyleEditorPlugin;
 /// The layer control in QGIS: a dock, a button, and entries in the menu of plug-ins. The component is loaded,
 /// and the project read, when the dock is first shown; from then on both are kept alike.
 ///
-/// The component is found as StyleEditorPlugin finds it, or in the file that the environment variable
-/// ORVANE_COMPONENT names.
+/// ComponentFile says which component that is.
 class LayerControlPlugin : public QObject, public QgisPlugin
 {
     Q_OBJECT
