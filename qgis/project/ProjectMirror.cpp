@@ -7,6 +7,7 @@
 #include "qgis/layers/LayerWriter.h"
 #include "qgis/project/LayerOrder.h"
 #include "qgis/project/LayerOwnValues.h"
+#include "qgis/project/RowChanges.h"
 #include "qgis/project/SignalBatch.h"
 #include "qgis/project/StoredRows.h"
 #include "store/ILayerStore.h"
@@ -40,26 +41,6 @@ bool AreAlike(std::vector<ListedGroup> stored, std::vector<ListedGroup> wanted)
             group.expanded = false;
     }
     return stored == wanted;
-}
-
-// What is unknown cannot be written: a colour for all would flatten the classes of a layer.
-LayerValues Writable(const LayerValues& known, LayerValues wanted)
-{
-    for (size_t column = 0; column < known.size(); ++column) {
-        if (known.at(column).IsNull())
-            wanted.at(column) = Value::Null();
-    }
-    return wanted;
-}
-
-// The columns in which the user's edit differs from what was there, the others as they are.
-LayerValues OnlyChanges(const LayerValues& was, const LayerValues& edited, LayerValues present)
-{
-    for (size_t column = 0; column < was.size(); ++column) {
-        if (Differs(was, edited, LayerColumns.at(column).name))
-            present.at(column) = edited.at(column);
-    }
-    return present;
 }
 
 } // namespace
@@ -263,7 +244,8 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
         const auto known = m_rows.constFind(layerID);
         const auto stored = StoredRows::Read(m_store, layerID);
         if (layer && stored && known != m_rows.constEnd() && StoredRows::AreDifferent(*known, *stored))
-            changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored, meant});
+            changes.push_back(
+                {layer, layerID, *known, RowChanges::Writable(*known, *stored), *stored, meant});
     }
     return changes;
 }
@@ -303,8 +285,8 @@ std::optional<ProjectMirror::Change> ProjectMirror::Restyled(const Change& chang
     Change restyled = change;
     restyled.before = RowOf(*change.layer, ValueOf(change.before, "Priority"));
     if (change.meant == Meant::Changes)
-        restyled.after = OnlyChanges(change.before, change.stored, restyled.before);
-    restyled.after = Writable(restyled.before, restyled.after);
+        restyled.after = RowChanges::OnlyChanges(change.before, change.stored, restyled.before);
+    restyled.after = RowChanges::Writable(restyled.before, restyled.after);
     return restyled;
 }
 
