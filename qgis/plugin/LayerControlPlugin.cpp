@@ -6,6 +6,7 @@
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
 #include "qgis/plugin/ComponentFile.h"
+#include "qgis/plugin/EditorRows.h"
 #include "qgis/plugin/LateEnd.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
@@ -262,8 +263,10 @@ void LayerControlPlugin::RenewEditor()
     if (!editor)
         return;
     const QPointer<QWidget> focused = QApplication::focusWidget();
+    const EditorRows rows(m_dock->widget());
     editor->UnloadWithoutApply();
     ShowEditor();
+    rows.Restore(m_dock->widget());
     if (focused && focused->isVisible())
         focused->setFocus();
 }

@@ -37,6 +37,7 @@ public:
     /// The file of the schemes for projects that have none; it may be missing. path: absolute.
     void SetStartupFile(const QString& path);
 
+    QgsProject& Project() { return m_project; }
     QgisClient& Client() { return m_client; }
     ProjectMirror& Mirror() { return m_mirror; }
     ProjectWatcher& Watcher() { return m_watcher; }

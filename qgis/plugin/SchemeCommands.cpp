@@ -10,7 +10,6 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
-#include <qgsproject.h>
 
 namespace Orvane {
 
@@ -40,8 +39,7 @@ QString SchemeFileName(const QString& scheme)
 } // namespace
 
 SchemeCommands::SchemeCommands(QWidget& window, ProjectSession& session)
-    : m_window(window), m_session(session),
-      m_themes(*QgsProject::instance(), session.Store(), session.Mirror())
+    : m_window(window), m_session(session), m_themes(session.Project(), session.Store(), session.Mirror())
 {
 }
 

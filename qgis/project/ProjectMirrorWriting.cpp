@@ -5,6 +5,7 @@
 #include "qgis/project/LayerOwnValues.h"
 #include "qgis/project/NamingTheLayer.h"
 #include "qgis/project/ProjectMirror.h"
+#include "qgis/project/RowChanges.h"
 #include "qgis/project/SignalBatch.h"
 #include "qgis/project/StoredRows.h"
 
@@ -20,29 +21,6 @@
 #include <utility>
 
 namespace Orvane {
-
-namespace {
-
-// What is unknown cannot be written: a colour for all would flatten the classes of a layer.
-LayerValues Writable(const LayerValues& known, LayerValues wanted)
-{
-    for (size_t column = 0; column < known.size(); ++column) {
-        if (known.at(column).IsNull())
-            wanted.at(column) = Value::Null();
-    }
-    return wanted;
-}
-
-// The columns in which the user's edit differs from what was there, the others as they are.
-LayerValues OnlyChanges(const LayerValues& was, const LayerValues& edited, LayerValues present)
-{
-    for (size_t column = 0; column < was.size(); ++column) {
-        if (Differs(was, edited, LayerColumns.at(column).name))
-            present.at(column) = edited.at(column);
-    }
-    return present;
-}
-} // namespace
 
 MirrorChanges ProjectMirror::Write(const QSet<qint32>& layerIDs, Meant meant)
 {
@@ -96,7 +74,8 @@ std::vector<ProjectMirror::Change> ProjectMirror::ChangesOf(const QSet<qint32>& 
         const LayerValues* known = m_rows.Find(layerID);
         const auto stored = StoredRows::Read(m_store, layerID);
         if (layer && stored && known && StoredRows::AreDifferent(*known, *stored))
-            changes.push_back({layer, layerID, *known, Writable(*known, *stored), *stored, meant});
+            changes.push_back(
+                {layer, layerID, *known, RowChanges::Writable(*known, *stored), *stored, meant});
     }
     return changes;
 }
@@ -147,8 +126,8 @@ ProjectMirror::Restyled(const Change& change, const LayerNodes& nodes, SignalBat
     Change restyled = change;
     restyled.before = RowOf(*change.layer, nodes, ValueOf(change.before, "Priority"));
     if (change.meant == Meant::Changes)
-        restyled.after = OnlyChanges(change.before, change.stored, restyled.before);
-    restyled.after = Writable(restyled.before, restyled.after);
+        restyled.after = RowChanges::OnlyChanges(change.before, change.stored, restyled.before);
+    restyled.after = RowChanges::Writable(restyled.before, restyled.after);
     return restyled;
 }
 

@@ -113,9 +113,12 @@ TEST_F(MapThemesTest, AnExportedSchemeUsesTheStyleThatLooksAlike)
     schemes.Create("Day");
     Apply(*roads, "FillForeColor", BlueBgr);
     schemes.Create("Night");
+    Apply(*roads, "FillForeColor", RedBgr);
     themes.Export("Day");
-    EXPECT_EQ(Exported("Day", roads).currentStyle, standard); // red is nowhere else
     themes.Export("Night");
+    EXPECT_EQ(Exported("Day", roads).currentStyle, standard);
+    EXPECT_EQ(Exported("Night", roads).currentStyle, "Dark");
+    EXPECT_EQ(roads->styleManager()->styles().size(), 2);
     EXPECT_TRUE(Exported("Night", roads).isVisible);
     EXPECT_TRUE(Exported("Night", roads).usingCurrentStyle);
     EXPECT_FALSE(Exported("Night", lakes).isVisible);
