@@ -26,23 +26,33 @@ void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const QgsProject& 
     SetValue(values, "Enquirable", pointing.enquirable);
 }
 
+// QGIS 3.22 saves neither the flags nor the custom properties of annotations.
+bool IsForgotten(const QgsMapLayer& layer)
+{
+    return layer.type() == QgsMapLayerType::AnnotationLayer;
+}
+
 } // namespace
 
 LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
 {
     LayerValues values = UnknownLayerValues();
+    SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0)); // without one it is not listed
     if (!layer.isValid()) {
         SetValue(values, "Visible", ReadVisible(layer, project));
         return values;
     }
     const LayerScales scales = ReadScales(layer);
-    SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0));
     ReadFlags(values, layer, project);
     ReadSymbolColumns(values, layer);
     SetValue(values, "MinVisScale", scales.minimum);
     SetValue(values, "MaxVisScale", scales.maximum);
     SetValue(values, "Style", KeptValues::Whole(layer, "Style").value_or(0));
     SetValue(values, "OverrideMode", ReadOverrideMode(layer, project));
+    for (const char* column : {"Selectable", "Hitable", "Enquirable", "Style", "OverrideMode"}) {
+        if (IsForgotten(layer))
+            SetValue(values, column, Value::Null());
+    }
     return values;
 }
 
