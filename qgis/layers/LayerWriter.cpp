@@ -10,6 +10,7 @@
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <qgsmaplayer.h>
 #include <qgsrenderer.h>
 
 namespace Orvane {
