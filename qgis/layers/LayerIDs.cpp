@@ -2,6 +2,7 @@
 #include "qgis/layers/LayerIDs.h"
 
 #include "qgis/layers/KeptValues.h"
+#include "qgis/layers/LayerNode.h"
 
 #include <qgsmaplayer.h>
 #include <qgsproject.h>
@@ -14,6 +15,12 @@ namespace {
 
 constexpr std::string_view NumberName = "id";
 constexpr std::string_view OwnerName = "idOf"; // a copy of a layer has another text for an ID
+
+// QGIS 3.22 saves no custom properties of annotations, but those of their nodes.
+bool IsKeptInNode(const QgsMapLayer& layer)
+{
+    return layer.type() == QgsMapLayerType::AnnotationLayer;
+}
 
 } // namespace
 
@@ -40,6 +47,8 @@ void LayerIDs::Reset()
 
 qint32 LayerIDs::Kept(const QgsMapLayer& layer) const
 {
+    if (const QgsLayerTreeLayer* node = IsKeptInNode(layer) ? NodeOf(layer, m_project) : nullptr)
+        return std::max(0, node->customProperty(KeptValues::PropertyName(NumberName)).toInt());
     if (layer.customProperty(KeptValues::PropertyName(OwnerName)).toString() != layer.id())
         return 0;
     return std::max(0, KeptValues::Whole(layer, NumberName).value_or(0));
@@ -63,6 +72,10 @@ void LayerIDs::Keep(QgsMapLayer& layer, qint32 id)
 {
     KeptValues::Keep(layer, NumberName, id);
     KeptValues::Keep(layer, OwnerName, layer.id());
+    const QString property = KeptValues::PropertyName(NumberName);
+    QgsLayerTreeLayer* node = IsKeptInNode(layer) ? NodeOf(layer, m_project) : nullptr;
+    if (node && node->customProperty(property).toInt() != id)
+        node->setCustomProperty(property, id);
 }
 
 QgsMapLayer* LayerIDs::Layer(qint32 id) const

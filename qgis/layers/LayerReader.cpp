@@ -26,22 +26,32 @@ void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const LayerNodes& 
     SetValue(values, "Enquirable", pointing.enquirable);
 }
 
+// QGIS 3.22 saves neither the flags nor the custom properties of annotations.
+bool IsForgotten(const QgsMapLayer& layer)
+{
+    return layer.type() == QgsMapLayerType::AnnotationLayer;
+}
+
 } // namespace
 
 LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes)
 {
     LayerValues values = UnknownLayerValues();
+    SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0)); // without one it is not listed
     if (!layer.isValid()) {
-        SetValue(values, "Visible", ReadVisible(layer, project));
+        SetValue(values, "Visible", ReadVisible(layer, nodes));
         return values;
     }
     const LayerScales scales = ReadScales(layer);
-    SetValue(values, "Code", KeptValues::Whole(layer, "Code").value_or(0));
     ReadFlags(values, layer, nodes);
     ReadSymbolColumns(values, layer);
     SetValue(values, "MinVisScale", scales.minimum);
     SetValue(values, "MaxVisScale", scales.maximum);
     SetValue(values, "OverrideMode", ReadOverrideMode(layer, nodes));
+    for (const char* column : {"Selectable", "Hitable", "Enquirable", "OverrideMode"}) {
+        if (IsForgotten(layer))
+            SetValue(values, column, Value::Null());
+    }
     return values;
 }
 

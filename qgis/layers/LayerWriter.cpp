@@ -10,6 +10,7 @@
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <qgsmaplayer.h>
 #include <qgsrenderer.h>
 
 namespace Orvane {
@@ -74,6 +75,21 @@ void WriteShowing(WrittenLayer& written, QgsMapLayer& layer, const LayerNodes& n
         WriteVisible(layer, nodes, ToBoolean(changes.New("Visible")));
 }
 
+// QGIS saves such a layer as it was read.
+void WriteLostLayer(
+    WrittenLayer& written, QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
+{
+    for (const LayerColumn& column : LayerColumns) {
+        const std::string_view name = column.name;
+        if (column.inSchemes == InSchemes::No && name != "Code")
+            continue;
+        if (name != "Visible" && name != "Priority" && changes.Has(name))
+            written.refused.push_back(name);
+    }
+    if (changes.Has("Visible"))
+        WriteVisible(layer, project, ToBoolean(changes.New("Visible")));
+}
+
 } // namespace
 
 WrittenLayer WriteLayer(
@@ -82,6 +98,10 @@ WrittenLayer WriteLayer(
 {
     WrittenLayer written;
     const Changes changes(before, after);
+    if (!layer.isValid()) {
+        WriteLostLayer(written, layer, project, changes);
+        return written;
+    }
     WriteKept(layer, changes);
     WriteFlags(written, layer, changes);
     WriteScaleColumns(layer, changes);

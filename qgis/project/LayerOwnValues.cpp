@@ -118,8 +118,8 @@ void LayerOwnValues::SwitchStyle(QgsMapLayer& layer, const LayerNodes& nodes, co
 
 void LayerOwnValues::Restore(QgsMapLayer& layer, const LayerNodes& nodes, const LayerValues& known)
 {
-    if (ValueOf(known, "Code").IsNull())
-        return; // its data were missing
+    if (ValueOf(known, "Selectable").IsNull())
+        return; // its data were missing, or QGIS keeps nothing with it
     if (const qint32 code = ToInt32(ValueOf(known, "Code")); code != 0 || KeptValues::Whole(layer, "Code"))
         KeptValues::Keep(layer, "Code", code);
     const bool selectable = ToBoolean(ValueOf(known, "Selectable"));

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QSignalSpy>
+#include <qgsannotationlayer.h>
 #include <qgslayertree.h>
 
 #include <gmock/gmock.h>
@@ -177,6 +178,28 @@ TEST_F(LayerColumnsOfQgis, KeptNumbersThatAreNoneAreForgotten)
     EXPECT_TRUE(Get(layer, "Code").IsIdenticalTo(0));
     layer.setCustomProperty(QStringLiteral("orvane/Code"), 1e300);
     EXPECT_TRUE(Get(layer, "Code").IsIdenticalTo(0));
+}
+
+TEST_F(LayerColumnsOfQgis, ALayerWithoutDataRefusesAllButItsTick)
+{
+    auto* layer = new QgsVectorLayer("no such file.shp", "Lost", "ogr");
+    project.addMapLayer(layer);
+    EXPECT_TRUE(Get(*layer, "OverrideMode").IsNull());
+    EXPECT_TRUE(Get(*layer, "Code").IsIdenticalTo(0));
+    EXPECT_THAT(Set(*layer, "Code", 3).refused, ElementsAre("Code"));
+    EXPECT_TRUE(Set(*layer, "Visible", false).refused.empty());
+    EXPECT_FALSE(project.layerTreeRoot()->findLayer(layer)->itemVisibilityChecked());
+    EXPECT_TRUE(layer->customPropertyKeys().isEmpty());
+}
+
+TEST_F(LayerColumnsOfQgis, AnnotationsHaveWhatQgisSavesOfThem)
+{
+    auto* layer
+        = new QgsAnnotationLayer("Notes", QgsAnnotationLayer::LayerOptions(project.transformContext()));
+    project.addMapLayer(layer);
+    EXPECT_TRUE(Get(*layer, "Visible").IsIdenticalTo(true));
+    for (const char* column : {"Selectable", "Hitable", "Enquirable", "Style", "OverrideMode"})
+        EXPECT_TRUE(Get(*layer, column).IsNull()) << column;
 }
 
 } // namespace Orvane

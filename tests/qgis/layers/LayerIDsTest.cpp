@@ -4,6 +4,7 @@
 #include "qgis/layers/LayerFixture.h"
 
 #include <QTemporaryDir>
+#include <qgsannotationlayer.h>
 
 namespace Orvane {
 
@@ -93,6 +94,23 @@ TEST_F(LayerIDsOfQgis, NumbersAreSavedWithTheProject)
     const LayerIDs ids(reopened);
     ASSERT_NE(ids.Layer(id), nullptr);
     EXPECT_EQ(ids.Layer(id)->id(), text);
+}
+
+TEST_F(LayerIDsOfQgis, AnnotationsKeepTheirNumberInASavedProject)
+{
+    const QTemporaryDir folder;
+    Add("Polygon", "Parcels");
+    auto* layer
+        = new QgsAnnotationLayer("Notes", QgsAnnotationLayer::LayerOptions(project.transformContext()));
+    project.addMapLayer(layer);
+    Add("Polygon", "Lakes");
+    LayerIDs ids(project);
+    const qint32 number = ids.Of(*layer);
+    ASSERT_TRUE(project.write(folder.filePath("map.qgs")));
+    QgsProject opened;
+    ASSERT_TRUE(opened.read(folder.filePath("map.qgs")));
+    LayerIDs others(opened);
+    EXPECT_EQ(others.Of(*opened.mapLayersByName("Notes").first()), number);
 }
 
 } // namespace Orvane

@@ -48,7 +48,7 @@ TEST_F(Live, NoChangeInQgisCostsPendingEdits)
         {"tick", [&] { tree.findLayer(lakes)->setItemVisibilityChecked(false); }},
         {"order",
          [&] {
-             tree.setCustomLayerOrder({roads, lakes}), tree.setHasCustomLayerOrder(true);
+             tree.setCustomLayerOrder(QList<QgsMapLayer*>{roads, lakes}), tree.setHasCustomLayerOrder(true);
          }},
         {"add a group", [&] { tree.addGroup("Country"); }},
         {"move",

@@ -93,7 +93,7 @@ void SetReadOnly(SessionWorld& world)
 
 void SetIdentifiable(SessionWorld& world)
 {
-    QgsMapLayer* layer = world.AnyLayer(IsValid);
+    QgsMapLayer* layer = world.AnyLayer(HasVectors);
     const bool identifiable = !layer->flags().testFlag(QgsMapLayer::Identifiable);
     QgsMapLayer::LayerFlags flags = layer->flags();
     layer->setFlags(flags.setFlag(QgsMapLayer::Identifiable, identifiable));
