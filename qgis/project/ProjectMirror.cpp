@@ -96,6 +96,7 @@ void ProjectMirror::Forget()
     m_rows.clear();
     m_ids.Reset();
     m_styles.Reset();
+    m_styleEdits.Forget();
 }
 
 bool ProjectMirror::Write(const QSet<qint32>& layerIDs, Meant meant)
@@ -262,14 +263,18 @@ void ProjectMirror::WriteLooks(const std::vector<Change>& changes)
     SignalBatch batch(m_project, m_panel);
     for (const Change& change : changes) {
         const std::optional<Change> restyled = Restyled(change, batch);
-        const Change& written = restyled ? *restyled : change;
-        WriteLayer(
-            *change.layer, m_project, written.before, written.after,
-            [&](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
-                batch.SetRenderer(layer, std::move(renderer));
-            });
+        WriteLook(restyled ? *restyled : change, batch);
         batch.Add(*change.layer);
     }
+}
+
+void ProjectMirror::WriteLook(const Change& change, SignalBatch& batch)
+{
+    WriteLayer(
+        *change.layer, m_project, change.before, change.after,
+        [&](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
+            batch.SetRenderer(layer, std::move(renderer));
+        });
 }
 
 // With another style current, other columns differ from those that are wanted.
@@ -281,11 +286,15 @@ std::optional<ProjectMirror::Change> ProjectMirror::Restyled(const Change& chang
     const QString style = m_styles.NameIn(*change.layer, ToInt32(number));
     if (style.isEmpty())
         return std::nullopt;
+    if (const auto before = m_styleEdits.Before(change.layerID, change.before, change.stored))
+        WriteLook({change.layer, change.layerID, change.before, *before, *before, change.meant}, batch);
     batch.Restyle(*change.layer, [&] { LayerOwnValues::SwitchStyle(*change.layer, m_project, style); });
     Change restyled = change;
     restyled.before = RowOf(*change.layer, ValueOf(change.before, "Priority"));
-    if (change.meant == Meant::Changes)
+    if (change.meant == Meant::Changes) {
+        m_styleEdits.Begin(change.layerID, change.before, restyled.before);
         restyled.after = RowChanges::OnlyChanges(change.before, change.stored, restyled.before);
+    }
     restyled.after = RowChanges::Writable(restyled.before, restyled.after);
     return restyled;
 }
@@ -345,6 +354,7 @@ bool ProjectMirror::StoreTaken(const std::vector<Change>& changes)
         for (const Change& change : changes) {
             m_rows[change.layerID] = change.stored;
             differs |= Store(RowOf(*change.layer, PriorityIn(priorities, *change.layer)));
+            m_styleEdits.End(change.layerID, m_rows[change.layerID]);
         }
         return differs;
     });

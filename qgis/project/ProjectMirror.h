@@ -5,6 +5,7 @@
 #include "qgis/layers/LayerValues.h"
 #include "qgis/project/GroupMirror.h"
 #include "qgis/project/ProjectStyles.h"
+#include "qgis/project/StyleEdits.h"
 
 #include <QHash>
 #include <QSet>
@@ -95,6 +96,7 @@ private:
     std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs, Meant meant);
     void WriteChanges(const std::vector<Change>& changes);
     void WriteLooks(const std::vector<Change>& changes);
+    void WriteLook(const Change& change, SignalBatch& batch);
     std::optional<Change> Restyled(const Change& change, SignalBatch& batch);
     void TellRefusals(const std::vector<Change>& changes);
     void WriteSnapping(const std::vector<Change>& changes);
@@ -107,6 +109,7 @@ private:
     LayerIDs m_ids;
     GroupMirror m_groups;
     ProjectStyles m_styles;
+    StyleEdits m_styleEdits;
     QHash<qint32, LayerValues> m_rows; // as the project has them
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;
