@@ -35,6 +35,7 @@ namespace {
 
 const QString EditorID = QStringLiteral("Main");
 constexpr int PendingEditsInterval = 500; // milliseconds
+constexpr int SettlingTime = 300; // milliseconds; the window system maximises the window meanwhile
 
 // The component is not loaded yet when the menus get their texts.
 void InstallTexts()
@@ -90,6 +91,9 @@ void LayerControlPlugin::unload()
         return;
     m_isShown = false;
     m_pendingEdits.stop();
+    m_settling.stop();
+    if (m_dock)
+        QgisWindow::SaveSize(m_qgis, *m_dock);
     Guard([this] { EndSession(); });
     RemoveActions();
     delete m_dock;
@@ -124,8 +128,35 @@ void LayerControlPlugin::AddDock()
 {
     m_dock = new EditorDock(EditorID, m_qgis.mainWindow());
     m_dock->setWindowTitle(tr("Layer Control"));
-    connect(m_dock, &EditorDock::EditorWanted, this, &LayerControlPlugin::ShowFromMenu);
+    connect(m_dock, &EditorDock::EditorWanted, this, &LayerControlPlugin::ShowRestored);
     QgisWindow::AddDock(m_qgis, *m_dock);
+    if (!m_qgis.mainWindow()->isVisible())
+        ShowWhenSettled();
+}
+
+void LayerControlPlugin::ShowRestored()
+{
+    if (!m_settling.isActive() && !m_isStarting)
+        ShowFromMenu();
+}
+
+// QGIS starts, and restores its panels before its window has the size of the last time: an editor in the
+// dock would now take the room of the others.
+void LayerControlPlugin::ShowWhenSettled()
+{
+    m_isStarting = true;
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(SettlingTime);
+    connect(&m_qgis, &QgisInterface::initializationCompleted, this, [this] {
+        m_isStarting = false;
+        m_settling.start();
+    });
+    connect(&m_settling, &QTimer::timeout, this, [this] {
+        if (!m_dock || !m_dock->isVisible() || m_dock->widget())
+            return;
+        ShowFromMenu();
+        QgisWindow::RestoreSize(m_qgis, *m_dock);
+    });
 }
 
 void LayerControlPlugin::AddActions()

@@ -48,6 +48,8 @@ private:
     using SchemeCommand = void (SchemeCommands::*)();
     void AddSchemeAction(const char* objectName, const QString& text, SchemeCommand command);
     void ShowFromMenu();
+    void ShowRestored();
+    void ShowWhenSettled();
     void ShowEditor();
     void Start();
     void ConnectSession();
@@ -68,11 +70,13 @@ private:
     QAction m_undo;
     QAction m_redo;
     QTimer m_pendingEdits;
+    QTimer m_settling;
     std::vector<std::unique_ptr<QAction>> m_schemeActions;
     std::unique_ptr<ProjectSession> m_session;
     std::unique_ptr<SchemeCommands> m_schemes;
     std::unique_ptr<StyleEditorPlugin> m_component; // ended first: it ends its editors through the client
     bool m_isShown = false; // initGui was called
+    bool m_isStarting = false; // with QGIS
     bool m_isEditorOld = false; // it has read renderer styles that are others now
 };
 

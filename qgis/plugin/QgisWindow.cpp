@@ -13,6 +13,7 @@
 #include <qgslayertreeview.h>
 #include <qgsmapcanvas.h>
 #include <qgsproject.h>
+#include <qgssettings.h>
 
 namespace Orvane {
 
@@ -65,7 +66,33 @@ void RemoveLayerInQgis(QgisInterface& qgis, QgsMapLayer& layer)
         remove->trigger();
 }
 
+const QString SizeSetting = QStringLiteral("orvane/dockSize");
+
+// A dock at the top or bottom may become higher or lower, others wider or narrower.
+Qt::Orientation GrowthOf(const QMainWindow& window, EditorDock& dock)
+{
+    const Qt::DockWidgetArea area = window.dockWidgetArea(&dock);
+    return area == Qt::TopDockWidgetArea || area == Qt::BottomDockWidgetArea ? Qt::Vertical : Qt::Horizontal;
+}
+
 } // namespace
+
+void QgisWindow::SaveSize(QgisInterface& qgis, EditorDock& dock)
+{
+    const auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    if (!dock.widget() || dock.isFloating())
+        return;
+    const bool isWide = GrowthOf(*window, dock) == Qt::Horizontal;
+    QgsSettings().setValue(SizeSetting, isWide ? dock.width() : dock.height());
+}
+
+void QgisWindow::RestoreSize(QgisInterface& qgis, EditorDock& dock)
+{
+    auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    const int size = QgsSettings().value(SizeSetting, 0).toInt();
+    if (size > 0 && !dock.isFloating())
+        window->resizeDocks({&dock}, {size}, GrowthOf(*window, dock));
+}
 
 void QgisWindow::AddDock(QgisInterface& qgis, EditorDock& dock)
 {

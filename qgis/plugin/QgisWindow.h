@@ -17,6 +17,12 @@ namespace QgisWindow {
 /// panels.
 void AddDock(QgisInterface& qgis, EditorDock& dock);
 
+/// Keeps the size of a dock that is in the main window for the next start of QGIS, which restores the sizes
+/// of panels before its window has its own size.
+void SaveSize(QgisInterface& qgis, EditorDock& dock);
+/// Gives the dock the size that was kept, if it is in the main window.
+void RestoreSize(QgisInterface& qgis, EditorDock& dock);
+
 /// QGIS's dialog for temporary scratch layers, and its "Remove Layer", which asks as QGIS does.
 QgisCommands Commands(QgisInterface& qgis);
 

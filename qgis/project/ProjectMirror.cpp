@@ -101,6 +101,7 @@ void ProjectMirror::Forget()
     m_rows.Clear();
     m_ids.Reset();
     m_styles.Reset();
+    m_styleEdits.Forget();
 }
 
 MirrorChanges ProjectMirror::Read(const std::function<void(MirrorChanges& changes)>& read)

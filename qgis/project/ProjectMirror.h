@@ -8,6 +8,7 @@
 #include "qgis/project/KnownRows.h"
 #include "qgis/project/ProjectStyles.h"
 #include "qgis/project/RefusedChanges.h"
+#include "qgis/project/StyleEdits.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -27,6 +28,7 @@ namespace Orvane {
 
 class ILayerStore;
 class SignalBatch;
+struct WrittenLayer;
 
 /// What has changed in a store.
 struct MirrorChanges {
@@ -120,6 +122,7 @@ private:
     std::vector<Change> ChangesOf(const QSet<qint32>& layerIDs, Meant meant);
     RefusedChanges WriteChanges(const std::vector<Change>& changes);
     RefusedChanges WriteLooks(const std::vector<Change>& changes);
+    WrittenLayer WriteLook(const Change& change, const LayerNodes& nodes, SignalBatch& batch);
     std::optional<Change> Restyled(const Change& change, const LayerNodes& nodes, SignalBatch& batch);
     void TellMissingStyles(const std::vector<Change>& changes);
     void WriteSnapping(const std::vector<Change>& changes);
@@ -132,6 +135,7 @@ private:
     LayerIDs m_ids;
     GroupMirror m_groups;
     ProjectStyles m_styles;
+    StyleEdits m_styleEdits;
     KnownRows m_rows;
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;

@@ -93,23 +93,28 @@ RefusedChanges ProjectMirror::WriteLooks(const std::vector<Change>& changes)
     RefusedChanges refused;
     SignalBatch batch(m_project, m_panel);
     const LayerNodes nodes = NodesFor(changes.size());
-    const auto setRenderer = [&batch](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
-        batch.SetRenderer(layer, std::move(renderer));
-    };
     for (const Change& change : changes) {
         if (!change.layer)
             continue;
         const QString name = change.layer->name();
         const WrittenLayer written = NamingTheLayer(name, [&] {
             const std::optional<Change> restyled = Restyled(change, nodes, batch);
-            const Change& meant = restyled ? *restyled : change;
-            return WriteLayer(*change.layer, nodes, meant.before, meant.after, setRenderer);
+            return WriteLook(restyled ? *restyled : change, nodes, batch);
         });
         refused.Add(name, written.refused, change.before, change.stored);
         if (change.layer)
             batch.Add(*change.layer);
     }
     return refused;
+}
+
+WrittenLayer ProjectMirror::WriteLook(const Change& change, const LayerNodes& nodes, SignalBatch& batch)
+{
+    return WriteLayer(
+        *change.layer, nodes, change.before, change.after,
+        [&batch](QgsVectorLayer& layer, std::unique_ptr<QgsFeatureRenderer> renderer) {
+            batch.SetRenderer(layer, std::move(renderer));
+        });
 }
 
 // With another style current, other columns differ from those that are wanted.
@@ -122,11 +127,16 @@ ProjectMirror::Restyled(const Change& change, const LayerNodes& nodes, SignalBat
     const QString style = m_styles.NameIn(*change.layer, ToInt32(number));
     if (style.isEmpty())
         return std::nullopt;
+    if (const auto before = m_styleEdits.Before(change.layerID, change.before, change.stored))
+        WriteLook(
+            {change.layer, change.layerID, change.before, *before, *before, change.meant}, nodes, batch);
     batch.Restyle(*change.layer, [&] { LayerOwnValues::SwitchStyle(*change.layer, nodes, style); });
     Change restyled = change;
     restyled.before = RowOf(*change.layer, nodes, ValueOf(change.before, "Priority"));
-    if (change.meant == Meant::Changes)
+    if (change.meant == Meant::Changes) {
+        m_styleEdits.Begin(change.layerID, change.before, restyled.before);
         restyled.after = RowChanges::OnlyChanges(change.before, change.stored, restyled.before);
+    }
     restyled.after = RowChanges::Writable(restyled.before, restyled.after);
     return restyled;
 }
@@ -191,6 +201,7 @@ MirrorChanges ProjectMirror::StoreTaken(const std::vector<Change>& changes)
                 continue;
             m_rows.Set(change.layerID, change.stored);
             Store(RowOf(*change.layer, nodes, LayerOrder::PriorityIn(priorities, *change.layer)), differing);
+            m_styleEdits.End(change.layerID, *m_rows.Find(change.layerID));
         }
     });
 }

@@ -127,6 +127,22 @@ TEST_F(QgisClientTest, ANamedStyleIsAppliedToAGroupAndUndone)
     EXPECT_EQ(failed.count(), 0);
 }
 
+TEST_F(QgisClientTest, AnUndoneEditLeavesTheStyleThatItChangedAsItWas)
+{
+    AddStyle(*roads, "Night", Qt::blue);
+    Settle();
+    const qint32 night = Host().RendererStyles().at(0).number;
+    Apply(*roads, {{"Style", night}, {"FillForeColor", 0x00FF00}});
+    EXPECT_EQ(FillOf(*roads), QColor(0, 255, 0));
+    History().Undo();
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::red));
+    History().Redo();
+    EXPECT_EQ(FillOf(*roads), QColor(0, 255, 0));
+    History().Undo();
+    Apply({roads}, "Style", night);
+    EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
+}
+
 TEST_F(QgisClientTest, ALayerThatLacksTheStyleIsTold)
 {
     QgsVectorLayer* lakes = AddLayer("Lakes");

@@ -19,6 +19,9 @@
 #include <qgsvectorlayer.h>
 
 #include <gmock/gmock.h>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace Orvane::Testing {
 
@@ -102,6 +105,20 @@ protected:
             Host().LayerChanged(IDOf(layer));
             rows->Update();
         }
+        Host().RedrawMap();
+    }
+
+    /// As the component applies several edits of a layer.
+    void Apply(QgsMapLayer& layer, const std::vector<std::pair<std::string_view, qint32>>& values)
+    {
+        const auto rows = Host().LayersTable();
+        rows->Index("LayerIDIDX");
+        rows->Seek("=", IDOf(&layer));
+        Host().BeginLayerEdit(*rows);
+        for (const auto& [column, value] : values)
+            rows->SetField(column, value);
+        Host().LayerChanged(IDOf(&layer));
+        rows->Update();
         Host().RedrawMap();
     }
 
