@@ -179,6 +179,7 @@ def apply():
 
 
 def switch_scheme(name):
+    yield from show_tab(2)
     box = named("cmbScheme", QComboBox)
     click(box)
     yield Until("the open list of schemes", lambda: QApplication.activePopupWidget() is not None)
