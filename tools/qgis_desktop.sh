@@ -45,5 +45,9 @@ play() {
         echo "qgis: $(basename "$script") has failed; QGIS has ended with $code; pictures: $output" >&2
         return 1
     fi
+    if grep -iE 'orvane|traceback|^(Warning: )?Q[A-Z][A-Za-z]*::' "$output/qgis.log"; then
+        echo "qgis: these warnings should not be there; see $output/qgis.log" >&2
+        return 1
+    fi
     [ $code -eq 0 ] || { cat "$output/qgis.log" >&2; echo "qgis: QGIS has ended with $code" >&2; return 1; }
 }

@@ -15,6 +15,7 @@ scripts=$(realpath "$here/../tests/qgis/real")
 plugins=$(install_plugin "$build" "$out/installed")
 make_profile "$out/with" true "$plugins"
 make_profile "$out/without" false
+ORVANE_LANGUAGE=de make_profile "$out/german" true "$plugins"
 
 # scene NAME PROJECT PROFILE
 scene() {
@@ -28,6 +29,7 @@ mkdir "$out/town" "$out/many"
 "$here/qgis_project.py" "$out/town/town.qgz"
 "$here/qgis_project.py" "$out/many/many.qgz" "$layers"
 scene open_dock "$out/town/town.qgz" with
+scene in_german "$out/town/town.qgz" german
 scene town "$out/town/town.qgz" with
 scene many_layers "$out/many/many.qgz" with
 scene without_the_plugin "$out/many/many.qgz" without

@@ -61,7 +61,7 @@ QString InstalledComponent()
 
 QString ComponentFile()
 {
-    const QString named = qEnvironmentVariable("ORVANE_COMPONENT");
+    QString named = qEnvironmentVariable("ORVANE_COMPONENT");
     if (!named.isEmpty())
         return named;
     const QString installed = InstalledComponent();

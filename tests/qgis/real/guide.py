@@ -39,8 +39,9 @@ def switch_on():
 
 def style_a_group():
     yield from select(0, "Town / Buildings")
+    yield from still_map()
     picture("qgis-dock")
-    yield from choose("cmbColor1", 7)
+    yield from choose("cmbColor1", 14)
     picture("qgis-group")
     yield from apply()
 
@@ -49,7 +50,7 @@ def style_a_layer():
     yield from select(1, "Lakes")
     yield from choose("cmbFillStyles", 16)
     yield from apply()
-    yield Until("the drawn map", lambda: not iface.mapCanvas().isDrawing())
+    yield from still_map()
     picture("qgis-styled")
 
 
@@ -67,13 +68,14 @@ def make_schemes():
     type_text("Quiet")
     yield from answer("", "Return")
     yield Until("the new scheme", lambda: named("cmbScheme").currentText() == "Quiet")
-    yield Until("the drawn map", lambda: colours_at([(50, 530)]) == ["#ffffff"])
+    yield from still_map()
     picture("qgis-schemes")
 
 
 def steps():
     yield from switch_on()
     yield from open_dock()
+    iface.zoomFull()
     yield from style_a_group()
     yield from style_a_layer()
     yield from make_schemes()

@@ -8,6 +8,7 @@ sys.path.insert(0, os.environ["ORVANE_SCRIPTS"])
 from user import *  # noqa: E402,F403
 
 FIRST = "#80c0c0"  # of all these layers
+BLUE, GREEN = "#0000ff", "#00ff00"  # the fifth and sixth in the list of colours
 
 
 def style_a_block():
@@ -19,7 +20,7 @@ def style_a_block():
     after = fills()
     changed = {name for name in after if after[name] != before[name]}
     expect(changed, set(block(3)), "changed layers")
-    expect(len({after[name] for name in changed}), 1, "number of new colours")
+    expect({after[name] for name in changed}, {BLUE}, "the new colour")
     expect(fill("Lakes"), "#4080e0", "a layer that is not in the group")
     yield from shown(after)
     picture("block-styled")
@@ -48,6 +49,7 @@ def make_quiet():
     yield from select(0, "Many / Block 5")
     yield from choose("cmbColor1", 5)
     yield from apply()
+    expect({fill(name) for name in block(5)}, {GREEN}, "the colour of the other group")
     yield from select(1, "Layer 7")
     expect(named("chkSelectable").isEnabled(), True, "Selectable can be set")
     click(named("chkSelectable"), 8)

@@ -14,7 +14,7 @@ from qgis.core import (
 from qgis.PyQt.QtCore import QPoint, QSize, Qt, QTimer
 from qgis.PyQt.QtGui import QColor, QGuiApplication, QImage
 from qgis.PyQt.QtWidgets import (
-    QAbstractButton, QApplication, QComboBox, QDockWidget, QTabBar, QToolButton, QTreeView, QWidget)
+    QAbstractButton, QApplication, QComboBox, QDockWidget, QPlainTextEdit, QTabBar, QToolButton, QTreeView, QWidget)
 from qgis.utils import iface
 
 OUT = os.environ["ORVANE_OUT"]
@@ -74,6 +74,20 @@ def colour_at(image, x, y):
 def colours_at(places):
     image = canvas_image()
     return [colour_at(image, *place) for place in places]
+
+
+def still_map():
+    """Waits until the canvas has not changed for a second: QGIS draws some time after a change, and shows parts first."""
+    last, since = canvas_image(), time.monotonic()
+
+    def is_still():
+        nonlocal last, since
+        now = canvas_image()
+        if now != last or iface.mapCanvas().isDrawing():
+            last, since = now, time.monotonic()
+        return time.monotonic() > since + 1
+
+    yield Until("a still map", is_still)
 
 
 # Mouse and keys
@@ -179,6 +193,7 @@ def apply():
 
 
 def switch_scheme(name):
+    yield from show_tab(2)
     box = named("cmbScheme", QComboBox)
     click(box)
     yield Until("the open list of schemes", lambda: QApplication.activePopupWidget() is not None)
@@ -265,6 +280,13 @@ def message_bar():
     return [item.text() for item in iface.messageBar().items()]
 
 
+def logged():
+    """The lines about the plug-in in QGIS's panel of messages, also from before the script began."""
+    texts = iface.mainWindow().findChild(QDockWidget, "MessageLog").findChildren(QPlainTextEdit)
+    lines = [line for text in texts for line in text.toPlainText().splitlines()]
+    return [line for line in lines if " INFO " not in line and ("orvane" in line.lower() or "Layer Control" in line)]
+
+
 def fail():
     text = traceback.format_exc()
     tell(text)
@@ -277,6 +299,7 @@ def fail():
 
 def finish():
     expect(warnings, [], "warnings in QGIS's log")
+    expect(logged(), [], "what QGIS says about the plug-in")
     expect(message_bar(), [], "messages in QGIS's window")
     expect(QgsProject.instance().isDirty(), False, "unsaved changes")
     open(os.path.join(OUT, "passed"), "w", encoding="utf-8").close()
