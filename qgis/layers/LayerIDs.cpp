@@ -2,7 +2,7 @@
 #include "qgis/layers/LayerIDs.h"
 
 #include "qgis/layers/KeptValues.h"
-#include "qgis/layers/LayerNode.h"
+#include "qgis/layers/LayerNodes.h"
 
 #include <qgsmaplayer.h>
 #include <qgsproject.h>
@@ -47,7 +47,7 @@ void LayerIDs::Reset()
 
 qint32 LayerIDs::Kept(const QgsMapLayer& layer) const
 {
-    if (const QgsLayerTreeLayer* node = IsKeptInNode(layer) ? NodeOf(layer, m_project) : nullptr)
+    if (const QgsLayerTreeLayer* node = IsKeptInNode(layer) ? LayerNodes(m_project).Of(layer) : nullptr)
         return std::max(0, node->customProperty(KeptValues::PropertyName(NumberName)).toInt());
     if (layer.customProperty(KeptValues::PropertyName(OwnerName)).toString() != layer.id())
         return 0;
@@ -73,7 +73,7 @@ void LayerIDs::Keep(QgsMapLayer& layer, qint32 id)
     KeptValues::Keep(layer, NumberName, id);
     KeptValues::Keep(layer, OwnerName, layer.id());
     const QString property = KeptValues::PropertyName(NumberName);
-    QgsLayerTreeLayer* node = IsKeptInNode(layer) ? NodeOf(layer, m_project) : nullptr;
+    QgsLayerTreeLayer* node = IsKeptInNode(layer) ? LayerNodes(m_project).Of(layer) : nullptr;
     if (node && node->customProperty(property).toInt() != id)
         node->setCustomProperty(property, id);
 }

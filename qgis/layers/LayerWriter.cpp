@@ -77,7 +77,7 @@ void WriteShowing(WrittenLayer& written, QgsMapLayer& layer, const LayerNodes& n
 
 // QGIS saves such a layer as it was read.
 void WriteLostLayer(
-    WrittenLayer& written, QgsMapLayer& layer, const QgsProject& project, const Changes& changes)
+    WrittenLayer& written, QgsMapLayer& layer, const LayerNodes& nodes, const Changes& changes)
 {
     for (const LayerColumn& column : LayerColumns) {
         const std::string_view name = column.name;
@@ -87,7 +87,7 @@ void WriteLostLayer(
             written.refused.push_back(name);
     }
     if (changes.Has("Visible"))
-        WriteVisible(layer, project, ToBoolean(changes.New("Visible")));
+        WriteVisible(layer, nodes, ToBoolean(changes.New("Visible")));
 }
 
 } // namespace
@@ -99,7 +99,7 @@ WrittenLayer WriteLayer(
     WrittenLayer written;
     const Changes changes(before, after);
     if (!layer.isValid()) {
-        WriteLostLayer(written, layer, project, changes);
+        WriteLostLayer(written, layer, nodes, changes);
         return written;
     }
     WriteKept(layer, changes);
