@@ -29,6 +29,8 @@
 #include <qgsmessagebar.h>
 #include <qgsproject.h>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -242,6 +244,13 @@ void LayerControlPlugin::ConnectSession()
     });
     connect(m_session.get(), &ProjectSession::RendererStylesChanged, this, [this] { m_isEditorOld = true; });
     connect(&client.History(), &UndoHistory::Changed, this, &LayerControlPlugin::ShowSteps);
+    connect(QgsProject::instance(), &QgsProject::writeProject, m_session.get(), [this] {
+        m_session->Guard([this] { AskAboutEdits(); });
+    });
+    connect(QgsProject::instance(), &QgsProject::projectSaved, m_session.get(), [this] {
+        if (std::exchange(m_isSavedTooEarly, false))
+            QgsProject::instance()->write();
+    });
     client.SetMainWindow(m_qgis.mainWindow());
     client.SetDock(m_dock);
     m_session->SetStartupFile(StartupFile());
@@ -284,6 +293,25 @@ void LayerControlPlugin::WatchPendingEdits()
         if (m_isEditorOld && m_dock->isVisible() && !m_session->Client().HasPendingEdits())
             RenewEditor();
     });
+}
+
+// A project is saved, perhaps because it is about to be closed. An editor that ends asks the user.
+void LayerControlPlugin::AskAboutEdits()
+{
+    IStyleEditor* editor = m_component->Library().GetStyleEditor(EditorID);
+    if (!editor || !m_session->Client().HasPendingEdits())
+        return;
+    const bool isInSight = m_dock->isVisible();
+    const EditorRows rows(m_dock->widget());
+    const QPointer<ProjectSession> session(m_session.get());
+    editor->Visible(false);
+    if (!session || !m_session)
+        return;
+    m_isSavedTooEarly = true; // parts of the project are written by now
+    if (!isInSight)
+        return;
+    ShowEditor();
+    rows.Restore(m_dock->widget());
 }
 
 // An editor reads the renderer styles once.

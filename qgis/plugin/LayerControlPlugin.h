@@ -59,6 +59,7 @@ private:
     void Redo();
     void ShowSteps();
     void WatchPendingEdits();
+    void AskAboutEdits();
     void RenewEditor();
     void Tell(const QString& message);
     void TellDone(const QString& message);
@@ -77,6 +78,7 @@ private:
     std::unique_ptr<StyleEditorPlugin> m_component; // ended first: it ends its editors through the client
     bool m_isShown = false; // initGui was called
     bool m_isStarting = false; // with QGIS
+    bool m_isSavedTooEarly = false; // edits were applied while the project was being saved
     bool m_isEditorOld = false; // it has read renderer styles that are others now
 };
 
