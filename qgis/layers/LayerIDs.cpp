@@ -4,6 +4,7 @@
 #include "qgis/layers/KeptValues.h"
 #include "qgis/layers/LayerNodes.h"
 
+#include <qgslayertree.h>
 #include <qgsmaplayer.h>
 #include <qgsproject.h>
 
