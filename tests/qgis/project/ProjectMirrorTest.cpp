@@ -50,6 +50,49 @@ TEST_F(ProjectMirrorTest, ARowThatStaysKeepsItsSchemes)
     EXPECT_FALSE(store->OpenRecordset("SELECT LayerID FROM Notes")->AtEOF());
 }
 
+TEST_F(ProjectMirrorTest, TellsWhichRowsHaveChanged)
+{
+    const QList<QgsVectorLayer*> layers = AddLayers({"Roads", "Lakes"});
+    EXPECT_TRUE(mirror.ReadAll().isList);
+    Paint(*layers[1], Qt::blue);
+    const MirrorChanges changes = mirror.ReadLayers({layers[0]->id(), layers[1]->id()});
+    EXPECT_EQ(changes.layers, QSet<qint32>{mirror.IDOf(*layers[1])});
+    EXPECT_FALSE(changes.isList);
+    project.layerTreeRoot()->addGroup("Town");
+    EXPECT_TRUE(mirror.ReadTree().isList);
+}
+
+TEST_F(ProjectMirrorTest, KeepsWhatItKnewWhenOneOfSeveralLayersCannotBeStored)
+{
+    const QList<QgsVectorLayer*> layers = AddLayers({"Roads", "Lakes"});
+    mirror.ReadAll();
+    store->Execute("CREATE TRIGGER Refuse BEFORE UPDATE ON Layers WHEN new.Name = 'No' "
+                   "BEGIN SELECT RAISE(ABORT, 'no'); END");
+    layers[0]->setName("Streets");
+    layers[1]->setName("No");
+    const QSet<QString> both{layers[0]->id(), layers[1]->id()};
+    EXPECT_NE(ErrorOf([&] { mirror.ReadLayers(both); }), 0);
+    EXPECT_EQ(ToText(Stored(*layers[0], "Name")), "Roads");
+    store->Execute("DROP TRIGGER Refuse");
+    EXPECT_EQ(mirror.ReadLayers(both).layers.size(), 2);
+    EXPECT_EQ(ToText(Stored(*layers[0], "Name")), "Streets");
+}
+
+TEST_F(ProjectMirrorTest, FindsManyLayersInTheTree)
+{
+    QStringList names;
+    for (int number = 0; number < 30; ++number)
+        names << QStringLiteral("Layer %1").arg(number);
+    const QList<QgsVectorLayer*> layers = AddLayers(names);
+    QSet<QString> ids;
+    for (const QgsVectorLayer* layer : layers)
+        ids << layer->id();
+    mirror.ReadAll();
+    project.layerTreeRoot()->findLayer(layers[7])->setItemVisibilityChecked(false);
+    EXPECT_EQ(mirror.ReadLayers(ids).layers, QSet<qint32>{mirror.IDOf(*layers[7])});
+    EXPECT_FALSE(ToBoolean(Stored(*layers[7], "Visible")));
+}
+
 TEST_F(ProjectMirrorTest, ARemovedLayerLosesItsRow)
 {
     QgsVectorLayer* roads = AddLayer("Roads");
