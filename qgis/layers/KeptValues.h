@@ -25,7 +25,7 @@ std::optional<double> Number(const QgsMapLayer& layer, std::string_view name);
 std::optional<qint32> Whole(const QgsMapLayer& layer, std::string_view name);
 std::optional<bool> Flag(const QgsMapLayer& layer, std::string_view name);
 
-/// Keeps a value; Null and Empty remove it. Nothing happens, and QGIS hears nothing, if it is kept already.
+/// Keeps a value; Null and Empty remove it. QGIS, which shows none of them, hears nothing.
 void Keep(QgsMapLayer& layer, std::string_view name, const Value& value);
 
 } // namespace KeptValues

@@ -50,6 +50,50 @@ TEST_F(ProjectMirrorTest, ARowThatStaysKeepsItsSchemes)
     EXPECT_FALSE(store->OpenRecordset("SELECT LayerID FROM Notes")->AtEOF());
 }
 
+TEST_F(ProjectMirrorTest, TellsWhichRowsHaveChanged)
+{
+    const QList<QgsVectorLayer*> layers = AddLayers({"Roads", "Lakes"});
+    EXPECT_TRUE(mirror.ReadAll().isList);
+    Paint(*layers[1], Qt::blue);
+    const MirrorChanges changes = mirror.ReadLayers({layers[0]->id(), layers[1]->id()});
+    EXPECT_EQ(changes.layers, QSet<qint32>{mirror.IDOf(*layers[1])});
+    EXPECT_FALSE(changes.isList);
+    project.layerTreeRoot()->addGroup("Town");
+    EXPECT_TRUE(mirror.ReadTree().isList);
+}
+
+TEST_F(ProjectMirrorTest, KnowsWhatItKnewWhenOneOfSeveralLayersCannotBeStored)
+{
+    const QList<QgsVectorLayer*> layers = AddLayers({"A", "B", "C", "D", "E", "F", "G", "H"});
+    mirror.ReadAll();
+    QSet<QString> ids;
+    for (QgsVectorLayer* layer : layers) {
+        layer->setName(layer->name() + " new");
+        ids << layer->id();
+    }
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    store->Execute("INSERT INTO Layers (LayerID) VALUES (?1)", {mirror.IDOf(*lakes)}); // is in the way
+    EXPECT_NE(ErrorOf([&] { mirror.ReadLayers(ids + QSet<QString>{lakes->id()}); }), 0);
+    EXPECT_EQ(ToText(Stored(*layers[0], "Name")), "A");
+    EXPECT_EQ(mirror.ReadLayers(ids).layers.size(), 8);
+    EXPECT_EQ(ToText(Stored(*layers[0], "Name")), "A new");
+}
+
+TEST_F(ProjectMirrorTest, FindsManyLayersInTheTree)
+{
+    QStringList names;
+    for (int number = 0; number < 30; ++number)
+        names << QStringLiteral("Layer %1").arg(number);
+    const QList<QgsVectorLayer*> layers = AddLayers(names);
+    QSet<QString> ids;
+    for (const QgsVectorLayer* layer : layers)
+        ids << layer->id();
+    mirror.ReadAll();
+    project.layerTreeRoot()->findLayer(layers[7])->setItemVisibilityChecked(false);
+    EXPECT_EQ(mirror.ReadLayers(ids).layers, QSet<qint32>{mirror.IDOf(*layers[7])});
+    EXPECT_FALSE(ToBoolean(Stored(*layers[7], "Visible")));
+}
+
 TEST_F(ProjectMirrorTest, ARemovedLayerLosesItsRow)
 {
     QgsVectorLayer* roads = AddLayer("Roads");
