@@ -77,7 +77,7 @@ void Tick(SessionWorld& world)
 
 void RenameInQgis(SessionWorld& world)
 {
-    QgsMapLayer* layer = world.AnyLayer();
+    QgsMapLayer* layer = world.AnyLayer(IsValid);
     const QString name = world.NewName();
     layer->setName(name);
     world.PaperOf(*layer).row["Name"] = name;
