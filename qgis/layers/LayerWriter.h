@@ -27,10 +27,10 @@ struct WrittenLayer {
 };
 
 /// Writes the columns that differ between the two rows to the layer, and its tick to the project's tree. Null
-/// in `after` leaves the property as it is. A layer whose data are missing refuses all but its tick. Not written: LayerID, Name, Priority, Pseudo, SystemLayer; and
-/// SnapRequired, which WriteSnap sets for many layers at once. setRenderer: called at most once, in place of
-/// QgsVectorLayer::setRenderer; the map is not told to draw again. Raises 13 (type mismatch) for a text that
-/// holds no number.
+/// in `after` leaves the property as it is. A layer whose data are missing refuses all but its tick. Not
+/// written: LayerID, Name, Priority, Pseudo, SystemLayer; and SnapRequired, which WriteSnap sets for many
+/// layers at once. setRenderer: called at most once, in place of QgsVectorLayer::setRenderer; the map is not
+/// told to draw again. Raises 13 (type mismatch) for a text that holds no number.
 WrittenLayer WriteLayer(
     QgsMapLayer& layer, const QgsProject& project, const LayerValues& before, const LayerValues& after,
     const RendererSetter& setRenderer = {});

@@ -121,7 +121,22 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
         differs |= m_mirror.ReadTree();
     m_isBehind = false;
     if (differs)
-        m_client.RefreshEditors();
+        RefreshEditors();
+}
+
+// An editor drops the edits of what is gone.
+void ProjectSession::RefreshEditors()
+{
+    const QStringList removed = m_mirror.TakeRemoved();
+    const bool hadEdits = m_client.HasPendingEdits();
+    m_client.RefreshEditors();
+    if (!hadEdits || m_client.HasPendingEdits())
+        return;
+    const QString dropped = tr("Changes in the layer control that were not applied have been dropped.");
+    emit Failed(
+        removed.isEmpty()
+            ? dropped
+            : tr("The layer \"%1\" was removed.").arg(removed.first()) + QLatin1Char(' ') + dropped);
 }
 
 void ProjectSession::ReadOtherProject()

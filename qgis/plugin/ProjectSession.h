@@ -58,6 +58,7 @@ private:
     void ListenToProject();
     void ListenToClient();
     void ReadChanges(const QSet<QString>& layers, bool isTree);
+    void RefreshEditors();
     void ReadOtherProject();
 
     QgsProject& m_project;

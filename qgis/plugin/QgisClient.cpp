@@ -165,6 +165,7 @@ void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
     if (m_mirror.Layer(layerID))
         return;
     m_mirror.ReadLayers({});
+    m_mirror.TakeRemoved();
     InvalidateLayerNames();
     m_changed.remove(layerID);
     emit Notifications().LayerDeleted(layerID);

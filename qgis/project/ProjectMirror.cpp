@@ -221,7 +221,7 @@ bool ProjectMirror::DeleteMissing()
     }
     for (const qint32 layerID : missing) {
         StoredRows::Delete(m_store, layerID);
-        m_rows.remove(layerID);
+        m_removed << ToTextOrNone(ValueOf(m_rows.take(layerID), "Name"));
     }
     return !missing.empty();
 }

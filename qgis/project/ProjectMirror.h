@@ -10,10 +10,11 @@
 #include <QHash>
 #include <QPointer>
 #include <QSet>
-#include <QString>
+#include <QStringList>
 #include <qgsmaplayer.h>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class QgsLayerTreeModel;
@@ -54,6 +55,8 @@ public:
     bool ReadAll();
     /// Reads these layers, by their IDs in QGIS. Those that have left the project lose their rows.
     bool ReadLayers(const QSet<QString>& layers);
+    /// The names of the layers that have lost their rows since the last call.
+    QStringList TakeRemoved() { return std::exchange(m_removed, {}); }
     /// Reads the groups, and of all layers the snapping and the priority.
     bool ReadTree();
     /// Removes all rows and starts afresh, for another project.
@@ -102,6 +105,7 @@ private:
     QgsLayerTreeModel* m_panel = nullptr;
     Around m_around;
     Refused m_refused;
+    QStringList m_removed;
 };
 
 } // namespace Orvane
