@@ -11,6 +11,8 @@
 
 #include <qgsmaplayer.h>
 
+#include <array>
+
 namespace Orvane {
 
 namespace {
@@ -26,7 +28,10 @@ void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const QgsProject& 
     SetValue(values, "Enquirable", pointing.enquirable);
 }
 
-// QGIS 3.22 saves neither the flags nor the custom properties of annotations.
+// QGIS 3.22 saves neither the flags, the scales nor the custom properties of annotations.
+constexpr std::array forgotten{"Selectable",  "Hitable",     "Enquirable",  "Style",
+                               "MinVisScale", "MaxVisScale", "OverrideMode"};
+
 bool IsForgotten(const QgsMapLayer& layer)
 {
     return layer.type() == QgsMapLayerType::AnnotationLayer;
@@ -49,7 +54,7 @@ LayerValues ReadLayer(const QgsMapLayer& layer, const QgsProject& project)
     SetValue(values, "MaxVisScale", scales.maximum);
     SetValue(values, "Style", KeptValues::Whole(layer, "Style").value_or(0));
     SetValue(values, "OverrideMode", ReadOverrideMode(layer, project));
-    for (const char* column : {"Selectable", "Hitable", "Enquirable", "Style", "OverrideMode"}) {
+    for (const char* column : forgotten) {
         if (IsForgotten(layer))
             SetValue(values, column, Value::Null());
     }
