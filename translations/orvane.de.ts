@@ -1496,6 +1496,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>Der Layer „%1“ wurde entfernt.</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
     </message>

@@ -1496,6 +1496,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>La couche « %1 » a été retirée.</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
     </message>

@@ -1496,6 +1496,10 @@ These commands run without a window; each has its own --help:
         <translation>最後のレイヤースキームは削除できません。</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>レイヤー「%1」は削除されました。</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
     </message>

@@ -11,6 +11,8 @@
 
 #include <qgsmaplayer.h>
 
+#include <array>
+
 namespace Orvane {
 
 namespace {
@@ -26,7 +28,10 @@ void ReadFlags(LayerValues& values, const QgsMapLayer& layer, const LayerNodes& 
     SetValue(values, "Enquirable", pointing.enquirable);
 }
 
-// QGIS 3.22 saves neither the flags nor the custom properties of annotations.
+// QGIS 3.22 saves neither the flags, the scales nor the custom properties of annotations.
+constexpr std::array forgotten{"Selectable",  "Hitable",     "Enquirable",
+                               "MinVisScale", "MaxVisScale", "OverrideMode"};
+
 bool IsForgotten(const QgsMapLayer& layer)
 {
     return layer.type() == QgsMapLayerType::AnnotationLayer;
@@ -48,7 +53,7 @@ LayerValues ReadLayer(const QgsMapLayer& layer, const LayerNodes& nodes)
     SetValue(values, "MinVisScale", scales.minimum);
     SetValue(values, "MaxVisScale", scales.maximum);
     SetValue(values, "OverrideMode", ReadOverrideMode(layer, nodes));
-    for (const char* column : {"Selectable", "Hitable", "Enquirable", "OverrideMode"}) {
+    for (const char* column : forgotten) {
         if (IsForgotten(layer))
             SetValue(values, column, Value::Null());
     }

@@ -70,7 +70,8 @@ SymbolLook ChangesOf(WrittenLayer& written, const LayerValues& before, const Lay
 void SpareFills(WrittenLayer& written, SymbolLook& changes, const SymbolLook& now)
 {
     auto& colour = changes[LookColumn::Color];
-    if (!colour || now[LookColumn::FillForeColor] || (quint32(*colour) & TopByte) != 0)
+    if (!colour || !now[LookColumn::Color] || now[LookColumn::FillForeColor]
+        || (quint32(*colour) & TopByte) != 0)
         return;
     written.refused.emplace_back(NameOf(LookColumn::Color));
     colour = qint32(quint32(*colour) | TopByte);

@@ -149,12 +149,25 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
     Show(changes);
 }
 
+// An editor drops the edits of what is gone.
 void ProjectSession::Show(const MirrorChanges& changes)
 {
+    const bool hadEdits = m_client.HasPendingEdits();
     if (changes.isList)
         m_client.RefreshEditors();
     else
         m_client.RefreshEditors(changes.layers);
+    if (hadEdits && !m_client.HasPendingEdits())
+        TellDropped(changes.removed);
+}
+
+void ProjectSession::TellDropped(const QStringList& removed)
+{
+    const QString dropped = tr("Changes in the layer control that were not applied have been dropped.");
+    emit Failed(
+        removed.isEmpty()
+            ? dropped
+            : tr("The layer \"%1\" was removed.").arg(removed.first()) + QLatin1Char(' ') + dropped);
 }
 
 void ProjectSession::ReadOtherProject()

@@ -66,6 +66,7 @@ private:
     void ListenToProject();
     void ListenToClient();
     void Show(const MirrorChanges& changes);
+    void TellDropped(const QStringList& removed);
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
     void ReadStartupSchemes();

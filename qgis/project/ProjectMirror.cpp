@@ -12,6 +12,7 @@
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
+#include <OrvaneShellLib/ValueConversions.h>
 
 #include <qgsmaplayer.h>
 #include <qgsproject.h>
@@ -40,6 +41,7 @@ void MirrorChanges::Add(const MirrorChanges& others)
 {
     layers += others.layers;
     isList = isList || others.isList;
+    removed += others.removed;
 }
 
 ProjectMirror::ProjectMirror(QgsProject& project, ILayerStore& store)
@@ -171,8 +173,10 @@ void ProjectMirror::DeleteMissing(MirrorChanges& changes)
 
 void ProjectMirror::Delete(qint32 layerID, MirrorChanges& changes)
 {
-    if (!m_rows.Find(layerID))
+    const LayerValues* known = m_rows.Find(layerID);
+    if (!known)
         return;
+    changes.removed << ToTextOrNone(ValueOf(*known, "Name"));
     StoredRows::Delete(m_store, layerID);
     m_rows.Remove(layerID);
     changes.isList = true;

@@ -13,7 +13,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QSet>
-#include <QString>
+#include <QStringList>
 #include <qgsmaplayer.h>
 
 #include <functional>
@@ -34,6 +34,7 @@ struct WrittenLayer;
 struct MirrorChanges {
     QSet<qint32> layers; ///< rows with other values
     bool isList = false; ///< rows or groups came, went, or are others
+    QStringList removed; ///< the names of the layers that have lost their rows
 
     explicit operator bool() const { return isList || !layers.isEmpty(); }
     void Add(const MirrorChanges& others);

@@ -41,16 +41,16 @@ void ProjectWatcher::ListenToProject()
     connect(&m_project, &QgsProject::layersAdded, this, [this](const QList<QgsMapLayer*>& layers) {
         for (QgsMapLayer* layer : layers) {
             ListenToLayer(*layer);
-            NoteLayer(layer->id());
+            m_layers.insert(layer->id());
         }
-        NoteTree();
+        NoteLayers();
     });
     connect(
         &m_project, qOverload<const QStringList&>(&QgsProject::layersRemoved), this,
         [this](const QStringList& layerIDs) {
             for (const QString& layerID : layerIDs)
-                NoteLayer(layerID);
-            NoteTree();
+                m_layers.insert(layerID);
+            NoteLayers();
         });
 }
 
@@ -115,6 +115,12 @@ void ProjectWatcher::NoteTree()
 {
     if (m_silences > 0)
         return;
+    m_isTree = true;
+    m_soon.start();
+}
+
+void ProjectWatcher::NoteLayers()
+{
     m_isTree = true;
     m_soon.start();
 }

@@ -18,7 +18,8 @@ class ProjectWatcher : public QObject
     Q_OBJECT
 
 public:
-    /// Changes that are made while an object of this class exists are not told.
+    /// Changes that are made while an object of this class exists are not told, unless layers come or go:
+    /// that is done by somebody who hears of a change.
     class Silence
     {
     public:
@@ -54,6 +55,7 @@ private:
     void ListenToStyles(QgsMapLayer& layer);
     void NoteLayer(const QString& layerID);
     void NoteTree();
+    void NoteLayers();
     void NoteProject();
 
     QgsProject& m_project;

@@ -198,7 +198,7 @@ TEST_F(LayerColumnsOfQgis, AnnotationsHaveWhatQgisSavesOfThem)
         = new QgsAnnotationLayer("Notes", QgsAnnotationLayer::LayerOptions(project.transformContext()));
     project.addMapLayer(layer);
     EXPECT_TRUE(Get(*layer, "Visible").IsIdenticalTo(true));
-    for (const char* column : {"Selectable", "Hitable", "Enquirable", "Style", "OverrideMode"})
+    for (const char* column : {"Selectable", "Hitable", "Enquirable", "Style", "MinVisScale", "OverrideMode"})
         EXPECT_TRUE(Get(*layer, column).IsNull()) << column;
 }
 

@@ -41,6 +41,7 @@ protected:
     {
         auto* layer = new QgsVectorLayer(
             kind + "?crs=EPSG:4326&field=people:integer", name, QStringLiteral("memory"));
+        Paint(*layer, Qt::red);
         project.addMapLayer(layer);
         return layer;
     }
@@ -62,8 +63,16 @@ protected:
     IStyleEditorForm& Form() { return dynamic_cast<IStyleEditorForm&>(*Editor()); }
 
     /// The names in the list of layers.
-    QStringList ListedLayers() { return user.Texts(2); }
-    QStringList ListedGroups() { return user.Texts(1); }
+    QStringList ListedLayers()
+    {
+        user.ClickTab(2);
+        return user.Texts(2);
+    }
+    QStringList ListedGroups()
+    {
+        user.ClickTab(1);
+        return user.Texts(1);
+    }
 
     void Select(const QgsMapLayer& layer) { user.ClickNode(2, int(ListedLayers().indexOf(layer.name()))); }
 

@@ -116,6 +116,7 @@ TEST_F(Live, ALayerOfAClosedProjectIsNotEditedAnyMore)
 TEST_F(Live, AProjectFromATemplateIsShown)
 {
     const QString file = folder.filePath("template.qgs");
+    project.layerTreeRoot()->findGroup("Town")->insertLayer(0, lakes);
     ASSERT_TRUE(project.write(file));
     project.clear();
     Settle();

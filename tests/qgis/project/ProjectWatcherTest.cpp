@@ -105,6 +105,20 @@ TEST_F(ProjectWatcherTest, OwnChangesAreNotTold)
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(ProjectWatcherTest, ALayerThatIsRemovedDuringAnOwnChangeIsTold)
+{
+    QgsVectorLayer* layer = AddLayers({"A"})[0];
+    const QString id = layer->id();
+    Settle();
+    {
+        const ProjectWatcher::Silence own(watcher);
+        project.removeMapLayer(layer);
+    }
+    Settle();
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(changed, QSet<QString>{id});
+}
+
 TEST_F(ProjectWatcherTest, TheTreeIsNoticed)
 {
     QgsLayerTreeGroup* town = project.layerTreeRoot()->addGroup("Town");

@@ -70,7 +70,7 @@ QString UntouchedOf(const QgsMapLayer& layer)
 {
     const auto* vectors = qobject_cast<const QgsVectorLayer*>(&layer);
     if (!vectors || !vectors->renderer())
-        return layer.source();
+        return {};
     QStringList parts{vectors->renderer()->type(), vectors->subsetString()};
     const QgsLegendSymbolList items = vectors->renderer()->legendSymbolItems();
     std::set<QString> fills;

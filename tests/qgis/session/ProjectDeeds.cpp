@@ -77,7 +77,10 @@ void Duplicate(SessionWorld& world)
 // As QGIS does when the user drags a node.
 void Move(SessionWorld& world)
 {
-    QgsLayerTreeLayer* node = world.NodeOf(world.IDOf(*world.AnyLayer()));
+    const qint32 id = world.IDOf(*world.AnyLayer());
+    if (HoldsEditedNode(world, {id})) // its group may become empty
+        return;
+    QgsLayerTreeLayer* node = world.NodeOf(id);
     QgsLayerTreeGroup* group = world.dice.OneOf(GroupsOf(world));
     auto* parent = qobject_cast<QgsLayerTreeGroup*>(node->parent());
     group->insertChildNode(world.dice.Below(1 + group->children().size()), node->clone());

@@ -24,6 +24,12 @@ bool Is(const Paper::Row& row, const char* column)
     return row.at(column).toDouble() != 0;
 }
 
+// QGIS leaves out some of layers whose data are missing, and of annotations.
+bool IsSavedWhole(const QgsMapLayer& layer)
+{
+    return layer.isValid() && layer.type() != QgsMapLayerType::AnnotationLayer;
+}
+
 // True if one of the groups around the node is listed by that text.
 bool IsBelow(QgsLayerTreeNode* node, const QString& text)
 {
@@ -140,6 +146,15 @@ void SessionWorld::AdoptLayers()
     }
 }
 
+void SessionWorld::AdoptLocks()
+{
+    for (const auto& [id, layer] : paper) {
+        const auto* vectors = qobject_cast<QgsVectorLayer*>(project.mapLayer(layer.id));
+        if (vectors && vectors->isEditable())
+            Adopt(id, {"locked"});
+    }
+}
+
 void SessionWorld::NoteStep(const Paper::Layers& before, bool isOfSchemes)
 {
     Paper::Step step = Paper::StepBetween(before, paper);
@@ -147,6 +162,8 @@ void SessionWorld::NoteStep(const Paper::Layers& before, bool isOfSchemes)
     if (step.IsEmpty())
         return;
     done.push_back(std::move(step));
+    if (done.size() > size_t(UndoHistory::MaxSteps))
+        done.erase(done.begin());
     undone.clear();
 }
 
@@ -236,7 +253,8 @@ void SessionWorld::CheckUntouched()
 void SessionWorld::CheckDialog()
 {
     EXPECT_EQ(Form().HasPendingEdits(), isEdited);
-    EXPECT_EQ(user.Rows(2), int(paper.size()));
+    if (tab == 2)
+        EXPECT_EQ(user.Rows(2), int(paper.size()));
     const QStringList boxes = user.TakeBoxes();
     EXPECT_TRUE(mayFail || boxes.isEmpty()) << qPrintable(boxes.join('\n'));
 }
@@ -248,7 +266,15 @@ void SessionWorld::CheckSavedProject()
     QgsProject opened;
     ASSERT_TRUE(opened.read(path));
     ProjectSession other(opened);
-    const QStringList differences = Paper::Differences(paper, Paper::ReadRows(other.Store()));
+    Paper::Layers expected = paper;
+    Paper::Layers saved = Paper::ReadRows(other.Store());
+    for (auto& [id, layer] : expected) {
+        if (IsSavedWhole(*project.mapLayer(layer.id)))
+            continue;
+        layer.row.erase("Priority"); // the order is saved, the number is not
+        saved[id].row["Priority"] = {};
+    }
+    const QStringList differences = Paper::Differences(expected, saved);
     EXPECT_TRUE(differences.isEmpty()) << "saved and opened:\n" << qPrintable(differences.join('\n'));
 }
 

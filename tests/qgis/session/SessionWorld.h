@@ -56,6 +56,8 @@ public:
     void Adopt(qint32 layerID, const std::vector<std::string>& columns);
     /// Takes over layers that came and went, with all their columns, and the draw priorities.
     void AdoptLayers();
+    /// Takes over whether layers that are being edited are locked: QGIS refuses to change it.
+    void AdoptLocks();
     /// Notes an operation of the dialog as one step.
     void NoteStep(const Paper::Layers& before, bool isOfSchemes = false);
     /// The user's edits are gone.

@@ -77,7 +77,7 @@ void Tick(SessionWorld& world)
 
 void RenameInQgis(SessionWorld& world)
 {
-    QgsMapLayer* layer = world.AnyLayer();
+    QgsMapLayer* layer = world.AnyLayer(IsValid);
     const QString name = world.NewName();
     layer->setName(name);
     world.PaperOf(*layer).row["Name"] = name;
@@ -104,6 +104,8 @@ void SetIdentifiable(SessionWorld& world)
 void SetScales(SessionWorld& world)
 {
     QgsMapLayer* layer = world.AnyLayer(IsValid);
+    if (!world.PaperOf(*layer).row.at("MinVisScale").isValid())
+        return;
     const int scale = 1000 * (1 + world.dice.Below(9));
     layer->setMaximumScale(scale);
     layer->setMinimumScale(10 * scale);
