@@ -4,7 +4,6 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
 #include "qgis/plugin/RefusalText.h"
-#include "qgis/project/LayerOwnValues.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
@@ -175,6 +174,7 @@ void ProjectSession::ReadOtherProject()
     m_client.DropPendingEdits();
     m_client.History().Clear();
     m_mirror.Forget();
+    m_carriedStyles.clear();
     m_mirror.ReadAll();
     ReadSchemes();
     TellStyles();
@@ -186,7 +186,7 @@ void ProjectSession::Save()
 {
     const ProjectWatcher::Silence own(m_watcher);
     for (QgsMapLayer* layer : m_project.mapLayers())
-        LayerOwnValues::CarryToStyles(*layer);
+        LayerOwnValues::CarryToStyles(*layer, m_carriedStyles);
     m_schemes.Write();
 }
 

@@ -3,6 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "qgis/plugin/QgisClient.h"
+#include "qgis/project/LayerOwnValues.h"
 #include "qgis/project/ProjectMirror.h"
 #include "qgis/project/ProjectSchemes.h"
 #include "qgis/project/ProjectWatcher.h"
@@ -81,6 +82,7 @@ private:
     QgisClient m_client;
     ProjectWatcher m_watcher;
     QStringList m_offeredStyles;
+    LayerOwnValues::CarriedStyles m_carriedStyles;
     QString m_startupFile;
     bool m_isBehind = false; // a change could not be read
     int m_running = 0;

@@ -55,6 +55,14 @@ bool HasCarried(const QgsObjectCustomProperties& properties, const QgsMapLayer& 
     });
 }
 
+QString KeyOf(const QgsMapLayer& layer, const QString& style)
+{
+    QStringList parts{layer.id(), style};
+    for (const char* name : CarriedNames)
+        parts << layer.customProperty(KeptValues::PropertyName(name)).toString();
+    return parts.join(QLatin1Char('\n'));
+}
+
 // Empty if the style has the values already, or cannot be read.
 QString CarriedStyle(const QgsMapLayer& layer, const QString& text)
 {
@@ -129,17 +137,21 @@ void LayerOwnValues::Restore(QgsMapLayer& layer, const LayerNodes& nodes, const 
     RestoreHiding(layer, nodes, known);
 }
 
-void LayerOwnValues::CarryToStyles(QgsMapLayer& layer)
+void LayerOwnValues::CarryToStyles(QgsMapLayer& layer, CarriedStyles& carried)
 {
     QgsMapLayerStyleManager& styles = *layer.styleManager();
     for (const QString& name : styles.styles()) {
         if (name == styles.currentStyle())
             continue;
-        const QString text = CarriedStyle(layer, styles.style(name).xmlData());
-        if (text.isEmpty())
+        QString& known = carried[KeyOf(layer, name)];
+        if (known == styles.style(name).xmlData())
             continue;
-        styles.removeStyle(name);
-        styles.addStyle(name, QgsMapLayerStyle(text));
+        const QString text = CarriedStyle(layer, styles.style(name).xmlData());
+        if (!text.isEmpty()) {
+            styles.removeStyle(name);
+            styles.addStyle(name, QgsMapLayerStyle(text));
+        }
+        known = styles.style(name).xmlData();
     }
 }
 

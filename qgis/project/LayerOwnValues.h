@@ -3,6 +3,9 @@
 
 #include "qgis/layers/LayerValues.h"
 
+#include <QHash>
+#include <QString>
+
 class QgsMapLayer;
 
 namespace Orvane {
@@ -21,8 +24,12 @@ void SwitchStyle(QgsMapLayer& layer, const LayerNodes& nodes, const QString& sty
 /// hiding that do not contradict what QGIS shows.
 void Restore(QgsMapLayer& layer, const LayerNodes& nodes, const LayerValues& known);
 
+/// Styles as CarryToStyles has found or left them, by layer, name and values.
+using CarriedStyles = QHash<QString, QString>;
+
 /// Gives all other styles of the layer the number, the code and the flag "Selectable" that it has now.
-void CarryToStyles(QgsMapLayer& layer);
+/// carried: spares reading the styles that are as they were at the last call.
+void CarryToStyles(QgsMapLayer& layer, CarriedStyles& carried);
 
 } // namespace LayerOwnValues
 

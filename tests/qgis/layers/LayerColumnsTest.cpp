@@ -66,9 +66,10 @@ TEST_F(LayerColumnsOfQgis, WhatTheMirrorOwnsIsNotRead)
 TEST_F(LayerColumnsOfQgis, NoOtherColumnOfAnAreaIsUnknown)
 {
     const LayerValues values = ReadLayer(Add("Polygon"), project);
-    for (std::size_t i = 2; i < LayerColumns.size() - 2; ++i)
-        EXPECT_EQ(values[i].IsNull(), LayerColumns[i].name == std::string_view("Priority"))
-            << LayerColumns[i].name;
+    for (std::size_t i = 2; i < LayerColumns.size() - 2; ++i) {
+        const std::string_view name = LayerColumns[i].name;
+        EXPECT_EQ(values[i].IsNull(), name == "Priority" || name == "Style") << name;
+    }
 }
 
 TEST_F(LayerColumnsOfQgis, TheTickIsThatOfTheTree)

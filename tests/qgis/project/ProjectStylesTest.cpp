@@ -184,7 +184,8 @@ TEST_F(ProjectStylesTest, StylesThatAreNotCurrentGetTheNumberToo)
     const qint32 layerID = mirror.IDOf(*roads);
     StoreValue(*roads, "Code", 7);
     mirror.Write({layerID});
-    LayerOwnValues::CarryToStyles(*roads);
+    LayerOwnValues::CarriedStyles carried;
+    LayerOwnValues::CarryToStyles(*roads, carried);
     roads->styleManager()->setCurrentStyle("Night"); // nobody watches
     EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
     const auto other = LayerStores::CreateInMemory();
@@ -192,6 +193,20 @@ TEST_F(ProjectStylesTest, StylesThatAreNotCurrentGetTheNumberToo)
     again.ReadAll();
     EXPECT_EQ(again.IDOf(*roads), layerID);
     EXPECT_EQ(ToInt32(ValueOf(*StoredRows::Read(*other, layerID), "Code")), 7);
+}
+
+TEST_F(ProjectStylesTest, ACodeThatHasChangedIsCarriedToTheStylesAgain)
+{
+    QgsVectorLayer* roads = AddStyledLayer("Roads");
+    mirror.ReadAll();
+    LayerOwnValues::CarriedStyles carried;
+    for (const qint32 code : {7, 8, 8}) {
+        StoreValue(*roads, "Code", code);
+        mirror.Write({mirror.IDOf(*roads)});
+        LayerOwnValues::CarryToStyles(*roads, carried);
+    }
+    roads->styleManager()->setCurrentStyle("Night");
+    EXPECT_EQ(roads->customProperty("orvane/Code").toInt(), 8);
 }
 
 TEST_F(ProjectStylesTest, AStyleThatIsRenamedEverywhereKeepsItsNumber)
