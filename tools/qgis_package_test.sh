@@ -56,7 +56,7 @@ as_root cp "$package" "$root/var/orvane-qgis.deb"
 inside dpkg -i /var/orvane-qgis.deb >"$out/dpkg.log" 2>&1 || fail "cannot be installed: $(cat "$out/dpkg.log")"
 
 step "Opening the layer control"
-play "$repository/tests/qgis/real/open_dock.py" "$out/town/town.qgz" "$out/user" "$out/open_dock"
+play "$qgis_scripts/open_dock.py" "$out/town/town.qgz" "$out/user" "$out/open_dock"
 
 step "Removing the package"
 inside dpkg --purge orvane-qgis >>"$out/dpkg.log" 2>&1 || fail "cannot be removed: $(cat "$out/dpkg.log")"
