@@ -61,6 +61,8 @@ play "$qgis_scripts/open_dock.py" "$out/town/town.qgz" "$out/user" "$out/open_do
 step "Removing the package"
 inside dpkg --purge orvane-qgis >>"$out/dpkg.log" 2>&1 || fail "cannot be removed: $(cat "$out/dpkg.log")"
 as_root rm "$root/var/orvane-qgis.deb"
-left=$(cd "$root" && as_root find usr etc var/lib/dpkg/info -iname '*orvane*' | head -n 5)
+# What was there before is not in this layer, or as a device, which tells that it was removed.
+left=$(as_root find "$memory/written/usr" "$memory/written/etc" "$memory/written/var" -iname '*orvane*' ! -type c |
+    head -n 5)
 [ -z "$left" ] || fail "after the removal there still are: $left"
 echo "installed, used and removed: all well"
