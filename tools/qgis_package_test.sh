@@ -62,7 +62,6 @@ step "Removing the package"
 inside dpkg --purge orvane-qgis >>"$out/dpkg.log" 2>&1 || fail "cannot be removed: $(cat "$out/dpkg.log")"
 as_root rm "$root/var/orvane-qgis.deb"
 # What was there before is not in this layer, or as a device, which tells that it was removed.
-left=$(as_root find "$memory/written/usr" "$memory/written/etc" "$memory/written/var" -iname '*orvane*' ! -type c |
-    head -n 5)
+left=$(cd "$memory/written" && as_root find . -iregex './\(usr\|etc\|var\)/.*orvane[^/]*' ! -type c | head -n 5)
 [ -z "$left" ] || fail "after the removal there still are: $left"
 echo "installed, used and removed: all well"
