@@ -2,6 +2,7 @@
 # Sourced by the scripts that run QGIS with the plug-in, with settings that are not those of the user.
 
 qgis_command=(qgis)
+qgis_scripts=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../tests/qgis/real")
 
 # install_plugin BUILD FOLDER: puts the plug-in there as it is installed; prints the folder for QGIS to search.
 install_plugin() {
@@ -26,28 +27,33 @@ make_profile() {
     } >"$settings/QGIS3.ini"
 }
 
-# play SCRIPT PROJECT PROFILE OUTPUT: runs a script of tests/qgis/real inside QGIS, on the desktop that was started. It
-# must say that it has passed, and QGIS must end well. Layers in the folder for temporary files make QGIS ask at its end.
+# play SCRIPT PROJECT PROFILE OUTPUT: runs a Python script inside QGIS, on the desktop that was started, for TO seconds at
+# most. With tests/qgis/real/user.py it tells whether it has passed; any other ends QGIS by making the file OUTPUT/done.
 play() {
     local script=$1 project=$2 profile=$3 output=$4 qgis code=0
-    mkdir -p "$output/tmp"
-    rm -f "$output/passed" "$output/failed"
-    TMPDIR=$output/tmp ORVANE_OUT=$output ORVANE_SCRIPTS=$(dirname "$script") LC_ALL=C.UTF-8 timeout "${TO:-240}" \
-        "${qgis_command[@]}" --profiles-path "$profile" --nologo --noversioncheck --code "$script" "$project" >"$output/qgis.log" 2>&1 &
+    rm -rf "$output/tmp" "$output/passed" "$output/failed" "$output/done"
+    mkdir -p "$output"
+    mkdir -m 700 "$output/tmp" # at its end QGIS asks about layers in the folder for temporary files
+    XDG_RUNTIME_DIR=$output/tmp TMPDIR=$output/tmp LC_ALL=C.UTF-8 ORVANE_OUT=$output ORVANE_SCRIPTS=$qgis_scripts \
+        timeout "${TO:-240}" "${qgis_command[@]}" --profiles-path "$profile" --nologo --noversioncheck \
+        --code "$script" "$project" >"$output/qgis.log" 2>&1 &
     qgis=$!
-    while kill -0 $qgis 2>/dev/null && [ ! -e "$output/failed" ]; do sleep 0.2; done
-    [ ! -e "$output/failed" ] || kill $qgis 2>/dev/null || true
+    while kill -0 $qgis 2>/dev/null && [ ! -e "$output/failed" ] && [ ! -e "$output/done" ]; do sleep 0.2; done
+    if [ -e "$output/failed" ] || [ -e "$output/done" ]; then kill $qgis 2>/dev/null || true; fi
     wait $qgis || code=$?
     rm -rf "$output/tmp"
-    if [ ! -e "$output/passed" ]; then
-        cat "$output/qgis.log" >&2
-        [ ! -e "$output/failed" ] || cat "$output/failed" >&2
-        echo "qgis: $(basename "$script") has failed; QGIS has ended with $code; pictures: $output" >&2
+    [ -e "$output/done" ] || judge "$(basename "$script")" "$output" $code
+}
+
+# judge NAME OUTPUT CODE: fails unless all was well.
+judge() {
+    if [ ! -e "$2/passed" ] || [ "$3" -ne 0 ]; then
+        cat "$2/qgis.log" >&2
+        echo "qgis: $1 has failed; QGIS has ended with $3; pictures: $2" >&2
         return 1
     fi
-    if grep -iE 'orvane|traceback|^(Warning: )?Q[A-Z][A-Za-z]*::' "$output/qgis.log"; then
-        echo "qgis: these warnings should not be there; see $output/qgis.log" >&2
+    if grep -iE 'Orvane::|traceback|^(Warning: )?Q[A-Z][A-Za-z]*::' "$2/qgis.log" >&2; then
+        echo "qgis: $1: these warnings should not be there" >&2
         return 1
     fi
-    [ $code -eq 0 ] || { cat "$output/qgis.log" >&2; echo "qgis: QGIS has ended with $code" >&2; return 1; }
 }

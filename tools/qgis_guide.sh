@@ -13,6 +13,6 @@ plugins=$(install_plugin "$build" "$work/installed")
 make_profile "$work/user" "" "$plugins"
 "$here/qgis_project.py" "$work/town/town.qgz"
 start_desktop "$work" 1440x880
-play "$(realpath "$here/../tests/qgis/real/guide.py")" "$work/town/town.qgz" "$work/user" "$work/pictures"
+play "$qgis_scripts/guide.py" "$work/town/town.qgz" "$work/user" "$work/pictures"
 cp "$work"/pictures/qgis-*.png "$pictures/"
 mogrify -strip +dither -colors 96 -define png:compression-level=9 "$pictures"/qgis-*.png

@@ -56,11 +56,12 @@ as_root cp "$package" "$root/var/orvane-qgis.deb"
 inside dpkg -i /var/orvane-qgis.deb >"$out/dpkg.log" 2>&1 || fail "cannot be installed: $(cat "$out/dpkg.log")"
 
 step "Opening the layer control"
-play "$repository/tests/qgis/real/open_dock.py" "$out/town/town.qgz" "$out/user" "$out/open_dock"
+play "$qgis_scripts/open_dock.py" "$out/town/town.qgz" "$out/user" "$out/open_dock"
 
 step "Removing the package"
 inside dpkg --purge orvane-qgis >>"$out/dpkg.log" 2>&1 || fail "cannot be removed: $(cat "$out/dpkg.log")"
 as_root rm "$root/var/orvane-qgis.deb"
-left=$(cd "$root" && as_root find usr etc var/lib/dpkg/info -iname '*orvane*' | head -n 5)
+# What was there before is not in this layer, or as a device, which tells that it was removed.
+left=$(cd "$memory/written" && as_root find . -iregex './\(usr\|etc\|var\)/.*orvane[^/]*' ! -type c | head -n 5)
 [ -z "$left" ] || fail "after the removal there still are: $left"
 echo "installed, used and removed: all well"

@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-# Makes a QGIS project with a small town: qgis_project.py FILE [LAYERS]
+# usage: qgis_project.py FILE [LAYERS [blocks]]
+# Makes a QGIS project with a small town, and a group with so many layers without features; with "blocks", groups of a
+# hundred layers with a square each.
 import json
 import os
 import sys
@@ -8,7 +10,8 @@ import sys
 os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
 from qgis.core import (  # noqa: E402
     QgsApplication, QgsCategorizedSymbolRenderer, QgsCoordinateReferenceSystem, QgsFeature, QgsFillSymbol, QgsGeometry,
-    QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter, QgsVectorLayer)
+    QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer, QgsVectorFileWriter,
+    QgsVectorLayer)
 from qgis.gui import QgsMapCanvas  # noqa: E402
 
 SQUARE = "POLYGON(({0} {1}, {2} {1}, {2} {3}, {0} {3}, {0} {1}))"
@@ -67,24 +70,32 @@ def add_town(folder):
     add(nature, saved_layer(folder, "Soil", "Polygon", squares(4, 8)), classified())
 
 
-def add_many(folder, count):
-    if count == 0:
-        return
-    """Blocks of a hundred layers, each with a square in a row below the town."""
+def add_many(count):
+    group = QgsProject.instance().layerTreeRoot().addGroup("Many")
+    for number in range(count):
+        add(group, QgsVectorLayer("Polygon?crs=EPSG:3857", "Layer %d" % number, "memory"), fill("#80c0c0"))
+
+
+def saved_square(folder, number):
+    """A layer with a square, in rows of fifty below the town."""
+    row, column = divmod(number, 50)
+    west, south = column * 20, -40 - row * 20
+    corners = [(west, south), (west + 16, south), (west + 16, south + 16), (west, south + 16), (west, south)]
+    path = os.path.join(folder, "layer%d.geojson" % number)
+    with open(path, "w", encoding="utf-8") as file:
+        json.dump({"type": "FeatureCollection",
+                   "crs": {"type": "name", "properties": {"name": "EPSG:3857"}},
+                   "features": [{"type": "Feature", "properties": {},
+                                 "geometry": {"type": "Polygon", "coordinates": [corners]}}]}, file)
+    return QgsVectorLayer(path, "Layer %d" % number, "ogr")
+
+
+def add_blocks(folder, count):
     many = QgsProject.instance().layerTreeRoot().addGroup("Many")
     for number in range(count):
         if number % 100 == 0:
             block = many.addGroup("Block %d" % (number // 100))
-        row, column = divmod(number, 50)
-        west, south = column * 20, -40 - row * 20
-        corners = [(west, south), (west + 16, south), (west + 16, south + 16), (west, south + 16), (west, south)]
-        path = os.path.join(folder, "layer%d.geojson" % number)
-        with open(path, "w", encoding="utf-8") as file:
-            json.dump({"type": "FeatureCollection",
-                       "crs": {"type": "name", "properties": {"name": "EPSG:3857"}},
-                       "features": [{"type": "Feature", "properties": {"kind": number % 3},
-                                     "geometry": {"type": "Polygon", "coordinates": [corners]}}]}, file)
-        add(block, QgsVectorLayer(path, "Layer %d" % number, "ogr"), fill("#80c0c0"))
+        add(block, saved_square(folder, number), fill("#80c0c0"))
 
 
 def main():
@@ -93,8 +104,11 @@ def main():
     application.initQgis()
     QgsProject.instance().setCrs(QgsCoordinateReferenceSystem("EPSG:3857"))
     add_town(os.path.dirname(path))
-    add_many(os.path.dirname(path), int(sys.argv[2]) if len(sys.argv) > 2 else 0)
-    canvas = QgsMapCanvas() # QGIS opens the project with the view of a canvas of that name
+    if "blocks" in sys.argv[3:]:
+        add_blocks(os.path.dirname(path), int(sys.argv[2]))
+    elif sys.argv[2:] and int(sys.argv[2]):
+        add_many(int(sys.argv[2]))
+    canvas = QgsMapCanvas()  # QGIS opens the project with the view of a canvas of that name
     canvas.setObjectName("theMapCanvas")
     canvas.setDestinationCrs(QgsProject.instance().crs())
     canvas.setExtent(QgsRectangle(-20, -20, 1000, 700))

@@ -11,7 +11,6 @@ here=$(dirname "$(realpath "$0")")
 build=$(realpath "$1")
 rm -rf "$2"
 out=$(mkdir -p "$2" && realpath "$2") layers=${3:-1000}
-scripts=$(realpath "$here/../tests/qgis/real")
 plugins=$(install_plugin "$build" "$out/installed")
 make_profile "$out/with" true "$plugins"
 make_profile "$out/without" false
@@ -20,14 +19,14 @@ ORVANE_LANGUAGE=de make_profile "$out/german" true "$plugins"
 # scene NAME PROJECT PROFILE
 scene() {
     local started=$SECONDS
-    play "$scripts/$1.py" "$2" "$out/$3" "$out/$1"
+    play "$qgis_scripts/$1.py" "$2" "$out/$3" "$out/$1"
     echo "$1: passed ($(duration $((SECONDS - started))))"
 }
 
 start_desktop "$out" 1920x1080
 mkdir "$out/town" "$out/many"
 "$here/qgis_project.py" "$out/town/town.qgz"
-"$here/qgis_project.py" "$out/many/many.qgz" "$layers"
+"$here/qgis_project.py" "$out/many/many.qgz" "$layers" blocks
 scene open_dock "$out/town/town.qgz" with
 scene in_german "$out/town/town.qgz" german
 scene town "$out/town/town.qgz" with

@@ -2,13 +2,14 @@
 # SPDX-License-Identifier: MIT
 # usage: qgis_try.sh BUILD OUT [SCRIPT] [LAYERS]
 # Shows the plug-in in the real QGIS on a virtual screen, and takes pictures. BUILD has the plug-in and the component.
-# SCRIPT: Python, run inside QGIS when the project is open; by default it opens the dock.
+# SCRIPT: Python, run inside QGIS when the project is open; by default it opens the dock. A script without user.py ends
+# the session by making the file done in the folder ORVANE_OUT.
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 . "$here/qgis_desktop.sh"
 . "$here/virtual_desktop.sh"
 build=$(realpath "$1") out=$(mkdir -p "$2" && realpath "$2")
-script=$(realpath "${3:-$here/../tests/qgis/real/open_dock.py}") layers=${4:-0}
+script=$(realpath "${3:-$qgis_scripts/open_dock.py}") layers=${4:-0}
 work=$out/work
 rm -rf "$work"
 mkdir -p "$work/town"

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Run inside QGIS with the plug-in, on the project that many_layers.py has saved: its schemes and what the layer control
-# keeps for QGIS must be there.
+# Run inside QGIS with the plug-in, on the project that many_layers.py has saved, and a QGIS without the plug-in after
+# it: its schemes and what the layer control keeps for QGIS must be there.
 import os
 import sys
 

@@ -284,7 +284,7 @@ def logged():
     """The lines about the plug-in in QGIS's panel of messages, also from before the script began."""
     texts = iface.mainWindow().findChild(QDockWidget, "MessageLog").findChildren(QPlainTextEdit)
     lines = [line for text in texts for line in text.toPlainText().splitlines()]
-    return [line for line in lines if " INFO " not in line and ("orvane" in line.lower() or "Layer Control" in line)]
+    return [line for line in lines if " INFO " not in line and ("layercontrol" in line.lower() or "Layer Control" in line)]
 
 
 def fail():

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Run inside a QGIS without the plug-in, on the project that many_layers.py has saved: it must look the same.
+# Saves it again.
 import os
 import sys
 
@@ -15,6 +16,8 @@ def steps():
     picture("without-plugin")
     before = QImage(os.path.join(OUT, "..", "drawn.png")).convertToFormat(QImage.Format_RGB32)
     expect(drawn() == before, True, "the same picture as with the plug-in")
+    QgsProject.instance().setDirty(True)
+    yield from save()
 
 
 play(steps())
