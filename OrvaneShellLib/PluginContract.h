@@ -16,7 +16,7 @@ struct ContractVersion {
 };
 
 /// The contract version of this source tree. docs/promises.md lists what each minor version added.
-inline constexpr ContractVersion CurrentContract{1, 4};
+inline constexpr ContractVersion CurrentContract{1, 5};
 
 /// What a component assumes of a host that does not tell its version: the oldest contract. It then leaves out
 /// all that came later, such as IConflictQuestion and IEditorWatch, so a host that implements these must be

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The rules of "cmake --install", in three components: "program" is Orvane, "plugin" the component with its texts, and
-# "development" what host authors build with. No installed file contains the prefix, so that the installation can be
+# The rules of "cmake --install", in components: "program" is Orvane, "plugin" the component with its texts,
+# "development" what host authors build with, and "qgis" all that QGIS needs. No installed file contains the prefix, so that the installation can be
 # moved: programs find the component and their texts relative to their own folder, find_package(Orvane) finds the
 # libraries in the same way.
 include(GNUInstallDirs)
@@ -91,4 +91,22 @@ if(ORVANE_BUILD_SHELL)
   install(CODE "execute_process(COMMAND gzip -9nc \"${packaging}/orvane.1\" \
     OUTPUT_FILE \"${PROJECT_BINARY_DIR}/orvane.1.gz\" COMMAND_ERROR_IS_FATAL ANY)" COMPONENT program)
   install(FILES "${PROJECT_BINARY_DIR}/orvane.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
+endif()
+
+# The plug-in for QGIS, with a component of its own, because this one belongs to QGIS's version of Qt. The component is
+# not beside the plug-in: QGIS tries every library in that folder.
+if(TARGET orvane_qgis)
+  set(ORVANE_QGIS_DESTINATION "${QGIS_PLUGIN_SUBFOLDER}" CACHE STRING
+    "Where QGIS looks for plug-ins, relative to the prefix")
+  install(TARGETS orvane_qgis LIBRARY DESTINATION "${ORVANE_QGIS_DESTINATION}" COMPONENT qgis)
+  set(component_for_qgis "${ORVANE_PLUGIN_DESTINATION}/qgis")
+  install(TARGETS OrvaneLayerControl LIBRARY DESTINATION "${component_for_qgis}" COMPONENT qgis)
+  foreach(language IN LISTS ORVANE_LANGUAGES)
+    install(FILES "${PROJECT_SOURCE_DIR}/translations/POBEX.${language}.ts"
+      DESTINATION "${component_for_qgis}/${language}" RENAME POBEX.LRT COMPONENT qgis)
+    install(FILES "${PROJECT_SOURCE_DIR}/translations/orvane.${language}.ts"
+      DESTINATION "${component_for_qgis}/translations" COMPONENT qgis)
+  endforeach()
+  file(RELATIVE_PATH way "/${ORVANE_QGIS_DESTINATION}" "/${component_for_qgis}")
+  target_compile_definitions(orvane_qgis PRIVATE ORVANE_COMPONENT_WAY="${way}")
 endif()

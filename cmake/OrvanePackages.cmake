@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# "cpack" in the build folder makes three Debian packages: a host author needs no GDAL, a user no headers.
+# "cpack" in the build folder makes Debian packages: a host author needs no GDAL, a user no headers.
 set(ORVANE_PACKAGE_MAINTAINER "The Orvane authors <maintainers@orvane.invalid>" CACHE STRING
   "Who answers for the Debian packages")
 
@@ -64,5 +64,18 @@ prints them. It reads vector data in all formats that GDAL reads."
   set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS qt6-translations-l10n)
 else()
   list(REMOVE_ITEM CPACK_COMPONENTS_ALL program)
+endif()
+if(TARGET orvane_qgis)
+  # The libraries of QGIS change with every release, also where their version numbers hardly do.
+  string(REGEX MATCH "^([0-9]+\\.[0-9]+)\\.([0-9]+)" release "${QGIS_VERSION}")
+  math(EXPR next "${CMAKE_MATCH_2} + 1")
+  orvane_package(qgis orvane-qgis SECTION science
+    SYNOPSIS "layer control for QGIS"
+    DESCRIPTION "A plug-in for QGIS: a dock that edits how the layers and groups of a
+project look, many at once, and switches their schemes."
+    DEPENDS "qgis (>= ${release}), qgis (<< ${CMAKE_MATCH_1}.${next}~)")
+  install(FILES "${PROJECT_SOURCE_DIR}/packaging/orvane-qgis.overrides"
+    DESTINATION share/lintian/overrides RENAME orvane-qgis COMPONENT qgis)
+  list(APPEND CPACK_COMPONENTS_ALL qgis)
 endif()
 include(CPack)

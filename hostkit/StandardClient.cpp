@@ -75,6 +75,15 @@ void StandardClient::RefreshEditors()
     m_parts->windows.RefreshEditors();
 }
 
+void StandardClient::RefreshEditors(const QSet<qint32>& layerIDs)
+{
+    if (layerIDs.isEmpty())
+        return;
+    m_parts->names.ReadAgain(layerIDs);
+    m_parts->schemes.NoteDifferences(layerIDs);
+    m_parts->windows.RefreshEditors(layerIDs);
+}
+
 void StandardClient::InvalidateLayerNames()
 {
     m_parts->names.Invalidate();

@@ -6,6 +6,7 @@ packages_build=(build-essential cmake ninja-build ccache lld pkg-config git
 packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
 packages_clang=(clang libclang-rt-14-dev)
 packages_qt5=(qtbase5-dev)
+packages_qgis=(libqgis-dev qgis python3-qgis qtbase5-dev)
 packages_abi=(abigail-tools binutils python3)
 packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev libqt6opengl6-dev qt6-translations-l10n fonts-dejavu-core)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core

@@ -240,6 +240,10 @@
         <translation>&amp;Legende des Gezeigten</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>&amp;Aus jedem dieser Kartenthemen ein Layerschema machen:</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>&amp;Objekt verschieben</translation>
     </message>
@@ -462,6 +466,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Ein leerer Wert kann nicht in „^1“ gespeichert werden.</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Fläche: %1, Umfang: %2</translation>
     </message>
@@ -488,6 +496,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
     <message>
         <source>B&amp;rowse...</source>
         <translation>Du&amp;rchsuchen...</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>Füllhintergrund</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -518,6 +530,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Anderswo geändert</translation>
     </message>
     <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>Änderungen in der Layersteuerung, die nicht angewendet waren, wurden verworfen.</translation>
+    </message>
+    <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
         <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen innerhalb einer Sekunde im anderen.</translation>
     </message>
@@ -546,6 +562,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>Klicken setzt einen Stützpunkt, Doppelklicken beendet.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -596,6 +616,10 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>Darstellungsart</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Punkte je Zoll. Voreinstellung: 300, bei einer Größe in Pixeln 96.</translation>
     </message>
@@ -622,6 +646,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Im Maßstab 1:N um die Kartenmitte zeichnen.</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>Die Layer so zeichnen, wie dieses Schema sie hat; die Kartendatei bleibt, wie sie ist.</translation>
     </message>
@@ -634,8 +662,16 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Zeichnen...</translation>
     </message>
     <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>Bearbeitet die Eigenschaften vieler Layer auf einmal und hält sie in Schemas fest.</translation>
+    </message>
+    <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>Die Prüfung der Datei nach dieser Zeit beenden; 0 für keine Grenze. Voreinstellung: 600.</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>abfragbar</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -654,12 +690,28 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Karte exportieren</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>Kartenthema „%1“ exportieren</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>Schema exportieren</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>Export des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>Schema als Kartenthema exportieren</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>Schema als Kartenthema exportieren...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>Schema exportieren...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -680,6 +732,14 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Files, or folders with files in them.</source>
         <translation>Dateien, oder Ordner mit Dateien.</translation>
+    </message>
+    <message>
+        <source>fill colour</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>Fülltyp</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -718,12 +778,32 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Objekte anklickbarer Layer unter dem Zeiger hervorheben, mit jedem Werkzeug</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>Kartenthema „%1“ importieren</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>Kartenthemen importieren</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>Kartenthemen importieren...</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>anklickbar</translation>
+    </message>
+    <message>
         <source>Import Scheme</source>
         <translation>Schema importieren</translation>
     </message>
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>Import des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>Schema importieren...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -806,12 +886,20 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Querformat</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>Layer „%1“: %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>Layer %1 hat keinen gültigen Wert „%2“.</translation>
     </message>
     <message>
         <source>Layer &amp;Rendering...</source>
         <translation>Layer&amp;darstellung...</translation>
+    </message>
+    <message>
+        <source>Layer Control</source>
+        <translation>Layersteuerung</translation>
     </message>
     <message>
         <source>Layer Rendering</source>
@@ -866,6 +954,18 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Länge: %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>Linienfarbe oder ihre Verwendung für Symbole</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>Linien</translation>
     </message>
@@ -880,6 +980,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Loading the schemes</source>
         <translation>Schemata werden geladen</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -918,6 +1022,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Karten (*.orvane);;Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>Maximum der Maßstäbe</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>&amp;Fläche messen</translation>
     </message>
@@ -932,6 +1040,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>Eine Fläche messen; ihre Stützpunkte rasten an Layern mit eingeschaltetem Fang ein</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>Minimum der Maßstäbe</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -964,6 +1076,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>New Map</source>
         <translation>Neue Karte</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>Neuer temporärer Layer</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1128,6 +1244,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte drucken, mit Vorschau</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2.</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2. Auch bei %3 weiteren Layern konnten diese oder andere Einstellungen nicht gesetzt werden.</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Orvane beenden</translation>
     </message>
@@ -1166,6 +1290,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Redo %1</source>
         <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Redo Layer Change</source>
+        <translation>Änderung an Layern wiederholen</translation>
     </message>
     <message>
         <source>Redo the last undone change</source>
@@ -1214,6 +1342,22 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>Speichern der Schemas für neue Karten</translation>
+    </message>
+    <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>Aus Kartenthemen erzeugte Schemas: %1</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>auswählbar</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>Fang erforderlich</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>Stil</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1352,6 +1496,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Das letzte Layerschema kann nicht gelöscht werden.</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>Der Layer „%1“ wurde entfernt.</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>In der Layersteuerung stehen Änderungen, die noch nicht angewendet sind. Wenden Sie sie zuerst an, oder verwerfen Sie sie.</translation>
     </message>
@@ -1366,6 +1514,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>Die Layerschemata dieses Projekts sind beschädigt und können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>Die Layerschemata dieses Projekts wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1464,6 +1620,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Kartendatei.</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>Das Kartenthema „%1“ ist bereits vorhanden. Soll es durch das Schema ersetzt werden?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>Die Karte wurde in einem anderen Fenster geändert und neu geladen.</translation>
     </message>
@@ -1500,12 +1660,24 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die aus „^1“ gelesenen Zeilen haben keine Spalte „^2“.</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>Das Schema „%1“ ist bereits vorhanden. Soll es durch das Kartenthema ersetzt werden?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>Das Schema „%1“ ist bereits vorhanden. Soll es durch das Schema in der Datei ersetzt werden?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>Das Schema „%1“ wurde als Kartenthema exportiert.</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>Das Schema „%1“ wurde exportiert.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>Das Schema „%1“ wurde importiert. Passende Layer: %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1580,6 +1752,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>im Ordner „%1“ ist nicht genug Speicherplatz</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Den Stil „%1“ gibt es in diesen Layern nicht, sie behalten ihren: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>In „^1“ gibt es keine Transaktion, die abgeschlossen werden kann.</translation>
     </message>
@@ -1604,8 +1780,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Dieses Programm hat keine Startdatenbank.</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>Dieses Projekt hat keine Kartenthemen.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Dieser Schritt ist nicht mehr möglich, weil Layer, die er geändert hat, seither von einem anderen Programm geändert wurden. Es wurde nichts geändert: %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>Dieser Schritt ist nicht mehr möglich, weil das Kartenthema seither geändert wurde. Es wurde nichts geändert: %1</translation>
     </message>
     <message>
         <source>Title of the map</source>
@@ -1622,6 +1806,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Undo %1</source>
         <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>Änderung an Layern rückgängig machen</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>
@@ -1642,6 +1830,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>sichtbar</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

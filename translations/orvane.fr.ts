@@ -240,6 +240,10 @@
         <translation>&amp;Légende de ce qui est montré</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>&amp;Créer un schéma de couches de chacun de ces thèmes de carte :</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>Déplacer un &amp;objet</translation>
     </message>
@@ -462,6 +466,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Une valeur vide ne peut pas être enregistrée dans « ^1 ».</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>Une erreur inconnue s’est produite.</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Surface : %1, périmètre : %2</translation>
     </message>
@@ -488,6 +496,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
     <message>
         <source>B&amp;rowse...</source>
         <translation>Par&amp;courir...</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>couleur de fond</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -518,6 +530,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Modifié ailleurs</translation>
     </message>
     <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>Des modifications non appliquées du contrôle des couches ont été abandonnées.</translation>
+    </message>
+    <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
         <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre en moins d’une seconde.</translation>
     </message>
@@ -546,6 +562,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>Cliquez pour placer un sommet, double-cliquez pour terminer.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>code</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -596,6 +616,10 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>mode d’affichage</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Points par pouce. Par défaut : 300, ou 96 pour une taille en pixels.</translation>
     </message>
@@ -622,6 +646,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessiner à l'échelle 1:N autour du centre de la carte.</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>priorité</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>Dessiner les couches comme dans ce schéma ; le fichier de carte reste tel quel.</translation>
     </message>
@@ -634,8 +662,16 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessin...</translation>
     </message>
     <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>Modifie les propriétés de plusieurs couches à la fois et les conserve dans des schémas.</translation>
+    </message>
+    <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>Terminer la vérification du fichier après ce délai ; 0 pour aucune limite. Par défaut : 600.</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>interrogeable</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -654,12 +690,28 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Exporter la carte</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>Exporter le thème de carte « %1 »</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>Exporter le schéma</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>Exportation du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>Exporter le schéma comme thème de carte</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>Exporter le schéma comme thème de carte...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>Exporter le schéma...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -680,6 +732,14 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Files, or folders with files in them.</source>
         <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
+    </message>
+    <message>
+        <source>fill colour</source>
+        <translation>couleur de remplissage</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>motif</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -718,12 +778,32 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Mettre en évidence les objets des couches cliquables sous le pointeur, avec tout outil</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>Importer le thème de carte « %1 »</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>Importer des thèmes de carte</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>Importer des thèmes de carte...</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>cliquable</translation>
+    </message>
+    <message>
         <source>Import Scheme</source>
         <translation>Importer un schéma</translation>
     </message>
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>Importation du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>Importer un schéma...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -806,12 +886,20 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Paysage</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>Couche « %1 » : %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>La couche %1 n’a pas de « %2 » valide.</translation>
     </message>
     <message>
         <source>Layer &amp;Rendering...</source>
         <translation>&amp;Rendu de la couche...</translation>
+    </message>
+    <message>
+        <source>Layer Control</source>
+        <translation>Contrôle des couches</translation>
     </message>
     <message>
         <source>Layer Rendering</source>
@@ -866,6 +954,18 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Longueur : %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>couleur de ligne, ou son emploi pour les symboles</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>style de ligne</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>épaisseur de ligne</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>Lignes</translation>
     </message>
@@ -880,6 +980,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Loading the schemes</source>
         <translation>Chargement des schémas</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillée</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -918,6 +1022,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Cartes (*.orvane);;Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>échelle maximale</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>Mesurer une s&amp;urface</translation>
     </message>
@@ -932,6 +1040,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>Mesurer une surface ; ses sommets s’accrochent aux couches dont l’accrochage est activé</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>échelle minimale</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -964,6 +1076,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>New Map</source>
         <translation>Nouvelle carte</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>Nouvelle couche temporaire</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1128,6 +1244,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Imprimer la carte, avec aperçu</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2. Ces réglages ou d’autres n’ont pas non plus pu être faits pour %3 autres couches.</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Quitter Orvane</translation>
     </message>
@@ -1166,6 +1290,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Redo %1</source>
         <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Redo Layer Change</source>
+        <translation>Rétablir la modification des couches</translation>
     </message>
     <message>
         <source>Redo the last undone change</source>
@@ -1214,6 +1342,22 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
+    </message>
+    <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>Schémas créés à partir de thèmes de carte : %1</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>sélectionnable</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>accrochage obligatoire</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>style</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1352,6 +1496,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le dernier schéma de couches ne peut pas être supprimé.</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>La couche « %1 » a été retirée.</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>Le contrôle des couches contient des modifications qui ne sont pas encore appliquées. Appliquez-les ou annulez-les d’abord.</translation>
     </message>
@@ -1366,6 +1514,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>Les schémas de couches de « %1 » ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>Les schémas de couches de ce projet sont endommagés et ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>Les schémas de couches de ce projet ont été écrits par un programme plus récent et ne peuvent pas être lus.</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1464,6 +1620,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le fichier de carte.</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>Il existe déjà un thème de carte « %1 ». Le remplacer par le schéma ?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>La carte a été modifiée dans une autre fenêtre et a été rechargée.</translation>
     </message>
@@ -1500,12 +1660,24 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Les lignes lues dans « ^1 » n’ont pas de colonne « ^2 ».</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>Il existe déjà un schéma « %1 ». Le remplacer par le thème de carte ?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>Il existe déjà un schéma « %1 ». Le remplacer par celui du fichier ?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>Le schéma « %1 » a été exporté comme thème de carte.</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>Le schéma « %1 » a été exporté.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>Le schéma « %1 » a été importé. Couches correspondantes : %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1580,6 +1752,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>il n’y a plus de place dans le dossier « %1 »</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>Ces couches n’ont pas de style « %1 » et gardent le leur : %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>Il n’y a pas de transaction à valider dans « ^1 ».</translation>
     </message>
@@ -1604,8 +1780,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Ce programme n’a pas de base de données de démarrage.</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>Ce projet n’a pas de thèmes de carte.</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>Cette étape n’est plus possible, car des couches qu’elle a modifiées l’ont été depuis par un autre programme. Rien n’a été modifié : %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>Cette étape n’est plus possible, car le thème de carte a été modifié depuis. Rien n’a été changé : %1</translation>
     </message>
     <message>
         <source>Title of the map</source>
@@ -1622,6 +1806,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Undo %1</source>
         <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>Annuler la modification des couches</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>
@@ -1642,6 +1830,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>visible</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

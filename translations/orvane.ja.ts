@@ -240,6 +240,10 @@
         <translation>見えているものの凡例(&amp;L)</translation>
     </message>
     <message>
+        <source>&amp;Make a layer scheme of each of these map themes:</source>
+        <translation>これらの地図テーマからレイヤースキームを作成(&amp;M):</translation>
+    </message>
+    <message>
         <source>&amp;Move Feature</source>
         <translation>地物を移動(&amp;M)</translation>
     </message>
@@ -462,6 +466,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>空の値は「^1」に保存できません。</translation>
     </message>
     <message>
+        <source>An unknown error has occurred.</source>
+        <translation>不明なエラーが発生しました。</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>面積: %1、周長: %2</translation>
     </message>
@@ -488,6 +496,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
     <message>
         <source>B&amp;rowse...</source>
         <translation>参照(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>背景色</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -518,6 +530,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>別の場所で変更されました</translation>
     </message>
     <message>
+        <source>Changes in the layer control that were not applied have been dropped.</source>
+        <translation>レイヤーコントロールで適用されていない変更は破棄されました。</translation>
+    </message>
+    <message>
         <source>Changes made in one window are saved immediately and appear in the other within a second.</source>
         <translation>一方のウィンドウでの変更はすぐに保存され、1秒以内にもう一方にも表示されます。</translation>
     </message>
@@ -546,6 +562,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
     <message>
         <source>Click to set a vertex, double-click to end.</source>
         <translation>クリックで頂点を置き、ダブルクリックで終了します。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>コード</translation>
     </message>
     <message>
         <source>Code:</source>
@@ -596,6 +616,10 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
     </message>
     <message>
+        <source>display mode</source>
+        <translation>表示モード</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
     </message>
@@ -622,6 +646,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図の中央を縮尺 1:N で描きます。</translation>
     </message>
     <message>
+        <source>draw priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
         <source>Draw the layers as this scheme has them; the map file stays as it is.</source>
         <translation>このスキームのとおりにレイヤーを描きます。地図ファイルは変わりません。</translation>
     </message>
@@ -634,8 +662,16 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>描画中...</translation>
     </message>
     <message>
+        <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
+        <translation>多数のレイヤーのプロパティを一度に編集し、スキームに保存します。</translation>
+    </message>
+    <message>
         <source>End the check of the file after that time; 0 for no limit. The default is 600.</source>
         <translation>この時間が過ぎたらファイルの検査を終えます。0 は制限なしです。既定値は 600 です。</translation>
+    </message>
+    <message>
+        <source>enquirable</source>
+        <translation>照会可能</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -654,12 +690,28 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図の書き出し</translation>
     </message>
     <message>
+        <source>Export Map Theme &quot;%1&quot;</source>
+        <translation>地図テーマ「%1」を書き出し</translation>
+    </message>
+    <message>
         <source>Export Scheme</source>
         <translation>スキームを書き出し</translation>
     </message>
     <message>
         <source>Export Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme</source>
+        <translation>スキームを地図テーマとして書き出し</translation>
+    </message>
+    <message>
+        <source>Export Scheme as Map Theme...</source>
+        <translation>スキームを地図テーマとして書き出し...</translation>
+    </message>
+    <message>
+        <source>Export Scheme...</source>
+        <translation>スキームを書き出し...</translation>
     </message>
     <message>
         <source>Extent of the &amp;window, fitted to the page</source>
@@ -680,6 +732,14 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Files, or folders with files in them.</source>
         <translation>ファイル、またはファイルの入ったフォルダー。</translation>
+    </message>
+    <message>
+        <source>fill colour</source>
+        <translation>塗りの色</translation>
+    </message>
+    <message>
+        <source>fill style</source>
+        <translation>塗りパターン</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
@@ -718,12 +778,32 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
     </message>
     <message>
+        <source>Import Map Theme &quot;%1&quot;</source>
+        <translation>地図テーマ「%1」を読み込み</translation>
+    </message>
+    <message>
+        <source>Import Map Themes</source>
+        <translation>地図テーマを読み込み</translation>
+    </message>
+    <message>
+        <source>Import Map Themes...</source>
+        <translation>地図テーマを読み込み...</translation>
+    </message>
+    <message>
+        <source>hitable</source>
+        <translation>クリック可能</translation>
+    </message>
+    <message>
         <source>Import Scheme</source>
         <translation>スキームを読み込み</translation>
     </message>
     <message>
         <source>Import Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の読み込み</translation>
+    </message>
+    <message>
+        <source>Import Scheme...</source>
+        <translation>スキームを読み込み...</translation>
     </message>
     <message>
         <source>In the file, not in the map:</source>
@@ -806,12 +886,20 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>横</translation>
     </message>
     <message>
+        <source>Layer &quot;%1&quot;: %2</source>
+        <translation>レイヤー「%1」: %2</translation>
+    </message>
+    <message>
         <source>Layer %1 has no valid &quot;%2&quot;.</source>
         <translation>レイヤ %1 の「%2」が正しくありません。</translation>
     </message>
     <message>
         <source>Layer &amp;Rendering...</source>
         <translation>レイヤーの描画(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Layer Control</source>
+        <translation>レイヤーコントロール</translation>
     </message>
     <message>
         <source>Layer Rendering</source>
@@ -866,6 +954,18 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>長さ: %1</translation>
     </message>
     <message>
+        <source>line colour, or its use for symbols</source>
+        <translation>線の色、またはシンボルへの使用</translation>
+    </message>
+    <message>
+        <source>line style</source>
+        <translation>線種</translation>
+    </message>
+    <message>
+        <source>line width</source>
+        <translation>線の幅</translation>
+    </message>
+    <message>
         <source>Lines</source>
         <translation>線</translation>
     </message>
@@ -880,6 +980,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Loading the schemes</source>
         <translation>スキームを読み込んでいます</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック</translation>
     </message>
     <message>
         <source>Looking for map data</source>
@@ -918,6 +1022,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図 (*.orvane);;すべてのファイル (*)</translation>
     </message>
     <message>
+        <source>maximum scale</source>
+        <translation>最大縮尺</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>面積の計測(&amp;A)</translation>
     </message>
@@ -932,6 +1040,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Measure an area; its vertices snap to layers with snapping turned on</source>
         <translation>面を計測します。頂点はスナップ対象のレイヤーに吸着します</translation>
+    </message>
+    <message>
+        <source>minimum scale</source>
+        <translation>最小縮尺</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -964,6 +1076,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>New Map</source>
         <translation>新しい地図</translation>
+    </message>
+    <message>
+        <source>New scratch layer</source>
+        <translation>新しい一時レイヤー</translation>
     </message>
     <message>
         <source>New Theme</source>
@@ -1128,6 +1244,14 @@ These commands run without a window; each has its own --help:
         <translation>プレビューを見てから地図を印刷します</translation>
     </message>
     <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
+        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。</translation>
+    </message>
+    <message>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
+        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。ほかに %3 個のレイヤーでも、同じ、または別の設定ができませんでした。</translation>
+    </message>
+    <message>
         <source>Quit Orvane</source>
         <translation>Orvane を終了します</translation>
     </message>
@@ -1166,6 +1290,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Redo %1</source>
         <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>Redo Layer Change</source>
+        <translation>レイヤーの変更をやり直す</translation>
     </message>
     <message>
         <source>Redo the last undone change</source>
@@ -1214,6 +1342,22 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Save Schemes for New Maps</source>
         <translation>新しい地図用のスキームの保存</translation>
+    </message>
+    <message>
+        <source>Schemes made of map themes: %1</source>
+        <translation>地図テーマから作成したスキーム: %1</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>選択可能</translation>
+    </message>
+    <message>
+        <source>snap required</source>
+        <translation>スナップ必須</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>スタイル</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1352,6 +1496,10 @@ These commands run without a window; each has its own --help:
         <translation>最後のレイヤースキームは削除できません。</translation>
     </message>
     <message>
+        <source>The layer &quot;%1&quot; was removed.</source>
+        <translation>レイヤー「%1」は削除されました。</translation>
+    </message>
+    <message>
         <source>The layer control holds changes that are not applied yet. Apply or cancel them first.</source>
         <translation>レイヤーコントロールに、まだ適用されていない変更があります。先に適用するか取り消してください。</translation>
     </message>
@@ -1366,6 +1514,14 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
         <translation>「%1」のレイヤスキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project are damaged and cannot be read.</source>
+        <translation>このプロジェクトのレイヤースキームは壊れているため読み取れません。</translation>
+    </message>
+    <message>
+        <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
+        <translation>このプロジェクトのレイヤースキームは、より新しいプログラムで書き込まれたため読み取れません。</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>
@@ -1464,6 +1620,10 @@ These commands run without a window; each has its own --help:
         <translation>地図ファイル。</translation>
     </message>
     <message>
+        <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
+        <translation>地図テーマ「%1」はすでにあります。スキームで置き換えますか?</translation>
+    </message>
+    <message>
         <source>The map was changed in another window and has been reloaded.</source>
         <translation>地図が別のウィンドウで変更されたため、再読み込みしました。</translation>
     </message>
@@ -1500,12 +1660,24 @@ These commands run without a window; each has its own --help:
         <translation>「^1」から読み込んだ行には列「^2」がありません。</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; already exists. Replace it with the map theme?</source>
+        <translation>スキーム「%1」はすでにあります。地図テーマで置き換えますか?</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; already exists. Replace it with the one in the file?</source>
         <translation>スキーム「%1」はすでにあります。ファイルのもので置き換えますか?</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was exported as a map theme.</source>
+        <translation>スキーム「%1」を地図テーマとして書き出しました。</translation>
+    </message>
+    <message>
         <source>The scheme &quot;%1&quot; was exported.</source>
         <translation>スキーム「%1」を書き出しました。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was imported. Layers that match: %2</source>
+        <translation>スキーム「%1」を読み込みました。一致したレイヤー: %2</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was imported.</source>
@@ -1580,6 +1752,10 @@ These commands run without a window; each has its own --help:
         <translation>フォルダー「%1」の空き容量が不足しています</translation>
     </message>
     <message>
+        <source>There is no style &quot;%1&quot; in these layers, which keep theirs: %2</source>
+        <translation>スタイル「%1」は次のレイヤーにないため、元のままです: %2</translation>
+    </message>
+    <message>
         <source>There is no transaction to commit in &quot;^1&quot;.</source>
         <translation>「^1」にはコミットするトランザクションがありません。</translation>
     </message>
@@ -1604,8 +1780,16 @@ These commands run without a window; each has its own --help:
         <translation>このプログラムには起動時のデータベースがありません。</translation>
     </message>
     <message>
+        <source>This project has no map themes.</source>
+        <translation>このプロジェクトに地図テーマはありません。</translation>
+    </message>
+    <message>
         <source>This step is no longer possible, because layers that it changed were changed since by another program. Nothing was changed: %1</source>
         <translation>このステップが変更したレイヤーは、その後ほかのプログラムによって変更されたため、実行できません。何も変更されていません: %1</translation>
+    </message>
+    <message>
+        <source>This step is no longer possible, because the map theme was changed since. Nothing was changed: %1</source>
+        <translation>その後に地図テーマが変更されたため、この操作はできません。何も変更されていません: %1</translation>
     </message>
     <message>
         <source>Title of the map</source>
@@ -1622,6 +1806,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Undo %1</source>
         <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Undo Layer Change</source>
+        <translation>レイヤーの変更を元に戻す</translation>
     </message>
     <message>
         <source>Undo the last change to layers, groups or schemes</source>
@@ -1642,6 +1830,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
+    </message>
+    <message>
+        <source>visible</source>
+        <translation>表示</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

@@ -3,6 +3,7 @@
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
 
 #include <QDialog>
 
@@ -17,7 +18,10 @@ namespace Orvane {
 /// The registry creates it through a StyleEditorFactory, sets its ID, owns it, and deletes it after Unloaded.
 /// It is not deleted at once, because the window's own code emits the signal, but at the latest together with
 /// the registry.
-class StyleEditorWindow : public QDialog, public IStyleEditor, public IStyleEditorForm
+class StyleEditorWindow : public QDialog,
+                          public IStyleEditor,
+                          public IStyleEditorForm,
+                          public IStyleEditorRefresh
 {
     Q_OBJECT
 

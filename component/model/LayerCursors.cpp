@@ -38,6 +38,11 @@ std::vector<qint32> ReadMemberLayerIDs(IStyleEditorClient& client, qint32 groupI
     return layerIDs;
 }
 
+bool IsInAGroup(IStyleEditorClient& client, qint32 layerID)
+{
+    return !client.GetDatabase().OpenRecordset(LayerQueries::GroupsOfLayer(layerID))->AtEOF();
+}
+
 bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID)
 {
     const auto layers = OpenLayersByID(client);

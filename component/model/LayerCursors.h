@@ -29,6 +29,9 @@ bool SeekID(IRecordset& table, qint32 id);
 /// missing layers. Empty for a group that does not exist.
 std::vector<qint32> ReadMemberLayerIDs(IStyleEditorClient& client, qint32 groupID);
 
+/// True if the layer is a member of a group.
+bool IsInAGroup(IStyleEditorClient& client, qint32 layerID);
+
 /// True when the layer is a system layer: it may not be deleted, renamed or given another code. False for a
 /// layer that does not exist.
 bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID);

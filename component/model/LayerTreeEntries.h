@@ -22,6 +22,8 @@ struct LayerEntry {
     qint16 quickMode = QuickMode::Normal;
     QString text; ///< decorated display name
     bool faulty = false; ///< a value of its row could not be read
+
+    bool operator==(const LayerEntry&) const = default;
 };
 
 /// A group as the groups tree lists it, with its layers in their order.

@@ -132,6 +132,18 @@ private:
     std::size_t m_current = 0;
 };
 
+std::optional<ListedLayer>
+ReadListed(IStyleEditorClient& client, qint32 layerID, const IStyleFilter* filter, RowFaults& faults)
+{
+    const auto row = client.GetDatabase().OpenRecordset(LayerQueries::OneLayer(layerID));
+    if (row->AtEOF())
+        return std::nullopt;
+    faults.EndRow();
+    const bool isInList = IsShown(filter, *row, layerID, faults);
+    const QString name = ToTextOrNone(row->Field("Name"));
+    return ListedLayer{ReadEntry(client, *row, layerID, faults), name, isInList};
+}
+
 } // namespace
 
 TreeReading
@@ -156,6 +168,18 @@ ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filt
             layers.push_back(ReadEntry(client, *rows, *layerID, faults));
     }
     return {std::move(layers), faults.First()};
+}
+
+LayersReading
+RereadLayers(IStyleEditorClient& client, const QSet<qint32>& layerIDs, const IStyleFilter* filter)
+{
+    RowFaults faults;
+    LayersReading reading;
+    reading.layers.reserve(size_t(layerIDs.size()));
+    for (const qint32 layerID : layerIDs)
+        reading.layers.emplace_back(layerID, ReadListed(client, layerID, filter, faults));
+    reading.fault = faults.First();
+    return reading;
 }
 
 std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerID)

@@ -4,10 +4,12 @@
 #include "component/model/ColumnError.h"
 #include "component/model/LayerTreeEntries.h"
 
+#include <QSet>
 #include <QString>
 #include <QtGlobal>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace Orvane {
@@ -46,6 +48,23 @@ LoadLayerTree(IStyleEditorClient& client, const std::optional<QString>& groupFil
 
 /// All layers, by name. filter: called for each layer; nullptr lists all.
 ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filter);
+
+/// What RereadLayers read of one layer.
+struct ListedLayer {
+    LayerEntry entry;
+    QString name; ///< by which the flat list is sorted
+    bool isInList = false; ///< false if the filter leaves it out of the flat list
+};
+
+/// What RereadLayers read.
+struct LayersReading {
+    std::vector<std::pair<qint32, std::optional<ListedLayer>>> layers; ///< nothing: gone, or never listed
+    std::optional<ColumnError> fault; ///< the first value that could not be read
+};
+
+/// Single layers, as both lists show them. filter: as for ReloadLayerList.
+LayersReading
+RereadLayers(IStyleEditorClient& client, const QSet<qint32>& layerIDs, const IStyleFilter* filter);
 
 /// One layer; nothing if it does not exist or is never listed.
 std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerID);

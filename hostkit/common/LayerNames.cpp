@@ -8,6 +8,8 @@ namespace Orvane {
 
 namespace {
 
+constexpr int MostNamesOneByOne = 100; // all are read by one query
+
 QString NameIn(const IRecordset& layers)
 {
     const Value name = layers.Field("Name");
@@ -38,6 +40,18 @@ void LayerNames::Set(qint32 layerID, const QString& name)
 void LayerNames::Remove(qint32 layerID)
 {
     m_names.remove(layerID);
+}
+
+void LayerNames::ReadAgain(const QSet<qint32>& layerIDs)
+{
+    if (layerIDs.size() > MostNamesOneByOne)
+        Invalidate();
+    if (!m_loaded)
+        return;
+    for (const qint32 layerID : layerIDs) {
+        m_names.remove(layerID);
+        ReadOne(layerID);
+    }
 }
 
 void LayerNames::Invalidate()

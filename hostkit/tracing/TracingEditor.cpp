@@ -133,6 +133,15 @@ void TracingEditor::IStyleEditorForm_Refresh()
     m_trace.Command("form.Refresh", [&] { Form().Refresh(); });
 }
 
+void TracingEditor::IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs)
+{
+    auto* finer = dynamic_cast<IStyleEditorRefresh*>(&m_editor);
+    if (!finer)
+        return IStyleEditorForm_Refresh();
+    m_trace.Command(
+        "form.RefreshLayers", [&] { finer->RefreshLayers(layerIDs); }, qint32(layerIDs.size()));
+}
+
 IStyleEditorForm& TracingEditor::Form() const
 {
     return dynamic_cast<IStyleEditorForm&>(m_editor);

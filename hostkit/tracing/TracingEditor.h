@@ -3,6 +3,7 @@
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
 
 #include <memory>
 
@@ -11,7 +12,7 @@ namespace Orvane {
 class CallTrace;
 
 /// Traces every call to one editor and passes it on; see TracingLibrary.
-class TracingEditor : public IStyleEditor, public IStyleEditorForm
+class TracingEditor : public IStyleEditor, public IStyleEditorForm, public IStyleEditorRefresh
 {
 public:
     /// Neither is owned. editor: also implements IStyleEditorForm; do not use this object after it is
@@ -41,6 +42,8 @@ protected:
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
     bool IStyleEditorForm_HasPendingEdits() const override;
     void IStyleEditorForm_Refresh() override;
+    /// Calls Refresh of an editor that has no RefreshLayers.
+    void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override;
 
 private:
     IStyleEditorForm& Form() const;

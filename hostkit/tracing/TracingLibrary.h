@@ -18,9 +18,9 @@ class TracingEditor;
 /// its editors, as "editor.Member(...)" and "form.Member(...)". Also traces every call that the component
 /// makes to its filter, as "filter.Member(...)".
 ///
-/// The editors that it returns implement IStyleEditor and IStyleEditorForm, and are owned by this object.
-/// They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use an editor after this
-/// object is destroyed. Destroy the wrapped library after this object.
+/// The editors that it returns implement IStyleEditor, IStyleEditorForm and IStyleEditorRefresh, and are
+/// owned by this object. They are not widgets: take the form from IStyleEditorClient::ShowEditor. Do not use
+/// an editor after this object is destroyed. Destroy the wrapped library after this object.
 class TracingLibrary : public IStyleEditorLibrary, public IStyleEditorTexts
 {
     Q_DECLARE_TR_FUNCTIONS(TracingLibrary)

@@ -32,6 +32,8 @@ public:
     QString Current() { return m_schemes.Current(); }
     /// How many layers differ from the current scheme, or are not in it.
     qsizetype UnsavedChanges() { return m_differences.Count(); }
+    /// Makes the next call of UnsavedChanges compare these layers again.
+    void NoteDifferences(const QSet<qint32>& layerIDs) { m_differences.Note(layerIDs); }
     /// Makes the next call of UnsavedChanges compare all layers again.
     void ForgetDifferences() { m_differences.Forget(); }
 

@@ -2,6 +2,7 @@
 #include "hostkit/windows/EditorWindows.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
 
 #include <QWindow>
 
@@ -9,6 +10,16 @@
 #include <exception>
 
 namespace Orvane {
+
+namespace {
+
+void RefreshAll(QWidget& form)
+{
+    if (auto* editor = dynamic_cast<IStyleEditorForm*>(&form))
+        editor->Refresh();
+}
+
+} // namespace
 
 void EditorWindows::Show(QWidget* form)
 {
@@ -59,11 +70,26 @@ bool EditorWindows::HavePendingEdits() const
 
 void EditorWindows::RefreshEditors() const
 {
+    RefreshEach(RefreshAll);
+}
+
+void EditorWindows::RefreshEditors(const QSet<qint32>& layerIDs) const
+{
+    RefreshEach([&layerIDs](QWidget& form) {
+        if (auto* editor = dynamic_cast<IStyleEditorRefresh*>(&form))
+            editor->RefreshLayers(layerIDs);
+        else
+            RefreshAll(form);
+    });
+}
+
+void EditorWindows::RefreshEach(const std::function<void(QWidget& form)>& refresh) const
+{
     std::exception_ptr firstError;
     for (const QPointer<QWidget>& form : std::vector(m_forms)) {
         try {
-            if (auto* editor = dynamic_cast<IStyleEditorForm*>(form.data()))
-                editor->Refresh();
+            if (form)
+                refresh(*form);
         } catch (...) {
             if (!firstError)
                 firstError = std::current_exception();

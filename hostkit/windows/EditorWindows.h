@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 namespace Orvane {
@@ -33,8 +35,12 @@ public:
     /// Makes every editor read the database again. The first error is raised after all editors have been
     /// refreshed.
     void RefreshEditors() const;
+    /// Makes every editor read these layers again, or everything if it is an editor of an earlier contract.
+    void RefreshEditors(const QSet<qint32>& layerIDs) const;
 
 private:
+    void RefreshEach(const std::function<void(QWidget& form)>& refresh) const;
+
     QPointer<QWidget> m_mainWindow;
     std::vector<QPointer<QWidget>> m_forms;
 };

@@ -167,6 +167,7 @@ TextPlaces HostTexts()
     NoteFolder(places, "files", calls);
     NoteFolder(places, "hostkit", calls);
     NoteFolder(places, "mapkit", calls);
+    NoteFolder(places, "qgis", calls);
     NoteFolder(places, "shell", calls);
     NoteFolder(places, "examples", calls);
     NoteFolder(places, "store", calls);

@@ -45,6 +45,8 @@ public:
     NodeReference Reference(const QModelIndex& index) const;
     /// The first node with the reference's identity, whatever its image; invalid if there is none.
     QModelIndex IndexOf(const NodeReference& node) const;
+    /// True if the layer has a node.
+    bool Lists(qint32 layerID) const;
     /// Those of the given layers that have a node.
     QSet<qint32> LayersAmong(const QSet<qint32>& layerIDs) const;
 
@@ -56,6 +58,12 @@ public:
     /// Gives the layers these texts, by layer ID, in one command; other layers keep their texts.
     void SetLayerTexts(const QHash<qint32, QString>& texts);
     void SetGroupText(qint32 groupID, const QString& text);
+    /// Gives all nodes of the layer its text, image and fault; updates the images of its groups. True if the
+    /// text is another one.
+    bool UpdateLayer(const LayerEntry& layer);
+    /// Flat list only: moves the layer, which is in it, to the position of that name. Returns false and moves
+    /// nothing if the texts of the other layers are not in the order of names without case.
+    bool PlaceLayer(qint32 layerID, const QString& name);
     /// Flat list only: adds the layer at its position by text and returns its index.
     QModelIndex InsertLayer(const LayerEntry& layer);
 

@@ -284,20 +284,6 @@ void LayerTrees::SetLayerText(qint32 layerID, const QString& text)
     m_layers->Model().SetLayerText(layerID, text);
 }
 
-void LayerTrees::RefreshLayerTexts(const QSet<qint32>& layerIDs)
-{
-    QHash<qint32, QString> texts;
-    for (const LayerTreeList* list : {m_groups, m_layers}) {
-        for (qint32 layerID : list->Model().LayersAmong(layerIDs))
-            texts.insert(layerID, QString());
-    }
-    const BusyPointer busy;
-    for (auto text = texts.begin(); text != texts.end(); ++text)
-        *text = DecorateLayerName(Client().LayerDisplayName(text.key()));
-    m_groups->Model().SetLayerTexts(texts);
-    m_layers->Model().SetLayerTexts(texts);
-}
-
 void LayerTrees::ShowLayer(qint32 layerID)
 {
     const QPointer<LayerTrees> self(this); // as in MoveTo

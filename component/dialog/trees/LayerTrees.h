@@ -20,6 +20,7 @@ namespace Orvane {
 class ColumnError;
 class IStyleFilter;
 class LayerTreeList;
+struct ListedLayer;
 
 /// The two trees of the dialog: the groups with their layers, and the flat list of layers.
 ///
@@ -100,6 +101,11 @@ public:
     /// layers that are not listed.
     void RefreshLayerTexts(const QSet<qint32>& layerIDs);
 
+    /// Reads these layers again and shows their texts and images on all their nodes, each at its position in
+    /// the flat list. Returns false if that is not enough, and the lists must be loaded again: a layer came
+    /// or went, its position is not known, or they are many.
+    bool RefreshLayers(const QSet<qint32>& layerIDs);
+
     /// Reads the layer, adds it at its position in the flat list (whatever the filter says), scrolls to it
     /// and makes it that list's current node. Loads the list first if needed. Does nothing for a layer that
     /// does not exist or has a code of -2 or less.
@@ -130,6 +136,8 @@ private:
     void MoveByUser(LayerTreeList& list, const NodeReference& node);
     bool MoveTo(LayerTreeList& list, const NodeReference& node);
     bool AskAboutChanges();
+    bool IsListedAsBefore(qint32 layerID, const std::optional<ListedLayer>& layer) const;
+    bool ShowAgain(const ListedLayer& layer);
     void ReportFault(List list, const std::optional<ColumnError>& fault);
     bool Loses(List list, bool kept) const;
     void Replace(List list, const std::function<void()>& fill);

@@ -6,6 +6,7 @@
 
 #include <OrvaneShellLib/LayerValues.h>
 
+#include <QEvent>
 #include <QToolButton>
 
 #include <array>
@@ -25,7 +26,8 @@ qint16 BitOf(std::size_t button)
 QuickModeToolbar::QuickModeToolbar(QWidget& bar, const std::array<QToolButton*, 3>& buttons, QObject* parent)
     : QObject(parent), m_bar(bar), m_buttons(buttons)
 {
-    for (const QToolButton* button : m_buttons) {
+    for (QToolButton* button : m_buttons) {
+        button->installEventFilter(this);
         connect(button, &QToolButton::clicked, this, [this, button] {
             GuardEvent(m_bar.window(), [this, button] { OnClicked(button); });
         });
@@ -80,7 +82,15 @@ void QuickModeToolbar::RefreshImages()
 {
     const NodeImages images;
     for (std::size_t button = 0; button < m_buttons.size(); ++button)
-        m_buttons[button]->setIcon(images.Icon(false, BitOf(button), m_bar.palette(), QPalette::Active));
+        m_buttons[button]->setIcon(
+            images.Icon(false, BitOf(button), m_buttons[button]->palette(), QPalette::Active));
+}
+
+bool QuickModeToolbar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        GuardEvent(m_bar.window(), [this] { RefreshImages(); });
+    return QObject::eventFilter(watched, event);
 }
 
 void QuickModeToolbar::OnClicked(const QToolButton* clicked)

@@ -35,8 +35,11 @@ public:
     /// The bits of the buttons that are pressed.
     qint16 ReadMode() const;
 
-    /// Draws the buttons' images again, for another palette or size.
+    /// Draws the buttons' images again, for another palette or size. A button whose own palette changes, for
+    /// example by a style sheet, gets its image again by itself.
     void RefreshImages();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     /// A click chose a mode other than the one shown last.

@@ -179,6 +179,13 @@ void SelectionEditor::Follow()
     ReportFault(selection, unshown);
 }
 
+bool SelectionEditor::HasLayerOf(const QSet<qint32>& layerIDs) const
+{
+    return std::any_of(m_origin.seen.begin(), m_origin.seen.end(), [&](const SeenLayer& layer) {
+        return layerIDs.contains(layer.layerID);
+    });
+}
+
 // The same fault is reported once while the node is shown: applying another property must not repeat it.
 void SelectionEditor::ReportFault(
     const Selection& selection, const std::optional<PropertyPanel::Fault>& unshown)

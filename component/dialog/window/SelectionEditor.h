@@ -9,6 +9,7 @@
 #include "component/model/LayerStyleLoading.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <optional>
 
@@ -60,6 +61,8 @@ public:
     void Cancel();
     /// Reads the current node again; the controls that the user has edited keep their values.
     void Follow();
+    /// True if the node that is shown is one of these layers, or a group with one of them.
+    bool HasLayerOf(const QSet<qint32>& layerIDs) const;
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
     /// the code, which stay in sight, are those that were read.
     void CoverUp();

@@ -64,6 +64,7 @@ private:
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>& layerIDs) override;
     bool IStyleEditorForm_HasPendingEdits() const override;
     void IStyleEditorForm_Refresh() override;
+    void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override;
 
     void Wire();
     void WireCommands();

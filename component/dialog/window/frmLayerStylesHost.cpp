@@ -150,4 +150,16 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
     });
 }
 
+void frmLayerStyles::IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs)
+{
+    WithTranslatedErrors([&] {
+        if (!m_initialised || m_unloaded)
+            return;
+        if (!m_parts->trees.RefreshLayers(layerIDs))
+            IStyleEditorForm_Refresh();
+        else if (m_tab != ListTab::Schemes && m_selection->HasLayerOf(layerIDs))
+            m_selection->Follow();
+    });
+}
+
 } // namespace Orvane

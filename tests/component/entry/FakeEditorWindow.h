@@ -39,6 +39,7 @@ private:
     void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
     bool IStyleEditorForm_HasPendingEdits() const override { return modified; }
     void IStyleEditorForm_Refresh() override { }
+    void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>&) override { }
 
     QStringList* m_events;
     const IStyleFilter* m_filter = nullptr;

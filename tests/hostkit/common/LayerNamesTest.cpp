@@ -50,6 +50,32 @@ TEST_F(Names, OfALayerWithoutANameAreEmpty)
     EXPECT_TRUE(m_names.Name(1).isEmpty());
 }
 
+TEST_F(Names, OfAFewLayersAreReadAgain)
+{
+    AddLayers(3);
+    m_names.Name(1);
+    Set(1, "Name", QStringLiteral("Roads"));
+    Database().Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 2"));
+    const QStringList statements = StatementsOf([&] { m_names.ReadAgain({1, 2}); });
+    EXPECT_EQ(statements.size(), 2);
+    EXPECT_EQ(m_names.All(), (QSet<QString>{QStringLiteral("Roads"), QStringLiteral("Layer 3")}));
+}
+
+TEST_F(Names, OfManyLayersAreReadAgainByOneQuery)
+{
+    AddLayers(500);
+    m_names.Name(1);
+    Set(1, "Name", QStringLiteral("Roads"));
+    QSet<qint32> all;
+    for (qint32 layerID = 1; layerID <= 500; ++layerID)
+        all.insert(layerID);
+    const QStringList statements = StatementsOf([&] {
+        m_names.ReadAgain(all);
+        EXPECT_EQ(m_names.Name(1), QStringLiteral("Roads"));
+    });
+    EXPECT_EQ(statements.size(), 1);
+}
+
 TEST_F(Names, FollowARenaming)
 {
     AddLayers(2);

@@ -5,6 +5,7 @@
 
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/IStyleFilter.h>
 
@@ -200,6 +201,7 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
     EXPECT_FALSE(form.HasPendingEdits());
     form.Refresh();
     EXPECT_TRUE(form.HasPendingEdits());
+    dynamic_cast<IStyleEditorRefresh&>(form).RefreshLayers({17, 18});
     EXPECT_THAT(
         Lines(),
         ElementsAre(
@@ -208,7 +210,8 @@ TEST_F(LibraryTrace, ShowsTheCallsToTheForm)
             QStringLiteral("form.SetLayerName(17, \"Roads\")"), QStringLiteral("form.LoadRendererStyles()"),
             QStringLiteral("form.RefreshLayerNames(2)"), QStringLiteral("form.UnloadWithoutApply()"),
             QStringLiteral("form.HasPendingEdits() -> false"), QStringLiteral("form.Refresh()"),
-            QStringLiteral("form.HasPendingEdits() -> true")));
+            QStringLiteral("form.HasPendingEdits() -> true"), QStringLiteral("form.Refresh()")))
+        << "an editor of an earlier contract has no RefreshLayers";
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "hostkit/windows/EditorWindows.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QWindow>
@@ -42,6 +43,16 @@ private:
     }
 
     std::vector<RendererStyle> m_styles;
+};
+
+// One of a component that can read a few layers.
+class FinerForm : public Form, public IStyleEditorRefresh
+{
+public:
+    QSet<qint32> layers;
+
+private:
+    void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override { layers += layerIDs; }
 };
 
 TEST(EditorWindows, ShowAFormAsAWindow)
@@ -151,6 +162,19 @@ TEST(EditorWindows, RefreshEveryEditorAndRaiseTheFirstError)
     EXPECT_THROW(windows.RefreshEditors(), RunTimeError);
     EXPECT_EQ(first.refreshed, 1);
     EXPECT_EQ(second.refreshed, 1);
+}
+
+TEST(EditorWindows, RefreshAFewLayersWhereTheEditorCanAndElseEverything)
+{
+    EditorWindows windows;
+    Form earlier;
+    FinerForm finer;
+    for (QWidget* form : std::initializer_list<QWidget*>{&earlier, &finer})
+        windows.Show(form);
+    windows.RefreshEditors({3, 4});
+    EXPECT_EQ(earlier.refreshed, 1);
+    EXPECT_EQ(finer.refreshed, 0);
+    EXPECT_EQ(finer.layers, (QSet<qint32>{3, 4}));
 }
 
 } // namespace

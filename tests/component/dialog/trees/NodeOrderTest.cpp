@@ -29,6 +29,30 @@ TEST(NodeOrder, PutsALayerFirstLastAndIntoAnEmptyList)
     EXPECT_EQ(SortedRow({}, "Alpha"), 0);
 }
 
+TEST(NodeOrder, MovesARenamedLayerAmongTheOthers)
+{
+    const std::vector<LayerEntry> layers = Layers({"alpha", "Beta", "zeta"});
+    EXPECT_EQ(PlaceByName(layers, 0, "Gamma"), 1);
+    EXPECT_EQ(PlaceByName(layers, 0, "Zulu"), 2);
+    EXPECT_EQ(PlaceByName(layers, 2, "aaa"), 0);
+    EXPECT_EQ(PlaceByName(layers, 2, "ALPHA"), 1);
+}
+
+TEST(NodeOrder, LeavesARenamedLayerThatIsInItsPlace)
+{
+    const std::vector<LayerEntry> layers = Layers({"alpha", "Beta", "zeta"});
+    EXPECT_EQ(PlaceByName(layers, 1, "beta"), 1);
+    EXPECT_EQ(PlaceByName(layers, 0, "Aaa"), 0);
+    EXPECT_EQ(PlaceByName(layers, 2, "Zulu"), 2);
+    EXPECT_EQ(PlaceByName(Layers({"alone"}), 0, "Only"), 0);
+}
+
+TEST(NodeOrder, KnowsNoPlaceWhereTheTextsAreInAnotherOrder)
+{
+    EXPECT_EQ(PlaceByName(Layers({"zeta", "Beta", "alpha"}), 1, "Zulu"), std::nullopt);
+    EXPECT_EQ(PlaceByName(Layers({"alpha", "zeta", "Beta", "gamma"}), 0, "Zulu"), std::nullopt);
+}
+
 TEST(NodeOrder, PutsALayerAfterThoseOfTheSameText)
 {
     EXPECT_EQ(SortedRow(Layers({"Beta", "Beta", "Gamma"}), "Beta"), 2);

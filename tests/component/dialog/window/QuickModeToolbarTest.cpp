@@ -142,6 +142,17 @@ TEST_F(QuickModes, HiddenButtonsStillKeepTheStoredMode)
     EXPECT_EQ(Stored(2, "OverrideMode"), 1);
 }
 
+TEST(QuickModeToolbarTest, TheImagesHaveTheColourOfTheButtonsText)
+{
+    QWidget bar;
+    std::array<QToolButton*, 3> buttons{new QToolButton(&bar), new QToolButton(&bar), new QToolButton(&bar)};
+    const QuickModeToolbar toolbar(bar, buttons);
+    buttons[0]->setStyleSheet("color: #ff0000");
+    buttons[0]->ensurePolished();
+    const QImage image = buttons[0]->icon().pixmap(16).toImage();
+    EXPECT_EQ(image.pixelColor(image.rect().center()), QColor(Qt::red));
+}
+
 TEST(QuickModeToolbarTest, PressesExactlyTheBitsOfTheMode)
 {
     QWidget bar;

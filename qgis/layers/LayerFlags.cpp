@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/layers/LayerFlags.h"
+
+#include "qgis/layers/KeptValues.h"
+
+#include <qgsvectorlayer.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr std::string_view HitableName = "Hitable";
+constexpr std::string_view EnquirableName = "Enquirable";
+
+} // namespace
+
+PointingFlags ReadPointing(const QgsMapLayer& layer)
+{
+    const bool identifiable = layer.flags().testFlag(QgsMapLayer::Identifiable);
+    const PointingFlags kept{
+        KeptValues::Flag(layer, HitableName).value_or(identifiable),
+        KeptValues::Flag(layer, EnquirableName).value_or(identifiable)};
+    return (kept.hitable && kept.enquirable) == identifiable ? kept
+                                                             : PointingFlags{identifiable, identifiable};
+}
+
+void WritePointing(QgsMapLayer& layer, const PointingFlags& flags)
+{
+    KeptValues::Keep(layer, HitableName, flags.hitable);
+    KeptValues::Keep(layer, EnquirableName, flags.enquirable);
+    QgsMapLayer::LayerFlags all = layer.flags();
+    layer.setFlags(all.setFlag(QgsMapLayer::Identifiable, flags.hitable && flags.enquirable));
+}
+
+Value ReadLocked(const QgsMapLayer& layer)
+{
+    const auto* vectors = qobject_cast<const QgsVectorLayer*>(&layer);
+    return vectors ? Value(vectors->readOnly()) : Value::Null();
+}
+
+bool WriteLocked(QgsMapLayer& layer, bool locked)
+{
+    auto* vectors = qobject_cast<QgsVectorLayer*>(&layer);
+    return vectors && vectors->setReadOnly(locked);
+}
+
+} // namespace Orvane

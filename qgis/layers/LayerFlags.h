@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "qgis/layers/LayerValues.h"
+
+class QgsMapLayer;
+
+namespace Orvane {
+
+/// Whether features can be pointed at, and asked about: QGIS's "Identifiable" is both. One alone is kept as
+/// long as the layer is not identifiable.
+struct PointingFlags {
+    bool hitable = true;
+    bool enquirable = true;
+};
+
+PointingFlags ReadPointing(const QgsMapLayer& layer);
+void WritePointing(QgsMapLayer& layer, const PointingFlags& flags);
+
+/// Whether the layer's features are locked: a boolean, or Null for a layer without vectors.
+Value ReadLocked(const QgsMapLayer& layer);
+/// False if QGIS refuses: while the layer is being edited, or for data that cannot be changed.
+bool WriteLocked(QgsMapLayer& layer, bool locked);
+
+} // namespace Orvane

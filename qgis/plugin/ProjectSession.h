@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hostkit/StandardShellServices.h"
+#include "qgis/plugin/QgisClient.h"
+#include "qgis/project/LayerOwnValues.h"
+#include "qgis/project/ProjectMirror.h"
+#include "qgis/project/ProjectSchemes.h"
+#include "qgis/project/ProjectWatcher.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+class QgsProject;
+
+namespace Orvane {
+
+class ILayerStore;
+
+/// A QGIS project with all that the layer control needs of it: a layer store that is kept alike with it, and
+/// the application object. No error leaves a slot of it: each is told by Failed.
+class ProjectSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Reads the project, without its schemes. Not owned; outlives this object. Raises errors of the store.
+    explicit ProjectSession(QgsProject& project);
+    ~ProjectSession() override;
+
+    /// Reads the schemes of the project, or those of the startup file if it has none; call it when Failed is
+    /// listened to, before the first editor.
+    void ReadSchemes();
+
+    /// The file of the schemes for projects that have none; it may be missing. path: absolute.
+    void SetStartupFile(const QString& path);
+
+    QgsProject& Project() { return m_project; }
+    QgisClient& Client() { return m_client; }
+    ProjectMirror& Mirror() { return m_mirror; }
+    ProjectWatcher& Watcher() { return m_watcher; }
+    ILayerStore& Store() { return *m_store; }
+
+    /// Undoes or redoes the last step, with what has changed in QGIS up to now. A step that QGIS has
+    /// overtaken is dropped, and told by Failed.
+    void Undo();
+    void Redo();
+
+    /// True while a function of this object, or of the client, is running.
+    bool IsBusy() const { return m_running > 0 || m_client.IsBusy(); }
+    /// Hears and tells nothing more.
+    void Stop();
+
+    /// Runs act; what it raises is told by Failed. Returns false then.
+    bool Guard(const std::function<void()>& act) noexcept;
+
+Q_SIGNALS:
+    /// Something went wrong. message: for the user.
+    void Failed(const QString& message);
+    /// The styles of QgisClient::RendererStyles have changed.
+    void RendererStylesChanged();
+
+private:
+    void ListenToProject();
+    void ListenToClient();
+    void Show(const MirrorChanges& changes);
+    void TellDropped(const QStringList& removed);
+    void ReadChanges(const QSet<QString>& layers, bool isTree);
+    void ReadOtherProject();
+    void ReadStartupSchemes();
+    void Save();
+    void TellStyles();
+
+    QgsProject& m_project;
+    std::unique_ptr<ILayerStore> m_store;
+    StandardShellServices m_services;
+    ProjectMirror m_mirror;
+    ProjectSchemes m_schemes;
+    QgisClient m_client;
+    ProjectWatcher m_watcher;
+    QStringList m_offeredStyles;
+    LayerOwnValues::CarriedStyles m_carriedStyles;
+    QString m_startupFile;
+    bool m_isBehind = false; // a change could not be read
+    int m_running = 0;
+};
+
+} // namespace Orvane

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/plugin/QgisClient.h"
+
+#include "hostkit/LayerDeletion.h"
+#include "hostkit/LayerFactory.h"
+#include "hostkit/common/HostNotifications.h"
+#include "hostkit/common/LayerNames.h"
+#include "hostkit/windows/EditorDock.h"
+#include "messages/NameInText.h"
+#include "qgis/project/ProjectMirror.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/IStyleEditor.h>
+#include <OrvaneShellLib/IStyleEditorForm.h>
+
+#include <QScopedValueRollback>
+#include <qgsproject.h>
+#include <qgsvectorlayer.h>
+
+#include <exception>
+#include <utility>
+
+namespace Orvane {
+
+namespace {
+
+QgsMapLayer* MakeScratchLayer()
+{
+    return new QgsVectorLayer(
+        QStringLiteral("Polygon?crs=EPSG:4326"), QgisClient::tr("New scratch layer"),
+        QStringLiteral("memory"));
+}
+
+/// While it exists, the client is busy.
+using Running = QScopedValueRollback<int>;
+
+} // namespace
+
+QgisClient::QgisClient(
+    ILayerStore& store, IShellServices& services, QgsProject& project, ProjectMirror& mirror)
+    : StandardClient(store, services), m_project(project), m_mirror(mirror), m_commands{MakeScratchLayer, {}}
+{
+}
+
+void QgisClient::SetDock(EditorDock* dock)
+{
+    if (m_dock && !dock)
+        m_dock->EditorClosed(m_form);
+    m_dock = dock;
+}
+
+bool QgisClient::HasPendingEdits() const
+{
+    const auto* editor = dynamic_cast<const IStyleEditorForm*>(m_form.data());
+    return editor && editor->HasPendingEdits();
+}
+
+void QgisClient::DropPendingEdits()
+{
+    m_changed.clear();
+    if (auto* editor = dynamic_cast<IStyleEditor*>(m_form.data()); editor && HasPendingEdits())
+        editor->RefreshGroups();
+}
+
+void QgisClient::IStyleEditorClient_ShowEditor(QWidget* form)
+{
+    m_form = form;
+    if (!m_dock)
+        return StandardClient::IStyleEditorClient_ShowEditor(form);
+    m_dock->ShowEditor(form);
+}
+
+void QgisClient::IStyleEditorClient_EditorClosed(QWidget* form)
+{
+    if (m_dock)
+        m_dock->EditorClosed(form);
+    StandardClient::IStyleEditorClient_EditorClosed(form);
+    if (m_form == form)
+        m_form = nullptr;
+}
+
+void QgisClient::IStyleEditorClient_LayerChanged(qint32 layerID)
+{
+    m_changed.insert(layerID);
+    StandardClient::IStyleEditorClient_LayerChanged(layerID);
+}
+
+void QgisClient::IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name)
+{
+    const Running running(m_running, m_running + 1);
+    StandardClient::IStyleEditorClient_RenameLayer(layerID, name);
+    m_mirror.WriteName(layerID, name);
+}
+
+void QgisClient::IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name)
+{
+    const Running running(m_running, m_running + 1);
+    StandardClient::IStyleEditorClient_RenameGroup(groupID, name);
+    m_mirror.WriteGroupName(groupID, name);
+}
+
+// The layers are written while the signals of the scheme are sent, in the same step.
+void QgisClient::IStyleEditorClient_LoadScheme(const QString& name)
+{
+    const Running running(m_running, m_running + 1);
+    RecordStep([&] {
+        StandardClient::IStyleEditorClient_LoadScheme(name);
+        return QCoreApplication::translate("SchemeSteps", "Load Scheme \"%1\"").arg(NameInStep(name));
+    });
+}
+
+void QgisClient::IStyleEditorClient_RedrawMap()
+{
+    const Running running(m_running, m_running + 1);
+    const QSet<qint32> changed = std::exchange(m_changed, {});
+    std::exception_ptr error;
+    try {
+        m_mirror.Write(changed, ProjectMirror::Meant::Changes);
+    } catch (...) {
+        error = std::current_exception(); // the step ends with what was taken back
+    }
+    const QScopedValueRollback<bool> applying(m_isApplying, true);
+    StandardClient::IStyleEditorClient_RedrawMap();
+    if (error)
+        std::rethrow_exception(error);
+}
+
+PromptAnswer QgisClient::IStyleEditorClient_PromptText(const PromptRequest& request)
+{
+    const Running running(m_running, m_running + 1);
+    return StandardClient::IStyleEditorClient_PromptText(request);
+}
+
+ConflictChoice QgisClient::IConflictQuestion_AskAboutConflicts(
+    QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits)
+{
+    const Running running(m_running, m_running + 1);
+    return StandardClient::IConflictQuestion_AskAboutConflicts(form, node, edits);
+}
+
+std::vector<RendererStyle> QgisClient::IStyleEditorClient_RendererStyles() const
+{
+    return m_mirror.Styles().Offered();
+}
+
+qint32 QgisClient::IStyleEditorClient_CreateLayer()
+{
+    const Running running(m_running, m_running + 1);
+    QgsMapLayer* layer = m_commands.makeLayer();
+    if (!layer)
+        return 0;
+    if (!m_project.mapLayer(layer->id()))
+        m_project.addMapLayer(layer);
+    m_mirror.ReadLayers({layer->id()});
+    m_mirror.ReadTree();
+    InvalidateLayerNames();
+    const qint32 layerID = m_mirror.IDOf(*layer);
+    emit Notifications().LayerCreated(layerID);
+    return layerID;
+}
+
+void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
+{
+    const Running running(m_running, m_running + 1);
+    QgsMapLayer* layer = m_mirror.Layer(layerID);
+    if (layer && m_commands.removeLayer)
+        m_commands.removeLayer(*layer);
+    else if (layer)
+        RemoveAfterQuestion(*layer, layerID);
+    if (m_mirror.Layer(layerID))
+        return;
+    m_mirror.ReadLayers({m_mirror.TextOf(layerID)});
+    InvalidateLayerNames();
+    m_changed.remove(layerID);
+    emit Notifications().LayerDeleted(layerID);
+}
+
+void QgisClient::RemoveAfterQuestion(QgsMapLayer& layer, qint32 layerID)
+{
+    LayerNames names(LayerDatabase());
+    LayerFactory rows(LayerDatabase(), names);
+    if (rows.CanDelete(layerID) && ConfirmDeletion(rows.WhatGoes(layerID)))
+        m_project.removeMapLayer(&layer);
+}
+
+} // namespace Orvane

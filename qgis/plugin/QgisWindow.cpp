@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/plugin/QgisWindow.h"
+
+#include "hostkit/windows/EditorDock.h"
+#include "qgis/plugin/ProjectSession.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <qgisinterface.h>
+#include <qgslayertreemodel.h>
+#include <qgslayertreeview.h>
+#include <qgsmapcanvas.h>
+#include <qgsproject.h>
+#include <qgssettings.h>
+
+namespace Orvane {
+
+namespace {
+
+// Keeps the widths of a panel's columns as they are.
+class StillColumns
+{
+public:
+    explicit StillColumns(QHeaderView& header) : m_header(header), m_mode(ModeOf(header))
+    {
+        m_header.setSectionResizeMode(QHeaderView::Fixed);
+    }
+    ~StillColumns() { m_header.setSectionResizeMode(m_mode); }
+    StillColumns(const StillColumns&) = delete;
+    StillColumns& operator=(const StillColumns&) = delete;
+
+private:
+    static QHeaderView::ResizeMode ModeOf(const QHeaderView& header)
+    {
+        return header.count() > 0 ? header.sectionResizeMode(0) : QHeaderView::Interactive;
+    }
+
+    QHeaderView& m_header;
+    QHeaderView::ResizeMode m_mode;
+};
+
+QAction* ActionOf(QgisInterface& qgis, const char* name)
+{
+    return qgis.mainWindow()->findChild<QAction*>(QLatin1String(name));
+}
+
+// The action runs the dialog and adds the layer.
+QgsMapLayer* MakeLayerInQgis(QgisInterface& qgis)
+{
+    QgsMapLayer* made = nullptr;
+    const QMetaObject::Connection listening = QObject::connect(
+        QgsProject::instance(), &QgsProject::layerWasAdded, [&made](QgsMapLayer* layer) { made = layer; });
+    if (QAction* action = ActionOf(qgis, "mActionNewMemoryLayer"))
+        action->trigger();
+    QObject::disconnect(listening);
+    return made;
+}
+
+void RemoveLayerInQgis(QgisInterface& qgis, QgsMapLayer& layer)
+{
+    QAction* remove = ActionOf(qgis, "mActionRemoveLayer");
+    qgis.setActiveLayer(&layer);
+    if (remove && qgis.layerTreeView()->selectedLayers() == QList<QgsMapLayer*>{&layer})
+        remove->trigger();
+}
+
+const QString SizeSetting = QStringLiteral("orvane/dockSize");
+
+// A dock at the top or bottom may become higher or lower, others wider or narrower.
+Qt::Orientation GrowthOf(const QMainWindow& window, EditorDock& dock)
+{
+    const Qt::DockWidgetArea area = window.dockWidgetArea(&dock);
+    return area == Qt::TopDockWidgetArea || area == Qt::BottomDockWidgetArea ? Qt::Vertical : Qt::Horizontal;
+}
+
+} // namespace
+
+void QgisWindow::SaveSize(QgisInterface& qgis, EditorDock& dock)
+{
+    const auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    if (!dock.widget() || dock.isFloating())
+        return;
+    const bool isWide = GrowthOf(*window, dock) == Qt::Horizontal;
+    QgsSettings().setValue(SizeSetting, isWide ? dock.width() : dock.height());
+}
+
+void QgisWindow::RestoreSize(QgisInterface& qgis, EditorDock& dock)
+{
+    auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    const int size = QgsSettings().value(SizeSetting, 0).toInt();
+    if (size > 0 && !dock.isFloating())
+        window->resizeDocks({&dock}, {size}, GrowthOf(*window, dock));
+}
+
+void QgisWindow::AddDock(QgisInterface& qgis, EditorDock& dock)
+{
+    auto* window = qobject_cast<QMainWindow*>(qgis.mainWindow());
+    if (!window->restoreDockWidget(&dock)) {
+        window->addDockWidget(Qt::RightDockWidgetArea, &dock);
+        dock.hide();
+    }
+    if (auto* panels = window->findChild<QMenu*>(QStringLiteral("mPanelMenu")))
+        panels->addAction(dock.toggleViewAction());
+}
+
+QgisCommands QgisWindow::Commands(QgisInterface& qgis)
+{
+    return {
+        [&qgis] { return MakeLayerInQgis(qgis); },
+        [&qgis](QgsMapLayer& layer) { RemoveLayerInQgis(qgis, layer); }};
+}
+
+void QgisWindow::ConnectPanel(QgisInterface& qgis, ProjectSession& session)
+{
+    QgsLayerTreeView* view = qgis.layerTreeView();
+    session.Mirror().SetPanel(view->layerTreeModel());
+    QgsMapCanvas* canvas = qgis.mapCanvas();
+    session.Mirror().SetAround([view, canvas, &session](size_t layers, const std::function<void()>& write) {
+        const ProjectWatcher::Silence own(session.Watcher());
+        if (layers > size_t(canvas->layerCount()) / 4) // dropping images one by one looks at all of them
+            canvas->clearCache();
+        const StillColumns still(*view->header());
+        write();
+    });
+}
+
+} // namespace Orvane

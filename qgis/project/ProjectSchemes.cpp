@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "qgis/project/ProjectSchemes.h"
+
+#include "hostkit/common/HostErrors.h"
+#include "hostkit/schemes/SchemeColumns.h"
+#include "hostkit/schemes/SchemeTables.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
+#include <OrvaneShellLib/ValueConversions.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+#include <qgsproject.h>
+
+#include <utility>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int SchemesVersion = 1;
+const QString Scope = QStringLiteral("Orvane");
+const QString Entry = QStringLiteral("LayerSchemes");
+
+QJsonArray ColumnNames()
+{
+    QJsonArray names;
+    for (const LayerColumn& column : SchemeColumns::All)
+        names.append(QLatin1String(column.name));
+    return names;
+}
+
+QJsonArray SavedValues(const IRecordset& row)
+{
+    QJsonArray values;
+    for (const LayerColumn& column : SchemeColumns::All) {
+        const auto number = NumberIn(row.Field(column.name));
+        values.append(number ? QJsonValue(*number) : QJsonValue());
+    }
+    return values;
+}
+
+QJsonObject SavedLayers(ILayerStore& store, qint32 schemeID)
+{
+    QJsonObject layers;
+    const auto row = store.OpenQuery(
+        QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1 ORDER BY LayerID"), {schemeID});
+    for (; !row->AtEOF(); row->MoveNext())
+        layers.insert(QString::number(ToInt32(row->Field("LayerID"))), SavedValues(*row));
+    return layers;
+}
+
+QByteArray SchemesText(ILayerStore& store, SchemeTables& tables)
+{
+    QJsonArray schemes;
+    for (const QString& name : tables.Names())
+        schemes.append(QJsonObject{{"name", name}, {"layers", SavedLayers(store, tables.IDOf(name))}});
+    const QJsonObject all{
+        {"version", SchemesVersion},
+        {"current", tables.CurrentName()},
+        {"columns", ColumnNames()},
+        {"schemes", schemes}};
+    return QJsonDocument(all).toJson(QJsonDocument::Compact);
+}
+
+// Sets the columns that a saved layer has values for.
+struct SavedColumns {
+    QString update;
+    std::vector<int> places; // of the values, in the order of the parameters from ?3
+
+    explicit SavedColumns(const QJsonArray& names)
+    {
+        QStringList assignments;
+        places.reserve(SchemeColumns::Count);
+        for (int place = 0; place < names.size(); ++place) {
+            const QString name = names.at(place).toString();
+            const size_t column = FindLayerColumn(name.toStdString());
+            if (column == LayerColumns.size() || LayerColumns.at(column).inSchemes == InSchemes::No)
+                continue; // of a later program
+            places.push_back(place);
+            assignments << QStringLiteral("%1 = ?%2").arg(name).arg(places.size() + 2);
+        }
+        update = QStringLiteral("UPDATE LayerSchemeValues SET %1 WHERE LayerID = ?1 AND SchemeID = ?2")
+                     .arg(assignments.join(QLatin1String(", ")));
+    }
+};
+
+// A column that the text has no values for gets those of the layer.
+bool InsertPresentValues(ILayerStore& store, qint32 layerID, qint32 schemeID)
+{
+    return store.Execute(
+               QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1)"
+                              " SELECT LayerID, ?2, %1 FROM Layers WHERE LayerID = ?1")
+                   .arg(SchemeColumns::List()),
+               {layerID, schemeID})
+        > 0;
+}
+
+void StoreSavedLayer(
+    ILayerStore& store, qint32 layerID, qint32 schemeID, const SavedColumns& columns,
+    const QJsonArray& values)
+{
+    if (!InsertPresentValues(store, layerID, schemeID) || columns.places.empty())
+        return;
+    std::vector<Value> parameters{layerID, schemeID};
+    parameters.reserve(columns.places.size() + 2);
+    for (const int place : columns.places) {
+        const QJsonValue value = values.at(place);
+        parameters.push_back(value.isDouble() ? Value(value.toDouble()) : Value::Null());
+    }
+    store.Execute(columns.update, parameters);
+}
+
+void StoreScheme(
+    ILayerStore& store, SchemeTables& tables, const QJsonObject& scheme, const SavedColumns& columns)
+{
+    const qint32 schemeID = tables.Insert(scheme.value("name").toString());
+    const QJsonObject layers = scheme.value("layers").toObject();
+    for (auto layer = layers.begin(); layer != layers.end(); ++layer)
+        StoreSavedLayer(store, layer.key().toInt(), schemeID, columns, layer.value().toArray());
+}
+
+[[noreturn]] void RaiseSchemes(HostError number, const QString& description)
+{
+    throw RunTimeError(int(number), description, QStringLiteral("ProjectSchemes"));
+}
+
+} // namespace
+
+void ProjectSchemes::Read()
+{
+    Clear();
+    const QString text = m_project.readEntry(Scope, Entry);
+    if (!text.isEmpty())
+        Store(text.toUtf8());
+}
+
+bool ProjectSchemes::AreKept() const
+{
+    return !m_project.readEntry(Scope, Entry).isEmpty();
+}
+
+void ProjectSchemes::Write()
+{
+    SchemeTables tables(m_store);
+    if (!tables.HaveSchemes())
+        return;
+    const QString text = QString::fromUtf8(SchemesText(m_store, tables));
+    if (text != m_project.readEntry(Scope, Entry))
+        m_project.writeEntry(Scope, Entry, text);
+}
+
+void ProjectSchemes::Clear()
+{
+    SchemeTables tables(m_store);
+    if (!tables.HaveSchemes())
+        return;
+    Transaction transaction(m_store);
+    for (const QString& name : tables.Names())
+        tables.Remove(tables.IDOf(name));
+    transaction.Commit();
+}
+
+void ProjectSchemes::Store(const QByteArray& text)
+{
+    const QJsonObject all = QJsonDocument::fromJson(text).object();
+    const QJsonArray schemes = all.value("schemes").toArray();
+    if (all.value("version").toInt() > SchemesVersion)
+        RaiseSchemes(
+            HostError::SchemeTextTooNew,
+            tr("The layer schemes of this project were written by a newer program and cannot be read."));
+    if (schemes.isEmpty())
+        RaiseSchemes(
+            HostError::SchemeTextDamaged,
+            tr("The layer schemes of this project are damaged and cannot be read."));
+    SchemeTables tables(m_store);
+    tables.Create();
+    Transaction transaction(m_store);
+    const SavedColumns columns(all.value("columns").toArray());
+    for (const QJsonValue& scheme : schemes)
+        StoreScheme(m_store, tables, scheme.toObject(), columns);
+    tables.MakeCurrent(tables.IDOf(all.value("current").toString()));
+    transaction.Commit();
+}
+
+} // namespace Orvane

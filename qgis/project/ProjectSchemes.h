@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+
+class QgsProject;
+
+namespace Orvane {
+
+class ILayerStore;
+
+/// Keeps the layer schemes of a layer store in a QGIS project, as an entry of its file:
+///
+///     {"version": 1, "current": "Night", "columns": ["Visible", ...],
+///      "schemes": [{"name": "Night", "layers": {"12": [1, null, ...], ...}}]}
+///
+/// Layers are known by their numbers in the store, which the project keeps too.
+class ProjectSchemes
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectSchemes)
+
+public:
+    /// Neither is owned; both outlive this object.
+    ProjectSchemes(QgsProject& project, ILayerStore& store) : m_project(project), m_store(store) { }
+
+    /// Gives the store the schemes of the project, in place of its own, in one transaction. Call it after the
+    /// rows of the layers were stored; values of other layers are left out. Raises
+    /// HostError::SchemeTextDamaged for an entry that is not as above, and SchemeTextTooNew; the store then
+    /// has no schemes. Raises errors of the store.
+    void Read();
+
+    /// True if the project has schemes.
+    bool AreKept() const;
+
+    /// Gives the project the schemes of the store, which marks it as changed if they differ from what it has.
+    void Write();
+
+private:
+    void Clear();
+    void Store(const QByteArray& text);
+
+    QgsProject& m_project;
+    ILayerStore& m_store;
+};
+
+} // namespace Orvane

@@ -1,0 +1,87 @@
+# SPDX-License-Identifier: MIT
+# Run inside QGIS with the plug-in, on a small project: what changes on either side is seen on the other, layers are made
+# and deleted by QGIS's own commands, and nothing goes wrong when layers or projects vanish under pending edits.
+import os
+import sys
+
+sys.path.insert(0, os.environ["ORVANE_SCRIPTS"])
+from user import *  # noqa: E402,F403
+
+SOIL = ["#fdd49e", "#fc8d59", "#b30000"]
+
+
+def classes():
+    return [each.symbol().color().name() for each in layer("Soil").renderer().categories()]
+
+
+def layer_names():
+    return sorted(each.name() for each in QgsProject.instance().mapLayers().values())
+
+
+def in_list(tab):
+    model = named("tvLayers%d" % (tab + 1), QTreeView).model()
+    return [model.index(at, 0).data() for at in range(model.rowCount())]
+
+
+def edit_a_group():
+    yield from select(0, "Nature")
+    yield from choose("cmbColor1", 4)
+    yield from apply()
+    expect(fill("Lakes"), fill("Woods"), "colours in the group")
+    expect(fill("Lakes") == "#4080e0", False, "the old colour")
+    expect(classes(), SOIL, "colours of classes in the group")
+    yield Until("the colour on the canvas", lambda: colours_at([(50, 290)]) == [fill("Lakes")])
+    picture("applied")
+    plugin_action(1).trigger()
+    yield Until("the undone colours", lambda: (fill("Lakes"), fill("Woods")) == ("#4080e0", "#50a050"))
+    yield Until("the old colour on the canvas", lambda: colours_at([(50, 290)]) == ["#4080e0"])
+
+
+def change_in_qgis():
+    layer("Lakes").renderer().symbol().setColor(QColor("#ff00ff"))
+    layer("Lakes").emitStyleChanged()
+    layer("Lakes").setName("Ponds")
+    QgsProject.instance().layerTreeRoot().findGroup("Town").setName("City")
+    yield from show_tab(0)
+    yield Until("the new name of the group", lambda: "City" in in_list(0) and "Town" not in in_list(0))
+    yield from select(1, "Ponds")
+    expect("Lakes" in in_list(1), False, "the old name of the layer")
+    picture("changed-in-qgis")
+
+
+def make_and_delete():
+    before = layer_names()
+    yield from show_tab(1)
+    click(named("cmdNewLayer"))
+    yield from answer("New Temporary Scratch Layer", "Tab", "Down", "Down", "Return")
+    yield Until("the new layer", lambda: len(layer_names()) == len(before) + 1)
+    made = next(name for name in layer_names() if name not in before)
+    yield from select(1, made)
+    click(named("cmdDeleteLayer"))
+    yield from answer("Remove layers", "Return")
+    yield Until("the deleted layer", lambda: layer_names() == before and made not in in_list(1))
+
+
+def lose_pending_edits():
+    yield from select(1, "Woods")
+    click(named("chkLocked"), 8)
+    yield Until("a project that has changed", lambda: QgsProject.instance().isDirty())
+    QgsProject.instance().removeMapLayer(layer("Woods").id())
+    yield Until("a list without the layer", lambda: "Woods" not in in_list(1))
+    picture("layer-gone")
+    iface.newProject(False)
+    yield Until("an empty list", lambda: in_list(1) == [])
+    picture("new-project")
+
+
+def steps():
+    iface.zoomFull()
+    yield from open_dock()
+    yield from edit_a_group()
+    yield from change_in_qgis()
+    yield from make_and_delete()
+    yield from save()
+    yield from lose_pending_edits()
+
+
+play(steps())

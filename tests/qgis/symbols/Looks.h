@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "qgis/symbols/SymbolLook.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+
+namespace Orvane {
+
+inline void PrintTo(const SymbolLook& look, std::ostream* out)
+{
+    for (std::size_t i = 0; i < look.values.size(); ++i) {
+        if (look.values[i])
+            *out << LookColumnNames[i] << '=' << *look.values[i] << ' ';
+    }
+}
+
+inline void PrintTo(const std::optional<qint32>& number, std::ostream* out)
+{
+    if (number)
+        *out << *number;
+    else
+        *out << "nothing";
+}
+
+namespace Testing {
+
+/// A look with one column.
+inline SymbolLook Only(LookColumn column, qint32 value)
+{
+    SymbolLook look;
+    look[column] = value;
+    return look;
+}
+
+} // namespace Testing
+
+} // namespace Orvane
