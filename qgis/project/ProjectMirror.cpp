@@ -2,6 +2,7 @@
 #include "qgis/project/ProjectMirror.h"
 
 #include "hostkit/lists/StoredList.h"
+#include "qgis/layers/LayerFlags.h"
 #include "qgis/layers/LayerReader.h"
 #include "qgis/layers/LayerSnap.h"
 #include "qgis/layers/LayerWriter.h"
@@ -229,6 +230,7 @@ bool ProjectMirror::DeleteMissing()
 LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const Value& priority)
 {
     ForgetEndedMode(layer, m_project);
+    ForgetEndedPointing(layer);
     LayerValues row = Orvane::ReadLayer(layer, m_project);
     SetValue(row, "LayerID", m_ids.Of(layer));
     SetValue(row, "Name", layer.name());

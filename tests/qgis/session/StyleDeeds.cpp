@@ -150,7 +150,9 @@ void LoadStyle(SessionWorld& world)
     Paper::Layer& onPaper = world.PaperOf(*to);
     onPaper.untouched = Paper::UntouchedOf(*to);
     SessionWorld::Settle();
-    world.Adopt(world.IDOf(*to), Paper::symbolColumns);
+    world.Adopt(world.IDOf(*to), Paper::columns); // scales and opacity are a part of the style
+    if (onPaper.row.at("OverrideMode") != 1.0)
+        onPaper.opacity = to->opacity();
     const QVariant& expected = world.PaperOf(*from).row.at("FillForeColor");
     EXPECT_EQ(onPaper.row.at("FillForeColor"), expected);
 }
