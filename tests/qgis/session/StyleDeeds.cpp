@@ -151,8 +151,7 @@ void LoadStyle(SessionWorld& world)
     onPaper.untouched = Paper::UntouchedOf(*to);
     SessionWorld::Settle();
     world.Adopt(world.IDOf(*to), Paper::columns); // scales and opacity are a part of the style
-    if (onPaper.row.at("OverrideMode") != 1.0)
-        onPaper.opacity = to->opacity();
+    onPaper.opacity = to->opacity() / (onPaper.row.at("OverrideMode") == 1.0 ? 0.35 : 1);
     const QVariant& expected = world.PaperOf(*from).row.at("FillForeColor");
     EXPECT_EQ(onPaper.row.at("FillForeColor"), expected);
 }
