@@ -35,7 +35,7 @@ play() {
     mkdir -p "$output"
     mkdir -m 700 "$output/tmp" # at its end QGIS asks about layers in the folder for temporary files
     XDG_RUNTIME_DIR=$output/tmp TMPDIR=$output/tmp LC_ALL=C.UTF-8 ORVANE_OUT=$output ORVANE_SCRIPTS=$qgis_scripts \
-        timeout "${TO:-240}" "${qgis_command[@]}" --profiles-path "$profile" --nologo --noversioncheck \
+        timeout "${TO:-400}" "${qgis_command[@]}" --profiles-path "$profile" --nologo --noversioncheck \
         --code "$script" "$project" >"$output/qgis.log" 2>&1 &
     qgis=$!
     while kill -0 $qgis 2>/dev/null && [ ! -e "$output/failed" ] && [ ! -e "$output/done" ]; do sleep 0.2; done

@@ -32,6 +32,17 @@ void WritePointing(QgsMapLayer& layer, const PointingFlags& flags)
     layer.setFlags(all.setFlag(QgsMapLayer::Identifiable, flags.hitable && flags.enquirable));
 }
 
+void ForgetEndedPointing(QgsMapLayer& layer)
+{
+    const bool identifiable = layer.flags().testFlag(QgsMapLayer::Identifiable);
+    const bool hitable = KeptValues::Flag(layer, HitableName).value_or(identifiable);
+    const bool enquirable = KeptValues::Flag(layer, EnquirableName).value_or(identifiable);
+    if ((hitable && enquirable) == identifiable)
+        return;
+    KeptValues::Keep(layer, HitableName, Value::Null());
+    KeptValues::Keep(layer, EnquirableName, Value::Null());
+}
+
 Value ReadLocked(const QgsMapLayer& layer)
 {
     const auto* vectors = qobject_cast<const QgsVectorLayer*>(&layer);

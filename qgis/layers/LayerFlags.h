@@ -16,6 +16,9 @@ struct PointingFlags {
 
 PointingFlags ReadPointing(const QgsMapLayer& layer);
 void WritePointing(QgsMapLayer& layer, const PointingFlags& flags);
+/// Forgets one alone when the user has changed "Identifiable" in QGIS; otherwise it would be back when the
+/// user changes it again. Nothing happens to other layers.
+void ForgetEndedPointing(QgsMapLayer& layer);
 
 /// Whether the layer's features are locked: a boolean, or Null for a layer without vectors.
 Value ReadLocked(const QgsMapLayer& layer);

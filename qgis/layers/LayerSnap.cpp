@@ -48,8 +48,9 @@ void MakeAdvanced(QgsSnappingConfig& config, const QgsProject& project)
 Value ReadSnap(const QgsMapLayer& layer, const QgsProject& project)
 {
     auto* vectors = qobject_cast<QgsVectorLayer*>(const_cast<QgsMapLayer*>(&layer)); // QGIS's key
-    return vectors && vectors->isValid() ? Value(IsSnapped(project.snappingConfig(), vectors))
-                                         : Value::Null();
+    return vectors && vectors->isValid() && vectors->isSpatial()
+        ? Value(IsSnapped(project.snappingConfig(), vectors))
+        : Value::Null();
 }
 
 void WriteSnap(QgsProject& project, const QHash<QgsMapLayer*, bool>& layers)

@@ -77,6 +77,15 @@ void SpareFills(WrittenLayer& written, SymbolLook& changes, const SymbolLook& no
     colour = qint32(quint32(*colour) | TopByte);
 }
 
+// A hollow fill has one colour for the whole layer, the back, in place of those of the classes.
+void SpareClasses(WrittenLayer& written, SymbolLook& changes, const SymbolLook& now)
+{
+    if (now[LookColumn::FillForeColor] || changes[LookColumn::FillStyle] != HollowFill)
+        return;
+    written.refused.emplace_back(NameOf(LookColumn::FillStyle));
+    changes[LookColumn::FillStyle].reset();
+}
+
 void Keep(QgsMapLayer& layer, const SymbolLook& look, LookColumn column)
 {
     if (look[column])
@@ -138,6 +147,8 @@ void WriteSymbolColumns(
     const SymbolLook kept = KeptLook(layer);
     if (vectors->geometryType() == QgsWkbTypes::PointGeometry)
         SpareFills(written, changes, ReadRenderer(vectors->renderer(), kept));
+    if (vectors->renderer() && vectors->renderer()->type() != QLatin1String("singleSymbol"))
+        SpareClasses(written, changes, ReadRenderer(vectors->renderer(), kept));
     ChangedRenderer changed = ChangeRenderer(vectors->renderer(), changes, kept);
     NoteRefusals(written, changes, changed.taken);
     if (!changed.renderer)

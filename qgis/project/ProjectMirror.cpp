@@ -2,6 +2,7 @@
 #include "qgis/project/ProjectMirror.h"
 
 #include "hostkit/lists/StoredList.h"
+#include "qgis/layers/LayerFlags.h"
 #include "qgis/layers/LayerReader.h"
 #include "qgis/layers/LayerSnap.h"
 #include "qgis/layers/OverrideMode.h"
@@ -185,6 +186,7 @@ void ProjectMirror::Delete(qint32 layerID, MirrorChanges& changes)
 LayerValues ProjectMirror::RowOf(QgsMapLayer& layer, const LayerNodes& nodes, const Value& priority)
 {
     ForgetEndedMode(layer, nodes);
+    ForgetEndedPointing(layer);
     LayerValues row = Orvane::ReadLayer(layer, nodes);
     SetValue(row, "LayerID", m_ids.Of(layer));
     SetValue(row, "Name", layer.name());

@@ -192,4 +192,13 @@ TEST_F(SymbolColumnsOfQgis, MarkersOfDifferentFillsKeepThemWhenTheFlagForSymbols
     EXPECT_TRUE(Get(layer, "Color").IsIdenticalTo(qint32(quint32(Blue) | 0xFF000000U)));
 }
 
+TEST_F(SymbolColumnsOfQgis, ClassesOfDifferentFillsRefuseAHollowFill)
+{
+    QgsVectorLayer& layer = Add("Polygon");
+    Classify(layer);
+    EXPECT_THAT(Set(layer, "FillStyle", 15).refused, ElementsAre("FillStyle"));
+    EXPECT_TRUE(Get(layer, "FillForeColor").IsNull());
+    EXPECT_EQ(ClassFill(layer, 0), QColor(Qt::red));
+}
+
 } // namespace Orvane

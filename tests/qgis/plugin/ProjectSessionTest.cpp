@@ -7,15 +7,72 @@
 #include "qgis/plugin/SessionFixture.h"
 #include "support/Errors.h"
 
+#include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/IStyleEditorRefresh.h>
+
+#include <QWidget>
+
 namespace Orvane::Testing {
 
 namespace {
 
 constexpr qint32 GreenBgr = 0x00FF00;
 
+// An editor's form that notes what it is to read again.
+class NotingForm : public QWidget, public IStyleEditorForm, public IStyleEditorRefresh
+{
+public:
+    int refreshed = 0;
+    QSet<qint32> layers;
+
+private:
+    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
+    void IStyleEditorForm_AddNewLayer(qint32) override { }
+    void IStyleEditorForm_Popup() override { }
+    void IStyleEditorForm_SetLayerCode(qint32) override { }
+    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
+    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
+    const IStyleFilter* IStyleEditorForm_Filter() const override { return nullptr; }
+    void IStyleEditorForm_Filter(const IStyleFilter*) override { }
+    void IStyleEditorForm_UnloadWithoutApply() override { }
+    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
+    bool IStyleEditorForm_HasPendingEdits() const override { return false; }
+    void IStyleEditorForm_Refresh() override { ++refreshed; }
+    void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override { layers += layerIDs; }
+
+    std::vector<RendererStyle> m_styles;
+};
+
 class ProjectSessionTest : public SessionFixture
 {
 };
+
+TEST_F(ProjectSessionTest, AnEditorReadsOnlyTheLayersThatHaveChanged)
+{
+    AddLayer("Lakes");
+    Settle();
+    NotingForm form;
+    Host().ShowEditor(&form);
+    Paint(*roads, Qt::green);
+    Settle();
+    EXPECT_EQ(form.layers, QSet<qint32>{IDOf(roads)});
+    EXPECT_EQ(form.refreshed, 0);
+    AddLayer("Woods");
+    Settle();
+    EXPECT_EQ(form.refreshed, 1);
+}
+
+TEST_F(ProjectSessionTest, ReadingAProjectDoesNotMakeItBeReadAgain)
+{
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    ProjectSession other(project);
+    QSignalSpy changed(&other.Watcher(), &ProjectWatcher::Changed);
+    Settle();
+    EXPECT_EQ(changed.count(), 0);
+    lakes->setCustomProperty("theirs", 1);
+    Settle();
+    EXPECT_EQ(changed.count(), 1);
+}
 
 TEST_F(ProjectSessionTest, WhatChangesInQGISIsStoredSoon)
 {

@@ -193,6 +193,21 @@ TEST_F(ProjectMirrorTest, AQuickModeThatWasEndedInQgisIsForgottenAtOnce)
     EXPECT_TRUE(roads->customProperty("orvane/FormerTick").isNull());
 }
 
+TEST_F(ProjectMirrorTest, AFlagThatWasEndedInQgisIsForgottenAtOnce)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    StoreValue(*roads, "Enquirable", false); // and still hitable
+    mirror.Write({mirror.IDOf(*roads)});
+    const QgsMapLayer::LayerFlags flags = roads->flags();
+    roads->setFlags(flags | QgsMapLayer::Identifiable);
+    mirror.ReadLayers({roads->id()});
+    roads->setFlags(flags);
+    mirror.ReadLayers({roads->id()});
+    EXPECT_FALSE(ToBoolean(Stored(*roads, "Hitable")));
+    EXPECT_FALSE(ToBoolean(Stored(*roads, "Enquirable")));
+}
+
 TEST_F(ProjectMirrorTest, ALayerThatHasLeftTheProjectIsSkipped)
 {
     QgsVectorLayer* roads = AddLayer("Roads");

@@ -50,7 +50,7 @@ protected:
     bool SwitchTo(QgsVectorLayer& layer, const QString& style)
     {
         StoreValue(layer, "Style", NumberOf(style));
-        return mirror.Write({mirror.IDOf(layer)}, ProjectMirror::Meant::Changes);
+        return bool(mirror.Write({mirror.IDOf(layer)}, ProjectMirror::Meant::Changes));
     }
 };
 

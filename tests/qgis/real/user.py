@@ -18,7 +18,7 @@ from qgis.PyQt.QtWidgets import (
 from qgis.utils import iface
 
 OUT = os.environ["ORVANE_OUT"]
-PATIENCE = 60.0  # seconds
+PATIENCE = 120.0  # seconds; the first drawing of a thousand layers took 34 on a busy machine
 POLL = 50  # milliseconds
 
 warnings = []  # what QGIS has logged

@@ -74,8 +74,13 @@ QString UntouchedOf(const QgsMapLayer& layer)
     QStringList parts{vectors->renderer()->type(), vectors->subsetString()};
     const QgsLegendSymbolList items = vectors->renderer()->legendSymbolItems();
     std::set<QString> fills;
-    for (const QgsLegendSymbolItem& item : items)
-        fills.insert(item.symbol() ? FillOf(*item.symbol()->symbolLayers().last()) : QString());
+    for (const QgsLegendSymbolItem& item : items) {
+        QString fill;
+        for (const QgsSymbolLayer* part :
+             item.symbol() ? item.symbol()->symbolLayers() : QgsSymbolLayerList())
+            fill += FillOf(*part);
+        fills.insert(fill);
+    }
     for (const QgsLegendSymbolItem& item : items)
         parts << ClassOf(item, fills.size() > 1);
     if (vectors->labeling())

@@ -141,6 +141,12 @@ void Reopen(SessionWorld& world)
     ASSERT_TRUE(world.project.write(path));
     ASSERT_TRUE(world.project.read(path));
     SessionWorld::Settle();
+    for (auto& [id, layer] : world.paper) {
+        if (!world.LayerOf(id)->isValid()) // then it is in no order of drawing
+            world.Adopt(id, {"Priority"});
+        if (layer.untouched.contains(QLatin1String("people > "))) // QGIS does not save a filter in memory
+            layer.untouched = Paper::UntouchedOf(*world.LayerOf(id));
+    }
     world.ForgetEdits();
     world.done.clear();
     world.undone.clear();

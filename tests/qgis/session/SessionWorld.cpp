@@ -246,7 +246,8 @@ void SessionWorld::CheckUntouched()
 {
     for (const auto& [id, layer] : paper) {
         if (const QgsMapLayer* real = project.mapLayer(layer.id))
-            EXPECT_EQ(Paper::UntouchedOf(*real), layer.untouched) << real->name().toStdString();
+            EXPECT_EQ(Paper::UntouchedOf(*real).toStdString(), layer.untouched.toStdString())
+                << real->name().toStdString();
     }
 }
 

@@ -150,7 +150,8 @@ void LoadStyle(SessionWorld& world)
     Paper::Layer& onPaper = world.PaperOf(*to);
     onPaper.untouched = Paper::UntouchedOf(*to);
     SessionWorld::Settle();
-    world.Adopt(world.IDOf(*to), Paper::symbolColumns);
+    world.Adopt(world.IDOf(*to), Paper::columns); // scales and opacity are a part of the style
+    onPaper.opacity = to->opacity() / (onPaper.row.at("OverrideMode") == 1.0 ? 0.35 : 1);
     const QVariant& expected = world.PaperOf(*from).row.at("FillForeColor");
     EXPECT_EQ(onPaper.row.at("FillForeColor"), expected);
 }
