@@ -200,7 +200,8 @@ void LayerTreeList::SetAllExpanded(bool expanded)
     const QScopedValueRollback quiet(m_quiet, true);
     const QModelIndex current = m_view->currentIndex();
     if (!expanded)
-        m_view->collapse(current.parent()); // collapseAll() does not end the delayed scroll to a pressed layer
+        m_view->collapse(
+            current.parent()); // collapseAll() does not end the delayed scroll to a pressed layer
     expanded ? m_view->expandAll() : m_view->collapseAll();
     m_view->scrollTo(expanded || !current.parent().isValid() ? current : current.parent());
 }
