@@ -3,6 +3,8 @@
 # and deleted by QGIS's own commands, and nothing goes wrong when layers or projects vanish under pending edits.
 import os
 import sys
+import zipfile
+from xml.etree import ElementTree
 
 sys.path.insert(0, os.environ["ORVANE_SCRIPTS"])
 from user import *  # noqa: E402,F403
@@ -62,6 +64,26 @@ def make_and_delete():
     yield Until("the deleted layer", lambda: layer_names() == before and made not in in_list(1))
 
 
+def saved_ticks():
+    """Of each layer, whether the file of the project shows it."""
+    with zipfile.ZipFile(QgsProject.instance().fileName()) as archive:
+        text = archive.read(next(name for name in archive.namelist() if name.endswith(".qgs")))
+    nodes = ElementTree.fromstring(text).iter("layer-tree-layer")
+    return {node.get("name"): node.get("checked") == "Qt::Checked" for node in nodes}
+
+
+def save_with_pending_edits():
+    yield from select(1, "Woods")
+    click(named("chkVisible"), 8)
+    yield Until("a project that has changed", lambda: QgsProject.instance().isDirty())
+    key("ctrl+s")
+    yield from confirm()
+    yield Until("the saved project", lambda: not QgsProject.instance().isDirty())
+    expect(saved_ticks()["Woods"], False, "the tick that was applied while the project was saved")
+    yield Until("the same editor", lambda: named("cmdApply") is not None and not named("cmdApply").isEnabled())
+    expect(named("tvLayers2", QTreeView).currentIndex().data(), "Woods", "the layer in the panel")
+
+
 def lose_pending_edits():
     yield from select(1, "Woods")
     click(named("chkLocked"), 8)
@@ -69,6 +91,7 @@ def lose_pending_edits():
     QgsProject.instance().removeMapLayer(layer("Woods").id())
     yield Until("a list without the layer", lambda: "Woods" not in in_list(1))
     picture("layer-gone")
+    yield from told("Woods")
     iface.newProject(False)
     yield Until("an empty list", lambda: in_list(1) == [])
     picture("new-project")
@@ -80,7 +103,7 @@ def steps():
     yield from edit_a_group()
     yield from change_in_qgis()
     yield from make_and_delete()
-    yield from save()
+    yield from save_with_pending_edits()
     yield from lose_pending_edits()
 
 
