@@ -25,6 +25,7 @@ namespace {
 constexpr int SchemesVersion = 1;
 const QString Scope = QStringLiteral("Orvane");
 const QString Entry = QStringLiteral("LayerSchemes");
+const QString UnreadEntry = QStringLiteral("LayerSchemesUnread");
 
 QJsonArray ColumnNames()
 {
@@ -134,9 +135,10 @@ void StoreScheme(
 void ProjectSchemes::Read()
 {
     Clear();
-    const QString text = m_project.readEntry(Scope, Entry);
-    if (!text.isEmpty())
-        Store(text.toUtf8());
+    m_unread = m_project.readEntry(Scope, Entry);
+    if (!m_unread.isEmpty())
+        Store(m_unread.toUtf8());
+    m_unread.clear();
 }
 
 bool ProjectSchemes::AreKept() const
@@ -149,6 +151,8 @@ void ProjectSchemes::Write()
     SchemeTables tables(m_store);
     if (!tables.HaveSchemes())
         return;
+    if (!m_unread.isEmpty())
+        m_project.writeEntry(Scope, UnreadEntry, std::exchange(m_unread, {}));
     const QString text = QString::fromUtf8(SchemesText(m_store, tables));
     if (text != m_project.readEntry(Scope, Entry))
         m_project.writeEntry(Scope, Entry, text);

@@ -34,6 +34,7 @@ public:
     bool AreKept() const;
 
     /// Gives the project the schemes of the store, which marks it as changed if they differ from what it has.
+    /// What Read could not read stays in the project, in the entry "LayerSchemesUnread".
     void Write();
 
 private:
@@ -42,6 +43,7 @@ private:
 
     QgsProject& m_project;
     ILayerStore& m_store;
+    QString m_unread; // the text that Read has failed on
 };
 
 } // namespace Orvane

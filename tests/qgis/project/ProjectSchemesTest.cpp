@@ -94,6 +94,17 @@ TEST_F(ProjectSchemesTest, SchemesOfANewerProgramAreNotRead)
     EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextTooNew));
 }
 
+TEST_F(ProjectSchemesTest, SchemesThatCannotBeReadStayBesideNewOnes)
+{
+    const QString newer("{\"version\": 2, \"schemes\": [{\"name\": \"A\"}]}");
+    project.writeEntry("Orvane", "LayerSchemes", newer);
+    EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextTooNew));
+    schemes.Create("Night");
+    kept.Write();
+    EXPECT_TRUE(project.readEntry("Orvane", "LayerSchemes").contains("Night"));
+    EXPECT_EQ(project.readEntry("Orvane", "LayerSchemesUnread"), newer);
+}
+
 TEST_F(ProjectSchemesTest, ColumnsThatTheEntryLacksAreThoseOfTheLayer)
 {
     QgsVectorLayer* roads = AddLayer("Roads");
