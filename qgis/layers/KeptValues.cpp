@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/layers/KeptValues.h"
 
-#include <QSignalBlocker>
+#include "qgis/layers/LayerSilence.h"
+
 #include <QVariant>
 #include <qgsmaplayer.h>
 
@@ -74,7 +75,7 @@ void Keep(QgsMapLayer& layer, std::string_view name, const Value& value)
     const QVariant kept = layer.customProperty(property);
     if (variant == kept && variant.isValid() == kept.isValid())
         return;
-    const QSignalBlocker silence(&layer); // for each signal, QGIS's panel would walk through the whole tree
+    const LayerSilence silence(&layer); // for each signal, QGIS's panel would walk through the whole tree
     if (variant.isValid())
         layer.setCustomProperty(property, variant);
     else

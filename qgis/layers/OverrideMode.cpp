@@ -15,9 +15,6 @@ namespace {
 constexpr std::string_view ModeName = "OverrideMode";
 constexpr std::string_view OpacityName = "FormerOpacity";
 constexpr std::string_view TickName = "FormerTick";
-constexpr qint32 NormalMode = 0;
-constexpr qint32 BackdropMode = 1;
-constexpr qint32 HiddenMode = 2;
 constexpr double BackdropPart = 0.35;
 constexpr double OpacitySlack = 0.001;
 

@@ -11,13 +11,18 @@ class QgsMapLayer;
 
 namespace Orvane {
 
-/// The quick mode of a layer, as OverrideMode stores it: 0 normal, 1 backdrop, 2 hidden. A mode that the user
-/// has ended in QGIS, by another opacity or by a tick, is 0.
+/// A quick mode as the column OverrideMode stores it.
+inline constexpr qint32 NormalMode = 0;
+inline constexpr qint32 BackdropMode = 1;
+inline constexpr qint32 HiddenMode = 2;
+
+/// The quick mode of a layer. One that the user has ended in QGIS, by another opacity or by a tick, counts as
+/// NormalMode.
 qint32 ReadOverrideMode(const QgsMapLayer& layer, const LayerNodes& nodes);
 
 /// Backdrop lowers the layer's opacity to 0.35 of what it was, hidden unticks it; each mode first takes back
-/// the one before. Any other number than 1 and 2 means normal. False if the layer cannot have the mode, e.g.
-/// if it is not in the tree; it is normal then.
+/// the one before. Any other number means normal. False if the layer cannot have the mode, e.g. if it is not
+/// in the tree; it is normal then.
 bool WriteOverrideMode(QgsMapLayer& layer, const LayerNodes& nodes, qint32 mode);
 
 /// Forgets a mode that the user has ended in QGIS. Without it, a layer that was hidden, ticked and unticked

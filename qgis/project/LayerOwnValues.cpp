@@ -22,8 +22,6 @@ namespace Orvane {
 namespace {
 
 constexpr std::array CarriedNames{"id", "idOf", "Code", "Selectable"};
-constexpr qint32 NormalMode = 0;
-constexpr qint32 HiddenMode = 2;
 
 void CopyProperty(QgsObjectCustomProperties& to, const QgsMapLayer& from, const char* name)
 {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/project/SignalBatch.h"
 
+#include "qgis/layers/LayerSilence.h"
+
 #include <QSet>
-#include <QSignalBlocker>
 #include <qgslayertree.h>
 #include <qgslayertreemodel.h>
 #include <qgslayoutitemlegend.h>
@@ -47,7 +48,7 @@ void SignalBatch::SetRenderer(QgsVectorLayer& layer, std::unique_ptr<QgsFeatureR
 
 void SignalBatch::Restyle(QgsMapLayer& layer, const std::function<void()>& change)
 {
-    const QSignalBlocker silence(&layer);
+    const LayerSilence silence(&layer);
     change();
     Note(m_restyled, layer);
     Note(m_repainted, layer);

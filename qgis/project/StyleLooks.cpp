@@ -2,12 +2,13 @@
 #include "qgis/project/StyleLooks.h"
 
 #include "qgis/layers/LayerReader.h"
+#include "qgis/layers/LayerSilence.h"
 #include "qgis/layers/LayerWriter.h"
+#include "qgis/layers/OverrideMode.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QDomDocument>
-#include <QSignalBlocker>
 #include <qgsmaplayerstylemanager.h>
 #include <qgsrenderer.h>
 #include <qgsvectorlayer.h>
@@ -18,9 +19,6 @@
 namespace Orvane {
 
 namespace {
-
-constexpr qint32 NormalMode = 0;
-constexpr qint32 BackdropMode = 1;
 
 QString GeometryName(const QgsVectorLayer& layer)
 {
@@ -107,7 +105,7 @@ bool StyleLooks::AreAlike(const LayerValues& wanted, const LayerValues& row)
 QgsMapLayerStyle StyleLooks::Make(
     QgsMapLayer& layer, const QgsProject& project, const QString& like, const LayerValues& wanted)
 {
-    const QSignalBlocker silence(&layer);
+    const LayerSilence silence(&layer);
     QgsMapLayerStyle former;
     former.readFromLayer(&layer);
     if (like != layer.styleManager()->currentStyle())
