@@ -12,8 +12,8 @@ install_plugin() {
     echo "$2/$destination"
 }
 
-# make_profile FOLDER [SWITCH PLUGIN_FOLDER]: a new user's settings, in English or the language ORVANE_LANGUAGE. SWITCH: true or false, whether the plug-in is on;
-# PLUGIN_FOLDER may be empty, if QGIS finds the plug-in by itself.
+# make_profile FOLDER [SWITCH PLUGIN_FOLDER]: a new user's settings, in English or the language ORVANE_LANGUAGE.
+# SWITCH: true or false, whether the plug-in is on; PLUGIN_FOLDER may be empty, if QGIS finds the plug-in by itself.
 make_profile() {
     local settings=$1/profiles/default/QGIS
     mkdir -p "$settings"

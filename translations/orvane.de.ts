@@ -450,6 +450,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Alle Schemas dieser Karte wurden für neue Karten gespeichert.</translation>
     </message>
     <message>
+        <source>All schemes of this project were saved for new projects.</source>
+        <translation>Alle Schemas dieses Projekts wurden für neue Projekte gespeichert.</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>&amp;Leerer Layer</translation>
     </message>
@@ -907,11 +911,11 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     </message>
     <message>
         <source>Layer schemes (*.json)</source>
-        <translation>Layerschemata (*.json)</translation>
+        <translation>Layerschemas (*.json)</translation>
     </message>
     <message>
         <source>Layer schemes (*.json);;All files (*)</source>
-        <translation>Layerschemata (*.json);;Alle Dateien (*)</translation>
+        <translation>Layerschemas (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Layers added to &quot;%1&quot;: %2</source>
@@ -1248,8 +1252,8 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2.</translation>
     </message>
     <message>
-        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
-        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2. Auch bei %3 weiteren Layern konnten diese oder andere Einstellungen nicht gesetzt werden.</translation>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. Other layers with settings that could not be set: %3.</source>
+        <translation>QGIS kann das für den Layer „%1“ nicht setzen: %2. Weitere Layer mit Einstellungen, die nicht gesetzt werden konnten: %3.</translation>
     </message>
     <message>
         <source>Quit Orvane</source>
@@ -1513,15 +1517,15 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     </message>
     <message>
         <source>The layer schemes of &quot;%1&quot; were written by a newer program and cannot be read.</source>
-        <translation>Die Layerschemata von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+        <translation>Die Layerschemas von „%1“ wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The layer schemes of this project are damaged and cannot be read.</source>
-        <translation>Die Layerschemata dieses Projekts sind beschädigt und können nicht gelesen werden.</translation>
+        <translation>Die Layerschemas dieses Projekts sind beschädigt und können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The layer schemes of this project were written by a newer program and cannot be read.</source>
-        <translation>Die Layerschemata dieses Projekts wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
+        <translation>Die Layerschemas dieses Projekts wurden von einem neueren Programm geschrieben und können nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The layers match the scheme &quot;%1&quot;.</source>

@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>&amp;Make a layer scheme of each of these map themes:</source>
-        <translation>&amp;Créer un schéma de couches de chacun de ces thèmes de carte :</translation>
+        <translation>&amp;Créer un schéma de couches à partir de chacun de ces thèmes de carte :</translation>
     </message>
     <message>
         <source>&amp;Move Feature</source>
@@ -448,6 +448,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
     <message>
         <source>All schemes of this map were saved for new maps.</source>
         <translation>Tous les schémas de cette carte ont été enregistrés pour les nouvelles cartes.</translation>
+    </message>
+    <message>
+        <source>All schemes of this project were saved for new projects.</source>
+        <translation>Tous les schémas de ce projet ont été enregistrés pour les nouveaux projets.</translation>
     </message>
     <message>
         <source>An &amp;empty layer</source>
@@ -1248,8 +1252,8 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2.</translation>
     </message>
     <message>
-        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
-        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2. Ces réglages ou d’autres n’ont pas non plus pu être faits pour %3 autres couches.</translation>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. Other layers with settings that could not be set: %3.</source>
+        <translation>QGIS ne peut pas régler ceci pour la couche « %1 » : %2. Autres couches dont des réglages n’ont pas pu être appliqués non plus : %3.</translation>
     </message>
     <message>
         <source>Quit Orvane</source>

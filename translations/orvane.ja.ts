@@ -450,6 +450,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>この地図のすべてのスキームを、新しい地図用に保存しました。</translation>
     </message>
     <message>
+        <source>All schemes of this project were saved for new projects.</source>
+        <translation>このプロジェクトのすべてのスキームを、新しいプロジェクト用に保存しました。</translation>
+    </message>
+    <message>
         <source>An &amp;empty layer</source>
         <translation>空のレイヤ(&amp;E)</translation>
     </message>
@@ -1248,8 +1252,8 @@ These commands run without a window; each has its own --help:
         <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。</translation>
     </message>
     <message>
-        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. The same or other settings of %3 more layers could not be set either.</source>
-        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。ほかに %3 個のレイヤーでも、同じ、または別の設定ができませんでした。</translation>
+        <source>QGIS cannot set this for the layer &quot;%1&quot;: %2. Other layers with settings that could not be set: %3.</source>
+        <translation>QGIS はレイヤー「%1」にこれを設定できません: %2。設定できない項目があったほかのレイヤーの数: %3。</translation>
     </message>
     <message>
         <source>Quit Orvane</source>

@@ -10,7 +10,6 @@ here=$(dirname "$(realpath "$0")") build=$1 out=$(mkdir -p "$2" && realpath "$2"
 shift 2
 [ $# -gt 0 ] || set -- 1000 10000
 export ORVANE_LIMIT=${LIMIT:-120} ORVANE_PART ORVANE_TREE
-unset ORVANE_NAMES ORVANE_MANY
 
 for layers in "$@"; do
     for ORVANE_TREE in collapsed expanded; do

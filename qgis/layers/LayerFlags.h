@@ -10,11 +10,13 @@ namespace Orvane {
 /// Whether features can be pointed at, and asked about: QGIS's "Identifiable" is both. One alone is kept as
 /// long as the layer is not identifiable.
 struct PointingFlags {
-    bool hitable = true;
-    bool enquirable = true;
+    bool hitable = true; ///< the column Hitable
+    bool enquirable = true; ///< the column Enquirable
 };
 
+/// Both flags as they are kept; if the user has changed "Identifiable" in QGIS since, both are that.
 PointingFlags ReadPointing(const QgsMapLayer& layer);
+/// Keeps both flags, and makes the layer identifiable if both are set.
 void WritePointing(QgsMapLayer& layer, const PointingFlags& flags);
 /// Forgets one alone when the user has changed "Identifiable" in QGIS; otherwise it would be back when the
 /// user changes it again. Nothing happens to other layers.

@@ -24,6 +24,7 @@ public:
     /// The layer's first place; nullptr if it has none.
     QgsLayerTreeLayer* Of(const QgsMapLayer& layer) const;
 
+    /// The project that this object was made for.
     const QgsProject& Project() const { return m_project; }
 
 private:

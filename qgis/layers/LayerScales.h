@@ -12,6 +12,7 @@ struct LayerScales {
     double maximum = 0; ///< the column MaxVisScale
 };
 
+/// No limits at all for a layer that QGIS shows at every scale.
 LayerScales ReadScales(const QgsMapLayer& layer);
 /// Numbers beyond all scales mean no limit, too.
 void WriteScales(QgsMapLayer& layer, const LayerScales& scales);

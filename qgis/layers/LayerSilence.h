@@ -5,8 +5,8 @@
 
 namespace Orvane {
 
-/// While it exists, nobody hears of changes of the layer that it was made for. At each signal of a layer,
-/// QGIS looks through all layers; who silences one tells QGIS afterwards, once for all.
+/// While it exists, nobody is notified of changes of the layer that it was made for. At each signal of a
+/// layer, QGIS looks through all layers; who silences one tells QGIS afterwards, once for all.
 using LayerSilence = QSignalBlocker;
 
 } // namespace Orvane

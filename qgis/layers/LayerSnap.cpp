@@ -70,9 +70,4 @@ void WriteSnap(QgsProject& project, const QHash<QgsMapLayer*, bool>& layers)
         project.setSnappingConfig(config);
 }
 
-void WriteSnap(QgsProject& project, QgsMapLayer& layer, bool snap)
-{
-    WriteSnap(project, {{&layer, snap}});
-}
-
 } // namespace Orvane

@@ -15,11 +15,8 @@ namespace Orvane {
 Value ReadSnap(const QgsMapLayer& layer, const QgsProject& project);
 
 /// Sets for each of the layers whether snapping uses it; others stay as they were. Only if something changes,
-/// the project gets the advanced configuration, which alone tells layers apart, and hears of it once.
+/// the project gets the advanced configuration, which alone tells layers apart, and is notified once.
 /// Snapping as a whole is switched on with the first layer. Layers without vectors are left out.
 void WriteSnap(QgsProject& project, const QHash<QgsMapLayer*, bool>& layers);
-
-/// The same for one layer.
-void WriteSnap(QgsProject& project, QgsMapLayer& layer, bool snap);
 
 } // namespace Orvane

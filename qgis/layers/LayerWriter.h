@@ -21,7 +21,6 @@ using RendererSetter
 
 /// What WriteLayer did.
 struct WrittenLayer {
-    bool symbolsChanged = false; ///< the layer got a new renderer
     std::vector<std::string_view>
         refused; ///< columns that QGIS or the layer cannot take, e.g. Color of a raster
 };

@@ -155,7 +155,6 @@ void WriteSymbolColumns(
         return;
     KeepChanges(layer, Merged(ReadRenderer(vectors->renderer(), kept), changes), changes);
     SetRenderer(*vectors, std::move(changed.renderer), setRenderer);
-    written.symbolsChanged = true;
 }
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 
 #include "hostkit/StyleEditorPlugin.h"
 #include "qgis/plugin/ProjectSession.h"
+#include "qgis/plugin/SchemeCommands.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -21,17 +22,20 @@ bool IsInnerLoop(int outermost)
 
 } // namespace
 
-void LateEnd::Of(std::unique_ptr<ProjectSession> session, std::unique_ptr<StyleEditorPlugin> component)
+LateEnd::Parts::Parts() = default;
+LateEnd::Parts::~Parts() = default;
+
+void LateEnd::Of(std::unique_ptr<Parts> parts)
 {
-    if (!session->IsBusy())
-        component.reset();
-    session->Stop();
-    if (session->IsBusy() || IsInnerLoop(0))
-        new LateEnd(std::move(session), std::move(component));
+    const ProjectSession& session = *parts->session;
+    if (!session.IsBusy())
+        parts->component.reset();
+    parts->session->Stop();
+    if (session.IsBusy() || IsInnerLoop(0))
+        new LateEnd(std::move(parts));
 }
 
-LateEnd::LateEnd(std::unique_ptr<ProjectSession> session, std::unique_ptr<StyleEditorPlugin> component)
-    : m_session(std::move(session)), m_component(std::move(component))
+LateEnd::LateEnd(std::unique_ptr<Parts> parts) : m_parts(std::move(parts))
 {
     connect(&m_again, &QTimer::timeout, this, &LateEnd::EndIfIdle);
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { delete this; });
@@ -42,7 +46,7 @@ LateEnd::~LateEnd() = default;
 
 void LateEnd::EndIfIdle()
 {
-    if (!m_session->IsBusy() && !IsInnerLoop(1))
+    if (!m_parts->session->IsBusy() && !IsInnerLoop(1))
         deleteLater();
 }
 

@@ -6,7 +6,6 @@
 #include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/EditorDock.h"
 #include "qgis/plugin/ComponentFile.h"
-#include "qgis/plugin/EditorRows.h"
 #include "qgis/plugin/LateEnd.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/plugin/QgisTexts.h"
@@ -14,10 +13,8 @@
 #include "qgis/plugin/SchemeCommands.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
@@ -109,11 +106,14 @@ void LayerControlPlugin::EndSession()
     const bool isQuitting = QThread::currentThread()->loopLevel() == 0; // QGIS has asked the user
     if (!isQuitting && m_session->Client().HasPendingEdits())
         Tell(tr("Changes in the layer control that were not applied have been dropped."));
-    m_schemes.reset();
     m_session->Client().SetDock(nullptr);
     m_session->Client().History().disconnect(this);
     m_session->Mirror().SetPanel(nullptr);
-    LateEnd::Of(std::move(m_session), std::move(m_component));
+    auto parts = std::make_unique<LateEnd::Parts>();
+    parts->session = std::move(m_session);
+    parts->schemes = std::move(m_schemes);
+    parts->component = std::move(m_component);
+    LateEnd::Of(std::move(parts));
 }
 
 void LayerControlPlugin::RemoveActions()
@@ -208,14 +208,18 @@ void LayerControlPlugin::ShowFromMenu()
         m_dock->hide();
 }
 
+IStyleEditor* LayerControlPlugin::Editor() const
+{
+    return m_component ? m_component->Library().GetStyleEditor(EditorID) : nullptr;
+}
+
 void LayerControlPlugin::ShowEditor()
 {
     Start();
-    IStyleEditorLibrary& library = m_component->Library();
-    IStyleEditor* editor = library.GetStyleEditor(EditorID);
+    IStyleEditor* editor = Editor();
     const bool isNew = !editor;
     if (isNew)
-        editor = library.NewStyleEditor(EditorID);
+        editor = m_component->Library().NewStyleEditor(EditorID);
     editor->Visible(true);
     m_isEditorOld = m_isEditorOld && !isNew;
     m_dock->show();
@@ -229,8 +233,13 @@ void LayerControlPlugin::Start()
     std::unique_ptr<StyleEditorPlugin> component = LoadInLanguageOfQgis();
     m_session = std::make_unique<ProjectSession>(*QgsProject::instance());
     m_schemes = std::make_unique<SchemeCommands>(*m_qgis.mainWindow(), *m_session);
+    auto unfinished = qScopeGuard([this] {
+        m_schemes.reset();
+        m_session.reset();
+    });
     ConnectSession();
     component->Library().Initialise(&m_session->Client());
+    unfinished.dismiss();
     m_component = std::move(component);
 }
 
@@ -240,17 +249,11 @@ void LayerControlPlugin::ConnectSession()
     connect(m_session.get(), &ProjectSession::Failed, this, &LayerControlPlugin::Tell);
     connect(m_schemes.get(), &SchemeCommands::Done, this, &LayerControlPlugin::TellDone);
     connect(&client.Notifications(), &HostNotifications::SchemesSavedToStartup, this, [this] {
-        TellDone(tr("All schemes of this map were saved for new maps."));
+        TellDone(tr("All schemes of this project were saved for new projects."));
     });
     connect(m_session.get(), &ProjectSession::RendererStylesChanged, this, [this] { m_isEditorOld = true; });
     connect(&client.History(), &UndoHistory::Changed, this, &LayerControlPlugin::ShowSteps);
-    connect(QgsProject::instance(), &QgsProject::writeProject, m_session.get(), [this] {
-        m_session->Guard([this] { AskAboutEdits(); });
-    });
-    connect(QgsProject::instance(), &QgsProject::projectSaved, m_session.get(), [this] {
-        if (std::exchange(m_isSavedTooEarly, false))
-            QgsProject::instance()->write();
-    });
+    m_session->SetBeforeSaving([this](QDomDocument& file) { AskAboutEdits(file); });
     client.SetMainWindow(m_qgis.mainWindow());
     client.SetDock(m_dock);
     m_session->SetStartupFile(StartupFile());
@@ -281,63 +284,20 @@ void LayerControlPlugin::ShowSteps()
     m_redo.setText(m_redo.isEnabled() ? history->RedoText() : tr("Redo Layer Change"));
 }
 
-// QGIS tells nobody that a project is about to be closed, but it asks the user if the project has changed.
-void LayerControlPlugin::WatchPendingEdits()
-{
-    if (!m_session)
-        return;
-    m_session->Guard([this] {
-        QgsProject& project = *QgsProject::instance();
-        if (!project.isDirty() && m_session->Client().HasPendingEdits())
-            project.setDirty(true);
-        if (m_isEditorOld && m_dock->isVisible() && !m_session->Client().HasPendingEdits())
-            RenewEditor();
-    });
-}
-
-// A project is saved, perhaps because it is about to be closed. An editor that ends asks the user.
-void LayerControlPlugin::AskAboutEdits()
-{
-    IStyleEditor* editor = m_component->Library().GetStyleEditor(EditorID);
-    if (!editor || !m_session->Client().HasPendingEdits())
-        return;
-    const bool isInSight = m_dock->isVisible();
-    const EditorRows rows(m_dock->widget());
-    const QPointer<ProjectSession> session(m_session.get());
-    editor->Visible(false);
-    if (!session || !m_session)
-        return;
-    m_isSavedTooEarly = true; // parts of the project are written by now
-    if (!isInSight)
-        return;
-    ShowEditor();
-    rows.Restore(m_dock->widget());
-}
-
-// An editor reads the renderer styles once.
-void LayerControlPlugin::RenewEditor()
-{
-    m_isEditorOld = false;
-    auto* editor = dynamic_cast<IStyleEditorForm*>(m_component->Library().GetStyleEditor(EditorID));
-    if (!editor)
-        return;
-    const QPointer<QWidget> focused = QApplication::focusWidget();
-    const EditorRows rows(m_dock->widget());
-    editor->UnloadWithoutApply();
-    ShowEditor();
-    rows.Restore(m_dock->widget());
-    if (focused && focused->isVisible())
-        focused->setFocus();
-}
-
 void LayerControlPlugin::Tell(const QString& message)
 {
-    m_qgis.messageBar()->pushMessage(tr("Layer Control"), message, Qgis::MessageLevel::Warning);
+    ShowMessage(message, Qgis::MessageLevel::Warning);
 }
 
 void LayerControlPlugin::TellDone(const QString& message)
 {
-    m_qgis.messageBar()->pushMessage(tr("Layer Control"), message, Qgis::MessageLevel::Success);
+    ShowMessage(message, Qgis::MessageLevel::Success);
+}
+
+// QGIS shows messages as rich text; names in them are anybody's.
+void LayerControlPlugin::ShowMessage(const QString& message, Qgis::MessageLevel level)
+{
+    m_qgis.messageBar()->pushMessage(tr("Layer Control"), message.toHtmlEscaped(), level);
 }
 
 // Without a component there is no session that could guard this.

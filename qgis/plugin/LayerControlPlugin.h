@@ -5,23 +5,26 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <qgis.h>
 #include <qgisplugin.h>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
+class QDomDocument;
 class QgisInterface;
 
 namespace Orvane {
 
 class EditorDock;
+class IStyleEditor;
 class ProjectSession;
 class SchemeCommands;
 class StyleEditorPlugin;
 
 /// The layer control in QGIS: a dock, a button, and entries in the menu of plug-ins. The component is loaded,
-/// and the project read, when the dock is first shown; from then on both are kept alike.
+/// and the project read, when the dock is first shown; from then on both are kept equal.
 ///
 /// ComponentFile says which component that is.
 class LayerControlPlugin : public QObject, public QgisPlugin
@@ -50,6 +53,7 @@ private:
     void ShowFromMenu();
     void ShowRestored();
     void ShowWhenSettled();
+    IStyleEditor* Editor() const;
     void ShowEditor();
     void Start();
     void ConnectSession();
@@ -59,10 +63,11 @@ private:
     void Redo();
     void ShowSteps();
     void WatchPendingEdits();
-    void AskAboutEdits();
+    void AskAboutEdits(QDomDocument& file);
     void RenewEditor();
     void Tell(const QString& message);
     void TellDone(const QString& message);
+    void ShowMessage(const QString& message, Qgis::MessageLevel level);
     bool Guard(const std::function<void()>& act) noexcept;
 
     QgisInterface& m_qgis;
@@ -78,7 +83,6 @@ private:
     std::unique_ptr<StyleEditorPlugin> m_component; // ended first: it ends its editors through the client
     bool m_isShown = false; // initGui was called
     bool m_isStarting = false; // with QGIS
-    bool m_isSavedTooEarly = false; // edits were applied while the project was being saved
     bool m_isEditorOld = false; // it has read renderer styles that are others now
 };
 

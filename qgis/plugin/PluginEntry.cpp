@@ -12,13 +12,15 @@ QGISEXTERN QgisPlugin* classFactory(QgisInterface* qgis)
 
 QGISEXTERN const QString* name()
 {
-    static const QString text = Orvane::LayerControlPlugin::tr("Layer Control");
+    static QString text; // QGIS keeps the pointer; the language is known later than the name
+    text = Orvane::LayerControlPlugin::tr("Layer Control");
     return &text;
 }
 
 QGISEXTERN const QString* description()
 {
-    static const QString text = Orvane::LayerControlPlugin::tr(
+    static QString text;
+    text = Orvane::LayerControlPlugin::tr(
         "Edits the properties of many layers at once, and keeps them in schemes.");
     return &text;
 }

@@ -114,7 +114,7 @@ void ProjectSession::ListenToProject()
     connect(&m_project, &QgsProject::cleared, this, [this] {
         Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
     });
-    connect(&m_project, &QgsProject::writeProject, this, [this] { Guard([this] { Save(); }); });
+    connect(&m_project, &QgsProject::writeProject, this, [this](QDomDocument& file) { Save(file); });
 }
 
 void ProjectSession::ListenToClient()
@@ -127,10 +127,12 @@ void ProjectSession::ListenToClient()
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
-        Guard([&] { m_mirror.WriteName(layerID, name); });
+        if (!m_client.IsBusy()) // it does so itself
+            Guard([&] { m_mirror.WriteName(layerID, name); });
     });
     connect(&told, &HostNotifications::GroupRenamed, this, [this](qint32 groupID, const QString& name) {
-        Guard([&] { m_mirror.WriteGroupName(groupID, name); });
+        if (!m_client.IsBusy())
+            Guard([&] { m_mirror.WriteGroupName(groupID, name); });
     });
     connect(
         &told, &HostNotifications::SchemesChanged, this, [this] { Guard([this] { m_schemes.Write(); }); });
@@ -141,7 +143,8 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
 {
     const bool readsAll = std::exchange(m_isBehind, true);
     MirrorChanges changes = readsAll ? m_mirror.ReadAll() : m_mirror.ReadLayers(layers);
-    if (isTree)
+    changes.isList |= readsAll; // what was read before the error was not shown
+    if (isTree && !readsAll)
         changes.Add(m_mirror.ReadTree());
     m_isBehind = false;
     TellStyles();
@@ -181,8 +184,17 @@ void ProjectSession::ReadOtherProject()
     m_client.RefreshEditors();
 }
 
+void ProjectSession::Save(QDomDocument& file)
+{
+    Guard([&] {
+        if (m_beforeSaving)
+            m_beforeSaving(file);
+    });
+    Guard([this] { SaveOwnValues(); });
+}
+
 // The styles that are not current go into the file as they are kept.
-void ProjectSession::Save()
+void ProjectSession::SaveOwnValues()
 {
     const ProjectWatcher::Silence own(m_watcher);
     for (QgsMapLayer* layer : m_project.mapLayers())

@@ -13,15 +13,17 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
+class QDomDocument;
 class QgsProject;
 
 namespace Orvane {
 
 class ILayerStore;
 
-/// A QGIS project with all that the layer control needs of it: a layer store that is kept alike with it, and
-/// the application object. No error leaves a slot of it: each is told by Failed.
+/// A QGIS project with all that the layer control needs of it: a layer store that is kept equal to it, and
+/// the application object. No error leaves a slot of it: Failed says so.
 class ProjectSession : public QObject
 {
     Q_OBJECT
@@ -32,29 +34,34 @@ public:
     ~ProjectSession() override;
 
     /// Reads the schemes of the project, or those of the startup file if it has none; call it when Failed is
-    /// listened to, before the first editor.
+    /// connected, before the first editor.
     void ReadSchemes();
 
     /// The file of the schemes for projects that have none; it may be missing. path: absolute.
     void SetStartupFile(const QString& path);
 
+    /// What runs first when QGIS saves the project. file: as QgsProject::writeProject passes it.
+    using BeforeSaving = std::function<void(QDomDocument& file)>;
+    void SetBeforeSaving(BeforeSaving act) { m_beforeSaving = std::move(act); }
+
+    /// The parts of the session, which owns all but the project.
     QgsProject& Project() { return m_project; }
     QgisClient& Client() { return m_client; }
     ProjectMirror& Mirror() { return m_mirror; }
     ProjectWatcher& Watcher() { return m_watcher; }
     ILayerStore& Store() { return *m_store; }
 
-    /// Undoes or redoes the last step, with what has changed in QGIS up to now. A step that QGIS has
-    /// overtaken is dropped, and told by Failed.
+    /// Undoes or redoes the last step, with what has changed in QGIS up to now. A step that is
+    /// no longer possible after them is dropped, and Failed says so.
     void Undo();
     void Redo();
 
     /// True while a function of this object, or of the client, is running.
     bool IsBusy() const { return m_running > 0 || m_client.IsBusy(); }
-    /// Hears and tells nothing more.
+    /// From now on it reads nothing, and emits nothing.
     void Stop();
 
-    /// Runs act; what it raises is told by Failed. Returns false then.
+    /// Runs act; Failed says what it raises. Returns false then.
     bool Guard(const std::function<void()>& act) noexcept;
 
 Q_SIGNALS:
@@ -71,7 +78,8 @@ private:
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
     void ReadStartupSchemes();
-    void Save();
+    void Save(QDomDocument& file);
+    void SaveOwnValues();
     void TellStyles();
 
     QgsProject& m_project;
@@ -84,6 +92,7 @@ private:
     QStringList m_offeredStyles;
     LayerOwnValues::CarriedStyles m_carriedStyles;
     QString m_startupFile;
+    BeforeSaving m_beforeSaving;
     bool m_isBehind = false; // a change could not be read
     int m_running = 0;
 };

@@ -63,8 +63,8 @@ QString RefusalText::Of(const std::vector<RefusedColumns>& layers)
     const QString name = NameInText(first.layer);
     if (layers.size() == 1)
         return tr("QGIS cannot set this for the layer \"%1\": %2.").arg(name, TitlesOf(first));
-    return tr("QGIS cannot set this for the layer \"%1\": %2. The same or other settings of %3 more layers "
-              "could not be set either.")
+    return tr("QGIS cannot set this for the layer \"%1\": %2. Other layers with settings that could not be "
+              "set: %3.")
         .arg(name, TitlesOf(first), QLocale().toString(qulonglong(layers.size() - 1)));
 }
 

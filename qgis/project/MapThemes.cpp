@@ -3,6 +3,7 @@
 
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeColumns.h"
+#include "qgis/layers/OverrideMode.h"
 #include "qgis/project/ProjectMirror.h"
 #include "qgis/project/StoredRows.h"
 #include "qgis/project/StyleLooks.h"
@@ -25,9 +26,6 @@ namespace Orvane {
 namespace {
 
 using Themes = QgsMapThemeCollection;
-
-constexpr qint32 ShownMode = 0;
-constexpr qint32 SuppressedMode = 2;
 
 // As QGIS names the groups of a theme.
 QString PathOf(QgsLayerTreeNode& node)
@@ -74,7 +72,7 @@ bool IsTrue(const LayerValues& row, const char* column)
 qint32 ModeOf(const LayerValues& row)
 {
     const Value& mode = ValueOf(row, "OverrideMode");
-    return mode.IsNull() ? ShownMode : ToInt32(mode);
+    return mode.IsNull() ? NormalMode : ToInt32(mode);
 }
 
 void InsertValues(ILayerStore& store, qint32 schemeID, const LayerValues& row)
@@ -148,8 +146,8 @@ LayerValues MapThemes::ThemeValues(QgsMapLayer& layer, const Themes::MapThemeRec
     const Themes::MapThemeLayerRecord record = theme.validLayerRecords().value(&layer);
     const bool isVisible = record.layer() && record.isVisible;
     SetValue(row, "Visible", isVisible);
-    if (isVisible && ModeOf(row) == SuppressedMode)
-        SetValue(row, "OverrideMode", ShownMode);
+    if (isVisible && ModeOf(row) == HiddenMode)
+        SetValue(row, "OverrideMode", NormalMode);
     const QString style = record.currentStyle;
     if (!record.usingCurrentStyle || !layer.styleManager()->styles().contains(style))
         return row;
@@ -177,8 +175,8 @@ Themes::MapThemeLayerRecord MapThemes::RecordOf(
 {
     QgsLayerTreeLayer* node = m_project.layerTreeRoot()->findLayer(&layer);
     Themes::MapThemeLayerRecord record(&layer);
-    record.isVisible = node && node->parent()->isVisible() && IsTrue(wanted, "Visible")
-        && ModeOf(wanted) != SuppressedMode;
+    record.isVisible
+        = node && node->parent()->isVisible() && IsTrue(wanted, "Visible") && ModeOf(wanted) != HiddenMode;
     record.expandedLayerNode = node && node->isExpanded();
     record.usingCurrentStyle = true;
     record.currentStyle = StyleFor(layer, wanted, present, step);
@@ -201,7 +199,7 @@ QString MapThemes::StyleFor(
     });
     if (found != styles.end())
         return *found;
-    return step.AddStyle(layer, StyleLooks::Make(layer, m_project, like, wanted));
+    return step.AddStyle(layer, StyleLooks::Make(layer, like, wanted));
 }
 
 } // namespace Orvane

@@ -40,7 +40,7 @@ struct MirrorChanges {
     void Add(const MirrorChanges& others);
 };
 
-/// Keeps a layer store alike with a QGIS project. The store has one row for each layer of the project and one
+/// Keeps a layer store equal to a QGIS project. The store has one row for each layer of the project and one
 /// group for each of its groups. A layer's row stays as long as the layer does: only columns that differ are
 /// stored, and only columns that differ are written to the project.
 ///
@@ -81,11 +81,11 @@ public:
     MirrorChanges ReadLayers(const QSet<QString>& layers);
     /// Reads the groups, and of all layers the snapping and the priority.
     MirrorChanges ReadTree();
-    /// Removes all rows and starts afresh, for another project.
+    /// Removes all rows and starts again, for another project.
     void Forget();
 
     /// Whether the columns that are as before are meant as well, when a layer gets another named style: those
-    /// of a scheme and of a step that is undone are, those beside an edit are not.
+    /// of a scheme and of a step that is undone are, those together with an edit are not.
     enum class Meant { Changes, WholeRows };
 
     /// Writes what the store has changed in these rows to the layers, all or nothing, and stores what the

@@ -122,8 +122,8 @@ std::optional<ProjectMirror::Change>
 ProjectMirror::Restyled(const Change& change, const LayerNodes& nodes, SignalBatch& batch)
 {
     const Value& number = ValueOf(change.after, "Style");
-    if (number.IsNull() || !Differs(change.before, change.after, "Style"))
-        return std::nullopt;
+    if (!change.layer->isValid() || number.IsNull() || !Differs(change.before, change.after, "Style"))
+        return std::nullopt; // what is lost is saved as it was read
     const QString style = m_styles.NameIn(*change.layer, ToInt32(number));
     if (style.isEmpty())
         return std::nullopt;
@@ -147,7 +147,8 @@ void ProjectMirror::TellMissingStyles(const std::vector<Change>& changes)
     for (const Change& change : changes) {
         const Value& style = ValueOf(change.stored, "Style");
         const LayerValues* taken = m_rows.Find(change.layerID);
-        if (change.layer && taken && !style.IsNull() && Differs(*taken, change.stored, "Style"))
+        if (change.layer && change.layer->isValid() && taken && !style.IsNull()
+            && Differs(*taken, change.stored, "Style"))
             refusals[ToInt32(style)] << change.layer->name();
     }
     for (auto refusal = refusals.begin(); m_tell && refusal != refusals.end(); ++refusal)
@@ -186,6 +187,8 @@ void ProjectMirror::TakeBack(const std::vector<Change>& changes)
     for (Change& change : reversed) {
         change.after = RowOf(*change.layer, nodes, ValueOf(change.before, "Priority"));
         std::swap(change.before, change.after);
+        m_styleEdits.End(change.layerID, change.before);
+        change.stored = change.after;
         change.meant = Meant::WholeRows;
     }
     WriteChanges(reversed);

@@ -151,11 +151,20 @@ void ProjectSchemes::Write()
     SchemeTables tables(m_store);
     if (!tables.HaveSchemes())
         return;
-    if (!m_unread.isEmpty())
-        m_project.writeEntry(Scope, UnreadEntry, std::exchange(m_unread, {}));
+    KeepUnread();
     const QString text = QString::fromUtf8(SchemesText(m_store, tables));
     if (text != m_project.readEntry(Scope, Entry))
         m_project.writeEntry(Scope, Entry, text);
+}
+
+void ProjectSchemes::KeepUnread()
+{
+    if (m_unread.isEmpty())
+        return;
+    QString free = UnreadEntry;
+    for (int number = 2; !m_project.readEntry(Scope, free).isEmpty(); ++number)
+        free = UnreadEntry + QString::number(number);
+    m_project.writeEntry(Scope, free, std::exchange(m_unread, {}));
 }
 
 void ProjectSchemes::Clear()

@@ -35,11 +35,13 @@ public:
     bool AreKept() const;
 
     /// Gives the project the schemes of the store, which marks it as changed if they differ from what it has.
-    /// What Read could not read stays in the project, in the entry "LayerSchemesUnread".
+    /// What Read could not read stays in the project, in the first free one of the entries
+    /// "LayerSchemesUnread", "LayerSchemesUnread2" ...
     void Write();
 
 private:
     void Clear();
+    void KeepUnread();
     void Store(const QByteArray& text);
 
     QgsProject& m_project;

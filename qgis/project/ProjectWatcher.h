@@ -19,7 +19,7 @@ class ProjectWatcher : public QObject
 
 public:
     /// Changes that are made while an object of this class exists are not told, unless layers come or go:
-    /// that is done by somebody who hears of a change.
+    /// that is done by somebody who is told of a change.
     class Silence
     {
     public:
@@ -45,7 +45,7 @@ Q_SIGNALS:
     /// These layers were added, removed or changed, by their IDs in QGIS. isTree: nodes of the tree, the
     /// order of drawing or the snapping may have changed as well.
     void Changed(const QSet<QString>& layerIDs, bool isTree);
-    /// A named style of a layer got another name; told at once, by whomever it was renamed.
+    /// A named style of a layer got another name; emitted at once, whoever renamed it.
     void StyleRenamed(const QString& from, const QString& to);
 
 private:

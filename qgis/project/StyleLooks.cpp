@@ -9,7 +9,9 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QDomDocument>
+#include <QScopeGuard>
 #include <qgsmaplayerstylemanager.h>
+#include <qgsproject.h>
 #include <qgsrenderer.h>
 #include <qgsvectorlayer.h>
 
@@ -102,22 +104,22 @@ bool StyleLooks::AreAlike(const LayerValues& wanted, const LayerValues& row)
     return IsBackdrop(wanted) == IsBackdrop(row) && std::all_of(Columns.begin(), Columns.end(), isAlike);
 }
 
-QgsMapLayerStyle StyleLooks::Make(
-    QgsMapLayer& layer, const QgsProject& project, const QString& like, const LayerValues& wanted)
+QgsMapLayerStyle StyleLooks::Make(QgsMapLayer& layer, const QString& like, const LayerValues& wanted)
 {
+    const QgsProject none; // without the layer's node: a quick mode that ends would tick it
     const LayerSilence silence(&layer);
     QgsMapLayerStyle former;
     former.readFromLayer(&layer);
+    const auto restore = qScopeGuard([&] { former.writeToLayer(&layer); });
     if (like != layer.styleManager()->currentStyle())
         layer.styleManager()->style(like).writeToLayer(&layer);
-    const LayerValues before = ReadLayer(layer, project);
+    const LayerValues before = ReadLayer(layer, none);
     LayerValues after = before;
     CopyColumns(after, wanted);
     SetBackdrop(after, IsBackdrop(wanted));
-    WriteLayer(layer, project, before, after);
+    WriteLayer(layer, none, before, after);
     QgsMapLayerStyle made;
     made.readFromLayer(&layer);
-    former.writeToLayer(&layer);
     return made;
 }
 

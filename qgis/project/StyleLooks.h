@@ -31,9 +31,9 @@ Read(const QgsMapLayer& layer, const QgsProject& project, const LayerValues& pre
 bool AreAlike(const LayerValues& wanted, const LayerValues& row);
 
 /// A style like that one, which must be one of the layer's, but with the wanted looks as far as the layer
-/// takes them. The layer itself stays as it is, and emits nothing.
-QgsMapLayerStyle
-Make(QgsMapLayer& layer, const QgsProject& project, const QString& like, const LayerValues& wanted);
+/// takes them. The layer itself and its tick stay as they are, and emit nothing. Raises what WriteLayer
+/// raises.
+QgsMapLayerStyle Make(QgsMapLayer& layer, const QString& like, const LayerValues& wanted);
 
 } // namespace StyleLooks
 

@@ -26,19 +26,22 @@ inline constexpr std::array LookColumnNames{"Color",        "FillForeColor", "Fi
 /// What symbols look like, in the numbers of the columns. Nothing: not known, various, or of no use to the
 /// symbol.
 struct SymbolLook {
-    std::array<std::optional<qint32>, LookColumnNames.size()> values;
+    std::array<std::optional<qint32>, LookColumnNames.size()> values; ///< in the order of LookColumn
 
+    /// The value of that column.
     std::optional<qint32>& operator[](LookColumn column) { return values[std::size_t(column)]; }
     const std::optional<qint32>& operator[](LookColumn column) const { return values[std::size_t(column)]; }
+    /// Equal in all columns; what is not known is equal only to that.
     bool operator==(const SymbolLook&) const = default;
 };
 
 /// The columns that a change could be applied to.
 struct TakenColumns {
-    std::array<bool, LookColumnNames.size()> taken{};
+    std::array<bool, LookColumnNames.size()> taken{}; ///< in the order of LookColumn
 
-    bool Has(LookColumn column) const { return taken[std::size_t(column)]; }
+    /// Counts that column as taken.
     void Add(LookColumn column) { taken[std::size_t(column)] = true; }
+    /// Counts those as taken that either of the two has.
     void Add(const TakenColumns& other)
     {
         for (std::size_t i = 0; i < taken.size(); ++i)

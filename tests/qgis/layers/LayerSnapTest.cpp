@@ -29,10 +29,10 @@ protected:
 TEST_F(LayerSnapOfQgis, IsReadAsItWasWritten)
 {
     QgsVectorLayer& layer = Add("Polygon");
-    WriteSnap(project, layer, true);
+    WriteSnap(project, {{&layer, true}});
     EXPECT_TRUE(Snaps(layer));
     EXPECT_TRUE(project.snappingConfig().enabled());
-    WriteSnap(project, layer, false);
+    WriteSnap(project, {{&layer, false}});
     EXPECT_FALSE(Snaps(layer));
 }
 
@@ -47,7 +47,7 @@ TEST_F(LayerSnapOfQgis, OtherLayersStayAsTheyWereWhenTheProjectTurnsAdvanced)
     QgsVectorLayer& roads = Add("LineString", "Roads");
     UseMode(QgsSnappingConfig::AllLayers);
     EXPECT_TRUE(Snaps(parcels));
-    WriteSnap(project, parcels, false);
+    WriteSnap(project, {{&parcels, false}});
     EXPECT_EQ(project.snappingConfig().mode(), QgsSnappingConfig::AdvancedConfiguration);
     EXPECT_FALSE(Snaps(parcels));
     EXPECT_TRUE(Snaps(roads));
@@ -57,7 +57,7 @@ TEST_F(LayerSnapOfQgis, TheFirstLayerThatSnapsIsTheOnlyOne)
 {
     QgsVectorLayer& parcels = Add("Polygon");
     QgsVectorLayer& roads = Add("LineString", "Roads");
-    WriteSnap(project, parcels, true);
+    WriteSnap(project, {{&parcels, true}});
     EXPECT_TRUE(Snaps(parcels));
     EXPECT_FALSE(Snaps(roads));
 }
@@ -69,12 +69,12 @@ TEST_F(LayerSnapOfQgis, TheProjectStaysAsItIsWhenNothingChanges)
     int changes = 0;
     const QObject listener; // a project that ends changes, too
     QObject::connect(&project, &QgsProject::snappingConfigChanged, &listener, [&changes] { ++changes; });
-    WriteSnap(project, layer, true);
+    WriteSnap(project, {{&layer, true}});
     EXPECT_EQ(changes, 0);
     EXPECT_EQ(project.snappingConfig().mode(), QgsSnappingConfig::AllLayers);
 }
 
-TEST_F(LayerSnapOfQgis, TheProjectHearsOfManyLayersOnce)
+TEST_F(LayerSnapOfQgis, TheProjectIsNotifiedOfManyLayersOnce)
 {
     QHash<QgsMapLayer*, bool> layers;
     for (int i = 0; i < 5; ++i)
@@ -91,20 +91,20 @@ TEST_F(LayerSnapOfQgis, TheProjectHearsOfManyLayersOnce)
 TEST_F(LayerSnapOfQgis, ALayerKeepsItsToleranceInQgis)
 {
     QgsVectorLayer& layer = Add("Polygon");
-    WriteSnap(project, layer, true);
+    WriteSnap(project, {{&layer, true}});
     QgsSnappingConfig config = project.snappingConfig();
     auto settings = config.individualLayerSettings(&layer);
     settings.setTolerance(42);
     config.setIndividualLayerSettings(&layer, settings);
     project.setSnappingConfig(config);
-    WriteSnap(project, layer, false);
+    WriteSnap(project, {{&layer, false}});
     EXPECT_EQ(project.snappingConfig().individualLayerSettings(&layer).tolerance(), 42);
 }
 
 TEST_F(LayerSnapOfQgis, ARasterIsLeftOut)
 {
     QgsRasterLayer& raster = AddRaster();
-    WriteSnap(project, raster, true);
+    WriteSnap(project, {{&raster, true}});
     EXPECT_TRUE(ReadSnap(raster, project).IsNull());
     EXPECT_NE(project.snappingConfig().mode(), QgsSnappingConfig::AdvancedConfiguration);
 }

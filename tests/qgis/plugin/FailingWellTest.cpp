@@ -17,7 +17,13 @@ namespace {
 class FailingWell : public DialogFixture
 {
 protected:
-    void SwitchOff() { LateEnd::Of(std::move(session), std::move(component)); }
+    void SwitchOff()
+    {
+        auto parts = std::make_unique<LateEnd::Parts>();
+        parts->session = std::move(session);
+        parts->component = std::move(component);
+        LateEnd::Of(std::move(parts));
+    }
 
     // A colour in the store, as the component applies it.
     void Apply(const QList<QgsMapLayer*>& layers, std::string_view column, const Value& value)

@@ -192,6 +192,21 @@ TEST_F(MapThemesTest, ABackdropIsAStyle)
     EXPECT_NEAR(lakes->opacity(), 0.35, 0.001);
 }
 
+TEST_F(MapThemesTest, AHiddenLayerStaysHiddenWhenASchemeWithItsBackdropIsExported)
+{
+    Apply(*lakes, "OverrideMode", 1);
+    schemes.Create("Night");
+    Apply(*lakes, "OverrideMode", 2);
+    themes.Export("Night");
+    EXPECT_FALSE(project.layerTreeRoot()->findLayer(lakes)->itemVisibilityChecked());
+    EXPECT_EQ(lakes->opacity(), 1);
+    mirror.ReadLayers({lakes->id()});
+    EXPECT_EQ(ToInt32(Stored(*lakes, "OverrideMode")), 2);
+    EXPECT_TRUE(Exported("Night", lakes).isVisible);
+    lakes->styleManager()->setCurrentStyle(Exported("Night", lakes).currentStyle);
+    EXPECT_NEAR(lakes->opacity(), 0.35, 0.001);
+}
+
 TEST_F(MapThemesTest, AnExportIsUndoneAndRedone)
 {
     Apply(*lakes, "FillForeColor", GreenBgr);

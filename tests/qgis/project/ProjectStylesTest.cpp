@@ -115,6 +115,17 @@ TEST_F(ProjectStylesTest, ALayerWithoutTheStyleRefusesItAndIsNamed)
     EXPECT_THAT(told.toStdString(), testing::AllOf(testing::HasSubstr("Night"), testing::HasSubstr("Lakes")));
 }
 
+TEST_F(ProjectStylesTest, ALayerWhoseDataAreMissingKeepsItsStyle)
+{
+    QgsVectorLayer* roads = AddStyledLayer("Roads");
+    const QString current = roads->styleManager()->currentStyle();
+    roads->setDataSource("/no/such/file.gpkg", "Roads", "ogr", QgsDataProvider::ProviderOptions());
+    ASSERT_FALSE(roads->isValid());
+    mirror.ReadAll();
+    SwitchTo(*roads, "Night");
+    EXPECT_EQ(roads->styleManager()->currentStyle(), current);
+}
+
 TEST_F(ProjectStylesTest, ANewStyleLeavesTheLayerItsNumberCodeAndFlags)
 {
     QgsVectorLayer* roads = AddStyledLayer("Roads"); // "Night" knows no number

@@ -34,6 +34,12 @@ inline SymbolLook Only(LookColumn column, qint32 value)
     return look;
 }
 
+/// True if the column was taken.
+inline bool Has(const TakenColumns& columns, LookColumn column)
+{
+    return columns.taken[std::size_t(column)];
+}
+
 } // namespace Testing
 
 } // namespace Orvane

@@ -13,6 +13,7 @@ namespace Orvane {
 
 namespace {
 
+using Testing::Has;
 using Testing::Only;
 
 constexpr qint32 Red = Bgr(0xFF0000);
@@ -23,7 +24,7 @@ TEST(PenLook, EveryLineStyleIsReadAsItWasSet)
 {
     QgsSimpleLineSymbolLayer line;
     for (qint32 style = 0; style <= 15; ++style) {
-        EXPECT_TRUE(ChangePen(line, Only(LookColumn::OutlineStyle, style)).Has(LookColumn::OutlineStyle));
+        EXPECT_TRUE(Has(ChangePen(line, Only(LookColumn::OutlineStyle, style)), LookColumn::OutlineStyle));
         EXPECT_EQ(ReadPen(line)[LookColumn::OutlineStyle], style);
     }
 }
@@ -153,9 +154,9 @@ TEST(PenLook, TheOutlineOfAMarkerTakesNoLongDashes)
 {
     QgsSimpleMarkerSymbolLayer marker;
     marker.setStrokeStyle(Qt::DashLine);
-    EXPECT_FALSE(ChangePen(marker, Only(LookColumn::OutlineStyle, 9)).Has(LookColumn::OutlineStyle));
+    EXPECT_FALSE(Has(ChangePen(marker, Only(LookColumn::OutlineStyle, 9)), LookColumn::OutlineStyle));
     EXPECT_EQ(marker.strokeStyle(), Qt::DashLine);
-    EXPECT_TRUE(ChangePen(marker, Only(LookColumn::OutlineStyle, 15)).Has(LookColumn::OutlineStyle));
+    EXPECT_TRUE(Has(ChangePen(marker, Only(LookColumn::OutlineStyle, 15)), LookColumn::OutlineStyle));
     EXPECT_EQ(marker.strokeStyle(), Qt::NoPen);
 }
 

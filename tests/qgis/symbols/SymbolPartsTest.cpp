@@ -15,6 +15,7 @@ namespace Orvane {
 
 namespace {
 
+using Testing::Has;
 using Testing::Only;
 
 constexpr qint32 Red = Bgr(0xFF0000);
@@ -58,9 +59,9 @@ TEST(SymbolParts, AMarkerHasAFillColourButNoFillStyle)
 {
     QgsMarkerSymbol symbol({Marker()});
     EXPECT_TRUE(
-        ChangeSymbol(symbol, Only(LookColumn::FillForeColor, Green), {}).Has(LookColumn::FillForeColor));
+        Has(ChangeSymbol(symbol, Only(LookColumn::FillForeColor, Green), {}), LookColumn::FillForeColor));
     EXPECT_EQ(ReadSymbol(symbol, {})[LookColumn::FillForeColor], Green);
-    EXPECT_FALSE(ChangeSymbol(symbol, Only(LookColumn::FillStyle, 3), {}).Has(LookColumn::FillStyle));
+    EXPECT_FALSE(Has(ChangeSymbol(symbol, Only(LookColumn::FillStyle, 3), {}), LookColumn::FillStyle));
     EXPECT_FALSE(ReadSymbol(symbol, {})[LookColumn::FillStyle]);
 }
 
@@ -72,7 +73,7 @@ TEST(SymbolParts, ALineHasNoFill)
     EXPECT_FALSE(look[LookColumn::FillForeColor]);
     EXPECT_FALSE(look[LookColumn::FillStyle]);
     EXPECT_FALSE(
-        ChangeSymbol(symbol, Only(LookColumn::FillForeColor, Green), {}).Has(LookColumn::FillForeColor));
+        Has(ChangeSymbol(symbol, Only(LookColumn::FillForeColor, Green), {}), LookColumn::FillForeColor));
 }
 
 TEST(SymbolParts, ACasedRoadShowsWhatItsLinesShare)
@@ -94,7 +95,7 @@ TEST(SymbolParts, ALineOfArrowsIsNotKnownAndNotTouched)
     QgsLineSymbol symbol({new QgsMarkerLineSymbolLayer});
     EXPECT_EQ(ReadSymbol(symbol, {}), SymbolLook());
     const QVariantMap before = symbol.symbolLayer(0)->properties();
-    EXPECT_FALSE(ChangeSymbol(symbol, Only(LookColumn::Color, Red), {}).Has(LookColumn::Color));
+    EXPECT_FALSE(Has(ChangeSymbol(symbol, Only(LookColumn::Color, Red), {}), LookColumn::Color));
     EXPECT_EQ(symbol.symbolLayer(0)->properties(), before);
 }
 
@@ -102,9 +103,9 @@ TEST(SymbolParts, AnAreaOfAnotherShapeTakesColoursInItsSimpleLayers)
 {
     QgsFillSymbol symbol({new QgsGradientFillSymbolLayer, new QgsSimpleLineSymbolLayer});
     EXPECT_EQ(ReadSymbol(symbol, {}), SymbolLook());
-    EXPECT_TRUE(ChangeSymbol(symbol, Only(LookColumn::Color, Red), {}).Has(LookColumn::Color));
+    EXPECT_TRUE(Has(ChangeSymbol(symbol, Only(LookColumn::Color, Red), {}), LookColumn::Color));
     EXPECT_EQ(symbol.symbolLayer(1)->color(), QColor(Qt::red));
-    EXPECT_FALSE(ChangeSymbol(symbol, Only(LookColumn::FillStyle, 3), {}).Has(LookColumn::FillStyle));
+    EXPECT_FALSE(Has(ChangeSymbol(symbol, Only(LookColumn::FillStyle, 3), {}), LookColumn::FillStyle));
     EXPECT_EQ(symbol.symbolLayerCount(), 2);
 }
 
