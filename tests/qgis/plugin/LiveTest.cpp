@@ -20,7 +20,7 @@ protected:
         bool ok = false;
         const QString file = folder.filePath("style.qml");
         lakes->saveNamedStyle(file, ok);
-        layer.loadNamedStyle(file, ok, false, QgsMapLayer::Symbology);
+        layer.loadNamedStyle(file, ok);
         EXPECT_TRUE(ok);
     }
 

@@ -145,7 +145,7 @@ void LoadStyle(SessionWorld& world)
     const QString file = world.folder.filePath("style.qml");
     from->saveNamedStyle(file, ok);
     ASSERT_TRUE(ok);
-    to->loadNamedStyle(file, ok, QgsMapLayer::Symbology);
+    to->loadNamedStyle(file, ok);
     ASSERT_TRUE(ok);
     Paper::Layer& onPaper = world.PaperOf(*to);
     onPaper.untouched = Paper::UntouchedOf(*to);
