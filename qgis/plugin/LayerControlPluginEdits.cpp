@@ -12,9 +12,26 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
 #include <qgsproject.h>
 
 namespace Orvane {
+
+namespace {
+
+constexpr int CanvasDelay = 50; // milliseconds
+
+// A moment after the tree has changed, the canvas follows, and QGIS marks the project as changed. That must
+// not be after it was saved.
+void LetCanvasFollow()
+{
+    QEventLoop loop;
+    QTimer::singleShot(CanvasDelay, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
 
 // QGIS tells nobody that a project is about to be closed, but it asks the user if the project has changed.
 void LayerControlPlugin::WatchPendingEdits()
@@ -40,6 +57,7 @@ void LayerControlPlugin::AskAboutEdits(QDomDocument& file)
     const EditorRows rows(m_dock->widget());
     const QPointer<LayerControlPlugin> self(this);
     editor->Visible(false);
+    LetCanvasFollow();
     SavedTree::WriteAgain(file, *QgsProject::instance());
     if (!self || !m_session || !isInSight)
         return;
