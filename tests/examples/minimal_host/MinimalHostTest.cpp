@@ -155,7 +155,7 @@ TEST(MinimalHostProgram, MakesAMapThatIsMissing)
     QProcess program;
     program.start(QStringLiteral(MINIMAL_HOST), {path});
     ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return QFile::exists(path) || program.state() == QProcess::NotRunning; }, 60000));
+        [&] { return QFileInfo(path).size() > 0 || program.state() == QProcess::NotRunning; }, 60000));
     program.kill();
     program.waitForFinished();
     const auto map = LayerStores::Open(path);
