@@ -1,8 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-# usage: qgis_project.py FILE [LAYERS [blocks]]
-# Makes a QGIS project with a small town, and a group with so many layers without features; with "blocks", groups of a
-# hundred layers with a square each.
+# usage: qgis_project.py FILE [LAYERS]
+# Makes a QGIS project with a small town, and groups of a hundred layers with a square each.
 import json
 import os
 import sys
@@ -10,7 +9,7 @@ import sys
 os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
 from qgis.core import (  # noqa: E402
     QgsApplication, QgsCategorizedSymbolRenderer, QgsCoordinateReferenceSystem, QgsFeature, QgsFillSymbol, QgsGeometry,
-    QgsLayerTreeLayer, QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer,
+    QgsLineSymbol, QgsProject, QgsRectangle, QgsRendererCategory, QgsSingleSymbolRenderer,
     QgsVectorFileWriter, QgsVectorLayer)
 from qgis.gui import QgsMapCanvas  # noqa: E402
 
@@ -70,15 +69,6 @@ def add_town(folder):
     add(nature, saved_layer(folder, "Soil", "Polygon", squares(4, 8)), classified())
 
 
-def add_many(count):
-    group = QgsProject.instance().layerTreeRoot().addGroup("Many")
-    layers = [QgsVectorLayer("Polygon?crs=EPSG:3857", "Layer %d" % number, "memory") for number in range(count)]
-    for layer in layers:
-        layer.setRenderer(fill("#80c0c0"))
-    QgsProject.instance().addMapLayers(layers, False)
-    group.insertChildNodes(-1, [QgsLayerTreeLayer(layer) for layer in layers])  # each alone would look through all
-
-
 def saved_square(folder, number):
     """A layer with a square, in rows of fifty below the town."""
     row, column = divmod(number, 50)
@@ -107,17 +97,15 @@ def main():
     application.initQgis()
     QgsProject.instance().setCrs(QgsCoordinateReferenceSystem("EPSG:3857"))
     add_town(os.path.dirname(path))
-    if "blocks" in sys.argv[3:]:
+    if sys.argv[2:]:
         add_blocks(os.path.dirname(path), int(sys.argv[2]))
-    elif sys.argv[2:] and int(sys.argv[2]):
-        add_many(int(sys.argv[2]))
     canvas = QgsMapCanvas()  # QGIS opens the project with the view of a canvas of that name
     canvas.setObjectName("theMapCanvas")
     canvas.setDestinationCrs(QgsProject.instance().crs())
     canvas.setExtent(QgsRectangle(-20, -20, 1000, 700))
     if not QgsProject.instance().write(path):
         sys.exit("The project could not be written: " + path)
-    os._exit(0)  # ten thousand layers take minutes to be removed one by one
+    os._exit(0)  # many layers take long to be removed one by one
 
 
 main()

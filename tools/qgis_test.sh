@@ -26,7 +26,7 @@ scene() {
 start_desktop "$out" 1920x1080
 mkdir "$out/town" "$out/many"
 "$here/qgis_project.py" "$out/town/town.qgz"
-"$here/qgis_project.py" "$out/many/many.qgz" "$layers" blocks
+"$here/qgis_project.py" "$out/many/many.qgz" "$layers"
 scene open_dock "$out/town/town.qgz" with
 scene in_german "$out/town/town.qgz" german
 scene town "$out/town/town.qgz" with

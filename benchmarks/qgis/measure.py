@@ -8,7 +8,9 @@ import sys
 import time
 import traceback
 
-from qgis.core import Qgis, QgsMapLayerStyle, QgsMapThemeCollection, QgsProject
+from qgis.core import (
+    Qgis, QgsFillSymbol, QgsLayerTreeLayer, QgsMapLayerStyle, QgsMapThemeCollection, QgsProject, QgsSingleSymbolRenderer,
+    QgsVectorLayer)
 from qgis.PyQt.QtCore import QEvent, QCoreApplication, QItemSelectionModel, QMetaObject, Qt, QTimer
 from qgis.PyQt.QtGui import QColor
 from qgis.PyQt.QtTest import QTest
@@ -85,6 +87,18 @@ def choose(tab, tree, text):
     show_tab(tab)
     view = named(tree, QTreeView)
     view.setCurrentIndex(row_of(view, text))
+    settle()
+
+
+def add_many(count):
+    """QGIS takes a quarter of an hour to open a project of ten thousand layers, but not to add them to an open one."""
+    group = QgsProject.instance().layerTreeRoot().addGroup(GROUP)
+    layers = [QgsVectorLayer("Polygon?crs=EPSG:3857", "Layer %d" % number, "memory") for number in range(count)]
+    for layer in layers:
+        symbol = QgsFillSymbol.createSimple({"color": "#80c0c0", "outline_color": "#404040"})
+        layer.setRenderer(QgsSingleSymbolRenderer(symbol))
+    QgsProject.instance().addMapLayers(layers, False)
+    group.insertChildNodes(-1, [QgsLayerTreeLayer(layer) for layer in layers])
     settle()
 
 
@@ -298,6 +312,7 @@ def measure_layer_control():
 
 def run():
     try:
+        add_many(int(os.environ["ORVANE_LAYERS"]))
         print("QGIS", Qgis.QGIS_VERSION, "layers", len(many_layers()), flush=True)
         arrange_tree()
         if PART == "control":

@@ -9,15 +9,15 @@ set -euo pipefail
 here=$(dirname "$(realpath "$0")") build=$1 out=$(mkdir -p "$2" && realpath "$2")
 shift 2
 [ $# -gt 0 ] || set -- 1000 10000
-export ORVANE_LIMIT=${LIMIT:-120} ORVANE_PART ORVANE_TREE
+export ORVANE_LIMIT=${LIMIT:-120} ORVANE_PART ORVANE_TREE ORVANE_LAYERS
 
-for layers in "$@"; do
+for ORVANE_LAYERS in "$@"; do
     for ORVANE_TREE in collapsed expanded; do
         for ORVANE_PART in ${PARTS:-control paste theme}; do
-            run=$out/$layers-$ORVANE_TREE-$ORVANE_PART
+            run=$out/$ORVANE_LAYERS-$ORVANE_TREE-$ORVANE_PART
             rm -rf "$run"
-            echo "$layers layers, tree $ORVANE_TREE: $ORVANE_PART" >&2
-            TO=1800 "$here/../../tools/qgis_try.sh" "$build" "$run" "$here/measure.py" "$layers" >"$run.log" 2>&1 || true
+            echo "$ORVANE_LAYERS layers, tree $ORVANE_TREE: $ORVANE_PART" >&2
+            TO=1800 "$here/../../tools/qgis_try.sh" "$build" "$run" "$here/measure.py" >"$run.log" 2>&1 || true
             [ -e "$run/figures" ] || { echo "QGIS has measured nothing: see $run" >&2; exit 1; }
             ! grep -A20 Traceback "$run/qgis.log" >&2
         done
