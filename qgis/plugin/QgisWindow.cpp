@@ -41,6 +41,27 @@ private:
     QHeaderView::ResizeMode m_mode;
 };
 
+// A map that is drawn now would end with images of the former looks, and the canvas would take these for new.
+class DrawnAgain
+{
+public:
+    explicit DrawnAgain(QgsMapCanvas& canvas) : m_canvas(canvas), m_wasDrawing(canvas.isDrawing())
+    {
+        m_canvas.stopRendering();
+    }
+    ~DrawnAgain()
+    {
+        if (m_wasDrawing)
+            m_canvas.refresh();
+    }
+    DrawnAgain(const DrawnAgain&) = delete;
+    DrawnAgain& operator=(const DrawnAgain&) = delete;
+
+private:
+    QgsMapCanvas& m_canvas;
+    bool m_wasDrawing;
+};
+
 QAction* ActionOf(QgisInterface& qgis, const char* name)
 {
     return qgis.mainWindow()->findChild<QAction*>(QLatin1String(name));
@@ -119,6 +140,7 @@ void QgisWindow::ConnectPanel(QgisInterface& qgis, ProjectSession& session)
     QgsMapCanvas* canvas = qgis.mapCanvas();
     session.Mirror().SetAround([view, canvas, &session](size_t layers, const std::function<void()>& write) {
         const ProjectWatcher::Silence own(session.Watcher());
+        const DrawnAgain again(*canvas);
         if (layers > size_t(canvas->layerCount()) / 4) // dropping images one by one looks at all of them
             canvas->clearCache();
         const StillColumns still(*view->header());
