@@ -111,7 +111,6 @@ void ProjectSession::ListenToProject()
     connect(&m_watcher, &ProjectWatcher::StyleRenamed, this, [this](const QString& from, const QString& to) {
         Guard([&] { m_mirror.Styles().Rename(from, to); });
     });
-    connect(&m_watcher, &ProjectWatcher::StylesChanged, this, [this] { m_areStylesOld = true; });
     connect(&m_project, &QgsProject::cleared, this, [this] {
         Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
     });
@@ -148,8 +147,7 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
     if (isTree && !readsAll)
         changes.Add(m_mirror.ReadTree());
     m_isBehind = false;
-    if (m_areStylesOld || changes.isList)
-        TellStyles(); // which asks every layer
+    TellStyles();
     Show(changes);
 }
 
@@ -206,7 +204,6 @@ void ProjectSession::SaveOwnValues()
 
 void ProjectSession::TellStyles()
 {
-    m_areStylesOld = false;
     QStringList names;
     for (const RendererStyle& style : m_mirror.Styles().Offered())
         names << style.name;

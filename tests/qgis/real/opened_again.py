@@ -10,6 +10,7 @@ from user import *  # noqa: E402,F403
 
 def steps():
     iface.zoomFull()
+    yield from still_map()
     yield from open_dock()
     schemes = named("cmbScheme", QComboBox)
     expect([schemes.itemText(at) for at in range(schemes.count())], ["Quiet", "Standard"], "schemes")
