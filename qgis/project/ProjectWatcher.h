@@ -19,7 +19,7 @@ class ProjectWatcher : public QObject
 
 public:
     /// Changes that are made while an object of this class exists are not told, unless layers come or go:
-    /// that is done by somebody who is told of a change.
+    /// that is done by somebody who is notified of a change.
     class Silence
     {
     public:
