@@ -55,12 +55,7 @@ def make_quiet():
     click(named("chkSelectable"), 8)
     yield Until("pending edits", lambda: named("cmdApply").isEnabled())
     yield from apply()
-    yield from show_tab(2)
-    click(named("cmdNew"))
-    yield Until("the question for a name", lambda: QApplication.activeModalWidget() is not None)
-    type_text("Quiet")
-    yield from answer("", "Return")
-    yield Until("the new scheme", lambda: named("cmbScheme").currentText() == "Quiet")
+    yield from new_scheme("Quiet")
     remember("Quiet", fills())
     picture("quiet")
 

@@ -193,6 +193,15 @@ def apply():
     yield Until("applied edits", lambda: not named("cmdApply").isEnabled())
 
 
+def new_scheme(name):
+    yield from show_tab(2)
+    click(named("cmdNew"))
+    yield Until("the question for a name", lambda: QApplication.activeModalWidget() is not None)
+    type_text(name)
+    yield from answer("", "Return")
+    yield Until("the scheme " + name, lambda: named("cmbScheme").currentText() == name)
+
+
 def switch_scheme(name):
     yield from show_tab(2)
     box = named("cmbScheme", QComboBox)
