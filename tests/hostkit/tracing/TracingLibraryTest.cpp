@@ -2,9 +2,9 @@
 #include "hostkit/tracing/TracingLibrary.h"
 
 #include "hostkit/tracing/TracingTest.h"
+#include "hosts/EmptyEditorForm.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
-#include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/IStyleEditorTexts.h>
 #include <OrvaneShellLib/IStyleFilter.h>
@@ -19,7 +19,7 @@ namespace {
 using testing::ElementsAre;
 
 // An editor that only records its calls.
-class PlainEditor : public IStyleEditor, public IStyleEditorForm
+class PlainEditor : public IStyleEditor, public EmptyEditorForm
 {
 public:
     const IStyleFilter* filter = nullptr;
@@ -30,20 +30,10 @@ private:
     bool IStyleEditor_Visible() const override { return visible; }
     void IStyleEditor_Visible(bool shown) override { visible = shown; }
     void IStyleEditor_RefreshGroups() override { }
-    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
-    void IStyleEditorForm_AddNewLayer(qint32) override { }
-    void IStyleEditorForm_Popup() override { }
-    void IStyleEditorForm_SetLayerCode(qint32) override { }
-    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
-    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
     const IStyleFilter* IStyleEditorForm_Filter() const override { return filter; }
     void IStyleEditorForm_Filter(const IStyleFilter* given) override { filter = given; }
-    void IStyleEditorForm_UnloadWithoutApply() override { }
-    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
     bool IStyleEditorForm_HasPendingEdits() const override { return visible; }
     void IStyleEditorForm_Refresh() override { visible = true; }
-
-    std::vector<RendererStyle> m_styles{{1, QStringLiteral("Shaded")}};
 };
 
 class PlainLibrary : public IStyleEditorLibrary

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/windows/EditorWindows.h"
 
-#include <OrvaneShellLib/IStyleEditorForm.h>
+#include "hosts/EmptyEditorForm.h"
+
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -16,7 +17,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A form of an editor that counts how often it was refreshed.
-class Form : public QWidget, public IStyleEditorForm
+class Form : public QWidget, public Testing::EmptyEditorForm
 {
 public:
     bool pending = false;
@@ -24,16 +25,6 @@ public:
     int refreshed = 0;
 
 private:
-    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
-    void IStyleEditorForm_AddNewLayer(qint32) override { }
-    void IStyleEditorForm_Popup() override { }
-    void IStyleEditorForm_SetLayerCode(qint32) override { }
-    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
-    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
-    const IStyleFilter* IStyleEditorForm_Filter() const override { return nullptr; }
-    void IStyleEditorForm_Filter(const IStyleFilter*) override { }
-    void IStyleEditorForm_UnloadWithoutApply() override { }
-    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
     bool IStyleEditorForm_HasPendingEdits() const override { return pending; }
     void IStyleEditorForm_Refresh() override
     {
@@ -41,8 +32,6 @@ private:
         if (fails)
             throw RunTimeError(7, QStringLiteral("no"));
     }
-
-    std::vector<RendererStyle> m_styles;
 };
 
 // One of a component that can read a few layers.

@@ -4,10 +4,10 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/lists/StoredList.h"
 #include "hostkit/schemes/SchemeExchange.h"
+#include "hosts/EmptyEditorForm.h"
 #include "qgis/plugin/SessionFixture.h"
 #include "support/Errors.h"
 
-#include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 
 #include <QWidget>
@@ -19,28 +19,15 @@ namespace {
 constexpr qint32 GreenBgr = 0x00FF00;
 
 // An editor's form that notes what it is to read again.
-class NotingForm : public QWidget, public IStyleEditorForm, public IStyleEditorRefresh
+class NotingForm : public QWidget, public EmptyEditorForm, public IStyleEditorRefresh
 {
 public:
     int refreshed = 0;
     QSet<qint32> layers;
 
 private:
-    QString IStyleEditorForm_EditorID() const override { return QStringLiteral("Main"); }
-    void IStyleEditorForm_AddNewLayer(qint32) override { }
-    void IStyleEditorForm_Popup() override { }
-    void IStyleEditorForm_SetLayerCode(qint32) override { }
-    void IStyleEditorForm_SetLayerName(qint32, const QString&) override { }
-    const std::vector<RendererStyle>& IStyleEditorForm_LoadRendererStyles() override { return m_styles; }
-    const IStyleFilter* IStyleEditorForm_Filter() const override { return nullptr; }
-    void IStyleEditorForm_Filter(const IStyleFilter*) override { }
-    void IStyleEditorForm_UnloadWithoutApply() override { }
-    void IStyleEditorForm_RefreshLayerNames(const QSet<qint32>&) override { }
-    bool IStyleEditorForm_HasPendingEdits() const override { return false; }
     void IStyleEditorForm_Refresh() override { ++refreshed; }
     void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override { layers += layerIDs; }
-
-    std::vector<RendererStyle> m_styles;
 };
 
 class ProjectSessionTest : public SessionFixture
