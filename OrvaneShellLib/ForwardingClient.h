@@ -3,6 +3,11 @@
 
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
+#include <orvane/OrvaneShellLib/IManyLayers.h>
+#include <orvane/OrvaneShellLib/IMapNotes.h>
+#include <orvane/OrvaneShellLib/IMapScale.h>
+#include <orvane/OrvaneShellLib/INodeCommands.h>
+#include <orvane/OrvaneShellLib/ISchemeManager.h>
 #include <orvane/OrvaneShellLib/IStyleEditorClient.h>
 
 namespace Orvane {
@@ -14,7 +19,14 @@ namespace Orvane {
 ///         using ForwardingClient::ForwardingClient;
 ///         void IStyleEditorClient_RedrawMap() override { }
 ///     };
-class ForwardingClient : public IStyleEditorClient, public IConflictQuestion, public IEditorWatch
+class ForwardingClient : public IStyleEditorClient,
+                         public IConflictQuestion,
+                         public IEditorWatch,
+                         public IManyLayers,
+                         public IMapScale,
+                         public ISchemeManager,
+                         public IMapNotes,
+                         public INodeCommands
 {
 public:
     /// client: not owned; outlives this object.
@@ -95,6 +107,72 @@ protected:
     {
         if (auto* watch = dynamic_cast<IEditorWatch*>(&m_client))
             watch->EditorEnded(form);
+    }
+
+    /// One after the other if the other client cannot do it at once.
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override
+    {
+        if (auto* many = dynamic_cast<IManyLayers*>(&m_client)) {
+            many->DeleteLayers(layerIDs);
+            return;
+        }
+        for (const qint32 layerID : layerIDs)
+            m_client.DeleteLayer(layerID);
+    }
+    /// False if the other client has no such window.
+    bool ISchemeManager_CanManageSchemes() const override
+    {
+        const auto* manager = dynamic_cast<const ISchemeManager*>(&m_client);
+        return manager && manager->CanManageSchemes();
+    }
+    /// Nothing happens if the other client has no such window.
+    void ISchemeManager_ManageSchemes(QWidget* form) override
+    {
+        if (auto* manager = dynamic_cast<ISchemeManager*>(&m_client))
+            manager->ManageSchemes(form);
+    }
+
+    /// 0 if the other client does not know it.
+    double IMapScale_CurrentScale() const override
+    {
+        const auto* scale = dynamic_cast<const IMapScale*>(&m_client);
+        return scale ? scale->CurrentScale() : 0;
+    }
+
+    /// False if the other client keeps none.
+    bool IMapNotes_KeepsNotes() const override
+    {
+        const auto* notes = dynamic_cast<const IMapNotes*>(&m_client);
+        return notes && notes->KeepsNotes();
+    }
+    /// Empty if the other client keeps none.
+    QString IMapNotes_Note(const QString& key) override
+    {
+        auto* notes = dynamic_cast<IMapNotes*>(&m_client);
+        return notes ? notes->Note(key) : QString();
+    }
+    /// Nothing happens if the other client keeps none.
+    void IMapNotes_SetNote(const QString& key, const QString& text) override
+    {
+        if (auto* notes = dynamic_cast<IMapNotes*>(&m_client))
+            notes->SetNote(key, text);
+    }
+
+    /// None if the other client has none.
+    std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override
+    {
+        auto* commands = dynamic_cast<INodeCommands*>(&m_client);
+        return commands ? commands->Commands(form) : std::vector<NodeCommand>();
+    }
+    QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override
+    {
+        auto* commands = dynamic_cast<INodeCommands*>(&m_client);
+        return commands ? commands->WhyNot(id, layerIDs) : QString();
+    }
+    void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override
+    {
+        if (auto* commands = dynamic_cast<INodeCommands*>(&m_client))
+            commands->Run(form, id, layerIDs);
     }
 
     /// The wrapped client, for use in overrides.

@@ -23,6 +23,7 @@ public:
     {
         setWindowTitle("Dock Host");
         setCentralWidget(m_map);
+        m_map->setSelectionMode(QAbstractItemView::ExtendedSelection);
         addDockWidget(Qt::RightDockWidgetArea, m_dock);
         m_map->setMinimumWidth(150);
         menuBar()->addMenu("&View")->addAction(m_dock->toggleViewAction());
@@ -36,6 +37,15 @@ public:
         for (const auto row = layers.OpenRecordset("SELECT Name FROM Layers ORDER BY Name"); !row->AtEOF();
              row->MoveNext())
             m_map->addItem(ToTextOrNone(row->Field("Name")));
+    }
+
+    void Mark(const QStringList& names)
+    {
+        m_map->clearSelection();
+        for (const QString& name : names) {
+            for (QListWidgetItem* item : m_map->findItems(name, Qt::MatchExactly))
+                item->setSelected(true);
+        }
     }
 
     void Restore() { restoreState(QSettings().value("window").toByteArray()); }
@@ -91,6 +101,21 @@ private:
     std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override
     {
         return {{1, "Sketched"}};
+    }
+    std::vector<NodeCommand> INodeCommands_Commands(QWidget*) override
+    {
+        return {{"mark", "Mark on the Map"}};
+    }
+    QString INodeCommands_WhyNot(const QString&, const std::vector<qint32>& layerIDs) override
+    {
+        return layerIDs.size() > 100 ? QString("Only up to 100 layers can be marked.") : QString();
+    }
+    void INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>& layerIDs) override
+    {
+        QStringList names;
+        for (const qint32 layerID : layerIDs)
+            names << StandardClient::IStyleEditorClient_LayerDisplayName(layerID);
+        m_window.Mark(names);
     }
     void IStyleEditorClient_RedrawMap() override
     {

@@ -12,6 +12,7 @@
 using namespace Orvane;
 using namespace Orvane::Testing;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 namespace {
 
@@ -69,6 +70,120 @@ TEST_F(Forwarding, TheClientPassesOnWhatItIsTold)
 {
     TellEverything(client);
     EXPECT_EQ(host.Calls(), toldEverything);
+}
+
+TEST_F(Forwarding, SeveralLayersAreDeletedOneByOneIfTheOtherClientCannotDoItAtOnce)
+{
+    client.DeleteLayers({17, 18});
+    EXPECT_THAT(host.Calls(), ElementsAre("DeleteLayer(17)", "DeleteLayer(18)"));
+}
+
+TEST_F(Forwarding, SeveralLayersAreDeletedAtOnceByAClientThatCan)
+{
+    class ManyClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+        std::vector<qint32> deleted;
+
+    private:
+        void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override { deleted = layerIDs; }
+    };
+    ManyClient many(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(many));
+    outer.DeleteLayers({17, 18});
+    EXPECT_THAT(many.deleted, ElementsAre(17, 18));
+}
+
+TEST_F(Forwarding, TheMapsScaleIsThatOfTheOtherClient)
+{
+    class MapClient : public ForwardingClient
+    {
+        using ForwardingClient::ForwardingClient;
+        double IMapScale_CurrentScale() const override { return 25000; }
+    };
+    EXPECT_EQ(client.CurrentScale(), 0) << "it does not know it";
+    MapClient map(host);
+    const ForwardingClient outer(static_cast<IStyleEditorClient&>(map));
+    EXPECT_EQ(outer.CurrentScale(), 25000);
+}
+
+TEST_F(Forwarding, AClientWithoutAWindowForSchemesHasNone)
+{
+    EXPECT_FALSE(client.CanManageSchemes());
+    client.ManageSchemes(nullptr);
+    EXPECT_THAT(host.Calls(), IsEmpty());
+}
+
+TEST_F(Forwarding, TheWindowForSchemesIsThatOfTheOtherClient)
+{
+    class ManagingClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+        int shown = 0;
+
+    private:
+        bool ISchemeManager_CanManageSchemes() const override { return true; }
+        void ISchemeManager_ManageSchemes(QWidget*) override { ++shown; }
+    };
+    ManagingClient managing(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(managing));
+    EXPECT_TRUE(outer.CanManageSchemes());
+    outer.ManageSchemes(nullptr);
+    EXPECT_EQ(managing.shown, 1);
+}
+
+TEST_F(Forwarding, NotesAreKeptOnlyByAClientThatKeepsThem)
+{
+    EXPECT_FALSE(client.KeepsNotes());
+    client.SetNote(QStringLiteral("key"), QStringLiteral("text"));
+    EXPECT_EQ(client.Note(QStringLiteral("key")), QString());
+    class KeepingClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+        QString stored;
+
+    private:
+        bool IMapNotes_KeepsNotes() const override { return true; }
+        QString IMapNotes_Note(const QString& key) override { return key + stored; }
+        void IMapNotes_SetNote(const QString& key, const QString& text) override { stored = key + text; }
+    };
+    KeepingClient keeping(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(keeping));
+    EXPECT_TRUE(outer.KeepsNotes());
+    outer.SetNote(QStringLiteral("k"), QStringLiteral("text"));
+    EXPECT_EQ(outer.Note(QStringLiteral("k")), QStringLiteral("kktext"));
+}
+
+TEST_F(Forwarding, CommandsAreThoseOfTheOtherClient)
+{
+    EXPECT_TRUE(client.Commands(nullptr).empty());
+    client.Run(nullptr, QStringLiteral("zoom"), {17});
+    class CommandingClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+        std::vector<qint32> ran;
+
+    private:
+        std::vector<NodeCommand> INodeCommands_Commands(QWidget*) override
+        {
+            return {{QStringLiteral("zoom"), QStringLiteral("Zoom")}};
+        }
+        QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>&) override { return id; }
+        void INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>& layerIDs) override
+        {
+            ran = layerIDs;
+        }
+    };
+    CommandingClient commanding(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(commanding));
+    ASSERT_EQ(outer.Commands(nullptr).size(), 1U);
+    EXPECT_EQ(outer.WhyNot(QStringLiteral("zoom"), {17}), QStringLiteral("zoom"));
+    outer.Run(nullptr, QStringLiteral("zoom"), {17});
+    EXPECT_THAT(commanding.ran, ElementsAre(17));
 }
 
 TEST_F(Forwarding, TheClientGivesTheOthersAnswers)
