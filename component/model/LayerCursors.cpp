@@ -2,11 +2,38 @@
 #include "component/model/LayerCursors.h"
 
 #include "component/model/CheckedColumns.h"
+#include "component/model/ColumnError.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/LayerQueries.h>
 
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
 namespace Orvane {
+
+namespace {
+
+qint16 QuickModeOrNormal(const IRecordset& row)
+{
+    try {
+        return QuickModeColumn(row);
+    } catch (const ColumnError&) {
+        return QuickMode::Normal;
+    }
+}
+
+std::optional<qint32> ReadableID(const IRecordset& row)
+{
+    try {
+        return IntegerColumn(row, "LayerID");
+    } catch (const ColumnError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
 
 std::unique_ptr<IRecordset> OpenLayersByID(IStyleEditorClient& client)
 {
@@ -47,6 +74,47 @@ bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID)
 {
     const auto layers = OpenLayersByID(client);
     return SeekID(*layers, layerID) && FlagIsSet(*layers, "SystemLayer");
+}
+
+std::vector<qint32> WithoutSystemLayers(IStyleEditorClient& client, const std::vector<qint32>& layerIDs)
+{
+    const auto layers = OpenLayersByID(client);
+    std::vector<qint32> others;
+    others.reserve(layerIDs.size());
+    std::copy_if(layerIDs.begin(), layerIDs.end(), std::back_inserter(others), [&](qint32 layerID) {
+        return !SeekID(*layers, layerID) || !FlagIsSet(*layers, "SystemLayer");
+    });
+    return others;
+}
+
+bool AnyLayerExists(IStyleEditorClient& client, const std::vector<qint32>& layerIDs)
+{
+    const auto layers = OpenLayersByID(client);
+    return std::any_of(
+        layerIDs.begin(), layerIDs.end(), [&](qint32 layerID) { return SeekID(*layers, layerID); });
+}
+
+std::vector<LayerMode> ReadQuickModes(IStyleEditorClient& client, const std::vector<qint32>& layerIDs)
+{
+    const auto layers = OpenLayersByID(client);
+    std::vector<LayerMode> modes;
+    modes.reserve(layerIDs.size());
+    for (const qint32 layerID : layerIDs) {
+        if (SeekID(*layers, layerID))
+            modes.push_back({layerID, QuickModeOrNormal(*layers)});
+    }
+    return modes;
+}
+
+std::vector<LayerMode> ReadAllQuickModes(IStyleEditorClient& client)
+{
+    std::vector<LayerMode> modes;
+    const auto layers = client.GetDatabase().OpenRecordset(LayerQueries::LayerList());
+    for (; !layers->AtEOF(); layers->MoveNext()) {
+        if (const std::optional<qint32> layerID = ReadableID(*layers))
+            modes.push_back({*layerID, QuickModeOrNormal(*layers)});
+    }
+    return modes;
 }
 
 void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/model/LayerTreeEntries.h"
+
 #include <OrvaneShellLib/IRecordset.h>
 
 #include <QtGlobal>
@@ -35,6 +37,20 @@ bool IsInAGroup(IStyleEditorClient& client, qint32 layerID);
 /// True when the layer is a system layer: it may not be deleted, renamed or given another code. False for a
 /// layer that does not exist.
 bool IsSystemLayer(IStyleEditorClient& client, qint32 layerID);
+
+/// These layers without the system layers among them, in their order.
+std::vector<qint32> WithoutSystemLayers(IStyleEditorClient& client, const std::vector<qint32>& layerIDs);
+
+/// True if one of these layers exists.
+bool AnyLayerExists(IStyleEditorClient& client, const std::vector<qint32>& layerIDs);
+
+/// The quick modes of those of these layers that exist, in their order; Normal for a value that cannot be
+/// read.
+std::vector<LayerMode> ReadQuickModes(IStyleEditorClient& client, const std::vector<qint32>& layerIDs);
+
+/// The same for all layers of the flat list, whatever a filter says; rows whose ID cannot be read are left
+/// out.
+std::vector<LayerMode> ReadAllQuickModes(IStyleEditorClient& client);
 
 /// Stores whether the group's node is shown expanded. Does nothing for a group that does not exist.
 void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded);

@@ -54,17 +54,21 @@ void LayerStyle::lsSet(qint16 index, const Value& value)
     m_values[Checked(index)] = value;
 }
 
-void LayerStyle::Intersect(const LayerStyle& other)
+bool LayerStyle::Intersect(const LayerStyle& other)
 {
     if (&other == this)
-        return; // an Empty slot would differ from itself
+        return false; // an Empty slot would differ from itself
+    bool hasErased = false;
     for (std::size_t slot = 0; slot < m_values.size(); ++slot) {
         const Value& theirs = other.m_values[slot];
         if (m_values[slot].IsNull() || theirs.IsNull())
             continue;
-        if (!ValuesEqual(m_values[slot], theirs))
-            m_values[slot] = Value::Null();
+        if (ValuesEqual(m_values[slot], theirs))
+            continue;
+        m_values[slot] = Value::Null();
+        hasErased = true;
     }
+    return hasErased;
 }
 
 } // namespace Orvane

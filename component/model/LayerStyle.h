@@ -72,8 +72,8 @@ public:
     /// Stores a copy of any value, Null included.
     void lsSet(qint16 index, const Value& value);
     /// Sets to Null each slot in which the other record holds a different value. A Null in the other record
-    /// never erases a known value.
-    void Intersect(const LayerStyle& other);
+    /// never erases a known value. True if a known value was erased.
+    bool Intersect(const LayerStyle& other);
 
 private:
     std::array<Value, SlotCount> m_values;

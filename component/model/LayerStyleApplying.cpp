@@ -153,13 +153,24 @@ private:
     int m_written = 0;
 };
 
-ApplyResult WriteMembers(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
+template <typename LayerIDs>
+ApplyResult WriteTogether(IStyleEditorClient& client, LayerIDs readLayerIDs, const StyleEdits& edits)
 {
-    const std::vector<qint32> layerIDs = ReadMemberLayerIDs(client, groupID);
+    const std::vector<qint32> layerIDs = readLayerIDs();
     LayerWriter writer(client, edits);
     for (const qint32 layerID : layerIDs)
         writer.Write(layerID);
     return writer.Result();
+}
+
+template <typename LayerIDs>
+ApplyResult ApplyTogether(IStyleEditorClient& client, LayerIDs readLayerIDs, const StyleEdits& edits)
+{
+    Transaction transaction(client.GetDatabase());
+    ApplyResult result = WriteTogether(client, readLayerIDs, edits); // closes its cursors
+    if (result.conflicts.empty())
+        transaction.Commit();
+    return result;
 }
 
 } // namespace
@@ -171,13 +182,32 @@ ApplyResult ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const St
     return writer.Result();
 }
 
+ApplyResult
+ApplyLayersStyle(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, const StyleEdits& edits)
+{
+    return ApplyTogether(
+        client, [&] { return layerIDs; }, edits);
+}
+
 ApplyResult ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits)
 {
+    return ApplyTogether(
+        client, [&] { return ReadMemberLayerIDs(client, groupID); }, edits);
+}
+
+void ApplyQuickModes(IStyleEditorClient& client, const std::vector<LayerMode>& modes)
+{
     Transaction transaction(client.GetDatabase());
-    ApplyResult result = WriteMembers(client, groupID, edits);
-    if (result.conflicts.empty())
-        transaction.Commit();
-    return result;
+    for (const qint16 quickMode : {QuickMode::Normal, QuickMode::Backdrop, QuickMode::Hidden}) {
+        StyleEdits edits;
+        edits.quickMode = quickMode;
+        LayerWriter writer(client, edits);
+        for (const LayerMode& mode : modes) {
+            if (mode.quickMode == quickMode)
+                writer.Write(mode.layerID);
+        }
+    }
+    transaction.Commit();
 }
 
 } // namespace Orvane

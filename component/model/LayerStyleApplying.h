@@ -46,17 +46,25 @@ struct ApplyResult {
     bool isCodeChanged = false; ///< a layer has another code now than when it was read
 };
 
-/// Writing a record to layers. Both functions raise what the host and its database raise, unchanged, and a
+/// Writing a record to layers. All functions raise what the host and its database raise, unchanged, and a
 /// ColumnError for a slot whose value does not fit its column. Changes that are not stored by then are
-/// dropped. Neither function asks for a redraw.
+/// dropped. None asks for a redraw.
 
 /// Writes the slots that are not Null to the layer's row; then calls LayerChanged and stores the row. A scale
 /// that was not edited stays as it is stored, if it would be stored as another number now; so does every
 /// value that was not edited and that was changed since it was read. A layer that does not exist is skipped.
 ApplyResult ApplyLayerStyle(IStyleEditorClient& client, qint32 layerID, const StyleEdits& edits);
 
-/// Does the same for every layer of the group, in one transaction: all are written, or none. LayerChanged may
-/// have been called for layers whose change was then rolled back.
+/// Does the same for these layers, in one transaction: all are written, or none. LayerChanged may have been
+/// called for layers whose change was then rolled back. layerIDs: each once.
+ApplyResult
+ApplyLayersStyle(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, const StyleEdits& edits);
+
+/// Does the same for the layers that are stored as the group's members now.
 ApplyResult ApplyGroupStyle(IStyleEditorClient& client, qint32 groupID, const StyleEdits& edits);
+
+/// Writes nothing but the quick modes (1, 2 or 4), in one transaction, as ApplyLayersStyle does. modes: each
+/// layer once.
+void ApplyQuickModes(IStyleEditorClient& client, const std::vector<LayerMode>& modes);
 
 } // namespace Orvane

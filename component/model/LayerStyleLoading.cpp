@@ -9,6 +9,7 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/Transaction.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace Orvane {
@@ -42,6 +43,15 @@ public:
         return m_rows.Read(*m_layers, LayerRowValues(*m_layers));
     }
 
+    /// Sees the layer and takes from style what differs in it. False if it does not exist.
+    bool Combine(qint32 layerID, LayerStyle& style)
+    {
+        const std::optional<LayerStyle> member = See(layerID);
+        if (member && style.Intersect(*member))
+            m_result.decisive.push_back(layerID);
+        return member.has_value();
+    }
+
     ReadingResult Finish(LayerStyle& style)
     {
         m_rows.DropUnread(style);
@@ -55,17 +65,46 @@ private:
     ReadingResult m_result;
 };
 
-ReadingResult LoadMembers(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, LayerStyle& style)
+ReadingResult LoadCommon(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, LayerStyle& style)
 {
     if (layerIDs.empty())
         return {};
     NodeReading reading(client);
     style = reading.Look(layerIDs.front());
-    for (const qint32 layerID : layerIDs) {
-        if (const std::optional<LayerStyle> member = reading.See(layerID))
-            style.Intersect(*member);
+    for (const qint32 layerID : layerIDs)
+        reading.Combine(layerID, style);
+    ReadingResult result = reading.Finish(style);
+    result.decisive.push_back(layerIDs.front());
+    return result;
+}
+
+bool Holds(const QSet<qint32>& layerIDs, const std::vector<qint32>& wanted)
+{
+    return std::any_of(
+        wanted.begin(), wanted.end(), [&](qint32 layerID) { return layerIDs.contains(layerID); });
+}
+
+// read: some of the known ones, in the same order.
+template <typename Layer> void Update(std::vector<Layer>& known, const std::vector<Layer>& read)
+{
+    auto layer = known.begin();
+    for (const Layer& each : read) {
+        layer = std::find_if(
+            layer, known.end(), [&](const Layer& other) { return other.layerID == each.layerID; });
+        if (layer != known.end())
+            *layer = each;
     }
-    return reading.Finish(style);
+}
+
+template <typename LayerIDs>
+ReadingResult LoadTogether(IStyleEditorClient& client, LayerIDs readLayerIDs, LayerStyle& style)
+{
+    Transaction transaction(client.GetDatabase());
+    LayerStyle common;
+    ReadingResult result = LoadCommon(client, readLayerIDs(), common);
+    transaction.Commit();
+    style = std::move(common);
+    return result;
 }
 
 } // namespace
@@ -81,14 +120,40 @@ ReadingResult LoadLayerStyle(IStyleEditorClient& client, qint32 layerID, LayerSt
     return result;
 }
 
+ReadingResult
+LoadLayersStyle(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, LayerStyle& style)
+{
+    return LoadTogether(
+        client, [&] { return layerIDs; }, style);
+}
+
 ReadingResult LoadGroupStyle(IStyleEditorClient& client, qint32 groupID, LayerStyle& style)
 {
+    return LoadTogether(
+        client, [&] { return ReadMemberLayerIDs(client, groupID); }, style);
+}
+
+bool RereadLayersStyle(
+    IStyleEditorClient& client, const QSet<qint32>& changed, LayerStyle& style, ReadingResult& reading)
+{
+    if (reading.fault || reading.decisive.empty() || Holds(changed, reading.decisive))
+        return false;
     Transaction transaction(client.GetDatabase());
-    LayerStyle common;
-    ReadingResult result = LoadMembers(client, ReadMemberLayerIDs(client, groupID), common);
+    NodeReading some(client);
+    LayerStyle common = style;
+    for (const SeenLayer& layer : reading.seen) {
+        if (changed.contains(layer.layerID) && !some.Combine(layer.layerID, common))
+            return false;
+    }
+    const ReadingResult read = some.Finish(common);
     transaction.Commit();
+    if (read.fault)
+        return false;
     style = std::move(common);
-    return result;
+    Update(reading.seen, read.seen);
+    Update(reading.modes, read.modes);
+    reading.decisive.insert(reading.decisive.end(), read.decisive.begin(), read.decisive.end());
+    return true;
 }
 
 } // namespace Orvane

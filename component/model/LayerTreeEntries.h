@@ -22,6 +22,7 @@ struct LayerEntry {
     qint16 quickMode = QuickMode::Normal;
     QString text; ///< decorated display name
     bool faulty = false; ///< a value of its row could not be read
+    double code = 0; ///< NaN if it could not be read
 
     bool operator==(const LayerEntry&) const = default;
 };

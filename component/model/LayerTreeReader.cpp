@@ -10,6 +10,8 @@
 #include <OrvaneShellLib/LayerQueries.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QtNumeric>
+
 #include <unordered_map>
 #include <utility>
 
@@ -49,26 +51,27 @@ std::optional<qint32> IDIn(const IRecordset& row, const char* column, RowFaults&
     return faults.Or(std::optional<qint32>(), [&] { return std::optional(IntegerColumn(row, column)); });
 }
 
-LayerEntry ReadEntry(IStyleEditorClient& client, const IRecordset& row, qint32 layerID, RowFaults& faults)
+LayerEntry
+ReadEntry(IStyleEditorClient& client, const IRecordset& row, qint32 layerID, double code, RowFaults& faults)
 {
     const qint16 mode = faults.Or(QuickMode::Normal, [&] { return QuickModeColumn(row); });
-    return {layerID, mode, DecorateLayerName(client.LayerDisplayName(layerID)), faults.EndRow()};
+    return {layerID, mode, DecorateLayerName(client.LayerDisplayName(layerID)), faults.EndRow(), code};
 }
 
-// The tree's query also returns hidden layers. A Null code hides a layer, as it does in the other queries.
-bool IsListed(const IRecordset& row, RowFaults& faults)
+// Nothing for a layer that is not listed: the tree's query also returns hidden layers, and a Null code hides
+// a layer as it does in the other queries. A code that is a text passes the queries, and is a fault of the
+// row.
+std::optional<double> ListedCode(const IRecordset& row, RowFaults& faults)
 {
-    return faults.Or(true, [&] {
+    return faults.Or(std::optional(qQNaN()), [&] {
         const Value code = NumberColumn(row, "Code");
-        return !code.IsNull() && ToDouble(code) > -2;
+        const bool isListed = !code.IsNull() && ToDouble(code) > -2;
+        return isListed ? std::optional(ToDouble(code)) : std::nullopt;
     });
 }
 
-// A code that is a text passes the query, and is a fault of the row.
 bool IsShown(const IStyleFilter* filter, const IRecordset& row, qint32 layerID, RowFaults& faults)
 {
-    if (!IsListed(row, faults))
-        return false;
     if (!filter)
         return true;
     return filter->IsLayerShown(layerID, faults.Or(false, [&] { return FlagIsSet(row, "Pseudo"); }));
@@ -86,13 +89,14 @@ public:
     void AddRow(const IRecordset& row)
     {
         m_faults.EndRow();
-        if (!IsListed(row, m_faults))
+        const std::optional<double> code = ListedCode(row, m_faults);
+        if (!code)
             return;
         const std::optional<qint32> groupID = IDIn(row, "GroupID", m_faults);
         const std::optional<qint32> layerID = IDIn(row, "LayerID", m_faults);
         if (!groupID || !layerID)
             return;
-        LayerEntry layer = ReadEntry(m_client, row, *layerID, m_faults);
+        LayerEntry layer = ReadEntry(m_client, row, *layerID, *code, m_faults);
         GroupOf(*groupID).layers.push_back(std::move(layer));
     }
 
@@ -141,7 +145,8 @@ ReadListed(IStyleEditorClient& client, qint32 layerID, const IStyleFilter* filte
     faults.EndRow();
     const bool isInList = IsShown(filter, *row, layerID, faults);
     const QString name = ToTextOrNone(row->Field("Name"));
-    return ListedLayer{ReadEntry(client, *row, layerID, faults), name, isInList};
+    const double code = ListedCode(*row, faults).value_or(qQNaN());
+    return ListedLayer{ReadEntry(client, *row, layerID, code, faults), name, isInList};
 }
 
 } // namespace
@@ -164,8 +169,9 @@ ListReading ReloadLayerList(IStyleEditorClient& client, const IStyleFilter* filt
     for (; !rows->AtEOF(); rows->MoveNext()) {
         faults.EndRow();
         const std::optional<qint32> layerID = IDIn(*rows, "LayerID", faults);
-        if (layerID && IsShown(filter, *rows, *layerID, faults))
-            layers.push_back(ReadEntry(client, *rows, *layerID, faults));
+        const std::optional<double> code = layerID ? ListedCode(*rows, faults) : std::nullopt;
+        if (code && IsShown(filter, *rows, *layerID, faults))
+            layers.push_back(ReadEntry(client, *rows, *layerID, *code, faults));
     }
     return {std::move(layers), faults.First()};
 }
@@ -188,8 +194,8 @@ std::optional<LayerEntry> ReadOneLayer(IStyleEditorClient& client, qint32 layerI
     if (rows->AtEOF())
         return std::nullopt;
     RowFaults faults;
-    IsListed(*rows, faults); // a code that is a text is a fault
-    return ReadEntry(client, *rows, layerID, faults);
+    const double code = ListedCode(*rows, faults).value_or(qQNaN());
+    return ReadEntry(client, *rows, layerID, code, faults);
 }
 
 } // namespace Orvane

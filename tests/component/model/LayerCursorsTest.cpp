@@ -94,3 +94,21 @@ TEST(StoreGroupExpanded, LeavesAMissingGroupOut)
     StoreGroupExpanded(host, 3, true);
     EXPECT_THAT(host.Log().CallsTo("Edit"), IsEmpty());
 }
+
+TEST(LayerCursors, SystemLayersAreLeftOutInOnePass)
+{
+    MemoryHost host;
+    host.AddLayer({.id = 17});
+    host.AddLayer({.id = 18, .systemLayer = true});
+    EXPECT_THAT(WithoutSystemLayers(host, {99, 18, 17}), ElementsAre(99, 17));
+    EXPECT_EQ(host.Log().CallsTo("LayersTable").size(), 1);
+}
+
+TEST(LayerCursors, OneLayerThatExistsIsEnough)
+{
+    MemoryHost host;
+    host.AddLayer({.id = 17});
+    EXPECT_TRUE(AnyLayerExists(host, {99, 17, 98}));
+    EXPECT_FALSE(AnyLayerExists(host, {99, 98}));
+    EXPECT_FALSE(AnyLayerExists(host, {}));
+}

@@ -231,6 +231,15 @@ TEST_F(LayerList, CarriesIDsModesAndDecoratedNames)
     EXPECT_EQ(layers[0].text, "(SUP)Roads ");
 }
 
+TEST_F(LayerList, CarriesCodesAndNoneWhereItCannotBeRead)
+{
+    host.AddLayer({.id = 17, .name = "Roads", .code = 120});
+    EXPECT_EQ(ReloadLayerList(host, nullptr).layers.at(0).code, 120);
+    EXPECT_EQ(ReadOneLayer(host, 17)->code, 120);
+    PatchingClient client(host, {{"Code", QStringLiteral("x")}});
+    EXPECT_TRUE(qIsNaN(ReloadLayerList(client, nullptr).layers.at(0).code));
+}
+
 TEST_F(LayerList, OnlyNeededColumnsAreRead)
 {
     AddLayers({{1, "a"}});
