@@ -4,7 +4,9 @@
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
 #include "component/controls/ClickWatcher.h"
+#include "component/controls/ITypedNumbers.h"
 #include "component/controls/IUITranslator.h"
+#include "component/controls/NumberTyping.h"
 #include "component/controls/ScreenPlacement.h"
 #include "ui_frmDropSlider.h"
 
@@ -12,6 +14,7 @@
 
 #include <QPointer>
 
+#include <cmath>
 #include <utility>
 
 namespace Orvane {
@@ -41,6 +44,12 @@ void frmDropSlider::Init()
     // Also emitted if the slider is at its end and the value stays.
     connect(m_ui->sldValue, &QSlider::actionTriggered, this, &frmDropSlider::OnSliderChanged);
     connect(new ClickWatcher(m_ui->sldValue), &ClickWatcher::Clicked, this, &frmDropSlider::OnSliderClicked);
+    connect(m_ui->cmdMapNumber, &QPushButton::clicked, this, &frmDropSlider::OnMapNumberClicked);
+    m_ui->cmdMapNumber->hide();
+    m_typing = new NumberTyping(*this);
+    connect(m_typing, &NumberTyping::TextWanted, this, &frmDropSlider::ShowText);
+    connect(m_typing, &NumberTyping::ValueWanted, this, &frmDropSlider::RefreshLabel);
+    connect(m_typing, &NumberTyping::Typed, this, &frmDropSlider::GoTo);
 }
 
 bool frmDropSlider::Popup(
@@ -58,13 +67,17 @@ bool frmDropSlider::Popup(
     m_currentValue = value;
     m_ui->chkVarious->setEnabled(allowVarious);
     ShowValue(defaultValue);
+    BeginTyping(minimum, maximum);
     m_topRight = {x, y};
     Place();
     m_confirmed = false;
     m_ui->sldValue->setFocus();
     const QPointer self(this);
     exec();
-    if (!self || !m_confirmed)
+    if (!self)
+        return false;
+    m_typing->Begin(nullptr, 0, 0);
+    if (!m_confirmed)
         return false;
     value = m_ui->chkVarious->isChecked() ? Value::Null() : Value(qint32(m_ui->sldValue->value()));
     return true;
@@ -92,6 +105,26 @@ void frmDropSlider::ShowValue(const Value& defaultValue)
     TakeSliderOrNull();
 }
 
+void frmDropSlider::BeginTyping(qint32 minimum, qint32 maximum)
+{
+    const auto* numbers = dynamic_cast<const ITypedNumbers*>(m_translator);
+    m_typing->Begin(numbers, minimum, maximum);
+    OfferMapNumber(numbers, minimum, maximum);
+}
+
+void frmDropSlider::OfferMapNumber(const ITypedNumbers* numbers, qint32 minimum, qint32 maximum)
+{
+    const std::optional<ITypedNumbers::MapNumber> map
+        = numbers ? numbers->NumberOfMap(minimum, maximum) : std::nullopt;
+    m_ui->cmdMapNumber->setVisible(map.has_value());
+    if (!map)
+        return;
+    const QString number = numbers->NumberText(ToText(Value(std::round(map->number))));
+    m_mapPosition = map->position;
+    m_ui->cmdMapNumber->setEnabled(m_mapPosition.has_value());
+    m_ui->cmdMapNumber->setText(TranslateMsg("&Map's Scale (^1)", number));
+}
+
 void frmDropSlider::TakeSliderOrNull()
 {
     m_currentValue = m_ui->chkVarious->isChecked() ? Value::Null() : Value(qint32(m_ui->sldValue->value()));
@@ -100,7 +133,11 @@ void frmDropSlider::TakeSliderOrNull()
 
 void frmDropSlider::RefreshLabel()
 {
-    const QString text = m_translator->toString(m_currentValue);
+    ShowText(m_translator->toString(m_currentValue));
+}
+
+void frmDropSlider::ShowText(const QString& text)
+{
     m_ui->lblValue->setText(text);
     m_ui->sldValue->setAccessibleDescription(text);
     if (isVisible())
@@ -124,8 +161,14 @@ void frmDropSlider::Place()
 
 void frmDropSlider::OnConfirm()
 {
-    m_confirmed = true;
-    hide();
+    Handle([this] {
+        if (m_ui->cmdMapNumber->isDown())
+            OnMapNumberClicked();
+        if (!m_typing->Settle())
+            return;
+        m_confirmed = true;
+        hide();
+    });
 }
 
 // While it is open, errors are shown to the user. Before that, they are kept and raised later to the caller.
@@ -157,6 +200,7 @@ void frmDropSlider::OnVariousToggled()
 void frmDropSlider::OnSliderChanged()
 {
     Handle([this] {
+        m_typing->Forget();
         m_currentValue = qint32(m_ui->sldValue->value());
         m_ui->chkVarious->setChecked(false);
         RefreshLabel();
@@ -166,6 +210,22 @@ void frmDropSlider::OnSliderChanged()
 void frmDropSlider::OnSliderClicked()
 {
     m_ui->chkVarious->setChecked(false);
+}
+
+// Enter then confirms it. The button's key presses it for a moment: Enter, or Escape, may come before its
+// click.
+void frmDropSlider::OnMapNumberClicked()
+{
+    if (!isVisible() || !m_mapPosition)
+        return;
+    GoTo(*m_mapPosition);
+    m_ui->sldValue->setFocus();
+}
+
+void frmDropSlider::GoTo(qint32 position)
+{
+    m_ui->sldValue->setValue(position);
+    OnSliderChanged(); // also if the slider was there already
 }
 
 } // namespace Orvane

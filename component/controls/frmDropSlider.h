@@ -10,6 +10,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Orvane {
 
@@ -17,7 +18,9 @@ namespace Ui {
 class frmDropSlider;
 }
 
+class ITypedNumbers;
 class IUITranslator;
+class NumberTyping;
 
 /// The popup that edits one whole number with a slider. It stays loaded: Popup shows and hides it any number
 /// of times, and its controls keep their state.
@@ -28,6 +31,9 @@ class IUITranslator;
 ///
 /// The current value is Null while "Various" is checked, else the slider's value. The label shows it through
 /// the translator. As every child window, the form belongs to the window of its last owner.
+///
+/// If the translator implements ITypedNumbers, the user can also type the number, and take that of the host's
+/// map.
 class frmDropSlider : public QDialog
 {
     Q_OBJECT
@@ -55,8 +61,11 @@ private:
     void Init();
     void SetOwner(QWidget* owner);
     void ShowValue(const Value& defaultValue);
+    void BeginTyping(qint32 minimum, qint32 maximum);
+    void OfferMapNumber(const ITypedNumbers* numbers, qint32 minimum, qint32 maximum);
     void TakeSliderOrNull();
     void RefreshLabel();
+    void ShowText(const QString& text);
     void Place();
     void OnConfirm();
     void Handle(const std::function<void()>& act);
@@ -64,8 +73,12 @@ private:
     void OnVariousToggled();
     void OnSliderChanged();
     void OnSliderClicked();
+    void OnMapNumberClicked();
+    void GoTo(qint32 position);
 
     std::unique_ptr<Ui::frmDropSlider> m_ui;
+    NumberTyping* m_typing = nullptr; // a child
+    std::optional<qint32> m_mapPosition; // of the number that the map has
     const IUITranslator* m_translator = nullptr; // of the last Popup; not owned, may be gone between popups
     Value m_currentValue;
     TwipPoint m_topRight;

@@ -79,12 +79,14 @@ protected:
     bool Open()
     {
         return m_form.Popup(
-            &m_owner, m_words, m_x, m_y, "unused", m_value, m_default, m_minimum, m_maximum, m_allowVarious);
+            &m_owner, *m_translator, m_x, m_y, "unused", m_value, m_default, m_minimum, m_maximum,
+            m_allowVarious);
     }
 
     QWidget m_owner;
     frmDropSlider m_form{&m_owner};
     WordsTranslator m_words;
+    const IUITranslator* m_translator = &m_words;
     Value m_value = 7;
     Value m_default = 0;
     Twips m_x = 400 * 15;
