@@ -13,6 +13,12 @@
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QLocale>
+
+#include <optional>
+#include <unordered_set>
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -31,6 +37,30 @@ QStringList NamesOf(ILayerStore& database, const QString& query, qint32 layerID)
     return names;
 }
 
+// Of each group or scheme once: its rows follow each other. Foreign files may hold IDs beyond 32 bits.
+QStringList
+NamesOfAny(ILayerStore& database, const QString& query, const std::unordered_set<double>& layerIDs)
+{
+    QStringList names;
+    std::optional<double> last;
+    const auto rows = database.OpenQuery(query, {});
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        const Value layerID = rows->Field("LayerID");
+        const Value ownerID = rows->Field("ID");
+        const bool isWanted = layerID.IsNumber() && layerIDs.count(ToDouble(layerID)) > 0;
+        if (isWanted && ownerID.IsNumber() && std::exchange(last, ToDouble(ownerID)) != ToDouble(ownerID))
+            names << ToTextOrNone(rows->Field("Name"));
+    }
+    return names;
+}
+
+void DeleteRows(ILayerStore& database, qint32 layerID)
+{
+    database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
+    // The layer's values in schemes refer to this row and are removed with it.
+    database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
+}
+
 } // namespace
 
 qint32 LayerFactory::Create()
@@ -46,9 +76,7 @@ qint32 LayerFactory::Create()
 void LayerFactory::Delete(qint32 layerID)
 {
     Transaction transaction(m_database);
-    m_database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
-    // The layer's values in schemes refer to this row and are removed with it.
-    m_database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
+    DeleteRows(m_database, layerID);
     transaction.Commit();
     m_names.Remove(layerID);
 }
@@ -68,6 +96,37 @@ LayerDeletion LayerFactory::WhatGoes(qint32 layerID)
             QStringLiteral("SELECT Name FROM LayerSchemes JOIN LayerSchemeValues USING (SchemeID)"
                            " WHERE LayerID = ?1 ORDER BY SchemeID"),
             layerID);
+    }
+    return deletion;
+}
+
+void LayerFactory::Delete(const std::vector<qint32>& layerIDs)
+{
+    Transaction transaction(m_database);
+    for (const qint32 layerID : layerIDs)
+        DeleteRows(m_database, layerID);
+    transaction.Commit();
+    for (const qint32 layerID : layerIDs)
+        m_names.Remove(layerID);
+}
+
+LayerDeletion LayerFactory::WhatGoes(const std::vector<qint32>& layerIDs)
+{
+    const std::unordered_set<double> wanted(layerIDs.begin(), layerIDs.end());
+    LayerDeletion deletion;
+    deletion.layers = qsizetype(layerIDs.size());
+    deletion.layer = tr("%1 layers").arg(QLocale().toString(deletion.layers));
+    deletion.groups = NamesOfAny(
+        m_database,
+        QStringLiteral("SELECT ID, Name, LayerID FROM LayerGroups JOIN LayerGroupMembers ON GroupID = ID"
+                       " ORDER BY GroupOrdering, ID"),
+        wanted);
+    if (SchemeTables(m_database).HaveSchemes()) {
+        deletion.schemes = NamesOfAny(
+            m_database,
+            QStringLiteral("SELECT SchemeID AS ID, Name, LayerID FROM LayerSchemes"
+                           " JOIN LayerSchemeValues USING (SchemeID) ORDER BY SchemeID"),
+            wanted);
     }
     return deletion;
 }

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <vector>
+
 namespace Orvane {
 
 class LayerNames;
@@ -31,8 +33,13 @@ public:
     /// nothing if the layer does not exist.
     void Delete(qint32 layerID);
 
+    /// Removes all these layers in the same way, in one transaction.
+    void Delete(const std::vector<qint32>& layerIDs);
+
     /// What is removed when the layer is deleted.
     LayerDeletion WhatGoes(qint32 layerID);
+    /// What is removed when all these layers are deleted.
+    LayerDeletion WhatGoes(const std::vector<qint32>& layerIDs);
 
     /// True when the layer exists and is not a system layer.
     bool CanDelete(qint32 layerID);

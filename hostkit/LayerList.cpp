@@ -9,6 +9,7 @@ namespace Orvane {
 
 LayerList::LayerList(ILayerStore& store, StandardClient& client) : m_store(store), m_client(client)
 {
+    client.SetKeepsNotes(false); // the program saves the layers itself
     const HostNotifications& told = client.Notifications();
     const auto one = [this](qint32 layerID) { emit Changed({layerID}); };
     connect(&told, &HostNotifications::LayersChanged, this, &LayerList::Changed);

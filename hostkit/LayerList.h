@@ -30,7 +30,8 @@ class LayerList : public QObject
     Q_OBJECT
 
 public:
-    /// Neither is owned; both outlive this object. store: the one that the client was made with.
+    /// Neither is owned; both outlive this object. store: the one that the client was made with. Calls the
+    /// client's SetKeepsNotes(false): a program that saves the store may set it to true again.
     LayerList(ILayerStore& store, StandardClient& client);
 
     /// All layers by their IDs, as they are stored now; see StoredList::Layers.

@@ -6,6 +6,7 @@
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/common/LayerNames.h"
+#include "hostkit/common/MapNotes.h"
 #include "hostkit/common/StoredScale.h"
 #include "hostkit/undo/LayerSteps.h"
 #include "hostkit/windows/ConflictBox.h"
@@ -19,6 +20,10 @@
 #include <OrvaneShellLib/Transaction.h>
 
 #include <QApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <iterator>
 
 namespace Orvane {
 
@@ -82,6 +87,11 @@ void StandardClient::RefreshEditors(const QSet<qint32>& layerIDs)
     m_parts->names.ReadAgain(layerIDs);
     m_parts->schemes.NoteDifferences(layerIDs);
     m_parts->windows.RefreshEditors(layerIDs);
+}
+
+void StandardClient::SetKeepsNotes(bool keeps)
+{
+    m_parts->keepsNotes = keeps;
 }
 
 void StandardClient::InvalidateLayerNames()
@@ -212,6 +222,30 @@ void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
     emit m_parts->notifications.LayerDeleted(layerID);
 }
 
+void StandardClient::IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs)
+{
+    std::vector<qint32> deleted;
+    deleted.reserve(layerIDs.size());
+    std::copy_if(layerIDs.begin(), layerIDs.end(), std::back_inserter(deleted), [this](qint32 layerID) {
+        return m_parts->factory.CanDelete(layerID);
+    });
+    if (deleted.size() < 2) {
+        if (!deleted.empty())
+            DeleteLayer(deleted.front());
+        return;
+    }
+    if (!ConfirmDeletion(m_parts->factory.WhatGoes(deleted)))
+        return;
+    RecordStep([&] {
+        m_parts->factory.Delete(deleted);
+        return tr("Delete %1 Layers").arg(QLocale().toString(qulonglong(deleted.size())));
+    });
+    for (const qint32 layerID : deleted)
+        m_parts->changedLayers.remove(layerID);
+    for (const qint32 layerID : deleted)
+        emit m_parts->notifications.LayerDeleted(layerID);
+}
+
 bool StandardClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
 {
     return m_parts->factory.IsCodeAssigned(code);
@@ -261,6 +295,36 @@ void StandardClient::IEditorWatch_EditorEnded(QWidget* form)
 {
     if (m_parts->windows.Forget(form))
         emit m_parts->notifications.EditorClosed(form);
+}
+
+bool StandardClient::IMapNotes_KeepsNotes() const
+{
+    return m_parts->keepsNotes && !m_database.IsReadOnly();
+}
+
+QString StandardClient::IMapNotes_Note(const QString& key)
+{
+    return MapNotes::Read(m_database, key);
+}
+
+void StandardClient::IMapNotes_SetNote(const QString& key, const QString& text)
+{
+    m_parts->steps.BeginEdits();
+    MapNotes::Write(m_database, key, text);
+}
+
+std::vector<NodeCommand> StandardClient::INodeCommands_Commands(QWidget*)
+{
+    return {};
+}
+
+QString StandardClient::INodeCommands_WhyNot(const QString&, const std::vector<qint32>&)
+{
+    return {};
+}
+
+void StandardClient::INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>&)
+{
 }
 
 bool StandardClient::ConfirmDeletion(const LayerDeletion& deletion)

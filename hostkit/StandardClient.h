@@ -3,6 +3,10 @@
 
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
+#include <orvane/OrvaneShellLib/IManyLayers.h>
+#include <orvane/OrvaneShellLib/IMapNotes.h>
+#include <orvane/OrvaneShellLib/INodeCommands.h>
+#include <orvane/OrvaneShellLib/ISchemeManager.h>
 #include <orvane/OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QCoreApplication>
@@ -11,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace Orvane {
 
@@ -34,7 +39,13 @@ struct SchemeImport;
 ///
 /// The signals of Notifications() report what happened to the layers. All calls are made on the
 /// user-interface thread; errors of the database are passed on unchanged.
-class StandardClient : public IStyleEditorClient, public IConflictQuestion, public IEditorWatch
+class StandardClient : public IStyleEditorClient,
+                       public IConflictQuestion,
+                       public IEditorWatch,
+                       public IManyLayers,
+                       public ISchemeManager,
+                       public IMapNotes,
+                       public INodeCommands
 {
     Q_DECLARE_TR_FUNCTIONS(StandardClient)
 
@@ -99,6 +110,9 @@ public:
     /// read, which is fast for a few layers among many. Editors of a component with a contract before 1.5
     /// read everything.
     void RefreshEditors(const QSet<qint32>& layerIDs);
+    /// Whether the layer database is, or becomes, what is saved, so that it keeps the notes of editors. At
+    /// first true; a LayerList sets it to false.
+    void SetKeepsNotes(bool keeps);
     /// Forgets the layers' names and which layers differ from the scheme. Call it after layers were added or
     /// changed without this object.
     void InvalidateLayerNames();
@@ -157,7 +171,28 @@ protected:
     /// Emits EditorClosed for an editor that was known.
     void IEditorWatch_EditorEnded(QWidget* form) final;
 
-    /// Asks the user whether to delete the layer and everything that is removed with it; true deletes it.
+    /// Calls ConfirmDeletion once for all, then removes the rows of all layers as one step. System layers and
+    /// layers that do not exist are left out.
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override;
+    /// A window that lists, renames, copies, deletes, exports, imports and compares the schemes; each change
+    /// is one step of the history. It remembers its size in the settings.
+    void ISchemeManager_ManageSchemes(QWidget* form) override;
+
+    /// As set by SetKeepsNotes; false if the layer database cannot be changed.
+    bool IMapNotes_KeepsNotes() const override;
+    /// Notes are stored in the table MapNotes of the layer database, which the first note creates.
+    QString IMapNotes_Note(const QString& key) override;
+    void IMapNotes_SetNote(const QString& key, const QString& text) override;
+
+    /// None.
+    std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
+    /// Empty: possible.
+    QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
+    /// Does nothing.
+    void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
+
+    /// Asks the user whether to delete the layer, or several at once, and everything that is removed with
+    /// them; true deletes them.
     virtual bool ConfirmDeletion(const LayerDeletion& deletion);
 
     /// The window to show a question in front of: the active one, otherwise the main window; nullptr for

@@ -13,6 +13,8 @@
 
 #include <QTimer>
 
+#include <utility>
+
 namespace Orvane {
 
 /// What a StandardClient consists of.
@@ -28,6 +30,15 @@ struct StandardClient::Parts {
         QObject::connect(&notifications, &HostNotifications::LayerCreated, &notifications, changed);
         QObject::connect(&notifications, &HostNotifications::LayerDeleted, &notifications, changed);
         QObject::connect(&notifications, &HostNotifications::GroupRenamed, &notifications, changed);
+        QObject::connect(
+            &notifications, &HostNotifications::EditorShown, &notifications,
+            [this](QWidget* form) { NoteOpening(form); });
+        QObject::connect(&notifications, &HostNotifications::EditorClosed, &notifications, [this] {
+            closedSoon.start(0);
+        });
+        closedSoon.setSingleShot(true);
+        QObject::connect(
+            &closedSoon, &QTimer::timeout, &notifications, [this] { isOpen = !windows.Shown().empty(); });
     }
 
     HostNotifications notifications;
@@ -38,14 +49,26 @@ struct StandardClient::Parts {
     LayerSteps steps;
     SchemeSteps schemes;
     QString startupFile;
+    bool keepsNotes = true;
     QSet<qint32> changedLayers; // since the last RedrawMap
     QTimer refreshSoon; // after the operation that changed something
+    bool isOpen = false; // an editor is shown, or was until just now
+    QTimer closedSoon; // an operation may close the editors and open them again
 
     // An editor that is alone has shown its own changes already.
     void RefreshOtherEditors()
     {
         if (windows.Shown().size() > 1)
             refreshSoon.start(0);
+    }
+
+    void NoteOpening(QWidget* form)
+    {
+        closedSoon.stop();
+        if (form) // a host may destroy it without a word
+            QObject::connect(form, &QObject::destroyed, &closedSoon, [this] { closedSoon.start(0); });
+        if (!std::exchange(isOpen, true))
+            steps.History().SetMark();
     }
 
     void RefreshNow() noexcept

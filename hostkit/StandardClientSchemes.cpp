@@ -2,7 +2,7 @@
 // The client's schemes, and their files.
 #include "hostkit/StandardClientParts.h"
 #include "hostkit/common/HostErrors.h"
-#include "hostkit/schemes/SchemeExchange.h"
+#include "hostkit/manager/SchemeManager.h"
 #include "hostkit/schemes/SchemeFile.h"
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/windows/LongWork.h"
@@ -10,7 +10,8 @@
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
-#include <OrvaneShellLib/Transaction.h>
+
+#include <QPointer>
 
 namespace Orvane {
 
@@ -26,11 +27,7 @@ qsizetype StandardClient::UnsavedSchemeChanges()
 
 void StandardClient::ExportScheme(const QString& name, const QString& path)
 {
-    m_parts->steps.EndEdits(); // before the work, which may be cancelled
-    const LongWork work(
-        m_database, tr("Export Scheme \"%1\"").arg(NameInStep(name)), m_parts->steps.Window());
-    const Transaction oneState(m_database);
-    SchemeFile::Make(path, [&](QIODevice& text) { SchemeExchange::ExportTo(text, m_database, name); });
+    m_parts->schemes.Export(name, path);
 }
 
 SchemeDocument StandardClient::ReadSchemeFile(const QString& path)
@@ -47,10 +44,18 @@ SchemeImport StandardClient::ImportScheme(const SchemeDocument& scheme)
 std::optional<SchemeImport> StandardClient::ImportSchemeFile(
     const QString& path, const std::function<bool(const QString& name)>& mayImport)
 {
-    SchemeFile::Reader file(path);
-    if (!mayImport(file.Name()))
-        return std::nullopt;
-    return m_parts->schemes.Import(file);
+    return m_parts->schemes.ImportFile(path, mayImport);
+}
+
+void StandardClient::ISchemeManager_ManageSchemes(QWidget* form)
+{
+    const QPointer<SchemeManager> window(new SchemeManager(
+        {m_database, *this, m_parts->schemes, m_parts->steps.History(), m_parts->notifications,
+         m_parts->Settings()},
+        form ? form : DialogParent()));
+    window->exec();
+    if (window) // it goes with its parent
+        window->deleteLater();
 }
 
 QStringList StandardClient::IStyleEditorClient_GetSchemeNames()

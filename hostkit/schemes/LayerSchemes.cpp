@@ -45,12 +45,13 @@ QString DifferingLayersQuery()
 }
 
 // The layers for which scheme ?1 has different values or no values.
-QString DifferingOrUnknownQuery()
+QString DifferingOrUnknownQuery(const char* wanted = "Layers.LayerID")
 {
-    return QStringLiteral("SELECT Layers.LayerID FROM Layers LEFT JOIN LayerSchemeValues"
-                          " ON LayerSchemeValues.SchemeID = ?1"
-                          " AND LayerSchemeValues.LayerID = Layers.LayerID"
-                          " WHERE (LayerSchemeValues.LayerID IS NULL OR ")
+    return QStringLiteral("SELECT ") + QLatin1String(wanted)
+        + QStringLiteral(" FROM Layers LEFT JOIN LayerSchemeValues"
+                         " ON LayerSchemeValues.SchemeID = ?1"
+                         " AND LayerSchemeValues.LayerID = Layers.LayerID"
+                         " WHERE (LayerSchemeValues.LayerID IS NULL OR ")
         + SchemeColumns::Difference() + u')';
 }
 
@@ -86,8 +87,7 @@ void LayerSchemes::Create(const QString& name)
 {
     Transaction transaction(m_database);
     MakeStandard();
-    if (m_tables.IDOf(name) != SchemeTables::NoScheme)
-        Raise(HostError::DuplicateScheme, tr("There is a layer scheme named \"%1\" already.").arg(name));
+    RequireUnused(name);
     const qint32 schemeID = m_tables.Insert(name);
     StoreValues(schemeID);
     m_tables.MakeCurrent(schemeID);
@@ -128,6 +128,29 @@ void LayerSchemes::Delete(const QString& name)
     transaction.Commit();
 }
 
+void LayerSchemes::Rename(const QString& name, const QString& newName)
+{
+    Transaction transaction(m_database);
+    const qint32 schemeID = IDOf(name);
+    RequireUnused(newName);
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSchemes SET Name = ?2 WHERE SchemeID = ?1"), {schemeID, newName});
+    transaction.Commit();
+}
+
+void LayerSchemes::Duplicate(const QString& name, const QString& newName)
+{
+    Transaction transaction(m_database);
+    const qint32 schemeID = IDOf(name);
+    RequireUnused(newName);
+    m_database.Execute(
+        QStringLiteral("INSERT INTO LayerSchemeValues (SchemeID, LayerID, ") + SchemeColumns::List()
+            + QStringLiteral(") SELECT ?2, LayerID, ") + SchemeColumns::List()
+            + QStringLiteral(" FROM LayerSchemeValues WHERE SchemeID = ?1"),
+        {schemeID, m_tables.Insert(newName)});
+    transaction.Commit();
+}
+
 QSet<qint32> LayerSchemes::LayersThatDiffer()
 {
     if (!m_tables.HaveSchemes())
@@ -147,6 +170,14 @@ QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
             differing.insert(layerID);
     }
     return differing;
+}
+
+qsizetype LayerSchemes::CountThatDiffer(const QString& name)
+{
+    if (m_database.IsReadOnly() && !m_tables.HaveSchemes())
+        return 0; // "Standard" is only what the layers are
+    const auto count = m_database.OpenQuery(DifferingOrUnknownQuery("COUNT(*) AS Differing"), {IDOf(name)});
+    return qsizetype(ToDouble(count->Field("Differing")));
 }
 
 bool LayerSchemes::IsReadable()
@@ -169,6 +200,12 @@ void LayerSchemes::MakeStandard()
     const qint32 schemeID = m_tables.Insert(tr("Standard"));
     StoreValues(schemeID);
     m_tables.MakeCurrent(schemeID);
+}
+
+void LayerSchemes::RequireUnused(const QString& name)
+{
+    if (m_tables.IDOf(name) != SchemeTables::NoScheme)
+        Raise(HostError::DuplicateScheme, tr("There is a layer scheme named \"%1\" already.").arg(name));
 }
 
 qint32 LayerSchemes::IDOf(const QString& name)

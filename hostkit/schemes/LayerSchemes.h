@@ -47,6 +47,11 @@ public:
     /// layers stay as they are. Raises HostError::UnknownScheme, and HostError::LastScheme for the only
     /// scheme.
     void Delete(const QString& name);
+    /// Gives the scheme another name. Raises HostError::UnknownScheme and DuplicateScheme.
+    void Rename(const QString& name, const QString& newName);
+    /// Creates a scheme with the saved values of another; the layers and the current scheme stay as they are.
+    /// Raises HostError::UnknownScheme and DuplicateScheme.
+    void Duplicate(const QString& name, const QString& newName);
 
     /// The ID of the scheme in the database's tables. Raises HostError::UnknownScheme.
     qint32 IDOf(const QString& name);
@@ -56,10 +61,13 @@ public:
     QSet<qint32> LayersThatDiffer();
     /// As above, but only for these layers, each looked up by its ID.
     QSet<qint32> LayersThatDiffer(const QSet<qint32>& layerIDs);
+    /// How many layers differ from that scheme, or are not in it. Raises HostError::UnknownScheme.
+    qsizetype CountThatDiffer(const QString& name);
 
 private:
     bool IsReadable();
     void MakeStandard();
+    void RequireUnused(const QString& name);
     qint32 CurrentID();
     void StoreValues(qint32 schemeID);
 

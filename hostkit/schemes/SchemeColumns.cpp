@@ -25,7 +25,7 @@ QString Joined(const QString& form, const QString& separator)
 // The expression to compare for a column. Both stored forms of "no limit" count as equal.
 QString Compared(const char* table, const LayerColumn& column)
 {
-    QString value = QLatin1String(table) + QLatin1String(column.name);
+    QString value = QLatin1String(table) + u'.' + QLatin1String(column.name);
     if (column.name != std::string_view("MaxVisScale"))
         return value;
     return QStringLiteral("CASE WHEN %1 >= %2 THEN 0 ELSE %1 END")
@@ -50,12 +50,12 @@ QString Assignments()
     return Joined(QStringLiteral("%1 = LayerSchemeValues.%1"), QStringLiteral(", "));
 }
 
-QString Difference()
+QString Difference(const char* table, const char* other)
 {
     QStringList differences;
     for (const LayerColumn& column : All) {
-        differences << QStringLiteral("%1 IS DISTINCT FROM %2")
-                           .arg(Compared("Layers.", column), Compared("LayerSchemeValues.", column));
+        differences
+            << QStringLiteral("%1 IS DISTINCT FROM %2").arg(Compared(table, column), Compared(other, column));
     }
     return u'(' + differences.join(QStringLiteral(" OR ")) + u')';
 }

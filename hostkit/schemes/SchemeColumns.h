@@ -38,9 +38,9 @@ QString List();
 QString SavedList();
 /// "Visible = LayerSchemeValues.Visible, Selectable = ..."
 QString Assignments();
-/// A condition that is true for a layer whose values differ from the scheme. NULL counts as a value, and both
-/// stored forms of "no maximum scale" count as equal.
-QString Difference();
+/// A condition that is true for a layer whose values differ from the scheme, or between any two tables with
+/// these columns. NULL counts as a value, and both stored forms of "no maximum scale" count as equal.
+QString Difference(const char* table = "Layers", const char* other = "LayerSchemeValues");
 /// "?<first>, ?<first + 1>, ...", one for each column.
 QString Parameters(int first);
 

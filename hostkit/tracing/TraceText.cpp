@@ -128,6 +128,15 @@ QString Of(const std::vector<RendererStyle>& styles)
     return u'[' + listed.join(QStringLiteral(", ")) + u']';
 }
 
+QString Of(const std::vector<qint32>& layerIDs)
+{
+    QStringList listed;
+    listed.reserve(qsizetype(layerIDs.size()));
+    for (const qint32 layerID : layerIDs)
+        listed << Of(layerID);
+    return u'[' + listed.join(QStringLiteral(", ")) + u']';
+}
+
 QString Of(const MonochromeBitmap& bitmap)
 {
     return QStringLiteral("bitmap %1x%2").arg(bitmap.width).arg(bitmap.height);

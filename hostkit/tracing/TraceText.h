@@ -46,6 +46,8 @@ QString Of(const std::vector<ConflictingEdit>& edits);
 QString Of(ConflictChoice choice);
 /// [1 "Hachured", 2 "Shaded"]
 QString Of(const std::vector<RendererStyle>& styles);
+/// [1, 2]
+QString Of(const std::vector<qint32>& layerIDs);
 /// bitmap 8x8
 QString Of(const MonochromeBitmap& bitmap);
 /// Deleted: a literal would silently become a boolean.

@@ -175,6 +175,59 @@ void TracingClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
         "client.DeleteLayer", [&] { Wrapped().DeleteLayer(layerID); }, layerID);
 }
 
+void TracingClient::IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs)
+{
+    m_trace.Command(
+        "client.DeleteLayers", [&] { ForwardingClient::IManyLayers_DeleteLayers(layerIDs); }, layerIDs);
+}
+
+double TracingClient::IMapScale_CurrentScale() const
+{
+    return m_trace.Question(
+        "client.CurrentScale", [&] { return ForwardingClient::IMapScale_CurrentScale(); });
+}
+
+void TracingClient::ISchemeManager_ManageSchemes(QWidget* form)
+{
+    m_trace.Command(
+        "client.ManageSchemes", [&] { ForwardingClient::ISchemeManager_ManageSchemes(form); }, Form);
+}
+
+bool TracingClient::IMapNotes_KeepsNotes() const
+{
+    return m_trace.Question("client.KeepsNotes", [&] { return ForwardingClient::IMapNotes_KeepsNotes(); });
+}
+
+QString TracingClient::IMapNotes_Note(const QString& key)
+{
+    return m_trace.Question(
+        "client.Note", [&] { return ForwardingClient::IMapNotes_Note(key); }, key);
+}
+
+void TracingClient::IMapNotes_SetNote(const QString& key, const QString& text)
+{
+    m_trace.Command(
+        "client.SetNote", [&] { ForwardingClient::IMapNotes_SetNote(key, text); }, key, text);
+}
+
+std::vector<NodeCommand> TracingClient::INodeCommands_Commands(QWidget* form)
+{
+    return m_trace.Command(
+        "client.Commands", [&] { return ForwardingClient::INodeCommands_Commands(form); }, Form);
+}
+
+QString TracingClient::INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs)
+{
+    return m_trace.Question(
+        "client.WhyNot", [&] { return ForwardingClient::INodeCommands_WhyNot(id, layerIDs); }, id, layerIDs);
+}
+
+void TracingClient::INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs)
+{
+    m_trace.Command(
+        "client.Run", [&] { ForwardingClient::INodeCommands_Run(form, id, layerIDs); }, Form, id, layerIDs);
+}
+
 bool TracingClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
 {
     return m_trace.Question(

@@ -52,6 +52,15 @@ protected:
         QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits) override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override;
+    double IMapScale_CurrentScale() const override;
+    void ISchemeManager_ManageSchemes(QWidget* form) override;
+    bool IMapNotes_KeepsNotes() const override;
+    QString IMapNotes_Note(const QString& key) override;
+    void IMapNotes_SetNote(const QString& key, const QString& text) override;
+    std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
+    QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
+    void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
     bool IStyleEditorClient_IsCodeAssigned(qint16 code) override;
     QString IStyleEditorClient_StyleCommandPrefix() const override;
     bool IStyleEditorClient_QuickModesAllowed() const override;

@@ -26,6 +26,15 @@ bool ChangeStep::Absorb(const IUndoStep& next)
     return true;
 }
 
+std::unique_ptr<IUndoStep> ChangeStep::JoinedWith(const IUndoStep& next, const QString& text) const
+{
+    const auto* step = dynamic_cast<const ChangeStep*>(&next);
+    if (!step)
+        return nullptr;
+    m_surroundings.database.AskWatcher();
+    return std::make_unique<ChangeStep>(m_surroundings, text, m_changes.Then(step->m_changes), m_joins);
+}
+
 void ChangeStep::Undo()
 {
     Run(QCoreApplication::translate("UndoHistory", "Undo %1").arg(m_text));

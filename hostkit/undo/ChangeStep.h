@@ -35,6 +35,7 @@ public:
     void Undo() override;
     void Redo() override;
     bool Absorb(const IUndoStep& next) override;
+    std::unique_ptr<IUndoStep> JoinedWith(const IUndoStep& next, const QString& text) const override;
     qsizetype KeptBytes() const override { return m_changes.KeptSize(); }
 
 private:

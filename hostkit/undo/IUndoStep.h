@@ -4,6 +4,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <memory>
+
 namespace Orvane {
 
 /// An operation of the user that can be undone and redone. Create it after the operation is done, and add it
@@ -37,6 +39,16 @@ public:
     /// How much the step keeps of what it must remember, in memory or in files, in bytes: the history drops
     /// old steps when all together keep too much. By default 0.
     virtual qsizetype KeptBytes() const { return 0; }
+
+    /// One step that does this step and then the next one, which is done directly after it, in a single
+    /// piece: all or nothing, with one progress and one Cancel. Both steps stay as they are. Used when
+    /// several steps are undone at once. text: of the new step. By default nothing is returned; the steps are
+    /// then undone one after the other.
+    virtual std::unique_ptr<IUndoStep>
+    JoinedWith([[maybe_unused]] const IUndoStep& next, [[maybe_unused]] const QString& text) const
+    {
+        return nullptr;
+    }
 
 protected:
     IUndoStep() = default;

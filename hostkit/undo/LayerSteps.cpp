@@ -7,6 +7,7 @@
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/undo/LayerChanges.h"
 #include "hostkit/windows/EditorWindows.h"
+#include "hostkit/windows/LongWork.h"
 #include "messages/NameInText.h"
 #include "store/ChangeRecorder.h"
 #include "store/ILayerStore.h"
@@ -43,6 +44,10 @@ LayerSteps::LayerSteps(
     QObject::connect(&m_endOfEdits, &QTimer::timeout, &m_endOfEdits, [this] { EndEdits(); });
     m_history.SetBeforeStep([this] { EndEdits(); });
     m_history.SetAfterStep([this] { Tell(); });
+    m_history.SetLongWork([this](const QString& what, const std::function<void()>& act) {
+        const LongWork work(m_database, what, Window());
+        act();
+    });
 }
 
 LayerSteps::~LayerSteps() = default;

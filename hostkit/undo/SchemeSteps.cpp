@@ -7,6 +7,10 @@
 #include "messages/NameInText.h"
 #include "store/ILayerStore.h"
 
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QLocale>
+
 #include <utility>
 
 namespace Orvane {
@@ -67,6 +71,49 @@ void SchemeSteps::Delete(const QString& name)
         tr("Delete Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Delete(name); },
         isOneDeed ? ChangeStep::Joins::StepBefore : ChangeStep::Joins::No);
     Tell();
+}
+
+void SchemeSteps::DeleteSeveral(const QStringList& names)
+{
+    if (names.size() == 1)
+        return Delete(names.constFirst());
+    const auto act = [&] {
+        Transaction transaction(m_database);
+        for (const QString& name : names)
+            m_schemes.Delete(name);
+        transaction.Commit();
+    };
+    Run(tr("Delete %1 Schemes").arg(QLocale().toString(names.size())), act);
+    Tell();
+}
+
+void SchemeSteps::Rename(const QString& name, const QString& newName)
+{
+    Run(tr("Rename Scheme \"%1\"").arg(NameInStep(newName)), [&] { m_schemes.Rename(name, newName); });
+    Tell();
+}
+
+void SchemeSteps::Duplicate(const QString& name, const QString& newName)
+{
+    Run(tr("Duplicate Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Duplicate(name, newName); });
+    Tell();
+}
+
+void SchemeSteps::Export(const QString& name, const QString& path)
+{
+    m_steps.EndEdits(); // before the work, which may be cancelled
+    const LongWork work(m_database, tr("Export Scheme \"%1\"").arg(NameInStep(name)), m_steps.Window());
+    const Transaction oneState(m_database);
+    SchemeFile::Make(path, [&](QIODevice& text) { SchemeExchange::ExportTo(text, m_database, name); });
+}
+
+std::optional<SchemeImport>
+SchemeSteps::ImportFile(const QString& path, const std::function<bool(const QString& name)>& mayImport)
+{
+    SchemeFile::Reader file(path);
+    if (!mayImport(file.Name()))
+        return std::nullopt;
+    return Import(file);
 }
 
 SchemeImport SchemeSteps::Import(const SchemeDocument& scheme)

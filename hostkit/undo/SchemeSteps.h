@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace Orvane {
 
@@ -43,7 +44,18 @@ public:
     /// If the scheme stopped being current just before, and the event loop has not run since, both operations
     /// are one step.
     void Delete(const QString& name);
+    /// Removes the schemes as one step; the layers stay as they are.
+    void DeleteSeveral(const QStringList& names);
+    void Rename(const QString& name, const QString& newName);
+    void Duplicate(const QString& name, const QString& newName);
+    /// How many layers differ from that scheme, or are not in it; compares all.
+    qsizetype CountThatDiffer(const QString& name) { return m_schemes.CountThatDiffer(name); }
 
+    /// As StandardClient::ExportScheme.
+    void Export(const QString& name, const QString& path);
+    /// As StandardClient::ImportSchemeFile.
+    std::optional<SchemeImport>
+    ImportFile(const QString& path, const std::function<bool(const QString& name)>& mayImport);
     /// Stores the scheme in the map, as SchemeExchange::Import does.
     SchemeImport Import(const SchemeDocument& scheme);
     SchemeImport Import(SchemeFile::Reader& file);

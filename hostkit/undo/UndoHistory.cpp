@@ -2,21 +2,41 @@
 #include "hostkit/undo/UndoHistory.h"
 
 #include "hostkit/common/HostErrors.h"
+#include "hostkit/undo/StepGroup.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QLocale>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 
 namespace Orvane {
 
+namespace {
+
+// The mark stays before the same step when steps before it go.
+void MoveMark(std::optional<size_t>& mark, size_t goneBefore)
+{
+    if (mark)
+        *mark -= std::min(*mark, goneBefore);
+}
+
+void LimitMark(std::optional<size_t>& mark, size_t steps)
+{
+    if (mark)
+        *mark = std::min(*mark, steps);
+}
+
+} // namespace
+
 void UndoHistory::Add(std::unique_ptr<IUndoStep> step)
 {
     if (m_running)
         return;
     m_steps.resize(m_done);
-    if (m_steps.empty() || !m_steps.back()->Absorb(*step))
+    LimitMark(m_mark, m_done);
+    if (!MayAbsorb() || !m_steps.back()->Absorb(*step))
         m_steps.push_back(std::move(step));
     DropOldest();
     m_done = m_steps.size();
@@ -32,7 +52,26 @@ void UndoHistory::DropOldest()
         if (bytes > MaxBytes)
             break;
     }
+    MoveMark(m_mark, m_steps.size() - kept);
     m_steps.erase(m_steps.begin(), m_steps.end() - std::ptrdiff_t(kept));
+}
+
+bool UndoHistory::MayAbsorb() const
+{
+    return !m_steps.empty() && m_mark != m_done;
+}
+
+void UndoHistory::SetMark()
+{
+    if (m_running)
+        return;
+    m_mark = m_done;
+    emit Changed();
+}
+
+int UndoHistory::StepsSinceMark() const
+{
+    return m_mark && *m_mark < m_done ? int(m_done - *m_mark) : 0;
 }
 
 QString UndoHistory::UndoText() const
@@ -51,6 +90,7 @@ void UndoHistory::Clear()
         return;
     m_steps.clear();
     m_done = 0;
+    LimitMark(m_mark, 0);
     emit Changed();
 }
 
@@ -59,7 +99,65 @@ void UndoHistory::ForgetUndone()
     if (m_running || !CanRedo())
         return;
     m_steps.resize(m_done);
+    LimitMark(m_mark, m_done);
     emit Changed();
+}
+
+void UndoHistory::UndoSinceMark()
+{
+    if (m_running)
+        return;
+    if (m_beforeStep)
+        m_beforeStep();
+    if (StepsSinceMark() == 1)
+        Undo();
+    else if (StepsSinceMark() > 1)
+        UndoSeveralSinceMark();
+}
+
+void UndoHistory::UndoSeveralSinceMark()
+{
+    const QScopedValueRollback running(m_running, true);
+    const std::shared_ptr<StepGroup> group = GroupSinceMark();
+    try {
+        group->Undo();
+    } catch (...) {
+        if (group->IsBetween())
+            ReplaceSinceMark(group);
+        throw;
+    }
+    ReplaceSinceMark(group);
+    --m_done;
+    Tell();
+}
+
+std::shared_ptr<StepGroup> UndoHistory::GroupSinceMark()
+{
+    const auto first = m_steps.begin() + std::ptrdiff_t(*m_mark);
+    const std::vector steps(first, m_steps.begin() + std::ptrdiff_t(m_done));
+    const QString text = tr("%1 Steps").arg(QLocale().toString(qulonglong(steps.size())));
+    std::shared_ptr<StepGroup> group;
+    const auto join = [&] { group = std::make_shared<StepGroup>(steps, text); };
+    if (m_longWork)
+        m_longWork(tr("Undo %1").arg(text), join);
+    else
+        join();
+    return group;
+}
+
+void UndoHistory::ReplaceSinceMark(std::shared_ptr<IUndoStep> step)
+{
+    const auto first = m_steps.begin() + std::ptrdiff_t(*m_mark);
+    *first = std::move(step);
+    m_steps.erase(first + 1, m_steps.begin() + std::ptrdiff_t(m_done));
+    m_done = *m_mark + 1;
+}
+
+void UndoHistory::Tell()
+{
+    emit Changed();
+    if (m_afterStep)
+        m_afterStep();
 }
 
 void UndoHistory::Run(Direction direction)
@@ -74,9 +172,7 @@ void UndoHistory::Run(Direction direction)
     const QScopedValueRollback running(m_running, true);
     RunStep(direction, undoes ? m_done - 1 : m_done);
     m_done = undoes ? m_done - 1 : m_done + 1;
-    emit Changed();
-    if (m_afterStep)
-        m_afterStep();
+    Tell();
 }
 
 void UndoHistory::RunStep(Direction direction, size_t position)
@@ -88,6 +184,8 @@ void UndoHistory::RunStep(Direction direction, size_t position)
             throw;
         m_steps.erase(m_steps.begin() + std::ptrdiff_t(position));
         m_done = position;
+        if (m_mark && position < *m_mark)
+            MoveMark(m_mark, 1);
         emit Changed();
         throw;
     }

@@ -7,9 +7,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Orvane {
+
+class StepGroup;
 
 /// The user's latest operations in order, which can be undone, the last one first, and redone.
 ///
@@ -46,6 +49,15 @@ public:
     /// Redoes the step that was undone last, if there is one; raises the same errors as Undo.
     void Redo() { Run(Direction::Redo); }
 
+    /// Remembers this point of the history; StandardClient does so when a first editor is opened. Steps that
+    /// are added from now on are not merged with those before.
+    void SetMark();
+    /// How many steps were done since the mark and can be undone; 0 without a mark.
+    int StepsSinceMark() const;
+    /// Undoes all of them as one step, which one Redo brings back; from then on they are one step. If one of
+    /// them cannot be undone, or the user cancels, all stay done: raises what the step raises.
+    void UndoSinceMark();
+
     /// Forgets all steps.
     void Clear();
     /// Forgets the steps that were undone: something that is no step has changed what they would redo.
@@ -57,6 +69,13 @@ public:
     /// The action is called at the end of each Undo and Redo that did something, when the history is already
     /// up to date; errors that it raises are passed on. An empty function removes the action.
     void SetAfterStep(std::function<void()> action) { m_afterStep = std::move(action); }
+    /// The function runs what takes long before steps are undone as one, with progress and Cancel; what: as
+    /// for LongWork. It passes on what act raises; nothing is undone then. An empty function: act runs as it
+    /// is.
+    void SetLongWork(std::function<void(const QString& what, const std::function<void()>& act)> run)
+    {
+        m_longWork = std::move(run);
+    }
 
 Q_SIGNALS:
     /// What can be undone or redone has changed.
@@ -66,14 +85,21 @@ private:
     enum class Direction { Undo, Redo };
 
     void DropOldest();
+    bool MayAbsorb() const;
+    void UndoSeveralSinceMark();
+    std::shared_ptr<StepGroup> GroupSinceMark();
+    void ReplaceSinceMark(std::shared_ptr<IUndoStep> step);
+    void Tell();
     void Run(Direction direction);
     void RunStep(Direction direction, size_t position);
 
-    std::vector<std::unique_ptr<IUndoStep>> m_steps; // oldest first
+    std::vector<std::shared_ptr<IUndoStep>> m_steps; // oldest first
     size_t m_done = 0; // the number of steps that are done; those after them are undone
+    std::optional<size_t> m_mark; // the number of steps before it
     bool m_running = false;
     std::function<void()> m_beforeStep;
     std::function<void()> m_afterStep;
+    std::function<void(const QString&, const std::function<void()>&)> m_longWork;
 };
 
 } // namespace Orvane

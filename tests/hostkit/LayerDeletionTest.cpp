@@ -50,6 +50,18 @@ TEST(LayerDeletion, NamesTheLayerItsGroupsAndItsSchemes)
     EXPECT_TRUE(question.consequences.contains(QStringLiteral("\"Night\"")));
 }
 
+TEST(LayerDeletion, TellsTheNumberOfSeveralLayers)
+{
+    const Question question
+        = Asked({QStringLiteral("1200 layers"), {QStringLiteral("Lines")}, {QStringLiteral("Night")}, 1200});
+    EXPECT_EQ(question.text, QStringLiteral("Delete 1,200 layers?"));
+    EXPECT_EQ(
+        question.consequences,
+        QStringLiteral("They will be removed from their groups: \"Lines\".\n"
+                       "Their saved values will be removed from the layer schemes: \"Night\".\n"
+                       "Their data files stay. You can undo the deletion."));
+}
+
 TEST(LayerDeletion, SaysThatTheDataStay)
 {
     const Question question = Asked({QStringLiteral("Roads"), {}, {}});

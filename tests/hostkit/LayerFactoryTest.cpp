@@ -113,6 +113,32 @@ TEST_F(Factory, TellsWhatGoesWithALayer)
     EXPECT_THAT(deletion.schemes, testing::ElementsAre(QStringLiteral("Standard"), QStringLiteral("Night")));
 }
 
+TEST_F(Factory, TellsWhatGoesWithSeveralLayersEachGroupOnce)
+{
+    AddLayers(3);
+    Database().Execute(QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering)"
+                                      " VALUES (5, 'Second', 2), (6, 'First', 1), (7, 'Other', 0)"));
+    Database().Execute(QStringLiteral(
+        "INSERT INTO LayerGroupMembers (GroupID, LayerID) VALUES (5, 1), (5, 3), (6, 1), (7, 2)"));
+    LayerSchemes(Database()).Create(QStringLiteral("Night"));
+    const LayerDeletion deletion = m_factory.WhatGoes(std::vector<qint32>{1, 3});
+    EXPECT_EQ(deletion.layers, 2);
+    EXPECT_EQ(deletion.layer, QStringLiteral("2 layers"));
+    EXPECT_THAT(deletion.groups, testing::ElementsAre(QStringLiteral("First"), QStringLiteral("Second")));
+    EXPECT_THAT(deletion.schemes, testing::ElementsAre(QStringLiteral("Standard"), QStringLiteral("Night")));
+}
+
+TEST_F(Factory, DeletingSeveralIsOneTransaction)
+{
+    AddLayers(2);
+    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
+                                      " WHEN old.LayerID = 2 BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    const std::vector<qint32> both{1, 2};
+    EXPECT_EQ(ErrorOf([&] { m_factory.Delete(both); }), int(ErrorNumber::DatabaseFailure));
+    EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM Layers")), 2);
+    EXPECT_EQ(m_names.Name(1), QStringLiteral("Layer 1"));
+}
+
 TEST_F(Factory, WithoutGroupsAndSchemesOnlyTheLayerGoes)
 {
     AddLayers(1);

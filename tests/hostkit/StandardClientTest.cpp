@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/StandardClient.h"
 
-#include "hostkit/HostKitTest.h"
-#include "hostkit/StandardShellServices.h"
+#include "hostkit/StandardClientFixture.h"
 #include "hostkit/common/HostErrors.h"
-#include "hostkit/common/HostNotifications.h"
+#include "hostkit/undo/UndoHistory.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -18,31 +17,31 @@ namespace {
 
 using testing::ElementsAre;
 
-class Client : public HostKitTest
+class Client : public StandardClientFixture
 {
-protected:
-    Client() { m_client.SetSettingsFile(m_folder.filePath(QStringLiteral("settings.ini"))); }
-
-    HostNotifications& Signals() { return m_client.Notifications(); }
-    IStyleEditorClient& Host() { return m_client; }
-    QString PathOf(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
-
-    static void Press(QWidget& box, QMessageBox::StandardButton button)
-    {
-        QTest::mouseClick(dynamic_cast<QMessageBox&>(box).button(button), Qt::LeftButton);
-    }
-
-    static QSet<qint32> LayersOf(const QSignalSpy& spy) { return spy.at(0).at(0).value<QSet<qint32>>(); }
-
-    QTemporaryDir m_folder;
-    StandardShellServices m_services;
-    StandardClient m_client{Database(), m_services};
 };
 
 TEST_F(Client, HandsOutItsDatabaseAndServices)
 {
     EXPECT_EQ(Host().GetShellServices(), &m_services);
     EXPECT_EQ(&Host().GetDatabase(), &Database());
+}
+
+TEST_F(Client, KeepsNotesUnlessItsDatabaseIsNotWhatIsSaved)
+{
+    IMapNotes& notes = m_client;
+    EXPECT_TRUE(notes.KeepsNotes());
+    notes.SetNote(QStringLiteral("key"), QStringLiteral("text"));
+    EXPECT_EQ(notes.Note(QStringLiteral("key")), QStringLiteral("text"));
+    m_client.SetKeepsNotes(false);
+    EXPECT_FALSE(notes.KeepsNotes());
+}
+
+TEST_F(Client, HasNoCommandsOfItsOwn)
+{
+    INodeCommands& commands = m_client;
+    EXPECT_TRUE(commands.Commands(nullptr).empty());
+    EXPECT_EQ(commands.WhyNot(QStringLiteral("any"), {1}), QString());
 }
 
 /// A host that shows editors in its own window and calls nothing of the base class.
@@ -203,73 +202,6 @@ TEST_F(Client, CreatesALayerAndTellsIt)
     EXPECT_EQ(created.at(0).at(0).toInt(), layerID);
     EXPECT_EQ(Host().LayerDisplayName(layerID), QStringLiteral("New layer"));
     EXPECT_TRUE(Host().IsCodeAssigned(0));
-}
-
-TEST_F(Client, DeletesALayerAfterOneQuestionThatNamesIt)
-{
-    AddLayer(1, QStringLiteral("<b>Roads</b>"));
-    QSignalSpy deleted(&Signals(), &HostNotifications::LayerDeleted);
-    WhenModal([](QWidget& box) {
-        EXPECT_TRUE(dynamic_cast<QMessageBox&>(box).text().contains(QStringLiteral("<b>Roads</b>")));
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
-        Press(box, QMessageBox::Yes);
-    });
-    Host().DeleteLayer(1);
-    EXPECT_EQ(deleted.count(), 1);
-    EXPECT_TRUE(Host().LayerDisplayName(1).isEmpty());
-}
-
-TEST_F(Client, KeepsTheLayerWhenTheUserSaysNo)
-{
-    AddLayers(1);
-    QSignalSpy deleted(&Signals(), &HostNotifications::LayerDeleted);
-    WhenModal([](QWidget& box) { Press(box, QMessageBox::No); });
-    Host().DeleteLayer(1);
-    EXPECT_EQ(deleted.count(), 0);
-    EXPECT_EQ(Host().LayerDisplayName(1), QStringLiteral("Layer 1"));
-}
-
-TEST_F(Client, ReturnAndEscapeKeepTheLayer)
-{
-    AddLayers(1);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        WhenModal([key](QWidget& box) {
-            QWidget* focus = box.focusWidget() ? box.focusWidget() : &box;
-            QTest::keyClick(focus, key);
-        });
-        Host().DeleteLayer(1);
-        EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM Layers")), 1);
-    }
-}
-
-TEST_F(Client, AsksNothingForASystemLayerOrAMissingOne)
-{
-    AddLayers(1);
-    Set(1, "SystemLayer", true);
-    Host().DeleteLayer(1);
-    Host().DeleteLayer(99);
-    EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM Layers")), 1);
-}
-
-TEST_F(Client, ShortensAVeryLongNameInItsQuestion)
-{
-    AddLayer(1, QString(10000, u'x'));
-    WhenModal([](QWidget& box) {
-        EXPECT_LT(dynamic_cast<QMessageBox&>(box).text().size(), 200);
-        Press(box, QMessageBox::No);
-    });
-    Host().DeleteLayer(1);
-}
-
-TEST_F(Client, ADeletedLayerIsNotRedrawn)
-{
-    AddLayers(1);
-    QSignalSpy changed(&Signals(), &HostNotifications::LayersChanged);
-    Host().LayerChanged(1);
-    WhenModal([](QWidget& box) { Press(box, QMessageBox::Yes); });
-    Host().DeleteLayer(1);
-    Host().RedrawMap();
-    EXPECT_EQ(changed.count(), 0);
 }
 
 TEST_F(Client, SwitchesSchemesAndTellsWhatChanged)

@@ -157,6 +157,45 @@ TEST_F(ClientTrace, ShowsScalesAndColours)
     EXPECT_TRUE(lines[4].endsWith(QStringLiteral(" -> 5")));
 }
 
+TEST_F(ClientTrace, ShowsSeveralDeletedLayersAndTheCallsOfAHostWithoutThat)
+{
+    dynamic_cast<IManyLayers&>(Client()).DeleteLayers({17, 18});
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.DeleteLayers([17, 18])")));
+    EXPECT_EQ(m_host.Log().CallsTo("DeleteLayer").size(), 2);
+}
+
+TEST_F(ClientTrace, ShowsTheScaleOfTheMap)
+{
+    dynamic_cast<IMapScale&>(Client()).CurrentScale();
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.CurrentScale() -> 0")));
+}
+
+TEST_F(ClientTrace, ShowsTheWindowForSchemes)
+{
+    dynamic_cast<ISchemeManager&>(Client()).ManageSchemes(nullptr);
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.ManageSchemes(form)")));
+}
+
+TEST_F(ClientTrace, ShowsNotesAndCommandsAlsoOfAHostWithoutThem)
+{
+    auto& notes = dynamic_cast<IMapNotes&>(Client());
+    notes.KeepsNotes();
+    notes.SetNote(QStringLiteral("key"), QStringLiteral("text"));
+    notes.Note(QStringLiteral("key"));
+    auto& commands = dynamic_cast<INodeCommands&>(Client());
+    commands.Commands(nullptr);
+    commands.WhyNot(QStringLiteral("zoom"), {17});
+    commands.Run(nullptr, QStringLiteral("zoom"), {17});
+    EXPECT_THAT(
+        Lines(),
+        ElementsAre(
+            QStringLiteral("client.KeepsNotes() -> false"),
+            QStringLiteral("client.SetNote(\"key\", \"text\")"),
+            QStringLiteral("client.Note(\"key\") -> \"\""), QStringLiteral("client.Commands(form)"),
+            QStringLiteral("client.WhyNot(\"zoom\", [17]) -> \"\""),
+            QStringLiteral("client.Run(form, \"zoom\", [17])")));
+}
+
 TEST_F(ClientTrace, ShowsEveryOtherMemberOfTheClient)
 {
     m_host.AddLayer({.id = 17, .name = QStringLiteral("Roads")});

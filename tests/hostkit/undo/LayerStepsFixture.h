@@ -74,6 +74,7 @@ protected:
     }
 
     IStyleEditorClient& Host() { return m_client; }
+    IMapNotes& Notes() { return m_client; }
     UndoHistory& History() { return m_client.History(); }
     QStringList Told() { return std::exchange(m_told, {}); }
 

@@ -34,6 +34,24 @@ TEST_F(Steps, AnApplyToAGroupIsOne)
     ExpectOneStep(QStringLiteral("Change 2 Layers"), [this] { ApplyToGroup({1, 2}, "Visible", false); });
 }
 
+TEST_F(Steps, ANoteOfAnEditorIsPartOfTheEditsWithIt)
+{
+    const QString key = QStringLiteral("Editor.Key");
+    Transaction transaction(Database());
+    Edit(1, "OverrideMode", 2);
+    Notes().SetNote(key, QStringLiteral("text"));
+    transaction.Commit();
+    Host().RedrawMap();
+    ASSERT_EQ(History().UndoText(), QStringLiteral("Undo Change \"Roads\""));
+    History().Undo();
+    EXPECT_EQ(Notes().Note(key), QString());
+    EXPECT_EQ(ToInt32(Get(1, "OverrideMode")), 0);
+    EXPECT_FALSE(History().CanUndo());
+    History().Redo();
+    EXPECT_EQ(Notes().Note(key), QStringLiteral("text"));
+    EXPECT_EQ(ToInt32(Get(1, "OverrideMode")), 2);
+}
+
 TEST_F(Steps, RenamingALayerIsOne)
 {
     ExpectOneStep(
