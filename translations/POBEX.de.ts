@@ -12,12 +12,28 @@
         <translation>„beliebig“ bedeutet, dass es keine Grenze gibt.</translation>
     </message>
     <message>
+        <source>&quot;Show Only These&quot; has not changed any layer.</source>
+        <translation>„Nur diese einblenden“ hat keinen Layer geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Schemes...</source>
+        <translation>Schemas &amp;verwalten...</translation>
+    </message>
+    <message>
+        <source>&amp;Map&apos;s Scale (^1)</source>
+        <translation>&amp;Kartenmaßstab (^1)</translation>
+    </message>
+    <message>
         <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
         <translation>(OBS): verdeckt; der Layer wird im aktuellen Maßstab nicht gezeichnet.</translation>
     </message>
     <message>
         <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
         <translation>(SUP): unterdrückt; der Layer wird nicht gezeichnet, zum Beispiel weil seine Daten nicht gelesen werden können.</translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 Layer</translation>
     </message>
     <message>
         <source>1 pixel</source>
@@ -72,8 +88,16 @@
         <translation>^1 hat keinen Wert.</translation>
     </message>
     <message>
+        <source>^1 layers</source>
+        <translation>^1 Layer</translation>
+    </message>
+    <message>
         <source>^1 mm will be stored.</source>
         <translation>Gespeichert werden ^1 mm.</translation>
+    </message>
+    <message>
+        <source>^1 of ^2</source>
+        <translation>^1 von ^2</translation>
     </message>
     <message>
         <source>^1 pixels will be stored.</source>
@@ -98,6 +122,14 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>Ein Wert dieses Layers kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>All of these layers are hidden already.</source>
+        <translation>Alle diese Layer sind schon ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>All of these layers are shown already.</source>
+        <translation>Alle diese Layer sind schon eingeblendet.</translation>
     </message>
     <message>
         <source>An unexpected error stopped the action.</source>
@@ -160,6 +192,10 @@
         <translation>C&amp;ode:</translation>
     </message>
     <message>
+        <source>Code: ^1</source>
+        <translation>Code: ^1</translation>
+    </message>
+    <message>
         <source>Collapse All</source>
         <translation>Alle zuklappen</translation>
     </message>
@@ -208,6 +244,10 @@
         <translation>&amp;Löschen</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
         <source>Delete layer scheme &apos;^1&apos;?</source>
         <translation>Layerschema „^1“ löschen?</translation>
     </message>
@@ -230,6 +270,14 @@
     <message>
         <source>Do you wish to apply the changes to the &apos;^2&apos; ^1?</source>
         <translation>Sollen die Änderungen auf ^1 „^2“ angewendet werden?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the ^1 selected layers?</source>
+        <translation>Sollen die Änderungen auf die ^1 ausgewählten Layer angewendet werden?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the selected layer?</source>
+        <translation>Sollen die Änderungen auf den ausgewählten Layer angewendet werden?</translation>
     </message>
     <message>
         <source>dont care</source>
@@ -312,6 +360,26 @@
         <translation>Füllty&amp;p:</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Find groups and layers</source>
+        <translation>Gruppen und Layer suchen</translation>
+    </message>
+    <message>
+        <source>Find layers</source>
+        <translation>Layer suchen</translation>
+    </message>
+    <message>
+        <source>Find layers by name or code. Ctrl+F goes here, Escape goes back.</source>
+        <translation>Layer nach Name oder Code suchen. Strg+F führt hierher, Esc zurück.</translation>
+    </message>
+    <message>
+        <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
+        <translation>Layer nach Name, Code oder Gruppe suchen. Strg+F führt hierher, Esc zurück.</translation>
+    </message>
+    <message>
         <source>Go back to the last saved values of this scheme.</source>
         <translation>Zu den zuletzt gespeicherten Werten dieses Schemas zurückkehren.</translation>
     </message>
@@ -336,6 +404,10 @@
         <translation>Ausgeblen&amp;det</translation>
     </message>
     <message>
+        <source>Groups: ^1</source>
+        <translation>Gruppen: ^1</translation>
+    </message>
+    <message>
         <source>Hidden</source>
         <translation>Ausgeblendet</translation>
     </message>
@@ -344,12 +416,20 @@
         <translation>Anklic&amp;kbar</translation>
     </message>
     <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
         <source>How the renderer draws the layer.</source>
         <translation>Wie der Layer dargestellt wird.</translation>
     </message>
     <message>
         <source>Invalid Name</source>
         <translation>Ungültiger Name</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Auswahl umkehren</translation>
     </message>
     <message>
         <source>it runs with Qt ^1, this program with Qt ^2</source>
@@ -378,6 +458,10 @@
     <message>
         <source>Layers</source>
         <translation>Layer</translation>
+    </message>
+    <message>
+        <source>Layers are deleted in the list of layers.</source>
+        <translation>Layer werden in der Liste der Layer gelöscht.</translation>
     </message>
     <message>
         <source>Line and Fill</source>
@@ -424,6 +508,14 @@
         <translation>&amp;Minimum:</translation>
     </message>
     <message>
+        <source>Maximum scale: ^1</source>
+        <translation>Größter Maßstab: ^1</translation>
+    </message>
+    <message>
+        <source>Minimum scale: ^1</source>
+        <translation>Kleinster Maßstab: ^1</translation>
+    </message>
+    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -460,6 +552,10 @@
         <translation>Normal</translation>
     </message>
     <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
         <source>Objects of the layer can be clicked on the map.</source>
         <translation>Objekte des Layers können auf der Karte angeklickt werden.</translation>
     </message>
@@ -474,6 +570,18 @@
     <message>
         <source>Olive</source>
         <translation>Oliv</translation>
+    </message>
+    <message>
+        <source>One layer or group at a time can be renamed, but no system layer.</source>
+        <translation>Es kann immer nur ein Layer oder eine Gruppe umbenannt werden, aber kein Systemlayer.</translation>
+    </message>
+    <message>
+        <source>Only 1 of ^1 layers is shown.</source>
+        <translation>Nur 1 von ^1 Layern eingeblendet.</translation>
+    </message>
+    <message>
+        <source>Only ^1 of ^2 layers are shown.</source>
+        <translation>Nur ^1 von ^2 Layern eingeblendet.</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -504,6 +612,10 @@
         <translation>Prio&amp;rität:</translation>
     </message>
     <message>
+        <source>Possible: ^1 to ^2</source>
+        <translation>Möglich: ^1 bis ^2</translation>
+    </message>
+    <message>
         <source>Protect the layer against changes.</source>
         <translation>Den Layer vor Änderungen schützen.</translation>
     </message>
@@ -514,6 +626,10 @@
     <message>
         <source>&amp;Revert</source>
         <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Rename, copy, delete, compare, export and import the schemes of this map.</source>
+        <translation>Die Schemas dieser Karte umbenennen, kopieren, löschen, vergleichen, exportieren und importieren.</translation>
     </message>
     <message>
         <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>
@@ -544,12 +660,28 @@
         <translation>Schemas</translation>
     </message>
     <message>
+        <source>Select a layer first.</source>
+        <translation>Wählen Sie zuerst einen Layer aus.</translation>
+    </message>
+    <message>
+        <source>Select a layer or a group first.</source>
+        <translation>Wählen Sie zuerst einen Layer oder eine Gruppe aus.</translation>
+    </message>
+    <message>
         <source>Select a layer or a group to see its settings.</source>
         <translation>Wählen Sie einen Layer oder eine Gruppe aus, um die Einstellungen zu sehen.</translation>
     </message>
     <message>
         <source>S&amp;electable</source>
         <translation>Ausw&amp;ählbar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Select All in Group</source>
+        <translation>Alle in der Gruppe auswählen</translation>
     </message>
     <message>
         <source>Set Draw Priority</source>
@@ -574,6 +706,22 @@
     <message>
         <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
         <translation>Den kleinsten Maßstabsindex festlegen, bei dem der Layer gezeichnet wird; „beliebig“ setzt keine Grenze.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Einblenden</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>Alle wieder einblenden</translation>
+    </message>
+    <message>
+        <source>Show Only These</source>
+        <translation>Nur diese einblenden</translation>
+    </message>
+    <message>
+        <source>Show Line and Fill</source>
+        <translation>Linie und Füllung zeigen</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -688,6 +836,10 @@
         <translation>Das Programm muss eine QApplication anlegen, bevor es eine Layersteuerung anlegt.</translation>
     </message>
     <message>
+        <source>The selected layers (^1) no longer exist. The changes were not applied.</source>
+        <translation>Die ausgewählten Layer (^1) gibt es nicht mehr. Die Änderungen wurden nicht angewendet.</translation>
+    </message>
+    <message>
         <source>The texts &quot;^1&quot; cannot be read: ^2</source>
         <translation>Die Texte „^1“ können nicht gelesen werden: ^2</translation>
     </message>
@@ -710,6 +862,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Dünnste Linie</translation>
+    </message>
+    <message>
+        <source>This map cannot keep which layers were hidden.</source>
+        <translation>Diese Karte kann nicht aufbewahren, welche Layer ausgeblendet wurden.</translation>
     </message>
     <message>
         <source>this program does not tell which version it uses</source>
@@ -778,6 +934,10 @@
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>
         <translation>Ein „Systemlayer“ darf nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>You may not delete a &apos;system layer&apos;. Selected layers that stay: ^1.</source>
+        <translation>Ein „Systemlayer“ darf nicht gelöscht werden. Ausgewählte Layer, die bleiben: ^1.</translation>
     </message>
 </context>
 </TS>

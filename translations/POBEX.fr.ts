@@ -12,12 +12,28 @@
         <translation>« indifférent » signifie qu’il n’y a pas de limite.</translation>
     </message>
     <message>
+        <source>&quot;Show Only These&quot; has not changed any layer.</source>
+        <translation>« N’afficher que celles-ci » n’a modifié aucune couche.</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Schemes...</source>
+        <translation>&amp;Gérer les schémas...</translation>
+    </message>
+    <message>
+        <source>&amp;Map&apos;s Scale (^1)</source>
+        <translation>Échelle de la &amp;carte (^1)</translation>
+    </message>
+    <message>
         <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
         <translation>(OBS) : masquée ; la couche n’est pas dessinée à l’échelle actuelle.</translation>
     </message>
     <message>
         <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
         <translation>(SUP) : supprimée de l’affichage ; la couche n’est pas dessinée, par exemple parce que ses données ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 couche</translation>
     </message>
     <message>
         <source>1 pixel</source>
@@ -72,8 +88,16 @@
         <translation>^1 n’a pas de valeur.</translation>
     </message>
     <message>
+        <source>^1 layers</source>
+        <translation>^1 couches</translation>
+    </message>
+    <message>
         <source>^1 mm will be stored.</source>
         <translation>^1 mm seront enregistrés.</translation>
+    </message>
+    <message>
+        <source>^1 of ^2</source>
+        <translation>^1 sur ^2</translation>
     </message>
     <message>
         <source>^1 pixels will be stored.</source>
@@ -98,6 +122,14 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>Une valeur de cette couche ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>All of these layers are hidden already.</source>
+        <translation>Toutes ces couches sont déjà masquées.</translation>
+    </message>
+    <message>
+        <source>All of these layers are shown already.</source>
+        <translation>Toutes ces couches sont déjà affichées.</translation>
     </message>
     <message>
         <source>An unexpected error stopped the action.</source>
@@ -160,6 +192,10 @@
         <translation>C&amp;ode :</translation>
     </message>
     <message>
+        <source>Code: ^1</source>
+        <translation>Code : ^1</translation>
+    </message>
+    <message>
         <source>Collapse All</source>
         <translation>Tout réduire</translation>
     </message>
@@ -208,6 +244,10 @@
         <translation>&amp;Supprimer</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
         <source>Delete layer scheme &apos;^1&apos;?</source>
         <translation>Supprimer le schéma de couches « ^1 » ?</translation>
     </message>
@@ -230,6 +270,14 @@
     <message>
         <source>Do you wish to apply the changes to the &apos;^2&apos; ^1?</source>
         <translation>Voulez-vous appliquer les modifications concernant ^1 « ^2 » ?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the ^1 selected layers?</source>
+        <translation>Voulez-vous appliquer les modifications concernant les ^1 couches sélectionnées ?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the selected layer?</source>
+        <translation>Voulez-vous appliquer les modifications concernant la couche sélectionnée ?</translation>
     </message>
     <message>
         <source>dont care</source>
@@ -312,6 +360,26 @@
         <translation>Mo&amp;tif :</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Find groups and layers</source>
+        <translation>Rechercher des groupes et des couches</translation>
+    </message>
+    <message>
+        <source>Find layers</source>
+        <translation>Rechercher des couches</translation>
+    </message>
+    <message>
+        <source>Find layers by name or code. Ctrl+F goes here, Escape goes back.</source>
+        <translation>Rechercher des couches par nom ou code. Ctrl+F mène ici, Échap en revient.</translation>
+    </message>
+    <message>
+        <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
+        <translation>Rechercher des couches par nom, code ou groupe. Ctrl+F mène ici, Échap en revient.</translation>
+    </message>
+    <message>
         <source>Go back to the last saved values of this scheme.</source>
         <translation>Revenir aux dernières valeurs enregistrées de ce schéma.</translation>
     </message>
@@ -336,6 +404,10 @@
         <translation>Masqu&amp;ée</translation>
     </message>
     <message>
+        <source>Groups: ^1</source>
+        <translation>Groupes : ^1</translation>
+    </message>
+    <message>
         <source>Hidden</source>
         <translation>Masquée</translation>
     </message>
@@ -344,12 +416,20 @@
         <translation>&amp;Cliquable</translation>
     </message>
     <message>
+        <source>Hide</source>
+        <translation>Masquer</translation>
+    </message>
+    <message>
         <source>How the renderer draws the layer.</source>
         <translation>Façon dont la couche est rendue.</translation>
     </message>
     <message>
         <source>Invalid Name</source>
         <translation>Nom non valide</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>Inverser la sélection</translation>
     </message>
     <message>
         <source>it runs with Qt ^1, this program with Qt ^2</source>
@@ -378,6 +458,10 @@
     <message>
         <source>Layers</source>
         <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Layers are deleted in the list of layers.</source>
+        <translation>Les couches se suppriment dans la liste des couches.</translation>
     </message>
     <message>
         <source>Line and Fill</source>
@@ -424,6 +508,14 @@
         <translation>&amp;Minimum :</translation>
     </message>
     <message>
+        <source>Maximum scale: ^1</source>
+        <translation>Échelle maximale : ^1</translation>
+    </message>
+    <message>
+        <source>Minimum scale: ^1</source>
+        <translation>Échelle minimale : ^1</translation>
+    </message>
+    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -460,6 +552,10 @@
         <translation>Normal</translation>
     </message>
     <message>
+        <source>Nothing found.</source>
+        <translation>Aucun résultat.</translation>
+    </message>
+    <message>
         <source>Objects of the layer can be clicked on the map.</source>
         <translation>Les objets de la couche sont cliquables sur la carte.</translation>
     </message>
@@ -474,6 +570,18 @@
     <message>
         <source>Olive</source>
         <translation>Olive</translation>
+    </message>
+    <message>
+        <source>One layer or group at a time can be renamed, but no system layer.</source>
+        <translation>Une seule couche ou un seul groupe à la fois peut être renommé, mais pas une couche système.</translation>
+    </message>
+    <message>
+        <source>Only 1 of ^1 layers is shown.</source>
+        <translation>Seule 1 couche sur ^1 affichée.</translation>
+    </message>
+    <message>
+        <source>Only ^1 of ^2 layers are shown.</source>
+        <translation>Seules ^1 couches sur ^2 affichées.</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -504,6 +612,10 @@
         <translation>P&amp;riorité :</translation>
     </message>
     <message>
+        <source>Possible: ^1 to ^2</source>
+        <translation>Possible : ^1 à ^2</translation>
+    </message>
+    <message>
         <source>Protect the layer against changes.</source>
         <translation>Protéger la couche contre les modifications.</translation>
     </message>
@@ -514,6 +626,10 @@
     <message>
         <source>&amp;Revert</source>
         <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Rename, copy, delete, compare, export and import the schemes of this map.</source>
+        <translation>Renommer, copier, supprimer, comparer, exporter et importer les schémas de cette carte.</translation>
     </message>
     <message>
         <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>
@@ -544,12 +660,28 @@
         <translation>Schémas</translation>
     </message>
     <message>
+        <source>Select a layer first.</source>
+        <translation>Sélectionnez d’abord une couche.</translation>
+    </message>
+    <message>
+        <source>Select a layer or a group first.</source>
+        <translation>Sélectionnez d’abord une couche ou un groupe.</translation>
+    </message>
+    <message>
         <source>Select a layer or a group to see its settings.</source>
         <translation>Sélectionnez une couche ou un groupe pour voir ses réglages.</translation>
     </message>
     <message>
         <source>S&amp;electable</source>
         <translation>Sél&amp;ectionnable</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select All in Group</source>
+        <translation>Tout sélectionner dans le groupe</translation>
     </message>
     <message>
         <source>Set Draw Priority</source>
@@ -574,6 +706,22 @@
     <message>
         <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
         <translation>Définir l’indice d’échelle minimal auquel la couche est dessinée ; « indifférent » ne fixe pas de limite.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>Tout réafficher</translation>
+    </message>
+    <message>
+        <source>Show Only These</source>
+        <translation>N’afficher que celles-ci</translation>
+    </message>
+    <message>
+        <source>Show Line and Fill</source>
+        <translation>Afficher la ligne et le remplissage</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -688,6 +836,10 @@
         <translation>Le programme doit créer une QApplication avant de créer un contrôle des couches.</translation>
     </message>
     <message>
+        <source>The selected layers (^1) no longer exist. The changes were not applied.</source>
+        <translation>Les couches sélectionnées (^1) n’existent plus. Les modifications n’ont pas été appliquées.</translation>
+    </message>
+    <message>
         <source>The texts &quot;^1&quot; cannot be read: ^2</source>
         <translation>Les textes « ^1 » ne peuvent pas être lus : ^2</translation>
     </message>
@@ -710,6 +862,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
+        <source>This map cannot keep which layers were hidden.</source>
+        <translation>Cette carte ne peut pas conserver quelles couches ont été masquées.</translation>
     </message>
     <message>
         <source>this program does not tell which version it uses</source>
@@ -778,6 +934,10 @@
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>
         <translation>Une « couche système » ne peut pas être supprimée</translation>
+    </message>
+    <message>
+        <source>You may not delete a &apos;system layer&apos;. Selected layers that stay: ^1.</source>
+        <translation>Une « couche système » ne peut pas être supprimée. Couches sélectionnées qui restent : ^1.</translation>
     </message>
 </context>
 </TS>

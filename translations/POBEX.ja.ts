@@ -12,12 +12,28 @@
         <translation>「指定なし」は制限がないことを表します。</translation>
     </message>
     <message>
+        <source>&quot;Show Only These&quot; has not changed any layer.</source>
+        <translation>「これらだけを表示」によって変更されたレイヤーはありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Schemes...</source>
+        <translation>スキームの管理(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>&amp;Map&apos;s Scale (^1)</source>
+        <translation>地図の縮尺 (^1)(&amp;M)</translation>
+    </message>
+    <message>
         <source>(OBS): obscured; the layer is not drawn at the current scale.</source>
         <translation>(OBS): 隠れています。現在の縮尺ではレイヤーは描画されません。</translation>
     </message>
     <message>
         <source>(SUP): suppressed; the layer is not drawn, for example because its data cannot be read.</source>
         <translation>(SUP): 抑制されています。データを読み込めないなどの理由で、レイヤーは描画されません。</translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 レイヤー</translation>
     </message>
     <message>
         <source>1 pixel</source>
@@ -72,8 +88,16 @@
         <translation>^1 に値がありません。</translation>
     </message>
     <message>
+        <source>^1 layers</source>
+        <translation>^1 レイヤー</translation>
+    </message>
+    <message>
         <source>^1 mm will be stored.</source>
         <translation>^1 mm として保存されます。</translation>
+    </message>
+    <message>
+        <source>^1 of ^2</source>
+        <translation>^2 件中 ^1 件</translation>
     </message>
     <message>
         <source>^1 pixels will be stored.</source>
@@ -98,6 +122,14 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>このレイヤーの値を読み込めません。</translation>
+    </message>
+    <message>
+        <source>All of these layers are hidden already.</source>
+        <translation>これらのレイヤーはすべて非表示です。</translation>
+    </message>
+    <message>
+        <source>All of these layers are shown already.</source>
+        <translation>これらのレイヤーはすべて表示されています。</translation>
     </message>
     <message>
         <source>An unexpected error stopped the action.</source>
@@ -160,6 +192,10 @@
         <translation>コード(&amp;O):</translation>
     </message>
     <message>
+        <source>Code: ^1</source>
+        <translation>コード: ^1</translation>
+    </message>
+    <message>
         <source>Collapse All</source>
         <translation>すべて折りたたむ</translation>
     </message>
@@ -208,6 +244,10 @@
         <translation>削除(&amp;D)</translation>
     </message>
     <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
         <source>Delete layer scheme &apos;^1&apos;?</source>
         <translation>レイヤースキーム「^1」を削除しますか?</translation>
     </message>
@@ -230,6 +270,14 @@
     <message>
         <source>Do you wish to apply the changes to the &apos;^2&apos; ^1?</source>
         <translation>^1「^2」への変更を適用しますか?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the ^1 selected layers?</source>
+        <translation>選択した ^1 レイヤーへの変更を適用しますか?</translation>
+    </message>
+    <message>
+        <source>Do you wish to apply the changes to the selected layer?</source>
+        <translation>選択したレイヤーへの変更を適用しますか?</translation>
     </message>
     <message>
         <source>dont care</source>
@@ -312,6 +360,26 @@
         <translation>塗りパターン(&amp;I):</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Find groups and layers</source>
+        <translation>グループとレイヤーを検索</translation>
+    </message>
+    <message>
+        <source>Find layers</source>
+        <translation>レイヤーを検索</translation>
+    </message>
+    <message>
+        <source>Find layers by name or code. Ctrl+F goes here, Escape goes back.</source>
+        <translation>レイヤーを名前またはコードで検索します。Ctrl+F でここに移動し、Esc で戻ります。</translation>
+    </message>
+    <message>
+        <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
+        <translation>レイヤーを名前、コード、グループで検索します。Ctrl+F でここに移動し、Esc で戻ります。</translation>
+    </message>
+    <message>
         <source>Go back to the last saved values of this scheme.</source>
         <translation>このスキームを最後に保存した値に戻します。</translation>
     </message>
@@ -336,6 +404,10 @@
         <translation>非表示(&amp;H)</translation>
     </message>
     <message>
+        <source>Groups: ^1</source>
+        <translation>グループ: ^1</translation>
+    </message>
+    <message>
         <source>Hidden</source>
         <translation>非表示</translation>
     </message>
@@ -344,12 +416,20 @@
         <translation>クリック可能(&amp;T)</translation>
     </message>
     <message>
+        <source>Hide</source>
+        <translation>非表示にする</translation>
+    </message>
+    <message>
         <source>How the renderer draws the layer.</source>
         <translation>レイヤーの描画方法です。</translation>
     </message>
     <message>
         <source>Invalid Name</source>
         <translation>名前が無効です</translation>
+    </message>
+    <message>
+        <source>Invert Selection</source>
+        <translation>選択を反転</translation>
     </message>
     <message>
         <source>it runs with Qt ^1, this program with Qt ^2</source>
@@ -378,6 +458,10 @@
     <message>
         <source>Layers</source>
         <translation>レイヤー</translation>
+    </message>
+    <message>
+        <source>Layers are deleted in the list of layers.</source>
+        <translation>レイヤーの削除はレイヤーの一覧で行います。</translation>
     </message>
     <message>
         <source>Line and Fill</source>
@@ -424,6 +508,14 @@
         <translation>最小(&amp;M):</translation>
     </message>
     <message>
+        <source>Maximum scale: ^1</source>
+        <translation>最大縮尺: ^1</translation>
+    </message>
+    <message>
+        <source>Minimum scale: ^1</source>
+        <translation>最小縮尺: ^1</translation>
+    </message>
+    <message>
         <source>mm</source>
         <translation>mm</translation>
     </message>
@@ -460,6 +552,10 @@
         <translation>標準表示</translation>
     </message>
     <message>
+        <source>Nothing found.</source>
+        <translation>見つかりません。</translation>
+    </message>
+    <message>
         <source>Objects of the layer can be clicked on the map.</source>
         <translation>レイヤーのオブジェクトを地図上でクリックできます。</translation>
     </message>
@@ -474,6 +570,18 @@
     <message>
         <source>Olive</source>
         <translation>オリーブ</translation>
+    </message>
+    <message>
+        <source>One layer or group at a time can be renamed, but no system layer.</source>
+        <translation>名前を変更できるのは一度に 1 つのレイヤーまたはグループで、システムレイヤーは変更できません。</translation>
+    </message>
+    <message>
+        <source>Only 1 of ^1 layers is shown.</source>
+        <translation>^1 レイヤー中 1 レイヤーだけを表示しています。</translation>
+    </message>
+    <message>
+        <source>Only ^1 of ^2 layers are shown.</source>
+        <translation>^2 レイヤー中 ^1 レイヤーだけを表示しています。</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -504,6 +612,10 @@
         <translation>優先度(&amp;R):</translation>
     </message>
     <message>
+        <source>Possible: ^1 to ^2</source>
+        <translation>指定できる範囲: ^1～^2</translation>
+    </message>
+    <message>
         <source>Protect the layer against changes.</source>
         <translation>レイヤーを変更から保護します。</translation>
     </message>
@@ -514,6 +626,10 @@
     <message>
         <source>&amp;Revert</source>
         <translation>元に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rename, copy, delete, compare, export and import the schemes of this map.</source>
+        <translation>このマップのスキームの名前を変更し、複製、削除、比較、エクスポート、インポートします。</translation>
     </message>
     <message>
         <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>
@@ -544,12 +660,28 @@
         <translation>スキーム</translation>
     </message>
     <message>
+        <source>Select a layer first.</source>
+        <translation>先にレイヤーを選択してください。</translation>
+    </message>
+    <message>
+        <source>Select a layer or a group first.</source>
+        <translation>先にレイヤーまたはグループを選択してください。</translation>
+    </message>
+    <message>
         <source>Select a layer or a group to see its settings.</source>
         <translation>設定を表示するには、レイヤーまたはグループを選択してください。</translation>
     </message>
     <message>
         <source>S&amp;electable</source>
         <translation>選択可能(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Select All in Group</source>
+        <translation>グループ内をすべて選択</translation>
     </message>
     <message>
         <source>Set Draw Priority</source>
@@ -574,6 +706,22 @@
     <message>
         <source>Set the smallest scale index at which the layer is drawn; &quot;dont care&quot; sets no limit.</source>
         <translation>レイヤーを描画する最小の縮尺インデックスを設定します。「指定なし」では制限がありません。</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Show All Again</source>
+        <translation>すべて再表示</translation>
+    </message>
+    <message>
+        <source>Show Only These</source>
+        <translation>これらだけを表示</translation>
+    </message>
+    <message>
+        <source>Show Line and Fill</source>
+        <translation>線と塗りつぶしを表示</translation>
     </message>
     <message>
         <source>Show or hide the settings beside the lists.</source>
@@ -688,6 +836,10 @@
         <translation>プログラムはレイヤーコントロールを作成する前に QApplication を作成する必要があります。</translation>
     </message>
     <message>
+        <source>The selected layers (^1) no longer exist. The changes were not applied.</source>
+        <translation>選択したレイヤー (^1) は存在しません。変更は適用されませんでした。</translation>
+    </message>
+    <message>
         <source>The texts &quot;^1&quot; cannot be read: ^2</source>
         <translation>テキスト「^1」を読み取れません: ^2</translation>
     </message>
@@ -710,6 +862,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>最も細い線</translation>
+    </message>
+    <message>
+        <source>This map cannot keep which layers were hidden.</source>
+        <translation>このマップには、非表示にしたレイヤーを記録できません。</translation>
     </message>
     <message>
         <source>this program does not tell which version it uses</source>
@@ -778,6 +934,10 @@
     <message>
         <source>You may not delete a &apos;system layer&apos;</source>
         <translation>「システムレイヤー」は削除できません</translation>
+    </message>
+    <message>
+        <source>You may not delete a &apos;system layer&apos;. Selected layers that stay: ^1.</source>
+        <translation>「システムレイヤー」は削除できません。残る選択レイヤー: ^1。</translation>
     </message>
 </context>
 </TS>

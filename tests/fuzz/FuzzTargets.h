@@ -13,6 +13,7 @@ int FuzzMapFile(const uint8_t* data, size_t size); ///< a map file, opened for r
 int FuzzMessages(const uint8_t* data, size_t size); ///< a message file
 int FuzzNodeKey(const uint8_t* data, size_t size); ///< the key of a node and, after a tab, of its image
 int FuzzScheme(const uint8_t* data, size_t size); ///< a scheme file
+int FuzzShownOnly(const uint8_t* data, size_t size); ///< the note of "Show Only These"
 int FuzzStyleString(const uint8_t* data, size_t size); ///< an item of an owner-drawn list
 int FuzzValues(const uint8_t* data, size_t size); ///< a text where a number may stand
 int FuzzViewState(const uint8_t* data, size_t size); ///< the setting that tells how a dialog was left

@@ -12,6 +12,7 @@ namespace Orvane {
 namespace {
 
 const QString Separator = QStringLiteral(":");
+const QString WithSamples = QStringLiteral(":LINE AND FILL");
 const QString NotExpanded = QStringLiteral("NOT EXPANDED");
 
 std::optional<float> UsableLength(const QString& text)
@@ -53,9 +54,12 @@ QString WordOfTab(ListTab tab)
 ViewState ViewState::FromText(const QString& text)
 {
     QString rest = text;
+    ViewState state;
+    state.samples = rest.endsWith(WithSamples);
+    if (state.samples)
+        rest.chop(WithSamples.size());
     const QString width = NextToken(rest, Separator);
     const QString height = NextToken(rest, Separator);
-    ViewState state;
     state.tab = TabOfWord(NextToken(rest, Separator));
     if (width.isEmpty() || height.isEmpty())
         return state;
@@ -69,7 +73,8 @@ QString ViewState::ToText() const
     const QString width = size ? Orvane::ToText(size->width) : QString();
     const QString height = size ? Orvane::ToText(size->height) : QString();
     const QString expansion = expanded.value_or(true) ? QStringLiteral("EXPANDED") : NotExpanded;
-    return QStringList{width, height, WordOfTab(tab), expansion}.join(Separator);
+    const QString left = QStringList{width, height, WordOfTab(tab), expansion}.join(Separator);
+    return samples ? left + WithSamples : left;
 }
 
 } // namespace Orvane

@@ -27,10 +27,12 @@ struct ViewState {
     std::optional<bool> expanded; ///< nothing: stays as it is, since a side of the size was missing
     ListTab tab = ListTab::Layers; ///< an empty word means Layers, an unknown one Groups
 
+    bool samples = false; ///< the lists show samples of line and fill
+
     static ViewState FromText(const QString& text);
 
     /// Numbers in plain decimal form, the shortest that reads back the same. A missing size leaves both
-    /// fields empty.
+    /// fields empty. Samples add a last word: "9000:7000:LAYERS:EXPANDED:LINE AND FILL".
     QString ToText() const;
 
     bool operator==(const ViewState&) const = default;

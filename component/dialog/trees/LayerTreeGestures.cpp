@@ -3,6 +3,7 @@
 
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
+#include "component/dialog/trees/ChoosingCommands.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -44,10 +45,25 @@ bool LayerTreeGestures::eventFilter(QObject* watched, QEvent* event)
 
 bool LayerTreeGestures::HandleKey(const QKeyEvent& event)
 {
+    if (event.matches(QKeySequence::SelectAll)) {
+        ChoosingCommands::SelectAll(*m_view);
+        return true;
+    }
+    if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+        GuardEvent(m_view, [this] { OpenMenuByKey(); });
+        return true;
+    }
     if (event.key() != Qt::Key_Delete || event.modifiers() != Qt::NoModifier)
         return false;
     emit DeleteRequested();
     return true;
+}
+
+// X11 has no such key for menus, and Qt makes none of it there.
+void LayerTreeGestures::OpenMenuByKey()
+{
+    const QPoint place = m_view->viewport()->rect().topLeft();
+    OpenMenu({QContextMenuEvent::Keyboard, place, m_view->viewport()->mapToGlobal(place)});
 }
 
 void LayerTreeGestures::OpenMenu(const QContextMenuEvent& event)
@@ -55,7 +71,9 @@ void LayerTreeGestures::OpenMenu(const QContextMenuEvent& event)
     auto* menu = new QMenu(m_view);
     menu->setObjectName(QStringLiteral("mnuTree"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setToolTipsVisible(true);
     FillMenu(*menu);
+    emit MenuOpening(menu);
     menu->popup(MenuPosition(*m_view, event));
 }
 
@@ -64,11 +82,42 @@ void LayerTreeGestures::FillMenu(QMenu& menu)
     QAction* rename = menu.addAction(TranslateMsg("Edit Name"), this, &LayerTreeGestures::RenameRequested);
     rename->setShortcut(Qt::Key_F2);
     rename->setEnabled(m_mayRename());
-    if (!m_view->rootIsDecorated())
-        return;
+    if (!rename->isEnabled())
+        rename->setToolTip(TranslateMsg("One layer or group at a time can be renamed, but no system layer."));
+    const bool hasGroups = m_view->rootIsDecorated();
+    if (hasGroups) {
+        menu.addSeparator();
+        menu.addAction(TranslateMsg("Expand All"), this, [this] { emit ExpandAllRequested(true); });
+        menu.addAction(TranslateMsg("Collapse All"), this, [this] { emit ExpandAllRequested(false); });
+    }
+    AddChoosing(menu, hasGroups);
+    if (m_showsSamples)
+        AddSamples(menu);
+}
+
+void LayerTreeGestures::AddChoosing(QMenu& menu, bool hasGroups)
+{
+    using namespace ChoosingCommands;
     menu.addSeparator();
-    menu.addAction(TranslateMsg("Expand All"), this, [this] { emit ExpandAllRequested(true); });
-    menu.addAction(TranslateMsg("Collapse All"), this, [this] { emit ExpandAllRequested(false); });
+    if (hasGroups) {
+        QAction* group = menu.addAction(
+            TranslateMsg("Select All in Group"), this, [this] { SelectAllInGroup(*m_view); });
+        group->setEnabled(m_view->currentIndex().isValid());
+        if (!group->isEnabled())
+            group->setToolTip(TranslateMsg("Select a layer or a group first."));
+    }
+    QAction* all = menu.addAction(TranslateMsg("Select All"), this, [this] { SelectAll(*m_view); });
+    all->setShortcut(QKeySequence::SelectAll);
+    menu.addAction(TranslateMsg("Invert Selection"), this, [this] { InvertSelection(*m_view); });
+}
+
+void LayerTreeGestures::AddSamples(QMenu& menu)
+{
+    menu.addSeparator();
+    QAction* samples = menu.addAction(TranslateMsg("Show Line and Fill"));
+    samples->setCheckable(true);
+    samples->setChecked(m_showsSamples());
+    connect(samples, &QAction::triggered, this, &LayerTreeGestures::SamplesRequested);
 }
 
 } // namespace Orvane

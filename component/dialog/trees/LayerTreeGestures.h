@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include <functional>
+#include <utility>
 
 class QContextMenuEvent;
 class QKeyEvent;
@@ -12,8 +13,8 @@ class QTreeView;
 
 namespace Orvane {
 
-/// What a user does to a tree besides choosing and renaming nodes: the context menu, by mouse and by key, and
-/// the Delete key.
+/// What a user does to a tree besides choosing nodes by mouse and key, and renaming them: the context menu,
+/// and the Delete key.
 class LayerTreeGestures : public QObject
 {
     Q_OBJECT
@@ -23,21 +24,31 @@ public:
     /// renamed; may raise.
     LayerTreeGestures(QTreeView* view, std::function<bool()> mayRename, QObject* parent = nullptr);
 
+    /// Offers to show samples of line and fill. isShown: called each time the menu opens.
+    void OfferSamples(std::function<bool()> isShown) { m_showsSamples = std::move(isShown); }
+
 signals:
     void RenameRequested();
     void ExpandAllRequested(bool expanded);
     void DeleteRequested();
+    void SamplesRequested(bool show);
+    /// The menu is about to open: receivers add their entries.
+    void MenuOpening(QMenu* menu);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool HandleKey(const QKeyEvent& event);
+    void OpenMenuByKey();
     void OpenMenu(const QContextMenuEvent& event);
     void FillMenu(QMenu& menu);
+    void AddChoosing(QMenu& menu, bool hasGroups);
+    void AddSamples(QMenu& menu);
 
     QTreeView* m_view;
     std::function<bool()> m_mayRename;
+    std::function<bool()> m_showsSamples;
 };
 
 } // namespace Orvane

@@ -1,18 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/LayerTreeList.h"
 
+#include "component/common/EventGuard.h"
+#include "component/dialog/trees/ChoosingCommands.h"
 #include "component/dialog/trees/LayerTreeModel.h"
 #include "component/dialog/trees/NodeIndexes.h"
 #include "component/dialog/trees/NodeNameDelegate.h"
+#include "component/dialog/trees/QuietView.h"
 
 #include <QEvent>
 #include <QItemSelectionModel>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTreeView>
 
+#include <algorithm>
 #include <utility>
 
 namespace Orvane {
+
+namespace {
+
+bool HasAnyOf(const LayerTreeModel& model, const NodeSelection& nodes)
+{
+    return std::any_of(nodes.Nodes().begin(), nodes.Nodes().end(), [&model](const NodeReference& node) {
+        return model.Has(node);
+    });
+}
+
+} // namespace
 
 LayerTreeList::LayerTreeList(QTreeView* view, QObject* parent)
     : QObject(parent), m_view(view), m_model(new LayerTreeModel(this)), m_delegate(new NodeNameDelegate(this))
@@ -26,7 +42,7 @@ void LayerTreeList::SetUpView()
     m_view->setModel(m_model);
     m_view->setHeaderHidden(true);
     m_view->setUniformRowHeights(true);
-    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed);
 }
@@ -45,7 +61,10 @@ void LayerTreeList::Wire()
     connect(
         m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &LayerTreeList::FollowSelection);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &LayerTreeList::NodesChanged);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &LayerTreeList::NodesChanged);
     connect(m_view, &QTreeView::clicked, this, &LayerTreeList::FollowClick);
+    m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         FollowExpansion(index, true);
@@ -80,12 +99,12 @@ bool LayerTreeList::NeedsLoad() const
 
 void LayerTreeList::ShowGroups(std::vector<GroupEntry> groups)
 {
-    std::vector<int> expandedRows;
-    for (size_t row = 0; row < groups.size(); ++row) {
-        if (groups[row].expanded)
-            expandedRows.push_back(int(row));
+    std::vector<qint32> expanded;
+    for (const GroupEntry& group : groups) {
+        if (group.expanded)
+            expanded.push_back(group.groupID);
     }
-    Refill([&] { m_model->SetGroups(std::move(groups)); }, expandedRows);
+    Refill([&] { m_model->SetGroups(std::move(groups)); }, std::move(expanded));
     m_view->setRootIsDecorated(true);
 }
 
@@ -95,32 +114,61 @@ void LayerTreeList::ShowLayers(std::vector<LayerEntry> layers)
     m_view->setRootIsDecorated(false);
 }
 
-void LayerTreeList::Refill(const std::function<void()>& fill, const std::vector<int>& expandedRows)
+void LayerTreeList::Refill(const std::function<void()>& fill, std::vector<qint32> expandedGroups)
 {
     const QScopedValueRollback quiet(m_quiet, true);
     if (m_model->HasNodes())
-        m_place = LayerTreePlace(*m_view, m_current);
+        m_place = LayerTreePlace(*m_view, CurrentNode());
+    m_model->Keep(m_keepsChosen ? m_chosen : NodeSelection());
     fill();
     m_stale = false;
-    // The reset has postponed the layout, so expanding only records the group; one layout then serves all
-    // groups.
-    for (int row : expandedRows)
-        m_view->expand(IndexOf(m_model->Reference(m_model->index(row, 0))));
-    m_view->doItemsLayout();
-    FindCurrentAgain();
+    if (IsFinding())
+        m_before.expandedGroups = std::move(expandedGroups);
+    else
+        Expand(expandedGroups);
+    LayOut();
+    FindChosenAgain();
     m_place.ScrollBack(*m_view);
 }
 
-void LayerTreeList::FindCurrentAgain()
+// A reset has postponed the layout, so expanding only records the group; one layout then serves all groups.
+void LayerTreeList::Expand(const std::vector<qint32>& groupIDs)
 {
-    if (!m_current)
+    for (qint32 groupID : groupIDs)
+        m_view->expand(IndexOf({.isGroup = true, .groupID = groupID}));
+}
+
+// Expanding all groups lays out all nodes, and one layout is enough.
+void LayerTreeList::LayOut()
+{
+    if (IsFinding() && m_model->Found().rows.GroupCount() > 0)
+        m_view->expandAll();
+    else
+        m_view->doItemsLayout();
+}
+
+void LayerTreeList::FindChosenAgain()
+{
+    if (m_wanted.IsEmpty() || ChooseWanted())
         return;
-    QModelIndex index = CurrentIndex();
-    if (!index.isValid())
-        index = m_place.NodeNear(*m_view);
-    m_current.reset();
+    const bool isHidden = IsFinding() && HasAnyOf(*m_model, m_wanted);
+    const QModelIndex index = isHidden ? QModelIndex() : m_place.NodeNear(*m_view);
     if (index.isValid())
         MakeCurrent(NodeIndexes::NodeAt(index));
+    else if (!isHidden)
+        m_wanted = {};
+}
+
+// Leaves what is wanted as it is; false if nothing of it is shown.
+bool LayerTreeList::ChooseWanted()
+{
+    const NodeSelection wanted = m_wanted;
+    const bool isShown = Choose(wanted);
+    if (!isShown)
+        m_chosen = {};
+    if (IsFinding())
+        m_wanted = wanted;
+    return isShown;
 }
 
 std::optional<NodeReference> LayerTreeList::CurrentNode() const
@@ -141,7 +189,7 @@ QModelIndex LayerTreeList::IndexOf(const NodeReference& node) const
 
 QModelIndex LayerTreeList::CurrentIndex() const
 {
-    return m_current ? IndexOf(*m_current) : QModelIndex();
+    return m_chosen.IsEmpty() ? QModelIndex() : IndexOf(m_chosen.Current());
 }
 
 bool LayerTreeList::MakeCurrent(const NodeReference& node)
@@ -149,32 +197,62 @@ bool LayerTreeList::MakeCurrent(const NodeReference& node)
     const QModelIndex index = IndexOf(node);
     if (!index.isValid())
         return false;
-    m_current = node;
+    m_chosen = NodeSelection(node);
+    m_wanted = m_chosen;
     Select(index);
+    return true;
+}
+
+bool LayerTreeList::Choose(const NodeSelection& nodes)
+{
+    return nodes.IsMany() ? ChooseMany(nodes) : !nodes.IsEmpty() && MakeCurrent(nodes.Current());
+}
+
+bool LayerTreeList::ChooseMany(const NodeSelection& nodes)
+{
+    NodeSelection selected = NodeSelection::Of(*m_view);
+    if (!selected.HasSameNodes(nodes)) {
+        const QItemSelection ranges = nodes.RangesIn(*m_view);
+        if (ranges.isEmpty())
+            return false;
+        const QModelIndex first = ranges.front().topLeft();
+        const QModelIndex current = IndexOf(nodes.Current());
+        SelectMany(ranges, current.isValid() ? current : first);
+        selected = NodeSelection::Of(*m_view);
+    }
+    m_chosen = std::move(selected);
+    m_wanted = m_chosen;
     return true;
 }
 
 void LayerTreeList::RefuseChoice()
 {
     m_refusing = true;
-    SelectCurrent();
+    SelectChosen();
     QMetaObject::invokeMethod(
         this, [this] { m_refusing = false; }, Qt::QueuedConnection);
 }
 
-void LayerTreeList::SelectCurrent()
+void LayerTreeList::SelectChosen()
 {
-    Select(CurrentIndex());
+    if (m_chosen.IsMany())
+        SelectMany(m_chosen.RangesIn(*m_view), CurrentIndex());
+    else
+        Select(CurrentIndex());
 }
 
-// Without automatic scrolling, which would also expand the node's group.
 void LayerTreeList::Select(const QModelIndex& index)
 {
+    SelectMany(QItemSelection(index, index), index);
+}
+
+void LayerTreeList::SelectMany(const QItemSelection& ranges, const QModelIndex& current)
+{
     const QScopedValueRollback quiet(m_quiet, true);
-    const bool scrolls = m_view->hasAutoScroll();
-    m_view->setAutoScroll(false);
-    m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    m_view->setAutoScroll(scrolls);
+    const QuietView quietView(*m_view);
+    if (m_view->currentIndex() != current)
+        m_view->setCurrentIndex(current); // Shift then selects from here
+    ChoosingCommands::Select(*m_view, ranges, current);
 }
 
 void LayerTreeList::ScrollToCurrent()
@@ -208,36 +286,60 @@ void LayerTreeList::SetAllExpanded(bool expanded)
 
 void LayerTreeList::FollowSelection()
 {
-    if (m_quiet)
+    if (m_quiet || m_isDrawing)
         return;
-    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
-    if (selected.isEmpty() || m_refusing) {
-        SelectCurrent();
+    const NodeSelection selected = NodeSelection::Of(*m_view);
+    if (selected.IsEmpty() || m_refusing) {
+        SelectChosen();
         return;
     }
-    const NodeReference node = NodeIndexes::NodeAt(selected.first());
-    if (m_current && IsSameNode(*m_current, node))
+    if (selected.HasSameNodes(m_chosen))
         return;
     m_pressChose = true;
-    emit NodeChosen(node);
+    emit NodesChosen(selected);
 }
 
-bool LayerTreeList::eventFilter(QObject*, QEvent* event)
+// The view selects after this.
+bool LayerTreeList::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress)
-        m_pressChose = false; // the view selects after this
-    return false;
+    if (watched == m_view->viewport())
+        FollowMouse(*event);
+    else if (event->type() == QEvent::KeyPress || event->type() == QEvent::FocusOut)
+        EndDrawing(); // the release may go elsewhere
+    const bool isHint = event->type() == QEvent::Paint && IsFinding() && m_model->rowCount() == 0;
+    return isHint && watched == m_view->viewport() && GuardPaint([this] { PaintNothingFound(); });
+}
+
+void LayerTreeList::FollowMouse(const QEvent& event)
+{
+    if (event.type() == QEvent::MouseButtonPress) {
+        m_pressChose = false;
+        EndDrawing();
+    } else if (event.type() == QEvent::MouseMove) {
+        const bool isPressed = static_cast<const QMouseEvent&>(event).buttons() & Qt::LeftButton;
+        isPressed ? void(m_isDrawing = true) : EndDrawing();
+    } else if (event.type() == QEvent::MouseButtonRelease) {
+        EndDrawing();
+    }
+}
+
+void LayerTreeList::EndDrawing()
+{
+    if (!std::exchange(m_isDrawing, false))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { FollowSelection(); }, Qt::QueuedConnection);
 }
 
 void LayerTreeList::FollowClick(const QModelIndex& index)
 {
-    if (!m_pressChose && m_current && IsSameNode(*m_current, NodeIndexes::NodeAt(index)))
+    if (!m_pressChose && !m_chosen.IsEmpty() && IsSameNode(m_chosen.Current(), NodeIndexes::NodeAt(index)))
         emit CurrentClicked();
 }
 
 void LayerTreeList::FollowExpansion(const QModelIndex& index, bool expanded)
 {
-    if (!m_quiet)
+    if (!m_quiet && !IsFinding())
         emit ExpansionChanged(NodeIndexes::NodeAt(index).groupID, expanded);
 }
 

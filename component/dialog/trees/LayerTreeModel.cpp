@@ -3,25 +3,22 @@
 
 #include "component/dialog/trees/NodeData.h"
 
-#include <OrvaneShellLib/LayerValues.h>
-
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace Orvane {
 
 namespace {
 
-// An index holds the number of its parent group plus one; 0 means the top level.
+// An index holds the row of its parent group plus one; 0 means the top level.
 constexpr quintptr TopLevel = 0;
 
-constexpr quintptr ChildOf(int groupNumber)
+constexpr quintptr ChildOf(int groupRow)
 {
-    return quintptr(groupNumber) + 1;
+    return quintptr(groupRow) + 1;
 }
 
-constexpr int ParentNumber(quintptr id)
+constexpr int ParentRow(quintptr id)
 {
     return int(id) - 1;
 }
@@ -31,75 +28,70 @@ constexpr int ParentNumber(quintptr id)
 void LayerTreeModel::SetGroups(std::vector<GroupEntry> groups)
 {
     beginResetModel();
-    m_byLayerID.clear();
-    m_layers.clear();
-    m_groups.clear();
-    m_groups.reserve(groups.size());
-    for (GroupEntry& group : groups) {
-        const int first = int(m_layers.size());
-        std::move(group.layers.begin(), group.layers.end(), std::back_inserter(m_layers));
-        m_groups.push_back(
-            {group.groupID, 0, first, int(m_layers.size()) - first, std::move(group.text), group.faulty});
-        m_groups.back().image = CommonQuickMode(m_groups.back());
-    }
+    m_nodes.SetGroups(std::move(groups));
+    m_finder.Forget();
+    m_found = m_finder.Find(m_nodes, m_words, m_kept.Nodes());
     endResetModel();
 }
 
 void LayerTreeModel::SetLayers(std::vector<LayerEntry> layers)
 {
     beginResetModel();
-    m_byLayerID.clear();
-    m_groups.clear();
-    m_layers = std::move(layers);
+    m_nodes.SetLayers(std::move(layers));
+    m_finder.Forget();
+    m_found = m_finder.Find(m_nodes, m_words, m_kept.Nodes());
     endResetModel();
+}
+
+void LayerTreeModel::Find(const FindWords& words)
+{
+    beginResetModel();
+    m_words = words;
+    m_found = m_finder.Find(m_nodes, m_words, m_kept.Nodes());
+    if (m_words.IsEmpty())
+        m_finder.Forget();
+    endResetModel();
+}
+
+bool LayerTreeModel::Has(const NodeReference& node) const
+{
+    return (node.isGroup ? m_nodes.GroupWithID(node.groupID) : m_nodes.LayerAt(node)) >= 0;
 }
 
 NodeReference LayerTreeModel::Reference(const QModelIndex& index) const
 {
-    if (IsGroup(index)) {
-        const GroupNode& group = m_groups[size_t(index.row())];
-        return {.isGroup = true, .groupID = group.groupID, .layerID = 0, .image = group.image};
-    }
-    const LayerEntry& layer = m_layers[size_t(NumberOf(index))];
-    const bool flat = index.internalId() == TopLevel;
-    const qint32 groupID = flat ? 0 : m_groups[size_t(ParentNumber(index.internalId()))].groupID;
-    return {.isGroup = false, .groupID = groupID, .layerID = layer.layerID, .image = layer.quickMode};
+    return IsGroup(index) ? m_nodes.GroupReference(NumberOf(index)) : m_nodes.LayerReference(NumberOf(index));
 }
 
 QModelIndex LayerTreeModel::IndexOf(const NodeReference& node) const
 {
     if (!node.isGroup)
-        return IndexOfLayer(node);
-    const auto found = std::find_if(m_groups.begin(), m_groups.end(), [&](const GroupNode& group) {
-        return group.groupID == node.groupID;
-    });
-    return found == m_groups.end() ? QModelIndex() : index(int(found - m_groups.begin()), 0);
-}
-
-QModelIndex LayerTreeModel::IndexOfLayer(const NodeReference& node) const
-{
-    for (auto [entry, last] = NumbersOf(node.layerID); entry != last; ++entry) {
-        const QModelIndex index = IndexOfNumber(entry->number);
-        if (IsSameNode(Reference(index), node))
-            return index;
-    }
-    return {};
-}
-
-bool LayerTreeModel::Lists(qint32 layerID) const
-{
-    const auto [first, last] = NumbersOf(layerID);
-    return first != last;
+        return IndexOfLayer(m_nodes.LayerAt(node));
+    const int row = m_found.rows.RowOfGroup(m_nodes.GroupWithID(node.groupID));
+    return row < 0 ? QModelIndex() : createIndex(row, 0, TopLevel);
 }
 
 QSet<qint32> LayerTreeModel::LayersAmong(const QSet<qint32>& layerIDs) const
 {
     QSet<qint32> listed;
-    for (const LayerEntry& layer : m_layers) {
+    for (const LayerEntry& layer : m_nodes.Layers()) {
         if (layerIDs.contains(layer.layerID))
             listed.insert(layer.layerID);
     }
     return listed;
+}
+
+std::vector<qint32> LayerTreeModel::LayerIDsOf(qint32 groupID) const
+{
+    std::vector<qint32> layerIDs;
+    const int number = m_nodes.GroupWithID(groupID);
+    if (number < 0)
+        return layerIDs;
+    const FlatNodes::Group& group = m_nodes.Groups()[size_t(number)];
+    layerIDs.reserve(size_t(group.layerCount));
+    for (int layer = group.firstLayer; layer < group.firstLayer + group.layerCount; ++layer)
+        layerIDs.push_back(m_nodes.Layers()[size_t(layer)].layerID);
+    return layerIDs;
 }
 
 QModelIndex LayerTreeModel::index(int row, int column, const QModelIndex& parent) const
@@ -113,14 +105,14 @@ QModelIndex LayerTreeModel::parent(const QModelIndex& child) const
 {
     if (!child.isValid() || child.internalId() == TopLevel)
         return {};
-    return createIndex(ParentNumber(child.internalId()), 0, TopLevel);
+    return createIndex(ParentRow(child.internalId()), 0, TopLevel);
 }
 
 int LayerTreeModel::rowCount(const QModelIndex& parent) const
 {
     if (!parent.isValid())
-        return int(m_groups.empty() ? m_layers.size() : m_groups.size());
-    return parent.column() == 0 && IsGroup(parent) ? m_groups[size_t(parent.row())].layerCount : 0;
+        return HasGroups() ? m_found.rows.GroupCount() : m_found.rows.LayerCount();
+    return parent.column() == 0 && IsGroup(parent) ? m_found.rows.LayerCount(parent.row()) : 0;
 }
 
 int LayerTreeModel::columnCount(const QModelIndex&) const
@@ -168,78 +160,39 @@ QHash<int, QByteArray> LayerTreeModel::roleNames() const
 
 bool LayerTreeModel::IsGroup(const QModelIndex& index) const
 {
-    return index.internalId() == TopLevel && !m_groups.empty();
+    return index.internalId() == TopLevel && HasGroups();
 }
 
-int LayerTreeModel::NumberOf(const QModelIndex& layerIndex) const
+int LayerTreeModel::NumberOf(const QModelIndex& index) const
 {
-    if (layerIndex.internalId() == TopLevel)
-        return layerIndex.row();
-    return m_groups[size_t(ParentNumber(layerIndex.internalId()))].firstLayer + layerIndex.row();
+    if (IsGroup(index))
+        return m_found.rows.GroupAt(index.row());
+    if (index.internalId() == TopLevel)
+        return m_found.rows.LayerAt(index.row());
+    return m_found.rows.LayerAt(ParentRow(index.internalId()), index.row());
 }
 
-int LayerTreeModel::GroupOfNumber(int number) const
+QModelIndex LayerTreeModel::IndexOfLayer(int number) const
 {
-    const auto after
-        = std::upper_bound(m_groups.begin(), m_groups.end(), number, [](int wanted, const GroupNode& group) {
-              return wanted < group.firstLayer;
-          });
-    return int(after - m_groups.begin()) - 1;
-}
-
-QModelIndex LayerTreeModel::IndexOfNumber(int number) const
-{
-    if (m_groups.empty())
-        return createIndex(number, 0, TopLevel);
-    const int group = GroupOfNumber(number);
-    return createIndex(number - m_groups[size_t(group)].firstLayer, 0, ChildOf(group));
+    if (!HasGroups()) {
+        const int row = m_found.rows.RowOfLayer(number);
+        return row < 0 ? QModelIndex() : createIndex(row, 0, TopLevel);
+    }
+    const int groupRow = m_found.rows.RowOfGroup(m_nodes.GroupOf(number));
+    const int row = groupRow < 0 ? -1 : m_found.rows.RowOfLayer(number, groupRow);
+    return row < 0 ? QModelIndex() : createIndex(row, 0, ChildOf(groupRow));
 }
 
 const QString& LayerTreeModel::TextAt(const QModelIndex& index) const
 {
-    return IsGroup(index) ? m_groups[size_t(index.row())].text : m_layers[size_t(NumberOf(index))].text;
+    const auto number = size_t(NumberOf(index));
+    return IsGroup(index) ? m_nodes.Groups()[number].text : m_nodes.Layers()[number].text;
 }
 
 bool LayerTreeModel::IsFaulty(const QModelIndex& index) const
 {
-    return IsGroup(index) ? m_groups[size_t(index.row())].faulty : m_layers[size_t(NumberOf(index))].faulty;
-}
-
-const std::vector<LayerTreeModel::LayerNumber>& LayerTreeModel::ByLayerID() const
-{
-    if (m_byLayerID.size() == m_layers.size())
-        return m_byLayerID;
-    m_byLayerID.resize(m_layers.size());
-    for (size_t number = 0; number < m_layers.size(); ++number)
-        m_byLayerID[number] = {m_layers[number].layerID, int(number)};
-    std::sort(m_byLayerID.begin(), m_byLayerID.end(), [](const LayerNumber& left, const LayerNumber& right) {
-        return std::pair(left.layerID, left.number) < std::pair(right.layerID, right.number);
-    });
-    return m_byLayerID;
-}
-
-std::pair<LayerTreeModel::LayerNumbers, LayerTreeModel::LayerNumbers>
-LayerTreeModel::NumbersOf(qint32 layerID) const
-{
-    const std::vector<LayerNumber>& all = ByLayerID();
-    const auto first
-        = std::lower_bound(all.begin(), all.end(), layerID, [](const LayerNumber& left, qint32 wanted) {
-              return left.layerID < wanted;
-          });
-    const auto last = std::find_if(
-        first, all.end(), [layerID](const LayerNumber& each) { return each.layerID != layerID; });
-    return {first, last};
-}
-
-qint16 LayerTreeModel::CommonQuickMode(const GroupNode& group) const
-{
-    if (group.layerCount == 0)
-        return 0;
-    const auto first = m_layers.begin() + group.firstLayer;
-    const bool common = std::all_of(first, first + group.layerCount, [&](const LayerEntry& layer) {
-        return layer.quickMode == first->quickMode;
-    });
-    return common ? first->quickMode : QuickMode::Various;
+    const auto number = size_t(NumberOf(index));
+    return IsGroup(index) ? m_nodes.Groups()[number].faulty : m_nodes.Layers()[number].faulty;
 }
 
 } // namespace Orvane

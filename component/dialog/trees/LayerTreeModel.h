@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/FindWords.h"
+#include "component/dialog/nodes/FlatNodes.h"
+#include "component/dialog/nodes/NodeFinder.h"
+#include "component/dialog/nodes/NodeKey.h"
+#include "component/dialog/trees/NodeSelection.h"
 #include "component/model/LayerTreeEntries.h"
 
 #include <QAbstractItemModel>
@@ -13,8 +17,10 @@
 
 namespace Orvane {
 
-/// The nodes of one tree: groups with their layers, or layers alone. All nodes are held in flat vectors, so
-/// that 100,000 layers need one allocation per text and none per row. Keys are created on request.
+/// The nodes of one tree: groups with their layers, or layers alone. Keys are created on request.
+///
+/// A find shows only some of the nodes; commands reach the others too, and a group's image is that of all its
+/// layers. The find is applied again when the nodes are replaced, but not when a text changes.
 ///
 /// Commands change a layer's image or a group's text. Each command reports its changes once: one range for
 /// the groups and one for the layers of each changed group. Nothing here raises.
@@ -40,14 +46,30 @@ public:
     /// Replaces all nodes by layers without groups.
     void SetLayers(std::vector<LayerEntry> layers);
 
-    bool HasNodes() const { return !m_groups.empty() || !m_layers.empty(); }
+    /// Shows the nodes in which all words occur (see NodeFinder), and the kept nodes. Without words, all.
+    void Find(const FindWords& words);
+    /// The nodes that the next find, or the next replacement of the nodes, shows whether they are found or
+    /// not.
+    void Keep(NodeSelection kept) { m_kept = std::move(kept); }
+    const FindWords& Words() const { return m_words; }
+    /// What the last find left; the rows are this class's own business.
+    const FoundNodes& Found() const { return m_found; }
+    /// The number of layer nodes, shown or not.
+    int LayerCount() const { return int(m_nodes.Layers().size()); }
+    /// True if there is a node with the reference's identity, shown or not.
+    bool Has(const NodeReference& node) const;
+
+    bool HasNodes() const { return !m_nodes.IsEmpty(); }
     /// The node at a valid index.
     NodeReference Reference(const QModelIndex& index) const;
-    /// The first node with the reference's identity, whatever its image; invalid if there is none.
+    /// The first node with the reference's identity, whatever its image; invalid if there is none, or if it
+    /// is not shown.
     QModelIndex IndexOf(const NodeReference& node) const;
-    /// True if the layer has a node.
-    bool Lists(qint32 layerID) const;
-    /// Those of the given layers that have a node.
+    /// True if the layer has a node, shown or not.
+    bool Lists(qint32 layerID) const { return m_nodes.Lists(layerID); }
+    /// The layers of the group, shown or not.
+    std::vector<qint32> LayerIDsOf(qint32 groupID) const;
+    /// Those of the given layers that have a node, shown or not.
     QSet<qint32> LayersAmong(const QSet<qint32>& layerIDs) const;
 
     /// Gives all nodes of these layers the image of the quick mode, and updates the images of their groups.
@@ -64,7 +86,8 @@ public:
     /// Flat list only: moves the layer, which is in it, to the position of that name. Returns false and moves
     /// nothing if the texts of the other layers are not in the order of names without case.
     bool PlaceLayer(qint32 layerID, const QString& name);
-    /// Flat list only: adds the layer at its position by text and returns its index.
+    /// Flat list only: adds the layer at its position by text, if there is none, and shows it; returns its
+    /// index.
     QModelIndex InsertLayer(const LayerEntry& layer);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -76,38 +99,23 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    struct GroupNode {
-        qint32 groupID = 0;
-        qint16 image = 0;
-        int firstLayer = 0; ///< index into m_layers
-        int layerCount = 0;
-        QString text;
-        bool faulty = false;
-    };
-
-    struct LayerNumber {
-        qint32 layerID = 0;
-        int number = 0; ///< index into m_layers
-    };
-
+    bool HasGroups() const { return !m_nodes.Groups().empty(); }
     bool IsGroup(const QModelIndex& index) const;
-    int NumberOf(const QModelIndex& layerIndex) const;
-    QModelIndex IndexOfNumber(int number) const;
-    int GroupOfNumber(int number) const;
-    QModelIndex IndexOfLayer(const NodeReference& node) const;
+    int NumberOf(const QModelIndex& index) const;
+    QModelIndex IndexOfLayer(int number) const;
     const QString& TextAt(const QModelIndex& index) const;
     bool IsFaulty(const QModelIndex& index) const;
 
-    const std::vector<LayerNumber>& ByLayerID() const;
-    using LayerNumbers = std::vector<LayerNumber>::const_iterator;
-    std::pair<LayerNumbers, LayerNumbers> NumbersOf(qint32 layerID) const;
-    qint16 CommonQuickMode(const GroupNode& group) const;
+    void MoveLayer(int from, int to);
     void ReportLayers(const std::vector<int>& numbers);
+    void ReportTexts(const std::vector<int>& numbers);
     void RefreshGroupImages(const std::vector<int>& changedNumbers);
 
-    std::vector<GroupNode> m_groups;
-    std::vector<LayerEntry> m_layers; ///< of all groups, one group after the other
-    mutable std::vector<LayerNumber> m_byLayerID; ///< sorted; empty until it is needed
+    FlatNodes m_nodes;
+    NodeFinder m_finder;
+    FindWords m_words;
+    NodeSelection m_kept;
+    FoundNodes m_found;
 };
 
 } // namespace Orvane

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The commands that change single nodes.
+#include "component/dialog/nodes/NodeOrder.h"
 #include "component/dialog/trees/LayerTreeModel.h"
-#include "component/dialog/trees/NodeOrder.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -21,126 +20,132 @@ void LayerTreeModel::SetQuickMode(const std::vector<qint32>& layerIDs, qint16 qu
 
 void LayerTreeModel::SetQuickModes(const std::vector<LayerMode>& modes)
 {
-    std::vector<int> changed;
-    for (const LayerMode& mode : modes) {
-        for (auto [entry, last] = NumbersOf(mode.layerID); entry != last; ++entry) {
-            qint16& shown = m_layers[size_t(entry->number)].quickMode;
-            if (std::exchange(shown, mode.quickMode) != mode.quickMode)
-                changed.push_back(entry->number);
-        }
-    }
-    std::sort(changed.begin(), changed.end());
+    const std::vector<int> changed = m_nodes.SetModes(modes);
     ReportLayers(changed);
     RefreshGroupImages(changed);
 }
 
 void LayerTreeModel::SetLayerText(qint32 layerID, const QString& text)
 {
-    std::vector<int> changed;
-    for (auto [entry, last] = NumbersOf(layerID); entry != last; ++entry) {
-        if (std::exchange(m_layers[size_t(entry->number)].text, text) != text)
-            changed.push_back(entry->number);
-    }
-    ReportLayers(changed);
+    ReportTexts(m_nodes.SetLayerText(layerID, text));
 }
 
 void LayerTreeModel::SetLayerTexts(const QHash<qint32, QString>& texts)
 {
     std::vector<int> changed;
-    for (size_t number = 0; number < m_layers.size(); ++number) {
-        const auto text = texts.constFind(m_layers[number].layerID);
-        if (text != texts.constEnd() && std::exchange(m_layers[number].text, *text) != *text)
-            changed.push_back(int(number));
+    for (int number = 0; number < LayerCount(); ++number) {
+        const auto text = texts.constFind(m_nodes.Layers()[size_t(number)].layerID);
+        if (text != texts.constEnd() && m_nodes.SetText(number, *text))
+            changed.push_back(number);
     }
-    ReportLayers(changed);
+    ReportTexts(changed);
 }
 
 void LayerTreeModel::SetGroupText(qint32 groupID, const QString& text)
 {
-    for (size_t row = 0; row < m_groups.size(); ++row) {
-        GroupNode& group = m_groups[row];
-        if (group.groupID != groupID || std::exchange(group.text, text) == text)
-            continue;
-        const QModelIndex changed = index(int(row), 0);
-        emit dataChanged(changed, changed);
-    }
+    const int number = m_nodes.GroupWithID(groupID);
+    if (number < 0 || !m_nodes.SetGroupText(number, text))
+        return;
+    m_finder.Forget();
+    const int row = m_found.rows.RowOfGroup(number);
+    if (row >= 0)
+        emit dataChanged(index(row, 0), index(row, 0));
 }
 
 bool LayerTreeModel::UpdateLayer(const LayerEntry& layer)
 {
-    std::vector<int> changed;
-    bool isRenamed = false;
-    for (auto [entry, last] = NumbersOf(layer.layerID); entry != last; ++entry) {
-        LayerEntry& shown = m_layers[size_t(entry->number)];
-        const bool differs = shown != layer;
-        isRenamed = isRenamed || shown.text != layer.text;
-        shown = layer;
-        if (differs)
-            changed.push_back(entry->number);
-    }
-    ReportLayers(changed);
-    RefreshGroupImages(changed);
-    return isRenamed;
+    const FlatNodes::Update update = m_nodes.UpdateLayer(layer);
+    if (update.isFoundOtherwise)
+        m_finder.Forget();
+    ReportLayers(update.changed);
+    RefreshGroupImages(update.changed);
+    return update.isRenamed;
 }
 
 bool LayerTreeModel::PlaceLayer(qint32 layerID, const QString& name)
 {
-    const int from = NumbersOf(layerID).first->number;
-    const std::optional<int> to = PlaceByName(m_layers, from, name);
-    if (!to)
-        return false;
-    if (*to == from)
-        return true;
-    beginMoveRows({}, from, from, {}, *to > from ? *to + 1 : *to);
-    const auto row = m_layers.begin() + from;
-    const auto place = m_layers.begin() + *to;
-    place > row ? std::rotate(row, row + 1, place + 1) : std::rotate(place, row, row + 1);
-    m_byLayerID.clear();
+    const int from = m_nodes.LayerAt({.isGroup = false, .groupID = 0, .layerID = layerID});
+    const std::optional<int> to = PlaceByName(m_nodes.Layers(), from, name);
+    if (to && *to != from)
+        MoveLayer(from, *to);
+    return to.has_value();
+}
+
+void LayerTreeModel::MoveLayer(int from, int to)
+{
+    const int row = m_found.rows.RowOfLayer(from);
+    const int place = m_found.rows.PlaceAfterMove(from, to);
+    const bool isMoved = row >= 0 && row != place;
+    if (isMoved)
+        beginMoveRows({}, row, row, {}, place > row ? place + 1 : place);
+    m_nodes.Move(from, to);
+    m_found.rows.Move(from, to);
+    m_finder.Forget();
+    if (!isMoved)
+        return;
     endMoveRows();
-    return true;
+    if (m_found.first && !m_found.holdsOther)
+        m_found.first = Reference(index(0, 0));
 }
 
 QModelIndex LayerTreeModel::InsertLayer(const LayerEntry& layer)
 {
-    const int row = SortedRow(m_layers, layer.text);
+    int number = m_nodes.LayerAt({.isGroup = false, .groupID = 0, .layerID = layer.layerID});
+    const QModelIndex shown = IndexOfLayer(number);
+    if (shown.isValid())
+        return shown;
+    if (number < 0) {
+        number = m_nodes.Insert(layer);
+        m_found.rows.MakeRoomFor(number);
+        m_finder.Forget();
+    }
+    const int row = m_found.rows.PlaceOf(number);
     beginInsertRows({}, row, row);
-    m_byLayerID.clear();
-    m_layers.insert(m_layers.begin() + row, layer);
+    m_found.rows.Insert(number);
     endInsertRows();
     return index(row, 0);
+}
+
+void LayerTreeModel::ReportTexts(const std::vector<int>& numbers)
+{
+    if (!numbers.empty())
+        m_finder.Forget();
+    ReportLayers(numbers);
 }
 
 // One signal for each parent: a view looks up a changed row from the top, so one per row takes quadratic
 // time.
 void LayerTreeModel::ReportLayers(const std::vector<int>& numbers)
 {
-    for (auto first = numbers.begin(); first != numbers.end();) {
-        const int group = GroupOfNumber(*first);
-        auto after
-            = std::find_if(first, numbers.end(), [&](int number) { return GroupOfNumber(number) != group; });
-        emit dataChanged(IndexOfNumber(*first), IndexOfNumber(*std::prev(after)));
-        first = after;
+    for (auto next = numbers.begin(); next != numbers.end();) {
+        const int group = m_nodes.GroupOf(*next);
+        QModelIndex first;
+        QModelIndex last;
+        for (; next != numbers.end() && m_nodes.GroupOf(*next) == group; ++next) {
+            const QModelIndex shown = IndexOfLayer(*next);
+            first = first.isValid() ? first : shown;
+            last = shown.isValid() ? shown : last;
+        }
+        if (first.isValid())
+            emit dataChanged(first, last);
     }
 }
 
 void LayerTreeModel::RefreshGroupImages(const std::vector<int>& changedNumbers)
 {
-    int firstChanged = int(m_groups.size());
-    int lastChanged = -1;
+    int firstRow = -1;
+    int lastRow = -1;
     int lastSeen = -1;
     for (int number : changedNumbers) {
-        const int row = GroupOfNumber(number);
-        if (std::exchange(lastSeen, row) == row)
+        const int group = m_nodes.GroupOf(number);
+        if (std::exchange(lastSeen, group) == group || !m_nodes.RefreshImage(group))
             continue;
-        GroupNode& group = m_groups[size_t(row)];
-        const qint16 image = CommonQuickMode(group);
-        if (std::exchange(group.image, image) == image)
-            continue;
-        firstChanged = std::min(firstChanged, row);
-        lastChanged = row;
+        const int row = m_found.rows.RowOfGroup(group);
+        firstRow = firstRow < 0 ? row : firstRow;
+        lastRow = std::max(lastRow, row);
     }
-    if (lastChanged >= 0)
-        emit dataChanged(index(firstChanged, 0), index(lastChanged, 0));
+    if (lastRow >= 0)
+        emit dataChanged(index(firstRow, 0), index(lastRow, 0));
 }
 
 } // namespace Orvane

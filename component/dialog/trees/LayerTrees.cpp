@@ -5,10 +5,12 @@
 #include "component/common/EventGuard.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
+#include "component/dialog/rows/LayerSamples.h"
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTreeGestures.h"
 #include "component/dialog/trees/LayerTreeList.h"
 #include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/MissingNodes.h"
 #include "component/dialog/trees/NodeStore.h"
 #include "component/model/LayerCursors.h"
 #include "component/model/LayerTreeReader.h"
@@ -40,23 +42,12 @@ ListReading ReadLayers(const IStyleFilter* filter)
     return ReloadLayerList(Client(), filter);
 }
 
-bool Holds(const std::vector<LayerEntry>& layers, qint32 layerID)
-{
-    return std::any_of(
-        layers.begin(), layers.end(), [&](const LayerEntry& layer) { return layer.layerID == layerID; });
-}
-
-bool Holds(const std::vector<GroupEntry>& groups, const NodeReference& node)
-{
-    return std::any_of(groups.begin(), groups.end(), [&](const GroupEntry& group) {
-        return group.groupID == node.groupID && (node.isGroup || Holds(group.layers, node.layerID));
-    });
-}
-
 } // namespace
 
 LayerTrees::LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent)
-    : QObject(parent), m_groups(new LayerTreeList(groups, this)), m_layers(new LayerTreeList(layers, this))
+    : QObject(parent), m_groups(new LayerTreeList(groups, this)), m_layers(new LayerTreeList(layers, this)),
+      m_samples(
+          new LayerSamples([groups, layers] { return groups->isVisible() || layers->isVisible(); }, this))
 {
     Wire(*m_groups);
     Wire(*m_layers);
@@ -64,20 +55,24 @@ LayerTrees::LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent)
 
 void LayerTrees::Wire(LayerTreeList& list)
 {
-    connect(&list, &LayerTreeList::NodeChosen, this, [this, &list](const NodeReference& node) {
-        OnNodeChosen(list, node);
+    connect(&list, &LayerTreeList::NodesChosen, this, [this, &list](const NodeSelection& nodes) {
+        OnNodesChosen(list, nodes);
     });
     connect(&list, &LayerTreeList::CurrentClicked, this, [this, &list] {
         if (IsShown(list))
             GuardAfterEvent(this, &list.View(), [this] { emit CurrentNodeClicked(); });
     });
+    connect(&list, &LayerTreeList::NodesChanged, this, &LayerTrees::NodesChanged);
     connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByUser);
     connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
         GuardEvent(&list.View(), [&] { StoreGroupExpanded(Client(), groupID, expanded); });
     });
-    const auto mayRename = [this] { return CurrentNode() && CanEditNode(*CurrentNode()); };
+    const auto mayRename
+        = [this] { return !ChosenNodes().IsMany() && CurrentNode() && CanEditNode(*CurrentNode()); };
     auto* gestures = new LayerTreeGestures(&list.View(), mayRename, this);
     connect(gestures, &LayerTreeGestures::DeleteRequested, this, &LayerTrees::DeleteRequested);
+    WireSamples(list, *gestures);
+    connect(gestures, &LayerTreeGestures::MenuOpening, this, &LayerTrees::MenuOpening);
     // Later: the window system first gives the focus back from the menu, which would end the edit.
     connect(gestures, &LayerTreeGestures::RenameRequested, this, [this, &list] {
         GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); });
@@ -126,28 +121,32 @@ void LayerTrees::DropNameEdit()
 
 void LayerTrees::LoadGroups()
 {
-    const std::optional<NodeReference> current = m_groups->CurrentNode();
     TreeReading reading = ReadGroups();
-    if (Loses(List::Groups, !current || Holds(reading.groups, *current))) {
+    const bool asks = Loses(List::Groups, MissingIn(reading.groups, *m_groups));
+    if (asks) {
         if (!AskAboutChanges())
             return;
         reading = ReadGroups();
     }
     ReportFault(List::Groups, reading.fault);
-    Replace(List::Groups, [&] { m_groups->ShowGroups(std::move(reading.groups)); });
+    ExpireSamples();
+    Replace(
+        List::Groups, [&] { m_groups->ShowGroups(std::move(reading.groups)); }, asks);
 }
 
 void LayerTrees::LoadLayers()
 {
-    const std::optional<NodeReference> current = m_layers->CurrentNode();
     ListReading reading = ReadLayers(m_filter);
-    if (Loses(List::Layers, !current || Holds(reading.layers, current->layerID))) {
+    const bool asks = Loses(List::Layers, MissingIn(reading.layers, *m_layers));
+    if (asks) {
         if (!AskAboutChanges())
             return;
         reading = ReadLayers(m_filter);
     }
     ReportFault(List::Layers, reading.fault);
-    Replace(List::Layers, [&] { m_layers->ShowLayers(std::move(reading.layers)); });
+    ExpireSamples();
+    Replace(
+        List::Layers, [&] { m_layers->ShowLayers(std::move(reading.layers)); }, asks);
 }
 
 // After the event: the list is shown then, and the host may have called.
@@ -159,20 +158,29 @@ void LayerTrees::ReportFault(List list, const std::optional<ColumnError>& fault)
     ReportAfterEvent(this, &At(list).View(), std::make_exception_ptr(error));
 }
 
-// A current node that exists but is no longer in the list can still take its pending changes.
-bool LayerTrees::Loses(List list, bool kept) const
+// A chosen node that exists but is no longer in the list can still take its pending changes.
+bool LayerTrees::Loses(List list, const std::vector<NodeReference>& missing) const
 {
-    return !kept && list == m_shown && NodeExists(Client(), *At(list).Current());
+    const bool isNeedless = m_isPending && missing.size() > 1 && !m_isPending();
+    return list == m_shown && !isNeedless
+        && std::any_of(missing.begin(), missing.end(), [](const NodeReference& node) {
+               return NodeExists(Client(), node);
+           });
 }
 
-void LayerTrees::Replace(List list, const std::function<void()>& fill)
+void LayerTrees::Replace(List list, const std::function<void()>& fill, bool wasAsked)
 {
     LayerTreeList& target = At(list);
-    const std::optional<NodeReference> before = target.Current();
+    const NodeSelection before = target.Chosen();
+    target.KeepChosen(HasEdits(target));
     fill();
-    const std::optional<NodeReference>& after = target.Current();
-    const bool moved = before && (!after || !IsSameNode(*before, *after));
-    if (moved && list == m_shown)
+    const NodeSelection& after = target.Chosen();
+    if (list != m_shown || before.HasSameNodes(after))
+        return;
+    const bool hasShrunk = !after.IsEmpty() && before.HoldsAllOf(after);
+    if (hasShrunk && !wasAsked)
+        emit ChosenNodesGone();
+    else
         emit CurrentNodeChanged();
 }
 
@@ -205,28 +213,32 @@ std::optional<NodeReference> LayerTrees::CurrentNode() const
     return At(m_shown).CurrentNode();
 }
 
+const NodeSelection& LayerTrees::ChosenNodes() const
+{
+    return At(m_shown).Chosen();
+}
+
 QString LayerTrees::CurrentText() const
 {
     return At(m_shown).CurrentText();
 }
 
 // Do not ask a question or show an error during an event of the view: the view may be destroyed meanwhile.
-void LayerTrees::OnNodeChosen(LayerTreeList& list, const NodeReference& node)
+void LayerTrees::OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes)
 {
-    const bool waits = m_isPending && IsShown(list) && list.Current() && m_isPending();
-    if (!waits) {
-        MoveByUser(list, node);
+    if (!HasEdits(list)) {
+        MoveByUser(list, nodes);
         return;
     }
     QMetaObject::invokeMethod(
-        this, [this, &list, node] { MoveByUser(list, node); }, Qt::QueuedConnection);
+        this, [this, &list, nodes] { MoveByUser(list, nodes); }, Qt::QueuedConnection);
 }
 
-void LayerTrees::MoveByUser(LayerTreeList& list, const NodeReference& node)
+void LayerTrees::MoveByUser(LayerTreeList& list, const NodeSelection& nodes)
 {
     const QPointer<LayerTrees> self(this);
     try {
-        MoveTo(list, node);
+        MoveTo(list, nodes);
     } catch (...) {
         if (!self)
             return;
@@ -236,13 +248,13 @@ void LayerTrees::MoveByUser(LayerTreeList& list, const NodeReference& node)
 }
 
 // Returns false if this object was destroyed.
-bool LayerTrees::MoveTo(LayerTreeList& list, const NodeReference& node)
+bool LayerTrees::MoveTo(LayerTreeList& list, const NodeSelection& nodes)
 {
-    if (list.Current() && IsSameNode(*list.Current(), node))
+    if (list.Chosen().HasSameNodes(nodes))
         return true;
     if (IsShown(list) && !AskAboutChanges())
         return false;
-    if (!list.MakeCurrent(node))
+    if (!list.Choose(nodes))
         list.RefuseChoice();
     else if (IsShown(list))
         emit CurrentNodeChanged();
@@ -254,7 +266,7 @@ bool LayerTrees::AskAboutChanges()
 {
     const QPointer<LayerTrees> self(this);
     const std::function<void()> question = m_question;
-    if (question && At(m_shown).Current())
+    if (question && !At(m_shown).Chosen().IsEmpty())
         question();
     return self;
 }
@@ -298,7 +310,8 @@ void LayerTrees::ShowLayer(qint32 layerID)
         m_layers->Model().InsertLayer(*layer);
     SetLayerText(layerID, layer->text);
     SetLayerImage(layerID, layer->quickMode);
-    if (MoveTo(*m_layers, node))
+    ExpireSamples();
+    if (MoveTo(*m_layers, NodeSelection(node)))
         m_layers->ScrollToCurrent();
 }
 
@@ -334,7 +347,7 @@ bool LayerTrees::CanEditNode(const NodeReference& node) const
 
 void LayerTrees::EditCurrentName()
 {
-    const std::optional<NodeReference> node = CurrentNode();
+    const std::optional<NodeReference> node = ChosenNodes().IsMany() ? std::nullopt : CurrentNode();
     LayerTreeList& list = At(m_shown);
     const QModelIndex index = node ? list.IndexOf(*node) : QModelIndex();
     if (index.isValid() && !list.View().isPersistentEditorOpen(index) && CanEditNode(*node))
@@ -344,7 +357,8 @@ void LayerTrees::EditCurrentName()
 void LayerTrees::ExpandAll(LayerTreeList& list, bool expanded)
 {
     const BusyPointer busy;
-    StoreGroupsExpanded(Client(), list.GroupsWithout(expanded), expanded);
+    if (!list.IsFinding())
+        StoreGroupsExpanded(Client(), list.GroupsWithout(expanded), expanded);
     list.SetAllExpanded(expanded);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/dialog/nodes/NodeKey.h"
 #include "component/dialog/place/ListTab.h"
-#include "component/dialog/trees/NodeKey.h"
 #include "component/model/LayerTreeEntries.h"
 
 #include <QObject>
@@ -13,13 +13,17 @@
 #include <optional>
 #include <vector>
 
+class QMenu;
 class QTreeView;
 
 namespace Orvane {
 
 class ColumnError;
 class IStyleFilter;
+class LayerSamples;
+class LayerTreeGestures;
 class LayerTreeList;
+class NodeSelection;
 struct ListedLayer;
 
 /// The two trees of the dialog: the groups with their layers, and the flat list of layers.
@@ -29,10 +33,11 @@ struct ListedLayer;
 ///     connect(&trees, &LayerTrees::CurrentNodeChanged, this, &frmLayerStyles::LoadPanel);
 ///     trees.ShowList(LayerTrees::List::Layers);
 ///
-/// Each list has its own current node, the one that the user chose last; the dialog's current node is that of
-/// the list shown. Current node, selection and scroll position are kept on every reload and found again by
-/// identity. Reading and writing use Client(). What the database or the host raises is passed on by every
-/// member here; if a mouse or key event caused it, it is shown to the user.
+/// Each list has its own current node, the one that the user chose last, and may have several chosen nodes,
+/// of which it is one; the dialog's current node is that of the list shown. Chosen nodes, current node and
+/// scroll position are kept on every reload and found again by identity. Reading and writing use Client().
+/// What the database or the host raises is passed on by every member here; if a mouse or key event caused it,
+/// it is shown to the user.
 class LayerTrees : public QObject
 {
     Q_OBJECT
@@ -44,9 +49,9 @@ public:
     /// groups, layers: empty views; not owned; outlive this object. They are set up here.
     LayerTrees(QTreeView* groups, QTreeView* layers, QObject* parent = nullptr);
 
-    /// The question is called each time before another node becomes the dialog's current one, by a click, a
-    /// key, another list or ShowLayer; CurrentNode and CurrentText still return the old node. If it raises,
-    /// the old node stays current.
+    /// The question is called each time before other nodes are chosen in the list shown, even if only one
+    /// more or one less, by a click, a key, another list or ShowLayer; CurrentNode, ChosenNodes and
+    /// CurrentText still return the old ones. If it raises, the old nodes stay chosen.
     ///
     /// isPending: returns whether the question will wait for an answer. If so, the question is called after
     /// the mouse or key event that chose the node, so that the dialog may even be destroyed while it waits.
@@ -75,6 +80,29 @@ public:
     /// The next EnsureLoaded reads the list even if it has nodes.
     void MarkStale(List list);
 
+    /// Shows only those nodes of the list in which all words of the text occur, also when it is loaded again;
+    /// an empty text shows all, as they were before. Which groups are expanded meanwhile is not stored.
+    ///
+    /// A current node that is not found is left: the dialog shows no node until it is found again or another
+    /// one is chosen. If the question about pending changes would wait, the node stays listed until it was
+    /// asked, after the event; and if the question raises, as long as there are pending changes.
+    void Find(List list, const QString& text);
+    /// Selects the first node that was found, as a user does; false if there is none.
+    bool ChooseFirstFound(List list);
+    bool IsFinding(List list) const;
+    /// The layer nodes that were found in the list, and all of them.
+    struct FoundCount {
+        int found = 0;
+        int all = 0;
+    };
+    FoundCount CountFound(List list) const;
+
+    /// Whether each layer's row shows a sample of its line and fill; at first not. The user may switch it.
+    void ShowSamples(bool show);
+    bool ShowsSamples() const { return m_showsSamples; }
+    /// The layers' lines and fills may have changed: those of the rows in sight are read again.
+    void ExpireSamples();
+
     /// Makes the list's current node the dialog's current node, after the question if that is another node.
     /// Does not load and does not emit CurrentNodeChanged: the caller reads CurrentNode.
     void ShowList(List list);
@@ -83,6 +111,9 @@ public:
     /// The dialog's current node with the image that it shows now; nothing if no node was chosen yet or the
     /// list is empty.
     std::optional<NodeReference> CurrentNode() const;
+    /// The nodes that are chosen in the list shown, the current one among them; empty if no node was chosen
+    /// yet. All of them existed when the list was read last.
+    const NodeSelection& ChosenNodes() const;
     /// The listed text of the current node; empty if there is none.
     QString CurrentText() const;
 
@@ -120,33 +151,45 @@ public:
     void EditCurrentName();
 
 signals:
-    /// The dialog's current node has changed to another node or to none.
+    /// Other nodes are chosen now in the list shown, or none.
     void CurrentNodeChanged();
+    /// Some of the chosen nodes no longer exist and have left the selection; others are still chosen.
+    void ChosenNodesGone();
     /// The user clicked the dialog's current node again.
     void CurrentNodeClicked();
+    /// Nodes of a list were replaced or added, or a find shows others: see CountFound.
+    void NodesChanged();
     /// The user pressed Delete in a tree.
     void DeleteRequested();
+    /// The menu of the nodes in the list shown is about to open: receivers add their entries.
+    void MenuOpening(QMenu* menu);
 
 private:
     LayerTreeList& At(List list) const;
     bool IsShown(const LayerTreeList& list) const;
     void Wire(LayerTreeList& list);
+    void WireSamples(LayerTreeList& list, LayerTreeGestures& gestures);
 
-    void OnNodeChosen(LayerTreeList& list, const NodeReference& node);
-    void MoveByUser(LayerTreeList& list, const NodeReference& node);
-    bool MoveTo(LayerTreeList& list, const NodeReference& node);
+    void OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes);
+    void MoveByUser(LayerTreeList& list, const NodeSelection& nodes);
+    bool MoveTo(LayerTreeList& list, const NodeSelection& nodes);
     bool AskAboutChanges();
     bool IsListedAsBefore(qint32 layerID, const std::optional<ListedLayer>& layer) const;
     bool ShowAgain(const ListedLayer& layer);
     void ReportFault(List list, const std::optional<ColumnError>& fault);
-    bool Loses(List list, bool kept) const;
-    void Replace(List list, const std::function<void()>& fill);
+    bool Loses(List list, const std::vector<NodeReference>& missing) const;
+    void Replace(List list, const std::function<void()>& fill, bool wasAsked);
     void RenameByUser(const NodeReference& node, const QString& name);
     void RenameGroup(qint32 groupID, const QString& name);
     void ExpandAll(LayerTreeList& list, bool expanded);
+    bool HasEdits(const LayerTreeList& list) const;
+    void LeaveUnfound(List list);
+    void TryToLeaveUnfound(List list);
 
     LayerTreeList* m_groups;
     LayerTreeList* m_layers;
+    LayerSamples* m_samples;
+    bool m_showsSamples = false;
     List m_shown = List::Layers;
     std::function<void()> m_question;
     std::function<bool()> m_isPending;

@@ -43,6 +43,7 @@ bool LayerTrees::RefreshLayers(const QSet<qint32>& layerIDs)
     const bool isShown = std::all_of(reading.layers.begin(), reading.layers.end(), [this](const auto& read) {
         return IsListedAsBefore(read.first, read.second) && (!read.second || ShowAgain(*read.second));
     });
+    ExpireSamples();
     if (isShown)
         ReportFault(m_shown, reading.fault);
     return isShown;

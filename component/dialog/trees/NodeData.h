@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/NodeKey.h"
 
 #include <QString>
 #include <QVariant>

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/NodeKey.h"
 
+#include <QItemSelection>
 #include <QModelIndex>
+
+#include <functional>
 
 class QAbstractItemView;
 
@@ -18,6 +21,11 @@ NodeReference NodeAt(const QModelIndex& index);
 
 /// The index of the node; invalid if it is not in the model, or hidden.
 QModelIndex IndexOf(const QAbstractItemView& view, const NodeReference& node);
+
+/// The rows under parent for which isWanted returns true, neighbours in one range.
+QItemSelection RowsWhere(
+    const QAbstractItemModel& model, const QModelIndex& parent,
+    const std::function<bool(const QModelIndex& index)>& isWanted);
 
 } // namespace NodeIndexes
 

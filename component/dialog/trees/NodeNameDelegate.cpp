@@ -4,12 +4,22 @@
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
+#include "component/dialog/rows/LayerSamples.h"
+#include "component/dialog/rows/RowDetails.h"
+#include "component/dialog/rows/SampledIcon.h"
+#include "component/dialog/trees/MarkedNode.h"
 #include "component/dialog/trees/NodeIndexes.h"
 #include "component/dialog/trees/NodeStore.h"
 #include "messages/NameInText.h"
+#include "samples/BgrColour.h"
 
+#include <OrvaneShellLib/LayerValues.h>
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QToolTip>
 
 #include <optional>
 
@@ -48,6 +58,43 @@ std::optional<QString> EditableName(QWidget* owner, const NodeReference& node)
     return name;
 }
 
+// The key edits the node with the focus, which may be one of several, or not selected at all.
+bool IsChosenAlone(const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    if (!view)
+        return true;
+    const QItemSelection selection = view->selectionModel()->selection();
+    return selection.size() == 1 && selection.front().height() == 1 && selection.contains(index);
+}
+
+// The details are left out if they cannot be read: a tool tip is no place for an error.
+QString ToolTipOf(const QModelIndex& index)
+{
+    QString details;
+    GuardPaint([&] {
+        if (HasClient())
+            details = ReadRowDetails(Client(), NodeIndexes::NodeAt(index));
+    });
+    const QString end = QStringLiteral("</qt>");
+    QString tip = index.data(Qt::ToolTipRole).toString();
+    return tip.endsWith(end) ? tip.insert(tip.size() - end.size(), details) : tip;
+}
+
+// Still easy to read, in light palettes and in dark ones.
+void Fade(QPalette& palette)
+{
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor text = palette.color(group, QPalette::Text);
+        const QColor base = palette.color(group, QPalette::Base);
+        const auto mix = [](int one, int other) { return (one * 3 + other * 2) / 5; };
+        palette.setColor(
+            group, QPalette::Text,
+            QColor(
+                mix(text.red(), base.red()), mix(text.green(), base.green()), mix(text.blue(), base.blue())));
+    }
+}
+
 bool EndsTheEdit(int key)
 {
     return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -55,9 +102,11 @@ bool EndsTheEdit(int key)
 
 } // namespace
 
-QWidget*
-NodeNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+QWidget* NodeNameDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    if (!IsChosenAlone(option, index))
+        return nullptr;
     const std::optional<QString> name = EditableName(parent, NodeIndexes::NodeAt(index));
     m_editor = name ? new NameEditor(*name, parent) : nullptr;
     return m_editor;
@@ -97,6 +146,21 @@ void NodeNameDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const 
     emit NameEntered(NodeIndexes::NodeAt(index), name->text());
 }
 
+void NodeNameDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem node = option;
+    if (const NodeReference shown = NodeIndexes::NodeAt(index); m_samples && !shown.isGroup)
+        m_samples->Want(shown.layerID);
+    initStyleOption(&node, index);
+    const std::vector<FindWords::Piece> pieces
+        = m_words.IsEmpty() ? std::vector<FindWords::Piece>() : m_words.PiecesIn(node.text);
+    if (pieces.empty())
+        QStyledItemDelegate::paint(painter, option, index);
+    else
+        PaintMarkedNode(*painter, node, pieces);
+}
+
 void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
@@ -108,6 +172,27 @@ void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
         node.isGroup, node.image, option->palette, active ? QPalette::Active : QPalette::Inactive);
     option->decorationSize = QSize(side, side);
     option->features |= QStyleOptionViewItem::HasDecoration;
+    if (m_samples && !node.isGroup)
+        AddSample(*option, node);
+    if (node.image == QuickMode::Hidden)
+        Fade(option->palette);
+}
+
+void NodeNameDelegate::AddSample(QStyleOptionViewItem& option, const NodeReference& node) const
+{
+    const qint32 back = BgrFromQColor(option.palette.color(QPalette::Base));
+    option.icon = WithSample(option.icon, m_samples->Of(node.layerID), back, option.direction);
+    option.decorationSize = SizeWithSample(option.decorationSize);
+}
+
+bool NodeNameDelegate::helpEvent(
+    QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (event->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString tip = ToolTipOf(index);
+    QToolTip::showText(event->globalPos(), tip, view->viewport(), option.rect);
+    return true;
 }
 
 // Tab would go to the next node, and ask about pending changes. Enter would end the edit after the event,

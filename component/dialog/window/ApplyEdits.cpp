@@ -21,19 +21,38 @@ bool IsSingleMode(qint16 quickMode)
         || quickMode == QuickMode::Hidden;
 }
 
-AppliedEdits ApplyToGroup(LayerTrees& trees, const NodeReference& group, const PanelEdits& edits)
+template <typename ShowMode>
+AppliedEdits FinishMany(ApplyResult result, qint16 mode, const PanelEdits& edits, ShowMode showMode)
 {
-    ApplyResult result = ApplyGroupStyle(Client(), group.groupID, edits);
     if (!result.conflicts.empty())
         return {ApplyOutcome::Conflicts, std::move(result.conflicts)};
     if (result.layers == 0)
         return {ApplyOutcome::Gone, {}};
-    if (edits.quickMode == group.image)
+    if (edits.quickMode == mode)
         return {};
     if (!IsSingleMode(edits.quickMode))
         return {ApplyOutcome::UnexpectedMode, {}};
-    trees.SetGroupImage(group.groupID, edits.quickMode);
+    showMode();
     return {};
+}
+
+AppliedEdits ApplyToGroup(LayerTrees& trees, const NodeReference& group, const PanelEdits& edits)
+{
+    const auto showMode = [&] { trees.SetGroupImage(group.groupID, edits.quickMode); };
+    return FinishMany(ApplyGroupStyle(Client(), group.groupID, edits), group.image, edits, showMode);
+}
+
+AppliedEdits
+ApplyToLayers(LayerTrees& trees, const std::vector<qint32>& layerIDs, qint16 mode, const PanelEdits& edits)
+{
+    const auto showMode = [&] {
+        std::vector<LayerMode> modes;
+        modes.reserve(layerIDs.size());
+        for (const qint32 layerID : layerIDs)
+            modes.push_back({layerID, edits.quickMode});
+        trees.SetLayerImages(modes);
+    };
+    return FinishMany(ApplyLayersStyle(Client(), layerIDs, edits), mode, edits, showMode);
 }
 
 bool StoresCode(const PanelEdits& edits, const ApplyResult& result)
@@ -69,6 +88,15 @@ AppliedEdits ApplyEdits(LayerTrees& trees, const NodeReference& node, const Pane
     if (!node.isGroup)
         return ApplyToLayer(trees, node, edits);
     AppliedEdits applied = ApplyToGroup(trees, node, edits);
+    if (applied.outcome != ApplyOutcome::Conflicts)
+        Client().RedrawMap();
+    return applied;
+}
+
+AppliedEdits
+ApplyEdits(LayerTrees& trees, const std::vector<qint32>& layerIDs, qint16 mode, const PanelEdits& edits)
+{
+    AppliedEdits applied = ApplyToLayers(trees, layerIDs, mode, edits);
     if (applied.outcome != ApplyOutcome::Conflicts)
         Client().RedrawMap();
     return applied;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/NodeKey.h"
 #include "component/model/LayerStyleApplying.h"
 
 #include <QString>
@@ -21,8 +21,8 @@ struct PanelEdits : StyleEdits {
 
 enum class ApplyOutcome {
     Applied,
-    UnexpectedMode, ///< applied, but the group's quick mode cannot be shown
-    Gone, ///< nothing was written: the layer no longer exists, or the group has no layers
+    UnexpectedMode, ///< applied, but the quick mode of several layers cannot be shown
+    Gone, ///< nothing was written: the layers no longer exist, or the group has none
     Conflicts, ///< nothing was written: edited values were changed elsewhere
 };
 
@@ -35,5 +35,10 @@ struct AppliedEdits {
 /// and has the map redrawn once. node: its image is the mode that its rows held when they were read. Raises
 /// what the database and the host raise; for a group, nothing is written then.
 AppliedEdits ApplyEdits(LayerTrees& trees, const NodeReference& node, const PanelEdits& edits);
+
+/// The same for several layers; all are written, or none. mode: the one that their rows had in common when
+/// they were read, or various.
+AppliedEdits
+ApplyEdits(LayerTrees& trees, const std::vector<qint32>& layerIDs, qint16 mode, const PanelEdits& edits);
 
 } // namespace Orvane

@@ -16,10 +16,13 @@ namespace Orvane {
 
 EditorParts::EditorParts(QDialog& form, Ui::frmLayerStyles& ui)
     : geometry(form), layout(form, ui), trees(ui.tvLayers1, ui.tvLayers2),
+      showing(trees, *ui.tvLayers1, *ui.tvLayers2),
+      find(form, trees, {ui.txtFind1, ui.lblFound1, ui.tvLayers1}, {ui.txtFind2, ui.lblFound2, ui.tvLayers2}),
       quickModes(*ui.mstbQuickMode, {ui.Normal, ui.Backdrop, ui.Hidden}),
       commands({ui.cmdNewLayer, ui.cmdDeleteLayer, ui.lblCode}),
-      schemes({ui.cmbScheme, ui.cmdNew, ui.cmdSave, ui.cmdRevert, ui.cmdDelete, ui.cmdSaveStartup}), m_ui(ui),
-      m_slider(form)
+      schemes(
+          {ui.cmbScheme, ui.cmdNew, ui.cmdSave, ui.cmdRevert, ui.cmdDelete, ui.cmdSaveStartup, ui.cmdManage}),
+      m_ui(ui), m_slider(form)
 {
 }
 

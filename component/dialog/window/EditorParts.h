@@ -4,8 +4,10 @@
 #include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/panel/SliderPopup.h"
 #include "component/dialog/place/WindowGeometry.h"
+#include "component/dialog/showing/LayerShowing.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/window/EditorLayout.h"
+#include "component/dialog/window/FindFields.h"
 #include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/QuickModeToolbar.h"
 #include "component/dialog/window/SchemePanel.h"
@@ -34,6 +36,8 @@ public:
     WindowGeometry geometry;
     EditorLayout layout;
     LayerTrees trees;
+    LayerShowing showing;
+    FindFields find;
     PropertyPanel panel;
     QuickModeToolbar quickModes;
     LayerCommands commands;

@@ -3,21 +3,48 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/HostInterface.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
 #include "component/dialog/window/CodeLabel.h"
 #include "component/model/LayerCode.h"
 #include "component/model/LayerCursors.h"
 
+#include <OrvaneShellLib/IManyLayers.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QAbstractButton>
+#include <QLocale>
 #include <QPointer>
 
 #include <utility>
 
 namespace Orvane {
+
+namespace {
+
+QString StayingText(size_t systemLayers)
+{
+    return TranslateMsg(
+        "You may not delete a 'system layer'. Selected layers that stay: ^1.",
+        QLocale().toString(qulonglong(systemLayers)));
+}
+
+// The host may close the dialog while it asks about one of them.
+void DeleteOneByOneOrAtOnce(LayerCommands& commands, const std::vector<qint32>& layerIDs)
+{
+    auto* many = layerIDs.size() > 1 ? HostInterface<IManyLayers>() : nullptr;
+    if (many) {
+        many->DeleteLayers(layerIDs);
+        return;
+    }
+    const QPointer alive(&commands);
+    for (size_t layer = 0; layer < layerIDs.size() && alive; ++layer)
+        Client().DeleteLayer(layerIDs[layer]);
+}
+
+} // namespace
 
 LayerCommands::LayerCommands(const Widgets& widgets, QObject* parent) : QObject(parent), m_widgets(widgets)
 {
@@ -42,11 +69,20 @@ void LayerCommands::Follow(
 {
     const bool isLayer = node && !node->isGroup;
     m_node = node;
+    m_layerIDs.clear();
     m_storedCode = isLayer ? record.lsGet(Slot::Code) : Value::Null();
     if (!m_isCodeEdited)
         m_widgets.lblCode->setText(ToTextOrNone(m_storedCode));
     m_widgets.cmdDeleteLayer->setEnabled(isLayer);
     m_widgets.lblCode->setEnabled(isLayer && !isSystemLayer);
+}
+
+void LayerCommands::ShowMany(std::vector<qint32> layerIDs, const LayerStyle& record)
+{
+    Show(std::nullopt, record, false);
+    m_layerIDs = std::move(layerIDs);
+    m_widgets.lblCode->setText(ToTextOrNone(record.lsGet(Slot::Code)));
+    m_widgets.cmdDeleteLayer->setEnabled(!m_layerIDs.empty());
 }
 
 QString LayerCommands::CodeText() const
@@ -78,6 +114,10 @@ void LayerCommands::NewLayer()
 
 void LayerCommands::DeleteLayer()
 {
+    if (!m_layerIDs.empty()) {
+        DeleteMany();
+        return;
+    }
     if (!m_node || m_node->isGroup)
         return;
     const qint32 layerID = m_node->layerID;
@@ -88,7 +128,21 @@ void LayerCommands::DeleteLayer()
     const QPointer self(this); // as above
     Client().DeleteLayer(layerID);
     if (self)
-        emit DeleteAsked(layerID);
+        emit DeleteAsked({layerID});
+}
+
+void LayerCommands::DeleteMany()
+{
+    const QPointer self(this); // as above
+    const std::vector<qint32> layerIDs = WithoutSystemLayers(Client(), m_layerIDs);
+    const size_t systemLayers = m_layerIDs.size() - layerIDs.size();
+    if (systemLayers > 0)
+        ShowMessageBox(Owner(), StayingText(systemLayers), BoxStyle::OkExclamation);
+    if (!self || layerIDs.empty())
+        return;
+    DeleteOneByOneOrAtOnce(*this, layerIDs);
+    if (self)
+        emit DeleteAsked(layerIDs);
 }
 
 void LayerCommands::EditCode()

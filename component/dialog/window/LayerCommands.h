@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/NodeKey.h"
 #include "component/model/LayerStyle.h"
 
 #include <QObject>
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 class QAbstractButton;
 class QWidget;
@@ -36,6 +37,10 @@ public:
     /// its code cannot be edited.
     void Show(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
 
+    /// Shows the code that several layers have in common; it cannot be edited. layerIDs: those to delete on
+    /// DeleteLayer; empty if that is not possible.
+    void ShowMany(std::vector<qint32> layerIDs, const LayerStyle& record);
+
     /// As Show, but a code that the user has entered meanwhile stays in the label.
     void Follow(const std::optional<NodeReference>& node, const LayerStyle& record, bool isSystemLayer);
 
@@ -50,7 +55,8 @@ public:
 
     /// Creates a layer through the host.
     void NewLayer();
-    /// Deletes the node's layer through the host, unless it is a system layer; nothing for a group.
+    /// Deletes the layers shown through the host, without system layers, of which the user is told; nothing
+    /// for a group.
     void DeleteLayer();
     /// Asks for another code and puts it into the label, unless another layer has it.
     void EditCode();
@@ -62,15 +68,17 @@ signals:
     void CodeEditDropped(QWidget* label);
     /// The host created a layer.
     void LayerCreated(qint32 layerID);
-    /// The host was asked to delete a layer, and may have done so.
-    void DeleteAsked(qint32 layerID);
+    /// The host was asked to delete the layers, and may have done so.
+    void DeleteAsked(const std::vector<qint32>& layerIDs);
 
 private:
+    void DeleteMany();
     void SetCode(const QString& answer);
     QWidget* Owner() const;
 
     Widgets m_widgets;
-    std::optional<NodeReference> m_node;
+    std::optional<NodeReference> m_node; // nothing for several layers
+    std::vector<qint32> m_layerIDs; // several layers
     Value m_storedCode = Value::Null();
     bool m_isCodeEdited = false;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
 class QString;
 class QWidget;
 
@@ -15,5 +17,7 @@ enum class PendingChangesAnswer {
 
 /// Asks whether to apply the edits of a node of that kind and text. Closing the box means No.
 PendingChangesAnswer AskToApply(QWidget* owner, bool isGroup, const QString& nodeText);
+/// The same for several chosen nodes with that many layers.
+PendingChangesAnswer AskToApplyToMany(QWidget* owner, qsizetype layers);
 
 } // namespace Orvane

@@ -3,12 +3,14 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/HostInterface.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
 #include "component/dialog/window/FirstError.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
 
+#include <OrvaneShellLib/ISchemeManager.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QAbstractButton>
@@ -21,6 +23,13 @@ namespace {
 
 constexpr int NameWidth = 20;
 
+// The host's window for all schemes; nullptr if it has none.
+ISchemeManager* Manager()
+{
+    auto* manager = HostInterface<ISchemeManager>();
+    return manager && manager->CanManageSchemes() ? manager : nullptr;
+}
+
 } // namespace
 
 SchemePanel::SchemePanel(const Widgets& widgets, QObject* parent) : QObject(parent), m_widgets(widgets)
@@ -30,6 +39,10 @@ SchemePanel::SchemePanel(const Widgets& widgets, QObject* parent) : QObject(pare
     Wire(widgets.cmdRevert, &SchemePanel::Revert);
     Wire(widgets.cmdDelete, &SchemePanel::Delete);
     Wire(widgets.cmdSaveStartup, &SchemePanel::SaveToStartup);
+    widgets.cmdManage->hide(); // until it is known that the host has such a window
+    connect(widgets.cmdManage, &QAbstractButton::clicked, this, [this] {
+        GuardAfterEvent(this, Owner(), [this] { Manage(); });
+    });
     connect(widgets.cmbScheme, &QComboBox::textActivated, this, [this](const QString& name) {
         GuardAfterEvent(this, Owner(), [this, name] { SwitchTo(name); });
     });
@@ -40,6 +53,7 @@ void SchemePanel::Fill()
     const QStringList names = Client().GetSchemeNames();
     m_widgets.cmbScheme->clear();
     m_widgets.cmbScheme->addItems(names);
+    m_widgets.cmdManage->setVisible(Manager() != nullptr);
     ShowCurrent();
 }
 
@@ -138,6 +152,21 @@ void SchemePanel::SaveToStartup()
         return;
     const BusyPointer busy;
     Client().SaveSchemesToStartup();
+}
+
+void SchemePanel::Manage()
+{
+    ISchemeManager* manager = Manager();
+    if (!manager)
+        return;
+    const QPointer self(this); // as above
+    FirstError errors;
+    errors.Try([&] { manager->ManageSchemes(Owner()); });
+    if (self)
+        emit SchemeLoaded();
+    if (self)
+        errors.Try([this] { Fill(); });
+    errors.Rethrow();
 }
 
 void SchemePanel::Wire(QAbstractButton* button, void (SchemePanel::*action)())

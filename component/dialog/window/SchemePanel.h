@@ -26,6 +26,7 @@ public:
         QAbstractButton* cmdRevert;
         QAbstractButton* cmdDelete;
         QAbstractButton* cmdSaveStartup;
+        QAbstractButton* cmdManage; ///< shown only if the host has such a window
     };
 
     /// widgets: not owned; outlive this object.
@@ -43,9 +44,11 @@ public:
     void Revert();
     void Delete();
     void SaveToStartup();
+    /// Shows the host's window for all schemes, and reads everything again afterwards.
+    void Manage();
 
 signals:
-    /// The host has loaded a scheme: every layer may have changed.
+    /// The host has loaded a scheme, or its window for all schemes was shown: every layer may have changed.
     void SchemeLoaded();
 
 private:

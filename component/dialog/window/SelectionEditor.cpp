@@ -4,6 +4,7 @@
 #include "component/common/Component.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
+#include "component/dialog/showing/ChosenLayers.h"
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/trees/NodeStore.h"
@@ -12,6 +13,7 @@
 #include "component/dialog/window/LayerCommands.h"
 #include "component/dialog/window/PendingChangesPrompt.h"
 #include "component/dialog/window/QuickModeToolbar.h"
+#include "component/model/CommonMode.h"
 #include "component/model/LayerCode.h"
 #include "component/model/LayerCursors.h"
 #include "messages/NameInText.h"
@@ -19,25 +21,16 @@
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/LayerValues.h>
+#include <OrvaneShellLib/Transaction.h>
 
+#include <QLocale>
 #include <QPointer>
+#include <QScopeGuard>
+#include <QWidget>
 
-#include <algorithm>
 #include <utility>
 
 namespace Orvane {
-
-namespace {
-
-qint16 CommonMode(const std::vector<LayerMode>& modes)
-{
-    const bool isCommon = std::all_of(modes.begin(), modes.end(), [&](const LayerMode& mode) {
-        return mode.quickMode == modes.front().quickMode;
-    });
-    return isCommon && !modes.empty() ? modes.front().quickMode : QuickMode::Various;
-}
-
-} // namespace
 
 SelectionEditor::SelectionEditor(QWidget& form, const Parts& parts) : m_form(form), m_parts(parts)
 {
@@ -62,7 +55,7 @@ void SelectionEditor::Load()
 {
     Selection selection;
     try {
-        selection = Read(m_parts.trees.CurrentNode());
+        selection = Read();
     } catch (...) {
         ShowNothing();
         throw;
@@ -72,7 +65,7 @@ void SelectionEditor::Load()
 
 void SelectionEditor::Cancel()
 {
-    ShowOrNothing(Read(m_parts.trees.CurrentNode()));
+    ShowOrNothing(Read());
 }
 
 void SelectionEditor::ShowOrNothing(const Selection& selection)
@@ -89,10 +82,10 @@ void SelectionEditor::ShowOrNothing(const Selection& selection)
 
 void SelectionEditor::CoverUp()
 {
-    m_parts.quickModes.ShowMode(m_current ? m_current->image : QuickMode::Various);
+    m_parts.quickModes.ShowMode(m_shown.target.node ? m_shown.target.node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(false);
     m_parts.commands.DropCodeEdit();
-    emit Shown(m_current.has_value());
+    emit Shown(m_shown.target.node.has_value());
     SetModified(false);
 }
 
@@ -102,47 +95,49 @@ void SelectionEditor::ShowNothing()
 }
 
 // Does everything that may fail in the host before the first control changes.
-SelectionEditor::Selection SelectionEditor::Read(const std::optional<NodeReference>& node)
+SelectionEditor::Selection SelectionEditor::Read() const
 {
     const BusyPointer busy;
-    Selection selection{.node = node, .record = {}, .reading = {}};
-    if (node && node->isGroup) {
-        selection.reading = LoadGroupStyle(Client(), node->groupID, selection.record);
-        selection.node->image = CommonMode(selection.reading.modes);
-    } else if (node) {
-        selection.reading = LoadLayerStyle(Client(), node->layerID, selection.record);
-        selection.isSystemLayer = IsSystemLayer(Client(), node->layerID);
-        if (!selection.reading.modes.empty())
-            selection.node->image = selection.reading.modes.front().quickMode;
-    }
+    Selection selection;
+    selection.target = {m_parts.trees.CurrentNode(), m_parts.trees.ChosenNodes(), {}};
+    if (selection.target.nodes.IsMany())
+        ReadMany(selection);
+    else if (selection.target.node)
+        ReadOne(selection);
     return selection;
+}
+
+void SelectionEditor::ReadOne(Selection& selection)
+{
+    NodeReference& node = *selection.target.node;
+    if (node.isGroup) {
+        selection.reading = LoadGroupStyle(Client(), node.groupID, selection.record);
+        node.image = CommonMode(selection.reading.modes);
+        return;
+    }
+    selection.reading = LoadLayerStyle(Client(), node.layerID, selection.record);
+    selection.isSystemLayer = IsSystemLayer(Client(), node.layerID);
+    if (!selection.reading.modes.empty())
+        node.image = selection.reading.modes.front().quickMode;
+}
+
+void SelectionEditor::ReadMany(Selection& selection)
+{
+    Target& target = selection.target;
+    Transaction transaction(Client().GetDatabase());
+    target.layerIDs = ReadLayerIDs(Client(), target.nodes);
+    selection.reading = LoadLayersStyle(Client(), target.layerIDs, selection.record);
+    transaction.Commit();
+    target.node = target.nodes.Current();
+    target.node->image = CommonMode(selection.reading.modes);
 }
 
 void SelectionEditor::Keep(const Selection& selection)
 {
-    m_current = selection.node;
-    const qint16 mode = selection.node ? selection.node->image : QuickMode::Various;
+    m_shown = selection;
+    const qint16 mode = m_shown.target.node ? m_shown.target.node->image : QuickMode::Various;
     m_origin = {selection.record, mode, selection.reading.seen};
     m_parts.trees.SetLayerImages(selection.reading.modes);
-}
-
-// What was changed elsewhere after the user had edited it must still be found by the next apply.
-void SelectionEditor::KeepOriginOfEdits(const Origin& before)
-{
-    bool isOlder = false;
-    for (qint16 slot = 0; slot < LayerStyle::SlotCount; ++slot) {
-        const Value was = before.style.lsGet(slot);
-        if (!IsEdited(slot) || m_origin.style.Compare(slot, was))
-            continue;
-        m_origin.style.lsSet(slot, was);
-        isOlder = true;
-    }
-    if (m_parts.quickModes.IsEdited() && m_origin.mode != before.mode) {
-        m_origin.mode = before.mode;
-        isOlder = true;
-    }
-    for (SeenLayer& layer : m_origin.seen)
-        layer.fingerprint = isOlder ? 0 : layer.fingerprint; // then its values are compared
 }
 
 bool SelectionEditor::IsEdited(qint16 slot) const
@@ -152,38 +147,26 @@ bool SelectionEditor::IsEdited(qint16 slot) const
 
 std::optional<PropertyPanel::Fault> SelectionEditor::Show(const Selection& selection)
 {
-    const std::optional<NodeReference>& node = selection.node;
+    const std::optional<NodeReference>& node = selection.target.node;
     Keep(selection);
     std::optional<PropertyPanel::Fault> unshown = m_parts.panel.Show(selection.record);
     m_parts.quickModes.ShowMode(node ? node->image : QuickMode::Various);
     m_parts.quickModes.SetEnabled(node && m_tab != ListTab::Schemes);
-    m_parts.commands.Show(node, selection.record, selection.isSystemLayer);
+    ShowCommands(selection);
     emit Shown(node.has_value());
     SetModified(false);
     return unshown;
 }
 
-void SelectionEditor::Follow()
+void SelectionEditor::ShowCommands(const Selection& selection)
 {
-    if (!m_modified || !HoldsCurrentNode()) {
-        Load();
+    const Target& target = selection.target;
+    if (!target.nodes.IsMany()) {
+        m_parts.commands.Show(target.node, selection.record, selection.isSystemLayer);
         return;
     }
-    const Selection selection = Read(m_parts.trees.CurrentNode());
-    const Origin before = m_origin;
-    Keep(selection);
-    KeepOriginOfEdits(before);
-    const auto unshown = m_parts.panel.Follow(selection.record);
-    m_parts.quickModes.FollowMode(selection.node->image);
-    m_parts.commands.Follow(selection.node, selection.record, selection.isSystemLayer);
-    ReportFault(selection, unshown);
-}
-
-bool SelectionEditor::HasLayerOf(const QSet<qint32>& layerIDs) const
-{
-    return std::any_of(m_origin.seen.begin(), m_origin.seen.end(), [&](const SeenLayer& layer) {
-        return layerIDs.contains(layer.layerID);
-    });
+    const bool hasGroups = target.nodes.Nodes().back().isGroup; // they come last
+    m_parts.commands.ShowMany(hasGroups ? std::vector<qint32>() : target.layerIDs, selection.record);
 }
 
 // The same fault is reported once while the node is shown: applying another property must not repeat it.
@@ -192,7 +175,7 @@ void SelectionEditor::ReportFault(
 {
     std::optional<ColumnError> fault = selection.reading.fault;
     if (!fault && unshown)
-        fault.emplace(unshown->error, m_parts.trees.CurrentText(), ColumnOf(unshown->slot), unshown->value);
+        fault.emplace(unshown->error, NameOfShown(), ColumnOf(unshown->slot), unshown->value);
     const QString text = fault ? TextOf(*fault) : QString();
     if (std::exchange(m_reportedFault, text) != text && fault)
         throw RunTimeError(fault->Number(), text, fault->Source());
@@ -214,22 +197,30 @@ PanelEdits SelectionEditor::ReadEdits() const
     return edits;
 }
 
-bool SelectionEditor::HoldsCurrentNode() const
+bool SelectionEditor::HoldsChosenNodes() const
 {
+    const NodeSelection& chosen = m_parts.trees.ChosenNodes();
+    if (IsMany())
+        return !chosen.IsEmpty() && m_shown.target.nodes.HoldsAllOf(chosen);
     const std::optional<NodeReference> node = m_parts.trees.CurrentNode();
-    return node && m_current && IsSameNode(*node, *m_current);
+    return node && m_shown.target.node && IsSameNode(*node, *m_shown.target.node) && !chosen.IsMany();
+}
+
+QString SelectionEditor::NameOfShown() const
+{
+    return IsMany() ? NameOfLayers(Layers()) : m_parts.trees.CurrentText();
 }
 
 bool SelectionEditor::Apply()
 {
-    if (!m_modified || !HoldsCurrentNode())
+    if (!m_modified || !HoldsChosenNodes())
         return true;
     const QPointer<SelectionEditor> self(this);
     PanelEdits edits = ReadEdits();
     AppliedEdits applied = Write(edits);
     while (applied.outcome == ApplyOutcome::Conflicts) {
         const ConflictChoice choice
-            = AskAboutConflicts(m_form, m_parts.panel, m_parts.trees.CurrentText(), edits, applied.conflicts);
+            = AskAboutConflicts(m_form, m_parts.panel, NameOfShown(), edits, applied.conflicts);
         if (!self || choice == ConflictChoice::Cancel)
             return false;
         FollowChoice(choice, edits, applied.conflicts);
@@ -244,7 +235,7 @@ AppliedEdits SelectionEditor::Write(const PanelEdits& edits)
     m_modified = false;
     try {
         const BusyPointer busy;
-        AppliedEdits applied = WithColumnTexts([&] { return ApplyEdits(m_parts.trees, *m_current, edits); });
+        AppliedEdits applied = WithColumnTexts([&] { return WriteToShown(edits); });
         m_modified = applied.outcome == ApplyOutcome::Conflicts || applied.outcome == ApplyOutcome::Gone;
         return applied;
     } catch (...) {
@@ -253,34 +244,57 @@ AppliedEdits SelectionEditor::Write(const PanelEdits& edits)
     }
 }
 
+AppliedEdits SelectionEditor::WriteToShown(const PanelEdits& edits)
+{
+    const NodeReference& node = m_shown.target.node.value();
+    const auto expire = qScopeGuard([this] { m_parts.trees.ExpireSamples(); });
+    return IsMany() ? ApplyEdits(m_parts.trees, m_shown.target.layerIDs, node.image, edits)
+                    : ApplyEdits(m_parts.trees, node, edits);
+}
+
 void SelectionEditor::Finish(ApplyOutcome outcome)
 {
     if (outcome == ApplyOutcome::Gone) {
-        ReportGoneNode();
+        ReportGone();
         return;
     }
     Load();
+    emit Applied();
     if (outcome == ApplyOutcome::UnexpectedMode)
         ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
 }
 
-void SelectionEditor::ReportGoneNode()
+void SelectionEditor::ReportGone()
 {
-    const QString kind = m_current->isGroup ? TranslateMsg("group") : TranslateMsg("layer");
+    ShowMessageBox(&m_form, IsMany() ? GoneLayersText() : GoneNodeText(), BoxStyle::OkExclamation);
+}
+
+QString SelectionEditor::GoneLayersText() const
+{
+    return TranslateMsg(
+        "The selected layers (^1) no longer exist. The changes were not applied.",
+        QLocale().toString(Layers()));
+}
+
+QString SelectionEditor::GoneNodeText() const
+{
+    const NodeReference& node = m_shown.target.node.value();
+    const QString kind = node.isGroup ? TranslateMsg("group") : TranslateMsg("layer");
     const QString name = NameInQuestion(m_parts.trees.CurrentText());
-    const bool isEmptyGroup = m_current->isGroup && NodeExists(Client(), *m_current);
-    const QString text = isEmptyGroup
-        ? TranslateMsg("The group '^1' no longer has any layers. The changes were not applied.", name)
-        : TranslateMsg("The ^1 '^2' no longer exists. The changes were not applied.", kind, name);
-    ShowMessageBox(&m_form, text, BoxStyle::OkExclamation);
+    if (node.isGroup && NodeExists(Client(), node))
+        return TranslateMsg("The group '^1' no longer has any layers. The changes were not applied.", name);
+    return TranslateMsg("The ^1 '^2' no longer exists. The changes were not applied.", kind, name);
 }
 
 bool SelectionEditor::ConfirmPendingChanges()
 {
-    if (!m_modified || !HoldsCurrentNode())
+    if (!m_modified || !HoldsChosenNodes())
         return true;
     const QPointer<SelectionEditor> self(this);
-    switch (AskToApply(&m_form, m_current->isGroup, m_parts.trees.CurrentText())) {
+    const PendingChangesAnswer answer = IsMany()
+        ? AskToApplyToMany(&m_form, Layers())
+        : AskToApply(&m_form, m_shown.target.node->isGroup, m_parts.trees.CurrentText());
+    switch (answer) {
     case PendingChangesAnswer::Yes:
         if (!Apply() && self) // the node stays, and with it the edits
             throw RunTimeError(ErrorNumber::DatabaseFailure, TranslateMsg("The changes were not applied."));

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "component/dialog/nodes/NodeKey.h"
 #include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/place/ListTab.h"
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/trees/NodeSelection.h"
 #include "component/model/LayerStyle.h"
 #include "component/model/LayerStyleApplying.h"
 #include "component/model/LayerStyleLoading.h"
@@ -12,6 +13,7 @@
 #include <QSet>
 
 #include <optional>
+#include <vector>
 
 class QWidget;
 
@@ -24,10 +26,11 @@ struct AppliedEdits;
 struct PanelEdits;
 enum class ApplyOutcome;
 
-/// What the dialog edits: the current node, the selection record, and whether the controls hold edits that
+/// What the dialog edits: the chosen nodes, the selection record, and whether the controls hold edits that
 /// are not applied yet.
 ///
-/// Loading a node copies its values from the database to the record and to the controls; applying copies them
+/// One node is edited as itself; several nodes as the layers that they stood for when they were read. Loading
+/// copies their values from the database to the record and to the controls; applying copies them
 /// from the controls to the database. All members may raise what the host and its database raise; the edits
 /// are then kept, except after Load.
 class SelectionEditor : public QObject
@@ -35,7 +38,7 @@ class SelectionEditor : public QObject
     Q_OBJECT
 
 public:
-    /// The parts that show the current node, and those that provide it.
+    /// The parts that show the chosen nodes, and those that provide them.
     struct Parts {
         LayerTrees& trees;
         PropertyPanel& panel;
@@ -55,24 +58,27 @@ public:
     /// The tab determines what can be edited; it takes effect with the next load.
     void SetTab(ListTab tab) { m_tab = tab; }
 
-    /// Shows the dialog's current node. If it cannot be read, nothing is shown, not another node's values.
+    /// Shows the dialog's chosen nodes. If one cannot be read, nothing is shown, not other nodes' values.
     void Load();
-    /// As Load, but if the node cannot be read, the edits stay.
+    /// As Load, but if a node cannot be read, the edits stay.
     void Cancel();
-    /// Reads the current node again; the controls that the user has edited keep their values.
+    /// Reads the chosen nodes again; the controls that the user has edited keep their values.
     void Follow();
-    /// True if the node that is shown is one of these layers, or a group with one of them.
-    bool HasLayerOf(const QSet<qint32>& layerIDs) const;
+    /// As Follow, after these layers have changed and no others: of many layers that are shown, it reads only
+    /// these where it can.
+    void FollowLayers(const QSet<qint32>& layerIDs);
+    /// As Follow, after the quick modes of layers were changed at once: the mode shown is the stored one.
+    void FollowModes();
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
     /// the code, which stay in sight, are those that were read.
     void CoverUp();
     /// Shows that no node is selected. Never raises.
     void ShowNothing();
 
-    /// Writes the edits to the layers of the current node and then shows what is stored; does nothing without
+    /// Writes the edits to the layers of the chosen nodes and then shows what is stored; does nothing without
     /// edits. Where edited values were changed elsewhere, the host is asked first, who may destroy the form.
-    /// If the node is gone, or a group has no layers left, the user is told, and the edits stay. False if the
-    /// user cancelled or the form was destroyed.
+    /// If all layers are gone, the user is told, and the edits stay. False if the user cancelled or the form
+    /// was destroyed.
     bool Apply();
 
     /// If there are edits, asks whether to apply them and does so if the answer is Yes. False if the form was
@@ -82,12 +88,21 @@ public:
 signals:
     /// The controls now hold edits, or no longer hold any.
     void ModifiedChanged(bool modified);
-    /// Another node is shown, or none.
+    /// Edits were stored, and what is stored is shown.
+    void Applied();
+    /// Other nodes are shown, or none.
     void Shown(bool isNode);
 
 private:
+    /// What is shown and edited: one node, several, or none.
+    struct Target {
+        std::optional<NodeReference> node; ///< its image is the mode that the rows hold; of several, one
+        NodeSelection nodes;
+        std::vector<qint32> layerIDs; ///< of several nodes
+    };
+
     struct Selection {
-        std::optional<NodeReference> node; ///< its image is the mode that its rows hold
+        Target target;
         LayerStyle record;
         ReadingResult reading;
         bool isSystemLayer = false;
@@ -97,26 +112,40 @@ private:
     struct Origin {
         LayerStyle style;
         qint16 mode = 0;
-        std::vector<SeenLayer> seen; ///< the layers of the node
+        std::vector<SeenLayer> seen; ///< the layers of the nodes
     };
 
-    static Selection Read(const std::optional<NodeReference>& node);
+    /// True if the node that is shown is one of these layers, or a group with one of them.
+    bool HasLayerOf(const QSet<qint32>& layerIDs) const;
+    bool RereadLayers(const QSet<qint32>& layerIDs, Selection& selection) const;
+    void FollowTo(const Selection& selection);
+    Selection Read() const;
+    static void ReadOne(Selection& selection);
+    static void ReadMany(Selection& selection);
     std::optional<PropertyPanel::Fault> Show(const Selection& selection);
     void ShowOrNothing(const Selection& selection);
     void ReportFault(const Selection& selection, const std::optional<PropertyPanel::Fault>& unshown);
+    void ShowCommands(const Selection& selection);
     PanelEdits ReadEdits() const;
-    /// Edits are applied to the node that they were made for, or not at all.
-    bool HoldsCurrentNode() const;
+    /// Edits are applied to the nodes that they were made for, or to what is left of them, or not at all.
+    bool HoldsChosenNodes() const;
+    bool IsMany() const { return m_shown.target.nodes.IsMany(); }
+    qsizetype Layers() const { return qsizetype(m_origin.seen.size()); }
+    QString NameOfShown() const;
     void Keep(const Selection& selection);
     void KeepOriginOfEdits(const Origin& before);
     bool IsEdited(qint16 slot) const;
+    bool HasEditedSlot() const;
     AppliedEdits Write(const PanelEdits& edits);
+    AppliedEdits WriteToShown(const PanelEdits& edits);
     void Finish(ApplyOutcome outcome);
-    void ReportGoneNode();
+    void ReportGone();
+    QString GoneNodeText() const;
+    QString GoneLayersText() const;
 
     QWidget& m_form;
     Parts m_parts;
-    std::optional<NodeReference> m_current; // as it was when the record was read
+    Selection m_shown; // as it was read
     Origin m_origin;
     QString m_reportedFault; // of the node shown
     ListTab m_tab = ListTab::Groups;

@@ -16,8 +16,19 @@
 
 #include <QPointer>
 #include <QTimer>
+#include <QTreeView>
 
 namespace Orvane {
+
+namespace {
+
+QWidget& ListOn(QWidget& page)
+{
+    auto* list = page.findChild<QTreeView*>();
+    return list ? *list : page;
+}
+
+} // namespace
 
 frmLayerStyles::frmLayerStyles(QWidget* parent)
     : StyleEditorWindow(parent), m_ui(std::make_unique<Ui::frmLayerStyles>()), m_tab(ListTab::Groups)
@@ -60,7 +71,11 @@ void frmLayerStyles::Wire()
     // Not guarded: the code that chose the node is guarded, and in a call from the host the host gets the
     // error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
+    connect(m_selection.get(), &SelectionEditor::Applied, &m_parts->showing, &LayerShowing::ReadShown);
     connect(&m_parts->trees, &LayerTrees::CurrentNodeClicked, m_selection.get(), &SelectionEditor::Follow);
+    connect(&m_parts->trees, &LayerTrees::ChosenNodesGone, m_selection.get(), &SelectionEditor::Follow);
+    m_parts->showing.SetPendingEdits([this] { return m_selection->IsModified(); });
+    connect(&m_parts->showing, &LayerShowing::ModesChanged, m_selection.get(), &SelectionEditor::FollowModes);
 }
 
 // Only the first is guarded here: the commands guard themselves.
@@ -90,7 +105,9 @@ void frmLayerStyles::Initialise()
 {
     m_parts->layout.SetExpanded(true);
     m_styleCommandPrefix = Client().StyleCommandPrefix();
-    m_parts->quickModes.SetAllowed(Client().QuickModesAllowed());
+    const bool hasQuickModes = Client().QuickModesAllowed();
+    m_parts->quickModes.SetAllowed(hasQuickModes);
+    m_parts->showing.SetAllowed(hasQuickModes);
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
     m_parts->JoinPropertyEditors(m_styleCommandPrefix);
@@ -115,6 +132,8 @@ void frmLayerStyles::Retranslate()
     ReloadMessages();
     TranslateForm(*this);
     m_parts->panel.Retranslate();
+    m_parts->find.Retranslate();
+    m_parts->showing.Retranslate();
     m_parts->layout.FitTexts();
     UpdateCaption();
 }
@@ -212,7 +231,7 @@ void frmLayerStyles::EnableButtons(bool modified)
     m_ui->cmdApply->setEnabled(modified);
     m_ui->cmdCancel->setEnabled(modified);
     if (losesFocus)
-        m_ui->stkLists->currentWidget()->setFocus();
+        ListOn(*m_ui->stkLists->currentWidget()).setFocus();
 }
 
 void frmLayerStyles::ShowCover(bool isNode)
@@ -227,13 +246,20 @@ void frmLayerStyles::LoadList()
     if (m_tab == ListTab::Schemes)
         m_parts->schemes.Fill();
     else
-        m_parts->trees.EnsureLoaded(m_tab);
+        LoadNodes();
 }
 
-void frmLayerStyles::OnDeleteAsked(qint32 layerID)
+void frmLayerStyles::LoadNodes()
 {
-    const bool isGone = !SeekID(*OpenLayersByID(Client()), layerID);
-    if (isGone)
+    const QPointer self(this); // as in ShowTab
+    m_parts->trees.EnsureLoaded(m_tab);
+    if (self)
+        m_parts->showing.ReadShown();
+}
+
+void frmLayerStyles::OnDeleteAsked(const std::vector<qint32>& layerIDs)
+{
+    if (!AnyLayerExists(Client(), layerIDs))
         m_selection->SetModified(false);
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);

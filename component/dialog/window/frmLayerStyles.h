@@ -93,7 +93,8 @@ private:
     void EnableButtons(bool modified);
     void ShowCover(bool isNode);
     void LoadList();
-    void OnDeleteAsked(qint32 layerID);
+    void LoadNodes();
+    void OnDeleteAsked(const std::vector<qint32>& layerIDs);
     void OnSchemeLoaded();
 
     std::unique_ptr<Ui::frmLayerStyles> m_ui;

@@ -155,10 +155,13 @@ void frmLayerStyles::IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layer
     WithTranslatedErrors([&] {
         if (!m_initialised || m_unloaded)
             return;
-        if (!m_parts->trees.RefreshLayers(layerIDs))
+        if (!m_parts->trees.RefreshLayers(layerIDs)) {
             IStyleEditorForm_Refresh();
-        else if (m_tab != ListTab::Schemes && m_selection->HasLayerOf(layerIDs))
-            m_selection->Follow();
+            return;
+        }
+        m_parts->showing.ReadShown();
+        if (m_tab != ListTab::Schemes)
+            m_selection->FollowLayers(layerIDs);
     });
 }
 

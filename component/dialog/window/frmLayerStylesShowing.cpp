@@ -32,6 +32,7 @@ void frmLayerStyles::RestoreViewState()
 {
     const ViewState state = ViewState::FromText(Client().ReadSetting(this, SettingKey(EditorID())));
     SelectTab(m_filter && m_filter->ShowsGroups() ? ListTab::Groups : state.tab);
+    m_parts->trees.ShowSamples(state.samples);
     if (state.expanded)
         m_parts->layout.SetExpanded(*state.expanded);
     if (state.size)
@@ -41,7 +42,7 @@ void frmLayerStyles::RestoreViewState()
 QString frmLayerStyles::ViewStateText() const
 {
     const bool expanded = m_initialised && m_parts->layout.Expanded();
-    const ViewState state{m_parts->geometry.Current(), expanded, m_tab};
+    const ViewState state{m_parts->geometry.Current(), expanded, m_tab, m_parts->trees.ShowsSamples()};
     return state.ToText();
 }
 

@@ -6,6 +6,11 @@
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IEditorWatch.h>
+#include <OrvaneShellLib/IManyLayers.h>
+#include <OrvaneShellLib/IMapNotes.h>
+#include <OrvaneShellLib/IMapScale.h>
+#include <OrvaneShellLib/INodeCommands.h>
+#include <OrvaneShellLib/ISchemeManager.h>
 
 #include <gtest/gtest.h>
 
@@ -41,6 +46,17 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_EQ(HostInterface<IEditorWatch>(), nullptr);
     Use(m_client, IEditorWatch::ContractMinor);
     EXPECT_NE(HostInterface<IEditorWatch>(), nullptr);
+    EXPECT_EQ(HostInterface<IManyLayers>(), nullptr);
+    EXPECT_EQ(HostInterface<IMapScale>(), nullptr);
+    EXPECT_EQ(HostInterface<ISchemeManager>(), nullptr);
+    Use(m_client, IManyLayers::ContractMinor);
+    EXPECT_NE(HostInterface<IManyLayers>(), nullptr);
+    Use(m_client, IMapScale::ContractMinor);
+    EXPECT_NE(HostInterface<IMapScale>(), nullptr);
+    Use(m_client, ISchemeManager::ContractMinor);
+    EXPECT_NE(HostInterface<ISchemeManager>(), nullptr);
+    EXPECT_NE(HostInterface<IMapNotes>(), nullptr);
+    EXPECT_NE(HostInterface<INodeCommands>(), nullptr);
 }
 
 TEST_F(HostInterfaces, AreNotAskedOfAnOlderHost)

@@ -74,6 +74,26 @@ TEST_F(RefreshingLayers, ShowsTheNewValuesOfTheCurrentGroup)
     EXPECT_EQ(CheckState("chkVisible"), 1);
 }
 
+TEST_F(RefreshingLayers, ReadsOnlyTheChangedLayersOfTheCurrentGroup)
+{
+    host.AddLayer({.id = 50, .name = "Paths", .code = qint32(50)});
+    host.AddGroup({.id = 40, .name = QString("Ways"), .ordering = 4, .members = {1, 3, 50}});
+    EditorForm().Refresh();
+    ClickTab(1);
+    ClickGroup("Ways");
+    ASSERT_EQ(CheckState("chkVisible"), 1);
+    host.SetLayerColumn(50, "Visible", false);
+    host.ClearLog();
+    Refresh({50});
+    EXPECT_EQ(host.Log().CallsTo("Seek").size(), 1);
+    EXPECT_EQ(CheckState("chkVisible"), 2);
+    Click("chkSelectable");
+    host.SetLayerColumn(3, "Locked", true);
+    Refresh({3});
+    EXPECT_EQ(CheckState("chkLocked"), 2);
+    EXPECT_TRUE(IsUnderlined("chkSelectable"));
+}
+
 TEST_F(RefreshingLayers, ReadsOnlyTheRowsThatItWasGiven)
 {
     host.ClearLog();

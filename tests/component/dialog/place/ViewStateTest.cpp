@@ -98,6 +98,16 @@ TEST(ViewState, WritesLargeAndSmallNumbersWithoutAnExponent)
     EXPECT_EQ(state.ToText(), "16777216000:0.00001:SCHEMES:EXPANDED");
 }
 
+TEST(ViewState, AWordMoreTellsThatTheListsShowSamples)
+{
+    ViewState state{WindowSize{9000, 7000}, false, ListTab::Groups};
+    state.samples = true;
+    EXPECT_EQ(state.ToText(), "9000:7000:GROUPS:NOT EXPANDED:LINE AND FILL");
+    EXPECT_EQ(ViewState::FromText(state.ToText()), state);
+    EXPECT_EQ(ViewState::FromText("::LAYERS:EXPANDED:LINE AND FILL").samples, true);
+    EXPECT_EQ(ViewState::FromText("9000:7000:GROUPS:EXPANDED:LINE").samples, false);
+}
+
 TEST(ViewState, ComesBackTheSameFromItsText)
 {
     std::mt19937 random(7);

@@ -102,21 +102,27 @@ protected:
 
 } // namespace
 
-TEST_F(LayerTreesMenuTest, OffersRenamingAndExpandingInTheGroupsTree)
+TEST_F(LayerTreesMenuTest, OffersRenamingExpandingAndChoosingInTheGroupsTree)
 {
     Open(List::Groups);
     QMenu* menu = MenuByMouse(groups, "Transport");
     ASSERT_TRUE(menu);
-    EXPECT_THAT(Items(*menu), ElementsAre("Edit Name", "-", "Expand All", "Collapse All"));
+    EXPECT_THAT(
+        Items(*menu),
+        ElementsAre(
+            "Edit Name", "-", "Expand All", "Collapse All", "-", "Select All in Group", "Select All",
+            "Invert Selection", "-", "Show Line and Fill"));
     EXPECT_EQ(trees.CurrentText(), "Transport");
 }
 
-TEST_F(LayerTreesMenuTest, OffersRenamingOnlyInTheFlatList)
+TEST_F(LayerTreesMenuTest, OffersRenamingAndChoosingInTheFlatList)
 {
     Open(List::Layers);
     QMenu* menu = MenuByMouse(layers, "Rails");
     ASSERT_TRUE(menu);
-    EXPECT_THAT(Items(*menu), ElementsAre("Edit Name"));
+    EXPECT_THAT(
+        Items(*menu),
+        ElementsAre("Edit Name", "-", "Select All", "Invert Selection", "-", "Show Line and Fill"));
 }
 
 TEST_F(LayerTreesMenuTest, OpensTheNameEditor)
@@ -170,6 +176,18 @@ TEST_F(LayerTreesMenuTest, ExpandsAllGroupsAndStoresThemTogether)
     EXPECT_TRUE(IsStoredExpanded(2));
     EXPECT_EQ(host.Log().CallsTo("BeginTrans").size(), 1);
     EXPECT_EQ(host.Log().CallsTo("Update").size(), 1); // the other one was expanded already
+}
+
+TEST_F(LayerTreesMenuTest, StoresNoExpansionDuringAFind)
+{
+    Open(List::Groups);
+    trees.Find(List::Groups, "roads");
+    QMenu* menu = MenuByMouse(groups, "Transport");
+    ASSERT_TRUE(menu);
+    Choose(*menu, "Collapse All");
+    EXPECT_THAT(Lines(groups), ElementsAre("Transport", "Water"));
+    EXPECT_TRUE(IsStoredExpanded(2));
+    EXPECT_EQ(host.Log().CallsTo("Update").size(), 0);
 }
 
 TEST_F(LayerTreesMenuTest, CollapsesAllGroupsAndKeepsTheCurrentLayer)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "component/dialog/trees/ChoosingCommands.h"
 #include "component/dialog/trees/LayerTreeList.h"
 #include "component/dialog/trees/LayerTreeModel.h"
 
@@ -47,13 +48,32 @@ std::vector<GroupEntry> ManyGroups(bool expanded)
     return groups;
 }
 
+std::vector<LayerEntry> ManyLayers()
+{
+    std::vector<LayerEntry> layers;
+    for (qint32 layerID = 1; layerID <= GroupCount * LayersOfEach; ++layerID)
+        layers.push_back({layerID, 1, QStringLiteral("Layer %1").arg(layerID)});
+    return layers;
+}
+
 class LayerTreesScaleTest : public testing::Test
 {
 protected:
     CountingView view;
     LayerTreeList list{&view};
 
+    std::vector<NodeSelection> chosen;
+
     void TearDown() override { view.close(); }
+
+    /// Accepts and notes each choice.
+    void AcceptChoices()
+    {
+        QObject::connect(&list, &LayerTreeList::NodesChosen, &list, [this](const NodeSelection& nodes) {
+            chosen.push_back(nodes);
+            list.Choose(nodes);
+        });
+    }
 
     void Show()
     {
@@ -124,6 +144,41 @@ TEST_F(LayerTreesScaleTest, ALayerAtTheEndIsFoundAndKeptAcrossAReload)
     EXPECT_EQ(view.layouts, 1);
     EXPECT_EQ(list.CurrentNode(), last);
     EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())));
+}
+
+TEST_F(LayerTreesScaleTest, AllNodesAreChosenAtOnceAndKeptAcrossAReload)
+{
+    Show();
+    list.ShowGroups(ManyGroups(true));
+    AcceptChoices();
+    view.setCurrentIndex(list.Model().index(0, 0));
+    chosen.clear();
+    Measure("choose all groups", [&] { ChoosingCommands::SelectAll(view); });
+    EXPECT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount));
+    Measure("reload with all groups", [&] { list.ShowGroups(ManyGroups(true)); });
+    EXPECT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount));
+    list.MakeCurrent({.isGroup = false, .groupID = 2, .layerID = LayersOfEach + 1});
+    Measure("invert", [&] { ChoosingCommands::InvertSelection(view); });
+    EXPECT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount - 1 + LayersOfEach - 1));
+    EXPECT_EQ(chosen.size(), 2U);
+}
+
+TEST_F(LayerTreesScaleTest, AHundredThousandLayersOfAFlatListAreChosenByKeys)
+{
+    Show();
+    list.ShowLayers(ManyLayers());
+    AcceptChoices();
+    view.setCurrentIndex(list.Model().index(0, 0));
+    chosen.clear();
+    Measure("choose all layers", [&] { QTest::keyClick(&view, Qt::Key_A, Qt::ControlModifier); });
+    ASSERT_EQ(chosen.size(), 1U);
+    EXPECT_EQ(chosen.front().Nodes().size(), size_t(GroupCount * LayersOfEach));
+    Measure("reload with all layers", [&] { list.ShowLayers(ManyLayers()); });
+    EXPECT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount * LayersOfEach));
+    EXPECT_EQ(chosen.size(), 1U);
+    Measure("one less", [&] { QTest::keyClick(&view, Qt::Key_Space, Qt::ControlModifier); });
+    EXPECT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount * LayersOfEach - 1));
 }
 
 } // namespace Orvane

@@ -6,6 +6,9 @@
 
 #include <OrvaneShellLib/ForwardingClient.h>
 
+#include <QTreeView>
+#include <QtTest>
+
 namespace Orvane::Testing {
 
 namespace {
@@ -71,6 +74,28 @@ TEST_F(Conflicts, AreDescribedAsTheUserSeesThem)
     EXPECT_EQ(client.asked[1].mine, "Hidden");
     EXPECT_EQ(client.asked[1].stored, "Backdrop");
     EditorForm().UnloadWithoutApply();
+}
+
+TEST_F(Conflicts, OfSeveralLayersNameTheirNumberAndLeaveAllAsStored)
+{
+    host.SetLayerColumn(1, "Priority", qint32(5));
+    host.SetLayerColumn(2, "Priority", qint32(5));
+    auto& tree = Find<QTreeView>("tvLayers2");
+    ClickLayer("Rivers");
+    QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+    ChooseScale("cmdEditPriority", 17);
+    host.SetLayerColumn(1, "Priority", qint32(9));
+    Click("cmdApply");
+    EXPECT_EQ(client.node, "2 layers");
+    ASSERT_EQ(client.asked.size(), 1U);
+    EXPECT_EQ(client.asked[0].stored, "9");
+    EXPECT_EQ(client.asked[0].layers, 1);
+    EXPECT_EQ(Stored(2, "Priority"), 5);
+    EXPECT_TRUE(CanApply());
+    client.choice = ConflictChoice::Overwrite;
+    Click("cmdApply");
+    EXPECT_EQ(Stored(1, "Priority"), 17);
+    EXPECT_EQ(Stored(2, "Priority"), 17);
 }
 
 TEST_F(Conflicts, AreNotAskedAboutInAHostThatIsOlderThanTheQuestion)

@@ -2,6 +2,10 @@
 #include "component/dialog/EditorFixture.h"
 #include "support/Without.h"
 
+#include <OrvaneShellLib/ForwardingClient.h>
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -311,6 +315,75 @@ TEST_F(Schemes, ACurrentOneThatIsNotListedOffersNothingToSave)
     Click("cmdNew");
     EXPECT_EQ(List().currentIndex() >= 0, host.currentScheme == "Winter");
     EXPECT_EQ(IsEnabled("cmdSave"), host.currentScheme == "Winter");
+}
+
+TEST_F(Schemes, OfAHostWithoutAWindowForThemHaveNoButtonForIt)
+{
+    EXPECT_FALSE(Find("cmdManage").isVisible());
+}
+
+class ManagingClient : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+    std::function<void(QWidget* form)> OnManage = [](QWidget*) {};
+
+private:
+    bool ISchemeManager_CanManageSchemes() const override { return true; }
+    void ISchemeManager_ManageSchemes(QWidget* form) override { OnManage(form); }
+};
+
+class ManagedSchemes : public Schemes
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        Schemes::SetUp();
+    }
+
+    ManagingClient client{host};
+};
+
+TEST_F(ManagedSchemes, AreReadAgainAfterTheHostsWindow)
+{
+    QWidget* owner = nullptr;
+    client.OnManage = [&](QWidget* form) {
+        owner = form;
+        host.schemeNames = QStringList{"Day", "Dusk"};
+        host.currentScheme = "Dusk";
+    };
+    Click("cmdManage");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return owner != nullptr; }));
+    EXPECT_EQ(owner, Form());
+    EXPECT_THAT(Names(), ElementsAre("Day", "Dusk"));
+    EXPECT_EQ(List().currentText(), "Dusk");
+}
+
+TEST_F(ManagedSchemes, AreReadAgainAfterAWindowThatFailed)
+{
+    client.OnManage = [&](QWidget*) {
+        host.schemeNames = QStringList{"Dusk"};
+        host.currentScheme = "Dusk";
+        throw RunTimeError(10001, QStringLiteral("the disk is full"));
+    };
+    MessageBoxRobot user{BoxKey::Enter};
+    Find<QAbstractButton>("cmdManage").setFocus();
+    QTest::keyClick(&Find("cmdManage"), Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !user.Boxes().empty(); }));
+    EXPECT_EQ(user.Only().text, "the disk is full");
+    EXPECT_THAT(Names(), ElementsAre("Dusk"));
+}
+
+TEST_F(ManagedSchemes, MayEndTheEditorMeanwhile)
+{
+    bool wasAsked = false;
+    client.OnManage = [&](QWidget*) {
+        Close();
+        wasAsked = true;
+    };
+    Click("cmdManage");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wasAsked; }));
 }
 
 } // namespace

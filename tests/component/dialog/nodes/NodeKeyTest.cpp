@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/trees/NodeKey.h"
+#include "component/dialog/nodes/NodeKey.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

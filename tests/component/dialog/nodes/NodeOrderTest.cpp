@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/trees/NodeOrder.h"
+#include "component/dialog/nodes/NodeOrder.h"
 
 #include <gtest/gtest.h>
 
