@@ -7,6 +7,7 @@
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/actions/DataActions.h"
+#include "shell/actions/DockChoice.h"
 #include "shell/actions/EditActions.h"
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
@@ -16,6 +17,7 @@
 #include "shell/map/MapSharing.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
+#include "shell/window/DroppedFiles.h"
 #include "shell/window/EmptyMapHint.h"
 #include "shell/window/Icons.h"
 #include "shell/window/MapStatus.h"
@@ -31,7 +33,6 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QUrl>
 
 namespace Orvane {
 
@@ -45,16 +46,6 @@ bool IsMapFile(const QString& path)
     return QFileInfo(path).suffix() == QLatin1String(MapSuffix);
 }
 
-QStringList LocalFiles(const QMimeData& data)
-{
-    QStringList paths;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    return paths;
-}
-
 } // namespace
 
 MainWindow::MainWindow(CallTrace* trace)
@@ -66,19 +57,22 @@ MainWindow::MainWindow(CallTrace* trace)
     SetIcons();
     m_status = new MapStatus(*statusBar(), Canvas());
     m_hint = std::make_unique<EmptyMapHint>(Canvas());
-    m_edits = std::make_unique<EditActions>(EditActions::Actions{m_ui->actUndo, m_ui->actRedo}, *this);
+    m_edits = std::make_unique<EditActions>(
+        EditActions::Actions{m_ui->actUndo, m_ui->actRedo, m_ui->actUndoOpening}, *this);
     m_data = std::make_unique<DataActions>(*m_ui->menuFile, m_ui->actOpenData, *this);
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
     m_sharing = std::make_unique<MapSharing>(*this, [this] { ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
+    m_dock = std::make_unique<DockChoice>(*m_ui->actDockLayerControl, *this);
     ConnectActions();
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
     ShareKeys();
     WindowPlace::Restore(*this);
+    m_dock->NoteRestored();
     Use(MapDocument::Untitled());
 }
 
@@ -158,13 +152,20 @@ void MainWindow::ShowLayerControl()
     m_session->Shell().RaiseEditor(QStringLiteral("Main"));
 }
 
+void MainWindow::ShowLayerControlAgain()
+{
+    if (m_dock->WasOpen())
+        ShowLayerControl();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    const WindowPlace::Place place = WindowPlace::Of(*this); // with the dock, which closes with the map
     bool left = false;
     Guard(this, [&] { left = LeaveMap(); });
     event->setAccepted(left);
     if (left)
-        WindowPlace::Store(*this);
+        WindowPlace::Store(place);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -201,6 +202,7 @@ void MainWindow::ConnectActions()
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
     connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
     connect(m_ui->actZoomAll, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomToAll);
+    connect(m_dock.get(), &DockChoice::EditorWanted, m_ui->actLayerControl, &QAction::trigger);
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
     connect(
@@ -287,7 +289,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     m_layerControl.Use(*session); // first: it still uses the client of the old session
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
-    handOver(*m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing);
+    handOver(
+        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

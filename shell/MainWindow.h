@@ -17,6 +17,7 @@ namespace Orvane {
 
 class CallTrace;
 class DataActions;
+class DockChoice;
 class EditActions;
 class EmptyMapHint;
 class MapCanvas;
@@ -55,6 +56,8 @@ public:
     void AddData(const QStringList& paths);
     /// Opens the layer control, or brings it to the front.
     void ShowLayerControl();
+    /// The same if it was open in its dock when the last run ended.
+    void ShowLayerControlAgain();
 
     MapCanvas& Canvas();
     MapDocument& Document();
@@ -98,6 +101,7 @@ private:
     std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
+    std::unique_ptr<DockChoice> m_dock;
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };

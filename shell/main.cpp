@@ -61,8 +61,9 @@ int ShowWindow(const QApplication& application, const WindowRequest& request, co
     MainWindow window(trace ? &*trace : nullptr);
     window.show();
     OpenFirstMap(window, request.map);
-    if (request.layerControl)
-        Guard(&window, [&] { window.ShowLayerControl(); });
+    const auto show
+        = request.layerControl ? &MainWindow::ShowLayerControl : &MainWindow::ShowLayerControlAgain;
+    Guard(&window, [&] { (window.*show)(); });
     return application.exec();
 }
 

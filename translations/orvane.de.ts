@@ -120,12 +120,28 @@
         <translation>%1 ist hier, aber sein Fang ist ausgeschaltet.</translation>
     </message>
     <message>
+        <source>%1 layers</source>
+        <translation>%1 Layer</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 weitere</translation>
     </message>
     <message>
+        <source>%1 Steps</source>
+        <translation>%1 Schritte</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, not for symbols</source>
+        <translation>%1, nicht für Symbole</translation>
     </message>
     <message>
         <source>%1: your value is %2, stored is %3</source>
@@ -164,12 +180,20 @@
         <translation>Wert &amp;kopieren</translation>
     </message>
     <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
         <source>&amp;Delete Theme</source>
         <translation>Thema &amp;löschen</translation>
     </message>
     <message>
         <source>&amp;Division:</source>
         <translation>&amp;Einteilung:</translation>
+    </message>
+    <message>
+        <source>&amp;Dock Layer Control</source>
+        <translation>Layersteuerung an&amp;docken</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -196,6 +220,10 @@
         <translation>Fehlende Daten s&amp;uchen...</translation>
     </message>
     <message>
+        <source>&amp;From:</source>
+        <translation>V&amp;on:</translation>
+    </message>
+    <message>
         <source>&amp;Geometry:</source>
         <translation>&amp;Geometrie:</translation>
     </message>
@@ -214,6 +242,10 @@
     <message>
         <source>&amp;Import Scheme...</source>
         <translation>Schema &amp;importieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
@@ -288,6 +320,10 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Umbenennen...</translation>
+    </message>
+    <message>
         <source>&amp;Resolution:</source>
         <translation>&amp;Auflösung:</translation>
     </message>
@@ -322,6 +358,10 @@
     <message>
         <source>&amp;Store My Values</source>
         <translation>Meine Werte &amp;speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over</source>
+        <translation>Ü&amp;bernehmen</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -366,6 +406,10 @@
     <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Ein kleines Kartenprogramm für den Schreibtisch, das die Layersteuerung von Orvane beherbergt.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;none&gt;</source>
+        <translation>&lt;keine&gt;</translation>
     </message>
     <message>
         <source>A layer cannot be created in the file &quot;%1&quot;.</source>
@@ -442,8 +486,16 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Layer werden zur Karte hinzugefügt</translation>
     </message>
     <message>
+        <source>All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Alle Eigenschaften</translation>
     </message>
     <message>
         <source>All schemes of this map were saved for new maps.</source>
@@ -474,6 +526,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
     </message>
     <message>
+        <source>Appearance</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Fläche: %1, Umfang: %2</translation>
     </message>
@@ -502,7 +558,15 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nic
         <translation>Du&amp;rchsuchen...</translation>
     </message>
     <message>
+        <source>Backdrop</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
         <source>background</source>
+        <translation>Füllhintergrund</translation>
+    </message>
+    <message>
+        <source>Background</source>
         <translation>Füllhintergrund</translation>
     </message>
     <message>
@@ -576,6 +640,18 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Code:</translation>
     </message>
     <message>
+        <source>Com&amp;pare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>Comparing Schemes</source>
+        <translation>Vergleich der Schemas</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>Kopie von %1</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Anlegen von „%1“</translation>
     </message>
@@ -588,8 +664,28 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Eine neue Kartendatei anlegen</translation>
     </message>
     <message>
+        <source>Current</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
         <source>Custom size</source>
         <translation>Benutzerdefinierte Größe</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>&amp;Duplizieren...</translation>
+    </message>
+    <message>
+        <source>Dash-dot line</source>
+        <translation>Strichpunktlinie</translation>
+    </message>
+    <message>
+        <source>Dash-dot-dot line</source>
+        <translation>Strich-Punkt-Punkt-Linie</translation>
+    </message>
+    <message>
+        <source>Dashed line</source>
+        <translation>Gestrichelte Linie</translation>
     </message>
     <message>
         <source>Data f&amp;ile:</source>
@@ -600,12 +696,40 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Löschen von „%1“</translation>
     </message>
     <message>
+        <source>Delete %1 Layers</source>
+        <translation>Löschen von %1 Layern</translation>
+    </message>
+    <message>
+        <source>Delete %1 layers?</source>
+        <translation>%1 Layer löschen?</translation>
+    </message>
+    <message>
+        <source>Delete %1 Schemes</source>
+        <translation>Löschen von %1 Schemas</translation>
+    </message>
+    <message>
+        <source>Delete %1 schemes? The layers stay as they are.</source>
+        <translation>%1 Schemas löschen? Die Layer bleiben, wie sie sind.</translation>
+    </message>
+    <message>
         <source>Delete Layer</source>
+        <translation>Layer löschen</translation>
+    </message>
+    <message>
+        <source>Delete Layers</source>
         <translation>Layer löschen</translation>
     </message>
     <message>
         <source>Delete Scheme &quot;%1&quot;</source>
         <translation>Löschen des Schemas „%1“</translation>
+    </message>
+    <message>
+        <source>Delete Schemes</source>
+        <translation>Schemas löschen</translation>
+    </message>
+    <message>
+        <source>Delete the scheme &quot;%1&quot;? The layers stay as they are.</source>
+        <translation>Das Schema „%1“ löschen? Die Layer bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>Delete Theme</source>
@@ -620,12 +744,36 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Thema „%1“ löschen? Seine Layer bleiben in der Karte.</translation>
     </message>
     <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Unterschiede: %1</translation>
+    </message>
+    <message>
+        <source>Differences: %1 of %2</source>
+        <translation>Unterschiede: %1 von %2</translation>
+    </message>
+    <message>
         <source>display mode</source>
         <translation>Darstellungsart</translation>
     </message>
     <message>
+        <source>Display mode</source>
+        <translation>Darstellungsart</translation>
+    </message>
+    <message>
+        <source>dont care</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Punkte je Zoll. Voreinstellung: 300, bei einer Größe in Pixeln 96.</translation>
+    </message>
+    <message>
+        <source>Dotted line</source>
+        <translation>Gepunktete Linie</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -666,6 +814,14 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Zeichnen...</translation>
     </message>
     <message>
+        <source>Duplicate Scheme</source>
+        <translation>Schema duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate Scheme &quot;%1&quot;</source>
+        <translation>Duplizieren des Schemas „%1“</translation>
+    </message>
+    <message>
         <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
         <translation>Bearbeitet die Eigenschaften vieler Layer auf einmal und hält sie in Schemas fest.</translation>
     </message>
@@ -676,6 +832,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>enquirable</source>
         <translation>abfragbar</translation>
+    </message>
+    <message>
+        <source>Enquirable</source>
+        <translation>Abfragbar</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -734,6 +894,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Gefundene Objekte: %1</translation>
     </message>
     <message>
+        <source>Fi&amp;lter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
         <source>Files, or folders with files in them.</source>
         <translation>Dateien, oder Ordner mit Dateien.</translation>
     </message>
@@ -742,12 +906,28 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Füllfarbe</translation>
     </message>
     <message>
+        <source>Fill colour</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
         <source>fill style</source>
+        <translation>Fülltyp</translation>
+    </message>
+    <message>
+        <source>Fill style</source>
         <translation>Fülltyp</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
         <translation>Fehlende Daten suchen</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Schalter</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
     </message>
     <message>
         <source>GeoPackage</source>
@@ -766,6 +946,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Georeferenzierte Bilder (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
+        <translation>Den Layern der Karte die gewählten Werte der Spalte „Nach“ geben.</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>Abgestuft</translation>
     </message>
@@ -778,8 +962,16 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Höhe</translation>
     </message>
     <message>
+        <source>Hidden</source>
+        <translation>Ausgeblendet</translation>
+    </message>
+    <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>Objekte anklickbarer Layer unter dem Zeiger hervorheben, mit jedem Werkzeug</translation>
+    </message>
+    <message>
+        <source>Hitable</source>
+        <translation>Anklickbar</translation>
     </message>
     <message>
         <source>Import Map Theme &quot;%1&quot;</source>
@@ -890,6 +1082,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Querformat</translation>
     </message>
     <message>
+        <source>Layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
         <source>Layer &quot;%1&quot;: %2</source>
         <translation>Layer „%1“: %2</translation>
     </message>
@@ -908,6 +1104,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Layer Rendering</source>
         <translation>Layerdarstellung</translation>
+    </message>
+    <message>
+        <source>Layer schemes</source>
+        <translation>Layerschemas</translation>
     </message>
     <message>
         <source>Layer schemes (*.json)</source>
@@ -942,6 +1142,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Layer dieser Karte, die die Datei nicht hat und die ihre Werte behalten: %1</translation>
     </message>
     <message>
+        <source>Layers that differ</source>
+        <translation>Abweichende Layer</translation>
+    </message>
+    <message>
         <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
         <translation>Layer, die vom Schema „%1“ abweichen: %2</translation>
     </message>
@@ -958,12 +1162,24 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Länge: %1</translation>
     </message>
     <message>
+        <source>Line colour</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
         <source>line colour, or its use for symbols</source>
         <translation>Linienfarbe oder ihre Verwendung für Symbole</translation>
     </message>
     <message>
         <source>line style</source>
         <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation>Linientyp</translation>
+    </message>
+    <message>
+        <source>Line thickness</source>
+        <translation>Linienbreite</translation>
     </message>
     <message>
         <source>line width</source>
@@ -990,8 +1206,16 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>gesperrt</translation>
     </message>
     <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>Kartendaten werden gesucht</translation>
+    </message>
+    <message>
+        <source>Manage Schemes</source>
+        <translation>Schemas verwalten</translation>
     </message>
     <message>
         <source>Map</source>
@@ -1030,6 +1254,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Maximum der Maßstäbe</translation>
     </message>
     <message>
+        <source>Maximum visible scale</source>
+        <translation>Größter sichtbarer Maßstab</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>&amp;Fläche messen</translation>
     </message>
@@ -1048,6 +1276,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>minimum scale</source>
         <translation>Minimum der Maßstäbe</translation>
+    </message>
+    <message>
+        <source>Minimum visible scale</source>
+        <translation>Kleinster sichtbarer Maßstab</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1102,6 +1334,10 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Neue Karte - Orvane</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
         <source>No layer here.</source>
         <translation>Hier ist kein Layer.</translation>
     </message>
@@ -1132,6 +1368,22 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>Keine der fehlenden Dateien liegt in „%1“.</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>noch nicht gezählt</translation>
+    </message>
+    <message>
+        <source>not in the scheme</source>
+        <translation>nicht im Schema</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
@@ -1216,8 +1468,24 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
   orvane check MAP             eine Kartendatei auf Probleme prüfen</translation>
     </message>
     <message>
+        <source>Outline only</source>
+        <translation>Nur Umriss</translation>
+    </message>
+    <message>
+        <source>Pattern %1</source>
+        <translation>Muster %1</translation>
+    </message>
+    <message>
         <source>PDF document (*.pdf)</source>
         <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Pixels: %1</source>
+        <translation>Pixel: %1</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>Bitte geben Sie einen Namen ein, der nicht leer ist, oder brechen Sie ab.</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
@@ -1246,6 +1514,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Print the map, with a preview</source>
         <translation>Die Karte drucken, mit Vorschau</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
@@ -1312,6 +1588,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Umbenennen der Gruppe „%1“</translation>
     </message>
     <message>
+        <source>Rename Scheme</source>
+        <translation>Schema umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename Scheme &quot;%1&quot;</source>
+        <translation>Umbenennen des Schemas „%1“</translation>
+    </message>
+    <message>
         <source>Repair what can be repaired.</source>
         <translation>Reparieren, was sich reparieren lässt.</translation>
     </message>
@@ -1348,6 +1632,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Speichern der Schemas für neue Karten</translation>
     </message>
     <message>
+        <source>Scales</source>
+        <translation>Maßstäbe</translation>
+    </message>
+    <message>
+        <source>Scheme</source>
+        <translation>Schema</translation>
+    </message>
+    <message>
         <source>Schemes made of map themes: %1</source>
         <translation>Aus Kartenthemen erzeugte Schemas: %1</translation>
     </message>
@@ -1356,11 +1648,39 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>auswählbar</translation>
     </message>
     <message>
+        <source>Show the layer control inside this window</source>
+        <translation>Die Layersteuerung in diesem Fenster anzeigen</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>Auswählbar</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Zeigen:</translation>
+    </message>
+    <message>
         <source>snap required</source>
         <translation>Fang erforderlich</translation>
     </message>
     <message>
+        <source>Snap required</source>
+        <translation>Fang erforderlich</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Vollfläche</translation>
+    </message>
+    <message>
+        <source>Solid line</source>
+        <translation>Durchgezogene Linie</translation>
+    </message>
+    <message>
         <source>style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Style</source>
         <translation>Stil</translation>
     </message>
     <message>
@@ -1458,6 +1778,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Switch Scheme</source>
         <translation>Schema wechseln</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>&amp;Nach:</translation>
+    </message>
+    <message>
+        <source>Taking Over Values</source>
+        <translation>Übernahme der Werte</translation>
     </message>
     <message>
         <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
@@ -1600,6 +1928,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ wurde von einer neueren Version dieses Programms geschrieben.</translation>
     </message>
     <message>
+        <source>The map as it is</source>
+        <translation>Die Karte, wie sie ist</translation>
+    </message>
+    <message>
         <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
         <translation>Die Kartendatei „%1“ wurde verschoben oder gelöscht. Änderungen bleiben nur erhalten, wenn Sie die Karte unter einem anderen Namen speichern.</translation>
     </message>
@@ -1622,6 +1954,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>The map file.</source>
         <translation>Die Kartendatei.</translation>
+    </message>
+    <message>
+        <source>The map has no features of these layers.</source>
+        <translation>Die Karte hat keine Objekte dieser Layer.</translation>
     </message>
     <message>
         <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
@@ -1716,6 +2052,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Der Wert „%2“ des Layers „%1“ ist keine Zahl.</translation>
     </message>
     <message>
+        <source>Their data files stay. You can undo the deletion.</source>
+        <translation>Ihre Datendateien bleiben. Das Löschen kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Their saved values will be removed from the layer schemes: %1.</source>
+        <translation>Ihre gespeicherten Werte werden aus den Layerschemas entfernt: %1.</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>Es gibt keine Muster der Art %1.</translation>
     </message>
@@ -1776,6 +2120,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Der Arbeitsspeicher reichte nicht, um die Änderungen an „^1“ festzuhalten; sie lassen sich nicht rückgängig machen.</translation>
     </message>
     <message>
+        <source>They will be removed from their groups: %1.</source>
+        <translation>Sie werden aus ihren Gruppen entfernt: %1.</translation>
+    </message>
+    <message>
+        <source>Thinnest line</source>
+        <translation>Dünnste Linie</translation>
+    </message>
+    <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
         <translation>Diese Karte ist leer. Wählen Sie Datei &gt; Daten öffnen... oder ziehen Sie Datendateien hierher.</translation>
     </message>
@@ -1800,8 +2152,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Titel der Karte</translation>
     </message>
     <message>
+        <source>To</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1810,6 +2170,18 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Undo %1</source>
         <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened</source>
+        <translation>&amp;Alles seit dem Öffnen der Layersteuerung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened (%1)</source>
+        <translation>&amp;Alles seit dem Öffnen der Layersteuerung rückgängig machen (%1)</translation>
+    </message>
+    <message>
+        <source>Undo all changes since the layer control was opened, as one step</source>
+        <translation>Alle Änderungen seit dem Öffnen der Layersteuerung in einem Schritt rückgängig machen</translation>
     </message>
     <message>
         <source>Undo Layer Change</source>
@@ -1840,6 +2212,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>sichtbar</translation>
     </message>
     <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+    <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
         <translation>Was Sie in „%1“ bearbeitet haben, wurde inzwischen anderswo geändert.</translation>
     </message>
@@ -1848,12 +2224,20 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Breite</translation>
     </message>
     <message>
+        <source>Words of layers and properties</source>
+        <translation>Wörter aus Layern und Eigenschaften</translation>
+    </message>
+    <message>
         <source>Write each call between the map and the layer control to FILE.</source>
         <translation>Jeden Aufruf zwischen Karte und Layersteuerung in FILE schreiben.</translation>
     </message>
     <message>
         <source>Write the map as PDF, SVG or PNG</source>
         <translation>Die Karte als PDF, SVG oder PNG schreiben</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1946,6 +2330,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>the new position is outside the coordinate system</source>
         <translation>die neue Position liegt außerhalb des Koordinatensystems</translation>
+    </message>
+    <message>
+        <source>Zoom to Layer</source>
+        <translation>Auf Layer zoomen</translation>
     </message>
 </context>
 </TS>

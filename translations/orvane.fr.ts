@@ -120,12 +120,28 @@
         <translation>%1 est ici mais son accrochage est désactivé.</translation>
     </message>
     <message>
+        <source>%1 layers</source>
+        <translation>%1 couches</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>%1 autres</translation>
     </message>
     <message>
+        <source>%1 Steps</source>
+        <translation>%1 étapes</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, not for symbols</source>
+        <translation>%1, pas pour les symboles</translation>
     </message>
     <message>
         <source>%1: your value is %2, stored is %3</source>
@@ -164,12 +180,20 @@
         <translation>&amp;Copier la valeur</translation>
     </message>
     <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
         <source>&amp;Delete Theme</source>
         <translation>&amp;Supprimer un thème</translation>
     </message>
     <message>
         <source>&amp;Division:</source>
         <translation>&amp;Répartition :</translation>
+    </message>
+    <message>
+        <source>&amp;Dock Layer Control</source>
+        <translation>&amp;Ancrer le contrôle des couches</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -196,6 +220,10 @@
         <translation>Recherc&amp;her les données manquantes...</translation>
     </message>
     <message>
+        <source>&amp;From:</source>
+        <translation>&amp;De :</translation>
+    </message>
+    <message>
         <source>&amp;Geometry:</source>
         <translation>&amp;Géométrie :</translation>
     </message>
@@ -214,6 +242,10 @@
     <message>
         <source>&amp;Import Scheme...</source>
         <translation>&amp;Importer un schéma...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
@@ -288,6 +320,10 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
+        <source>&amp;Rename...</source>
+        <translation>&amp;Renommer...</translation>
+    </message>
+    <message>
         <source>&amp;Resolution:</source>
         <translation>&amp;Résolution :</translation>
     </message>
@@ -322,6 +358,10 @@
     <message>
         <source>&amp;Store My Values</source>
         <translation>&amp;Enregistrer mes valeurs</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over</source>
+        <translation>&amp;Reprendre</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -366,6 +406,10 @@
     <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Un petit programme cartographique de bureau, hôte du contrôle des couches d’Orvane.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;none&gt;</source>
+        <translation>&lt;aucune&gt;</translation>
     </message>
     <message>
         <source>A layer cannot be created in the file &quot;%1&quot;.</source>
@@ -442,8 +486,16 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Ajout des couches à la carte</translation>
     </message>
     <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Toutes les propriétés</translation>
     </message>
     <message>
         <source>All schemes of this map were saved for new maps.</source>
@@ -474,6 +526,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Une erreur inconnue s’est produite.</translation>
     </message>
     <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>Surface : %1, périmètre : %2</translation>
     </message>
@@ -502,8 +558,16 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la 
         <translation>Par&amp;courir...</translation>
     </message>
     <message>
+        <source>Backdrop</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
         <source>background</source>
         <translation>couleur de fond</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Couleur de fond</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -576,6 +640,18 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Code :</translation>
     </message>
     <message>
+        <source>Com&amp;pare</source>
+        <translation>Com&amp;parer</translation>
+    </message>
+    <message>
+        <source>Comparing Schemes</source>
+        <translation>Comparaison des schémas</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>Création de « %1 »</translation>
     </message>
@@ -588,8 +664,28 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Créer un nouveau fichier de carte</translation>
     </message>
     <message>
+        <source>Current</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
         <source>Custom size</source>
         <translation>Taille personnalisée</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>&amp;Dupliquer...</translation>
+    </message>
+    <message>
+        <source>Dash-dot line</source>
+        <translation>Ligne en trait-point</translation>
+    </message>
+    <message>
+        <source>Dash-dot-dot line</source>
+        <translation>Ligne en trait-point-point</translation>
+    </message>
+    <message>
+        <source>Dashed line</source>
+        <translation>Ligne en tirets</translation>
     </message>
     <message>
         <source>Data f&amp;ile:</source>
@@ -600,12 +696,40 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Suppression de « %1 »</translation>
     </message>
     <message>
+        <source>Delete %1 Layers</source>
+        <translation>Suppression de %1 couches</translation>
+    </message>
+    <message>
+        <source>Delete %1 layers?</source>
+        <translation>Supprimer %1 couches ?</translation>
+    </message>
+    <message>
+        <source>Delete %1 Schemes</source>
+        <translation>Suppression de %1 schémas</translation>
+    </message>
+    <message>
+        <source>Delete %1 schemes? The layers stay as they are.</source>
+        <translation>Supprimer %1 schémas ? Les couches restent telles quelles.</translation>
+    </message>
+    <message>
         <source>Delete Layer</source>
         <translation>Supprimer la couche</translation>
     </message>
     <message>
+        <source>Delete Layers</source>
+        <translation>Supprimer les couches</translation>
+    </message>
+    <message>
         <source>Delete Scheme &quot;%1&quot;</source>
         <translation>Suppression du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Delete Schemes</source>
+        <translation>Supprimer des schémas</translation>
+    </message>
+    <message>
+        <source>Delete the scheme &quot;%1&quot;? The layers stay as they are.</source>
+        <translation>Supprimer le schéma « %1 » ? Les couches restent telles quelles.</translation>
     </message>
     <message>
         <source>Delete Theme</source>
@@ -620,12 +744,36 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Supprimer le thème « %1 » ? Ses couches restent dans la carte.</translation>
     </message>
     <message>
+        <source>Differences</source>
+        <translation>Différences</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Différences : %1</translation>
+    </message>
+    <message>
+        <source>Differences: %1 of %2</source>
+        <translation>Différences : %1 sur %2</translation>
+    </message>
+    <message>
         <source>display mode</source>
         <translation>mode d’affichage</translation>
     </message>
     <message>
+        <source>Display mode</source>
+        <translation>Mode d’affichage</translation>
+    </message>
+    <message>
+        <source>dont care</source>
+        <translation>indifférent</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>Points par pouce. Par défaut : 300, ou 96 pour une taille en pixels.</translation>
+    </message>
+    <message>
+        <source>Dotted line</source>
+        <translation>Ligne en pointillés</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -666,6 +814,14 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Dessin...</translation>
     </message>
     <message>
+        <source>Duplicate Scheme</source>
+        <translation>Dupliquer le schéma</translation>
+    </message>
+    <message>
+        <source>Duplicate Scheme &quot;%1&quot;</source>
+        <translation>Duplication du schéma « %1 »</translation>
+    </message>
+    <message>
         <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
         <translation>Modifie les propriétés de plusieurs couches à la fois et les conserve dans des schémas.</translation>
     </message>
@@ -676,6 +832,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>enquirable</source>
         <translation>interrogeable</translation>
+    </message>
+    <message>
+        <source>Enquirable</source>
+        <translation>Interrogeable</translation>
     </message>
     <message>
         <source>Enter a name.</source>
@@ -734,6 +894,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Objets trouvés : %1</translation>
     </message>
     <message>
+        <source>Fi&amp;lter:</source>
+        <translation>&amp;Filtre :</translation>
+    </message>
+    <message>
         <source>Files, or folders with files in them.</source>
         <translation>Des fichiers, ou des dossiers qui en contiennent.</translation>
     </message>
@@ -742,12 +906,28 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>couleur de remplissage</translation>
     </message>
     <message>
+        <source>Fill colour</source>
+        <translation>Couleur de remplissage</translation>
+    </message>
+    <message>
         <source>fill style</source>
         <translation>motif</translation>
     </message>
     <message>
+        <source>Fill style</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
         <source>Find Missing Data</source>
         <translation>Rechercher les données manquantes</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Indicateurs</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
     </message>
     <message>
         <source>GeoPackage</source>
@@ -766,6 +946,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Images géoréférencées (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
+        <translation>Donner aux couches de la carte les valeurs choisies de la colonne « Vers ».</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>Gradué</translation>
     </message>
@@ -778,8 +962,16 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Hauteur</translation>
     </message>
     <message>
+        <source>Hidden</source>
+        <translation>Masquée</translation>
+    </message>
+    <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>Mettre en évidence les objets des couches cliquables sous le pointeur, avec tout outil</translation>
+    </message>
+    <message>
+        <source>Hitable</source>
+        <translation>Cliquable</translation>
     </message>
     <message>
         <source>Import Map Theme &quot;%1&quot;</source>
@@ -890,6 +1082,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Paysage</translation>
     </message>
     <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
         <source>Layer &quot;%1&quot;: %2</source>
         <translation>Couche « %1 » : %2</translation>
     </message>
@@ -908,6 +1104,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Layer Rendering</source>
         <translation>Rendu de la couche</translation>
+    </message>
+    <message>
+        <source>Layer schemes</source>
+        <translation>Schémas de couches</translation>
     </message>
     <message>
         <source>Layer schemes (*.json)</source>
@@ -942,6 +1142,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Couches de cette carte absentes du fichier, qui gardent leurs valeurs : %1</translation>
     </message>
     <message>
+        <source>Layers that differ</source>
+        <translation>Couches différentes</translation>
+    </message>
+    <message>
         <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
         <translation>Couches qui diffèrent du schéma « %1 » : %2</translation>
     </message>
@@ -958,12 +1162,24 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Longueur : %1</translation>
     </message>
     <message>
+        <source>Line colour</source>
+        <translation>Couleur de ligne</translation>
+    </message>
+    <message>
         <source>line colour, or its use for symbols</source>
         <translation>couleur de ligne, ou son emploi pour les symboles</translation>
     </message>
     <message>
         <source>line style</source>
         <translation>style de ligne</translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation>Style de ligne</translation>
+    </message>
+    <message>
+        <source>Line thickness</source>
+        <translation>Épaisseur de ligne</translation>
     </message>
     <message>
         <source>line width</source>
@@ -990,8 +1206,16 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>verrouillée</translation>
     </message>
     <message>
+        <source>Locked</source>
+        <translation>Verrouillée</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>Recherche des données cartographiques</translation>
+    </message>
+    <message>
+        <source>Manage Schemes</source>
+        <translation>Gérer les schémas</translation>
     </message>
     <message>
         <source>Map</source>
@@ -1030,6 +1254,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>échelle maximale</translation>
     </message>
     <message>
+        <source>Maximum visible scale</source>
+        <translation>Échelle visible maximale</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>Mesurer une s&amp;urface</translation>
     </message>
@@ -1048,6 +1276,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>minimum scale</source>
         <translation>échelle minimale</translation>
+    </message>
+    <message>
+        <source>Minimum visible scale</source>
+        <translation>Échelle visible minimale</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1102,6 +1334,10 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Nouvelle carte - Orvane</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
         <source>No layer here.</source>
         <translation>Aucune couche ici.</translation>
     </message>
@@ -1132,6 +1368,22 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>Aucun des fichiers manquants ne se trouve dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>pas encore compté</translation>
+    </message>
+    <message>
+        <source>not in the scheme</source>
+        <translation>absent du schéma</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
@@ -1216,8 +1468,24 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
   orvane check MAP             rechercher les problèmes dans un fichier de carte</translation>
     </message>
     <message>
+        <source>Outline only</source>
+        <translation>Contour seul</translation>
+    </message>
+    <message>
+        <source>Pattern %1</source>
+        <translation>Motif %1</translation>
+    </message>
+    <message>
         <source>PDF document (*.pdf)</source>
         <translation>Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Pixels: %1</source>
+        <translation>Pixels : %1</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>Veuillez saisir un nom non vide, ou annulez.</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
@@ -1246,6 +1514,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Print the map, with a preview</source>
         <translation>Imprimer la carte, avec aperçu</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
     </message>
     <message>
         <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
@@ -1312,6 +1588,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Renommage du groupe « %1 »</translation>
     </message>
     <message>
+        <source>Rename Scheme</source>
+        <translation>Renommer le schéma</translation>
+    </message>
+    <message>
+        <source>Rename Scheme &quot;%1&quot;</source>
+        <translation>Renommage du schéma « %1 »</translation>
+    </message>
+    <message>
         <source>Repair what can be repaired.</source>
         <translation>Réparer ce qui peut l'être.</translation>
     </message>
@@ -1348,6 +1632,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Enregistrement des schémas pour les nouvelles cartes</translation>
     </message>
     <message>
+        <source>Scales</source>
+        <translation>Échelles</translation>
+    </message>
+    <message>
+        <source>Scheme</source>
+        <translation>Schéma</translation>
+    </message>
+    <message>
         <source>Schemes made of map themes: %1</source>
         <translation>Schémas créés à partir de thèmes de carte : %1</translation>
     </message>
@@ -1356,12 +1648,40 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>sélectionnable</translation>
     </message>
     <message>
+        <source>Show the layer control inside this window</source>
+        <translation>Afficher le contrôle des couches dans cette fenêtre</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>Sélectionnable</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>&amp;Afficher :</translation>
+    </message>
+    <message>
         <source>snap required</source>
         <translation>accrochage obligatoire</translation>
     </message>
     <message>
+        <source>Snap required</source>
+        <translation>Accrochage obligatoire</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Uni</translation>
+    </message>
+    <message>
+        <source>Solid line</source>
+        <translation>Ligne continue</translation>
+    </message>
+    <message>
         <source>style</source>
         <translation>style</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Style</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
@@ -1458,6 +1778,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Switch Scheme</source>
         <translation>Changer de schéma</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>&amp;Vers :</translation>
+    </message>
+    <message>
+        <source>Taking Over Values</source>
+        <translation>Reprise des valeurs</translation>
     </message>
     <message>
         <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
@@ -1600,6 +1928,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » a été écrite par une version plus récente de ce programme.</translation>
     </message>
     <message>
+        <source>The map as it is</source>
+        <translation>La carte telle quelle</translation>
+    </message>
+    <message>
         <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
         <translation>Le fichier de carte « %1 » a été déplacé ou supprimé. Vos modifications ne seront conservées que si vous enregistrez la carte sous un autre nom.</translation>
     </message>
@@ -1622,6 +1954,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>The map file.</source>
         <translation>Le fichier de carte.</translation>
+    </message>
+    <message>
+        <source>The map has no features of these layers.</source>
+        <translation>La carte n’a aucun objet de ces couches.</translation>
     </message>
     <message>
         <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
@@ -1716,6 +2052,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La valeur « %2 » de la couche « %1 » n’est pas un nombre.</translation>
     </message>
     <message>
+        <source>Their data files stay. You can undo the deletion.</source>
+        <translation>Leurs fichiers de données restent. La suppression peut être annulée.</translation>
+    </message>
+    <message>
+        <source>Their saved values will be removed from the layer schemes: %1.</source>
+        <translation>Leurs valeurs enregistrées seront supprimées des schémas de couches : %1.</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>Il n’y a pas de motifs de type %1.</translation>
     </message>
@@ -1776,6 +2120,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La mémoire n’a pas suffi pour enregistrer les modifications de « ^1 » ; elles ne peuvent pas être annulées.</translation>
     </message>
     <message>
+        <source>They will be removed from their groups: %1.</source>
+        <translation>Elles seront retirées de leurs groupes : %1.</translation>
+    </message>
+    <message>
+        <source>Thinnest line</source>
+        <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
         <translation>Cette carte est vide. Choisissez Fichier &gt; Ouvrir des données... ou déposez ici des fichiers de données.</translation>
     </message>
@@ -1800,8 +2152,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Titre de la carte</translation>
     </message>
     <message>
+        <source>To</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1810,6 +2170,18 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Undo %1</source>
         <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened</source>
+        <translation>Annuler &amp;tout depuis l’ouverture du contrôle des couches</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened (%1)</source>
+        <translation>Annuler &amp;tout depuis l’ouverture du contrôle des couches (%1)</translation>
+    </message>
+    <message>
+        <source>Undo all changes since the layer control was opened, as one step</source>
+        <translation>Annuler en une étape toutes les modifications depuis l’ouverture du contrôle des couches</translation>
     </message>
     <message>
         <source>Undo Layer Change</source>
@@ -1840,6 +2212,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>visible</translation>
     </message>
     <message>
+        <source>Visible</source>
+        <translation>Visible</translation>
+    </message>
+    <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
         <translation>Ce que vous avez modifié dans « %1 » a été changé ailleurs entre-temps.</translation>
     </message>
@@ -1848,12 +2224,20 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Largeur</translation>
     </message>
     <message>
+        <source>Words of layers and properties</source>
+        <translation>Mots des couches et des propriétés</translation>
+    </message>
+    <message>
         <source>Write each call between the map and the layer control to FILE.</source>
         <translation>Écrire dans FILE chaque appel entre la carte et le contrôle des couches.</translation>
     </message>
     <message>
         <source>Write the map as PDF, SVG or PNG</source>
         <translation>Écrire la carte en PDF, SVG ou PNG</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1946,6 +2330,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>the new position is outside the coordinate system</source>
         <translation>la nouvelle position est en dehors du système de coordonnées</translation>
+    </message>
+    <message>
+        <source>Zoom to Layer</source>
+        <translation>Zoomer sur la couche</translation>
     </message>
 </context>
 </TS>

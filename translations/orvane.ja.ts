@@ -120,12 +120,28 @@
         <translation>%1 はここにありますが、スナップの対象ではありません。</translation>
     </message>
     <message>
+        <source>%1 layers</source>
+        <translation>%1個のレイヤー</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
         <source>%1 more</source>
         <translation>他%1個</translation>
     </message>
     <message>
+        <source>%1 Steps</source>
+        <translation>%1個の操作</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1, not for symbols</source>
+        <translation>%1、記号には不使用</translation>
     </message>
     <message>
         <source>%1: your value is %2, stored is %3</source>
@@ -164,12 +180,20 @@
         <translation>値をコピー(&amp;C)</translation>
     </message>
     <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
         <source>&amp;Delete Theme</source>
         <translation>テーマを削除(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Division:</source>
         <translation>区分方法(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Dock Layer Control</source>
+        <translation>レイヤーコントロールをドッキング(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -196,6 +220,10 @@
         <translation>見つからないデータを検索(&amp;F)...</translation>
     </message>
     <message>
+        <source>&amp;From:</source>
+        <translation>比較元(&amp;F):</translation>
+    </message>
+    <message>
         <source>&amp;Geometry:</source>
         <translation>ジオメトリ(&amp;G):</translation>
     </message>
@@ -214,6 +242,10 @@
     <message>
         <source>&amp;Import Scheme...</source>
         <translation>スキームを読み込み(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>
@@ -288,6 +320,10 @@
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
+        <source>&amp;Rename...</source>
+        <translation>名前の変更(&amp;R)...</translation>
+    </message>
+    <message>
         <source>&amp;Resolution:</source>
         <translation>解像度(&amp;R):</translation>
     </message>
@@ -322,6 +358,10 @@
     <message>
         <source>&amp;Store My Values</source>
         <translation>自分の値を保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Take Over</source>
+        <translation>反映(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Themes</source>
@@ -366,6 +406,10 @@
     <message>
         <source>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;A small desktop map program, the host of the Orvane layer control.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Orvane %1&lt;/h3&gt;&lt;p&gt;Orvane レイヤーコントロールのホストとなる、小さなデスクトップ地図プログラムです。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;none&gt;</source>
+        <translation>&lt;なし&gt;</translation>
     </message>
     <message>
         <source>A layer cannot be created in the file &quot;%1&quot;.</source>
@@ -442,8 +486,16 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>地図にレイヤーを追加しています</translation>
     </message>
     <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>すべてのプロパティ</translation>
     </message>
     <message>
         <source>All schemes of this map were saved for new maps.</source>
@@ -474,6 +526,10 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>不明なエラーが発生しました。</translation>
     </message>
     <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
         <source>Area: %1, perimeter: %2</source>
         <translation>面積: %1、周長: %2</translation>
     </message>
@@ -502,7 +558,15 @@ Exit code: 0 all was added, 1 something was not, 2 the command was not understoo
         <translation>参照(&amp;R)...</translation>
     </message>
     <message>
+        <source>Backdrop</source>
+        <translation>背景</translation>
+    </message>
+    <message>
         <source>background</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
+        <source>Background</source>
         <translation>背景色</translation>
     </message>
     <message>
@@ -576,6 +640,18 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>コード:</translation>
     </message>
     <message>
+        <source>Com&amp;pare</source>
+        <translation>比較(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Comparing Schemes</source>
+        <translation>スキームの比較</translation>
+    </message>
+    <message>
+        <source>Copy of %1</source>
+        <translation>%1のコピー</translation>
+    </message>
+    <message>
         <source>Create &quot;%1&quot;</source>
         <translation>「%1」の作成</translation>
     </message>
@@ -588,8 +664,28 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>新しい地図ファイルを作成します</translation>
     </message>
     <message>
+        <source>Current</source>
+        <translation>現在</translation>
+    </message>
+    <message>
         <source>Custom size</source>
         <translation>ユーザー定義のサイズ</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>複製(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Dash-dot line</source>
+        <translation>一点鎖線</translation>
+    </message>
+    <message>
+        <source>Dash-dot-dot line</source>
+        <translation>二点鎖線</translation>
+    </message>
+    <message>
+        <source>Dashed line</source>
+        <translation>破線</translation>
     </message>
     <message>
         <source>Data f&amp;ile:</source>
@@ -600,12 +696,40 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>「%1」の削除</translation>
     </message>
     <message>
+        <source>Delete %1 Layers</source>
+        <translation>%1個のレイヤーの削除</translation>
+    </message>
+    <message>
+        <source>Delete %1 layers?</source>
+        <translation>%1個のレイヤーを削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete %1 Schemes</source>
+        <translation>%1個のスキームの削除</translation>
+    </message>
+    <message>
+        <source>Delete %1 schemes? The layers stay as they are.</source>
+        <translation>%1個のスキームを削除しますか?レイヤーは今のまま残ります。</translation>
+    </message>
+    <message>
         <source>Delete Layer</source>
+        <translation>レイヤーの削除</translation>
+    </message>
+    <message>
+        <source>Delete Layers</source>
         <translation>レイヤーの削除</translation>
     </message>
     <message>
         <source>Delete Scheme &quot;%1&quot;</source>
         <translation>スキーム「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Delete Schemes</source>
+        <translation>スキームの削除</translation>
+    </message>
+    <message>
+        <source>Delete the scheme &quot;%1&quot;? The layers stay as they are.</source>
+        <translation>スキーム「%1」を削除しますか?レイヤーは今のまま残ります。</translation>
     </message>
     <message>
         <source>Delete Theme</source>
@@ -620,12 +744,36 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>テーマ「%1」を削除しますか? レイヤは地図に残ります。</translation>
     </message>
     <message>
+        <source>Differences</source>
+        <translation>相違点</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>相違点: %1</translation>
+    </message>
+    <message>
+        <source>Differences: %1 of %2</source>
+        <translation>相違点: %1 / %2</translation>
+    </message>
+    <message>
         <source>display mode</source>
         <translation>表示モード</translation>
     </message>
     <message>
+        <source>Display mode</source>
+        <translation>表示モード</translation>
+    </message>
+    <message>
+        <source>dont care</source>
+        <translation>指定なし</translation>
+    </message>
+    <message>
         <source>Dots per inch. The default is 300, or 96 for a size in pixels.</source>
         <translation>1 インチあたりのドット数。省略時は 300、ピクセル指定では 96。</translation>
+    </message>
+    <message>
+        <source>Dotted line</source>
+        <translation>点線</translation>
     </message>
     <message>
         <source>Drag a feature to move it.</source>
@@ -666,6 +814,14 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>描画中...</translation>
     </message>
     <message>
+        <source>Duplicate Scheme</source>
+        <translation>スキームの複製</translation>
+    </message>
+    <message>
+        <source>Duplicate Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の複製</translation>
+    </message>
+    <message>
         <source>Edits the properties of many layers at once, and keeps them in schemes.</source>
         <translation>多数のレイヤーのプロパティを一度に編集し、スキームに保存します。</translation>
     </message>
@@ -675,6 +831,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     </message>
     <message>
         <source>enquirable</source>
+        <translation>照会可能</translation>
+    </message>
+    <message>
+        <source>Enquirable</source>
         <translation>照会可能</translation>
     </message>
     <message>
@@ -734,6 +894,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>見つかった地物: %1</translation>
     </message>
     <message>
+        <source>Fi&amp;lter:</source>
+        <translation>フィルタ(&amp;L):</translation>
+    </message>
+    <message>
         <source>Files, or folders with files in them.</source>
         <translation>ファイル、またはファイルの入ったフォルダー。</translation>
     </message>
@@ -742,12 +906,28 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>塗りの色</translation>
     </message>
     <message>
+        <source>Fill colour</source>
+        <translation>塗りの色</translation>
+    </message>
+    <message>
         <source>fill style</source>
+        <translation>塗りパターン</translation>
+    </message>
+    <message>
+        <source>Fill style</source>
         <translation>塗りパターン</translation>
     </message>
     <message>
         <source>Find Missing Data</source>
         <translation>見つからないデータの検索</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>フラグ</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>変更前</translation>
     </message>
     <message>
         <source>GeoPackage</source>
@@ -766,6 +946,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地理参照付き画像 (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;すべてのファイル (*)</translation>
     </message>
     <message>
+        <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
+        <translation>選択した「変更後」列の値をマップのレイヤーに設定します。</translation>
+    </message>
+    <message>
         <source>Graduated</source>
         <translation>段階区分</translation>
     </message>
@@ -778,8 +962,16 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>高さ</translation>
     </message>
     <message>
+        <source>Hidden</source>
+        <translation>非表示</translation>
+    </message>
+    <message>
         <source>Highlight features of hitable layers under the pointer with any tool</source>
         <translation>どのツールでも、クリック可能なレイヤーのポインター下の地物を強調します</translation>
+    </message>
+    <message>
+        <source>Hitable</source>
+        <translation>クリック可能</translation>
     </message>
     <message>
         <source>Import Map Theme &quot;%1&quot;</source>
@@ -890,6 +1082,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>横</translation>
     </message>
     <message>
+        <source>Layer</source>
+        <translation>レイヤー</translation>
+    </message>
+    <message>
         <source>Layer &quot;%1&quot;: %2</source>
         <translation>レイヤー「%1」: %2</translation>
     </message>
@@ -908,6 +1104,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Layer Rendering</source>
         <translation>レイヤーの描画</translation>
+    </message>
+    <message>
+        <source>Layer schemes</source>
+        <translation>レイヤースキーム</translation>
     </message>
     <message>
         <source>Layer schemes (*.json)</source>
@@ -942,6 +1142,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>ファイルにないため値を変えないこの地図のレイヤ: %1</translation>
     </message>
     <message>
+        <source>Layers that differ</source>
+        <translation>異なるレイヤー</translation>
+    </message>
+    <message>
         <source>Layers that differ from the scheme &quot;%1&quot;: %2</source>
         <translation>スキーム「%1」と異なるレイヤ: %2</translation>
     </message>
@@ -958,12 +1162,24 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>長さ: %1</translation>
     </message>
     <message>
+        <source>Line colour</source>
+        <translation>線の色</translation>
+    </message>
+    <message>
         <source>line colour, or its use for symbols</source>
         <translation>線の色、またはシンボルへの使用</translation>
     </message>
     <message>
         <source>line style</source>
         <translation>線種</translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation>線種</translation>
+    </message>
+    <message>
+        <source>Line thickness</source>
+        <translation>線の太さ</translation>
     </message>
     <message>
         <source>line width</source>
@@ -990,8 +1206,16 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>ロック</translation>
     </message>
     <message>
+        <source>Locked</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
         <source>Looking for map data</source>
         <translation>地図データを検索しています</translation>
+    </message>
+    <message>
+        <source>Manage Schemes</source>
+        <translation>スキームの管理</translation>
     </message>
     <message>
         <source>Map</source>
@@ -1030,6 +1254,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>最大縮尺</translation>
     </message>
     <message>
+        <source>Maximum visible scale</source>
+        <translation>最大表示縮尺</translation>
+    </message>
+    <message>
         <source>Measure &amp;Area</source>
         <translation>面積の計測(&amp;A)</translation>
     </message>
@@ -1048,6 +1276,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>minimum scale</source>
         <translation>最小縮尺</translation>
+    </message>
+    <message>
+        <source>Minimum visible scale</source>
+        <translation>最小表示縮尺</translation>
     </message>
     <message>
         <source>Move Feature in %1</source>
@@ -1102,6 +1334,10 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>新しい地図 - Orvane</translation>
     </message>
     <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
         <source>No layer here.</source>
         <translation>ここにはレイヤーがありません。</translation>
     </message>
@@ -1132,6 +1368,22 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>None of the missing files is in &quot;%1&quot;.</source>
         <translation>見つからないファイルは「%1」にありません。</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準表示</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>まだ数えていません</translation>
+    </message>
+    <message>
+        <source>not in the scheme</source>
+        <translation>スキームにない</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
     </message>
     <message>
         <source>Nothing but the map, up to the edges of the page.</source>
@@ -1216,8 +1468,24 @@ These commands run without a window; each has its own --help:
   orvane check MAP             地図ファイルの問題を調べる</translation>
     </message>
     <message>
+        <source>Outline only</source>
+        <translation>輪郭のみ</translation>
+    </message>
+    <message>
+        <source>Pattern %1</source>
+        <translation>パターン %1</translation>
+    </message>
+    <message>
         <source>PDF document (*.pdf)</source>
         <translation>PDF 文書 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Pixels: %1</source>
+        <translation>ピクセル: %1</translation>
+    </message>
+    <message>
+        <source>Please supply a non-blank name, or cancel.</source>
+        <translation>空白でない名前を入力するか、キャンセルしてください。</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
@@ -1246,6 +1514,14 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Print the map, with a preview</source>
         <translation>プレビューを見てから地図を印刷します</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
     </message>
     <message>
         <source>QGIS cannot set this for the layer &quot;%1&quot;: %2.</source>
@@ -1312,6 +1588,14 @@ These commands run without a window; each has its own --help:
         <translation>グループ「%1」の名前の変更</translation>
     </message>
     <message>
+        <source>Rename Scheme</source>
+        <translation>スキームの名前の変更</translation>
+    </message>
+    <message>
+        <source>Rename Scheme &quot;%1&quot;</source>
+        <translation>スキーム「%1」の名前の変更</translation>
+    </message>
+    <message>
         <source>Repair what can be repaired.</source>
         <translation>直せるものを直します。</translation>
     </message>
@@ -1348,6 +1632,14 @@ These commands run without a window; each has its own --help:
         <translation>新しい地図用のスキームの保存</translation>
     </message>
     <message>
+        <source>Scales</source>
+        <translation>縮尺</translation>
+    </message>
+    <message>
+        <source>Scheme</source>
+        <translation>スキーム</translation>
+    </message>
+    <message>
         <source>Schemes made of map themes: %1</source>
         <translation>地図テーマから作成したスキーム: %1</translation>
     </message>
@@ -1356,11 +1648,39 @@ These commands run without a window; each has its own --help:
         <translation>選択可能</translation>
     </message>
     <message>
+        <source>Show the layer control inside this window</source>
+        <translation>レイヤーコントロールをこのウィンドウの中に表示します</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>選択可能</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>表示対象(&amp;W):</translation>
+    </message>
+    <message>
         <source>snap required</source>
         <translation>スナップ必須</translation>
     </message>
     <message>
+        <source>Snap required</source>
+        <translation>スナップ必須</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>塗りつぶし</translation>
+    </message>
+    <message>
+        <source>Solid line</source>
+        <translation>実線</translation>
+    </message>
+    <message>
         <source>style</source>
+        <translation>スタイル</translation>
+    </message>
+    <message>
+        <source>Style</source>
         <translation>スタイル</translation>
     </message>
     <message>
@@ -1458,6 +1778,14 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Switch Scheme</source>
         <translation>スキームの切り替え</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>比較先(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Taking Over Values</source>
+        <translation>値の反映</translation>
     </message>
     <message>
         <source>The changes cannot be kept for undoing in the folder &quot;^1&quot;: ^2.</source>
@@ -1600,6 +1928,10 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」は、このプログラムのより新しいバージョンで書き込まれています。</translation>
     </message>
     <message>
+        <source>The map as it is</source>
+        <translation>現在のマップ</translation>
+    </message>
+    <message>
         <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
         <translation>地図ファイル「%1」は移動または削除されました。変更は、別の名前で地図を保存した場合にのみ残ります。</translation>
     </message>
@@ -1622,6 +1954,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>The map file.</source>
         <translation>地図ファイル。</translation>
+    </message>
+    <message>
+        <source>The map has no features of these layers.</source>
+        <translation>マップにこれらのレイヤーの地物はありません。</translation>
     </message>
     <message>
         <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
@@ -1716,6 +2052,14 @@ These commands run without a window; each has its own --help:
         <translation>レイヤ「%1」の「%2」は数値ではありません。</translation>
     </message>
     <message>
+        <source>Their data files stay. You can undo the deletion.</source>
+        <translation>データファイルは残ります。削除は元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Their saved values will be removed from the layer schemes: %1.</source>
+        <translation>保存された値がレイヤースキームから削除されます: %1。</translation>
+    </message>
+    <message>
         <source>There are no patterns of kind %1.</source>
         <translation>種類 %1 のパターンはありません。</translation>
     </message>
@@ -1776,6 +2120,14 @@ These commands run without a window; each has its own --help:
         <translation>メモリ不足のため「^1」への変更を記録できませんでした。これらの変更は元に戻せません。</translation>
     </message>
     <message>
+        <source>They will be removed from their groups: %1.</source>
+        <translation>属しているグループから外れます: %1。</translation>
+    </message>
+    <message>
+        <source>Thinnest line</source>
+        <translation>最も細い線</translation>
+    </message>
+    <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>
         <translation>この地図は空です。［ファイル］&gt;［データを開く...］を選ぶか、データファイルをここにドロップしてください。</translation>
     </message>
@@ -1800,8 +2152,16 @@ These commands run without a window; each has its own --help:
         <translation>地図の表題</translation>
     </message>
     <message>
+        <source>To</source>
+        <translation>変更後</translation>
+    </message>
+    <message>
         <source>Tools</source>
         <translation>ツール</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>透明</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1810,6 +2170,18 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Undo %1</source>
         <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened</source>
+        <translation>レイヤーコントロールを開いてからの操作をすべて元に戻す(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo &amp;Everything Since the Layer Control Opened (%1)</source>
+        <translation>レイヤーコントロールを開いてからの操作をすべて元に戻す (%1)(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo all changes since the layer control was opened, as one step</source>
+        <translation>レイヤーコントロールを開いてからのすべての変更を1回で元に戻します</translation>
     </message>
     <message>
         <source>Undo Layer Change</source>
@@ -1840,6 +2212,10 @@ These commands run without a window; each has its own --help:
         <translation>表示</translation>
     </message>
     <message>
+        <source>Visible</source>
+        <translation>表示</translation>
+    </message>
+    <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
         <translation>「%1」で編集した値は、その間に別の場所で変更されました。</translation>
     </message>
@@ -1848,12 +2224,20 @@ These commands run without a window; each has its own --help:
         <translation>幅</translation>
     </message>
     <message>
+        <source>Words of layers and properties</source>
+        <translation>レイヤーとプロパティの語</translation>
+    </message>
+    <message>
         <source>Write each call between the map and the layer control to FILE.</source>
         <translation>地図とレイヤーコントロールの間の呼び出しをすべて FILE に書き込みます。</translation>
     </message>
     <message>
         <source>Write the map as PDF, SVG or PNG</source>
         <translation>地図を PDF、SVG、PNG として書き出します</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1946,6 +2330,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>the new position is outside the coordinate system</source>
         <translation>新しい位置は座標系の範囲外です</translation>
+    </message>
+    <message>
+        <source>Zoom to Layer</source>
+        <translation>レイヤーの範囲にズーム</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeySequence>
+#include <QLocale>
 
 namespace Orvane {
 
@@ -39,6 +40,7 @@ EditActions::EditActions(const Actions& actions, QWidget& window) : m_actions(ac
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     SetUp(*m_actions.undo, &UndoHistory::Undo);
     SetUp(*m_actions.redo, &UndoHistory::Redo);
+    SetUp(*m_actions.undoOpening, &UndoHistory::UndoSinceMark);
     Show();
 }
 
@@ -93,6 +95,18 @@ void EditActions::Show()
     const UndoHistory& history = m_history ? *m_history : none;
     ShowCommand(*m_actions.undo, history.UndoText(), history.CanUndo());
     ShowCommand(*m_actions.redo, history.RedoText(), history.CanRedo());
+    ShowOpening(history.StepsSinceMark());
+}
+
+// The letter of Undo is taken.
+void EditActions::ShowOpening(int steps)
+{
+    QAction& action = *m_actions.undoOpening;
+    const QString number = QLocale().toString(steps);
+    action.setText(
+        steps == 0 ? tr("Undo &Everything Since the Layer Control Opened")
+                   : tr("Undo &Everything Since the Layer Control Opened (%1)").arg(number));
+    action.setEnabled(steps > 0);
 }
 
 } // namespace Orvane

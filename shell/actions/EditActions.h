@@ -21,6 +21,7 @@ public:
     struct Actions {
         QAction* undo;
         QAction* redo;
+        QAction* undoOpening; ///< everything since the layer control was opened
     };
 
     /// None is owned; all outlive this object. Errors are shown over the window.
@@ -37,6 +38,7 @@ private:
     QWidget* Owner() const;
     void Run(void (UndoHistory::*command)());
     void Show();
+    void ShowOpening(int steps);
 
     Actions m_actions;
     QWidget& m_window;

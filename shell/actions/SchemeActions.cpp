@@ -2,19 +2,19 @@
 #include "shell/actions/SchemeActions.h"
 
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/manager/SchemeFileDialogs.h"
+#include "hostkit/manager/SchemeReport.h"
 #include "hostkit/schemes/SchemeExchange.h"
 #include "mapkit/common/Guard.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
 #include "shell/actions/LayerControl.h"
 #include "shell/actions/SchemeStatus.h"
-#include "shell/dialogs/SchemeReport.h"
 #include "shell/map/MapSession.h"
 #include "shell/window/Confirm.h"
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QFileDialog>
 #include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
@@ -24,19 +24,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto FileSuffix = "json";
 constexpr int MessageTime = 15000; // milliseconds
-
-// The scheme's name, without the characters that a file name may not contain.
-QString FileNameFor(const QString& scheme)
-{
-    QString name = NameInText(scheme);
-    for (QChar& character : name) {
-        if (QStringLiteral("/\\:*?\"<>|").contains(character))
-            character = QLatin1Char('_');
-    }
-    return name + QLatin1Char('.') + QLatin1String(FileSuffix);
-}
 
 } // namespace
 
@@ -164,27 +152,21 @@ void SchemeActions::Revert()
 void SchemeActions::Export()
 {
     const QString name = Current();
-    QFileDialog dialog(&m_window, tr("Export Scheme"), {}, tr("Layer schemes (*.json)"));
-    dialog.setObjectName(QStringLiteral("dlgExportScheme"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QLatin1String(FileSuffix));
-    dialog.selectFile(FileNameFor(name));
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path = SchemeFileDialogs::AskExportPath(&m_window, name);
+    if (path.isEmpty())
         return;
     const BusyPointer busy;
-    m_session->Shell().ExportScheme(name, dialog.selectedFiles().value(0));
+    m_session->Shell().ExportScheme(name, path);
     m_statusBar.showMessage(tr("The scheme \"%1\" was exported.").arg(NameInText(name)), MessageTime);
 }
 
 void SchemeActions::Import()
 {
-    QFileDialog dialog(&m_window, tr("Import Scheme"), {}, tr("Layer schemes (*.json);;All files (*)"));
-    dialog.setObjectName(QStringLiteral("dlgImportScheme"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path = SchemeFileDialogs::AskImportPath(&m_window);
+    if (path.isEmpty())
         return;
-    const auto import = m_session->Shell().ImportSchemeFile(
-        dialog.selectedFiles().value(0), [this](const QString& name) { return MayReplace(name); });
+    const auto import
+        = m_session->Shell().ImportSchemeFile(path, [this](const QString& name) { return MayReplace(name); });
     if (import)
         Report(*import);
 }
@@ -192,10 +174,7 @@ void SchemeActions::Import()
 bool SchemeActions::MayReplace(const QString& name)
 {
     return !m_session->Client().GetSchemeNames().contains(name)
-        || Confirm(
-            m_window, tr("Import Scheme"),
-            tr("The scheme \"%1\" already exists. Replace it with the one in the file?")
-                .arg(NameInText(name)));
+        || SchemeFileDialogs::AskToReplace(&m_window, name);
 }
 
 void SchemeActions::Report(const SchemeImport& import)

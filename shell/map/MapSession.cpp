@@ -51,12 +51,31 @@ MapSession::MapSession(
     m_client.SetStartupFile(StartupFile());
     m_client.SetLayerMaker(
         [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
+    m_client.SetMapScale([this] { return m_document->HasLayers() ? m_canvas.ScaleDenominator() : 0; });
+    m_client.SetLayerZoom(
+        [this](const std::vector<qint32>& layerIDs) { return !BoundsOf(layerIDs).IsEmpty(); },
+        [this](const std::vector<qint32>& layerIDs) {
+            const Box bounds = BoundsOf(layerIDs);
+            if (!bounds.IsEmpty())
+                m_canvas.SetView(MapView::Fitting(bounds, m_canvas.size()));
+        });
     Connect();
 }
 
 MapSession::~MapSession()
 {
     m_canvas.SetBackdrop(nullptr);
+}
+
+Box MapSession::BoundsOf(const std::vector<qint32>& layerIDs) const
+{
+    const QSet<qint32> wanted(layerIDs.begin(), layerIDs.end());
+    Box bounds;
+    for (const MapLayer& layer : m_layers.All()) {
+        if (layer.features && wanted.contains(layer.layerID))
+            bounds.Add(layer.features->Bounds());
+    }
+    return bounds;
 }
 
 IStyleEditorClient& MapSession::Client()

@@ -3,6 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/tracing/TracingClient.h"
+#include "mapkit/coordinates/Box.h"
 #include "shell/map/AttributeLoader.h"
 #include "shell/map/LayerStates.h"
 #include "shell/map/MapLayers.h"
@@ -89,6 +90,8 @@ private:
     void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);
     void FollowLayers();
     void MarkNames();
+    // Of the features of these layers that were read; hidden ones count too.
+    Box BoundsOf(const std::vector<qint32>& layerIDs) const;
 
     MapCanvas& m_canvas;
     QWidget& m_mainWindow;

@@ -2,6 +2,7 @@
 #include "shell/map/ShellClient.h"
 
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/windows/EditorDock.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "shell/map/LayerStates.h"
 
@@ -62,8 +63,34 @@ void ShellClient::RaiseEditor(const QString& editorID)
     const QPointer<QWidget> form = m_editors.value(editorID);
     if (!form)
         return;
+    if (EditorDock* dock = DockOf(editorID))
+        dock->ShowEditor(form); // which may be hidden
     form->raise();
     form->activateWindow();
+    if (!form->isWindow())
+        form->setFocus();
+}
+
+void ShellClient::SetDock(const QString& editorID, EditorDock* dock)
+{
+    const QPointer<QWidget> form = m_editors.value(editorID);
+    if (form && DockOf(editorID))
+        TakeOutOfDock(*form);
+    m_dock = dock;
+    m_dockedID = editorID;
+    if (form)
+        IStyleEditorClient_ShowEditor(form);
+}
+
+EditorDock* ShellClient::DockOf(const QString& editorID) const
+{
+    return editorID == m_dockedID ? m_dock.data() : nullptr;
+}
+
+void ShellClient::TakeOutOfDock(QWidget& form)
+{
+    m_dock->EditorClosed(&form);
+    form.setParent(nullptr, m_windowFlags);
 }
 
 void ShellClient::SetThemeNames(std::function<QString(const QString& editorID)> nameOf)
@@ -74,6 +101,11 @@ void ShellClient::SetThemeNames(std::function<QString(const QString& editorID)> 
 void ShellClient::SetLayerMaker(std::function<qint32(QWidget* owner)> make)
 {
     m_makeLayer = std::move(make);
+}
+
+void ShellClient::SetMapScale(std::function<double()> scale)
+{
+    m_mapScale = std::move(scale);
 }
 
 qint32 ShellClient::IStyleEditorClient_CreateLayer()
@@ -96,14 +128,24 @@ void ShellClient::IStyleEditorClient_ShowEditor(QWidget* form)
 {
     const QString editorID = EditorIDOf(form);
     form->setAttribute(Qt::WA_ShowWithoutActivating); // RaiseEditor activates it if asked for
-    FitToScreen(*form, m_mainWindow);
-    const auto place = m_places.constFind(editorID);
-    if (place != m_places.constEnd())
-        form->move(*place);
+    if (form->isWindow() && editorID == m_dockedID)
+        m_windowFlags = form->windowFlags();
+    if (EditorDock* dock = DockOf(editorID))
+        dock->ShowEditor(form);
     else
-        PlaceBeside(*form, m_mainWindow, int(m_editors.size()));
+        PlaceWindow(*form, editorID);
     m_editors.insert(editorID, form);
     StandardClient::IStyleEditorClient_ShowEditor(form);
+}
+
+void ShellClient::PlaceWindow(QWidget& form, const QString& editorID)
+{
+    FitToScreen(form, m_mainWindow);
+    const auto place = m_places.constFind(editorID);
+    if (place != m_places.constEnd())
+        form.move(*place);
+    else
+        PlaceBeside(form, m_mainWindow, int(m_editors.size()));
 }
 
 QString ShellClient::IStyleEditorClient_LayerDisplayName(qint32 layerID)
@@ -119,14 +161,46 @@ std::vector<RendererStyle> ShellClient::IStyleEditorClient_RendererStyles() cons
 void ShellClient::IStyleEditorClient_EditorClosed(QWidget* form)
 {
     const QString editorID = EditorIDOf(form);
-    if (m_editors.remove(editorID))
+    if (m_editors.remove(editorID) && form->isWindow())
         m_places.insert(editorID, form->pos());
+    if (EditorDock* dock = DockOf(editorID))
+        dock->EditorClosed(form);
     StandardClient::IStyleEditorClient_EditorClosed(form);
 }
 
 QString ShellClient::IStyleEditorClient_ThemeName(QWidget* form) const
 {
     return m_themeNameOf ? m_themeNameOf(EditorIDOf(form)) : QString();
+}
+
+double ShellClient::IMapScale_CurrentScale() const
+{
+    return m_mapScale ? m_mapScale() : 0;
+}
+
+void ShellClient::SetLayerZoom(
+    std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
+    std::function<void(const std::vector<qint32>& layerIDs)> zoom)
+{
+    m_canZoom = std::move(canZoom);
+    m_zoom = std::move(zoom);
+}
+
+std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
+{
+    if (!m_zoom)
+        return {};
+    return {{QStringLiteral("ZoomToLayer"), tr("Zoom to Layer")}};
+}
+
+QString ShellClient::INodeCommands_WhyNot(const QString&, const std::vector<qint32>& layerIDs)
+{
+    return m_canZoom(layerIDs) ? QString() : tr("The map has no features of these layers.");
+}
+
+void ShellClient::INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>& layerIDs)
+{
+    m_zoom(layerIDs);
 }
 
 } // namespace Orvane

@@ -3,6 +3,9 @@
 
 #include "hostkit/StandardClient.h"
 
+#include <OrvaneShellLib/IMapScale.h>
+
+#include <QCoreApplication>
 #include <QHash>
 #include <QPoint>
 #include <QPointer>
@@ -12,19 +15,26 @@
 
 namespace Orvane {
 
+class EditorDock;
 class LayerStates;
 
 /// Orvane's application object for the component: the standard client, which also keeps the editors' windows
 /// beside the map.
-class ShellClient : public StandardClient
+class ShellClient : public StandardClient, public IMapScale
 {
+    Q_DECLARE_TR_FUNCTIONS(ShellClient)
+
 public:
     /// None is owned; all outlive this object. states: marks the names that are listed.
     ShellClient(
         ILayerStore& database, IShellServices& services, const LayerStates& states, QWidget& mainWindow);
 
-    /// Brings the window of the editor to the front, if it is shown.
+    /// Brings the editor to the front, if it is shown, and gives it the keys.
     void RaiseEditor(const QString& editorID);
+
+    /// Shows the editor with that ID in the dock from now on; nullptr for a window of its own. An editor that
+    /// is shown moves there with its edits. dock: not owned, and may end before this object.
+    void SetDock(const QString& editorID, EditorDock* dock);
 
     /// Sets the function that returns the name of the theme that the editor with an ID edits; empty for none.
     /// Call before the first editor is opened.
@@ -33,13 +43,20 @@ public:
     /// Sets the function that makes new layers instead of the standard client; it returns the new layer's ID,
     /// 0 for none.
     void SetLayerMaker(std::function<qint32(QWidget* owner)> make);
+    /// Sets the function that returns the denominator of the map's scale; without it there is none.
+    void SetMapScale(std::function<double()> scale);
+    /// Sets what the command "Zoom to Layer" does. canZoom: whether the map has features of these layers.
+    void SetLayerZoom(
+        std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
+        std::function<void(const std::vector<qint32>& layerIDs)> zoom);
     /// The ID of the editor that asked for a new layer, during the notification LayerCreated; empty for none.
     const QString& CreatingEditor() const { return m_creatingEditor; }
 
 protected:
     /// Calls the layer maker, if there is one; 0 when the user cancels.
     qint32 IStyleEditorClient_CreateLayer() override;
-    /// Shows the window where it was last, else at the main window's right side, within the screen.
+    /// Shows the editor in its dock, or the window where it was last, else at the main window's right side,
+    /// within the screen.
     void IStyleEditorClient_ShowEditor(QWidget* form) override;
     /// The layer's name with the marker of its state.
     QString IStyleEditorClient_LayerDisplayName(qint32 layerID) override;
@@ -47,14 +64,29 @@ protected:
     std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
     void IStyleEditorClient_EditorClosed(QWidget* form) override;
     QString IStyleEditorClient_ThemeName(QWidget* form) const override;
+    double IMapScale_CurrentScale() const override;
+    /// "Zoom to Layer", if it was set what that does.
+    std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
+    QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
+    void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
 
 private:
+    EditorDock* DockOf(const QString& editorID) const;
+    void PlaceWindow(QWidget& form, const QString& editorID);
+    void TakeOutOfDock(QWidget& form);
+
     const LayerStates& m_states;
     QWidget& m_mainWindow;
     QHash<QString, QPointer<QWidget>> m_editors; // by ID
+    QPointer<EditorDock> m_dock;
+    QString m_dockedID; // of the editor that the dock is for
+    Qt::WindowFlags m_windowFlags; // of that editor's window
     QHash<QString, QPoint> m_places; // of closed editors' frames, by ID
     std::function<QString(const QString&)> m_themeNameOf;
     std::function<qint32(QWidget*)> m_makeLayer;
+    std::function<double()> m_mapScale;
+    std::function<bool(const std::vector<qint32>&)> m_canZoom;
+    std::function<void(const std::vector<qint32>&)> m_zoom;
     QString m_creatingEditor;
 };
 

@@ -42,11 +42,16 @@ void Restore(QMainWindow& window)
     window.restoreState(settings.value(QLatin1String(StateKey)).toByteArray());
 }
 
-void Store(const QMainWindow& window)
+Place Of(const QMainWindow& window)
+{
+    return {window.saveGeometry(), window.saveState()};
+}
+
+void Store(const Place& place)
 {
     QSettings settings;
-    settings.setValue(QLatin1String(GeometryKey), window.saveGeometry());
-    settings.setValue(QLatin1String(StateKey), window.saveState());
+    settings.setValue(QLatin1String(GeometryKey), place.geometry);
+    settings.setValue(QLatin1String(StateKey), place.state);
 }
 
 } // namespace Orvane::WindowPlace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+
 class QMainWindow;
 
 namespace Orvane {
@@ -12,8 +14,16 @@ namespace WindowPlace {
 /// has room at its right if the screen is large enough.
 void Restore(QMainWindow& window);
 
-/// Stores the window's place.
-void Store(const QMainWindow& window);
+struct Place {
+    QByteArray geometry;
+    QByteArray state; // of tool bars and docks
+};
+
+/// The window's place as it is now.
+Place Of(const QMainWindow& window);
+
+/// Stores a place.
+void Store(const Place& place);
 
 } // namespace WindowPlace
 

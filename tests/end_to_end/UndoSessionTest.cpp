@@ -82,6 +82,55 @@ TEST_F(UndoSession, AnAppliedChangeGoesBackInMapPanelAndFile)
     EXPECT_FALSE(IsTicked());
 }
 
+TEST_F(UndoSession, EverythingSinceTheLayerControlOpenedGoesBackAndComesAgainInOneStep)
+{
+    const QImage before = Map();
+    SwitchVisible(Layer);
+    SwitchVisible("Forest");
+    const QImage after = Map();
+    auto* action = m_window->findChild<QAction*>("actUndoOpening");
+    EXPECT_TRUE(action->text().endsWith("(2)"));
+    Trigger("actUndoOpening");
+    EXPECT_EQ(Map(), before);
+    EXPECT_FALSE(action->isEnabled());
+    Redo();
+    EXPECT_EQ(Map(), after);
+    EXPECT_EQ(UndoText(), "Undo 2 Steps");
+}
+
+TEST_F(UndoSession, AChangeOfSeveralLayersIsOneStep)
+{
+    auto& tree = Find<QTreeView>(Form(), "tvLayers2");
+    ClickLayer(Form(), Listed(Form()).first());
+    QTest::keyClick(&tree, Qt::Key_A, Qt::ControlModifier);
+    const int layers = tree.model()->rowCount();
+    const int locked = Count("Layers WHERE locked");
+    auto* box = Find(Form(), "chkLocked").findChild<QCheckBox*>();
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+    Press(Form(), "cmdApply");
+    EXPECT_NE(Count("Layers WHERE locked"), locked);
+    EXPECT_EQ(UndoText(), QStringLiteral("Undo Change %1 Layers").arg(layers));
+    Undo();
+    EXPECT_EQ(Count("Layers WHERE locked"), locked);
+    EXPECT_EQ(tree.selectionModel()->selectedIndexes().size(), layers);
+}
+
+TEST_F(UndoSession, SeveralDeletedLayersComeBackInOneStep)
+{
+    auto& tree = Find<QTreeView>(Form(), "tvLayers2");
+    const int layers = tree.model()->rowCount();
+    ClickLayer(Form(), Listed(Form()).first());
+    QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(&tree, Qt::Key_Down, Qt::ShiftModifier);
+    MessageBoxRobot user{BoxKey::Yes};
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_EQ(user.Only().text, "Delete 3 layers?");
+    EXPECT_EQ(tree.model()->rowCount(), layers - 3);
+    EXPECT_EQ(UndoText(), "Undo Delete 3 Layers");
+    Undo();
+    EXPECT_EQ(tree.model()->rowCount(), layers);
+}
+
 TEST_F(UndoSession, TheKeysWorkInTheLayerControl)
 {
     SwitchVisible(Layer);

@@ -7,6 +7,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -49,10 +50,12 @@ class EditActionsTest : public testing::Test
 protected:
     EditActionsTest()
     {
-        QMenu* menu = m_window.menuBar()->addMenu("Edit");
+        QMenu* menu = m_window.menuBar()->addMenu("&Edit");
         m_undo = menu->addAction("Undo");
         m_redo = menu->addAction("Redo");
-        m_actions = std::make_unique<EditActions>(EditActions::Actions{m_undo, m_redo}, m_window);
+        m_undoOpening = menu->addAction("Undo Everything");
+        m_actions
+            = std::make_unique<EditActions>(EditActions::Actions{m_undo, m_redo, m_undoOpening}, m_window);
         m_actions->Use(*m_history);
         m_window.show();
     }
@@ -69,6 +72,7 @@ protected:
     QMainWindow m_window;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
+    QAction* m_undoOpening = nullptr;
     QStringList m_diary;
     std::unique_ptr<UndoHistory> m_history = std::make_unique<UndoHistory>();
     std::unique_ptr<EditActions> m_actions;
@@ -129,6 +133,26 @@ TEST_F(EditActionsTest, LeaveTheKeysToATextEntry)
     QTest::keyClick(&entry, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(m_diary.isEmpty());
     EXPECT_EQ(entry.text(), "name");
+}
+
+TEST_F(EditActionsTest, UndoEverythingSinceTheLayerControlOpened)
+{
+    Do("before");
+    m_history->SetMark();
+    EXPECT_FALSE(m_undoOpening->isEnabled());
+    EXPECT_EQ(m_undoOpening->text(), "Undo &Everything Since the Layer Control Opened");
+    Do("a");
+    Do("b");
+    EXPECT_TRUE(m_undoOpening->isEnabled());
+    EXPECT_EQ(m_undoOpening->text(), "Undo &Everything Since the Layer Control Opened (2)");
+    Press(m_window, Qt::Key_E, Qt::AltModifier);
+    QWidget* menu = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return (menu = QApplication::activePopupWidget()) != nullptr; }));
+    QTest::keyClick(menu, Qt::Key_E);
+    EXPECT_THAT(m_diary, ElementsAre("undo b", "undo a"));
+    EXPECT_FALSE(m_undoOpening->isEnabled());
+    Press(m_window, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_THAT(m_diary, ElementsAre("undo b", "undo a", "redo a", "redo b"));
 }
 
 TEST_F(EditActionsTest, ShowWhatGoesWrong)

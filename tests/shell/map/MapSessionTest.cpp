@@ -75,6 +75,21 @@ protected:
 
 } // namespace
 
+TEST_F(MapSessionTest, ZoomsToALayerFromTheLayerControlsMenu)
+{
+    auto& commands = dynamic_cast<INodeCommands&>(m_session->Client());
+    const MapView all = m_canvas.View();
+    m_canvas.SetView(all.ZoomedAt({0, 0}, 8));
+    ASSERT_EQ(commands.Commands(nullptr).size(), 1U);
+    const QString id = commands.Commands(nullptr).front().id;
+    EXPECT_EQ(commands.WhyNot(id, {1}), QString());
+    commands.Run(nullptr, id, {1});
+    EXPECT_EQ(m_canvas.View(), all);
+    EXPECT_EQ(commands.WhyNot(id, {77}), QStringLiteral("The map has no features of these layers."));
+    commands.Run(nullptr, id, {77});
+    EXPECT_EQ(m_canvas.View(), all);
+}
+
 TEST_F(MapSessionTest, ShowsTheDataOfTheMap)
 {
     EXPECT_EQ(m_canvas.Layers().size(), 2u);

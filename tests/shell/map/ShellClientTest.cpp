@@ -66,6 +66,14 @@ TEST_F(ShellClientTest, AnEditorThatComesBackByItselfTakesNoKeys)
     EXPECT_TRUE(m_form.testAttribute(Qt::WA_ShowWithoutActivating));
 }
 
+TEST_F(ShellClientTest, ThereIsNoMapScaleWithoutAMap)
+{
+    const IMapScale& map = m_client;
+    EXPECT_EQ(map.CurrentScale(), 0);
+    m_client.SetMapScale([] { return 25000; });
+    EXPECT_EQ(map.CurrentScale(), 25000);
+}
+
 TEST_F(ShellClientTest, AnEditorThatIsGoneCannotBeRaisedAndThatIsHarmless)
 {
     m_client.RaiseEditor("");
