@@ -111,6 +111,7 @@ void ProjectSession::ListenToProject()
     connect(&m_watcher, &ProjectWatcher::StyleRenamed, this, [this](const QString& from, const QString& to) {
         Guard([&] { m_mirror.Styles().Rename(from, to); });
     });
+    connect(&m_watcher, &ProjectWatcher::StylesChanged, this, [this] { m_areStylesOld = true; });
     connect(&m_project, &QgsProject::cleared, this, [this] {
         Guard([this] { m_client.DropPendingEdits(); }); // another project may use the same numbers
     });
@@ -127,11 +128,11 @@ void ProjectSession::ListenToClient()
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
-        if (!m_client.IsBusy()) // it does so itself
+        if (!m_client.IsWriting()) // it does so itself
             Guard([&] { m_mirror.WriteName(layerID, name); });
     });
     connect(&told, &HostNotifications::GroupRenamed, this, [this](qint32 groupID, const QString& name) {
-        if (!m_client.IsBusy())
+        if (!m_client.IsWriting())
             Guard([&] { m_mirror.WriteGroupName(groupID, name); });
     });
     connect(
@@ -147,7 +148,8 @@ void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
     if (isTree && !readsAll)
         changes.Add(m_mirror.ReadTree());
     m_isBehind = false;
-    TellStyles();
+    if (m_areStylesOld || changes.isList)
+        TellStyles(); // which asks every layer
     Show(changes);
 }
 
@@ -204,6 +206,7 @@ void ProjectSession::SaveOwnValues()
 
 void ProjectSession::TellStyles()
 {
+    m_areStylesOld = false;
     QStringList names;
     for (const RendererStyle& style : m_mirror.Styles().Offered())
         names << style.name;

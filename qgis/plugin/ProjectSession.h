@@ -93,6 +93,7 @@ private:
     LayerOwnValues::CarriedStyles m_carriedStyles;
     QString m_startupFile;
     BeforeSaving m_beforeSaving;
+    bool m_areStylesOld = false; // a layer has other ones than those that were offered
     bool m_isBehind = false; // a change could not be read
     int m_running = 0;
 };

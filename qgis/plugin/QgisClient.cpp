@@ -40,6 +40,7 @@ QgisClient::QgisClient(
     ILayerStore& store, IShellServices& services, QgsProject& project, ProjectMirror& mirror)
     : StandardClient(store, services), m_project(project), m_mirror(mirror), m_commands{MakeScratchLayer, {}}
 {
+    SetKeepsNotes(false); // the store is not saved, the project is
 }
 
 void QgisClient::SetDock(EditorDock* dock)
@@ -159,6 +160,12 @@ qint32 QgisClient::IStyleEditorClient_CreateLayer()
     return layerID;
 }
 
+void QgisClient::ISchemeManager_ManageSchemes(QWidget* form)
+{
+    const Running managing(m_managing, m_managing + 1);
+    StandardClient::ISchemeManager_ManageSchemes(form);
+}
+
 void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
 {
     const Running running(m_running, m_running + 1);
@@ -173,6 +180,11 @@ void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
     InvalidateLayerNames();
     m_changed.remove(layerID);
     emit Notifications().LayerDeleted(layerID);
+}
+
+double QgisClient::IMapScale_CurrentScale() const
+{
+    return m_commands.mapScale ? m_commands.mapScale() : 0;
 }
 
 void QgisClient::RemoveAfterQuestion(QgsMapLayer& layer, qint32 layerID)

@@ -3,6 +3,8 @@
 
 #include "hostkit/StandardClient.h"
 
+#include <OrvaneShellLib/IMapScale.h>
+
 #include <QPointer>
 #include <QSet>
 
@@ -23,11 +25,13 @@ struct QgisCommands {
     std::function<QgsMapLayer*()> makeLayer;
     /// Removes the layer from the project, unless the user does not want it. Empty: the client asks itself.
     std::function<void(QgsMapLayer& layer)> removeLayer;
+    /// The denominator of the scale of the map that is shown. Empty: none is.
+    std::function<double()> mapScale = {};
 };
 
 /// The application object of QGIS: what is applied in the dialog goes to the project at once, as a part of
 /// the same step, so that undoing it finds the layers as they are.
-class QgisClient : public StandardClient
+class QgisClient : public StandardClient, public IMapScale
 {
     Q_DECLARE_TR_FUNCTIONS(QgisClient)
 
@@ -44,7 +48,9 @@ public:
     /// True while LayersChanged names layers that were written already.
     bool IsApplying() const { return m_isApplying; }
     /// True while a call is running that writes layers, or waits for the user.
-    bool IsBusy() const { return m_running > 0; }
+    bool IsBusy() const { return m_running > 0 || m_managing > 0; }
+    /// The same without the window for schemes, in which steps may be undone.
+    bool IsWriting() const { return m_running > 0; }
     /// True while the editor has edits that were not applied.
     bool HasPendingEdits() const;
     /// Drops them: their layers are gone.
@@ -66,6 +72,8 @@ protected:
     std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
+    double IMapScale_CurrentScale() const override;
+    void ISchemeManager_ManageSchemes(QWidget* form) override;
 
 private:
     void RemoveAfterQuestion(QgsMapLayer& layer, qint32 layerID);
@@ -78,6 +86,7 @@ private:
     QSet<qint32> m_changed; // since the last RedrawMap
     bool m_isApplying = false;
     int m_running = 0;
+    int m_managing = 0;
 };
 
 } // namespace Orvane

@@ -47,7 +47,7 @@ class DrawnAgain
 public:
     explicit DrawnAgain(QgsMapCanvas& canvas) : m_canvas(canvas), m_wasDrawing(canvas.isDrawing())
     {
-        m_canvas.stopRendering();
+        m_canvas.cancelJobs(); // stopRendering would not wait for its images
     }
     ~DrawnAgain()
     {
@@ -130,7 +130,8 @@ QgisCommands QgisWindow::Commands(QgisInterface& qgis)
 {
     return {
         [&qgis] { return MakeLayerInQgis(qgis); },
-        [&qgis](QgsMapLayer& layer) { RemoveLayerInQgis(qgis, layer); }};
+        [&qgis](QgsMapLayer& layer) { RemoveLayerInQgis(qgis, layer); },
+        [&qgis] { return qgis.mapCanvas()->scale(); }};
 }
 
 void QgisWindow::ConnectPanel(QgisInterface& qgis, ProjectSession& session)

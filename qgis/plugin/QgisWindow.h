@@ -23,7 +23,8 @@ void SaveSize(QgisInterface& qgis, EditorDock& dock);
 /// Gives the dock the size that was kept, if it is in the main window.
 void RestoreSize(QgisInterface& qgis, EditorDock& dock);
 
-/// QGIS's dialog for temporary scratch layers, and its "Remove Layer", which asks as QGIS does.
+/// QGIS's dialog for temporary scratch layers, and its "Remove Layer", which asks as QGIS does; and the scale
+/// of its map.
 QgisCommands Commands(QgisInterface& qgis);
 
 /// Has the session refresh the panel of layers, whose columns keep their widths meanwhile: with all entries

@@ -101,6 +101,9 @@ void ProjectWatcher::ListenToStyles(QgsMapLayer& layer)
     connect(styles, &QgsMapLayerStyleManager::styleRemoved, this, note);
     connect(styles, &QgsMapLayerStyleManager::styleRenamed, this, note);
     connect(styles, &QgsMapLayerStyleManager::styleRenamed, this, &ProjectWatcher::StyleRenamed);
+    connect(styles, &QgsMapLayerStyleManager::styleAdded, this, &ProjectWatcher::StylesChanged);
+    connect(styles, &QgsMapLayerStyleManager::styleRemoved, this, &ProjectWatcher::StylesChanged);
+    connect(styles, &QgsMapLayerStyleManager::styleRenamed, this, &ProjectWatcher::StylesChanged);
 }
 
 void ProjectWatcher::NoteLayer(const QString& layerID)

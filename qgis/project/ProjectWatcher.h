@@ -47,6 +47,8 @@ Q_SIGNALS:
     void Changed(const QSet<QString>& layerIDs, bool isTree);
     /// A named style of a layer got another name; emitted at once, whoever renamed it.
     void StyleRenamed(const QString& from, const QString& to);
+    /// A layer has got, lost or renamed a named style; emitted at once, whoever did it.
+    void StylesChanged();
 
 private:
     void ListenToProject();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hostkit/StyleEditorPlugin.h"
+#include "qgis/LayerColours.h"
 #include "qgis/plugin/SessionFixture.h"
 #include "qgis/session/DialogUser.h"
 
@@ -14,7 +15,7 @@
 namespace Orvane::Testing {
 
 /// The layer control on a project with "Roads" and "Lakes", and a group "Town" without them.
-class DialogFixture : public testing::Test
+class DialogFixture : public testing::Test, protected LayerColours
 {
 protected:
     DialogFixture() : roads(AddLayer("Roads")), lakes(AddLayer("Lakes"))
@@ -44,12 +45,6 @@ protected:
         Paint(*layer, Qt::red);
         project.addMapLayer(layer);
         return layer;
-    }
-
-    static void Paint(QgsVectorLayer& layer, const QColor& colour)
-    {
-        auto* symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
-        layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
     }
 
     static void Settle()

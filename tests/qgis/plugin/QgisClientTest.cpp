@@ -7,6 +7,10 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
 namespace Orvane::Testing {
 
 namespace {
@@ -198,6 +202,23 @@ TEST_F(QgisClientTest, ALayerThatTheUserKeepsStays)
     Host().DeleteLayer(IDOf(roads));
     EXPECT_EQ(project.count(), 1);
     EXPECT_EQ(ToText(Stored(roads, "Name")), "Roads");
+}
+
+TEST_F(QgisClientTest, UndoesARenamingInTheWindowForSchemesAndIsBusyMeanwhile)
+{
+    Host().RenameLayer(IDOf(roads), "Streets");
+    bool wasBusy = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QWidget* window = QApplication::activeModalWidget();
+        ASSERT_TRUE(window);
+        wasBusy = session.Client().IsBusy();
+        History().Undo();
+        window->close();
+    });
+    dynamic_cast<ISchemeManager&>(Host()).ManageSchemes(nullptr);
+    EXPECT_TRUE(wasBusy);
+    EXPECT_FALSE(session.Client().IsBusy());
+    EXPECT_EQ(roads->name(), "Roads");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hostkit/undo/UndoHistory.h"
+#include "qgis/LayerColours.h"
 #include "qgis/plugin/ProjectSession.h"
 #include "qgis/project/StoredRows.h"
 #include "store/ILayerStore.h"
@@ -26,7 +27,7 @@
 namespace Orvane::Testing {
 
 /// A project with a session; its first layer is "Roads", red.
-class SessionFixture : public testing::Test
+class SessionFixture : public testing::Test, protected LayerColours
 {
 protected:
     SessionFixture() : roads(AddLayer("Roads")), session(project) { session.ReadSchemes(); }
@@ -38,18 +39,6 @@ protected:
             Paint(*layer, Qt::red);
         project.addMapLayer(layer);
         return layer;
-    }
-
-    static void Paint(QgsVectorLayer& layer, const QColor& colour)
-    {
-        auto* symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
-        layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
-    }
-
-    static QColor FillOf(const QgsVectorLayer& layer)
-    {
-        const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
-        return renderer ? renderer->symbol()->color() : QColor();
     }
 
     /// A style in which the layer has that colour; the current style stays.

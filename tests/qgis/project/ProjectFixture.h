@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "qgis/LayerColours.h"
 #include "qgis/project/ProjectMirror.h"
 #include "qgis/project/StoredRows.h"
 #include "store/ILayerStore.h"
@@ -21,7 +22,7 @@
 namespace Orvane::Testing {
 
 /// A project with layers in memory, and a store that is to be alike.
-class ProjectFixture : public testing::Test
+class ProjectFixture : public testing::Test, protected LayerColours
 {
 protected:
     QgsVectorLayer* AddLayer(const QString& name, const QString& kind = QStringLiteral("Polygon"))
@@ -38,18 +39,6 @@ protected:
         for (auto name = names.rbegin(); name != names.rend(); ++name)
             layers.prepend(AddLayer(*name));
         return layers;
-    }
-
-    static void Paint(QgsVectorLayer& layer, const QColor& colour)
-    {
-        auto* symbol = QgsFillSymbol::createSimple({{"color", colour.name()}, {"outline_color", "#000000"}});
-        layer.setRenderer(new QgsSingleSymbolRenderer(symbol));
-    }
-
-    static QColor FillOf(const QgsVectorLayer& layer)
-    {
-        const auto* renderer = dynamic_cast<const QgsSingleSymbolRenderer*>(layer.renderer());
-        return renderer ? renderer->symbol()->color() : QColor();
     }
 
     QStringList OrderOfDrawing() const

@@ -8,9 +8,16 @@ sys.path.insert(0, os.environ["ORVANE_SCRIPTS"])
 from user import *  # noqa: E402,F403
 
 
+def go(command, name):
+    """Switches to that scheme by undo or redo, while QGIS is drawing the former one."""
+    iface.mapCanvas().refreshAllLayers()
+    yield Until("the drawing of the map", iface.mapCanvas().isDrawing)
+    plugin_action(command).trigger()
+    yield from shown(remembered(name))
+
+
 def steps():
     iface.zoomFull()
-    yield from still_map()
     yield from open_dock()
     schemes = named("cmbScheme", QComboBox)
     expect([schemes.itemText(at) for at in range(schemes.count())], ["Quiet", "Standard"], "schemes")
@@ -21,6 +28,9 @@ def steps():
     yield from switch_scheme("Standard")
     yield Until("the colours of Standard", lambda: fills() == remembered("Standard"))
     yield from shown(remembered("Standard"))
+    for _ in range(3):
+        yield from go(1, "Quiet")
+        yield from go(2, "Standard")
     expect((yield from selectable("Layer 7")), True, "Layer 7 is selectable in Standard")
     picture("opened-again")
     yield from save()

@@ -39,6 +39,37 @@ def edit_a_group():
     yield Until("the old colour on the canvas", lambda: colours_at([(50, 290)]) == ["#4080e0"])
 
 
+def chosen_in_list():
+    selection = named("tvLayers2", QTreeView).selectionModel()
+    return sorted(index.data() for index in selection.selectedIndexes())
+
+
+def find_and_edit():
+    """With the keyboard alone, from the list to the list."""
+    before = {name: fill(name) for name in ("Schools", "Woods", "Houses")}
+    yield from select(1, "Houses")
+    key("ctrl+f")
+    field = named("txtFind2")
+    yield Until("the focus of the field", field.hasFocus)
+    type_text("oo")
+    yield Until("the layers that were found", lambda: in_list(1) == ["Schools", "Woods"])
+    key("Down", "ctrl+a")
+    yield Until("the chosen layers", lambda: chosen_in_list() == ["Schools", "Woods"])
+    picture("found")
+    yield from choose("cmbColor1", 5)
+    yield from apply()
+    expect(fill("Schools"), fill("Woods"), "the colours of what was found")
+    expect(fill("Houses"), before["Houses"], "the colour of another layer")
+    expect("2" in plugin_action(1).text(), True, "two layers in " + plugin_action(1).text())
+    plugin_action(1).trigger()
+    yield Until("the undone colours", lambda: {name: fill(name) for name in before} == before)
+    key("ctrl+f")
+    yield Until("the focus of the field again", field.hasFocus)
+    key("Escape")
+    yield Until("all layers", lambda: len(in_list(1)) > 2)
+    expect(chosen_in_list(), ["Schools", "Woods"], "the chosen layers in the whole list")
+
+
 def change_in_qgis():
     layer("Lakes").renderer().symbol().setColor(QColor("#ff00ff"))
     layer("Lakes").emitStyleChanged()
@@ -101,6 +132,7 @@ def steps():
     iface.zoomFull()
     yield from open_dock()
     yield from edit_a_group()
+    yield from find_and_edit()
     yield from change_in_qgis()
     yield from make_and_delete()
     yield from save_with_pending_edits()

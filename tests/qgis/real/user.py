@@ -141,6 +141,20 @@ def plugin_action(number):
     return next(menu for menu in menus if menu.actions()[0].objectName() == "OrvaneLayerControl").actions()[number]
 
 
+def still(widget):
+    """Waits until the widget has kept its place for a moment: a tool bar moves after it was told to."""
+    last, since = None, time.monotonic()
+
+    def is_still():
+        nonlocal last, since
+        now = widget().mapToGlobal(QPoint()) if widget() else None
+        if now is None or now != last:
+            last, since = now, time.monotonic()
+        return now is not None and time.monotonic() > since + 0.3
+
+    yield Until("a widget in its place", is_still)
+
+
 def button_of(action):
     for toolbar in iface.mainWindow().findChildren(QToolButton):
         if toolbar.defaultAction() == action and toolbar.isVisible():
@@ -151,7 +165,7 @@ def button_of(action):
 def open_dock():
     """By its button, as far as it is not open already."""
     iface.mainWindow().insertToolBarBreak(iface.pluginToolBar())  # on a small screen it is cut off
-    yield Until("the button", lambda: button_of(plugin_action(0)))
+    yield from still(lambda: button_of(plugin_action(0)))
     if not dock().isVisible():
         click(button_of(plugin_action(0)))
     yield Until("the dock", lambda: dock().isVisible() and named("tvLayers1") is not None)
