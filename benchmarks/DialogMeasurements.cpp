@@ -14,10 +14,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace Orvane::Benchmarks {
 
@@ -200,10 +203,65 @@ Run BareScroll(const QString&, const JobSize&)
     };
 }
 
+/// Types a text again and again, one key each time.
+class Typist
+{
+public:
+    /// The text after the next key.
+    QString Next()
+    {
+        m_length = m_length % m_text.size() + 1;
+        return m_text.left(m_length);
+    }
+
+private:
+    QString m_text = QStringLiteral("water 12");
+    qsizetype m_length = 0;
+};
+
+Run FindIn(const QString& path, const QString& tab, const char* field)
+{
+    auto desk = std::make_shared<Desk>(path, tab);
+    desk->Open();
+    const std::shared_ptr<void> closing(nullptr, [desk](void*) { desk->Close(); });
+    return [desk, closing, field, typist = Typist()]() mutable {
+        desk->Find<QLineEdit>(field).setText(typist.Next());
+        Desk::Paint();
+    };
+}
+
+Run FindInFlatList(const QString& path, const JobSize&)
+{
+    return FindIn(path, QStringLiteral("LAYERS"), "txtFind2");
+}
+
+Run FindInGroupedTree(const QString& path, const JobSize&)
+{
+    return FindIn(path, QStringLiteral("GROUPS"), "txtFind1");
+}
+
+// Looks into as many names, and shows nothing.
+Run BareFind(const QString&, const JobSize& size)
+{
+    QStringList names;
+    names.reserve(size.layers);
+    for (int layer = 0; layer < size.layers; ++layer)
+        names.append(QStringLiteral("Water mains %1 of sheet %2").arg(layer).arg(layer % pages));
+    return [names, typist = Typist()]() mutable {
+        const QString text = typist.Next();
+        volatile qsizetype found = std::count_if(names.begin(), names.end(), [&](const QString& name) {
+            return name.contains(text, Qt::CaseInsensitive);
+        });
+        Q_UNUSED(found)
+    };
+}
+
 const Registration Registrations[] = {
-    {Job::OpenFlatList, "dialog", FlatList},   {Job::OpenGroupedTree, "dialog", GroupedTree},
-    {Job::SelectGroup, "dialog", Select},      {Job::ApplyToGroup, "dialog", Apply},
-    {Job::ScrollFlatList, "bare", BareScroll}, {Job::ScrollFlatList, "dialog", Scroll},
+    {Job::OpenFlatList, "dialog", FlatList},    {Job::OpenGroupedTree, "dialog", GroupedTree},
+    {Job::SelectGroup, "dialog", Select},       {Job::ApplyToGroup, "dialog", Apply},
+    {Job::ScrollFlatList, "bare", BareScroll},  {Job::ScrollFlatList, "dialog", Scroll},
+    {Job::FindInFlatList, "bare", BareFind},    {Job::FindInFlatList, "dialog", FindInFlatList},
+    {Job::FindInGroupedTree, "bare", BareFind}, {Job::FindInGroupedTree, "dialog", FindInGroupedTree},
 };
 
 } // namespace

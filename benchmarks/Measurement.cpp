@@ -53,6 +53,10 @@ const char* NameOf(Job job)
         return "Apply to group";
     case Job::ScrollFlatList:
         return "Scroll flat list";
+    case Job::FindInFlatList:
+        return "Find in flat list";
+    case Job::FindInGroupedTree:
+        return "Find in grouped tree";
     }
     return "";
 }

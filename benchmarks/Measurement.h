@@ -23,6 +23,8 @@ enum class Job {
     SelectGroup,
     ApplyToGroup, ///< one flag was changed; all properties that the layers share are written
     ScrollFlatList, ///< fifty pages from top to bottom, each painted
+    FindInFlatList, ///< one key in the find field, until the list is painted
+    FindInGroupedTree, ///< the same above the groups
 };
 
 /// How a job is done at one level. Made once for each size, outside the measured time; called for each run.

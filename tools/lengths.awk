@@ -22,6 +22,7 @@ open != "" || start > 0 {
     }
 }
 /^(class|struct|namespace)/ { head = FNR }
+/^ +(: )?public [A-Za-z]+,?$/ && head == FNR - 1 { head = FNR }
 { lines = FNR }
 # The brace of a class stands on a line of its own too, but is no function.
 start > 0 && start == FNR && head == FNR - 1 {

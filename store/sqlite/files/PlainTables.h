@@ -11,7 +11,7 @@ class SqliteConnection;
 inline constexpr std::array PlainTableNames{
     "Layers",         "LayerGroups",  "LayerGroupMembers", "LayerSources",
     "LayerRendering", "LayerSchemes", "LayerSchemeValues", "MapSettings",
-    "HostTables",     "Themes",       "ThemeLayers"};
+    "HostTables",     "Themes",       "ThemeLayers",       "MapNotes"};
 
 /// Raises NotALayerDatabase, and says what was found, if one of these names is a view or a virtual table, or
 /// if one of the tables has a trigger, a computed column or another expression. Such a file could make every
