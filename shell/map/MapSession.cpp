@@ -25,6 +25,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace Orvane {
 
@@ -216,18 +217,35 @@ void MapSession::Connect()
     connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
-    connect(&events, &HostNotifications::LayerCreated, this, &MapSession::ReadNewLayer);
     connect(&events, &HostNotifications::StepNotRecorded, this, &MapSession::StepNotRecorded);
-    connect(
-        &events, &HostNotifications::LayerRenamed, this, [this](qint32 layerID) { DrawAgain({layerID}); });
-    connect(
-        &events, &HostNotifications::LayerDeleted, this, [this](qint32 layerID) { DrawAgain({layerID}); });
+    ConnectLayerNews(events);
+}
+
+// One step may create, rename or delete thousands of layers, and reports each.
+void MapSession::ConnectLayerNews(const HostNotifications& events)
+{
+    m_readSoon.setSingleShot(true);
+    connect(&m_readSoon, &QTimer::timeout, this, [this] { Guard(&m_mainWindow, [this] { ReadNews(); }); });
+    const auto readSoon = [this](qint32 layerID) {
+        m_newsOf.insert(layerID);
+        m_readSoon.start();
+    };
+    connect(&events, &HostNotifications::LayerRenamed, this, readSoon);
+    connect(&events, &HostNotifications::LayerDeleted, this, readSoon);
+    connect(&events, &HostNotifications::LayerCreated, this, [this] {
+        m_hasNewLayers = true;
+        m_readSoon.start();
+    });
 }
 
 // A new layer may have data: those of a source, or those from before its deletion.
-void MapSession::ReadNewLayer()
+void MapSession::ReadNews()
 {
-    Guard(&m_mainWindow, [this] { ReadAndShow(); });
+    const QSet<qint32> layerIDs = std::exchange(m_newsOf, {});
+    if (std::exchange(m_hasNewLayers, false))
+        ReadAndShow();
+    else
+        DrawAgain(layerIDs);
 }
 
 void MapSession::DrawAgain(const QSet<qint32>& layerIDs)

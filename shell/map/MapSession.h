@@ -11,6 +11,7 @@
 #include "shell/map/SourceFollower.h"
 
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -75,7 +76,8 @@ signals:
 
 private:
     void Connect();
-    void ReadNewLayer();
+    void ConnectLayerNews(const HostNotifications& events);
+    void ReadNews();
     struct OpenedBackdrop {
         std::shared_ptr<const RasterBackdrop> picture; ///< nullptr for none
         QString problem; ///< why it cannot be shown
@@ -104,6 +106,9 @@ private:
     std::unique_ptr<TracingClient> m_traced;
     SourceFollower m_follower;
     QTimer m_markSoon; // gathers the many steps of a zoom
+    QTimer m_readSoon; // gathers the many layers of a step
+    QSet<qint32> m_newsOf; // layers that were renamed or deleted since they were read
+    bool m_hasNewLayers = false;
 };
 
 } // namespace Orvane

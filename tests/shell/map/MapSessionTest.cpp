@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/MapSession.h"
 
+#include "hostkit/undo/UndoHistory.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Progress.h"
@@ -96,7 +97,7 @@ TEST_F(MapSessionTest, ShowsTheDataOfTheMap)
     EXPECT_EQ(Middle(), QColor(Qt::red));
 }
 
-TEST_F(MapSessionTest, AChangedLayerIsDrawnAnewAlone)
+TEST_F(MapSessionTest, AChangedLayerIsDrawnAgainAlone)
 {
     Apply(2, "FillForeColor", 0xff0000);
     WaitForPicture();
@@ -139,9 +140,21 @@ TEST_F(MapSessionTest, ADeletedLayerLeavesTheMap)
 {
     MessageBoxRobot user{BoxKey::Yes};
     m_session->Client().DeleteLayer(2);
-    WaitForPicture();
-    ASSERT_EQ(m_canvas.Layers().size(), 1u);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_canvas.Layers().size() == 1u; }));
     EXPECT_EQ(m_canvas.Layers()[0].layerID, 1);
+}
+
+TEST_F(MapSessionTest, ReadsTheMapOnceWhenTheDeletionOfSeveralLayersIsUndone)
+{
+    MessageBoxRobot user{BoxKey::Yes};
+    ShellClient& client = m_session->Shell();
+    client.DeleteLayers({1, 2});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_canvas.Layers().empty(); }));
+    const QSignalSpy read(m_session.get(), &MapSession::LayersRead);
+    client.History().Undo();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_canvas.Layers().size() == 2u; }));
+    QApplication::processEvents();
+    EXPECT_EQ(read.count(), 1);
 }
 
 TEST_F(MapSessionTest, ALoadedSchemeIsDrawn)
