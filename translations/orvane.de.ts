@@ -2180,6 +2180,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>&amp;Alles seit dem Öffnen der Layersteuerung rückgängig machen (%1)</translation>
     </message>
     <message>
+        <source>Undo All %1 St&amp;eps That Are Kept</source>
+        <translation>Alle %1 noch vorhandenen &amp;Schritte rückgängig machen</translation>
+    </message>
+    <message>
         <source>Undo all changes since the layer control was opened, as one step</source>
         <translation>Alle Änderungen seit dem Öffnen der Layersteuerung in einem Schritt rückgängig machen</translation>
     </message>

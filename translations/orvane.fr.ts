@@ -2180,6 +2180,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Annuler &amp;tout depuis l’ouverture du contrôle des couches (%1)</translation>
     </message>
     <message>
+        <source>Undo All %1 St&amp;eps That Are Kept</source>
+        <translation>Annuler les %1 étapes cons&amp;ervées</translation>
+    </message>
+    <message>
         <source>Undo all changes since the layer control was opened, as one step</source>
         <translation>Annuler en une étape toutes les modifications depuis l’ouverture du contrôle des couches</translation>
     </message>

@@ -2180,6 +2180,10 @@ These commands run without a window; each has its own --help:
         <translation>レイヤーコントロールを開いてからの操作をすべて元に戻す (%1)(&amp;E)</translation>
     </message>
     <message>
+        <source>Undo All %1 St&amp;eps That Are Kept</source>
+        <translation>保持されている%1件の操作をすべて元に戻す(&amp;E)</translation>
+    </message>
+    <message>
         <source>Undo all changes since the layer control was opened, as one step</source>
         <translation>レイヤーコントロールを開いてからのすべての変更を1回で元に戻します</translation>
     </message>

@@ -15,7 +15,7 @@ namespace Orvane {
 
 namespace {
 
-// The mark stays before the same step when steps before it go.
+// The mark stays before the same step while steps before it go.
 void MoveMark(std::optional<size_t>& mark, size_t goneBefore)
 {
     if (mark)
@@ -52,7 +52,9 @@ void UndoHistory::DropOldest()
         if (bytes > MaxBytes)
             break;
     }
-    MoveMark(m_mark, m_steps.size() - kept);
+    const size_t gone = m_steps.size() - kept;
+    m_lostSinceMark = m_lostSinceMark || (m_mark && *m_mark < gone);
+    MoveMark(m_mark, gone);
     m_steps.erase(m_steps.begin(), m_steps.end() - std::ptrdiff_t(kept));
 }
 
@@ -66,6 +68,7 @@ void UndoHistory::SetMark()
     if (m_running)
         return;
     m_mark = m_done;
+    m_lostSinceMark = false;
     emit Changed();
 }
 
@@ -91,6 +94,7 @@ void UndoHistory::Clear()
     m_steps.clear();
     m_done = 0;
     LimitMark(m_mark, 0);
+    m_lostSinceMark = false;
     emit Changed();
 }
 

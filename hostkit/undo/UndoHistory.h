@@ -54,6 +54,8 @@ public:
     void SetMark();
     /// How many steps were done since the mark and can be undone; 0 without a mark.
     int StepsSinceMark() const;
+    /// True if more steps were done since the mark than the history keeps: then they cannot all be undone.
+    bool HasLostStepsSinceMark() const { return m_lostSinceMark; }
     /// Undoes all of them as one step, which one Redo brings back; from then on they are one step. If one of
     /// them cannot be undone, or the user cancels, all stay done: raises what the step raises.
     void UndoSinceMark();
@@ -96,6 +98,7 @@ private:
     std::vector<std::shared_ptr<IUndoStep>> m_steps; // oldest first
     size_t m_done = 0; // the number of steps that are done; those after them are undone
     std::optional<size_t> m_mark; // the number of steps before it
+    bool m_lostSinceMark = false;
     bool m_running = false;
     std::function<void()> m_beforeStep;
     std::function<void()> m_afterStep;

@@ -95,18 +95,19 @@ void EditActions::Show()
     const UndoHistory& history = m_history ? *m_history : none;
     ShowCommand(*m_actions.undo, history.UndoText(), history.CanUndo());
     ShowCommand(*m_actions.redo, history.RedoText(), history.CanRedo());
-    ShowOpening(history.StepsSinceMark());
+    m_actions.undoOpening->setText(OpeningText(history));
+    m_actions.undoOpening->setEnabled(history.StepsSinceMark() > 0);
 }
 
 // The letter of Undo is taken.
-void EditActions::ShowOpening(int steps)
+QString EditActions::OpeningText(const UndoHistory& history)
 {
-    QAction& action = *m_actions.undoOpening;
-    const QString number = QLocale().toString(steps);
-    action.setText(
-        steps == 0 ? tr("Undo &Everything Since the Layer Control Opened")
-                   : tr("Undo &Everything Since the Layer Control Opened (%1)").arg(number));
-    action.setEnabled(steps > 0);
+    const QString number = QLocale().toString(history.StepsSinceMark());
+    if (history.StepsSinceMark() == 0)
+        return tr("Undo &Everything Since the Layer Control Opened");
+    if (history.HasLostStepsSinceMark())
+        return tr("Undo All %1 St&eps That Are Kept").arg(number);
+    return tr("Undo &Everything Since the Layer Control Opened (%1)").arg(number);
 }
 
 } // namespace Orvane

@@ -38,7 +38,7 @@ private:
     QWidget* Owner() const;
     void Run(void (UndoHistory::*command)());
     void Show();
-    void ShowOpening(int steps);
+    static QString OpeningText(const UndoHistory& history);
 
     Actions m_actions;
     QWidget& m_window;

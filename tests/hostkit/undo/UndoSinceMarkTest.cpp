@@ -130,10 +130,21 @@ TEST_F(Marked, ItMovesWithTheOldestStepsThatGo)
     for (int number = 0; number < UndoHistory::MaxSteps + 5; ++number)
         Do("a");
     EXPECT_EQ(m_history.StepsSinceMark(), UndoHistory::MaxSteps);
+    EXPECT_TRUE(m_history.HasLostStepsSinceMark());
     m_history.Clear();
+    EXPECT_FALSE(m_history.HasLostStepsSinceMark());
     EXPECT_EQ(m_history.StepsSinceMark(), 0);
     Do("b");
     EXPECT_EQ(m_history.StepsSinceMark(), 1);
+}
+
+TEST_F(Marked, NothingOfItIsLostWhileOnlyStepsBeforeItGo)
+{
+    for (int number = 0; number < UndoHistory::MaxSteps; ++number)
+        Do("before");
+    m_history.SetMark();
+    Do("a");
+    EXPECT_FALSE(m_history.HasLostStepsSinceMark());
 }
 
 TEST_F(Marked, WhenOneStepFailsAllStayDone)

@@ -155,6 +155,14 @@ TEST_F(EditActionsTest, UndoEverythingSinceTheLayerControlOpened)
     EXPECT_THAT(m_diary, ElementsAre("undo b", "undo a", "redo a", "redo b"));
 }
 
+TEST_F(EditActionsTest, UndoEverythingDoesNotPromiseStepsThatAreNoLongerKept)
+{
+    m_history->SetMark();
+    for (int number = 0; number <= UndoHistory::MaxSteps; ++number)
+        Do("a");
+    EXPECT_EQ(m_undoOpening->text(), "Undo All 100 St&eps That Are Kept");
+}
+
 TEST_F(EditActionsTest, ShowWhatGoesWrong)
 {
     Do("trouble");
