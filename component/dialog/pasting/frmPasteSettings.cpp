@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -38,6 +39,20 @@ bool HasTick(const QTreeWidgetItem& item)
 {
     return item.data(NameColumn, Qt::CheckStateRole).isValid();
 }
+
+/// Rows as high as those of check boxes in a form.
+class RoomyRows : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int room = 6;
+        const QSize needed = QStyledItemDelegate::sizeHint(option, index);
+        return {needed.width(), qMax(needed.height(), option.fontMetrics.height() + room)};
+    }
+};
 
 // With a frame, or a colour like that of the list could not be seen.
 QIcon ColourSample(qint32 colour, const QWidget& widget)
@@ -71,6 +86,9 @@ frmPasteSettings::frmPasteSettings(QWidget* owner)
     m_ui->setupUi(this);
     TranslateForm(*this);
     m_ui->lstSettings->setHeaderLabels({TranslateMsg("Setting"), TranslateMsg("Value")});
+    m_ui->lstSettings->setItemDelegate(new RoomyRows(m_ui->lstSettings));
+    // On the colour of lists, styles draw an empty box that cannot be seen in dark palettes.
+    m_ui->lstSettings->viewport()->setBackgroundRole(QPalette::Window);
     m_ui->lstSettings->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(m_ui->lstSettings, &QTreeWidget::itemChanged, this, &frmPasteSettings::EnablePaste);
     connect(m_ui->cmdAll, &QAbstractButton::clicked, this, [this] { TickAll(true); });
