@@ -38,7 +38,7 @@ endif()
 # The component for hosts that link it, as one archive a room.
 set_target_properties(OrvaneLayerControlStatic PROPERTIES EXPORT_NAME LayerControlStatic EXCLUDE_FROM_ALL OFF)
 install(TARGETS OrvaneLayerControlStatic component_common component_model component_controls component_styles
-    component_place component_nodes component_rows component_trees component_panel component_showing
+    component_place component_nodes component_rows component_trees component_panel component_showing component_pasting
     component_window component_entry
   EXPORT OrvaneLayerControlStaticTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}/orvane-static" COMPONENT development)

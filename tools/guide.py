@@ -117,6 +117,15 @@ class Guide:
         self.apply()
         self.screen("styled")
 
+    def paste_settings(self):
+        self.select("lake")
+        press("ctrl+c")
+        self.select("river")
+        press("ctrl+v")
+        self.part("paste-settings", self.active_window("Paste Settings"))
+        press("Escape")
+        self.active_window("Layer Control")
+
     def has_question(self):
         return any(node.get_role_name() == "alert" for node in walk(self.program.application()))
 
@@ -183,6 +192,7 @@ def main():
         guide.store_map()
         guide.open_layer_control()
         guide.style_a_layer()
+        guide.paste_settings()
         guide.save_scheme()
         guide.hide_layers("fields", "bus stops")
         guide.make_scheme("Quiet")

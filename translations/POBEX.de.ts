@@ -104,6 +104,10 @@
         <translation>Gespeichert werden ^1 Pixel.</translation>
     </message>
     <message>
+        <source>^1 to ^2</source>
+        <translation>^1 bis ^2</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1: ^2</translation>
     </message>
@@ -122,6 +126,10 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>Ein Wert dieses Layers kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
     </message>
     <message>
         <source>All of these layers are hidden already.</source>
@@ -198,6 +206,14 @@
     <message>
         <source>Collapse All</source>
         <translation>Alle zuklappen</translation>
+    </message>
+    <message>
+        <source>Copy Settings</source>
+        <translation>Einstellungen kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the settings of a layer or a group first.</source>
+        <translation>Kopieren Sie zuerst die Einstellungen eines Layers oder einer Gruppe.</translation>
     </message>
     <message>
         <source>Create a layer.</source>
@@ -378,6 +394,10 @@
     <message>
         <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
         <translation>Layer nach Name, Code oder Gruppe suchen. Strg+F führt hierher, Esc zurück.</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Schalter</translation>
     </message>
     <message>
         <source>Go back to the last saved values of this scheme.</source>
@@ -732,6 +752,38 @@
         <translation>Einstellungen verbergen</translation>
     </message>
     <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste Settings</source>
+        <translation>Einstellungen einfügen</translation>
+    </message>
+    <message>
+        <source>Paste Settings...</source>
+        <translation>Einstellungen einfügen...</translation>
+    </message>
+    <message>
+        <source>Paste these settings into ^1:</source>
+        <translation>Diese Einstellungen in ^1 einfügen:</translation>
+    </message>
+    <message>
+        <source>Paste these settings into &apos;^1&apos;:</source>
+        <translation>Diese Einstellungen in „^1“ einfügen:</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Settings to paste</source>
+        <translation>Einzufügende Einstellungen</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>Einstellungen zeigen</translation>
     </message>
@@ -808,6 +860,10 @@
         <translation>Die Farbe von Linien und Umrissen.</translation>
     </message>
     <message>
+        <source>The copied settings cannot be read.</source>
+        <translation>Die kopierten Einstellungen können nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
         <translation>Der Ordner „^1“ enthält keine Texte. Gesucht werden sie zum Beispiel als „nl/POBEX.LRT“ und „POBEX.nl.ts“.</translation>
     </message>
@@ -860,6 +916,14 @@
         <translation>Themensteuerung: ^1</translation>
     </message>
     <message>
+        <source>These layers have no setting in common.</source>
+        <translation>Diese Layer haben keine gemeinsame Einstellung.</translation>
+    </message>
+    <message>
+        <source>These layers no longer exist. Nothing was pasted.</source>
+        <translation>Diese Layer gibt es nicht mehr. Nichts wurde eingefügt.</translation>
+    </message>
+    <message>
         <source>Thinnest line</source>
         <translation>Dünnste Linie</translation>
     </message>
@@ -868,8 +932,24 @@
         <translation>Diese Karte kann nicht aufbewahren, welche Layer ausgeblendet wurden.</translation>
     </message>
     <message>
+        <source>This map has no display modes.</source>
+        <translation>Diese Karte hat keine Darstellungsarten.</translation>
+    </message>
+    <message>
+        <source>This map has no style of that name.</source>
+        <translation>Diese Karte hat keinen Stil mit diesem Namen.</translation>
+    </message>
+    <message>
         <source>this program does not tell which version it uses</source>
         <translation>dieses Programm teilt nicht mit, welche Version es verwendet</translation>
+    </message>
+    <message>
+        <source>Tick all settings.</source>
+        <translation>Alle Einstellungen ankreuzen.</translation>
+    </message>
+    <message>
+        <source>Tick no setting.</source>
+        <translation>Keine Einstellung ankreuzen.</translation>
     </message>
     <message>
         <source>Transparent</source>

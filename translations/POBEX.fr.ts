@@ -104,6 +104,10 @@
         <translation>^1 pixels seront enregistrés.</translation>
     </message>
     <message>
+        <source>^1 to ^2</source>
+        <translation>de ^1 à ^2</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1 : ^2</translation>
     </message>
@@ -122,6 +126,10 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>Une valeur de cette couche ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Tout</translation>
     </message>
     <message>
         <source>All of these layers are hidden already.</source>
@@ -198,6 +206,14 @@
     <message>
         <source>Collapse All</source>
         <translation>Tout réduire</translation>
+    </message>
+    <message>
+        <source>Copy Settings</source>
+        <translation>Copier les réglages</translation>
+    </message>
+    <message>
+        <source>Copy the settings of a layer or a group first.</source>
+        <translation>Copiez d’abord les réglages d’une couche ou d’un groupe.</translation>
     </message>
     <message>
         <source>Create a layer.</source>
@@ -378,6 +394,10 @@
     <message>
         <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
         <translation>Rechercher des couches par nom, code ou groupe. Ctrl+F mène ici, Échap en revient.</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>Indicateurs</translation>
     </message>
     <message>
         <source>Go back to the last saved values of this scheme.</source>
@@ -732,6 +752,38 @@
         <translation>Masquer les réglages</translation>
     </message>
     <message>
+        <source>&amp;None</source>
+        <translation>&amp;Aucun</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Coller</translation>
+    </message>
+    <message>
+        <source>Paste Settings</source>
+        <translation>Coller des réglages</translation>
+    </message>
+    <message>
+        <source>Paste Settings...</source>
+        <translation>Coller des réglages...</translation>
+    </message>
+    <message>
+        <source>Paste these settings into ^1:</source>
+        <translation>Coller ces réglages dans ^1 :</translation>
+    </message>
+    <message>
+        <source>Paste these settings into &apos;^1&apos;:</source>
+        <translation>Coller ces réglages dans « ^1 » :</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Settings to paste</source>
+        <translation>Réglages à coller</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>Afficher les réglages</translation>
     </message>
@@ -808,6 +860,10 @@
         <translation>La couleur des lignes et des contours.</translation>
     </message>
     <message>
+        <source>The copied settings cannot be read.</source>
+        <translation>Les réglages copiés sont illisibles.</translation>
+    </message>
+    <message>
         <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
         <translation>Le dossier « ^1 » ne contient pas de textes. Ils sont cherchés par exemple sous « nl/POBEX.LRT » et « POBEX.nl.ts ».</translation>
     </message>
@@ -860,6 +916,14 @@
         <translation>Contrôle du thème : ^1</translation>
     </message>
     <message>
+        <source>These layers have no setting in common.</source>
+        <translation>Ces couches n’ont aucun réglage en commun.</translation>
+    </message>
+    <message>
+        <source>These layers no longer exist. Nothing was pasted.</source>
+        <translation>Ces couches n’existent plus. Rien n’a été collé.</translation>
+    </message>
+    <message>
         <source>Thinnest line</source>
         <translation>Ligne la plus fine</translation>
     </message>
@@ -868,8 +932,24 @@
         <translation>Cette carte ne peut pas conserver quelles couches ont été masquées.</translation>
     </message>
     <message>
+        <source>This map has no display modes.</source>
+        <translation>Cette carte n’a pas de modes d’affichage.</translation>
+    </message>
+    <message>
+        <source>This map has no style of that name.</source>
+        <translation>Cette carte n’a aucun style de ce nom.</translation>
+    </message>
+    <message>
         <source>this program does not tell which version it uses</source>
         <translation>ce programme n’indique pas quelle version il utilise</translation>
+    </message>
+    <message>
+        <source>Tick all settings.</source>
+        <translation>Cocher tous les réglages.</translation>
+    </message>
+    <message>
+        <source>Tick no setting.</source>
+        <translation>Ne cocher aucun réglage.</translation>
     </message>
     <message>
         <source>Transparent</source>

@@ -104,6 +104,10 @@
         <translation>^1 ピクセルとして保存されます。</translation>
     </message>
     <message>
+        <source>^1 to ^2</source>
+        <translation>^1～^2</translation>
+    </message>
+    <message>
         <source>^1: ^2</source>
         <translation>^1：^2</translation>
     </message>
@@ -122,6 +126,10 @@
     <message>
         <source>A value of this layer cannot be read.</source>
         <translation>このレイヤーの値を読み込めません。</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
     </message>
     <message>
         <source>All of these layers are hidden already.</source>
@@ -198,6 +206,14 @@
     <message>
         <source>Collapse All</source>
         <translation>すべて折りたたむ</translation>
+    </message>
+    <message>
+        <source>Copy Settings</source>
+        <translation>設定をコピー</translation>
+    </message>
+    <message>
+        <source>Copy the settings of a layer or a group first.</source>
+        <translation>先にレイヤーまたはグループの設定をコピーしてください。</translation>
     </message>
     <message>
         <source>Create a layer.</source>
@@ -378,6 +394,10 @@
     <message>
         <source>Find layers by name, code or group. Ctrl+F goes here, Escape goes back.</source>
         <translation>レイヤーを名前、コード、グループで検索します。Ctrl+F でここに移動し、Esc で戻ります。</translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <translation>フラグ</translation>
     </message>
     <message>
         <source>Go back to the last saved values of this scheme.</source>
@@ -732,6 +752,38 @@
         <translation>設定を隠す</translation>
     </message>
     <message>
+        <source>&amp;None</source>
+        <translation>なし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Paste Settings</source>
+        <translation>設定の貼り付け</translation>
+    </message>
+    <message>
+        <source>Paste Settings...</source>
+        <translation>設定を貼り付け...</translation>
+    </message>
+    <message>
+        <source>Paste these settings into ^1:</source>
+        <translation>次の設定を^1に貼り付け:</translation>
+    </message>
+    <message>
+        <source>Paste these settings into &apos;^1&apos;:</source>
+        <translation>次の設定を「^1」に貼り付け:</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Settings to paste</source>
+        <translation>貼り付ける設定</translation>
+    </message>
+    <message>
         <source>Show settings</source>
         <translation>設定を表示</translation>
     </message>
@@ -808,6 +860,10 @@
         <translation>線と輪郭の色です。</translation>
     </message>
     <message>
+        <source>The copied settings cannot be read.</source>
+        <translation>コピーした設定を読み取れません。</translation>
+    </message>
+    <message>
         <source>The folder &quot;^1&quot; has no texts. They are looked for as &quot;nl/POBEX.LRT&quot; and &quot;POBEX.nl.ts&quot;, for example.</source>
         <translation>フォルダー「^1」にテキストがありません。「nl/POBEX.LRT」や「POBEX.nl.ts」などの名前で探します。</translation>
     </message>
@@ -860,6 +916,14 @@
         <translation>テーマコントロール: ^1</translation>
     </message>
     <message>
+        <source>These layers have no setting in common.</source>
+        <translation>これらのレイヤーに共通の設定はありません。</translation>
+    </message>
+    <message>
+        <source>These layers no longer exist. Nothing was pasted.</source>
+        <translation>これらのレイヤーは存在しません。何も貼り付けられませんでした。</translation>
+    </message>
+    <message>
         <source>Thinnest line</source>
         <translation>最も細い線</translation>
     </message>
@@ -868,8 +932,24 @@
         <translation>このマップには、非表示にしたレイヤーを記録できません。</translation>
     </message>
     <message>
+        <source>This map has no display modes.</source>
+        <translation>このマップには表示モードがありません。</translation>
+    </message>
+    <message>
+        <source>This map has no style of that name.</source>
+        <translation>このマップには、この名前のスタイルがありません。</translation>
+    </message>
+    <message>
         <source>this program does not tell which version it uses</source>
         <translation>このプログラムは使用しているバージョンを通知していません</translation>
+    </message>
+    <message>
+        <source>Tick all settings.</source>
+        <translation>すべての設定を選択します。</translation>
+    </message>
+    <message>
+        <source>Tick no setting.</source>
+        <translation>設定の選択をすべて解除します。</translation>
     </message>
     <message>
         <source>Transparent</source>

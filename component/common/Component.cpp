@@ -47,7 +47,10 @@ Component& Component::Get()
     return *component;
 }
 
-Component::Component() = default;
+Component::Component()
+{
+    ResetSettingsNotToPaste();
+}
 
 MessageTable& Component::Messages()
 {
@@ -79,6 +82,11 @@ void Component::SetHost(IStyleEditorClient* client, IShellServices* services)
 {
     m_client = client;
     m_services = services;
+}
+
+void Component::ResetSettingsNotToPaste()
+{
+    m_settingsNotToPaste = {QStringLiteral("mode"), QStringLiteral("drawPriority")};
 }
 
 } // namespace Orvane

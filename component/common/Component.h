@@ -3,6 +3,7 @@
 
 #include <OrvaneShellLib/PluginContract.h>
 
+#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -59,6 +60,12 @@ public:
     ContractVersion HostContract() const { return m_hostContract; }
     void SetHostContract(const ContractVersion& contract) { m_hostContract = contract; }
 
+    /// The settings without a tick when settings were pasted last, by their keys; at first the quick mode and
+    /// the draw priority.
+    QSet<QString>& SettingsNotToPaste() { return m_settingsNotToPaste; }
+    /// As at first.
+    void ResetSettingsNotToPaste();
+
     /// The registry of the editors while a StyleEditorLib exists, else nullptr. The StyleEditorLib objects
     /// own it.
     std::shared_ptr<StyleEditorRegistry> Registry() const { return m_registry.lock(); }
@@ -75,6 +82,7 @@ private:
     IShellServices* m_services = nullptr;
     ContractVersion m_hostContract = CurrentContract;
     std::weak_ptr<StyleEditorRegistry> m_registry;
+    QSet<QString> m_settingsNotToPaste;
 };
 
 } // namespace Orvane

@@ -34,6 +34,7 @@ StyleEditorLib::~StyleEditorLib()
         return;
     component.SetHost(nullptr, nullptr);
     component.SetHostContract(CurrentContract);
+    component.ResetSettingsNotToPaste();
     component.Added().Clear();
 }
 

@@ -9,6 +9,7 @@ namespace Orvane::Testing {
 /// Each function reads the bytes as content that comes from outside, and ends the program when a promise of
 /// the reader does not hold. What a reader may refuse, it may. Returns 0.
 
+int FuzzCopiedSettings(const uint8_t* data, size_t size); ///< settings on the clipboard
 int FuzzMapFile(const uint8_t* data, size_t size); ///< a map file, opened for reading
 int FuzzMessages(const uint8_t* data, size_t size); ///< a message file
 int FuzzNodeKey(const uint8_t* data, size_t size); ///< the key of a node and, after a tab, of its image

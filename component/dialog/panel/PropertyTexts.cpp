@@ -12,16 +12,20 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QVariant>
 
 namespace Orvane {
 
 namespace {
 
+// Japanese has its mnemonics in parentheses behind the captions.
 QString WithoutMarks(QString caption)
 {
+    static const QRegularExpression addedMnemonic(QStringLiteral(R"(\(&.\))"));
+    caption.remove(addedMnemonic);
     caption.remove(u'&');
-    return caption.endsWith(u':') ? caption.chopped(1) : caption;
+    return (caption.endsWith(u':') ? caption.chopped(1) : caption).trimmed();
 }
 
 QString LabelOf(const SlotControl& entry)

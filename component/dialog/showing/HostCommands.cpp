@@ -4,7 +4,7 @@
 #include "component/common/HostInterface.h"
 #include "component/common/Messages.h"
 #include "component/common/StyleEditorWindow.h"
-#include "component/dialog/showing/NodeMenu.h"
+#include "component/dialog/trees/NodeMenu.h"
 
 #include <OrvaneShellLib/INodeCommands.h>
 

@@ -66,9 +66,10 @@ bool ImageClicks::Press(const QMouseEvent& event)
     if (!index.isValid())
         return false;
     const NodeReference node = NodeIndexes::NodeAt(index);
-    m_isKept = m_keepsChoice(node);
+    const bool isSecond = event.type() == QEvent::MouseButtonDblClick; // not for the view: it counts once
+    m_isKept = isSecond || m_keepsChoice(node);
     m_place = event.pos();
-    if (event.type() == QEvent::MouseButtonPress)
+    if (!isSecond)
         m_pressed = node;
     return m_isKept;
 }

@@ -6,9 +6,9 @@
 #include "component/common/Messages.h"
 #include "component/dialog/showing/ChosenLayers.h"
 #include "component/dialog/showing/HostCommands.h"
-#include "component/dialog/showing/NodeMenu.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/trees/NodeIndexes.h"
+#include "component/dialog/trees/NodeMenu.h"
 #include "component/dialog/trees/NodeSelection.h"
 #include "component/model/LayerCursors.h"
 #include "ovctrls/BusyPointer.h"
@@ -81,6 +81,7 @@ void LayerShowing::FillMenu(QMenu& menu)
 {
     if (m_allowed)
         AddModes(menu);
+    emit ModesAdded(&menu);
     AddDelete(menu);
     const auto readChosen = [this] { return ReadLayerIDs(Client(), m_trees.ChosenNodes()); };
     AddHostCommands(menu, readChosen, this, View());

@@ -52,6 +52,9 @@ public:
 signals:
     /// The quick modes of layers are stored; the lists show them already.
     void ModesChanged();
+    /// The nodes' menu is being filled and has the entries that show and hide: receivers add those that stand
+    /// before Delete and the host's commands.
+    void ModesAdded(QMenu* menu);
 
 private:
     QTreeView& View() const;

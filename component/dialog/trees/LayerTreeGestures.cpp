@@ -4,6 +4,7 @@
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
 #include "component/dialog/trees/ChoosingCommands.h"
+#include "component/dialog/trees/NodeMenu.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -15,6 +16,11 @@
 namespace Orvane {
 
 namespace {
+
+QString WhyNotRenameText()
+{
+    return TranslateMsg("One layer or group at a time can be renamed, but no system layer.");
+}
 
 QPoint MenuPosition(const QTreeView& view, const QContextMenuEvent& event)
 {
@@ -81,9 +87,7 @@ void LayerTreeGestures::FillMenu(QMenu& menu)
 {
     QAction* rename = menu.addAction(TranslateMsg("Edit Name"), this, &LayerTreeGestures::RenameRequested);
     rename->setShortcut(Qt::Key_F2);
-    rename->setEnabled(m_mayRename());
-    if (!rename->isEnabled())
-        rename->setToolTip(TranslateMsg("One layer or group at a time can be renamed, but no system layer."));
+    SetWhyNot(*rename, m_mayRename() ? QString() : WhyNotRenameText());
     const bool hasGroups = m_view->rootIsDecorated();
     if (hasGroups) {
         menu.addSeparator();
@@ -102,9 +106,8 @@ void LayerTreeGestures::AddChoosing(QMenu& menu, bool hasGroups)
     if (hasGroups) {
         QAction* group = menu.addAction(
             TranslateMsg("Select All in Group"), this, [this] { SelectAllInGroup(*m_view); });
-        group->setEnabled(m_view->currentIndex().isValid());
-        if (!group->isEnabled())
-            group->setToolTip(TranslateMsg("Select a layer or a group first."));
+        const bool isPossible = m_view->currentIndex().isValid();
+        SetWhyNot(*group, isPossible ? QString() : TranslateMsg("Select a layer or a group first."));
     }
     QAction* all = menu.addAction(TranslateMsg("Select All"), this, [this] { SelectAll(*m_view); });
     all->setShortcut(QKeySequence::SelectAll);

@@ -64,6 +64,7 @@ void LayerTreeList::Wire()
     connect(m_model, &QAbstractItemModel::modelReset, this, &LayerTreeList::NodesChanged);
     connect(m_model, &QAbstractItemModel::rowsInserted, this, &LayerTreeList::NodesChanged);
     connect(m_view, &QTreeView::clicked, this, &LayerTreeList::FollowClick);
+    connect(m_view, &QTreeView::doubleClicked, this, &LayerTreeList::FollowDoubleClick);
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
@@ -315,6 +316,9 @@ void LayerTreeList::FollowMouse(const QEvent& event)
     if (event.type() == QEvent::MouseButtonPress) {
         m_pressChose = false;
         EndDrawing();
+    } else if (event.type() == QEvent::MouseButtonDblClick) {
+        const auto& mouse = static_cast<const QMouseEvent&>(event);
+        m_isPlainDouble = mouse.button() == Qt::LeftButton && mouse.modifiers() == Qt::NoModifier;
     } else if (event.type() == QEvent::MouseMove) {
         const bool isPressed = static_cast<const QMouseEvent&>(event).buttons() & Qt::LeftButton;
         isPressed ? void(m_isDrawing = true) : EndDrawing();
@@ -335,6 +339,15 @@ void LayerTreeList::FollowClick(const QModelIndex& index)
 {
     if (!m_pressChose && !m_chosen.IsEmpty() && IsSameNode(m_chosen.Current(), NodeIndexes::NodeAt(index)))
         emit CurrentClicked();
+}
+
+// A double click on a group expands or collapses it.
+void LayerTreeList::FollowDoubleClick(const QModelIndex& index)
+{
+    const NodeReference node = NodeIndexes::NodeAt(index);
+    const bool isChosenAlone = !m_chosen.IsMany() && m_chosen.Holds(node);
+    if (m_isPlainDouble && isChosenAlone && !node.isGroup)
+        emit NameEditWanted();
 }
 
 void LayerTreeList::FollowExpansion(const QModelIndex& index, bool expanded)

@@ -97,6 +97,8 @@ signals:
     void NodesChosen(const Orvane::NodeSelection& nodes);
     /// The user clicked the current node, which was already selected.
     void CurrentClicked();
+    /// The user double-clicked the current node, a layer.
+    void NameEditWanted();
     /// The user expanded or collapsed a group; not emitted during a find.
     void ExpansionChanged(qint32 groupID, bool expanded);
     /// Nodes were replaced or added, or a find shows others.
@@ -128,6 +130,7 @@ private:
     void FollowMouse(const QEvent& event);
     void EndDrawing();
     void FollowClick(const QModelIndex& index);
+    void FollowDoubleClick(const QModelIndex& index);
     void FollowExpansion(const QModelIndex& index, bool expanded);
     void TellName();
 
@@ -154,6 +157,7 @@ private:
     bool m_keepsChosen = false;
     bool m_stale = false;
     bool m_pressChose = false; ///< the last press of the mouse chose other nodes
+    bool m_isPlainDouble = false; ///< the last double click was one with the left button and no key
     bool m_isDrawing = false; ///< the pressed mouse is drawn over nodes
     bool m_quiet = false; ///< true while this class changes the view
     bool m_refusing = false; ///< true until the event whose choice was refused is over

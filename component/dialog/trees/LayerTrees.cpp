@@ -74,9 +74,10 @@ void LayerTrees::Wire(LayerTreeList& list)
     WireSamples(list, *gestures);
     connect(gestures, &LayerTreeGestures::MenuOpening, this, &LayerTrees::MenuOpening);
     // Later: the window system first gives the focus back from the menu, which would end the edit.
-    connect(gestures, &LayerTreeGestures::RenameRequested, this, [this, &list] {
-        GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); });
-    });
+    const auto editLater
+        = [this, &list] { GuardAfterEvent(this, &list.View(), [this] { EditCurrentName(); }); };
+    connect(gestures, &LayerTreeGestures::RenameRequested, this, editLater);
+    connect(&list, &LayerTreeList::NameEditWanted, this, editLater);
     // Later: an error is shown in a message box.
     connect(gestures, &LayerTreeGestures::ExpandAllRequested, this, [this, &list](bool expanded) {
         GuardAfterEvent(this, &list.View(), [this, &list, expanded] { ExpandAll(list, expanded); });

@@ -18,6 +18,7 @@ EditorParts::EditorParts(QDialog& form, Ui::frmLayerStyles& ui)
     : geometry(form), layout(form, ui), trees(ui.tvLayers1, ui.tvLayers2),
       showing(trees, *ui.tvLayers1, *ui.tvLayers2),
       find(form, trees, {ui.txtFind1, ui.lblFound1, ui.tvLayers1}, {ui.txtFind2, ui.lblFound2, ui.tvLayers2}),
+      pasting(trees, showing, panel, {ui.tvLayers1, ui.tvLayers2}),
       quickModes(*ui.mstbQuickMode, {ui.Normal, ui.Backdrop, ui.Hidden}),
       commands({ui.cmdNewLayer, ui.cmdDeleteLayer, ui.lblCode}),
       schemes(

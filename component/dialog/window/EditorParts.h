@@ -3,6 +3,7 @@
 
 #include "component/dialog/panel/PropertyPanel.h"
 #include "component/dialog/panel/SliderPopup.h"
+#include "component/dialog/pasting/SettingsPasting.h"
 #include "component/dialog/place/WindowGeometry.h"
 #include "component/dialog/showing/LayerShowing.h"
 #include "component/dialog/trees/LayerTrees.h"
@@ -39,6 +40,7 @@ public:
     LayerShowing showing;
     FindFields find;
     PropertyPanel panel;
+    SettingsPasting pasting;
     QuickModeToolbar quickModes;
     LayerCommands commands;
     SchemePanel schemes;

@@ -211,6 +211,13 @@ QString SelectionEditor::NameOfShown() const
     return IsMany() ? NameOfLayers(Layers()) : m_parts.trees.CurrentText();
 }
 
+std::optional<SelectionEditor::ShownSettings> SelectionEditor::Settings() const
+{
+    if (!HoldsChosenNodes())
+        return std::nullopt;
+    return ShownSettings{NameOfShown(), m_shown.record, m_shown.target.node->image};
+}
+
 bool SelectionEditor::Apply()
 {
     if (!m_modified || !HoldsChosenNodes())

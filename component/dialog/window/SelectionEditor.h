@@ -11,6 +11,7 @@
 
 #include <QObject>
 #include <QSet>
+#include <QString>
 
 #include <optional>
 #include <vector>
@@ -52,6 +53,14 @@ public:
 
     /// True while the controls hold edits.
     bool IsModified() const { return m_modified; }
+    /// The chosen nodes' name and settings as they were read, without edits; nothing if none is shown.
+    struct ShownSettings {
+        QString name; ///< of the node, or the number of layers
+        LayerStyle style;
+        qint16 quickMode = 0;
+    };
+    std::optional<ShownSettings> Settings() const;
+
     /// Marks the controls as edited or as not edited; their values stay.
     void SetModified(bool modified);
 

@@ -46,6 +46,7 @@ frmLayerStyles::frmLayerStyles(QWidget* parent)
         *this, [this] { return MayClose(); }, [this] { GuardEvent(this, [this] { Unload(); }); });
     m_parts->layout.TakeDesignedSize();
     Wire();
+    WirePasting();
     WireCommands();
 }
 
@@ -76,6 +77,22 @@ void frmLayerStyles::Wire()
     connect(&m_parts->trees, &LayerTrees::ChosenNodesGone, m_selection.get(), &SelectionEditor::Follow);
     m_parts->showing.SetPendingEdits([this] { return m_selection->IsModified(); });
     connect(&m_parts->showing, &LayerShowing::ModesChanged, m_selection.get(), &SelectionEditor::FollowModes);
+}
+
+// Not guarded, for the same reason.
+void frmLayerStyles::WirePasting()
+{
+    const auto shown = [this]() -> std::optional<SettingsPasting::Shown> {
+        const auto settings = m_selection->Settings();
+        if (!settings)
+            return std::nullopt;
+        return SettingsPasting::Shown{{settings->style, settings->quickMode}, settings->name};
+    };
+    m_parts->pasting.SetDialog(
+        {[this] { return m_selection->ConfirmPendingChanges(); }, shown,
+         [this] { return LoadRendererStyles(); }});
+    connect(&m_parts->pasting, &SettingsPasting::Pasted, m_selection.get(), &SelectionEditor::Load);
+    connect(&m_parts->pasting, &SettingsPasting::Pasted, &m_parts->showing, &LayerShowing::ReadShown);
 }
 
 // Only the first is guarded here: the commands guard themselves.

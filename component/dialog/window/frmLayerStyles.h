@@ -67,6 +67,7 @@ private:
     void IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layerIDs) override;
 
     void Wire();
+    void WirePasting();
     void WireCommands();
     void EnsureInitialised();
     void Initialise();

@@ -3,6 +3,7 @@
 #include "component/dialog/trees/LayerTreeModel.h"
 
 #include <QApplication>
+#include <QLineEdit>
 
 namespace Orvane::Testing {
 
@@ -79,6 +80,18 @@ TEST_F(ImageClicksTest, CountOnceWhenDoubled)
         QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, Image(text));
         QCoreApplication::processEvents();
         EXPECT_EQ(Calls("RedrawMap"), 1) << text.toStdString();
+    }
+}
+
+TEST_F(ImageClicksTest, DoNeitherExpandNorRenameWhenDoubled)
+{
+    ClickTab(1);
+    for (const QString text : {"Rivers", "Transport"}) {
+        QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, Image(text));
+        QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, Image(text));
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(Tree().isExpanded(Node("Transport")));
+        EXPECT_FALSE(Tree().findChild<QLineEdit*>("txtNodeName"));
     }
 }
 

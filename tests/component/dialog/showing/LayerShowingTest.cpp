@@ -130,6 +130,37 @@ TEST_F(LayerShowingTest, SaysWhyAnEntryIsDisabled)
     EXPECT_EQ(WhyNot("Edit Name"), "One layer or group at a time can be renamed, but no system layer.");
 }
 
+TEST_F(LayerShowingTest, StandsInOneMenuWithAllOtherCommands)
+{
+    ClickTab(1);
+    ClickGroup("Transport");
+    QStringList entries;
+    for (const QAction* action : Menu().actions())
+        entries.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+    EXPECT_THAT(
+        entries,
+        ElementsAre(
+            "Edit Name", "-", "Expand All", "Collapse All", "-", "Select All in Group", "Select All",
+            "Invert Selection", "-", "Show Line and Fill", "-", "Show", "Hide", "Show Only These",
+            "Show All Again", "-", "Copy Settings", "Paste Settings...", "-", "Delete"));
+}
+
+TEST_F(LayerShowingTest, HasAReasonForEachDisabledEntryThatScreenReadersTellToo)
+{
+    for (const int tab : {1, 2}) {
+        ClickTab(tab);
+        QMenu& menu = Menu();
+        for (const QAction* action : menu.actions()) {
+            if (action->isEnabled())
+                continue;
+            EXPECT_TRUE(action->toolTip().endsWith('.')) << qPrintable(action->text());
+            EXPECT_EQ(action->whatsThis(), action->toolTip()) << qPrintable(action->text());
+        }
+        menu.close();
+        QCoreApplication::processEvents();
+    }
+}
+
 class WithoutQuickModes : public LayerShowingTest
 {
 protected:

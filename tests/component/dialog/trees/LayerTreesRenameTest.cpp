@@ -29,6 +29,13 @@ class LayerTreesRenameTest : public LayerTreesTest
 {
 protected:
     QStringList Renames() { return host.Calls().filter(QStringLiteral("Rename")); }
+    void DoubleClick(QTreeView& view, const QModelIndex& node, Qt::KeyboardModifiers keys = Qt::NoModifier)
+    {
+        const QPoint place = view.visualRect(node).center();
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, place);
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, keys, place);
+        Settle();
+    }
     QString StoredName(qint32 layerID) { return ToText(host.LayerColumn(layerID, "Name")); }
 };
 
@@ -210,18 +217,45 @@ TEST_F(LayerTreesRenameTest, ProtectsAGroupThatIsMissing)
     EXPECT_FALSE(NameEditor(groups));
 }
 
-TEST_F(LayerTreesRenameTest, DoesNotOpenOnAClickOrADoubleClick)
+TEST_F(LayerTreesRenameTest, DoesNotOpenOnClicks)
 {
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(0); // an editor could open until this time after a click
     Open(List::Layers);
     Click(layers, "Rails");
     Click(layers, "Rails");
-    const QPoint place = layers.visualRect(layers.currentIndex()).center();
-    QTest::mouseDClick(layers.viewport(), Qt::LeftButton, {}, place);
     Settle();
     EXPECT_FALSE(NameEditor(layers));
     QApplication::setDoubleClickInterval(interval);
+}
+
+TEST_F(LayerTreesRenameTest, OpensOnADoubleClickOfALayer)
+{
+    Open(List::Groups);
+    DoubleClick(groups, Node(groups, "Roads", "Water"));
+    ASSERT_TRUE(NameEditor(groups));
+    QTest::keyClicks(NameEditor(groups), "Streets");
+    QTest::keyClick(NameEditor(groups), Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(trees.CurrentText(), "Streets");
+}
+
+TEST_F(LayerTreesRenameTest, LeavesADoubleClickOfAGroupToItsExpansion)
+{
+    Open(List::Groups);
+    const bool before = groups.isExpanded(Node(groups, "Water"));
+    DoubleClick(groups, Node(groups, "Water"));
+    EXPECT_FALSE(NameEditor(groups));
+    EXPECT_NE(groups.isExpanded(Node(groups, "Water")), before);
+}
+
+TEST_F(LayerTreesRenameTest, DoesNotOpenOnADoubleClickOfASystemLayerOrWithAKey)
+{
+    Open(List::Layers);
+    DoubleClick(layers, Node(layers, "Base"));
+    EXPECT_FALSE(NameEditor(layers));
+    DoubleClick(layers, Node(layers, "Rails"), Qt::ControlModifier);
+    EXPECT_FALSE(NameEditor(layers));
 }
 
 TEST_F(LayerTreesRenameTest, KeepsTheOldTextWhenTheHostRefuses)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenu.h"
+#include "component/dialog/trees/NodeMenu.h"
 
 #include "component/common/EventGuard.h"
 
@@ -13,12 +13,17 @@ QAction* AddNodeEntry(QMenu& menu, const NodeMenuEntry& entry, QObject* context,
         = menu.addAction(entry.text, context, [act = entry.act, context, owner = QPointer<QWidget>(owner)] {
               GuardAfterEvent(context, owner, act);
           });
-    action->setEnabled(entry.whyNot.isEmpty());
-    if (!entry.whyNot.isEmpty()) {
-        action->setToolTip(entry.whyNot);
-        action->setWhatsThis(entry.whyNot); // what screen readers tell of a menu's entry
-    }
+    SetWhyNot(*action, entry.whyNot);
     return action;
+}
+
+void SetWhyNot(QAction& entry, const QString& whyNot)
+{
+    entry.setEnabled(whyNot.isEmpty());
+    if (whyNot.isEmpty())
+        return;
+    entry.setToolTip(whyNot);
+    entry.setWhatsThis(whyNot); // what screen readers tell of a menu's entry
 }
 
 } // namespace Orvane

@@ -23,4 +23,7 @@ struct NodeMenuEntry {
 /// context: it does not act without it. owner: the owner of message boxes.
 QAction* AddNodeEntry(QMenu& menu, const NodeMenuEntry& entry, QObject* context, QWidget* owner);
 
+/// Disables the entry for a reason, which its tool tip tells, or enables it without one.
+void SetWhyNot(QAction& entry, const QString& whyNot);
+
 } // namespace Orvane
