@@ -472,6 +472,10 @@
         <translation>Das Schema „%1“ wurde beim Öffnen der Karte angewendet.</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>Das Schema „%1“ wurde beim Öffnen des Projekts angewendet.</translation>
+    </message>
+    <message>
         <source>The scheme holds:</source>
         <translation>Das Schema enthält:</translation>
     </message>

@@ -472,6 +472,10 @@
         <translation>Le schéma « %1 » a été appliqué à l’ouverture de la carte.</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>Le schéma « %1 » a été appliqué à l’ouverture du projet.</translation>
+    </message>
+    <message>
         <source>The scheme holds:</source>
         <translation>Le schéma contient :</translation>
     </message>

@@ -472,6 +472,10 @@
         <translation>地図を開いたときにスキーム「%1」を適用しました。</translation>
     </message>
     <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>プロジェクトを開いたときにスキーム「%1」を適用しました。</translation>
+    </message>
+    <message>
         <source>The scheme holds:</source>
         <translation>スキームの内容:</translation>
     </message>
