@@ -77,6 +77,14 @@ public:
 
     /// Copies the schemes of the startup database into the map; for a new map, after its layers were created.
     void LoadSchemesFromStartup();
+    /// Says whether this host calls ApplySchemeAtOpening, so that the user can choose such a scheme. At first
+    /// false. Call it before the first editor is opened.
+    void SetAppliesSchemeAtOpening(bool applies);
+    /// Loads the scheme that the user has chosen for the opening of the map, in LoadScheme's way: one step of
+    /// the history. Call it after the map was opened by the user, before the first editor is. Returns the
+    /// scheme; nothing, without having changed anything, if none was chosen, if the layers are as it says
+    /// already, or if the map cannot be changed. Raises what LoadScheme raises.
+    std::optional<QString> ApplySchemeAtOpening();
     /// True when the layers differ from the saved values of the current scheme.
     bool HasUnsavedSchemeChanges() { return UnsavedSchemeChanges() > 0; }
     /// How many layers differ from the current scheme, or are not in it. Cheap after the first call: only

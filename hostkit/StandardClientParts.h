@@ -50,6 +50,7 @@ struct StandardClient::Parts {
     SchemeSteps schemes;
     QString startupFile;
     bool keepsNotes = true;
+    bool appliesAtOpening = false;
     QSet<qint32> changedLayers; // since the last RedrawMap
     QTimer refreshSoon; // after the operation that changed something
     bool isOpen = false; // an editor is shown, or was until just now

@@ -20,6 +20,19 @@ void StandardClient::LoadSchemesFromStartup()
     m_parts->schemes.LoadFromStartup(m_parts->startupFile);
 }
 
+void StandardClient::SetAppliesSchemeAtOpening(bool applies)
+{
+    m_parts->appliesAtOpening = applies;
+}
+
+std::optional<QString> StandardClient::ApplySchemeAtOpening()
+{
+    std::optional<QString> scheme = m_parts->schemes.MissingAtOpening();
+    if (scheme)
+        IStyleEditorClient_LoadScheme(*scheme);
+    return scheme;
+}
+
 qsizetype StandardClient::UnsavedSchemeChanges()
 {
     return m_parts->schemes.UnsavedChanges();
@@ -51,7 +64,7 @@ void StandardClient::ISchemeManager_ManageSchemes(QWidget* form)
 {
     const QPointer<SchemeManager> window(new SchemeManager(
         {m_database, *this, m_parts->schemes, m_parts->steps.History(), m_parts->notifications,
-         m_parts->Settings()},
+         m_parts->Settings(), m_parts->appliesAtOpening},
         form ? form : DialogParent()));
     window->exec();
     if (window) // it goes with its parent

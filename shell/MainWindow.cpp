@@ -96,7 +96,7 @@ void MainWindow::OpenMap(const QString& path)
     LetGoOf(path);
     std::unique_ptr<MapDocument> document = MapDocument::Open(path);
     const SourceContents contents = again ? SourceContents() : ContentsOf(*document);
-    Use(std::move(document), contents);
+    Use(std::move(document), contents, Opening::ByUser);
     RecentMaps::Add(Document().Path());
 }
 
@@ -283,7 +283,7 @@ void MainWindow::ShowAbout()
             .arg(QCoreApplication::applicationVersion()));
 }
 
-void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents)
+void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents, Opening opening)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
     m_layerControl.Use(*session); // first: it still uses the client of the old session
@@ -295,6 +295,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     setWindowFilePath(path);
     setWindowTitle(
         path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
+    if (opening == Opening::ByUser)
+        m_schemes->ApplyAtOpening();
     ReadMap(MapSession::View::All, contents);
 }
 

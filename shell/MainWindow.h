@@ -80,7 +80,11 @@ private:
 
     void AddFound(const FoundData& found, const SourceContents& contents);
     SourceContents ContentsOf(const MapDocument& document);
-    void Use(std::unique_ptr<MapDocument> document, const SourceContents& contents = {});
+    // ByUser: the scheme that is chosen for the opening is loaded.
+    enum class Opening { ByUser, Other };
+    void
+    Use(std::unique_ptr<MapDocument> document, const SourceContents& contents = {},
+        Opening opening = Opening::Other);
     bool LeaveMap();
     void LetGoOf(const QString& path);
     void ShowMapAgain();

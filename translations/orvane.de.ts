@@ -56,6 +56,22 @@
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
     </message>
     <message>
+        <source>&amp;Apply When the Map Is Opened</source>
+        <translation>Beim Öffnen der Karte &amp;anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Holds...</source>
+        <translation>In&amp;halt...</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Neu...</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>„--to MAP“ fehlt.</translation>
     </message>
@@ -386,6 +402,90 @@
     <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>Apply No Scheme at Opening</source>
+        <translation>Kein Schema beim Öffnen anwenden</translation>
+    </message>
+    <message>
+        <source>Apply Scheme &quot;%1&quot; at Opening</source>
+        <translation>Schema „%1“ beim Öffnen anwenden</translation>
+    </message>
+    <message>
+        <source>At opening</source>
+        <translation>Beim Öffnen</translation>
+    </message>
+    <message>
+        <source>Change What Scheme &quot;%1&quot; Holds</source>
+        <translation>Ändern des Inhalts von Schema „%1“</translation>
+    </message>
+    <message>
+        <source>compared: %1</source>
+        <translation>verglichen: %1</translation>
+    </message>
+    <message>
+        <source>Holds</source>
+        <translation>Enthält</translation>
+    </message>
+    <message>
+        <source>In Your Own Order</source>
+        <translation>In eigener Reihenfolge</translation>
+    </message>
+    <message>
+        <source>It does not say which properties it holds.</source>
+        <translation>Sie sagt nicht, welche Eigenschaften sie enthält.</translation>
+    </message>
+    <message>
+        <source>It gets the present values of the layers. The current scheme stays current.</source>
+        <translation>Es erhält die jetzigen Werte der Layer. Das aktuelle Schema bleibt aktuell.</translation>
+    </message>
+    <message>
+        <source>Last saved</source>
+        <translation>Zuletzt gespeichert</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach un&amp;ten</translation>
+    </message>
+    <message>
+        <source>New Scheme</source>
+        <translation>Neues Schema</translation>
+    </message>
+    <message>
+        <source>Reorder Schemes</source>
+        <translation>Umordnen der Schemas</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by Name</source>
+        <translation>Nach Na&amp;men sortieren</translation>
+    </message>
+    <message>
+        <source>Sort Schemes by Name</source>
+        <translation>Sortieren der Schemas nach Namen</translation>
+    </message>
+    <message>
+        <source>Sort &amp;Table</source>
+        <translation>&amp;Tabelle sortieren</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
+        <translation>Das Schema „%1“ wurde beim Öffnen der Karte angewendet.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>Das Schema „%1“ wurde beim Öffnen des Projekts angewendet.</translation>
+    </message>
+    <message>
+        <source>The scheme holds:</source>
+        <translation>Das Schema enthält:</translation>
+    </message>
+    <message>
+        <source>The table is sorted by a column. Go back to your own order first.</source>
+        <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
+    </message>
+    <message>
+        <source>the two schemes hold nothing in common</source>
+        <translation>die beiden Schemas enthalten nichts Gemeinsames</translation>
     </message>
     <message>
         <source>--time-limit needs a whole number of seconds.</source>
@@ -2218,6 +2318,14 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Visible</source>
         <translation>Sichtbar</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; Holds</source>
+        <translation>Inhalt von „%1“</translation>
+    </message>
+    <message>
+        <source>What is added gets the present values of the layers; what is taken away is lost.</source>
+        <translation>Was hinzukommt, erhält die jetzigen Werte der Layer; was wegfällt, geht verloren.</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

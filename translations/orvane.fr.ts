@@ -56,6 +56,22 @@
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
     </message>
     <message>
+        <source>&amp;Apply When the Map Is Opened</source>
+        <translation>&amp;Appliquer à l’ouverture de la carte</translation>
+    </message>
+    <message>
+        <source>&amp;Holds...</source>
+        <translation>Conten&amp;u...</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>M&amp;onter</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nouveau...</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>« --to MAP » manque.</translation>
     </message>
@@ -386,6 +402,90 @@
     <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 demande un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>Apply No Scheme at Opening</source>
+        <translation>N’appliquer aucun schéma à l’ouverture</translation>
+    </message>
+    <message>
+        <source>Apply Scheme &quot;%1&quot; at Opening</source>
+        <translation>Appliquer le schéma « %1 » à l’ouverture</translation>
+    </message>
+    <message>
+        <source>At opening</source>
+        <translation>À l’ouverture</translation>
+    </message>
+    <message>
+        <source>Change What Scheme &quot;%1&quot; Holds</source>
+        <translation>Modification du contenu du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>compared: %1</source>
+        <translation>comparé : %1</translation>
+    </message>
+    <message>
+        <source>Holds</source>
+        <translation>Contient</translation>
+    </message>
+    <message>
+        <source>In Your Own Order</source>
+        <translation>Dans votre ordre</translation>
+    </message>
+    <message>
+        <source>It does not say which properties it holds.</source>
+        <translation>Il n’indique pas quelles propriétés il contient.</translation>
+    </message>
+    <message>
+        <source>It gets the present values of the layers. The current scheme stays current.</source>
+        <translation>Il reçoit les valeurs présentes des couches. Le schéma actuel reste actuel.</translation>
+    </message>
+    <message>
+        <source>Last saved</source>
+        <translation>Dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Des&amp;cendre</translation>
+    </message>
+    <message>
+        <source>New Scheme</source>
+        <translation>Nouveau schéma</translation>
+    </message>
+    <message>
+        <source>Reorder Schemes</source>
+        <translation>Réorganisation des schémas</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by Name</source>
+        <translation>&amp;Trier par nom</translation>
+    </message>
+    <message>
+        <source>Sort Schemes by Name</source>
+        <translation>Tri des schémas par nom</translation>
+    </message>
+    <message>
+        <source>Sort &amp;Table</source>
+        <translation>Trier le &amp;tableau</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
+        <translation>Le schéma « %1 » a été appliqué à l’ouverture de la carte.</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>Le schéma « %1 » a été appliqué à l’ouverture du projet.</translation>
+    </message>
+    <message>
+        <source>The scheme holds:</source>
+        <translation>Le schéma contient :</translation>
+    </message>
+    <message>
+        <source>The table is sorted by a column. Go back to your own order first.</source>
+        <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
+    </message>
+    <message>
+        <source>the two schemes hold nothing in common</source>
+        <translation>les deux schémas n’ont rien en commun</translation>
     </message>
     <message>
         <source>--time-limit needs a whole number of seconds.</source>
@@ -2218,6 +2318,14 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Visible</source>
         <translation>Visible</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; Holds</source>
+        <translation>Contenu de « %1 »</translation>
+    </message>
+    <message>
+        <source>What is added gets the present values of the layers; what is taken away is lost.</source>
+        <translation>Ce qui est ajouté reçoit les valeurs présentes des couches ; ce qui est retiré est perdu.</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

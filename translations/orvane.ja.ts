@@ -56,6 +56,22 @@
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
     </message>
     <message>
+        <source>&amp;Apply When the Map Is Opened</source>
+        <translation>地図を開いたときに適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Holds...</source>
+        <translation>内容(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>上へ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>新規(&amp;N)...</translation>
+    </message>
+    <message>
         <source>&quot;--to MAP&quot; is missing.</source>
         <translation>「--to MAP」がありません。</translation>
     </message>
@@ -386,6 +402,90 @@
     <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
+    </message>
+    <message>
+        <source>Apply No Scheme at Opening</source>
+        <translation>開いたときにスキームを適用しない</translation>
+    </message>
+    <message>
+        <source>Apply Scheme &quot;%1&quot; at Opening</source>
+        <translation>開いたときのスキーム「%1」の適用</translation>
+    </message>
+    <message>
+        <source>At opening</source>
+        <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>Change What Scheme &quot;%1&quot; Holds</source>
+        <translation>スキーム「%1」の内容の変更</translation>
+    </message>
+    <message>
+        <source>compared: %1</source>
+        <translation>比較した項目: %1</translation>
+    </message>
+    <message>
+        <source>Holds</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>In Your Own Order</source>
+        <translation>自分の順序</translation>
+    </message>
+    <message>
+        <source>It does not say which properties it holds.</source>
+        <translation>どのプロパティを含むかが書かれていません。</translation>
+    </message>
+    <message>
+        <source>It gets the present values of the layers. The current scheme stays current.</source>
+        <translation>レイヤーの今の値が保存されます。現在のスキームは変わりません。</translation>
+    </message>
+    <message>
+        <source>Last saved</source>
+        <translation>最終保存</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下へ(&amp;W)</translation>
+    </message>
+    <message>
+        <source>New Scheme</source>
+        <translation>新しいスキーム</translation>
+    </message>
+    <message>
+        <source>Reorder Schemes</source>
+        <translation>スキームの並べ替え</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by Name</source>
+        <translation>名前順に並べる(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Sort Schemes by Name</source>
+        <translation>スキームの名前順の並べ替え</translation>
+    </message>
+    <message>
+        <source>Sort &amp;Table</source>
+        <translation>表の並べ替え(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
+        <translation>地図を開いたときにスキーム「%1」を適用しました。</translation>
+    </message>
+    <message>
+        <source>The scheme &quot;%1&quot; was applied when the project was opened.</source>
+        <translation>プロジェクトを開いたときにスキーム「%1」を適用しました。</translation>
+    </message>
+    <message>
+        <source>The scheme holds:</source>
+        <translation>スキームの内容:</translation>
+    </message>
+    <message>
+        <source>The table is sorted by a column. Go back to your own order first.</source>
+        <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
+    </message>
+    <message>
+        <source>the two schemes hold nothing in common</source>
+        <translation>2つのスキームに共通する項目はありません</translation>
     </message>
     <message>
         <source>--time-limit needs a whole number of seconds.</source>
@@ -2218,6 +2318,14 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Visible</source>
         <translation>表示</translation>
+    </message>
+    <message>
+        <source>What &quot;%1&quot; Holds</source>
+        <translation>「%1」の内容</translation>
+    </message>
+    <message>
+        <source>What is added gets the present values of the layers; what is taken away is lost.</source>
+        <translation>追加した項目にはレイヤーの今の値が入り、外した項目の値は失われます。</translation>
     </message>
     <message>
         <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>

@@ -130,13 +130,11 @@ void ComparePage::MakeList(QComboBox& list, QGridLayout& grid, const QString& ca
 
 void ComparePage::FillParts()
 {
-    using Part = DifferencesModel::Part;
-    m_part->addItem(tr("All properties"), int(Part::Everything));
-    m_part->addItem(tr("Flags"), int(Part::Flags));
-    m_part->addItem(tr("Appearance"), int(Part::Appearance));
-    m_part->addItem(tr("Scales"), int(Part::Scales));
+    m_part->addItem(SchemeValueTexts::Parts(WholeScheme), NumberOf(WholeScheme));
+    for (const SchemePart part : AllSchemeParts)
+        m_part->addItem(SchemeValueTexts::Part(part), NumberOf(part));
     connect(m_part, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] {
-        m_model->SetPart(Part(m_part->currentData().toInt()));
+        m_model->SetParts(PartsOfNumber(m_part->currentData().toInt()));
         ShowCount();
     });
 }
@@ -225,7 +223,9 @@ void ComparePage::Compare()
     ShowCount(); // also if the user cancels
     {
         const LongWork work(m_host.map, tr("Comparing Schemes"), this);
-        m_model->Show(SchemeComparison::Compare(m_host.map, From(), m_to->currentData().toString()));
+        const QString to = m_to->currentData().toString();
+        m_model->Show(SchemeComparison::Compare(m_host.map, From(), to));
+        m_compared = SchemeComparison::CommonParts(m_host.map, From(), to);
     }
     ShowCount();
 }
@@ -234,12 +234,20 @@ void ComparePage::ShowCount()
 {
     const auto number = [](qint64 count) { return QLocale().toString(count); };
     const int shown = m_model->rowCount();
+    const QString count = qint64(m_model->Count()) == shown
+        ? tr("Differences: %1").arg(number(shown))
+        : tr("Differences: %1 of %2").arg(number(shown), number(qint64(m_model->Count())));
     m_count->setText(
-        qint64(m_model->Count()) == shown
-            ? tr("Differences: %1").arg(number(shown))
-            : tr("Differences: %1 of %2").arg(number(shown), number(qint64(m_model->Count()))));
+        m_compared == WholeScheme ? count : QStringLiteral("%1 (%2)").arg(count, ComparedText()));
     m_takeOver->setEnabled(m_table->selectionModel()->hasSelection());
     m_takeOverInMenu->setEnabled(m_takeOver->isEnabled());
+}
+
+// Partial schemes are compared only in what both sides hold.
+QString ComparePage::ComparedText() const
+{
+    return m_compared ? tr("compared: %1").arg(SchemeValueTexts::Parts(m_compared))
+                      : tr("the two schemes hold nothing in common");
 }
 
 void ComparePage::TakeOverChosen()

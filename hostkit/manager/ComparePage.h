@@ -56,12 +56,14 @@ private:
     void CompareSoon();
     void Compare();
     void ShowCount();
+    QString ComparedText() const;
     void TakeOverChosen();
     void Choose(QComboBox& list, const QString& scheme);
     std::optional<QString> From() const;
 
     ManagerHost m_host;
     SchemeValueTexts m_texts;
+    SchemeParts m_compared = WholeScheme;
     DifferencesModel* m_model;
     QComboBox* m_from;
     QComboBox* m_to;

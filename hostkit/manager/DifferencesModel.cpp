@@ -48,10 +48,10 @@ void DifferencesModel::SetFilter(const QString& words)
     endResetModel();
 }
 
-void DifferencesModel::SetPart(Part part)
+void DifferencesModel::SetParts(SchemeParts parts)
 {
     beginResetModel();
-    m_part = part;
+    m_parts = parts;
     Filter();
     endResetModel();
 }
@@ -110,25 +110,17 @@ void DifferencesModel::Filter()
             return name.contains(word, Qt::CaseInsensitive)
                 || PropertyText(difference).contains(word, Qt::CaseInsensitive);
         };
-        if (IsOfPart(difference) && std::all_of(m_words.begin(), m_words.end(), fits))
+        if (IsOfParts(difference) && std::all_of(m_words.begin(), m_words.end(), fits))
             m_shown.push_back(line);
     }
 }
 
-bool DifferencesModel::IsOfPart(const SchemeDifference& difference) const
+bool DifferencesModel::IsOfParts(const SchemeDifference& difference) const
 {
-    if (m_part == Part::Everything)
+    if (m_parts == WholeScheme)
         return true;
-    if (difference.kind != SchemeDifference::Kind::Value)
-        return false;
-    switch (SchemeColumns::All.at(difference.column).kind) {
-    case ColumnKind::Flag:
-        return m_part == Part::Flags;
-    case ColumnKind::Real:
-        return m_part == Part::Scales;
-    default:
-        return m_part == Part::Appearance;
-    }
+    return difference.kind == SchemeDifference::Kind::Value
+        && m_parts.testFlag(PartOf(SchemeColumns::All.at(difference.column)));
 }
 
 QString DifferencesModel::PropertyText(const SchemeDifference& difference)

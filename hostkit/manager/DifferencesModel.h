@@ -22,9 +22,6 @@ class DifferencesModel : public QAbstractTableModel
 public:
     enum Column { Layer, Property, From, To, ColumnCount };
 
-    /// Which properties are listed.
-    enum class Part { Everything, Flags, Appearance, Scales };
-
     using NameOf = std::function<QString(qint32 layerID)>;
 
     /// texts: not owned; outlives this object. nameOf: the listed name of a layer; raises nothing.
@@ -33,8 +30,8 @@ public:
     void Show(std::vector<SchemeDifference> differences);
     /// Keeps the lines of which layer or property contain each of the words, whatever their case.
     void SetFilter(const QString& words);
-    /// Keeps the lines of these properties. Everything: also those of layers that one side does not have.
-    void SetPart(Part part);
+    /// Keeps the lines of these properties. WholeScheme: also those of layers that one side does not have.
+    void SetParts(SchemeParts parts);
 
     /// How many differences there are, with those that the filter leaves out.
     std::size_t Count() const { return m_differences.size(); }
@@ -47,7 +44,7 @@ public:
 
 private:
     void Filter();
-    bool IsOfPart(const SchemeDifference& difference) const;
+    bool IsOfParts(const SchemeDifference& difference) const;
     static QString PropertyText(const SchemeDifference& difference);
     QString Text(const SchemeDifference& difference, int column) const;
     static QVariant Swatch(const SchemeDifference& difference, int column);
@@ -57,7 +54,7 @@ private:
     std::vector<SchemeDifference> m_differences;
     std::vector<std::size_t> m_shown; // positions of the lines that fit the filter
     QStringList m_words;
-    Part m_part = Part::Everything;
+    SchemeParts m_parts = WholeScheme;
 };
 
 } // namespace Orvane

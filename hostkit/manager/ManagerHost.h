@@ -18,6 +18,7 @@ struct ManagerHost {
     UndoHistory& history;
     HostNotifications& notifications;
     SettingsStore& settings;
+    bool appliesAtOpening; ///< whether the host loads a scheme when it opens a map
 };
 
 } // namespace Orvane

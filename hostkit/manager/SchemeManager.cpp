@@ -16,7 +16,7 @@ namespace Orvane {
 namespace {
 
 const QString PlaceKey = QStringLiteral("SchemeManager::Place");
-const QString ColumnsKey = QStringLiteral("SchemeManager::Columns");
+const QString ColumnsKey = QStringLiteral("SchemeManager::SchemeColumns");
 const QString CompareColumnsKey = QStringLiteral("SchemeManager::CompareColumns");
 
 constexpr int MoreLines = 8; // than a table shows at least

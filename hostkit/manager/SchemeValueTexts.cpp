@@ -8,6 +8,7 @@
 #include <OrvaneShellLib/LayerValues.h>
 
 #include <QLocale>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -132,6 +133,40 @@ QString SchemeValueTexts::Property(std::size_t column)
     });
     return found == Captions.end() ? QString::fromLatin1(SchemeColumns::All.at(column).name)
                                    : tr(found->caption);
+}
+
+QString SchemeValueTexts::Part(SchemePart part)
+{
+    switch (part) {
+    case SchemePart::Flags:
+        return tr("Flags");
+    case SchemePart::Appearance:
+        return tr("Appearance");
+    default:
+        return tr("Scales");
+    }
+}
+
+QString SchemeValueTexts::Parts(SchemeParts parts)
+{
+    if (parts == WholeScheme)
+        return tr("All properties");
+    QStringList names;
+    for (const SchemePart part : AllSchemeParts) {
+        if (parts.testFlag(part))
+            names << Part(part);
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+QString SchemeValueTexts::PropertiesOf(SchemePart part)
+{
+    QStringList names;
+    for (std::size_t column = 0; column < SchemeColumns::Count; ++column) {
+        if (PartOf(SchemeColumns::All.at(column)) == part)
+            names << Property(column);
+    }
+    return names.join(QStringLiteral(", "));
 }
 
 QString SchemeValueTexts::Text(std::size_t column, const std::optional<double>& value) const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/schemes/SchemeParts.h"
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QString>
@@ -28,6 +30,12 @@ public:
 
     /// "Line colour"
     static QString Property(std::size_t column);
+    /// "Flags"
+    static QString Part(SchemePart part);
+    /// "Flags, Scales", or "All properties"
+    static QString Parts(SchemeParts parts);
+    /// "Visible, Selectable, Locked ...": all properties of the class.
+    static QString PropertiesOf(SchemePart part);
     /// "yes", "#FF0000", "1:5,000"; value: nothing for one that is not known.
     QString Text(std::size_t column, const std::optional<double>& value) const;
     /// The colour that the value is; nothing if it is no colour, or a transparent one.

@@ -3,8 +3,11 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/SchemeFileDialogs.h"
+#include "hostkit/manager/SchemeOrder.h"
+#include "hostkit/manager/SchemePartsDialog.h"
 #include "hostkit/manager/SchemeReport.h"
 #include "hostkit/manager/SchemesModel.h"
+#include "hostkit/manager/SchemesTable.h"
 #include "hostkit/undo/SchemeSteps.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "hostkit/windows/UserQuestions.h"
@@ -13,11 +16,13 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QAction>
+#include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLocale>
 #include <QPushButton>
-#include <QTableView>
+#include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace Orvane {
 
@@ -31,79 +36,114 @@ SchemesPage::SchemesPage(const ManagerHost& host, QWidget* parent)
     : QWidget(parent), m_host(host),
       m_model(new SchemesModel(
           [this](const QString& scheme) { return m_host.schemes.CountThatDiffer(scheme); }, this)),
-      m_table(new QTableView(this))
+      m_table(new SchemesTable(*m_model, this))
 {
-    MakeTable();
     auto* columns = new QHBoxLayout(this);
-    columns->addWidget(m_table, 1);
+    auto* left = new QVBoxLayout;
+    left->addWidget(m_table, 1);
+    columns->addLayout(left, 1);
     auto* buttons = new QVBoxLayout;
     columns->addLayout(buttons);
     MakeCommands(*buttons);
-    connect(&m_counting, &QTimer::timeout, this, &SchemesPage::Count);
-    const auto changed = [this] { GuardCommand(this, [this] { ReadAgain(); }); };
-    connect(&host.notifications, &HostNotifications::SchemesChanged, this, changed);
-    connect(&host.notifications, &HostNotifications::LayersChanged, this, changed);
-    connect(&host.history, &UndoHistory::Changed, this, &SchemesPage::EnableCommands);
+    left->addWidget(MakeOpeningBox());
+    m_table->AddSorting();
+    MakeHistory();
+    Wire();
     GuardCommand(parent, [this] {
         ReadAgain();
-        Choose({m_model->CurrentName()});
+        m_table->Choose({m_model->CurrentName()});
     });
     EnableCommands();
 }
 
+void SchemesPage::Wire()
+{
+    connect(&m_counting, &QTimer::timeout, this, &SchemesPage::Count);
+    const auto changed = [this] { GuardCommand(this, [this] { ReadAgain(); }); };
+    connect(&m_host.notifications, &HostNotifications::SchemesChanged, this, changed);
+    connect(&m_host.notifications, &HostNotifications::LayersChanged, this, changed);
+    connect(&m_host.history, &UndoHistory::Changed, this, &SchemesPage::EnableCommands);
+    connect(m_table, &SchemesTable::Sorted, this, &SchemesPage::EnableCommands);
+    connect(
+        m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &SchemesPage::EnableCommands);
+    const auto arrange = [this](const QStringList& names, int row) {
+        GuardCommand(this, [&] { Arrange(SchemeOrder::MovedTo(m_model->Names(), names, row)); });
+    };
+    connect(m_model, &SchemesModel::Dropped, this, arrange, Qt::QueuedConnection); // after the drag
+}
+
+QStringList SchemesPage::ChosenNames() const
+{
+    return m_table->ChosenNames();
+}
+
 QByteArray SchemesPage::Columns() const
 {
-    return m_table->horizontalHeader()->saveState();
+    return m_table->Columns();
 }
 
 void SchemesPage::RestoreColumns(const QByteArray& state)
 {
-    m_table->horizontalHeader()->restoreState(state);
-}
-
-void SchemesPage::MakeTable()
-{
-    m_table->setObjectName(QStringLiteral("tblSchemes"));
-    m_table->setAccessibleName(tr("Layer schemes"));
-    m_table->setModel(m_model);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->setShowGrid(false);
-    m_table->verticalHeader()->hide();
-    QHeaderView& header = *m_table->horizontalHeader();
-    header.setHighlightSections(false);
-    header.resizeSections(QHeaderView::ResizeToContents);
-    header.setStretchLastSection(true);
-    header.resizeSection(SchemesModel::Name, NameWidth * fontMetrics().averageCharWidth());
-    m_table->setMinimumWidth(header.length() + 2 * m_table->frameWidth());
-    connect(
-        m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-        &SchemesPage::EnableCommands);
+    m_table->RestoreColumns(state);
 }
 
 void SchemesPage::MakeCommands(QVBoxLayout& buttons)
 {
+    const auto key = [](const char* keys) { return QKeySequence(QLatin1String(keys)); };
+    MakeButton(*MakeCommand("actNew", tr("&New..."), key("Ctrl+N"), &SchemesPage::New), buttons);
     m_rename = MakeCommand("actRename", tr("&Rename..."), QKeySequence(Qt::Key_F2), &SchemesPage::Rename);
-    m_duplicate = MakeCommand(
-        "actDuplicate", tr("D&uplicate..."), QKeySequence(QStringLiteral("Ctrl+D")), &SchemesPage::Duplicate);
+    m_duplicate = MakeCommand("actDuplicate", tr("D&uplicate..."), key("Ctrl+D"), &SchemesPage::Duplicate);
+    m_holds = MakeCommand("actHolds", tr("&Holds..."), key("Ctrl+H"), &SchemesPage::ChangeHolds);
     m_delete = MakeCommand("actDelete", tr("&Delete"), QKeySequence::Delete, &SchemesPage::Delete);
-    m_export = MakeCommand(
-        "actExport", tr("&Export..."), QKeySequence(QStringLiteral("Ctrl+E")), &SchemesPage::Export);
-    QAction* import = MakeCommand(
-        "actImport", tr("&Import..."), QKeySequence(QStringLiteral("Ctrl+I")), &SchemesPage::Import);
-    for (QAction* action : {m_rename, m_duplicate, m_delete, m_export, import}) {
-        auto* button = new QPushButton(action->text(), this);
-        button->setObjectName(QStringLiteral("cmd") + action->objectName().mid(3));
-        button->setAutoDefault(false);
-        button->setEnabled(action->isEnabled());
-        connect(button, &QPushButton::clicked, action, &QAction::trigger);
-        connect(action, &QAction::changed, button, [=] { button->setEnabled(action->isEnabled()); });
-        buttons.addWidget(button);
-    }
+    for (QAction* action : {m_rename, m_duplicate, m_holds, m_delete})
+        MakeButton(*action, buttons);
+    m_export = MakeCommand("actExport", tr("&Export..."), key("Ctrl+E"), &SchemesPage::Export);
+    MakeButton(*m_export, buttons);
+    MakeButton(*MakeCommand("actImport", tr("&Import..."), key("Ctrl+I"), &SchemesPage::Import), buttons);
+    m_up = MakeCommand("actMoveUp", tr("&Move Up"), key("Alt+Up"), &SchemesPage::MoveUp);
+    m_down = MakeCommand("actMoveDown", tr("Move Do&wn"), key("Alt+Down"), &SchemesPage::MoveDown);
+    m_sort = MakeCommand("actSortByName", tr("S&ort by Name"), {}, &SchemesPage::SortByName);
+    for (QAction* action : {m_up, m_down, m_sort})
+        MakeButton(*action, buttons);
     buttons.addStretch(1);
+}
+
+void SchemesPage::MakeButton(QAction& action, QVBoxLayout& buttons)
+{
+    auto* button = new QPushButton(action.text(), this);
+    button->setObjectName(QStringLiteral("cmd") + action.objectName().mid(3));
+    button->setAutoDefault(false);
+    button->setEnabled(action.isEnabled());
+    connect(button, &QPushButton::clicked, &action, &QAction::trigger);
+    connect(&action, &QAction::changed, button, [button, action = &action] {
+        button->setEnabled(action->isEnabled());
+        button->setToolTip(action->isEnabled() ? QString() : action->statusTip());
+    });
+    buttons.addWidget(button);
+}
+
+// A host that does not open maps has no use for it.
+QWidget* SchemesPage::MakeOpeningBox()
+{
+    auto* box = new QCheckBox(tr("&Apply When the Map Is Opened"), this);
+    box->setObjectName(QStringLiteral("chkAtOpening"));
+    m_table->setColumnHidden(SchemesModel::AtOpening, !m_host.appliesAtOpening);
+    box->setVisible(m_host.appliesAtOpening);
+    if (!m_host.appliesAtOpening)
+        return box;
+    m_opening = MakeCommand("actAtOpening", box->text(), {}, &SchemesPage::SwitchOpening);
+    m_opening->setCheckable(true);
+    connect(box, &QCheckBox::clicked, m_opening, &QAction::trigger);
+    connect(m_opening, &QAction::changed, box, [box, action = m_opening] {
+        box->setEnabled(action->isEnabled());
+        box->setChecked(action->isChecked());
+    });
+    return box;
+}
+
+void SchemesPage::MakeHistory()
+{
     m_undo = MakeCommand("actUndo", {}, QKeySequence::Undo, &SchemesPage::Undo);
     m_redo = MakeCommand("actRedo", {}, QKeySequence::Redo, &SchemesPage::Redo);
     for (QAction* action : HistoryActions())
@@ -126,10 +166,29 @@ QAction* SchemesPage::MakeCommand(
 
 void SchemesPage::ReadAgain()
 {
+    using Counts = SchemesModel::Counts;
     const QStringList chosen = ChosenNames();
-    m_model->Show(m_host.client.GetSchemeNames(), m_host.client.GetCurrentScheme());
-    Choose(chosen);
+    m_model->Show(Schemes(), m_isArranging ? Counts::Keep : Counts::Forget);
+    m_table->Choose(chosen);
     m_counting.start(0);
+}
+
+// The names are those that the host lists.
+std::vector<SchemeDetails> SchemesPage::Schemes()
+{
+    const std::vector<SchemeDetails> known = m_host.schemes.All();
+    const QStringList names = m_host.client.GetSchemeNames();
+    const QString current = m_host.client.GetCurrentScheme();
+    std::vector<SchemeDetails> schemes;
+    schemes.reserve(std::size_t(names.size()));
+    for (const QString& name : names) {
+        const auto found = std::find_if(
+            known.begin(), known.end(), [&](const SchemeDetails& scheme) { return scheme.name == name; });
+        schemes.push_back(found == known.end() ? SchemeDetails() : *found);
+        schemes.back().name = name;
+        schemes.back().isCurrent = name == current;
+    }
+    return schemes;
 }
 
 void SchemesPage::Count()
@@ -140,14 +199,97 @@ void SchemesPage::Count()
 
 void SchemesPage::EnableCommands()
 {
-    const qsizetype chosen = ChosenNames().size();
-    for (QAction* action : {m_rename, m_duplicate, m_export})
-        action->setEnabled(chosen == 1);
-    m_delete->setEnabled(chosen > 0);
+    const QStringList chosen = ChosenNames();
+    for (QAction* action : {m_rename, m_duplicate, m_holds, m_export})
+        action->setEnabled(chosen.size() == 1);
+    m_delete->setEnabled(!chosen.isEmpty());
+    EnableMoves(chosen);
+    if (m_opening) {
+        const int row = chosen.size() == 1 ? m_model->RowOf(chosen.constFirst()) : -1;
+        m_opening->setEnabled(row >= 0);
+        m_opening->setChecked(row >= 0 && m_model->DetailsAt(row).isAtOpening);
+    }
     m_undo->setText(m_host.history.UndoText());
     m_undo->setEnabled(m_host.history.CanUndo());
     m_redo->setText(m_host.history.RedoText());
     m_redo->setEnabled(m_host.history.CanRedo());
+}
+
+void SchemesPage::EnableMoves(const QStringList& chosen)
+{
+    const QStringList names = m_model->Names();
+    const bool isSorted = !m_model->IsInUsersOrder();
+    const QString why
+        = isSorted ? tr("The table is sorted by a column. Go back to your own order first.") : QString();
+    for (QAction* action : {m_up, m_down})
+        action->setStatusTip(why);
+    m_up->setEnabled(!isSorted && SchemeOrder::MovedUp(names, chosen) != names);
+    m_down->setEnabled(!isSorted && SchemeOrder::MovedDown(names, chosen) != names);
+    bool hasPlaces = false;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        hasPlaces |= m_model->DetailsAt(row).place.has_value();
+    m_sort->setEnabled(hasPlaces);
+}
+
+void SchemesPage::New()
+{
+    SchemePartsDialog dialog(tr("New Scheme"), WholeScheme, this);
+    dialog.AskForName();
+    dialog.AddRemark(tr("It gets the present values of the layers. The current scheme stays current."));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_host.schemes.Add(dialog.Name(), dialog.Holds());
+    ChooseOnly(dialog.Name());
+}
+
+void SchemesPage::ChangeHolds()
+{
+    const QString name = ChosenNames().value(0);
+    const int row = m_model->RowOf(name);
+    if (row < 0)
+        return;
+    const SchemeParts held = m_model->DetailsAt(row).holds;
+    SchemePartsDialog dialog(tr("What \"%1\" Holds").arg(NameInText(name)), held, this);
+    dialog.AddRemark(tr("What is added gets the present values of the layers; what is taken away is lost."));
+    if (dialog.exec() == QDialog::Accepted && dialog.Holds() != held)
+        m_host.schemes.SetHolds(name, dialog.Holds());
+}
+
+void SchemesPage::MoveUp()
+{
+    Arrange(SchemeOrder::MovedUp(m_model->Names(), ChosenNames()));
+}
+
+void SchemesPage::MoveDown()
+{
+    Arrange(SchemeOrder::MovedDown(m_model->Names(), ChosenNames()));
+}
+
+void SchemesPage::SortByName()
+{
+    Arrange({});
+}
+
+// names: an empty list for the natural order.
+void SchemesPage::Arrange(const QStringList& names)
+{
+    if (names == m_model->Names())
+        return;
+    const QScopedValueRollback<bool> arranging(m_isArranging, true);
+    m_host.schemes.SetOrder(names);
+    m_table->scrollTo(m_table->currentIndex());
+}
+
+// The box shows what is stored, whatever the click made of it.
+void SchemesPage::SwitchOpening()
+{
+    const QString name = ChosenNames().value(0);
+    const int row = m_model->RowOf(name);
+    const bool wasChosen = row >= 0 && m_model->DetailsAt(row).isAtOpening;
+    const bool isStored
+        = GuardCommand(this, [&] { m_host.schemes.SetAtOpening(wasChosen ? QString() : name); });
+    if (!isStored)
+        EnableCommands();
 }
 
 void SchemesPage::Rename()
@@ -157,7 +299,7 @@ void SchemesPage::Rename()
     if (newName.isEmpty() || newName == name)
         return;
     m_host.schemes.Rename(name, newName);
-    Choose({newName});
+    m_table->Choose({newName});
 }
 
 void SchemesPage::Duplicate()
@@ -167,7 +309,7 @@ void SchemesPage::Duplicate()
     if (newName.isEmpty())
         return;
     m_host.schemes.Duplicate(name, newName);
-    Choose({newName});
+    ChooseOnly(newName);
 }
 
 void SchemesPage::Delete()
@@ -183,7 +325,7 @@ void SchemesPage::Delete()
     if (!AskYesOrNo(this, tr("Delete Schemes"), question))
         return;
     m_host.schemes.DeleteSeveral(names);
-    Choose({m_model->CurrentName()});
+    m_table->Choose({m_model->CurrentName()});
 }
 
 void SchemesPage::Export()
@@ -208,7 +350,7 @@ void SchemesPage::Import()
 
 void SchemesPage::Report(const SchemeImport& import)
 {
-    Choose({import.name});
+    ChooseOnly(import.name);
     if (AskAfterImport(import, import.name == m_model->CurrentName(), *this) == AfterImport::Switch)
         m_host.client.LoadScheme(import.name);
 }
@@ -221,16 +363,6 @@ void SchemesPage::Undo()
 void SchemesPage::Redo()
 {
     m_host.history.Redo();
-}
-
-QStringList SchemesPage::ChosenNames() const
-{
-    QStringList names;
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        if (m_table->selectionModel()->isRowSelected(row, {}))
-            names << m_model->NameAt(row);
-    }
-    return names;
 }
 
 // Asks until the name is not blank; empty if the user cancels.
@@ -246,17 +378,10 @@ QString SchemesPage::AskName(const QString& title, const QString& proposed)
     }
 }
 
-void SchemesPage::Choose(const QStringList& names)
+void SchemesPage::ChooseOnly(const QString& name)
 {
-    QItemSelectionModel& selection = *m_table->selectionModel();
-    for (const QString& name : names) {
-        const QModelIndex row = m_model->index(m_model->RowOf(name), SchemesModel::Name);
-        if (!row.isValid())
-            continue;
-        if (!selection.currentIndex().isValid() || names.size() == 1)
-            selection.setCurrentIndex(row, QItemSelectionModel::NoUpdate);
-        selection.select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
+    m_table->clearSelection();
+    m_table->Choose({name});
 }
 
 } // namespace Orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hostkit/manager/ManagerHost.h"
+#include "hostkit/schemes/SchemeDetails.h"
 
 #include <QKeySequence>
 #include <QList>
@@ -9,13 +10,15 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <vector>
+
 class QAction;
-class QTableView;
 class QVBoxLayout;
 
 namespace Orvane {
 
 class SchemesModel;
+class SchemesTable;
 struct SchemeImport;
 
 /// The table of all schemes with its commands, each as a button, in the context menu and by a key. How many
@@ -40,34 +43,52 @@ public:
 private:
     using Command = void (SchemesPage::*)();
 
-    void MakeTable();
     void MakeCommands(QVBoxLayout& buttons);
+    void MakeButton(QAction& action, QVBoxLayout& buttons);
+    QWidget* MakeOpeningBox();
+    void MakeHistory();
+    void Wire();
     QAction*
     MakeCommand(const char* objectName, const QString& text, const QKeySequence& key, Command command);
     void ReadAgain();
+    std::vector<SchemeDetails> Schemes();
     void Count();
     void EnableCommands();
+    void EnableMoves(const QStringList& chosen);
+    void New();
+    void ChangeHolds();
     void Rename();
     void Duplicate();
     void Delete();
     void Export();
     void Import();
+    void MoveUp();
+    void MoveDown();
+    void SortByName();
+    void Arrange(const QStringList& names);
+    void SwitchOpening();
+    void ChooseOnly(const QString& name);
     void Report(const SchemeImport& import);
     void Undo();
     void Redo();
     QString AskName(const QString& title, const QString& proposed);
-    void Choose(const QStringList& names);
 
     ManagerHost m_host;
     SchemesModel* m_model;
-    QTableView* m_table;
-    QAction* m_rename = nullptr; // the actions are owned by the page
+    SchemesTable* m_table;
+    QAction* m_holds = nullptr; // the actions are owned by the page
+    QAction* m_rename = nullptr;
     QAction* m_duplicate = nullptr;
     QAction* m_delete = nullptr;
     QAction* m_export = nullptr;
+    QAction* m_up = nullptr;
+    QAction* m_down = nullptr;
+    QAction* m_sort = nullptr;
+    QAction* m_opening = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QTimer m_counting;
+    bool m_isArranging = false; // the order changes, the numbers do not
 };
 
 } // namespace Orvane

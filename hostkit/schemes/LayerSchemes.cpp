@@ -22,37 +22,41 @@ namespace {
     throw RunTimeError(int(number), description, QStringLiteral("LayerSchemes"));
 }
 
-QStringList InUsersOrder(QStringList names)
+void PutInUsersOrder(std::vector<SchemeDetails>& schemes)
 {
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     collator.setNumericMode(true);
-    std::stable_sort(names.begin(), names.end(), collator);
-    return names;
+    std::stable_sort(schemes.begin(), schemes.end(), [&](const SchemeDetails& a, const SchemeDetails& b) {
+        if (a.place.has_value() != b.place.has_value())
+            return a.place.has_value();
+        return a.place == b.place ? collator(a.name, b.name) : a.place < b.place;
+    });
 }
 
 // Joins the layers to their values in scheme ?1 if the values differ.
-QString DifferingLayers()
+QString DifferingLayers(SchemeParts parts)
 {
     return QStringLiteral(
                " LayerSchemeValues.SchemeID = ?1 AND LayerSchemeValues.LayerID = Layers.LayerID AND ")
-        + SchemeColumns::Difference();
+        + SchemeColumns::Difference(parts);
 }
 
-QString DifferingLayersQuery()
+QString DifferingLayersQuery(SchemeParts parts)
 {
-    return QStringLiteral("SELECT Layers.LayerID FROM Layers, LayerSchemeValues WHERE") + DifferingLayers();
+    return QStringLiteral("SELECT Layers.LayerID FROM Layers, LayerSchemeValues WHERE")
+        + DifferingLayers(parts);
 }
 
 // The layers for which scheme ?1 has different values or no values.
-QString DifferingOrUnknownQuery(const char* wanted = "Layers.LayerID")
+QString DifferingOrUnknownQuery(SchemeParts parts, const char* wanted = "Layers.LayerID")
 {
     return QStringLiteral("SELECT ") + QLatin1String(wanted)
         + QStringLiteral(" FROM Layers LEFT JOIN LayerSchemeValues"
                          " ON LayerSchemeValues.SchemeID = ?1"
                          " AND LayerSchemeValues.LayerID = Layers.LayerID"
                          " WHERE (LayerSchemeValues.LayerID IS NULL OR ")
-        + SchemeColumns::Difference() + u')';
+        + SchemeColumns::Difference(parts) + u')';
 }
 
 QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 schemeID)
@@ -70,7 +74,23 @@ QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 scheme
 
 QStringList LayerSchemes::Names()
 {
-    return IsReadable() ? InUsersOrder(m_tables.Names()) : QStringList{tr("Standard")};
+    QStringList names;
+    for (const SchemeDetails& scheme : All())
+        names << scheme.name;
+    return names;
+}
+
+std::vector<SchemeDetails> LayerSchemes::All()
+{
+    if (!IsReadable()) {
+        SchemeDetails standard;
+        standard.name = tr("Standard");
+        standard.isCurrent = true;
+        return {standard};
+    }
+    std::vector<SchemeDetails> schemes = m_tables.All();
+    PutInUsersOrder(schemes);
+    return schemes;
 }
 
 QString LayerSchemes::Current()
@@ -94,6 +114,17 @@ void LayerSchemes::Create(const QString& name)
     transaction.Commit();
 }
 
+void LayerSchemes::Add(const QString& name, SchemeParts holds)
+{
+    Transaction transaction(m_database);
+    MakeStandard();
+    RequireUnused(name);
+    const qint32 schemeID = m_tables.Insert(name);
+    m_tables.SetHolds(schemeID, holds);
+    StoreValues(schemeID);
+    transaction.Commit();
+}
+
 void LayerSchemes::Save(const QString& name)
 {
     Transaction transaction(m_database);
@@ -105,14 +136,22 @@ QSet<qint32> LayerSchemes::Load(const QString& name)
 {
     Transaction transaction(m_database);
     const qint32 schemeID = IDOf(name);
-    QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(), schemeID);
+    const SchemeParts holds = m_tables.HoldsOf(schemeID);
+    QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(holds), schemeID);
     m_database.Execute(
-        QStringLiteral("UPDATE Layers SET ") + SchemeColumns::Assignments()
-            + QStringLiteral(" FROM LayerSchemeValues WHERE") + DifferingLayers(),
+        QStringLiteral("UPDATE Layers SET ") + SchemeColumns::Assignments(holds)
+            + QStringLiteral(" FROM LayerSchemeValues WHERE") + DifferingLayers(holds),
         {schemeID});
     m_tables.MakeCurrent(schemeID);
     transaction.Commit();
     return changed;
+}
+
+bool LayerSchemes::WouldChange(const QString& name)
+{
+    const qint32 schemeID = IDOf(name);
+    const QString query = DifferingLayersQuery(m_tables.HoldsOf(schemeID)) + QStringLiteral(" LIMIT 1");
+    return !m_database.OpenQuery(query, {schemeID})->AtEOF();
 }
 
 void LayerSchemes::Delete(const QString& name)
@@ -143,11 +182,13 @@ void LayerSchemes::Duplicate(const QString& name, const QString& newName)
     Transaction transaction(m_database);
     const qint32 schemeID = IDOf(name);
     RequireUnused(newName);
+    const qint32 newID = m_tables.Insert(newName);
+    m_tables.SetHead(newID, m_tables.DetailsOf(schemeID));
     m_database.Execute(
         QStringLiteral("INSERT INTO LayerSchemeValues (SchemeID, LayerID, ") + SchemeColumns::List()
             + QStringLiteral(") SELECT ?2, LayerID, ") + SchemeColumns::List()
             + QStringLiteral(" FROM LayerSchemeValues WHERE SchemeID = ?1"),
-        {schemeID, m_tables.Insert(newName)});
+        {schemeID, newID});
     transaction.Commit();
 }
 
@@ -155,7 +196,8 @@ QSet<qint32> LayerSchemes::LayersThatDiffer()
 {
     if (!m_tables.HaveSchemes())
         return {};
-    return LayersOf(m_database, DifferingOrUnknownQuery(), CurrentID());
+    const SchemeDetails current = m_tables.Current();
+    return LayersOf(m_database, DifferingOrUnknownQuery(current.holds), current.id);
 }
 
 QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
@@ -163,10 +205,10 @@ QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
     QSet<qint32> differing;
     if (!m_tables.HaveSchemes())
         return differing;
-    const qint32 schemeID = CurrentID();
-    const QString query = DifferingOrUnknownQuery() + QStringLiteral(" AND Layers.LayerID = ?2");
+    const SchemeDetails current = m_tables.Current();
+    const QString query = DifferingOrUnknownQuery(current.holds) + QStringLiteral(" AND Layers.LayerID = ?2");
     for (const qint32 layerID : layerIDs) {
-        if (!m_database.OpenQuery(query, {schemeID, layerID})->AtEOF())
+        if (!m_database.OpenQuery(query, {current.id, layerID})->AtEOF())
             differing.insert(layerID);
     }
     return differing;
@@ -176,8 +218,47 @@ qsizetype LayerSchemes::CountThatDiffer(const QString& name)
 {
     if (m_database.IsReadOnly() && !m_tables.HaveSchemes())
         return 0; // "Standard" is only what the layers are
-    const auto count = m_database.OpenQuery(DifferingOrUnknownQuery("COUNT(*) AS Differing"), {IDOf(name)});
+    const qint32 schemeID = IDOf(name);
+    const auto count = m_database.OpenQuery(
+        DifferingOrUnknownQuery(m_tables.HoldsOf(schemeID), "COUNT(*) AS Differing"), {schemeID});
     return qsizetype(ToDouble(count->Field("Differing")));
+}
+
+void LayerSchemes::SetHolds(const QString& name, SchemeParts holds)
+{
+    Transaction transaction(m_database);
+    const qint32 schemeID = IDOf(name);
+    const SchemeParts held = m_tables.HoldsOf(schemeID);
+    m_tables.SetHolds(schemeID, holds);
+    DropValues(schemeID, held & ~holds);
+    FillValues(schemeID, holds & ~held);
+    transaction.Commit();
+}
+
+void LayerSchemes::SetOrder(const QStringList& names)
+{
+    Transaction transaction(m_database);
+    MakeStandard();
+    m_tables.SetOrder(names);
+    transaction.Commit();
+}
+
+QString LayerSchemes::AtOpening()
+{
+    if (!m_tables.HaveSchemes())
+        return {};
+    const std::vector<SchemeDetails> schemes = m_tables.All();
+    const auto found = std::find_if(
+        schemes.begin(), schemes.end(), [](const SchemeDetails& scheme) { return scheme.isAtOpening; });
+    return found == schemes.end() ? QString() : found->name;
+}
+
+void LayerSchemes::SetAtOpening(const QString& name)
+{
+    Transaction transaction(m_database);
+    MakeStandard();
+    m_tables.SetAtOpening(name.isEmpty() ? SchemeTables::NoScheme : IDOf(name));
+    transaction.Commit();
 }
 
 bool LayerSchemes::IsReadable()
@@ -217,18 +298,37 @@ qint32 LayerSchemes::IDOf(const QString& name)
     return schemeID;
 }
 
-qint32 LayerSchemes::CurrentID()
-{
-    return m_tables.IDOf(m_tables.CurrentName());
-}
-
 void LayerSchemes::StoreValues(qint32 schemeID)
 {
+    const QString columns = SchemeColumns::List(m_tables.HoldsOf(schemeID));
     m_tables.DropValues(schemeID);
+    m_tables.SetSaved(schemeID, QDateTime::currentDateTimeUtc());
     m_database.Execute(
-        QStringLiteral("INSERT INTO LayerSchemeValues (SchemeID, LayerID, ") + SchemeColumns::List()
-            + QStringLiteral(") SELECT ?1, LayerID, ") + SchemeColumns::List()
-            + QStringLiteral(" FROM Layers"),
+        QStringLiteral("INSERT INTO LayerSchemeValues (SchemeID, LayerID, ") + columns
+            + QStringLiteral(") SELECT ?1, LayerID, ") + columns + QStringLiteral(" FROM Layers"),
+        {schemeID});
+}
+
+// They count as saved now, also those that the scheme held before: nobody could tell them apart later.
+void LayerSchemes::FillValues(qint32 schemeID, SchemeParts parts)
+{
+    if (!parts)
+        return;
+    m_tables.SetSaved(schemeID, QDateTime::currentDateTimeUtc());
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSchemeValues SET ") + SchemeColumns::Present(parts)
+            + QStringLiteral(" FROM Layers WHERE SchemeID = ?1"
+                             " AND Layers.LayerID = LayerSchemeValues.LayerID"),
+        {schemeID});
+}
+
+void LayerSchemes::DropValues(qint32 schemeID, SchemeParts parts)
+{
+    if (!parts)
+        return;
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSchemeValues SET ") + SchemeColumns::Unset(parts)
+            + QStringLiteral(" WHERE SchemeID = ?1"),
         {schemeID});
 }
 

@@ -12,10 +12,12 @@ namespace Orvane::SchemeColumns {
 namespace {
 
 // Fills in the form for each column; %1 is the name of the column.
-QString Joined(const QString& form, const QString& separator)
+QString Joined(const QString& form, const QString& separator, SchemeParts parts = WholeScheme)
 {
     QStringList pieces;
     for (const LayerColumn& column : All) {
+        if (!parts.testFlag(PartOf(column)))
+            continue;
         QString piece = form;
         pieces << piece.replace(QLatin1String("%1"), QLatin1String(column.name));
     }
@@ -35,9 +37,9 @@ QString Compared(const char* table, const LayerColumn& column)
 
 } // namespace
 
-QString List()
+QString List(SchemeParts parts)
 {
-    return Joined(QStringLiteral("%1"), QStringLiteral(", "));
+    return Joined(QStringLiteral("%1"), QStringLiteral(", "), parts);
 }
 
 QString SavedList()
@@ -45,18 +47,31 @@ QString SavedList()
     return Joined(QStringLiteral("LayerSchemeValues.%1"), QStringLiteral(", "));
 }
 
-QString Assignments()
+QString Assignments(SchemeParts parts)
 {
-    return Joined(QStringLiteral("%1 = LayerSchemeValues.%1"), QStringLiteral(", "));
+    return Joined(QStringLiteral("%1 = LayerSchemeValues.%1"), QStringLiteral(", "), parts);
 }
 
-QString Difference(const char* table, const char* other)
+QString Present(SchemeParts parts)
+{
+    return Joined(QStringLiteral("%1 = Layers.%1"), QStringLiteral(", "), parts);
+}
+
+QString Unset(SchemeParts parts)
+{
+    return Joined(QStringLiteral("%1 = NULL"), QStringLiteral(", "), parts);
+}
+
+QString Difference(SchemeParts parts, const char* table, const char* other)
 {
     QStringList differences;
     for (const LayerColumn& column : All) {
-        differences
-            << QStringLiteral("%1 IS DISTINCT FROM %2").arg(Compared(table, column), Compared(other, column));
+        if (parts.testFlag(PartOf(column)))
+            differences << QStringLiteral("%1 IS DISTINCT FROM %2")
+                               .arg(Compared(table, column), Compared(other, column));
     }
+    if (differences.isEmpty())
+        return QStringLiteral("(FALSE)");
     return u'(' + differences.join(QStringLiteral(" OR ")) + u')';
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orvane/OrvaneShellLib/LayerColumns.h>
+#include <orvane/hostkit/schemes/SchemeParts.h>
 
 #include <QString>
 
@@ -10,7 +11,7 @@
 namespace Orvane {
 
 /// The columns of Layers that a layer scheme keeps, in the order of LayerColumns, as they are and as
-/// fragments of SQL. LayerSchemeValues has columns of the same names.
+/// fragments of SQL. LayerSchemeValues has columns of the same names. parts: which of them.
 namespace SchemeColumns {
 
 /// How many there are.
@@ -33,14 +34,20 @@ inline constexpr std::array<LayerColumn, Count> All = [] {
 }();
 
 /// "Visible, Selectable, ..."
-QString List();
+QString List(SchemeParts parts = WholeScheme);
 /// "LayerSchemeValues.Visible, LayerSchemeValues.Selectable, ..."
 QString SavedList();
 /// "Visible = LayerSchemeValues.Visible, Selectable = ..."
-QString Assignments();
+QString Assignments(SchemeParts parts = WholeScheme);
+/// "Visible = Layers.Visible, Selectable = ...", for LayerSchemeValues.
+QString Present(SchemeParts parts);
+/// "Visible = NULL, Selectable = ..."
+QString Unset(SchemeParts parts);
 /// A condition that is true for a layer whose values differ from the scheme, or between any two tables with
-/// these columns. NULL counts as a value, and both stored forms of "no maximum scale" count as equal.
-QString Difference(const char* table = "Layers", const char* other = "LayerSchemeValues");
+/// these columns. NULL counts as a value, and both stored forms of "no maximum scale" count as equal. Without
+/// parts, nothing differs.
+QString Difference(
+    SchemeParts parts = WholeScheme, const char* table = "Layers", const char* other = "LayerSchemeValues");
 /// "?<first>, ?<first + 1>, ...", one for each column.
 QString Parameters(int first);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <orvane/hostkit/schemes/SchemeParts.h>
+
 #include <QString>
 #include <QtGlobal>
 
@@ -27,11 +29,14 @@ struct SchemeDifference {
 /// Compares the saved values of schemes, and the layers as they are.
 namespace SchemeComparison {
 
-/// Everything that differs between two sides, in the order of the layers' names and of the columns. from:
-/// nothing for the layers as they are. from, to: names of schemes; raises HostError::UnknownScheme. Asks the
-/// watcher of the store after each layer.
+/// Everything that differs between two sides in the properties that both hold, in the order of the layers'
+/// names and of the columns. from: nothing for the layers as they are. from, to: names of schemes; raises
+/// HostError::UnknownScheme. Asks the watcher of the store after each layer.
 std::vector<SchemeDifference>
 Compare(ILayerStore& map, const std::optional<QString>& from, const QString& to);
+
+/// The properties that both sides hold, of which there may be none. As above.
+SchemeParts CommonParts(ILayerStore& map, const std::optional<QString>& from, const QString& to);
 
 } // namespace SchemeComparison
 

@@ -48,7 +48,7 @@ QJsonValue ToJsonValue(const Value& value, const QString& layer, const LayerColu
             .arg(layer, QLatin1String(column.name)));
 }
 
-QJsonObject ToJsonObject(const SchemeDocument::Layer& layer)
+QJsonObject ToJsonObject(const SchemeDocument::Layer& layer, SchemeParts holds)
 {
     QJsonObject object;
     if (layer.identity.code)
@@ -56,7 +56,8 @@ QJsonObject ToJsonObject(const SchemeDocument::Layer& layer)
     object.insert(QLatin1String("name"), layer.identity.name);
     for (std::size_t number = 0; number < SchemeColumns::Count; ++number) {
         const LayerColumn& column = SchemeColumns::All.at(number);
-        if (const Value& value = layer.values.at(number); !value.IsEmpty())
+        const Value& value = layer.values.at(number);
+        if (holds.testFlag(PartOf(column)) && !value.IsEmpty())
             object.insert(QLatin1String(column.name), ToJsonValue(value, layer.identity.name, column));
     }
     return object;
@@ -83,7 +84,7 @@ std::optional<Value> JsonColumnValue(const QJsonValue& json, const LayerColumn& 
     return std::isfinite(number) ? std::optional(Value(number)) : std::nullopt;
 }
 
-SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
+SchemeDocument::Layer ToLayer(const QJsonValue& json, int position, SchemeParts holds)
 {
     const auto check = [position](bool isGood, const char* key) {
         if (!isGood)
@@ -102,6 +103,8 @@ SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
         layer.identity.code = code.toDouble();
     for (std::size_t number = 0; number < SchemeColumns::Count; ++number) {
         const LayerColumn& column = SchemeColumns::All.at(number);
+        if (!holds.testFlag(PartOf(column)))
+            continue;
         const std::optional<Value> value = JsonColumnValue(object.value(QLatin1String(column.name)), column);
         check(value.has_value(), column.name);
         layer.values.at(number) = *value;
@@ -109,26 +112,35 @@ SchemeDocument::Layer ToLayer(const QJsonValue& json, int position)
     return layer;
 }
 
-void CheckVersion(const QJsonObject& scheme)
+int CheckedVersion(const QJsonObject& scheme)
 {
     if (scheme.value(QLatin1String("format")).toString() != QLatin1String(Format))
         RaiseDamaged(SchemeDocument::tr("It is not a layer scheme."));
     const double version = scheme.value(QLatin1String("version")).toDouble();
-    if (version > SchemeDocument::Version)
+    if (version > SchemeDocument::PartialVersion)
         RaiseDamage(
             HostError::SchemeTextTooNew,
             SchemeDocument::tr("It was written by a newer version of this program."));
-    if (version != SchemeDocument::Version)
+    if (version != SchemeDocument::Version && version != SchemeDocument::PartialVersion)
         RaiseDamaged(SchemeDocument::tr("It does not contain a valid version number."));
+    return int(version);
 }
 
-QString CheckedName(const QJsonObject& scheme)
+SchemeHead CheckedHead(const QJsonObject& scheme)
 {
-    CheckVersion(scheme);
-    QString name = scheme.value(QLatin1String("name")).toString().trimmed();
-    if (name.isEmpty())
+    const int version = CheckedVersion(scheme);
+    SchemeHead head;
+    head.name = scheme.value(QLatin1String("name")).toString().trimmed();
+    if (head.name.isEmpty())
         RaiseDamaged(SchemeDocument::tr("It does not contain a scheme name."));
-    return name;
+    head.saved = TimeOfText(scheme.value(QLatin1String("saved")).toString());
+    if (version == SchemeDocument::Version)
+        return head;
+    const std::optional<SchemeParts> holds = PartsOfJson(scheme.value(QLatin1String("holds")));
+    if (!holds)
+        RaiseDamaged(SchemeDocument::tr("It does not say which properties it holds."));
+    head.holds = *holds;
+    return head;
 }
 
 [[noreturn]] void RaiseNoJson(qint64 position)
@@ -159,17 +171,24 @@ QByteArray NextLine(QIODevice& text)
 
 } // namespace
 
-void SchemeDocument::Writer::Begin(const QString& scheme)
+void SchemeDocument::Writer::Begin(const SchemeHead& scheme)
 {
-    m_text.write(
-        QByteArrayLiteral("{\"format\": \"") + Format + QByteArrayLiteral("\", \"version\": ")
-        + QByteArray::number(Version) + QByteArrayLiteral(", \"name\": ") + Compact(scheme)
-        + QByteArrayLiteral(", \"layers\": ["));
+    m_holds = scheme.holds;
+    const bool isWhole = m_holds == WholeScheme;
+    const QString saved = TextOfTime(scheme.saved);
+    QByteArray text = QByteArrayLiteral("{\"format\": \"") + Format + QByteArrayLiteral("\", \"version\": ")
+        + QByteArray::number(isWhole ? Version : PartialVersion) + QByteArrayLiteral(", \"name\": ")
+        + Compact(scheme.name);
+    if (!saved.isEmpty())
+        text += QByteArrayLiteral(", \"saved\": ") + Compact(saved);
+    if (!isWhole)
+        text += QByteArrayLiteral(", \"holds\": ") + Compact(JsonOf(m_holds));
+    m_text.write(text + QByteArrayLiteral(", \"layers\": ["));
 }
 
 void SchemeDocument::Writer::Add(const Layer& layer)
 {
-    m_text.write(m_separator + Compact(ToJsonObject(layer)));
+    m_text.write(m_separator + Compact(ToJsonObject(layer, m_holds)));
     m_separator = ",\n";
 }
 
@@ -183,7 +202,7 @@ QByteArray SchemeDocument::ToJson() const
     QBuffer text;
     text.open(QIODevice::WriteOnly);
     Writer writer(text);
-    writer.Begin(name);
+    writer.Begin(*this);
     for (const Layer& layer : layers)
         writer.Add(layer);
     writer.End();
@@ -193,12 +212,11 @@ QByteArray SchemeDocument::ToJson() const
 SchemeDocument SchemeDocument::FromJson(const QByteArray& text)
 {
     const QJsonObject scheme = Parsed(text, 0);
-    SchemeDocument document;
-    document.name = CheckedName(scheme);
+    SchemeDocument document{CheckedHead(scheme), {}};
     if (!scheme.value(QLatin1String("layers")).isArray())
         RaiseDamaged(tr("It holds no layers."));
     for (const QJsonValue layer : scheme.value(QLatin1String("layers")).toArray())
-        document.layers.push_back(ToLayer(layer, int(document.layers.size())));
+        document.layers.push_back(ToLayer(layer, int(document.layers.size()), document.holds));
     return document;
 }
 
@@ -207,7 +225,7 @@ bool SchemeDocument::Reader::Begin()
     const QByteArray first = m_text.readLine(LongestLine).trimmed();
     if (!first.endsWith(BeginOfLayers))
         return false;
-    m_name = CheckedName(Parsed(first + EndOfLayers, 0));
+    m_head = CheckedHead(Parsed(first + EndOfLayers, 0));
     return true;
 }
 
@@ -224,7 +242,7 @@ bool SchemeDocument::Reader::Next(Layer& layer)
         RaiseNoJson(start);
     if (line.endsWith(','))
         line.chop(1);
-    layer = ToLayer(Parsed(line, start), m_position++);
+    layer = ToLayer(Parsed(line, start), m_position++, m_head.holds);
     return true;
 }
 
@@ -239,8 +257,7 @@ SchemeDocument::FromLines(QIODevice& text, const std::function<void(double done)
     Reader reader(text);
     if (!reader.Begin())
         return std::nullopt;
-    SchemeDocument document;
-    document.name = reader.Name();
+    SchemeDocument document{reader.Head(), {}};
     for (Layer layer; reader.Next(layer);) {
         document.layers.push_back(layer);
         if (told)

@@ -4,6 +4,7 @@
 #include <orvane/OrvaneShellLib/Value.h>
 #include <orvane/hostkit/schemes/LayerMatch.h>
 #include <orvane/hostkit/schemes/SchemeColumns.h>
+#include <orvane/hostkit/schemes/SchemeDetails.h>
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -25,15 +26,23 @@ namespace Orvane {
 ///     {"code": 7, "name": "Roads", "Visible": 1, "Selectable": 1, ... "OverrideMode": 0}
 ///     ]}
 ///
+/// A partial scheme is of version 2, says what it holds before the layers, and has values for nothing else:
+///
+///     {"format": "orvane-scheme", "version": 2, "name": "Locks", "holds": ["flags"], "layers": [
+///
+/// The key "saved" tells when the values were taken from the layers, such as "2026-05-01T12:30:00Z".
+///
 /// Values are as in the columns: colours as BGR numbers, scales as denominators, null for an unknown value.
 /// Unknown keys are ignored, so later programs may add some. If a key is missing, because an earlier program
 /// wrote the text, the document has no value for that column.
-struct SchemeDocument {
+struct SchemeDocument : SchemeHead {
     Q_DECLARE_TR_FUNCTIONS(SchemeDocument)
 
 public:
-    /// The version that is written, and the newest one that can be read.
+    /// The version that is written for a whole scheme.
     static constexpr int Version = 1;
+    /// The version that is written for a partial scheme, and the newest one that can be read.
+    static constexpr int PartialVersion = 2;
 
     /// Numbers and nulls in the order of SchemeColumns; Empty for a missing value.
     using Values = std::array<Value, SchemeColumns::Count>;
@@ -44,7 +53,6 @@ public:
         Values values; ///< one for each of SchemeColumns
     };
 
-    QString name; ///< without leading or trailing blanks, and not empty
     std::vector<Layer> layers; ///< each identity once
 
     /// Writes the JSON text of a scheme piece by piece: the beginning with its name, each layer, the end.
@@ -54,14 +62,15 @@ public:
         /// text: open for writing; must outlive the writer.
         explicit Writer(QIODevice& text) : m_text(text) { }
 
-        /// Writes what comes before the first layer; call it once, first. scheme: the name.
-        void Begin(const QString& scheme);
-        /// Raises as ToJson does.
+        /// Writes what comes before the first layer; call it once, first.
+        void Begin(const SchemeHead& scheme);
+        /// Writes the values of what the scheme holds. Raises as ToJson does.
         void Add(const Layer& layer);
         void End();
 
     private:
         QIODevice& m_text;
+        SchemeParts m_holds = WholeScheme;
         const char* m_separator = "\n";
     };
 
@@ -75,8 +84,8 @@ public:
 
         /// Reads the beginning. Returns false for any other text, of which the beginning has then been read.
         bool Begin();
-        /// Of the scheme.
-        const QString& Name() const { return m_name; }
+        /// What the beginning says.
+        const SchemeHead& Head() const { return m_head; }
         /// Reads the next layer; false when there was none left.
         bool Next(Layer& layer);
         /// The part of the text that was read, from 0 to 1.
@@ -84,7 +93,7 @@ public:
 
     private:
         QIODevice& m_text;
-        QString m_name;
+        SchemeHead m_head;
         int m_position = 0; // of the next layer
     };
 

@@ -31,19 +31,31 @@ SchemeDocument::Layer LayerAt(const IRecordset& row, int position)
 }
 
 // The scheme of that name, without values; it is created if it is missing.
-qint32 EmptyScheme(ILayerStore& map, const QString& name)
+qint32 EmptyScheme(ILayerStore& map, const SchemeHead& head)
 {
     SchemeTables tables(map);
-    const qint32 known = tables.IDOf(name);
-    if (known == SchemeTables::NoScheme)
-        return tables.Insert(name);
-    tables.DropValues(known);
-    return known;
+    qint32 schemeID = tables.IDOf(head.name);
+    if (schemeID == SchemeTables::NoScheme)
+        schemeID = tables.Insert(head.name);
+    else
+        tables.DropValues(schemeID);
+    tables.SetHead(schemeID, head);
+    return schemeID;
+}
+
+void UnsetOthers(SchemeDocument::Values& values, SchemeParts holds)
+{
+    for (std::size_t column = 0; column < values.size(); ++column) {
+        if (!holds.testFlag(PartOf(SchemeColumns::All.at(column))))
+            values.at(column) = Value::Null();
+    }
 }
 
 // Values that are missing in the document are taken from the layer.
-SchemeDocument::Values Completed(ILayerStore& map, qint32 layerID, SchemeDocument::Values values)
+SchemeDocument::Values
+Completed(ILayerStore& map, qint32 layerID, SchemeDocument::Values values, SchemeParts holds)
 {
+    UnsetOthers(values, holds);
     const bool saysAll
         = std::none_of(values.begin(), values.end(), [](const Value& value) { return value.IsEmpty(); });
     if (saysAll)
@@ -73,8 +85,10 @@ LayerMatcher MatcherOf(ILayerStore& map, const EachLayer& each)
 
 // Returns the layers of the map that got values. If two layers of the scheme match one in the map, the first
 // is used.
-QSet<qint32> StoreValues(ILayerStore& map, qint32 schemeID, const EachLayer& each, QStringList& onlyInScheme)
+QSet<qint32>
+StoreValues(ILayerStore& map, const SchemeHead& head, const EachLayer& each, QStringList& onlyInScheme)
 {
+    const qint32 schemeID = EmptyScheme(map, head);
     const LayerMatcher matcher = MatcherOf(map, each);
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
@@ -89,7 +103,7 @@ QSet<qint32> StoreValues(ILayerStore& map, qint32 schemeID, const EachLayer& eac
         }
         stored.insert(*layerID);
         std::vector<Value> row{*layerID, schemeID};
-        const SchemeDocument::Values values = Completed(map, *layerID, layer.values);
+        const SchemeDocument::Values values = Completed(map, *layerID, layer.values, head.holds);
         row.insert(row.end(), values.begin(), values.end());
         map.Execute(insertion, row);
     });
@@ -111,13 +125,13 @@ QStringList OthersThan(const QSet<qint32>& stored, ILayerStore& map)
     return names;
 }
 
-SchemeImport ImportLayers(ILayerStore& map, const QString& name, const EachLayer& each)
+SchemeImport ImportLayers(ILayerStore& map, const SchemeHead& head, const EachLayer& each)
 {
     Transaction transaction(map);
     LayerSchemes(map).Current(); // creates the first scheme
     SchemeImport report;
-    report.name = name;
-    const QSet<qint32> stored = StoreValues(map, EmptyScheme(map, name), each, report.onlyInFile);
+    report.name = head.name;
+    const QSet<qint32> stored = StoreValues(map, head, each, report.onlyInFile);
     report.onlyInMap = OthersThan(stored, map);
     report.matched = stored.size();
     transaction.Commit();
@@ -134,6 +148,11 @@ std::unique_ptr<IRecordset> SavedLayers(ILayerStore& map, qint32 schemeID)
         {schemeID});
 }
 
+SchemeDetails DetailsOf(ILayerStore& map, const QString& name)
+{
+    return SchemeTables(map).DetailsOf(LayerSchemes(map).IDOf(name));
+}
+
 double SavedCount(ILayerStore& map, qint32 schemeID)
 {
     return ToDouble(
@@ -147,10 +166,9 @@ double SavedCount(ILayerStore& map, qint32 schemeID)
 
 SchemeDocument Export(ILayerStore& map, const QString& schemeName)
 {
-    const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
-    SchemeDocument document;
-    document.name = schemeName;
-    const auto rows = SavedLayers(map, schemeID);
+    const SchemeDetails scheme = DetailsOf(map, schemeName);
+    SchemeDocument document{scheme, {}};
+    const auto rows = SavedLayers(map, scheme.id);
     for (; !rows->AtEOF(); rows->MoveNext())
         document.layers.push_back(LayerAt(*rows, int(document.layers.size())));
     return document;
@@ -158,11 +176,11 @@ SchemeDocument Export(ILayerStore& map, const QString& schemeName)
 
 void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName)
 {
-    const qint32 schemeID = LayerSchemes(map).IDOf(schemeName);
-    const double count = SavedCount(map, schemeID);
+    const SchemeDetails scheme = DetailsOf(map, schemeName);
+    const double count = SavedCount(map, scheme.id);
     SchemeDocument::Writer writer(text);
-    writer.Begin(schemeName);
-    const auto rows = SavedLayers(map, schemeID);
+    writer.Begin(scheme);
+    const auto rows = SavedLayers(map, scheme.id);
     for (int position = 0; !rows->AtEOF(); rows->MoveNext()) {
         writer.Add(LayerAt(*rows, position));
         map.AskWatcher(++position / count);
@@ -172,7 +190,7 @@ void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName)
 
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)
 {
-    return ImportLayers(map, scheme.name, [&scheme](const Visitor& visitor) {
+    return ImportLayers(map, scheme, [&scheme](const Visitor& visitor) {
         double read = 0;
         for (const SchemeDocument::Layer& layer : scheme.layers)
             visitor(layer, ++read / double(scheme.layers.size()));
@@ -181,7 +199,7 @@ SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme)
 
 SchemeImport Import(ILayerStore& map, SchemeFile::Reader& file)
 {
-    return ImportLayers(map, file.Name(), [&file](const Visitor& visitor) { file.ForEachLayer(visitor); });
+    return ImportLayers(map, file.Head(), [&file](const Visitor& visitor) { file.ForEachLayer(visitor); });
 }
 
 } // namespace Orvane::SchemeExchange

@@ -34,7 +34,7 @@ void ExportTo(QIODevice& text, ILayerStore& map, const QString& schemeName);
 
 /// Stores the document as a scheme under its name, in one transaction; an existing scheme of that name is
 /// replaced. The layers and the current scheme stay as they are. For values that the document does not have,
-/// the present values of the layer are stored.
+/// the present values of the layer are stored. The scheme holds what the document says.
 SchemeImport Import(ILayerStore& map, const SchemeDocument& scheme);
 
 /// The same for a file, whatever its size. Asks the watcher of the map after each layer. Raises the errors of

@@ -98,12 +98,12 @@ Reader::Reader(const QString& path) : m_path(path), m_file(path)
     Open(m_file, path);
     SchemeDocument::Reader text(m_file);
     if (m_file.size() > SmallFile && Begin(text)) {
-        m_name = text.Name();
+        m_head = text.Head();
         return;
     }
     m_file.close();
     m_document = Read(path);
-    m_name = m_document->name;
+    m_head = *m_document;
 }
 
 void Reader::ForEachLayer(const Visitor& visitor)

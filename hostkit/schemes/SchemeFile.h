@@ -40,7 +40,9 @@ public:
     explicit Reader(const QString& path);
 
     /// Of the scheme.
-    const QString& Name() const { return m_name; }
+    const QString& Name() const { return m_head.name; }
+    /// The same with what the scheme holds and when it was saved.
+    const SchemeHead& Head() const { return m_head; }
     /// Calls the visitor for each layer, with the part that was read, from 0 to 1; may be called again.
     /// Raises as Read does, and what the visitor raises.
     void ForEachLayer(const Visitor& visitor);
@@ -50,7 +52,7 @@ private:
 
     QString m_path;
     QFile m_file;
-    QString m_name;
+    SchemeHead m_head;
     std::optional<SchemeDocument> m_document; // of a file that is small, or has other lines
 };
 

@@ -19,6 +19,7 @@ namespace {
 
 const QString Schemes = QStringLiteral("LayerSchemes");
 const QString Values = QStringLiteral("LayerSchemeValues");
+const QString LaterColumn = QStringLiteral("Holds"); // stands for all that the first version lacks
 
 StoreTable SchemesTable()
 {
@@ -29,7 +30,11 @@ StoreTable SchemesTable()
         Schemes,
         {{schemeID, StoreType::Whole},
          {name, StoreType::Text, Nulls::Refused},
-         {QStringLiteral("IsCurrent"), StoreType::Flag, Nulls::Refused, QStringLiteral("FALSE")}},
+         {QStringLiteral("IsCurrent"), StoreType::Flag, Nulls::Refused, QStringLiteral("FALSE")},
+         {LaterColumn, StoreType::Whole},
+         {QStringLiteral("SavedAt"), StoreType::Text},
+         {QStringLiteral("Place"), StoreType::Whole},
+         {QStringLiteral("AtOpening"), StoreType::Flag}},
         {schemeID},
         {name}};
 }
@@ -56,6 +61,27 @@ StoreTable ValuesTable()
     return table;
 }
 
+SchemeParts PartsIn(const Value& number)
+{
+    return PartsOfNumber(qint32(NumberIn(number).value_or(0)));
+}
+
+// haveDetails: whether the row has the columns that came later.
+SchemeDetails DetailsAt(const IRecordset& row, bool haveDetails)
+{
+    SchemeDetails scheme;
+    scheme.id = ToInt32(row.Field("SchemeID"));
+    scheme.name = ToText(row.Field("Name"));
+    scheme.isCurrent = NumberIn(row.Field("IsCurrent")).value_or(0) != 0;
+    if (!haveDetails)
+        return scheme;
+    scheme.holds = PartsIn(row.Field("Holds"));
+    scheme.saved = TimeOfText(ToTextOrNone(row.Field("SavedAt")));
+    scheme.place = Int32In(row.Field("Place"));
+    scheme.isAtOpening = NumberIn(row.Field("AtOpening")).value_or(0) != 0;
+    return scheme;
+}
+
 } // namespace
 
 void SchemeTables::Create()
@@ -68,7 +94,7 @@ void SchemeTables::Create()
         AddMissingColumns();
     else
         m_database.PrepareTable(ValuesTable());
-    HostTables::SetVersion(m_database, Schemes, Version);
+    StoreVersion();
     transaction.Commit();
 }
 
@@ -78,7 +104,7 @@ bool SchemeTables::HaveSchemes()
         return false;
     if (!AreCurrent()) {
         HostTables::RequireVersion(
-            m_database, Schemes, Version,
+            m_database, Schemes, IsTooNew() ? 0 : PartialVersion,
             QCoreApplication::translate(
                 "SchemeTables",
                 "The layer schemes of \"%1\" were written by a newer program and cannot be read."));
@@ -91,7 +117,30 @@ bool SchemeTables::HaveSchemes()
 
 bool SchemeTables::AreCurrent()
 {
-    return HostTables::VersionOf(m_database, Schemes) == Version;
+    const qint32 version = HostTables::VersionOf(m_database, Schemes);
+    return (version == Version || version == PartialVersion) && m_database.HasColumn(Schemes, LaterColumn);
+}
+
+// In a store that can be written, HaveSchemes has added them.
+bool SchemeTables::HaveDetails()
+{
+    return !m_database.IsReadOnly() || m_database.HasColumn(Schemes, LaterColumn);
+}
+
+bool SchemeTables::IsTooNew()
+{
+    const qint32 version = HostTables::VersionOf(m_database, Schemes);
+    return version > PartialVersion || (version > Version && version <= PartialVersion - Version);
+}
+
+void SchemeTables::StoreVersion()
+{
+    const auto partial = m_database.OpenQuery(
+        QStringLiteral("SELECT SchemeID FROM LayerSchemes WHERE Holds <> ?1 LIMIT 1"),
+        {NumberOf(WholeScheme)});
+    const qint32 version = partial->AtEOF() ? Version : PartialVersion;
+    if (HostTables::VersionOf(m_database, Schemes) != version)
+        HostTables::SetVersion(m_database, Schemes, version);
 }
 
 bool SchemeTables::HasRow()
@@ -133,11 +182,30 @@ QStringList SchemeTables::Names()
     return names;
 }
 
-QString SchemeTables::CurrentName()
+std::vector<SchemeDetails> SchemeTables::All()
 {
+    std::vector<SchemeDetails> all;
+    const bool haveDetails = HaveDetails();
+    const auto schemes = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemes ORDER BY SchemeID"));
+    for (; !schemes->AtEOF(); schemes->MoveNext())
+        all.push_back(DetailsAt(*schemes, haveDetails));
+    return all;
+}
+
+SchemeDetails SchemeTables::DetailsOf(qint32 schemeID)
+{
+    const bool haveDetails = HaveDetails();
+    const auto scheme
+        = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemes WHERE SchemeID = ?1"), {schemeID});
+    return scheme->AtEOF() ? SchemeDetails() : DetailsAt(*scheme, haveDetails);
+}
+
+SchemeDetails SchemeTables::Current()
+{
+    const bool haveDetails = HaveDetails();
     const auto scheme = m_database.OpenQuery(
-        QStringLiteral("SELECT Name FROM LayerSchemes ORDER BY IsCurrent DESC, SchemeID LIMIT 1"));
-    return ToText(scheme->Field("Name"));
+        QStringLiteral("SELECT * FROM LayerSchemes ORDER BY IsCurrent DESC, SchemeID LIMIT 1"));
+    return DetailsAt(*scheme, haveDetails);
 }
 
 qint32 SchemeTables::IDOf(const QString& name)
@@ -158,6 +226,42 @@ void SchemeTables::MakeCurrent(qint32 schemeID)
     m_database.Execute(QStringLiteral("UPDATE LayerSchemes SET IsCurrent = (SchemeID = ?1)"), {schemeID});
 }
 
+void SchemeTables::SetHolds(qint32 schemeID, SchemeParts holds)
+{
+    const Value number = holds == WholeScheme ? Value::Null() : Value(NumberOf(holds));
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSchemes SET Holds = ?2 WHERE SchemeID = ?1"), {schemeID, number});
+    StoreVersion();
+}
+
+void SchemeTables::SetHead(qint32 schemeID, const SchemeHead& head)
+{
+    SetHolds(schemeID, head.holds);
+    SetSaved(schemeID, head.saved);
+}
+
+void SchemeTables::SetSaved(qint32 schemeID, const QDateTime& saved)
+{
+    const QString text = TextOfTime(saved);
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSchemes SET SavedAt = ?2 WHERE SchemeID = ?1"),
+        {schemeID, text.isEmpty() ? Value::Null() : Value(text)});
+}
+
+void SchemeTables::SetOrder(const QStringList& names)
+{
+    m_database.Execute(QStringLiteral("UPDATE LayerSchemes SET Place = NULL"));
+    qint32 place = 0;
+    for (const QString& name : names)
+        m_database.Execute(
+            QStringLiteral("UPDATE LayerSchemes SET Place = ?2 WHERE Name = ?1"), {name, place++});
+}
+
+void SchemeTables::SetAtOpening(qint32 schemeID)
+{
+    m_database.Execute(QStringLiteral("UPDATE LayerSchemes SET AtOpening = (SchemeID = ?1)"), {schemeID});
+}
+
 void SchemeTables::DropValues(qint32 schemeID)
 {
     m_database.Execute(QStringLiteral("DELETE FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
@@ -167,6 +271,7 @@ void SchemeTables::Remove(qint32 schemeID)
 {
     DropValues(schemeID);
     m_database.Execute(QStringLiteral("DELETE FROM LayerSchemes WHERE SchemeID = ?1"), {schemeID});
+    StoreVersion();
 }
 
 } // namespace Orvane

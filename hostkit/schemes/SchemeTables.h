@@ -2,10 +2,13 @@
 #pragma once
 
 #include <orvane/OrvaneShellLib/LayerColumns.h>
+#include <orvane/hostkit/schemes/SchemeDetails.h>
 
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
+
+#include <vector>
 
 namespace Orvane {
 
@@ -14,6 +17,9 @@ class ILayerStore;
 /// The tables of a layer database that hold its schemes: LayerSchemes has one row per scheme, and
 /// LayerSchemeValues one row per layer and scheme. Deleting a layer deletes its rows. HostTables keeps their
 /// version under "LayerSchemes".
+///
+/// A scheme that does not hold a property has NULL in its column. Earlier programs do not know such schemes
+/// and would load NULL, so the version is a higher one while there is one.
 class SchemeTables
 {
 public:
@@ -22,6 +28,8 @@ public:
     /// The version of the tables that is written, and the newest one that can be read. A new column that
     /// schemes keep changes the tables.
     static constexpr qint32 Version = NewestLayerColumn();
+    /// The same for tables with a scheme that does not hold everything.
+    static constexpr qint32 PartialVersion = Version + 1000;
 
     /// database: not owned; outlives this object.
     explicit SchemeTables(ILayerStore& database) : m_database(database) { }
@@ -37,14 +45,33 @@ public:
 
     /// All names, in the order of creation.
     QStringList Names();
-    /// The current scheme's name.
-    QString CurrentName();
+    /// All schemes, in the order of creation.
+    std::vector<SchemeDetails> All();
+    /// One of them; a whole scheme without a name if there is none with that ID.
+    SchemeDetails DetailsOf(qint32 schemeID);
+    /// The current scheme.
+    SchemeDetails Current();
+    /// Its name.
+    QString CurrentName() { return Current().name; }
     /// The ID of the scheme of that name, or NoScheme if there is none.
     qint32 IDOf(const QString& name);
 
-    /// Adds a scheme without values and returns its ID.
+    /// Adds a whole scheme without values and returns its ID.
     qint32 Insert(const QString& name);
     void MakeCurrent(qint32 schemeID);
+    /// What the scheme holds.
+    SchemeParts HoldsOf(qint32 schemeID) { return DetailsOf(schemeID).holds; }
+    /// Says what the scheme holds; its values stay as they are. holds: at least one.
+    void SetHolds(qint32 schemeID, SchemeParts holds);
+    /// Says what the scheme holds and when it was saved, as another one; its name stays.
+    void SetHead(qint32 schemeID, const SchemeHead& head);
+    /// Says when the values were taken from the layers; invalid for not known.
+    void SetSaved(qint32 schemeID, const QDateTime& saved);
+    /// Says in which order the schemes stand: those of names first, all others have no place. Other names are
+    /// left out.
+    void SetOrder(const QStringList& names);
+    /// Says which scheme is loaded when the map is opened; NoScheme for none.
+    void SetAtOpening(qint32 schemeID);
     /// Removes only the values of a scheme.
     void DropValues(qint32 schemeID);
     /// Removes a scheme and its values.
@@ -52,6 +79,9 @@ public:
 
 private:
     bool AreCurrent();
+    bool HaveDetails();
+    bool IsTooNew();
+    void StoreVersion();
     bool HasRow();
     bool HasAllColumns();
     void AddMissingColumns();

@@ -3,12 +3,14 @@
 
 #include "hostkit/common/LayerRow.h"
 #include "hostkit/schemes/LayerMatch.h"
+#include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "hostkit/schemes/SchemeTables.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace Orvane {
@@ -46,15 +48,36 @@ void SchemeTransfer::CopySchemes()
         return;
     const bool hasCurrent = target.HaveSchemes();
     target.Create();
-    for (const QString& name : source.Names()) {
-        qint32 newSchemeID = target.IDOf(name);
+    for (const SchemeDetails& scheme : source.All()) {
+        qint32 newSchemeID = target.IDOf(scheme.name);
         if (newSchemeID == SchemeTables::NoScheme)
-            newSchemeID = target.Insert(name);
+            newSchemeID = target.Insert(scheme.name);
         target.DropValues(newSchemeID);
-        CopyValues(source.IDOf(name), newSchemeID);
+        target.SetHead(newSchemeID, scheme);
+        CopyValues(scheme.id, newSchemeID);
     }
+    CopyOrder();
     if (!hasCurrent)
         target.MakeCurrent(target.IDOf(source.CurrentName()));
+}
+
+// The order of the source, if the user has given it one; what only the target has follows.
+void SchemeTransfer::CopyOrder()
+{
+    const std::vector<SchemeDetails> schemes = LayerSchemes(m_from).All();
+    const bool isOrdered = std::any_of(
+        schemes.begin(), schemes.end(), [](const SchemeDetails& scheme) { return scheme.place.has_value(); });
+    if (!isOrdered)
+        return;
+    LayerSchemes target(m_to);
+    QStringList names;
+    for (const SchemeDetails& scheme : schemes)
+        names << scheme.name;
+    for (const QString& name : target.Names()) {
+        if (!names.contains(name))
+            names << name;
+    }
+    target.SetOrder(names);
 }
 
 void SchemeTransfer::AddLayer(qint32 layerID)

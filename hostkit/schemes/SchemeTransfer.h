@@ -19,11 +19,13 @@ public:
     void AddMissingLayers();
 
     /// Copies each scheme with the values of the layers that the target database has. A scheme of the same
-    /// name is replaced and the others stay; the current scheme stays current if there was one.
+    /// name is replaced and the others stay; what is loaded at opening stays too, and the order is that of
+    /// the source, if it has one; the current scheme stays current if there was one.
     void CopySchemes();
 
 private:
     void AddLayer(qint32 layerID);
+    void CopyOrder();
     void CopyValues(qint32 schemeID, qint32 newSchemeID);
 
     ILayerStore& m_from;

@@ -99,6 +99,42 @@ void SchemeSteps::Duplicate(const QString& name, const QString& newName)
     Tell();
 }
 
+void SchemeSteps::Add(const QString& name, SchemeParts holds)
+{
+    Run(tr("Create Scheme \"%1\"").arg(NameInStep(name)), [&] { m_schemes.Add(name, holds); });
+    Tell();
+}
+
+void SchemeSteps::SetHolds(const QString& name, SchemeParts holds)
+{
+    Run(tr("Change What Scheme \"%1\" Holds").arg(NameInStep(name)),
+        [&] { m_schemes.SetHolds(name, holds); });
+    Tell();
+}
+
+void SchemeSteps::SetOrder(const QStringList& names)
+{
+    Run(names.isEmpty() ? tr("Sort Schemes by Name") : tr("Reorder Schemes"),
+        [&] { m_schemes.SetOrder(names); });
+    Tell();
+}
+
+void SchemeSteps::SetAtOpening(const QString& name)
+{
+    const QString text = name.isEmpty() ? tr("Apply No Scheme at Opening")
+                                        : tr("Apply Scheme \"%1\" at Opening").arg(NameInStep(name));
+    Run(text, [&] { m_schemes.SetAtOpening(name); });
+    Tell();
+}
+
+std::optional<QString> SchemeSteps::MissingAtOpening()
+{
+    const QString name = m_database.IsReadOnly() ? QString() : m_schemes.AtOpening();
+    if (name.isEmpty() || (name == m_schemes.CurrentName() && !m_schemes.WouldChange(name)))
+        return std::nullopt;
+    return name;
+}
+
 void SchemeSteps::Export(const QString& name, const QString& path)
 {
     m_steps.EndEdits(); // before the work, which may be cancelled

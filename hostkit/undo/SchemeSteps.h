@@ -30,6 +30,7 @@ public:
     Q_DISABLE_COPY_MOVE(SchemeSteps)
 
     QStringList Names() { return m_schemes.Names(); }
+    std::vector<SchemeDetails> All() { return m_schemes.All(); }
     QString Current() { return m_schemes.Current(); }
     /// How many layers differ from the current scheme, or are not in it.
     qsizetype UnsavedChanges() { return m_differences.Count(); }
@@ -48,6 +49,17 @@ public:
     void DeleteSeveral(const QStringList& names);
     void Rename(const QString& name, const QString& newName);
     void Duplicate(const QString& name, const QString& newName);
+    /// Creates a scheme that holds only these properties; the current scheme stays.
+    void Add(const QString& name, SchemeParts holds);
+    /// As LayerSchemes::SetHolds.
+    void SetHolds(const QString& name, SchemeParts holds);
+    /// As LayerSchemes::SetOrder; an empty list is the natural order.
+    void SetOrder(const QStringList& names);
+    /// As LayerSchemes::SetAtOpening; empty for none.
+    void SetAtOpening(const QString& name);
+    /// The scheme that is to be loaded now that the map was opened; nothing if there is none, if the map is
+    /// as that scheme says already, or if the map cannot be changed.
+    std::optional<QString> MissingAtOpening();
     /// How many layers differ from that scheme, or are not in it; compares all.
     qsizetype CountThatDiffer(const QString& name) { return m_schemes.CountThatDiffer(name); }
 

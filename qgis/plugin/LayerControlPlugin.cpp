@@ -247,6 +247,7 @@ void LayerControlPlugin::ConnectSession()
 {
     QgisClient& client = m_session->Client();
     connect(m_session.get(), &ProjectSession::Failed, this, &LayerControlPlugin::Tell);
+    connect(m_session.get(), &ProjectSession::Done, this, &LayerControlPlugin::TellDone);
     connect(m_schemes.get(), &SchemeCommands::Done, this, &LayerControlPlugin::TellDone);
     connect(&client.Notifications(), &HostNotifications::SchemesSavedToStartup, this, [this] {
         TellDone(tr("All schemes of this project were saved for new projects."));

@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
+#include "messages/NameInText.h"
 #include "qgis/plugin/RefusalText.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
@@ -184,6 +185,17 @@ void ProjectSession::ReadOtherProject()
     ReadSchemes();
     TellStyles();
     m_client.RefreshEditors();
+    ApplySchemeAtOpening();
+}
+
+// The project counts as changed only if the scheme changes it.
+void ProjectSession::ApplySchemeAtOpening()
+{
+    Guard([this] {
+        if (const std::optional<QString> scheme = m_client.ApplySchemeAtOpening())
+            emit Done(
+                tr("The scheme \"%1\" was applied when the project was opened.").arg(NameInText(*scheme)));
+    });
 }
 
 void ProjectSession::Save(QDomDocument& file)

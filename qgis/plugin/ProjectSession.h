@@ -67,6 +67,8 @@ public:
 Q_SIGNALS:
     /// Something went wrong. message: for the user.
     void Failed(const QString& message);
+    /// Something was done that the user should know. message: for the user.
+    void Done(const QString& message);
     /// The styles of QgisClient::RendererStyles have changed.
     void RendererStylesChanged();
 
@@ -78,6 +80,7 @@ private:
     void ReadChanges(const QSet<QString>& layers, bool isTree);
     void ReadOtherProject();
     void ReadStartupSchemes();
+    void ApplySchemeAtOpening();
     void Save(QDomDocument& file);
     void SaveOwnValues();
     void TellStyles();

@@ -41,6 +41,7 @@ QgisClient::QgisClient(
     : StandardClient(store, services), m_project(project), m_mirror(mirror), m_commands{MakeScratchLayer, {}}
 {
     SetKeepsNotes(false); // the store is not saved, the project is
+    SetAppliesSchemeAtOpening(true); // ProjectSession does
 }
 
 void QgisClient::SetDock(EditorDock* dock)

@@ -93,8 +93,9 @@ LayerValues SavedRow(ILayerStore& store, qint32 schemeID, LayerValues row)
     const auto saved = store.OpenQuery(
         QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1 AND LayerID = ?2"),
         {schemeID, ValueOf(row, "LayerID")});
+    const SchemeParts holds = SchemeTables(store).HoldsOf(schemeID);
     for (const LayerColumn& column : SchemeColumns::All) {
-        if (!saved->AtEOF())
+        if (!saved->AtEOF() && holds.testFlag(PartOf(column)))
             SetValue(row, column.name, saved->Field(column.name));
     }
     return row;
@@ -135,6 +136,7 @@ void MapThemes::ImportOne(const QString& theme)
         schemeID = tables.Insert(theme);
     else
         tables.DropValues(schemeID);
+    tables.SetHead(schemeID, {theme, WholeScheme, QDateTime::currentDateTimeUtc()});
     for (QgsMapLayer* layer : m_project.mapLayers())
         InsertValues(m_store, schemeID, ThemeValues(*layer, record));
 }

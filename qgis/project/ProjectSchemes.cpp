@@ -16,13 +16,15 @@
 #include <QStringList>
 #include <qgsproject.h>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace Orvane {
 
 namespace {
 
-constexpr int SchemesVersion = 1;
+constexpr int SchemesVersion = 2; // a program that knows only version 1 would drop what came later
 const QString Scope = QStringLiteral("Orvane");
 const QString Entry = QStringLiteral("LayerSchemes");
 const QString UnreadEntry = QStringLiteral("LayerSchemesUnread");
@@ -55,16 +57,29 @@ QJsonObject SavedLayers(ILayerStore& store, qint32 schemeID)
     return layers;
 }
 
+QJsonObject SavedScheme(ILayerStore& store, const SchemeDetails& details)
+{
+    QJsonObject scheme{{"name", details.name}, {"layers", SavedLayers(store, details.id)}};
+    if (details.holds != WholeScheme)
+        scheme.insert("holds", JsonOf(details.holds));
+    if (details.saved.isValid())
+        scheme.insert("saved", TextOfTime(details.saved));
+    if (details.place)
+        scheme.insert("place", *details.place);
+    return scheme;
+}
+
 QByteArray SchemesText(ILayerStore& store, SchemeTables& tables)
 {
     QJsonArray schemes;
-    for (const QString& name : tables.Names())
-        schemes.append(QJsonObject{{"name", name}, {"layers", SavedLayers(store, tables.IDOf(name))}});
-    const QJsonObject all{
-        {"version", SchemesVersion},
-        {"current", tables.CurrentName()},
-        {"columns", ColumnNames()},
-        {"schemes", schemes}};
+    QJsonObject all{
+        {"version", SchemesVersion}, {"current", tables.CurrentName()}, {"columns", ColumnNames()}};
+    for (const SchemeDetails& details : tables.All()) {
+        schemes.append(SavedScheme(store, details));
+        if (details.isAtOpening)
+            all.insert("atOpening", details.name);
+    }
+    all.insert("schemes", schemes);
     return QJsonDocument(all).toJson(QJsonDocument::Compact);
 }
 
@@ -91,23 +106,23 @@ struct SavedColumns {
 };
 
 // A column that the text has no values for gets those of the layer.
-bool InsertPresentValues(ILayerStore& store, qint32 layerID, qint32 schemeID)
+bool InsertPresentValues(ILayerStore& store, qint32 layerID, qint32 schemeID, SchemeParts holds)
 {
     return store.Execute(
                QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1)"
                               " SELECT LayerID, ?2, %1 FROM Layers WHERE LayerID = ?1")
-                   .arg(SchemeColumns::List()),
+                   .arg(SchemeColumns::List(holds)),
                {layerID, schemeID})
         > 0;
 }
 
 void StoreSavedLayer(
-    ILayerStore& store, qint32 layerID, qint32 schemeID, const SavedColumns& columns,
+    ILayerStore& store, qint32 layerID, const SchemeDetails& scheme, const SavedColumns& columns,
     const QJsonArray& values)
 {
-    if (!InsertPresentValues(store, layerID, schemeID) || columns.places.empty())
+    if (!InsertPresentValues(store, layerID, scheme.id, scheme.holds) || columns.places.empty())
         return;
-    std::vector<Value> parameters{layerID, schemeID};
+    std::vector<Value> parameters{layerID, scheme.id};
     parameters.reserve(columns.places.size() + 2);
     for (const int place : columns.places) {
         const QJsonValue value = values.at(place);
@@ -116,13 +131,41 @@ void StoreSavedLayer(
     store.Execute(columns.update, parameters);
 }
 
-void StoreScheme(
-    ILayerStore& store, SchemeTables& tables, const QJsonObject& scheme, const SavedColumns& columns)
+SchemeDetails DetailsIn(const QJsonObject& scheme)
 {
-    const qint32 schemeID = tables.Insert(scheme.value("name").toString());
+    SchemeDetails details;
+    details.name = scheme.value("name").toString();
+    details.holds = PartsOfJson(scheme.value("holds")).value_or(WholeScheme);
+    details.saved = TimeOfText(scheme.value("saved").toString());
+    if (scheme.value("place").isDouble())
+        details.place = scheme.value("place").toInt();
+    return details;
+}
+
+SchemeDetails
+StoreScheme(ILayerStore& store, SchemeTables& tables, const QJsonObject& scheme, const SavedColumns& columns)
+{
+    SchemeDetails details = DetailsIn(scheme);
+    details.id = tables.Insert(details.name);
+    tables.SetHead(details.id, details);
     const QJsonObject layers = scheme.value("layers").toObject();
     for (auto layer = layers.begin(); layer != layers.end(); ++layer)
-        StoreSavedLayer(store, layer.key().toInt(), schemeID, columns, layer.value().toArray());
+        StoreSavedLayer(store, layer.key().toInt(), details, columns, layer.value().toArray());
+    return details;
+}
+
+// Those that have a place, in the order of the places.
+QStringList OrderOf(std::vector<SchemeDetails> schemes)
+{
+    std::stable_sort(schemes.begin(), schemes.end(), [](const SchemeDetails& a, const SchemeDetails& b) {
+        return a.place < b.place;
+    });
+    QStringList names;
+    for (const SchemeDetails& scheme : schemes) {
+        if (scheme.place)
+            names << scheme.name;
+    }
+    return names;
 }
 
 [[noreturn]] void RaiseSchemes(HostError number, const QString& description)
@@ -194,9 +237,13 @@ void ProjectSchemes::Store(const QByteArray& text)
     tables.Create();
     Transaction transaction(m_store);
     const SavedColumns columns(all.value("columns").toArray());
+    std::vector<SchemeDetails> stored;
+    stored.reserve(std::size_t(schemes.size()));
     for (const QJsonValue& scheme : schemes)
-        StoreScheme(m_store, tables, scheme.toObject(), columns);
+        stored.push_back(StoreScheme(m_store, tables, scheme.toObject(), columns));
+    tables.SetOrder(OrderOf(std::move(stored)));
     tables.MakeCurrent(tables.IDOf(all.value("current").toString()));
+    tables.SetAtOpening(tables.IDOf(all.value("atOpening").toString()));
     transaction.Commit();
 }
 

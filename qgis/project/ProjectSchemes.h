@@ -13,8 +13,12 @@ class ILayerStore;
 
 /// Keeps the layer schemes of a layer store in a QGIS project, as an entry of its file:
 ///
-///     {"version": 1, "current": "Night", "columns": ["Visible", ...],
-///      "schemes": [{"name": "Night", "layers": {"12": [1, null, ...], ...}}]}
+///     {"version": 2, "current": "Night", "atOpening": "Night", "columns": ["Visible", ...],
+///      "schemes": [{"name": "Night", "saved": "2026-05-01T12:30:00Z", "place": 0, "holds": ["flags"],
+///                   "layers": {"12": [1, null, ...], ...}}]}
+///
+/// What a scheme has no value for is left out: "holds" of a whole scheme, "place" without an order of the
+/// user's. Version 1, which has none of these, can be read.
 ///
 /// Layers are known by their numbers in the store, which the project keeps too.
 class ProjectSchemes

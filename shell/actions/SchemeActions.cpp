@@ -50,6 +50,14 @@ void SchemeActions::Use(MapSession& session)
     });
 }
 
+void SchemeActions::ApplyAtOpening()
+{
+    Guard(&m_window, [this] {
+        if (const std::optional<QString> scheme = m_session->ApplySchemeAtOpening())
+            TellApplied(*scheme);
+    });
+}
+
 void SchemeActions::MakeCommands()
 {
     m_listEnd = m_menu.addSeparator();
@@ -189,15 +197,28 @@ void SchemeActions::ChangeLayers(const std::function<void()>& change)
     m_control.WithEditorsClosed(change);
 }
 
-void SchemeActions::TellLayersLeftAlone(const QString& scheme)
+// Empty if there are none.
+QString SchemeActions::LayersLeftAlone(const QString& scheme)
 {
     const qsizetype count = m_session->Shell().UnsavedSchemeChanges();
-    if (count > 0) {
-        m_statusBar.showMessage(
-            tr("Layers not in the scheme \"%1\", left unchanged: %2")
-                .arg(NameInText(scheme), QLocale().toString(count)),
-            MessageTime);
-    }
+    return count == 0 ? QString()
+                      : tr("Layers not in the scheme \"%1\", left unchanged: %2")
+                            .arg(NameInText(scheme), QLocale().toString(count));
+}
+
+void SchemeActions::TellLayersLeftAlone(const QString& scheme)
+{
+    const QString layers = LayersLeftAlone(scheme);
+    if (!layers.isEmpty())
+        m_statusBar.showMessage(layers, MessageTime);
+}
+
+void SchemeActions::TellApplied(const QString& scheme)
+{
+    const QString applied
+        = tr("The scheme \"%1\" was applied when the map was opened.").arg(NameInText(scheme));
+    const QStringList both{applied, LayersLeftAlone(scheme)};
+    m_statusBar.showMessage(both.join(u' ').trimmed(), MessageTime);
 }
 
 QString SchemeActions::Current() const

@@ -33,6 +33,9 @@ public:
 
     /// The commands work on the schemes of this map from now on; not owned.
     void Use(MapSession& session);
+    /// Loads the scheme that the user has chosen for the opening of this map, and says so in the status bar.
+    /// Call it when the user has opened the map, before it is read.
+    void ApplyAtOpening();
 
 private:
     void MakeCommands();
@@ -50,7 +53,9 @@ private:
     bool MayReplace(const QString& name);
     void Report(const SchemeImport& import);
     void ChangeLayers(const std::function<void()>& change);
+    QString LayersLeftAlone(const QString& scheme);
     void TellLayersLeftAlone(const QString& scheme);
+    void TellApplied(const QString& scheme);
     QString Current() const;
 
     QMenu& m_menu;

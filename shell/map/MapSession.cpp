@@ -50,6 +50,7 @@ MapSession::MapSession(
     if (trace)
         m_traced = std::make_unique<TracingClient>(m_client, *trace);
     m_client.SetStartupFile(StartupFile());
+    m_client.SetAppliesSchemeAtOpening(true);
     m_client.SetLayerMaker(
         [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
     m_client.SetMapScale([this] { return m_document->HasLayers() ? m_canvas.ScaleDenominator() : 0; });
@@ -95,6 +96,11 @@ void MapSession::BeginSchemes()
     schemes.Save(schemes.Current());
 }
 
+std::optional<QString> MapSession::ApplySchemeAtOpening()
+{
+    return m_client.ApplySchemeAtOpening();
+}
+
 QString MapSession::ReadAndShow(View view, const SourceContents& known)
 {
     m_client.InvalidateLayerNames();
@@ -123,6 +129,7 @@ void MapSession::ReadRows()
     const LongWork work(m_document->Database(), tr("Reading the map"), &m_mainWindow, Cancel::Impossible);
     m_layers.DropFeaturesOfOtherData();
     m_layers.ReadAll();
+    m_isRead = true;
 }
 
 QString MapSession::ReadMissing(SourceContents& contents) const
@@ -250,6 +257,8 @@ void MapSession::ReadNews()
 
 void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
 {
+    if (!m_isRead) // all of them are read soon
+        return;
     Guard(&m_mainWindow, [&] {
         m_layers.Read(layerIDs);
         Show();

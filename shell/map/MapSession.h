@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace Orvane {
 
@@ -47,6 +48,10 @@ public:
     /// of which is loaded into the layers that it contains, or else one scheme of the layers as they are.
     /// Call before ReadAndShow.
     void BeginSchemes();
+
+    /// Loads the scheme that the user has chosen for the opening of this map; call it before ReadAndShow.
+    /// Returns the scheme; nothing if the map was not changed. Raises errors of the database.
+    std::optional<QString> ApplySchemeAtOpening();
 
     /// Which part of the map is shown after reading.
     enum class View { Stays, All };
@@ -105,6 +110,7 @@ private:
     ShellClient m_client;
     std::unique_ptr<TracingClient> m_traced;
     SourceFollower m_follower;
+    bool m_isRead = false; // at least once
     QTimer m_markSoon; // gathers the many steps of a zoom
     QTimer m_readSoon; // gathers the many layers of a step
     QSet<qint32> m_newsOf; // layers that were renamed or deleted since they were read

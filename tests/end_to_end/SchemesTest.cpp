@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/TownWindow.h"
+#include "hostkit/schemes/LayerSchemes.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -280,6 +281,45 @@ TEST_F(SchemesOfTheMap, ANewMapsFirstDataAreInItsScheme)
     const QString data = ToText(Database().OpenRecordset("SELECT Path FROM LayerSources")->Field("Path"));
     fresh->AddData({QFileInfo(MapPath()).absoluteDir().absoluteFilePath(data)});
     EXPECT_EQ(fresh->findChild<QLabel*>("lblScheme")->text(), "Scheme: Standard");
+}
+
+TEST_F(SchemesOfTheMap, TheOneForTheOpeningIsAppliedOnceAndCanBeUndone)
+{
+    Change();
+    Client().SaveScheme("Night");
+    LayerSchemes(Database()).SetAtOpening("Night");
+    Change();
+    ASSERT_TRUE(IsVisible());
+    m_window->OpenMap(MapPath());
+    EXPECT_FALSE(IsVisible());
+    EXPECT_EQ(Status(), "Scheme: Night");
+    EXPECT_EQ(
+        m_window->statusBar()->currentMessage(), "The scheme \"Night\" was applied when the map was opened.");
+    Trigger("actUndo");
+    EXPECT_TRUE(IsVisible());
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
+}
+
+TEST_F(SchemesOfTheMap, AMapThatIsInTheSchemeForTheOpeningIsNotChanged)
+{
+    LayerSchemes(Database()).SetAtOpening(m_day);
+    m_window->statusBar()->clearMessage();
+    m_window->OpenMap(MapPath());
+    EXPECT_EQ(m_window->statusBar()->currentMessage(), "");
+    EXPECT_FALSE(m_window->findChild<QAction*>("actUndo")->isEnabled());
+}
+
+TEST_F(SchemesOfTheMap, SavingTheMapUnderAnotherNameAppliesNone)
+{
+    LayerSchemes(Database()).SetAtOpening("Night");
+    WhenAsked([this](QDialog& dialog) {
+        auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
+        line->setText(PathOf("other.orvane"));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    Trigger("actSaveMapAs");
+    EXPECT_TRUE(QFile::exists(PathOf("other.orvane")));
+    EXPECT_EQ(Status(), "Scheme: " + m_day);
 }
 
 } // namespace Orvane

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeDocument.h"
 #include "hostkit/schemes/SchemeExchange.h"
 #include "hostkit/undo/UndoHistory.h"
@@ -83,6 +84,18 @@ void Import(SweepHost& host)
     host.client.ImportScheme(scheme);
 }
 
+// As the window for schemes does it.
+HostAct OnSchemes(const std::function<void(LayerSchemes&)>& act)
+{
+    return [act](SweepHost& host) {
+        host.client.RecordStep([&] {
+            LayerSchemes schemes(*host.store);
+            act(schemes);
+            return QStringLiteral("Change of Schemes");
+        });
+    };
+}
+
 void RemoveNight(SweepHost& host)
 {
     ClientOf(host).DeleteScheme(Night);
@@ -100,6 +113,15 @@ std::vector<SweepCommand> CommandsOnSchemes()
         OnHost("host kit: load a scheme", LoadNight),
         OnHost("host kit: delete a scheme", RemoveNight),
         OnHost("host kit: import a scheme", Import),
+        OnHost("host kit: add a partial scheme", OnSchemes([](LayerSchemes& schemes) {
+                   schemes.Add(QStringLiteral("Locks"), SchemePart::Flags);
+               })),
+        OnHost("host kit: change what a scheme holds", OnSchemes([](LayerSchemes& schemes) {
+                   schemes.SetHolds(Night, SchemePart::Scales);
+               })),
+        OnHost("host kit: reorder schemes", OnSchemes([](LayerSchemes& schemes) {
+                   schemes.SetOrder({Night, Day});
+               })),
         OnHost("host kit: save to startup", SaveToStartup),
         OnHost(
             "host kit: save to startup again", SaveToStartup,

@@ -117,23 +117,22 @@ TEST_F(DifferencesInATable, AreFilteredByWordsOfLayerAndProperty)
 
 TEST_F(DifferencesInATable, AreThoseOfOnePartOfTheProperties)
 {
-    using Part = DifferencesModel::Part;
     m_model.Show(
         {Differing(1, "Color", 1, 2),
          Differing(1, "Visible", 0, 1),
          Differing(1, "MinVisScale", 0, 500),
          {2, SchemeDifference::Kind::NotInFirst, 0, {}, {}}});
-    const auto columns = [this](Part part) {
-        m_model.SetPart(part);
+    const auto columns = [this](SchemeParts parts) {
+        m_model.SetParts(parts);
         QStringList properties;
         for (int row = 0; row < m_model.rowCount(); ++row)
             properties << Text(row, DifferencesModel::Property);
         return properties;
     };
-    EXPECT_THAT(columns(Part::Flags), testing::ElementsAre(QStringLiteral("Visible")));
-    EXPECT_THAT(columns(Part::Appearance), testing::ElementsAre(QStringLiteral("Line colour")));
-    EXPECT_THAT(columns(Part::Scales), testing::ElementsAre(QStringLiteral("Minimum visible scale")));
-    EXPECT_EQ(columns(Part::Everything).size(), 4);
+    EXPECT_THAT(columns(SchemePart::Flags), testing::ElementsAre(QStringLiteral("Visible")));
+    EXPECT_THAT(columns(SchemePart::Appearance), testing::ElementsAre(QStringLiteral("Line colour")));
+    EXPECT_THAT(columns(SchemePart::Scales), testing::ElementsAre(QStringLiteral("Minimum visible scale")));
+    EXPECT_EQ(columns(WholeScheme).size(), 4);
 }
 
 } // namespace

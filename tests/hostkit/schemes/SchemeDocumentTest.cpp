@@ -156,7 +156,7 @@ TEST(SchemeDocument, TrimsTheSchemesName)
 
 TEST(SchemeDocument, OfANewerVersionIsRefusedAsSuch)
 {
-    EXPECT_EQ(ErrorIn(With("\"version\": 1", "\"version\": 2")), int(HostError::SchemeTextTooNew));
+    EXPECT_EQ(ErrorIn(With("\"version\": 1", "\"version\": 3")), int(HostError::SchemeTextTooNew));
 }
 
 TEST(SchemeDocument, OfAnotherKindOrWithoutAVersionIsRefused)

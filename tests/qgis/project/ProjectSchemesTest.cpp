@@ -51,6 +51,29 @@ TEST_F(ProjectSchemesTest, SchemesComeBackWithTheirValues)
     EXPECT_EQ(read.Load("Day").size(), 1);
 }
 
+TEST_F(ProjectSchemesTest, PartialSchemesDatesAndTheUsersOrderComeBack)
+{
+    QgsVectorLayer* roads = AddLayer("Roads");
+    mirror.ReadAll();
+    StoreValue(*roads, "locked", 1);
+    schemes.Add("Locks", SchemePart::Flags);
+    schemes.SetOrder({"Standard", "Locks"});
+    schemes.SetAtOpening("Locks");
+    kept.Write();
+    Reopen();
+    LayerSchemes read(*second);
+    EXPECT_EQ(read.Names(), (QStringList{"Standard", "Locks"}));
+    EXPECT_EQ(read.All()[1].holds, SchemeParts(SchemePart::Flags));
+    EXPECT_EQ(read.All()[0].holds, WholeScheme);
+    EXPECT_EQ(read.All()[1].saved, schemes.All()[1].saved);
+    EXPECT_EQ(read.AtOpening(), "Locks");
+    EXPECT_EQ(read.CountThatDiffer("Locks"), 0);
+    second->Execute("UPDATE Layers SET Color = 3, locked = 0");
+    read.Load("Locks");
+    EXPECT_EQ(ToInt32(ValueOf(*StoredRows::Read(*second, mirror.IDOf(*roads)), "Color")), 3);
+    EXPECT_EQ(ToInt32(ValueOf(*StoredRows::Read(*second, mirror.IDOf(*roads)), "locked")), 1);
+}
+
 TEST_F(ProjectSchemesTest, AnUnknownValueStaysUnknown)
 {
     QgsVectorLayer* table = AddLayer("Table", "None");
@@ -90,13 +113,13 @@ TEST_F(ProjectSchemesTest, DamagedSchemesAreNamedAndLeaveNone)
 TEST_F(ProjectSchemesTest, SchemesOfANewerProgramAreNotRead)
 {
     project.writeEntry(
-        "Orvane", "LayerSchemes", QString("{\"version\": 2, \"schemes\": [{\"name\": \"A\"}]}"));
+        "Orvane", "LayerSchemes", QString("{\"version\": 3, \"schemes\": [{\"name\": \"A\"}]}"));
     EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextTooNew));
 }
 
 TEST_F(ProjectSchemesTest, SchemesThatCannotBeReadStayBesideNewOnes)
 {
-    const QString newer("{\"version\": 2, \"schemes\": [{\"name\": \"A\"}]}");
+    const QString newer("{\"version\": 3, \"schemes\": [{\"name\": \"A\"}]}");
     project.writeEntry("Orvane", "LayerSchemes", newer);
     EXPECT_EQ(ErrorOf([&] { kept.Read(); }), int(HostError::SchemeTextTooNew));
     schemes.Create("Night");

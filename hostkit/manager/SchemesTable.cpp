@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "hostkit/manager/SchemesTable.h"
+
+#include "hostkit/manager/SchemesModel.h"
+
+#include <QActionGroup>
+#include <QHeaderView>
+#include <QMenu>
+
+namespace Orvane {
+
+namespace {
+
+// In average characters.
+constexpr int SchemeNameWidth = 30;
+constexpr int HoldsWidth = 20;
+constexpr int SavedWidth = 18;
+
+constexpr int UsersOrder = -1;
+
+} // namespace
+
+SchemesTable::SchemesTable(SchemesModel& model, QWidget* parent)
+    : QTableView(parent), m_model(model), m_orders(new QActionGroup(this))
+{
+    setObjectName(QStringLiteral("tblSchemes"));
+    setAccessibleName(tr("Layer schemes"));
+    setModel(&model);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setShowGrid(false);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    setDragDropOverwriteMode(false);
+    verticalHeader()->hide();
+    SetWidths();
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, qOverload<int>(&SchemesTable::SortBy));
+}
+
+void SchemesTable::SetWidths()
+{
+    QHeaderView& header = *horizontalHeader();
+    header.setHighlightSections(false);
+    header.setSectionsClickable(true);
+    header.resizeSections(QHeaderView::ResizeToContents);
+    header.setStretchLastSection(true);
+    const int character = fontMetrics().averageCharWidth();
+    header.resizeSection(SchemesModel::Name, SchemeNameWidth * character);
+    setMinimumWidth(header.sectionPosition(SchemesModel::Holds) + 2 * frameWidth());
+    header.resizeSection(SchemesModel::Holds, HoldsWidth * character);
+    header.resizeSection(SchemesModel::Saved, SavedWidth * character);
+}
+
+QStringList SchemesTable::ChosenNames() const
+{
+    QStringList names;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (selectionModel()->isRowSelected(row, {}))
+            names << m_model.NameAt(row);
+    }
+    return names;
+}
+
+void SchemesTable::Choose(const QStringList& names)
+{
+    QItemSelectionModel& selection = *selectionModel();
+    for (const QString& name : names) {
+        const QModelIndex row = m_model.index(m_model.RowOf(name), SchemesModel::Name);
+        if (!row.isValid())
+            continue;
+        if (!selection.currentIndex().isValid() || names.size() == 1)
+            selection.setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+        selection.select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+}
+
+QSize SchemesTable::sizeHint() const
+{
+    return {horizontalHeader()->length() + 2 * frameWidth(), QTableView::sizeHint().height()};
+}
+
+QByteArray SchemesTable::Columns() const
+{
+    return horizontalHeader()->saveState();
+}
+
+void SchemesTable::RestoreColumns(const QByteArray& state)
+{
+    horizontalHeader()->restoreState(state);
+    horizontalHeader()->setSortIndicatorShown(false); // the state has it too
+}
+
+void SchemesTable::AddSorting()
+{
+    auto* menu = new QMenu(tr("Sort &Table"), this);
+    AddOrder(*menu, tr("In Your Own Order"), UsersOrder);
+    for (int column = 0; column < SchemesModel::ColumnCount; ++column) {
+        if (SchemesModel::IsSortable(column))
+            AddOrder(*menu, m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), column);
+    }
+    m_orders->actions().constFirst()->setChecked(true);
+    addAction(menu->menuAction());
+}
+
+void SchemesTable::AddOrder(QMenu& menu, const QString& text, int column)
+{
+    QAction* action = menu.addAction(text);
+    action->setCheckable(true);
+    action->setData(column);
+    m_orders->addAction(action);
+    connect(action, &QAction::triggered, this, [this, column] { SortBy(column); });
+}
+
+// Up, down, and back to the user's order.
+void SchemesTable::SortBy(int column)
+{
+    if (column != UsersOrder && !SchemesModel::IsSortable(column))
+        return;
+    if (column != m_sorted)
+        SortBy(column, Qt::AscendingOrder);
+    else if (m_order == Qt::AscendingOrder)
+        SortBy(column, Qt::DescendingOrder);
+    else
+        SortBy(UsersOrder, Qt::AscendingOrder);
+}
+
+void SchemesTable::SortBy(int column, Qt::SortOrder order)
+{
+    m_sorted = column;
+    m_order = order;
+    const QStringList chosen = ChosenNames();
+    m_model.SortBy(column == UsersOrder ? std::nullopt : std::optional(SchemesModel::Column(column)), order);
+    Choose(chosen);
+    horizontalHeader()->setSortIndicator(column == UsersOrder ? 0 : column, order);
+    horizontalHeader()->setSortIndicatorShown(column != UsersOrder);
+    for (QAction* action : m_orders->actions())
+        action->setChecked(action->data().toInt() == column);
+    emit Sorted();
+}
+
+} // namespace Orvane
