@@ -68,7 +68,7 @@ set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/liborvane-dev")
 install(FILES docs/host_guide.md docs/host_tests.md docs/promises.md docs/public_headers.md
   DESTINATION "${documents}" COMPONENT development)
 install(FILES examples/CMakeLists.txt DESTINATION "${documents}/examples" COMPONENT development)
-install(DIRECTORY examples/minimal_host examples/vector_host examples/dock_host examples/host_tests
+install(DIRECTORY examples/minimal_host examples/vector_host examples/dock_host examples/optional_parts examples/host_tests
   DESTINATION "${documents}/examples" COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp")
 
 # The component, with its message files next to it.

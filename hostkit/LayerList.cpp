@@ -3,13 +3,13 @@
 
 #include "hostkit/StandardClient.h"
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/common/MapNotes.h"
 #include "hostkit/lists/StoredList.h"
 
 namespace Orvane {
 
 LayerList::LayerList(ILayerStore& store, StandardClient& client) : m_store(store), m_client(client)
 {
-    client.SetKeepsNotes(false); // the program saves the layers itself
     const HostNotifications& told = client.Notifications();
     const auto one = [this](qint32 layerID) { emit Changed({layerID}); };
     connect(&told, &HostNotifications::LayersChanged, this, &LayerList::Changed);
@@ -43,6 +43,16 @@ bool LayerList::Update(const std::vector<ListedLayer>& layers)
 bool LayerList::Update(const std::vector<ListedLayer>& layers, const std::vector<ListedGroup>& groups)
 {
     return Finished(StoredList::Update(m_store, layers, groups));
+}
+
+QMap<QString, QString> LayerList::Notes() const
+{
+    return MapNotes::ReadAll(m_store);
+}
+
+void LayerList::SetNotes(const QMap<QString, QString>& notes)
+{
+    Finished(MapNotes::ReplaceAll(m_store, notes));
 }
 
 bool LayerList::Finished(bool differs)

@@ -3,8 +3,10 @@
 
 #include <orvane/hostkit/lists/ListedLayer.h>
 
+#include <QMap>
 #include <QObject>
 #include <QSet>
+#include <QString>
 
 #include <optional>
 #include <vector>
@@ -30,8 +32,7 @@ class LayerList : public QObject
     Q_OBJECT
 
 public:
-    /// Neither is owned; both outlive this object. store: the one that the client was made with. Calls the
-    /// client's SetKeepsNotes(false): a program that saves the store may set it to true again.
+    /// Neither is owned; both outlive this object. store: the one that the client was made with.
     LayerList(ILayerStore& store, StandardClient& client);
 
     /// All layers by their IDs, as they are stored now; see StoredList::Layers.
@@ -50,6 +51,15 @@ public:
     /// Does the same for layers and groups. Raises HostError::UnknownLayer also if a group names a layer that
     /// is not in the list.
     bool Update(const std::vector<ListedLayer>& layers, const std::vector<ListedGroup>& groups);
+
+    /// What editors keep with the layers, by their keys, such as which layers "Show Only These" has hidden.
+    /// The notes live as long as the store: a program that saves its layers itself also saves these texts,
+    /// and gives them to SetNotes when it has read its layers. Otherwise "Show All Again" does not know what
+    /// was hidden before. They change only together with layers, which Changed then names.
+    QMap<QString, QString> Notes() const;
+    /// Stores these notes in place of all others, and has open editors read them. No signal is emitted, and
+    /// it is no step of the history. Call it after Update.
+    void SetNotes(const QMap<QString, QString>& notes);
 
 Q_SIGNALS:
     /// These layers were changed, renamed, created or deleted by the user, by a scheme, by undo or by redo,

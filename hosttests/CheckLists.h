@@ -21,5 +21,7 @@ std::vector<HostCheck> WindowChecks();
 std::vector<HostCheck> SchemeChecks();
 std::vector<HostCheck> ServiceChecks();
 std::vector<HostCheck> SessionChecks();
+std::vector<HostCheck> OptionalChecks();
+std::vector<HostCheck> NoteChecks();
 
 } // namespace Orvane::HostTests

@@ -70,7 +70,8 @@ std::vector<HostCheck> AllHostChecks()
     std::vector<HostCheck> all;
     for (const auto list :
          {TreeChecks, ListChecks, MembershipChecks, ColumnChecks, SeekChecks, CursorChecks, WritingChecks,
-          TransactionChecks, ClientChecks, WindowChecks, SchemeChecks, ServiceChecks, SessionChecks}) {
+          TransactionChecks, ClientChecks, WindowChecks, SchemeChecks, ServiceChecks, SessionChecks,
+          OptionalChecks, NoteChecks}) {
         std::vector<HostCheck> checks = list();
         all.insert(all.end(), std::make_move_iterator(checks.begin()), std::make_move_iterator(checks.end()));
     }

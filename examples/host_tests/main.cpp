@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The tests for hosts, run on the other examples' hosts: one with a map file, one with a dock, one with a
-// vector.
+// vector, and one with optional parts of its own.
 #include "../dock_host/DockHost.h"
+#include "../optional_parts/OptionalParts.h"
 #include "../vector_host/LinesWindow.h"
 
 #include <orvane/hosttests/HostTests.h>
@@ -89,9 +90,35 @@ private:
     LinesWindow m_window{{}};
 };
 
+class HostWithOptionalParts : public HostTests::IHostUnderTest
+{
+public:
+    explicit HostWithOptionalParts(const HostTests::HostContents& contents)
+    {
+        HostTests::FillStore(*m_store, contents);
+    }
+
+    IStyleEditorClient& Client() override { return m_parts; }
+
+private:
+    /// Deletes layers unasked.
+    class AgreeingParts : public OptionalParts
+    {
+        using OptionalParts::OptionalParts;
+        bool Agrees(const QString&) override { return true; }
+    };
+
+    std::unique_ptr<ILayerStore> m_store = LayerStores::CreateInMemory();
+    StandardShellServices m_services;
+    Unattended<StandardClient> m_client{*m_store, m_services};
+    QLabel m_map{"25000"};
+    AgreeingParts m_parts{m_client, *m_store, m_map};
+};
+
 ORVANE_HOST_TESTS(FileHost)
 ORVANE_HOST_TESTS(DockHost)
 ORVANE_HOST_TESTS(VectorHost)
+ORVANE_HOST_TESTS(HostWithOptionalParts)
 
 } // namespace
 
@@ -104,5 +131,6 @@ int main(int argc, char** argv)
     HostTests::RunWithDialog("FileHost", HostTests::HostMaker<FileHost>());
     HostTests::RunWithDialog("DockHost", HostTests::HostMaker<DockHost>());
     HostTests::RunWithDialog("VectorHost", HostTests::HostMaker<VectorHost>());
+    HostTests::RunWithDialog("HostWithOptionalParts", HostTests::HostMaker<HostWithOptionalParts>());
     return RUN_ALL_TESTS();
 }

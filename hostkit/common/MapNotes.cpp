@@ -4,6 +4,7 @@
 #include "store/ILayerStore.h"
 #include "store/StoreTable.h"
 
+#include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <algorithm>
@@ -56,6 +57,31 @@ void MapNotes::Write(ILayerStore& store, const QString& key, const QString& text
         QStringLiteral("INSERT INTO MapNotes (Name, Content) VALUES (?1, ?2)"
                        " ON CONFLICT (Name) DO UPDATE SET Content = excluded.Content"),
         {key, text});
+}
+
+QMap<QString, QString> MapNotes::ReadAll(ILayerStore& store)
+{
+    QMap<QString, QString> notes;
+    if (!HasNotes(store))
+        return notes;
+    const auto row = store.OpenQuery(QStringLiteral("SELECT Name, Content FROM MapNotes"));
+    for (; !row->AtEOF(); row->MoveNext())
+        notes.insert(ToTextOrNone(row->Field("Name")), ToTextOrNone(row->Field("Content")));
+    return notes;
+}
+
+bool MapNotes::ReplaceAll(ILayerStore& store, const QMap<QString, QString>& notes)
+{
+    const QMap<QString, QString> before = ReadAll(store);
+    if (before == notes)
+        return false;
+    Transaction transaction(store);
+    for (const QString& key : before.keys())
+        Write(store, key, notes.value(key));
+    for (auto note = notes.begin(); note != notes.end(); ++note)
+        Write(store, note.key(), note.value());
+    transaction.Commit();
+    return true;
 }
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 namespace Orvane {
@@ -16,6 +17,12 @@ QString Read(ILayerStore& store, const QString& key);
 
 /// Stores the text; an empty one removes the note.
 void Write(ILayerStore& store, const QString& key, const QString& text);
+
+/// All notes by their keys.
+QMap<QString, QString> ReadAll(ILayerStore& store);
+
+/// Stores these notes in place of all that are there, in one transaction. False if they were there already.
+bool ReplaceAll(ILayerStore& store, const QMap<QString, QString>& notes);
 
 } // namespace MapNotes
 

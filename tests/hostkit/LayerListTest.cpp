@@ -145,5 +145,30 @@ TEST_F(LayerListTest, AnExpandedNodeIsNoChangeOfGroups)
     EXPECT_EQ(told.count(), 0);
 }
 
+TEST_F(LayerListTest, EditorsKeepNotesAsLongAsTheListLives)
+{
+    const QString key = QStringLiteral("Editor.Key");
+    ASSERT_TRUE(Notes().KeepsNotes());
+    Edit(1, "OverrideMode", qint16(2));
+    Notes().SetNote(key, QStringLiteral("normal=1"));
+    Host().RedrawMap();
+    EXPECT_THAT(LayersTold(), ElementsAre(1));
+    EXPECT_EQ(m_list.Notes().value(key), QStringLiteral("normal=1"));
+    History().Undo();
+    EXPECT_THAT(LayersTold(), ElementsAre(1));
+    EXPECT_TRUE(m_list.Notes().isEmpty());
+}
+
+TEST_F(LayerListTest, AProgramGivesNotesBackThatItHasSaved)
+{
+    const QMap<QString, QString> saved{{QStringLiteral("Editor.Key"), QStringLiteral("normal=1")}};
+    m_list.SetNotes(saved);
+    EXPECT_EQ(Notes().Note(QStringLiteral("Editor.Key")), QStringLiteral("normal=1"));
+    EXPECT_FALSE(History().CanUndo());
+    EXPECT_THAT(LayersTold(), IsEmpty());
+    m_list.SetNotes({});
+    EXPECT_TRUE(m_list.Notes().isEmpty());
+}
+
 } // namespace
 } // namespace Orvane::Testing

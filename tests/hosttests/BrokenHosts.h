@@ -24,12 +24,13 @@ std::vector<BrokenHost> HostsWithBrokenQueries();
 std::vector<BrokenHost> HostsWithBrokenCursors();
 std::vector<BrokenHost> HostsWithBrokenTransactions();
 std::vector<BrokenHost> HostsWithBrokenClients();
+std::vector<BrokenHost> HostsWithBrokenOptionals();
 
-/// The standard host behind a client, made of the standard one, that has the fault.
-template <typename FaultyClient> class HostBehind : public StoreHost
+/// A host behind a client, made of the host's own, that has the fault.
+template <typename FaultyClient, typename Host> class HostBehind : public Host
 {
 public:
-    explicit HostBehind(const HostContents& contents) : StoreHost(contents), m_client(StoreHost::Client()) { }
+    explicit HostBehind(const HostContents& contents) : Host(contents), m_client(Host::Client()) { }
 
     IStyleEditorClient& Client() override { return m_client; }
 
@@ -37,9 +38,9 @@ private:
     FaultyClient m_client;
 };
 
-template <typename FaultyClient> HostTests::MakeHost Behind()
+template <typename FaultyClient, typename Host = StoreHost> HostTests::MakeHost Behind()
 {
-    return HostTests::HostMaker<HostBehind<FaultyClient>>();
+    return HostTests::HostMaker<HostBehind<FaultyClient, Host>>();
 }
 
 } // namespace Orvane::Testing

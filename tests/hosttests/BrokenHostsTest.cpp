@@ -32,7 +32,7 @@ const std::vector<BrokenHost>& BrokenHosts()
         std::vector<BrokenHost> all;
         for (const auto list :
              {HostsWithBrokenQueries, HostsWithBrokenCursors, HostsWithBrokenTransactions,
-              HostsWithBrokenClients}) {
+              HostsWithBrokenClients, HostsWithBrokenOptionals}) {
             const std::vector<BrokenHost> some = list();
             all.insert(all.end(), some.begin(), some.end());
         }

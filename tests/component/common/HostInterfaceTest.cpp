@@ -49,6 +49,8 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_EQ(HostInterface<IManyLayers>(), nullptr);
     EXPECT_EQ(HostInterface<IMapScale>(), nullptr);
     EXPECT_EQ(HostInterface<ISchemeManager>(), nullptr);
+    EXPECT_EQ(HostInterface<IMapNotes>(), nullptr);
+    EXPECT_EQ(HostInterface<INodeCommands>(), nullptr);
     Use(m_client, IManyLayers::ContractMinor);
     EXPECT_NE(HostInterface<IManyLayers>(), nullptr);
     Use(m_client, IMapScale::ContractMinor);

@@ -33,6 +33,18 @@ TEST_F(MapNotesTest, KeepTheLastTextOfEachKey)
     EXPECT_EQ(MapNotes::Read(Database(), QStringLiteral("Other")), QStringLiteral("other"));
 }
 
+TEST_F(MapNotesTest, AreReadAndReplacedTogether)
+{
+    using Notes = QMap<QString, QString>;
+    EXPECT_EQ(MapNotes::ReadAll(Database()), Notes());
+    EXPECT_FALSE(MapNotes::ReplaceAll(Database(), {}));
+    MapNotes::Write(Database(), Key, QStringLiteral("text"));
+    const Notes wanted{{QStringLiteral("A"), QStringLiteral("a")}, {QStringLiteral("B"), QStringLiteral("b")}};
+    EXPECT_TRUE(MapNotes::ReplaceAll(Database(), wanted));
+    EXPECT_EQ(MapNotes::ReadAll(Database()), wanted);
+    EXPECT_FALSE(MapNotes::ReplaceAll(Database(), wanted));
+}
+
 TEST_F(MapNotesTest, AreEmptyInATableOfAnotherProgram)
 {
     Database().Execute(QStringLiteral("CREATE TABLE MapNotes (ID INTEGER PRIMARY KEY, Remark TEXT)"));
