@@ -66,12 +66,14 @@ MainWindow::MainWindow(CallTrace* trace)
     m_sharing = std::make_unique<MapSharing>(*this, [this] { ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     m_dock = std::make_unique<DockChoice>(*m_ui->actDockLayerControl, *this);
+    m_dock->AddSwitchTo(*m_ui->menuView, *m_ui->toolBar, *m_ui->actLayerControl);
     ConnectActions();
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
     ShareKeys();
-    WindowPlace::Restore(*this);
+    using WindowPlace::Beside;
+    WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);
     m_dock->NoteRestored();
     Use(MapDocument::Untitled());
 }
@@ -164,8 +166,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
     bool left = false;
     Guard(this, [&] { left = LeaveMap(); });
     event->setAccepted(left);
-    if (left)
+    if (left) {
         WindowPlace::Store(place);
+        m_dock->Store();
+    }
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -196,13 +200,15 @@ void MainWindow::ConnectActions()
     run(m_ui->actOpenMap, &MainWindow::AskForMap);
     run(m_ui->actSaveMapAs, &MainWindow::SaveMapAs);
     run(m_ui->actOpenData, &MainWindow::AskForData);
-    run(m_ui->actLayerControl, &MainWindow::ShowLayerControl);
+    run(m_ui->actLayerControl, &MainWindow::SwitchLayerControl);
     run(m_ui->actAbout, &MainWindow::ShowAbout);
     connect(m_ui->actQuit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
     connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
     connect(m_ui->actZoomAll, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomToAll);
-    connect(m_dock.get(), &DockChoice::EditorWanted, m_ui->actLayerControl, &QAction::trigger);
+    connect(m_dock.get(), &DockChoice::EditorWanted, this, [this] {
+        Guard(this, [this] { ShowLayerControl(); });
+    });
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
     connect(
@@ -231,6 +237,15 @@ void MainWindow::SetIcons()
     m_ui->actZoomOut->setIcon(ShellIcon(IconName::ZoomOut, palette()));
     m_ui->actZoomAll->setIcon(ShellIcon(IconName::ZoomAll, palette()));
     m_ui->actLayerControl->setIcon(ShellIcon(IconName::LayerControl, palette()));
+}
+
+// From within the dock there is nothing to open or to go to.
+void MainWindow::SwitchLayerControl()
+{
+    if (m_dock->HasFocus())
+        m_layerControl.Close(QStringLiteral("Main"));
+    else
+        ShowLayerControl();
 }
 
 void MainWindow::NewMap()

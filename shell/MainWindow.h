@@ -56,7 +56,7 @@ public:
     void AddData(const QStringList& paths);
     /// Opens the layer control, or brings it to the front.
     void ShowLayerControl();
-    /// The same if it was open in its dock when the last run ended.
+    /// The same if it was open in its dock when the last run ended, and in the first run.
     void ShowLayerControlAgain();
 
     MapCanvas& Canvas();
@@ -72,6 +72,7 @@ private:
     void ConnectActions();
     void ShareKeys();
     void SetIcons();
+    void SwitchLayerControl();
     void NewMap();
     void AskForMap();
     void SaveMapAs();

@@ -7,6 +7,7 @@
 #include "shell/window/QtTexts.h"
 #include "shell/window/RecentMaps.h"
 #include "shell/window/RunWithProgress.h"
+#include "shell/window/WindowPlace.h"
 
 #include <QApplication>
 #include <QFile>
@@ -59,7 +60,7 @@ int ShowWindow(const QApplication& application, const WindowRequest& request, co
         trace.emplace(traceFile);
     }
     MainWindow window(trace ? &*trace : nullptr);
-    window.show();
+    WindowPlace::Show(window);
     OpenFirstMap(window, request.map);
     const auto show
         = request.layerControl ? &MainWindow::ShowLayerControl : &MainWindow::ShowLayerControlAgain;

@@ -5,8 +5,11 @@
 #include "shell/map/MapSession.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
+#include <QMenu>
 #include <QSettings>
+#include <QToolBar>
 
 namespace Orvane {
 
@@ -14,28 +17,64 @@ namespace {
 
 constexpr auto DockedKey = "LayerControl/Docked";
 constexpr auto DockedEditorID = "Main";
+constexpr int MostOfWindow = 40; // per cent of its width that the dock takes by itself
 
 } // namespace
 
 DockChoice::DockChoice(QAction& command, QMainWindow& window)
-    : m_command(command), m_dock(new EditorDock(QLatin1String(DockedEditorID), &window))
+    : m_command(command), m_window(window), m_dock(new EditorDock(QLatin1String(DockedEditorID), &window))
 {
     window.addDockWidget(Qt::RightDockWidgetArea, m_dock);
-    m_dock->setWindowTitle(tr("Layer Control")); // in the menu of tool bars, until there is an editor
+    m_dock->setWindowTitle(tr("Layer Control")); // in the menus, until there is an editor
     m_dock->hide();
     m_command.setCheckable(true);
-    m_command.setChecked(QSettings().value(QLatin1String(DockedKey), false).toBool());
+    m_command.setChecked(QSettings().value(QLatin1String(DockedKey), true).toBool());
     connect(&m_command, &QAction::toggled, this, &DockChoice::OnToggled);
     connect(m_dock, &EditorDock::EditorWanted, this, &DockChoice::EditorWanted);
+    // When the window has arranged it: before that, it takes no size.
+    connect(m_dock, &QDockWidget::visibilityChanged, this, &DockChoice::GiveWidth, Qt::QueuedConnection);
 }
 
 DockChoice::~DockChoice() = default;
 
+void DockChoice::AddSwitchTo(QMenu& menu, QToolBar& bar, QAction& opener)
+{
+    m_bar = &bar;
+    m_opener = &opener;
+    QAction* shows = m_dock->toggleViewAction();
+    shows->setIcon(opener.icon());
+    shows->setStatusTip(opener.statusTip());
+    menu.addAction(shows);
+    bar.insertAction(&opener, shows);
+    // The user may have kept it open when asked about edits.
+    connect(
+        shows, &QAction::triggered, this, [this, shows] { shows->setChecked(!m_dock->isHidden()); },
+        Qt::QueuedConnection);
+    ShowSwitch();
+}
+
 // Until a map is open there is nothing to show.
 void DockChoice::NoteRestored()
 {
-    m_wasOpen = m_command.isChecked() && !m_dock->isHidden();
+    const bool isFirstRun = !QSettings().contains(QLatin1String(DockedKey));
+    m_hasWidth = !m_dock->isHidden();
+    m_wasOpen = IsChosen() && (isFirstRun || !m_dock->isHidden());
     m_dock->hide();
+}
+
+bool DockChoice::IsChosen() const
+{
+    return m_command.isChecked();
+}
+
+bool DockChoice::HasFocus() const
+{
+    return m_dock->isVisible() && m_dock->isAncestorOf(QApplication::focusWidget());
+}
+
+void DockChoice::Store() const
+{
+    QSettings().setValue(QLatin1String(DockedKey), m_command.isChecked());
 }
 
 void DockChoice::Use(MapSession& session)
@@ -44,17 +83,40 @@ void DockChoice::Use(MapSession& session)
     Apply();
 }
 
-void DockChoice::OnToggled(bool docked)
+void DockChoice::OnToggled()
 {
-    QSettings().setValue(QLatin1String(DockedKey), docked);
+    Store();
     Apply();
 }
 
 void DockChoice::Apply()
 {
-    m_dock->toggleViewAction()->setVisible(m_command.isChecked());
+    ShowSwitch();
     if (m_session)
-        m_session->Shell().SetDock(QLatin1String(DockedEditorID), m_command.isChecked() ? m_dock : nullptr);
+        m_session->Shell().SetDock(QLatin1String(DockedEditorID), IsChosen() ? m_dock : nullptr);
+}
+
+void DockChoice::ShowSwitch()
+{
+    const bool docked = IsChosen();
+    m_dock->toggleViewAction()->setVisible(docked);
+    if (!m_bar || !m_opener)
+        return;
+    if (docked)
+        m_bar->removeAction(m_opener);
+    else
+        m_bar->addAction(m_opener);
+}
+
+void DockChoice::GiveWidth()
+{
+    if (m_hasWidth || !m_dock->isVisible() || m_dock->isFloating())
+        return;
+    m_hasWidth = true;
+    const int besideEachOther = m_dock->sizeHint().width();
+    const bool hasRoom = besideEachOther <= m_window.width() * MostOfWindow / 100;
+    const int width = hasRoom ? besideEachOther : m_dock->minimumSizeHint().width();
+    m_window.resizeDocks({m_dock}, {width}, Qt::Horizontal);
 }
 
 } // namespace Orvane

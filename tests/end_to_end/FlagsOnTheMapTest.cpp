@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "end_to_end/ShownEditor.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
@@ -64,14 +65,7 @@ protected:
         document->AddLayer(layer);
     }
 
-    static QWidget* Form()
-    {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == "frmLayerStyles" && window->isVisible())
-                return window;
-        }
-        return nullptr;
-    }
+    static QWidget* Form() { return ShownEditor(); }
 
     template <typename Widget> static Widget& Find(const char* name)
     {

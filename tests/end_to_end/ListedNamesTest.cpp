@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "end_to_end/ShownEditor.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
@@ -53,10 +54,8 @@ protected:
 
     QWidget* Form() const
     {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == "frmLayerStyles" && window->isVisible())
-                return window;
-        }
+        if (QWidget* form = ShownEditor())
+            return form;
         throw std::runtime_error("no layer control");
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/PropertiesOnTheMap.h"
 
+#include "end_to_end/ShownEditor.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
@@ -78,6 +79,7 @@ void PropertiesOnTheMap::SetUp()
 {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.Path("settings"));
     SettingsStore().Write("DrawStyleEditor::Main", "9000:9000:LAYERS:EXPANDED");
+    QSettings().setValue("LayerControl/Docked", false); // the map needs its room
     auto document = MapDocument::Create(m_folder.Path("map.orvane"));
     document->SetSystem("EPSG:4326");
     AddLayer(
@@ -124,13 +126,9 @@ void PropertiesOnTheMap::AddLayer(
 
 QWidget& PropertiesOnTheMap::Control(const char* name)
 {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() != "frmLayerStyles" || !window->isVisible())
-            continue;
-        auto* control = window->findChild<QWidget*>(QLatin1String(name));
-        if (control)
-            return *control;
-    }
+    QWidget* form = ShownEditor();
+    if (auto* control = form ? form->findChild<QWidget*>(QLatin1String(name)) : nullptr)
+        return *control;
     throw std::runtime_error(name);
 }
 

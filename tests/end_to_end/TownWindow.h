@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "end_to_end/ShownEditor.h"
 #include "examples/sample_maps/SampleMap.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
@@ -124,18 +125,15 @@ protected:
 
     // ---- the editors
 
-    void OpenLayerControl() { Trigger("actLayerControl"); }
+    /// The command would close it again if it is in the dock and has the keys.
+    void OpenLayerControl()
+    {
+        if (!Form())
+            Trigger("actLayerControl");
+    }
 
     /// The shown editor with that caption; nullptr for none.
-    static QWidget* Form(const QString& caption = "Layer Control")
-    {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            const bool isEditor = window->objectName() == "frmLayerStyles" && window->isVisible();
-            if (isEditor && window->windowTitle() == caption)
-                return window;
-        }
-        return nullptr;
-    }
+    static QWidget* Form(const QString& caption = "Layer Control") { return ShownEditor(caption); }
 
     template <typename Widget = QWidget> static Widget& Find(QWidget* form, const char* name)
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "end_to_end/ShownEditor.h"
 #include "examples/sample_maps/SampleMap.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
@@ -44,6 +45,7 @@ protected:
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
         SettingsStore().Write(ViewStateKey, ViewState);
+        QSettings().setValue("LayerControl/Docked", false); // the map keeps its size
         MakeTownMap(m_folder.filePath("town.orvane"));
         m_traceBuffer.open(QIODevice::WriteOnly);
         m_window = std::make_unique<MainWindow>(&m_trace);
@@ -67,15 +69,7 @@ protected:
         ASSERT_NE(Form(), nullptr);
     }
 
-    // The editor's window; a closed one exists until the event loop deletes it.
-    static QWidget* Form()
-    {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->objectName() == "frmLayerStyles" && window->isVisible())
-                return window;
-        }
-        return nullptr;
-    }
+    static QWidget* Form() { return ShownEditor(); }
 
     template <typename Widget> static Widget& Find(const char* name)
     {

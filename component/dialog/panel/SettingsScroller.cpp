@@ -5,18 +5,18 @@
 
 namespace Orvane {
 
-namespace {
-
-constexpr int fewestRows = 8;
-
-} // namespace
-
 SettingsScroller::SettingsScroller(QWidget* parent) : QScrollArea(parent)
 {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+}
+
+void SettingsScroller::SetFewestRows(int rows)
+{
+    m_fewestRows = rows;
+    updateGeometry();
 }
 
 QSize SettingsScroller::sizeHint() const
@@ -27,7 +27,7 @@ QSize SettingsScroller::sizeHint() const
 
 QSize SettingsScroller::minimumSizeHint() const
 {
-    return {sizeHint().width(), fewestRows * fontMetrics().lineSpacing()};
+    return {sizeHint().width(), m_fewestRows * fontMetrics().lineSpacing()};
 }
 
 } // namespace Orvane

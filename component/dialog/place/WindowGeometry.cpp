@@ -46,6 +46,14 @@ void WindowGeometry::Restore(const WindowSize& size)
         m_height.Restore(size.height, m_window.height());
 }
 
+void WindowGeometry::FollowParent()
+{
+    const bool isAgain = m_window.isWindow() && !m_wasWindow;
+    m_wasWindow = m_window.isWindow();
+    if (isAgain && m_asWindow)
+        Restore(*m_asWindow);
+}
+
 void WindowGeometry::Note()
 {
     if (m_window.isWindow())

@@ -27,6 +27,10 @@ public:
     /// layout allows.
     void Restore(const WindowSize& size);
 
+    /// Gives it back the size that it last had as a window if it has become one again. Call when its parent
+    /// has changed.
+    void FollowParent();
+
     /// Notes the size for the time when it is no window.
     void Note();
 
@@ -44,6 +48,7 @@ private:
     TwipsLength m_width;
     TwipsLength m_height;
     std::optional<WindowSize> m_asWindow;
+    bool m_wasWindow = true;
 };
 
 /// The rectangle itself if it meets one of the screens; else moved to the middle of the first one and made no

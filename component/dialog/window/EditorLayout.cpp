@@ -14,6 +14,8 @@ namespace Orvane {
 
 namespace {
 
+constexpr int FewRowsBelow = 4; // of settings below the list, when all else has no room
+
 // The widest texts that the value labels show.
 int WidestValue(const QLabel& label)
 {
@@ -57,7 +59,8 @@ QString HintOf(EditorLayout::Cover cover)
 
 } // namespace
 
-EditorLayout::EditorLayout(QDialog& form, Ui::frmLayerStyles& ui) : m_form(form), m_ui(ui), m_width(form)
+EditorLayout::EditorLayout(QDialog& form, Ui::frmLayerStyles& ui)
+    : m_form(form), m_ui(ui), m_width(form), m_gap(ui.layLayerStyle->contentsMargins().left())
 {
 }
 
@@ -69,11 +72,14 @@ void EditorLayout::FitTexts()
         button->setMinimumSize(RoomySize(*button));
     m_ui.picLayerStyle->setMinimumWidth(0);
     m_ui.picLayerStyle->setMaximumWidth(QWIDGETSIZE_MAX);
+    SetSettingsMargin(false);
     ForgetSizes(m_form);
-    m_ui.picLayerStyle->setFixedWidth(m_ui.picLayerStyle->layout()->totalSizeHint().width());
+    m_ui.picLayerStyle->setMinimumWidth(m_ui.picLayerStyle->layout()->totalSizeHint().width());
+    FitSettings();
     ShowExpansion();
     ShowCover(m_cover);
     m_form.layout()->activate();
+    Arrange();
 }
 
 void EditorLayout::TakeDesignedSize()
@@ -100,6 +106,27 @@ void EditorLayout::SetExpanded(bool expanded)
     m_width.Resize(isBack ? m_widthBefore : before + change);
     m_widthBefore = before;
     m_widthAfter = m_form.width();
+}
+
+void EditorLayout::Arrange()
+{
+    const bool isBelow = IsTooNarrow();
+    if (m_isBelow == isBelow)
+        return;
+    m_isBelow = isBelow;
+    m_ui.layBody->setDirection(isBelow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_ui.scrSettings->SetFewestRows(isBelow ? FewRowsBelow : SettingsScroller::UsualRows);
+    FitSettings();
+    m_form.layout()->activate();
+    m_form.updateGeometry();
+}
+
+QSize EditorLayout::SmallestSize() const
+{
+    const int buttons = m_ui.picApplyCancel->minimumSizeHint().width();
+    const int settings = m_expanded ? SettingsWidth() : 0;
+    const int width = std::max({ListsWidth(), settings, buttons}) + SpaceAround();
+    return {width, m_form.layout()->totalMinimumSize().height()};
 }
 
 void EditorLayout::ShowTab(ListTab tab)
@@ -133,6 +160,42 @@ void EditorLayout::ShowExpansion()
 int EditorLayout::SettingsWidth() const
 {
     return m_ui.picLayerStyle->minimumWidth();
+}
+
+// On each tab the same, although the others hide the buttons for layers.
+int EditorLayout::ListsWidth() const
+{
+    return std::max(
+        m_ui.picLists->minimumSizeHint().width(), m_ui.picLayerControls->minimumSizeHint().width());
+}
+
+int EditorLayout::SpaceAround() const
+{
+    const QMargins margins = m_form.layout()->contentsMargins();
+    return margins.left() + margins.right();
+}
+
+bool EditorLayout::IsTooNarrow() const
+{
+    const int both = ListsWidth() + m_ui.layBody->spacing() + SettingsWidth();
+    return !m_form.isWindow() && m_form.width() < both + SpaceAround();
+}
+
+// Below the list they are as wide as the list, and share the height with it.
+void EditorLayout::FitSettings()
+{
+    SetSettingsMargin(m_isBelow);
+    m_ui.layBody->setStretchFactor(m_ui.picLists, m_isBelow ? 1 : 0);
+    m_ui.layBody->setStretchFactor(m_ui.picLayerStyle, m_isBelow ? 1 : 0);
+    m_ui.picLayerStyle->setMaximumWidth(m_isBelow ? QWIDGETSIZE_MAX : SettingsWidth());
+    m_ui.picLayerStyle->setSizePolicy(
+        m_isBelow ? QSizePolicy::Preferred : QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+// The margin is towards the list.
+void EditorLayout::SetSettingsMargin(bool isBelow)
+{
+    m_ui.layLayerStyle->setContentsMargins(isBelow ? 0 : m_gap, isBelow ? m_gap : 0, 0, 0);
 }
 
 } // namespace Orvane

@@ -13,7 +13,7 @@ class frmLayerStyles;
 }
 
 /// The arrangement of the dialog: the list of the tab, the settings next to it, and the width of the
-/// settings.
+/// settings. Within another widget that is too narrow for both, the settings are below the list.
 class EditorLayout
 {
 public:
@@ -41,6 +41,13 @@ public:
     /// another widget, keeps its size.
     void SetExpanded(bool expanded);
 
+    /// Chooses between settings next to the list and below it. Call when the dialog's width or parent has
+    /// changed.
+    void Arrange();
+    /// The smallest size of the dialog within another widget: wide enough for the list or the settings, high
+    /// enough for what is shown now.
+    QSize SmallestSize() const;
+
     /// Shows the content of the tab.
     void ShowTab(ListTab tab);
     /// Covers the settings with a hint, or shows them.
@@ -49,11 +56,18 @@ public:
 private:
     void ShowExpansion();
     int SettingsWidth() const;
+    int ListsWidth() const;
+    int SpaceAround() const;
+    bool IsTooNarrow() const;
+    void FitSettings();
+    void SetSettingsMargin(bool isBelow);
 
     QDialog& m_form;
     Ui::frmLayerStyles& m_ui;
     ExactWidth m_width;
+    int m_gap; ///< pixels between list and settings
     bool m_expanded = true;
+    bool m_isBelow = false; ///< the settings are below the list
     Cover m_cover = Cover::None;
     int m_widthBefore = 0; ///< pixels, before the last SetExpanded
     int m_widthAfter = -1; ///< pixels, after it

@@ -40,7 +40,12 @@ public:
     /// the dialog is in.
     void reject() override;
 
+    /// Within another widget it may be narrow: the settings are below the lists then.
+    QSize minimumSizeHint() const override;
+
 protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

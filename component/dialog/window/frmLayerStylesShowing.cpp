@@ -21,6 +21,18 @@ namespace Orvane {
 
 namespace {
 
+// Keys that lists, boxes and fields use.
+bool IsOfControls(const QKeyEvent& event)
+{
+    constexpr Qt::KeyboardModifiers others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((event.modifiers() & others) != Qt::NoModifier)
+        return false;
+    const int key = event.key();
+    const bool isMove = key >= Qt::Key_Home && key <= Qt::Key_PageDown;
+    const bool isEntry = key == Qt::Key_Delete || key == Qt::Key_Return || key == Qt::Key_Enter;
+    return isMove || isEntry || (!event.text().isEmpty() && event.text().at(0).isPrint());
+}
+
 QString SettingKey(const QString& editorID)
 {
     return QStringLiteral("DrawStyleEditor::") + editorID;
@@ -61,6 +73,35 @@ void frmLayerStyles::ShowByHost()
     auto* watch = HostInterface<IEditorWatch>();
     if (watch && self && !m_unloaded)
         watch->EditorShown(this);
+}
+
+QSize frmLayerStyles::minimumSizeHint() const
+{
+    return isWindow() || !m_parts ? StyleEditorWindow::minimumSizeHint() : m_parts->layout.SmallestSize();
+}
+
+bool frmLayerStyles::event(QEvent* event)
+{
+    const bool isDone = StyleEditorWindow::event(event);
+    // Or a host's shortcut, such as Home for its map, would take it.
+    if (event->type() == QEvent::ShortcutOverride && !isWindow()
+        && IsOfControls(*static_cast<QKeyEvent*>(event)))
+        event->accept();
+    if (m_parts && event->type() == QEvent::ParentChange)
+        GuardEvent(this, [this] {
+            m_parts->layout.Arrange();
+            m_parts->geometry.FollowParent();
+        });
+    return isDone;
+}
+
+void frmLayerStyles::resizeEvent(QResizeEvent* event)
+{
+    StyleEditorWindow::resizeEvent(event);
+    GuardEvent(this, [this] {
+        if (m_parts)
+            m_parts->layout.Arrange();
+    });
 }
 
 void frmLayerStyles::showEvent(QShowEvent* event)

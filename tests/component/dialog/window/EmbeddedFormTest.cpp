@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QTreeView>
 
 namespace Orvane::Testing {
 
@@ -22,6 +23,19 @@ protected:
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
+
+    void GiveWidth(int width)
+    {
+        QCoreApplication::sendPostedEvents();
+        window.resizeDocks({dock}, {width}, Qt::Horizontal);
+        QCoreApplication::processEvents();
+    }
+    void MakeDockNarrow() { GiveWidth(1); }
+    void MakeDockWide() { GiveWidth(750); }
+
+    QRect Place(const char* name) { return {Find(name).mapTo(Form(), QPoint()), Find(name).size()}; }
+    bool IsBelow() { return Place("picLayerStyle").top() > Place("picLists").bottom(); }
+    bool IsBeside() { return Place("picLayerStyle").left() > Place("picLists").right(); }
 };
 
 TEST_F(Embedded, EscapeDropsEditsAndLeavesTheDockOpen)
@@ -63,6 +77,27 @@ TEST_F(Embedded, TheHostsShortcutsWorkWhereTheFormHasTheSame)
     EXPECT_EQ(triggered, 1);
 }
 
+TEST_F(Embedded, TheKeysOfItsListsAreNotTakenByTheHostsShortcuts)
+{
+    OpenActive();
+    QAction whole(QString("Whole Map"));
+    whole.setShortcut(QKeySequence(Qt::Key_Home));
+    window.addAction(&whole);
+    int triggered = 0;
+    QObject::connect(&whole, &QAction::triggered, [&] { ++triggered; });
+    ClickLayer("Roads");
+    auto& list = static_cast<QTreeView&>(Find("tvLayers2"));
+    ASSERT_GT(list.currentIndex().row(), 0);
+    QTest::keyClick(&list, Qt::Key_Home);
+    EXPECT_EQ(list.currentIndex().row(), 0);
+    EXPECT_EQ(triggered, 0);
+    window.setCentralWidget(new QWidget);
+    window.centralWidget()->setFocusPolicy(Qt::StrongFocus);
+    window.centralWidget()->setFocus();
+    QTest::keyClick(window.centralWidget(), Qt::Key_Home);
+    EXPECT_EQ(triggered, 1) << "outside of the form it is the host's";
+}
+
 TEST_F(Embedded, TheTabKeyLeadsOutOfTheForm)
 {
     OpenActive();
@@ -101,6 +136,65 @@ TEST_F(Embedded, AWindowThatIsDockedKeepsItsSizeAndItsEdits)
     EXPECT_EQ(Stored(1, "Visible"), 0);
     Close();
     EXPECT_EQ(StoredViewState(), "9600:7200:LAYERS:EXPANDED");
+}
+
+TEST_F(Embedded, WhenItIsAWindowAgainItHasTheSizeOfThatWindow)
+{
+    StoreViewState("9000:7000:LAYERS:EXPANDED");
+    Open();
+    MakeDockNarrow();
+    QWidget* form = Form();
+    dock->setWidget(nullptr);
+    form->setParent(nullptr, Qt::Dialog);
+    form->show();
+    EXPECT_EQ(form->size(), QSize(600, 467));
+    EXPECT_TRUE(IsBeside());
+    Close();
+    EXPECT_EQ(StoredViewState(), "9000:7000:LAYERS:EXPANDED");
+}
+
+TEST_F(Embedded, InANarrowDockTheSettingsAreBelowTheList)
+{
+    Open();
+    ClickLayer("Roads");
+    MakeDockWide();
+    ASSERT_TRUE(IsBeside());
+    MakeDockNarrow();
+    EXPECT_TRUE(IsBelow());
+    EXPECT_LE(Form()->width(), Find("picLayerStyle").minimumWidth() + 40);
+    for (const char* name : {"tsLists", "tvLayers2", "cmdDeleteLayer", "Hidden", "cmbColor0", "cmdApply"}) {
+        EXPECT_TRUE(Form()->rect().contains(Place(name))) << name;
+        EXPECT_GE(Find(name).width(), Find(name).minimumSizeHint().width()) << name;
+    }
+    MakeDockWide();
+    EXPECT_TRUE(IsBeside());
+}
+
+TEST_F(Embedded, ANarrowDockKeepsItsWidthOnEveryTab)
+{
+    Open();
+    MakeDockNarrow();
+    const int width = Form()->width();
+    for (const int tab : {1, 2, 3, 2, 1}) {
+        ClickTab(tab);
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(Form()->width(), width) << tab;
+        EXPECT_TRUE(IsBelow()) << tab;
+    }
+}
+
+TEST_F(Embedded, WithoutItsSettingsANarrowDockShowsTheListAlone)
+{
+    Open();
+    MakeDockNarrow();
+    const int height = Find("tvLayers2").height();
+    Click("cmdResize");
+    QCoreApplication::sendPostedEvents();
+    EXPECT_FALSE(Find("picLayerStyle").isVisible());
+    EXPECT_GT(Find("tvLayers2").height(), height);
+    Click("cmdResize");
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(IsBelow());
 }
 
 TEST_F(Embedded, HidingTheSettingsLeavesTheSizeToTheDock)
