@@ -3,6 +3,8 @@
 
 #include "component/model/LayerStyle.h"
 
+#include <QString>
+#include <QVariant>
 #include <QWidget>
 
 #include <gtest/gtest.h>
