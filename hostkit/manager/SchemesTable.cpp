@@ -11,10 +11,7 @@ namespace Orvane {
 
 namespace {
 
-// In average characters.
-constexpr int SchemeNameWidth = 30;
-constexpr int HoldsWidth = 20;
-constexpr int SavedWidth = 18;
+constexpr int SchemeNameWidth = 30; // average characters
 
 constexpr int UsersOrder = -1;
 
@@ -50,8 +47,10 @@ void SchemesTable::SetWidths()
     const int character = fontMetrics().averageCharWidth();
     header.resizeSection(SchemesModel::Name, SchemeNameWidth * character);
     setMinimumWidth(header.sectionPosition(SchemesModel::Holds) + 2 * frameWidth());
-    header.resizeSection(SchemesModel::Holds, HoldsWidth * character);
-    header.resizeSection(SchemesModel::Saved, SavedWidth * character);
+    for (const int column : {SchemesModel::Holds, SchemesModel::Saved}) {
+        const int needed = fontMetrics().horizontalAdvance(SchemesModel::LongText(column)) + 3 * character;
+        header.resizeSection(column, qMax(needed, header.sectionSize(column)));
+    }
 }
 
 QStringList SchemesTable::ChosenNames() const

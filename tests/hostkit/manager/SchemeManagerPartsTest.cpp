@@ -30,14 +30,23 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
             if (!name.isEmpty())
                 QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("bedText")), name);
-            for (const char* box : clicked)
-                QTest::keyClick(dialog.findChild<QCheckBox*>(QLatin1String(box)), Qt::Key_Space);
+            for (const char* box : clicked) {
+                while (dialog.focusWidget()->objectName() != QLatin1String(box))
+                    ASSERT_NO_FATAL_FAILURE(TabToABox(dialog));
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+            }
             auto* buttons = dialog.findChild<QDialogButtonBox*>();
             QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
             EXPECT_EQ(ok->isEnabled(), clicked.size() < 3);
             QTest::mouseClick(
                 ok->isEnabled() ? ok : buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
         });
+    }
+
+    static void TabToABox(QWidget& dialog)
+    {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(qobject_cast<QCheckBox*>(dialog.focusWidget()));
     }
 
     QStringList Holds() { return Column(SchemesModel::Holds); }
