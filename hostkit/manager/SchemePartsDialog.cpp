@@ -42,6 +42,7 @@ SchemePartsDialog::SchemePartsDialog(const QString& title, SchemeParts holds, QW
     m_rows->addWidget(new QLabel(tr("The scheme holds:"), this));
     for (const SchemePart part : AllSchemeParts)
         AddPart(part, holds.testFlag(part));
+    m_parts.front()->setFocus();
     m_rows->addStretch(1);
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     m_rows->addWidget(m_buttons);

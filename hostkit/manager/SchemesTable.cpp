@@ -5,7 +5,9 @@
 
 #include <QActionGroup>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 
 namespace Orvane {
 
@@ -78,7 +80,9 @@ void SchemesTable::Choose(const QStringList& names)
 
 QSize SchemesTable::sizeHint() const
 {
-    return {horizontalHeader()->length() + 2 * frameWidth(), QTableView::sizeHint().height()};
+    const int width
+        = horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {width, QTableView::sizeHint().height()};
 }
 
 QByteArray SchemesTable::Columns() const
@@ -90,6 +94,23 @@ void SchemesTable::RestoreColumns(const QByteArray& state)
 {
     horizontalHeader()->restoreState(state);
     horizontalHeader()->setSortIndicatorShown(false); // the state has it too
+}
+
+void SchemesTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        QMetaObject::invokeMethod(this, &SchemesTable::OpenMenu, Qt::QueuedConnection); // after the event
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void SchemesTable::OpenMenu()
+{
+    const QPoint place = visualRect(currentIndex()).bottomLeft();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(actions());
+    menu->popup(viewport()->mapToGlobal(place));
 }
 
 void SchemesTable::AddSorting()

@@ -3,6 +3,7 @@
 #include "hostkit/manager/SchemesModel.h"
 #include "hostkit/schemes/LayerSchemes.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDropEvent>
@@ -198,6 +199,22 @@ TEST_F(SchemeWindowParts, ACustomOrderStaysWhileTheTableIsSortedByDate)
         EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
     });
     EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Day, Night, Standard));
+}
+
+TEST_F(SchemeWindowParts, SortsByNameInTheMenuThatShiftF10Opens)
+{
+    LayerSchemes(Database()).SetOrder({Standard, Night, Day});
+    InWindow([&] {
+        ClickScheme(Night);
+        PressKey(Qt::Key_F10, Qt::ShiftModifier);
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_T); // the submenu's letter
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
+        EXPECT_TRUE(Find<QPushButton>("cmdSortByName").isEnabled());
+    });
+    EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Standard, Night, Day));
 }
 
 TEST_F(SchemeWindowParts, ChoosesTheSchemeForTheOpening)
