@@ -32,15 +32,19 @@ QLabel* MakeRemark(const QString& text, QWidget* parent)
 } // namespace
 
 SchemePartsDialog::SchemePartsDialog(const QString& title, SchemeParts holds, QWidget* parent)
-    : QDialog(parent), m_rows(new QVBoxLayout(this)),
-      m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+    : QDialog(parent), m_rows(new QVBoxLayout(this)), m_name(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("dlgSchemeParts"));
     setWindowTitle(title);
+    m_name->setObjectName(QStringLiteral("bedText"));
+    m_name->hide();
+    m_rows->addWidget(m_name);
     m_rows->addWidget(new QLabel(tr("The scheme holds:"), this));
     for (const SchemePart part : AllSchemeParts)
         AddPart(part, holds.testFlag(part));
+    m_parts.front()->setFocus();
     m_rows->addStretch(1);
+    m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     m_rows->addWidget(m_buttons);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -65,13 +69,11 @@ void SchemePartsDialog::AddPart(SchemePart part, bool isTicked)
 void SchemePartsDialog::AskForName()
 {
     auto* label = new QLabel(tr("&Name:"), this);
-    m_name = new QLineEdit(this);
-    m_name->setObjectName(QStringLiteral("bedText"));
     label->setBuddy(m_name);
     m_rows->insertWidget(0, label);
-    m_rows->insertWidget(1, m_name);
     connect(m_name, &QLineEdit::textChanged, this, &SchemePartsDialog::EnableOK);
-    setTabOrder(m_name, m_parts.front());
+    m_asksForName = true;
+    m_name->show();
     m_name->setFocus();
     EnableOK();
 }
@@ -83,7 +85,7 @@ void SchemePartsDialog::AddRemark(const QString& remark)
 
 QString SchemePartsDialog::Name() const
 {
-    return m_name ? m_name->text().trimmed() : QString();
+    return m_name->text().trimmed();
 }
 
 SchemeParts SchemePartsDialog::Holds() const
@@ -96,7 +98,7 @@ SchemeParts SchemePartsDialog::Holds() const
 
 void SchemePartsDialog::EnableOK()
 {
-    const bool isNamed = !m_name || !Name().isEmpty();
+    const bool isNamed = !m_asksForName || !Name().isEmpty();
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(isNamed && Holds());
 }
 

@@ -45,9 +45,10 @@ private:
     void EnableOK();
 
     QVBoxLayout* m_rows; // owned by the dialog, like the controls
+    QLineEdit* m_name;
     std::vector<QCheckBox*> m_parts; // in the order of AllSchemeParts
-    QLineEdit* m_name = nullptr;
-    QDialogButtonBox* m_buttons;
+    QDialogButtonBox* m_buttons = nullptr;
+    bool m_asksForName = false;
 };
 
 } // namespace Orvane

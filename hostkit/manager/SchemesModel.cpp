@@ -48,6 +48,13 @@ void SchemesModel::Show(const std::vector<SchemeDetails>& schemes, Counts counts
     endResetModel();
 }
 
+QString SchemesModel::LongText(int column)
+{
+    if (column == Saved)
+        return TimeText(QDateTime(QDate(2000, 12, 28), QTime(22, 58)));
+    return SchemeValueTexts::Parts(SchemePart::Appearance | SchemePart::Scales);
+}
+
 QStringList SchemesModel::Names() const
 {
     QStringList names;

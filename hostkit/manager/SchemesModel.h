@@ -42,6 +42,8 @@ public:
 
     /// Whether the table can be sorted by that column.
     static bool IsSortable(int column) { return column == Name || column == Holds || column == Saved; }
+    /// A text that is about as long as any other in that column, Holds or Saved.
+    static QString LongText(int column);
     /// Sorts the rows; nothing: the user's order.
     void SortBy(std::optional<Column> column, Qt::SortOrder order = Qt::AscendingOrder);
     bool IsInUsersOrder() const { return !m_sorted; }

@@ -86,6 +86,8 @@ QByteArray SchemesPage::Columns() const
 void SchemesPage::RestoreColumns(const QByteArray& state)
 {
     m_table->RestoreColumns(state);
+    m_table->setColumnHidden(
+        SchemesModel::AtOpening, !m_host.appliesAtOpening); // the state may say otherwise
 }
 
 void SchemesPage::MakeCommands(QVBoxLayout& buttons)

@@ -5,16 +5,15 @@
 
 #include <QActionGroup>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 
 namespace Orvane {
 
 namespace {
 
-// In average characters.
-constexpr int SchemeNameWidth = 30;
-constexpr int HoldsWidth = 20;
-constexpr int SavedWidth = 18;
+constexpr int SchemeNameWidth = 30; // average characters
 
 constexpr int UsersOrder = -1;
 
@@ -50,8 +49,10 @@ void SchemesTable::SetWidths()
     const int character = fontMetrics().averageCharWidth();
     header.resizeSection(SchemesModel::Name, SchemeNameWidth * character);
     setMinimumWidth(header.sectionPosition(SchemesModel::Holds) + 2 * frameWidth());
-    header.resizeSection(SchemesModel::Holds, HoldsWidth * character);
-    header.resizeSection(SchemesModel::Saved, SavedWidth * character);
+    for (const int column : {SchemesModel::Holds, SchemesModel::Saved}) {
+        const int needed = fontMetrics().horizontalAdvance(SchemesModel::LongText(column)) + 3 * character;
+        header.resizeSection(column, qMax(needed, header.sectionSize(column)));
+    }
 }
 
 QStringList SchemesTable::ChosenNames() const
@@ -79,7 +80,9 @@ void SchemesTable::Choose(const QStringList& names)
 
 QSize SchemesTable::sizeHint() const
 {
-    return {horizontalHeader()->length() + 2 * frameWidth(), QTableView::sizeHint().height()};
+    const int width
+        = horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {width, QTableView::sizeHint().height()};
 }
 
 QByteArray SchemesTable::Columns() const
@@ -91,6 +94,23 @@ void SchemesTable::RestoreColumns(const QByteArray& state)
 {
     horizontalHeader()->restoreState(state);
     horizontalHeader()->setSortIndicatorShown(false); // the state has it too
+}
+
+void SchemesTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        QMetaObject::invokeMethod(this, &SchemesTable::OpenMenu, Qt::QueuedConnection); // after the event
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void SchemesTable::OpenMenu()
+{
+    const QPoint place = visualRect(currentIndex()).bottomLeft();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(actions());
+    menu->popup(viewport()->mapToGlobal(place));
 }
 
 void SchemesTable::AddSorting()

@@ -35,6 +35,10 @@ public:
     /// So wide that all columns are seen.
     QSize sizeHint() const override;
 
+protected:
+    /// Shift+F10 opens the context menu also where the system has no key for it.
+    void keyPressEvent(QKeyEvent* event) override;
+
 Q_SIGNALS:
     /// The rows stand in another order.
     void Sorted();
@@ -42,6 +46,7 @@ Q_SIGNALS:
 private:
     void SetWidths();
     void AddOrder(QMenu& menu, const QString& text, int column);
+    void OpenMenu();
     void SortBy(int column);
     void SortBy(int column, Qt::SortOrder order);
 

@@ -21,7 +21,7 @@ const QString Schemes = QStringLiteral("LayerSchemes");
 const QString Values = QStringLiteral("LayerSchemeValues");
 const QString LaterColumn = QStringLiteral("Holds"); // stands for all that the first version lacks
 
-StoreTable SchemesTable()
+StoreTable TableOfSchemes()
 {
     using Nulls = StoreColumn::Nulls;
     const QString schemeID = QStringLiteral("SchemeID");
@@ -89,7 +89,7 @@ void SchemeTables::Create()
     if (AreCurrent())
         return;
     Transaction transaction(m_database);
-    m_database.PrepareTable(SchemesTable());
+    m_database.PrepareTable(TableOfSchemes());
     if (m_database.HasTable(Values))
         AddMissingColumns();
     else

@@ -3,6 +3,7 @@
 #include "hostkit/manager/SchemesModel.h"
 #include "hostkit/schemes/LayerSchemes.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDropEvent>
@@ -30,14 +31,23 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
             if (!name.isEmpty())
                 QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("bedText")), name);
-            for (const char* box : clicked)
-                QTest::keyClick(dialog.findChild<QCheckBox*>(QLatin1String(box)), Qt::Key_Space);
+            for (const char* box : clicked) {
+                while (dialog.focusWidget()->objectName() != QLatin1String(box))
+                    ASSERT_NO_FATAL_FAILURE(TabToABox(dialog));
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+            }
             auto* buttons = dialog.findChild<QDialogButtonBox*>();
             QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
             EXPECT_EQ(ok->isEnabled(), clicked.size() < 3);
             QTest::mouseClick(
                 ok->isEnabled() ? ok : buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
         });
+    }
+
+    static void TabToABox(QWidget& dialog)
+    {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(qobject_cast<QCheckBox*>(dialog.focusWidget()));
     }
 
     QStringList Holds() { return Column(SchemesModel::Holds); }
@@ -189,6 +199,22 @@ TEST_F(SchemeWindowParts, ACustomOrderStaysWhileTheTableIsSortedByDate)
         EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
     });
     EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Day, Night, Standard));
+}
+
+TEST_F(SchemeWindowParts, SortsByNameInTheMenuThatShiftF10Opens)
+{
+    LayerSchemes(Database()).SetOrder({Standard, Night, Day});
+    InWindow([&] {
+        ClickScheme(Night);
+        PressKey(Qt::Key_F10, Qt::ShiftModifier);
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_T); // the submenu's letter
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
+        EXPECT_TRUE(Find<QPushButton>("cmdSortByName").isEnabled());
+    });
+    EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Standard, Night, Day));
 }
 
 TEST_F(SchemeWindowParts, ChoosesTheSchemeForTheOpening)
