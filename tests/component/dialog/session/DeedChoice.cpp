@@ -8,7 +8,8 @@ namespace Orvane::Testing {
 DeedChoice::DeedChoice()
 {
     for (const auto& some :
-         {EditingDeeds(), ListDeeds(), SchemeDeeds(), HostDeeds(), EndingDeeds(), StrangerDeeds()})
+         {EditingDeeds(), ListDeeds(), ShowingDeeds(), SchemeDeeds(), HostDeeds(), EndingDeeds(),
+          StrangerDeeds()})
         m_deeds.insert(m_deeds.end(), some.begin(), some.end());
     for (const Deed& deed : m_deeds)
         m_weight += deed.weight;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EndedMeanwhileFixture.h"
+#include "component/dialog/session/ListUser.h"
 #include "component/dialog/session/SessionDeeds.h"
 #include "component/dialog/session/SessionFixture.h"
 #include "support/PickByMouse.h"
@@ -32,11 +33,6 @@ private:
     SessionFixture& m_session;
     bool m_isOver = false;
 };
-
-QTreeView& ShownTree(SessionFixture& session)
-{
-    return session.Tree(session.dialog.tab == 1 ? Groups : Layers);
-}
 
 // Each begins with what the user does to the control; what then waits is up to the dialog.
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "component/dialog/session/ListUser.h"
 #include "component/dialog/session/SessionDeeds.h"
 #include "component/dialog/session/SessionFixture.h"
 
-#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,19 +13,6 @@ namespace Orvane::Testing {
 namespace {
 
 using namespace Paper;
-
-ListNumber ListShown(const SessionFixture& session)
-{
-    return session.dialog.tab == 1 ? Groups : Layers;
-}
-
-std::vector<QModelIndex> VisibleNodes(const QTreeView& tree)
-{
-    std::vector<QModelIndex> nodes;
-    for (QModelIndex index = tree.model()->index(0, 0); index.isValid(); index = tree.indexBelow(index))
-        nodes.push_back(index);
-    return nodes;
-}
 
 void ClickTab(SessionFixture& session)
 {
@@ -43,7 +30,7 @@ void ClickNode(SessionFixture& session)
 {
     if (session.dialog.tab == 3)
         return;
-    QTreeView& tree = session.Tree(ListShown(session));
+    QTreeView& tree = ShownTree(session);
     const auto nodes = VisibleNodes(tree);
     if (nodes.empty())
         return;
@@ -60,7 +47,7 @@ void StepThroughNodes(SessionFixture& session)
 {
     if (session.dialog.tab == 3)
         return;
-    QTreeView& tree = session.Tree(ListShown(session));
+    QTreeView& tree = ShownTree(session);
     const bool isDown = session.dice.Chance(50);
     const QModelIndex from = tree.currentIndex();
     const QModelIndex to = isDown ? tree.indexBelow(from) : tree.indexAbove(from);
@@ -94,13 +81,8 @@ void ExpandOrCollapseAll(SessionFixture& session)
     QTreeView& tree = session.Tree(Groups);
     if (session.dialog.tab != 1)
         return;
-    session.Settle(); // the activation of a window that has just opened would close the menu
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, tree.mapToGlobal(tree.rect().center()));
-    QApplication::sendEvent(&tree, &event);
-    session.Settle();
-    QWidget* popup = QApplication::activePopupWidget();
-    auto* menu = qobject_cast<QMenu*>(popup);
-    ASSERT_TRUE(menu) << (popup ? popup->metaObject()->className() : "nothing popped up");
+    QMenu* menu = OpenNodeMenu(session);
+    ASSERT_TRUE(menu);
     const bool expands = session.dice.Chance(50);
     menu->setActiveAction(menu->actions().at(expands ? 2 : 3));
     QTest::keyClick(menu, Qt::Key_Return);
@@ -127,7 +109,7 @@ void Rename(SessionFixture& session)
     const auto node = session.dialog.CurrentNode();
     if (session.dialog.tab == 3 || !node)
         return;
-    QTreeView& tree = session.Tree(ListShown(session));
+    QTreeView& tree = ShownTree(session);
     tree.scrollTo(tree.currentIndex());
     session.Settle();
     const bool wasExpanded = tree.isExpanded(tree.currentIndex().parent());
@@ -180,7 +162,7 @@ void PressDelete(SessionFixture& session)
     if (session.dialog.tab == 2 && session.dice.Chance(50))
         session.Click("cmdDeleteLayer");
     else
-        QTest::keyClick(&session.Tree(ListShown(session)), Qt::Key_Delete);
+        QTest::keyClick(&ShownTree(session), Qt::Key_Delete);
     session.Settle();
     if (session.dialog.tab == 2)
         session.dialog.DeleteLayer();

@@ -80,7 +80,7 @@ void Dialog::LoadList(ListNumber number, Answer answer)
     if (before && !fresh.Holds(*before))
         fresh.current = m_look(number);
     list = fresh;
-    if (before && list.current != before && number == shownList)
+    if (before && number == shownList && (list.current != before || !list.Holds(*before)))
         Load();
 }
 
@@ -104,7 +104,11 @@ void Dialog::Ask(Answer answer)
         return;
     const QString kind = panel.node->isGroup ? QStringLiteral("group") : QStringLiteral("layer");
     const QString name = lists[shownList].TextOf(*panel.node);
-    m_boxes.append(QStringLiteral("Do you wish to apply the changes to the '%1' %2?").arg(name, kind));
+    const QString one = QStringLiteral("the '%1' %2").arg(name, kind);
+    const QString several = panel.layers == 1 ? QStringLiteral("the selected layer")
+                                              : QStringLiteral("the %1 selected layers").arg(panel.layers);
+    m_boxes.append(
+        QStringLiteral("Do you wish to apply the changes to %1?").arg(more.empty() ? one : several));
     if (answer == Answer::Yes)
         Apply();
 }
@@ -125,10 +129,10 @@ void Dialog::Apply()
         if (IsSingle(panel.mode) && !isModeKept)
             found->second.columns[OverrideMode] = panel.mode / 2; // 1, 2, 4 are stored as 0, 1, 2
     };
-    const std::vector<qint32> layerIDs = LayerIDsOf(*node);
+    const std::vector<qint32> layerIDs = ChosenLayerIDs();
     const bool newMode = panel.mode != panel.loadedMode;
     std::for_each(layerIDs.begin(), layerIDs.end(), write);
-    if (!node->isGroup) {
+    if (!node->isGroup && more.empty()) {
         const auto layer = m_map.layers.find(node->layerID);
         const bool isCodeKept = layer != m_map.layers.end() && !panel.isCodeMarked
             && panel.storedCode != layer->second.columns[Code];
@@ -146,7 +150,7 @@ void Dialog::Apply()
             lists[Layers].SetMode(layerID, panel.mode);
         }
     }
-    const bool isUnexpected = node->isGroup && newMode && !IsSingle(panel.mode);
+    const bool isUnexpected = (node->isGroup || !more.empty()) && newMode && !IsSingle(panel.mode);
     Load();
     if (isUnexpected)
         m_boxes.append(QStringLiteral("Unexpected program flow in frmLayerStyles"));
@@ -155,7 +159,10 @@ void Dialog::Apply()
 void Dialog::TellThatNothingWasWritten(const Node& node)
 {
     const QString name = lists[shownList].TextOf(node);
-    if (node.isGroup && m_map.groups.count(node.groupID))
+    if (!more.empty())
+        Tell(QStringLiteral("The selected layers (%1) no longer exist. The changes were not applied.")
+                 .arg(panel.layers));
+    else if (node.isGroup && m_map.groups.count(node.groupID))
         Tell(QStringLiteral("The group '%1' no longer has any layers. The changes were not applied.")
                  .arg(name));
     else
@@ -197,11 +204,22 @@ void Dialog::ClickShownTab(Answer answer)
 void Dialog::Choose(const Node& node, Answer answer)
 {
     List& list = lists[shownList];
-    if (list.current == node) {
+    if (list.current == node && more.empty()) {
         ChooseAgain();
         return;
     }
     Ask(answer);
+    more.clear();
+    list.current = node;
+    Load();
+}
+
+void Dialog::ChooseMore(const Node& node, Answer answer)
+{
+    Ask(answer);
+    List& list = lists[shownList];
+    if (const auto current = CurrentNode())
+        more.push_back(*current);
     list.current = node;
     Load();
 }
@@ -260,7 +278,7 @@ void Dialog::AddNewLayer(qint32 layerID, Answer answer)
     List& list = lists[Layers];
     const std::optional<Node> before = list.current;
     EnsureLoaded(Layers, answer);
-    const bool wentOn = list.current != before;
+    const bool wentOn = before && (list.current != before || !list.Holds(*before)); // it may come back now
     if (IsHidden(layerID))
         return;
     const Node node{false, 0, layerID};

@@ -21,6 +21,7 @@ struct Panel {
     std::optional<double> storedCode;
     bool isCodeMarked = false;
     bool canEditCode = false;
+    qsizetype layers = 0; ///< that were read
     int loadedMode = 0;
     int mode = 0;
 
@@ -48,6 +49,7 @@ public:
     int tab = 2; ///< 1 groups, 2 layers, 3 schemes
     ListNumber shownList = Groups;
     std::array<List, 2> lists;
+    std::vector<Node> more; ///< chosen in the shown list besides its current node
     Panel panel;
     bool isModified = false;
     int redraws = 0; ///< since the start
@@ -56,16 +58,24 @@ public:
     /// The current node of the shown list, if it is listed.
     std::optional<Node> CurrentNode() const;
     bool CanEdit() const { return tab != 3 && panel.node; }
+    /// What the bar above the lists says, after layers were shown or hidden; empty without it.
+    QString BarText() const;
+    /// The layers of all chosen nodes, each once.
+    std::vector<qint32> ChosenLayerIDs() const;
     /// The texts of the message boxes since the last call.
     QStringList TakeBoxes() { return std::exchange(m_boxes, {}); }
     /// Records a message box that the user sees.
     void Tell(const QString& text) { m_boxes.append(text); }
+
+    std::vector<qint32> LayerIDsOf(const Node& node) const;
 
     // What the user does.
 
     void ShowTab(int wanted, Answer answer);
     void ClickShownTab(Answer answer);
     void Choose(const Node& node, Answer answer);
+    /// Chooses the node besides those that are chosen; it is the current one then.
+    void ChooseMore(const Node& node, Answer answer);
     void Apply();
     void Load();
     void SetFlag(Property flag);
@@ -77,6 +87,13 @@ public:
     void EnterCode(const QString& text);
     void Rename(const Node& node, const QString& name);
     void DeleteLayer();
+    /// Shows or hides the layers at once.
+    void SetHidden(const std::vector<qint32>& layerIDs, bool hidden);
+    void ShowOnlyChosen();
+    void ShowAllAgain();
+    /// Only the nodes that have all words are listed until the end of the find.
+    void Find(const QStringList& words, Answer answer);
+    void EndFind();
 
     // What the host does.
 
@@ -99,18 +116,23 @@ private:
     std::vector<Branch> ReadLayers() const;
     bool IsHidden(qint32 layerID) const;
     Entry EntryOf(qint32 layerID) const;
-    std::vector<qint32> LayerIDsOf(const Node& node) const;
-    std::vector<const Layer*> LayersOf(const Node& node) const;
+    std::vector<const Layer*> ChosenLayers() const;
     void Read();
     int ReadMode();
     bool IsMarked(Property property) const;
     Values ValuesToWrite(const Layer& layer) const;
     void ChooseAgain();
     void Mark(Property property);
+    std::map<qint32, int> ListedModes() const;
+    bool IsShownOnlyMode(qint32 layerID, int mode) const;
+    void StoreModes(const std::map<qint32, int>& modes);
+    void FollowModes();
 
     Map& m_map;
     LookAtNode m_look;
     QStringList m_boxes;
+    std::map<qint32, int> m_ownModes; // of the layers that "Show Only These" has hidden or shown
+    bool m_hasLeftNode = false; // a find does not list it
 };
 
 } // namespace Orvane::Testing::Paper

@@ -56,6 +56,24 @@ void List::SetMode(qint32 layerID, int mode)
     }
 }
 
+std::vector<Branch> List::Found(const QStringList& words) const
+{
+    std::vector<Branch> found;
+    for (const Branch& branch : branches) {
+        Branch left{branch.groupID, branch.text, {}};
+        for (const Entry& entry : branch.entries) {
+            const bool hasAll = std::all_of(words.begin(), words.end(), [&](const QString& word) {
+                return entry.text.contains(word) || branch.text.contains(word);
+            });
+            if (hasAll)
+                left.entries.push_back(entry);
+        }
+        if (!left.entries.empty())
+            found.push_back(std::move(left));
+    }
+    return found;
+}
+
 void List::SetText(qint32 layerID, const QString& text)
 {
     for (Branch& branch : branches) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -48,6 +49,8 @@ struct List {
     QString TextOf(const Node& node) const;
     void SetMode(qint32 layerID, int mode);
     void SetText(qint32 layerID, const QString& text);
+    /// What a find of these words leaves.
+    std::vector<Branch> Found(const QStringList& words) const;
 };
 
 } // namespace Orvane::Testing::Paper

@@ -4,6 +4,18 @@
 
 namespace Orvane::Testing::Paper {
 
+namespace {
+
+QString CommonCode(const std::vector<const Layer*>& layers)
+{
+    std::set<double> codes;
+    for (const Layer* layer : layers)
+        codes.insert(layer->columns[Code]);
+    return codes.size() == 1 ? QString::number(*codes.begin()) : QString();
+}
+
+} // namespace
+
 std::vector<qint32> Dialog::LayerIDsOf(const Node& node) const
 {
     if (!node.isGroup)
@@ -14,10 +26,23 @@ std::vector<qint32> Dialog::LayerIDsOf(const Node& node) const
     return {group->second.members.begin(), group->second.members.end()};
 }
 
-std::vector<const Layer*> Dialog::LayersOf(const Node& node) const
+std::vector<qint32> Dialog::ChosenLayerIDs() const
+{
+    std::set<qint32> layerIDs;
+    std::vector<Node> nodes = more;
+    if (const auto current = CurrentNode())
+        nodes.push_back(*current);
+    for (const Node& node : nodes) {
+        for (const qint32 layerID : LayerIDsOf(node))
+            layerIDs.insert(layerID);
+    }
+    return {layerIDs.begin(), layerIDs.end()};
+}
+
+std::vector<const Layer*> Dialog::ChosenLayers() const
 {
     std::vector<const Layer*> layers;
-    for (const qint32 layerID : LayerIDsOf(node)) {
+    for (const qint32 layerID : ChosenLayerIDs()) {
         if (const auto found = m_map.layers.find(layerID); found != m_map.layers.end())
             layers.push_back(&found->second);
     }
@@ -36,7 +61,8 @@ void Dialog::Load()
 // What the user has changed stays.
 void Dialog::Read()
 {
-    const auto layers = LayersOf(*panel.node);
+    const auto layers = ChosenLayers();
+    panel.layers = qsizetype(layers.size());
     panel.record = CommonValues(layers);
     const Values shown = AsShown(panel.record);
     for (int property = 0; property < PropertyCount; ++property) {
@@ -46,6 +72,10 @@ void Dialog::Read()
     const int mode = ReadMode();
     panel.mode = panel.mode == panel.loadedMode ? mode : panel.mode;
     panel.loadedMode = mode;
+    if (!more.empty()) {
+        panel.code = CommonCode(layers);
+        return;
+    }
     if (panel.node->isGroup)
         return;
     panel.canEditCode = layers.empty() || !layers.front()->isSystem;
@@ -60,14 +90,14 @@ void Dialog::Read()
 int Dialog::ReadMode()
 {
     std::set<int> modes;
-    for (const qint32 layerID : LayerIDsOf(*panel.node)) {
+    for (const qint32 layerID : ChosenLayerIDs()) {
         if (!m_map.layers.count(layerID))
             continue;
         modes.insert(EntryOf(layerID).mode);
         for (List& list : lists)
             list.SetMode(layerID, EntryOf(layerID).mode);
     }
-    if (modes.empty() && !panel.node->isGroup)
+    if (modes.empty() && !panel.node->isGroup && more.empty())
         return lists[shownList].ModeOf(*panel.node);
     return modes.size() == 1 ? *modes.begin() : 0;
 }

@@ -21,6 +21,8 @@ struct Deed {
 std::vector<Deed> EditingDeeds();
 /// The user's operations on the lists, the tabs and the layers.
 std::vector<Deed> ListDeeds();
+/// The user shows and hides layers at once, and finds nodes.
+std::vector<Deed> ShowingDeeds();
 /// The user's operations on the schemes.
 std::vector<Deed> SchemeDeeds();
 /// The host's calls to the dialog.

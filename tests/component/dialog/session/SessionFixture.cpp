@@ -234,6 +234,14 @@ std::optional<Node> SessionFixture::SelectedNode(ListNumber number)
     return selected.isEmpty() ? std::nullopt : std::optional(NodeAt(selected.first()));
 }
 
+QString SessionFixture::NewName()
+{
+    QString letters;
+    for (int rest = ++m_names; rest > 0; rest /= 5)
+        letters += QLatin1Char("bcdfg"[rest % 5]);
+    return QStringLiteral("Name ") + letters;
+}
+
 void SessionFixture::StartAgain(bool hasFailed)
 {
     client.Plan(NoFailure);
@@ -278,9 +286,7 @@ void SessionFixture::Check()
 void SessionFixture::CheckLists()
 {
     for (const ListNumber number : {Groups, Layers}) {
-        const auto shown = InOrder(BranchesOf(Tree(number), number));
-        const auto expected = InOrder(dialog.lists[number].branches);
-        EXPECT_EQ(LinesOf(shown), LinesOf(expected)) << "list " << number;
+        CheckNodes(number, dialog.lists[number].branches);
         EXPECT_TRUE(SelectedNode(number) == dialog.lists[number].current) << "list " << number;
     }
     const QTreeView& groups = Tree(Groups);
@@ -291,6 +297,12 @@ void SessionFixture::CheckLists()
             EXPECT_EQ(groups.isExpanded(index), group->second.isExpanded) << group->first;
         }
     }
+}
+
+void SessionFixture::CheckNodes(ListNumber number, const std::vector<Branch>& expected)
+{
+    const auto shown = InOrder(BranchesOf(Tree(number), number));
+    EXPECT_EQ(LinesOf(shown), LinesOf(InOrder(expected))) << "list " << number;
 }
 
 void SessionFixture::CheckPanel()

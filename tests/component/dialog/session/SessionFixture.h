@@ -6,6 +6,8 @@
 #include "hosts/FailingClient.h"
 #include "support/Dice.h"
 
+#include <QHash>
+
 namespace Orvane::Testing {
 
 /// Closes every message box that opens during its lifetime, a question with the given answer, and keeps the
@@ -22,6 +24,20 @@ public:
 
 private:
     QStringList m_boxes;
+};
+
+/// A host that may fail, and keeps notes.
+class NotingClient : public FailingClient
+{
+public:
+    using FailingClient::FailingClient;
+
+private:
+    bool IMapNotes_KeepsNotes() const override { return true; }
+    QString IMapNotes_Note(const QString& key) override { return m_notes.value(key); }
+    void IMapNotes_SetNote(const QString& key, const QString& text) override { m_notes[key] = text; }
+
+    QHash<QString, QString> m_notes;
 };
 
 /// A layer control over a map of a dozen layers, and models of what both should be.
@@ -49,24 +65,29 @@ public:
     QTreeView& Tree(Paper::ListNumber number);
     std::optional<Paper::Node> SelectedNode(Paper::ListNumber number);
     static Paper::Node NodeAt(const QModelIndex& index);
+    /// The list that the user sees; not in the Schemes tab.
+    Paper::ListNumber ShownList() const { return dialog.tab == 1 ? Paper::Groups : Paper::Layers; }
 
     /// Compares the database, the lists, the settings and the message boxes with the model.
     void Check();
     /// The settings alone.
     void CheckPanel();
+    /// The nodes of a list, group by group, in any order.
+    void CheckNodes(Paper::ListNumber number, const std::vector<Paper::Branch>& expected);
     /// Call after a planned failure: plans no more, and if it interrupted an operation, sets the model to
     /// what is stored and listed now.
     void StartAgain(bool hasFailed);
 
     /// An ID that no layer and no group has had.
     qint32 NewID() { return ++m_lastID; }
-    QString NewName() { return QStringLiteral("Name %1").arg(++m_names); }
+    /// One that no other has, with a word of the letters b, c, d, f and g.
+    QString NewName();
 
     Dice dice;
     Paper::Map map;
     Paper::Dialog dialog;
     AnsweringUser user;
-    FailingClient client;
+    NotingClient client;
 
 private:
     void FillMap();
