@@ -106,9 +106,16 @@ def move_to(node, across=0.5, down=0.5):
     xdotool("mousemove", "--sync", int(box.x + box.width * across), int(box.y + box.height * down))
 
 
-def click(node, across=0.5, down=0.5, times=1):
+def click(node, across=0.5, down=0.5, times=1, button=1):
     move_to(node, across, down)
-    xdotool("click", "--repeat", times, "--delay", 60, 1)
+    xdotool("click", "--repeat", times, "--delay", 60, button)
+
+
+def click_with(key, node, across=0.5):
+    """Clicks while the key is held down."""
+    xdotool("keydown", key)
+    click(node, across)
+    xdotool("keyup", key)
 
 
 def press(*keys):

@@ -10,8 +10,10 @@ import pathlib
 import subprocess
 import sys
 
-from desktop import Program, click, extents, picture, pixels, press, type_text, walk, wait_for
+from desktop import Program, click, click_with, extents, picture, pixels, press, showing, type_text, walk, wait_for
 
+SHOW_LINE_AND_FILL = 4  # of the entries that are possible for one layer
+SHOW_ONLY_THESE = 5  # for several
 FRAME = 26  # pixels that a window manager adds above a window; a few on the other sides
 
 
@@ -33,6 +35,17 @@ class Guide:
     def part(self, name, window):
         box = extents(window)
         geometry = f"{box.width + 8}x{box.height + FRAME + 4}+{max(box.x - 4, 0)}+{max(box.y - FRAME, 0)}"
+        subprocess.run(
+            ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
+        )
+
+    def around(self, name, *nodes):
+        """A picture of what these take of the screen."""
+        boxes = [extents(node) for node in nodes]
+        left, top = min(box.x for box in boxes), min(box.y for box in boxes)
+        width = max(box.x + box.width for box in boxes) - left
+        height = max(box.y + box.height for box in boxes) - top
+        geometry = f"{width}x{height}+{left}+{top}"
         subprocess.run(
             ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
         )
@@ -82,25 +95,87 @@ class Guide:
         self.answer_file_dialog("Save Map As", self.town / "town.orvane")
         self.main = self.active_window("town - Orvane")
 
-    def open_layer_control(self):
-        press("F4")
-        self.dialog = self.active_window("Layer Control")
+    def look_at_layer_control(self):
+        self.dialog = self.program.find("Layer Control", "frame", within=self.main)
+        click(self.control("Layers", "page tab"))
+        self.select("lake")
         self.screen("layer-control")
 
     def control(self, name, role=None):
         return self.program.find(name, role, within=self.dialog)
 
-    def select(self, layer):
+    def row(self, layer):
         tree = self.control("Layers", "tree")
         rows = [tree.get_child_at_index(i) for i in range(min(tree.get_child_count(), 60))]
-        row = next(row for row in rows if row is not None and row.get_name() == layer)
-        click(row, across=0.3)
+        return next(row for row in rows if row is not None and row.get_name() == layer)
 
-    def open_list(self, mnemonic, row):
-        """Opens the list with that mnemonic and goes to the row."""
-        press(mnemonic)
-        press("alt+Down")
-        press("Home", *["Down"] * row)
+    def select(self, layer):
+        click(self.row(layer), across=0.3)
+
+    def go_to(self, label):
+        """Gives the keys to the list after the label."""
+        caption = self.control(label, "label")
+        below = caption.get_parent().get_child_at_index(caption.get_index_in_parent() + 1)
+        click(below, across=0.3)
+        press("Escape")
+
+    def open_list(self, row):
+        """Opens the list that has the keys, and goes to the row."""
+        press("alt+Down", "Home", *["Down"] * row)
+
+    def find(self):
+        press("ctrl+f")
+        type_text("st")
+        self.program.find("3 of 9", within=self.dialog)
+        self.around("find", self.dialog)
+        press("Escape", "Escape")
+
+    def open_menu(self, row):
+        self.after_change(lambda: click(row, across=0.3, button=3))
+
+    def after_change(self, act):
+        """Waits until that has changed what the layer control shows."""
+        box = extents(self.dialog)
+        before = pixels(box)
+        act()
+        wait_for("a change", lambda: pixels(box) != before)
+        self.settle()
+
+    def choose(self, row, entry):
+        """Chooses the entry of that number in the menu of the row."""
+        self.open_menu(row)
+        press(*["Down"] * entry, "Return")
+
+    def choose_several(self):
+        self.select("main roads")
+        click_with("ctrl", self.row("streets"), across=0.3)
+        self.around("several", self.dialog)
+
+    def show_only_these(self):
+        self.open_menu(self.row("streets"))
+        self.around("node-menu", self.dialog)
+        press("Escape")
+        self.choose(self.row("streets"), SHOW_ONLY_THESE)
+        again = self.control("Show All Again")
+        self.screen("only-these")
+        click(again)
+        self.settle()
+
+    def show_samples(self):
+        self.select("lake")
+        self.choose(self.row("lake"), SHOW_LINE_AND_FILL)
+        self.settle()
+        self.around("samples", self.dialog)
+        self.choose(self.row("lake"), SHOW_LINE_AND_FILL)
+
+    def type_a_scale(self):
+        self.select("houses")
+        self.go_to("Fill colour:")
+        press("Tab", "Tab", "Tab")  # past background and fill style
+        self.after_change(lambda: press("space"))
+        self.after_change(lambda: type_text("50000"))
+        self.around("slider", self.dialog)
+        press("Escape")
 
     def apply(self):
         click(self.control("Apply", "push button"))
@@ -109,9 +184,11 @@ class Guide:
     def style_a_layer(self):
         click(self.control("Layers", "page tab"))
         self.select("lake")
-        self.open_list("alt+f", 7)
+        self.go_to("Fill colour:")
+        self.open_list(7)
         press("Return")
-        self.open_list("alt+i", 16)
+        press("Tab", "Tab")  # past the background
+        self.open_list(16)
         self.screen("fill-styles")
         press("Return")
         self.apply()
@@ -151,9 +228,21 @@ class Guide:
             click(self.control("Visible", "check box"), across=0.1)
             self.apply()
 
+    def manage_schemes(self):
+        click(self.control("Manage Schemes...", "push button"))
+        window = self.active_window("Manage Schemes")
+        click(self.program.find("Standard", within=self.program.find("Layer schemes", within=window)))
+        self.part("manage", window)
+        click(self.program.find("Compare", "page tab", within=window))
+        self.program.find("Differences", within=window)
+        self.part("compare", window)
+        press("Escape")
+        self.active_window("town - Orvane")
+
     def export(self):
-        press("alt+F4")
-        wait_for("a closed layer control", lambda: not self.program.has_window("Layer Control"))
+        click(self.control("Layers", "page tab"))
+        press("F4")
+        wait_for("a closed layer control", lambda: not showing(self.dialog))
         press("ctrl+e")
         dialog = self.active_window("Export Map")
         self.part("export", dialog)
@@ -190,13 +279,19 @@ def main():
     try:
         guide.open_data()
         guide.store_map()
-        guide.open_layer_control()
+        guide.look_at_layer_control()
+        guide.find()
         guide.style_a_layer()
         guide.paste_settings()
+        guide.choose_several()
+        guide.show_only_these()
+        guide.show_samples()
+        guide.type_a_scale()
         guide.save_scheme()
         guide.hide_layers("fields", "bus stops")
         guide.make_scheme("Quiet")
         guide.screen("schemes")
+        guide.manage_schemes()
         guide.export()
         guide.preview()
         guide.quit()

@@ -8,7 +8,7 @@ import pathlib
 import shutil
 import sys
 
-from desktop import Atspi, Program, click, extents, has_state, picture, pixels, press, type_text, wait_for
+from desktop import Atspi, Program, click, extents, has_state, picture, pixels, press, showing, type_text, wait_for
 
 VIEW_STATE = "9000:7000:LAYERS:EXPANDED"
 
@@ -56,7 +56,7 @@ class Tour:
 
     def open(self):
         self.main = self.program.window("Orvane")
-        self.dialog = self.program.window("Layer Control")
+        self.dialog = self.program.find("Layer Control", "frame", within=self.main)
         self.canvas = self.program.find("Map", within=self.main)
         self.when_still()
         self.picture("map-and-layer-control")
@@ -101,7 +101,12 @@ class Tour:
     def change_it_back_by_keys(self):
         before = self.when_still()
         apply = self.control("Apply", "push button")
-        press("alt+v")
+        visible = self.control("Visible", "check box")
+        for _ in range(20):
+            if has_state(visible, Atspi.StateType.FOCUSED):
+                break
+            press("Tab")
+        press("space")
         wait_for("an enabled button", lambda: has_state(apply, Atspi.StateType.SENSITIVE))
         press("alt+a")
         wait_for("another map", lambda: pixels(extents(self.canvas)) != before)
@@ -125,8 +130,8 @@ class Tour:
     def close_the_layer_control(self):
         click(self.control("Layers", "page tab"))
         self.picture("the-layers-again")
-        press("alt+F4")
-        wait_for("a closed layer control", lambda: not self.program.has_window("Layer Control"))
+        press("F4")
+        wait_for("a closed layer control", lambda: not showing(self.dialog))
         self.picture("the-layer-control-is-closed")
 
     def quit(self):

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QSettings>
+#include <QTimer>
 #include <QToolBar>
 
 namespace Orvane {
@@ -31,8 +32,7 @@ DockChoice::DockChoice(QAction& command, QMainWindow& window)
     m_command.setChecked(QSettings().value(QLatin1String(DockedKey), true).toBool());
     connect(&m_command, &QAction::toggled, this, &DockChoice::OnToggled);
     connect(m_dock, &EditorDock::EditorWanted, this, &DockChoice::EditorWanted);
-    // When the window has arranged it: before that, it takes no size.
-    connect(m_dock, &QDockWidget::visibilityChanged, this, &DockChoice::GiveWidth, Qt::QueuedConnection);
+    connect(m_dock, &QDockWidget::visibilityChanged, this, &DockChoice::OnVisible);
 }
 
 DockChoice::~DockChoice() = default;
@@ -57,7 +57,7 @@ void DockChoice::AddSwitchTo(QMenu& menu, QToolBar& bar, QAction& opener)
 void DockChoice::NoteRestored()
 {
     const bool isFirstRun = !QSettings().contains(QLatin1String(DockedKey));
-    m_hasWidth = !m_dock->isHidden();
+    m_hasSize = !m_dock->isHidden();
     m_wasOpen = IsChosen() && (isFirstRun || !m_dock->isHidden());
     m_dock->hide();
 }
@@ -108,15 +108,34 @@ void DockChoice::ShowSwitch()
         m_bar->addAction(m_opener);
 }
 
-void DockChoice::GiveWidth()
+void DockChoice::OnVisible(bool visible)
 {
-    if (m_hasWidth || !m_dock->isVisible() || m_dock->isFloating())
+    if (visible)
+        QTimer::singleShot(0, this, &DockChoice::GiveSize); // before that, the window takes none
+    else if (!m_dock->isFloating())
+        m_before = {m_dock->size(), m_window.dockWidgetArea(m_dock)};
+}
+
+// The window itself forgets the size if the dock is opened again at once.
+void DockChoice::GiveSize()
+{
+    if (!m_dock->isVisible() || m_dock->isFloating())
         return;
-    m_hasWidth = true;
-    const int besideEachOther = m_dock->sizeHint().width();
-    const bool hasRoom = besideEachOther <= m_window.width() * MostOfWindow / 100;
-    const int width = hasRoom ? besideEachOther : m_dock->minimumSizeHint().width();
-    m_window.resizeDocks({m_dock}, {width}, Qt::Horizontal);
+    const Qt::DockWidgetArea area = m_window.dockWidgetArea(m_dock);
+    if (m_before.area == area && (area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea))
+        m_window.resizeDocks({m_dock}, {m_before.size.width()}, Qt::Horizontal);
+    else if (m_before.area == area)
+        m_window.resizeDocks({m_dock}, {m_before.size.height()}, Qt::Vertical);
+    else if (!m_hasSize)
+        m_window.resizeDocks({m_dock}, {FirstWidth()}, Qt::Horizontal);
+    m_hasSize = true;
+}
+
+int DockChoice::FirstWidth() const
+{
+    const int sideBySide = m_dock->sizeHint().width();
+    const bool hasRoom = sideBySide <= m_window.width() * MostOfWindow / 100;
+    return hasRoom ? sideBySide : m_dock->minimumSizeHint().width();
 }
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSize>
 
 class QAction;
 class QMainWindow;
@@ -52,7 +53,9 @@ private:
     void OnToggled();
     void Apply();
     void ShowSwitch();
-    void GiveWidth();
+    void OnVisible(bool visible);
+    void GiveSize();
+    int FirstWidth() const;
 
     QAction& m_command;
     QMainWindow& m_window;
@@ -61,7 +64,11 @@ private:
     QPointer<QAction> m_opener;
     QPointer<MapSession> m_session;
     bool m_wasOpen = false;
-    bool m_hasWidth = false;
+    bool m_hasSize = false;
+    struct {
+        QSize size;
+        Qt::DockWidgetArea area = Qt::NoDockWidgetArea;
+    } m_before; // when it was last hidden
 };
 
 } // namespace Orvane

@@ -231,6 +231,18 @@ TEST_F(Docked, ItHasTheSameSizeWhenItIsOpenedAgain)
     EXPECT_EQ(Dock().width(), width) << "also in the next run, which does not open it";
 }
 
+TEST_F(Docked, ItHasTheSameSizeWhenItWasClosedForAMoment)
+{
+    OpenLayerControl();
+    QCoreApplication::processEvents();
+    const int width = Dock().width() + 57;
+    m_window->resizeDocks({&Dock()}, {width}, Qt::Horizontal);
+    QCoreApplication::processEvents();
+    m_window->OpenMap(MapPath());
+    OpenLayerControl();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Dock().width() == width; })) << Dock().width();
+}
+
 TEST_F(Docked, TheNextRunHasItFloatingIfItWas)
 {
     OpenLayerControl();
