@@ -62,6 +62,7 @@ QString WhyNotHere(Setting setting)
 PasteRows RowsFor(const PropertyPanel& panel, const PanelSettings& settings, const CopiedSettings& copied)
 {
     PasteRows rows;
+    rows.reserve(AllSettings.size());
     for (const SettingEntry& entry : AllSettings) {
         const Setting setting = entry.setting;
         if (settings.Has(setting))
@@ -213,7 +214,7 @@ std::optional<SettingSet> SettingsPasting::Ask(size_t layers, const std::vector<
     const bool isConfirmed = window->Ask();
     if (!window)
         return std::nullopt;
-    const SettingSet ticked = window->Ticked();
+    SettingSet ticked = window->Ticked();
     window->deleteLater();
     if (!isConfirmed)
         return std::nullopt;
