@@ -52,7 +52,9 @@ QString SchemesModel::LongText(int column)
 {
     if (column == Saved)
         return TimeText(QDateTime(QDate(2000, 12, 28), QTime(22, 58)));
-    return SchemeValueTexts::Parts(SchemePart::Appearance | SchemePart::Scales);
+    const QString whole = SchemeValueTexts::Parts(WholeScheme);
+    const QString two = SchemeValueTexts::Parts(SchemePart::Appearance | SchemePart::Scales);
+    return whole.size() > two.size() ? whole : two;
 }
 
 QStringList SchemesModel::Names() const

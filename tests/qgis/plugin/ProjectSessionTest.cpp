@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/lists/StoredList.h"
+#include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeExchange.h"
 #include "hosts/EmptyEditorForm.h"
 #include "qgis/plugin/SessionFixture.h"
@@ -262,6 +263,27 @@ TEST_F(ProjectSessionTest, AnotherProjectStartsWithoutStepsAndSchemes)
     const auto layers = StoredList::Layers(session.Store());
     ASSERT_EQ(layers.size(), 1u);
     EXPECT_EQ(layers[0].name, "Wells");
+    EXPECT_EQ(failed.count(), 0);
+}
+
+TEST_F(ProjectSessionTest, TheSchemeForTheOpeningIsAppliedWhenAProjectIsOpened)
+{
+    const QTemporaryDir folder;
+    QSignalSpy done(&session, &ProjectSession::Done);
+    Host().GetSchemeNames(); // makes "Standard"
+    Apply({roads}, "FillForeColor", GreenBgr);
+    LayerSchemes schemes(session.Store());
+    schemes.Create("Green");
+    schemes.SetAtOpening("Green");
+    Host().LoadScheme("Standard");
+    ASSERT_TRUE(project.write(folder.filePath("map.qgs")));
+    ASSERT_TRUE(project.read(folder.filePath("map.qgs")));
+    Settle();
+    EXPECT_EQ(Host().GetCurrentScheme(), "Green");
+    EXPECT_EQ(done.count(), 1);
+    EXPECT_TRUE(project.isDirty());
+    History().Undo();
+    EXPECT_EQ(Host().GetCurrentScheme(), "Standard");
     EXPECT_EQ(failed.count(), 0);
 }
 
