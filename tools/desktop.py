@@ -122,6 +122,16 @@ def press(*keys):
     xdotool("key", *keys)
 
 
+def tab_to(node):
+    """Moves the keys to the control, as a user without a mouse does."""
+    for _ in range(40):
+        if has_state(node, Atspi.StateType.FOCUSED):
+            return
+        press("Tab")
+        time.sleep(0.05)
+    raise RuntimeError(f"the Tab key does not lead to {node.get_name()}")
+
+
 def type_text(text):
     xdotool("type", "--delay", 20, text)
 

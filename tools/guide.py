@@ -10,7 +10,7 @@ import pathlib
 import subprocess
 import sys
 
-from desktop import Program, click, click_with, extents, picture, pixels, press, showing, type_text, walk, wait_for
+from desktop import Program, click, click_with, extents, picture, pixels, press, showing, tab_to, type_text, walk, wait_for
 
 SHOW_LINE_AND_FILL = 4  # of the entries that are possible for one layer
 SHOW_ONLY_THESE = 5  # for several
@@ -39,13 +39,10 @@ class Guide:
             ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
         )
 
-    def around(self, name, *nodes):
-        """A picture of what these take of the screen."""
-        boxes = [extents(node) for node in nodes]
-        left, top = min(box.x for box in boxes), min(box.y for box in boxes)
-        width = max(box.x + box.width for box in boxes) - left
-        height = max(box.y + box.height for box in boxes) - top
-        geometry = f"{width}x{height}+{left}+{top}"
+    def around(self, name, node, below=0):
+        """A picture of what it takes of the screen, and of some pixels below."""
+        box = extents(node)
+        geometry = f"{box.width}x{box.height + below}+{box.x}+{box.y}"
         subprocess.run(
             ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
         )
@@ -174,7 +171,7 @@ class Guide:
         press("Tab", "Tab", "Tab")  # past background and fill style
         self.after_change(lambda: press("space"))
         self.after_change(lambda: type_text("50000"))
-        self.around("slider", self.dialog)
+        self.around("slider", self.dialog, below=50)
         press("Escape")
 
     def apply(self):
@@ -225,7 +222,8 @@ class Guide:
         click(self.control("Layers", "page tab"))
         for layer in layers:
             self.select(layer)
-            click(self.control("Visible", "check box"), across=0.1)
+            tab_to(self.control("Visible", "check box"))
+            press("space")
             self.apply()
 
     def manage_schemes(self):
@@ -255,8 +253,9 @@ class Guide:
         press("ctrl+p")
         self.active_window("Print Map")
         press("Return")
-        self.active_window("Print Preview")
-        self.screen("preview")
+        preview = self.active_window("Print Preview")
+        self.settle()
+        self.part("preview", preview)
         press("Escape")
 
     def quit(self):

@@ -7,8 +7,8 @@ build=$(readlink -f "$1")
 here=$(dirname "$(readlink -f "$0")")
 . "$here/virtual_desktop.sh"
 rm -rf "$2"
-mkdir -p "$2/town" "$3"
-work=$(readlink -f "$2") pictures=$(readlink -f "$3")
+mkdir -p "$2/town" "$2/pictures" "$3"
+work=$(readlink -f "$2") pictures=$(readlink -f "$2/pictures")
 
 # A folder of data like that of a user: one file for each of some layers of the sample town.
 QT_QPA_PLATFORM=offscreen "$build/bin/make_sample_map" "$work/sample.orvane"
@@ -19,4 +19,5 @@ done
 start_desktop "$work" 1440x880
 on_desktop "$work" /usr/bin/python3 "$here/guide.py" "$build/bin/orvane" "$work" "$pictures"
 mogrify -strip +dither -colors 96 -define png:compression-level=9 "$pictures"/*.png
+cp "$pictures"/*.png "$3"
 du -ch "$pictures"/*.png | tail -1

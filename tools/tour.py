@@ -8,7 +8,7 @@ import pathlib
 import shutil
 import sys
 
-from desktop import Atspi, Program, click, extents, has_state, picture, pixels, press, showing, type_text, wait_for
+from desktop import Atspi, Program, click, extents, has_state, picture, pixels, press, showing, tab_to, wait_for
 
 VIEW_STATE = "9000:7000:LAYERS:EXPANDED"
 
@@ -101,11 +101,7 @@ class Tour:
     def change_it_back_by_keys(self):
         before = self.when_still()
         apply = self.control("Apply", "push button")
-        visible = self.control("Visible", "check box")
-        for _ in range(20):
-            if has_state(visible, Atspi.StateType.FOCUSED):
-                break
-            press("Tab")
+        tab_to(self.control("Visible", "check box"))
         press("space")
         wait_for("an enabled button", lambda: has_state(apply, Atspi.StateType.SENSITIVE))
         press("alt+a")

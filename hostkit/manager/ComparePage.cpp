@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -156,7 +157,8 @@ void ComparePage::MakeTable()
     m_table->setMinimumWidth(width);
     QHeaderView& header = *m_table->horizontalHeader();
     header.setHighlightSections(false);
-    header.setDefaultSectionSize(width / DifferencesModel::ColumnCount);
+    const int room = width - style()->pixelMetric(QStyle::PM_ScrollBarExtent) - 2 * m_table->frameWidth();
+    header.setDefaultSectionSize(room / DifferencesModel::ColumnCount);
     header.setStretchLastSection(true);
 }
 

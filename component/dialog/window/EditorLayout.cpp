@@ -134,6 +134,8 @@ void EditorLayout::ShowTab(ListTab tab)
     m_ui.stkLists->setCurrentIndex(int(tab) - 1);
     m_ui.picLayerControls->setVisible(tab == ListTab::Layers);
     const bool editsLayers = tab != ListTab::Schemes;
+    m_editsLayers = editsLayers;
+    ShareHeight();
     m_ui.cboStyle->setVisible(editsLayers);
     m_ui.lblStyle->setVisible(editsLayers);
     m_ui.framPriority->setEnabled(editsLayers);
@@ -185,11 +187,20 @@ bool EditorLayout::IsTooNarrow() const
 void EditorLayout::FitSettings()
 {
     SetSettingsMargin(m_isBelow);
-    m_ui.layBody->setStretchFactor(m_ui.picLists, m_isBelow ? 1 : 0);
-    m_ui.layBody->setStretchFactor(m_ui.picLayerStyle, m_isBelow ? 1 : 0);
+    ShareHeight();
     m_ui.picLayerStyle->setMaximumWidth(m_isBelow ? QWIDGETSIZE_MAX : SettingsWidth());
     m_ui.picLayerStyle->setSizePolicy(
         m_isBelow ? QSizePolicy::Preferred : QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+// The schemes need more height than a list, but only on their tab, where no layer is edited.
+void EditorLayout::ShareHeight()
+{
+    const int lists = m_editsLayers ? 1 : 3;
+    m_ui.layBody->setStretchFactor(m_ui.picLists, m_isBelow ? lists : 0);
+    m_ui.layBody->setStretchFactor(m_ui.picLayerStyle, m_isBelow ? 1 : 0);
+    m_ui.picScheme->setSizePolicy(
+        QSizePolicy::Preferred, m_isBelow ? QSizePolicy::Ignored : QSizePolicy::Preferred);
 }
 
 // The margin is towards the list.

@@ -60,6 +60,7 @@ private:
     int SpaceAround() const;
     bool IsTooNarrow() const;
     void FitSettings();
+    void ShareHeight();
     void SetSettingsMargin(bool isBelow);
 
     QDialog& m_form;
@@ -68,6 +69,7 @@ private:
     int m_gap; ///< pixels between list and settings
     bool m_expanded = true;
     bool m_isBelow = false; ///< the settings are below the list
+    bool m_editsLayers = true; ///< the tab is not that of the schemes
     Cover m_cover = Cover::None;
     int m_widthBefore = 0; ///< pixels, before the last SetExpanded
     int m_widthAfter = -1; ///< pixels, after it

@@ -195,6 +195,7 @@ TEST_F(Docked, ATabIsClosedByClosingTheForm)
 {
     QTabWidget tabs;
     tabs.addTab(new QWidget, "Map");
+    tabs.resize(800, 600);
     tabs.show();
     host.OnShowEditor = [&](QWidget* form) { tabs.setCurrentIndex(tabs.addTab(form, form->windowTitle())); };
     OpenWithEdits();
@@ -210,6 +211,7 @@ TEST_F(Docked, AnEditorBehindAnotherTabIsOpenAndCanBeClosed)
 {
     QTabWidget tabs;
     tabs.addTab(new QWidget, "Map");
+    tabs.resize(800, 600);
     tabs.show();
     host.OnShowEditor = [&](QWidget* form) {
         if (tabs.indexOf(form) < 0)
