@@ -201,6 +201,7 @@ void EditorLayout::ShareHeight()
     m_ui.layBody->setStretchFactor(m_ui.picLayerStyle, m_isBelow ? 1 : 0);
     m_ui.picScheme->setSizePolicy(
         QSizePolicy::Preferred, m_isBelow ? QSizePolicy::Ignored : QSizePolicy::Preferred);
+    m_ui.stkLists->updateGeometry(); // a hidden page does not notify it
 }
 
 // The margin is towards the list.
