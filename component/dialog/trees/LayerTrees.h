@@ -161,7 +161,8 @@ signals:
     void NodesChanged();
     /// The user pressed Delete in a tree.
     void DeleteRequested();
-    /// The menu of the nodes in the list shown is about to open: receivers add their entries.
+    /// The menu of the nodes in the list shown is about to open: receivers add their entries. It opens only
+    /// after the question, and not at all if the old nodes stay chosen.
     void MenuOpening(QMenu* menu);
 
 private:
@@ -171,7 +172,8 @@ private:
     void WireSamples(LayerTreeList& list, LayerTreeGestures& gestures);
 
     void OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes);
-    void MoveByUser(LayerTreeList& list, const NodeSelection& nodes);
+    void LeaveByUser(LayerTreeList& list, const NodeSelection& nodes);
+    bool MoveByUser(LayerTreeList& list, const NodeSelection& nodes);
     bool MoveTo(LayerTreeList& list, const NodeSelection& nodes);
     bool AskAboutChanges();
     bool IsListedAsBefore(qint32 layerID, const std::optional<ListedLayer>& layer) const;
@@ -193,6 +195,8 @@ private:
     List m_shown = List::Layers;
     std::function<void()> m_question;
     std::function<bool()> m_isPending;
+    std::function<void()> m_openMenu; ///< after the question; nullptr: no menu was asked for
+    bool m_isLeaving = false; ///< the question will be asked after the event, or is being asked
     const IStyleFilter* m_filter = nullptr;
 };
 
