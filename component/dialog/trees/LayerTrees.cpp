@@ -249,6 +249,7 @@ void LayerTrees::LeaveByUser(LayerTreeList& list, const NodeSelection& nodes)
     if (!hasMoved)
         return;
     GuardEvent(&list.View(), [&] {
+        DropUnfound(list);
         if (openMenu && self)
             openMenu();
     });
