@@ -3,11 +3,11 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/Messages.h"
 #include "component/dialog/panel/RendererStyleEditor.h"
 #include "component/dialog/window/EditorParts.h"
 #include "component/dialog/window/Enclosure.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
 #include "component/model/LayerCursors.h"
 #include "ui_frmLayerStyles.h"

@@ -2,8 +2,8 @@
 // The calls that the host makes to the dialog.
 #include "component/common/Component.h"
 #include "component/common/ErrorTexts.h"
+#include "component/common/FirstError.h"
 #include "component/dialog/window/EditorParts.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/model/LayerCode.h"

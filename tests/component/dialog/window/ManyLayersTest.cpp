@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
+#include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IManyLayers.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QTreeView>
 #include <QtTest>
@@ -220,6 +222,41 @@ TEST_F(ManyLayers, OfGroupsAndLayersCountOnce)
     Click("cmdApply");
     EXPECT_EQ(Calls("Update"), 2);
     EXPECT_EQ(Calls("RedrawMap"), 1);
+}
+
+class FailingOneByOne : public FailingClient
+{
+public:
+    using FailingClient::FailingClient;
+
+private:
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override
+    {
+        for (const qint32 layerID : layerIDs)
+            IStyleEditorClient_DeleteLayer(layerID);
+    }
+};
+
+class ManyLayersOfAFailingHost : public ManyLayers
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        ManyLayers::SetUp();
+    }
+
+    FailingOneByOne client{host, {"DeleteLayer", 2, RunTimeError(ErrorNumber::DatabaseLocked, "locked")}};
+};
+
+TEST_F(ManyLayersOfAFailingHost, LeaveTheListIfTheyWereDeletedBeforeTheError)
+{
+    ChooseThree();
+    MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdDeleteLayer");
+    EXPECT_EQ(user.Only().text, "locked");
+    EXPECT_EQ(Find<QTreeView>("tvLayers2").model()->rowCount(), 3);
+    EXPECT_EQ(Selected(), 2);
 }
 
 class ManyLayersAtOnce : public ManyLayers
