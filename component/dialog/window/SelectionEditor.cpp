@@ -206,6 +206,20 @@ bool SelectionEditor::HoldsChosenNodes() const
     return node && m_shown.target.node && IsSameNode(*node, *m_shown.target.node) && !chosen.IsMany();
 }
 
+std::vector<qint32> SelectionEditor::LayerIDs() const
+{
+    std::vector<qint32> layerIDs;
+    layerIDs.reserve(m_origin.seen.size());
+    for (const SeenLayer& layer : m_origin.seen)
+        layerIDs.push_back(layer.layerID);
+    return layerIDs;
+}
+
+bool SelectionEditor::HasExistingLayer() const
+{
+    return AnyLayerExists(Client(), LayerIDs());
+}
+
 QString SelectionEditor::NameOfShown() const
 {
     return IsMany() ? NameOfLayers(Layers()) : m_parts.trees.CurrentText();

@@ -69,6 +69,8 @@ public:
     void FollowLayers(const QSet<qint32>& layerIDs);
     /// As Follow, after the quick modes of layers were changed at once: the mode shown is the stored one.
     void FollowModes();
+    /// True if one of the layers that are shown still exists, or of the group that is shown.
+    bool HasExistingLayer() const;
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
     /// the code, which stay in sight, are those that were read.
     void CoverUp();
@@ -130,6 +132,7 @@ private:
     /// Edits are applied to the nodes that they were made for, or to what is left of them, or not at all.
     bool HoldsChosenNodes() const;
     bool IsMany() const { return m_shown.target.nodes.IsMany(); }
+    std::vector<qint32> LayerIDs() const;
     qsizetype Layers() const { return qsizetype(m_origin.seen.size()); }
     QString NameOfShown() const;
     void Keep(const Selection& selection);

@@ -9,7 +9,6 @@
 #include "component/dialog/window/EditorParts.h"
 #include "component/dialog/window/Enclosure.h"
 #include "component/dialog/window/SelectionEditor.h"
-#include "component/model/LayerCursors.h"
 #include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -257,14 +256,24 @@ void frmLayerStyles::LoadNodes()
         m_parts->showing.ReadShown();
 }
 
-void frmLayerStyles::OnDeleteAsked(const std::vector<qint32>& layerIDs)
+// The edits stay as long as there is a layer for them.
+void frmLayerStyles::OnDeleteAsked()
 {
-    if (!AnyLayerExists(Client(), layerIDs))
+    if (m_selection->IsModified() && !m_selection->HasExistingLayer())
         m_selection->SetModified(false);
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
-    if (!m_selection->IsModified())
-        ShowTab(m_tab);
+    FirstError errors;
+    ReadAgain(errors);
+    errors.Rethrow();
+}
+
+void frmLayerStyles::ReadAgain(FirstError& errors)
+{
+    const QPointer self(this); // the list may ask about edits; the host may close the dialog
+    errors.Try([this] { LoadList(); });
+    if (self && !m_unloaded && m_tab != ListTab::Schemes)
+        errors.Try([this] { m_selection->Follow(); });
 }
 
 void frmLayerStyles::OnSchemeLoaded()

@@ -139,13 +139,10 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
             return;
         m_parts->trees.MarkStale(LayerTrees::List::Groups);
         m_parts->trees.MarkStale(LayerTrees::List::Layers);
-        const QPointer self(this); // the list may ask about edits; the host may close the dialog
         FirstError errors;
         errors.Try([this] { m_parts->schemes.Fill(); });
         errors.Try([this] { UpdateCaption(); });
-        errors.Try([this] { LoadList(); });
-        if (self && !m_unloaded && m_tab != ListTab::Schemes)
-            errors.Try([this] { m_selection->Follow(); });
+        ReadAgain(errors);
         errors.Rethrow();
     });
 }
