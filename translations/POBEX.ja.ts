@@ -536,6 +536,10 @@
         <translation>新規(&amp;W)...</translation>
     </message>
     <message>
+        <source>No layer is shown.</source>
+        <translation>表示しているレイヤーはありません。</translation>
+    </message>
+    <message>
         <source>&amp;No</source>
         <translation>いいえ(&amp;N)</translation>
     </message>

@@ -273,7 +273,8 @@ void SelectionEditor::Finish(ApplyOutcome outcome)
         return;
     }
     Load();
-    emit Applied();
+    const std::vector<qint32> layerIDs = LayerIDs();
+    emit Applied({layerIDs.begin(), layerIDs.end()});
     if (outcome == ApplyOutcome::UnexpectedMode)
         ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
 }

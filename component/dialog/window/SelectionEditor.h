@@ -67,8 +67,9 @@ public:
     /// As Follow, after these layers have changed and no others: of many layers that are shown, it reads only
     /// these where it can.
     void FollowLayers(const QSet<qint32>& layerIDs);
-    /// As Follow, after the quick modes of layers were changed at once: the mode shown is the stored one.
-    void FollowModes();
+    /// As Follow, after the quick modes of these layers were changed at once: if one of them is shown, the
+    /// mode shown is the stored one.
+    void FollowModes(const QSet<qint32>& layerIDs);
     /// True if one of the layers that are shown still exists, or of the group that is shown.
     bool HasExistingLayer() const;
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
@@ -90,8 +91,8 @@ public:
 signals:
     /// The controls now hold edits, or no longer hold any.
     void ModifiedChanged(bool modified);
-    /// Edits were stored, and what is stored is shown.
-    void Applied();
+    /// Edits of these layers were stored, and what is stored is shown.
+    void Applied(const QSet<qint32>& layerIDs);
     /// Other nodes are shown, or none.
     void Shown(bool isNode);
 

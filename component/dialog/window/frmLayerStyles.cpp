@@ -70,7 +70,7 @@ void frmLayerStyles::Wire()
     // Not guarded: the code that chose the node is guarded, and in a call from the host the host gets the
     // error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
-    connect(m_selection.get(), &SelectionEditor::Applied, &m_parts->showing, &LayerShowing::ReadShown);
+    connect(m_selection.get(), &SelectionEditor::Applied, &m_parts->showing, &LayerShowing::FollowShown);
     connect(&m_parts->trees, &LayerTrees::CurrentNodeClicked, m_selection.get(), &SelectionEditor::Follow);
     connect(&m_parts->trees, &LayerTrees::ChosenNodesGone, m_selection.get(), &SelectionEditor::Follow);
     m_parts->showing.SetPendingEdits([this] { return m_selection->IsModified(); });

@@ -56,6 +56,7 @@ void frmLayerStyles::IStyleEditor_RefreshGroups()
         const bool stayed = before && after && IsSameNode(*before, *after);
         if (stayed && m_tab != ListTab::Schemes) // a node that took its place has been read already
             errors.Try([this] { m_selection->Load(); });
+        errors.Try([this] { m_parts->showing.ReadShown(); });
         errors.Rethrow();
     });
 }
@@ -64,7 +65,10 @@ void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
 {
     WithTranslatedErrors([&] {
         EnsureInitialised();
+        const QPointer self(this); // as in ReadAgain
         m_parts->trees.ShowLayer(layerID);
+        if (self && !m_unloaded)
+            m_parts->showing.ReadShown();
     });
 }
 
@@ -156,9 +160,11 @@ void frmLayerStyles::IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layer
             IStyleEditorForm_Refresh();
             return;
         }
-        m_parts->showing.ReadShown();
+        FirstError errors;
         if (m_tab != ListTab::Schemes)
-            m_selection->FollowLayers(layerIDs);
+            errors.Try([&] { m_selection->FollowLayers(layerIDs); });
+        errors.Try([&] { m_parts->showing.FollowShown(layerIDs); });
+        errors.Rethrow();
     });
 }
 

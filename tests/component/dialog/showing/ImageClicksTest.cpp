@@ -107,6 +107,19 @@ TEST_F(ImageClicksTest, OfAnotherNodeKeepTheEditsAndTheirNode)
     EXPECT_TRUE(CanApply());
 }
 
+TEST_F(ImageClicksTest, OfAnotherNodeKeepAQuickModeThatIsNotApplied)
+{
+    Choose({"Roads"});
+    Click("Backdrop");
+    MessageBoxRobot nobody{};
+    ClickImage("Parcels");
+    EXPECT_EQ(Mode(3), 2);
+    EXPECT_TRUE(CanApply());
+    EXPECT_EQ(PressedModes(), 2);
+    Click("cmdApply");
+    EXPECT_EQ(Mode(1), 1);
+}
+
 TEST_F(ImageClicksTest, CountOnTheWholeImageInALargeFont)
 {
     QFont font = Tree().font();
