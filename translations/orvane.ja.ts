@@ -2216,8 +2216,8 @@ These commands run without a window; each has its own --help:
         <translation>表示</translation>
     </message>
     <message>
-        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
-        <translation>「%1」で編集した値は、その間に別の場所で変更されました。</translation>
+        <source>What you edited was changed elsewhere meanwhile: %1</source>
+        <translation>編集した値は、その間に別の場所で変更されました: %1</translation>
     </message>
     <message>
         <source>Width</source>
