@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>%1 (in %2 layers)</source>
-        <translation>%1 (%2 レイヤー)</translation>
+        <translation>%1 (%2個のレイヤー)</translation>
     </message>
     <message>
         <source>%1 - Orvane</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>... and %1 more values.</source>
-        <translation>... ほか %1 個の値。</translation>
+        <translation>... ほか%1個の値。</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -947,7 +947,7 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     </message>
     <message>
         <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
-        <translation>選択した「変更後」列の値をマップのレイヤーに設定します。</translation>
+        <translation>選択した「変更後」列の値を地図のレイヤーに設定します。</translation>
     </message>
     <message>
         <source>Graduated</source>
@@ -1929,7 +1929,7 @@ These commands run without a window; each has its own --help:
     </message>
     <message>
         <source>The map as it is</source>
-        <translation>現在のマップ</translation>
+        <translation>現在の地図</translation>
     </message>
     <message>
         <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
@@ -1957,7 +1957,7 @@ These commands run without a window; each has its own --help:
     </message>
     <message>
         <source>The map has no features of these layers.</source>
-        <translation>マップにこれらのレイヤーの地物はありません。</translation>
+        <translation>地図にこれらのレイヤーの地物はありません。</translation>
     </message>
     <message>
         <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
