@@ -39,8 +39,9 @@ public:
     IConflictQuestion& operator=(const IConflictQuestion&) = delete;
 
     /// Asks what to do; called once for each apply that finds such values, before anything is stored. The
-    /// host may end the editor while it asks. form: the editor's form; not owned. node: the name of the layer
-    /// or group. edits: at least one.
+    /// host may end the editor while it asks. form: the editor's form; not owned. node: what was edited, as
+    /// the editor names it: the name of the layer or group, or how many layers, such as "12 layers", in the
+    /// user's language. edits: at least one.
     ConflictChoice
     AskAboutConflicts(QWidget* form, const QString& node, const std::vector<ConflictingEdit>& edits)
     {

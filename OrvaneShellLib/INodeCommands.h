@@ -15,8 +15,9 @@ namespace Orvane {
 struct NodeCommand {
     QString id; ///< tells the commands apart; never shown
     QString text; ///< in the user's language
-    const QIcon* icon
-        = nullptr; ///< not owned; needed until Commands has returned its list and is called again
+    /// Not owned; read only while the menu is made, right after Commands. It may be replaced when Commands is
+    /// called again. nullptr: no icon.
+    const QIcon* icon = nullptr;
 };
 
 /// Commands of the host for the layers that the user has chosen in an editor's list, in the list's menu. A

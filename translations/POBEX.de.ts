@@ -556,6 +556,10 @@
         <translation>Ne&amp;u...</translation>
     </message>
     <message>
+        <source>No layer is shown.</source>
+        <translation>Kein Layer eingeblendet.</translation>
+    </message>
+    <message>
         <source>&amp;No</source>
         <translation>&amp;Nein</translation>
     </message>

@@ -556,6 +556,10 @@
         <translation>A&amp;jouter...</translation>
     </message>
     <message>
+        <source>No layer is shown.</source>
+        <translation>Aucune couche affichée.</translation>
+    </message>
+    <message>
         <source>&amp;No</source>
         <translation>&amp;Non</translation>
     </message>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>1 layer</source>
-        <translation>1 レイヤー</translation>
+        <translation>1個のレイヤー</translation>
     </message>
     <message>
         <source>1 pixel</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>^1 layers</source>
-        <translation>^1 レイヤー</translation>
+        <translation>^1個のレイヤー</translation>
     </message>
     <message>
         <source>^1 mm will be stored.</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Do you wish to apply the changes to the ^1 selected layers?</source>
-        <translation>選択した ^1 レイヤーへの変更を適用しますか?</translation>
+        <translation>選択した^1個のレイヤーへの変更を適用しますか?</translation>
     </message>
     <message>
         <source>Do you wish to apply the changes to the selected layer?</source>
@@ -556,6 +556,10 @@
         <translation>新規(&amp;W)...</translation>
     </message>
     <message>
+        <source>No layer is shown.</source>
+        <translation>表示しているレイヤーはありません。</translation>
+    </message>
+    <message>
         <source>&amp;No</source>
         <translation>いいえ(&amp;N)</translation>
     </message>
@@ -597,11 +601,11 @@
     </message>
     <message>
         <source>Only 1 of ^1 layers is shown.</source>
-        <translation>^1 レイヤー中 1 レイヤーだけを表示しています。</translation>
+        <translation>^1個のレイヤーのうち1個だけを表示しています。</translation>
     </message>
     <message>
         <source>Only ^1 of ^2 layers are shown.</source>
-        <translation>^2 レイヤー中 ^1 レイヤーだけを表示しています。</translation>
+        <translation>^2個のレイヤーのうち^1個だけを表示しています。</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -649,7 +653,7 @@
     </message>
     <message>
         <source>Rename, copy, delete, compare, export and import the schemes of this map.</source>
-        <translation>このマップのスキームの名前を変更し、複製、削除、比較、エクスポート、インポートします。</translation>
+        <translation>この地図のスキームの名前を変更し、複製、削除、比較、エクスポート、インポートします。</translation>
     </message>
     <message>
         <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>
@@ -929,7 +933,7 @@
     </message>
     <message>
         <source>This map cannot keep which layers were hidden.</source>
-        <translation>このマップには、非表示にしたレイヤーを記録できません。</translation>
+        <translation>この地図には、非表示にしたレイヤーを記録できません。</translation>
     </message>
     <message>
         <source>This map has no display modes.</source>

@@ -2328,8 +2328,8 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Was hinzukommt, erhält die jetzigen Werte der Layer; was wegfällt, geht verloren.</translation>
     </message>
     <message>
-        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
-        <translation>Was Sie in „%1“ bearbeitet haben, wurde inzwischen anderswo geändert.</translation>
+        <source>What you edited was changed elsewhere meanwhile: %1</source>
+        <translation>Was Sie bearbeitet haben, wurde inzwischen anderswo geändert: %1</translation>
     </message>
     <message>
         <source>Width</source>

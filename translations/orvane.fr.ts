@@ -2328,8 +2328,8 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Ce qui est ajouté reçoit les valeurs présentes des couches ; ce qui est retiré est perdu.</translation>
     </message>
     <message>
-        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
-        <translation>Ce que vous avez modifié dans « %1 » a été changé ailleurs entre-temps.</translation>
+        <source>What you edited was changed elsewhere meanwhile: %1</source>
+        <translation>Ce que vous avez modifié a été changé ailleurs entre-temps : %1</translation>
     </message>
     <message>
         <source>Width</source>

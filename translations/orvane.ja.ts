@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>%1 (in %2 layers)</source>
-        <translation>%1 (%2 レイヤー)</translation>
+        <translation>%1 (%2個のレイヤー)</translation>
     </message>
     <message>
         <source>%1 - Orvane</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>... and %1 more values.</source>
-        <translation>... ほか %1 個の値。</translation>
+        <translation>... ほか%1個の値。</translation>
     </message>
     <message>
         <source>... and %1 more.</source>
@@ -1047,7 +1047,7 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     </message>
     <message>
         <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
-        <translation>選択した「変更後」列の値をマップのレイヤーに設定します。</translation>
+        <translation>選択した「変更後」列の値を地図のレイヤーに設定します。</translation>
     </message>
     <message>
         <source>Graduated</source>
@@ -2029,7 +2029,7 @@ These commands run without a window; each has its own --help:
     </message>
     <message>
         <source>The map as it is</source>
-        <translation>現在のマップ</translation>
+        <translation>現在の地図</translation>
     </message>
     <message>
         <source>The map file &quot;%1&quot; was moved or deleted. What you change is kept only when you save the map under another name.</source>
@@ -2057,7 +2057,7 @@ These commands run without a window; each has its own --help:
     </message>
     <message>
         <source>The map has no features of these layers.</source>
-        <translation>マップにこれらのレイヤーの地物はありません。</translation>
+        <translation>地図にこれらのレイヤーの地物はありません。</translation>
     </message>
     <message>
         <source>The map theme &quot;%1&quot; already exists. Replace it with the scheme?</source>
@@ -2328,8 +2328,8 @@ These commands run without a window; each has its own --help:
         <translation>追加した項目にはレイヤーの今の値が入り、外した項目の値は失われます。</translation>
     </message>
     <message>
-        <source>What you edited in &quot;%1&quot; was changed elsewhere meanwhile.</source>
-        <translation>「%1」で編集した値は、その間に別の場所で変更されました。</translation>
+        <source>What you edited was changed elsewhere meanwhile: %1</source>
+        <translation>編集した値は、その間に別の場所で変更されました: %1</translation>
     </message>
     <message>
         <source>Width</source>

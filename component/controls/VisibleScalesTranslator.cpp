@@ -37,8 +37,8 @@ qint32 IndexBefore(double denominator)
 {
     const qint32 nearest = NearestIndex(denominator);
     const bool rises = Denominator(firstScale) < Denominator(lastScale);
-    const bool isBehind = rises ? Denominator(nearest) > denominator : Denominator(nearest) < denominator;
-    return isBehind ? std::max(nearest - 1, firstScale) : nearest;
+    const bool isPast = rises ? Denominator(nearest) > denominator : Denominator(nearest) < denominator;
+    return isPast ? std::max(nearest - 1, firstScale) : nearest;
 }
 
 qint32 IndexAfter(double denominator)

@@ -50,8 +50,8 @@ AskInConflictBox(QWidget* owner, const QString& node, const std::vector<Conflict
     box->setIcon(QMessageBox::Warning);
     box->setWindowTitle(ConflictTexts::tr("Changed Elsewhere"));
     box->setTextFormat(Qt::PlainText);
-    box->setText(ConflictTexts::tr("What you edited in \"%1\" was changed elsewhere meanwhile.")
-                     .arg(NameInQuestion(node)));
+    box->setText(
+        ConflictTexts::tr("What you edited was changed elsewhere meanwhile: %1").arg(NameInQuestion(node)));
     box->setInformativeText(LinesOf(edits));
     const QPushButton* overwrite
         = box->addButton(ConflictTexts::tr("&Store My Values"), QMessageBox::AcceptRole);

@@ -2,6 +2,7 @@
 #include "component/dialog/showing/ImageClicks.h"
 
 #include "component/common/EventGuard.h"
+#include "component/dialog/trees/NodeImages.h"
 #include "component/dialog/trees/NodeIndexes.h"
 
 #include <QApplication>
@@ -48,12 +49,13 @@ QModelIndex ImageClicks::ImageAt(const QPoint& place) const
     if (!index.isValid())
         return {};
     const QStyle& style = *m_view.style();
-    const int size = m_view.iconSize().isValid()
-        ? m_view.iconSize().width()
+    const int icon = m_view.iconSize().isValid()
+        ? m_view.iconSize().height()
         : style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &m_view);
+    const int side = NodeImages::SideOf(icon, m_view.fontMetrics());
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &m_view) + 1;
     const QRect row = m_view.visualRect(index);
-    const QRect image(row.left(), row.top(), size + 2 * margin, row.height());
+    const QRect image(row.left(), row.top(), side + 2 * margin, row.height());
     return QStyle::visualRect(m_view.layoutDirection(), row, image).contains(place) ? index : QModelIndex();
 }
 

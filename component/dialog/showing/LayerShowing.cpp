@@ -3,6 +3,7 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/Messages.h"
 #include "component/dialog/showing/ChosenLayers.h"
 #include "component/dialog/showing/HostCommands.h"
@@ -16,6 +17,7 @@
 #include <OrvaneShellLib/IStyleEditorClient.h>
 
 #include <QMenu>
+#include <QPointer>
 #include <QTreeView>
 
 #include <algorithm>
@@ -42,11 +44,26 @@ QString CannotKeepText()
     return TranslateMsg("This map cannot keep which layers were hidden.");
 }
 
-ShownCount CountShown(const std::vector<LayerMode>& all)
+// Those of the layers, or all of them if they are many.
+std::vector<LayerMode> ReadModesOf(const std::vector<LayerMode>& layers)
 {
-    const auto hidden = std::count_if(
-        all.begin(), all.end(), [](const LayerMode& mode) { return mode.quickMode == QuickMode::Hidden; });
-    return {qsizetype(all.size()) - qsizetype(hidden), qsizetype(all.size())};
+    constexpr size_t mostOneByOne = 100; // for more, one query for all layers is not slower
+    if (layers.size() > mostOneByOne)
+        return ReadAllQuickModes(Client());
+    std::vector<qint32> layerIDs;
+    layerIDs.reserve(layers.size());
+    for (const LayerMode& layer : layers)
+        layerIDs.push_back(layer.layerID);
+    return ReadQuickModes(Client(), layerIDs);
+}
+
+QSet<qint32> LayersOf(const std::vector<LayerMode>& modes)
+{
+    QSet<qint32> layerIDs;
+    layerIDs.reserve(int(modes.size()));
+    for (const LayerMode& mode : modes)
+        layerIDs.insert(mode.layerID);
+    return layerIDs;
 }
 
 } // namespace
@@ -137,7 +154,7 @@ QString LayerShowing::WhyNotShowAll() const
 {
     if (!ModeStore::KeepsShownOnly())
         return CannotKeepText();
-    return m_count ? QString() : TranslateMsg("\"Show Only These\" has not changed any layer.");
+    return m_shown.Count() ? QString() : TranslateMsg("\"Show Only These\" has not changed any layer.");
 }
 
 QString LayerShowing::WhyNotDelete() const
@@ -178,7 +195,10 @@ void LayerShowing::SetHidden(const NodeSelection& nodes, bool hidden)
 {
     Store([&] {
         const std::vector<qint32> layerIDs = ReadLayerIDs(Client(), nodes);
-        ModeStore::Change change{ModesToStore(ReadQuickModes(Client(), layerIDs), hidden), {}};
+        const std::vector<LayerMode> stored = ReadQuickModes(Client(), layerIDs);
+        ModeStore::Change change{ModesToStore(stored, hidden), {}};
+        if (change.modes.empty())
+            m_trees.SetLayerImages(stored); // the user has judged by old images
         const ShownOnly before = ModeStore::ReadShownOnly();
         if (!change.modes.empty() && !before.IsEmpty())
             change.kept = before.Without(ReadAllQuickModes(Client()), {layerIDs.begin(), layerIDs.end()});
@@ -224,24 +244,26 @@ void LayerShowing::Store(const std::function<ModeStore::Change()>& plan)
 {
     const BusyPointer busy;
     const std::vector<LayerMode> modes = ModeStore::Store(plan);
-    if (!modes.empty())
-        Tell(modes);
+    if (modes.empty())
+        return;
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([] { Client().RedrawMap(); });
+    if (self)
+        errors.Try([&] { Tell(modes); });
+    errors.Rethrow();
 }
 
-// The map shows what is stored, even if the dialog cannot.
-void LayerShowing::Tell(const std::vector<LayerMode>& modes)
+// The host may have corrected the modes while it redrew the map.
+void LayerShowing::Tell(const std::vector<LayerMode>& changed)
 {
-    std::exception_ptr error;
-    try {
-        m_trees.SetLayerImages(modes);
-        ReadShown();
-        emit ModesChanged();
-    } catch (...) {
-        error = std::current_exception();
-    }
-    Client().RedrawMap();
-    if (error)
-        std::rethrow_exception(error);
+    const std::vector<LayerMode> now = ReadModesOf(changed);
+    m_trees.SetLayerImages(now);
+    FirstError errors;
+    errors.Try([&] { m_shown.Follow(now); });
+    Retranslate();
+    errors.Try([&] { emit ModesChanged(LayersOf(changed)); });
+    errors.Rethrow();
 }
 
 ShownBar& LayerShowing::AddBar(QTreeView& view)
@@ -255,20 +277,26 @@ ShownBar& LayerShowing::AddBar(QTreeView& view)
 
 void LayerShowing::ReadShown()
 {
-    m_count.reset();
-    const ShownOnly shownOnly = m_allowed ? ModeStore::ReadShownOnly() : ShownOnly();
-    if (!shownOnly.IsEmpty()) {
-        const std::vector<LayerMode> all = ReadAllQuickModes(Client());
-        if (!shownOnly.Back(all).empty())
-            m_count = CountShown(all);
+    m_allowed ? m_shown.Read() : m_shown.Forget();
+    Retranslate();
+}
+
+void LayerShowing::FollowShown(const QSet<qint32>& layerIDs)
+{
+    if (!m_shown.HasChanges()) {
+        ReadShown();
+        return;
     }
+    const std::vector<LayerMode> now = ReadQuickModes(Client(), {layerIDs.begin(), layerIDs.end()});
+    qsizetype(now.size()) == layerIDs.size() ? m_shown.Follow(now) : m_shown.Read();
     Retranslate();
 }
 
 void LayerShowing::Retranslate()
 {
+    const std::optional<ShownCount>& count = m_shown.Count();
     for (ShownBar* bar : {&m_groupBar, &m_layerBar})
-        m_count ? bar->ShowCount(*m_count) : bar->ShowNothing();
+        count ? bar->ShowCount(*count) : bar->ShowNothing();
 }
 
 } // namespace Orvane

@@ -5,12 +5,13 @@
 #include "component/dialog/showing/ImageClicks.h"
 #include "component/dialog/showing/ModeStore.h"
 #include "component/dialog/showing/ShownBar.h"
+#include "component/dialog/showing/ShownLayers.h"
 #include "component/model/LayerTreeEntries.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <functional>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -46,12 +47,14 @@ public:
     /// Reads again whether only some layers are shown. Call it after layers were changed elsewhere. Raises
     /// what the host and its database raise.
     void ReadShown();
+    /// The same after these layers were changed and no others; reads no others where it can.
+    void FollowShown(const QSet<qint32>& layerIDs);
     /// Shows the bars in the current language.
     void Retranslate();
 
 signals:
-    /// The quick modes of layers are stored; the lists show them already.
-    void ModesChanged();
+    /// The quick modes of these layers are stored; the lists show them already.
+    void ModesChanged(const QSet<qint32>& layerIDs);
     /// The nodes' menu is being filled and has the entries that show and hide: receivers add those that stand
     /// before Delete and the host's commands.
     void ModesAdded(QMenu* menu);
@@ -78,7 +81,7 @@ private:
     void ShowOnlyChosen();
     void ShowAllAgain();
     void Store(const std::function<ModeStore::Change()>& plan);
-    void Tell(const std::vector<LayerMode>& modes);
+    void Tell(const std::vector<LayerMode>& changed);
     ShownBar& AddBar(QTreeView& view);
 
     LayerTrees& m_trees;
@@ -89,7 +92,7 @@ private:
     std::function<bool()> m_isPending;
     ShownBar& m_groupBar; ///< owned by the form, as the next
     ShownBar& m_layerBar;
-    std::optional<ShownCount> m_count; ///< nothing: all layers are shown in their own modes
+    ShownLayers m_shown;
     bool m_allowed = false;
 };
 

@@ -17,6 +17,8 @@ namespace {
 QString CountText(const ShownCount& count)
 {
     const QLocale locale;
+    if (count.shown == 0)
+        return TranslateMsg("No layer is shown.");
     if (count.shown == 1)
         return TranslateMsg("Only 1 of ^1 layers is shown.", locale.toString(count.all));
     return TranslateMsg(

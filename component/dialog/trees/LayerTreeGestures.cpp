@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QTreeView>
 
+#include <memory>
 #include <utility>
 
 namespace Orvane {
@@ -22,11 +23,11 @@ QString WhyNotRenameText()
     return TranslateMsg("One layer or group at a time can be renamed, but no system layer.");
 }
 
-QPoint MenuPosition(const QTreeView& view, const QContextMenuEvent& event)
+QPoint MenuPosition(const QTreeView& view, bool isByKey, const QPoint& place)
 {
     const QModelIndex current = view.currentIndex();
-    if (event.reason() != QContextMenuEvent::Keyboard || !current.isValid())
-        return event.globalPos();
+    if (!isByKey || !current.isValid())
+        return place;
     return view.viewport()->mapToGlobal(view.visualRect(current).center());
 }
 
@@ -45,7 +46,7 @@ bool LayerTreeGestures::eventFilter(QObject* watched, QEvent* event)
         return watched == m_view && HandleKey(*static_cast<QKeyEvent*>(event));
     if (event->type() != QEvent::ContextMenu)
         return QObject::eventFilter(watched, event);
-    GuardEvent(m_view, [&] { OpenMenu(*static_cast<QContextMenuEvent*>(event)); });
+    GuardEvent(m_view, [&] { RequestMenu(*static_cast<QContextMenuEvent*>(event)); });
     return true;
 }
 
@@ -69,18 +70,26 @@ bool LayerTreeGestures::HandleKey(const QKeyEvent& event)
 void LayerTreeGestures::OpenMenuByKey()
 {
     const QPoint place = m_view->viewport()->rect().topLeft();
-    OpenMenu({QContextMenuEvent::Keyboard, place, m_view->viewport()->mapToGlobal(place)});
+    RequestMenu({QContextMenuEvent::Keyboard, place, m_view->viewport()->mapToGlobal(place)});
 }
 
-void LayerTreeGestures::OpenMenu(const QContextMenuEvent& event)
+void LayerTreeGestures::RequestMenu(const QContextMenuEvent& event)
 {
-    auto* menu = new QMenu(m_view);
+    const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
+    const std::function<void()> open
+        = [this, isByKey, place = event.globalPos()] { OpenMenu(isByKey, place); };
+    m_opener ? m_opener(open) : open();
+}
+
+void LayerTreeGestures::OpenMenu(bool isByKey, const QPoint& place)
+{
+    auto menu = std::make_unique<QMenu>(m_view);
     menu->setObjectName(QStringLiteral("mnuTree"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setToolTipsVisible(true);
     FillMenu(*menu);
-    emit MenuOpening(menu);
-    menu->popup(MenuPosition(*m_view, event));
+    emit MenuOpening(menu.get());
+    menu.release()->popup(MenuPosition(*m_view, isByKey, place)); // deletes itself
 }
 
 void LayerTreeGestures::FillMenu(QMenu& menu)

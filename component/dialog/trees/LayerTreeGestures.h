@@ -27,6 +27,13 @@ public:
     /// Offers to show samples of line and fill. isShown: called each time the menu opens.
     void OfferSamples(std::function<bool()> isShown) { m_showsSamples = std::move(isShown); }
 
+    /// opener: gets what opens the menu each time the user asks for it, and calls it at once, later or not at
+    /// all. It may raise. Without an opener, the menu opens at once.
+    void OpenMenusBy(std::function<void(const std::function<void()>& open)> opener)
+    {
+        m_opener = std::move(opener);
+    }
+
 signals:
     void RenameRequested();
     void ExpandAllRequested(bool expanded);
@@ -41,7 +48,8 @@ protected:
 private:
     bool HandleKey(const QKeyEvent& event);
     void OpenMenuByKey();
-    void OpenMenu(const QContextMenuEvent& event);
+    void RequestMenu(const QContextMenuEvent& event);
+    void OpenMenu(bool isByKey, const QPoint& place);
     void FillMenu(QMenu& menu);
     void AddChoosing(QMenu& menu, bool hasGroups);
     void AddSamples(QMenu& menu);
@@ -49,6 +57,7 @@ private:
     QTreeView* m_view;
     std::function<bool()> m_mayRename;
     std::function<bool()> m_showsSamples;
+    std::function<void(const std::function<void()>& open)> m_opener;
 };
 
 } // namespace Orvane

@@ -52,7 +52,7 @@ public:
 
     /// Shows only the nodes in which all words occur; without words, all nodes again.
     void Find(const FindWords& words);
-    /// Does so with the words of the last find.
+    /// Does so with the words of the last find, and keeps the scroll position.
     void FindAgain();
     bool IsFinding() const;
     /// Whether chosen nodes are listed even if they are not found: from the next Find or replacement on.

@@ -38,7 +38,9 @@ void LayerTreeList::Find(const FindWords& words)
 
 void LayerTreeList::FindAgain()
 {
+    const LayerTreePlace place(*m_view, CurrentNode());
     Find(FindWords(m_model->Words()));
+    place.ScrollBack(*m_view);
 }
 
 void LayerTreeList::ShowFound()

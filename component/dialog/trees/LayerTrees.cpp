@@ -70,6 +70,9 @@ void LayerTrees::Wire(LayerTreeList& list)
     const auto mayRename
         = [this] { return !ChosenNodes().IsMany() && CurrentNode() && CanEditNode(*CurrentNode()); };
     auto* gestures = new LayerTreeGestures(&list.View(), mayRename, this);
+    gestures->OpenMenusBy([this](const std::function<void()>& open) {
+        m_isLeaving ? void(m_openMenu = open) : open(); // it is about the nodes that are chosen then
+    });
     connect(gestures, &LayerTreeGestures::DeleteRequested, this, &LayerTrees::DeleteRequested);
     WireSamples(list, *gestures);
     connect(gestures, &LayerTreeGestures::MenuOpening, this, &LayerTrees::MenuOpening);
@@ -231,20 +234,40 @@ void LayerTrees::OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes)
         MoveByUser(list, nodes);
         return;
     }
+    m_isLeaving = true;
     QMetaObject::invokeMethod(
-        this, [this, &list, nodes] { MoveByUser(list, nodes); }, Qt::QueuedConnection);
+        this, [this, &list, nodes] { LeaveByUser(list, nodes); }, Qt::QueuedConnection);
 }
 
-void LayerTrees::MoveByUser(LayerTreeList& list, const NodeSelection& nodes)
+void LayerTrees::LeaveByUser(LayerTreeList& list, const NodeSelection& nodes)
+{
+    const QPointer<LayerTrees> self(this);
+    const bool hasMoved = MoveByUser(list, nodes);
+    if (!self)
+        return;
+    m_isLeaving = false;
+    const std::function<void()> openMenu = std::exchange(m_openMenu, nullptr);
+    if (!hasMoved)
+        return;
+    GuardEvent(&list.View(), [&] {
+        DropUnfound(list);
+        if (openMenu && self)
+            openMenu();
+    });
+}
+
+// Returns false if the nodes were not chosen, or if this object was destroyed.
+bool LayerTrees::MoveByUser(LayerTreeList& list, const NodeSelection& nodes)
 {
     const QPointer<LayerTrees> self(this);
     try {
-        MoveTo(list, nodes);
+        return MoveTo(list, nodes) && list.Chosen().HasSameNodes(nodes);
     } catch (...) {
         if (!self)
-            return;
+            return false;
         list.RefuseChoice();
         ReportAfterEvent(this, &list.View(), std::current_exception());
+        return false;
     }
 }
 

@@ -84,9 +84,13 @@ public:
     /// an empty text shows all, as they were before. Which groups are expanded meanwhile is not stored.
     ///
     /// A current node that is not found is left: the dialog shows no node until it is found again or another
-    /// one is chosen. If the question about pending changes would wait, the node stays listed until it was
-    /// asked, after the event; and if the question raises, as long as there are pending changes.
+    /// one is chosen. With pending changes it stays listed, and the dialog's current node, until the question
+    /// about them was asked: because another node was chosen, or in LeaveUnfound. If the question raises, the
+    /// node stays.
     void Find(List list, const QString& text);
+    /// The user goes from the field to the list: if a node stays listed although it is not found, the
+    /// question is asked after the event, and the node is left.
+    void LeaveUnfound(List list);
     /// Selects the first node that was found, as a user does; false if there is none.
     bool ChooseFirstFound(List list);
     bool IsFinding(List list) const;
@@ -161,7 +165,8 @@ signals:
     void NodesChanged();
     /// The user pressed Delete in a tree.
     void DeleteRequested();
-    /// The menu of the nodes in the list shown is about to open: receivers add their entries.
+    /// The menu of the nodes in the list shown is about to open: receivers add their entries. It opens only
+    /// after the question, and not at all if the old nodes stay chosen.
     void MenuOpening(QMenu* menu);
 
 private:
@@ -171,7 +176,8 @@ private:
     void WireSamples(LayerTreeList& list, LayerTreeGestures& gestures);
 
     void OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes);
-    void MoveByUser(LayerTreeList& list, const NodeSelection& nodes);
+    void LeaveByUser(LayerTreeList& list, const NodeSelection& nodes);
+    bool MoveByUser(LayerTreeList& list, const NodeSelection& nodes);
     bool MoveTo(LayerTreeList& list, const NodeSelection& nodes);
     bool AskAboutChanges();
     bool IsListedAsBefore(qint32 layerID, const std::optional<ListedLayer>& layer) const;
@@ -183,8 +189,8 @@ private:
     void RenameGroup(qint32 groupID, const QString& name);
     void ExpandAll(LayerTreeList& list, bool expanded);
     bool HasEdits(const LayerTreeList& list) const;
-    void LeaveUnfound(List list);
     void TryToLeaveUnfound(List list);
+    void DropUnfound(LayerTreeList& list);
 
     LayerTreeList* m_groups;
     LayerTreeList* m_layers;
@@ -193,6 +199,8 @@ private:
     List m_shown = List::Layers;
     std::function<void()> m_question;
     std::function<bool()> m_isPending;
+    std::function<void()> m_openMenu; ///< after the question; nullptr: no menu was asked for
+    bool m_isLeaving = false; ///< the question will be asked after the event, or is being asked
     const IStyleFilter* m_filter = nullptr;
 };
 

@@ -5,7 +5,6 @@
 #include "component/dialog/trees/LayerTreeModel.h"
 #include "component/dialog/trees/LayerTrees.h"
 
-#include <QPointer>
 #include <QTreeView>
 
 namespace Orvane {
@@ -15,28 +14,17 @@ bool LayerTrees::HasEdits(const LayerTreeList& list) const
     return m_isPending && IsShown(list) && !list.Chosen().IsEmpty() && m_isPending();
 }
 
-// The question comes after the event, as for a click on another node.
+// No question here: the next letter that the user types would answer it.
 void LayerTrees::Find(List list, const QString& text)
 {
-    LayerTreeList& target = At(list);
-    const bool wasHeld = target.HoldsOther();
     Replace(
-        list, [&] { target.Find(FindWords(text)); }, true);
-    if (!target.HoldsOther() || wasHeld)
-        return;
-    QMetaObject::invokeMethod(
-        this, [this, list] { LeaveUnfound(list); }, Qt::QueuedConnection);
+        list, [&] { At(list).Find(FindWords(text)); }, true);
 }
 
 void LayerTrees::LeaveUnfound(List list)
 {
-    const QPointer<LayerTrees> self(this);
-    try {
-        TryToLeaveUnfound(list);
-    } catch (...) {
-        if (self)
-            ReportAfterEvent(this, &At(list).View(), std::current_exception());
-    }
+    if (At(list).HoldsOther())
+        GuardAfterEvent(this, &At(list).View(), [this, list] { TryToLeaveUnfound(list); });
 }
 
 void LayerTrees::TryToLeaveUnfound(List list)
@@ -49,6 +37,13 @@ void LayerTrees::TryToLeaveUnfound(List list)
         target.FindAgain();
     };
     Replace(list, find, true);
+}
+
+void LayerTrees::DropUnfound(LayerTreeList& list)
+{
+    if (list.HoldsOther())
+        Replace(
+            &list == m_groups ? List::Groups : List::Layers, [&] { list.FindAgain(); }, true);
 }
 
 bool LayerTrees::ChooseFirstFound(List list)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFontMetrics>
 #include <QIcon>
 #include <QPalette>
 
@@ -23,6 +24,10 @@ void PaintNodeImage(
 class NodeImages
 {
 public:
+    /// The side of the square in which a row shows an image. iconHeight: of the view's icons. font: of the
+    /// row.
+    static int SideOf(int iconHeight, const QFontMetrics& font) { return qMax(iconHeight, font.height()); }
+
     QIcon Icon(bool isGroup, qint16 quickMode, const QPalette& palette, QPalette::ColorGroup colours) const;
 
 private:

@@ -167,7 +167,7 @@ void NodeNameDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
     option->text = NameInText(option->text, LongestListed); // all rows have the height of the first
     const NodeReference node = NodeIndexes::NodeAt(index);
     const bool active = option->state & QStyle::State_Active;
-    const int side = qMax(option->decorationSize.height(), option->fontMetrics.height());
+    const int side = NodeImages::SideOf(option->decorationSize.height(), option->fontMetrics);
     option->icon = m_images.Icon(
         node.isGroup, node.image, option->palette, active ? QPalette::Active : QPalette::Inactive);
     option->decorationSize = QSize(side, side);

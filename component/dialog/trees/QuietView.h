@@ -12,7 +12,8 @@ class QuietView
 public:
     /// view: not owned; outlives this object.
     explicit QuietView(QTreeView& view)
-        : m_view(view), m_scrolls(view.hasAutoScroll()), m_updates(view.updatesEnabled())
+        : m_view(view), m_scrolls(view.hasAutoScroll()),
+          m_updates(!view.testAttribute(Qt::WA_ForceUpdatesDisabled))
     {
         m_view.setAutoScroll(false);
         m_view.setUpdatesEnabled(false);
@@ -29,7 +30,7 @@ public:
 private:
     QTreeView& m_view;
     bool m_scrolls;
-    bool m_updates;
+    bool m_updates; ///< of the view itself, not of the widgets that it is in
 };
 
 } // namespace Orvane

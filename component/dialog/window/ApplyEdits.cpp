@@ -2,8 +2,8 @@
 #include "component/dialog/window/ApplyEdits.h"
 
 #include "component/common/Component.h"
+#include "component/common/FirstError.h"
 #include "component/dialog/trees/LayerTrees.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/model/LayerCode.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>

@@ -4,6 +4,7 @@
 #include "component/common/EventGuard.h"
 #include "component/common/Messages.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -74,6 +75,11 @@ void FindField::ShowCount()
 bool FindField::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
+    case QEvent::FocusOut:
+        // A click chooses a node, and then its list asks.
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::TabFocusReason && m_widgets.view->hasFocus())
+            m_trees.LeaveUnfound(m_list);
+        break;
     case QEvent::ShortcutOverride: // or a host's shortcut would take the key
         if (IsForField(*static_cast<QKeyEvent*>(event)))
             event->accept();

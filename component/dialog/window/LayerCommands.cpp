@@ -3,6 +3,7 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/HostInterface.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
@@ -125,10 +126,7 @@ void LayerCommands::DeleteLayer()
         ShowMessageBox(Owner(), TranslateMsg("You may not delete a 'system layer'"), BoxStyle::OkExclamation);
         return;
     }
-    const QPointer self(this); // as above
-    Client().DeleteLayer(layerID);
-    if (self)
-        emit DeleteAsked({layerID});
+    Delete({layerID});
 }
 
 void LayerCommands::DeleteMany()
@@ -140,9 +138,18 @@ void LayerCommands::DeleteMany()
         ShowMessageBox(Owner(), StayingText(systemLayers), BoxStyle::OkExclamation);
     if (!self || layerIDs.empty())
         return;
-    DeleteOneByOneOrAtOnce(*this, layerIDs);
+    Delete(layerIDs);
+}
+
+// Some may be deleted before an error.
+void LayerCommands::Delete(const std::vector<qint32>& layerIDs)
+{
+    const QPointer self(this); // as above
+    FirstError errors;
+    errors.Try([&] { DeleteOneByOneOrAtOnce(*this, layerIDs); });
     if (self)
-        emit DeleteAsked(layerIDs);
+        errors.Try([&] { emit DeleteAsked(layerIDs); });
+    errors.Rethrow();
 }
 
 void LayerCommands::EditCode()

@@ -68,11 +68,13 @@ signals:
     void CodeEditDropped(QWidget* label);
     /// The host created a layer.
     void LayerCreated(qint32 layerID);
-    /// The host was asked to delete the layers, and may have done so.
+    /// The host was asked to delete the layers, and may have done so, some or all of them. Also emitted if it
+    /// raised an error.
     void DeleteAsked(const std::vector<qint32>& layerIDs);
 
 private:
     void DeleteMany();
+    void Delete(const std::vector<qint32>& layerIDs);
     void SetCode(const QString& answer);
     QWidget* Owner() const;
 

@@ -3,10 +3,10 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/HostInterface.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
-#include "component/dialog/window/FirstError.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
 

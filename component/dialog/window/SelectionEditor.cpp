@@ -206,6 +206,20 @@ bool SelectionEditor::HoldsChosenNodes() const
     return node && m_shown.target.node && IsSameNode(*node, *m_shown.target.node) && !chosen.IsMany();
 }
 
+std::vector<qint32> SelectionEditor::LayerIDs() const
+{
+    std::vector<qint32> layerIDs;
+    layerIDs.reserve(m_origin.seen.size());
+    for (const SeenLayer& layer : m_origin.seen)
+        layerIDs.push_back(layer.layerID);
+    return layerIDs;
+}
+
+bool SelectionEditor::HasExistingLayer() const
+{
+    return AnyLayerExists(Client(), LayerIDs());
+}
+
 QString SelectionEditor::NameOfShown() const
 {
     return IsMany() ? NameOfLayers(Layers()) : m_parts.trees.CurrentText();
@@ -266,7 +280,8 @@ void SelectionEditor::Finish(ApplyOutcome outcome)
         return;
     }
     Load();
-    emit Applied();
+    const std::vector<qint32> layerIDs = LayerIDs();
+    emit Applied({layerIDs.begin(), layerIDs.end()});
     if (outcome == ApplyOutcome::UnexpectedMode)
         ShowMessageBox(&m_form, TranslateMsg("Unexpected program flow in frmLayerStyles"), BoxStyle::Ok);
 }

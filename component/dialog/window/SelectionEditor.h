@@ -76,8 +76,11 @@ public:
     /// As Follow, after these layers have changed and no others: of many layers that are shown, it reads only
     /// these where it can.
     void FollowLayers(const QSet<qint32>& layerIDs);
-    /// As Follow, after the quick modes of layers were changed at once: the mode shown is the stored one.
-    void FollowModes();
+    /// As Follow, after the quick modes of these layers were changed at once: if one of them is shown, the
+    /// mode shown is the stored one.
+    void FollowModes(const QSet<qint32>& layerIDs);
+    /// True if one of the layers that are shown still exists, or of the group that is shown.
+    bool HasExistingLayer() const;
     /// Covers the controls without reading anything: for the Schemes tab, until the next Load. The mode and
     /// the code, which stay in sight, are those that were read.
     void CoverUp();
@@ -97,8 +100,8 @@ public:
 signals:
     /// The controls now hold edits, or no longer hold any.
     void ModifiedChanged(bool modified);
-    /// Edits were stored, and what is stored is shown.
-    void Applied();
+    /// Edits of these layers were stored, and what is stored is shown.
+    void Applied(const QSet<qint32>& layerIDs);
     /// Other nodes are shown, or none.
     void Shown(bool isNode);
 
@@ -139,6 +142,7 @@ private:
     /// Edits are applied to the nodes that they were made for, or to what is left of them, or not at all.
     bool HoldsChosenNodes() const;
     bool IsMany() const { return m_shown.target.nodes.IsMany(); }
+    std::vector<qint32> LayerIDs() const;
     qsizetype Layers() const { return qsizetype(m_origin.seen.size()); }
     QString NameOfShown() const;
     void Keep(const Selection& selection);

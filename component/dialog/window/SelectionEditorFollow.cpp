@@ -47,8 +47,10 @@ void SelectionEditor::FollowLayers(const QSet<qint32>& layerIDs)
         ShowOrNothing(selection);
 }
 
-void SelectionEditor::FollowModes()
+void SelectionEditor::FollowModes(const QSet<qint32>& layerIDs)
 {
+    if (!HasLayerOf(layerIDs))
+        return;
     m_parts.quickModes.ShowMode(
         m_origin.mode); // a mode that is not applied yet would undo what was just done
     m_modified = m_modified && HasEditedSlot();

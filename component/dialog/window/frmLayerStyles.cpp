@@ -3,13 +3,12 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/Messages.h"
 #include "component/dialog/panel/RendererStyleEditor.h"
 #include "component/dialog/window/EditorParts.h"
 #include "component/dialog/window/Enclosure.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
-#include "component/model/LayerCursors.h"
 #include "ui_frmLayerStyles.h"
 
 #include <OrvaneShellLib/IStyleEditorClient.h>
@@ -72,7 +71,7 @@ void frmLayerStyles::Wire()
     // Not guarded: the code that chose the node is guarded, and in a call from the host the host gets the
     // error.
     connect(&m_parts->trees, &LayerTrees::CurrentNodeChanged, m_selection.get(), &SelectionEditor::Load);
-    connect(m_selection.get(), &SelectionEditor::Applied, &m_parts->showing, &LayerShowing::ReadShown);
+    connect(m_selection.get(), &SelectionEditor::Applied, &m_parts->showing, &LayerShowing::FollowShown);
     connect(&m_parts->trees, &LayerTrees::CurrentNodeClicked, m_selection.get(), &SelectionEditor::Follow);
     connect(&m_parts->trees, &LayerTrees::ChosenNodesGone, m_selection.get(), &SelectionEditor::Follow);
     m_parts->showing.SetPendingEdits([this] { return m_selection->IsModified(); });
@@ -274,14 +273,24 @@ void frmLayerStyles::LoadNodes()
         m_parts->showing.ReadShown();
 }
 
-void frmLayerStyles::OnDeleteAsked(const std::vector<qint32>& layerIDs)
+// The edits stay as long as there is a layer for them.
+void frmLayerStyles::OnDeleteAsked()
 {
-    if (!AnyLayerExists(Client(), layerIDs))
+    if (m_selection->IsModified() && !m_selection->HasExistingLayer())
         m_selection->SetModified(false);
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
-    if (!m_selection->IsModified())
-        ShowTab(m_tab);
+    FirstError errors;
+    ReadAgain(errors);
+    errors.Rethrow();
+}
+
+void frmLayerStyles::ReadAgain(FirstError& errors)
+{
+    const QPointer self(this); // the list may ask about edits; the host may close the dialog
+    errors.Try([this] { LoadList(); });
+    if (self && !m_unloaded && m_tab != ListTab::Schemes)
+        errors.Try([this] { m_selection->Follow(); });
 }
 
 void frmLayerStyles::OnSchemeLoaded()

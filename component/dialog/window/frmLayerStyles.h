@@ -100,7 +100,8 @@ private:
     void ShowCover(bool isNode);
     void LoadList();
     void LoadNodes();
-    void OnDeleteAsked(const std::vector<qint32>& layerIDs);
+    void OnDeleteAsked();
+    void ReadAgain(FirstError& errors);
     void OnSchemeLoaded();
 
     std::unique_ptr<Ui::frmLayerStyles> m_ui;

@@ -2,8 +2,8 @@
 // The calls that the host makes to the dialog.
 #include "component/common/Component.h"
 #include "component/common/ErrorTexts.h"
+#include "component/common/FirstError.h"
 #include "component/dialog/window/EditorParts.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
 #include "component/dialog/window/frmLayerStyles.h"
 #include "component/model/LayerCode.h"
@@ -56,6 +56,7 @@ void frmLayerStyles::IStyleEditor_RefreshGroups()
         const bool stayed = before && after && IsSameNode(*before, *after);
         if (stayed && m_tab != ListTab::Schemes) // a node that took its place has been read already
             errors.Try([this] { m_selection->Load(); });
+        errors.Try([this] { m_parts->showing.ReadShown(); });
         errors.Rethrow();
     });
 }
@@ -64,7 +65,10 @@ void frmLayerStyles::IStyleEditorForm_AddNewLayer(qint32 layerID)
 {
     WithTranslatedErrors([&] {
         EnsureInitialised();
+        const QPointer self(this); // as in ReadAgain
         m_parts->trees.ShowLayer(layerID);
+        if (self && !m_unloaded)
+            m_parts->showing.ReadShown();
     });
 }
 
@@ -139,13 +143,10 @@ void frmLayerStyles::IStyleEditorForm_Refresh()
             return;
         m_parts->trees.MarkStale(LayerTrees::List::Groups);
         m_parts->trees.MarkStale(LayerTrees::List::Layers);
-        const QPointer self(this); // the list may ask about edits; the host may close the dialog
         FirstError errors;
         errors.Try([this] { m_parts->schemes.Fill(); });
         errors.Try([this] { UpdateCaption(); });
-        errors.Try([this] { LoadList(); });
-        if (self && !m_unloaded && m_tab != ListTab::Schemes)
-            errors.Try([this] { m_selection->Follow(); });
+        ReadAgain(errors);
         errors.Rethrow();
     });
 }
@@ -159,9 +160,11 @@ void frmLayerStyles::IStyleEditorRefresh_RefreshLayers(const QSet<qint32>& layer
             IStyleEditorForm_Refresh();
             return;
         }
-        m_parts->showing.ReadShown();
+        FirstError errors;
         if (m_tab != ListTab::Schemes)
-            m_selection->FollowLayers(layerIDs);
+            errors.Try([&] { m_selection->FollowLayers(layerIDs); });
+        errors.Try([&] { m_parts->showing.FollowShown(layerIDs); });
+        errors.Rethrow();
     });
 }
 

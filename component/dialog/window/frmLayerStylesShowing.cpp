@@ -2,10 +2,10 @@
 // How the dialog is shown, hidden and unloaded, as a window or within a widget of the host.
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/HostInterface.h"
 #include "component/dialog/window/EditorParts.h"
 #include "component/dialog/window/Enclosure.h"
-#include "component/dialog/window/FirstError.h"
 #include "component/dialog/window/SelectionEditor.h"
 #include "component/dialog/window/frmLayerStyles.h"
 

@@ -146,19 +146,76 @@ TEST_F(Finding, TheSettingsOfALayerThatIsNotFoundAreCoveredUntilItIsFoundAgain)
     EXPECT_EQ(TextOf("lblCode"), QString::number(Stored(1, "Code")));
 }
 
-TEST_F(Finding, EditsOfALayerThatIsNotFoundAreAskedAboutAndApplied)
+TEST_F(Finding, NothingIsAskedWhileTheUserTypesAndTheEditsStayInSight)
+{
+    ClickLayer("Roads");
+    Click("chkVisible");
+    MessageBoxRobot nobody{};
+    Field().setFocus();
+    for (const QString letter : {"w", "i", "n", " ", "y"}) {
+        Type(letter);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(Listed(), QStringList({"Roads"}));
+    EXPECT_EQ(TextOf("lblFound2"), "0 of 4");
+    EXPECT_FALSE(CoversSettings());
+    EXPECT_TRUE(CanApply());
+    PressInField(Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Form()->focusWidget(), &Field());
+    EXPECT_TRUE(CanApply());
+}
+
+TEST_F(Finding, EditsOfALayerThatIsNotFoundAreAskedAboutWhenTheUserGoesToAnother)
 {
     ClickLayer("Roads");
     Click("chkVisible");
     const double before = Stored(1, "Visible");
-    MessageBoxRobot user{BoxKey::Yes};
+    Field().setFocus();
     Type("riv");
+    EXPECT_EQ(Listed(), QStringList({"Rivers", "Roads"}));
+    MessageBoxRobot user{BoxKey::Yes};
+    PressInField(Qt::Key_Down);
     QCoreApplication::processEvents();
     EXPECT_EQ(user.Boxes().size(), 1U);
     EXPECT_NE(Stored(1, "Visible"), before);
     EXPECT_EQ(Listed(), QStringList({"Rivers"}));
     EXPECT_FALSE(CanApply());
+    EXPECT_EQ(TextOf("lblCode"), QString::number(Stored(2, "Code")));
+}
+
+TEST_F(Finding, EditsOfALayerThatIsNotFoundAreAskedAboutWhenTheTabKeyLeadsToTheList)
+{
+    ClickLayer("Roads");
+    Click("chkVisible");
+    const double before = Stored(1, "Visible");
+    Field().setFocus();
+    Type("riv");
+    MessageBoxRobot user{BoxKey::No};
+    PressInField(Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.Boxes().size(), 1U);
+    EXPECT_EQ(Stored(1, "Visible"), before);
+    EXPECT_EQ(Listed(), QStringList({"Rivers"}));
     EXPECT_TRUE(CoversSettings());
+}
+
+TEST_F(Finding, ALayerWithEditsThatIsNotFoundCanBeClickedAndApplied)
+{
+    ClickLayer("Roads");
+    Click("chkVisible");
+    const double before = Stored(1, "Visible");
+    Field().setFocus();
+    Type("riv");
+    MessageBoxRobot nobody{};
+    ClickLayer("Roads");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(CanApply());
+    Click("cmdApply");
+    EXPECT_NE(Stored(1, "Visible"), before);
+    ClickLayer("Rivers");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(TextOf("lblCode"), QString::number(Stored(2, "Code")));
 }
 
 TEST_F(Finding, AListReadAgainByTheHostIsFilteredAgain)

@@ -56,7 +56,7 @@ TEST(ConflictBox, NamesTheNodeAndEachPropertyWithBothValues)
 {
     AskedUser user("");
     EXPECT_EQ(user.Choose(edits), ConflictChoice::Cancel);
-    EXPECT_TRUE(user.text.contains("Roads"));
+    EXPECT_EQ(user.text, "What you edited was changed elsewhere meanwhile: Roads");
     EXPECT_EQ(
         user.lines,
         "Visible: your value is yes, stored is no\nPriority: your value is 5, stored is 9 (in 3 layers)");

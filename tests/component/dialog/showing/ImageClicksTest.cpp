@@ -120,6 +120,32 @@ TEST_F(ImageClicksTest, OfAnotherNodeKeepTheEditsAndTheirNode)
     EXPECT_TRUE(CanApply());
 }
 
+TEST_F(ImageClicksTest, OfAnotherNodeKeepAQuickModeThatIsNotApplied)
+{
+    Choose({"Roads"});
+    Click("Backdrop");
+    MessageBoxRobot nobody{};
+    ClickImage("Parcels");
+    EXPECT_EQ(Mode(3), 2);
+    EXPECT_TRUE(CanApply());
+    EXPECT_EQ(PressedModes(), 2);
+    Click("cmdApply");
+    EXPECT_EQ(Mode(1), 1);
+}
+
+TEST_F(ImageClicksTest, CountOnTheWholeImageInALargeFont)
+{
+    QFont font = Tree().font();
+    font.setPixelSize(48);
+    Tree().setFont(font);
+    Tree().doItemsLayout();
+    const QRect row = Tree().visualRect(Node("Parcels"));
+    const QPoint right(row.left() + QFontMetrics(font).height() - 2, row.center().y());
+    QTest::mouseClick(Tree().viewport(), Qt::LeftButton, {}, right);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Mode(3), 2);
+}
+
 class ImagesWithoutQuickModes : public ImageClicksTest
 {
 protected:

@@ -3,6 +3,7 @@
 #include "component/dialog/trees/LayerTreeModel.h"
 #include "hosts/FailingClient.h"
 
+#include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 namespace Orvane::Testing {
@@ -28,6 +29,71 @@ protected:
 
     FailingClient client{host, {"Update", 2, RunTimeError(ErrorNumber::DatabaseLocked, "locked")}};
 };
+
+/// A host that can hide no layer: a redraw puts the modes back.
+class CorrectingClient : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+    MemoryHost* corrected = nullptr;
+    bool raises = false;
+
+private:
+    void IStyleEditorClient_RedrawMap() override
+    {
+        ForwardingClient::IStyleEditorClient_RedrawMap();
+        if (corrected)
+            corrected->SetLayerColumn(1, "OverrideMode", qint32(0));
+        if (raises)
+            throw RunTimeError(ErrorNumber::DatabaseLocked, "not taken");
+    }
+};
+
+class ShowingWithACorrectingHost : public LayerShowingTest
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        LayerShowingTest::SetUp();
+        Choose({"Roads"});
+        client.corrected = &host;
+    }
+
+    CorrectingClient client{host};
+};
+
+TEST_F(ShowingWithACorrectingHost, ShowsWhatTheHostHasTakenAndCanBeTriedAgain)
+{
+    Pick("Hide");
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(PressedModes(), 1);
+    client.corrected = nullptr;
+    Pick("Hide");
+    EXPECT_EQ(Mode(1), 2);
+    EXPECT_EQ(ImageOf("Roads"), 4);
+}
+
+TEST_F(ShowingWithACorrectingHost, ShowsWhatIsStoredWhenTheRedrawRaises)
+{
+    client.raises = true;
+    MessageBoxRobot user{BoxKey::Enter};
+    Pick("Hide");
+    EXPECT_EQ(user.Only().text, "not taken");
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(PressedModes(), 1);
+}
+
+TEST_F(LayerShowingTest, AnEntryThatWasRightForAnOldImageShowsTheStoredOne)
+{
+    Choose({"Parcels"});
+    Pick("Hide");
+    host.SetLayerColumn(3, "OverrideMode", qint32(0));
+    Pick("Show");
+    EXPECT_EQ(ImageOf("Parcels"), 1);
+    Pick("Hide");
+    EXPECT_EQ(Mode(3), 2);
+}
 
 TEST_F(LayerShowingTest, HidesAllChosenLayersAtOnceWithOneRedraw)
 {

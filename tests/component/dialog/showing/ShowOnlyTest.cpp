@@ -4,6 +4,7 @@
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QHash>
 #include <QLabel>
@@ -22,10 +23,16 @@ public:
     using ForwardingClient::ForwardingClient;
     QHash<QString, QString> notes;
     bool keeps = true;
+    bool raises = false;
 
 private:
     bool IMapNotes_KeepsNotes() const override { return keeps; }
-    QString IMapNotes_Note(const QString& key) override { return notes.value(key); }
+    QString IMapNotes_Note(const QString& key) override
+    {
+        if (raises)
+            throw RunTimeError(ErrorNumber::DatabaseLocked, "no notes");
+        return notes.value(key);
+    }
     void IMapNotes_SetNote(const QString& key, const QString& text) override { notes[key] = text; }
 };
 
@@ -45,6 +52,11 @@ protected:
     {
         QTest::mouseClick(Bar().findChild<QToolButton*>(), Qt::LeftButton);
         QCoreApplication::processEvents();
+    }
+
+    void Refresh(const QSet<qint32>& layerIDs)
+    {
+        dynamic_cast<IStyleEditorRefresh&>(EditorForm()).RefreshLayers(layerIDs);
     }
 
     NotesClient client{host};
@@ -134,7 +146,7 @@ TEST_F(ShowOnlyTest, FollowsWhatTheHostAndApplyChange)
     Choose({"Parcels"});
     Pick("Show Only These");
     host.SetLayerColumn(1, "OverrideMode", qint32(0));
-    dynamic_cast<IStyleEditorRefresh&>(EditorForm()).RefreshLayers({1});
+    Refresh({1});
     EXPECT_EQ(BarText(), "Only 2 of 4 layers are shown.");
     Choose({"Rivers"});
     Click("Normal");
@@ -145,6 +157,76 @@ TEST_F(ShowOnlyTest, FollowsWhatTheHostAndApplyChange)
     Click("cmdApply");
     EXPECT_EQ(BarText(), "");
     EXPECT_EQ(WhyNot("Show All Again"), "\"Show Only These\" has not changed any layer.");
+}
+
+TEST_F(ShowOnlyTest, SaysThatNoLayerIsShown)
+{
+    Choose({"Parcels"});
+    Pick("Show Only These");
+    Pick("Hide");
+    EXPECT_EQ(BarText(), "No layer is shown.");
+    ClickBar();
+    EXPECT_THAT(Modes(), ElementsAre(0, 1, 2, 0));
+}
+
+TEST_F(ShowOnlyTest, KeepsAQuickModeThatIsNotAppliedIfItsLayerIsNotBroughtBack)
+{
+    Choose({"Parcels"});
+    Pick("Show Only These");
+    Click("Backdrop");
+    ClickBar();
+    EXPECT_THAT(Modes(), ElementsAre(0, 1, 0, 0));
+    EXPECT_TRUE(CanApply());
+    EXPECT_EQ(PressedModes(), 2);
+}
+
+TEST_F(ShowOnlyTest, ReadsOnlyTheLayersThatHaveChanged)
+{
+    Choose({"Parcels"});
+    const auto reads = [this](int layers) {
+        host.SetLayerColumn(1, "OverrideMode", qint32(layers % 2));
+        host.ClearLog();
+        Refresh({1});
+        EXPECT_EQ(BarText(), QStringLiteral("Only 2 of %1 layers are shown.").arg(layers));
+        Choose({"Rivers"});
+        Click("chkLocked");
+        Click("cmdApply");
+        Choose({"Parcels"});
+        return host.Log().Of(CallKind::Read).size();
+    };
+    Pick("Show Only These");
+    reads(4);
+    const auto before = reads(4);
+    for (qint32 layerID = 5; layerID <= 50; ++layerID)
+        host.AddLayer({.id = layerID, .name = QStringLiteral("Zone %1").arg(layerID), .overrideMode = 2});
+    EditorForm().Refresh();
+    reads(50);
+    EXPECT_EQ(reads(50), before);
+}
+
+TEST_F(ShowOnlyTest, ANoteThatCannotBeReadLeavesTheSettingsUpToDate)
+{
+    Choose({"Parcels"});
+    Pick("Show Only These");
+    host.SetLayerColumn(3, "Code", qint32(77));
+    client.raises = true;
+    EXPECT_THROW(Refresh({3}), RunTimeError);
+    EXPECT_EQ(TextOf("lblCode"), "77");
+}
+
+TEST_F(ShowOnlyTest, CountsNewLayers)
+{
+    Choose({"Parcels"});
+    Pick("Show Only These");
+    Click("cmdNewLayer");
+    EXPECT_EQ(BarText(), "Only 2 of 5 layers are shown.");
+    host.AddLayer({.id = 70, .name = "Trees"});
+    EditorForm().AddNewLayer(70);
+    EXPECT_EQ(BarText(), "Only 3 of 6 layers are shown.");
+    ClickTab(1);
+    host.SetLayerColumn(1, "OverrideMode", qint32(0));
+    Editor().RefreshGroups();
+    EXPECT_EQ(BarText(), "Only 4 of 6 layers are shown.");
 }
 
 TEST_F(ShowOnlyTest, IsReachedWithTheTabKeyAndTellsScreenReadersWhatItIsFor)

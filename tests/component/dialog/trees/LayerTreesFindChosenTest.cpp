@@ -240,6 +240,7 @@ TEST_F(LayerTreesFindChosenTest, EditsOfNodesThatAreNotAllFoundAreAskedAboutOnce
     EXPECT_EQ(asked, 0);
     EXPECT_EQ(Chosen().size(), 3);
     EXPECT_EQ(Lines(layers), QStringList({"Base", "Rails", "Rivers", "Roads"}));
+    trees.LeaveUnfound(List::Layers);
     Settle();
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(moved, 1);
@@ -260,6 +261,7 @@ TEST_F(LayerTreesFindChosenTest, NodesWhoseEditsStayAreListedTogether)
         groups.visualRect(Node(groups, "Rivers", "Water")).center());
     Edit(true);
     trees.Find(List::Groups, "nothing");
+    trees.LeaveUnfound(List::Groups);
     Settle();
     trees.Find(List::Groups, "rails");
     Settle();

@@ -109,7 +109,7 @@ TEST_F(LayerTreesFindTest, ANodeChosenDuringAFindStaysCurrentAndInSight)
     EXPECT_TRUE(layers.viewport()->rect().intersects(layers.visualRect(Node(layers, "Many 0150"))));
 }
 
-TEST_F(LayerTreesFindTest, EditsOfANodeThatIsNotFoundAreAskedAboutOnceAfterTheEvent)
+TEST_F(LayerTreesFindTest, ANodeWithEditsThatIsNotFoundStaysUntilTheUserGoesToTheList)
 {
     Open(List::Layers);
     Click(layers, "Rivers");
@@ -118,9 +118,12 @@ TEST_F(LayerTreesFindTest, EditsOfANodeThatIsNotFoundAreAskedAboutOnceAfterTheEv
     trees.Find(List::Layers, "r");
     trees.Find(List::Layers, "ro");
     trees.Find(List::Layers, "roa");
+    Settle();
     EXPECT_EQ(asked, 0);
     EXPECT_EQ(trees.CurrentText(), "Rivers");
     EXPECT_EQ(Lines(layers), QStringList({"Rivers", "Roads"}));
+    trees.LeaveUnfound(List::Layers);
+    EXPECT_EQ(asked, 0) << "only after the event";
     Settle();
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(moved, 1);
@@ -135,6 +138,7 @@ TEST_F(LayerTreesFindTest, ANodeWhoseEditsStayIsListedWhateverIsFound)
     Edit(true);
     asked = moved = 0;
     trees.Find(List::Layers, "roads");
+    trees.LeaveUnfound(List::Layers);
     Settle();
     trees.Find(List::Layers, "rails");
     Settle();
@@ -147,6 +151,25 @@ TEST_F(LayerTreesFindTest, ANodeWhoseEditsStayIsListedWhateverIsFound)
     hasEdits = false;
     trees.Find(List::Layers, "rail");
     EXPECT_EQ(Lines(layers), QStringList({"Rails"}));
+}
+
+TEST_F(LayerTreesFindTest, ANodeWithEditsThatIsNotFoundGoesWhenAnotherOneIsClicked)
+{
+    AddManyLayers(200);
+    Open(List::Layers);
+    Click(layers, "Base");
+    Edit(false);
+    asked = moved = 0;
+    trees.Find(List::Layers, "many");
+    layers.verticalScrollBar()->setValue(70);
+    const QString top = TopOf(layers);
+    Click(layers, top);
+    Settle();
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(moved, 1);
+    EXPECT_EQ(trees.CurrentText(), top);
+    EXPECT_EQ(Lines(layers).size(), 200);
+    EXPECT_EQ(TopOf(layers), top) << "the list does not scroll";
 }
 
 TEST_F(LayerTreesFindTest, ShowLayerShowsALayerThatIsNotFound)

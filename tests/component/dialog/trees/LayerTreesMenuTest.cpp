@@ -237,6 +237,7 @@ TEST_F(LayerTreesMenuTest, ReportsADatabaseThatCannotSayWhetherANameMayChange)
     PressMenuKey(layers);
     EXPECT_EQ(user.Only().text, "locked");
     EXPECT_FALSE(QApplication::activePopupWidget());
+    EXPECT_THAT(layers.findChildren<QMenu*>(), IsEmpty());
 }
 
 TEST_F(LayerTreesMenuTest, AsksToDeleteOnTheDeleteKeyOnly)

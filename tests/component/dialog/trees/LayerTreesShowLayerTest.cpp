@@ -95,4 +95,16 @@ TEST_F(LayerTreesLoadTest, ShowsALayerInTheHiddenListWithoutLeavingTheCurrentNod
     EXPECT_EQ(trees.CurrentText(), "Rails");
 }
 
+TEST_F(LayerTreesLoadTest, AListIsPaintedAgainAfterTheHostPaintedNothingForAWhile)
+{
+    Open(List::Layers);
+    window.setUpdatesEnabled(false);
+    trees.ShowLayer(12);
+    window.setUpdatesEnabled(true);
+    EXPECT_TRUE(layers.updatesEnabled());
+    layers.setUpdatesEnabled(false);
+    trees.ShowLayer(11);
+    EXPECT_FALSE(layers.updatesEnabled());
+}
+
 } // namespace Orvane

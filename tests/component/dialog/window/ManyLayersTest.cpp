@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/EditorFixture.h"
+#include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IManyLayers.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QTreeView>
 #include <QtTest>
@@ -206,6 +208,21 @@ TEST_F(ManyLayers, AreNotDeletedIfTheyAreSystemLayersOfWhichTheUserIsTold)
     EXPECT_EQ(Find<QTreeView>("tvLayers2").model()->rowCount(), 2);
 }
 
+TEST_F(ManyLayers, KeepTheEditsOfTheSystemLayerThatIsNotDeleted)
+{
+    Choose({"Boundary", "Rivers", "Roads"});
+    Click("chkSnapRequired");
+    const qint16 edited = CheckState("chkSnapRequired");
+    MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdDeleteLayer");
+    EXPECT_EQ(Find<QTreeView>("tvLayers2").model()->rowCount(), 2);
+    EXPECT_EQ(Selected(), 1);
+    EXPECT_TRUE(CanApply());
+    EXPECT_EQ(CheckState("chkSnapRequired"), edited);
+    Click("cmdApply");
+    EXPECT_EQ(Stored(4, "SnapRequired") != 0, edited != 0);
+}
+
 TEST_F(ManyLayers, OfGroupsAndLayersCountOnce)
 {
     ClickTab(1);
@@ -220,6 +237,82 @@ TEST_F(ManyLayers, OfGroupsAndLayersCountOnce)
     Click("cmdApply");
     EXPECT_EQ(Calls("Update"), 2);
     EXPECT_EQ(Calls("RedrawMap"), 1);
+}
+
+/// Asks about each layer; the user answers No for Rivers.
+class RefusingClient : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+
+private:
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override
+    {
+        for (const qint32 layerID : layerIDs)
+            IStyleEditorClient_DeleteLayer(layerID);
+    }
+    void IStyleEditorClient_DeleteLayer(qint32 layerID) override
+    {
+        if (layerID != 2)
+            ForwardingClient::IStyleEditorClient_DeleteLayer(layerID);
+    }
+};
+
+class ManyLayersOfAHostThatKeepsOne : public ManyLayers
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        ManyLayers::SetUp();
+    }
+
+    RefusingClient client{host};
+};
+
+TEST_F(ManyLayersOfAHostThatKeepsOne, LeaveTheListAndItsEditsStay)
+{
+    ChooseThree();
+    Click("chkSnapRequired");
+    Click("cmdDeleteLayer");
+    EXPECT_EQ(Find<QTreeView>("tvLayers2").model()->rowCount(), 2);
+    EXPECT_EQ(Selected(), 1);
+    EXPECT_TRUE(CanApply());
+}
+
+class FailingOneByOne : public FailingClient
+{
+public:
+    using FailingClient::FailingClient;
+
+private:
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override
+    {
+        for (const qint32 layerID : layerIDs)
+            IStyleEditorClient_DeleteLayer(layerID);
+    }
+};
+
+class ManyLayersOfAFailingHost : public ManyLayers
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        ManyLayers::SetUp();
+    }
+
+    FailingOneByOne client{host, {"DeleteLayer", 2, RunTimeError(ErrorNumber::DatabaseLocked, "locked")}};
+};
+
+TEST_F(ManyLayersOfAFailingHost, LeaveTheListIfTheyWereDeletedBeforeTheError)
+{
+    ChooseThree();
+    MessageBoxRobot user{BoxKey::Enter};
+    Click("cmdDeleteLayer");
+    EXPECT_EQ(user.Only().text, "locked");
+    EXPECT_EQ(Find<QTreeView>("tvLayers2").model()->rowCount(), 3);
+    EXPECT_EQ(Selected(), 2);
 }
 
 class ManyLayersAtOnce : public ManyLayers
