@@ -17,20 +17,14 @@ const QString HostKitName = QStringLiteral("OrvaneHostKitTexts");
 const QString OwnName = QStringLiteral("OrvaneQgisTexts");
 
 // Those of classes that are no QObjects; the others begin with the namespace.
-constexpr std::array PlainContexts{"ChangeStep",        "ConflictBox",
-                                   "FileReplacement",   "FillPatterns",
-                                   "LayerDeletion",     "LayerFactory",
-                                   "LayerList",         "LayerSchemes",
-                                   "LayerSteps",        "LayerStore",
-                                   "LongWork",          "ProjectMirror",
-                                   "ProjectSchemes",    "ProjectStyles",
-                                   "QgisClient",        "RefusalText",
-                                   "SchemeDocument",    "SchemeFile",
-                                   "SchemeSteps",       "SchemeTables",
-                                   "StandardClient",    "StandardShellServices",
-                                   "StyleEditorPlugin", "TextPrompt",
-                                   "ThemeChoice",       "ThemeStep",
-                                   "TracingLibrary",    "UndoHistory"};
+constexpr std::array PlainContexts{
+    "ChangeStep",        "ConflictBox",    "FileReplacement",  "FillPatterns",      "LayerDeletion",
+    "LayerFactory",      "LayerList",      "LayerSchemes",     "LayerSteps",        "LayerStore",
+    "LongWork",          "ProjectMirror",  "ProjectSchemes",   "ProjectStyles",     "QgisClient",
+    "RefusalText",       "SchemeDocument", "SchemeFile",       "SchemeFileDialogs", "SchemeReport",
+    "SchemeSteps",       "SchemeTables",   "SchemeValueTexts", "StandardClient",    "StandardShellServices",
+    "StyleEditorPlugin", "TextPrompt",     "ThemeChoice",      "ThemeStep",         "TracingLibrary",
+    "UndoHistory"};
 
 /// Asks the host kit's translator, which answers any context, for own texts only.
 class OwnTranslator : public QTranslator

@@ -189,6 +189,7 @@ void GoBack(SessionWorld& world, std::vector<Paper::Step>& from, std::vector<Pap
     const bool isDone = Paper::IsPresent(present, world.paper);
     if (isDone && (!step.isOfSchemes || world.failed.isEmpty())) {
         Paper::Set(undoes ? step.before : step.after, world.paper);
+        world.ownModes = world.ownModesBefore = undoes ? step.ownBefore : step.ownAfter;
         world.AdoptLocks();
         to.push_back(std::move(step));
     } else {
