@@ -32,11 +32,17 @@ ProjectSession::ProjectSession(QgsProject& project)
     m_mirror.SetTeller([this](const QString& message) { emit Failed(message); });
     ListenToProject();
     ListenToClient();
-    m_mirror.ReadAll();
+    ReadProject();
     TellStyles();
 }
 
 ProjectSession::~ProjectSession() = default;
+
+void ProjectSession::ReadProject()
+{
+    m_mirror.ReadAll();
+    m_client.Notes().Read();
+}
 
 void ProjectSession::SetStartupFile(const QString& path)
 {
@@ -125,7 +131,7 @@ void ProjectSession::ListenToClient()
     connect(&told, &HostNotifications::LayersChanged, this, [this](const QSet<qint32>& layerIDs) {
         Guard([&] {
             if (!m_client.IsApplying())
-                Show(m_mirror.Write(layerIDs, ProjectMirror::Meant::WholeRows));
+                WriteLayers(layerIDs);
         });
     });
     connect(&told, &HostNotifications::LayerRenamed, this, [this](qint32 layerID, const QString& name) {
@@ -139,6 +145,13 @@ void ProjectSession::ListenToClient()
     connect(
         &told, &HostNotifications::SchemesChanged, this, [this] { Guard([this] { m_schemes.Write(); }); });
     connect(&told, &HostNotifications::StepNotRecorded, this, &ProjectSession::Failed);
+}
+
+void ProjectSession::WriteLayers(const QSet<qint32>& layerIDs)
+{
+    MirrorChanges changes;
+    m_client.Notes().WriteAfter([&] { changes = m_mirror.Write(layerIDs, ProjectMirror::Meant::WholeRows); });
+    Show(changes);
 }
 
 void ProjectSession::ReadChanges(const QSet<QString>& layers, bool isTree)
@@ -181,7 +194,7 @@ void ProjectSession::ReadOtherProject()
     m_client.History().Clear();
     m_mirror.Forget();
     m_carriedStyles.clear();
-    m_mirror.ReadAll();
+    ReadProject();
     ReadSchemes();
     TellStyles();
     m_client.RefreshEditors();
@@ -214,6 +227,7 @@ void ProjectSession::SaveOwnValues()
     for (QgsMapLayer* layer : m_project.mapLayers())
         LayerOwnValues::CarryToStyles(*layer, m_carriedStyles);
     m_schemes.Write();
+    m_client.Notes().Write();
 }
 
 void ProjectSession::TellStyles()

@@ -78,6 +78,8 @@ private:
     void Show(const MirrorChanges& changes);
     void TellDropped(const QStringList& removed);
     void ReadChanges(const QSet<QString>& layers, bool isTree);
+    void WriteLayers(const QSet<qint32>& layerIDs);
+    void ReadProject();
     void ReadOtherProject();
     void ReadStartupSchemes();
     void ApplySchemeAtOpening();

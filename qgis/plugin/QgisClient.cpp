@@ -31,6 +31,11 @@ QgsMapLayer* MakeScratchLayer()
         QStringLiteral("memory"));
 }
 
+LayerDeletion WhatGoes(LayerFactory& rows, const std::vector<qint32>& layerIDs)
+{
+    return layerIDs.size() == 1 ? rows.WhatGoes(layerIDs.front()) : rows.WhatGoes(layerIDs);
+}
+
 /// While it exists, the client is busy.
 using Running = QScopedValueRollback<int>;
 
@@ -38,9 +43,9 @@ using Running = QScopedValueRollback<int>;
 
 QgisClient::QgisClient(
     ILayerStore& store, IShellServices& services, QgsProject& project, ProjectMirror& mirror)
-    : StandardClient(store, services), m_project(project), m_mirror(mirror), m_commands{MakeScratchLayer, {}}
+    : StandardClient(store, services), m_project(project), m_mirror(mirror),
+      m_notes(project, store), m_commands{MakeScratchLayer, {}}
 {
-    SetKeepsNotes(false); // the store is not saved, the project is
     SetAppliesSchemeAtOpening(true); // ProjectSession does
 }
 
@@ -117,7 +122,7 @@ void QgisClient::IStyleEditorClient_RedrawMap()
     const QSet<qint32> changed = std::exchange(m_changed, {});
     std::exception_ptr error;
     try {
-        m_mirror.Write(changed, ProjectMirror::Meant::Changes);
+        m_notes.WriteAfter([&] { m_mirror.Write(changed, ProjectMirror::Meant::Changes); });
     } catch (...) {
         error = std::current_exception(); // the step ends with what was taken back
     }
@@ -169,18 +174,46 @@ void QgisClient::ISchemeManager_ManageSchemes(QWidget* form)
 
 void QgisClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
 {
+    Remove({layerID});
+}
+
+void QgisClient::IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs)
+{
+    Remove(layerIDs);
+}
+
+void QgisClient::Remove(const std::vector<qint32>& layerIDs)
+{
     const Running running(m_running, m_running + 1);
-    QgsMapLayer* layer = m_mirror.Layer(layerID);
-    if (layer && m_commands.removeLayer)
-        m_commands.removeLayer(*layer);
-    else if (layer)
-        RemoveAfterQuestion(*layer, layerID);
-    if (m_mirror.Layer(layerID))
+    QList<QgsMapLayer*> layers;
+    for (const qint32 layerID : layerIDs) {
+        if (QgsMapLayer* layer = m_mirror.Layer(layerID))
+            layers << layer;
+    }
+    if (!layers.isEmpty())
+        m_commands.removeLayers ? m_commands.removeLayers(layers) : RemoveAfterQuestion(layers);
+    ReadRemoved(layerIDs);
+}
+
+void QgisClient::ReadRemoved(const std::vector<qint32>& layerIDs)
+{
+    std::vector<qint32> removed;
+    removed.reserve(layerIDs.size());
+    QSet<QString> texts;
+    for (const qint32 layerID : layerIDs) {
+        if (m_mirror.Layer(layerID))
+            continue;
+        removed.push_back(layerID);
+        texts.insert(m_mirror.TextOf(layerID));
+    }
+    if (removed.empty())
         return;
-    m_mirror.ReadLayers({m_mirror.TextOf(layerID)});
+    m_mirror.ReadLayers(texts);
     InvalidateLayerNames();
-    m_changed.remove(layerID);
-    emit Notifications().LayerDeleted(layerID);
+    for (const qint32 layerID : removed)
+        m_changed.remove(layerID);
+    for (const qint32 layerID : removed)
+        emit Notifications().LayerDeleted(layerID);
 }
 
 double QgisClient::IMapScale_CurrentScale() const
@@ -188,12 +221,22 @@ double QgisClient::IMapScale_CurrentScale() const
     return m_commands.mapScale ? m_commands.mapScale() : 0;
 }
 
-void QgisClient::RemoveAfterQuestion(QgsMapLayer& layer, qint32 layerID)
+void QgisClient::RemoveAfterQuestion(const QList<QgsMapLayer*>& layers)
 {
     LayerNames names(LayerDatabase());
     LayerFactory rows(LayerDatabase(), names);
-    if (rows.CanDelete(layerID) && ConfirmDeletion(rows.WhatGoes(layerID)))
-        m_project.removeMapLayer(&layer);
+    QList<QgsMapLayer*> removed;
+    std::vector<qint32> layerIDs;
+    layerIDs.reserve(size_t(layers.size()));
+    for (QgsMapLayer* layer : layers) {
+        const qint32 layerID = m_mirror.IDOf(*layer);
+        if (!rows.CanDelete(layerID))
+            continue;
+        removed << layer;
+        layerIDs.push_back(layerID);
+    }
+    if (!removed.isEmpty() && ConfirmDeletion(WhatGoes(rows, layerIDs)))
+        m_project.removeMapLayers(removed);
 }
 
 } // namespace Orvane

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "hostkit/StandardClient.h"
+#include "qgis/project/ProjectNotes.h"
 
 #include <OrvaneShellLib/IMapScale.h>
 
+#include <QList>
 #include <QPointer>
 #include <QSet>
 
@@ -23,8 +25,9 @@ class ProjectMirror;
 struct QgisCommands {
     /// Makes a layer, in the project or not yet; returns nullptr if the user cancelled.
     std::function<QgsMapLayer*()> makeLayer;
-    /// Removes the layer from the project, unless the user does not want it. Empty: the client asks itself.
-    std::function<void(QgsMapLayer& layer)> removeLayer;
+    /// Removes the layers, one or several, from the project, unless the user does not want it. Empty: the
+    /// client asks itself.
+    std::function<void(const QList<QgsMapLayer*>& layers)> removeLayers;
     /// The denominator of the scale of the map that is shown. Empty: none is.
     std::function<double()> mapScale = {};
 };
@@ -45,6 +48,9 @@ public:
     /// The commands replace those that need no QGIS window.
     void SetCommands(QgisCommands commands) { m_commands = std::move(commands); }
 
+    /// The notes of the editors, which each step writes to the project.
+    ProjectNotes& Notes() { return m_notes; }
+
     /// True while LayersChanged names layers that were written already.
     bool IsApplying() const { return m_isApplying; }
     /// True while a call is running that writes layers, or waits for the user.
@@ -63,7 +69,8 @@ protected:
     void IStyleEditorClient_RenameLayer(qint32 layerID, const QString& name) override;
     void IStyleEditorClient_RenameGroup(qint32 groupID, const QString& name) override;
     void IStyleEditorClient_LoadScheme(const QString& name) override;
-    /// Writes the changed layers, and passes on what that raises; nothing of the operation is left then.
+    /// Writes the changed layers and the notes, and passes on what that raises; nothing of the operation is
+    /// left then.
     void IStyleEditorClient_RedrawMap() override;
     PromptAnswer IStyleEditorClient_PromptText(const PromptRequest& request) override;
     ConflictChoice IConflictQuestion_AskAboutConflicts(
@@ -72,14 +79,18 @@ protected:
     std::vector<RendererStyle> IStyleEditorClient_RendererStyles() const override;
     qint32 IStyleEditorClient_CreateLayer() override;
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
+    void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override;
     double IMapScale_CurrentScale() const override;
     void ISchemeManager_ManageSchemes(QWidget* form) override;
 
 private:
-    void RemoveAfterQuestion(QgsMapLayer& layer, qint32 layerID);
+    void Remove(const std::vector<qint32>& layerIDs);
+    void ReadRemoved(const std::vector<qint32>& layerIDs);
+    void RemoveAfterQuestion(const QList<QgsMapLayer*>& layers);
 
     QgsProject& m_project;
     ProjectMirror& m_mirror;
+    ProjectNotes m_notes;
     QgisCommands m_commands;
     QPointer<EditorDock> m_dock;
     QPointer<QWidget> m_form;

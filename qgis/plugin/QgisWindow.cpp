@@ -6,9 +6,12 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QItemSelection>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSet>
 #include <qgisinterface.h>
+#include <qgslayertree.h>
 #include <qgslayertreemodel.h>
 #include <qgslayertreeview.h>
 #include <qgsmapcanvas.h>
@@ -79,11 +82,29 @@ QgsMapLayer* MakeLayerInQgis(QgisInterface& qgis)
     return made;
 }
 
-void RemoveLayerInQgis(QgisInterface& qgis, QgsMapLayer& layer)
+QItemSelection RowsOf(QgsLayerTreeView& view, const QList<QgsMapLayer*>& layers)
+{
+    QItemSelection rows;
+    for (const QgsMapLayer* layer : layers) {
+        if (QgsLayerTreeLayer* node = view.layerTreeModel()->rootGroup()->findLayer(layer->id()))
+            rows.select(view.node2index(node), view.node2index(node));
+    }
+    return rows;
+}
+
+template <typename Layers> QSet<QgsMapLayer*> SetOf(const Layers& layers)
+{
+    return {layers.begin(), layers.end()};
+}
+
+// The action removes what is selected in the panel, after one question.
+void RemoveLayersInQgis(QgisInterface& qgis, const QList<QgsMapLayer*>& layers)
 {
     QAction* remove = ActionOf(qgis, "mActionRemoveLayer");
-    qgis.setActiveLayer(&layer);
-    if (remove && qgis.layerTreeView()->selectedLayers() == QList<QgsMapLayer*>{&layer})
+    QgsLayerTreeView& view = *qgis.layerTreeView();
+    qgis.setActiveLayer(layers.first());
+    view.selectionModel()->select(RowsOf(view, layers), QItemSelectionModel::ClearAndSelect);
+    if (remove && SetOf(view.selectedLayers()) == SetOf(layers))
         remove->trigger();
 }
 
@@ -130,7 +151,7 @@ QgisCommands QgisWindow::Commands(QgisInterface& qgis)
 {
     return {
         [&qgis] { return MakeLayerInQgis(qgis); },
-        [&qgis](QgsMapLayer& layer) { RemoveLayerInQgis(qgis, layer); },
+        [&qgis](const QList<QgsMapLayer*>& layers) { RemoveLayersInQgis(qgis, layers); },
         [&qgis] { return qgis.mapCanvas()->scale(); }};
 }
 

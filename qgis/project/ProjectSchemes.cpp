@@ -4,6 +4,7 @@
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "hostkit/schemes/SchemeTables.h"
+#include "qgis/project/ProjectScope.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -25,7 +26,6 @@ namespace Orvane {
 namespace {
 
 constexpr int SchemesVersion = 2; // a program that knows only version 1 would drop what came later
-const QString Scope = QStringLiteral("Orvane");
 const QString Entry = QStringLiteral("LayerSchemes");
 const QString UnreadEntry = QStringLiteral("LayerSchemesUnread");
 
@@ -178,7 +178,7 @@ QStringList OrderOf(std::vector<SchemeDetails> schemes)
 void ProjectSchemes::Read()
 {
     Clear();
-    m_unread = m_project.readEntry(Scope, Entry);
+    m_unread = m_project.readEntry(ProjectScope, Entry);
     if (!m_unread.isEmpty())
         Store(m_unread.toUtf8());
     m_unread.clear();
@@ -186,7 +186,7 @@ void ProjectSchemes::Read()
 
 bool ProjectSchemes::AreKept() const
 {
-    return !m_project.readEntry(Scope, Entry).isEmpty();
+    return !m_project.readEntry(ProjectScope, Entry).isEmpty();
 }
 
 void ProjectSchemes::Write()
@@ -196,8 +196,8 @@ void ProjectSchemes::Write()
         return;
     KeepUnread();
     const QString text = QString::fromUtf8(SchemesText(m_store, tables));
-    if (text != m_project.readEntry(Scope, Entry))
-        m_project.writeEntry(Scope, Entry, text);
+    if (text != m_project.readEntry(ProjectScope, Entry))
+        m_project.writeEntry(ProjectScope, Entry, text);
 }
 
 void ProjectSchemes::KeepUnread()
@@ -205,9 +205,9 @@ void ProjectSchemes::KeepUnread()
     if (m_unread.isEmpty())
         return;
     QString free = UnreadEntry;
-    for (int number = 2; !m_project.readEntry(Scope, free).isEmpty(); ++number)
+    for (int number = 2; !m_project.readEntry(ProjectScope, free).isEmpty(); ++number)
         free = UnreadEntry + QString::number(number);
-    m_project.writeEntry(Scope, free, std::exchange(m_unread, {}));
+    m_project.writeEntry(ProjectScope, free, std::exchange(m_unread, {}));
 }
 
 void ProjectSchemes::Clear()

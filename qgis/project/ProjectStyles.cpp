@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/project/ProjectStyles.h"
 
+#include "qgis/project/ProjectScope.h"
+
 #include <QSet>
 #include <qgsmaplayer.h>
 #include <qgsmaplayerstylemanager.h>
@@ -13,7 +15,6 @@ namespace Orvane {
 
 namespace {
 
-const QString StylesScope = QStringLiteral("Orvane");
 const QString StylesEntry = QStringLiteral("RendererStyles");
 constexpr int MostNamedLayers = 10;
 const QString EnglishDefault = QStringLiteral("default");
@@ -101,7 +102,7 @@ void ProjectStyles::Rename(const QString& from, const QString& to)
 
 void ProjectStyles::Reset()
 {
-    m_names = m_project.readListEntry(StylesScope, StylesEntry);
+    m_names = m_project.readListEntry(ProjectScope, StylesEntry);
 }
 
 qint32 ProjectStyles::NumberOf(const QString& name)
@@ -126,7 +127,7 @@ bool ProjectStyles::IsUsed(const QString& name) const
 void ProjectStyles::Keep()
 {
     const QgsProjectDirtyBlocker unchanged(&m_project);
-    m_project.writeEntry(StylesScope, StylesEntry, m_names);
+    m_project.writeEntry(ProjectScope, StylesEntry, m_names);
 }
 
 } // namespace Orvane

@@ -26,7 +26,7 @@ public:
             AddLayer(ToInt32(layer.Get("LayerID")), ToTextOrNone(layer.Get("Name")));
         m_session = std::make_unique<ProjectSession>(m_project);
         m_session->Client().SetCommands(
-            {&MakeLayer, [this](QgsMapLayer& layer) { m_project.removeMapLayer(&layer); }});
+            {&MakeLayer, [this](const QList<QgsMapLayer*>& layers) { m_project.removeMapLayers(layers); }});
         m_session->Store().Execute("DELETE FROM Layers");
         HostTests::FillStore(m_session->Store(), contents);
     }

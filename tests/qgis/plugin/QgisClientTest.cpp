@@ -7,7 +7,9 @@
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
 
@@ -190,7 +192,8 @@ TEST_F(QgisClientTest, ACancelledNewLayerIsNone)
 TEST_F(QgisClientTest, ADeletedLayerLeavesTheProject)
 {
     const qint32 layerID = IDOf(roads);
-    session.Client().SetCommands({{}, [this](QgsMapLayer& layer) { project.removeMapLayer(&layer); }});
+    session.Client().SetCommands(
+        {{}, [this](const QList<QgsMapLayer*>& layers) { project.removeMapLayers(layers); }});
     Host().DeleteLayer(layerID);
     EXPECT_EQ(project.count(), 0);
     EXPECT_FALSE(StoredRows::Read(session.Store(), layerID));
@@ -198,10 +201,28 @@ TEST_F(QgisClientTest, ADeletedLayerLeavesTheProject)
 
 TEST_F(QgisClientTest, ALayerThatTheUserKeepsStays)
 {
-    session.Client().SetCommands({{}, [](QgsMapLayer&) {}});
+    session.Client().SetCommands({{}, [](const QList<QgsMapLayer*>&) {}});
     Host().DeleteLayer(IDOf(roads));
     EXPECT_EQ(project.count(), 1);
     EXPECT_EQ(ToText(Stored(roads, "Name")), "Roads");
+}
+
+TEST_F(QgisClientTest, SeveralLayersLeaveTheProjectAfterOneQuestion)
+{
+    QgsVectorLayer* lakes = AddLayer("Lakes");
+    AddLayer("Woods");
+    Settle();
+    int questions = 0;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        ++questions;
+        box->button(QMessageBox::Yes)->click();
+    });
+    dynamic_cast<IManyLayers&>(Host()).DeleteLayers({IDOf(roads), IDOf(lakes)});
+    EXPECT_EQ(questions, 1);
+    EXPECT_EQ(project.count(), 1);
+    EXPECT_EQ(StoredList::Layers(session.Store()).size(), 1u);
 }
 
 TEST_F(QgisClientTest, UndoesARenamingInTheWindowForSchemesAndIsBusyMeanwhile)

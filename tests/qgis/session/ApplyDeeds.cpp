@@ -186,9 +186,13 @@ void GoBack(SessionWorld& world, std::vector<Paper::Step>& from, std::vector<Pap
     Paper::Step step = from.back();
     from.pop_back();
     const auto& present = undoes ? step.after : step.before;
-    const bool isDone = Paper::IsPresent(present, world.paper);
+    const bool changesOwn = step.ownBefore != step.ownAfter;
+    const bool isDone = Paper::IsPresent(present, world.paper)
+        && (!changesOwn || world.ownModes == (undoes ? step.ownAfter : step.ownBefore));
     if (isDone && (!step.isOfSchemes || world.failed.isEmpty())) {
         Paper::Set(undoes ? step.before : step.after, world.paper);
+        if (changesOwn)
+            world.ownModes = world.ownModesBefore = undoes ? step.ownBefore : step.ownAfter;
         world.AdoptLocks();
         to.push_back(std::move(step));
     } else {

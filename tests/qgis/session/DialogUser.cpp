@@ -3,10 +3,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTreeView>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace Orvane::Testing {
 
@@ -62,20 +66,54 @@ QStringList DialogUser::Texts(int tab)
 
 bool DialogUser::ClickNode(int tab, int row)
 {
+    return ClickNode(tab, row, Qt::NoModifier);
+}
+
+bool DialogUser::ClickNode(int tab, int row, Qt::KeyboardModifiers modifiers)
+{
     QTreeView& tree = Tree(tab);
     const QModelIndex index = tree.model()->index(row, 0);
     if (!index.isValid() || !tree.isVisible())
         return false;
     tree.scrollTo(index);
-    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(index).center());
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, modifiers, tree.visualRect(index).center());
     QCoreApplication::processEvents();
     return true;
 }
 
-QString DialogUser::CurrentText(int tab)
+void DialogUser::ClickNodes(int tab, const std::vector<int>& rows)
 {
-    const QModelIndexList selected = Tree(tab).selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? QString() : selected.first().data().toString();
+    for (const int row : rows)
+        ClickNode(tab, row, row == rows.front() ? Qt::NoModifier : Qt::ControlModifier);
+}
+
+bool DialogUser::Pick(int tab, const QString& entry)
+{
+    QTreeView& tree = Tree(tab);
+    const QPoint place = tree.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, tree.mapToGlobal(place));
+    QApplication::sendEvent(&tree, &event);
+    QCoreApplication::processEvents();
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu)
+        throw std::runtime_error("no menu");
+    const QList<QAction*> entries = menu->actions();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&entry](const QAction* action) {
+        return action->text() == entry && action->isEnabled();
+    });
+    if (found != entries.end())
+        menu->setActiveAction(*found);
+    QTest::keyClick(menu, found == entries.end() ? Qt::Key_Escape : Qt::Key_Return);
+    QCoreApplication::processEvents();
+    return found != entries.end();
+}
+
+QStringList DialogUser::ChosenTexts(int tab)
+{
+    QStringList texts;
+    for (const QModelIndex& index : Tree(tab).selectionModel()->selectedIndexes())
+        texts << index.data().toString();
+    return texts;
 }
 
 bool DialogUser::CanEdit()

@@ -12,6 +12,7 @@
 #include <optional>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 class QTreeView;
 
@@ -40,11 +41,15 @@ public:
     void ClickTab(int tab);
     /// Selects the n-th group or layer of the shown list. False without one.
     bool ClickNode(int tab, int row);
+    /// Chooses these groups or layers of the shown list together, with Ctrl.
+    void ClickNodes(int tab, const std::vector<int>& rows);
+    /// Picks the entry from the menu of the shown list. False if it is missing or disabled.
+    bool Pick(int tab, const QString& entry);
     int Rows(int tab);
     /// The texts of the rows: of the groups, or of the layers.
     QStringList Texts(int tab);
-    /// The text of the current node.
-    QString CurrentText(int tab);
+    /// The texts of the chosen nodes.
+    QStringList ChosenTexts(int tab);
     bool CanEdit();
     /// Whether the box is ticked; nothing for "various".
     std::optional<bool> FlagOf(const char* name);
@@ -55,6 +60,7 @@ public:
 
 private:
     QTreeView& Tree(int tab);
+    bool ClickNode(int tab, int row, Qt::KeyboardModifiers modifiers);
     void Answer(QMessageBox& box);
 
     std::function<QWidget*()> m_form;

@@ -40,13 +40,18 @@ struct Layer {
 
 using Layers = std::map<qint32, Layer>;
 
+/// The modes of layers that "Show Only These" has hidden or shown, as they were before: 0, 1 or 2.
+using OwnModes = std::map<qint32, double>;
+
 /// What an operation has changed.
 struct Step {
     std::map<qint32, Row> before; ///< the changed columns only
     std::map<qint32, Row> after;
     bool isOfSchemes = false; ///< changed schemes too, which are not on the paper
+    OwnModes ownBefore{};
+    OwnModes ownAfter{};
 
-    bool IsEmpty() const { return before.empty() && !isOfSchemes; }
+    bool IsEmpty() const { return before.empty() && !isOfSchemes && ownBefore == ownAfter; }
 };
 
 /// The columns in which the layers of both differ.

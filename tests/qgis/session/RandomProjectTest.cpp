@@ -28,7 +28,7 @@ class RandomProject : public testing::TestWithParam<unsigned>
 protected:
     RandomProject()
     {
-        for (const auto& some : {DialogDeeds(), StyleDeeds(), ProjectDeeds()})
+        for (const auto& some : {DialogDeeds(), ShowingDeeds(), StyleDeeds(), ProjectDeeds()})
             m_deeds.insert(m_deeds.end(), some.begin(), some.end());
         for (const Deed& deed : m_deeds)
             m_weight += deed.weight;

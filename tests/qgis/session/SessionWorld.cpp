@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qgis/session/SessionWorld.h"
 
+#include "hostkit/common/MapNotes.h"
 #include "qgis/session/SampleLayers.h"
 
 #include <OrvaneShellLib/IStyleEditor.h>
@@ -10,7 +11,9 @@
 #include <qgsrenderer.h>
 #include <qgsvectorlayer.h>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace Orvane::Testing {
 
@@ -51,7 +54,8 @@ SessionWorld::SessionWorld(unsigned seed)
 {
     session.ReadSchemes();
     session.Client().SetSettingsFile(folder.filePath("settings.ini"));
-    session.Client().SetCommands({{}, [this](QgsMapLayer& layer) { project.removeMapLayer(&layer); }});
+    session.Client().SetCommands(
+        {{}, [this](const QList<QgsMapLayer*>& layers) { project.removeMapLayers(layers); }});
     component.Library().Initialise(&session.Client());
     component.Library().NewStyleEditor(EditorID)->Visible(true);
     user.ClickTab(tab);
@@ -107,11 +111,13 @@ QgsVectorLayer* SessionWorld::AnyPlainLayer()
 
 std::vector<qint32> SessionWorld::Members()
 {
-    const QString text = user.CurrentText(tab);
+    const QStringList texts = user.ChosenTexts(tab);
     std::vector<qint32> members;
     for (const auto& [id, layer] : paper) {
-        const bool isNamed = tab == 2 && layer.row.at("Name") == text;
-        if (isNamed || (tab == 1 && IsBelow(NodeOf(id), text)))
+        const bool isMember = std::any_of(texts.begin(), texts.end(), [&, id = id](const QString& text) {
+            return tab == 2 ? paper.at(id).row.at("Name") == text : IsBelow(NodeOf(id), text);
+        });
+        if (isMember)
             members.push_back(id);
     }
     return members;
@@ -159,6 +165,8 @@ void SessionWorld::NoteStep(const Paper::Layers& before, bool isOfSchemes)
 {
     Paper::Step step = Paper::StepBetween(before, paper);
     step.isOfSchemes = isOfSchemes;
+    step.ownBefore = std::exchange(ownModesBefore, ownModes);
+    step.ownAfter = ownModes;
     if (step.IsEmpty())
         return;
     done.push_back(std::move(step));
@@ -276,6 +284,7 @@ void SessionWorld::CheckSavedProject()
         saved[id].row["Priority"] = {};
     }
     const QStringList differences = Paper::Differences(expected, saved);
+    EXPECT_EQ(MapNotes::ReadAll(other.Store()), MapNotes::ReadAll(session.Store()));
     EXPECT_TRUE(differences.isEmpty()) << "saved and opened:\n" << qPrintable(differences.join('\n'));
 }
 

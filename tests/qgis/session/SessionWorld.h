@@ -49,7 +49,7 @@ public:
     // The paper.
 
     Paper::Layer& PaperOf(QgsMapLayer& layer) { return paper.at(IDOf(layer)); }
-    /// The layers that the current node stands for.
+    /// The layers that the chosen nodes stand for.
     std::vector<qint32> Members();
     /// Takes these columns over from the store, where the rule is QGIS's own.
     void Adopt(const std::vector<std::string>& columns);
@@ -85,6 +85,8 @@ public:
     std::vector<Paper::Step> done;
     std::vector<Paper::Step> undone;
     std::map<QString, Paper::Layers> schemes;
+    Paper::OwnModes ownModes;
+    Paper::OwnModes ownModesBefore; ///< the operation
     std::map<std::string, double> edits; ///< of the current node, by column
     bool isEdited = false; ///< edits wait in the dialog
     bool mayFail = false; ///< a message is expected in this operation
@@ -108,6 +110,8 @@ struct Deed {
 
 /// What the user does in the dialog.
 std::vector<Deed> DialogDeeds();
+/// What the user shows, hides and chooses together.
+std::vector<Deed> ShowingDeeds();
 /// What happens to the layers' looks and properties in QGIS.
 std::vector<Deed> StyleDeeds();
 /// What happens to the project and its tree in QGIS.
