@@ -19,7 +19,6 @@
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 
-#include <QApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -334,8 +333,7 @@ bool StandardClient::ConfirmDeletion(const LayerDeletion& deletion)
 
 QWidget* StandardClient::DialogParent() const
 {
-    QWidget* active = QApplication::activeWindow();
-    return active ? active : m_parts->windows.MainWindow();
+    return m_parts->windows.FrontWindow();
 }
 
 ILayerStore& StandardClient::LayerDatabase() const

@@ -54,7 +54,7 @@ LayerSteps::~LayerSteps() = default;
 
 QWidget* LayerSteps::Window() const
 {
-    return m_windows.MainWindow();
+    return m_windows.FrontWindow();
 }
 
 void LayerSteps::Record(const std::function<QString()>& act, ChangeStep::Joins joins)

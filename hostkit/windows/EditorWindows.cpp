@@ -4,6 +4,7 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 
+#include <QApplication>
 #include <QWindow>
 
 #include <algorithm>
@@ -20,6 +21,16 @@ void RefreshAll(QWidget& form)
 }
 
 } // namespace
+
+QWidget* EditorWindows::FrontWindow() const
+{
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const auto last = std::find_if(m_forms.rbegin(), m_forms.rend(), [](const QPointer<QWidget>& form) {
+        return form && form->isVisible();
+    });
+    return last == m_forms.rend() ? MainWindow() : (*last)->window();
+}
 
 void EditorWindows::Show(QWidget* form)
 {

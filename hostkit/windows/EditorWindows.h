@@ -18,6 +18,9 @@ public:
     /// The window in front of which forms are shown; nullptr for none. Not owned.
     void SetMainWindow(QWidget* mainWindow) { m_mainWindow = mainWindow; }
     QWidget* MainWindow() const { return m_mainWindow; }
+    /// The window that the user works in: the active one. Just after a dialog has closed none is active; then
+    /// it is that of the editor shown last, or else the main window. nullptr for none.
+    QWidget* FrontWindow() const;
 
     /// Shows the form as a window, or brings it to the front, and gives it the keyboard focus unless it has
     /// the attribute Qt::WA_ShowWithoutActivating. A form within another widget stays there. The caller keeps

@@ -6,6 +6,9 @@
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
 #include <QWindow>
 
 #include <gmock/gmock.h>
@@ -52,6 +55,38 @@ TEST(EditorWindows, ShowAFormAsAWindow)
     EXPECT_TRUE(form.isVisible());
     EXPECT_TRUE(form.isWindow());
     EXPECT_THAT(windows.Shown(), ElementsAre(&form));
+}
+
+TEST(EditorWindows, TheEditorShownLastIsInFrontWhileNoWindowIsActive)
+{
+    QWidget mainWindow;
+    EditorWindows windows;
+    windows.SetMainWindow(&mainWindow);
+    EXPECT_EQ(windows.FrontWindow(), &mainWindow);
+    QWidget first;
+    QWidget last;
+    for (QWidget* form : {&first, &last}) {
+        form->setAttribute(Qt::WA_ShowWithoutActivating);
+        windows.Show(form);
+    }
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+    EXPECT_EQ(windows.FrontWindow(), &last);
+    last.hide();
+    EXPECT_EQ(windows.FrontWindow(), &first);
+}
+
+TEST(EditorWindows, TheActiveWindowIsInFront)
+{
+    QWidget mainWindow;
+    EditorWindows windows;
+    windows.SetMainWindow(&mainWindow);
+    QWidget form;
+    windows.Show(&form);
+    QDialog dialog(&mainWindow);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_EQ(windows.FrontWindow(), &dialog);
 }
 
 TEST(EditorWindows, StandBeforeTheMainWindowAndStayTheirOwners)
