@@ -118,8 +118,8 @@ public:
     /// read, which is fast for a few layers among many. Editors of a component with a contract before 1.5
     /// read everything.
     void RefreshEditors(const QSet<qint32>& layerIDs);
-    /// Whether editors may keep notes in the layer database. At first true. Set it to false if the notes would
-    /// be lost sooner than the layers that they are about; see LayerList::Notes.
+    /// Whether editors may keep notes in the layer database. At first true. Set it to false if the notes
+    /// would be lost sooner than the layers that they are about; see LayerList::Notes.
     void SetKeepsNotes(bool keeps);
     /// Forgets the layers' names and which layers differ from the scheme. Call it after layers were added or
     /// changed without this object.

@@ -39,7 +39,8 @@ TEST_F(MapNotesTest, AreReadAndReplacedTogether)
     EXPECT_EQ(MapNotes::ReadAll(Database()), Notes());
     EXPECT_FALSE(MapNotes::ReplaceAll(Database(), {}));
     MapNotes::Write(Database(), Key, QStringLiteral("text"));
-    const Notes wanted{{QStringLiteral("A"), QStringLiteral("a")}, {QStringLiteral("B"), QStringLiteral("b")}};
+    const Notes wanted{
+        {QStringLiteral("A"), QStringLiteral("a")}, {QStringLiteral("B"), QStringLiteral("b")}};
     EXPECT_TRUE(MapNotes::ReplaceAll(Database(), wanted));
     EXPECT_EQ(MapNotes::ReadAll(Database()), wanted);
     EXPECT_FALSE(MapNotes::ReplaceAll(Database(), wanted));
