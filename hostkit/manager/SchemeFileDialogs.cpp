@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/manager/SchemeFileDialogs.h"
 
+#include "hostkit/windows/OwnedDialog.h"
 #include "hostkit/windows/UserQuestions.h"
 #include "messages/NameInText.h"
 
@@ -32,23 +33,23 @@ QString FileNameFor(const QString& scheme)
 
 QString AskExportPath(QWidget* parent, const QString& scheme)
 {
-    QFileDialog dialog(
+    const OwnedDialog<QFileDialog> dialog(
         parent, SchemeFileTexts::tr("Export Scheme"), {}, SchemeFileTexts::tr("Layer schemes (*.json)"));
-    dialog.setObjectName(QStringLiteral("dlgExportScheme"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QLatin1String(FileSuffix));
-    dialog.selectFile(FileNameFor(scheme));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    dialog->setObjectName(QStringLiteral("dlgExportScheme"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QLatin1String(FileSuffix));
+    dialog->selectFile(FileNameFor(scheme));
+    return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
 }
 
 QString AskImportPath(QWidget* parent)
 {
-    QFileDialog dialog(
+    const OwnedDialog<QFileDialog> dialog(
         parent, SchemeFileTexts::tr("Import Scheme"), {},
         SchemeFileTexts::tr("Layer schemes (*.json);;All files (*)"));
-    dialog.setObjectName(QStringLiteral("dlgImportScheme"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    dialog->setObjectName(QStringLiteral("dlgImportScheme"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
 }
 
 bool AskToReplace(QWidget* parent, const QString& scheme)

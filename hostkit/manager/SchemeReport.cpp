@@ -2,6 +2,7 @@
 #include "hostkit/manager/SchemeReport.h"
 
 #include "hostkit/schemes/SchemeExchange.h"
+#include "hostkit/windows/OwnedDialog.h"
 #include "messages/NameInText.h"
 
 #include <QCoreApplication>
@@ -65,19 +66,19 @@ QString ReportDetails(const SchemeImport& import)
 
 AfterImport AskAfterImport(const SchemeImport& import, bool isCurrent, QWidget& window)
 {
-    QMessageBox box(
+    const OwnedDialog<QMessageBox> box(
         QMessageBox::Information, Texts::tr("Import Scheme"), ReportText(import), QMessageBox::NoButton,
         &window);
-    box.setObjectName(QStringLiteral("dlgSchemeReport"));
-    box.setTextFormat(Qt::PlainText);
-    box.setDetailedText(ReportDetails(import));
-    const QPushButton* change = box.addButton(
+    box->setObjectName(QStringLiteral("dlgSchemeReport"));
+    box->setTextFormat(Qt::PlainText);
+    box->setDetailedText(ReportDetails(import));
+    const QPushButton* change = box->addButton(
         isCurrent ? Texts::tr("&Use It Now") : Texts::tr("S&witch to It"), QMessageBox::AcceptRole);
-    QPushButton* stay = box.addButton(Texts::tr("&Keep Layers"), QMessageBox::RejectRole);
-    box.setDefaultButton(stay);
-    box.setEscapeButton(stay);
-    box.exec();
-    return box.clickedButton() == change ? AfterImport::Switch : AfterImport::Stay;
+    QPushButton* stay = box->addButton(Texts::tr("&Keep Layers"), QMessageBox::RejectRole);
+    box->setDefaultButton(stay);
+    box->setEscapeButton(stay);
+    box->exec();
+    return box.Exists() && box->clickedButton() == change ? AfterImport::Switch : AfterImport::Stay;
 }
 
 } // namespace Orvane

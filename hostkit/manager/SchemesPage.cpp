@@ -9,6 +9,7 @@
 #include "hostkit/manager/SchemesModel.h"
 #include "hostkit/manager/SchemesTable.h"
 #include "hostkit/undo/SchemeSteps.h"
+#include "hostkit/windows/OwnedDialog.h"
 #include "hostkit/windows/TextPrompt.h"
 #include "hostkit/windows/UserQuestions.h"
 #include "messages/NameInText.h"
@@ -235,13 +236,13 @@ void SchemesPage::EnableMoves(const QStringList& chosen)
 
 void SchemesPage::New()
 {
-    SchemePartsDialog dialog(tr("New Scheme"), WholeScheme, this);
-    dialog.AskForName();
-    dialog.AddRemark(tr("It gets the present values of the layers. The current scheme stays current."));
-    if (dialog.exec() != QDialog::Accepted)
+    const OwnedDialog<SchemePartsDialog> dialog(tr("New Scheme"), WholeScheme, this);
+    dialog->AskForName();
+    dialog->AddRemark(tr("It gets the present values of the layers. The current scheme stays current."));
+    if (dialog->exec() != QDialog::Accepted)
         return;
-    m_host.schemes.Add(dialog.Name(), dialog.Holds());
-    ChooseOnly(dialog.Name());
+    m_host.schemes.Add(dialog->Name(), dialog->Holds());
+    ChooseOnly(dialog->Name());
 }
 
 void SchemesPage::ChangeHolds()
@@ -251,10 +252,10 @@ void SchemesPage::ChangeHolds()
     if (row < 0)
         return;
     const SchemeParts held = m_model->DetailsAt(row).holds;
-    SchemePartsDialog dialog(tr("What \"%1\" Holds").arg(NameInText(name)), held, this);
-    dialog.AddRemark(tr("What is added gets the present values of the layers; what is taken away is lost."));
-    if (dialog.exec() == QDialog::Accepted && dialog.Holds() != held)
-        m_host.schemes.SetHolds(name, dialog.Holds());
+    const OwnedDialog<SchemePartsDialog> dialog(tr("What \"%1\" Holds").arg(NameInText(name)), held, this);
+    dialog->AddRemark(tr("What is added gets the present values of the layers; what is taken away is lost."));
+    if (dialog->exec() == QDialog::Accepted && dialog->Holds() != held)
+        m_host.schemes.SetHolds(name, dialog->Holds());
 }
 
 void SchemesPage::MoveUp()
@@ -371,8 +372,8 @@ void SchemesPage::Redo()
 QString SchemesPage::AskName(const QString& title, const QString& proposed)
 {
     for (;;) {
-        const PromptAnswer answer
-            = TextPrompt({title, proposed, EntryKind::Text, 0, 0, NameWidth}, this).Ask();
+        const PromptRequest request{title, proposed, EntryKind::Text, 0, 0, NameWidth};
+        const PromptAnswer answer = OwnedDialog<TextPrompt>(request, this)->Ask();
         const QString name = answer.text.trimmed();
         if (!answer.accepted || !name.isEmpty())
             return answer.accepted ? name : QString();

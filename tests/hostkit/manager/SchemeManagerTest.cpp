@@ -107,6 +107,21 @@ TEST_F(SchemeWindow, DeletesSeveralAfterOneQuestionAsOneStep)
     EXPECT_EQ(Host().GetCurrentScheme(), Night);
 }
 
+TEST_F(SchemeWindow, EndsWithItsFormWhileItAsks)
+{
+    auto form = std::make_unique<QWidget>();
+    WhenModal([&](QWidget& window) {
+        m_window = &window;
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        ClickScheme(Day);
+        WhenModal([&](QWidget&) { form.reset(); });
+        PressKey(Qt::Key_Delete);
+    });
+    static_cast<ISchemeManager&>(m_client).ManageSchemes(form.get());
+    EXPECT_EQ(form, nullptr);
+    EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Day, Night, Standard));
+}
+
 TEST_F(SchemeWindow, DeletesNothingWhenTheUserSaysNo)
 {
     InWindow([&] {
