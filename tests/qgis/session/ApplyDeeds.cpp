@@ -227,7 +227,7 @@ void Delete(SessionWorld& world)
 {
     if (world.isEdited || world.paper.size() < 25)
         return;
-    world.Host().DeleteLayer(world.IDOf(*world.AnyLayer()));
+    world.Host().DeleteLayer(world.IDOf(*world.AnyRemovableLayer()));
     SessionWorld::Settle();
     world.session.Client().RefreshEditors();
     world.AdoptLayers();

@@ -47,7 +47,7 @@ void AddLayer(SessionWorld& world)
 
 void RemoveLayer(SessionWorld& world)
 {
-    QgsMapLayer* layer = world.AnyLayer();
+    QgsMapLayer* layer = world.AnyRemovableLayer();
     if (world.paper.size() <= FewLayers || HoldsEditedNode(world, {world.IDOf(*layer)}))
         return;
     world.project.removeMapLayer(layer);

@@ -10,6 +10,7 @@
 
 #include <qgsrenderer.h>
 #include <qgsvectorlayer.h>
+#include <qgsvectorlayerjoininfo.h>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -98,6 +99,18 @@ QgsMapLayer* SessionWorld::AnyLayer(const std::function<bool(const QgsMapLayer&)
             layers.push_back(found);
     }
     return layers.empty() ? nullptr : dice.OneOf(layers);
+}
+
+QgsMapLayer* SessionWorld::AnyRemovableLayer()
+{
+    QSet<QString> joined;
+    for (const QgsMapLayer* layer : project.mapLayers()) {
+        const auto* vectors = qobject_cast<const QgsVectorLayer*>(layer);
+        for (const QgsVectorLayerJoinInfo& join :
+             vectors ? vectors->vectorJoins() : QList<QgsVectorLayerJoinInfo>())
+            joined.insert(join.joinLayerId());
+    }
+    return AnyLayer([&joined](const QgsMapLayer& layer) { return !joined.contains(layer.id()); });
 }
 
 QgsVectorLayer* SessionWorld::AnyPlainLayer()

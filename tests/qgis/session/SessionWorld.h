@@ -41,6 +41,8 @@ public:
     QgsLayerTreeLayer* NodeOf(qint32 layerID);
     /// A layer for which the condition holds, at random; nullptr without one.
     QgsMapLayer* AnyLayer(const std::function<bool(const QgsMapLayer&)>& suits = {});
+    /// A layer to which no other is joined: QGIS would remove the join with it.
+    QgsMapLayer* AnyRemovableLayer();
     /// A layer with one symbol in memory.
     QgsVectorLayer* AnyPlainLayer();
     qint32 IDOf(QgsMapLayer& layer) { return session.Mirror().IDOf(layer); }

@@ -50,10 +50,16 @@ void Classify(SessionWorld& world)
     world.Adopt(world.IDOf(*layer), Paper::symbolColumns);
 }
 
+// QGIS does not save the opacity of a table.
+bool HasSavedOpacity(const QgsMapLayer& layer)
+{
+    return layer.isValid() && layer.isSpatial();
+}
+
 // A backdrop that gets another opacity is none any more.
 void SetOpacity(SessionWorld& world)
 {
-    QgsMapLayer* layer = world.AnyLayer(IsValid);
+    QgsMapLayer* layer = world.AnyLayer(HasSavedOpacity);
     Paper::Layer& onPaper = world.PaperOf(*layer);
     onPaper.opacity = 0.4 + 0.05 * world.dice.Below(12);
     if (onPaper.row.at("OverrideMode") == 1.0)
