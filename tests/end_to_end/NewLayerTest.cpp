@@ -73,7 +73,7 @@ TEST_F(NewLayers, AnEmptyLayerIsMadeShownAndStored)
     EXPECT_EQ(Count("Layers"), m_before + 1);
     EXPECT_EQ(Count("LayerSources WHERE OgrLayer = 'Kiosks'"), 1);
     EXPECT_TRUE(QFile::exists(PathOf("town-layers.gpkg")));
-    EXPECT_EQ(m_window->Canvas().Layers().size(), size_t(m_before + 1));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->Canvas().Layers().size() == size_t(m_before + 1); }));
 }
 
 TEST_F(NewLayers, ALayerIsMadeOfAFileAndDrawn)
