@@ -34,7 +34,8 @@ QString FileNameFor(const QString& scheme)
 QString AskExportPath(QWidget* parent, const QString& scheme)
 {
     const OwnedDialog<QFileDialog> dialog(
-        parent, SchemeFileTexts::tr("Export Scheme"), {}, SchemeFileTexts::tr("Layer schemes (*.json)"));
+        parent, SchemeFileTexts::tr("Export Scheme"), QString(),
+        SchemeFileTexts::tr("Layer schemes (*.json)"));
     dialog->setObjectName(QStringLiteral("dlgExportScheme"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QLatin1String(FileSuffix));
@@ -45,7 +46,7 @@ QString AskExportPath(QWidget* parent, const QString& scheme)
 QString AskImportPath(QWidget* parent)
 {
     const OwnedDialog<QFileDialog> dialog(
-        parent, SchemeFileTexts::tr("Import Scheme"), {},
+        parent, SchemeFileTexts::tr("Import Scheme"), QString(),
         SchemeFileTexts::tr("Layer schemes (*.json);;All files (*)"));
     dialog->setObjectName(QStringLiteral("dlgImportScheme"));
     dialog->setFileMode(QFileDialog::ExistingFile);
