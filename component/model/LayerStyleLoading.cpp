@@ -36,10 +36,10 @@ public:
     }
 
     /// As See, without counting as seen.
-    LayerStyle Look(qint32 layerID)
+    std::optional<LayerStyle> Look(qint32 layerID)
     {
         if (!SeekID(*m_layers, layerID))
-            return {};
+            return std::nullopt;
         return m_rows.Read(*m_layers, LayerRowValues(*m_layers));
     }
 
@@ -65,16 +65,25 @@ private:
     ReadingResult m_result;
 };
 
-ReadingResult LoadCommon(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, LayerStyle& style)
+// What the layers have in common begins with the first one, for Begin::WithOneThatExists with another one if
+// that has gone: it would leave nothing.
+enum class Begin { WithTheFirst, WithOneThatExists };
+
+ReadingResult
+LoadCommon(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, Begin begin, LayerStyle& style)
 {
     if (layerIDs.empty())
         return {};
     NodeReading reading(client);
-    style = reading.Look(layerIDs.front());
+    auto first = layerIDs.begin();
+    std::optional<LayerStyle> look = reading.Look(*first);
+    while (begin == Begin::WithOneThatExists && !look && std::next(first) != layerIDs.end())
+        look = reading.Look(*++first);
+    style = look ? *std::move(look) : LayerStyle();
     for (const qint32 layerID : layerIDs)
         reading.Combine(layerID, style);
     ReadingResult result = reading.Finish(style);
-    result.decisive.push_back(layerIDs.front());
+    result.decisive.push_back(*first);
     return result;
 }
 
@@ -97,11 +106,11 @@ template <typename Layer> void Update(std::vector<Layer>& known, const std::vect
 }
 
 template <typename LayerIDs>
-ReadingResult LoadTogether(IStyleEditorClient& client, LayerIDs readLayerIDs, LayerStyle& style)
+ReadingResult LoadTogether(IStyleEditorClient& client, LayerIDs readLayerIDs, Begin begin, LayerStyle& style)
 {
     Transaction transaction(client.GetDatabase());
     LayerStyle common;
-    ReadingResult result = LoadCommon(client, readLayerIDs(), common);
+    ReadingResult result = LoadCommon(client, readLayerIDs(), begin, common);
     transaction.Commit();
     style = std::move(common);
     return result;
@@ -124,13 +133,13 @@ ReadingResult
 LoadLayersStyle(IStyleEditorClient& client, const std::vector<qint32>& layerIDs, LayerStyle& style)
 {
     return LoadTogether(
-        client, [&] { return layerIDs; }, style);
+        client, [&] { return layerIDs; }, Begin::WithOneThatExists, style);
 }
 
 ReadingResult LoadGroupStyle(IStyleEditorClient& client, qint32 groupID, LayerStyle& style)
 {
     return LoadTogether(
-        client, [&] { return ReadMemberLayerIDs(client, groupID); }, style);
+        client, [&] { return ReadMemberLayerIDs(client, groupID); }, Begin::WithTheFirst, style);
 }
 
 bool RereadLayersStyle(

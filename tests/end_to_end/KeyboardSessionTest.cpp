@@ -25,6 +25,7 @@ protected:
     void SetUp() override
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
+        QSettings().setValue("LayerControl/Docked", false); // its keys end with the window
         QFile::remove(StartupFile());
         CityMap::Make(MapPath());
         m_window = std::make_unique<MainWindow>();

@@ -57,6 +57,7 @@ protected:
     QImage Map()
     {
         MapCanvas& canvas = m_window->Canvas();
+        QApplication::processEvents(); // what a step changed is read together
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return !canvas.Picture().IsBusy() && canvas.Picture().ImageView() == canvas.View(); }));
         return canvas.grab().toImage();

@@ -260,7 +260,7 @@ void LayerShowing::Tell(const std::vector<LayerMode>& changed)
     const std::vector<LayerMode> now = ReadModesOf(changed);
     m_trees.SetLayerImages(now);
     FirstError errors;
-    errors.Try([&] { m_shown.Follow(now); });
+    errors.Try([&] { m_shown.Read(); }); // all of them were read for the change, too
     Retranslate();
     errors.Try([&] { emit ModesChanged(LayersOf(changed)); });
     errors.Rethrow();

@@ -49,7 +49,7 @@ void SelectionEditor::FollowLayers(const QSet<qint32>& layerIDs)
 
 void SelectionEditor::FollowModes(const QSet<qint32>& layerIDs)
 {
-    if (!HasLayerOf(layerIDs))
+    if (m_modified && !HasLayerOf(layerIDs))
         return;
     m_parts.quickModes.ShowMode(
         m_origin.mode); // a mode that is not applied yet would undo what was just done

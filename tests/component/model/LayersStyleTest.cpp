@@ -75,6 +75,13 @@ TEST_F(LayersTogether, ThatHaveGoneCountForNothing)
     EXPECT_THAT(style.lsGet(Slot::DrawPriority), IsNumber(5));
 }
 
+TEST_F(LayersTogether, ShowWhatTheOthersHaveInCommonIfTheFirstHasGone)
+{
+    LayerStyle style;
+    EXPECT_EQ(LoadLayersStyle(host, {99, 17}, style).seen.size(), 1U);
+    EXPECT_THAT(style.lsGet(Slot::DrawPriority), IsNumber(5));
+}
+
 TEST_F(LayersTogether, LeaveTheRecordAsItWasIfOneCannotBeRead)
 {
     FailingClient client(host, {"Seek", 3, RunTimeError(10007, "unreadable", "disk")});

@@ -76,9 +76,9 @@ protected:
     void Trigger(const char* action) { m_window->findChild<QAction*>(QLatin1String(action))->trigger(); }
     static QWidget* TheForm()
     {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->objectName() == "frmLayerStyles")
-                return window;
+        for (QWidget* widget : QApplication::allWidgets()) {
+            if (widget->isVisible() && widget->objectName() == "frmLayerStyles")
+                return widget;
         }
         return nullptr;
     }

@@ -92,7 +92,7 @@ public:
     void ShowOnlyChosen();
     void ShowAllAgain();
     /// Only the nodes that have all words are listed until the end of the find.
-    void Find(const QStringList& words, Answer answer);
+    void Find(const QStringList& words);
     void EndFind();
 
     // What the host does.
@@ -126,7 +126,7 @@ private:
     std::map<qint32, int> ListedModes() const;
     bool IsShownOnlyMode(qint32 layerID, int mode) const;
     void StoreModes(const std::map<qint32, int>& modes);
-    void FollowModes();
+    void FollowModes(const std::map<qint32, int>& modes);
 
     Map& m_map;
     LookAtNode m_look;

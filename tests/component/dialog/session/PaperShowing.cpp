@@ -97,12 +97,17 @@ void Dialog::StoreModes(const std::map<qint32, int>& modes)
             list.SetMode(layerID, mode);
     }
     ++redraws;
-    FollowModes();
+    FollowModes(modes);
 }
 
 // A mode that is not applied yet would undo what was just done.
-void Dialog::FollowModes()
+void Dialog::FollowModes(const std::map<qint32, int>& modes)
 {
+    const std::vector<qint32> chosen = ChosenLayerIDs();
+    const bool isOfOthers
+        = std::none_of(chosen.begin(), chosen.end(), [&](qint32 id) { return modes.count(id) > 0; });
+    if (isModified && isOfOthers)
+        return;
     panel.mode = panel.loadedMode;
     isModified = isModified && (!panel.marked.empty() || panel.isCodeMarked);
     ChooseAgain();
@@ -117,22 +122,22 @@ QString Dialog::BarText() const
         return {};
     const auto shown
         = std::count_if(all.begin(), all.end(), [](const auto& now) { return now.second != hidden; });
+    if (shown == 0)
+        return QStringLiteral("No layer is shown.");
     return QStringLiteral("Only %1 of %2 layers %3 shown.")
         .arg(shown)
         .arg(all.size())
         .arg(shown == 1 ? QStringLiteral("is") : QStringLiteral("are"));
 }
 
-void Dialog::Find(const QStringList& words, Answer answer)
+// A node with edits stays listed and shown until another one is chosen.
+void Dialog::Find(const QStringList& words)
 {
     const std::optional<Node> node = CurrentNode();
     const List found{false, lists[shownList].Found(words), {}};
-    m_hasLeftNode = node && !found.Holds(*node);
-    if (!m_hasLeftNode)
-        return;
-    Ask(answer);
-    panel = {};
-    isModified = false;
+    m_hasLeftNode = node && !isModified && !found.Holds(*node);
+    if (m_hasLeftNode)
+        panel = {};
 }
 
 void Dialog::EndFind()
