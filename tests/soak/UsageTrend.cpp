@@ -33,7 +33,7 @@ UsageTrend::UsageTrend()
 UsageTrend::Ends UsageTrend::LeastAtTheEnds() const
 {
     const auto count = std::ptrdiff_t(m_usages.size());
-    const Place warm = m_usages.begin() + count / 10;
+    const Place warm = m_usages.begin() + count / 4;
     const std::ptrdiff_t tenth = std::max<std::ptrdiff_t>(1, (m_usages.end() - warm) / 10);
     return {Least(warm, warm + tenth), Least(m_usages.end() - tenth, m_usages.end())};
 }
