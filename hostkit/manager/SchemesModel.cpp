@@ -203,10 +203,10 @@ QString SchemesModel::Text(const Scheme& scheme, int column)
     return scheme.differing ? QLocale().toString(*scheme.differing) : QStringLiteral("...");
 }
 
-// A reader of the screen moves from cell to cell, and an empty one or dots say nothing.
+// A screen reader moves from cell to cell, and an empty one or dots say nothing.
 QString SchemesModel::SpokenText(const Scheme& scheme, int column)
 {
-    const QString text = Text(scheme, column);
+    QString text = Text(scheme, column);
     if (text.isEmpty() && (column == Current || column == AtOpening))
         return tr("no");
     if (text.isEmpty() && column == Saved)

@@ -33,7 +33,7 @@ const QString NameKey = QStringLiteral("name");
 const QString TransparentName = QStringLiteral("transparent");
 
 constexpr int NewestVersion = 1;
-constexpr qsizetype LargestCopy = 64 * 1024; // bytes; a real one has less than one thousand
+constexpr qsizetype LargestCopy = 65536; // bytes; a real one has less than one thousand
 constexpr qsizetype LongestStyleName = 1000; // characters
 
 struct NumberRange {
