@@ -21,8 +21,8 @@ namespace Orvane::Testing {
 ///     EXPECT_THAT(trend.Growths(), IsEmpty());
 ///
 /// The first quarter is the warm-up and does not count: each kind of work is done once by then. Of the others
-/// the least usage in the first tenth is compared with the least usage in the last tenth: what is used only for a
-/// while is no growth.
+/// the least usage in the first tenth is compared with the least usage in the last tenth: what is used only
+/// for a while is no growth.
 class UsageTrend
 {
 public:
