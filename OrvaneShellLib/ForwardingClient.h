@@ -3,6 +3,7 @@
 
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
+#include <orvane/OrvaneShellLib/ILayerSource.h>
 #include <orvane/OrvaneShellLib/IManyLayers.h>
 #include <orvane/OrvaneShellLib/IMapNotes.h>
 #include <orvane/OrvaneShellLib/IMapScale.h>
@@ -26,7 +27,8 @@ class ForwardingClient : public IStyleEditorClient,
                          public IMapScale,
                          public ISchemeManager,
                          public IMapNotes,
-                         public INodeCommands
+                         public INodeCommands,
+                         public ILayerSource
 {
 public:
     /// client: not owned; outlives this object.
@@ -173,6 +175,13 @@ protected:
     {
         if (auto* commands = dynamic_cast<INodeCommands*>(&m_client))
             commands->Run(form, id, layerIDs);
+    }
+
+    /// Empty if the other client does not know it.
+    QString ILayerSource_Source(qint32 layerID) override
+    {
+        auto* source = dynamic_cast<ILayerSource*>(&m_client);
+        return source ? source->Source(layerID) : QString();
     }
 
     /// The wrapped client, for use in overrides.

@@ -4,6 +4,7 @@
 #include "hosttests/ComponentCalls.h"
 #include "hosttests/SampleContents.h"
 
+#include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IManyLayers.h>
 #include <OrvaneShellLib/IMapScale.h>
 #include <OrvaneShellLib/INodeCommands.h>
@@ -87,6 +88,18 @@ void CheckMapScale(CheckRun& run)
     run.ExpectValue(QStringLiteral("CurrentScale at a second call"), map->CurrentScale(), scale);
 }
 
+void CheckSource(CheckRun& run)
+{
+    auto* host = Offered<ILayerSource>(run, "ILayerSource");
+    if (!host)
+        return;
+    const QString source = host->Source(TownLayer::Rivers);
+    run.Expect(
+        !source.contains(QLatin1Char('\n')), QStringLiteral("Source has several lines: \"%1\"").arg(source));
+    run.ExpectText(QStringLiteral("Source at a second call"), host->Source(TownLayer::Rivers), source);
+    run.ExpectText(QStringLiteral("Source of a missing layer"), host->Source(TownLayer::None), {});
+}
+
 void CheckCommands(CheckRun& run)
 {
     auto* host = Offered<INodeCommands>(run, "INodeCommands");
@@ -149,6 +162,12 @@ std::vector<HostCheck> OptionalChecks()
          {},
          NoContents,
          CheckMapScale},
+        {"Optional",
+         "TheSourceOfALayerIsALineOfText",
+         "ILayerSource::Source: one line, the same at each call; empty for a missing layer.",
+         {},
+         Town,
+         CheckSource},
         {"Optional",
          "CommandsHaveTextsAndIDsOfTheirOwn",
          "INodeCommands::Commands: each has a text, and an id that no other has.",

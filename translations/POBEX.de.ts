@@ -804,6 +804,10 @@
         <translation>Vollfläche</translation>
     </message>
     <message>
+        <source>Source: ^1</source>
+        <translation>Quelle: ^1</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>Standard</translation>
     </message>

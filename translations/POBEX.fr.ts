@@ -804,6 +804,10 @@
         <translation>Uni</translation>
     </message>
     <message>
+        <source>Source: ^1</source>
+        <translation>Source : ^1</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>Standard</translation>
     </message>

@@ -804,6 +804,10 @@
         <translation>塗りつぶし</translation>
     </message>
     <message>
+        <source>Source: ^1</source>
+        <translation>データ: ^1</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>標準</translation>
     </message>

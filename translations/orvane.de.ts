@@ -1880,6 +1880,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Schema wechseln</translation>
     </message>
     <message>
+        <source>Temporary scratch layer</source>
+        <translation>Temporärer Layer</translation>
+    </message>
+    <message>
         <source>T&amp;o:</source>
         <translation>&amp;Nach:</translation>
     </message>

@@ -1880,6 +1880,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Changer de schéma</translation>
     </message>
     <message>
+        <source>Temporary scratch layer</source>
+        <translation>Couche temporaire</translation>
+    </message>
+    <message>
         <source>T&amp;o:</source>
         <translation>&amp;Vers :</translation>
     </message>

@@ -1880,6 +1880,10 @@ These commands run without a window; each has its own --help:
         <translation>スキームの切り替え</translation>
     </message>
     <message>
+        <source>Temporary scratch layer</source>
+        <translation>一時レイヤー</translation>
+    </message>
+    <message>
         <source>T&amp;o:</source>
         <translation>比較先(&amp;O):</translation>
     </message>

@@ -89,6 +89,12 @@ private:
         window.exec();
     }
 
+    QString ILayerSource_Source(qint32 layerID) override
+    {
+        const auto row = m_layers.OpenQuery("SELECT Name FROM Layers WHERE LayerID = ?1", {layerID});
+        return row->AtEOF() ? QString() : ToTextOrNone(row->Field("Name")) + ".gpkg";
+    }
+
     bool IMapNotes_KeepsNotes() const override { return true; }
     QString IMapNotes_Note(const QString& key) override
     {

@@ -228,6 +228,12 @@ void TracingClient::INodeCommands_Run(QWidget* form, const QString& id, const st
         "client.Run", [&] { ForwardingClient::INodeCommands_Run(form, id, layerIDs); }, Form, id, layerIDs);
 }
 
+QString TracingClient::ILayerSource_Source(qint32 layerID)
+{
+    return m_trace.Question(
+        "client.Source", [&] { return ForwardingClient::ILayerSource_Source(layerID); }, layerID);
+}
+
 bool TracingClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
 {
     return m_trace.Question(

@@ -61,6 +61,7 @@ protected:
     std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
     QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
     void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
+    QString ILayerSource_Source(qint32 layerID) override;
     bool IStyleEditorClient_IsCodeAssigned(qint16 code) override;
     QString IStyleEditorClient_StyleCommandPrefix() const override;
     bool IStyleEditorClient_QuickModesAllowed() const override;

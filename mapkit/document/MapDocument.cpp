@@ -167,6 +167,11 @@ std::vector<LayerSource> MapDocument::Sources() const
     return m_sources.All();
 }
 
+std::optional<LayerSource> MapDocument::SourceOf(qint32 layerID) const
+{
+    return m_sources.Of(layerID);
+}
+
 void MapDocument::SetSource(const LayerSource& source)
 {
     m_sources.Set(source);

@@ -89,6 +89,8 @@ public:
 
     /// Where the layers' features come from, with absolute paths.
     std::vector<LayerSource> Sources() const;
+    /// The same for one layer; nothing if it has none.
+    std::optional<LayerSource> SourceOf(qint32 layerID) const;
     /// Sets the layer's data, replacing its former data.
     void SetSource(const LayerSource& source);
     /// The settings for the layers' renderer styles.

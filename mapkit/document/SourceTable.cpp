@@ -36,13 +36,25 @@ void SourceTable::Create()
 
 std::vector<LayerSource> SourceTable::All() const
 {
+    return Where(QStringLiteral("TRUE"), {});
+}
+
+std::optional<LayerSource> SourceTable::Of(qint32 layerID) const
+{
+    const std::vector<LayerSource> found = Where(QStringLiteral("LayerID = ?1"), {layerID});
+    return found.empty() ? std::nullopt : std::optional(found.front());
+}
+
+std::vector<LayerSource> SourceTable::Where(const QString& condition, const std::vector<Value>& values) const
+{
     if (!m_database.HasTable(SourcesName))
         return {};
     const bool older = !m_database.HasColumn(SourcesName, RelativePath);
-    const auto rows
-        = m_database.OpenQuery(QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath"
-                                              " FROM LayerSources ORDER BY LayerID")
-                                   .arg(QLatin1String(older ? "NULL" : "RelativePath")));
+    const auto rows = m_database.OpenQuery(
+        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath"
+                       " FROM LayerSources WHERE %2 ORDER BY LayerID")
+            .arg(QLatin1String(older ? "NULL" : "RelativePath"), condition),
+        values);
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
         const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));

@@ -4,6 +4,9 @@
 #include "mapkit/data/SourceReader.h"
 #include "mapkit/document/SourcePaths.h"
 
+#include <OrvaneShellLib/Value.h>
+
+#include <optional>
 #include <vector>
 
 namespace Orvane {
@@ -25,10 +28,15 @@ public:
     /// counts as empty.
     std::vector<LayerSource> All() const;
 
+    /// The same for one layer; nothing if it has no row.
+    std::optional<LayerSource> Of(qint32 layerID) const;
+
     /// Sets the layer's source, replacing its former one. path: absolute.
     void Set(const LayerSource& source);
 
 private:
+    std::vector<LayerSource> Where(const QString& condition, const std::vector<Value>& values) const;
+
     ILayerStore& m_database;
     SourcePaths m_paths;
 };

@@ -13,8 +13,10 @@
 #include <OrvaneShellLib/IStyleEditor.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
+#include <QDir>
 #include <QScopedValueRollback>
 #include <qgsproject.h>
+#include <qgsproviderregistry.h>
 #include <qgsvectorlayer.h>
 
 #include <exception>
@@ -29,6 +31,20 @@ QgsMapLayer* MakeScratchLayer()
     return new QgsVectorLayer(
         QStringLiteral("Polygon?crs=EPSG:4326"), QgisClient::tr("New scratch layer"),
         QStringLiteral("memory"));
+}
+
+QString SourceText(const QgsMapLayer& layer)
+{
+    const QString provider = layer.providerType();
+    if (provider == QLatin1String("memory"))
+        return QgisClient::tr("Temporary scratch layer");
+    const QVariantMap parts = QgsProviderRegistry::instance()->decodeUri(provider, layer.source());
+    const QString path = parts.value(QStringLiteral("path")).toString();
+    if (path.isEmpty())
+        return layer.publicSource();
+    const QString name = parts.value(QStringLiteral("layerName")).toString();
+    const QString file = QDir::toNativeSeparators(path);
+    return name.isEmpty() ? file : QStringLiteral("%1 (%2)").arg(file, name);
 }
 
 LayerDeletion WhatGoes(LayerFactory& rows, const std::vector<qint32>& layerIDs)
@@ -219,6 +235,12 @@ void QgisClient::ReadRemoved(const std::vector<qint32>& layerIDs)
 double QgisClient::IMapScale_CurrentScale() const
 {
     return m_commands.mapScale ? m_commands.mapScale() : 0;
+}
+
+QString QgisClient::ILayerSource_Source(qint32 layerID)
+{
+    const QgsMapLayer* layer = m_mirror.Layer(layerID);
+    return layer ? SourceText(*layer) : QString();
 }
 
 void QgisClient::RemoveAfterQuestion(const QList<QgsMapLayer*>& layers)

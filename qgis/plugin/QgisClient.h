@@ -4,6 +4,7 @@
 #include "hostkit/StandardClient.h"
 #include "qgis/project/ProjectNotes.h"
 
+#include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IMapScale.h>
 
 #include <QList>
@@ -34,7 +35,7 @@ struct QgisCommands {
 
 /// The application object of QGIS: what is applied in the dialog goes to the project at once, as a part of
 /// the same step, so that undoing it finds the layers as they are.
-class QgisClient : public StandardClient, public IMapScale
+class QgisClient : public StandardClient, public IMapScale, public ILayerSource
 {
     Q_DECLARE_TR_FUNCTIONS(QgisClient)
 
@@ -81,6 +82,8 @@ protected:
     void IStyleEditorClient_DeleteLayer(qint32 layerID) override;
     void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override;
     double IMapScale_CurrentScale() const override;
+    /// The layer's source without a password, the file and layer if it is a file.
+    QString ILayerSource_Source(qint32 layerID) override;
     void ISchemeManager_ManageSchemes(QWidget* form) override;
 
 private:

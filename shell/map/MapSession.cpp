@@ -14,6 +14,7 @@
 #include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/output/PageSettings.h"
 #include "shell/map/LayerCreation.h"
+#include "shell/map/SourceText.h"
 #include "shell/window/RunWithProgress.h"
 #include "store/ILayerStore.h"
 
@@ -54,6 +55,7 @@ MapSession::MapSession(
     m_client.SetLayerMaker(
         [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
     m_client.SetMapScale([this] { return m_document->HasLayers() ? m_canvas.ScaleDenominator() : 0; });
+    m_client.SetLayerSource([this](qint32 layerID) { return SourceText(m_document->SourceOf(layerID)); });
     m_client.SetLayerZoom(
         [this](const std::vector<qint32>& layerIDs) { return !BoundsOf(layerIDs).IsEmpty(); },
         [this](const std::vector<qint32>& layerIDs) {

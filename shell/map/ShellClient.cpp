@@ -108,6 +108,11 @@ void ShellClient::SetMapScale(std::function<double()> scale)
     m_mapScale = std::move(scale);
 }
 
+void ShellClient::SetLayerSource(std::function<QString(qint32 layerID)> sourceOf)
+{
+    m_sourceOf = std::move(sourceOf);
+}
+
 qint32 ShellClient::IStyleEditorClient_CreateLayer()
 {
     if (!m_makeLayer)
@@ -176,6 +181,11 @@ QString ShellClient::IStyleEditorClient_ThemeName(QWidget* form) const
 double ShellClient::IMapScale_CurrentScale() const
 {
     return m_mapScale ? m_mapScale() : 0;
+}
+
+QString ShellClient::ILayerSource_Source(qint32 layerID)
+{
+    return m_sourceOf ? m_sourceOf(layerID) : QString();
 }
 
 void ShellClient::SetLayerZoom(

@@ -3,6 +3,7 @@
 
 #include "hostkit/StandardClient.h"
 
+#include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IMapScale.h>
 
 #include <QCoreApplication>
@@ -20,7 +21,7 @@ class LayerStates;
 
 /// Orvane's application object for the component: the standard client, which also keeps the editors' windows
 /// beside the map.
-class ShellClient : public StandardClient, public IMapScale
+class ShellClient : public StandardClient, public IMapScale, public ILayerSource
 {
     Q_DECLARE_TR_FUNCTIONS(ShellClient)
 
@@ -45,6 +46,8 @@ public:
     void SetLayerMaker(std::function<qint32(QWidget* owner)> make);
     /// Sets the function that returns the denominator of the map's scale; without it there is none.
     void SetMapScale(std::function<double()> scale);
+    /// Sets the function that returns where a layer's data are; without it none has a source.
+    void SetLayerSource(std::function<QString(qint32 layerID)> sourceOf);
     /// Sets what the command "Zoom to Layer" does. canZoom: whether the map has features of these layers.
     void SetLayerZoom(
         std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
@@ -65,6 +68,7 @@ protected:
     void IStyleEditorClient_EditorClosed(QWidget* form) override;
     QString IStyleEditorClient_ThemeName(QWidget* form) const override;
     double IMapScale_CurrentScale() const override;
+    QString ILayerSource_Source(qint32 layerID) override;
     /// "Zoom to Layer", if it was set what that does.
     std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
     QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
@@ -85,6 +89,7 @@ private:
     std::function<QString(const QString&)> m_themeNameOf;
     std::function<qint32(QWidget*)> m_makeLayer;
     std::function<double()> m_mapScale;
+    std::function<QString(qint32)> m_sourceOf;
     std::function<bool(const std::vector<qint32>&)> m_canZoom;
     std::function<void(const std::vector<qint32>&)> m_zoom;
     QString m_creatingEditor;

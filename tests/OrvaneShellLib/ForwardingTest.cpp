@@ -108,6 +108,19 @@ TEST_F(Forwarding, TheMapsScaleIsThatOfTheOtherClient)
     EXPECT_EQ(outer.CurrentScale(), 25000);
 }
 
+TEST_F(Forwarding, TheSourceOfALayerIsThatOfTheOtherClient)
+{
+    class FileClient : public ForwardingClient
+    {
+        using ForwardingClient::ForwardingClient;
+        QString ILayerSource_Source(qint32 layerID) override { return QStringLiteral("%1.shp").arg(layerID); }
+    };
+    EXPECT_EQ(client.Source(17), "") << "it does not know it";
+    FileClient files(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(files));
+    EXPECT_EQ(outer.Source(17), "17.shp");
+}
+
 TEST_F(Forwarding, AClientWithoutAWindowForSchemesHasNone)
 {
     EXPECT_FALSE(client.CanManageSchemes());

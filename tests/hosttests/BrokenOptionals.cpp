@@ -41,6 +41,12 @@ class NegativeScale : public ForwardingClient
     double IMapScale_CurrentScale() const override { return -1; }
 };
 
+class SourcesOfAllLayers : public ForwardingClient
+{
+    using ForwardingClient::ForwardingClient;
+    QString ILayerSource_Source(qint32) override { return QStringLiteral("town.gpkg"); }
+};
+
 class OneIDForAllCommands : public ForwardingClient
 {
     using ForwardingClient::ForwardingClient;
@@ -118,6 +124,7 @@ std::vector<BrokenHost> HostsWithBrokenOptionals()
         {"ItDeletesOneOfSeveral", Behind<DeletesTheFirst>(), {"SeveralLayersAreDeletedTogether"}},
         {"ItDeletesNothingIfALayerHasGone", Behind<DeletesAllOrRaises>(), {"LayersThatHaveGoneAreLeftOut"}},
         {"ItsScaleIsNegative", Behind<NegativeScale>(), {"TheMapsScaleIsADenominator"}},
+        {"ItsMissingLayersHaveASource", Behind<SourcesOfAllLayers>(), {"TheSourceOfALayerIsALineOfText"}},
         {"ItsCommandsHaveOneID", Behind<OneIDForAllCommands>(), {"CommandsHaveTextsAndIDsOfTheirOwn"}},
         {"ItsCommandsWantOneLayer", Behind<CommandsForOneLayer>(), {"ACommandIsPossibleOrSaysWhyNot"}},
         {"ItManagesSchemesEverySecondTime",

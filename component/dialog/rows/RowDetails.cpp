@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/rows/RowDetails.h"
 
+#include "component/common/HostInterface.h"
 #include "component/common/Messages.h"
 #include "component/controls/VisibleScalesTranslator.h"
 #include "component/dialog/rows/LayerRow.h"
@@ -9,12 +10,15 @@
 #include "messages/NameInText.h"
 
 #include <OrvaneShellLib/ILayerDatabase.h>
+#include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IStyleEditorClient.h>
 #include <OrvaneShellLib/LayerQueries.h>
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QFontMetrics>
 #include <QStringList>
+#include <QToolTip>
 
 namespace Orvane {
 
@@ -22,6 +26,7 @@ namespace {
 
 constexpr int MostGroups = 5;
 constexpr qsizetype LongestGroup = 60; // characters
+constexpr int LongestSource = 70; // characters of middle width
 constexpr qint32 NoMinimumScale = 0;
 constexpr qint32 NoMaximumScale = 256;
 
@@ -63,6 +68,16 @@ void AppendScales(QString& lines, const LayerStyle& style)
         AppendLine(lines, TranslateMsg("Maximum scale: ^1", scales.toString(maximum)));
 }
 
+// Both ends tell most: the disk or server, and the file or table.
+QString ReadSource(qint32 layerID)
+{
+    auto* host = HostInterface<ILayerSource>();
+    const QString source = host ? host->Source(layerID) : QString();
+    const QFontMetrics metrics(QToolTip::font());
+    return metrics.elidedText(
+        NameInText(source, source.size()), Qt::ElideMiddle, LongestSource * metrics.averageCharWidth());
+}
+
 } // namespace
 
 QString ReadRowDetails(IStyleEditorClient& client, const NodeReference& node)
@@ -75,12 +90,15 @@ QString ReadRowDetails(IStyleEditorClient& client, const NodeReference& node)
     if (!style)
         return lines;
     const QStringList groups = ReadGroupNames(client, node.layerID);
+    const QString source = ReadSource(node.layerID);
     transaction.Commit();
     if (!style->lsIsNull(Slot::Code))
         AppendLine(lines, TranslateMsg("Code: ^1", ToTextOrNone(style->lsGet(Slot::Code))));
     if (!groups.isEmpty())
         AppendLine(lines, TranslateMsg("Groups: ^1", groups.join(QStringLiteral(", "))));
     AppendScales(lines, *style);
+    if (!source.isEmpty())
+        AppendLine(lines, TranslateMsg("Source: ^1", source));
     return lines;
 }
 

@@ -170,6 +170,12 @@ TEST_F(ClientTrace, ShowsTheScaleOfTheMap)
     EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.CurrentScale() -> 0")));
 }
 
+TEST_F(ClientTrace, ShowsTheSourceOfALayer)
+{
+    dynamic_cast<ILayerSource&>(Client()).Source(17);
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.Source(17) -> \"\"")));
+}
+
 TEST_F(ClientTrace, ShowsTheWindowForSchemes)
 {
     dynamic_cast<ISchemeManager&>(Client()).ManageSchemes(nullptr);

@@ -125,6 +125,15 @@ TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
     EXPECT_EQ(source.filter, "kind = 1");
 }
 
+TEST_F(MapDocumentTest, TheSourceOfOneLayerIsFound)
+{
+    const auto document = MapDocument::Untitled();
+    document->AddLayer(LayerOf("/data/rivers.gpkg"));
+    const qint32 layerID = document->AddLayer(LayerOf("/data/roads.gpkg"));
+    EXPECT_EQ(document->SourceOf(layerID).value_or(LayerSource()).path, "/data/roads.gpkg");
+    EXPECT_FALSE(document->SourceOf(77));
+}
+
 TEST_F(MapDocumentTest, LayersGetCodesOfTheirOwnWhileThereAreAny)
 {
     const auto document = MapDocument::Untitled();

@@ -34,6 +34,20 @@ TEST_F(QgisClientTest, AnAppliedColourIsUndoneAndRedone)
     EXPECT_EQ(FillOf(*roads), QColor(Qt::blue));
 }
 
+TEST_F(QgisClientTest, TellsWhereTheDataAre)
+{
+    auto& sources = dynamic_cast<ILayerSource&>(Host());
+    EXPECT_EQ(sources.Source(IDOf(roads)), "Temporary scratch layer");
+    EXPECT_EQ(sources.Source(77), "");
+    auto* file = new QgsVectorLayer("/maps/town.gpkg|layername=lakes", "Lakes", "ogr");
+    project.addMapLayer(file);
+    EXPECT_EQ(sources.Source(IDOf(file)), "/maps/town.gpkg (lakes)");
+    auto* table = new QgsVectorLayer(
+        "dbname='town' user='me' password='secret' table=\"lakes\"", "Table", "postgres");
+    project.addMapLayer(table);
+    EXPECT_FALSE(sources.Source(IDOf(table)).contains("secret"));
+}
+
 TEST_F(QgisClientTest, AGroupWithATableIsUndone)
 {
     QgsVectorLayer* table = AddLayer("Table", "None");

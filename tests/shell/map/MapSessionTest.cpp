@@ -91,6 +91,13 @@ TEST_F(MapSessionTest, ZoomsToALayerFromTheLayerControlsMenu)
     EXPECT_EQ(m_canvas.View(), all);
 }
 
+TEST_F(MapSessionTest, TellsTheLayerControlWhereTheDataAre)
+{
+    auto& sources = dynamic_cast<ILayerSource&>(m_session->Client());
+    EXPECT_EQ(sources.Source(1), QFileInfo(m_folder.Path("a.geojson")).absoluteFilePath());
+    EXPECT_EQ(sources.Source(77), QString());
+}
+
 TEST_F(MapSessionTest, ShowsTheDataOfTheMap)
 {
     EXPECT_EQ(m_canvas.Layers().size(), 2u);

@@ -3,6 +3,7 @@
 #include "component/dialog/trees/LayerTreesFixture.h"
 #include "hosts/FailingClient.h"
 
+#include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QHelpEvent>
@@ -17,6 +18,21 @@ using testing::Not;
 namespace Orvane {
 
 namespace {
+
+class ClientWithSources : public ForwardingClient
+{
+public:
+    using ForwardingClient::ForwardingClient;
+    QString source;
+    qint32 askedFor = 0;
+
+private:
+    QString ILayerSource_Source(qint32 layerID) override
+    {
+        askedFor = layerID;
+        return source;
+    }
+};
 
 class RowDetailsTest : public Testing::LayerTreesTest
 {
@@ -84,6 +100,30 @@ TEST_F(RowDetailsTest, TellWhyALayerIsNotDrawn)
     EXPECT_THAT(tip, HasSubstr("(OBS): obscured"));
     EXPECT_THAT(tip, HasSubstr("<br>Code: "));
     EXPECT_THAT(tip, Not(HasSubstr("Groups:")));
+}
+
+TEST_F(RowDetailsTest, TellWhereTheDataOfALayerAre)
+{
+    ClientWithSources client(host);
+    UseClient(client);
+    Open(List::Layers);
+    client.source = QStringLiteral("<maps>/town.gpkg");
+    EXPECT_THAT(TipOf(layers, "Roads"), HasSubstr("<br>Source: &lt;maps&gt;/town.gpkg</qt>"));
+    EXPECT_EQ(client.askedFor, 11);
+    client.source.clear();
+    EXPECT_THAT(TipOf(layers, "Roads"), Not(HasSubstr("Source")));
+}
+
+TEST_F(RowDetailsTest, KeepBothEndsOfALongSource)
+{
+    ClientWithSources client(host);
+    UseClient(client);
+    Open(List::Layers);
+    client.source = QStringLiteral("/first/") + QString(500, QLatin1Char('x')) + QStringLiteral("/town.gpkg");
+    const std::string tip = TipOf(layers, "Roads");
+    EXPECT_THAT(tip, HasSubstr("<br>Source: /first/xxx"));
+    EXPECT_THAT(tip, HasSubstr("xxx/town.gpkg</qt>"));
+    EXPECT_LT(tip.size(), 300);
 }
 
 TEST_F(RowDetailsTest, OfAGroupAreItsNameAndMode)
