@@ -127,7 +127,8 @@ protected:
         const auto* manager = dynamic_cast<const ISchemeManager*>(&m_client);
         return manager && manager->CanManageSchemes();
     }
-    /// Nothing happens if the other client has no such window.
+    /// Nothing happens if the other client has no such window. What the user does in that window does not
+    /// pass this client.
     void ISchemeManager_ManageSchemes(QWidget* form) override
     {
         if (auto* manager = dynamic_cast<ISchemeManager*>(&m_client))

@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Rename, copy, delete, compare, export and import the schemes of this map.</source>
-        <translation>この地図のスキームの名前を変更し、複製、削除、比較、エクスポート、インポートします。</translation>
+        <translation>この地図のスキームの名前を変更し、複製、削除、比較、書き出し、読み込みを行います。</translation>
     </message>
     <message>
         <source>Revert to the last saved values in layer scheme &apos;^1&apos;?</source>

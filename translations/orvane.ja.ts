@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation>インポート(&amp;I)...</translation>
+        <translation>読み込み(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Keep Layers</source>

@@ -241,7 +241,7 @@ void ComparePage::ShowCount()
         : tr("Differences: %1 of %2").arg(number(shown), number(qint64(m_model->Count())));
     m_count->setText(
         m_compared == WholeScheme ? count : QStringLiteral("%1 (%2)").arg(count, ComparedText()));
-    m_takeOver->setEnabled(m_table->selectionModel()->hasSelection());
+    m_takeOver->setEnabled(HasChosenValue());
     m_takeOverInMenu->setEnabled(m_takeOver->isEnabled());
 }
 
@@ -250,6 +250,17 @@ QString ComparePage::ComparedText() const
 {
     return m_compared ? tr("compared: %1").arg(SchemeValueTexts::Parts(m_compared))
                       : tr("the two schemes hold nothing in common");
+}
+
+bool ComparePage::HasChosenValue() const
+{
+    const QItemSelection ranges = m_table->selectionModel()->selection();
+    return std::any_of(ranges.begin(), ranges.end(), [this](const QItemSelectionRange& range) {
+        int row = range.top();
+        while (row <= range.bottom() && m_model->At(row).kind != SchemeDifference::Kind::Value)
+            ++row;
+        return row <= range.bottom();
+    });
 }
 
 void ComparePage::TakeOverChosen()

@@ -57,6 +57,7 @@ private:
     void Compare();
     void ShowCount();
     QString ComparedText() const;
+    bool HasChosenValue() const;
     void TakeOverChosen();
     void Choose(QComboBox& list, const QString& scheme);
     std::optional<QString> From() const;

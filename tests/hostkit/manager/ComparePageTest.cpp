@@ -145,16 +145,20 @@ TEST_F(CompareWindow, FiltersTheLinesByTypedWords)
     });
 }
 
-TEST_F(CompareWindow, WritesNothingForALayerThatTheSchemeDoesNotHave)
+TEST_F(CompareWindow, TakesNothingOverFromALayerThatTheSchemeDoesNotHave)
 {
+    Set(2, "Visible", false);
     AddLayer(9, QStringLiteral("Alleys"));
     InWindow([&] {
         CompareWithMap(Day);
         ClickLine(0);
         EXPECT_EQ(Line(0).at(3), QStringLiteral("not in the scheme"));
+        EXPECT_FALSE(Find<QPushButton>("cmdTakeOver").isEnabled());
+        PressKey(Qt::Key_A, Qt::ControlModifier);
         Press("cmdTakeOver");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ToBoolean(Get(2, "Visible")); }));
     });
-    EXPECT_FALSE(History().CanUndo());
+    EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Change 2 Layers"));
 }
 
 } // namespace
