@@ -79,9 +79,11 @@ public:
 private:
     void Delete(const ChangedRow& next)
     {
-        if (m_row.kind == ChangeKind::Updated)
-            m_row.columns = DeletedAfterUpdate(next.columns, m_row.columns);
         m_isGone = m_row.kind == ChangeKind::Inserted;
+        if (m_isGone)
+            m_row.columns.clear(); // a deletion needs values before, which it has not
+        else if (m_row.kind == ChangeKind::Updated)
+            m_row.columns = DeletedAfterUpdate(next.columns, m_row.columns);
         m_row.kind = ChangeKind::Deleted;
     }
     void Change(const ChangedRow& next)

@@ -37,14 +37,15 @@ qint64 WholeKey(std::string_view key)
     return number ? *number : 0;
 }
 
-// The positions of the tables in the log; tables that are missing in it are added.
+// The positions of the tables in the log; tables that are missing in it, or had other columns, are added.
 std::vector<size_t> Places(ChangeLog& log, const std::vector<ChangedTable>& tables)
 {
     std::vector<size_t> places;
     places.reserve(tables.size());
     for (const ChangedTable& table : tables) {
         const int known = log.FindTable(table.name);
-        places.push_back(size_t(known >= 0 ? known : log.AddTable(table)));
+        const bool isSame = known >= 0 && log.Table(known).columns == table.columns;
+        places.push_back(size_t(isSame ? known : log.AddTable(table)));
     }
     return places;
 }

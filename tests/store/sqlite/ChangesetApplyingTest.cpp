@@ -201,6 +201,19 @@ TEST_F(AppliedChanges, TwoInARowAreOne)
     EXPECT_EQ(Everything(), before);
 }
 
+TEST_F(AppliedChanges, TwoInARowAreOneAlsoIfTheTableGotAColumnBetween)
+{
+    Run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, Name TEXT)");
+    const Changeset first = Recorded({"INSERT INTO Notes VALUES (1, 'a')"});
+    Run("ALTER TABLE Notes ADD COLUMN Size INTEGER");
+    const Changeset second = Recorded({"UPDATE Notes SET Size = 7 WHERE ID = 1"});
+    const Changeset both = first.Then(second);
+    ASSERT_TRUE(m_database->Apply(both.Inverted()));
+    EXPECT_TRUE(m_database->OpenQuery("SELECT * FROM Notes")->AtEOF());
+    ASSERT_TRUE(m_database->Apply(both));
+    EXPECT_EQ(ToInt32(m_database->OpenQuery("SELECT Size FROM Notes")->Field("Size")), 7);
+}
+
 TEST_F(AppliedChanges, OfNothingChangeNothing)
 {
     const std::string before = Everything();
