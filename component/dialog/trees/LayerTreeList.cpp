@@ -31,7 +31,8 @@ bool HasAnyOf(const LayerTreeModel& model, const NodeSelection& nodes)
 } // namespace
 
 LayerTreeList::LayerTreeList(QTreeView* view, QObject* parent)
-    : QObject(parent), m_view(view), m_model(new LayerTreeModel(this)), m_delegate(new NodeNameDelegate(this))
+    : QObject(parent), m_view(view), m_viewport(view->viewport()), m_model(new LayerTreeModel(this)),
+      m_delegate(new NodeNameDelegate(this))
 {
     SetUpView();
     Wire();
@@ -66,7 +67,7 @@ void LayerTreeList::Wire()
     connect(m_view, &QTreeView::clicked, this, &LayerTreeList::FollowClick);
     connect(m_view, &QTreeView::doubleClicked, this, &LayerTreeList::FollowDoubleClick);
     m_view->installEventFilter(this);
-    m_view->viewport()->installEventFilter(this);
+    m_viewport->installEventFilter(this);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         FollowExpansion(index, true);
     });
@@ -303,12 +304,12 @@ void LayerTreeList::FollowSelection()
 // The view selects after this.
 bool LayerTreeList::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_view->viewport())
+    if (watched == m_viewport)
         FollowMouse(*event);
     else if (event->type() == QEvent::KeyPress || event->type() == QEvent::FocusOut)
         EndDrawing(); // the release may go elsewhere
     const bool isHint = event->type() == QEvent::Paint && IsFinding() && m_model->rowCount() == 0;
-    return isHint && watched == m_view->viewport() && GuardPaint([this] { PaintNothingFound(); });
+    return isHint && watched == m_viewport && GuardPaint([this] { PaintNothingFound(); });
 }
 
 void LayerTreeList::FollowMouse(const QEvent& event)

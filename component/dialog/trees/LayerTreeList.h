@@ -147,6 +147,7 @@ private:
     };
 
     QTreeView* m_view;
+    QWidget* m_viewport; // of the view, which loses the keys once more while it ends
     LayerTreeModel* m_model;
     NodeNameDelegate* m_delegate;
     std::optional<EnteredName> m_entered; ///< NameEntered is emitted after the event that entered it

@@ -87,7 +87,7 @@ bool frmLayerStyles::event(QEvent* event)
     if (event->type() == QEvent::ShortcutOverride && !isWindow()
         && IsOfControls(*static_cast<QKeyEvent*>(event)))
         event->accept();
-    if (m_parts && event->type() == QEvent::ParentChange)
+    if (event->type() == QEvent::ParentChange && m_parts) // other events may have ended this form
         GuardEvent(this, [this] {
             m_parts->layout.Arrange();
             m_parts->geometry.FollowParent();
