@@ -13,10 +13,10 @@ QString SourceText(const std::optional<LayerSource>& source)
     const QFileInfo file(source->path);
     if (!file.isAbsolute())
         return source->ogrLayer;
-    const QString path = QDir::toNativeSeparators(source->path);
-    if (source->ogrLayer.isEmpty() || source->ogrLayer == file.completeBaseName())
-        return path;
-    return QStringLiteral("%1 (%2)").arg(path, source->ogrLayer);
+    QString text = QDir::toNativeSeparators(source->path);
+    if (!source->ogrLayer.isEmpty() && source->ogrLayer != file.completeBaseName())
+        text += QStringLiteral(" (%1)").arg(source->ogrLayer);
+    return text;
 }
 
 } // namespace Orvane
