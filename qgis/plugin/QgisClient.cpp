@@ -14,6 +14,8 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 
 #include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <qgsproject.h>
 #include <qgsproviderregistry.h>
@@ -33,16 +35,26 @@ QgsMapLayer* MakeScratchLayer()
         QStringLiteral("memory"));
 }
 
+// QGIS takes out passwords, but not those in an address.
+QString PublicSource(const QgsMapLayer& layer)
+{
+    static const QRegularExpression signIn(QStringLiteral("//[^/@]*@"));
+    return layer.publicSource().replace(signIn, QStringLiteral("//"));
+}
+
 QString SourceText(const QgsMapLayer& layer)
 {
     const QString provider = layer.providerType();
     if (provider == QLatin1String("memory"))
         return QgisClient::tr("Temporary scratch layer");
-    const QVariantMap parts = QgsProviderRegistry::instance()->decodeUri(provider, layer.source());
+    const QString source = PublicSource(layer);
+    const QVariantMap parts = QgsProviderRegistry::instance()->decodeUri(provider, source);
     const QString path = parts.value(QStringLiteral("path")).toString();
     if (path.isEmpty())
-        return layer.publicSource();
+        return source;
     const QString name = parts.value(QStringLiteral("layerName")).toString();
+    if (!QFileInfo(path).isAbsolute()) // of a connection, whose name may hold a password
+        return name;
     const QString file = QDir::toNativeSeparators(path);
     return name.isEmpty() ? file : QStringLiteral("%1 (%2)").arg(file, name);
 }

@@ -11,7 +11,7 @@ QString SourceText(const std::optional<LayerSource>& source)
     if (!source)
         return {};
     const QFileInfo file(source->path);
-    if (!file.isAbsolute())
+    if (!file.isAbsolute() || source->path.contains(QLatin1String("://")))
         return source->ogrLayer;
     QString text = QDir::toNativeSeparators(source->path);
     if (!source->ogrLayer.isEmpty() && source->ogrLayer != file.completeBaseName())
