@@ -312,11 +312,7 @@ TEST_F(SchemesOfTheMap, AMapThatIsInTheSchemeForTheOpeningIsNotChanged)
 TEST_F(SchemesOfTheMap, SavingTheMapUnderAnotherNameAppliesNone)
 {
     LayerSchemes(Database()).SetAtOpening("Night");
-    WhenAsked([this](QDialog& dialog) {
-        auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
-        line->setText(PathOf("other.orvane"));
-        QMetaObject::invokeMethod(&dialog, "accept");
-    });
+    AnswerFile(PathOf("other.orvane"));
     Trigger("actSaveMapAs");
     EXPECT_TRUE(QFile::exists(PathOf("other.orvane")));
     EXPECT_EQ(Status(), "Scheme: " + m_day);

@@ -6,6 +6,7 @@
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IEditorWatch.h>
+#include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IManyLayers.h>
 #include <OrvaneShellLib/IMapNotes.h>
 #include <OrvaneShellLib/IMapScale.h>
@@ -51,6 +52,7 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_EQ(HostInterface<ISchemeManager>(), nullptr);
     EXPECT_EQ(HostInterface<IMapNotes>(), nullptr);
     EXPECT_EQ(HostInterface<INodeCommands>(), nullptr);
+    EXPECT_EQ(HostInterface<ILayerSource>(), nullptr);
     Use(m_client, IManyLayers::ContractMinor);
     EXPECT_NE(HostInterface<IManyLayers>(), nullptr);
     Use(m_client, IMapScale::ContractMinor);
@@ -59,6 +61,8 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_NE(HostInterface<ISchemeManager>(), nullptr);
     EXPECT_NE(HostInterface<IMapNotes>(), nullptr);
     EXPECT_NE(HostInterface<INodeCommands>(), nullptr);
+    Use(m_client, ILayerSource::ContractMinor);
+    EXPECT_NE(HostInterface<ILayerSource>(), nullptr);
 }
 
 TEST_F(HostInterfaces, AreNotAskedOfAnOlderHost)

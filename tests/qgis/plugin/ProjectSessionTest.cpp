@@ -287,6 +287,21 @@ TEST_F(ProjectSessionTest, TheSchemeForTheOpeningIsAppliedWhenAProjectIsOpened)
     EXPECT_EQ(failed.count(), 0);
 }
 
+TEST_F(ProjectSessionTest, AProjectThatIsInTheSchemeForTheOpeningIsNotChanged)
+{
+    const QTemporaryDir folder;
+    Host().GetSchemeNames(); // makes "Standard"
+    LayerSchemes(session.Store()).SetAtOpening("Standard");
+    ASSERT_TRUE(project.write(folder.filePath("map.qgs")));
+    const QSignalSpy done(&session, &ProjectSession::Done);
+    ASSERT_TRUE(project.read(folder.filePath("map.qgs")));
+    Settle();
+    EXPECT_EQ(LayerSchemes(session.Store()).AtOpening(), "Standard");
+    EXPECT_EQ(done.count(), 0);
+    EXPECT_FALSE(project.isDirty());
+    EXPECT_FALSE(History().CanUndo());
+}
+
 TEST_F(ProjectSessionTest, AColourIsTheSameInASavedProject)
 {
     const QTemporaryDir folder;

@@ -51,7 +51,9 @@ protected:
         if (!nodes.isEmpty())
             Choose(nodes);
         m_user = user;
+        const int before = m_asked;
         Pick("Paste Settings...");
+        EXPECT_EQ(m_asked, before + 1) << "the window has not opened";
         m_user = [] {};
     }
 

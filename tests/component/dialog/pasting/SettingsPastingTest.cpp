@@ -63,6 +63,24 @@ TEST_F(SettingsPastingTest, PastesModeAndPriorityOnlyIfTheyAreTickedAndNeverName
     EXPECT_EQ(PressedModes(), 2);
 }
 
+TEST_F(SettingsPastingTest, PastesLineFillAndPriority)
+{
+    host.SetLayerColumn(2, "FillForeColor", qint32(0x112233));
+    host.SetLayerColumn(2, "FillBackColor", qint32(0x445566));
+    host.SetLayerColumn(2, "LineThickness", qint32(-3));
+    host.SetLayerColumn(2, "FillStyle", qint32(5));
+    host.SetLayerColumn(2, "Priority", qint32(7));
+    Copy("Rivers");
+    PasteInto({"Roads"}, [this] {
+        Press("cmdAll");
+        Press("cmdPaste");
+    });
+    for (const char* column : {"FillForeColor", "FillBackColor"})
+        EXPECT_EQ(qint32(Stored(1, column)) & 0xFFFFFF, qint32(Stored(2, column)) & 0xFFFFFF) << column;
+    for (const char* column : {"LineThickness", "FillStyle", "Priority"})
+        EXPECT_EQ(Stored(1, column), Stored(2, column)) << column;
+}
+
 TEST_F(SettingsPastingTest, PastesIntoTheLayersOfAGroup)
 {
     Copy("Parcels");

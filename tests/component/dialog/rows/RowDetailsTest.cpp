@@ -25,11 +25,14 @@ public:
     using ForwardingClient::ForwardingClient;
     QString source;
     qint32 askedFor = 0;
+    bool raises = false;
 
 private:
     QString ILayerSource_Source(qint32 layerID) override
     {
         askedFor = layerID;
+        if (raises)
+            throw RunTimeError(7, "locked");
         return source;
     }
 };
@@ -112,6 +115,19 @@ TEST_F(RowDetailsTest, TellWhereTheDataOfALayerAre)
     EXPECT_EQ(client.askedFor, 11);
     client.source.clear();
     EXPECT_THAT(TipOf(layers, "Roads"), Not(HasSubstr("Source")));
+}
+
+TEST_F(RowDetailsTest, AreLeftOutIfTheHostCannotTellTheSource)
+{
+    ClientWithSources client(host);
+    UseClient(client);
+    Open(List::Layers);
+    client.source = QStringLiteral("town.gpkg");
+    client.raises = true;
+    EXPECT_EQ(TipOf(layers, "Roads"), "<qt>Roads<br>Normal</qt>");
+    EXPECT_EQ(host.Log().CallsTo("Rollback").size(), 1);
+    client.raises = false;
+    EXPECT_THAT(TipOf(layers, "Roads"), HasSubstr("<br>Source: town.gpkg</qt>"));
 }
 
 TEST_F(RowDetailsTest, KeepBothEndsOfALongSource)
