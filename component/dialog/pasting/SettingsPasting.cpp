@@ -24,10 +24,12 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QTreeView>
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <utility>
 
 namespace Orvane {
@@ -178,7 +180,8 @@ QString SettingsPasting::WhyNotPaste() const
 void SettingsPasting::Copy()
 {
     const QPointer self(this);
-    if (!m_dialog.confirmEdits() || !self)
+    const std::function<bool()> confirm = m_dialog.confirmEdits; // the host may end the dialog meanwhile
+    if (!confirm() || !self)
         return;
     std::optional<Shown> shown = m_dialog.shown();
     if (!shown)
@@ -194,7 +197,8 @@ void SettingsPasting::Copy()
 void SettingsPasting::Paste()
 {
     const QPointer self(this);
-    if (!m_dialog.confirmEdits() || !self)
+    const std::function<bool()> confirm = m_dialog.confirmEdits; // the host may end the dialog meanwhile
+    if (!confirm() || !self)
         return;
     const std::optional<CopiedSettings> copied = SettingsClipboard::Read();
     if (!copied)
@@ -209,13 +213,16 @@ void SettingsPasting::Paste()
 std::optional<SettingSet> SettingsPasting::Ask(size_t layers, const std::vector<frmPasteSettings::Row>& rows)
 {
     const QPointer<frmPasteSettings> window = new frmPasteSettings(View()); // ends with the view
+    const auto ending = qScopeGuard([&window] {
+        if (window)
+            window->deleteLater();
+    });
     const SettingSet offered = SettingsIn(rows);
     window->Show(TargetText(layers), rows, PasteTicks::TickedOf(offered));
     const bool isConfirmed = window->Ask();
     if (!window)
         return std::nullopt;
     SettingSet ticked = window->Ticked();
-    window->deleteLater();
     if (!isConfirmed)
         return std::nullopt;
     PasteTicks::Remember(offered, ticked);

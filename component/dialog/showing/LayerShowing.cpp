@@ -257,9 +257,8 @@ void LayerShowing::Store(const std::function<ModeStore::Change()>& plan)
 // The host may have corrected the modes while it redrew the map.
 void LayerShowing::Tell(const std::vector<LayerMode>& changed)
 {
-    const std::vector<LayerMode> now = ReadModesOf(changed);
-    m_trees.SetLayerImages(now);
     FirstError errors;
+    errors.Try([&] { m_trees.SetLayerImages(ReadModesOf(changed)); });
     errors.Try([&] { m_shown.Read(); }); // all of them were read for the change, too
     Retranslate();
     errors.Try([&] { emit ModesChanged(LayersOf(changed)); });

@@ -88,7 +88,7 @@ void frmLayerStyles::WirePasting()
         return SettingsPasting::Shown{{settings->style, settings->quickMode}, settings->name};
     };
     m_parts->pasting.SetDialog(
-        {[this] { return m_selection->ConfirmPendingChanges(); }, shown,
+        {[this] { return m_selection->ConfirmPendingChanges() && !m_unloaded; }, shown,
          [this] { return LoadRendererStyles(); }});
     connect(&m_parts->pasting, &SettingsPasting::Pasted, m_selection.get(), &SelectionEditor::Load);
     connect(&m_parts->pasting, &SettingsPasting::Pasted, &m_parts->showing, &LayerShowing::ReadShown);
@@ -276,11 +276,15 @@ void frmLayerStyles::LoadNodes()
 // The edits stay as long as there is a layer for them.
 void frmLayerStyles::OnDeleteAsked()
 {
-    if (m_selection->IsModified() && !m_selection->HasExistingLayer())
-        m_selection->SetModified(false);
+    if (m_unloaded)
+        return;
     m_parts->trees.MarkStale(LayerTrees::List::Groups);
     m_parts->trees.MarkStale(LayerTrees::List::Layers);
     FirstError errors;
+    errors.Try([this] {
+        if (m_selection->IsModified() && !m_selection->HasExistingLayer())
+            m_selection->SetModified(false);
+    });
     ReadAgain(errors);
     errors.Rethrow();
 }
