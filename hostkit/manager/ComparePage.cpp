@@ -222,6 +222,7 @@ void ComparePage::CompareSoon()
 void ComparePage::Compare()
 {
     m_model->Show({});
+    m_compared = WholeScheme;
     ShowCount(); // also if the user cancels
     {
         const LongWork work(m_host.map, tr("Comparing Schemes"), this);

@@ -20,6 +20,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -173,6 +174,7 @@ void SchemesPage::ReadAgain()
     const QStringList chosen = ChosenNames();
     m_model->Show(Schemes(), m_isArranging ? Counts::Keep : Counts::Forget);
     m_table->Choose(chosen);
+    EnableCommands(); // the choice may be as it was
     m_counting.start(0);
 }
 
@@ -289,9 +291,10 @@ void SchemesPage::SwitchOpening()
     const QString name = ChosenNames().value(0);
     const int row = m_model->RowOf(name);
     const bool wasChosen = row >= 0 && m_model->DetailsAt(row).isAtOpening;
+    const QPointer self(this); // the host may end the window while the error is shown
     const bool isStored
         = GuardCommand(this, [&] { m_host.schemes.SetAtOpening(wasChosen ? QString() : name); });
-    if (!isStored)
+    if (!isStored && self)
         EnableCommands();
 }
 
@@ -371,7 +374,8 @@ void SchemesPage::Redo()
 // Asks until the name is not blank; empty if the user cancels.
 QString SchemesPage::AskName(const QString& title, const QString& proposed)
 {
-    for (;;) {
+    const QPointer self(this);
+    while (self) {
         const PromptRequest request{title, proposed, EntryKind::Text, 0, 0, NameWidth};
         const PromptAnswer answer = OwnedDialog<TextPrompt>(request, this)->Ask();
         const QString name = answer.text.trimmed();
@@ -379,6 +383,7 @@ QString SchemesPage::AskName(const QString& title, const QString& proposed)
             return answer.accepted ? name : QString();
         ShowNotice(this, title, tr("Please supply a non-blank name, or cancel."));
     }
+    return {};
 }
 
 void SchemesPage::ChooseOnly(const QString& name)

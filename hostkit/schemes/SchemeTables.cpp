@@ -63,7 +63,7 @@ StoreTable ValuesTable()
 
 SchemeParts PartsIn(const Value& number)
 {
-    return PartsOfNumber(qint32(NumberIn(number).value_or(0)));
+    return PartsOfNumber(Int32In(number).value_or(0));
 }
 
 // haveDetails: whether the row has the columns that came later.
