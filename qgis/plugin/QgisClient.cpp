@@ -38,7 +38,7 @@ QgsMapLayer* MakeScratchLayer()
 // QGIS takes out passwords, but not those in an address.
 QString PublicSource(const QgsMapLayer& layer)
 {
-    static const QRegularExpression signIn(QStringLiteral("//[^/@]*@"));
+    static const QRegularExpression signIn(QStringLiteral("//[^/?#]*@"));
     return layer.publicSource().replace(signIn, QStringLiteral("//"));
 }
 

@@ -82,19 +82,23 @@ QgsMapLayer* MakeLayerInQgis(QgisInterface& qgis)
     return made;
 }
 
-QItemSelection RowsOf(QgsLayerTreeView& view, const QList<QgsMapLayer*>& layers)
-{
-    QItemSelection rows;
-    for (const QgsMapLayer* layer : layers) {
-        if (QgsLayerTreeLayer* node = view.layerTreeModel()->rootGroup()->findLayer(layer->id()))
-            rows.select(view.node2index(node), view.node2index(node));
-    }
-    return rows;
-}
-
 template <typename Layers> QSet<QgsMapLayer*> SetOf(const Layers& layers)
 {
     return {layers.begin(), layers.end()};
+}
+
+QItemSelection RowsOf(QgsLayerTreeView& view, const QList<QgsMapLayer*>& layers)
+{
+    QItemSelection rows;
+    const QSet<QgsMapLayer*> wanted = SetOf(layers);
+    const QList<QgsLayerTreeLayer*> nodes = view.layerTreeModel()->rootGroup()->findLayers();
+    for (QgsLayerTreeLayer* node : nodes) {
+        if (!wanted.contains(node->layer()))
+            continue;
+        const QModelIndex index = view.node2index(node);
+        rows.select(index, index);
+    }
+    return rows;
 }
 
 // The action removes what is selected in the panel, after one question.
