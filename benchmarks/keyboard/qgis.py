@@ -3,7 +3,7 @@
 """usage: qgis.py PROCESS FOLDER
 
 The keys of a user who gives the 37 pipes one look in QGIS, in a city's project that is open. QGIS finds one layer at a
-time, so a few pipes are measured, and all 37 are taken to need as much as the mean of them. Writes FOLDER/figures.
+time, so a few pipes are measured, and all are taken to need as much as the mean of them. Writes FOLDER/figures.
 """
 import os
 import sys
@@ -27,15 +27,15 @@ class QgisUser(keys.User):
         if key.startswith("alt+"):
             time.sleep(MENU)
 
-    def repeat(self, name, words):
-        """A step for each of a few pipes; the mean, and what all need."""
+    def repeat(self, name, times, words):
+        """A step for each of a few pipes; the mean, and what so many pipes need."""
         first = len(self.steps)
         for pipe in range(2, 2 + FEW):
             self.step("%s %d" % (name, pipe), *(word.replace("PIPE", str(pipe)) for word in words))
         few = self.steps[first:]
         del self.steps[first:]
         self.steps.append(("%s, one pipe" % name, *(sum(step[column] for step in few) / FEW for column in (1, 2, 3))))
-        self.steps.append(("%s, all pipes" % name, *(sum(step[column] for step in few) * PIPES / FEW for column in (1, 2, 3))))
+        self.steps.append(("%s, %d pipes" % (name, times), *(sum(step[column] for step in few) * times / FEW for column in (1, 2, 3))))
 
 
 def main():
@@ -46,9 +46,9 @@ def main():
     user.step("its scale range", "alt+l", " ".join(["Up"] * 9), "Return", "[scale visibility]",
               "space Tab", "'50000'", "Tab Tab", "'1000'", "Return", "[QGIS]")
     user.step("copy its style", "alt+l", "Down Down Down Down Down Return")
-    user.repeat("find and paste the style", ["ctrl+k", "'l water pipe PIPE'", "Return", "alt+l", "Down Down Down Down Down Down Return"])
+    user.repeat("find and paste the style", PIPES - 1, ["ctrl+k", "'l water pipe PIPE'", "Return", "alt+l", "Down Down Down Down Down Down Return"])
     user.step("hide all", "ctrl+shift+h")
-    user.repeat("find and show", ["ctrl+k", "'l water pipe PIPE'", "Return", "alt+v", "Up Up Up Up Up Up Right Down Down Return"])
+    user.repeat("find and show", PIPES, ["ctrl+k", "'l water pipe PIPE'", "Return", "alt+v", "Up Up Up Up Up Up Right Down Down Return"])
     user.report(os.path.join(sys.argv[2], "figures"))
 
 

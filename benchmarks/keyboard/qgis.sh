@@ -17,7 +17,7 @@ session() {
     qgis --profiles-path "$out/qgis" --nologo --noversioncheck "$out/city.qgs" &
     program=$!
     until xdotool search --name '^city — QGIS' >"$out/qgis/window"; do
-        kill -0 $program
+        kill -0 $program || return 1
         sleep 1
     done
     echo "open the project;0;$((SECONDS - began));" >"$out/qgis/opening"

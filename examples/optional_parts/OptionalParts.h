@@ -5,6 +5,7 @@
 #include <orvane/OrvaneShellLib/IStyleEditorForm.h>
 #include <orvane/OrvaneShellLib/IStyleEditorRefresh.h>
 #include <orvane/OrvaneShellLib/IStyleFilter.h>
+#include <orvane/OrvaneShellLib/RunTimeError.h>
 #include <orvane/OrvaneShellLib/Transaction.h>
 #include <orvane/OrvaneShellLib/ValueConversions.h>
 #include <orvane/store/ILayerStore.h>
@@ -20,6 +21,7 @@ namespace Orvane {
 
 /// All that a host may implement besides IStyleEditorClient, each in a few lines; the rest is another
 /// client's. A host of its own derives from IStyleEditorClient and from those interfaces that it has use for.
+/// Commands of its own are in ../dock_host.
 class OptionalParts : public ForwardingClient
 {
 public:
@@ -83,8 +85,12 @@ private:
         QDialog window(form);
         QListWidget schemes(&window);
         schemes.addItems(GetSchemeNames());
-        QObject::connect(&schemes, &QListWidget::itemActivated, [this](const QListWidgetItem* item) {
-            SaveScheme(item->text());
+        QObject::connect(&schemes, &QListWidget::itemActivated, [&](const QListWidgetItem* item) {
+            try {
+                SaveScheme(item->text());
+            } catch (const RunTimeError& error) {
+                QMessageBox::warning(&window, {}, error.Description());
+            }
         });
         window.exec();
     }
