@@ -47,12 +47,12 @@ QString SourceText(const QgsMapLayer& layer)
     const QString provider = layer.providerType();
     if (provider == QLatin1String("memory"))
         return QgisClient::tr("Temporary scratch layer");
-    const QString source = PublicSource(layer);
+    QString source = PublicSource(layer);
     const QVariantMap parts = QgsProviderRegistry::instance()->decodeUri(provider, source);
     const QString path = parts.value(QStringLiteral("path")).toString();
     if (path.isEmpty())
         return source;
-    const QString name = parts.value(QStringLiteral("layerName")).toString();
+    QString name = parts.value(QStringLiteral("layerName")).toString();
     if (!QFileInfo(path).isAbsolute()) // of a connection, whose name may hold a password
         return name;
     const QString file = QDir::toNativeSeparators(path);
