@@ -180,6 +180,10 @@
         <translation>Ab&amp;brechen</translation>
     </message>
     <message>
+        <source>Both fill colours are transparent: the fill has the line colour.</source>
+        <translation>Beide Füllfarben sind transparent: die Füllung hat die Linienfarbe.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>

@@ -56,6 +56,10 @@
         <translation>&lt;aucune&gt;</translation>
     </message>
     <message>
+        <source>Both fill colours are transparent: the fill has the line colour.</source>
+        <translation>Les deux couleurs de remplissage sont transparentes : le remplissage prend la couleur du trait.</translation>
+    </message>
+    <message>
         <source>[various]</source>
         <translation>[divers]</translation>
     </message>

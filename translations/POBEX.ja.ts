@@ -180,6 +180,10 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
+        <source>Both fill colours are transparent: the fill has the line colour.</source>
+        <translation>塗りつぶしの色が両方とも透明なので、線の色で塗ります。</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
