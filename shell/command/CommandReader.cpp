@@ -17,6 +17,11 @@ bool IsHarmless(char32_t character)
     return character == NonJoiner || character == Joiner || (QChar::isPrint(character) && !breaksLine);
 }
 
+bool AsksForHelp(const QStringList& arguments)
+{
+    return arguments.contains(QLatin1String("--help")) || arguments.contains(QLatin1String("-h"));
+}
+
 } // namespace
 
 QString TerminalText(const QString& text)
@@ -61,13 +66,14 @@ void CommandReader::RequireWords(qsizetype least, qsizetype most)
 
 std::optional<int> CommandReader::Read(const QStringList& arguments, const Terminal& terminal)
 {
-    if (!m_parser.parse(arguments))
-        return Refuse(terminal, m_parser.errorText());
-    if (m_parser.isSet(QStringLiteral("help"))) {
+    const bool isUnderstood = m_parser.parse(arguments);
+    if (AsksForHelp(arguments)) { // also where an option lacks its value, as in "--export --help"
         terminal.out << m_parser.helpText();
         terminal.out.flush();
         return ExitCode::Done;
     }
+    if (!isUnderstood)
+        return Refuse(terminal, m_parser.errorText());
     const qsizetype count = Words().size();
     if (count < m_leastWords)
         return Refuse(terminal, QCoreApplication::translate("CommandLine", "An argument is missing."));

@@ -80,8 +80,8 @@ int Export(const ExportRequest& request, const Terminal& terminal)
     if (area.IsEmpty() && backdrop.picture)
         area = backdrop.picture->Extent();
     const MapPage page(
-        document.Database(), services, {layers.All(), document.System(), area, backdrop.picture},
-        request.page);
+        document.Database(), services,
+        {layers.All(), document.System(), area, backdrop.picture, document.Background()}, request.page);
     WritePage(page, request.file, progress);
     TellFailures(contents, terminal);
     if (!backdrop.failure.isEmpty())

@@ -43,6 +43,7 @@ TEST_F(CommandLineTest, EachCommandHasHelp)
          {QStringList("--help"),
           {"import", "--help"},
           {"check", "--help"},
+          {"--export", "--help"},
           {"x.orvane", "--export", "f", "--help"}}) {
         EXPECT_EQ(Run(command), ExitCode::Done);
         EXPECT_TRUE(m_out.contains("--help")) << command.join(' ').toStdString();
