@@ -61,7 +61,8 @@ if(ORVANE_BUILD_SHELL)
     DESCRIPTION "Orvane shows maps of many layers, styles them in its layer control, and
 prints them. It reads vector data in all formats that GDAL reads."
     DEPENDS "orvane-layer-control (= ${PROJECT_VERSION})")
-  set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS qt6-translations-l10n)
+  set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "qt6-translations-l10n, fonts-noto-cjk | fonts-ipafont-gothic")
 else()
   list(REMOVE_ITEM CPACK_COMPONENTS_ALL program)
 endif()
