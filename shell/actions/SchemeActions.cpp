@@ -33,6 +33,7 @@ SchemeActions::SchemeActions(QMenu& menu, QStatusBar& statusBar, LayerControl& c
       m_status(new SchemeStatus(&statusBar)), m_schemes(new QActionGroup(this))
 {
     statusBar.addPermanentWidget(m_status);
+    m_menu.menuAction()->setStatusTip(tr("Named sets of the settings of all layers"));
     MakeCommands();
     connect(&m_menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { Fill(); }); });
 }

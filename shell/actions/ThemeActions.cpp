@@ -2,6 +2,7 @@
 #include "shell/actions/ThemeActions.h"
 
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/undo/UndoHistory.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
@@ -15,6 +16,8 @@
 
 #include <QMenu>
 #include <QMessageBox>
+
+#include <vector>
 
 namespace Orvane {
 
@@ -40,8 +43,11 @@ std::optional<qint32> ThemeOf(const QString& editorID)
 } // namespace
 
 ThemeActions::ThemeActions(QMenu& menu, LayerControl& control, QWidget& window)
-    : m_menu(menu), m_deletions(new QMenu(tr("&Delete Theme"), &menu)), m_control(control), m_window(window)
+    : m_menu(menu), m_names(new QMenu(tr("&Rename Theme"), &menu)),
+      m_deletions(new QMenu(tr("&Delete Theme"), &menu)), m_control(control), m_window(window)
 {
+    m_menu.menuAction()->setStatusTip(tr("Lists of the layers that you need for one task, without settings"));
+    m_names->setObjectName(QStringLiteral("menuRenameTheme"));
     m_deletions->setObjectName(QStringLiteral("menuDeleteTheme"));
     connect(&m_menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { Fill(); }); });
 }
@@ -49,7 +55,12 @@ ThemeActions::ThemeActions(QMenu& menu, LayerControl& control, QWidget& window)
 void ThemeActions::Use(MapSession& session)
 {
     m_session = &session;
+    m_open.clear();
     ShellClient& shell = session.Shell();
+    // Queued: the step that is undone still tells the open editors about it.
+    connect(
+        &shell.History(), &UndoHistory::Changed, this,
+        [this] { Guard(&m_window, [this] { FollowHistory(); }); }, Qt::QueuedConnection);
     shell.SetThemeNames([this](const QString& editorID) { return ThemeNameOf(editorID); });
     connect(&shell.Notifications(), &HostNotifications::LayerCreated, this, [this, &shell](qint32 layerID) {
         Guard(&m_window, [&] { AddToTheme(shell.CreatingEditor(), layerID); });
@@ -58,8 +69,9 @@ void ThemeActions::Use(MapSession& session)
 
 void ThemeActions::Open(qint32 themeID)
 {
-    const MapThemes themes(m_session->Document().Database());
-    m_control.Show(EditorIDOf(themeID), std::make_shared<ThemeFilter>(themes.LayersOf(themeID)));
+    const OpenTheme theme = Stored(themeID);
+    m_control.Show(EditorIDOf(themeID), std::make_shared<ThemeFilter>(theme.layers));
+    m_open[themeID] = theme;
     m_session->Shell().RaiseEditor(EditorIDOf(themeID));
 }
 
@@ -70,6 +82,7 @@ void ThemeActions::Fill()
     create->setObjectName(QStringLiteral("actNewTheme"));
     connect(create, &QAction::triggered, this, [this] { Guard(&m_window, [this] { NewTheme(); }); });
     m_menu.addSeparator();
+    m_names->clear();
     m_deletions->clear();
     const auto themes = MapThemes(m_session->Document().Database()).All();
     for (const MapThemes::Theme& theme : themes) {
@@ -79,18 +92,21 @@ void ThemeActions::Fill()
                 [=, this, id = theme.id] { Guard(&m_window, [&] { (this->*command)(id); }); });
         };
         add(m_menu, &ThemeActions::Open);
+        add(*m_names, &ThemeActions::Rename);
         add(*m_deletions, &ThemeActions::Delete);
     }
-    FillDeletions(!themes.empty());
+    AddThemes(!themes.empty());
 }
 
-void ThemeActions::FillDeletions(bool hasThemes)
+void ThemeActions::AddThemes(bool hasThemes)
 {
     if (!hasThemes)
         m_menu.addAction(tr("No themes yet"))->setEnabled(false);
     m_menu.addSeparator();
-    m_menu.addMenu(m_deletions);
-    m_deletions->setEnabled(hasThemes);
+    for (QMenu* menu : {m_names, m_deletions}) {
+        m_menu.addMenu(menu);
+        menu->setEnabled(hasThemes);
+    }
 }
 
 void ThemeActions::NewTheme()
@@ -100,25 +116,29 @@ void ThemeActions::NewTheme()
         QMessageBox::information(&m_window, tr("New Theme"), tr("No layer of this map is visible."));
         return;
     }
-    const std::optional<QString> name = AskForName();
+    const std::optional<QString> name = AskForName(tr("New Theme"));
     if (!name || !MayReplace(*name))
         return;
-    Open(themes.StoreVisibleLayers(*name));
+    themes.Prepare();
+    qint32 themeID = 0;
+    m_session->Shell().RecordStep([&] {
+        themeID = themes.StoreVisibleLayers(*name);
+        return tr("New Theme \"%1\"").arg(NameInStep(*name));
+    });
+    Open(themeID);
 }
 
-std::optional<QString> ThemeActions::AskForName()
+std::optional<QString> ThemeActions::AskForName(const QString& title, const QString& name)
 {
-    QString name;
-    while (name.isEmpty()) {
-        const PromptAnswer answer = m_session->Client().PromptText(
-            {.title = tr("New Theme"), .defaultText = {}, .width = NameWidth});
+    while (true) {
+        const PromptAnswer answer
+            = m_session->Client().PromptText({.title = title, .defaultText = name, .width = NameWidth});
         if (!answer.accepted)
             return std::nullopt;
-        name = answer.text.trimmed();
-        if (name.isEmpty())
-            QMessageBox::information(&m_window, tr("New Theme"), tr("Enter a name."));
+        if (const QString entered = answer.text.trimmed(); !entered.isEmpty())
+            return entered;
+        QMessageBox::information(&m_window, title, tr("Enter a name."));
     }
-    return name;
 }
 
 bool ThemeActions::MayReplace(const QString& name)
@@ -130,13 +150,51 @@ bool ThemeActions::MayReplace(const QString& name)
                 .arg(NameInText(name)));
 }
 
+void ThemeActions::Rename(qint32 themeID)
+{
+    const MapThemes themes(m_session->Document().Database());
+    const QString before = themes.NameOf(themeID);
+    const std::optional<QString> name = AskForName(tr("Rename Theme"), before);
+    if (!name || *name == before)
+        return;
+    if (themes.Find(*name)) {
+        QMessageBox box(
+            QMessageBox::Information, tr("Rename Theme"),
+            tr("There is already a theme \"%1\".").arg(NameInText(*name)), QMessageBox::Ok, &m_window);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+        return;
+    }
+    StoreName(themeID, *name);
+}
+
+// The title of an editor has the name from when it was opened.
+void ThemeActions::StoreName(qint32 themeID, const QString& name)
+{
+    const bool isShown = m_control.IsShown(EditorIDOf(themeID));
+    if (!m_control.Close(EditorIDOf(themeID)))
+        return;
+    MapThemes themes(m_session->Document().Database());
+    m_session->Shell().RecordStep([&] {
+        const QString before = themes.NameOf(themeID);
+        themes.Rename(themeID, name);
+        return tr("Rename Theme \"%1\"").arg(NameInStep(before));
+    });
+    if (isShown)
+        Open(themeID);
+}
+
 void ThemeActions::Delete(qint32 themeID)
 {
     MapThemes themes(m_session->Document().Database());
-    const QString question
-        = tr("Delete the theme \"%1\"? Its layers stay in the map.").arg(NameInText(themes.NameOf(themeID)));
-    if (Confirm(m_window, tr("Delete Theme"), question) && m_control.Close(EditorIDOf(themeID)))
+    const QString name = themes.NameOf(themeID);
+    const QString question = tr("Delete the theme \"%1\"? Its layers stay in the map.").arg(NameInText(name));
+    if (!Confirm(m_window, tr("Delete Theme"), question) || !m_control.Close(EditorIDOf(themeID)))
+        return;
+    m_session->Shell().RecordStep([&] {
         themes.Remove(themeID);
+        return tr("Delete Theme \"%1\"").arg(NameInStep(name));
+    });
 }
 
 QString ThemeActions::ThemeNameOf(const QString& editorID) const
@@ -153,7 +211,35 @@ void ThemeActions::AddToTheme(const QString& editorID, qint32 layerID)
         return;
     MapThemes themes(m_session->Document().Database());
     themes.AddLayer(*themeID, layerID);
-    m_control.Show(editorID, std::make_shared<ThemeFilter>(themes.LayersOf(*themeID)));
+    m_open[*themeID] = Stored(*themeID);
+    m_control.Show(editorID, std::make_shared<ThemeFilter>(m_open[*themeID].layers));
+}
+
+ThemeActions::OpenTheme ThemeActions::Stored(qint32 themeID) const
+{
+    const MapThemes themes(m_session->Document().Database());
+    return {themes.NameOf(themeID), themes.LayersOf(themeID)};
+}
+
+// Undo and redo may change themes whose editors are open.
+void ThemeActions::FollowHistory()
+{
+    std::erase_if(m_open, [this](const auto& entry) { return !m_control.IsShown(EditorIDOf(entry.first)); });
+    std::vector<qint32> changed;
+    for (const auto& [themeID, known] : m_open) {
+        if (Stored(themeID) != known)
+            changed.push_back(themeID);
+    }
+    for (const qint32 themeID : changed)
+        ShowAgain(themeID);
+}
+
+void ThemeActions::ShowAgain(qint32 themeID)
+{
+    if (!m_control.Close(EditorIDOf(themeID)))
+        return;
+    if (!Stored(themeID).name.isEmpty())
+        Open(themeID);
 }
 
 } // namespace Orvane

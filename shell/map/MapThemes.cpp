@@ -86,7 +86,7 @@ bool MapThemes::HasVisibleLayers() const
 qint32 MapThemes::StoreVisibleLayers(const QString& name)
 {
     Transaction transaction(m_database);
-    MakeTables();
+    Prepare();
     m_database.Execute(
         QStringLiteral("INSERT INTO Themes (Name) VALUES (?1) ON CONFLICT DO NOTHING"), {name});
     const qint32 themeID = Find(name)->id;
@@ -107,6 +107,11 @@ void MapThemes::AddLayer(qint32 themeID, qint32 layerID)
         {themeID, layerID});
 }
 
+void MapThemes::Rename(qint32 themeID, const QString& name)
+{
+    m_database.Execute(QStringLiteral("UPDATE Themes SET Name = ?2 WHERE ThemeID = ?1"), {themeID, name});
+}
+
 void MapThemes::Remove(qint32 themeID)
 {
     m_database.Execute(QStringLiteral("DELETE FROM Themes WHERE ThemeID = ?1"), {themeID});
@@ -117,7 +122,7 @@ bool MapThemes::HasTables() const
     return m_database.HasTable(QStringLiteral("ThemeLayers"));
 }
 
-void MapThemes::MakeTables()
+void MapThemes::Prepare()
 {
     using Nulls = StoreColumn::Nulls;
     const QString themes = QStringLiteral("Themes");

@@ -12,7 +12,7 @@ namespace Orvane {
 class ILayerStore;
 
 /// The themes of a map: named sets of its layers, kept in the map file's own tables Themes and ThemeLayers,
-/// which are made with the first theme. A deleted layer is removed from all themes. Each operation is one
+/// which Prepare makes. A deleted layer is removed from all themes. Each operation is one
 /// transaction.
 class MapThemes
 {
@@ -35,17 +35,20 @@ public:
 
     /// True when a layer is visible, not hidden by its quick mode, and listed by the layer control.
     bool HasVisibleLayers() const;
+    /// Makes the tables of themes if there are none yet. Call it before the changes of a step are recorded.
+    void Prepare();
     /// Makes a theme of the visible layers and returns its ID; an existing theme of that name gets these
     /// layers instead of its own.
     qint32 StoreVisibleLayers(const QString& name);
     /// Adds the layer to the theme, unless it is there.
     void AddLayer(qint32 themeID, qint32 layerID);
+    /// Raises the error of the database if another theme has that name.
+    void Rename(qint32 themeID, const QString& name);
     /// Removes the theme; its layers stay.
     void Remove(qint32 themeID);
 
 private:
     bool HasTables() const;
-    void MakeTables();
 
     ILayerStore& m_database;
 };

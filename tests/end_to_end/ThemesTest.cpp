@@ -145,6 +145,55 @@ TEST_F(Themes, DeletingAsksClosesItsEditorAndKeepsTheLayers)
     EXPECT_EQ(Count("Layers"), layers);
 }
 
+TEST_F(Themes, ADeletedThemeComesBackByUndo)
+{
+    MakeTheme("Town");
+    const QStringList layers = Listed(Editor("Town"));
+    MessageBoxRobot user{BoxKey::Yes};
+    Entries("menuThemes");
+    Choose("menuDeleteTheme", "Town");
+    Trigger("actUndo");
+    Choose("menuThemes", "Town");
+    ASSERT_TRUE(Editor("Town"));
+    EXPECT_EQ(Listed(Editor("Town")), layers);
+    Editor("Town")->close();
+}
+
+TEST_F(Themes, ARenamedThemeIsOpenUnderItsNewNameAndUnderTheOldOneAfterUndo)
+{
+    MakeTheme("Town");
+    AnswerPrompt("Village");
+    Entries("menuThemes");
+    Choose("menuRenameTheme", "Town");
+    EXPECT_FALSE(Editor("Town"));
+    ASSERT_TRUE(Editor("Village"));
+    Trigger("actUndo");
+    EXPECT_TRUE(QTest::qWaitFor([] { return Editor("Town") && !Editor("Village"); }));
+    Editor("Town")->close();
+}
+
+TEST_F(Themes, ANameThatAnotherThemeHasIsRefused)
+{
+    MakeTheme("Town");
+    Editor("Town")->close();
+    MakeTheme("Village");
+    MessageBoxRobot user{BoxKey::Enter};
+    AnswerPrompt("Town");
+    Entries("menuThemes");
+    Choose("menuRenameTheme", "Village");
+    EXPECT_TRUE(user.Only().text.contains("\"Town\""));
+    EXPECT_TRUE(Editor("Village"));
+    Editor("Village")->close();
+}
+
+TEST_F(Themes, UndoingANewThemeClosesItsEditor)
+{
+    MakeTheme("Town");
+    Trigger("actUndo");
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Editor("Town"); }));
+    EXPECT_TRUE(Entries("menuThemes").contains("No themes yet"));
+}
+
 TEST_F(Themes, ClosingTheMapClosesTheEditorsAndAsksAboutTheEditsOfEach)
 {
     MakeTheme("Town");

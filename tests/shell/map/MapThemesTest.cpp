@@ -113,6 +113,23 @@ TEST_F(MapThemesTest, ARemovedThemeLeavesItsLayers)
     EXPECT_TRUE(m_themes.HasVisibleLayers());
 }
 
+TEST_F(MapThemesTest, ARenamedThemeKeepsItsLayersAndNumber)
+{
+    const qint32 themeID = m_themes.StoreVisibleLayers("Water");
+    m_themes.Rename(themeID, "Rivers and lakes");
+    EXPECT_EQ(m_themes.NameOf(themeID), "Rivers and lakes");
+    EXPECT_EQ(m_themes.LayersOf(themeID).size(), 3);
+    EXPECT_FALSE(m_themes.Find("Water"));
+}
+
+TEST_F(MapThemesTest, NoTwoThemesGetOneName)
+{
+    const qint32 themeID = m_themes.StoreVisibleLayers("Water");
+    m_themes.StoreVisibleLayers("Land");
+    EXPECT_ANY_THROW(m_themes.Rename(themeID, "Land"));
+    EXPECT_EQ(m_themes.NameOf(themeID), "Water");
+}
+
 TEST_F(MapThemesTest, ADeletedLayerLeavesItsThemes)
 {
     const qint32 themeID = m_themes.StoreVisibleLayers("Water");
