@@ -88,6 +88,12 @@ void MapCanvas::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
     m_picture.SetBackdrop(std::move(backdrop));
 }
 
+void MapCanvas::SetBackground(const QColor& colour)
+{
+    m_picture.SetBackground(colour);
+    update();
+}
+
 void MapCanvas::SetView(const MapView& view)
 {
     if (view == m_view)
@@ -143,7 +149,7 @@ void MapCanvas::RemoveOverlay(const MapOverlay* overlay)
 void MapCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(rect(), m_picture.Background());
     PaintMap(painter);
     PaintOverlays(painter);
 }

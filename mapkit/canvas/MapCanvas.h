@@ -36,6 +36,9 @@ public:
     /// Sets the picture under all layers; nullptr for none.
     void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
 
+    /// Sets the colour under everything, which is white at first.
+    void SetBackground(const QColor& colour);
+
     const MapView& View() const { return m_view; }
     void SetView(const MapView& view);
     /// The n of the scale 1:n.

@@ -68,6 +68,15 @@ void MapPicture::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
     Refresh();
 }
 
+void MapPicture::SetBackground(const QColor& colour)
+{
+    if (colour == m_background)
+        return;
+    m_background = colour;
+    if (!m_image.isNull())
+        Compose();
+}
+
 void MapPicture::SetView(const MapView& view, double scaleDenominator, double devicePixelRatio)
 {
     if (view == m_view && devicePixelRatio == m_devicePixelRatio && !m_image.isNull())
@@ -206,7 +215,7 @@ void MapPicture::Compose()
     m_imageView = m_view;
     m_image = QImage((QSizeF(m_view.Size()) * m_devicePixelRatio).toSize(), QImage::Format_RGB32);
     m_image.setDevicePixelRatio(m_devicePixelRatio);
-    m_image.fill(Qt::white);
+    m_image.fill(m_background);
     QPainter painter(&m_image);
     PlaceBackdrop(painter);
     for (const Sheet& sheet : m_sheets) {

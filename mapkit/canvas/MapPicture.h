@@ -39,6 +39,8 @@ public:
     void SetLayers(std::vector<MapLayer> layers);
     /// Sets the picture under all layers; nullptr for none.
     void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
+    /// The colour under everything; white at first.
+    void SetBackground(const QColor& colour);
     /// Shows another part of the map. Drawing of the former part is cancelled.
     void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
     /// Sets all three, and draws only once.
@@ -46,6 +48,7 @@ public:
         std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
         double scaleDenominator, double devicePixelRatio);
 
+    const QColor& Background() const { return m_background; }
     const std::vector<MapLayer>& Layers() const { return m_layers; }
     const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
     /// The last picture; null before the first one is drawn.
@@ -79,6 +82,7 @@ private:
     void PlaceBackdrop(QPainter& painter) const;
     void SetPending(size_t pending);
 
+    QColor m_background = Qt::white;
     std::vector<MapLayer> m_layers;
     std::vector<Sheet> m_sheets;
     Images m_images; // of m_view

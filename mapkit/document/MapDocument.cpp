@@ -106,6 +106,17 @@ void MapDocument::SetSystem(const QString& system)
     MapSettings::Write(*m_database, QStringLiteral("System"), system);
 }
 
+QColor MapDocument::Background() const
+{
+    const QColor stored(MapSettings::Read(*m_database, QStringLiteral("Background")));
+    return stored.isValid() ? QColor::fromRgb(stored.rgb()) : QColor(Qt::white);
+}
+
+void MapDocument::SetBackground(const QColor& colour)
+{
+    MapSettings::Write(*m_database, QStringLiteral("Background"), colour.name());
+}
+
 QString MapDocument::Backdrop() const
 {
     return FindBackdrop(*m_database, m_path);

@@ -6,6 +6,7 @@
 #include "mapkit/looks/LayerLook.h"
 #include "store/StoreOptions.h"
 
+#include <QColor>
 #include <QString>
 
 #include <functional>
@@ -75,6 +76,10 @@ public:
     /// The coordinate system that the map is shown in; empty until the first data is added.
     QString System() const;
     void SetSystem(const QString& system);
+
+    /// The colour under everything; white unless it was set.
+    QColor Background() const;
+    void SetBackground(const QColor& colour);
 
     /// The picture under all layers, as an absolute path; empty for none.
     QString Backdrop() const;

@@ -131,6 +131,7 @@ void MapPage::Paint(QPainter& painter, const std::atomic<bool>& cancelled) const
 void MapPage::PaintMapFrame(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
     painter.save();
+    painter.fillRect(m_layout.map, m_contents.background);
     painter.translate(m_layout.map.topLeft());
     PaintLayers(painter, cancelled);
     painter.restore();

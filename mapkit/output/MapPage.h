@@ -7,6 +7,8 @@
 #include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/output/PageLayout.h"
 
+#include <QColor>
+
 #include <atomic>
 #include <memory>
 #include <vector>
@@ -24,6 +26,7 @@ struct PageContents {
     QString system; ///< coordinate system of the map
     Box area; ///< shown completely, or around its middle if the settings have a scale
     std::shared_ptr<const RasterBackdrop> backdrop = nullptr; ///< under all layers; nullptr for none
+    QColor background = Qt::white; ///< of the map; the rest of the page is white
 };
 
 /// A map with title, legend and scale bar, laid out for one page. It can be painted any number of times.

@@ -7,22 +7,38 @@
 #include "shell/map/MapSession.h"
 
 #include <QAction>
+#include <QColorDialog>
 #include <QMenu>
 
 namespace Orvane {
 
 RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(window)
 {
-    QAction* action = menu.addAction(tr("Layer &Rendering..."));
-    action->setObjectName(QStringLiteral("actLayerRendering"));
-    action->setStatusTip(tr("Choose the attributes that label and colour the features of a layer"));
-    connect(action, &QAction::triggered, this, [this] { Guard(&m_window, [this] { Ask(); }); });
-    connect(&menu, &QMenu::aboutToShow, this, [this, action] {
-        Guard(&m_window, [&] { action->setEnabled(m_session->Document().HasLayers()); });
+    QAction* rendering = Add(
+        menu, "actLayerRendering", tr("Layer &Rendering..."),
+        tr("Choose the attributes that label and colour the features of a layer"),
+        &RenderingActions::AskForRenderings);
+    Add(menu, "actMapBackground", tr("Map &Background..."), tr("Choose the colour under all layers"),
+        &RenderingActions::AskForBackground);
+    connect(&menu, &QMenu::aboutToShow, this, [this, rendering] {
+        Guard(&m_window, [&] { rendering->setEnabled(m_session->Document().HasLayers()); });
     });
 }
 
-void RenderingActions::Ask()
+QAction* RenderingActions::Add(
+    QMenu& menu, const char* name, const QString& text, const QString& tip,
+    void (RenderingActions::*command)())
+{
+    QAction* action = menu.addAction(text);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(tip);
+    connect(action, &QAction::triggered, this, [this, command] {
+        Guard(&m_window, [&] { (this->*command)(); });
+    });
+    return action;
+}
+
+void RenderingActions::AskForRenderings()
 {
     MapSession& session = *m_session;
     if (session.Layers().empty())
@@ -36,6 +52,19 @@ void RenderingActions::Ask()
         changed.insert(layerID);
     }
     session.DrawAgain(changed);
+}
+
+void RenderingActions::AskForBackground()
+{
+    MapDocument& document = m_session->Document();
+    const QColor before = document.Background();
+    const QColor chosen = QColorDialog::getColor(before, &m_window, tr("Map Background"));
+    if (!chosen.isValid() || chosen == before)
+        return;
+    m_session->Shell().RecordStep([&] {
+        document.SetBackground(chosen);
+        return tr("Map Background");
+    });
 }
 
 } // namespace Orvane

@@ -4,6 +4,7 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/StartupSchemes.h"
+#include "hostkit/undo/UndoHistory.h"
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
@@ -131,6 +132,7 @@ void MapSession::ReadRows()
     const LongWork work(m_document->Database(), tr("Reading the map"), &m_mainWindow, Cancel::Impossible);
     m_layers.DropFeaturesOfOtherData();
     m_layers.ReadAll();
+    m_canvas.SetBackground(m_document->Background());
     m_isRead = true;
 }
 
@@ -226,6 +228,9 @@ void MapSession::Connect()
     connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
+    connect(&m_client.History(), &UndoHistory::Changed, this, [this] { // a step may have stored another one
+        Guard(&m_mainWindow, [this] { m_canvas.SetBackground(m_document->Background()); });
+    });
     connect(&events, &HostNotifications::StepNotRecorded, this, &MapSession::StepNotRecorded);
     ConnectLayerNews(events);
 }

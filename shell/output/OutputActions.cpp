@@ -123,7 +123,8 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
     return {
         document.Database(),
         m_services,
-        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), m_canvas.Picture().Backdrop()},
+        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), m_canvas.Picture().Backdrop(),
+         document.Background()},
         settings};
 }
 

@@ -11,7 +11,9 @@ namespace Orvane {
 namespace {
 
 constexpr int Margin = 24; // pixels
-const QColor TextColour(0x5f, 0x5f, 0x5f); // the canvas is white in every palette
+constexpr QRgb OnLight = 0xff5f5f5f;
+constexpr QRgb OnDark = 0xffd8d8d8;
+constexpr int LeastLight = 128; // brightness, up to 255
 
 } // namespace
 
@@ -30,7 +32,8 @@ void EmptyMapHint::Paint(QPainter& painter, const MapView&) const
     if (!m_canvas.Layers().empty() || m_canvas.Picture().Backdrop())
         return;
     painter.setFont(m_canvas.font());
-    painter.setPen(TextColour);
+    const bool isLight = qGray(m_canvas.Picture().Background().rgb()) >= LeastLight;
+    painter.setPen(QColor::fromRgb(isLight ? OnLight : OnDark));
     painter.drawText(
         m_canvas.rect().adjusted(Margin, Margin, -Margin, -Margin), Qt::AlignCenter | Qt::TextWordWrap,
         tr("This map is empty. Choose File > Open Data..., or drop data files here."));

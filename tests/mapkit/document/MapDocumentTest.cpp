@@ -180,6 +180,13 @@ TEST_F(MapDocumentTest, GroupsAndMembersKeepTheOrderInWhichTheyCame)
     EXPECT_EQ(members, (decltype(members){{first, below}, {second, above}, {second, below}}));
 }
 
+TEST_F(MapDocumentTest, TheBackgroundIsWhiteUnlessTheFileHasAnother)
+{
+    EXPECT_EQ(MapDocument::Untitled()->Background(), QColor(Qt::white));
+    MapDocument::Create(m_folder.Path("map.orvane"))->SetBackground(QColor(1, 2, 3));
+    EXPECT_EQ(MapDocument::Open(m_folder.Path("map.orvane"))->Background(), QColor(1, 2, 3));
+}
+
 TEST_F(MapDocumentTest, TheSystemIsKeptInTheFile)
 {
     EXPECT_EQ(MapDocument::Untitled()->System(), "");

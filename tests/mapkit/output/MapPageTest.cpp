@@ -83,6 +83,18 @@ TEST_F(MapPageTest, ThePageIsWhiteAroundTheMapAndTheMapIsFramed)
     EXPECT_EQ(image.pixelColor(110, 500), QColor(Qt::red));
 }
 
+TEST_F(MapPageTest, TheColourUnderTheMapEndsAtItsFrame)
+{
+    AddSquare("Square");
+    m_layers.back().features = Area(500000, 5300000, 500000, 5300000);
+    m_background = Qt::darkBlue;
+    PageSettings settings = Bare();
+    settings.margin = 10;
+    const QImage image = Painted(Page(settings));
+    EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(120, 120), QColor(Qt::darkBlue));
+}
+
 TEST_F(MapPageTest, NothingOfTheMapLeavesItsFrame)
 {
     AddSquare("Square");

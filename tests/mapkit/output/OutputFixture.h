@@ -36,7 +36,11 @@ protected:
         Box area;
         for (const MapLayer& layer : m_layers)
             area.Add(layer.features->Bounds());
-        return {m_document->Database(), m_services, {m_layers, "EPSG:32632", area, nullptr}, settings};
+        return {
+            m_document->Database(),
+            m_services,
+            {m_layers, "EPSG:32632", area, nullptr, m_background},
+            settings};
     }
 
     /// A square page with only a map.
@@ -58,6 +62,7 @@ protected:
     const std::unique_ptr<MapDocument> m_document = MapDocument::Untitled();
     const StandardShellServices m_services{};
     const DataFolder m_folder{};
+    QColor m_background = Qt::white;
     std::vector<MapLayer> m_layers;
 };
 
