@@ -12,6 +12,7 @@
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
+#include "shell/dialogs/MapFileDialog.h"
 #include "shell/map/DataImport.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
@@ -38,12 +39,11 @@ namespace Orvane {
 
 namespace {
 
-constexpr auto MapSuffix = "orvane";
 constexpr int ShortMessageTime = 8000; // milliseconds
 
 bool IsMapFile(const QString& path)
 {
-    return QFileInfo(path).suffix() == QLatin1String(MapSuffix);
+    return QFileInfo(path).suffix() == QLatin1String("orvane");
 }
 
 } // namespace
@@ -211,6 +211,9 @@ void MainWindow::ConnectActions()
     });
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
+    connect(m_data.get(), &DataActions::Told, this, [this](const QString& message) {
+        statusBar()->showMessage(message, ShortMessageTime);
+    });
     connect(
         m_data.get(), &DataActions::DataChanged, this, [this] { m_status->SetSystem(Document().System()); });
 }
@@ -250,8 +253,11 @@ void MainWindow::SwitchLayerControl()
 
 void MainWindow::NewMap()
 {
-    const QString path = AskForMapFileToWrite(tr("New Map"));
-    if (path.isEmpty() || !LeaveMap())
+    if (!KeepUntitledMap())
+        return;
+    const QString folder = QFileInfo(MapFileDialog::Proposed(Document())).path();
+    const QString path = MapFileDialog::Ask(tr("New Map"), folder + QLatin1Char('/'), this);
+    if (path.isEmpty() || !m_layerControl.Close())
         return;
     LetGoOf(path);
     Use(MapDocument::CreateOver(path));
@@ -268,7 +274,7 @@ void MainWindow::AskForMap()
 
 void MainWindow::SaveMapAs()
 {
-    const QString path = AskForMapFileToWrite(tr("Save Map As"));
+    const QString path = MapFileDialog::Ask(tr("Save Map As"), MapFileDialog::Proposed(Document()), this);
     if (path.isEmpty() || Document().IsAt(path))
         return;
     const bool isSaved = m_layerControl.WithEditorsClosed([&] {
@@ -354,14 +360,6 @@ void MainWindow::ReadMap(MapSession::View view, const SourceContents& known)
     m_tools->SetSystem(Document().System());
     m_status->SetSystem(Document().System());
     m_data->ShowProblems(problems);
-}
-
-QString MainWindow::AskForMapFileToWrite(const QString& title)
-{
-    QFileDialog dialog(this, title, {}, tr("Maps (*.orvane)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QLatin1String(MapSuffix));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 } // namespace Orvane

@@ -91,7 +91,6 @@ private:
     void ShowMapAgain();
     bool KeepUntitledMap();
     void ReadMap(MapSession::View view, const SourceContents& known = {});
-    QString AskForMapFileToWrite(const QString& title);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     CallTrace* m_trace;

@@ -128,6 +128,7 @@ void DataActions::FindData()
     }
     TakeFoundData(document, found);
     Reload();
+    emit Told(tr("Layers whose data were found: %1 of %2").arg(found.size()).arg(missing.size()));
 }
 
 void DataActions::AskForBackdrop()

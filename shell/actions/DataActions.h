@@ -31,6 +31,8 @@ public:
 signals:
     /// The map shows other data than before.
     void DataChanged();
+    /// What a command has done, for the status bar.
+    void Told(const QString& message);
     /// The map is to be saved under another name.
     void SaveAsWanted();
 

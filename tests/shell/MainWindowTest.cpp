@@ -11,11 +11,14 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
@@ -39,6 +42,30 @@ void Drop(MainWindow& window, const QStringList& paths)
     QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &event);
 }
+
+// Cancels each file dialog that opens while it exists.
+class FileDialogs
+{
+public:
+    FileDialogs()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            m_proposed << dialog->selectedFiles();
+            dialog->reject();
+        });
+        m_timer.start(0);
+    }
+
+    // The file that each of them proposed.
+    const QStringList& Proposed() const { return m_proposed; }
+
+private:
+    QTimer m_timer;
+    QStringList m_proposed;
+};
 
 } // namespace
 
@@ -181,6 +208,24 @@ TEST_F(MainWindowTest, TheZoomCommandsWork)
     EXPECT_EQ(m_window->Canvas().View(), all);
 }
 
+TEST_F(MainWindowTest, TheColourUnderTheMapIsChosenAndUndone)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    const QColor night(20, 30, 60);
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        dialog->setCurrentColor(night);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    Action("actMapBackground")->trigger();
+    EXPECT_EQ(m_window->Document().Background(), night);
+    const auto corner = [this] { return m_window->Canvas().grab().toImage().pixelColor(2, 2); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return corner() == night; }));
+    Action("actUndo")->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return corner() == QColor(Qt::white); }));
+}
+
 TEST_F(MainWindowTest, ThePositionUnderThePointerIsShown)
 {
     m_window->OpenMap(MakeMap("map.orvane"));
@@ -198,6 +243,26 @@ TEST_F(MainWindowTest, ClosingAMapWithoutAFileAsksAndCancelKeepsIt)
         EXPECT_EQ(user.Only().icon, QMessageBox::Question);
     }
     EXPECT_TRUE(m_window->isVisible());
+}
+
+TEST_F(MainWindowTest, ANewMapAsksAboutTheUnsavedOneBeforeItAsksForAFile)
+{
+    m_window->AddData({m_folder.WriteSquare("square.geojson")});
+    FileDialogs dialogs;
+    MessageBoxRobot user{BoxKey::Escape};
+    Action("actNewMap")->trigger();
+    EXPECT_EQ(user.Only().icon, QMessageBox::Question);
+    EXPECT_TRUE(dialogs.Proposed().isEmpty()) << "the user has cancelled";
+    EXPECT_EQ(Count("Layers"), 1);
+}
+
+TEST_F(MainWindowTest, SavingAMapOfAFileProposesItsFolderAndName)
+{
+    m_window->AddData({m_folder.WriteSquare("square.geojson")});
+    FileDialogs dialogs;
+    Action("actSaveMapAs")->trigger();
+    EXPECT_EQ(dialogs.Proposed(), QStringList{m_folder.Path("square.orvane")});
+    EXPECT_TRUE(m_window->Document().Path().isEmpty()) << "the user has cancelled";
 }
 
 TEST_F(MainWindowTest, ClosingAnEmptyOrStoredMapAsksNothing)
