@@ -60,6 +60,10 @@
         <translation>Beim Öffnen der Karte &amp;anwenden</translation>
     </message>
     <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Farben:</translation>
+    </message>
+    <message>
         <source>&amp;Holds...</source>
         <translation>In&amp;halt...</translation>
     </message>
@@ -336,12 +340,20 @@
         <translation>&amp;Beenden</translation>
     </message>
     <message>
+        <source>&amp;Rename Theme</source>
+        <translation>Thema &amp;umbenennen</translation>
+    </message>
+    <message>
         <source>&amp;Rename...</source>
         <translation>&amp;Umbenennen...</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
         <translation>&amp;Auflösung:</translation>
+    </message>
+    <message>
+        <source>&amp;Reverse the colours</source>
+        <translation>Farben um&amp;kehren</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
@@ -416,8 +428,96 @@
         <translation>Beim Öffnen</translation>
     </message>
     <message>
+        <source>Blue to red, pale in the middle</source>
+        <translation>Blau nach Rot, in der Mitte blass</translation>
+    </message>
+    <message>
+        <source>Blues</source>
+        <translation>Blautöne</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
+    </message>
+    <message>
+        <source>Choose the colour under all layers</source>
+        <translation>Die Farbe unter allen Layern wählen</translation>
+    </message>
+    <message>
+        <source>Delete Theme &quot;%1&quot;</source>
+        <translation>Thema „%1“ löschen</translation>
+    </message>
+    <message>
+        <source>Fill colours of the layer</source>
+        <translation>Füllfarben des Layers</translation>
+    </message>
+    <message>
+        <source>From dark to light, for a map with a dark background</source>
+        <translation>Von dunkel nach hell, für eine Karte mit dunklem Hintergrund</translation>
+    </message>
+    <message>
+        <source>Greens</source>
+        <translation>Grüntöne</translation>
+    </message>
+    <message>
+        <source>Greys</source>
+        <translation>Grautöne</translation>
+    </message>
+    <message>
+        <source>Layers whose data were found: %1 of %2</source>
+        <translation>Layer, deren Daten gefunden wurden: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Lists of the layers that you need for one task, without settings</source>
+        <translation>Listen der Layer, die Sie für eine Aufgabe brauchen, ohne Einstellungen</translation>
+    </message>
+    <message>
+        <source>Map &amp;Background...</source>
+        <translation>Karten&amp;hintergrund...</translation>
+    </message>
+    <message>
+        <source>Map Background</source>
+        <translation>Kartenhintergrund</translation>
+    </message>
+    <message>
+        <source>Named sets of the settings of all layers</source>
+        <translation>Benannte Sätze der Einstellungen aller Layer</translation>
+    </message>
+    <message>
+        <source>New Theme &quot;%1&quot;</source>
+        <translation>Neues Thema „%1“</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Keine Daten</translation>
+    </message>
+    <message>
+        <source>Oranges</source>
+        <translation>Orangetöne</translation>
+    </message>
+    <message>
+        <source>Purples</source>
+        <translation>Violetttöne</translation>
+    </message>
+    <message>
+        <source>Rename Theme</source>
+        <translation>Thema umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename Theme &quot;%1&quot;</source>
+        <translation>Thema „%1“ umbenennen</translation>
+    </message>
+    <message>
+        <source>There is already a theme &quot;%1&quot;.</source>
+        <translation>Ein Thema „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Yellow to red</source>
+        <translation>Gelb nach Rot</translation>
+    </message>
+    <message>
+        <source>Yellow to violet</source>
+        <translation>Gelb nach Violett</translation>
     </message>
     <message>
         <source>compared: %1</source>

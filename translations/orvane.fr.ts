@@ -60,6 +60,10 @@
         <translation>&amp;Appliquer à l’ouverture de la carte</translation>
     </message>
     <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Couleurs :</translation>
+    </message>
+    <message>
         <source>&amp;Holds...</source>
         <translation>Conten&amp;u...</translation>
     </message>
@@ -336,12 +340,20 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
+        <source>&amp;Rename Theme</source>
+        <translation>&amp;Renommer un thème</translation>
+    </message>
+    <message>
         <source>&amp;Rename...</source>
         <translation>&amp;Renommer...</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
         <translation>&amp;Résolution :</translation>
+    </message>
+    <message>
+        <source>&amp;Reverse the colours</source>
+        <translation>&amp;Inverser les couleurs</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
@@ -416,8 +428,96 @@
         <translation>À l’ouverture</translation>
     </message>
     <message>
+        <source>Blue to red, pale in the middle</source>
+        <translation>Du bleu au rouge, pâle au milieu</translation>
+    </message>
+    <message>
+        <source>Blues</source>
+        <translation>Bleus</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Choose the colour under all layers</source>
+        <translation>Choisir la couleur sous toutes les couches</translation>
+    </message>
+    <message>
+        <source>Delete Theme &quot;%1&quot;</source>
+        <translation>Supprimer le thème « %1 »</translation>
+    </message>
+    <message>
+        <source>Fill colours of the layer</source>
+        <translation>Couleurs de remplissage de la couche</translation>
+    </message>
+    <message>
+        <source>From dark to light, for a map with a dark background</source>
+        <translation>Du foncé au clair, pour une carte à fond sombre</translation>
+    </message>
+    <message>
+        <source>Greens</source>
+        <translation>Verts</translation>
+    </message>
+    <message>
+        <source>Greys</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Layers whose data were found: %1 of %2</source>
+        <translation>Couches dont les données ont été trouvées : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Lists of the layers that you need for one task, without settings</source>
+        <translation>Listes des couches utiles à une tâche, sans réglages</translation>
+    </message>
+    <message>
+        <source>Map &amp;Background...</source>
+        <translation>&amp;Fond de la carte...</translation>
+    </message>
+    <message>
+        <source>Map Background</source>
+        <translation>Fond de la carte</translation>
+    </message>
+    <message>
+        <source>Named sets of the settings of all layers</source>
+        <translation>Jeux nommés des réglages de toutes les couches</translation>
+    </message>
+    <message>
+        <source>New Theme &quot;%1&quot;</source>
+        <translation>Nouveau thème « %1 »</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Pas de données</translation>
+    </message>
+    <message>
+        <source>Oranges</source>
+        <translation>Orangés</translation>
+    </message>
+    <message>
+        <source>Purples</source>
+        <translation>Violets</translation>
+    </message>
+    <message>
+        <source>Rename Theme</source>
+        <translation>Renommer un thème</translation>
+    </message>
+    <message>
+        <source>Rename Theme &quot;%1&quot;</source>
+        <translation>Renommer le thème « %1 »</translation>
+    </message>
+    <message>
+        <source>There is already a theme &quot;%1&quot;.</source>
+        <translation>Il y a déjà un thème « %1 ».</translation>
+    </message>
+    <message>
+        <source>Yellow to red</source>
+        <translation>Du jaune au rouge</translation>
+    </message>
+    <message>
+        <source>Yellow to violet</source>
+        <translation>Du jaune au violet</translation>
     </message>
     <message>
         <source>compared: %1</source>

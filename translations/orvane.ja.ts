@@ -60,6 +60,10 @@
         <translation>地図を開いたときに適用(&amp;A)</translation>
     </message>
     <message>
+        <source>&amp;Colours:</source>
+        <translation>配色(&amp;C):</translation>
+    </message>
+    <message>
         <source>&amp;Holds...</source>
         <translation>内容(&amp;H)...</translation>
     </message>
@@ -336,12 +340,20 @@
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
+        <source>&amp;Rename Theme</source>
+        <translation>テーマの名前を変更(&amp;R)</translation>
+    </message>
+    <message>
         <source>&amp;Rename...</source>
         <translation>名前の変更(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
         <translation>解像度(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Reverse the colours</source>
+        <translation>配色を反転(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
@@ -416,8 +428,96 @@
         <translation>開いたとき</translation>
     </message>
     <message>
+        <source>Blue to red, pale in the middle</source>
+        <translation>青から赤 (中間は淡色)</translation>
+    </message>
+    <message>
+        <source>Blues</source>
+        <translation>青系</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
+    </message>
+    <message>
+        <source>Choose the colour under all layers</source>
+        <translation>すべてのレイヤーの下の色を選びます</translation>
+    </message>
+    <message>
+        <source>Delete Theme &quot;%1&quot;</source>
+        <translation>テーマ「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Fill colours of the layer</source>
+        <translation>レイヤーの塗りつぶしの色</translation>
+    </message>
+    <message>
+        <source>From dark to light, for a map with a dark background</source>
+        <translation>暗い色から明るい色へ (背景が暗い地図用)</translation>
+    </message>
+    <message>
+        <source>Greens</source>
+        <translation>緑系</translation>
+    </message>
+    <message>
+        <source>Greys</source>
+        <translation>灰色系</translation>
+    </message>
+    <message>
+        <source>Layers whose data were found: %1 of %2</source>
+        <translation>データが見つかったレイヤー: %2 のうち %1</translation>
+    </message>
+    <message>
+        <source>Lists of the layers that you need for one task, without settings</source>
+        <translation>ある作業に必要なレイヤーの一覧 (設定は含みません)</translation>
+    </message>
+    <message>
+        <source>Map &amp;Background...</source>
+        <translation>地図の背景色(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Map Background</source>
+        <translation>地図の背景色</translation>
+    </message>
+    <message>
+        <source>Named sets of the settings of all layers</source>
+        <translation>すべてのレイヤーの設定をまとめて名前を付けたもの</translation>
+    </message>
+    <message>
+        <source>New Theme &quot;%1&quot;</source>
+        <translation>テーマ「%1」の作成</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>データなし</translation>
+    </message>
+    <message>
+        <source>Oranges</source>
+        <translation>オレンジ系</translation>
+    </message>
+    <message>
+        <source>Purples</source>
+        <translation>紫系</translation>
+    </message>
+    <message>
+        <source>Rename Theme</source>
+        <translation>テーマの名前を変更</translation>
+    </message>
+    <message>
+        <source>Rename Theme &quot;%1&quot;</source>
+        <translation>テーマ「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>There is already a theme &quot;%1&quot;.</source>
+        <translation>テーマ「%1」は既にあります。</translation>
+    </message>
+    <message>
+        <source>Yellow to red</source>
+        <translation>黄から赤</translation>
+    </message>
+    <message>
+        <source>Yellow to violet</source>
+        <translation>黄から紫</translation>
     </message>
     <message>
         <source>compared: %1</source>

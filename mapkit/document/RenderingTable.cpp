@@ -24,7 +24,9 @@ StoreTable RenderingsTable()
          {QStringLiteral("LabelAttribute"), StoreType::Text, Nulls::Refused, noText},
          {QStringLiteral("ClassAttribute"), StoreType::Text, Nulls::Refused, noText},
          {QStringLiteral("Division"), StoreType::Whole, Nulls::Refused, QStringLiteral("0")},
-         {QStringLiteral("ClassCount"), StoreType::Whole, Nulls::Refused, QStringLiteral("5")}},
+         {QStringLiteral("ClassCount"), StoreType::Whole, Nulls::Refused, QStringLiteral("5")},
+         {QStringLiteral("Ramp"), StoreType::Text, Nulls::Refused, noText},
+         {QStringLiteral("RampReversed"), StoreType::Flag, Nulls::Refused, QStringLiteral("FALSE")}},
         {layerID}};
 }
 
@@ -42,6 +44,8 @@ LayerRendering RenderingOfRow(const IRecordset& row)
         rendering.division = ClassDivision::EqualSteps;
     if (const std::optional<qint32> count = Int32In(row.Field("ClassCount")))
         rendering.classCount = std::clamp(int(*count), Classification::MinCount, Classification::MaxCount);
+    rendering.ramp = ToText(row.Field("Ramp"));
+    rendering.isRampReversed = Int32In(row.Field("RampReversed")).value_or(0) != 0;
     return rendering;
 }
 
@@ -73,13 +77,15 @@ LayerRendering RenderingTable::Of(qint32 layerID) const
 void RenderingTable::Set(qint32 layerID, const LayerRendering& rendering)
 {
     m_database.Execute(
-        QStringLiteral("INSERT INTO LayerRendering"
-                       " (LayerID, LabelAttribute, ClassAttribute, Division, ClassCount)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5) ON CONFLICT (LayerID) DO UPDATE SET"
-                       " LabelAttribute = excluded.LabelAttribute, ClassAttribute = excluded.ClassAttribute,"
-                       " Division = excluded.Division, ClassCount = excluded.ClassCount"),
+        QStringLiteral(
+            "INSERT INTO LayerRendering"
+            " (LayerID, LabelAttribute, ClassAttribute, Division, ClassCount, Ramp,"
+            " RampReversed) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7) ON CONFLICT (LayerID) DO UPDATE SET"
+            " LabelAttribute = excluded.LabelAttribute, ClassAttribute = excluded.ClassAttribute,"
+            " Division = excluded.Division, ClassCount = excluded.ClassCount,"
+            " Ramp = excluded.Ramp, RampReversed = excluded.RampReversed"),
         {layerID, NotNull(rendering.labelAttribute), NotNull(rendering.classAttribute),
-         int(rendering.division), rendering.classCount});
+         int(rendering.division), rendering.classCount, NotNull(rendering.ramp), rendering.isRampReversed});
 }
 
 } // namespace Orvane

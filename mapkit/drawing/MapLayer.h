@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <tuple>
@@ -46,6 +47,7 @@ struct MapLayer {
     std::shared_ptr<const AttributeColumn> labels; ///< nullptr for no labels, and until they are read
     std::shared_ptr<const Classification> classes; ///< nullptr for no classes, and until they are known
     std::vector<ClassLook> classLooks; ///< derived from values and classes, one per class
+    QString classAttribute; ///< the attribute whose numbers are in the classes
     QString name; ///< the layer's own, without markers
     LayerFlags flags;
 
@@ -66,7 +68,10 @@ struct MapLayer {
     bool LooksLike(const MapLayer& other) const
     {
         return values == other.values && features == other.features && labels == other.labels
-            && classes == other.classes;
+            && classes == other.classes
+            && std::equal(
+                   classLooks.begin(), classLooks.end(), other.classLooks.begin(), other.classLooks.end(),
+                   [](const ClassLook& one, const ClassLook& two) { return one.colour == two.colour; });
     }
 };
 

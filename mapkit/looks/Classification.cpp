@@ -43,6 +43,11 @@ Classification::Classification(std::span<const double> numbers, ClassDivision di
         m_classes.push_back(qint8(ClassOfNumber(number)));
 }
 
+bool Classification::HasUnclassed() const
+{
+    return std::find(m_classes.begin(), m_classes.end(), qint8(NoClass)) != m_classes.end();
+}
+
 int Classification::ClassOfNumber(double number) const
 {
     if (!std::isfinite(number) || Count() == 0)

@@ -34,6 +34,8 @@ public:
     /// The lower limit of a class, which belongs to the class. The last class also includes its upper limit.
     double LowerLimit(int index) const { return m_limits[size_t(index)]; }
     double UpperLimit(int index) const { return m_limits[size_t(index) + 1]; }
+    /// True if a feature has no class.
+    bool HasUnclassed() const;
     /// The class of a feature, given by its index.
     int ClassOf(size_t feature) const { return m_classes[feature]; }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/looks/LayerLook.h"
 
+#include "mapkit/looks/ColourRamps.h"
+#include "mapkit/looks/LayerRendering.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "ovctrls/LinePatterns.h"
 
@@ -19,7 +21,10 @@ namespace {
 constexpr int FillPatternCount = 32;
 constexpr QRgb OwnSymbolColour = 0xff4a4a4a;
 constexpr QRgb UnclassedColour = 0xffd9d9d9;
-constexpr double PaleEnd = 0.8; // share of white that is mixed in
+constexpr float PaleEnd = 0.92f; // lightness
+constexpr float StrongEnd = 0.3f; // lightness of a colour that is too pale to differ from the pale end
+constexpr float PaleColour = 0.6f; // lightness from which a colour is too pale for that
+constexpr float StrongSaturation = 0.5f;
 constexpr double ThinnestCased = 4; // pixels
 constexpr double EdgePart = 0.15; // of a cased line's width, on each side
 constexpr float LightestText = 0.35f;
@@ -93,10 +98,16 @@ CasedLine CasedLineOf(const DrawingValues& values, const QPen& outline)
     return cased;
 }
 
-QColor Mixed(const QColor& from, const QColor& to, double part)
+QColor Tone(const QColor& colour, float lightness, float leastSaturation = 0)
 {
-    const auto mix = [part](int a, int b) { return int(std::lround(a + (b - a) * part)); };
-    return QColor(mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue()));
+    const bool isGrey = colour.hslHueF() < 0;
+    const float saturation = isGrey ? 0 : std::max(float(colour.hslSaturationF()), leastSaturation);
+    return QColor::fromHslF(std::max(0.f, float(colour.hslHueF())), saturation, lightness);
+}
+
+QColor StrongTone(const QColor& colour)
+{
+    return colour.lightnessF() > PaleColour ? Tone(colour, StrongEnd, StrongSaturation) : colour;
 }
 
 std::pair<QColor, QColor> RampOf(const DrawingValues& values)
@@ -104,8 +115,18 @@ std::pair<QColor, QColor> RampOf(const DrawingValues& values)
     const std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
     const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
     const QColor strong = fore ? *fore : back.value_or(OpaqueFromBgr(values.color));
-    const bool isRamp = fore && back && *fore != *back;
-    return {isRamp ? *back : Mixed(strong, Qt::white, PaleEnd), strong};
+    if (fore && back && *fore != *back)
+        return {*back, *fore};
+    return {Tone(strong, PaleEnd), StrongTone(strong)};
+}
+
+std::vector<QColor> ClassColours(const DrawingValues& values, const LayerRendering& rendering, int count)
+{
+    if (ColourRamps::Has(rendering.ramp))
+        return ColourRamps::ColoursOf(rendering.ramp, count, rendering.isRampReversed);
+    const auto [low, high] = RampOf(values);
+    return rendering.isRampReversed ? ColourRamps::ColoursBetween(high, low, count)
+                                    : ColourRamps::ColoursBetween(low, high, count);
 }
 
 qint32 BgrOf(const QColor& colour)
@@ -128,12 +149,13 @@ double LayerLook::Reach() const
     return std::ceil(pen + 2 * symbolRadius) + 2;
 }
 
-std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count)
+std::vector<ClassLook> ClassLooksOf(
+    const DrawingValues& values, const LayerRendering& rendering, const IShellServices& services, int count)
 {
-    const auto [low, high] = RampOf(values);
+    const std::vector<QColor> colours = ClassColours(values, rendering, count);
     std::vector<ClassLook> looks;
-    for (int i = 0; i < count; ++i) {
-        const QColor colour = count > 1 ? Mixed(low, high, double(i) / (count - 1)) : high;
+    looks.reserve(colours.size());
+    for (const QColor& colour : colours) {
         DrawingValues own = values;
         own.fillForeColor = BgrOf(colour);
         looks.push_back({FillOf(own, services), colour});

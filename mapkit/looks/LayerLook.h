@@ -12,6 +12,7 @@
 namespace Orvane {
 
 class IShellServices;
+struct LayerRendering;
 
 /// The columns of a Layers row that say how the layer is drawn, as stored.
 struct DrawingValues {
@@ -54,10 +55,11 @@ struct LayerLook {
 /// The colour of a BGR integer; nothing if its top byte marks it as transparent.
 std::optional<QColor> ColourFromBgr(qint32 bgr);
 
-/// The looks of that number of classes, the lowest first, in steps from the fill's back colour to its fore
-/// colour. If one of them is transparent, the steps are from pale to strong. Errors of the services are
-/// passed on.
-std::vector<ClassLook> ClassLooksOf(const DrawingValues& values, const IShellServices& services, int count);
+/// The looks of that number of classes, the lowest first, in the colours of the rendering's ramp. Without a
+/// ramp, the colours go from the fill's back colour to its fore colour; if one of them is transparent, from
+/// a pale to a strong tone of the other. Errors of the services are passed on.
+std::vector<ClassLook> ClassLooksOf(
+    const DrawingValues& values, const LayerRendering& rendering, const IShellServices& services, int count);
 /// The look of features that are in no class: grey.
 ClassLook UnclassedLook(const DrawingValues& values);
 

@@ -13,6 +13,8 @@ struct LayerRendering {
     QString classAttribute; ///< sorts the features into classes
     ClassDivision division = ClassDivision::Quantiles;
     int classCount = 5; ///< Classification::MinCount to MaxCount
+    QString ramp = {}; ///< the key of a ramp in ColourRamps; empty: the colours of the layer's fill
+    bool isRampReversed = false; ///< the ramp, or the colours of the fill, the other way round
 
     bool operator==(const LayerRendering&) const = default;
 };

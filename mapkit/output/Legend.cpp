@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/output/Legend.h"
 
+#include "mapkit/output/ClassTexts.h"
 #include "samples/BgrColour.h"
 
 #include <OrvaneShellLib/ILayerDatabase.h>
@@ -9,11 +10,10 @@
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QCoreApplication>
 #include <QHash>
-#include <QLocale>
-#include <QSet>
 
-#include <cmath>
+#include <algorithm>
 
 namespace Orvane {
 
@@ -47,14 +47,6 @@ LegendRow RowOf(const MapLayer& layer, const QString& name, const IShellServices
     return row;
 }
 
-// Six digits, without an exponent if the number is readable without it.
-QString LimitText(double limit)
-{
-    const double size = std::abs(limit);
-    const bool isLong = size >= 1e6 && size < 1e15;
-    return isLong ? QLocale().toString(limit, 'f', 0) : QLocale().toString(limit, 'g', 6);
-}
-
 // The row of a class: like its layer, but with the differences that the map draws.
 LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
 {
@@ -71,19 +63,36 @@ LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
     return row;
 }
 
+LegendRow RowBelow(const QString& text, LegendRow row)
+{
+    row.text = text;
+    row.indent = 1;
+    return row;
+}
+
+// What the numbers are, the classes, and the features that are in none.
+void AddClasses(std::vector<LegendRow>& rows, const LegendRow& row, const MapLayer& layer)
+{
+    if (!layer.classAttribute.isEmpty()) {
+        rows.push_back(RowBelow(layer.classAttribute, row));
+        rows.back().sample = false;
+    }
+    const std::vector<QString> texts = ClassTexts(*layer.classes);
+    for (size_t i = 0; i < std::min(texts.size(), layer.classLooks.size()); ++i)
+        rows.push_back(RowBelow(texts[i], RowOfClass(row, layer.classLooks[i])));
+    if (layer.classes->HasUnclassed())
+        rows.push_back(RowBelow(
+            QCoreApplication::translate("Legend", "No data"), RowOfClass(row, UnclassedLook(layer.values))));
+}
+
 // Adds the layer's row, and below it the rows of its classes.
 void AddLayer(std::vector<LegendRow>& rows, const LegendRow& row, const MapLayer& layer)
 {
     rows.push_back(row);
-    const size_t count = layer.classes ? layer.classLooks.size() : 0;
-    rows.back().sample = count == 0;
-    for (size_t i = 0; i < count; ++i) {
-        rows.push_back(RowOfClass(row, layer.classLooks[i]));
-        const double lower = layer.classes->LowerLimit(int(i));
-        rows.back().text
-            = LimitText(lower) + QStringLiteral(" – ") + LimitText(layer.classes->UpperLimit(int(i)));
-        rows.back().indent = 1;
-    }
+    const bool hasClasses = layer.classes && !layer.classLooks.empty();
+    rows.back().sample = !hasClasses;
+    if (hasClasses)
+        AddClasses(rows, row, layer);
 }
 
 // The rows of one group, or of layers that belong to no group.

@@ -37,7 +37,8 @@ struct LegendRow {
 };
 
 /// The legend of these layers: groups in the order of the layer control with their layers below them, each
-/// layer once, layers without a group at the end. A graduated layer is followed by its classes. A group has
+/// layer once, layers without a group at the end. A graduated layer is followed by the name of its attribute,
+/// its classes, and "No data" if features are in none. A group has
 /// no heading if only one of its layers is listed. Errors of the database and the services are passed on.
 std::vector<LegendRow>
 LegendOf(ILayerDatabase& database, const IShellServices& services, const std::vector<MapLayer>& layers);

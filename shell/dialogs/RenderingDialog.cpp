@@ -5,11 +5,13 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/looks/ColourRamps.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "ui_RenderingDialog.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -17,6 +19,8 @@
 namespace Orvane {
 
 namespace {
+
+constexpr int SwatchCount = 5; // colours in the picture of a ramp
 
 QString StyleName(qint32 style)
 {
@@ -64,6 +68,29 @@ void Choose(QComboBox& list, const QString& attribute)
     list.setCurrentIndex(list.findData(attribute));
 }
 
+QIcon RampIcon(const QString& ramp, const QSize& size, double pixelRatio)
+{
+    QPixmap picture(size * pixelRatio);
+    picture.setDevicePixelRatio(pixelRatio);
+    QPainter painter(&picture);
+    const std::vector<QColor> colours = ColourRamps::ColoursOf(ramp, SwatchCount, false);
+    for (int i = 0; i < SwatchCount; ++i) {
+        const int left = size.width() * i / SwatchCount;
+        painter.fillRect(
+            QRect(left, 0, size.width() * (i + 1) / SwatchCount - left, size.height()), colours[size_t(i)]);
+    }
+    return QIcon(picture);
+}
+
+void FillRamps(QComboBox& list)
+{
+    const int height = list.fontMetrics().height();
+    list.setIconSize(QSize(height * SwatchCount, height));
+    list.addItem(RenderingDialog::tr("Fill colours of the layer"), QString());
+    for (const ColourRamps::Ramp& ramp : ColourRamps::Offered())
+        list.addItem(RampIcon(ramp.key, list.iconSize(), list.devicePixelRatioF()), ramp.name, ramp.key);
+}
+
 } // namespace
 
 RenderingDialog::RenderingDialog(
@@ -73,6 +100,7 @@ RenderingDialog::RenderingDialog(
 {
     m_ui->setupUi(this);
     m_ui->spnClassCount->setRange(Classification::MinCount, Classification::MaxCount);
+    FillRamps(*m_ui->cmbRamp);
     FillLayers(layers);
     ShowLayer();
     Connect();
@@ -116,9 +144,11 @@ void RenderingDialog::Connect()
     connect(m_ui->cmbLayer, &QComboBox::currentIndexChanged, this, [this] {
         Guard(this, [this] { ShowLayer(); });
     });
-    for (QComboBox* list : {m_ui->cmbLabelAttribute, m_ui->cmbClassAttribute, m_ui->cmbDivision})
+    for (QComboBox* list :
+         {m_ui->cmbLabelAttribute, m_ui->cmbClassAttribute, m_ui->cmbDivision, m_ui->cmbRamp})
         connect(list, &QComboBox::currentIndexChanged, this, &RenderingDialog::Keep);
     connect(m_ui->spnClassCount, &QSpinBox::valueChanged, this, &RenderingDialog::Keep);
+    connect(m_ui->chkReversed, &QCheckBox::toggled, this, &RenderingDialog::Keep);
 }
 
 void RenderingDialog::ShowLayer()
@@ -133,6 +163,8 @@ void RenderingDialog::ShowLayer()
     Choose(*m_ui->cmbClassAttribute, shown.classAttribute);
     m_ui->cmbDivision->setCurrentIndex(int(shown.division));
     m_ui->spnClassCount->setValue(shown.classCount);
+    Choose(*m_ui->cmbRamp, shown.ramp);
+    m_ui->chkReversed->setChecked(shown.isRampReversed);
 }
 
 void RenderingDialog::ShowFields()
@@ -154,6 +186,8 @@ void RenderingDialog::Keep()
     chosen.classAttribute = m_ui->cmbClassAttribute->currentData().toString();
     chosen.division = ClassDivision(m_ui->cmbDivision->currentIndex());
     chosen.classCount = m_ui->spnClassCount->value();
+    chosen.ramp = m_ui->cmbRamp->currentData().toString();
+    chosen.isRampReversed = m_ui->chkReversed->isChecked();
 }
 
 qint32 RenderingDialog::LayerID() const

@@ -20,6 +20,18 @@ const QString& AttributeFor(const LayerRendering& rendering, AttributeUse use)
     return use == AttributeUse::Labels ? rendering.labelAttribute : rendering.classAttribute;
 }
 
+// True when these are the same features in the same order, for example after one of them was moved.
+bool AreSame(const FeatureSet& one, const FeatureSet* other)
+{
+    const auto isSame = [](const FeatureSet::Feature& a, const FeatureSet::Feature& b) {
+        return a.featureID == b.featureID && a.featureID != NoFeatureID;
+    };
+    return other
+        && std::equal(
+               one.Features().begin(), one.Features().end(), other->Features().begin(),
+               other->Features().end(), isSame);
+}
+
 } // namespace
 
 void LayerAttributes::Forget(qint32 layerID)
@@ -36,7 +48,7 @@ LayerAttributes::Missing(const std::vector<MapLayer>& layers, const std::vector<
     std::vector<AttributeRequest> missing;
     for (const MapLayer& layer : layers) {
         for (const AttributeUse use : {AttributeUse::Labels, AttributeUse::Classes}) {
-            if (!Needs(layer, use) || Column(layer, use))
+            if (!Needs(layer, use) || IsUpToDate(layer, use))
                 continue;
             const auto source = std::find_if(sources.begin(), sources.end(), [&](const LayerSource& s) {
                 return s.layerID == layer.layerID;
@@ -51,7 +63,8 @@ LayerAttributes::Missing(const std::vector<MapLayer>& layers, const std::vector<
 
 void LayerAttributes::Take(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column)
 {
-    m_read[{request.source.layerID, request.use}] = {request.features, request.attribute, std::move(column)};
+    m_read[{request.source.layerID, request.use}]
+        = {request.features, request.attribute, std::move(column), true};
 }
 
 void LayerAttributes::Fit(MapLayer& layer, const IShellServices& services)
@@ -60,17 +73,27 @@ void LayerAttributes::Fit(MapLayer& layer, const IShellServices& services)
     layer.labels = Needs(layer, AttributeUse::Labels) ? Column(layer, AttributeUse::Labels) : nullptr;
     layer.classes = Needs(layer, AttributeUse::Classes) ? ClassesOf(layer) : nullptr;
     layer.classLooks.clear();
-    if (layer.classes)
-        layer.classLooks = ClassLooksOf(layer.values, services, layer.classes->Count());
+    layer.classAttribute.clear();
+    if (!layer.classes)
+        return;
+    layer.classLooks
+        = ClassLooksOf(layer.values, RenderingOf(layer.layerID), services, layer.classes->Count());
+    layer.classAttribute = Column(layer, AttributeUse::Classes)->attribute;
 }
 
 // What was read holds its features: while it stayed, so would the old ones, as large as the layer's data.
+// What the same features had before they were read again stands for what they have, until that is read too.
 void LayerAttributes::DropOutdated(const MapLayer& layer)
 {
     for (const AttributeUse use : {AttributeUse::Labels, AttributeUse::Classes}) {
         const auto found = m_read.find({layer.layerID, use});
         if (found == m_read.end() || found->second.features == layer.features)
             continue;
+        if (AreSame(*found->second.features, layer.features.get())) {
+            found->second.features = layer.features;
+            found->second.isUpToDate = false;
+            continue;
+        }
         m_read.erase(found);
         if (use == AttributeUse::Classes)
             m_classes.erase(layer.layerID);
@@ -90,6 +113,12 @@ std::shared_ptr<const AttributeColumn> LayerAttributes::Column(const MapLayer& l
         return nullptr;
     const bool isWanted = found->second.attribute == AttributeFor(RenderingOf(layer.layerID), use);
     return isWanted ? found->second.column : nullptr;
+}
+
+bool LayerAttributes::IsUpToDate(const MapLayer& layer, AttributeUse use) const
+{
+    const auto found = m_read.find({layer.layerID, use});
+    return Column(layer, use) && found->second.isUpToDate;
 }
 
 std::shared_ptr<const Classification> LayerAttributes::ClassesOf(const MapLayer& layer)

@@ -34,7 +34,8 @@ public:
     void Take(const AttributeRequest& request, std::shared_ptr<const AttributeColumn> column);
 
     /// Gives the layer the labels and classes of its style, as far as they are read, and drops what was read
-    /// for features that it no longer has. Passes on errors of the services.
+    /// for features that it no longer has. If the same features were read again, what was read for them stays
+    /// on the layer, and is missing, until it is read again too. Passes on errors of the services.
     void Fit(MapLayer& layer, const IShellServices& services);
 
 private:
@@ -42,6 +43,7 @@ private:
         std::shared_ptr<const FeatureSet> features;
         QString attribute; // as asked for
         std::shared_ptr<const AttributeColumn> column;
+        bool isUpToDate = true; // false: read before the features were read again
     };
     struct Classes {
         std::shared_ptr<const AttributeColumn> column;
@@ -53,6 +55,7 @@ private:
     void DropOutdated(const MapLayer& layer);
     LayerRendering RenderingOf(qint32 layerID) const;
     std::shared_ptr<const AttributeColumn> Column(const MapLayer& layer, AttributeUse use) const;
+    bool IsUpToDate(const MapLayer& layer, AttributeUse use) const;
     std::shared_ptr<const Classification> ClassesOf(const MapLayer& layer);
 
     std::map<qint32, LayerRendering> m_renderings;

@@ -12,7 +12,7 @@ namespace Orvane {
 
 namespace {
 
-const LayerRendering ByPopulation{"NAME", "pop_est", ClassDivision::EqualSteps, 7};
+const LayerRendering ByPopulation{"NAME", "pop_est", ClassDivision::EqualSteps, 7, "heat", true};
 
 } // namespace
 

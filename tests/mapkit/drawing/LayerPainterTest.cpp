@@ -3,6 +3,7 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "mapkit/Drawings.h"
+#include "mapkit/looks/LayerRendering.h"
 #include "mapkit/looks/RendererStyles.h"
 
 #include <QImage>
@@ -38,7 +39,7 @@ protected:
         layer.features = std::move(features);
         if (!numbers.empty()) {
             layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
-            layer.classLooks = ClassLooksOf(values, m_services, layer.classes->Count());
+            layer.classLooks = ClassLooksOf(values, LayerRendering(), m_services, layer.classes->Count());
         }
         QImage image(View.Size(), QImage::Format_RGB32);
         image.fill(Qt::white);

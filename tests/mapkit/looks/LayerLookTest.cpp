@@ -2,6 +2,7 @@
 #include "mapkit/looks/LayerLook.h"
 
 #include "hostkit/StandardShellServices.h"
+#include "mapkit/looks/LayerRendering.h"
 
 #include <QImage>
 
@@ -127,6 +128,36 @@ TEST(LayerLook, AnUnknownFillStyleFillsNothing)
 {
     EXPECT_EQ(LookFor(Filled(32, Blue, Red)).fill.style(), Qt::NoBrush);
     EXPECT_EQ(LookFor(Filled(-1, Blue, Red)).fill.style(), Qt::NoBrush);
+}
+
+TEST(LayerLook, ClassesGoFromTheBackColourToTheForeColour)
+{
+    const auto looks = ClassLooksOf(Filled(0, Blue, Red), LayerRendering(), StandardShellServices(), 3);
+    ASSERT_EQ(looks.size(), 3u);
+    EXPECT_EQ(looks.front().colour, QColor(Qt::red));
+    EXPECT_EQ(looks.back().colour, QColor(Qt::blue));
+    EXPECT_EQ(looks.back().fill.color(), QColor(Qt::blue));
+}
+
+TEST(LayerLook, APaleFillBecomesStrongInTheHighestClass)
+{
+    const qint32 pale = 0xf2e2d3; // BGR
+    const auto looks
+        = ClassLooksOf(Filled(0, pale, Transparent), LayerRendering(), StandardShellServices(), 5);
+    EXPECT_GT(looks.front().colour.lightnessF(), 0.85);
+    EXPECT_LT(looks.back().colour.lightnessF(), 0.4);
+    EXPECT_NEAR(looks.back().colour.hslHueF(), ColourFromBgr(pale)->hslHueF(), 0.02);
+}
+
+TEST(LayerLook, ARampTakesThePlaceOfTheFillColours)
+{
+    LayerRendering rendering;
+    rendering.ramp = "heat";
+    const auto looks = ClassLooksOf(Filled(0, Blue, Red), rendering, StandardShellServices(), 4);
+    rendering.isRampReversed = true;
+    const auto reversed = ClassLooksOf(Filled(0, Blue, Red), rendering, StandardShellServices(), 4);
+    EXPECT_NE(looks.front().colour, QColor(Qt::red));
+    EXPECT_EQ(looks.front().colour, reversed.back().colour);
 }
 
 } // namespace Orvane

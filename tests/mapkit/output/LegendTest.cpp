@@ -112,7 +112,7 @@ TEST_F(LegendTest, TheClassesOfAGraduatedLayerStandBelowIt)
     layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
     layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
     const std::vector<LegendRow> rows = Rows();
-    EXPECT_THAT(Texts(), ElementsAre("People", "- 1 – 10.5", "- 10.5 – 20"));
+    EXPECT_THAT(Texts(), ElementsAre("People", "- 1.0 – 10.5", "- 10.5 – 20.0"));
     EXPECT_FALSE(rows[0].sample);
     EXPECT_TRUE(rows[1].sample);
     EXPECT_EQ(rows[1].values.fillForeColor, 0x00FFFF);
@@ -127,7 +127,21 @@ TEST_F(LegendTest, TheLimitsOfClassesAreWrittenOut)
     const std::vector<double> numbers{0.5, 1397715000};
     layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
     layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
-    EXPECT_THAT(Texts(), ElementsAre("Inhabitants", "- 0.5 – 698,857,500", "- 698,857,500 – 1,397,715,000"));
+    EXPECT_THAT(Texts(), ElementsAre("Inhabitants", "- 1 – 698,857,500", "- 698,857,500 – 1,397,715,000"));
+}
+
+TEST_F(LegendTest, TheAttributeStandsAboveItsClassesAndFeaturesWithoutDataBelow)
+{
+    AddTo(m_document->AddGroup("Land", true), "Countries");
+    MapLayer& layer = m_layers.back();
+    const std::vector<double> numbers{1, std::numeric_limits<double>::quiet_NaN(), 20};
+    layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
+    layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
+    layer.classAttribute = "population";
+    EXPECT_THAT(
+        Texts(), ElementsAre("Countries", "- population", "- 1.0 – 10.5", "- 10.5 – 20.0", "- No data"));
+    EXPECT_FALSE(Rows()[1].sample);
+    EXPECT_EQ(ColourFromBgr(Rows()[4].values.fillForeColor), UnclassedLook(layer.values).colour);
 }
 
 TEST_F(LegendTest, TheClassesOfLinesDifferInTheirColour)

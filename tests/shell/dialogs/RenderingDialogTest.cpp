@@ -5,6 +5,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/looks/RendererStyles.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -112,6 +113,16 @@ TEST_F(RenderingDialogTest, TellsWhatWasChosen)
     ASSERT_EQ(changes.size(), 1u);
     EXPECT_EQ(
         changes.at(m_layers[0].layerID), (LayerRendering{"kind", "height", ClassDivision::EqualSteps, 6}));
+}
+
+TEST_F(RenderingDialogTest, ARampIsChosenByItsNameAndCanBeReversed)
+{
+    Open();
+    Pick(Find("cmbRamp"), "Greens");
+    QTest::keyClick(&Find<QCheckBox>("chkReversed"), Qt::Key_Space);
+    const LayerRendering changed = m_dialog->Changes().at(m_layers[0].layerID);
+    EXPECT_EQ(changed.ramp, "greens");
+    EXPECT_TRUE(changed.isRampReversed);
 }
 
 TEST_F(RenderingDialogTest, NothingChosenIsNoChange)

@@ -13,6 +13,15 @@ using namespace Testing;
 
 namespace {
 
+// An area with the ID of a feature in its source.
+std::shared_ptr<const FeatureSet> AreaOfSource(qint64 featureID, double size)
+{
+    FeatureSet set;
+    set.BeginFeature(FeatureKind::Area, featureID);
+    set.AddPart(std::vector<QPointF>{{0, 0}, {size, 0}, {size, size}, {0, 0}});
+    return std::make_shared<const FeatureSet>(std::move(set));
+}
+
 class LayerAttributesTest : public testing::Test
 {
 protected:
@@ -100,6 +109,27 @@ TEST_F(LayerAttributesTest, FeaturesReadAnewNeedTheirAttributesAgain)
     EXPECT_EQ(Missing().size(), 2u);
     m_attributes.Fit(m_layers[0], m_services);
     EXPECT_FALSE(m_layers[0].labels);
+}
+
+TEST_F(LayerAttributesTest, TheSameFeaturesKeepTheirClassesUntilTheirAttributesAreReadAgain)
+{
+    m_layers[0].features = AreaOfSource(7, 1);
+    ReadAll();
+    const auto classes = m_layers[0].classes;
+    m_layers[0].features = AreaOfSource(7, 2);
+    m_attributes.Fit(m_layers[0], m_services);
+    EXPECT_EQ(m_layers[0].classes, classes);
+    EXPECT_TRUE(m_layers[0].labels);
+    EXPECT_EQ(Missing().size(), 2u);
+}
+
+TEST_F(LayerAttributesTest, OtherFeaturesLoseTheClassesOfTheFormerOnes)
+{
+    m_layers[0].features = AreaOfSource(7, 1);
+    ReadAll();
+    m_layers[0].features = AreaOfSource(8, 1);
+    m_attributes.Fit(m_layers[0], m_services);
+    EXPECT_FALSE(m_layers[0].classes);
 }
 
 TEST_F(LayerAttributesTest, FeaturesThatWereReplacedAreNotKeptByAPlainStyle)
