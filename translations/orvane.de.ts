@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>Map &amp;Background...</source>
-        <translation>Karten&amp;hintergrund...</translation>
+        <translation>&amp;Hintergrundfarbe der Karte...</translation>
     </message>
     <message>
         <source>Map Background</source>
-        <translation>Kartenhintergrund</translation>
+        <translation>Hintergrundfarbe der Karte</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>

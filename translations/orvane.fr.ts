@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>Map &amp;Background...</source>
-        <translation>&amp;Fond de la carte...</translation>
+        <translation>Couleur de &amp;fond de la carte...</translation>
     </message>
     <message>
         <source>Map Background</source>
-        <translation>Fond de la carte</translation>
+        <translation>Couleur de fond de la carte</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
