@@ -12,6 +12,7 @@ packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev libqt6opengl6-de
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
+packages_data=(gdal-bin python3)
 packages_package=(debootstrap lintian)
 packages_bench=(libbenchmark-dev)
 packages_check=(clang-format clang-tidy libbenchmark-dev python3 doxygen graphviz)

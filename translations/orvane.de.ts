@@ -56,6 +56,10 @@
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
     </message>
     <message>
+        <source>%1: features %2, extent %3</source>
+        <translation>%1: Objekte %2, Ausdehnung %3</translation>
+    </message>
+    <message>
         <source>&amp;Apply When the Map Is Opened</source>
         <translation>Beim Öffnen der Karte &amp;anwenden</translation>
     </message>
@@ -468,6 +472,12 @@
         <translation>Layer, deren Daten gefunden wurden: %1 von %2</translation>
     </message>
     <message>
+        <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
+Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
+        <translation>Die Layer einer Karte auflisten: die Zahl der Objekte und die Ausdehnung im Koordinatensystem der Karte als Westen, Süden, Osten und Norden.
+Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>Listen der Layer, die Sie für eine Aufgabe brauchen, ohne Einstellungen</translation>
     </message>
@@ -510,6 +520,10 @@
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>Ein Thema „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Write JSON, for scripts.</source>
+        <translation>JSON schreiben, für Skripte.</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -1659,13 +1673,15 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
   orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems</source>
+  orvane check MAP             check a map file for problems
+  orvane list MAP              list the layers of a map file</source>
         <translation>Orvane, ein kleines Kartenprogramm.
 
 Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
   orvane MAP --export FILE     eine Karte als PDF, SVG oder PNG zeichnen
   orvane import DATA --to MAP  Daten zu einer Kartendatei hinzufügen
-  orvane check MAP             eine Kartendatei auf Probleme prüfen</translation>
+  orvane check MAP             eine Kartendatei auf Probleme prüfen
+  orvane list MAP              die Layer einer Kartendatei auflisten</translation>
     </message>
     <message>
         <source>Outline only</source>

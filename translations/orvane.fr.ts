@@ -56,6 +56,10 @@
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
     </message>
     <message>
+        <source>%1: features %2, extent %3</source>
+        <translation>%1 : entités %2, étendue %3</translation>
+    </message>
+    <message>
         <source>&amp;Apply When the Map Is Opened</source>
         <translation>&amp;Appliquer à l’ouverture de la carte</translation>
     </message>
@@ -468,6 +472,12 @@
         <translation>Couches dont les données ont été trouvées : %1 sur %2</translation>
     </message>
     <message>
+        <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
+Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
+        <translation>Énumérer les couches d’une carte : le nombre d’entités, et l’étendue dans le système de coordonnées de la carte : ouest, sud, est et nord.
+Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la commande n’a pas été comprise.</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>Listes des couches utiles à une tâche, sans réglages</translation>
     </message>
@@ -510,6 +520,10 @@
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>Il y a déjà un thème « %1 ».</translation>
+    </message>
+    <message>
+        <source>Write JSON, for scripts.</source>
+        <translation>Écrire du JSON, pour les scripts.</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -1659,13 +1673,15 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
   orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems</source>
+  orvane check MAP             check a map file for problems
+  orvane list MAP              list the layers of a map file</source>
         <translation>Orvane, un petit logiciel de cartes.
 
 Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
   orvane MAP --export FILE     dessiner une carte en PDF, SVG ou PNG
   orvane import DATA --to MAP  ajouter des données à un fichier de carte
-  orvane check MAP             rechercher les problèmes dans un fichier de carte</translation>
+  orvane check MAP             rechercher les problèmes dans un fichier de carte
+  orvane list MAP              énumérer les couches d’un fichier de carte</translation>
     </message>
     <message>
         <source>Outline only</source>

@@ -56,6 +56,10 @@
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
     </message>
     <message>
+        <source>%1: features %2, extent %3</source>
+        <translation>%1: 地物 %2、範囲 %3</translation>
+    </message>
+    <message>
         <source>&amp;Apply When the Map Is Opened</source>
         <translation>地図を開いたときに適用(&amp;A)</translation>
     </message>
@@ -468,6 +472,12 @@
         <translation>データが見つかったレイヤー: %2 のうち %1</translation>
     </message>
     <message>
+        <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
+Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
+        <translation>地図のレイヤーを一覧表示します: 地物の数と、地図の座標系での範囲 (西、南、東、北)。
+終了コード: 0 すべて読めた、1 読めないものがあった、2 コマンドを理解できない。</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>ある作業に必要なレイヤーの一覧 (設定は含みません)</translation>
     </message>
@@ -510,6 +520,10 @@
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>テーマ「%1」は既にあります。</translation>
+    </message>
+    <message>
+        <source>Write JSON, for scripts.</source>
+        <translation>スクリプト用に JSON で出力します。</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -1659,13 +1673,15 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
   orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems</source>
+  orvane check MAP             check a map file for problems
+  orvane list MAP              list the layers of a map file</source>
         <translation>Orvane は小さなデスクトップ地図プログラムです。
 
 ウィンドウなしで次のことができます。それぞれに --help があります:
   orvane MAP --export FILE     地図を PDF、SVG、PNG として描く
   orvane import DATA --to MAP  地図ファイルにデータを追加する
-  orvane check MAP             地図ファイルの問題を調べる</translation>
+  orvane check MAP             地図ファイルの問題を調べる
+  orvane list MAP              地図ファイルのレイヤーを一覧表示</translation>
     </message>
     <message>
         <source>Outline only</source>

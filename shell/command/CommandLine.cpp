@@ -4,6 +4,7 @@
 #include "shell/command/CheckCommand.h"
 #include "shell/command/ExportCommand.h"
 #include "shell/command/ImportCommand.h"
+#include "shell/command/ListCommand.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -36,7 +37,8 @@ QString HelpText()
         "CommandLine",
         "Orvane, a small desktop map program.\n\nThese commands run without a window; each has its own "
         "--help:\n  orvane MAP --export FILE     draw a map as PDF, SVG or PNG\n  orvane import DATA --to "
-        "MAP  add data to a map file\n  orvane check MAP             check a map file for problems"));
+        "MAP  add data to a map file\n  orvane check MAP             check a map file for problems\n  orvane "
+        "list MAP              list the layers of a map file"));
 }
 
 bool IsExport(const QStringList& arguments)
@@ -88,7 +90,8 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
 
 bool NeedsNoWindow(const QStringList& arguments)
 {
-    static const QStringList commands{QStringLiteral("import"), QStringLiteral("check")};
+    static const QStringList commands{
+        QStringLiteral("import"), QStringLiteral("check"), QStringLiteral("list")};
     static const QStringList answers{
         QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("-v"), QStringLiteral("--version")};
     return commands.contains(arguments.value(1)) || IsExport(arguments)
@@ -103,6 +106,8 @@ std::variant<int, WindowRequest> RunCommandLine(const QStringList& arguments, co
         return Told(terminal, [&] { return ImportCommand(arguments, terminal); });
     if (arguments.value(1) == QLatin1String("check"))
         return Told(terminal, [&] { return CheckCommand(arguments, terminal); });
+    if (arguments.value(1) == QLatin1String("list"))
+        return Told(terminal, [&] { return ListCommand(arguments, terminal); });
     if (IsExport(arguments))
         return Told(terminal, [&] { return ExportCommand(arguments, terminal); });
     return ReadWindowRequest(arguments, terminal);

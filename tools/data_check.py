@@ -1,0 +1,100 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""usage: data_check.py ORVANE FOLDER UNPACKED
+
+Imports, lists and draws real data, and compares numbers of features and extents with those of GDAL's own tools.
+FOLDER: gets the maps and pictures. UNPACKED: the unpacked packages, a folder for each.
+"""
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+# package, end of the path in it, coordinate system of the map (that of the data), options of ogrinfo
+VECTOR = [
+    ("r-cran-spdata", "shapes/world.gpkg", "EPSG:4326", []),
+    ("r-cran-spdata", "shapes/columbus.shp", "EPSG:4326", []),  # names no system
+    ("r-cran-spdata", "shapes/NY8_utm18.shp", "EPSG:26918", []),
+    ("r-cran-spdata", "shapes/cycle_hire.geojson", "EPSG:4326", []),
+    ("r-cran-spdata", "misc/cycle_hire_xy.csv", "EPSG:4326",
+     ["-oo", "X_POSSIBLE_NAMES=X", "-oo", "Y_POSSIBLE_NAMES=Y"]),
+    ("r-cran-spdata", "misc/world_wkt.csv", "EPSG:4326", []),
+    ("r-cran-sf", "gml/fmi_test.gml", "EPSG:4258", []),
+    ("r-cran-sf", "shape/storms_xyz.shp", "EPSG:4326", []),
+    ("r-cran-sf", "gpkg/nc.gpkg", "EPSG:4267", []),
+    ("r-cran-spdep", "misc/sids2.zip", "EPSG:4326", []),
+    ("python3-cartopy", "ne_110m_lakes.shp", "EPSG:4326", []),
+    ("r-cran-maptools", "shapes/co37_d90.shp", "EPSG:4326", []),  # names no system
+]
+TOLERANCE = 2e-6  # ogrinfo prints six decimals
+
+
+class Different(Exception):
+    """Orvane does not show what GDAL reads."""
+
+
+def run(*command):
+    done = subprocess.run([str(word) for word in command], capture_output=True, text=True, timeout=300)
+    if done.returncode != 0:
+        raise Different(f"{' '.join(map(str, command))}: exit code {done.returncode}: {done.stderr.strip()}")
+    return done.stdout
+
+
+def union(boxes):
+    west, south, east, north = zip(*boxes)
+    return [min(west), min(south), max(east), max(north)]
+
+
+def expected(path, options):
+    """The number of features and the extent that GDAL finds, over all layers."""
+    source = f"/vsizip/{path}" if path.suffix == ".zip" else path
+    text = run("ogrinfo", "-ro", "-so", "-al", *options, source)
+    count = sum(int(number) for number in re.findall(r"^Feature Count: (\d+)", text, re.M))
+    boxes = re.findall(r"^Extent: \(([-\d.]+), ([-\d.]+)\) - \(([-\d.]+), ([-\d.]+)\)", text, re.M)
+    return count, union([[float(number) for number in box] for box in boxes])
+
+
+def shown(orvane, map_file):
+    """The same as Orvane has it."""
+    layers = json.loads(run(orvane, "list", "--json", map_file))["layers"]
+    return sum(layer["features"] for layer in layers), union([layer["extent"] for layer in layers])
+
+
+def check_drawn(orvane, map_file, picture):
+    run(orvane, map_file, "--export", picture, "--map-only", "--size", "400x300px")
+    bands = re.findall(r"STATISTICS_STDDEV=([\d.]+)", run("gdalinfo", "-stats", picture))
+    pathlib.Path(f"{picture}.aux.xml").unlink(missing_ok=True)
+    if max(map(float, bands), default=0) < 1:
+        raise Different("nothing is drawn")
+
+
+def check(orvane, folder, path, system, options):
+    map_file = folder / f"{path.stem}.orvane"
+    run(orvane, "import", path, "--to", map_file, "--map-crs", system)
+    count, box = shown(orvane, map_file)
+    wanted_count, wanted_box = expected(path, options)
+    if count != wanted_count:
+        raise Different(f"{count} features instead of {wanted_count}")
+    if any(abs(one - other) > TOLERANCE for one, other in zip(box, wanted_box)):
+        raise Different(f"extent {box} instead of {wanted_box}")
+    check_drawn(orvane, map_file, folder / f"{path.stem}.png")
+
+
+def main(orvane, folder, unpacked):
+    failures = 0
+    for package, ending, system, options in VECTOR:
+        paths = [path for path in (unpacked / package).rglob("*") if path.as_posix().endswith("/" + ending)]
+        try:
+            if not paths:
+                raise Different(f"the package {package} has no such file")
+            check(orvane, folder, paths[0], system, options)
+            print(f"{ending}: as GDAL has it")
+        except Different as difference:
+            failures += 1
+            print(f"{ending}: {difference}")
+    return 1 if failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*(pathlib.Path(word).resolve() for word in sys.argv[1:4])))
