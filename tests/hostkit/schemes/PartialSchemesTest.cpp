@@ -144,6 +144,20 @@ TEST_F(PartialSchemes, AreRefusedByProgramsThatKnowOnlyWholeOnes)
     EXPECT_EQ(StoredVersion(), SchemeTables::Version);
 }
 
+TEST_F(PartialSchemes, WithANumberThatNamesNoClassAreWholeAndNeedNoOtherVersion)
+{
+    for (const int number : {0, 8, 7, 15}) {
+        Database().Execute(QStringLiteral("UPDATE LayerSchemes SET Holds = ?1"), {number});
+        SchemeTables(Database()).RefreshVersion();
+        EXPECT_EQ(m_schemes.All().front().holds, WholeScheme) << number;
+        EXPECT_EQ(StoredVersion(), SchemeTables::Version) << number;
+    }
+    Database().Execute(QStringLiteral("UPDATE LayerSchemes SET Holds = 9"));
+    SchemeTables(Database()).RefreshVersion();
+    EXPECT_EQ(m_schemes.All().front().holds, SchemeParts(SchemePart::Flags));
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+}
+
 TEST_F(PartialSchemes, OfANewerProgramAreRefused)
 {
     for (const qint32 version : {SchemeTables::Version + 1, SchemeTables::PartialVersion + 1}) {

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/common/HostTables.h"
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "hostkit/undo/LayerStepsFixture.h"
 
 namespace Orvane::Testing {
@@ -103,6 +106,68 @@ TEST_F(Steps, LayersOfASchemeAreToldEvenIfWhatFollowsFails)
     EXPECT_EQ(ErrorOf([&] { History().Undo(); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_TRUE(Told().contains(QStringLiteral("changed 1")));
     QObject::disconnect(listener);
+}
+
+/// A second window on the same map changes schemes too, which is no step of the first.
+class StepsWithPartialSchemes : public Steps
+{
+protected:
+    void AddNight()
+    {
+        Host().GetSchemeNames(); // makes the first scheme
+        m_client.RecordStep([this] {
+            LayerSchemes(Database()).Add(Night, SchemePart::Flags);
+            return QStringLiteral("Create Night");
+        });
+    }
+
+    qint32 StoredVersion() { return HostTables::VersionOf(Database(), QStringLiteral("LayerSchemes")); }
+
+    LayerSchemes m_otherWindow{Database()};
+    const QString m_dusk = QStringLiteral("Dusk");
+};
+
+TEST_F(StepsWithPartialSchemes, LeaveTheVersionThatTheSchemeOfAnotherWindowNeeds)
+{
+    AddNight();
+    m_otherWindow.Add(m_dusk, SchemePart::Scales);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+    History().Redo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+    m_otherWindow.Delete(m_dusk);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::Version);
+}
+
+TEST_F(StepsWithPartialSchemes, StoreTheVersionThatTheyNeedThemselves)
+{
+    AddNight();
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::Version);
+    History().Redo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+}
+
+TEST_F(StepsWithPartialSchemes, CanBeRedoneAfterAnotherWindowMadeASchemePartial)
+{
+    AddNight();
+    History().Undo();
+    m_otherWindow.SetHolds(Standard, SchemePart::Scales);
+    History().Redo();
+    EXPECT_THAT(m_otherWindow.Names(), ElementsAre(Night, Standard));
+    m_otherWindow.SetHolds(Standard, WholeScheme);
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+}
+
+TEST_F(StepsWithPartialSchemes, LeaveTheVersionOfANewerProgram)
+{
+    AddNight();
+    ApplyTo(1, "Color", 5);
+    const qint32 newer = SchemeTables::PartialVersion + 1;
+    HostTables::SetVersion(Database(), QStringLiteral("LayerSchemes"), newer);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), newer);
 }
 
 } // namespace
