@@ -3,6 +3,7 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
 #include "component/dialog/pasting/PasteTicks.h"
@@ -14,6 +15,7 @@
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/trees/NodeMenu.h"
+#include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleApplying.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
@@ -28,7 +30,6 @@
 #include <QTreeView>
 
 #include <algorithm>
-#include <exception>
 #include <functional>
 #include <utility>
 
@@ -242,37 +243,26 @@ void SettingsPasting::Store(const std::vector<qint32>& layerIDs, const PanelSett
     const ApplyResult result
         = WithColumnTexts([&] { return ApplyLayersStyle(Client(), layerIDs, EditsOf(settings)); });
     if (result.layers > 0)
-        Tell(layerIDs, settings.quickMode);
+        Tell(layerIDs, settings.Has(Setting::Mode));
     else
         ShowMessageBox(
             View(), TranslateMsg("These layers no longer exist. Nothing was pasted."),
             BoxStyle::OkExclamation);
 }
 
-// The map shows what is stored, even if the dialog cannot.
-void SettingsPasting::Tell(const std::vector<qint32>& layerIDs, qint16 quickMode)
+// The host may correct the modes while it redraws the map, and end the dialog.
+void SettingsPasting::Tell(const std::vector<qint32>& layerIDs, bool areModesNew)
 {
-    std::exception_ptr error;
-    try {
-        m_trees.ExpireSamples();
-        if (quickMode != QuickMode::Various)
-            ShowMode(layerIDs, quickMode);
-        emit Pasted();
-    } catch (...) {
-        error = std::current_exception();
-    }
-    Client().RedrawMap();
-    if (error)
-        std::rethrow_exception(error);
-}
-
-void SettingsPasting::ShowMode(const std::vector<qint32>& layerIDs, qint16 quickMode)
-{
-    std::vector<LayerMode> modes;
-    modes.reserve(layerIDs.size());
-    for (const qint32 layerID : layerIDs)
-        modes.push_back({layerID, quickMode});
-    m_trees.SetLayerImages(modes);
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([] { Client().RedrawMap(); });
+    if (self)
+        errors.Try([&] { m_trees.ExpireSamples(); });
+    if (self && areModesNew)
+        errors.Try([&] { m_trees.SetLayerImages(ReadQuickModesWith(Client(), layerIDs)); });
+    if (self)
+        errors.Try([&] { emit Pasted(); });
+    errors.Rethrow();
 }
 
 } // namespace Orvane

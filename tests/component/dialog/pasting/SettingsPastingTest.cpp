@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/pasting/PastingFixture.h"
+#include "component/dialog/trees/LayerTreeModel.h"
+#include "hosts/CorrectingClient.h"
 #include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
@@ -295,6 +297,45 @@ TEST_F(PastingWithAFailingHost, ChangesNoLayer)
     EXPECT_EQ(user.Only().text, "locked");
     EXPECT_EQ(Stored(1, "Visible"), 1);
     EXPECT_EQ(Stored(3, "Visible"), 1);
+}
+
+class PastingWithACorrectingHost : public SettingsPastingTest
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        SettingsPastingTest::SetUp();
+        Copy("Rivers");
+        client.corrected = &host;
+    }
+
+    int ImageOf(const QString& text) { return Node(text).data(LayerTreeModel::QuickModeRole).toInt(); }
+
+    CorrectingClient client{host};
+};
+
+TEST_F(PastingWithACorrectingHost, ShowsTheModeThatTheHostHasTaken)
+{
+    PasteInto({"Roads", "Parcels"}, [this] { PasteOnly("Display mode"); });
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(ImageOf("Parcels"), 2);
+}
+
+TEST_F(PastingWithACorrectingHost, ShowsWhatIsStoredWhenTheRedrawRaises)
+{
+    client.raises = true;
+    MessageBoxRobot user{BoxKey::Enter};
+    PasteInto({"Roads"}, [this] {
+        Press("cmdNone");
+        Toggle("Display mode");
+        Toggle("Visible");
+        Press("cmdPaste");
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.Only().text, "not taken");
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(CheckState("chkVisible"), 0);
 }
 
 class PastingWithoutQuickModes : public SettingsPastingTest

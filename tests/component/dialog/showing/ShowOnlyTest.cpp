@@ -204,6 +204,25 @@ TEST_F(ShowOnlyTest, ReadsOnlyTheLayersThatHaveChanged)
     EXPECT_EQ(reads(50), before);
 }
 
+TEST_F(ShowOnlyTest, FollowsManyChangedLayersWithOneQuery)
+{
+    constexpr qint32 last = 300;
+    for (qint32 layerID = 5; layerID <= last; ++layerID)
+        host.AddLayer({.id = layerID, .name = QStringLiteral("Zone %1").arg(layerID)});
+    EditorForm().Refresh();
+    Choose({"Parcels"});
+    Pick("Show Only These");
+    QSet<qint32> layerIDs;
+    for (qint32 layerID = 5; layerID <= last; ++layerID) {
+        host.SetLayerColumn(layerID, "OverrideMode", qint32(0));
+        layerIDs.insert(layerID);
+    }
+    host.ClearLog();
+    Refresh(layerIDs);
+    EXPECT_EQ(BarText(), "Only 297 of 300 layers are shown.");
+    EXPECT_LT(Calls("Seek"), 100);
+}
+
 TEST_F(ShowOnlyTest, ANoteThatCannotBeReadLeavesTheSettingsUpToDate)
 {
     Choose({"Parcels"});
