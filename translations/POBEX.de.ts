@@ -924,6 +924,10 @@
         <translation>Themensteuerung: ^1</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>Diese Gruppen enthalten keine Layer.</translation>
+    </message>
+    <message>
         <source>These layers have no setting in common.</source>
         <translation>Diese Layer haben keine gemeinsame Einstellung.</translation>
     </message>
@@ -934,6 +938,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Dünnste Linie</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>Diese Gruppe enthält keine Layer.</translation>
     </message>
     <message>
         <source>This map cannot keep which layers were hidden.</source>
@@ -1006,6 +1014,10 @@
     <message>
         <source>&amp;Width:</source>
         <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>Mit den Maßstäben dieser Karte ist dieser Bereich leer.</translation>
     </message>
     <message>
         <source>Yellow</source>

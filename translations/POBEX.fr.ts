@@ -924,6 +924,10 @@
         <translation>Contrôle du thème : ^1</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>Ces groupes ne contiennent aucune couche.</translation>
+    </message>
+    <message>
         <source>These layers have no setting in common.</source>
         <translation>Ces couches n’ont aucun réglage en commun.</translation>
     </message>
@@ -934,6 +938,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>Ce groupe ne contient aucune couche.</translation>
     </message>
     <message>
         <source>This map cannot keep which layers were hidden.</source>
@@ -1006,6 +1014,10 @@
     <message>
         <source>&amp;Width:</source>
         <translation>É&amp;paisseur :</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>Avec les échelles de cette carte, cette plage est vide.</translation>
     </message>
     <message>
         <source>Yellow</source>

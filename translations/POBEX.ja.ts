@@ -924,6 +924,10 @@
         <translation>テーマコントロール: ^1</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>これらのグループにはレイヤーがありません。</translation>
+    </message>
+    <message>
         <source>These layers have no setting in common.</source>
         <translation>これらのレイヤーに共通の設定はありません。</translation>
     </message>
@@ -934,6 +938,10 @@
     <message>
         <source>Thinnest line</source>
         <translation>最も細い線</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>このグループにはレイヤーがありません。</translation>
     </message>
     <message>
         <source>This map cannot keep which layers were hidden.</source>
@@ -1006,6 +1014,10 @@
     <message>
         <source>&amp;Width:</source>
         <translation>幅(&amp;W):</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>このマップの縮尺では、この範囲は空になります。</translation>
     </message>
     <message>
         <source>Yellow</source>

@@ -61,6 +61,29 @@ QString WhyNotHere(Setting setting)
     return isPossible ? QString() : TranslateMsg("This map has no display modes.");
 }
 
+// Why a setting that was copied is not known here, with its value; nothing for one that was not copied.
+std::optional<frmPasteSettings::Row>
+UnknownRow(const PropertyPanel& panel, const CopiedSettings& copied, Setting setting)
+{
+    if (setting == Setting::RendererStyle && copied.rendererStyle) {
+        return frmPasteSettings::Row{
+            setting,
+            SettingName(panel, setting),
+            NameInText(copied.rendererStyle->name),
+            {},
+            TranslateMsg("This map has no style of that name.")};
+    }
+    if (setting == Setting::VisibleScales && copied.scales) {
+        return frmPasteSettings::Row{
+            setting,
+            SettingName(panel, setting),
+            CopiedScalesText(*copied.scales),
+            {},
+            TranslateMsg("With the scales of this map, this range is empty.")};
+    }
+    return std::nullopt;
+}
+
 // Settings that were copied but are not possible here are shown, too, so that nobody looks for them.
 PasteRows RowsFor(const PropertyPanel& panel, const PanelSettings& settings, const CopiedSettings& copied)
 {
@@ -72,13 +95,8 @@ PasteRows RowsFor(const PropertyPanel& panel, const PanelSettings& settings, con
             rows.push_back(
                 {setting, SettingName(panel, setting), SettingText(panel, settings, setting),
                  ColourIn(settings, setting), WhyNotHere(setting)});
-        else if (setting == Setting::RendererStyle && copied.rendererStyle)
-            rows.push_back(
-                {setting,
-                 SettingName(panel, setting),
-                 NameInText(copied.rendererStyle->name),
-                 {},
-                 TranslateMsg("This map has no style of that name.")});
+        else if (auto row = UnknownRow(panel, copied, setting))
+            rows.push_back(std::move(*row));
     }
     return rows;
 }
@@ -165,7 +183,10 @@ QString SettingsPasting::WhyNotCopy() const
     const bool hasAny = shown && std::any_of(AllSettings.begin(), AllSettings.end(), [&](const auto& entry) {
                             return shown->settings.Has(entry.setting);
                         });
-    return hasAny ? QString() : TranslateMsg("These layers have no setting in common.");
+    if (hasAny)
+        return {};
+    const bool hasLayers = !ReadLayerIDs(Client(), m_trees.ChosenNodes()).empty();
+    return hasLayers ? TranslateMsg("These layers have no setting in common.") : NoLayersText();
 }
 
 QString SettingsPasting::WhyNotPaste() const
@@ -205,6 +226,10 @@ void SettingsPasting::Paste()
     if (!copied)
         return;
     const std::vector<qint32> layerIDs = ReadLayerIDs(Client(), m_trees.ChosenNodes());
+    if (layerIDs.empty()) {
+        ShowMessageBox(View(), NoLayersText(), BoxStyle::OkExclamation);
+        return;
+    }
     const PanelSettings settings = FromCopy(*copied, m_dialog.rendererStyles());
     const std::optional<SettingSet> chosen = Ask(layerIDs.size(), RowsFor(m_panel, settings, *copied));
     if (self && chosen)
@@ -235,6 +260,12 @@ QString SettingsPasting::TargetText(size_t layers) const
     const bool isMany = m_trees.ChosenNodes().IsMany();
     return isMany ? TranslateMsg("Paste these settings into ^1:", NameOfLayers(qsizetype(layers)))
                   : TranslateMsg("Paste these settings into '^1':", NameInQuestion(m_trees.CurrentText()));
+}
+
+QString SettingsPasting::NoLayersText() const
+{
+    return m_trees.ChosenNodes().IsMany() ? TranslateMsg("These groups have no layers.")
+                                          : TranslateMsg("This group has no layers.");
 }
 
 void SettingsPasting::Store(const std::vector<qint32>& layerIDs, const PanelSettings& settings)
