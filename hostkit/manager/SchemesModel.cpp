@@ -2,6 +2,7 @@
 #include "hostkit/manager/SchemesModel.h"
 
 #include "hostkit/manager/SchemeValueTexts.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "messages/NameInText.h"
 
 #include <QCollator>
@@ -24,6 +25,12 @@ QString TimeText(const QDateTime& time)
     return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : QString();
 }
 
+// A scheme that only the host knows has no ID.
+bool AreSame(const SchemeDetails& a, const SchemeDetails& b)
+{
+    return a.id == b.id && (a.id != SchemeTables::NoScheme || a.name == b.name);
+}
+
 } // namespace
 
 SchemesModel::SchemesModel(Count count, QObject* parent)
@@ -38,7 +45,7 @@ void SchemesModel::Show(const std::vector<SchemeDetails>& schemes, Counts counts
     m_schemes.reserve(schemes.size());
     for (const SchemeDetails& details : schemes) {
         const auto known = std::find_if(old.begin(), old.end(), [&](const Scheme& scheme) {
-            return counts == Counts::Keep && scheme.details.name == details.name;
+            return counts == Counts::Keep && AreSame(scheme.details, details);
         });
         m_schemes.push_back(
             known == old.end() ? Scheme{details, std::nullopt, {}}

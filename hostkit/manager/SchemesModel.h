@@ -29,7 +29,8 @@ public:
 
     explicit SchemesModel(Count count, QObject* parent = nullptr);
 
-    /// Lists these schemes, which are in the user's order. Keep: a scheme of the same name keeps its number.
+    /// Lists these schemes, which are in the user's order. Keep: a scheme keeps its number, also under
+    /// another name.
     void Show(const std::vector<SchemeDetails>& schemes, Counts counts = Counts::Forget);
 
     /// All names in the user's order, also if the table is sorted.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeDifferences.h"
 #include "hostkit/schemes/SchemeExchange.h"
@@ -15,7 +16,6 @@
 
 namespace Orvane {
 
-class HostNotifications;
 class ILayerStore;
 
 /// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
@@ -82,7 +82,7 @@ private:
     Run(const QString& text, const std::function<void()>& act,
         ChangeStep::Joins joins = ChangeStep::Joins::No);
     void Leave(const QString& name);
-    void Tell();
+    void Tell(HostNotifications::SchemeValues values = HostNotifications::SchemeValues::Changed);
 
     ILayerStore& m_database;
     LayerSteps& m_steps;

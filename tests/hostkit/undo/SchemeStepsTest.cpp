@@ -4,6 +4,8 @@
 #include "hostkit/schemes/SchemeTables.h"
 #include "hostkit/undo/LayerStepsFixture.h"
 
+#include <QTemporaryDir>
+
 namespace Orvane::Testing {
 
 namespace {
@@ -83,6 +85,30 @@ TEST_F(Steps, OfSchemesAreToldAsTheChangesWere)
     EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Standard")));
 }
 
+TEST_F(Steps, TellIfSchemesKeepTheirValues)
+{
+    using Values = HostNotifications::SchemeValues;
+    std::vector<Values> told;
+    QObject::connect(
+        &m_client.Notifications(), &HostNotifications::SchemesChanged, &m_client.Notifications(),
+        [&told](const QString&, Values values) { told.push_back(values); });
+    const auto record = [this](const auto& act) {
+        m_client.RecordStep([&] {
+            LayerSchemes schemes(Database());
+            act(schemes);
+            return QStringLiteral("step");
+        });
+    };
+    Host().GetSchemeNames();
+    record([](LayerSchemes& schemes) { schemes.Rename(Standard, Night); });
+    record([](LayerSchemes& schemes) { schemes.SetAtOpening(Night); });
+    record([](LayerSchemes& schemes) { schemes.SetOrder({Night}); });
+    record([](LayerSchemes& schemes) { schemes.SetHolds(Night, SchemePart::Flags); });
+    while (History().CanUndo())
+        History().Undo();
+    EXPECT_THAT(told, ElementsAre(Values::Changed, Values::Kept, Values::Kept, Values::Kept));
+}
+
 TEST_F(Steps, ADeletedLayersSchemeValuesTellNothingOfSchemes)
 {
     Host().GetSchemeNames();
@@ -106,6 +132,25 @@ TEST_F(Steps, LayersOfASchemeAreToldEvenIfWhatFollowsFails)
     EXPECT_EQ(ErrorOf([&] { History().Undo(); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_TRUE(Told().contains(QStringLiteral("changed 1")));
     QObject::disconnect(listener);
+}
+
+TEST(SchemeOfAReadOnlyMap, ForTheOpeningIsNotLoaded)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    {
+        const auto map = SqliteLayerDatabase::Create(path);
+        map->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
+        LayerSchemes schemes(*map);
+        schemes.SetAtOpening(schemes.Current());
+        map->Execute(QStringLiteral("UPDATE Layers SET Color = 5"));
+    }
+    const auto map = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    StandardShellServices services;
+    SilentClient client(*map, services);
+    EXPECT_EQ(LayerSchemes(*map).AtOpening(), Standard);
+    EXPECT_EQ(client.ApplySchemeAtOpening(), std::nullopt);
+    EXPECT_FALSE(client.History().CanUndo());
 }
 
 /// A second window on the same map changes schemes too, which is no step of the first.
