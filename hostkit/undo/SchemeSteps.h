@@ -57,8 +57,8 @@ public:
     void SetOrder(const QStringList& names);
     /// As LayerSchemes::SetAtOpening; empty for none.
     void SetAtOpening(const QString& name);
-    /// The scheme that is to be loaded now that the map was opened; nothing if there is none, if the map is
-    /// as that scheme says already, or if the map cannot be changed.
+    /// The scheme that is to be loaded now that the map was opened; nothing if there is none, if it is
+    /// current and the layers are as it says, or if the map cannot be changed.
     std::optional<QString> MissingAtOpening();
     /// How many layers differ from that scheme, or are not in it; compares all.
     qsizetype CountThatDiffer(const QString& name) { return m_schemes.CountThatDiffer(name); }
