@@ -249,7 +249,7 @@ void LayerShowing::Tell(const std::vector<LayerMode>& changed)
     errors.Try([&] {
         m_trees.SetLayerImages(ReadQuickModesWith(Client(), {layerIDs.begin(), layerIDs.end()}));
     });
-    errors.Try([&] { FollowShown(layerIDs); });
+    errors.Try([&] { ReadShown(); }); // all layers were read for the change, and count as they are now
     errors.Try([&] { emit ModesChanged(layerIDs); });
     errors.Rethrow();
 }
