@@ -5,7 +5,6 @@
 #include "hostkit/schemes/SchemeTables.h"
 #include "messages/NameInText.h"
 
-#include <QCollator>
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMimeData>
@@ -114,10 +113,7 @@ bool SchemesModel::IsBefore(const Scheme& a, const Scheme& b) const
         return a.details.saved < b.details.saved; // an invalid one is before all others
     if (m_sorted == Holds)
         return NumberOf(a.details.holds) < NumberOf(b.details.holds);
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-    return collator(a.details.name, b.details.name);
+    return m_naturalOrder(a.details.name, b.details.name);
 }
 
 bool SchemesModel::CountNext()
