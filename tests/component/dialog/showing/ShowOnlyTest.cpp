@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenuFixture.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
+#include "hosts/NotesClient.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
-#include <QHash>
 #include <QLabel>
 #include <QToolButton>
 
@@ -15,26 +15,6 @@ namespace Orvane::Testing {
 namespace {
 
 using testing::ElementsAre;
-
-/// Keeps notes in memory.
-class NotesClient : public ForwardingClient
-{
-public:
-    using ForwardingClient::ForwardingClient;
-    QHash<QString, QString> notes;
-    bool keeps = true;
-    bool raises = false;
-
-private:
-    bool IMapNotes_KeepsNotes() const override { return keeps; }
-    QString IMapNotes_Note(const QString& key) override
-    {
-        if (raises)
-            throw RunTimeError(ErrorNumber::DatabaseLocked, "no notes");
-        return notes.value(key);
-    }
-    void IMapNotes_SetNote(const QString& key, const QString& text) override { notes[key] = text; }
-};
 
 class ShowOnlyTest : public NodeMenuFixture
 {
@@ -59,7 +39,7 @@ protected:
         dynamic_cast<IStyleEditorRefresh&>(EditorForm()).RefreshLayers(layerIDs);
     }
 
-    NotesClient client{host};
+    NotesClient<ForwardingClient> client{host};
 };
 
 TEST_F(ShowOnlyTest, HidesAllOtherLayersAndBringsEachBackInItsOwnMode)

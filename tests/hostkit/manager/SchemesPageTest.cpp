@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/manager/SchemesPage.h"
+
 #include "hostkit/manager/SchemeManagerFixture.h"
 #include "hostkit/manager/SchemesModel.h"
 #include "hostkit/schemes/LayerSchemes.h"
@@ -197,8 +199,7 @@ TEST_F(SchemeWindowParts, SortsByWhatTheSchemesHold)
     LayerSchemes(Database()).SetHolds(Standard, SchemePart::Flags);
     InWindow([&] {
         ClickHeader(SchemesModel::Holds);
-        EXPECT_THAT(
-            Holds(), ElementsAre(QStringLiteral("Flags"), QStringLiteral("Scales"), AllOfThem()));
+        EXPECT_THAT(Holds(), ElementsAre(QStringLiteral("Flags"), QStringLiteral("Scales"), AllOfThem()));
         EXPECT_THAT(Column(0), ElementsAre(Standard, Day, Night));
         ClickHeader(SchemesModel::Holds);
         EXPECT_THAT(Column(0), ElementsAre(Night, Day, Standard));

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeParts.h"
+
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/common/HostTables.h"
