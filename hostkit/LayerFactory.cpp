@@ -112,6 +112,8 @@ void LayerFactory::Delete(const std::vector<qint32>& layerIDs)
 
 LayerDeletion LayerFactory::WhatGoes(const std::vector<qint32>& layerIDs)
 {
+    if (layerIDs.size() == 1)
+        return WhatGoes(layerIDs.front());
     const std::unordered_set<double> wanted(layerIDs.begin(), layerIDs.end());
     LayerDeletion deletion;
     deletion.layers = qsizetype(layerIDs.size());

@@ -82,8 +82,8 @@ public:
     void SetAppliesSchemeAtOpening(bool applies);
     /// Loads the scheme that the user has chosen for the opening of the map, in LoadScheme's way: one step of
     /// the history. Call it after the map was opened by the user, before the first editor is. Returns the
-    /// scheme; nothing, without having changed anything, if none was chosen, if the layers are as it says
-    /// already, or if the map cannot be changed. Raises what LoadScheme raises.
+    /// scheme; nothing, without having changed anything, if none was chosen, if it is current and the layers
+    /// are as it says, or if the map cannot be changed. Raises what LoadScheme raises.
     std::optional<QString> ApplySchemeAtOpening();
     /// True when the layers differ from the saved values of the current scheme.
     bool HasUnsavedSchemeChanges() { return UnsavedSchemeChanges() > 0; }

@@ -6,12 +6,11 @@
 #include "hostkit/schemes/SchemeFile.h"
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/windows/LongWork.h"
+#include "hostkit/windows/OwnedDialog.h"
 #include "messages/NameInText.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
-
-#include <QPointer>
 
 namespace Orvane {
 
@@ -62,13 +61,16 @@ std::optional<SchemeImport> StandardClient::ImportSchemeFile(
 
 void StandardClient::ISchemeManager_ManageSchemes(QWidget* form)
 {
-    const QPointer<SchemeManager> window(new SchemeManager(
-        {m_database, *this, m_parts->schemes, m_parts->steps.History(), m_parts->notifications,
-         m_parts->Settings(), m_parts->appliesAtOpening},
-        form ? form : DialogParent()));
+    const ManagerHost host{
+        m_database,
+        *this,
+        m_parts->schemes,
+        m_parts->steps.History(),
+        m_parts->notifications,
+        m_parts->Settings(),
+        m_parts->appliesAtOpening};
+    const OwnedDialog<SchemeManager> window(host, form ? form : DialogParent());
     window->exec();
-    if (window) // it goes with its parent
-        window->deleteLater();
 }
 
 QStringList StandardClient::IStyleEditorClient_GetSchemeNames()

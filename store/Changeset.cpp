@@ -129,6 +129,20 @@ Changeset Changeset::Then(const Changeset& next) const
     return log.ChangesSince(0);
 }
 
+Changeset Changeset::Without(std::string_view table) const
+{
+    ChangesetReader reader(*this);
+    const auto& tables = reader.Tables();
+    if (std::none_of(tables.begin(), tables.end(), [&](const auto& known) { return known.name == table; }))
+        return *this;
+    ChangesetMaker others(tables);
+    while (reader.Next()) {
+        if (reader.Table().name != table)
+            others.Add(reader.Row());
+    }
+    return others.Finish();
+}
+
 void Changeset::ForEachRow(const std::function<void(const RowChange& row)>& visitor) const
 {
     ChangesetReader reader(*this);

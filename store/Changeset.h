@@ -39,6 +39,8 @@ public:
     Changeset Inverted() const;
     /// This changeset and the next one combined.
     Changeset Then(const Changeset& next) const;
+    /// The same without the rows of that table; empty if there are no others.
+    Changeset Without(std::string_view table) const;
     /// Calls the visitor for each row.
     void ForEachRow(const std::function<void(const RowChange& row)>& visitor) const;
 

@@ -32,20 +32,21 @@ class Guide:
         self.settle()
         picture(self.pictures / f"{name}.png")
 
+    def crop(self, name, geometry):
+        """A picture of that part of the screen."""
+        file = str(self.pictures / f"{name}.png")
+        subprocess.run(["import", "-window", "root", "-crop", geometry, "+repage", file], check=True)
+
     def part(self, name, window):
         box = extents(window)
         geometry = f"{box.width + 8}x{box.height + FRAME + 4}+{max(box.x - 4, 0)}+{max(box.y - FRAME, 0)}"
-        subprocess.run(
-            ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
-        )
+        self.crop(name, geometry)
 
     def around(self, name, node, below=0):
         """A picture of what it takes of the screen, and of some pixels below."""
         box = extents(node)
         geometry = f"{box.width}x{box.height + below}+{box.x}+{box.y}"
-        subprocess.run(
-            ["import", "-window", "root", "-crop", geometry, "+repage", str(self.pictures / f"{name}.png")], check=True
-        )
+        self.crop(name, geometry)
 
     def settle(self):
         """Waits until the map has stopped changing."""

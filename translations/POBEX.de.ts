@@ -56,6 +56,18 @@
         <translation>&lt;keine&gt;</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>Diese Gruppen enthalten keine Layer.</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>Diese Gruppe enthält keine Layer.</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>Mit den Maßstäben dieser Karte ist dieser Bereich leer.</translation>
+    </message>
+    <message>
         <source>[various]</source>
         <translation>[verschiedene]</translation>
     </message>

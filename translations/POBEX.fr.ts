@@ -60,6 +60,18 @@
         <translation>Les deux couleurs de remplissage sont transparentes : le remplissage prend la couleur du trait.</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>Ces groupes ne contiennent aucune couche.</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>Ce groupe ne contient aucune couche.</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>Avec les échelles de cette carte, cette plage est vide.</translation>
+    </message>
+    <message>
         <source>[various]</source>
         <translation>[divers]</translation>
     </message>

@@ -56,6 +56,18 @@
         <translation>&lt;なし&gt;</translation>
     </message>
     <message>
+        <source>These groups have no layers.</source>
+        <translation>これらのグループにはレイヤーがありません。</translation>
+    </message>
+    <message>
+        <source>This group has no layers.</source>
+        <translation>このグループにはレイヤーがありません。</translation>
+    </message>
+    <message>
+        <source>With the scales of this map, this range is empty.</source>
+        <translation>このマップの縮尺では、この範囲は空になります。</translation>
+    </message>
+    <message>
         <source>[various]</source>
         <translation>[複数の値]</translation>
     </message>

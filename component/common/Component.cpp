@@ -47,11 +47,6 @@ Component& Component::Get()
     return *component;
 }
 
-Component::Component()
-{
-    ResetSettingsNotToPaste();
-}
-
 MessageTable& Component::Messages()
 {
     if (!m_messages)
@@ -82,11 +77,6 @@ void Component::SetHost(IStyleEditorClient* client, IShellServices* services)
 {
     m_client = client;
     m_services = services;
-}
-
-void Component::ResetSettingsNotToPaste()
-{
-    m_settingsNotToPaste = {QStringLiteral("mode"), QStringLiteral("drawPriority")};
 }
 
 } // namespace Orvane

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Orvane {
 
@@ -60,11 +61,9 @@ public:
     ContractVersion HostContract() const { return m_hostContract; }
     void SetHostContract(const ContractVersion& contract) { m_hostContract = contract; }
 
-    /// The settings without a tick when settings were pasted last, by their keys; at first the quick mode and
-    /// the draw priority.
-    QSet<QString>& SettingsNotToPaste() { return m_settingsNotToPaste; }
-    /// As at first.
-    void ResetSettingsNotToPaste();
+    /// The settings without a tick when settings were pasted last, by their keys; nothing before the first
+    /// time.
+    std::optional<QSet<QString>>& SettingsNotToPaste() { return m_settingsNotToPaste; }
 
     /// The registry of the editors while a StyleEditorLib exists, else nullptr. The StyleEditorLib objects
     /// own it.
@@ -72,7 +71,7 @@ public:
     void SetRegistry(const std::shared_ptr<StyleEditorRegistry>& registry) { m_registry = registry; }
 
 private:
-    Component();
+    Component() = default;
 
     QString m_messageFolder;
     std::unique_ptr<AddedTexts> m_added;
@@ -82,7 +81,7 @@ private:
     IShellServices* m_services = nullptr;
     ContractVersion m_hostContract = CurrentContract;
     std::weak_ptr<StyleEditorRegistry> m_registry;
-    QSet<QString> m_settingsNotToPaste;
+    std::optional<QSet<QString>> m_settingsNotToPaste;
 };
 
 } // namespace Orvane

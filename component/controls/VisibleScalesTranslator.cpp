@@ -16,10 +16,8 @@ namespace Orvane {
 
 namespace {
 
-constexpr qint32 noMinimum = 0;
-constexpr qint32 noMaximum = 256;
-constexpr qint32 firstScale = 1;
-constexpr qint32 lastScale = 255;
+constexpr qint32 firstScale = VisibleScalesTranslator::FirstScale;
+constexpr qint32 lastScale = VisibleScalesTranslator::LastScale;
 constexpr qsizetype prefixLength = 2; // of "1:", even if a translation has changed it
 
 double Denominator(qint32 index)
@@ -49,11 +47,16 @@ qint32 IndexAfter(double denominator)
 
 } // namespace
 
+bool VisibleScalesTranslator::IsLimit(const Value& value)
+{
+    return !value.IsNull() && !ValuesEqual(value, NoMinimum) && !ValuesEqual(value, NoMaximum);
+}
+
 QString VisibleScalesTranslator::toString(const Value& value) const
 {
     if (value.IsNull())
         return TranslateMsg("various");
-    if (ValuesEqual(value, noMinimum) || ValuesEqual(value, noMaximum))
+    if (!IsLimit(value))
         return TranslateMsg("dont care");
     return TranslateMsg("1:^1", ShellServices().ScaleFromIndex(ToInt32(value)));
 }
@@ -63,7 +66,7 @@ Value VisibleScalesTranslator::FromString(const QString& text) const
     if (text == TranslateMsg("various"))
         return Value::Null();
     if (text == TranslateMsg("dont care"))
-        return qint16(noMinimum);
+        return qint16(NoMinimum);
     const qint32 denominator = ToInt32(text.mid(prefixLength));
     return ShellServices().IndexFromScale(denominator);
 }
@@ -95,7 +98,7 @@ VisibleScalesTranslator::NumberOfMap(qint32 minimum, qint32 maximum) const
     const Range possible = NumbersOf(minimum, maximum);
     if (denominator < possible.smallest || denominator > possible.largest)
         return MapNumber{denominator, std::nullopt};
-    return MapNumber{denominator, maximum == noMaximum ? IndexAfter(denominator) : IndexBefore(denominator)};
+    return MapNumber{denominator, maximum == NoMaximum ? IndexAfter(denominator) : IndexBefore(denominator)};
 }
 
 } // namespace Orvane

@@ -11,6 +11,16 @@ namespace Orvane {
 class VisibleScalesTranslator : public IUITranslator, public ITypedNumbers
 {
 public:
+    /// The indices that mean "no limit".
+    static constexpr qint32 NoMinimum = 0;
+    static constexpr qint32 NoMaximum = 256;
+    /// The indices of scales.
+    static constexpr qint32 FirstScale = 1;
+    static constexpr qint32 LastScale = 255;
+
+    /// True for a value that is not Null and not one of those that mean "no limit".
+    static bool IsLimit(const Value& value);
+
     /// "various" for Null, "dont care" for 0 and 256, else "1:" and the denominator of the 32-bit index.
     QString toString(const Value& value) const;
 

@@ -34,7 +34,7 @@ StyleEditorLib::~StyleEditorLib()
         return;
     component.SetHost(nullptr, nullptr);
     component.SetHostContract(CurrentContract);
-    component.ResetSettingsNotToPaste();
+    component.SettingsNotToPaste().reset();
     component.Added().Clear();
 }
 

@@ -117,6 +117,12 @@ std::vector<LayerMode> ReadAllQuickModes(IStyleEditorClient& client)
     return modes;
 }
 
+std::vector<LayerMode> ReadQuickModesWith(IStyleEditorClient& client, const std::vector<qint32>& layerIDs)
+{
+    const bool areMany = qsizetype(layerIDs.size()) > MostLayersOneByOne;
+    return areMany ? ReadAllQuickModes(client) : ReadQuickModes(client, layerIDs);
+}
+
 void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded)
 {
     const auto groups = OpenGroupsByID(client.GetDatabase());

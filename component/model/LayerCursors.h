@@ -52,6 +52,12 @@ std::vector<LayerMode> ReadQuickModes(IStyleEditorClient& client, const std::vec
 /// out.
 std::vector<LayerMode> ReadAllQuickModes(IStyleEditorClient& client);
 
+/// How many layers are read one after another; for more, one query for all layers is not slower.
+inline constexpr qsizetype MostLayersOneByOne = 100;
+
+/// The quick modes of these layers; of all layers if these are many.
+std::vector<LayerMode> ReadQuickModesWith(IStyleEditorClient& client, const std::vector<qint32>& layerIDs);
+
 /// Stores whether the group's node is shown expanded. Does nothing for a group that does not exist.
 void StoreGroupExpanded(IStyleEditorClient& client, qint32 groupID, bool expanded);
 

@@ -18,7 +18,7 @@ StoreTable VersionsTable()
 {
     using Nulls = StoreColumn::Nulls;
     return {
-        QStringLiteral("HostTables"),
+        QString::fromLatin1(HostTables::TableName),
         {{QStringLiteral("Name"), StoreType::Text, Nulls::Refused},
          {QStringLiteral("Version"), StoreType::Whole, Nulls::Refused}},
         {QStringLiteral("Name")}};
@@ -49,7 +49,7 @@ void HostTables::RequireVersion(ILayerStore& store, const QString& name, qint32 
     if (VersionOf(store, name) > newest) {
         throw RunTimeError(
             int(HostError::TablesTooNew), text.arg(QFileInfo(store.Path()).fileName()),
-            QStringLiteral("HostTables"));
+            QString::fromLatin1(HostTables::TableName));
     }
 }
 

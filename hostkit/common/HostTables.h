@@ -13,6 +13,9 @@ class ILayerStore;
 /// versions.
 namespace HostTables {
 
+/// The name of that table. What it says depends on all other rows, so its rows are no part of an undo step.
+inline constexpr char TableName[] = "HostTables";
+
 /// 0 when none is stored.
 qint32 VersionOf(ILayerStore& store, const QString& name);
 

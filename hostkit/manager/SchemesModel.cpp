@@ -2,9 +2,9 @@
 #include "hostkit/manager/SchemesModel.h"
 
 #include "hostkit/manager/SchemeValueTexts.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "messages/NameInText.h"
 
-#include <QCollator>
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMimeData>
@@ -24,6 +24,12 @@ QString TimeText(const QDateTime& time)
     return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : QString();
 }
 
+// A scheme that only the host knows has no ID.
+bool AreSame(const SchemeDetails& a, const SchemeDetails& b)
+{
+    return a.id == b.id && (a.id != SchemeTables::NoScheme || a.name == b.name);
+}
+
 } // namespace
 
 SchemesModel::SchemesModel(Count count, QObject* parent)
@@ -38,7 +44,7 @@ void SchemesModel::Show(const std::vector<SchemeDetails>& schemes, Counts counts
     m_schemes.reserve(schemes.size());
     for (const SchemeDetails& details : schemes) {
         const auto known = std::find_if(old.begin(), old.end(), [&](const Scheme& scheme) {
-            return counts == Counts::Keep && scheme.details.name == details.name;
+            return counts == Counts::Keep && AreSame(scheme.details, details);
         });
         m_schemes.push_back(
             known == old.end() ? Scheme{details, std::nullopt, {}}
@@ -107,10 +113,7 @@ bool SchemesModel::IsBefore(const Scheme& a, const Scheme& b) const
         return a.details.saved < b.details.saved; // an invalid one is before all others
     if (m_sorted == Holds)
         return NumberOf(a.details.holds) < NumberOf(b.details.holds);
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-    return collator(a.details.name, b.details.name);
+    return m_naturalOrder(a.details.name, b.details.name);
 }
 
 bool SchemesModel::CountNext()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/common/NaturalOrder.h"
 #include "hostkit/schemes/SchemeDetails.h"
 
 #include <QAbstractTableModel>
@@ -29,7 +30,8 @@ public:
 
     explicit SchemesModel(Count count, QObject* parent = nullptr);
 
-    /// Lists these schemes, which are in the user's order. Keep: a scheme of the same name keeps its number.
+    /// Lists these schemes, which are in the user's order. Keep: a scheme keeps its number, also under
+    /// another name.
     void Show(const std::vector<SchemeDetails>& schemes, Counts counts = Counts::Forget);
 
     /// All names in the user's order, also if the table is sorted.
@@ -47,6 +49,9 @@ public:
     /// Sorts the rows; nothing: the user's order.
     void SortBy(std::optional<Column> column, Qt::SortOrder order = Qt::AscendingOrder);
     bool IsInUsersOrder() const { return !m_sorted; }
+    /// The column and the direction of SortBy.
+    std::optional<Column> SortedBy() const { return m_sorted; }
+    Qt::SortOrder Order() const { return m_order; }
 
     /// Counts for the first scheme that has no number yet; false if there is none. If that fails, the scheme
     /// gets a question mark, and the error as its tool tip.
@@ -91,6 +96,7 @@ private:
     std::vector<std::size_t> m_rows; // positions in m_schemes
     std::optional<Column> m_sorted;
     Qt::SortOrder m_order = Qt::AscendingOrder;
+    QCollator m_naturalOrder = NaturalOrder();
 };
 
 } // namespace Orvane

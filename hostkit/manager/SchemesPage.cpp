@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/manager/SchemesPage.h"
 
-#include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/SchemeFileDialogs.h"
 #include "hostkit/manager/SchemeOrder.h"
 #include "hostkit/manager/SchemePartsDialog.h"
@@ -22,7 +21,6 @@
 #include <QLocale>
 #include <QPointer>
 #include <QPushButton>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -52,7 +50,7 @@ SchemesPage::SchemesPage(const ManagerHost& host, QWidget* parent)
     MakeHistory();
     Wire();
     GuardCommand(parent, [this] {
-        ReadAgain();
+        ReadAgain(HostNotifications::SchemeValues::Changed);
         m_table->Choose({m_model->CurrentName()});
     });
     EnableCommands();
@@ -61,9 +59,14 @@ SchemesPage::SchemesPage(const ManagerHost& host, QWidget* parent)
 void SchemesPage::Wire()
 {
     connect(&m_counting, &QTimer::timeout, this, &SchemesPage::Count);
-    const auto changed = [this] { GuardCommand(this, [this] { ReadAgain(); }); };
-    connect(&m_host.notifications, &HostNotifications::SchemesChanged, this, changed);
-    connect(&m_host.notifications, &HostNotifications::LayersChanged, this, changed);
+    using Values = HostNotifications::SchemeValues;
+    const auto readAgain = [this](Values values) { GuardCommand(this, [&] { ReadAgain(values); }); };
+    connect(
+        &m_host.notifications, &HostNotifications::SchemesChanged, this,
+        [readAgain](const QString&, Values values) { readAgain(values); });
+    connect(&m_host.notifications, &HostNotifications::LayersChanged, this, [readAgain] {
+        readAgain(Values::Changed);
+    });
     connect(&m_host.history, &UndoHistory::Changed, this, &SchemesPage::EnableCommands);
     connect(m_table, &SchemesTable::Sorted, this, &SchemesPage::EnableCommands);
     connect(
@@ -168,11 +171,12 @@ QAction* SchemesPage::MakeCommand(
     return action;
 }
 
-void SchemesPage::ReadAgain()
+void SchemesPage::ReadAgain(HostNotifications::SchemeValues values)
 {
     using Counts = SchemesModel::Counts;
+    const bool areKept = values == HostNotifications::SchemeValues::Kept;
     const QStringList chosen = ChosenNames();
-    m_model->Show(Schemes(), m_isArranging ? Counts::Keep : Counts::Forget);
+    m_model->Show(Schemes(), areKept ? Counts::Keep : Counts::Forget);
     m_table->Choose(chosen);
     EnableCommands(); // the choice may be as it was
     m_counting.start(0);
@@ -280,7 +284,6 @@ void SchemesPage::Arrange(const QStringList& names)
 {
     if (names == m_model->Names())
         return;
-    const QScopedValueRollback<bool> arranging(m_isArranging, true);
     m_host.schemes.SetOrder(names);
     m_table->scrollTo(m_table->currentIndex());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/ManagerHost.h"
 #include "hostkit/schemes/SchemeDetails.h"
 
@@ -50,7 +51,7 @@ private:
     void Wire();
     QAction*
     MakeCommand(const char* objectName, const QString& text, const QKeySequence& key, Command command);
-    void ReadAgain();
+    void ReadAgain(HostNotifications::SchemeValues values);
     std::vector<SchemeDetails> Schemes();
     void Count();
     void EnableCommands();
@@ -88,7 +89,6 @@ private:
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QTimer m_counting;
-    bool m_isArranging = false; // the order changes, the numbers do not
 };
 
 } // namespace Orvane

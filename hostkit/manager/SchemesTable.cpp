@@ -15,7 +15,7 @@ namespace {
 
 constexpr int SchemeNameWidth = 30; // average characters
 
-constexpr int UsersOrder = -1;
+const std::optional<SchemesModel::Column> UsersOrder = std::nullopt;
 
 } // namespace
 
@@ -36,7 +36,10 @@ SchemesTable::SchemesTable(SchemesModel& model, QWidget* parent)
     setDragDropOverwriteMode(false);
     verticalHeader()->hide();
     SetWidths();
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, qOverload<int>(&SchemesTable::SortBy));
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (SchemesModel::IsSortable(column))
+            SortBy(SchemesModel::Column(column));
+    });
 }
 
 void SchemesTable::SetWidths()
@@ -119,45 +122,43 @@ void SchemesTable::AddSorting()
     AddOrder(*menu, tr("In Your Own Order"), UsersOrder);
     for (int column = 0; column < SchemesModel::ColumnCount; ++column) {
         if (SchemesModel::IsSortable(column))
-            AddOrder(*menu, m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), column);
+            AddOrder(
+                *menu, m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                SchemesModel::Column(column));
     }
     m_orders->actions().constFirst()->setChecked(true);
     addAction(menu->menuAction());
 }
 
-void SchemesTable::AddOrder(QMenu& menu, const QString& text, int column)
+void SchemesTable::AddOrder(QMenu& menu, const QString& text, std::optional<SchemesModel::Column> column)
 {
     QAction* action = menu.addAction(text);
     action->setCheckable(true);
-    action->setData(column);
     m_orders->addAction(action);
     connect(action, &QAction::triggered, this, [this, column] { SortBy(column); });
+    connect(this, &SchemesTable::Sorted, action, [this, column, action] {
+        action->setChecked(m_model.SortedBy() == column);
+    });
 }
 
 // Up, down, and back to the user's order.
-void SchemesTable::SortBy(int column)
+void SchemesTable::SortBy(std::optional<SchemesModel::Column> column)
 {
-    if (column != UsersOrder && !SchemesModel::IsSortable(column))
-        return;
-    if (column != m_sorted)
+    if (column != m_model.SortedBy())
         SortBy(column, Qt::AscendingOrder);
-    else if (m_order == Qt::AscendingOrder)
+    else if (m_model.Order() == Qt::AscendingOrder)
         SortBy(column, Qt::DescendingOrder);
     else
         SortBy(UsersOrder, Qt::AscendingOrder);
 }
 
-void SchemesTable::SortBy(int column, Qt::SortOrder order)
+void SchemesTable::SortBy(std::optional<SchemesModel::Column> column, Qt::SortOrder order)
 {
-    m_sorted = column;
-    m_order = order;
     const QStringList chosen = ChosenNames();
-    m_model.SortBy(column == UsersOrder ? std::nullopt : std::optional(SchemesModel::Column(column)), order);
+    m_model.SortBy(column, order);
     Choose(chosen);
-    horizontalHeader()->setSortIndicator(column == UsersOrder ? 0 : column, order);
-    horizontalHeader()->setSortIndicatorShown(column != UsersOrder);
-    for (QAction* action : m_orders->actions())
-        action->setChecked(action->data().toInt() == column);
+    horizontalHeader()->setSortIndicator(column.value_or(SchemesModel::Name), order);
+    horizontalHeader()->setSortIndicatorShown(column.has_value());
     emit Sorted();
 }
 

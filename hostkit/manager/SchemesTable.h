@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/manager/SchemesModel.h"
+
 #include <QStringList>
 #include <QTableView>
+
+#include <optional>
 
 class QActionGroup;
 
 namespace Orvane {
-
-class SchemesModel;
 
 /// The table of all schemes. Rows are chosen, dragged to another place, and sorted by a click on a column's
 /// header or in the context menu: up, down, and back to the user's own order.
@@ -45,15 +47,13 @@ Q_SIGNALS:
 
 private:
     void SetWidths();
-    void AddOrder(QMenu& menu, const QString& text, int column);
+    void AddOrder(QMenu& menu, const QString& text, std::optional<SchemesModel::Column> column);
     void OpenMenu();
-    void SortBy(int column);
-    void SortBy(int column, Qt::SortOrder order);
+    void SortBy(std::optional<SchemesModel::Column> column);
+    void SortBy(std::optional<SchemesModel::Column> column, Qt::SortOrder order);
 
     SchemesModel& m_model;
     QActionGroup* m_orders; // owned by the table
-    int m_sorted = -1; // the column; -1 for the user's order
-    Qt::SortOrder m_order = Qt::AscendingOrder;
 };
 
 } // namespace Orvane

@@ -2,14 +2,13 @@
 #include "hostkit/schemes/LayerSchemes.h"
 
 #include "hostkit/common/HostErrors.h"
+#include "hostkit/common/NaturalOrder.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
-
-#include <QCollator>
 
 #include <algorithm>
 
@@ -24,13 +23,11 @@ namespace {
 
 void PutInUsersOrder(std::vector<SchemeDetails>& schemes)
 {
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
+    const QCollator order = NaturalOrder();
     std::stable_sort(schemes.begin(), schemes.end(), [&](const SchemeDetails& a, const SchemeDetails& b) {
         if (a.place.has_value() != b.place.has_value())
             return a.place.has_value();
-        return a.place == b.place ? collator(a.name, b.name) : a.place < b.place;
+        return a.place == b.place ? order(a.name, b.name) : a.place < b.place;
     });
 }
 

@@ -115,6 +115,12 @@ bool SchemeTables::HaveSchemes()
     return HasRow();
 }
 
+void SchemeTables::RefreshVersion()
+{
+    if (m_database.HasTable(Schemes) && AreCurrent())
+        StoreVersion();
+}
+
 bool SchemeTables::AreCurrent()
 {
     const qint32 version = HostTables::VersionOf(m_database, Schemes);
@@ -135,10 +141,11 @@ bool SchemeTables::IsTooNew()
 
 void SchemeTables::StoreVersion()
 {
-    const auto partial = m_database.OpenQuery(
-        QStringLiteral("SELECT SchemeID FROM LayerSchemes WHERE Holds <> ?1 LIMIT 1"),
-        {NumberOf(WholeScheme)});
-    const qint32 version = partial->AtEOF() ? Version : PartialVersion;
+    const std::vector<SchemeDetails> schemes = All();
+    const bool isPartial = std::any_of(schemes.begin(), schemes.end(), [](const SchemeDetails& scheme) {
+        return scheme.holds != WholeScheme;
+    });
+    const qint32 version = isPartial ? PartialVersion : Version;
     if (HostTables::VersionOf(m_database, Schemes) != version)
         HostTables::SetVersion(m_database, Schemes, version);
 }

@@ -41,6 +41,10 @@ public:
     /// cannot be written, these count as missing. Raises HostError::TablesTooNew for newer ones.
     bool HaveSchemes();
 
+    /// Stores the version that the schemes need now, after something else has changed their rows. Does
+    /// nothing if the tables are missing, older or newer.
+    void RefreshVersion();
+
     /// The members below need the tables.
 
     /// All names, in the order of creation.

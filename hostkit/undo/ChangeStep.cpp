@@ -2,10 +2,12 @@
 #include "hostkit/undo/ChangeStep.h"
 
 #include "hostkit/common/HostErrors.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "hostkit/windows/LongWork.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QCoreApplication>
 
@@ -48,7 +50,13 @@ void ChangeStep::Redo()
 std::optional<Changeset> ChangeStep::Applied(const Changeset& changes, const QString& what)
 {
     const LongWork work(m_surroundings.database, what, m_surroundings.window());
-    return m_surroundings.database.Apply(changes);
+    Transaction transaction(m_surroundings.database);
+    std::optional<Changeset> changed = m_surroundings.database.Apply(changes);
+    if (changed) {
+        SchemeTables(m_surroundings.database).RefreshVersion(); // other steps changed schemes too
+        transaction.Commit();
+    }
+    return changed;
 }
 
 // Each run stores what it actually changed, so that the next run undoes exactly that.

@@ -16,6 +16,12 @@ bool Contains(const std::vector<std::string_view>& columns, std::string_view col
     return std::find(columns.begin(), columns.end(), column) != columns.end();
 }
 
+bool AreAll(const std::vector<std::string_view>& columns, const std::vector<std::string_view>& expected)
+{
+    return std::all_of(
+        columns.begin(), columns.end(), [&](std::string_view column) { return Contains(expected, column); });
+}
+
 /// Sorts rows into the sets.
 class Sorter
 {
@@ -29,7 +35,7 @@ public:
         else if (row.table == "LayerGroupMembers")
             m_changes.groups = true;
         else if (row.table == "LayerSchemes")
-            m_changes.schemes = true;
+            TakeScheme(row);
         else if (row.table == "LayerSchemeValues")
             m_layersInSchemes.insert(qint32(row.key));
     }
@@ -40,6 +46,7 @@ public:
         m_layersInSchemes -= m_changes.created;
         m_layersInSchemes -= m_changes.deleted;
         m_changes.schemes |= !m_layersInSchemes.isEmpty();
+        m_changes.schemeValues |= !m_layersInSchemes.isEmpty();
         return std::move(m_changes);
     }
 
@@ -60,6 +67,13 @@ private:
             m_changes.renamedGroups.insert(groupID);
         m_changes.groups |= row.kind != ChangeKind::Updated || Contains(row.columns, "GroupOrdering")
             || Contains(row.columns, "Pseudo");
+    }
+
+    void TakeScheme(const RowChange& row)
+    {
+        m_changes.schemes = true;
+        m_changes.schemeValues
+            |= row.kind != ChangeKind::Updated || !AreAll(row.columns, {"Name", "Place", "AtOpening"});
     }
 
     void TakeColumns(const std::vector<std::string_view>& columns, qint32 layerID)

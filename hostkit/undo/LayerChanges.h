@@ -17,6 +17,7 @@ struct LayerChanges {
     bool groups = false; ///< groups or their layers have changed, apart from names and Expanded
     bool onlyCodes = true; ///< true when only the code of the changed layers has changed
     bool schemes = false; ///< the schemes, the current one, or saved values of layers that stay have changed
+    bool schemeValues = false; ///< true unless schemes have changed only in name, order and opening
 
     static LayerChanges Of(const Changeset& changes);
 };

@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/common/HostNotifications.h"
+#include "hostkit/common/HostTables.h"
 #include "hostkit/common/LayerNames.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/undo/LayerChanges.h"
@@ -99,7 +100,7 @@ void LayerSteps::Keep(const std::function<QString(const Changeset&)>& text, Chan
     if (!recorder)
         return;
     try {
-        Changeset changes = recorder->Changes();
+        Changeset changes = recorder->Changes().Without(HostTables::TableName);
         if (changes.IsEmpty())
             return;
         const QString named = text(changes);
@@ -156,8 +157,11 @@ void LayerSteps::Emit(const Changeset& changed)
         emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
     if (changes.groups)
         emit m_notifications.GroupsChanged();
-    if (changes.schemes)
-        emit m_notifications.SchemesChanged(LayerSchemes(m_database).Current());
+    if (changes.schemes) {
+        using Values = HostNotifications::SchemeValues;
+        emit m_notifications.SchemesChanged(
+            LayerSchemes(m_database).Current(), changes.schemeValues ? Values::Changed : Values::Kept);
+    }
 }
 
 } // namespace Orvane

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/undo/SchemeSteps.h"
 
-#include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/windows/LongWork.h"
 #include "messages/NameInText.h"
@@ -14,6 +13,8 @@
 #include <utility>
 
 namespace Orvane {
+
+using SchemeValues = HostNotifications::SchemeValues;
 
 SchemeSteps::SchemeSteps(ILayerStore& database, LayerSteps& steps, HostNotifications& notifications)
     : m_database(database), m_steps(steps), m_notifications(notifications), m_schemes(database)
@@ -32,7 +33,11 @@ void SchemeSteps::ListenToChanges()
     QObject::connect(&m_notifications, &HostNotifications::LayerCreated, &m_context, note);
     QObject::connect(&m_notifications, &HostNotifications::LayerDeleted, &m_context, note);
     QObject::connect(
-        &m_notifications, &HostNotifications::SchemesChanged, &m_context, [this] { m_differences.Forget(); });
+        &m_notifications, &HostNotifications::SchemesChanged, &m_context,
+        [this](const QString&, SchemeValues values) {
+            if (values == SchemeValues::Changed)
+                m_differences.Forget();
+        });
 }
 
 void SchemeSteps::Load(const QString& name)
@@ -90,7 +95,7 @@ void SchemeSteps::DeleteSeveral(const QStringList& names)
 void SchemeSteps::Rename(const QString& name, const QString& newName)
 {
     Run(tr("Rename Scheme \"%1\"").arg(NameInStep(newName)), [&] { m_schemes.Rename(name, newName); });
-    Tell();
+    Tell(SchemeValues::Kept);
 }
 
 void SchemeSteps::Duplicate(const QString& name, const QString& newName)
@@ -116,7 +121,7 @@ void SchemeSteps::SetOrder(const QStringList& names)
 {
     Run(names.isEmpty() ? tr("Sort Schemes by Name") : tr("Reorder Schemes"),
         [&] { m_schemes.SetOrder(names); });
-    Tell();
+    Tell(SchemeValues::Kept);
 }
 
 void SchemeSteps::SetAtOpening(const QString& name)
@@ -124,7 +129,7 @@ void SchemeSteps::SetAtOpening(const QString& name)
     const QString text = name.isEmpty() ? tr("Apply No Scheme at Opening")
                                         : tr("Apply Scheme \"%1\" at Opening").arg(NameInStep(name));
     Run(text, [&] { m_schemes.SetAtOpening(name); });
-    Tell();
+    Tell(SchemeValues::Kept);
 }
 
 std::optional<QString> SchemeSteps::MissingAtOpening()
@@ -195,9 +200,9 @@ void SchemeSteps::Leave(const QString& name)
         &m_context, [this] { m_justLeft.clear(); }, Qt::QueuedConnection);
 }
 
-void SchemeSteps::Tell()
+void SchemeSteps::Tell(SchemeValues values)
 {
-    emit m_notifications.SchemesChanged(m_schemes.Current());
+    emit m_notifications.SchemesChanged(m_schemes.Current(), values);
 }
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeDifferences.h"
 #include "hostkit/schemes/SchemeExchange.h"
@@ -15,7 +16,6 @@
 
 namespace Orvane {
 
-class HostNotifications;
 class ILayerStore;
 
 /// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
@@ -57,8 +57,8 @@ public:
     void SetOrder(const QStringList& names);
     /// As LayerSchemes::SetAtOpening; empty for none.
     void SetAtOpening(const QString& name);
-    /// The scheme that is to be loaded now that the map was opened; nothing if there is none, if the map is
-    /// as that scheme says already, or if the map cannot be changed.
+    /// The scheme that is to be loaded now that the map was opened; nothing if there is none, if it is
+    /// current and the layers are as it says, or if the map cannot be changed.
     std::optional<QString> MissingAtOpening();
     /// How many layers differ from that scheme, or are not in it; compares all.
     qsizetype CountThatDiffer(const QString& name) { return m_schemes.CountThatDiffer(name); }
@@ -82,7 +82,7 @@ private:
     Run(const QString& text, const std::function<void()>& act,
         ChangeStep::Joins joins = ChangeStep::Joins::No);
     void Leave(const QString& name);
-    void Tell();
+    void Tell(HostNotifications::SchemeValues values = HostNotifications::SchemeValues::Changed);
 
     ILayerStore& m_database;
     LayerSteps& m_steps;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/windows/ConflictBox.h"
 
+#include "hostkit/windows/OwnedDialog.h"
 #include "messages/NameInText.h"
 
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -45,7 +45,7 @@ QString LinesOf(const std::vector<ConflictingEdit>& edits)
 ConflictChoice
 AskInConflictBox(QWidget* owner, const QString& node, const std::vector<ConflictingEdit>& edits)
 {
-    const QPointer<QMessageBox> box(new QMessageBox(owner));
+    const OwnedDialog<QMessageBox> box(owner);
     box->setObjectName(QStringLiteral("dlgConflict"));
     box->setIcon(QMessageBox::Warning);
     box->setWindowTitle(ConflictTexts::tr("Changed Elsewhere"));
@@ -60,10 +60,9 @@ AskInConflictBox(QWidget* owner, const QString& node, const std::vector<Conflict
     box->setEscapeButton(box->addButton(QMessageBox::Cancel));
     box->setDefaultButton(keep);
     box->exec();
-    if (!box)
+    if (!box.Exists())
         return ConflictChoice::Cancel;
     const QAbstractButton* clicked = box->clickedButton();
-    box->deleteLater();
     if (clicked == overwrite)
         return ConflictChoice::Overwrite;
     return clicked == keep ? ConflictChoice::KeepStored : ConflictChoice::Cancel;

@@ -59,11 +59,6 @@ QString SourceText(const QgsMapLayer& layer)
     return name.isEmpty() ? file : QStringLiteral("%1 (%2)").arg(file, name);
 }
 
-LayerDeletion WhatGoes(LayerFactory& rows, const std::vector<qint32>& layerIDs)
-{
-    return layerIDs.size() == 1 ? rows.WhatGoes(layerIDs.front()) : rows.WhatGoes(layerIDs);
-}
-
 /// While it exists, the client is busy.
 using Running = QScopedValueRollback<int>;
 
@@ -269,7 +264,7 @@ void QgisClient::RemoveAfterQuestion(const QList<QgsMapLayer*>& layers)
         removed << layer;
         layerIDs.push_back(layerID);
     }
-    if (!removed.isEmpty() && ConfirmDeletion(WhatGoes(rows, layerIDs)))
+    if (!removed.isEmpty() && ConfirmDeletion(rows.WhatGoes(layerIDs)))
         m_project.removeMapLayers(removed);
 }
 

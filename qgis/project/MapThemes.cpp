@@ -87,15 +87,14 @@ void InsertValues(ILayerStore& store, qint32 schemeID, const LayerValues& row)
         values);
 }
 
-// The layer's row, with what the scheme has saved of it.
-LayerValues SavedRow(ILayerStore& store, qint32 schemeID, LayerValues row)
+// The layer's row, with what the scheme has saved of it. scheme: as the tables have it.
+LayerValues SavedRow(ILayerStore& store, const SchemeDetails& scheme, LayerValues row)
 {
     const auto saved = store.OpenQuery(
         QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1 AND LayerID = ?2"),
-        {schemeID, ValueOf(row, "LayerID")});
-    const SchemeParts holds = SchemeTables(store).HoldsOf(schemeID);
+        {scheme.id, ValueOf(row, "LayerID")});
     for (const LayerColumn& column : SchemeColumns::All) {
-        if (!saved->AtEOF() && holds.testFlag(PartOf(column)))
+        if (!saved->AtEOF() && scheme.holds.testFlag(PartOf(column)))
             SetValue(row, column.name, saved->Field(column.name));
     }
     return row;
@@ -137,15 +136,15 @@ void MapThemes::ImportOne(const QString& theme)
     else
         tables.DropValues(schemeID);
     tables.SetHead(schemeID, {theme, WholeScheme, QDateTime::currentDateTimeUtc()});
+    const auto layerRecords = record.validLayerRecords();
     for (QgsMapLayer* layer : m_project.mapLayers())
-        InsertValues(m_store, schemeID, ThemeValues(*layer, record));
+        InsertValues(m_store, schemeID, ThemeValues(*layer, layerRecords.value(layer)));
 }
 
-LayerValues MapThemes::ThemeValues(QgsMapLayer& layer, const Themes::MapThemeRecord& theme)
+LayerValues MapThemes::ThemeValues(QgsMapLayer& layer, const Themes::MapThemeLayerRecord& record)
 {
     LayerValues row = StoredRows::Read(m_store, m_mirror.IDOf(layer)).value_or(UnknownLayerValues());
     SetValue(row, "LayerID", m_mirror.IDOf(layer));
-    const Themes::MapThemeLayerRecord record = theme.validLayerRecords().value(&layer);
     const bool isVisible = record.layer() && record.isVisible;
     SetValue(row, "Visible", isVisible);
     if (isVisible && ModeOf(row) == HiddenMode)
@@ -160,12 +159,12 @@ LayerValues MapThemes::ThemeValues(QgsMapLayer& layer, const Themes::MapThemeRec
 
 std::unique_ptr<IUndoStep> MapThemes::Export(const QString& scheme)
 {
-    const qint32 schemeID = LayerSchemes(m_store).IDOf(scheme);
+    const SchemeDetails saved = SchemeTables(m_store).DetailsOf(LayerSchemes(m_store).IDOf(scheme));
     auto step = std::make_unique<ThemeStep>(m_project, scheme);
     Themes::MapThemeRecord theme = EmptyTheme(m_project);
     for (QgsMapLayer* layer : m_project.mapLayers()) {
         if (const auto row = StoredRows::Read(m_store, m_mirror.IDOf(*layer)))
-            theme.addLayerRecord(RecordOf(*layer, SavedRow(m_store, schemeID, *row), *row, *step));
+            theme.addLayerRecord(RecordOf(*layer, SavedRow(m_store, saved, *row), *row, *step));
     }
     step->SetTheme(theme);
     step->Redo();

@@ -47,7 +47,7 @@ private:
     using Themes = QgsMapThemeCollection;
 
     void ImportOne(const QString& theme);
-    LayerValues ThemeValues(QgsMapLayer& layer, const Themes::MapThemeRecord& theme);
+    LayerValues ThemeValues(QgsMapLayer& layer, const Themes::MapThemeLayerRecord& record);
     Themes::MapThemeLayerRecord
     RecordOf(QgsMapLayer& layer, const LayerValues& wanted, const LayerValues& present, ThemeStep& step);
     QString

@@ -17,13 +17,25 @@ QString TranslateValueText(const char* text)
     return QCoreApplication::translate("MapCheck", text);
 }
 
+// A number of other classes is read as the known ones among them, or as a whole scheme: it is named and
+// stays.
+ValueRule RuleOfHolds(const QString& schemes, const QString& rowName)
+{
+    ValueRule rule = WholeRule(schemes, QStringLiteral("Holds"), rowName);
+    rule.lowest = 1;
+    rule.highest = rule.standard = NumberOf(WholeScheme);
+    return rule;
+}
+
 std::vector<ValueRule> AllRules()
 {
     std::vector<ValueRule> rules = LayerValueRules();
     const QString schemes = QStringLiteral("LayerSchemes");
     const QString name = QStringLiteral("Name");
     rules.push_back(WholeRule(schemes, QStringLiteral("SchemeID"), name, true));
-    rules.push_back(WholeRule(schemes, QStringLiteral("IsCurrent"), name));
+    for (const char* column : {"IsCurrent", "Place", "AtOpening"})
+        rules.push_back(WholeRule(schemes, QLatin1String(column), name));
+    rules.push_back(RuleOfHolds(schemes, name));
     const QString layerName = QStringLiteral("coalesce((SELECT nullif(Name, '') FROM Layers"
                                              " WHERE Layers.LayerID = LayerSchemeValues.LayerID), LayerID)");
     for (const LayerColumn& column : SchemeColumns::All)

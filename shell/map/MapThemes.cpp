@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/MapThemes.h"
 
+#include "hostkit/common/NaturalOrder.h"
 #include "store/ILayerStore.h"
 #include "store/StoreTable.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
-
-#include <QCollator>
 
 #include <algorithm>
 
@@ -20,12 +19,9 @@ constexpr auto VisibleLayers = "SELECT LayerID FROM Layers WHERE Visible IS TRUE
 
 void SortForUser(std::vector<MapThemes::Theme>& themes)
 {
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
-    std::stable_sort(themes.begin(), themes.end(), [&](const auto& one, const auto& other) {
-        return collator.compare(one.name, other.name) < 0;
-    });
+    std::stable_sort(
+        themes.begin(), themes.end(),
+        [order = NaturalOrder()](const auto& one, const auto& other) { return order(one.name, other.name); });
 }
 
 } // namespace

@@ -30,6 +30,16 @@ protected:
 
     QDockWidget& Dock() { return *m_window->findChild<QDockWidget*>("EditorDock.Main"); }
     QAction& Switch() { return *Dock().toggleViewAction(); }
+    /// Returns its new width.
+    int WidenDock()
+    {
+        QCoreApplication::processEvents();
+        const int width = Dock().width() + 57;
+        m_window->resizeDocks({&Dock()}, {width}, Qt::Horizontal);
+        QCoreApplication::processEvents();
+        return width;
+    }
+
     QWidget* DockedForm()
     {
         return Dock().isVisible() ? Dock().findChild<QWidget*>("frmLayerStyles") : nullptr;
@@ -203,10 +213,7 @@ TEST_F(Docked, TheNextRunHasItWhereItWas)
 TEST_F(Docked, TheNextRunHasItInTheSameSize)
 {
     OpenLayerControl();
-    QCoreApplication::processEvents();
-    const int width = Dock().width() + 57;
-    m_window->resizeDocks({&Dock()}, {width}, Qt::Horizontal);
-    QCoreApplication::processEvents();
+    const int width = WidenDock();
     ASSERT_EQ(Dock().width(), width);
     StartAgain();
     EXPECT_EQ(Dock().width(), width);
@@ -215,10 +222,7 @@ TEST_F(Docked, TheNextRunHasItInTheSameSize)
 TEST_F(Docked, ItHasTheSameSizeWhenItIsOpenedAgain)
 {
     OpenLayerControl();
-    QCoreApplication::processEvents();
-    const int width = Dock().width() + 57;
-    m_window->resizeDocks({&Dock()}, {width}, Qt::Horizontal);
-    QCoreApplication::processEvents();
+    const int width = WidenDock();
     Dock().close();
     QCoreApplication::processEvents();
     OpenLayerControl();
@@ -234,10 +238,7 @@ TEST_F(Docked, ItHasTheSameSizeWhenItIsOpenedAgain)
 TEST_F(Docked, ItHasTheSameSizeWhenItWasClosedForAMoment)
 {
     OpenLayerControl();
-    QCoreApplication::processEvents();
-    const int width = Dock().width() + 57;
-    m_window->resizeDocks({&Dock()}, {width}, Qt::Horizontal);
-    QCoreApplication::processEvents();
+    const int width = WidenDock();
     m_window->OpenMap(MapPath());
     OpenLayerControl();
     EXPECT_TRUE(QTest::qWaitFor([&] { return Dock().width() == width; })) << Dock().width();

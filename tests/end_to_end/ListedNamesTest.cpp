@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "end_to_end/ShownEditor.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
@@ -7,6 +6,7 @@
 #include "shell/MainWindow.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
+#include "support/ShownEditor.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 

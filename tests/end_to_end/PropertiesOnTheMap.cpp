@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/PropertiesOnTheMap.h"
 
-#include "end_to_end/ShownEditor.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
+#include "support/ShownEditor.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "end_to_end/ShownEditor.h"
 #include "examples/sample_maps/SampleMap.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
@@ -10,6 +9,7 @@
 #include "shell/map/MapSession.h"
 #include "store/ILayerStore.h"
 #include "support/MessageBoxRobot.h"
+#include "support/ShownEditor.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 #include <OrvaneShellLib/ValueConversions.h>

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "end_to_end/ShownEditor.h"
 #include "examples/sample_maps/SampleMap.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
@@ -9,6 +8,7 @@
 #include "shell/MainWindow.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
+#include "support/ShownEditor.h"
 
 #include <OrvaneShellLib/IStyleEditorLibrary.h>
 #include <OrvaneShellLib/ValueConversions.h>

@@ -55,6 +55,14 @@ protected:
         m_log.AddColumn(2, Coded(before), Coded(after));
         m_log.FinishRow();
     }
+    /// Into a second table, with nothing but a number.
+    void InsertRiver(qint64 number)
+    {
+        const int table = m_log.AddTable({"Rivers", {"Number"}, {0}});
+        m_log.BeginRow(table, ChangeKind::Inserted, Coded(number));
+        m_log.AddColumn(0, Coded(number), Coded(number));
+        m_log.FinishRow();
+    }
     Changeset Taken()
     {
         const Changeset changes = m_log.ChangesSince(m_start);
@@ -203,6 +211,17 @@ TEST_F(ChangesetTest, TwoOfDifferentTablesAreOne)
     other.FinishRow();
     Rename(3, "Bonn", "Bern");
     EXPECT_THAT(Told(Taken().Then(other.ChangesSince(0))), ElementsAre("3 Name Bonn>Bern", "+3 Number ->3"));
+}
+
+TEST_F(ChangesetTest, WithoutATableKeepsTheRowsOfTheOthers)
+{
+    Rename(1, "Ulm", "Bonn");
+    InsertRiver(2);
+    const Changeset changes = Taken();
+    EXPECT_EQ(Told(changes).size(), 2u);
+    EXPECT_THAT(Told(changes.Without("Rivers")), ElementsAre("1 Name Ulm>Bonn"));
+    EXPECT_EQ(Told(changes.Without("Lakes")).size(), 2u);
+    EXPECT_TRUE(changes.Without("Rivers").Without("Cities").IsEmpty());
 }
 
 TEST_F(ChangesetTest, LargeChangesAreKeptSmall)

@@ -2,6 +2,7 @@
 #include "component/dialog/panel/ScaleRangeEditor.h"
 
 #include "component/common/Messages.h"
+#include "component/controls/VisibleScalesTranslator.h"
 #include "component/dialog/panel/PressOpener.h"
 #include "component/model/LayerStyle.h"
 
@@ -70,7 +71,7 @@ void ScaleRangeEditor::EditMinimum()
          .value = m_minimum.Read(),
          .defaultValue = 0,
          .minimum = 0,
-         .maximum = 255,
+         .maximum = VisibleScalesTranslator::LastScale,
          .allowVarious = m_minimumDiffers});
     if (!chosen)
         return;
@@ -88,9 +89,9 @@ void ScaleRangeEditor::EditMaximum()
          .translator = &m_maximum.Translator(),
          .caption = TranslateMsg("Set Maximum Visible Scale"),
          .value = m_maximum.Read(),
-         .defaultValue = 256,
+         .defaultValue = VisibleScalesTranslator::NoMaximum,
          .minimum = 1,
-         .maximum = 256,
+         .maximum = VisibleScalesTranslator::NoMaximum,
          .allowVarious = m_maximumDiffers});
     if (!chosen)
         return;

@@ -2,6 +2,7 @@
 #include "component/dialog/pasting/CopiedSettings.h"
 
 #include "component/dialog/pasting/Setting.h"
+#include "component/model/QuickModeNames.h"
 #include "samples/BgrColour.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
@@ -47,12 +48,6 @@ constexpr NumberRange FillStyles{0, LastFillStyle};
 constexpr NumberRange DrawPriorities{0, 32767};
 constexpr NumberRange AnyNumber{std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()};
 constexpr double LargestDenominator = 1e12;
-
-const std::array<std::pair<qint16, QString>, 3> CopiedModeNames{{
-    {QuickMode::Normal, QStringLiteral("normal")},
-    {QuickMode::Backdrop, QStringLiteral("backdrop")},
-    {QuickMode::Hidden, QStringLiteral("hidden")},
-}};
 
 constexpr std::array ColourSettings{Setting::LineColour, Setting::FillColour, Setting::Background};
 
@@ -115,10 +110,9 @@ void PutNumbers(QJsonObject& settings, const LayerStyle& style)
 
 void PutOthers(QJsonObject& settings, const CopiedSettings& copied)
 {
-    for (const auto& [mode, name] : CopiedModeNames) {
-        if (mode == copied.quickMode)
-            Put(settings, Setting::Mode, name);
-    }
+    const QString mode = QuickModeNames::NameOf(copied.quickMode);
+    if (!mode.isEmpty())
+        Put(settings, Setting::Mode, mode);
     if (const auto& scales = copied.scales) {
         Put(settings, Setting::VisibleScales,
             QJsonObject{{MinimumKey, scales->minimum}, {MaximumKey, scales->maximum}});
@@ -208,15 +202,6 @@ std::optional<RendererStyle> RendererStyleFrom(const QJsonObject& json)
     return RendererStyle{*number.Get<qint32>(), name.toString()};
 }
 
-qint16 ModeFrom(const QJsonValue& json)
-{
-    const QString wanted = json.toString();
-    const auto found = std::find_if(CopiedModeNames.begin(), CopiedModeNames.end(), [&](const auto& known) {
-        return known.second == wanted;
-    });
-    return found == CopiedModeNames.end() ? QuickMode::Various : found->first;
-}
-
 bool IsReadable(const QJsonObject& whole)
 {
     const Value version = NumberFrom(whole.value(VersionKey), {1, NewestVersion});
@@ -256,7 +241,7 @@ std::optional<CopiedSettings> CopiedSettings::FromBytes(const QByteArray& bytes)
     TakeFlags(settings, read.style);
     TakeColours(settings, read.style);
     TakeNumbers(settings, read.style);
-    read.quickMode = ModeFrom(settings.value(KeyOf(Setting::Mode)));
+    read.quickMode = QuickModeNames::ModeOf(settings.value(KeyOf(Setting::Mode)).toString());
     read.scales = ScalesFrom(settings.value(KeyOf(Setting::VisibleScales)).toObject());
     read.rendererStyle = RendererStyleFrom(settings.value(KeyOf(Setting::RendererStyle)).toObject());
     return read;

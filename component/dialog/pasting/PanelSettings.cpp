@@ -2,6 +2,7 @@
 #include "component/dialog/pasting/PanelSettings.h"
 
 #include "component/common/Component.h"
+#include "component/controls/VisibleScalesTranslator.h"
 
 #include <OrvaneShellLib/IShellServices.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -13,10 +14,8 @@ namespace Orvane {
 
 namespace {
 
-constexpr qint32 NoLimit = 0;
-constexpr qint32 NoLimitAbove = 256;
-constexpr qint32 FirstScale = 1;
-constexpr qint32 LastScale = 255;
+using Scales = VisibleScalesTranslator;
+
 constexpr qint32 StandardStyle = 0;
 
 bool IsKnownMode(qint16 quickMode)
@@ -28,16 +27,14 @@ bool IsKnownMode(qint16 quickMode)
 std::optional<double> DenominatorOf(const Value& scaleIndex)
 {
     const std::optional<qint32> index = Int32In(scaleIndex);
-    if (!index || *index < NoLimit || *index > NoLimitAbove)
+    if (!index || *index < Scales::NoMinimum || *index > Scales::NoMaximum)
         return std::nullopt;
-    const bool isLimit = *index >= FirstScale && *index <= LastScale;
-    return isLimit ? ShellServices().ScaleFromIndex(*index) : 0;
+    return Scales::IsLimit(*index) ? ShellServices().ScaleFromIndex(*index) : 0;
 }
 
 qint32 IndexOf(double denominator)
 {
-    return denominator == 0 ? NoLimit
-                            : std::clamp(ShellServices().IndexFromScale(denominator), FirstScale, LastScale);
+    return denominator == 0 ? Scales::NoMinimum : Scales().PositionOf(denominator);
 }
 
 std::optional<RendererStyle> StyleWithNumber(const std::vector<RendererStyle>& styles, const Value& value)
@@ -66,7 +63,7 @@ void SetScales(LayerStyle& style, const CopiedSettings::Scales& scales)
 {
     const qint32 minimum = IndexOf(scales.minimum);
     const qint32 maximum = IndexOf(scales.maximum);
-    if (maximum != NoLimit && minimum > maximum)
+    if (maximum != Scales::NoMinimum && minimum > maximum)
         return;
     style.lsSet(Slot::MinVisScale, minimum);
     style.lsSet(Slot::MaxVisScale, maximum);

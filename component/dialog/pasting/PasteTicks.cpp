@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace Orvane {
 
 namespace {
@@ -14,11 +16,24 @@ QString TickKey(Setting setting)
     return QLatin1String(EntryOf(setting).key);
 }
 
+QSet<QString>& Unticked()
+{
+    std::optional<QSet<QString>>& kept = Component::Get().SettingsNotToPaste();
+    if (kept)
+        return *kept;
+    kept.emplace();
+    for (const SettingEntry& entry : AllSettings) {
+        if (!entry.isTickedAtFirst)
+            kept->insert(TickKey(entry.setting));
+    }
+    return *kept;
+}
+
 } // namespace
 
 SettingSet PasteTicks::TickedOf(const SettingSet& offered)
 {
-    const QSet<QString>& unticked = Component::Get().SettingsNotToPaste();
+    const QSet<QString>& unticked = Unticked();
     SettingSet ticked;
     for (const Setting setting : offered) {
         if (!unticked.contains(TickKey(setting)))
@@ -29,7 +44,7 @@ SettingSet PasteTicks::TickedOf(const SettingSet& offered)
 
 void PasteTicks::Remember(const SettingSet& offered, const SettingSet& ticked)
 {
-    QSet<QString>& unticked = Component::Get().SettingsNotToPaste();
+    QSet<QString>& unticked = Unticked();
     for (const Setting setting : offered) {
         if (ticked.count(setting) > 0)
             unticked.remove(TickKey(setting));

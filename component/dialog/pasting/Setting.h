@@ -40,11 +40,12 @@ struct SettingEntry {
     const char* key; ///< its name in copied settings, and where they are remembered
     SettingGroup group = SettingGroup::None;
     std::array<qint16, 2> slotNumbers{-1, -1}; ///< of LayerStyle; -1: none, as for the quick mode
+    bool isTickedAtFirst = true; ///< until the user has chosen what to paste
 };
 
 /// All settings, in the order of the panel.
 inline constexpr std::array AllSettings{
-    SettingEntry{Setting::Mode, "mode"},
+    SettingEntry{Setting::Mode, "mode", SettingGroup::None, {-1, -1}, false},
     SettingEntry{Setting::Visible, "visible", SettingGroup::Flags, {Slot::Visible, -1}},
     SettingEntry{Setting::Locked, "locked", SettingGroup::Flags, {Slot::Locked, -1}},
     SettingEntry{Setting::SnapRequired, "snapRequired", SettingGroup::Flags, {Slot::SnapRequired, -1}},
@@ -64,7 +65,7 @@ inline constexpr std::array AllSettings{
     SettingEntry{Setting::FillStyle, "fillStyle", SettingGroup::LineAndFill, {Slot::FillStyle, -1}},
     SettingEntry{
         Setting::VisibleScales, "visibleScales", SettingGroup::None, {Slot::MinVisScale, Slot::MaxVisScale}},
-    SettingEntry{Setting::DrawPriority, "drawPriority", SettingGroup::None, {Slot::DrawPriority, -1}},
+    SettingEntry{Setting::DrawPriority, "drawPriority", SettingGroup::None, {Slot::DrawPriority, -1}, false},
 };
 
 /// The entry of a setting.

@@ -20,11 +20,20 @@ QString TextOfSlot(const PropertyPanel& panel, const PanelSettings& settings, qi
     return PropertyText(panel.ControlOf(slot).value(), settings.style.lsGet(slot));
 }
 
+QString RangeText(const QString& minimum, const QString& maximum)
+{
+    return minimum == maximum ? minimum : TranslateMsg("^1 to ^2", minimum, maximum);
+}
+
 QString ScalesText(const PropertyPanel& panel, const PanelSettings& settings)
 {
-    const QString minimum = TextOfSlot(panel, settings, Slot::MinVisScale);
-    const QString maximum = TextOfSlot(panel, settings, Slot::MaxVisScale);
-    return minimum == maximum ? minimum : TranslateMsg("^1 to ^2", minimum, maximum);
+    return RangeText(
+        TextOfSlot(panel, settings, Slot::MinVisScale), TextOfSlot(panel, settings, Slot::MaxVisScale));
+}
+
+QString ScaleText(double denominator)
+{
+    return denominator == 0 ? TranslateMsg("dont care") : TranslateMsg("1:^1", denominator);
 }
 
 QString LineText(const LayerStyle& style)
@@ -61,6 +70,11 @@ QString SettingText(const PropertyPanel& panel, const PanelSettings& settings, S
     default:
         return TextOfSlot(panel, settings, EntryOf(setting).slotNumbers[0]);
     }
+}
+
+QString CopiedScalesText(const CopiedSettings::Scales& scales)
+{
+    return RangeText(ScaleText(scales.minimum), ScaleText(scales.maximum));
 }
 
 QString SettingsAsText(const PropertyPanel& panel, const PanelSettings& settings, const QString& title)

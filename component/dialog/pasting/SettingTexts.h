@@ -16,6 +16,9 @@ QString SettingName(const PropertyPanel& panel, Setting setting);
 /// scales raises.
 QString SettingText(const PropertyPanel& panel, const PanelSettings& settings, Setting setting);
 
+/// Scales that were copied, as the user reads them, whichever scales the host has.
+QString CopiedScalesText(const CopiedSettings::Scales& scales);
+
 /// All known settings, each in a line with its value, below the title.
 QString SettingsAsText(const PropertyPanel& panel, const PanelSettings& settings, const QString& title);
 

@@ -3,6 +3,7 @@
 
 #include "component/common/Component.h"
 #include "component/common/EventGuard.h"
+#include "component/common/FirstError.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
 #include "component/dialog/pasting/PasteTicks.h"
@@ -14,6 +15,7 @@
 #include "component/dialog/trees/ColumnErrorTexts.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/trees/NodeMenu.h"
+#include "component/model/LayerCursors.h"
 #include "component/model/LayerStyleApplying.h"
 #include "messages/NameInText.h"
 #include "ovctrls/BusyPointer.h"
@@ -28,7 +30,6 @@
 #include <QTreeView>
 
 #include <algorithm>
-#include <exception>
 #include <functional>
 #include <utility>
 
@@ -60,6 +61,29 @@ QString WhyNotHere(Setting setting)
     return isPossible ? QString() : TranslateMsg("This map has no display modes.");
 }
 
+// Why a setting that was copied is not known here, with its value; nothing for one that was not copied.
+std::optional<frmPasteSettings::Row>
+UnknownRow(const PropertyPanel& panel, const CopiedSettings& copied, Setting setting)
+{
+    if (setting == Setting::RendererStyle && copied.rendererStyle) {
+        return frmPasteSettings::Row{
+            setting,
+            SettingName(panel, setting),
+            NameInText(copied.rendererStyle->name),
+            {},
+            TranslateMsg("This map has no style of that name.")};
+    }
+    if (setting == Setting::VisibleScales && copied.scales) {
+        return frmPasteSettings::Row{
+            setting,
+            SettingName(panel, setting),
+            CopiedScalesText(*copied.scales),
+            {},
+            TranslateMsg("With the scales of this map, this range is empty.")};
+    }
+    return std::nullopt;
+}
+
 // Settings that were copied but are not possible here are shown, too, so that nobody looks for them.
 PasteRows RowsFor(const PropertyPanel& panel, const PanelSettings& settings, const CopiedSettings& copied)
 {
@@ -71,13 +95,8 @@ PasteRows RowsFor(const PropertyPanel& panel, const PanelSettings& settings, con
             rows.push_back(
                 {setting, SettingName(panel, setting), SettingText(panel, settings, setting),
                  ColourIn(settings, setting), WhyNotHere(setting)});
-        else if (setting == Setting::RendererStyle && copied.rendererStyle)
-            rows.push_back(
-                {setting,
-                 SettingName(panel, setting),
-                 NameInText(copied.rendererStyle->name),
-                 {},
-                 TranslateMsg("This map has no style of that name.")});
+        else if (auto row = UnknownRow(panel, copied, setting))
+            rows.push_back(std::move(*row));
     }
     return rows;
 }
@@ -164,7 +183,10 @@ QString SettingsPasting::WhyNotCopy() const
     const bool hasAny = shown && std::any_of(AllSettings.begin(), AllSettings.end(), [&](const auto& entry) {
                             return shown->settings.Has(entry.setting);
                         });
-    return hasAny ? QString() : TranslateMsg("These layers have no setting in common.");
+    if (hasAny)
+        return {};
+    const bool hasLayers = !ReadLayerIDs(Client(), m_trees.ChosenNodes()).empty();
+    return hasLayers ? TranslateMsg("These layers have no setting in common.") : NoLayersText();
 }
 
 QString SettingsPasting::WhyNotPaste() const
@@ -204,6 +226,10 @@ void SettingsPasting::Paste()
     if (!copied)
         return;
     const std::vector<qint32> layerIDs = ReadLayerIDs(Client(), m_trees.ChosenNodes());
+    if (layerIDs.empty()) {
+        ShowMessageBox(View(), NoLayersText(), BoxStyle::OkExclamation);
+        return;
+    }
     const PanelSettings settings = FromCopy(*copied, m_dialog.rendererStyles());
     const std::optional<SettingSet> chosen = Ask(layerIDs.size(), RowsFor(m_panel, settings, *copied));
     if (self && chosen)
@@ -236,43 +262,38 @@ QString SettingsPasting::TargetText(size_t layers) const
                   : TranslateMsg("Paste these settings into '^1':", NameInQuestion(m_trees.CurrentText()));
 }
 
+QString SettingsPasting::NoLayersText() const
+{
+    return m_trees.ChosenNodes().IsMany() ? TranslateMsg("These groups have no layers.")
+                                          : TranslateMsg("This group has no layers.");
+}
+
 void SettingsPasting::Store(const std::vector<qint32>& layerIDs, const PanelSettings& settings)
 {
     const BusyPointer busy;
     const ApplyResult result
         = WithColumnTexts([&] { return ApplyLayersStyle(Client(), layerIDs, EditsOf(settings)); });
     if (result.layers > 0)
-        Tell(layerIDs, settings.quickMode);
+        Tell(layerIDs, settings.Has(Setting::Mode));
     else
         ShowMessageBox(
             View(), TranslateMsg("These layers no longer exist. Nothing was pasted."),
             BoxStyle::OkExclamation);
 }
 
-// The map shows what is stored, even if the dialog cannot.
-void SettingsPasting::Tell(const std::vector<qint32>& layerIDs, qint16 quickMode)
+// The host may correct the modes while it redraws the map, and end the dialog.
+void SettingsPasting::Tell(const std::vector<qint32>& layerIDs, bool areModesNew)
 {
-    std::exception_ptr error;
-    try {
-        m_trees.ExpireSamples();
-        if (quickMode != QuickMode::Various)
-            ShowMode(layerIDs, quickMode);
-        emit Pasted();
-    } catch (...) {
-        error = std::current_exception();
-    }
-    Client().RedrawMap();
-    if (error)
-        std::rethrow_exception(error);
-}
-
-void SettingsPasting::ShowMode(const std::vector<qint32>& layerIDs, qint16 quickMode)
-{
-    std::vector<LayerMode> modes;
-    modes.reserve(layerIDs.size());
-    for (const qint32 layerID : layerIDs)
-        modes.push_back({layerID, quickMode});
-    m_trees.SetLayerImages(modes);
+    const QPointer self(this);
+    FirstError errors;
+    errors.Try([] { Client().RedrawMap(); });
+    if (self)
+        errors.Try([&] { m_trees.ExpireSamples(); });
+    if (self && areModesNew)
+        errors.Try([&] { m_trees.SetLayerImages(ReadQuickModesWith(Client(), layerIDs)); });
+    if (self)
+        errors.Try([&] { emit Pasted(); });
+    errors.Rethrow();
 }
 
 } // namespace Orvane

@@ -69,9 +69,9 @@ private:
     void Paste();
     std::optional<SettingSet> Ask(size_t layers, const std::vector<frmPasteSettings::Row>& rows);
     void Store(const std::vector<qint32>& layerIDs, const PanelSettings& settings);
-    void Tell(const std::vector<qint32>& layerIDs, qint16 quickMode);
-    void ShowMode(const std::vector<qint32>& layerIDs, qint16 quickMode);
+    void Tell(const std::vector<qint32>& layerIDs, bool areModesNew);
     QString TargetText(size_t layers) const;
+    QString NoLayersText() const;
     QTreeView* View() const;
 
     LayerTrees& m_trees;

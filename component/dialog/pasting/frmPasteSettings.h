@@ -20,10 +20,12 @@ class frmPasteSettings;
 
 /// The small window that asks which of the copied settings are to be pasted. The host shows and closes it.
 ///
-///     frmPasteSettings window(owner);
-///     window.Show("Paste these settings into 'Roads':", rows, ticked);
-///     if (window.Ask())
-///         Paste(window.Ticked());
+///     const QPointer window = new frmPasteSettings(owner); // the host may end the owner while it asks
+///     window->Show("Paste these settings into 'Roads':", rows, ticked);
+///     if (window->Ask())
+///         Paste(window->Ticked());
+///     if (window)
+///         window->deleteLater();
 class frmPasteSettings : public QDialog
 {
     Q_OBJECT

@@ -27,8 +27,6 @@ namespace {
 constexpr int MostGroups = 5;
 constexpr qsizetype LongestGroup = 60; // characters
 constexpr int LongestSource = 70; // characters of middle width
-constexpr qint32 NoMinimumScale = 0;
-constexpr qint32 NoMaximumScale = 256;
 
 void AppendLine(QString& lines, const QString& line)
 {
@@ -52,19 +50,14 @@ QStringList ReadGroupNames(IStyleEditorClient& client, qint32 layerID)
     return names;
 }
 
-bool IsLimit(const Value& scale)
-{
-    return !scale.IsNull() && !ValuesEqual(scale, NoMinimumScale) && !ValuesEqual(scale, NoMaximumScale);
-}
-
 void AppendScales(QString& lines, const LayerStyle& style)
 {
     const VisibleScalesTranslator scales;
     const Value minimum = style.lsGet(Slot::MinVisScale);
     const Value maximum = style.lsGet(Slot::MaxVisScale);
-    if (IsLimit(minimum))
+    if (VisibleScalesTranslator::IsLimit(minimum))
         AppendLine(lines, TranslateMsg("Minimum scale: ^1", scales.toString(minimum)));
-    if (IsLimit(maximum))
+    if (VisibleScalesTranslator::IsLimit(maximum))
         AppendLine(lines, TranslateMsg("Maximum scale: ^1", scales.toString(maximum)));
 }
 

@@ -44,19 +44,6 @@ QString CannotKeepText()
     return TranslateMsg("This map cannot keep which layers were hidden.");
 }
 
-// Those of the layers, or all of them if they are many.
-std::vector<LayerMode> ReadModesOf(const std::vector<LayerMode>& layers)
-{
-    constexpr size_t mostOneByOne = 100; // for more, one query for all layers is not slower
-    if (layers.size() > mostOneByOne)
-        return ReadAllQuickModes(Client());
-    std::vector<qint32> layerIDs;
-    layerIDs.reserve(layers.size());
-    for (const LayerMode& layer : layers)
-        layerIDs.push_back(layer.layerID);
-    return ReadQuickModes(Client(), layerIDs);
-}
-
 QSet<qint32> LayersOf(const std::vector<LayerMode>& modes)
 {
     QSet<qint32> layerIDs;
@@ -257,11 +244,13 @@ void LayerShowing::Store(const std::function<ModeStore::Change()>& plan)
 // The host may have corrected the modes while it redrew the map.
 void LayerShowing::Tell(const std::vector<LayerMode>& changed)
 {
+    const QSet<qint32> layerIDs = LayersOf(changed);
     FirstError errors;
-    errors.Try([&] { m_trees.SetLayerImages(ReadModesOf(changed)); });
-    errors.Try([&] { m_shown.Read(); }); // all of them were read for the change, too
-    Retranslate();
-    errors.Try([&] { emit ModesChanged(LayersOf(changed)); });
+    errors.Try([&] {
+        m_trees.SetLayerImages(ReadQuickModesWith(Client(), {layerIDs.begin(), layerIDs.end()}));
+    });
+    errors.Try([&] { ReadShown(); }); // all layers were read for the change, and count as they are now
+    errors.Try([&] { emit ModesChanged(layerIDs); });
     errors.Rethrow();
 }
 
@@ -282,7 +271,7 @@ void LayerShowing::ReadShown()
 
 void LayerShowing::FollowShown(const QSet<qint32>& layerIDs)
 {
-    if (!m_shown.HasChanges()) {
+    if (!m_shown.HasChanges() || layerIDs.size() > MostLayersOneByOne) {
         ReadShown();
         return;
     }

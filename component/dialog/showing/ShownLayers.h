@@ -25,7 +25,8 @@ public:
     /// As if nothing had been changed.
     void Forget();
 
-    /// Whether "Show Only These" had changed layers when this was read last.
+    /// Whether the host kept what "Show Only These" had changed when this was read last. Even then Count may
+    /// be nothing: the layers may have their own modes again.
     bool HasChanges() const { return !m_modes.empty(); }
     /// Nothing: all layers are shown in their own modes.
     const std::optional<ShownCount>& Count() const { return m_count; }

@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/showing/ShownOnly.h"
 
+#include "component/model/QuickModeNames.h"
+
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
 #include <tuple>
 #include <utility>
 
 namespace Orvane {
 
 namespace {
-
-const std::array<std::pair<qint16, QString>, 3> ModeNames{{
-    {QuickMode::Normal, QStringLiteral("normal")},
-    {QuickMode::Backdrop, QStringLiteral("backdrop")},
-    {QuickMode::Hidden, QStringLiteral("hidden")},
-}};
 
 const QString RangeMark = QStringLiteral("..");
 
@@ -61,10 +56,8 @@ void ShownOnly::Sort()
 
 void ShownOnly::Read(const QString& part)
 {
-    const QString name = part.section(QLatin1Char('='), 0, 0);
-    const auto mode = std::find_if(
-        ModeNames.begin(), ModeNames.end(), [&](const auto& known) { return known.second == name; });
-    if (mode == ModeNames.end())
+    const qint16 mode = QuickModeNames::ModeOf(part.section(QLatin1Char('='), 0, 0));
+    if (mode == QuickMode::Various)
         return;
     const QStringList ranges = part.section(QLatin1Char('='), 1).split(QLatin1Char(','));
     m_ranges.reserve(m_ranges.size() + size_t(ranges.size()));
@@ -74,21 +67,21 @@ void ShownOnly::Read(const QString& part)
         const qint32 first = range.section(RangeMark, 0, 0).toInt(&isFirst);
         const qint32 last = range.section(RangeMark, -1).toInt(&isLast);
         if (isFirst && isLast && first <= last)
-            m_ranges.push_back({first, last, mode->first});
+            m_ranges.push_back({first, last, mode});
     }
 }
 
 QString ShownOnly::Text() const
 {
     QStringList parts;
-    for (const auto& [mode, name] : ModeNames) {
+    for (const qint16 mode : QuickModeNames::Modes) {
         QStringList ranges;
         for (const Range& range : m_ranges) {
             if (range.ownMode == mode)
                 ranges << RangeText(range.first, range.last);
         }
         if (!ranges.isEmpty())
-            parts << name + QLatin1Char('=') + ranges.join(QLatin1Char(','));
+            parts << QuickModeNames::NameOf(mode) + QLatin1Char('=') + ranges.join(QLatin1Char(','));
     }
     return parts.join(QLatin1Char(';'));
 }

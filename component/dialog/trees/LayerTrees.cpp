@@ -230,7 +230,7 @@ QString LayerTrees::CurrentText() const
 // Do not ask a question or show an error during an event of the view: the view may be destroyed meanwhile.
 void LayerTrees::OnNodesChosen(LayerTreeList& list, const NodeSelection& nodes)
 {
-    if (!HasEdits(list)) {
+    if (!HasEdits(list) && !list.HoldsOther()) {
         MoveByUser(list, nodes);
         return;
     }

@@ -55,7 +55,8 @@ public:
     ///
     /// isPending: returns whether the question will wait for an answer. If so, the question is called after
     /// the mouse or key event that chose the node, so that the dialog may even be destroyed while it waits.
-    /// Without isPending, or if it returns false, a choice takes effect at once.
+    /// Without isPending, or if it returns false, a choice takes effect at once, unless it leaves a node that
+    /// was not found: see Find.
     void SetPendingChangesQuestion(std::function<void()> question, std::function<bool()> isPending = {});
 
     /// Sets the host's filter for the flat list and marks that list stale; nullptr shows all layers. Not
@@ -86,7 +87,7 @@ public:
     /// A current node that is not found is left: the dialog shows no node until it is found again or another
     /// one is chosen. With pending changes it stays listed, and the dialog's current node, until the question
     /// about them was asked: because another node was chosen, or in LeaveUnfound. If the question raises, the
-    /// node stays.
+    /// node stays. If they were applied before, it stays until then all the same.
     void Find(List list, const QString& text);
     /// The user goes from the field to the list: if a node stays listed although it is not found, the
     /// question is asked after the event, and the node is left.

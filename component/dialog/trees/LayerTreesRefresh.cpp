@@ -15,12 +15,6 @@
 
 namespace Orvane {
 
-namespace {
-
-constexpr qsizetype MostLayersOneByOne = 100; // for more, reading all in one query is not slower
-
-} // namespace
-
 void LayerTrees::RefreshLayerTexts(const QSet<qint32>& layerIDs)
 {
     QHash<qint32, QString> texts;

@@ -148,7 +148,7 @@ void LayerCommands::Delete(const std::vector<qint32>& layerIDs)
     FirstError errors;
     errors.Try([&] { DeleteOneByOneOrAtOnce(*this, layerIDs); });
     if (self)
-        errors.Try([&] { emit DeleteAsked(layerIDs); });
+        errors.Try([&] { emit DeleteAsked(); });
     errors.Rethrow();
 }
 

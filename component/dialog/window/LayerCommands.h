@@ -68,9 +68,9 @@ signals:
     void CodeEditDropped(QWidget* label);
     /// The host created a layer.
     void LayerCreated(qint32 layerID);
-    /// The host was asked to delete the layers, and may have done so, some or all of them. Also emitted if it
+    /// The host was asked to delete layers, and may have done so, some or all of them. Also emitted if it
     /// raised an error.
-    void DeleteAsked(const std::vector<qint32>& layerIDs);
+    void DeleteAsked();
 
 private:
     void DeleteMany();

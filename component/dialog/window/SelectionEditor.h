@@ -76,8 +76,9 @@ public:
     /// As Follow, after these layers have changed and no others: of many layers that are shown, it reads only
     /// these where it can.
     void FollowLayers(const QSet<qint32>& layerIDs);
-    /// As Follow, after the quick modes of these layers were changed at once: if one of them is shown, the
-    /// mode shown is the stored one.
+    /// As Follow, after the quick modes of these layers were changed at once: the mode shown is the stored
+    /// one, and a mode that is not applied yet is dropped. Does nothing if there are edits and none of these
+    /// layers is shown.
     void FollowModes(const QSet<qint32>& layerIDs);
     /// True if one of the layers that are shown still exists, or of the group that is shown.
     bool HasExistingLayer() const;

@@ -90,8 +90,14 @@ void frmLayerStyles::WirePasting()
     m_parts->pasting.SetDialog(
         {[this] { return m_selection->ConfirmPendingChanges() && !m_unloaded; }, shown,
          [this] { return LoadRendererStyles(); }});
-    connect(&m_parts->pasting, &SettingsPasting::Pasted, m_selection.get(), &SelectionEditor::Load);
-    connect(&m_parts->pasting, &SettingsPasting::Pasted, &m_parts->showing, &LayerShowing::ReadShown);
+    connect(&m_parts->pasting, &SettingsPasting::Pasted, this, [this] {
+        const QPointer self(this); // loading asks the host
+        FirstError errors;
+        errors.Try([this] { m_selection->Load(); });
+        if (self)
+            errors.Try([this] { m_parts->showing.ReadShown(); });
+        errors.Rethrow();
+    });
 }
 
 // Only the first is guarded here: the commands guard themselves.

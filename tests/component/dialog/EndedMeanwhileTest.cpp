@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/controls/frmDropSlider.h"
 #include "component/dialog/EndedMeanwhileFixture.h"
+#include "support/MenuByKeys.h"
 #include "support/PickByMouse.h"
 
 #include <QColorDialog>
@@ -214,11 +215,7 @@ void ColourDialog(EndedMeanwhile& test)
 void ContextMenu(EndedMeanwhile& test)
 {
     test.OpenWithEdits();
-    auto& tree = test.Find<QTreeView>("tvLayers2");
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, tree.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&tree, &event);
-    QCoreApplication::processEvents();
-    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(OpenMenuByKey(test.Find<QTreeView>("tvLayers2")));
     test.End();
 }
 

@@ -213,8 +213,26 @@ TEST_F(Finding, ALayerWithEditsThatIsNotFoundCanBeClickedAndApplied)
     EXPECT_TRUE(CanApply());
     Click("cmdApply");
     EXPECT_NE(Stored(1, "Visible"), before);
+    EXPECT_EQ(Listed(), QStringList({"Rivers", "Roads"}));
     ClickLayer("Rivers");
     QCoreApplication::processEvents();
+    EXPECT_EQ(Listed(), QStringList({"Rivers"}));
+    EXPECT_FALSE(CoversSettings());
+    EXPECT_EQ(TextOf("lblCode"), QString::number(Stored(2, "Code")));
+}
+
+TEST_F(Finding, ALayerThatIsNotFoundGoesAfterApplyWhenTheArrowKeysLeaveIt)
+{
+    ClickLayer("Roads");
+    Click("chkVisible");
+    Field().setFocus();
+    Type("riv");
+    Click("cmdApply");
+    MessageBoxRobot nobody{};
+    Layers().setFocus();
+    QTest::keyClick(&Layers(), Qt::Key_Up);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Listed(), QStringList({"Rivers"}));
     EXPECT_EQ(TextOf("lblCode"), QString::number(Stored(2, "Code")));
 }
 

@@ -95,6 +95,17 @@ TEST_F(SchemesInATable, KeepTheirNumbersWhenOnlyTheOrderChanges)
     EXPECT_FALSE(m_model.CountNext());
 }
 
+TEST_F(SchemesInATable, KeepTheirNumbersUnderAnotherName)
+{
+    SchemeDetails scheme = Named(QStringLiteral("Dusk"));
+    scheme.id = 3;
+    m_model.Show({scheme});
+    EXPECT_TRUE(m_model.CountNext());
+    scheme.name = QStringLiteral("Dawn");
+    m_model.Show({scheme}, SchemesModel::Counts::Keep);
+    EXPECT_EQ(Text(0, SchemesModel::Differing), QStringLiteral("7"));
+}
+
 TEST_F(SchemesInATable, ShowWhatTheyHoldAndWhenTheyWereSaved)
 {
     SchemeDetails scheme = Named(QStringLiteral("Locks"));

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/common/HostTables.h"
+#include "hostkit/schemes/LayerSchemes.h"
+#include "hostkit/schemes/SchemeTables.h"
 #include "hostkit/undo/LayerStepsFixture.h"
+
+#include <QTemporaryDir>
 
 namespace Orvane::Testing {
 
@@ -80,6 +85,30 @@ TEST_F(Steps, OfSchemesAreToldAsTheChangesWere)
     EXPECT_THAT(Told(), ElementsAre(QStringLiteral("scheme Standard")));
 }
 
+TEST_F(Steps, TellIfSchemesKeepTheirValues)
+{
+    using Values = HostNotifications::SchemeValues;
+    std::vector<Values> told;
+    QObject::connect(
+        &m_client.Notifications(), &HostNotifications::SchemesChanged, &m_client.Notifications(),
+        [&told](const QString&, Values values) { told.push_back(values); });
+    const auto record = [this](const auto& act) {
+        m_client.RecordStep([&] {
+            LayerSchemes schemes(Database());
+            act(schemes);
+            return QStringLiteral("step");
+        });
+    };
+    Host().GetSchemeNames();
+    record([](LayerSchemes& schemes) { schemes.Rename(Standard, Night); });
+    record([](LayerSchemes& schemes) { schemes.SetAtOpening(Night); });
+    record([](LayerSchemes& schemes) { schemes.SetOrder({Night}); });
+    record([](LayerSchemes& schemes) { schemes.SetHolds(Night, SchemePart::Flags); });
+    while (History().CanUndo())
+        History().Undo();
+    EXPECT_THAT(told, ElementsAre(Values::Changed, Values::Kept, Values::Kept, Values::Kept));
+}
+
 TEST_F(Steps, ADeletedLayersSchemeValuesTellNothingOfSchemes)
 {
     Host().GetSchemeNames();
@@ -103,6 +132,87 @@ TEST_F(Steps, LayersOfASchemeAreToldEvenIfWhatFollowsFails)
     EXPECT_EQ(ErrorOf([&] { History().Undo(); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_TRUE(Told().contains(QStringLiteral("changed 1")));
     QObject::disconnect(listener);
+}
+
+TEST(SchemeOfAReadOnlyMap, ForTheOpeningIsNotLoaded)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    {
+        const auto map = SqliteLayerDatabase::Create(path);
+        map->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
+        LayerSchemes schemes(*map);
+        schemes.SetAtOpening(schemes.Current());
+        map->Execute(QStringLiteral("UPDATE Layers SET Color = 5"));
+    }
+    const auto map = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    StandardShellServices services;
+    SilentClient client(*map, services);
+    EXPECT_EQ(LayerSchemes(*map).AtOpening(), Standard);
+    EXPECT_EQ(client.ApplySchemeAtOpening(), std::nullopt);
+    EXPECT_FALSE(client.History().CanUndo());
+}
+
+/// A second window on the same map changes schemes too, which is no step of the first.
+class StepsWithPartialSchemes : public Steps
+{
+protected:
+    void AddNight()
+    {
+        Host().GetSchemeNames(); // makes the first scheme
+        m_client.RecordStep([this] {
+            LayerSchemes(Database()).Add(Night, SchemePart::Flags);
+            return QStringLiteral("Create Night");
+        });
+    }
+
+    qint32 StoredVersion() { return HostTables::VersionOf(Database(), QStringLiteral("LayerSchemes")); }
+
+    LayerSchemes m_otherWindow{Database()};
+    const QString m_dusk = QStringLiteral("Dusk");
+};
+
+TEST_F(StepsWithPartialSchemes, LeaveTheVersionThatTheSchemeOfAnotherWindowNeeds)
+{
+    AddNight();
+    m_otherWindow.Add(m_dusk, SchemePart::Scales);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+    History().Redo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+    m_otherWindow.Delete(m_dusk);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::Version);
+}
+
+TEST_F(StepsWithPartialSchemes, StoreTheVersionThatTheyNeedThemselves)
+{
+    AddNight();
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::Version);
+    History().Redo();
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+}
+
+TEST_F(StepsWithPartialSchemes, CanBeRedoneAfterAnotherWindowMadeASchemePartial)
+{
+    AddNight();
+    History().Undo();
+    m_otherWindow.SetHolds(Standard, SchemePart::Scales);
+    History().Redo();
+    EXPECT_THAT(m_otherWindow.Names(), ElementsAre(Night, Standard));
+    m_otherWindow.SetHolds(Standard, WholeScheme);
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
+}
+
+TEST_F(StepsWithPartialSchemes, LeaveTheVersionOfANewerProgram)
+{
+    AddNight();
+    ApplyTo(1, "Color", 5);
+    const qint32 newer = SchemeTables::PartialVersion + 1;
+    HostTables::SetVersion(Database(), QStringLiteral("LayerSchemes"), newer);
+    History().Undo();
+    EXPECT_EQ(StoredVersion(), newer);
 }
 
 } // namespace

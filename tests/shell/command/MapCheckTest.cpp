@@ -180,6 +180,30 @@ TEST_F(MapCheckTest, BadValuesOfSchemesAreFoundToo)
     EXPECT_TRUE(RepairMap(m_map).empty());
 }
 
+TEST_F(MapCheckTest, BadValuesInTheHeadOfASchemeAreFoundAndReplaced)
+{
+    RawDatabase(m_map).Run(
+        "UPDATE LayerSchemes SET Holds = 'all', Place = 99999999999, AtOpening = x'00' WHERE SchemeID = 1");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::BadValue, Kind::BadValue, Kind::BadValue));
+    for (const char* column : {"Holds", "Place", "AtOpening"}) {
+        EXPECT_TRUE(std::any_of(problems.begin(), problems.end(), [&](const MapProblem& problem) {
+            return problem.repairable && problem.text.contains(column);
+        })) << column;
+    }
+    EXPECT_TRUE(RepairMap(m_map).empty());
+    EXPECT_EQ(Count("LayerSchemes WHERE Holds = 7 AND Place = 0 AND NOT AtOpening"), 1);
+}
+
+TEST_F(MapCheckTest, ASchemeOfUnknownClassesIsNamedAndStays)
+{
+    RawDatabase(m_map).Run("UPDATE LayerSchemes SET Holds = 9 WHERE SchemeID = 1");
+    const std::vector<MapProblem> problems = RepairMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::BadValue));
+    EXPECT_TRUE(problems[0].text.contains("Holds"));
+    EXPECT_EQ(Count("LayerSchemes WHERE Holds = 9"), 1);
+}
+
 TEST_F(MapCheckTest, RepairReplacesBadValuesAndSaysSo)
 {
     RawDatabase(m_map).Run("UPDATE Layers SET Visible = 'red', Priority = 99999999999 WHERE LayerID = 2");

@@ -7,6 +7,7 @@
 #include "shell/MainWindow.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "support/MessageBoxRobot.h"
+#include "support/ShownEditor.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -74,14 +75,6 @@ protected:
 
     void ComeBack() { emit qApp->applicationStateChanged(Qt::ApplicationActive); }
     void Trigger(const char* action) { m_window->findChild<QAction*>(QLatin1String(action))->trigger(); }
-    static QWidget* TheForm()
-    {
-        for (QWidget* widget : QApplication::allWidgets()) {
-            if (widget->isVisible() && widget->objectName() == "frmLayerStyles")
-                return widget;
-        }
-        return nullptr;
-    }
     size_t Shown() { return m_window->Canvas().Layers().size(); }
 
     DataFolder m_folder;
@@ -110,7 +103,7 @@ TEST_F(MapSharingTest, WhatAnotherWindowAddsIsShownWithoutAnyAction)
 TEST_F(MapSharingTest, TheLayerControlFollowsAnotherWindowAndKeepsEdits)
 {
     Trigger("actLayerControl");
-    auto* form = TheForm();
+    auto* form = ShownEditor();
     ASSERT_TRUE(form);
     auto* list = form->findChild<QTreeView*>("tvLayers2");
     QTest::mouseClick(
@@ -194,12 +187,12 @@ TEST_F(MapSharingTest, TheLayerControlStaysOpenWhetherSavingUnderAnotherNameWork
     ChooseFile(m_folder.Path("copy.orvane"));
     Trigger("actSaveMapAs");
     EXPECT_EQ(m_window->Document().Path(), m_folder.Path("copy.orvane"));
-    EXPECT_TRUE(TheForm());
+    EXPECT_TRUE(ShownEditor());
     const auto precious = MapDocument::Create(m_folder.Path("precious.orvane"));
     ChooseFile(precious->Path());
     MessageBoxRobot user{BoxKey::Enter};
     Trigger("actSaveMapAs");
-    EXPECT_TRUE(TheForm());
+    EXPECT_TRUE(ShownEditor());
 }
 
 TEST_F(MapSharingTest, SavingOverAMapOfAnotherWindowIsRefusedAndBothMapsStay)

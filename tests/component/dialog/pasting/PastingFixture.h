@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "component/dialog/showing/NodeMenuFixture.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

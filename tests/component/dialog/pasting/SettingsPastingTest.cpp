@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/pasting/PastingFixture.h"
+#include "component/dialog/trees/LayerTreeModel.h"
+#include "hosts/CorrectingClient.h"
 #include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/IStyleEditorForm.h>
@@ -191,34 +193,38 @@ TEST_F(SettingsPastingTest, SaysWhyNothingCanBePasted)
     EXPECT_EQ(user.Only().text, "The copied settings cannot be read.");
 }
 
+TEST_F(SettingsPastingTest, SaysThatThereIsNothingToCopy)
+{
+    host.SetLayerColumn(2, "Priority", qint32(9));
+    for (const char* column : {"LineThickness", "FillForeColor", "FillBackColor", "FillStyle"})
+        host.SetLayerColumn(2, column, qint32(9));
+    ClickTab(1);
+    Choose({"Transport"});
+    EXPECT_EQ(WhyNot("Copy Settings"), "These layers have no setting in common.");
+}
+
+TEST_F(SettingsPastingTest, SaysThatTheGroupsHaveLostTheirLayers)
+{
+    Copy("Rivers");
+    ClickTab(1);
+    for (const qint32 layerID : {1, 2, 3})
+        host.RemoveMembers(layerID);
+    for (const QStringList& nodes : {QStringList{"Land"}, QStringList{"Land", "Transport"}}) {
+        const QString why = nodes.size() == 1 ? "This group has no layers." : "These groups have no layers.";
+        Choose(nodes);
+        EXPECT_EQ(WhyNot("Copy Settings"), why);
+        MessageBoxRobot user{BoxKey::Enter};
+        Pick("Paste Settings...");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(user.Only().text, why);
+    }
+    EXPECT_EQ(TimesAsked(), 0);
+}
+
 TEST_F(SettingsPastingTest, NeedsAChosenNode)
 {
     EXPECT_EQ(WhyNot("Copy Settings"), "Select a layer or a group first.");
     EXPECT_EQ(WhyNot("Paste Settings..."), "Select a layer or a group first.");
-}
-
-TEST_F(SettingsPastingTest, ShowsAStyleThatTheMapDoesNotHaveButDoesNotOfferIt)
-{
-    PutOnClipboard(R"({"format":"layer settings","version":1,"settings":)"
-                   R"({"visible":false,"style":{"number":7,"name":"Dotted"}}})");
-    PasteInto({"Roads"}, [this] {
-        ASSERT_TRUE(Row("Style"));
-        EXPECT_EQ(Row("Style")->text(1), "Dotted");
-        EXPECT_EQ(Row("Style")->toolTip(0), "This map has no style of that name.");
-        EXPECT_TRUE(Row("Style")->isDisabled());
-        Press("cmdAll");
-        Press("cmdPaste");
-    });
-    EXPECT_EQ(Stored(1, "Style"), 0);
-    EXPECT_EQ(Stored(1, "Visible"), 0);
-}
-
-TEST_F(SettingsPastingTest, FindsAStyleOfAnotherProgramByItsName)
-{
-    PutOnClipboard(
-        R"({"format":"layer settings","version":1,"settings":{"style":{"number":70,"name":"Sketched"}}})");
-    PasteInto({"Roads"}, [this] { Press("cmdPaste"); });
-    EXPECT_EQ(Stored(1, "Style"), 9);
 }
 
 TEST_F(SettingsPastingTest, AsksAboutEditsBeforeCopying)
@@ -295,6 +301,45 @@ TEST_F(PastingWithAFailingHost, ChangesNoLayer)
     EXPECT_EQ(user.Only().text, "locked");
     EXPECT_EQ(Stored(1, "Visible"), 1);
     EXPECT_EQ(Stored(3, "Visible"), 1);
+}
+
+class PastingWithACorrectingHost : public SettingsPastingTest
+{
+protected:
+    void SetUp() override
+    {
+        UseClient(client);
+        SettingsPastingTest::SetUp();
+        Copy("Rivers");
+        client.corrected = &host;
+    }
+
+    int ImageOf(const QString& text) { return Node(text).data(LayerTreeModel::QuickModeRole).toInt(); }
+
+    CorrectingClient client{host};
+};
+
+TEST_F(PastingWithACorrectingHost, ShowsTheModeThatTheHostHasTaken)
+{
+    PasteInto({"Roads", "Parcels"}, [this] { PasteOnly("Display mode"); });
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(ImageOf("Parcels"), 2);
+}
+
+TEST_F(PastingWithACorrectingHost, ShowsWhatIsStoredWhenTheRedrawRaises)
+{
+    client.raises = true;
+    MessageBoxRobot user{BoxKey::Enter};
+    PasteInto({"Roads"}, [this] {
+        Press("cmdNone");
+        Toggle("Display mode");
+        Toggle("Visible");
+        Press("cmdPaste");
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(user.Only().text, "not taken");
+    EXPECT_EQ(ImageOf("Roads"), 1);
+    EXPECT_EQ(CheckState("chkVisible"), 0);
 }
 
 class PastingWithoutQuickModes : public SettingsPastingTest

@@ -5,6 +5,7 @@
 #include "component/dialog/rows/SampledIcon.h"
 #include "component/dialog/trees/LayerTreesLoadFixture.h"
 #include "hosts/FailingClient.h"
+#include "support/MenuByKeys.h"
 
 #include <QImage>
 #include <QMenu>
@@ -56,9 +57,7 @@ protected:
 
     void ToggleInMenu(QTreeView& view)
     {
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, view.mapToGlobal(QPoint(5, 5)));
-        QApplication::sendEvent(&view, &event);
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QMenu* menu = Testing::OpenMenuByKey(view);
         ASSERT_TRUE(menu);
         QAction* last = menu->actions().last();
         EXPECT_EQ(last->isChecked(), trees.ShowsSamples());

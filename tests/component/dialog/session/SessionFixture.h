@@ -4,9 +4,8 @@
 #include "component/dialog/EditorFixture.h"
 #include "component/dialog/session/PaperDialog.h"
 #include "hosts/FailingClient.h"
+#include "hosts/NotesClient.h"
 #include "support/Dice.h"
-
-#include <QHash>
 
 namespace Orvane::Testing {
 
@@ -24,20 +23,6 @@ public:
 
 private:
     QStringList m_boxes;
-};
-
-/// A host that may fail, and keeps notes.
-class NotingClient : public FailingClient
-{
-public:
-    using FailingClient::FailingClient;
-
-private:
-    bool IMapNotes_KeepsNotes() const override { return true; }
-    QString IMapNotes_Note(const QString& key) override { return m_notes.value(key); }
-    void IMapNotes_SetNote(const QString& key, const QString& text) override { m_notes[key] = text; }
-
-    QHash<QString, QString> m_notes;
 };
 
 /// A layer control over a map of a dozen layers, and models of what both should be.
@@ -87,7 +72,7 @@ public:
     Paper::Map map;
     Paper::Dialog dialog;
     AnsweringUser user;
-    NotingClient client;
+    NotesClient<FailingClient> client; ///< may fail
 
 private:
     void FillMap();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenuFixture.h"
 #include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenuFixture.h"
 #include "component/dialog/trees/LayerTreeModel.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
+#include "hosts/CorrectingClient.h"
 #include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
@@ -28,25 +29,6 @@ protected:
     }
 
     FailingClient client{host, {"Update", 2, RunTimeError(ErrorNumber::DatabaseLocked, "locked")}};
-};
-
-/// A host that can hide no layer: a redraw puts the modes back.
-class CorrectingClient : public ForwardingClient
-{
-public:
-    using ForwardingClient::ForwardingClient;
-    MemoryHost* corrected = nullptr;
-    bool raises = false;
-
-private:
-    void IStyleEditorClient_RedrawMap() override
-    {
-        ForwardingClient::IStyleEditorClient_RedrawMap();
-        if (corrected)
-            corrected->SetLayerColumn(1, "OverrideMode", qint32(0));
-        if (raises)
-            throw RunTimeError(ErrorNumber::DatabaseLocked, "not taken");
-    }
 };
 
 class ShowingWithACorrectingHost : public LayerShowingTest

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenuFixture.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
+#include "hosts/NotesClient.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/IStyleEditorRefresh.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
-#include <QHash>
 #include <QLabel>
 #include <QToolButton>
 
@@ -15,26 +15,6 @@ namespace Orvane::Testing {
 namespace {
 
 using testing::ElementsAre;
-
-/// Keeps notes in memory.
-class NotesClient : public ForwardingClient
-{
-public:
-    using ForwardingClient::ForwardingClient;
-    QHash<QString, QString> notes;
-    bool keeps = true;
-    bool raises = false;
-
-private:
-    bool IMapNotes_KeepsNotes() const override { return keeps; }
-    QString IMapNotes_Note(const QString& key) override
-    {
-        if (raises)
-            throw RunTimeError(ErrorNumber::DatabaseLocked, "no notes");
-        return notes.value(key);
-    }
-    void IMapNotes_SetNote(const QString& key, const QString& text) override { notes[key] = text; }
-};
 
 class ShowOnlyTest : public NodeMenuFixture
 {
@@ -59,7 +39,7 @@ protected:
         dynamic_cast<IStyleEditorRefresh&>(EditorForm()).RefreshLayers(layerIDs);
     }
 
-    NotesClient client{host};
+    NotesClient<ForwardingClient> client{host};
 };
 
 TEST_F(ShowOnlyTest, HidesAllOtherLayersAndBringsEachBackInItsOwnMode)
@@ -202,6 +182,28 @@ TEST_F(ShowOnlyTest, ReadsOnlyTheLayersThatHaveChanged)
     EditorForm().Refresh();
     reads(50);
     EXPECT_EQ(reads(50), before);
+}
+
+TEST_F(ShowOnlyTest, FollowsManyAppliedLayersWithOneQuery)
+{
+    host.AddGroup({.id = 30, .name = QString("Zones"), .ordering = 3});
+    for (qint32 layerID = 5; layerID <= 300; ++layerID) {
+        host.AddLayer({.id = layerID, .name = QStringLiteral("Zone %1").arg(layerID)});
+        host.AddMember(30, layerID);
+    }
+    EditorForm().Refresh();
+    ClickTab(1);
+    Choose({"Zones"});
+    const auto seeksOfApply = [this] {
+        Click("chkLocked");
+        host.ClearLog();
+        Click("cmdApply");
+        return Calls("Seek");
+    };
+    const int before = seeksOfApply();
+    Pick("Show Only These");
+    EXPECT_EQ(seeksOfApply(), before);
+    EXPECT_EQ(BarText(), "Only 296 of 300 layers are shown.");
 }
 
 TEST_F(ShowOnlyTest, ANoteThatCannotBeReadLeavesTheSettingsUpToDate)

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/LayerTreesFixture.h"
 #include "component/dialog/trees/NodeSelection.h"
+#include "support/MenuByKeys.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
-#include <QMenu>
 #include <QtTest>
 
 #include <gmock/gmock.h>
@@ -71,16 +71,9 @@ protected:
 
     void ChooseInMenu(QTreeView& view, const QString& item)
     {
-        const QPoint place = view.rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, view.mapToGlobal(place));
-        QApplication::sendEvent(&view, &event);
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QMenu* menu = Testing::OpenMenuByKey(view);
         ASSERT_TRUE(menu);
-        for (QAction* action : menu->actions()) {
-            if (action->text() == item)
-                menu->setActiveAction(action);
-        }
-        QTest::keyClick(menu, Qt::Key_Return);
+        EXPECT_TRUE(Testing::PickByKeys(*menu, item)) << item.toStdString();
         Settle();
     }
 };

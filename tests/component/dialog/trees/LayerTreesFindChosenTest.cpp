@@ -2,10 +2,10 @@
 // Several chosen nodes while the user finds nodes.
 #include "component/dialog/trees/LayerTreesLoadFixture.h"
 #include "component/dialog/trees/NodeSelection.h"
+#include "support/MenuByKeys.h"
 #include "support/MessageBoxRobot.h"
 
 #include <QAbstractItemModelTester>
-#include <QMenu>
 #include <QtTest>
 
 #include <gmock/gmock.h>
@@ -49,16 +49,9 @@ protected:
 
     void ChooseInMenu(QTreeView& view, const QString& item)
     {
-        const QPoint place = view.rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, view.mapToGlobal(place));
-        QApplication::sendEvent(&view, &event);
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QMenu* menu = Testing::OpenMenuByKey(view);
         ASSERT_TRUE(menu);
-        for (QAction* action : menu->actions()) {
-            if (action->text() == item)
-                menu->setActiveAction(action);
-        }
-        QTest::keyClick(menu, Qt::Key_Return);
+        EXPECT_TRUE(Testing::PickByKeys(*menu, item)) << item.toStdString();
         Settle();
     }
 

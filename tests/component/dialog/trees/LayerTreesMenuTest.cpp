@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/LayerTreesFixture.h"
 #include "hosts/FailingClient.h"
+#include "support/MenuByKeys.h"
 #include "support/MessageBoxRobot.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -47,23 +48,16 @@ protected:
         return OpenMenu();
     }
 
-    void PressMenuKey(QTreeView& view)
-    {
-        const QPoint place = view.rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, view.mapToGlobal(place));
-        QApplication::sendEvent(&view, &event);
-    }
-
     QMenu* MenuByKey(QTreeView& view)
     {
-        PressMenuKey(view);
+        Testing::PressMenuKey(view);
         return OpenMenu();
     }
 
     QMenu* OpenMenu()
     {
         Settle();
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QMenu* menu = Testing::OpenedMenu();
         EXPECT_TRUE(menu) << "no menu opened";
         return menu;
     }
@@ -78,11 +72,7 @@ protected:
 
     void Choose(QMenu& menu, const QString& text)
     {
-        for (QAction* action : menu.actions()) {
-            if (action->text() == text)
-                menu.setActiveAction(action);
-        }
-        QTest::keyClick(&menu, Qt::Key_Return);
+        EXPECT_TRUE(Testing::PickByKeys(menu, text)) << text.toStdString();
         Settle();
     }
 
@@ -234,7 +224,7 @@ TEST_F(LayerTreesMenuTest, ReportsADatabaseThatCannotSayWhetherANameMayChange)
     FailingClient client(host, {"LayersTable", 1, RunTimeError(ErrorNumber::DatabaseLocked, "locked")});
     UseClient(client);
     MessageBoxRobot user{BoxKey::Enter};
-    PressMenuKey(layers);
+    Testing::PressMenuKey(layers);
     EXPECT_EQ(user.Only().text, "locked");
     EXPECT_FALSE(QApplication::activePopupWidget());
     EXPECT_THAT(layers.findChildren<QMenu*>(), IsEmpty());

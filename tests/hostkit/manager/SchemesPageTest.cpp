@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/manager/SchemesPage.h"
+
 #include "hostkit/manager/SchemeManagerFixture.h"
 #include "hostkit/manager/SchemesModel.h"
 #include "hostkit/schemes/LayerSchemes.h"
@@ -32,8 +34,7 @@ protected:
             if (!name.isEmpty())
                 QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("bedText")), name);
             for (const char* box : clicked) {
-                while (dialog.focusWidget()->objectName() != QLatin1String(box))
-                    ASSERT_NO_FATAL_FAILURE(TabToABox(dialog));
+                ASSERT_NO_FATAL_FAILURE(TabTo(dialog, QLatin1String(box)));
                 QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
             }
             auto* buttons = dialog.findChild<QDialogButtonBox*>();
@@ -44,30 +45,56 @@ protected:
         });
     }
 
-    static void TabToABox(QWidget& dialog)
+    static void TabTo(QWidget& dialog, const QString& box)
     {
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-        ASSERT_TRUE(qobject_cast<QCheckBox*>(dialog.focusWidget()));
+        const auto focus
+            = [&] { return dialog.focusWidget() ? dialog.focusWidget()->objectName() : QString(); };
+        constexpr int more = 10; // than all controls
+        for (int presses = 0; presses < more && focus() != box; ++presses)
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(focus(), box);
     }
 
     QStringList Holds() { return Column(SchemesModel::Holds); }
     static QString AllOfThem() { return QStringLiteral("All properties"); }
+
+    // The upper edge of a row in the table, or below the last one.
+    QPoint TopOf(int row)
+    {
+        const int last = Table().model()->rowCount() - 1;
+        const QRect place = Table().visualRect(Table().model()->index(qMin(row, last), 0));
+        return {place.center().x(), row > last ? place.bottom() + place.height() : place.top() + 1};
+    }
 
     // As the end of a drag.
     void DropOn(const QString& name, int row)
     {
         const std::unique_ptr<QMimeData> data(
             Table().model()->mimeData({Table().model()->index(int(Column(0).indexOf(name)), 0)}));
-        QRect place = Table().visualRect(Table().model()->index(row, 0));
-        const QPoint above(place.center().x(), place.top() + 1);
-        QDragEnterEvent enter(above, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        const QPoint place = TopOf(row);
+        QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(Table().viewport(), &enter);
-        QDragMoveEvent move(above, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QDragMoveEvent move(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(Table().viewport(), &move);
-        QDropEvent drop(above, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(Table().viewport(), &drop);
         QCoreApplication::processEvents();
     }
+
+    void ClickHeader(int column)
+    {
+        QHeaderView& header = *Table().horizontalHeader();
+        const int x = header.sectionViewportPosition(column) + 20;
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {x, header.height() / 2});
+    }
+
+    void ClickOpening()
+    {
+        auto& box = Find<QCheckBox>("chkAtOpening");
+        QTest::mouseClick(&box, Qt::LeftButton, {}, {10, box.height() / 2});
+    }
+
+    bool IsCounted() { return !Column(SchemesModel::Differing).contains(QStringLiteral("...")); }
 };
 
 TEST_F(SchemeWindowParts, MakesASchemeOfTheFlagsAlone)
@@ -161,6 +188,44 @@ TEST_F(SchemeWindowParts, MovesASchemeThatIsDropped)
     InWindow([&] {
         DropOn(Standard, 0);
         EXPECT_THAT(Column(0), ElementsAre(Standard, Day, Night));
+        DropOn(Day, 3);
+        EXPECT_THAT(Column(0), ElementsAre(Standard, Night, Day));
+    });
+}
+
+TEST_F(SchemeWindowParts, SortsByWhatTheSchemesHold)
+{
+    LayerSchemes(Database()).SetHolds(Day, SchemePart::Scales);
+    LayerSchemes(Database()).SetHolds(Standard, SchemePart::Flags);
+    InWindow([&] {
+        ClickHeader(SchemesModel::Holds);
+        EXPECT_THAT(Holds(), ElementsAre(QStringLiteral("Flags"), QStringLiteral("Scales"), AllOfThem()));
+        EXPECT_THAT(Column(0), ElementsAre(Standard, Day, Night));
+        ClickHeader(SchemesModel::Holds);
+        EXPECT_THAT(Column(0), ElementsAre(Night, Day, Standard));
+    });
+}
+
+TEST_F(SchemeWindowParts, CountsOnlyAgainWhenValuesHaveChanged)
+{
+    InWindow([&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return IsCounted(); }));
+        ClickScheme(Day);
+        TypeName(QStringLiteral("Zenith"));
+        PressKey(Qt::Key_F2);
+        EXPECT_TRUE(IsCounted());
+        PressKey(Qt::Key_Up, Qt::AltModifier);
+        EXPECT_TRUE(IsCounted());
+        ClickOpening();
+        EXPECT_TRUE(IsCounted());
+        for (int step = 0; step < 3; ++step) {
+            PressKey(Qt::Key_Z, Qt::ControlModifier);
+            EXPECT_TRUE(IsCounted()) << step;
+        }
+        EXPECT_FALSE(History().CanUndo());
+        EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
+        Host().SaveScheme(Day);
+        EXPECT_FALSE(IsCounted());
     });
 }
 
@@ -183,19 +248,14 @@ TEST_F(SchemeWindowParts, ACustomOrderStaysWhileTheTableIsSortedByDate)
                                       " WHERE Name = 'Standard'"));
     Database().Execute(QStringLiteral("UPDATE LayerSchemes SET SavedAt = NULL WHERE Name = 'Night'"));
     InWindow([&] {
-        QHeaderView& header = *Table().horizontalHeader();
-        const auto clickSaved = [&] {
-            const int x = header.sectionViewportPosition(SchemesModel::Saved) + 20;
-            QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {x, header.height() / 2});
-        };
-        clickSaved();
+        ClickHeader(SchemesModel::Saved);
         EXPECT_THAT(Column(0), ElementsAre(Night, Standard, Day));
         ClickScheme(Day);
         EXPECT_FALSE(Find<QPushButton>("cmdMoveUp").isEnabled());
         EXPECT_FALSE(Find<QPushButton>("cmdMoveUp").toolTip().isEmpty());
-        clickSaved();
+        ClickHeader(SchemesModel::Saved);
         EXPECT_THAT(Column(0), ElementsAre(Day, Standard, Night));
-        clickSaved();
+        ClickHeader(SchemesModel::Saved);
         EXPECT_THAT(Column(0), ElementsAre(Day, Night, Standard));
     });
     EXPECT_THAT(Host().GetSchemeNames(), ElementsAre(Day, Night, Standard));
@@ -221,9 +281,7 @@ TEST_F(SchemeWindowParts, ChoosesTheSchemeForTheOpening)
 {
     InWindow([&] {
         ClickScheme(Day);
-        QTest::mouseClick(
-            &Find<QCheckBox>("chkAtOpening"), Qt::LeftButton, {},
-            {10, Find<QCheckBox>("chkAtOpening").height() / 2});
+        ClickOpening();
         EXPECT_THAT(
             Column(SchemesModel::AtOpening), ElementsAre(QStringLiteral("yes"), QString(), QString()));
         EXPECT_EQ(History().UndoText(), QStringLiteral("Undo Apply Scheme \"Day\" at Opening"));

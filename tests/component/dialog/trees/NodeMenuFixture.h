@@ -2,8 +2,8 @@
 #pragma once
 
 #include "component/dialog/EditorFixture.h"
+#include "support/MenuByKeys.h"
 
-#include <QMenu>
 #include <QTreeView>
 #include <QtTest>
 
@@ -53,24 +53,13 @@ protected:
     /// Opens the menu with the Menu key.
     QMenu& Menu()
     {
-        const QPoint place = Tree().rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, Tree().mapToGlobal(place));
-        QApplication::sendEvent(&Tree(), &event);
-        QCoreApplication::processEvents();
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QMenu* menu = OpenMenuByKey(Tree());
         if (!menu)
             throw std::runtime_error("no menu");
         return *menu;
     }
 
-    static QAction* Entry(const QMenu& menu, const QString& text)
-    {
-        for (QAction* action : menu.actions()) {
-            if (action->text() == text)
-                return action;
-        }
-        return nullptr;
-    }
+    static QAction* Entry(const QMenu& menu, const QString& text) { return EntryOf(menu, text); }
 
     /// The tool tip of a disabled entry of a menu; empty for an enabled one.
     QString WhyNot(const QString& text)
@@ -97,13 +86,8 @@ protected:
     /// Opens the menu and goes to the entry with the keys.
     void Pick(const QString& text)
     {
-        QMenu& menu = Menu();
-        QAction* entry = Entry(menu, text);
-        if (!entry || !entry->isEnabled())
+        if (!PickByKeys(Menu(), text))
             throw std::runtime_error(text.toStdString());
-        menu.setActiveAction(entry);
-        QTest::keyClick(&menu, Qt::Key_Return);
-        QCoreApplication::processEvents();
     }
 
     int Calls(const char* member) { return int(host.Log().CallsTo(member).size()); }

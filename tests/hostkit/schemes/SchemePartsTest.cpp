@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "hostkit/schemes/SchemeParts.h"
+
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/common/HostTables.h"
@@ -142,6 +144,20 @@ TEST_F(PartialSchemes, AreRefusedByProgramsThatKnowOnlyWholeOnes)
     m_schemes.SetHolds(Locks, SchemePart::Scales);
     m_schemes.Delete(Locks);
     EXPECT_EQ(StoredVersion(), SchemeTables::Version);
+}
+
+TEST_F(PartialSchemes, WithANumberThatNamesNoClassAreWholeAndNeedNoOtherVersion)
+{
+    for (const int number : {0, 8, 7, 15}) {
+        Database().Execute(QStringLiteral("UPDATE LayerSchemes SET Holds = ?1"), {number});
+        SchemeTables(Database()).RefreshVersion();
+        EXPECT_EQ(m_schemes.All().front().holds, WholeScheme) << number;
+        EXPECT_EQ(StoredVersion(), SchemeTables::Version) << number;
+    }
+    Database().Execute(QStringLiteral("UPDATE LayerSchemes SET Holds = 9"));
+    SchemeTables(Database()).RefreshVersion();
+    EXPECT_EQ(m_schemes.All().front().holds, SchemeParts(SchemePart::Flags));
+    EXPECT_EQ(StoredVersion(), SchemeTables::PartialVersion);
 }
 
 TEST_F(PartialSchemes, OfANewerProgramAreRefused)

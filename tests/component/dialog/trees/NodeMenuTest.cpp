@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The nodes' menu while the dialog holds edits: the press of the button chooses another node, and the window
 // system asks for the menu at once.
-#include "component/dialog/showing/NodeMenuFixture.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
 #include "hosts/FailingClient.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
