@@ -11,6 +11,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMessageBox>
@@ -78,8 +79,9 @@ TEST_F(MainWindowTest, OpensAMapAndShowsAllOfIt)
     const Box shown = m_window->Canvas().View().Extent();
     EXPECT_LT(shown.minX, 0);
     EXPECT_GT(shown.maxX, 10);
-    EXPECT_TRUE(Label("lblScale").startsWith("1:"));
-    EXPECT_EQ(Label("lblScale"), ScaleText(m_window->Canvas().ScaleDenominator()));
+    const QString scale = m_window->findChild<QComboBox*>("cmbScale")->currentText();
+    EXPECT_TRUE(scale.startsWith("1:"));
+    EXPECT_EQ(scale, ScaleText(m_window->Canvas().ScaleDenominator()));
 }
 
 TEST_F(MainWindowTest, AMapThatWasOpenedIsAmongTheRecentOnes)
