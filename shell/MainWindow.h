@@ -21,6 +21,7 @@ class DockChoice;
 class EditActions;
 class EmptyMapHint;
 class MapCanvas;
+class MapMenu;
 class MapDocument;
 class MapSharing;
 class MapStatus;
@@ -30,6 +31,7 @@ class RecentMapsMenu;
 class ToolActions;
 class SchemeActions;
 class ThemeActions;
+class ViewActions;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -98,6 +100,8 @@ private:
     std::unique_ptr<EmptyMapHint> m_hint;
     std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<ToolActions> m_tools;
+    std::unique_ptr<ViewActions> m_views;
+    std::unique_ptr<MapMenu> m_mapMenu;
     std::unique_ptr<SchemeActions> m_schemes;
     std::unique_ptr<ThemeActions> m_themes;
     std::unique_ptr<MapSharing> m_sharing;

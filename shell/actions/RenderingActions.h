@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+#include <vector>
+
 class QMenu;
 class QWidget;
 
@@ -10,7 +12,8 @@ namespace Orvane {
 
 class MapSession;
 
-/// The command "Layer Rendering...": which attributes label and colour a layer's features.
+/// The command "Layer Rendering...": which attributes label and colour a layer's features. It is also in the
+/// menus of layers, and begins with the chosen layer.
 class RenderingActions : public QObject
 {
     Q_OBJECT
@@ -19,10 +22,10 @@ public:
     RenderingActions(QWidget& window, QMenu& menu);
 
     /// The command works on the layers of this map from now on; not owned.
-    void Use(MapSession& session) { m_session = &session; }
+    void Use(MapSession& session);
 
 private:
-    void Ask();
+    void Ask(const std::vector<qint32>& chosen);
 
     QWidget& m_window;
     MapSession* m_session = nullptr;
