@@ -12,6 +12,7 @@
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
+#include "shell/help/HelpActions.h"
 #include "shell/map/DataImport.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
@@ -78,6 +79,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    m_help = std::make_unique<HelpActions>(*this, *m_ui->menuHelp, *m_ui->actAbout);
     ShareKeys();
     using WindowPlace::Beside;
     WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);

@@ -20,6 +20,7 @@ class DataActions;
 class DockChoice;
 class EditActions;
 class EmptyMapHint;
+class HelpActions;
 class MapCanvas;
 class MapMenu;
 class MapDocument;
@@ -111,6 +112,7 @@ private:
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
     std::unique_ptr<DockChoice> m_dock;
+    std::unique_ptr<HelpActions> m_help;
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };
