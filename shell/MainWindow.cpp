@@ -42,7 +42,6 @@ namespace Orvane {
 namespace {
 
 constexpr auto MapSuffix = "orvane";
-constexpr int ShortMessageTime = 8000; // milliseconds
 
 bool IsMapFile(const QString& path)
 {

@@ -18,7 +18,7 @@ namespace Orvane {
 
 namespace {
 
-constexpr int PageWidth = 660; // pixels, of pictures
+constexpr int PageWidth = 640; // pixels, of pictures
 constexpr double HeadingGap = 16; // pixels, above a heading
 constexpr double CellPadding = 4; // pixels
 

@@ -26,7 +26,7 @@ public:
     void ShowSection(const QString& section);
     GuideBrowser& Browser() const { return *m_browser; }
 
-    QSize sizeHint() const override { return {980, 760}; }
+    QSize sizeHint() const override { return {1000, 760}; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -67,6 +67,7 @@ ViewActions::ViewActions(
         {"actZoomLayer", IconName::ZoomLayer, QT_TR_NOOP("Zoom to &Layer"),
          QT_TR_NOOP("Show all features of the layers that are chosen in the layer control"),
          Qt::CTRL | Qt::Key_L});
+    place.menu.setToolTipsVisible(true); // they tell why a command is grey
     Connect(selection);
     ShowWhatIsPossible();
 }

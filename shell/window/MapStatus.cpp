@@ -15,7 +15,6 @@ namespace Orvane {
 namespace {
 
 constexpr std::chrono::milliseconds MarkAfter{500};
-constexpr int ShortMessageTime = 8000; // milliseconds
 
 } // namespace
 

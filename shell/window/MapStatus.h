@@ -13,6 +13,9 @@ namespace Orvane {
 class MapCanvas;
 class ScaleBox;
 
+/// How long the status bar shows a message that needs no answer, in milliseconds.
+inline constexpr int ShortMessageTime = 8000;
+
 /// What the status bar shows about the map: the scale, which can be changed there, the pointer's position,
 /// and that a long drawing is running.
 class MapStatus : public QObject

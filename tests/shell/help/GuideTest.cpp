@@ -106,7 +106,7 @@ TEST(GuideBrowserTest, ShowsThePicturesOfThePage)
     const QVariant picture
         = browser.document()->resource(QTextDocument::ImageResource, QUrl("pictures/data.png"));
     EXPECT_FALSE(picture.value<QImage>().isNull());
-    EXPECT_LE(picture.value<QImage>().width(), 660);
+    EXPECT_LE(picture.value<QImage>().width(), 640);
 }
 
 TEST(GuideBrowserTest, SaysThatAPageCannotBeRead)
