@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <orvane/OrvaneShellLib/IChoiceWatch.h>
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
 #include <orvane/OrvaneShellLib/ILayerSource.h>
@@ -28,7 +29,8 @@ class ForwardingClient : public IStyleEditorClient,
                          public ISchemeManager,
                          public IMapNotes,
                          public INodeCommands,
-                         public ILayerSource
+                         public ILayerSource,
+                         public IChoiceWatch
 {
 public:
     /// client: not owned; outlives this object.
@@ -183,6 +185,13 @@ protected:
     {
         auto* source = dynamic_cast<ILayerSource*>(&m_client);
         return source ? source->Source(layerID) : QString();
+    }
+
+    /// Nothing happens if the other client does not want to know it.
+    void IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs) override
+    {
+        if (auto* watch = dynamic_cast<IChoiceWatch*>(&m_client))
+            watch->LayersChosen(form, layerIDs);
     }
 
     /// The wrapped client, for use in overrides.

@@ -13,11 +13,14 @@
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
 #include "shell/dialogs/MapFileDialog.h"
+#include "shell/help/HelpActions.h"
 #include "shell/map/DataImport.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
+#include "shell/view/MapMenu.h"
+#include "shell/view/ViewActions.h"
 #include "shell/window/DroppedFiles.h"
 #include "shell/window/EmptyMapHint.h"
 #include "shell/window/Icons.h"
@@ -39,7 +42,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int ShortMessageTime = 8000; // milliseconds
 
 bool IsMapFile(const QString& path)
 {
@@ -62,6 +64,11 @@ MainWindow::MainWindow(CallTrace* trace)
     m_data = std::make_unique<DataActions>(*m_ui->menuFile, m_ui->actOpenData, *this);
     m_recent = std::make_unique<RecentMapsMenu>(*m_ui->menuRecent, *this);
     m_tools = std::make_unique<ToolActions>(*this, Canvas(), *m_ui->menuTools, *m_ui->toolBarMap);
+    m_views = std::make_unique<ViewActions>(
+        *this, Canvas(), m_tools->Selection(),
+        ViewActions::Place{*m_ui->menuView, *m_ui->toolBar, *m_ui->actZoomAll});
+    m_mapMenu
+        = std::make_unique<MapMenu>(Canvas(), *this, MapMenu::Shared{*m_ui->actZoomAll, m_views->Previous()});
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
     m_sharing = std::make_unique<MapSharing>(*this, [this] { ShowMapAgain(); });
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
@@ -71,6 +78,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    m_help = std::make_unique<HelpActions>(*this, *m_ui->menuHelp, *m_ui->actAbout);
     ShareKeys();
     using WindowPlace::Beside;
     WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);
@@ -311,7 +319,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(
-        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock);
+        *m_edits, *m_data, *m_tools, *m_views, *m_schemes, *m_themes, *m_renderings, *m_mapMenu, *m_output,
+        *m_sharing, *m_dock);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

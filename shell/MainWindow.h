@@ -20,7 +20,9 @@ class DataActions;
 class DockChoice;
 class EditActions;
 class EmptyMapHint;
+class HelpActions;
 class MapCanvas;
+class MapMenu;
 class MapDocument;
 class MapSharing;
 class MapStatus;
@@ -30,6 +32,7 @@ class RecentMapsMenu;
 class ToolActions;
 class SchemeActions;
 class ThemeActions;
+class ViewActions;
 struct FoundData;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
@@ -97,6 +100,8 @@ private:
     std::unique_ptr<EmptyMapHint> m_hint;
     std::unique_ptr<EditActions> m_edits;
     std::unique_ptr<ToolActions> m_tools;
+    std::unique_ptr<ViewActions> m_views;
+    std::unique_ptr<MapMenu> m_mapMenu;
     std::unique_ptr<SchemeActions> m_schemes;
     std::unique_ptr<ThemeActions> m_themes;
     std::unique_ptr<MapSharing> m_sharing;
@@ -106,6 +111,7 @@ private:
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
     std::unique_ptr<DockChoice> m_dock;
+    std::unique_ptr<HelpActions> m_help;
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };

@@ -93,6 +93,7 @@ start_host dock_host /tmp/map.ovl
 step "Using Orvane"
 install_packages '/tmp/orvane_*.deb'
 inside env QT_QPA_PLATFORM=offscreen orvane --version
+inside test -s /usr/share/orvane/guide/README.md || fail "the guide is not installed"
 inside apt-get purge -y -q orvane orvane-layer-control liborvane-dev >>"$log" 2>&1 || fail "the packages stay"
 left=$(cd "$root/usr" && as_root find . -iname '*orvane*' | head -n 5)
 [ -z "$left" ] || fail "after the removal there still are: $left"

@@ -36,6 +36,10 @@
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a scale. Type one such as %2.</source>
+        <translation>„%1“ ist kein Maßstab. Geben Sie einen wie %2 ein.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not a valid page size.</source>
         <translation>„%1“ ist keine gültige Seitengröße.</translation>
     </message>
@@ -56,6 +60,14 @@
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
     </message>
     <message>
+        <source>%1 (in the map's system)</source>
+        <translation>%1 (im System der Karte)</translation>
+    </message>
+    <message>
+        <source>%1 (longitude, latitude)</source>
+        <translation>%1 (Länge, Breite)</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: Objekte %2, Ausdehnung %3</translation>
     </message>
@@ -66,6 +78,10 @@
     <message>
         <source>&amp;Colours:</source>
         <translation>&amp;Farben:</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Handbuch</translation>
     </message>
     <message>
         <source>&amp;Holds...</source>
@@ -316,6 +332,10 @@
         <translation>&amp;Neues Thema aus sichtbaren Layern...</translation>
     </message>
     <message>
+        <source>&amp;Next View</source>
+        <translation>&amp;Nächste Ansicht</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>A&amp;nzahl der Klassen:</translation>
     </message>
@@ -334,6 +354,10 @@
     <message>
         <source>&amp;Preview...</source>
         <translation>&amp;Vorschau...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous View</source>
+        <translation>V&amp;orherige Ansicht</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
@@ -416,6 +440,10 @@
         <translation>&amp;Ansicht</translation>
     </message>
     <message>
+        <source>&amp;Zoom by Rectangle</source>
+        <translation>Auf &amp;Rechteck zoomen</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
@@ -440,16 +468,36 @@
         <translation>Blautöne</translation>
     </message>
     <message>
+        <source>Centre Here</source>
+        <translation>Hier zentrieren</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
+    </message>
+    <message>
+        <source>Choose a layer in the layer control first.</source>
+        <translation>Wählen Sie zuerst einen Layer in der Layersteuerung.</translation>
     </message>
     <message>
         <source>Choose the colour under all layers</source>
         <translation>Die Farbe unter allen Layern wählen</translation>
     </message>
     <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Copy Coordinates</source>
+        <translation>Koordinaten kopieren</translation>
+    </message>
+    <message>
         <source>Delete Theme &quot;%1&quot;</source>
         <translation>Thema „%1“ löschen</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it. A click zooms in, with Ctrl out.</source>
+        <translation>Ziehen Sie ein Rechteck auf, um darauf zu zoomen. Ein Klick vergrößert, mit Strg verkleinert er.</translation>
     </message>
     <message>
         <source>Fill colours of the layer</source>
@@ -466,6 +514,10 @@
     <message>
         <source>Greys</source>
         <translation>Grautöne</translation>
+    </message>
+    <message>
+        <source>Layer Rendering...</source>
+        <translation>Layerdarstellung...</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -502,12 +554,28 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Keine Daten</translation>
     </message>
     <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangetöne</translation>
     </message>
     <message>
+        <source>Orvane Guide</source>
+        <translation>Orvane-Handbuch</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>Violetttöne</translation>
+    </message>
+    <message>
+        <source>Read about the window or the tool that is in use</source>
+        <translation>Im Handbuch über das Fenster oder Werkzeug lesen, das gerade benutzt wird</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Rename Theme</source>
@@ -518,8 +586,68 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Thema „%1“ umbenennen</translation>
     </message>
     <message>
+        <source>Scale of the map</source>
+        <translation>Maßstab der Karte</translation>
+    </message>
+    <message>
+        <source>Select features on the map first.</source>
+        <translation>Wählen Sie zuerst Objekte auf der Karte aus.</translation>
+    </message>
+    <message>
+        <source>Show all features of the layers that are chosen in the layer control</source>
+        <translation>Alle Objekte der Layer zeigen, die in der Layersteuerung gewählt sind</translation>
+    </message>
+    <message>
+        <source>Show all selected features</source>
+        <translation>Alle ausgewählten Objekte zeigen</translation>
+    </message>
+    <message>
+        <source>Show the part of the map that was shown before</source>
+        <translation>Den Teil der Karte zeigen, der vorher zu sehen war</translation>
+    </message>
+    <message>
+        <source>Show the view from which you went back</source>
+        <translation>Die Ansicht zeigen, von der aus zurückgegangen wurde</translation>
+    </message>
+    <message>
+        <source>The data of these layers are in no folder of this computer.</source>
+        <translation>Die Daten dieser Layer liegen in keinem Ordner dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be opened.</source>
+        <translation>Der Ordner „%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; cannot be read: %2</source>
+        <translation>Das Handbuch „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The guide is not installed.</source>
+        <translation>Das Handbuch ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The map has no features of the chosen layers.</source>
+        <translation>Die Karte hat keine Objekte der gewählten Layer.</translation>
+    </message>
+    <message>
+        <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
+        <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
+    </message>
+    <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>Ein Thema „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Es gibt keine frühere Ansicht.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Es gibt keine spätere Ansicht.</translation>
+    </message>
+    <message>
+        <source>These layers are in too many different folders.</source>
+        <translation>Diese Layer liegen in zu vielen verschiedenen Ordnern.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -532,6 +660,18 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Yellow to violet</source>
         <translation>Gelb nach Violett</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Layer</source>
+        <translation>Auf &amp;Layer zoomen</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selection</source>
+        <translation>Auf Auswahl &amp;zoomen</translation>
+    </message>
+    <message>
+        <source>Zoom to a rectangle that you draw; with every other tool, hold Shift and drag</source>
+        <translation>Auf ein Rechteck zoomen, das man aufzieht; mit jedem anderen Werkzeug bei gedrückter Umschalttaste ziehen</translation>
     </message>
     <message>
         <source>compared: %1</source>

@@ -36,6 +36,10 @@
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a scale. Type one such as %2.</source>
+        <translation>« %1 » n’est pas une échelle. Saisissez-en une comme %2.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not a valid page size.</source>
         <translation>« %1 » n'est pas une taille de page valide.</translation>
     </message>
@@ -56,6 +60,14 @@
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
     </message>
     <message>
+        <source>%1 (in the map's system)</source>
+        <translation>%1 (dans le système de la carte)</translation>
+    </message>
+    <message>
+        <source>%1 (longitude, latitude)</source>
+        <translation>%1 (longitude, latitude)</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1 : entités %2, étendue %3</translation>
     </message>
@@ -66,6 +78,10 @@
     <message>
         <source>&amp;Colours:</source>
         <translation>&amp;Couleurs :</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
     </message>
     <message>
         <source>&amp;Holds...</source>
@@ -316,6 +332,10 @@
         <translation>&amp;Nouveau thème à partir des couches visibles...</translation>
     </message>
     <message>
+        <source>&amp;Next View</source>
+        <translation>Vue suiva&amp;nte</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>&amp;Nombre de classes :</translation>
     </message>
@@ -334,6 +354,10 @@
     <message>
         <source>&amp;Preview...</source>
         <translation>A&amp;perçu...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous View</source>
+        <translation>Vue &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
@@ -416,6 +440,10 @@
         <translation>A&amp;ffichage</translation>
     </message>
     <message>
+        <source>&amp;Zoom by Rectangle</source>
+        <translation>&amp;Zoom par rectangle</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
@@ -440,16 +468,36 @@
         <translation>Bleus</translation>
     </message>
     <message>
+        <source>Centre Here</source>
+        <translation>Centrer ici</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Choose a layer in the layer control first.</source>
+        <translation>Choisissez d’abord une couche dans le contrôle des couches.</translation>
     </message>
     <message>
         <source>Choose the colour under all layers</source>
         <translation>Choisir la couleur sous toutes les couches</translation>
     </message>
     <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Copy Coordinates</source>
+        <translation>Copier les coordonnées</translation>
+    </message>
+    <message>
         <source>Delete Theme &quot;%1&quot;</source>
         <translation>Supprimer le thème « %1 »</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it. A click zooms in, with Ctrl out.</source>
+        <translation>Tracez un rectangle pour zoomer dessus. Un clic zoome en avant, avec Ctrl en arrière.</translation>
     </message>
     <message>
         <source>Fill colours of the layer</source>
@@ -466,6 +514,10 @@
     <message>
         <source>Greys</source>
         <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Layer Rendering...</source>
+        <translation>Rendu de la couche...</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -502,12 +554,28 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Pas de données</translation>
     </message>
     <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangés</translation>
     </message>
     <message>
+        <source>Orvane Guide</source>
+        <translation>Guide d’Orvane</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>Violets</translation>
+    </message>
+    <message>
+        <source>Read about the window or the tool that is in use</source>
+        <translation>Lire ce qui concerne la fenêtre ou l’outil en cours d’utilisation</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Rename Theme</source>
@@ -518,8 +586,68 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Renommer le thème « %1 »</translation>
     </message>
     <message>
+        <source>Scale of the map</source>
+        <translation>Échelle de la carte</translation>
+    </message>
+    <message>
+        <source>Select features on the map first.</source>
+        <translation>Sélectionnez d’abord des objets sur la carte.</translation>
+    </message>
+    <message>
+        <source>Show all features of the layers that are chosen in the layer control</source>
+        <translation>Montrer tous les objets des couches choisies dans le contrôle des couches</translation>
+    </message>
+    <message>
+        <source>Show all selected features</source>
+        <translation>Montrer tous les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Show the part of the map that was shown before</source>
+        <translation>Montrer la partie de la carte qui était affichée avant</translation>
+    </message>
+    <message>
+        <source>Show the view from which you went back</source>
+        <translation>Montrer la vue d’où l’on est revenu</translation>
+    </message>
+    <message>
+        <source>The data of these layers are in no folder of this computer.</source>
+        <translation>Les données de ces couches ne se trouvent dans aucun dossier de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be opened.</source>
+        <translation>Le dossier « %1 » ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; cannot be read: %2</source>
+        <translation>Le guide « %1 » ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>The guide is not installed.</source>
+        <translation>Le guide n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>The map has no features of the chosen layers.</source>
+        <translation>La carte n’a aucun objet des couches choisies.</translation>
+    </message>
+    <message>
+        <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
+        <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
+    </message>
+    <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>Il y a déjà un thème « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Il n’y a pas de vue antérieure.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Il n’y a pas de vue ultérieure.</translation>
+    </message>
+    <message>
+        <source>These layers are in too many different folders.</source>
+        <translation>Ces couches se trouvent dans trop de dossiers différents.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -532,6 +660,18 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Yellow to violet</source>
         <translation>Du jaune au violet</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Layer</source>
+        <translation>Zoomer sur la &amp;couche</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selection</source>
+        <translation>Zoomer sur la &amp;sélection</translation>
+    </message>
+    <message>
+        <source>Zoom to a rectangle that you draw; with every other tool, hold Shift and drag</source>
+        <translation>Zoomer sur un rectangle que l’on trace ; avec tout autre outil, tracer en maintenant Maj</translation>
     </message>
     <message>
         <source>compared: %1</source>

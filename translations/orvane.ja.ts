@@ -36,6 +36,10 @@
         <translation>「%1」が「%2」にありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a scale. Type one such as %2.</source>
+        <translation>「%1」は縮尺ではありません。%2 のように入力してください。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is not a valid page size.</source>
         <translation>「%1」は有効なページサイズではありません。</translation>
     </message>
@@ -56,6 +60,14 @@
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
     </message>
     <message>
+        <source>%1 (in the map's system)</source>
+        <translation>%1 (地図の座標系)</translation>
+    </message>
+    <message>
+        <source>%1 (longitude, latitude)</source>
+        <translation>%1 (経度, 緯度)</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: 地物 %2、範囲 %3</translation>
     </message>
@@ -66,6 +78,10 @@
     <message>
         <source>&amp;Colours:</source>
         <translation>配色(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>ガイド(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Holds...</source>
@@ -316,6 +332,10 @@
         <translation>表示中のレイヤから新しいテーマ(&amp;N)...</translation>
     </message>
     <message>
+        <source>&amp;Next View</source>
+        <translation>次の表示範囲(&amp;N)</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>階級数(&amp;N):</translation>
     </message>
@@ -334,6 +354,10 @@
     <message>
         <source>&amp;Preview...</source>
         <translation>プレビュー(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous View</source>
+        <translation>前の表示範囲(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
@@ -416,6 +440,10 @@
         <translation>表示(&amp;V)</translation>
     </message>
     <message>
+        <source>&amp;Zoom by Rectangle</source>
+        <translation>矩形でズーム(&amp;Z)</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
@@ -440,16 +468,36 @@
         <translation>青系</translation>
     </message>
     <message>
+        <source>Centre Here</source>
+        <translation>ここを中心に表示</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
+    </message>
+    <message>
+        <source>Choose a layer in the layer control first.</source>
+        <translation>先にレイヤーコントロールでレイヤーを選択してください。</translation>
     </message>
     <message>
         <source>Choose the colour under all layers</source>
         <translation>すべてのレイヤーの下の色を選びます</translation>
     </message>
     <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Copy Coordinates</source>
+        <translation>座標をコピー</translation>
+    </message>
+    <message>
         <source>Delete Theme &quot;%1&quot;</source>
         <translation>テーマ「%1」の削除</translation>
+    </message>
+    <message>
+        <source>Drag a rectangle to zoom to it. A click zooms in, with Ctrl out.</source>
+        <translation>矩形をドラッグするとその範囲にズームします。クリックで拡大、Ctrl を押しながらで縮小します。</translation>
     </message>
     <message>
         <source>Fill colours of the layer</source>
@@ -466,6 +514,10 @@
     <message>
         <source>Greys</source>
         <translation>灰色系</translation>
+    </message>
+    <message>
+        <source>Layer Rendering...</source>
+        <translation>レイヤーの描画...</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -502,12 +554,28 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>データなし</translation>
     </message>
     <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>オレンジ系</translation>
     </message>
     <message>
+        <source>Orvane Guide</source>
+        <translation>Orvane ガイド</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>紫系</translation>
+    </message>
+    <message>
+        <source>Read about the window or the tool that is in use</source>
+        <translation>使用中のウィンドウやツールの説明を読みます</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Rename Theme</source>
@@ -518,8 +586,68 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>テーマ「%1」の名前の変更</translation>
     </message>
     <message>
+        <source>Scale of the map</source>
+        <translation>地図の縮尺</translation>
+    </message>
+    <message>
+        <source>Select features on the map first.</source>
+        <translation>先に地図上で地物を選択してください。</translation>
+    </message>
+    <message>
+        <source>Show all features of the layers that are chosen in the layer control</source>
+        <translation>レイヤーコントロールで選択されたレイヤーの地物をすべて表示します</translation>
+    </message>
+    <message>
+        <source>Show all selected features</source>
+        <translation>選択された地物をすべて表示します</translation>
+    </message>
+    <message>
+        <source>Show the part of the map that was shown before</source>
+        <translation>前に表示していた範囲を表示します</translation>
+    </message>
+    <message>
+        <source>Show the view from which you went back</source>
+        <translation>戻る前に表示していた範囲を表示します</translation>
+    </message>
+    <message>
+        <source>The data of these layers are in no folder of this computer.</source>
+        <translation>これらのレイヤーのデータは、このコンピューターのフォルダーにはありません。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be opened.</source>
+        <translation>フォルダー「%1」を開けません。</translation>
+    </message>
+    <message>
+        <source>The guide &quot;%1&quot; cannot be read: %2</source>
+        <translation>ガイド「%1」を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>The guide is not installed.</source>
+        <translation>ガイドがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The map has no features of the chosen layers.</source>
+        <translation>地図に選択されたレイヤーの地物はありません。</translation>
+    </message>
+    <message>
+        <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
+        <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
+    </message>
+    <message>
         <source>There is already a theme &quot;%1&quot;.</source>
         <translation>テーマ「%1」は既にあります。</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>これより前の表示範囲はありません。</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>これより後の表示範囲はありません。</translation>
+    </message>
+    <message>
+        <source>These layers are in too many different folders.</source>
+        <translation>これらのレイヤーは多くのフォルダーに分かれています。</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -532,6 +660,18 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Yellow to violet</source>
         <translation>黄から紫</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Layer</source>
+        <translation>レイヤーの範囲にズーム(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selection</source>
+        <translation>選択した地物にズーム(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Zoom to a rectangle that you draw; with every other tool, hold Shift and drag</source>
+        <translation>描いた矩形にズームします。ほかのツールでは Shift キーを押しながらドラッグします</translation>
     </message>
     <message>
         <source>compared: %1</source>

@@ -234,6 +234,13 @@ QString TracingClient::ILayerSource_Source(qint32 layerID)
         "client.Source", [&] { return ForwardingClient::ILayerSource_Source(layerID); }, layerID);
 }
 
+void TracingClient::IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs)
+{
+    m_trace.Command(
+        "client.LayersChosen", [&] { ForwardingClient::IChoiceWatch_LayersChosen(form, layerIDs); }, Form,
+        layerIDs);
+}
+
 bool TracingClient::IStyleEditorClient_IsCodeAssigned(qint16 code)
 {
     return m_trace.Question(

@@ -62,6 +62,7 @@ protected:
     QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
     void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
     QString ILayerSource_Source(qint32 layerID) override;
+    void IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs) override;
     bool IStyleEditorClient_IsCodeAssigned(qint16 code) override;
     QString IStyleEditorClient_StyleCommandPrefix() const override;
     bool IStyleEditorClient_QuickModesAllowed() const override;

@@ -20,6 +20,9 @@ constexpr double ZoomStep = 1.5;
 constexpr double WheelNotch = 120; // eighths of a degree, as Qt reports them
 constexpr double ArrowPart = 0.2; // of the window
 constexpr std::chrono::milliseconds DrawDelay{40};
+constexpr quint64 RowGap = 700; // milliseconds; turns of the wheel in which the user does not stop to look
+constexpr int WheelRow = -1; // the others are keys
+constexpr double ClosePointScale = 10'000;
 
 QPointF ArrowDirection(int key)
 {
@@ -74,6 +77,7 @@ void MapCanvas::ShowAll(
     std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit)
 {
     m_metresPerUnit = metresPerUnit;
+    ++m_step;
     m_view = MapView::Fitting(BoundsOf(layers, backdrop.get()), size());
     m_drawSoon.stop();
     m_picture.Show(
@@ -98,6 +102,15 @@ void MapCanvas::SetView(const MapView& view)
 {
     if (view == m_view)
         return;
+    ++m_step;
+    m_row = 0;
+    ShowView(view);
+}
+
+void MapCanvas::ShowView(const MapView& view)
+{
+    if (view == m_view)
+        return;
     m_view = view;
     m_drawSoon.start();
     update();
@@ -107,6 +120,21 @@ void MapCanvas::SetView(const MapView& view)
 double MapCanvas::ScaleDenominator() const
 {
     return DenominatorOf(m_view);
+}
+
+void MapCanvas::ZoomToScale(double denominator)
+{
+    SetView(m_view.ZoomedAt(MiddlePixel(), ScaleDenominator() / denominator));
+}
+
+void MapCanvas::ZoomTo(const Box& box)
+{
+    if (box.IsEmpty())
+        return;
+    const MapView fitting = MapView::Fitting(box, size());
+    const double closest = m_view.UnitsPerPixel() * std::min(1.0, ClosePointScale / ScaleDenominator());
+    const bool isPoint = box.Width() == 0 && box.Height() == 0;
+    SetView(isPoint ? MapView(fitting.Centre(), closest, size()) : fitting);
 }
 
 void MapCanvas::ZoomToAll()
@@ -172,20 +200,30 @@ void MapCanvas::PaintOverlays(QPainter& painter)
         overlay->Paint(painter, m_view);
         painter.restore();
     }
-    if (const MapTool* tool = Tool())
+    const MapTool* tool = Tool();
+    if (tool)
         tool->Paint(painter, m_view);
+    const MapTool* shiftDragTool = m_gestures.ShiftDragTool();
+    if (shiftDragTool && shiftDragTool != tool)
+        shiftDragTool->Paint(painter, m_view);
 }
 
 void MapCanvas::resizeEvent(QResizeEvent*)
 {
-    SetView(m_view.Resized(size()));
+    ShowView(m_view.Resized(size()));
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event)
 {
     bool taken = false;
     Guard(window(), [&] { taken = m_gestures.Press(*event); });
-    if (!taken && (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton))
+    if (event->button() == Qt::RightButton)
+        m_rightPressTaken = taken;
+    else if (event->button() == Qt::BackButton)
+        emit BackPressed();
+    else if (event->button() == Qt::ForwardButton)
+        emit ForwardPressed();
+    else if (!taken && (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton))
         BeginPan(event->position());
 }
 
@@ -198,7 +236,7 @@ void MapCanvas::mouseMoveEvent(QMouseEvent* event)
         });
     }
     if (m_dragging) {
-        SetView(m_view.Panned(event->position() - m_dragFrom));
+        ShowView(m_view.Panned(event->position() - m_dragFrom));
         m_dragFrom = event->position();
     }
     emit PointerMoved(m_view.ToMap(event->position()));
@@ -222,7 +260,8 @@ void MapCanvas::mouseDoubleClickEvent(QMouseEvent* event)
 void MapCanvas::wheelEvent(QWheelEvent* event)
 {
     const double notches = event->angleDelta().y() / WheelNotch;
-    SetView(m_view.ZoomedAt(event->position(), std::pow(ZoomStep, notches)));
+    JoinRow(WheelRow, event->timestamp());
+    ShowView(m_view.ZoomedAt(event->position(), std::pow(ZoomStep, notches)));
     event->accept();
 }
 
@@ -232,17 +271,44 @@ void MapCanvas::keyPressEvent(QKeyEvent* event)
     Guard(window(), [&] { taken = m_gestures.Key(*event); });
     if (taken)
         return;
+    JoinRow(event->key(), event->timestamp());
     const QPointF direction = ArrowDirection(event->key());
     if (!direction.isNull())
-        SetView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
+        ShowView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
     else if (event->key() == Qt::Key_Home)
         ZoomToAll();
     else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)
-        ZoomIn();
+        Zoom(ZoomStep);
     else if (event->key() == Qt::Key_Minus)
-        ZoomOut();
+        Zoom(1 / ZoomStep);
     else
         QWidget::keyPressEvent(event);
+}
+
+void MapCanvas::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        if (!m_rightPressTaken)
+            emit MenuWanted(event->pos());
+        return;
+    }
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    emit MenuWanted(rect().contains(pointer) ? QPointF(pointer) : MiddlePixel());
+}
+
+// Events of one kind that follow each other at once belong to one step.
+void MapCanvas::JoinRow(int row, quint64 time)
+{
+    if (row != m_row || time > m_rowTime + RowGap)
+        ++m_step;
+    m_row = row;
+    m_rowTime = time;
+}
+
+void MapCanvas::Zoom(double factor)
+{
+    ShowView(m_view.ZoomedAt(MiddlePixel(), factor));
 }
 
 void MapCanvas::leaveEvent(QEvent*)
@@ -254,6 +320,8 @@ void MapCanvas::BeginPan(QPointF from)
 {
     m_dragging = true;
     m_dragFrom = from;
+    ++m_step;
+    m_row = 0;
     setCursor(Qt::ClosedHandCursor);
 }
 

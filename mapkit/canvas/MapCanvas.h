@@ -15,7 +15,7 @@ class MapTool;
 
 /// The widget that shows the map. Dragging pans, the wheel zooms at the pointer, a double click zooms in;
 /// arrow keys pan, + and - zoom, Home shows everything. A tool may handle some of these gestures itself; the
-/// middle button, the wheel and the arrow keys always move the map.
+/// middle button, the wheel and the arrow keys always move the map. ViewHistory leads back to earlier views.
 ///
 /// While a new picture is being drawn, the last one is shown moved and scaled, so that the map follows the
 /// pointer at once.
@@ -41,8 +41,17 @@ public:
 
     const MapView& View() const { return m_view; }
     void SetView(const MapView& view);
+    /// A number that tells which views belong together: all of one drag, of a row of wheel turns or of one
+    /// arrow key that is held down have the same number, any other change of the view has a new one. A change
+    /// of the canvas's size keeps the number.
+    quint64 Step() const { return m_step; }
     /// The n of the scale 1:n.
     double ScaleDenominator() const;
+    /// Shows the map at 1:denominator around the same centre. denominator: above 0.
+    void ZoomToScale(double denominator);
+    /// Shows the whole box with a small margin; does nothing if it is empty. A single point is shown in the
+    /// middle, at 1:10,000 or at a larger scale.
+    void ZoomTo(const Box& box);
 
     /// The picture that is drawn in the background; its signals report the drawing.
     const MapPicture& Picture() const { return m_picture; }
@@ -50,6 +59,9 @@ public:
     /// Sets the current tool; nullptr for none, then gestures only pan and zoom. Not owned.
     void SetTool(MapTool* tool);
     MapTool* Tool() const { return m_gestures.Tool(); }
+    /// Sets the tool that gets all drags with Shift, whatever the current tool is; nullptr for none. Not
+    /// owned.
+    void SetShiftDragTool(MapTool* tool) { m_gestures.SetShiftDragTool(tool); }
 
     /// Adds an overlay, painted over the map and over earlier overlays. Not owned; remove it before it is
     /// destroyed.
@@ -75,6 +87,13 @@ signals:
     void PointerMoved(QPointF map);
     /// The pointer has left the map.
     void PointerLeft();
+    /// The user wants the menu of the map at that place, in logical pixels of the canvas: by the right
+    /// button, unless the tool has used it, or by the Menu key.
+    void MenuWanted(QPointF pixel);
+    /// The back button of the mouse was pressed.
+    void BackPressed();
+    /// The forward button of the mouse was pressed.
+    void ForwardPressed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -86,9 +105,13 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void BeginPan(QPointF from);
+    void ShowView(const MapView& view);
+    void JoinRow(int row, quint64 time);
+    void Zoom(double factor);
     void ShowCursor();
     void PaintMap(QPainter& painter);
     void PaintOverlays(QPainter& painter);
@@ -101,6 +124,10 @@ private:
     double m_metresPerUnit = 1;
     QPointF m_dragFrom;
     bool m_dragging = false;
+    bool m_rightPressTaken = false; // by the tool
+    quint64 m_step = 0;
+    int m_row = 0; // the wheel, or the key, that made the view; 0 for neither
+    quint64 m_rowTime = 0; // milliseconds, of its last event
     ToolGestures m_gestures;
     std::vector<const MapOverlay*> m_overlays;
     QTimer m_drawSoon; // combines the many small steps of a drag or a wheel turn

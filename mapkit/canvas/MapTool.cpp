@@ -12,8 +12,9 @@ bool MapTool::DoubleClick(QPointF)
     return false;
 }
 
-void MapTool::RightClick(QPointF)
+bool MapTool::RightClick(QPointF)
 {
+    return false;
 }
 
 bool MapTool::DragBegin(QPointF, Qt::KeyboardModifiers)

@@ -53,8 +53,8 @@ public:
     /// The second of two clicks in one place; Click was called for the first. Return false to let the canvas
     /// handle it.
     virtual bool DoubleClick(QPointF pixel);
-    /// The right button was pressed.
-    virtual void RightClick(QPointF pixel);
+    /// The right button was pressed. Return false to let the canvas ask for its menu.
+    virtual bool RightClick(QPointF pixel);
     /// The pointer began to move with the left button down, from that pixel. Return false to let the map
     /// move, true to get calls of DragTo and DragEnd.
     virtual bool DragBegin(QPointF from, Qt::KeyboardModifiers modifiers);

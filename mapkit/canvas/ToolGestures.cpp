@@ -13,7 +13,7 @@ namespace Orvane {
 
 void ToolGestures::SetTool(MapTool* tool)
 {
-    m_state = State::Idle;
+    CancelDrag();
     const QPointer<MapTool> before = std::exchange(m_tool, tool);
     if (before)
         before->End();
@@ -26,30 +26,54 @@ MapTool* ToolGestures::Tool() const
     return m_tool;
 }
 
+void ToolGestures::SetShiftDragTool(MapTool* tool)
+{
+    m_shiftDragTool = tool;
+}
+
+MapTool* ToolGestures::ShiftDragTool() const
+{
+    return m_shiftDragTool;
+}
+
+bool ToolGestures::IsShiftDrag() const
+{
+    return m_shiftDragTool && m_modifiers.testFlag(Qt::ShiftModifier);
+}
+
+// The current tool cancels its own drag when it ends.
+void ToolGestures::CancelDrag()
+{
+    const State state = std::exchange(m_state, State::Idle);
+    if (state == State::Dragging && m_dragTool && m_dragTool != m_tool)
+        m_dragTool->End();
+}
+
 bool ToolGestures::Press(const QMouseEvent& event)
 {
-    if (!m_tool)
-        return false;
     if (event.button() == Qt::RightButton)
-        m_tool->RightClick(event.position());
+        return m_tool && m_tool->RightClick(event.position());
     if (event.button() != Qt::LeftButton)
-        return event.button() == Qt::RightButton;
-    m_state = State::Pressed;
+        return false;
     m_pressedAt = event.position();
     m_modifiers = event.modifiers();
+    if (!m_tool && !IsShiftDrag())
+        return false;
+    m_state = State::Pressed;
     return true;
 }
 
 ToolGestures::Outcome ToolGestures::Move(const QMouseEvent& event)
 {
-    if (!m_tool)
+    if (m_state == State::Pressed)
+        return BeginDrag(event);
+    MapTool* tool = m_state == State::Dragging ? m_dragTool : m_tool;
+    if (!tool)
         return Outcome::Nothing;
     if (m_state == State::Dragging)
-        m_tool->DragTo(event.position());
-    else if (m_state == State::Pressed)
-        return BeginDrag(event);
+        tool->DragTo(event.position());
     else
-        m_tool->Hover(event.position());
+        tool->Hover(event.position());
     return Outcome::Taken;
 }
 
@@ -59,21 +83,22 @@ ToolGestures::Outcome ToolGestures::BeginDrag(const QMouseEvent& event)
     if (way < QApplication::startDragDistance())
         return Outcome::Nothing;
     m_state = State::Idle;
-    if (!m_tool->DragBegin(m_pressedAt, m_modifiers))
+    m_dragTool = IsShiftDrag() ? m_shiftDragTool : m_tool;
+    if (!m_dragTool || !m_dragTool->DragBegin(m_pressedAt, m_modifiers))
         return Outcome::PanFromPress;
     m_state = State::Dragging;
-    m_tool->DragTo(event.position());
+    m_dragTool->DragTo(event.position());
     return Outcome::Taken;
 }
 
 void ToolGestures::Release(const QMouseEvent& event)
 {
-    if (!m_tool || event.button() != Qt::LeftButton)
+    if (event.button() != Qt::LeftButton)
         return;
     const State state = std::exchange(m_state, State::Idle);
-    if (state == State::Dragging)
-        m_tool->DragEnd(event.position());
-    else if (state == State::Pressed)
+    if (state == State::Dragging && m_dragTool)
+        m_dragTool->DragEnd(event.position());
+    else if (state == State::Pressed && m_tool)
         m_tool->Click(m_pressedAt, m_modifiers);
 }
 
@@ -84,7 +109,8 @@ bool ToolGestures::DoubleClick(const QMouseEvent& event)
 
 bool ToolGestures::Key(const QKeyEvent& event)
 {
-    return m_tool && m_tool->Key(event);
+    MapTool* tool = m_state == State::Dragging ? m_dragTool : m_tool;
+    return tool && tool->Key(event);
 }
 
 } // namespace Orvane

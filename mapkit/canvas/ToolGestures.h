@@ -12,7 +12,8 @@ namespace Orvane {
 class MapTool;
 
 /// Converts the mouse events of a canvas into gestures of the current tool: a click if the pointer did not
-/// move, a drag if it moved farther than the desktop's drag distance. Without a tool no event is handled.
+/// move, a drag if it moved farther than the desktop's drag distance. Drags with Shift may belong to another
+/// tool. Without a tool no event is handled.
 ///
 /// Errors that the tool raises are passed on.
 class ToolGestures
@@ -24,7 +25,12 @@ public:
     void SetTool(MapTool* tool);
     MapTool* Tool() const;
 
-    /// True when the event is the tool's.
+    /// Sets the tool that gets the drags with Shift, whatever the current tool is. Not owned; nullptr for
+    /// none.
+    void SetShiftDragTool(MapTool* tool);
+    MapTool* ShiftDragTool() const;
+
+    /// True when the event is a tool's.
     bool Press(const QMouseEvent& event);
     /// PanFromPress if a drag began that the tool does not handle.
     Outcome Move(const QMouseEvent& event);
@@ -40,9 +46,13 @@ public:
 private:
     enum class State { Idle, Pressed, Dragging };
 
+    bool IsShiftDrag() const;
+    void CancelDrag();
     Outcome BeginDrag(const QMouseEvent& event);
 
     QPointer<MapTool> m_tool;
+    QPointer<MapTool> m_shiftDragTool;
+    QPointer<MapTool> m_dragTool; // one of the two, while Dragging
     State m_state = State::Idle;
     QPointF m_pressedAt;
     Qt::KeyboardModifiers m_modifiers; // at the press

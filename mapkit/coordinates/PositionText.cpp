@@ -70,15 +70,23 @@ QString PositionText::Of(QPointF map) const
     const QLocale locale;
     if (!m_inDegrees)
         return locale.toString(map.x(), 'f', 2) + QStringLiteral("  ") + locale.toString(map.y(), 'f', 2);
+    const auto degrees = DegreesOf(map);
+    if (!degrees)
+        return {};
+    return QCoreApplication::translate("PositionText", "%1, %2", "latitude and longitude")
+        .arg(Latitude(degrees->y()), Longitude(degrees->x()));
+}
+
+std::optional<QPointF> PositionText::DegreesOf(QPointF map) const
+{
+    if (!m_inDegrees)
+        return std::nullopt;
     double x = map.x();
     double y = map.y();
     const GdalErrors quiet;
-    if (m_toDegrees && !m_toDegrees->Transform(1, &x, &y))
-        return {};
-    if (!IsOnEarth(map, x, y))
-        return {};
-    return QCoreApplication::translate("PositionText", "%1, %2", "latitude and longitude")
-        .arg(Latitude(y), Longitude(x));
+    if ((m_toDegrees && !m_toDegrees->Transform(1, &x, &y)) || !IsOnEarth(map, x, y))
+        return std::nullopt;
+    return QPointF(x, y);
 }
 
 // Outside its valid area a projection gives positions that transform back to a different place.

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class OGRCoordinateTransformation;
 
@@ -23,6 +24,9 @@ public:
     /// "48.1374° N, 11.5755° E", its parts in the order of the user's language; empty if the point is not on
     /// the earth. In map units if the system is not known.
     QString Of(QPointF map) const;
+    /// Longitude (x) and latitude (y) in degrees; nothing if the point is not on the earth, or if the system
+    /// is not known.
+    std::optional<QPointF> DegreesOf(QPointF map) const;
 
 private:
     bool IsOnEarth(QPointF map, double longitude, double latitude) const;

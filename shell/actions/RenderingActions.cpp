@@ -17,33 +17,44 @@ RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(wind
     QAction* rendering = Add(
         menu, "actLayerRendering", tr("Layer &Rendering..."),
         tr("Choose the attributes that label and colour the features of a layer"),
-        &RenderingActions::AskForRenderings);
+        [this] { AskForRenderings(m_session->Shell().ChosenLayers()); });
     Add(menu, "actMapBackground", tr("Map &Background..."), tr("Choose the colour under all layers"),
-        &RenderingActions::AskForBackground);
+        [this] { AskForBackground(); });
     connect(&menu, &QMenu::aboutToShow, this, [this, rendering] {
         Guard(&m_window, [&] { rendering->setEnabled(m_session->Document().HasLayers()); });
     });
 }
 
+void RenderingActions::Use(MapSession& session)
+{
+    m_session = &session;
+    session.Shell().AddLayerCommand(
+        {QStringLiteral("LayerRendering"), tr("Layer Rendering..."),
+         [](const std::vector<qint32>&) { return QString(); },
+         [this](const std::vector<qint32>& layerIDs) { AskForRenderings(layerIDs); }});
+}
+
 QAction* RenderingActions::Add(
-    QMenu& menu, const char* name, const QString& text, const QString& tip,
-    void (RenderingActions::*command)())
+    QMenu& menu, const char* name, const QString& text, const QString& tip, std::function<void()> command)
 {
     QAction* action = menu.addAction(text);
     action->setObjectName(QLatin1String(name));
     action->setStatusTip(tip);
-    connect(action, &QAction::triggered, this, [this, command] {
-        Guard(&m_window, [&] { (this->*command)(); });
+    connect(action, &QAction::triggered, this, [this, command = std::move(command)] {
+        Guard(&m_window, command);
     });
     return action;
 }
 
-void RenderingActions::AskForRenderings()
+// chosen: the first of these is shown first; may be empty.
+void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
 {
     MapSession& session = *m_session;
     if (session.Layers().empty())
         return;
     RenderingDialog dialog(session.Document(), session.Layers(), &m_window);
+    if (!chosen.empty())
+        dialog.Choose(chosen.front());
     if (dialog.exec() != QDialog::Accepted)
         return;
     QSet<qint32> changed;

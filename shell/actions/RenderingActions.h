@@ -3,6 +3,9 @@
 
 #include <QObject>
 
+#include <functional>
+#include <vector>
+
 class QAction;
 class QMenu;
 class QString;
@@ -12,8 +15,8 @@ namespace Orvane {
 
 class MapSession;
 
-/// The commands "Layer Rendering...": which attributes label and colour a layer's features; and "Map
-/// Background...": the colour under all layers.
+/// The commands "Layer Rendering...": which attributes label and colour a layer's features, also in the menus
+/// of layers, which begins with the chosen layer; and "Map Background...": the colour under all layers.
 class RenderingActions : public QObject
 {
     Q_OBJECT
@@ -22,13 +25,13 @@ public:
     RenderingActions(QWidget& window, QMenu& menu);
 
     /// The commands work on the layers of this map from now on; not owned.
-    void Use(MapSession& session) { m_session = &session; }
+    void Use(MapSession& session);
 
 private:
     QAction*
     Add(QMenu& menu, const char* name, const QString& text, const QString& tip,
-        void (RenderingActions::*command)());
-    void AskForRenderings();
+        std::function<void()> command);
+    void AskForRenderings(const std::vector<qint32>& chosen);
     void AskForBackground();
 
     QWidget& m_window;

@@ -61,7 +61,7 @@ void FillAttributes(QComboBox& list, const std::vector<SourceField>& fields, Att
 }
 
 // An attribute that the source no longer has stays chosen until the user chooses another.
-void Choose(QComboBox& list, const QString& attribute)
+void ChooseAttribute(QComboBox& list, const QString& attribute)
 {
     if (list.findData(attribute) < 0)
         list.addItem(attribute, attribute);
@@ -137,6 +137,13 @@ void RenderingDialog::FillLayers(const std::vector<MapLayer>& layers)
         m_ui->cmbLayer->setCurrentIndex(int(styled - sorted.begin()));
 }
 
+void RenderingDialog::Choose(qint32 layerID)
+{
+    const int index = m_ui->cmbLayer->findData(layerID);
+    if (index >= 0)
+        m_ui->cmbLayer->setCurrentIndex(index);
+}
+
 void RenderingDialog::Connect()
 {
     connect(m_ui->buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -159,8 +166,8 @@ void RenderingDialog::ShowLayer()
     const LayerRendering& shown = m_chosen.try_emplace(LayerID(), known).first->second;
     m_ui->lblStyle->setText(StyleName(m_styles[LayerID()]));
     ShowFields();
-    Choose(*m_ui->cmbLabelAttribute, shown.labelAttribute);
-    Choose(*m_ui->cmbClassAttribute, shown.classAttribute);
+    ChooseAttribute(*m_ui->cmbLabelAttribute, shown.labelAttribute);
+    ChooseAttribute(*m_ui->cmbClassAttribute, shown.classAttribute);
     m_ui->cmbDivision->setCurrentIndex(int(shown.division));
     m_ui->spnClassCount->setValue(shown.classCount);
     Choose(*m_ui->cmbRamp, shown.ramp);

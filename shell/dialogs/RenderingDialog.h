@@ -33,6 +33,9 @@ public:
     RenderingDialog(const MapDocument& document, const std::vector<MapLayer>& layers, QWidget* parent);
     ~RenderingDialog() override;
 
+    /// Shows the settings of that layer now; does nothing for a layer that is not to choose from.
+    void Choose(qint32 layerID);
+
     /// What was changed, by layer ID; layers that were not changed are left out.
     std::map<qint32, LayerRendering> Changes() const;
 

@@ -57,19 +57,29 @@ MapSession::MapSession(
         [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
     m_client.SetMapScale([this] { return m_document->HasLayers() ? m_canvas.ScaleDenominator() : 0; });
     m_client.SetLayerSource([this](qint32 layerID) { return SourceText(m_document->SourceOf(layerID)); });
-    m_client.SetLayerZoom(
-        [this](const std::vector<qint32>& layerIDs) { return !BoundsOf(layerIDs).IsEmpty(); },
-        [this](const std::vector<qint32>& layerIDs) {
-            const Box bounds = BoundsOf(layerIDs);
-            if (!bounds.IsEmpty())
-                m_canvas.SetView(MapView::Fitting(bounds, m_canvas.size()));
-        });
+    m_client.SetChoiceFollower([this] { emit ChosenLayersChanged(); });
+    AddCommands();
     Connect();
 }
 
 MapSession::~MapSession()
 {
     m_canvas.SetBackdrop(nullptr);
+}
+
+void MapSession::AddCommands()
+{
+    m_client.AddLayerCommand(
+        {QStringLiteral("ZoomToLayer"), tr("Zoom to Layer"),
+         [this](const std::vector<qint32>& layerIDs) {
+             return HasFeatures(layerIDs) ? QString() : tr("The map has no features of these layers.");
+         },
+         [this](const std::vector<qint32>& layerIDs) { ZoomTo(layerIDs); }});
+}
+
+void MapSession::ZoomTo(const std::vector<qint32>& layerIDs)
+{
+    m_canvas.ZoomTo(BoundsOf(layerIDs));
 }
 
 Box MapSession::BoundsOf(const std::vector<qint32>& layerIDs) const

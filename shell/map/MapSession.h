@@ -53,6 +53,11 @@ public:
     /// Returns the scheme; nothing if the map was not changed. Raises errors of the database.
     std::optional<QString> ApplySchemeAtOpening();
 
+    /// True if the map has features of these layers; those that are hidden count too.
+    bool HasFeatures(const std::vector<qint32>& layerIDs) const { return !BoundsOf(layerIDs).IsEmpty(); }
+    /// Shows all features of these layers; does nothing if there are none.
+    void ZoomTo(const std::vector<qint32>& layerIDs);
+
     /// Which part of the map is shown after reading.
     enum class View { Stays, All };
 
@@ -78,9 +83,12 @@ signals:
     void StepNotRecorded(const QString& reason);
     /// All layers were read again.
     void LayersRead();
+    /// The user has chosen other layers: ShellClient::ChosenLayers.
+    void ChosenLayersChanged();
 
 private:
     void Connect();
+    void AddCommands();
     void ConnectLayerNews(const HostNotifications& events);
     void ReadNews();
     struct OpenedBackdrop {

@@ -10,6 +10,8 @@
 
 #include <QScreen>
 
+#include <algorithm>
+
 namespace Orvane {
 
 namespace {
@@ -168,6 +170,8 @@ void ShellClient::IStyleEditorClient_EditorClosed(QWidget* form)
     const QString editorID = EditorIDOf(form);
     if (m_editors.remove(editorID) && form->isWindow())
         m_places.insert(editorID, form->pos());
+    if (editorID == m_choiceOf)
+        TakeChoice({});
     if (EditorDock* dock = DockOf(editorID))
         dock->EditorClosed(form);
     StandardClient::IStyleEditorClient_EditorClosed(form);
@@ -188,29 +192,54 @@ QString ShellClient::ILayerSource_Source(qint32 layerID)
     return m_sourceOf ? m_sourceOf(layerID) : QString();
 }
 
-void ShellClient::SetLayerZoom(
-    std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
-    std::function<void(const std::vector<qint32>& layerIDs)> zoom)
+void ShellClient::AddLayerCommand(LayerCommand command)
 {
-    m_canZoom = std::move(canZoom);
-    m_zoom = std::move(zoom);
+    m_commands.push_back(std::move(command));
+}
+
+const LayerCommand& ShellClient::CommandOf(const QString& id) const
+{
+    return *std::find_if(
+        m_commands.begin(), m_commands.end(), [&](const LayerCommand& command) { return command.id == id; });
+}
+
+void ShellClient::SetChoiceFollower(std::function<void()> follow)
+{
+    m_followChoice = std::move(follow);
+}
+
+void ShellClient::TakeChoice(std::vector<qint32> layerIDs)
+{
+    if (layerIDs == m_chosen)
+        return;
+    m_chosen = std::move(layerIDs);
+    if (m_followChoice)
+        m_followChoice();
+}
+
+void ShellClient::IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs)
+{
+    m_choiceOf = EditorIDOf(form);
+    TakeChoice(layerIDs);
 }
 
 std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
 {
-    if (!m_zoom)
-        return {};
-    return {{QStringLiteral("ZoomToLayer"), tr("Zoom to Layer")}};
+    std::vector<NodeCommand> commands;
+    commands.reserve(m_commands.size());
+    for (const LayerCommand& command : m_commands)
+        commands.push_back({command.id, command.text});
+    return commands;
 }
 
-QString ShellClient::INodeCommands_WhyNot(const QString&, const std::vector<qint32>& layerIDs)
+QString ShellClient::INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs)
 {
-    return m_canZoom(layerIDs) ? QString() : tr("The map has no features of these layers.");
+    return CommandOf(id).whyNot(layerIDs);
 }
 
-void ShellClient::INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>& layerIDs)
+void ShellClient::INodeCommands_Run(QWidget*, const QString& id, const std::vector<qint32>& layerIDs)
 {
-    m_zoom(layerIDs);
+    CommandOf(id).run(layerIDs);
 }
 
 } // namespace Orvane

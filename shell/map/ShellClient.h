@@ -2,7 +2,9 @@
 #pragma once
 
 #include "hostkit/StandardClient.h"
+#include "shell/map/LayerCommand.h"
 
+#include <OrvaneShellLib/IChoiceWatch.h>
 #include <OrvaneShellLib/ILayerSource.h>
 #include <OrvaneShellLib/IMapScale.h>
 
@@ -21,7 +23,7 @@ class LayerStates;
 
 /// Orvane's application object for the component: the standard client, which also keeps the editors' windows
 /// beside the map.
-class ShellClient : public StandardClient, public IMapScale, public ILayerSource
+class ShellClient : public StandardClient, public IMapScale, public ILayerSource, public IChoiceWatch
 {
     Q_DECLARE_TR_FUNCTIONS(ShellClient)
 
@@ -48,10 +50,15 @@ public:
     void SetMapScale(std::function<double()> scale);
     /// Sets the function that returns where a layer's data are; without it none has a source.
     void SetLayerSource(std::function<QString(qint32 layerID)> sourceOf);
-    /// Sets what the command "Zoom to Layer" does. canZoom: whether the map has features of these layers.
-    void SetLayerZoom(
-        std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
-        std::function<void(const std::vector<qint32>& layerIDs)> zoom);
+    /// Adds a command at the end of those for layers.
+    void AddLayerCommand(LayerCommand command);
+    /// The commands for layers, in the order of the menus.
+    const std::vector<LayerCommand>& LayerCommands() const { return m_commands; }
+
+    /// The layers that the user has chosen last in an editor that is still open; each once.
+    const std::vector<qint32>& ChosenLayers() const { return m_chosen; }
+    /// Sets the function to call when ChosenLayers returns others than before.
+    void SetChoiceFollower(std::function<void()> follow);
     /// The ID of the editor that asked for a new layer, during the notification LayerCreated; empty for none.
     const QString& CreatingEditor() const { return m_creatingEditor; }
 
@@ -69,13 +76,16 @@ protected:
     QString IStyleEditorClient_ThemeName(QWidget* form) const override;
     double IMapScale_CurrentScale() const override;
     QString ILayerSource_Source(qint32 layerID) override;
-    /// "Zoom to Layer", if it was set what that does.
+    void IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs) override;
+    /// The commands for layers.
     std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
     QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
     void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
 
 private:
     EditorDock* DockOf(const QString& editorID) const;
+    const LayerCommand& CommandOf(const QString& id) const;
+    void TakeChoice(std::vector<qint32> layerIDs);
     void PlaceWindow(QWidget& form, const QString& editorID);
     void TakeOutOfDock(QWidget& form);
 
@@ -90,8 +100,10 @@ private:
     std::function<qint32(QWidget*)> m_makeLayer;
     std::function<double()> m_mapScale;
     std::function<QString(qint32)> m_sourceOf;
-    std::function<bool(const std::vector<qint32>&)> m_canZoom;
-    std::function<void(const std::vector<qint32>&)> m_zoom;
+    std::vector<LayerCommand> m_commands;
+    std::vector<qint32> m_chosen;
+    QString m_choiceOf; // ID of the editor in which they are chosen
+    std::function<void()> m_followChoice;
     QString m_creatingEditor;
 };
 

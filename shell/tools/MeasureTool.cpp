@@ -73,9 +73,12 @@ bool MeasureTool::DoubleClick(QPointF)
     return true;
 }
 
-void MeasureTool::RightClick(QPointF)
+bool MeasureTool::RightClick(QPointF)
 {
-    Finish();
+    const bool ends = !m_finished && !m_vertices.empty();
+    if (ends)
+        Finish();
+    return ends;
 }
 
 void MeasureTool::Hover(QPointF pixel)

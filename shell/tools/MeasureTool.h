@@ -36,7 +36,7 @@ public:
     void End() override { Forget(); }
     void Click(QPointF pixel, Qt::KeyboardModifiers modifiers) override;
     bool DoubleClick(QPointF pixel) override;
-    void RightClick(QPointF pixel) override;
+    bool RightClick(QPointF pixel) override;
     void Hover(QPointF pixel) override;
     bool Key(const QKeyEvent& event) override;
     void Paint(QPainter& painter, const MapView& view) const override;

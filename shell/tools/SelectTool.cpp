@@ -6,15 +6,10 @@
 
 #include <QKeyEvent>
 #include <QLocale>
-#include <QPainter>
-
-#include <utility>
 
 namespace Orvane {
 
 namespace {
-
-constexpr int BandOpacity = 50; // of 255
 
 FeatureKey KeyOf(const Hit& hit)
 {
@@ -48,26 +43,25 @@ void SelectTool::Click(QPointF pixel, Qt::KeyboardModifiers modifiers)
 
 bool SelectTool::DragBegin(QPointF from, Qt::KeyboardModifiers modifiers)
 {
-    m_band = QRectF(from, from);
+    m_band.Begin(from);
     m_adding = modifiers.testFlag(Qt::ControlModifier);
     return true;
 }
 
 void SelectTool::DragTo(QPointF pixel)
 {
-    if (m_band)
-        m_band->setBottomRight(pixel);
+    m_band.Follow(pixel);
     m_canvas.update();
 }
 
 void SelectTool::DragEnd(QPointF pixel)
 {
-    if (!m_band)
-        return;
     DragTo(pixel);
-    const QRectF band = std::exchange(m_band, std::nullopt)->normalized();
+    const auto band = m_band.Take();
+    if (!band)
+        return;
     FeatureKeys keys;
-    for (const Hit& hit : Search().Within(band))
+    for (const Hit& hit : Search().Within(*band))
         keys.insert(KeyOf(hit));
     if (m_adding)
         m_selection.Add(keys);
@@ -83,7 +77,7 @@ bool SelectTool::Key(const QKeyEvent& event)
 {
     if (event.key() != Qt::Key_Escape)
         return false;
-    if (!std::exchange(m_band, std::nullopt))
+    if (!m_band.Take())
         m_selection.Clear();
     m_canvas.update();
     emit StatusChanged({});
@@ -92,13 +86,7 @@ bool SelectTool::Key(const QKeyEvent& event)
 
 void SelectTool::Paint(QPainter& painter, const MapView&) const
 {
-    if (!m_band)
-        return;
-    QColor colour = m_canvas.palette().color(QPalette::Highlight);
-    painter.setPen(QPen(colour, 1, Qt::DashLine));
-    colour.setAlpha(BandOpacity);
-    painter.setBrush(colour);
-    painter.drawRect(m_band->normalized());
+    m_band.Paint(painter, m_canvas.palette());
 }
 
 ToolSearch SelectTool::Search() const

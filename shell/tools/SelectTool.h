@@ -2,11 +2,8 @@
 #pragma once
 
 #include "mapkit/canvas/MapTool.h"
+#include "mapkit/canvas/RubberBand.h"
 #include "shell/tools/ToolRules.h"
-
-#include <QRectF>
-
-#include <optional>
 
 namespace Orvane {
 
@@ -24,7 +21,7 @@ public:
     SelectTool(MapCanvas& canvas, FeatureSelection& selection);
 
     QCursor Cursor() const override { return Qt::PointingHandCursor; }
-    void End() override { m_band.reset(); }
+    void End() override { m_band.Take(); }
     void Click(QPointF pixel, Qt::KeyboardModifiers modifiers) override;
     bool DoubleClick(QPointF) override { return true; }
     bool DragBegin(QPointF from, Qt::KeyboardModifiers modifiers) override;
@@ -39,7 +36,7 @@ private:
 
     MapCanvas& m_canvas;
     FeatureSelection& m_selection;
-    std::optional<QRectF> m_band; // pixels, from its first corner; none while nothing is dragged
+    RubberBand m_band;
     bool m_adding = false;
 };
 

@@ -64,6 +64,7 @@ struct ToolActions::Command {
 ToolActions::ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QToolBar& toolBar)
     : m_window(window), m_canvas(canvas), m_menu(menu), m_toolBar(toolBar),
       m_selected(canvas, SelectedColour), m_identified(canvas, IdentifiedColour), m_hover(canvas),
+      m_zoom(canvas),
       m_identify(canvas, [this](const std::vector<FeatureKey>& keys) { return ReadAttributes(keys); }),
       m_select(canvas, m_selection), m_measureLine(canvas, MeasureTool::Kind::Line),
       m_measureArea(canvas, MeasureTool::Kind::Area),
@@ -88,6 +89,7 @@ ToolActions::ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QT
 ToolActions::~ToolActions()
 {
     m_canvas.SetTool(nullptr);
+    m_canvas.SetShiftDragTool(nullptr);
 }
 
 void ToolActions::Use(MapSession& session)
@@ -120,6 +122,11 @@ void ToolActions::AddTools()
          QT_TR_NOOP("Drag the map, zoom with the wheel"), Qt::Key_1},
         nullptr);
     AddTool(
+        {"actZoomRectangle", IconName::ZoomRectangle, QT_TR_NOOP("&Zoom by Rectangle"),
+         QT_TR_NOOP("Zoom to a rectangle that you draw; with every other tool, hold Shift and drag"),
+         Qt::Key_8},
+        &m_zoom);
+    AddTool(
         {"actIdentify", IconName::Identify, QT_TR_NOOP("&Identify"),
          QT_TR_NOOP("Show the attributes of features of enquirable layers"), Qt::Key_2},
         &m_identify);
@@ -140,6 +147,7 @@ void ToolActions::AddTools()
          QT_TR_NOOP("Move a feature of an unlocked layer by dragging it"), Qt::Key_6},
         &m_move);
     m_group->actions().first()->setChecked(true);
+    m_canvas.SetShiftDragTool(&m_zoom);
 }
 
 QAction* ToolActions::AddCommand(const Command& command)
@@ -167,8 +175,10 @@ void ToolActions::AddTool(const Command& command, MapTool* tool)
         m_status->SetText({});
         m_canvas.SetTool(tool);
     });
-    if (tool)
-        connect(tool, &MapTool::StatusChanged, m_status, &StatusText::SetText);
+    if (!tool)
+        return;
+    tool->setObjectName(action->objectName());
+    connect(tool, &MapTool::StatusChanged, m_status, &StatusText::SetText);
 }
 
 void ToolActions::AddToggles()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/canvas/ZoomTool.h"
 #include "shell/features/FeatureSelection.h"
 #include "shell/features/Highlight.h"
 #include "shell/tools/HoverHighlight.h"
@@ -66,6 +67,7 @@ private:
     Highlight m_selected;
     Highlight m_identified;
     HoverHighlight m_hover;
+    ZoomTool m_zoom;
     IdentifyTool m_identify;
     SelectTool m_select;
     MeasureTool m_measureLine;

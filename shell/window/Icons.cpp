@@ -14,6 +14,7 @@ namespace {
 
 constexpr int Size = 24; // of the drawing below; scaled for sharper screens
 constexpr int Sharpness = 3;
+constexpr QRgb SelectionColour = 0xffffc400;
 constexpr std::array<QRgb, 3> LayerColours = {0xff7fb0cc, 0xffb6d0a4, 0xfff0dfbd}; // bottom first
 
 QPolygonF Sheet(double top)
@@ -49,6 +50,55 @@ void PaintFrame(QPainter& painter)
         painter.drawPolyline(QPolygonF{corner + QPointF(in, 0), corner, corner + QPointF(0, down)});
     }
     painter.drawEllipse(QPointF(12, 12), 4, 4);
+}
+
+// The corners of a frame around what is to be shown.
+void PaintCorners(QPainter& painter)
+{
+    for (const QPointF corner : {QPointF(2, 2), QPointF(22, 2), QPointF(2, 22), QPointF(22, 22)}) {
+        const double in = corner.x() < Size / 2.0 ? 4 : -4;
+        const double down = corner.y() < Size / 2.0 ? 4 : -4;
+        painter.drawPolyline(QPolygonF{corner + QPointF(in, 0), corner, corner + QPointF(0, down)});
+    }
+}
+
+void PaintZoomLayer(QPainter& painter)
+{
+    PaintCorners(painter);
+    painter.translate(12, 12);
+    painter.scale(0.62, 0.62);
+    painter.translate(-12, -12);
+    PaintLayers(painter);
+}
+
+void PaintZoomSelection(QPainter& painter)
+{
+    PaintCorners(painter);
+    painter.setBrush(QColor(SelectionColour));
+    painter.drawPolygon(QPolygonF{{7, 9}, {12, 6}, {18, 10}, {16, 17}, {8, 16}});
+}
+
+void PaintZoomRectangle(QPainter& painter)
+{
+    QPen dashed = painter.pen();
+    const QPen solid = dashed;
+    dashed.setDashPattern({2, 2});
+    painter.setPen(dashed);
+    painter.drawRect(QRectF(2, 3, 14, 11));
+    painter.setPen(solid);
+    painter.translate(8, 8);
+    painter.scale(0.68, 0.68);
+    PaintLens(painter, false, true);
+}
+
+void PaintViewStep(QPainter& painter, bool right)
+{
+    if (right) {
+        painter.translate(Size, 0);
+        painter.scale(-1, 1);
+    }
+    painter.drawLine(QPointF(4, 12), QPointF(20, 12));
+    painter.drawPolyline(QPolygonF{{11, 5}, {4, 12}, {11, 19}});
 }
 
 void PaintPage(QPainter& painter)
@@ -193,6 +243,16 @@ void Paint(QPainter& painter, IconName name)
         return PaintLens(painter, true, false);
     case IconName::ZoomAll:
         return PaintFrame(painter);
+    case IconName::ZoomLayer:
+        return PaintZoomLayer(painter);
+    case IconName::ZoomSelection:
+        return PaintZoomSelection(painter);
+    case IconName::ZoomRectangle:
+        return PaintZoomRectangle(painter);
+    case IconName::PreviousView:
+        return PaintViewStep(painter, false);
+    case IconName::NextView:
+        return PaintViewStep(painter, true);
     case IconName::LayerControl:
         return PaintLayers(painter);
     case IconName::Undo:

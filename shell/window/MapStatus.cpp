@@ -2,7 +2,7 @@
 #include "shell/window/MapStatus.h"
 
 #include "mapkit/canvas/MapCanvas.h"
-#include "mapkit/drawing/ScaleText.h"
+#include "shell/window/ScaleBox.h"
 
 #include <QLabel>
 #include <QStatusBar>
@@ -15,16 +15,17 @@ namespace Orvane {
 namespace {
 
 constexpr std::chrono::milliseconds MarkAfter{500};
-constexpr double WidestScale = 8'888'000'000;
 
 } // namespace
 
 MapStatus::MapStatus(QStatusBar& bar, MapCanvas& canvas)
     : QObject(&bar), m_bar(bar), m_canvas(canvas), m_drawing(AddLabel(QStringLiteral("lblDrawing"))),
-      m_position(AddLabel(QStringLiteral("lblPosition"))), m_scale(AddLabel(QStringLiteral("lblScale")))
+      m_position(AddLabel(QStringLiteral("lblPosition"))), m_scale(new ScaleBox(canvas, &bar))
 {
-    m_scale->setMinimumWidth(m_scale->fontMetrics().horizontalAdvance(ScaleText(WidestScale)));
-    connect(&canvas, &MapCanvas::ViewChanged, this, &MapStatus::ShowScale);
+    bar.addPermanentWidget(m_scale);
+    connect(m_scale, &ScaleBox::Refused, this, [this](const QString& reason) {
+        m_bar.showMessage(reason, ShortMessageTime);
+    });
     connect(&canvas, &MapCanvas::PointerMoved, this, [this](QPointF map) {
         m_position->setText(m_positionText.Of(map));
     });
@@ -34,7 +35,7 @@ MapStatus::MapStatus(QStatusBar& bar, MapCanvas& canvas)
 void MapStatus::SetSystem(const QString& system)
 {
     m_positionText = PositionText(system);
-    ShowScale();
+    m_scale->ShowScale();
 }
 
 QLabel* MapStatus::AddLabel(const QString& name)
@@ -57,11 +58,6 @@ void MapStatus::MarkDrawing()
         mark->stop();
         m_drawing->clear();
     });
-}
-
-void MapStatus::ShowScale()
-{
-    m_scale->setText(ScaleText(m_canvas.ScaleDenominator()));
 }
 
 } // namespace Orvane

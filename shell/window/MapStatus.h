@@ -11,9 +11,13 @@ class QStatusBar;
 namespace Orvane {
 
 class MapCanvas;
+class ScaleBox;
 
-/// What the status bar shows about the map: the scale, the pointer's position, and that a long drawing is
-/// running.
+/// How long the status bar shows a message that needs no answer, in milliseconds.
+inline constexpr int ShortMessageTime = 8000;
+
+/// What the status bar shows about the map: the scale, which can be changed there, the pointer's position,
+/// and that a long drawing is running.
 class MapStatus : public QObject
 {
     Q_OBJECT
@@ -28,14 +32,12 @@ public:
 private:
     QLabel* AddLabel(const QString& name);
     void MarkDrawing();
-    void ShowScale();
-
     QStatusBar& m_bar;
     MapCanvas& m_canvas;
     PositionText m_positionText{QString()};
     QLabel* m_drawing;
     QLabel* m_position;
-    QLabel* m_scale;
+    ScaleBox* m_scale;
 };
 
 } // namespace Orvane

@@ -121,6 +121,28 @@ TEST_F(Forwarding, TheSourceOfALayerIsThatOfTheOtherClient)
     EXPECT_EQ(outer.Source(17), "17.shp");
 }
 
+TEST_F(Forwarding, TheOtherClientLearnsWhichLayersAreChosen)
+{
+    class WatchingClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+        std::vector<qint32> chosen;
+
+    private:
+        void IChoiceWatch_LayersChosen(QWidget*, const std::vector<qint32>& layerIDs) override
+        {
+            chosen = layerIDs;
+        }
+    };
+    client.LayersChosen(nullptr, {17});
+    EXPECT_THAT(host.Calls(), IsEmpty()) << "it does not want to know it";
+    WatchingClient watching(host);
+    ForwardingClient outer(static_cast<IStyleEditorClient&>(watching));
+    outer.LayersChosen(nullptr, {17, 18});
+    EXPECT_THAT(watching.chosen, ElementsAre(17, 18));
+}
+
 TEST_F(Forwarding, AClientWithoutAWindowForSchemesHasNone)
 {
     EXPECT_FALSE(client.CanManageSchemes());

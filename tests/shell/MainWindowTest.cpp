@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QMenu>
@@ -105,8 +106,9 @@ TEST_F(MainWindowTest, OpensAMapAndShowsAllOfIt)
     const Box shown = m_window->Canvas().View().Extent();
     EXPECT_LT(shown.minX, 0);
     EXPECT_GT(shown.maxX, 10);
-    EXPECT_TRUE(Label("lblScale").startsWith("1:"));
-    EXPECT_EQ(Label("lblScale"), ScaleText(m_window->Canvas().ScaleDenominator()));
+    const QString scale = m_window->findChild<QComboBox*>("cmbScale")->currentText();
+    EXPECT_TRUE(scale.startsWith("1:"));
+    EXPECT_EQ(scale, ScaleText(m_window->Canvas().ScaleDenominator()));
 }
 
 TEST_F(MainWindowTest, AMapThatWasOpenedIsAmongTheRecentOnes)

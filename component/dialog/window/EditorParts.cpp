@@ -16,7 +16,7 @@ namespace Orvane {
 
 EditorParts::EditorParts(QDialog& form, Ui::frmLayerStyles& ui)
     : geometry(form), layout(form, ui), trees(ui.tvLayers1, ui.tvLayers2),
-      showing(trees, *ui.tvLayers1, *ui.tvLayers2),
+      showing(trees, *ui.tvLayers1, *ui.tvLayers2), choice(trees, form),
       find(form, trees, {ui.txtFind1, ui.lblFound1, ui.tvLayers1}, {ui.txtFind2, ui.lblFound2, ui.tvLayers2}),
       pasting(trees, showing, panel, {ui.tvLayers1, ui.tvLayers2}),
       quickModes(*ui.mstbQuickMode, {ui.Normal, ui.Backdrop, ui.Hidden}),

@@ -5,6 +5,7 @@
 #include "component/dialog/panel/SliderPopup.h"
 #include "component/dialog/pasting/SettingsPasting.h"
 #include "component/dialog/place/WindowGeometry.h"
+#include "component/dialog/showing/ChoiceTeller.h"
 #include "component/dialog/showing/LayerShowing.h"
 #include "component/dialog/trees/LayerTrees.h"
 #include "component/dialog/window/EditorLayout.h"
@@ -38,6 +39,7 @@ public:
     EditorLayout layout;
     LayerTrees trees;
     LayerShowing showing;
+    ChoiceTeller choice;
     FindFields find;
     PropertyPanel panel;
     SettingsPasting pasting;

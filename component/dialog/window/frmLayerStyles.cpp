@@ -234,6 +234,7 @@ void frmLayerStyles::ShowTab(ListTab tab)
     m_tab = tab;
     m_selection->SetTab(tab);
     m_parts->layout.ShowTab(tab);
+    m_parts->choice.TellSoon();
     if (leavesNode)
         m_selection->SetModified(false); // or reading the list would ask about another tab's edits
     FirstError errors;

@@ -4,6 +4,7 @@
 #include "hosts/MemoryHost.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
+#include <OrvaneShellLib/IChoiceWatch.h>
 #include <OrvaneShellLib/IConflictQuestion.h>
 #include <OrvaneShellLib/IEditorWatch.h>
 #include <OrvaneShellLib/ILayerSource.h>
@@ -53,6 +54,7 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_EQ(HostInterface<IMapNotes>(), nullptr);
     EXPECT_EQ(HostInterface<INodeCommands>(), nullptr);
     EXPECT_EQ(HostInterface<ILayerSource>(), nullptr);
+    EXPECT_EQ(HostInterface<IChoiceWatch>(), nullptr);
     Use(m_client, IManyLayers::ContractMinor);
     EXPECT_NE(HostInterface<IManyLayers>(), nullptr);
     Use(m_client, IMapScale::ContractMinor);
@@ -61,6 +63,8 @@ TEST_F(HostInterfaces, AreFoundInAHostOfTheVersionThatAddedThem)
     EXPECT_NE(HostInterface<ISchemeManager>(), nullptr);
     EXPECT_NE(HostInterface<IMapNotes>(), nullptr);
     EXPECT_NE(HostInterface<INodeCommands>(), nullptr);
+    Use(m_client, IChoiceWatch::ContractMinor);
+    EXPECT_NE(HostInterface<IChoiceWatch>(), nullptr);
     Use(m_client, ILayerSource::ContractMinor);
     EXPECT_NE(HostInterface<ILayerSource>(), nullptr);
 }

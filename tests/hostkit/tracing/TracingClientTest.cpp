@@ -176,6 +176,12 @@ TEST_F(ClientTrace, ShowsTheSourceOfALayer)
     EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.Source(17) -> \"\"")));
 }
 
+TEST_F(ClientTrace, ShowsTheChosenLayers)
+{
+    dynamic_cast<IChoiceWatch&>(Client()).LayersChosen(nullptr, {17, 18});
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("client.LayersChosen(form, [17, 18])")));
+}
+
 TEST_F(ClientTrace, ShowsTheWindowForSchemes)
 {
     dynamic_cast<ISchemeManager&>(Client()).ManageSchemes(nullptr);

@@ -41,7 +41,11 @@ public:
         notes.push_back("double click");
         return takesAll;
     }
-    void RightClick(QPointF) override { notes.push_back("right click"); }
+    bool RightClick(QPointF) override
+    {
+        notes.push_back("right click");
+        return takesAll;
+    }
     bool DragBegin(QPointF from, Qt::KeyboardModifiers) override
     {
         notes.push_back("drag from " + std::to_string(int(from.x())));
@@ -97,6 +101,44 @@ protected:
 };
 
 } // namespace
+
+TEST_F(MapToolTest, ARightClickThatTheToolDoesNotUseAsksForTheMenu)
+{
+    QSignalSpy wanted(&m_canvas, &MapCanvas::MenuWanted);
+    QTest::mouseClick(m_canvas.windowHandle(), Qt::RightButton, {}, {50, 60});
+    EXPECT_EQ(wanted.size(), 0);
+    m_tool.takesAll = false;
+    QTest::mouseClick(m_canvas.windowHandle(), Qt::RightButton, {}, {50, 60});
+    ASSERT_EQ(wanted.size(), 1);
+    EXPECT_EQ(wanted.first().first().toPointF(), QPointF(50, 60));
+}
+
+TEST_F(MapToolTest, ARightClickWithoutAToolAsksForTheMenu)
+{
+    m_canvas.SetTool(nullptr);
+    const QSignalSpy wanted(&m_canvas, &MapCanvas::MenuWanted);
+    QTest::mouseClick(m_canvas.windowHandle(), Qt::RightButton, {}, {50, 60});
+    EXPECT_EQ(wanted.size(), 1);
+}
+
+TEST_F(MapToolTest, TheMenuKeyAsksForTheMenuOnTheMap)
+{
+    QSignalSpy wanted(&m_canvas, &MapCanvas::MenuWanted);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {0, 0}, {0, 0});
+    QApplication::sendEvent(&m_canvas, &event);
+    ASSERT_EQ(wanted.size(), 1);
+    EXPECT_TRUE(m_canvas.rect().contains(wanted.first().first().toPointF().toPoint()));
+}
+
+TEST_F(MapToolTest, TheSideButtonsOfTheMouseGoBackAndForward)
+{
+    const QSignalSpy back(&m_canvas, &MapCanvas::BackPressed);
+    const QSignalSpy forward(&m_canvas, &MapCanvas::ForwardPressed);
+    QTest::mouseClick(&m_canvas, Qt::BackButton, {}, {50, 50});
+    EXPECT_EQ(back.size(), 1);
+    QTest::mouseClick(&m_canvas, Qt::ForwardButton, {}, {50, 50});
+    EXPECT_EQ(forward.size(), 1);
+}
 
 TEST_F(MapToolTest, AClickReachesTheToolWithItsModifiers)
 {

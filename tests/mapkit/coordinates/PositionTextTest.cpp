@@ -44,4 +44,15 @@ TEST(PositionText, WritesMapUnitsWhereTheSystemIsNotKnown)
     EXPECT_EQ(PositionText("").Of({1.5, 2.25}), "1.50  2.25");
 }
 
+TEST(PositionText, GivesTheDegreesOfAPoint)
+{
+    EXPECT_EQ(PositionText("EPSG:4326").DegreesOf({11.5, 48.25}), QPointF(11.5, 48.25));
+    const auto munich = PositionText("EPSG:3857").DegreesOf({1288576.17, 6129702.78});
+    ASSERT_TRUE(munich);
+    EXPECT_NEAR(munich->x(), 11.5755, 1e-4);
+    EXPECT_NEAR(munich->y(), 48.1374, 1e-4);
+    EXPECT_FALSE(PositionText("EPSG:4326").DegreesOf({200, 0}));
+    EXPECT_FALSE(PositionText("").DegreesOf({1, 2}));
+}
+
 } // namespace Orvane

@@ -177,4 +177,13 @@ TEST_F(RenderingDialogTest, OkAcceptsAndEscapeRejects)
     EXPECT_FALSE(m_dialog->isVisible());
 }
 
+TEST_F(RenderingDialogTest, ShowsTheLayerThatItIsOpenedFor)
+{
+    Open();
+    m_dialog->Choose(m_layers.at(1).layerID);
+    EXPECT_EQ(Find("cmbLayer").currentText(), "Apple");
+    m_dialog->Choose(4711);
+    EXPECT_EQ(Find("cmbLayer").currentText(), "Apple");
+}
+
 } // namespace Orvane

@@ -74,6 +74,19 @@ TEST_F(ShellClientTest, ThereIsNoMapScaleWithoutAMap)
     EXPECT_EQ(map.CurrentScale(), 25000);
 }
 
+TEST_F(ShellClientTest, TheChosenLayersAreThoseOfTheEditorAsLongAsItIsOpen)
+{
+    int changes = 0;
+    m_client.SetChoiceFollower([&] { ++changes; });
+    ShowForm();
+    static_cast<IChoiceWatch&>(m_client).LayersChosen(&m_form, {3, 4});
+    EXPECT_EQ(m_client.ChosenLayers(), (std::vector<qint32>{3, 4}));
+    EXPECT_EQ(changes, 1);
+    static_cast<IStyleEditorClient&>(m_client).EditorClosed(&m_form);
+    EXPECT_TRUE(m_client.ChosenLayers().empty());
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(ShellClientTest, AnEditorThatIsGoneCannotBeRaisedAndThatIsHarmless)
 {
     m_client.RaiseEditor("");

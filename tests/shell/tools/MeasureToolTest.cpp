@@ -192,4 +192,13 @@ TEST_F(MeasureToolTest, OffTheEarthThereIsNothingToMeasure)
     EXPECT_EQ(m_status, "Length: outside the projection");
 }
 
+TEST_F(MeasureToolTest, TheRightButtonEndsALineAndIsFreeWithoutOne)
+{
+    EXPECT_FALSE(m_line.RightClick({10, 10}));
+    Click(10, 10);
+    Click(40, 10);
+    EXPECT_TRUE(m_line.RightClick({10, 10}));
+    EXPECT_FALSE(m_line.RightClick({10, 10}));
+}
+
 } // namespace Orvane

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/canvas/MapCanvas.h"
+#include "shell/MainWindowTest.h"
+#include "shell/help/GuideBrowser.h"
+#include "shell/help/GuidePlaces.h"
+#include "shell/help/GuideWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+
+using namespace Testing;
+
+namespace {
+
+QPointer<GuideWindow> ShownGuide()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* guide = qobject_cast<GuideWindow*>(window);
+        if (guide && guide->isVisible())
+            return guide;
+    }
+    return nullptr;
+}
+
+QString ShownSection()
+{
+    const QPointer<GuideWindow> guide = ShownGuide();
+    const auto* item = guide ? guide->findChild<QTreeWidget*>("tvContents")->currentItem() : nullptr;
+    return item ? item->text(0) : QString();
+}
+
+class GuideTest : public MainWindowTest
+{
+protected:
+    GuideTest()
+    {
+        m_window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == m_window.get(); }));
+    }
+
+    void PressF1() { QTest::keyClick(m_window->windowHandle(), Qt::Key_F1); }
+};
+
+} // namespace
+
+TEST(GuidePlacesTest, NamesASectionAsAWebPageDoes)
+{
+    EXPECT_EQ(GuidePlaces::SectionOf("3. Style the layers"), "3-style-the-layers");
+    EXPECT_EQ(GuidePlaces::SectionOf("Labels, classes, lines with edges"), "labels-classes-lines-with-edges");
+}
+
+TEST(GuidePlacesTest, KnowsOnlySectionsThatTheGuideHas)
+{
+    GuideBrowser browser;
+    browser.ShowPage(GuideWindow::FirstPage());
+    QStringList sections;
+    for (const GuideBrowser::Heading& heading : browser.Headings())
+        sections << GuidePlaces::SectionOf(heading.text);
+    for (const QString& section : GuidePlaces::Sections())
+        EXPECT_TRUE(sections.contains(section)) << qPrintable(section);
+}
+
+TEST(GuidePlacesTest, FindsTheSectionOfTheNearestParent)
+{
+    QWidget form;
+    form.setObjectName("frmLayerStyles");
+    auto* schemes = new QWidget(&form);
+    schemes->setObjectName("picScheme");
+    const auto* list = new QLineEdit(schemes);
+    EXPECT_EQ(GuidePlaces::SectionAt(list), "4-save-two-looks");
+    EXPECT_EQ(GuidePlaces::SectionAt(&form), "3-style-the-layers");
+    EXPECT_EQ(GuidePlaces::SectionAt(nullptr), "");
+}
+
+TEST(GuideBrowserTest, ScrollsToASection)
+{
+    GuideBrowser browser;
+    browser.resize(600, 400);
+    browser.show();
+    browser.ShowPage(GuideWindow::FirstPage());
+    browser.ShowSection("4-save-two-looks");
+    const int fourth = browser.verticalScrollBar()->value();
+    browser.ShowSection("3-style-the-layers");
+    const int third = browser.verticalScrollBar()->value();
+    EXPECT_GT(third, 0);
+    EXPECT_GT(fourth, third);
+    browser.ShowSection("no-such-section");
+    EXPECT_EQ(browser.verticalScrollBar()->value(), 0);
+}
+
+TEST(GuideBrowserTest, ShowsThePicturesOfThePage)
+{
+    GuideBrowser browser;
+    browser.ShowPage(GuideWindow::FirstPage());
+    const QVariant picture
+        = browser.document()->resource(QTextDocument::ImageResource, QUrl("pictures/data.png"));
+    EXPECT_FALSE(picture.value<QImage>().isNull());
+    EXPECT_LE(picture.value<QImage>().width(), 640);
+}
+
+TEST(GuideBrowserTest, SaysThatAPageCannotBeRead)
+{
+    GuideBrowser browser;
+    EXPECT_THROW(browser.ShowPage("/no/such/page.md"), RunTimeError);
+}
+
+TEST_F(GuideTest, OpensAtMovingForTheMapAndAtToolsForATool)
+{
+    m_window->Canvas().setFocus();
+    PressF1();
+    EXPECT_EQ(ShownSection(), "Move around the map");
+    ShownGuide()->close();
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == m_window.get(); }));
+    Action("actIdentify")->trigger();
+    PressF1();
+    EXPECT_EQ(ShownSection(), "Use the tools on the map");
+}
+
+TEST_F(GuideTest, ShowsTheSectionThatIsChosenInTheContents)
+{
+    PressF1();
+    auto* contents = ShownGuide()->findChild<QTreeWidget*>("tvContents");
+    const auto found = contents->findItems("5. Export and print", Qt::MatchExactly);
+    ASSERT_EQ(found.size(), 1);
+    QTest::mouseClick(
+        contents->viewport(), Qt::LeftButton, {}, contents->visualItemRect(found.first()).center());
+    EXPECT_GT(ShownGuide()->Browser().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(GuideTest, ClosesAtEscape)
+{
+    PressF1();
+    QTest::keyClick(ShownGuide(), Qt::Key_Escape);
+    EXPECT_EQ(ShownGuide(), nullptr);
+}
+
+TEST_F(GuideTest, CanBeReadWhileADialogWaits)
+{
+    QDialog dialog(m_window.get());
+    dialog.setObjectName("PageDialog");
+    auto* field = new QLineEdit(&dialog);
+    QString section;
+    bool isReachable = false;
+    QTimer::singleShot(0, &dialog, [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &dialog; }));
+        QTest::keyClick(field, Qt::Key_F1);
+        section = ShownSection();
+        isReachable = ShownGuide() && ShownGuide()->parentWidget() == &dialog;
+        dialog.reject();
+    });
+    dialog.exec();
+    EXPECT_EQ(section, "5. Export and print");
+    EXPECT_TRUE(isReachable);
+}
+
+TEST_F(GuideTest, DoesNotKeepTheProgramOpen)
+{
+    PressF1();
+    EXPECT_FALSE(ShownGuide()->testAttribute(Qt::WA_QuitOnClose));
+    m_window.reset();
+    EXPECT_EQ(ShownGuide(), nullptr);
+}
+
+} // namespace Orvane
