@@ -73,8 +73,18 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
 void MapCanvas::ShowAll(
     std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit)
 {
+    const Box bounds = BoundsOf(layers, backdrop.get());
+    ShowAt(MapView::Fitting(bounds, size()), std::move(layers), std::move(backdrop), metresPerUnit);
+    KeepFitting(bounds);
+}
+
+void MapCanvas::ShowAt(
+    const MapView& view, std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop,
+    double metresPerUnit)
+{
     m_metresPerUnit = metresPerUnit;
-    m_view = MapView::Fitting(BoundsOf(layers, backdrop.get()), size());
+    m_view = view;
+    m_fitted.reset();
     m_drawSoon.stop();
     m_picture.Show(
         std::move(layers), std::move(backdrop), m_view, DenominatorOf(m_view), devicePixelRatioF());
@@ -92,6 +102,21 @@ void MapCanvas::SetView(const MapView& view)
 {
     if (view == m_view)
         return;
+    m_fitted.reset();
+    ChangeView(view);
+}
+
+// Without anything to show there is nothing to keep in view.
+void MapCanvas::KeepFitting(const Box& bounds)
+{
+    if (!bounds.IsEmpty())
+        m_fitted = bounds;
+}
+
+void MapCanvas::ChangeView(const MapView& view)
+{
+    if (view == m_view)
+        return;
     m_view = view;
     m_drawSoon.start();
     update();
@@ -105,7 +130,9 @@ double MapCanvas::ScaleDenominator() const
 
 void MapCanvas::ZoomToAll()
 {
-    SetView(MapView::Fitting(BoundsOf(m_picture.Layers(), m_picture.Backdrop().get()), size()));
+    const Box bounds = BoundsOf(m_picture.Layers(), m_picture.Backdrop().get());
+    SetView(MapView::Fitting(bounds, size()));
+    KeepFitting(bounds);
 }
 
 void MapCanvas::ZoomIn()
@@ -172,7 +199,7 @@ void MapCanvas::PaintOverlays(QPainter& painter)
 
 void MapCanvas::resizeEvent(QResizeEvent*)
 {
-    SetView(m_view.Resized(size()));
+    ChangeView(m_fitted ? MapView::Fitting(*m_fitted, size()) : m_view.Resized(size()));
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event)
