@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>„%1“ kann nicht geändert werden: %2.</translation>
     </message>
@@ -404,6 +408,10 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1: „%2“ ist kein bekanntes Koordinatensystem.</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>Kein Schema beim Öffnen anwenden</translation>
     </message>
@@ -418,6 +426,34 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1: Kein Koordinatensystem angegeben, und keines gefunden, das passt. Die Koordinaten werden als die der Karte genommen.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Das gewählte wird verwendet: %2.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zu Grad, daher wird %2 angenommen.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zur Karte, daher wird %2 angenommen.</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>Die Lage einiger Daten ist nicht bekannt. --crs gibt ihr Koordinatensystem an.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>Das Koordinatensystem der Daten, die keines angeben, zum Beispiel EPSG:25832; Daten, die eines angeben, behalten es. Ohne diese Option werden Grad angenommen, wo sie passen, sonst das System der Karte.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>Das Koordinatensystem der Karte. Ohne diese Option behält eine Karte ihr eigenes; bei einer neuen Karte entscheiden die Daten mit der größten Ausdehnung.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -573,9 +609,9 @@
     </message>
     <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
-Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
+Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>

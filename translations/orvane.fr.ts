@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>« %1 » ne peut pas être modifié : %2.</translation>
     </message>
@@ -404,6 +408,10 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1 : « %2 » n’est pas un système de coordonnées connu.</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>N’appliquer aucun schéma à l’ouverture</translation>
     </message>
@@ -418,6 +426,34 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué, et aucun ne semble convenir. Les coordonnées sont prises pour celles de la carte.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Le système choisi est utilisé : %2.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à des degrés ; %2 est donc supposé.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à la carte ; %2 est donc supposé.</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>La position de certaines données n’est pas connue. --crs indique leur système de coordonnées.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>Le système de coordonnées des données qui n’en indiquent aucun, par exemple EPSG:25832 ; les données qui en indiquent un le gardent. Sans cette option, des degrés sont supposés s’ils conviennent, sinon le système de la carte.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>Le système de coordonnées de la carte. Sans cette option, une carte garde le sien ; pour une nouvelle carte, les données les plus étendues décident.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -573,9 +609,9 @@
     </message>
     <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
-Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
+Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a pas de position connue, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>

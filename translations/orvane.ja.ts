@@ -4,6 +4,10 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1 and %2 more</source>
+        <translation>%1、ほか %2 件</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>「%1」は変更できません: %2。</translation>
     </message>
@@ -404,6 +408,10 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1: 「%2」は既知の座標系ではありません。</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>開いたときにスキームを適用しない</translation>
     </message>
@@ -418,6 +426,34 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1 には座標系が指定されておらず、合うものも見つかりませんでした。座標は地図のものとみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1 には座標系が指定されていません。選択された %2 とみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1 には座標系が指定されていません。座標が度の範囲に収まるため、%2 とみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1 には座標系が指定されていません。座標が地図に合うため、%2 とみなします。</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>一部のデータの位置が不明です。座標系は --crs で指定できます。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>座標系が指定されていないデータの座標系 (例: EPSG:25832)。指定のあるデータには適用されません。このオプションがない場合、度として合えば度、そうでなければ地図の座標系とみなします。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>地図の座標系。このオプションがない場合、既存の地図の座標系は変わらず、新しい地図では最も広い範囲のデータで決まります。</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -573,9 +609,9 @@
     </message>
     <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
-終了コード: 0 すべて追加、1 追加できないものあり、2 コマンドが正しくありません。</translation>
+終了コード: 0 すべて追加、1 追加できないものまたは位置不明のものあり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>
