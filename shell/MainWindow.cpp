@@ -9,10 +9,12 @@
 #include "shell/actions/DataActions.h"
 #include "shell/actions/DockChoice.h"
 #include "shell/actions/EditActions.h"
+#include "shell/actions/LayerPropertiesActions.h"
+#include "shell/actions/MapSystemActions.h"
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
-#include "shell/map/DataImport.h"
+#include "shell/map/ImportPlan.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
 #include "shell/output/OutputActions.h"
@@ -20,6 +22,7 @@
 #include "shell/window/DroppedFiles.h"
 #include "shell/window/EmptyMapHint.h"
 #include "shell/window/Icons.h"
+#include "shell/window/MapNotice.h"
 #include "shell/window/MapStatus.h"
 #include "shell/window/RecentMaps.h"
 #include "shell/window/RecentMapsMenu.h"
@@ -71,6 +74,10 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    m_system
+        = std::make_unique<MapSystemActions>(*this, *m_ui->menuView, *statusBar(), *new MapNotice(Canvas()));
+    m_properties = std::make_unique<LayerPropertiesActions>(*this, *m_ui->menuLayers, m_system->Catalogue());
+    ConnectSystems();
     ShareKeys();
     using WindowPlace::Beside;
     WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);
@@ -124,14 +131,20 @@ SourceContents MainWindow::ContentsOf(const MapDocument& document)
 
 void MainWindow::AddData(const QStringList& paths)
 {
-    const FoundData found = ReadOrGiveUp(
-        this, tr("Opening map data"), [paths](Progress& progress) { return LookInto(paths, progress); });
+    ImportPlan plan = ReadOrGiveUp(
+        this, tr("Opening map data"), [paths, target = TargetOf(Document())](Progress& progress) {
+            return PlanImport(paths, target, progress);
+        });
+    m_system->Settle(plan);
+    const FoundData& found = plan.data;
     const SourceContents contents = ReadOrGiveUp(
         this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
             return ReadFound(found, system, progress);
         });
-    if (m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
-        m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
+    if (!m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
+        return;
+    m_system->Tell(plan);
+    m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
 }
 
 void MainWindow::AddFound(const FoundData& found, const SourceContents& contents)
@@ -211,8 +224,22 @@ void MainWindow::ConnectActions()
     });
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
-    connect(
-        m_data.get(), &DataActions::DataChanged, this, [this] { m_status->SetSystem(Document().System()); });
+    connect(m_data.get(), &DataActions::DataChanged, this, &MainWindow::ShowSystem);
+}
+
+void MainWindow::ConnectSystems()
+{
+    const auto readAgain = [this] { ReadMap(MapSession::View::Stays); };
+    connect(m_system.get(), &MapSystemActions::SystemChosen, this, readAgain);
+    connect(m_system.get(), &MapSystemActions::SystemShown, this, &MainWindow::ShowSystem);
+    connect(m_properties.get(), &LayerPropertiesActions::SystemsChosen, this, readAgain);
+}
+
+void MainWindow::ShowSystem()
+{
+    m_tools->SetSystem(Document().System());
+    m_status->SetSystem(Document().System());
+    m_system->ShowSystem();
 }
 
 // The keys of the commands work in the layer control too, except those that its lists use.
@@ -305,7 +332,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(
-        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock);
+        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock,
+        *m_system, *m_properties);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
@@ -351,8 +379,7 @@ void MainWindow::ShowMapAgain()
 void MainWindow::ReadMap(MapSession::View view, const SourceContents& known)
 {
     const QString problems = m_session->ReadAndShow(view, known);
-    m_tools->SetSystem(Document().System());
-    m_status->SetSystem(Document().System());
+    ShowSystem();
     m_data->ShowProblems(problems);
 }
 

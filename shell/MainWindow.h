@@ -20,10 +20,13 @@ class DataActions;
 class DockChoice;
 class EditActions;
 class EmptyMapHint;
+class LayerPropertiesActions;
 class MapCanvas;
 class MapDocument;
+class MapNotice;
 class MapSharing;
 class MapStatus;
+class MapSystemActions;
 class OutputActions;
 class RenderingActions;
 class RecentMapsMenu;
@@ -79,6 +82,8 @@ private:
     void AskForData();
     void ShowAbout();
 
+    void ConnectSystems();
+    void ShowSystem();
     void AddFound(const FoundData& found, const SourceContents& contents);
     SourceContents ContentsOf(const MapDocument& document);
     // ByUser: the scheme that is chosen for the opening is loaded.
@@ -106,6 +111,8 @@ private:
     std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
+    std::unique_ptr<MapSystemActions> m_system;
+    std::unique_ptr<LayerPropertiesActions> m_properties;
     std::unique_ptr<DockChoice> m_dock;
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar

@@ -4,8 +4,36 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+Einheit: %2
+Gültigkeitsbereich: %3</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>%1 bis %2 Ost, %3 bis %4 Nord</translation>
+    </message>
+    <message>
+        <source>&amp;As the Source Says</source>
+        <translation>&amp;Wie die Quelle angibt</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>Än&amp;dern...</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>&amp;Koordinatensystem der Karte...</translation>
+    </message>
+    <message>
+        <source>&amp;System:</source>
+        <translation>&amp;System:</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
@@ -412,6 +440,10 @@
         <translation>--%1: „%2“ ist kein bekanntes Koordinatensystem.</translation>
     </message>
     <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>Ein Code wie EPSG:25832, WKT oder ein PROJ-Text</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>Kein Schema beim Öffnen anwenden</translation>
     </message>
@@ -420,16 +452,132 @@
         <translation>Schema „%1“ beim Öffnen anwenden</translation>
     </message>
     <message>
+        <source>Area of use</source>
+        <translation>Gültigkeitsbereich</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>Wie dieser &amp;Layer:</translation>
+    </message>
+    <message>
         <source>At opening</source>
         <translation>Beim Öffnen</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>Ändern des Koordinatensystems von Daten</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>Ändern des Koordinatensystems der Karte</translation>
     </message>
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>Das Koordinatensystem wählen, in dem die Karte gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>Koordinatensystem der Daten</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>Koordinatensystem des Layers</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>Koordinatensystem der Karte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>Koordinatensystem der Karte: %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>Koordinatensystem der Karte: %1
+Einheit: %2
+Gültigkeitsbereich: %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>Koordinatensystem:</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Koordinatensysteme</translation>
+    </message>
+    <message>
+        <source>Extent:</source>
+        <translation>Ausdehnung:</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>Objekte:</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>Datei oder Quelle:</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>Geometrie:</translation>
+    </message>
+    <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>Es wurde angenommen oder gewählt; die Quelle gibt keines an.</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>Es wurde gewählt; die Quelle gibt %1 an.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>Layer-&amp;Eigenschaften...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>Layer-Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>Layer darin:</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>Unter Layer &gt; Layer-Eigenschaften... lässt sich das ändern.</translation>
+    </message>
+    <message>
+        <source>No coordinate system</source>
+        <translation>Kein Koordinatensystem</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
         <translation>%1: Kein Koordinatensystem angegeben, und keines gefunden, das passt. Die Koordinaten werden als die der Karte genommen.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1: Kein Koordinatensystem angegeben, und keines gefunden, das passt. Welches ist es? Mit Abbrechen werden die Daten hinzugefügt, als hätten sie die Koordinaten der Karte.</translation>
     </message>
     <message>
         <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
@@ -444,6 +592,22 @@
         <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zur Karte, daher wird %2 angenommen.</translation>
     </message>
     <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>Nicht alles in diesen Layern hat einen Platz in %1: %2. In einem System, das einen hat, ist es wieder zu sehen.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>Nach Name, Code oder Gebiet suchen</translation>
+    </message>
+    <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>Die Daten eines Layers zeigen und ihr Koordinatensystem wählen</translation>
+    </message>
+    <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
         <translation>Die Lage einiger Daten ist nicht bekannt. --crs gibt ihr Koordinatensystem an.</translation>
     </message>
@@ -454,6 +618,26 @@
     <message>
         <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
         <translation>Das Koordinatensystem der Karte. Ohne diese Option behält eine Karte ihr eigenes; bei einer neuen Karte entscheiden die Daten mit der größten Ausdehnung.</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>Die Koordinaten in den Daten bleiben, wie sie sind; das System sagt, wo sie liegen.</translation>
+    </message>
+    <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>Die Karte hat noch kein Koordinatensystem; klicken Sie, um eines zu wählen.</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>Die Quelle gibt keines an; die Koordinaten werden als die der Karte genommen.</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>Die Quelle gibt es so an.</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>Dies ist kein bekanntes Koordinatensystem.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -518,6 +702,10 @@
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
+    </message>
+    <message>
+        <source>not stated</source>
+        <translation>nicht angegeben</translation>
     </message>
     <message>
         <source>the two schemes hold nothing in common</source>

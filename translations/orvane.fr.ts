@@ -4,8 +4,36 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+Unité : %2
+Zone d’utilisation : %3</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>%1 à %2 est, %3 à %4 nord</translation>
+    </message>
+    <message>
+        <source>&amp;As the Source Says</source>
+        <translation>Comme l’indique la &amp;source</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>&amp;Changer...</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>Système de &amp;coordonnées de la carte...</translation>
+    </message>
+    <message>
+        <source>&amp;System:</source>
+        <translation>&amp;Système :</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
@@ -412,6 +440,10 @@
         <translation>--%1 : « %2 » n’est pas un système de coordonnées connu.</translation>
     </message>
     <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>Un code tel que EPSG:25832, du WKT ou une chaîne PROJ</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>N’appliquer aucun schéma à l’ouverture</translation>
     </message>
@@ -420,16 +452,132 @@
         <translation>Appliquer le schéma « %1 » à l’ouverture</translation>
     </message>
     <message>
+        <source>Area of use</source>
+        <translation>Zone d’utilisation</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>Comme cette co&amp;uche :</translation>
+    </message>
+    <message>
         <source>At opening</source>
         <translation>À l’ouverture</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>Changer le système de coordonnées de données</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>Changer le système de coordonnées de la carte</translation>
     </message>
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>Choisir le système de coordonnées dans lequel la carte est affichée</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>Système de coordonnées des données</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>Système de coordonnées de la couche</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>Système de coordonnées de la carte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Système de coordonnées</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>Système de coordonnées de la carte : %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>Système de coordonnées de la carte : %1
+Unité : %2
+Zone d’utilisation : %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>Système de coordonnées :</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Systèmes de coordonnées</translation>
+    </message>
+    <message>
+        <source>Extent:</source>
+        <translation>Étendue :</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>Entités :</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>Fichier ou source :</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format :</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>Géométrie :</translation>
+    </message>
+    <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>Il a été supposé ou choisi ; la source n’en indique aucun.</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>Il a été choisi ; la source indique %1.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>&amp;Propriétés de la couche...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>Propriétés de la couche</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>Couche dedans :</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>Couches &gt; Propriétés de la couche... permet de changer cela.</translation>
+    </message>
+    <message>
+        <source>No coordinate system</source>
+        <translation>Aucun système de coordonnées</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
         <translation>%1 : aucun système de coordonnées n’est indiqué, et aucun ne semble convenir. Les coordonnées sont prises pour celles de la carte.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué, et aucun ne semble convenir. Lequel est-ce ? Avec Annuler, les données sont ajoutées comme si elles avaient les coordonnées de la carte.</translation>
     </message>
     <message>
         <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
@@ -444,6 +592,22 @@
         <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à la carte ; %2 est donc supposé.</translation>
     </message>
     <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>Tout n’a pas sa place dans %1 pour ces couches : %2. Le reste réapparaît dans un système qui le permet.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>Rechercher par nom, code ou zone</translation>
+    </message>
+    <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>Afficher les données d’une couche et choisir leur système de coordonnées</translation>
+    </message>
+    <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
         <translation>La position de certaines données n’est pas connue. --crs indique leur système de coordonnées.</translation>
     </message>
@@ -454,6 +618,26 @@
     <message>
         <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
         <translation>Le système de coordonnées de la carte. Sans cette option, une carte garde le sien ; pour une nouvelle carte, les données les plus étendues décident.</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>Les coordonnées des données restent telles quelles ; le système indique où elles se trouvent.</translation>
+    </message>
+    <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>La carte n’a pas encore de système de coordonnées ; cliquez pour en choisir un.</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>La source n’en indique aucun ; les coordonnées sont prises pour celles de la carte.</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>La source l’indique.</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>Ce n’est pas un système de coordonnées connu.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -518,6 +702,10 @@
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
+    </message>
+    <message>
+        <source>not stated</source>
+        <translation>non indiquée</translation>
     </message>
     <message>
         <source>the two schemes hold nothing in common</source>

@@ -4,8 +4,36 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+単位: %2
+適用範囲: %3</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1、ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>東 %1 ～ %2、北 %3 ～ %4</translation>
+    </message>
+    <message>
+        <source>&amp;As the Source Says</source>
+        <translation>データの指定どおり(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>変更(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>地図の座標系(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;System:</source>
+        <translation>座標系(&amp;S):</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
@@ -412,6 +440,10 @@
         <translation>--%1: 「%2」は既知の座標系ではありません。</translation>
     </message>
     <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>EPSG:25832 などのコード、WKT、PROJ 文字列</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>開いたときにスキームを適用しない</translation>
     </message>
@@ -420,16 +452,132 @@
         <translation>開いたときのスキーム「%1」の適用</translation>
     </message>
     <message>
+        <source>Area of use</source>
+        <translation>適用範囲</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>このレイヤーと同じ(&amp;L):</translation>
+    </message>
+    <message>
         <source>At opening</source>
         <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>データの座標系の変更</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>地図の座標系の変更</translation>
     </message>
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>地図を表示する座標系を選択します</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>データの座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>レイヤーの座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>地図の座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>地図の座標系: %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>地図の座標系: %1
+単位: %2
+適用範囲: %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>座標系:</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>座標系の一覧</translation>
+    </message>
+    <message>
+        <source>Extent:</source>
+        <translation>範囲:</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>地物数:</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>ファイルまたはデータ元:</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>形式:</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>ジオメトリ:</translation>
+    </message>
+    <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>推定または選択されました。データには指定がありません。</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>選択されました。データの指定は %1 です。</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>レイヤーのプロパティ(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>レイヤーのプロパティ</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>その中のレイヤー:</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>[レイヤー] &gt; [レイヤーのプロパティ...] で変更できます。</translation>
+    </message>
+    <message>
+        <source>No coordinate system</source>
+        <translation>座標系なし</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
         <translation>%1 には座標系が指定されておらず、合うものも見つかりませんでした。座標は地図のものとみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1 には座標系が指定されておらず、合うものも見つかりませんでした。どの座標系ですか? キャンセルすると、データは地図の座標であるものとして追加されます。</translation>
     </message>
     <message>
         <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
@@ -444,6 +592,22 @@
         <translation>%1 には座標系が指定されていません。座標が地図に合うため、%2 とみなします。</translation>
     </message>
     <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>次のレイヤーには、%1 で表せない部分があります: %2。表せる座標系に変えると再び表示されます。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>名前、コード、地域で検索</translation>
+    </message>
+    <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>レイヤーのデータを表示し、その座標系を選択します</translation>
+    </message>
+    <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
         <translation>一部のデータの位置が不明です。座標系は --crs で指定できます。</translation>
     </message>
@@ -454,6 +618,26 @@
     <message>
         <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
         <translation>地図の座標系。このオプションがない場合、既存の地図の座標系は変わらず、新しい地図では最も広い範囲のデータで決まります。</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>データの座標はそのままです。座標系はその位置を示します。</translation>
+    </message>
+    <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>地図にはまだ座標系がありません。クリックして選択してください。</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>データに指定がありません。座標は地図のものとみなします。</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>データの指定によります。</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>既知の座標系ではありません。</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -518,6 +702,10 @@
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
+    </message>
+    <message>
+        <source>not stated</source>
+        <translation>記載なし</translation>
     </message>
     <message>
         <source>the two schemes hold nothing in common</source>

@@ -1,36 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/coordinates/KnownSystems.h"
 
-#include "mapkit/common/GdalErrors.h"
-
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <ogr_srs_api.h>
+#include <proj.h>
 
 namespace Orvane {
 
 namespace {
 
-// Others describe the moon and planets, or repeat these.
-constexpr std::array Authorities = {"EPSG", "ESRI"};
+constexpr std::array Authorities = {"EPSG", "ESRI"}; // others repeat these, or describe planets
 
-struct ListFreer {
-    void operator()(OSRCRSInfo** list) const { OSRDestroyCRSInfoList(list); }
+struct ContextFreer {
+    void operator()(PJ_CONTEXT* context) const { proj_context_destroy(context); }
 };
 
-bool IsForMaps(const OSRCRSInfo& info)
+struct ListFreer {
+    void operator()(PROJ_CRS_INFO** list) const { proj_crs_info_list_destroy(list); }
+};
+
+bool IsForMaps(const PROJ_CRS_INFO& info)
 {
-    return !info.bDeprecated
-        && (info.eType == OSR_CRS_TYPE_GEOGRAPHIC_2D || info.eType == OSR_CRS_TYPE_PROJECTED);
+    const bool isOnEarth = !info.celestial_body_name || qstrcmp(info.celestial_body_name, "Earth") == 0;
+    return isOnEarth && !info.deprecated
+        && (info.type == PJ_TYPE_GEOGRAPHIC_2D_CRS || info.type == PJ_TYPE_PROJECTED_CRS);
 }
 
-KnownSystem SystemIn(const OSRCRSInfo& info)
+KnownSystem SystemIn(const PROJ_CRS_INFO& info)
 {
     KnownSystem system;
-    system.code = QString::fromUtf8(info.pszAuthName) + QLatin1Char(':') + QString::fromUtf8(info.pszCode);
-    system.name = QString::fromUtf8(info.pszName);
-    system.areaName = QString::fromUtf8(info.pszAreaName);
+    system.code = QString::fromUtf8(info.auth_name) + QLatin1Char(':') + QString::fromUtf8(info.code);
+    system.name = QString::fromUtf8(info.name);
+    system.areaName = QString::fromUtf8(info.area_name);
     const QString all = system.name + QLatin1Char(' ') + system.code + QLatin1Char(' ') + system.areaName;
     system.searchText = SearchForm(all);
     return system;
@@ -52,12 +54,12 @@ QString SearchForm(const QString& text)
 
 std::vector<KnownSystem> ReadKnownSystems()
 {
-    const GdalErrors quiet;
+    const std::unique_ptr<PJ_CONTEXT, ContextFreer> context(proj_context_create());
     std::vector<KnownSystem> systems;
     for (const char* authority : Authorities) {
         int count = 0;
-        const std::unique_ptr<OSRCRSInfo*, ListFreer> list(
-            OSRGetCRSInfoListFromDatabase(authority, nullptr, &count));
+        const std::unique_ptr<PROJ_CRS_INFO*, ListFreer> list(
+            proj_get_crs_info_list_from_database(context.get(), authority, nullptr, &count));
         systems.reserve(systems.size() + size_t(count));
         for (int i = 0; i < count; ++i) {
             if (IsForMaps(*list.get()[i]))

@@ -24,6 +24,7 @@ TEST(KnownSystems, AreThoseForMapsOrderedByName)
     EXPECT_FALSE(has("EPSG:5703")); // heights
     EXPECT_FALSE(has("EPSG:4978")); // geocentric
     EXPECT_FALSE(has("EPSG:3785")); // deprecated
+    EXPECT_FALSE(has("ESRI:104905")); // on Mars
 }
 
 TEST(KnownSystems, AreFoundByNameCodeAndArea)
