@@ -9,12 +9,14 @@
 #include "shell/actions/DataActions.h"
 #include "shell/actions/DockChoice.h"
 #include "shell/actions/EditActions.h"
+#include "shell/actions/LayerPropertiesActions.h"
+#include "shell/actions/MapSystemActions.h"
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
 #include "shell/dialogs/MapFileDialog.h"
 #include "shell/help/HelpActions.h"
-#include "shell/map/DataImport.h"
+#include "shell/map/ImportPlan.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
 #include "shell/output/OutputActions.h"
@@ -24,6 +26,7 @@
 #include "shell/window/DroppedFiles.h"
 #include "shell/window/EmptyMapHint.h"
 #include "shell/window/Icons.h"
+#include "shell/window/MapNotice.h"
 #include "shell/window/MapStatus.h"
 #include "shell/window/RecentMaps.h"
 #include "shell/window/RecentMapsMenu.h"
@@ -42,6 +45,7 @@ namespace Orvane {
 
 namespace {
 
+constexpr int ShortMessageTime = 8000; // milliseconds
 
 bool IsMapFile(const QString& path)
 {
@@ -78,6 +82,10 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    m_system
+        = std::make_unique<MapSystemActions>(*this, *m_ui->menuView, *statusBar(), *new MapNotice(Canvas()));
+    m_properties = std::make_unique<LayerPropertiesActions>(*this, *m_ui->menuLayers, m_system->Catalogue());
+    ConnectSystems();
     m_help = std::make_unique<HelpActions>(*this, *m_ui->menuHelp, *m_ui->actAbout);
     ShareKeys();
     using WindowPlace::Beside;
@@ -132,14 +140,20 @@ SourceContents MainWindow::ContentsOf(const MapDocument& document)
 
 void MainWindow::AddData(const QStringList& paths)
 {
-    const FoundData found = ReadOrGiveUp(
-        this, tr("Opening map data"), [paths](Progress& progress) { return LookInto(paths, progress); });
+    ImportPlan plan = ReadOrGiveUp(
+        this, tr("Opening map data"), [paths, target = TargetOf(Document())](Progress& progress) {
+            return PlanImport(paths, target, progress);
+        });
+    m_system->Settle(plan);
+    const FoundData& found = plan.data;
     const SourceContents contents = ReadOrGiveUp(
         this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
             return ReadFound(found, system, progress);
         });
-    if (m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
-        m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
+    if (!m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
+        return;
+    m_system->Tell(plan);
+    m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
 }
 
 void MainWindow::AddFound(const FoundData& found, const SourceContents& contents)
@@ -209,7 +223,6 @@ void MainWindow::ConnectActions()
     run(m_ui->actSaveMapAs, &MainWindow::SaveMapAs);
     run(m_ui->actOpenData, &MainWindow::AskForData);
     run(m_ui->actLayerControl, &MainWindow::SwitchLayerControl);
-    run(m_ui->actAbout, &MainWindow::ShowAbout);
     connect(m_ui->actQuit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
     connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
@@ -222,8 +235,22 @@ void MainWindow::ConnectActions()
     connect(m_data.get(), &DataActions::Told, this, [this](const QString& message) {
         statusBar()->showMessage(message, ShortMessageTime);
     });
-    connect(
-        m_data.get(), &DataActions::DataChanged, this, [this] { m_status->SetSystem(Document().System()); });
+    connect(m_data.get(), &DataActions::DataChanged, this, &MainWindow::ShowSystem);
+}
+
+void MainWindow::ConnectSystems()
+{
+    const auto readAgain = [this] { ReadMap(MapSession::View::Stays); };
+    connect(m_system.get(), &MapSystemActions::SystemChosen, this, readAgain);
+    connect(m_system.get(), &MapSystemActions::SystemShown, this, &MainWindow::ShowSystem);
+    connect(m_properties.get(), &LayerPropertiesActions::SystemsChosen, this, readAgain);
+}
+
+void MainWindow::ShowSystem()
+{
+    m_tools->SetSystem(Document().System());
+    m_status->SetSystem(Document().System());
+    m_system->ShowSystem();
 }
 
 // The keys of the commands work in the layer control too, except those that its lists use.
@@ -304,14 +331,6 @@ void MainWindow::AskForData()
         AddData(paths);
 }
 
-void MainWindow::ShowAbout()
-{
-    QMessageBox::about(
-        this, tr("About Orvane"),
-        tr("<h3>Orvane %1</h3><p>A small desktop map program, the host of the Orvane layer control.</p>")
-            .arg(QCoreApplication::applicationVersion()));
-}
-
 void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents, Opening opening)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
@@ -320,7 +339,7 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(
         *m_edits, *m_data, *m_tools, *m_views, *m_schemes, *m_themes, *m_renderings, *m_mapMenu, *m_output,
-        *m_sharing, *m_dock);
+        *m_sharing, *m_dock, *m_system, *m_properties);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(
@@ -366,8 +385,7 @@ void MainWindow::ShowMapAgain()
 void MainWindow::ReadMap(MapSession::View view, const SourceContents& known)
 {
     const QString problems = m_session->ReadAndShow(view, known);
-    m_tools->SetSystem(Document().System());
-    m_status->SetSystem(Document().System());
+    ShowSystem();
     m_data->ShowProblems(problems);
 }
 

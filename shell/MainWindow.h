@@ -21,11 +21,14 @@ class DockChoice;
 class EditActions;
 class EmptyMapHint;
 class HelpActions;
+class LayerPropertiesActions;
 class MapCanvas;
 class MapMenu;
 class MapDocument;
+class MapNotice;
 class MapSharing;
 class MapStatus;
+class MapSystemActions;
 class OutputActions;
 class RenderingActions;
 class RecentMapsMenu;
@@ -80,8 +83,9 @@ private:
     void AskForMap();
     void SaveMapAs();
     void AskForData();
-    void ShowAbout();
 
+    void ConnectSystems();
+    void ShowSystem();
     void AddFound(const FoundData& found, const SourceContents& contents);
     SourceContents ContentsOf(const MapDocument& document);
     // ByUser: the scheme that is chosen for the opening is loaded.
@@ -110,6 +114,8 @@ private:
     std::unique_ptr<RecentMapsMenu> m_recent;
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
+    std::unique_ptr<MapSystemActions> m_system;
+    std::unique_ptr<LayerPropertiesActions> m_properties;
     std::unique_ptr<DockChoice> m_dock;
     std::unique_ptr<HelpActions> m_help;
     OutputActions* m_output = nullptr; // owned by this window

@@ -60,12 +60,28 @@
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
     </message>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+Einheit: %2
+Gültigkeitsbereich: %3</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (im System der Karte)</translation>
     </message>
     <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (Länge, Breite)</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>%1 bis %2 Ost, %3 bis %4 Nord</translation>
     </message>
     <message>
         <source>%1: features %2, extent %3</source>
@@ -76,8 +92,20 @@
         <translation>Beim Öffnen der Karte &amp;anwenden</translation>
     </message>
     <message>
+        <source>&amp;As the Source Says</source>
+        <translation>&amp;Wie die Quelle angibt</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>Än&amp;dern...</translation>
+    </message>
+    <message>
         <source>&amp;Colours:</source>
         <translation>&amp;Farben:</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>&amp;Koordinatensystem der Karte...</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -416,6 +444,10 @@
         <translation>Meine Werte &amp;speichern</translation>
     </message>
     <message>
+        <source>&amp;System:</source>
+        <translation>&amp;System:</translation>
+    </message>
+    <message>
         <source>&amp;Take Over</source>
         <translation>Ü&amp;bernehmen</translation>
     </message>
@@ -448,12 +480,34 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1: „%2“ ist kein bekanntes Koordinatensystem.</translation>
+    </message>
+    <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>Ein Code wie EPSG:25832, WKT oder ein PROJ-Text</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
+        <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
+Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>Kein Schema beim Öffnen anwenden</translation>
     </message>
     <message>
         <source>Apply Scheme &quot;%1&quot; at Opening</source>
         <translation>Schema „%1“ beim Öffnen anwenden</translation>
+    </message>
+    <message>
+        <source>Area of use</source>
+        <translation>Gültigkeitsbereich</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>Wie dieser &amp;Layer:</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -472,6 +526,14 @@
         <translation>Hier zentrieren</translation>
     </message>
     <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>Ändern des Koordinatensystems von Daten</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>Ändern des Koordinatensystems der Karte</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
     </message>
@@ -484,8 +546,56 @@
         <translation>Die Farbe unter allen Layern wählen</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>Das Koordinatensystem wählen, in dem die Karte gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
         <source>Contents</source>
         <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>Koordinatensystem der Daten</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>Koordinatensystem des Layers</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>Koordinatensystem der Karte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>Koordinatensystem der Karte: %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>Koordinatensystem der Karte: %1
+Einheit: %2
+Gültigkeitsbereich: %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>Koordinatensystem:</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Koordinatensysteme</translation>
     </message>
     <message>
         <source>Copy Coordinates</source>
@@ -500,12 +610,32 @@
         <translation>Ziehen Sie ein Rechteck auf, um darauf zu zoomen. Ein Klick vergrößert, mit Strg verkleinert er.</translation>
     </message>
     <message>
+        <source>Extent:</source>
+        <translation>Ausdehnung:</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>Objekte:</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>Datei oder Quelle:</translation>
+    </message>
+    <message>
         <source>Fill colours of the layer</source>
         <translation>Füllfarben des Layers</translation>
     </message>
     <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>Von dunkel nach hell, für eine Karte mit dunklem Hintergrund</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>Geometrie:</translation>
     </message>
     <message>
         <source>Greens</source>
@@ -516,8 +646,32 @@
         <translation>Grautöne</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>Es wurde angenommen oder gewählt; die Quelle gibt keines an.</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>Es wurde gewählt; die Quelle gibt %1 an.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>Layer-&amp;Eigenschaften...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>Layer-Eigenschaften</translation>
+    </message>
+    <message>
         <source>Layer Rendering...</source>
         <translation>Layerdarstellung...</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>Layer darin:</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>Unter Layer &gt; Layer-Eigenschaften... lässt sich das ändern.</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -550,8 +704,36 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Neues Thema „%1“</translation>
     </message>
     <message>
+        <source>No coordinate system</source>
+        <translation>Kein Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1: Kein Koordinatensystem angegeben, und keines gefunden, das passt. Die Koordinaten werden als die der Karte genommen.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1: Kein Koordinatensystem angegeben, und keines gefunden, das passt. Welches ist es? Mit Abbrechen werden die Daten hinzugefügt, als hätten sie die Koordinaten der Karte.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Das gewählte wird verwendet: %2.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zu Grad, daher wird %2 angenommen.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zur Karte, daher wird %2 angenommen.</translation>
+    </message>
+    <message>
         <source>No data</source>
         <translation>Keine Daten</translation>
+    </message>
+    <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>Nicht alles in diesen Layern hat einen Platz in %1: %2. In einem System, das einen hat, ist es wieder zu sehen.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -590,6 +772,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Maßstab der Karte</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>Nach Name, Code oder Gebiet suchen</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>Wählen Sie zuerst Objekte auf der Karte aus.</translation>
     </message>
@@ -602,12 +792,32 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Alle ausgewählten Objekte zeigen</translation>
     </message>
     <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>Die Daten eines Layers zeigen und ihr Koordinatensystem wählen</translation>
+    </message>
+    <message>
         <source>Show the part of the map that was shown before</source>
         <translation>Den Teil der Karte zeigen, der vorher zu sehen war</translation>
     </message>
     <message>
         <source>Show the view from which you went back</source>
         <translation>Die Ansicht zeigen, von der aus zurückgegangen wurde</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>Die Lage einiger Daten ist nicht bekannt. --crs gibt ihr Koordinatensystem an.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>Das Koordinatensystem der Daten, die keines angeben, zum Beispiel EPSG:25832; Daten, die eines angeben, behalten es. Ohne diese Option werden Grad angenommen, wo sie passen, sonst das System der Karte.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>Das Koordinatensystem der Karte. Ohne diese Option behält eine Karte ihr eigenes; bei einer neuen Karte entscheiden die Daten mit der größten Ausdehnung.</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>Die Koordinaten in den Daten bleiben, wie sie sind; das System sagt, wo sie liegen.</translation>
     </message>
     <message>
         <source>The data of these layers are in no folder of this computer.</source>
@@ -626,12 +836,24 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Das Handbuch ist nicht installiert.</translation>
     </message>
     <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>Die Karte hat noch kein Koordinatensystem; klicken Sie, um eines zu wählen.</translation>
+    </message>
+    <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>Die Karte hat keine Objekte der gewählten Layer.</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>Die Quelle gibt keines an; die Koordinaten werden als die der Karte genommen.</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>Die Quelle gibt es so an.</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
@@ -648,6 +870,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>These layers are in too many different folders.</source>
         <translation>Diese Layer liegen in zu vielen verschiedenen Ordnern.</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>Dies ist kein bekanntes Koordinatensystem.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -738,6 +964,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
     </message>
     <message>
+        <source>not stated</source>
+        <translation>nicht angegeben</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>die beiden Schemas enthalten nichts Gemeinsames</translation>
     </message>
@@ -824,12 +1054,6 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>About this program</source>
         <translation>Über dieses Programm</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
-Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>

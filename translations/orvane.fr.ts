@@ -60,12 +60,28 @@
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
     </message>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+Unité : %2
+Zone d’utilisation : %3</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (dans le système de la carte)</translation>
     </message>
     <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (longitude, latitude)</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>%1 à %2 est, %3 à %4 nord</translation>
     </message>
     <message>
         <source>%1: features %2, extent %3</source>
@@ -76,8 +92,20 @@
         <translation>&amp;Appliquer à l’ouverture de la carte</translation>
     </message>
     <message>
+        <source>&amp;As the Source Says</source>
+        <translation>Comme l’indique la &amp;source</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>&amp;Changer...</translation>
+    </message>
+    <message>
         <source>&amp;Colours:</source>
         <translation>&amp;Couleurs :</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>Système de &amp;coordonnées de la carte...</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -416,6 +444,10 @@
         <translation>&amp;Enregistrer mes valeurs</translation>
     </message>
     <message>
+        <source>&amp;System:</source>
+        <translation>&amp;Système :</translation>
+    </message>
+    <message>
         <source>&amp;Take Over</source>
         <translation>&amp;Reprendre</translation>
     </message>
@@ -448,12 +480,34 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1 : « %2 » n’est pas un système de coordonnées connu.</translation>
+    </message>
+    <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>Un code tel que EPSG:25832, du WKT ou une chaîne PROJ</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
+        <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
+Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a pas de position connue, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>N’appliquer aucun schéma à l’ouverture</translation>
     </message>
     <message>
         <source>Apply Scheme &quot;%1&quot; at Opening</source>
         <translation>Appliquer le schéma « %1 » à l’ouverture</translation>
+    </message>
+    <message>
+        <source>Area of use</source>
+        <translation>Zone d’utilisation</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>Comme cette co&amp;uche :</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -472,6 +526,14 @@
         <translation>Centrer ici</translation>
     </message>
     <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>Changer le système de coordonnées de données</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>Changer le système de coordonnées de la carte</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
     </message>
@@ -484,8 +546,56 @@
         <translation>Choisir la couleur sous toutes les couches</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>Choisir le système de coordonnées dans lequel la carte est affichée</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
         <source>Contents</source>
         <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>Système de coordonnées des données</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>Système de coordonnées de la couche</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>Système de coordonnées de la carte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Système de coordonnées</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>Système de coordonnées de la carte : %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>Système de coordonnées de la carte : %1
+Unité : %2
+Zone d’utilisation : %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>Système de coordonnées :</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Systèmes de coordonnées</translation>
     </message>
     <message>
         <source>Copy Coordinates</source>
@@ -500,12 +610,32 @@
         <translation>Tracez un rectangle pour zoomer dessus. Un clic zoome en avant, avec Ctrl en arrière.</translation>
     </message>
     <message>
+        <source>Extent:</source>
+        <translation>Étendue :</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>Entités :</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>Fichier ou source :</translation>
+    </message>
+    <message>
         <source>Fill colours of the layer</source>
         <translation>Couleurs de remplissage de la couche</translation>
     </message>
     <message>
+        <source>Format:</source>
+        <translation>Format :</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>Du foncé au clair, pour une carte à fond sombre</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>Géométrie :</translation>
     </message>
     <message>
         <source>Greens</source>
@@ -516,8 +646,32 @@
         <translation>Gris</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>Il a été supposé ou choisi ; la source n’en indique aucun.</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>Il a été choisi ; la source indique %1.</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>&amp;Propriétés de la couche...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>Propriétés de la couche</translation>
+    </message>
+    <message>
         <source>Layer Rendering...</source>
         <translation>Rendu de la couche...</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>Couche dedans :</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>Couches &gt; Propriétés de la couche... permet de changer cela.</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -550,8 +704,36 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Nouveau thème « %1 »</translation>
     </message>
     <message>
+        <source>No coordinate system</source>
+        <translation>Aucun système de coordonnées</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué, et aucun ne semble convenir. Les coordonnées sont prises pour celles de la carte.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué, et aucun ne semble convenir. Lequel est-ce ? Avec Annuler, les données sont ajoutées comme si elles avaient les coordonnées de la carte.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Le système choisi est utilisé : %2.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à des degrés ; %2 est donc supposé.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à la carte ; %2 est donc supposé.</translation>
+    </message>
+    <message>
         <source>No data</source>
         <translation>Pas de données</translation>
+    </message>
+    <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>Tout n’a pas sa place dans %1 pour ces couches : %2. Le reste réapparaît dans un système qui le permet.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -590,6 +772,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Échelle de la carte</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>Rechercher par nom, code ou zone</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>Sélectionnez d’abord des objets sur la carte.</translation>
     </message>
@@ -602,12 +792,32 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Montrer tous les objets sélectionnés</translation>
     </message>
     <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>Afficher les données d’une couche et choisir leur système de coordonnées</translation>
+    </message>
+    <message>
         <source>Show the part of the map that was shown before</source>
         <translation>Montrer la partie de la carte qui était affichée avant</translation>
     </message>
     <message>
         <source>Show the view from which you went back</source>
         <translation>Montrer la vue d’où l’on est revenu</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>La position de certaines données n’est pas connue. --crs indique leur système de coordonnées.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>Le système de coordonnées des données qui n’en indiquent aucun, par exemple EPSG:25832 ; les données qui en indiquent un le gardent. Sans cette option, des degrés sont supposés s’ils conviennent, sinon le système de la carte.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>Le système de coordonnées de la carte. Sans cette option, une carte garde le sien ; pour une nouvelle carte, les données les plus étendues décident.</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>Les coordonnées des données restent telles quelles ; le système indique où elles se trouvent.</translation>
     </message>
     <message>
         <source>The data of these layers are in no folder of this computer.</source>
@@ -626,12 +836,24 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Le guide n’est pas installé.</translation>
     </message>
     <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>La carte n’a pas encore de système de coordonnées ; cliquez pour en choisir un.</translation>
+    </message>
+    <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>La carte n’a aucun objet des couches choisies.</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>La source n’en indique aucun ; les coordonnées sont prises pour celles de la carte.</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>La source l’indique.</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
@@ -648,6 +870,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>These layers are in too many different folders.</source>
         <translation>Ces couches se trouvent dans trop de dossiers différents.</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>Ce n’est pas un système de coordonnées connu.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -738,6 +964,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
     </message>
     <message>
+        <source>not stated</source>
+        <translation>non indiquée</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>les deux schémas n’ont rien en commun</translation>
     </message>
@@ -824,12 +1054,6 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>About this program</source>
         <translation>À propos de ce programme</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
-Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>

@@ -60,12 +60,28 @@
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
     </message>
     <message>
+        <source>%1
+Unit: %2
+Area of use: %3</source>
+        <translation>%1
+単位: %2
+適用範囲: %3</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (地図の座標系)</translation>
     </message>
     <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (経度, 緯度)</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1、ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1 to %2 east, %3 to %4 north</source>
+        <translation>東 %1 ～ %2、北 %3 ～ %4</translation>
     </message>
     <message>
         <source>%1: features %2, extent %3</source>
@@ -76,8 +92,20 @@
         <translation>地図を開いたときに適用(&amp;A)</translation>
     </message>
     <message>
+        <source>&amp;As the Source Says</source>
+        <translation>データの指定どおり(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Change...</source>
+        <translation>変更(&amp;C)...</translation>
+    </message>
+    <message>
         <source>&amp;Colours:</source>
         <translation>配色(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate System of the Map...</source>
+        <translation>地図の座標系(&amp;C)...</translation>
     </message>
     <message>
         <source>&amp;Guide</source>
@@ -416,6 +444,10 @@
         <translation>自分の値を保存(&amp;S)</translation>
     </message>
     <message>
+        <source>&amp;System:</source>
+        <translation>座標系(&amp;S):</translation>
+    </message>
+    <message>
         <source>&amp;Take Over</source>
         <translation>反映(&amp;T)</translation>
     </message>
@@ -448,12 +480,34 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>--%1: &quot;%2&quot; is not a known coordinate system.</source>
+        <translation>--%1: 「%2」は既知の座標系ではありません。</translation>
+    </message>
+    <message>
+        <source>A code such as EPSG:25832, WKT or a PROJ string</source>
+        <translation>EPSG:25832 などのコード、WKT、PROJ 文字列</translation>
+    </message>
+    <message>
+        <source>Add data to a map file: a group for each file, a layer for each of its layers.
+Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
+        <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
+終了コード: 0 すべて追加、1 追加できないものまたは位置不明のものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>開いたときにスキームを適用しない</translation>
     </message>
     <message>
         <source>Apply Scheme &quot;%1&quot; at Opening</source>
         <translation>開いたときのスキーム「%1」の適用</translation>
+    </message>
+    <message>
+        <source>Area of use</source>
+        <translation>適用範囲</translation>
+    </message>
+    <message>
+        <source>As this &amp;layer:</source>
+        <translation>このレイヤーと同じ(&amp;L):</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -472,6 +526,14 @@
         <translation>ここを中心に表示</translation>
     </message>
     <message>
+        <source>Change Coordinate System of Data</source>
+        <translation>データの座標系の変更</translation>
+    </message>
+    <message>
+        <source>Change Coordinate System of the Map</source>
+        <translation>地図の座標系の変更</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
     </message>
@@ -484,8 +546,56 @@
         <translation>すべてのレイヤーの下の色を選びます</translation>
     </message>
     <message>
+        <source>Choose the coordinate system that the map is shown in</source>
+        <translation>地図を表示する座標系を選択します</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
         <source>Contents</source>
         <translation>目次</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Data</source>
+        <translation>データの座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Layer</source>
+        <translation>レイヤーの座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map</source>
+        <translation>地図の座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>座標系</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1</source>
+        <translation>地図の座標系: %1</translation>
+    </message>
+    <message>
+        <source>Coordinate system of the map: %1
+Unit: %2
+Area of use: %3</source>
+        <translation>地図の座標系: %1
+単位: %2
+適用範囲: %3</translation>
+    </message>
+    <message>
+        <source>Coordinate system:</source>
+        <translation>座標系:</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>座標系の一覧</translation>
     </message>
     <message>
         <source>Copy Coordinates</source>
@@ -500,12 +610,32 @@
         <translation>矩形をドラッグするとその範囲にズームします。クリックで拡大、Ctrl を押しながらで縮小します。</translation>
     </message>
     <message>
+        <source>Extent:</source>
+        <translation>範囲:</translation>
+    </message>
+    <message>
+        <source>Features:</source>
+        <translation>地物数:</translation>
+    </message>
+    <message>
+        <source>File or source:</source>
+        <translation>ファイルまたはデータ元:</translation>
+    </message>
+    <message>
         <source>Fill colours of the layer</source>
         <translation>レイヤーの塗りつぶしの色</translation>
     </message>
     <message>
+        <source>Format:</source>
+        <translation>形式:</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>暗い色から明るい色へ (背景が暗い地図用)</translation>
+    </message>
+    <message>
+        <source>Geometry:</source>
+        <translation>ジオメトリ:</translation>
     </message>
     <message>
         <source>Greens</source>
@@ -516,8 +646,32 @@
         <translation>灰色系</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source names none.</source>
+        <translation>推定または選択されました。データには指定がありません。</translation>
+    </message>
+    <message>
+        <source>It was chosen; the source says %1.</source>
+        <translation>選択されました。データの指定は %1 です。</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Properties...</source>
+        <translation>レイヤーのプロパティ(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Layer Properties</source>
+        <translation>レイヤーのプロパティ</translation>
+    </message>
+    <message>
         <source>Layer Rendering...</source>
         <translation>レイヤーの描画...</translation>
+    </message>
+    <message>
+        <source>Layer in it:</source>
+        <translation>その中のレイヤー:</translation>
+    </message>
+    <message>
+        <source>Layers &gt; Layer Properties... changes this.</source>
+        <translation>[レイヤー] &gt; [レイヤーのプロパティ...] で変更できます。</translation>
     </message>
     <message>
         <source>Layers whose data were found: %1 of %2</source>
@@ -550,8 +704,36 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>テーマ「%1」の作成</translation>
     </message>
     <message>
+        <source>No coordinate system</source>
+        <translation>座標系なし</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. The coordinates are taken as those of the map.</source>
+        <translation>%1 には座標系が指定されておらず、合うものも見つかりませんでした。座標は地図のものとみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1, and none was found that fits. Which one is it? With Cancel, the data are added as if they had the coordinates of the map.</source>
+        <translation>%1 には座標系が指定されておらず、合うものも見つかりませんでした。どの座標系ですか? キャンセルすると、データは地図の座標であるものとして追加されます。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. It is taken as the chosen one, %2.</source>
+        <translation>%1 には座標系が指定されていません。選択された %2 とみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
+        <translation>%1 には座標系が指定されていません。座標が度の範囲に収まるため、%2 とみなします。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is named by %1. The coordinates fit the map, so it is taken as %2.</source>
+        <translation>%1 には座標系が指定されていません。座標が地図に合うため、%2 とみなします。</translation>
+    </message>
+    <message>
         <source>No data</source>
         <translation>データなし</translation>
+    </message>
+    <message>
+        <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
+        <translation>次のレイヤーには、%1 で表せない部分があります: %2。表せる座標系に変えると再び表示されます。</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -590,6 +772,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>地図の縮尺</translation>
     </message>
     <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search by name, code or area</source>
+        <translation>名前、コード、地域で検索</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>先に地図上で地物を選択してください。</translation>
     </message>
@@ -602,12 +792,32 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>選択された地物をすべて表示します</translation>
     </message>
     <message>
+        <source>Show the data of a layer, and choose their coordinate system</source>
+        <translation>レイヤーのデータを表示し、その座標系を選択します</translation>
+    </message>
+    <message>
         <source>Show the part of the map that was shown before</source>
         <translation>前に表示していた範囲を表示します</translation>
     </message>
     <message>
         <source>Show the view from which you went back</source>
         <translation>戻る前に表示していた範囲を表示します</translation>
+    </message>
+    <message>
+        <source>Some data have no known place. --crs tells their coordinate system.</source>
+        <translation>一部のデータの位置が不明です。座標系は --crs で指定できます。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
+        <translation>座標系が指定されていないデータの座標系 (例: EPSG:25832)。指定のあるデータには適用されません。このオプションがない場合、度として合えば度、そうでなければ地図の座標系とみなします。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map. Without this option, a map keeps its own; for a new map the data of the largest area decide.</source>
+        <translation>地図の座標系。このオプションがない場合、既存の地図の座標系は変わらず、新しい地図では最も広い範囲のデータで決まります。</translation>
+    </message>
+    <message>
+        <source>The coordinates in the data stay as they are; the system says where they lie.</source>
+        <translation>データの座標はそのままです。座標系はその位置を示します。</translation>
     </message>
     <message>
         <source>The data of these layers are in no folder of this computer.</source>
@@ -626,12 +836,24 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>ガイドがインストールされていません。</translation>
     </message>
     <message>
+        <source>The map has no coordinate system yet; click to choose one.</source>
+        <translation>地図にはまだ座標系がありません。クリックして選択してください。</translation>
+    </message>
+    <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>地図に選択されたレイヤーの地物はありません。</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
+    </message>
+    <message>
+        <source>The source names none; the coordinates are taken as those of the map.</source>
+        <translation>データに指定がありません。座標は地図のものとみなします。</translation>
+    </message>
+    <message>
+        <source>The source says so.</source>
+        <translation>データの指定によります。</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>
@@ -648,6 +870,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>These layers are in too many different folders.</source>
         <translation>これらのレイヤーは多くのフォルダーに分かれています。</translation>
+    </message>
+    <message>
+        <source>This is not a known coordinate system.</source>
+        <translation>既知の座標系ではありません。</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>
@@ -738,6 +964,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
     </message>
     <message>
+        <source>not stated</source>
+        <translation>記載なし</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>2つのスキームに共通する項目はありません</translation>
     </message>
@@ -824,12 +1054,6 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>About this program</source>
         <translation>このプログラムについて</translation>
-    </message>
-    <message>
-        <source>Add data to a map file: a group for each file, a layer for each of its layers.
-Exit code: 0 all was added, 1 something was not, 2 the command was not understood.</source>
-        <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
-終了コード: 0 すべて追加、1 追加できないものあり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
         <source>Add map data from files to the map</source>

@@ -76,9 +76,19 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
 void MapCanvas::ShowAll(
     std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit)
 {
+    const Box bounds = BoundsOf(layers, backdrop.get());
+    ShowAt(MapView::Fitting(bounds, size()), std::move(layers), std::move(backdrop), metresPerUnit);
+    KeepFitting(bounds);
+}
+
+void MapCanvas::ShowAt(
+    const MapView& view, std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop,
+    double metresPerUnit)
+{
     m_metresPerUnit = metresPerUnit;
     ++m_step;
-    m_view = MapView::Fitting(BoundsOf(layers, backdrop.get()), size());
+    m_view = view;
+    m_fitted.reset();
     m_drawSoon.stop();
     m_picture.Show(
         std::move(layers), std::move(backdrop), m_view, DenominatorOf(m_view), devicePixelRatioF());
@@ -104,7 +114,20 @@ void MapCanvas::SetView(const MapView& view)
         return;
     ++m_step;
     m_row = 0;
+    MoveView(view);
+}
+
+void MapCanvas::MoveView(const MapView& view)
+{
+    m_fitted.reset();
     ShowView(view);
+}
+
+// Without anything to show there is nothing to keep in view.
+void MapCanvas::KeepFitting(const Box& bounds)
+{
+    if (!bounds.IsEmpty())
+        m_fitted = bounds;
 }
 
 void MapCanvas::ShowView(const MapView& view)
@@ -139,7 +162,9 @@ void MapCanvas::ZoomTo(const Box& box)
 
 void MapCanvas::ZoomToAll()
 {
-    SetView(MapView::Fitting(BoundsOf(m_picture.Layers(), m_picture.Backdrop().get()), size()));
+    const Box bounds = BoundsOf(m_picture.Layers(), m_picture.Backdrop().get());
+    SetView(MapView::Fitting(bounds, size()));
+    KeepFitting(bounds);
 }
 
 void MapCanvas::ZoomIn()
@@ -210,7 +235,7 @@ void MapCanvas::PaintOverlays(QPainter& painter)
 
 void MapCanvas::resizeEvent(QResizeEvent*)
 {
-    ShowView(m_view.Resized(size()));
+    ShowView(m_fitted ? MapView::Fitting(*m_fitted, size()) : m_view.Resized(size()));
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event)
@@ -236,7 +261,7 @@ void MapCanvas::mouseMoveEvent(QMouseEvent* event)
         });
     }
     if (m_dragging) {
-        ShowView(m_view.Panned(event->position() - m_dragFrom));
+        MoveView(m_view.Panned(event->position() - m_dragFrom));
         m_dragFrom = event->position();
     }
     emit PointerMoved(m_view.ToMap(event->position()));
@@ -261,7 +286,7 @@ void MapCanvas::wheelEvent(QWheelEvent* event)
 {
     const double notches = event->angleDelta().y() / WheelNotch;
     JoinRow(WheelRow, event->timestamp());
-    ShowView(m_view.ZoomedAt(event->position(), std::pow(ZoomStep, notches)));
+    MoveView(m_view.ZoomedAt(event->position(), std::pow(ZoomStep, notches)));
     event->accept();
 }
 
@@ -274,7 +299,7 @@ void MapCanvas::keyPressEvent(QKeyEvent* event)
     JoinRow(event->key(), event->timestamp());
     const QPointF direction = ArrowDirection(event->key());
     if (!direction.isNull())
-        ShowView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
+        MoveView(m_view.Panned({direction.x() * width() * ArrowPart, direction.y() * height() * ArrowPart}));
     else if (event->key() == Qt::Key_Home)
         ZoomToAll();
     else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)
@@ -308,7 +333,7 @@ void MapCanvas::JoinRow(int row, quint64 time)
 
 void MapCanvas::Zoom(double factor)
 {
-    ShowView(m_view.ZoomedAt(MiddlePixel(), factor));
+    MoveView(m_view.ZoomedAt(MiddlePixel(), factor));
 }
 
 void MapCanvas::leaveEvent(QEvent*)

@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 namespace Orvane {
 
 class MapOverlay;
@@ -27,9 +29,14 @@ public:
 
     /// Replaces the layers; the view stays. metresPerUnit: length of a map unit, for the scale.
     void SetLayers(std::vector<MapLayer> layers, double metresPerUnit);
-    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is visible.
+    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is visible. It
+    /// stays so when the size of the map changes, until the view is changed.
     void ShowAll(
         std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit);
+    /// Draws these layers over that picture at this view, when the map's system is another one.
+    void ShowAt(
+        const MapView& view, std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop,
+        double metresPerUnit);
     /// The layers as they were set.
     const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
 
@@ -109,7 +116,7 @@ protected:
 
 private:
     void BeginPan(QPointF from);
-    void ShowView(const MapView& view);
+    void MoveView(const MapView& view);
     void JoinRow(int row, quint64 time);
     void Zoom(double factor);
     void ShowCursor();
@@ -118,9 +125,12 @@ private:
     void DrawAgain();
     double DenominatorOf(const MapView& view) const;
     QPointF MiddlePixel() const;
+    void ShowView(const MapView& view);
+    void KeepFitting(const Box& bounds);
 
     MapPicture m_picture;
     MapView m_view;
+    std::optional<Box> m_fitted; // the box that the view shows, until the user moves the map
     double m_metresPerUnit = 1;
     QPointF m_dragFrom;
     bool m_dragging = false;

@@ -2,6 +2,8 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/SystemFacts.h"
+#include "mapkit/coordinates/SystemReference.h"
 
 #include <cpl_conv.h>
 #include <ogr_spatialref.h>
@@ -15,22 +17,11 @@ constexpr double WorldWide = 150; // degrees of longitude
 constexpr auto WorldSystem = "EPSG:8857"; // Equal Earth
 constexpr auto RegionSystem = "EPSG:3857"; // web Mercator
 
-// Empty if the text is not a system.
-OGRSpatialReference SystemOf(const QString& text)
-{
-    const GdalErrors quiet;
-    OGRSpatialReference system;
-    if (system.SetFromUserInput(text.toUtf8().constData()) != OGRERR_NONE)
-        system.Clear();
-    system.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    return system;
-}
-
 } // namespace
 
 double MetresPerUnit(const QString& system)
 {
-    const OGRSpatialReference known = SystemOf(system);
+    const OGRSpatialReference known = ReferenceOf(system);
     if (known.IsEmpty())
         return 1;
     return known.IsGeographic() ? MetresPerDegree : known.GetLinearUnits();
@@ -38,15 +29,40 @@ double MetresPerUnit(const QString& system)
 
 QString SystemToShow(const QString& system, const Box& extent)
 {
-    const OGRSpatialReference known = SystemOf(system);
+    const OGRSpatialReference known = ReferenceOf(system);
     if (!known.IsEmpty() && !known.IsGeographic())
         return system;
     return QString::fromLatin1(extent.Width() > WorldWide ? WorldSystem : RegionSystem);
 }
 
+QString SystemToShow(const std::vector<PlacedExtent>& data)
+{
+    Box all;
+    const PlacedExtent* largest = nullptr;
+    double largestWidth = 0; // in degrees, as the area
+    double largestArea = -1;
+    for (const PlacedExtent& part : data) {
+        if (ReferenceOf(part.system).IsEmpty())
+            continue;
+        const Box degrees = InDegrees(part.extent, part.system);
+        const double area = degrees.IsEmpty() ? 0 : degrees.Width() * degrees.Height();
+        all.Add(degrees);
+        if (area <= largestArea)
+            continue;
+        largest = &part;
+        largestArea = area;
+        largestWidth = degrees.IsEmpty() ? 0 : degrees.Width();
+    }
+    if (!largest)
+        return {};
+    const bool isTogetherLarger = all.Width() > WorldWide && largestWidth <= WorldWide;
+    return isTogetherLarger ? QString::fromLatin1(WorldSystem)
+                            : SystemToShow(largest->system, largest->extent);
+}
+
 QString SystemText(const OGRSpatialReference* system)
 {
-    if (!system)
+    if (!system || system->IsLocal())
         return {};
     if (system->GetAuthorityName(nullptr) && system->GetAuthorityCode(nullptr))
         return QString::fromUtf8(system->GetAuthorityName(nullptr)) + QLatin1Char(':')
@@ -61,8 +77,8 @@ QString SystemText(const OGRSpatialReference* system)
 std::unique_ptr<OGRCoordinateTransformation>
 TransformationTo(const QString& mapSystem, const OGRSpatialReference* source)
 {
-    OGRSpatialReference target = SystemOf(mapSystem);
-    if (!source || target.IsEmpty())
+    const OGRSpatialReference target = ReferenceOf(mapSystem);
+    if (!source || source->IsEmpty() || target.IsEmpty())
         return nullptr;
     OGRSpatialReference own(*source);
     own.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);

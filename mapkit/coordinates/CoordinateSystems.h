@@ -6,14 +6,15 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class OGRCoordinateTransformation;
 class OGRSpatialReference;
 
 namespace Orvane {
 
-/// Coordinate systems are texts that GDAL understands: "EPSG:32632", or WKT. Every coordinate pair is
-/// (east, north), whatever the authority's axis order.
+/// Coordinate systems are texts that GDAL understands: "EPSG:32632", WKT or a PROJ string. Every coordinate
+/// pair is (east, north), whatever the authority's axis order.
 
 /// Length of the system's unit in metres; for degrees, along the equator. 1 if the text is not a system.
 double MetresPerUnit(const QString& system);
@@ -23,11 +24,21 @@ double MetresPerUnit(const QString& system);
 /// data of a part of the world in web Mercator, which keeps shapes.
 QString SystemToShow(const QString& system, const Box& extent);
 
-/// The text for a system that a data source names; empty for none.
+/// Where data lies.
+struct PlacedExtent {
+    QString system; ///< empty if it is not known
+    Box extent; ///< in its system; empty if it is not known
+};
+
+/// The same for all data that a new map gets at once. The largest decides, whatever its place in the list;
+/// data that only together go round the world are shown in the world projection. Empty if no system is known.
+QString SystemToShow(const std::vector<PlacedExtent>& data);
+
+/// The text for a system that a data source names; empty for none, and for a local one of unknown place.
 QString SystemText(const OGRSpatialReference* system);
 
 /// Transforms coordinates from a source's system to the map's. nullptr if no transformation is needed,
-/// because the systems are equal or one of them is unknown.
+/// because the systems are equal or one of them is unknown (nullptr or empty).
 std::unique_ptr<OGRCoordinateTransformation>
 TransformationTo(const QString& mapSystem, const OGRSpatialReference* source);
 

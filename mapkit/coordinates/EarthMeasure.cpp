@@ -2,6 +2,7 @@
 #include "mapkit/coordinates/EarthMeasure.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/SystemReference.h"
 
 #include <QLocale>
 
@@ -17,16 +18,6 @@ namespace {
 constexpr double LargestDegrees = 90; // of latitude
 constexpr double Tolerance = 1; // map units
 constexpr int Digits = 3; // significant digits; pointing with the mouse is no more exact
-
-OGRSpatialReference Known(const QString& system)
-{
-    const GdalErrors quiet;
-    OGRSpatialReference known;
-    if (known.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
-        known.Clear();
-    known.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    return known;
-}
 
 std::unique_ptr<OGRCoordinateTransformation> ToDegreesOf(const OGRSpatialReference& system)
 {
@@ -89,7 +80,7 @@ constexpr std::array<Unit, 1> Plain = {{{1, ""}}};
 
 EarthMeasure::EarthMeasure(const QString& mapSystem)
 {
-    const OGRSpatialReference known = Known(mapSystem);
+    const OGRSpatialReference known = ReferenceOf(mapSystem);
     if (known.IsEmpty())
         return;
     if (!known.IsGeographic()) {

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemReference.h"
 
 #include <QtMath>
 
@@ -24,9 +25,8 @@ using DegreePair = std::array<QPointF, 2>;
 
 std::optional<DegreePair> ToDegrees(const QString& system, const DegreePair& map)
 {
-    const GdalErrors quiet;
-    OGRSpatialReference known;
-    if (known.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
+    const OGRSpatialReference known = ReferenceOf(system);
+    if (known.IsEmpty())
         return std::nullopt;
     if (known.IsGeographic())
         return map;

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemReference.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -19,16 +20,14 @@ constexpr double PositionTolerance = 1; // map units
 
 bool IsGeographic(const QString& system)
 {
-    const GdalErrors quiet;
-    OGRSpatialReference known;
-    return known.SetFromUserInput(system.toUtf8().constData()) == OGRERR_NONE && known.IsGeographic();
+    const OGRSpatialReference known = ReferenceOf(system);
+    return !known.IsEmpty() && known.IsGeographic();
 }
 
 std::unique_ptr<OGRCoordinateTransformation> ToDegrees(const QString& system)
 {
-    const GdalErrors quiet;
-    OGRSpatialReference known;
-    if (known.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
+    const OGRSpatialReference known = ReferenceOf(system);
+    if (known.IsEmpty())
         return nullptr;
     return TransformationTo(QStringLiteral("EPSG:4326"), &known);
 }

@@ -4,6 +4,7 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemReference.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/ReadingBound.h"
@@ -47,13 +48,19 @@ FeatureKind KindOf(OGRwkbGeometryType type)
     }
 }
 
+// Empty for one that is not finite.
+Box BoxOf(const OGREnvelope& envelope)
+{
+    const Box box = {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
+    return std::isfinite(box.Width()) && std::isfinite(box.Height()) ? box : Box();
+}
+
 Box ExtentOf(OGRLayer& layer)
 {
     OGREnvelope envelope;
     if (layer.GetExtent(&envelope, FALSE) != OGRERR_NONE)
         return {};
-    const Box box = {envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
-    return std::isfinite(box.Width()) && std::isfinite(box.Height()) ? box : Box();
+    return BoxOf(envelope);
 }
 
 // The memory that one layer may use, in bytes.
@@ -160,13 +167,16 @@ DataSource::FilteredLayer(const QString& name, const QString& filter, const Gdal
 }
 
 FeatureSet DataSource::Read(
-    const QString& layerName, const QString& filter, const QString& mapSystem, Progress& progress) const
+    const QString& layerName, const QString& filter, const QString& mapSystem, Progress& progress,
+    const QString& chosenSystem) const
 {
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, filter, errors);
     FeatureSet features;
-    GeometryReader reader(features, TransformationTo(mapSystem, layer.GetSpatialRef()));
+    const OGRSpatialReference own = ReferenceOf(chosenSystem, layer.GetSpatialRef());
+    features.SetSourceSystem(own.IsEmpty() ? QString() : SystemText(&own));
+    GeometryReader reader(features, TransformationTo(mapSystem, &own));
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
     const double mostBytes = MostBytes();
     GIntBig count = 0;
@@ -189,6 +199,49 @@ FeatureSet DataSource::Read(
     if (!errors.First().isEmpty())
         Fail(errors.First());
     return features;
+}
+
+Box DataSource::MeasureExtent(const QString& layerName, Progress& progress) const
+{
+    const GdalErrors errors;
+    ReadingBound bound(ReadingBound::LongestWait);
+    OGRLayer& layer = FilteredLayer(layerName, {}, errors);
+    Box extent;
+    for (GIntBig count = 1; const OGRFeatureUniquePtr feature{layer.GetNextFeature()}; ++count) {
+        const OGRGeometry* geometry = feature->GetGeometryRef();
+        OGREnvelope part;
+        if (geometry && !geometry->IsEmpty()) {
+            geometry->getEnvelope(&part);
+            extent.Add(BoxOf(part));
+        }
+        if (count % FeaturesBetweenReports != 0)
+            continue;
+        progress.StopIfCancelled();
+        if (geometry)
+            bound.Renew();
+        if (bound.IsOver())
+            Fail({});
+    }
+    RequireReadingInTime(m_path);
+    if (!errors.First().isEmpty())
+        Fail(errors.First());
+    return extent;
+}
+
+SourceDetails DataSource::Details(const QString& layerName) const
+{
+    const GdalErrors errors;
+    const ReadingBound bound;
+    OGRLayer& layer = FilteredLayer(layerName, {}, errors);
+    SourceDetails details;
+    if (GDALDriver* driver = m_dataset->GetDriver())
+        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
+    details.geometry = QString::fromUtf8(OGRGeometryTypeToName(layer.GetGeomType()));
+    details.featureCount = layer.GetFeatureCount(FALSE);
+    details.system = SystemText(layer.GetSpatialRef());
+    details.extent = ExtentOf(layer);
+    RequireReadingInTime(m_path);
+    return details;
 }
 
 std::vector<SourceField> DataSource::Fields(const QString& layerName) const

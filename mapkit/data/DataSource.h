@@ -28,6 +28,16 @@ struct SourceLayer {
     FeatureKind kind = FeatureKind::Area; ///< Area for a mixed layer
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
     Box extent; ///< in its own units; empty if the source does not know it
+    QString chosenSystem = {}; ///< what was chosen or assumed for it when the source names none
+};
+
+/// What a source tells about one of its layers.
+struct SourceDetails {
+    QString driver; ///< the format, "GeoPackage"
+    QString geometry; ///< as GDAL names it, "Multi Polygon"
+    qint64 featureCount = -1; ///< -1 if the source does not know it
+    QString system; ///< that the source names, as in CoordinateSystems.h; empty for none
+    Box extent; ///< in its own units; empty if the source does not know it
 };
 
 /// One attribute of a source layer.
@@ -73,9 +83,17 @@ public:
 
     /// Reads a layer's geometries into the map's coordinate system. filter: a condition in GDAL's attribute
     /// filter language, e.g. "continent = 'Asia'"; empty for all features. Raises for an unknown layer, a
-    /// filter that is not understood and damaged data; raises Cancelled.
-    FeatureSet
-    Read(const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress) const;
+    /// filter that is not understood and damaged data; raises Cancelled. chosenSystem: of the layer, instead
+    /// of the one that the source names; empty for that one.
+    FeatureSet Read(
+        const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress,
+        const QString& chosenSystem = {}) const;
+    /// The extent of all features of a layer in its own units, which reads them; empty if there are none. For
+    /// layers whose extent the source does not know. Raises as Read does.
+    Box MeasureExtent(const QString& layer, Progress& progress) const;
+    /// More about a layer, for showing it to the user; raises for an unknown layer. The number of features
+    /// and the extent may be missing when finding them means reading all features.
+    SourceDetails Details(const QString& layer) const;
 
     /// The attributes of a layer, in the source's order; raises for an unknown layer.
     std::vector<SourceField> Fields(const QString& layer) const;

@@ -2,6 +2,7 @@
 #include "mapkit/data/EmptyLayer.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/SystemReference.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/ReadingBound.h"
 
@@ -13,7 +14,6 @@
 
 #include <gdal_priv.h>
 #include <memory>
-#include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
 namespace Orvane {
@@ -68,10 +68,9 @@ QString UnusedName(GDALDataset& dataset, const QString& name)
 
 bool AddLayer(GDALDataset& dataset, const QString& name, FeatureKind kind, const QString& system)
 {
-    OGRSpatialReference reference;
-    if (reference.SetFromUserInput(system.toUtf8().constData()) != OGRERR_NONE)
+    OGRSpatialReference reference = ReferenceOf(system);
+    if (reference.IsEmpty())
         return false;
-    reference.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
     OGRLayer* layer = dataset.CreateLayer(name.toUtf8().constData(), &reference, TypeOf(kind));
     OGRFieldDefn field("name", OFTString);
     return layer && layer->CreateField(&field) == OGRERR_NONE && layer->SyncToDisk() == OGRERR_NONE;

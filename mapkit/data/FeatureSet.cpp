@@ -16,8 +16,10 @@ void FeatureSet::AddPart(std::span<const QPointF> points)
     const size_t before = m_points.size();
     Feature& feature = m_features.back();
     for (const QPointF& point : points) {
-        if (!std::isfinite(point.x()) || !std::isfinite(point.y()))
+        if (!std::isfinite(point.x()) || !std::isfinite(point.y())) {
+            ++m_leftOut;
             continue;
+        }
         m_points.push_back(point);
         feature.bounds.Add(point);
     }

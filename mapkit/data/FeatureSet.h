@@ -4,6 +4,7 @@
 #include "mapkit/coordinates/Box.h"
 
 #include <QPointF>
+#include <QString>
 #include <QtGlobal>
 
 #include <span>
@@ -53,12 +54,19 @@ public:
     /// The bounds of all features; empty if there are none.
     const Box& Bounds() const { return m_bounds; }
     size_t VertexCount() const { return m_points.size(); }
+    /// The coordinate system that the data were in, as in CoordinateSystems.h; empty if it is not known.
+    const QString& SourceSystem() const { return m_sourceSystem; }
+    void SetSourceSystem(const QString& system) { m_sourceSystem = system; }
+    /// How many vertices were left out.
+    size_t LeftOutCount() const { return m_leftOut; }
 
 private:
     std::vector<QPointF> m_points;
     std::vector<size_t> m_partEnds;
     std::vector<Feature> m_features;
     Box m_bounds;
+    size_t m_leftOut = 0;
+    QString m_sourceSystem;
 };
 
 } // namespace Orvane

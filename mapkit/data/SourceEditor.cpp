@@ -3,6 +3,7 @@
 
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemReference.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/ReadingBound.h"
@@ -88,16 +89,15 @@ bool LeadsBack(const OGRGeometry& geometry, OGRCoordinateTransformation* toMap, 
         && std::abs(now.MaxY - there.MaxY) < ExtentTolerance;
 }
 
-bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference* system)
+bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference& system)
 {
     const OGREnvelope extent = ExtentOf(geometry);
-    return !system || !system->IsGeographic()
-        || (extent.MinY >= -LargestLatitude && extent.MaxY <= LargestLatitude);
+    return !system.IsGeographic() || (extent.MinY >= -LargestLatitude && extent.MaxY <= LargestLatitude);
 }
 
 } // namespace
 
-SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path)
+SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path), m_chosenSystem(source.system)
 {
     const QString whyNot = WhyNotOpened(m_path);
     if (!whyNot.isEmpty())
@@ -137,7 +137,8 @@ QByteArray SourceEditor::Moved(const QByteArray& binary, QPointF offset, const Q
 {
     const GdalErrors quiet;
     const OGRGeometryUniquePtr geometry = FromBinary(binary);
-    const auto toMap = TransformationTo(mapSystem, m_layer->GetSpatialRef());
+    const OGRSpatialReference own = ReferenceOf(m_chosenSystem, m_layer->GetSpatialRef());
+    const auto toMap = TransformationTo(mapSystem, &own);
     const std::unique_ptr<OGRCoordinateTransformation> back(toMap ? toMap->GetInverse() : nullptr);
     bool moved = geometry && Transform(*geometry, toMap.get());
     if (moved) {
@@ -146,7 +147,7 @@ QByteArray SourceEditor::Moved(const QByteArray& binary, QPointF offset, const Q
         const OGREnvelope there = ExtentOf(*geometry);
         moved = Transform(*geometry, back.get()) && LeadsBack(*geometry, toMap.get(), there);
     }
-    if (!moved || !IsOnEarth(*geometry, m_layer->GetSpatialRef()))
+    if (!moved || !IsOnEarth(*geometry, own))
         Fail(tr("the new position is outside the coordinate system"));
     return ToBinary(*geometry);
 }
@@ -155,7 +156,8 @@ FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const
 {
     const GdalErrors quiet;
     FeatureSet features;
-    GeometryReader reader(features, TransformationTo(mapSystem, m_layer->GetSpatialRef()));
+    const OGRSpatialReference own = ReferenceOf(m_chosenSystem, m_layer->GetSpatialRef());
+    GeometryReader reader(features, TransformationTo(mapSystem, &own));
     if (const OGRGeometryUniquePtr geometry = FromBinary(binary))
         reader.Add(*geometry, featureID);
     return features;

@@ -57,6 +57,7 @@ private:
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;
+    QString m_chosenSystem; // of the source, if one was chosen
     std::unique_ptr<GDALDataset> m_dataset;
     OGRLayer* m_layer = nullptr; // owned by the dataset
 };

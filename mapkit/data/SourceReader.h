@@ -20,6 +20,7 @@ struct LayerSource {
     QString path; ///< absolute, or another name that GDAL opens
     QString ogrLayer; ///< layer within the source
     QString filter; ///< attribute condition; empty for all features
+    QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
 };
 
 /// The result of reading the sources.

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -28,6 +29,7 @@ struct NewLayer {
     QString path; ///< absolute path of the data
     QString ogrLayer;
     QString filter;
+    QString system; ///< coordinate system that was chosen for the data; empty: the one that they name
 };
 
 /// A map file: the layer database with three more tables: LayerSources, which stores where each layer's
@@ -98,6 +100,8 @@ public:
     std::optional<LayerSource> SourceOf(qint32 layerID) const;
     /// Sets the layer's data, replacing its former data.
     void SetSource(const LayerSource& source);
+    /// The systems that were chosen for layers' data instead of what these name, by layer ID.
+    std::map<qint32, QString> ChosenSystems() const { return m_sources.ChosenSystems(); }
     /// The settings for the layers' renderer styles.
     RenderingTable& Renderings() { return m_renderings; }
     const RenderingTable& Renderings() const { return m_renderings; }

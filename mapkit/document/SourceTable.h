@@ -6,6 +6,7 @@
 
 #include <OrvaneShellLib/Value.h>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -33,6 +34,10 @@ public:
 
     /// Sets the layer's source, replacing its former one. path: absolute.
     void Set(const LayerSource& source);
+
+    /// The systems that were chosen for layers instead of what their sources name, by layer ID. Needs the
+    /// table as Create leaves it.
+    std::map<qint32, QString> ChosenSystems() const;
 
 private:
     std::vector<LayerSource> Where(const QString& condition, const std::vector<Value>& values) const;

@@ -21,6 +21,8 @@ public:
 
     /// In map units; empty if the picture cannot be shown in the map's system.
     const Box& Extent() const { return m_extent; }
+    /// The system of the map that it was opened for.
+    const QString& System() const { return m_system; }
     /// The picture itself.
     const RasterSource& Source() const { return m_source; }
 

@@ -28,6 +28,7 @@ FeatureSet SubsetOf(const FeatureSet& features, const std::set<qint64>& featureI
 FeatureSet WithFeature(const FeatureSet& features, qint64 featureID, const FeatureSet& replacement)
 {
     FeatureSet result;
+    result.SetSourceSystem(features.SourceSystem());
     bool replaced = false;
     for (size_t i = 0; i < features.Features().size(); ++i) {
         if (features.FeatureId(i) != featureID) {

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMessageBox>
 
 namespace Orvane {
 
@@ -25,15 +26,16 @@ const QWidget* PlaceOfUser(const QWidget* blocking)
 
 } // namespace
 
-HelpActions::HelpActions(QWidget& window, QMenu& menu, QAction& before) : m_window(window)
+HelpActions::HelpActions(QWidget& window, QMenu& menu, QAction& about) : m_window(window)
 {
     auto* action = new QAction(tr("&Guide"), this);
     action->setObjectName(QStringLiteral("actGuide"));
     action->setStatusTip(tr("Read about the window or the tool that is in use"));
     action->setShortcut(Qt::Key_F1);
     action->setShortcutContext(Qt::ApplicationShortcut);
-    menu.insertAction(&before, action);
+    menu.insertAction(&about, action);
     connect(action, &QAction::triggered, this, [this] { Guard(&m_window, [this] { ShowGuide(); }); });
+    connect(&about, &QAction::triggered, this, [this] { Guard(&m_window, [this] { ShowAbout(); }); });
     qApp->installEventFilter(this);
 }
 
@@ -66,6 +68,14 @@ void HelpActions::ShowGuide()
     guide.raise();
     guide.activateWindow();
     guide.ShowSection(section);
+}
+
+void HelpActions::ShowAbout()
+{
+    QMessageBox::about(
+        &m_window, tr("About Orvane"),
+        tr("<h3>Orvane %1</h3><p>A small desktop map program, the host of the Orvane layer control.</p>")
+            .arg(QCoreApplication::applicationVersion()));
 }
 
 // A window that blocks the others leaves only its own children in reach.

@@ -12,15 +12,15 @@ namespace Orvane {
 
 class GuideWindow;
 
-/// The command Help > Guide, F1 in every window of the program: shows the guide at the section about the
-/// place where the user is.
+/// The commands of the menu Help: Guide, F1 in every window of the program, shows the guide at the section
+/// about the place where the user is; About tells what the program is.
 class HelpActions : public QObject
 {
     Q_OBJECT
 public:
-    /// Adds the command to the menu, before that one. None is owned; all outlive this object. Errors are
-    /// shown over the window.
-    HelpActions(QWidget& window, QMenu& menu, QAction& before);
+    /// Adds the guide to the menu, before about. None is owned; all outlive this object. Errors are shown over
+    /// the window.
+    HelpActions(QWidget& window, QMenu& menu, QAction& about);
     ~HelpActions() override;
 
 protected:
@@ -29,6 +29,7 @@ protected:
 
 private:
     void ShowGuide();
+    void ShowAbout();
     GuideWindow& GuideFor(QWidget* blocking);
 
     QWidget& m_window;

@@ -72,6 +72,7 @@ NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
     layer.priority = PriorityOf(found.kind);
     layer.path = path;
     layer.ogrLayer = found.name;
+    layer.system = found.chosenSystem;
     return layer;
 }
 
@@ -99,10 +100,24 @@ FoundData LookInto(const QStringList& paths, Progress& progress)
 
 QString SystemFor(const MapDocument& document, const FoundData& data)
 {
-    if (data.sources.empty() || !document.System().isEmpty())
-        return document.System();
-    const SourceLayer& first = data.sources.front().layers.front();
-    return SystemToShow(first.system, first.extent);
+    const QString known = document.System();
+    return known.isEmpty() ? SystemToShow(PlacesOf(data)) : known;
+}
+
+const QString& SystemOf(const SourceLayer& layer)
+{
+    return layer.chosenSystem.isEmpty() ? layer.system : layer.chosenSystem;
+}
+
+std::vector<PlacedExtent> PlacesOf(const FoundData& data)
+{
+    std::vector<PlacedExtent> places;
+    places.reserve(LayerCount(data));
+    for (const FoundData::Source& source : data.sources) {
+        for (const SourceLayer& layer : source.layers)
+            places.push_back({SystemOf(layer), layer.extent});
+    }
+    return places;
 }
 
 SourceContents ReadFound(const FoundData& data, const QString& system, Progress& progress)
@@ -111,7 +126,7 @@ SourceContents ReadFound(const FoundData& data, const QString& system, Progress&
     sources.reserve(LayerCount(data));
     for (const FoundData::Source& source : data.sources) {
         for (const SourceLayer& layer : source.layers)
-            sources.push_back({qint32(sources.size()), source.path, layer.name, {}});
+            sources.push_back({qint32(sources.size()), source.path, layer.name, {}, layer.chosenSystem});
     }
     SourceContents contents = ReadSources(std::move(sources), system, progress);
     progress.StopIfCancelled(); // then it is not all

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/SourceReader.h"
 #include "mapkit/document/MapDocument.h"
@@ -34,8 +35,13 @@ size_t LayerCount(const FoundData& data);
 /// lines, and lines over areas.
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
 
-/// The coordinate system in which the map shows the data: its own, or the one that the first data set. Empty
-/// without data for a map that has none.
+/// The coordinate system of a layer that was found: the chosen one, or what its source names. Empty for none.
+const QString& SystemOf(const SourceLayer& layer);
+/// Where all layers lie that were found.
+std::vector<PlacedExtent> PlacesOf(const FoundData& data);
+
+/// The coordinate system in which the map shows the data: its own, or for a map that has none, the one that
+/// SystemToShow chooses for all of them. Empty if their systems are not known.
 QString SystemFor(const MapDocument& document, const FoundData& data);
 
 /// Reads the features of all layers that were found; for any thread. system: as SystemFor returns it. The
@@ -44,8 +50,8 @@ QString SystemFor(const MapDocument& document, const FoundData& data);
 SourceContents ReadFound(const FoundData& data, const QString& system, Progress& progress);
 
 /// Adds what was found to the map, a group for each file and a layer for each of its layers, each in a
-/// different colour, in one transaction. Returns the IDs of the layers. The first data set the map's
-/// coordinate system. Errors are those of the database, UserCancelled too; the map is then as before.
+/// different colour, in one transaction. Returns the IDs of the layers. Sets the map's coordinate system to
+/// that of SystemFor. Errors are those of the database, UserCancelled too; the map is then as before.
 std::vector<qint32> AddToMap(MapDocument& document, const FoundData& data);
 
 /// What ReadFound returned, with the IDs that AddToMap returned.

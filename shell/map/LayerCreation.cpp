@@ -4,6 +4,7 @@
 #include "hostkit/StandardClient.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemGuess.h"
 #include "mapkit/data/EmptyLayer.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
@@ -75,9 +76,11 @@ qint32 LayerCreation::MakeEmpty(const NewLayerDialog& wishes)
 
 qint32 LayerCreation::MakeFromSource(const NewLayerDialog& wishes)
 {
-    const SourceLayer& source = wishes.Source();
+    SourceLayer source = wishes.Source();
+    if (source.system.isEmpty())
+        source.chosenSystem = GuessSystem(source.extent, {m_document.System(), {}});
     if (m_document.System().isEmpty())
-        m_document.SetSystem(SystemToShow(source.system, source.extent));
+        m_document.SetSystem(SystemToShow({{SystemOf(source), source.extent}}));
     NewLayer layer = LayerFor(wishes.File(), source, m_document.Sources().size());
     layer.name = wishes.Name();
     return m_document.AddLayer(layer);

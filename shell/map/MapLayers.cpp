@@ -61,7 +61,8 @@ DrawMode ModeOfRow(const IRecordset& row)
 
 bool IsSameData(const LayerSource& one, const LayerSource& other)
 {
-    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter;
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
+        && one.system == other.system;
 }
 
 } // namespace
@@ -105,6 +106,12 @@ void MapLayers::DropFeatures(qint32 layerID)
 {
     m_features.erase(layerID);
     m_unreadable.remove(layerID);
+}
+
+void MapLayers::DropAllFeatures()
+{
+    m_features.clear();
+    m_unreadable.clear();
 }
 
 // Layers that another window or program deleted.

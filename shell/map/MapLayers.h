@@ -36,6 +36,8 @@ public:
     /// layer may now belong to a new one. Drops those of layers that have no source any more, too. Call
     /// before ReadAll.
     void DropFeaturesOfOtherData();
+    /// Drops the features of all layers: they are in a coordinate system that the map no longer has.
+    void DropAllFeatures();
     /// Takes over the features that were read, and the layers that could not be read; the features of other
     /// layers stay.
     void TakeFeatures(const SourceContents& contents);

@@ -13,6 +13,7 @@
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/RasterBackdrop.h"
+#include "mapkit/drawing/ReprojectedView.h"
 #include "mapkit/output/PageSettings.h"
 #include "shell/map/LayerCreation.h"
 #include "shell/map/SourceText.h"
@@ -117,6 +118,11 @@ std::optional<QString> MapSession::ApplySchemeAtOpening()
 QString MapSession::ReadAndShow(View view, const SourceContents& known)
 {
     m_client.InvalidateLayerNames();
+    const QString before = std::exchange(m_system, m_document->System());
+    m_chosenSystems = m_document->ChosenSystems();
+    const bool isReprojected = before != m_system;
+    if (isReprojected)
+        m_layers.DropAllFeatures();
     ReadRows();
     m_follower.Follow();
     SourceContents contents = known;
@@ -125,6 +131,8 @@ QString MapSession::ReadAndShow(View view, const SourceContents& known)
     const OpenedBackdrop backdrop = OpenBackdrop();
     if (view == View::All) {
         ShowAll(backdrop.picture);
+    } else if (isReprojected) {
+        ShowInSystem(backdrop.picture, before);
     } else {
         m_canvas.SetBackdrop(backdrop.picture);
         Show();
@@ -170,7 +178,7 @@ MapSession::OpenedBackdrop MapSession::OpenBackdrop() const
 {
     const QString path = m_document->Backdrop();
     const std::shared_ptr<const RasterBackdrop> shown = m_canvas.Picture().Backdrop();
-    if (path.isEmpty() || (shown && shown->Source().Path() == path))
+    if (path.isEmpty() || (shown && shown->Source().Path() == path && shown->System() == m_system))
         return {path.isEmpty() ? nullptr : shown, {}};
     try {
         return {ReadBackdrop(path), {}};
@@ -201,7 +209,8 @@ void MapSession::SetBackdrop(const QString& path)
     if (backdrop && first) {
         const RasterSource& source = backdrop->Source();
         m_document->SetSystem(SystemToShow(source.System(), source.Extent()));
-        backdrop = std::make_shared<const RasterBackdrop>(path, m_document->System());
+        m_system = m_document->System();
+        backdrop = std::make_shared<const RasterBackdrop>(path, m_system);
     }
     m_document->SetBackdrop(path);
     transaction.Commit();
@@ -234,6 +243,11 @@ void MapSession::Connect()
                 m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));
             });
         });
+    m_followSoon.setSingleShot(true);
+    connect(&m_client.History(), &UndoHistory::Changed, &m_followSoon, qOverload<>(&QTimer::start));
+    connect(&m_followSoon, &QTimer::timeout, this, [this] {
+        LongWork::RunAfter(this, [this] { Guard(&m_mainWindow, [this] { FollowSystems(); }); });
+    });
     connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
     connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
     const HostNotifications& events = m_client.Notifications();
@@ -292,6 +306,36 @@ void MapSession::ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop)
 {
     m_canvas.ShowAll(m_layers.All(), backdrop, MetresPerUnit(m_document->System()));
     FollowLayers();
+}
+
+// Where the middle of the view has no position in the new system, everything is shown.
+void MapSession::ShowInSystem(const std::shared_ptr<const RasterBackdrop>& backdrop, const QString& before)
+{
+    const auto view = ReprojectedView(m_canvas.View(), before, m_system);
+    if (!view)
+        return ShowAll(backdrop);
+    m_canvas.ShowAt(*view, m_layers.All(), backdrop, MetresPerUnit(m_system));
+    FollowLayers();
+}
+
+QStringList MapSession::LayersWithoutPlace() const
+{
+    QStringList names;
+    for (const MapLayer& layer : m_layers.All()) {
+        if (layer.features && layer.features->LeftOutCount() > 0)
+            names << layer.name;
+    }
+    return names;
+}
+
+// Undo and redo change systems too.
+void MapSession::FollowSystems()
+{
+    if (!m_isRead || (m_document->System() == m_system && m_document->ChosenSystems() == m_chosenSystems))
+        return;
+    const QString problems = ReadAndShow();
+    if (!problems.isEmpty())
+        emit DataFailed(problems);
 }
 
 void MapSession::FollowLayers()

@@ -12,8 +12,10 @@
 
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 #include <QTimer>
 
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -63,7 +65,8 @@ public:
 
     /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database. known: what was read
-    /// already, features and failures.
+    /// already, features and failures. If the map has another coordinate system than before, all layers are
+    /// read, and the view stays at its place on the ground.
     QString ReadAndShow(View view = View::Stays, const SourceContents& known = {});
     /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
@@ -71,6 +74,9 @@ public:
     /// Puts a picture under the map and stores it with the map; an empty path removes it. Raises for a file
     /// that is not a georeferenced picture, and errors of the database; the map is then as before.
     void SetBackdrop(const QString& path);
+    /// The names of the layers that are not shown completely, because the map's coordinate system has no
+    /// place for some of their positions.
+    QStringList LayersWithoutPlace() const;
     /// Shows these features instead of those that the layers had.
     void TakeFeatures(const SourceContents& contents);
 
@@ -91,6 +97,7 @@ private:
     void AddCommands();
     void ConnectLayerNews(const HostNotifications& events);
     void ReadNews();
+    void FollowSystems();
     struct OpenedBackdrop {
         std::shared_ptr<const RasterBackdrop> picture; ///< nullptr for none
         QString problem; ///< why it cannot be shown
@@ -103,6 +110,7 @@ private:
     QString ReadMissing(SourceContents& contents) const;
     void Show();
     void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);
+    void ShowInSystem(const std::shared_ptr<const RasterBackdrop>& backdrop, const QString& before);
     void FollowLayers();
     void MarkNames();
     // Of the features of these layers that were read; hidden ones count too.
@@ -119,6 +127,9 @@ private:
     std::unique_ptr<TracingClient> m_traced;
     SourceFollower m_follower;
     bool m_isRead = false; // at least once
+    QString m_system; // that the map is shown in
+    std::map<qint32, QString> m_chosenSystems; // of the layers, as they are shown
+    QTimer m_followSoon; // gathers the many changes of the history
     QTimer m_markSoon; // gathers the many steps of a zoom
     QTimer m_readSoon; // gathers the many layers of a step
     QSet<qint32> m_newsOf; // layers that were renamed or deleted since they were read

@@ -143,8 +143,21 @@ TEST_F(MapCanvasTest, ADoubleClickZoomsInThere)
     EXPECT_NEAR(m_canvas.View().ToPixel(under).x(), 30, 1e-6);
 }
 
-TEST_F(MapCanvasTest, AnotherWindowSizeKeepsScaleAndMiddle)
+TEST_F(MapCanvasTest, WhatShowsEverythingDoesSoInAnotherWindowSizeToo)
 {
+    const MapView before = m_canvas.View();
+    m_canvas.resize(300, 120);
+    EXPECT_EQ(m_canvas.View().Centre(), before.Centre());
+    EXPECT_GT(m_canvas.View().UnitsPerPixel(), before.UnitsPerPixel());
+    m_canvas.ZoomIn();
+    m_canvas.ZoomToAll();
+    m_canvas.resize(before.Size());
+    EXPECT_EQ(m_canvas.View(), before);
+}
+
+TEST_F(MapCanvasTest, AnotherWindowSizeKeepsScaleAndMiddleOnceTheMapWasMoved)
+{
+    m_canvas.ZoomIn();
     const MapView before = m_canvas.View();
     m_canvas.resize(300, 120);
     EXPECT_EQ(m_canvas.View().Centre(), before.Centre());

@@ -42,6 +42,30 @@ TEST(CoordinateSystems, DegreesAreShownInAProjectionThatSuitsTheirExtent)
     EXPECT_EQ(SystemToShow("EPSG:4326", Box()), "EPSG:3857");
 }
 
+TEST(CoordinateSystems, TheLargestDataDecideForAllWhateverTheirOrder)
+{
+    const PlacedExtent town{"EPSG:32632", {500000, 5500000, 510000, 5510000}};
+    const PlacedExtent world{"EPSG:4326", {-180, -90, 180, 84}};
+    const PlacedExtent unknown{"", {0, 0, 1e6, 1e6}};
+    EXPECT_EQ(SystemToShow({town, world}), "EPSG:8857");
+    EXPECT_EQ(SystemToShow({unknown, world, town}), "EPSG:8857");
+    EXPECT_EQ(SystemToShow({unknown, town}), "EPSG:32632");
+    EXPECT_EQ(SystemToShow({unknown}), "");
+    EXPECT_EQ(SystemToShow(std::vector<PlacedExtent>()), "");
+}
+
+TEST(CoordinateSystems, DataThatTogetherGoRoundTheWorldAreShownInItsProjection)
+{
+    EXPECT_EQ(
+        SystemToShow({{"EPSG:4326", {-120, 30, -80, 50}}, {"EPSG:4326", {130, 30, 145, 45}}}), "EPSG:8857");
+}
+
+TEST(CoordinateSystems, ALocalSystemNamesNoPlace)
+{
+    const OGRSpatialReference local = Known("LOCAL_CS[\"Undefined\",UNIT[\"metre\",1]]");
+    EXPECT_EQ(SystemText(&local), "");
+}
+
 TEST(CoordinateSystems, ASystemIsWrittenShortWhereItHasACode)
 {
     const OGRSpatialReference utm = Known("EPSG:32632");
@@ -68,6 +92,8 @@ TEST(CoordinateSystems, NothingIsTransformedBetweenEqualOrUnknownSystems)
     EXPECT_FALSE(TransformationTo("EPSG:4326", &degrees));
     EXPECT_FALSE(TransformationTo("", &degrees));
     EXPECT_FALSE(TransformationTo("EPSG:4326", nullptr));
+    const OGRSpatialReference empty;
+    EXPECT_FALSE(TransformationTo("EPSG:4326", &empty));
 }
 
 } // namespace Orvane

@@ -170,4 +170,32 @@ TEST_F(DataSourceTest, ReadingEndsWhenItIsCancelled)
     EXPECT_THROW(Read(path), Cancelled);
 }
 
+TEST_F(DataSourceTest, AChosenSystemHoldsInsteadOfTheOneThatTheSourceNames)
+{
+    const DataSource source(m_folder.WriteSquare("square.geojson", 10, 50));
+    Progress progress;
+    const FeatureSet chosen = source.Read("square", {}, "EPSG:4326", progress, "EPSG:3857");
+    EXPECT_NEAR(chosen.Bounds().minX, 10 / 111319.49, 1e-6);
+    const FeatureSet named = source.Read("square", {}, "EPSG:4326", progress, "no system");
+    EXPECT_EQ(named.Bounds().minX, 10);
+}
+
+TEST_F(DataSourceTest, AnExtentThatTheSourceDoesNotKnowIsMeasured)
+{
+    const DataSource source(m_folder.WriteSquare("square.geojson", 10, 50));
+    Progress progress;
+    EXPECT_EQ(source.MeasureExtent("square", progress), (Box{10, 50, 20, 60}));
+}
+
+TEST_F(DataSourceTest, TellsFormatGeometryAndCountOfALayer)
+{
+    const DataSource source(m_folder.WriteSquare("square.geojson", 10, 50));
+    const SourceDetails details = source.Details("square");
+    EXPECT_EQ(details.driver, "GeoJSON");
+    EXPECT_EQ(details.geometry, "Polygon");
+    EXPECT_EQ(details.featureCount, 1);
+    EXPECT_EQ(details.system, "EPSG:4326");
+    EXPECT_TRUE(details.extent.IsEmpty()); // this format knows it only after reading
+}
+
 } // namespace Orvane

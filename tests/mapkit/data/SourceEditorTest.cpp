@@ -148,4 +148,18 @@ TEST_F(SourceEditorTest, AFeatureCannotLeaveTheEarth)
                 }).contains("outside the coordinate system"));
 }
 
+TEST_F(SourceEditorTest, MovesInTheSystemThatWasChosenForTheSource)
+{
+    LayerSource source = GeoPackage();
+    source.system = "EPSG:3857";
+    SourceEditor editor(source);
+    const QByteArray before = editor.Geometry(1);
+    const FeatureSet stored = editor.Shown(before, 1, "EPSG:3857");
+    const QPointF shown = stored.Part(0)[0];
+    EXPECT_EQ(shown, QPointF(500000, 5300000));
+    const QByteArray after = editor.Moved(before, {100, 200}, "EPSG:3857");
+    const FeatureSet moved = editor.Shown(after, 1, "EPSG:3857");
+    EXPECT_EQ(moved.Part(0)[0], shown + QPointF(100, 200));
+}
+
 } // namespace Orvane

@@ -322,4 +322,20 @@ TEST_F(MapDocumentTest, AFileThatIsNoMapIsRefusedAndStays)
     EXPECT_EQ(file.readAll(), "not a map");
 }
 
+TEST_F(MapDocumentTest, TheSystemThatWasChosenForALayerIsKeptInCopiesToo)
+{
+    const auto document = MapDocument::Create(m_folder.Path("map.orvane"));
+    NewLayer layer = LayerOf(m_folder.WriteSquare("square.geojson"));
+    layer.system = "EPSG:25832";
+    const qint32 layerID = document->AddLayer(layer);
+    document->AddLayer(LayerOf(m_folder.Path("square.geojson")));
+    document->SaveCopy(m_folder.Path("copy.orvane"));
+    for (const char* name : {"map.orvane", "copy.orvane"}) {
+        const auto opened = MapDocument::Open(m_folder.Path(name));
+        EXPECT_EQ(opened->Sources()[0].system, "EPSG:25832") << name;
+        EXPECT_EQ(opened->Sources()[1].system, "") << name;
+        EXPECT_EQ(opened->ChosenSystems(), (std::map<qint32, QString>{{layerID, "EPSG:25832"}})) << name;
+    }
+}
+
 } // namespace Orvane

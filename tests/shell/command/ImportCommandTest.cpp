@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ImportCommand.h"
 
+#include "mapkit/UnnamedFile.h"
 #include "shell/command/CommandFixture.h"
 #include "support/FileSizeLimit.h"
 
@@ -97,6 +98,56 @@ TEST_F(ImportCommandTest, AFileThatIsNoMapIsLeftAlone)
     const QString text = m_folder.Write("text.orvane", "no map");
     EXPECT_EQ(Run({"import", m_folder.WriteSquare("a.geojson"), "--to", text}), ExitCode::Problems);
     EXPECT_EQ(Content(text), "no map");
+}
+
+TEST_F(ImportCommandTest, WhatIsAssumedAboutDataWithoutASystemIsTold)
+{
+    const QString data = WriteUnnamed(m_folder.Path("places.shp"), {5, 45, 15, 55});
+    EXPECT_EQ(Run({"import", data, "--to", m_map}), ExitCode::Done);
+    EXPECT_TRUE(m_out.contains("places.shp")) << qPrintable(m_out);
+    EXPECT_TRUE(m_out.contains("EPSG:4326")) << qPrintable(m_out);
+    EXPECT_EQ(MapDocument::Open(m_map)->Sources().at(0).system, "EPSG:4326");
+}
+
+TEST_F(ImportCommandTest, DataOfUnknownPlaceAreAddedAndReportedAsAProblem)
+{
+    const QString data = WriteUnnamed(m_folder.Path("plan.shp"), {500000, 5500000, 510000, 5510000});
+    EXPECT_EQ(Run({"import", data, "--to", m_map}), ExitCode::Problems);
+    EXPECT_TRUE(m_out.contains("plan.shp")) << qPrintable(m_out);
+    EXPECT_TRUE(m_errors.contains("--crs")) << qPrintable(m_errors);
+    EXPECT_EQ(LayersOf(m_map), 1u);
+    EXPECT_EQ(MapDocument::Open(m_map)->System(), "");
+}
+
+TEST_F(ImportCommandTest, ASystemCanBeGivenForDataThatNameNone)
+{
+    const QString plan = WriteUnnamed(m_folder.Path("plan.shp"), {500000, 5500000, 510000, 5510000});
+    const QString named = m_folder.WriteSquare("a.geojson", 8, 49);
+    EXPECT_EQ(Run({"import", named, plan, "--crs", "EPSG:25832", "--to", m_map}), ExitCode::Done);
+    const auto map = MapDocument::Open(m_map);
+    EXPECT_EQ(map->Sources().at(0).system, "");
+    EXPECT_EQ(map->Sources().at(1).system, "EPSG:25832");
+}
+
+TEST_F(ImportCommandTest, TheMapsSystemCanBeGiven)
+{
+    const QString data = m_folder.WriteSquare("a.geojson");
+    EXPECT_EQ(Run({"import", data, "--map-crs", "EPSG:25832", "--to", m_map}), ExitCode::Done);
+    EXPECT_EQ(MapDocument::Open(m_map)->System(), "EPSG:25832");
+    EXPECT_EQ(Run({"import", data, "--map-crs", "EPSG:3035", "--to", m_map}), ExitCode::Done);
+    EXPECT_EQ(MapDocument::Open(m_map)->System(), "EPSG:3035");
+}
+
+TEST_F(ImportCommandTest, AnUnknownSystemIsAMistake)
+{
+    const QString data = m_folder.WriteSquare("a.geojson");
+    for (const char* option : {"--crs", "--map-crs"}) {
+        EXPECT_EQ(Run({"import", data, option, "EPSG:0", "--to", m_map}), ExitCode::Usage) << option;
+        EXPECT_TRUE(m_errors.contains("EPSG:0")) << qPrintable(m_errors);
+        EXPECT_TRUE(m_errors.contains(option)) << qPrintable(m_errors);
+        EXPECT_EQ(Run({"import", data, option, "", "--to", m_map}), ExitCode::Usage) << option;
+    }
+    EXPECT_FALSE(QFile::exists(m_map));
 }
 
 } // namespace Orvane

@@ -54,7 +54,7 @@ TEST_F(DataImportTest, LayersAreToldApartByColour)
     EXPECT_EQ(ToInt32(rows->Field("N")), 2);
 }
 
-TEST_F(DataImportTest, TheFirstDataDecideTheSystemAndLaterOnesKeepIt)
+TEST_F(DataImportTest, DataDecideTheSystemOfANewMapAndLaterOnesKeepIt)
 {
     AddToMap(*m_document, Look({m_folder.WriteSquare("a.geojson")}));
     EXPECT_EQ(m_document->System(), "EPSG:3857");

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/map/DataImport.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace Orvane {
+
+/// The map that data is to be added to, as far as finding the data's place needs it.
+struct ImportTarget {
+    QString system; ///< of the map; empty if the data decide it
+    std::vector<LayerSource> sources; ///< what the map has already
+    QString forUnnamed; ///< the system of all data that name none; empty to find it
+};
+
+/// What is assumed about layers whose data name no coordinate system.
+struct SystemNote {
+    enum class Reason {
+        Degrees, ///< the coordinates fit degrees
+        Map, ///< they fit the map's system
+        Chosen, ///< the user chose it
+        Unknown, ///< nothing is assumed: the coordinates are taken as they are
+    };
+
+    Reason reason = Reason::Unknown;
+    QString system; ///< empty for Unknown
+    QStringList names; ///< "roads.shp", or "town.gpkg (roads)" where a file has several layers
+};
+
+/// Data that were found, each with its place.
+struct ImportPlan {
+    FoundData data;
+    std::vector<SystemNote> notes; ///< each system and reason once
+
+    /// The layers of which nothing was found out, named as in SystemNote.
+    QStringList Unknown() const;
+    /// Gives these layers that system.
+    void Choose(const QString& system);
+    /// The notes as sentences for the user, with at most that many names in each; 0 for all.
+    QStringList NoteTexts(int mostNames = 0) const;
+};
+
+/// Examines files as LookInto does, and finds systems for the layers that name none, see GuessSystem. Extents
+/// that a file does not tell are measured where they matter. For any thread. Raises Cancelled.
+ImportPlan PlanImport(const QStringList& paths, const ImportTarget& target, Progress& progress);
+
+/// The target that a map is.
+ImportTarget TargetOf(const MapDocument& document);
+
+} // namespace Orvane
