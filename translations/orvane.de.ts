@@ -484,6 +484,14 @@
         <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
     </message>
     <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>eine Spalte mit Koordinaten fehlt</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>seine Punkte sind Zahlen in einer Tabelle</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>die beiden Schemas enthalten nichts Gemeinsames</translation>
     </message>
@@ -2314,6 +2322,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>dieses Programm hat keinen Treiber für %1</translation>
     </message>
     <message>
         <source>visible</source>

@@ -484,6 +484,14 @@
         <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
     </message>
     <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>il manque une colonne de coordonnées</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>ses points sont des nombres dans une table</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>les deux schémas n’ont rien en commun</translation>
     </message>
@@ -2314,6 +2322,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>ce programme n'a pas de pilote pour %1</translation>
     </message>
     <message>
         <source>visible</source>

@@ -484,6 +484,14 @@
         <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
     </message>
     <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>座標の列がありません</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>点が表の数値として保存されています</translation>
+    </message>
+    <message>
         <source>the two schemes hold nothing in common</source>
         <translation>2つのスキームに共通する項目はありません</translation>
     </message>
@@ -2314,6 +2322,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>このプログラムには%1用のドライバーがありません</translation>
     </message>
     <message>
         <source>visible</source>

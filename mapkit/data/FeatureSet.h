@@ -52,6 +52,8 @@ public:
     std::span<const QPointF> Part(quint32 index) const&& = delete;
     /// The bounds of all features; empty if there are none.
     const Box& Bounds() const { return m_bounds; }
+    /// Whether there is a feature of that kind.
+    bool Has(FeatureKind kind) const { return m_kinds[size_t(kind)]; }
     size_t VertexCount() const { return m_points.size(); }
 
 private:
@@ -59,6 +61,7 @@ private:
     std::vector<size_t> m_partEnds;
     std::vector<Feature> m_features;
     Box m_bounds;
+    bool m_kinds[3] = {}; // by kind
 };
 
 } // namespace Orvane

@@ -97,13 +97,15 @@ bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference* system)
 
 } // namespace
 
-SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path)
+SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path), m_choice(source.choice)
 {
     const QString whyNot = WhyNotOpened(m_path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnchangeable, whyNot);
     if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())
         Fail(tr("the file is read only"));
+    if (!source.choice.columns.IsEmpty())
+        Fail(tr("its points are numbers in a table"));
     const GdalErrors errors;
     const ReadingBound bound;
     m_dataset = OpenForUpdate(m_path);
@@ -155,7 +157,8 @@ FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const
 {
     const GdalErrors quiet;
     FeatureSet features;
-    GeometryReader reader(features, TransformationTo(mapSystem, m_layer->GetSpatialRef()));
+    const OGRSpatialReference* own = m_layer->GetSpatialRef();
+    GeometryReader reader(features, TransformationTo(mapSystem, own), {m_choice, own && own->IsGeographic()});
     if (const OGRGeometryUniquePtr geometry = FromBinary(binary))
         reader.Add(*geometry, featureID);
     return features;

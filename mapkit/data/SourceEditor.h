@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -57,6 +58,7 @@ private:
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;
+    GeometryChoice m_choice;
     std::unique_ptr<GDALDataset> m_dataset;
     OGRLayer* m_layer = nullptr; // owned by the dataset
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -20,6 +21,7 @@ struct LayerSource {
     QString path; ///< absolute, or another name that GDAL opens
     QString ogrLayer; ///< layer within the source
     QString filter; ///< attribute condition; empty for all features
+    GeometryChoice choice = {}; ///< which geometries
 };
 
 /// The result of reading the sources.

@@ -27,6 +27,7 @@ struct NewLayer {
     QString path; ///< absolute path of the data
     QString ogrLayer;
     QString filter;
+    GeometryChoice choice = {}; ///< which geometries of the data
 };
 
 /// A map file: the layer database with three more tables: LayerSources, which stores where each layer's

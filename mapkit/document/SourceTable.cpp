@@ -12,6 +12,7 @@ namespace {
 
 const QString SourcesName = QStringLiteral("LayerSources");
 const QString RelativePath = QStringLiteral("RelativePath");
+const QString Geometry = QStringLiteral("Geometry");
 
 StoreTable SourcesTable()
 {
@@ -23,7 +24,8 @@ StoreTable SourcesTable()
          {QStringLiteral("Path"), StoreType::Text, Nulls::Refused},
          {QStringLiteral("OgrLayer"), StoreType::Text, Nulls::Refused},
          {QStringLiteral("Filter"), StoreType::Text, Nulls::Refused, QStringLiteral("''")},
-         {RelativePath}},
+         {RelativePath},
+         {Geometry}},
         {layerID}};
 }
 
@@ -49,11 +51,14 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
 {
     if (!m_database.HasTable(SourcesName))
         return {};
-    const bool older = !m_database.HasColumn(SourcesName, RelativePath);
+    // Older tables lack the columns.
+    const auto valueOf = [this](const QString& column) {
+        return m_database.HasColumn(SourcesName, column) ? column : QStringLiteral("NULL AS ") + column;
+    };
     const auto rows = m_database.OpenQuery(
-        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath"
-                       " FROM LayerSources WHERE %2 ORDER BY LayerID")
-            .arg(QLatin1String(older ? "NULL" : "RelativePath"), condition),
+        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1, %2"
+                       " FROM LayerSources WHERE %3 ORDER BY LayerID")
+            .arg(valueOf(RelativePath), valueOf(Geometry), condition),
         values);
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
@@ -64,7 +69,8 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
             ToTextOrNone(rows->Field("Path")), ToTextOrNone(rows->Field("RelativePath"))};
         sources.push_back(
             {*layerID, m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
-             ToTextOrNone(rows->Field("Filter"))});
+             ToTextOrNone(rows->Field("Filter")),
+             GeometryChoice::FromText(ToTextOrNone(rows->Field("Geometry")))});
     }
     return sources;
 }
@@ -74,12 +80,12 @@ void SourceTable::Set(const LayerSource& source)
     const SourcePaths::Place place = m_paths.Store(source.path);
     const auto notNull = [](const QString& text) { return text.isNull() ? QStringLiteral("") : text; };
     m_database.Execute(
-        QStringLiteral("INSERT INTO LayerSources (LayerID, Path, OgrLayer, Filter, RelativePath)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5) ON CONFLICT (LayerID) DO UPDATE SET"
+        QStringLiteral("INSERT INTO LayerSources (LayerID, Path, OgrLayer, Filter, RelativePath, Geometry)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6) ON CONFLICT (LayerID) DO UPDATE SET"
                        " Path = excluded.Path, OgrLayer = excluded.OgrLayer, Filter = excluded.Filter,"
-                       " RelativePath = excluded.RelativePath"),
+                       " RelativePath = excluded.RelativePath, Geometry = excluded.Geometry"),
         {source.layerID, notNull(place.path), notNull(source.ogrLayer), notNull(source.filter),
-         notNull(place.relative)});
+         notNull(place.relative), notNull(source.choice.ToText())});
 }
 
 } // namespace Orvane

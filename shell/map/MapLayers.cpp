@@ -61,7 +61,8 @@ DrawMode ModeOfRow(const IRecordset& row)
 
 bool IsSameData(const LayerSource& one, const LayerSource& other)
 {
-    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter;
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
+        && one.choice == other.choice;
 }
 
 } // namespace
