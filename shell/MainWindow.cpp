@@ -174,14 +174,14 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!LocalFiles(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    TakeAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const QStringList paths = LocalFiles(*event->mimeData());
-    event->acceptProposedAction();
+    if (!TakeAsCopy(*event))
+        return;
     Guard(this, [&] {
         if (paths.size() == 1 && IsMapFile(paths.first()))
             OpenMap(paths.first());
