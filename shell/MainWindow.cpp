@@ -4,6 +4,7 @@
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
+#include "mapkit/data/DataFiles.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/actions/DataActions.h"
@@ -15,6 +16,7 @@
 #include "shell/map/DataImport.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
+#include "shell/map/TableQuestions.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
 #include "shell/window/DroppedFiles.h"
@@ -124,8 +126,7 @@ SourceContents MainWindow::ContentsOf(const MapDocument& document)
 
 void MainWindow::AddData(const QStringList& paths)
 {
-    const FoundData found = ReadOrGiveUp(
-        this, tr("Opening map data"), [paths](Progress& progress) { return LookInto(paths, progress); });
+    const FoundData found = TableQuestions::FindData(paths, *this);
     const SourceContents contents = ReadOrGiveUp(
         this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
             return ReadFound(found, system, progress);
@@ -282,10 +283,7 @@ void MainWindow::SaveMapAs()
 void MainWindow::AskForData()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Open Data"), {},
-        tr("Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv "
-           "*.vrt)"
-           ";;All files (*)"));
+        this, tr("Open Data"), {}, tr("Map data (%1);;All files (*)").arg(DataFiles::Patterns()));
     if (!paths.isEmpty())
         AddData(paths);
 }

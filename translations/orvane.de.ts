@@ -32,6 +32,14 @@
         <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>„%1“ in „%2“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>„%1“ ist eine Tabelle ohne Spalten für Koordinaten.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
@@ -54,6 +62,26 @@
     <message>
         <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
+    </message>
+    <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>„--columns“ braucht zwei Namen: „X,Y“.</translation>
+    </message>
+    <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (Flächen)</translation>
+    </message>
+    <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (ausgelassen)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (Linien)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (Punkte)</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -308,6 +336,10 @@
         <translation>&amp;Neues Thema aus sichtbaren Layern...</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>&amp;Nirgends; diese Tabelle auslassen</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>A&amp;nzahl der Klassen:</translation>
     </message>
@@ -400,6 +432,14 @@
         <translation>&amp;Ansicht</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>&amp;X, Osten oder Länge:</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>&amp;Y, Norden oder Breite:</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
@@ -418,6 +458,66 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
+    </message>
+    <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>Die Spalten mit den Koordinaten der Tabellen in der Karte wählen</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>Bitte wählen Sie die Spalten.</translation>
+    </message>
+    <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>Die Koordinaten von „%1“ stehen in diesen Spalten: %2</translation>
+    </message>
+    <message>
+        <source>First rows</source>
+        <translation>Erste Zeilen</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>In &amp;einer Spalte mit Geometrien als Text (WKT)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>In &amp;zwei Spalten mit Zahlen</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>Kartendaten (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>Einige der Zeilen haben dort keine Zahlen. Sie werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>Tabellens&amp;palten...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>Tabellenspalten</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tabellen</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>Die Spalte von Tabellen mit Geometrien als Text (WKT).</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>Die Spalten von Tabellen mit den Koordinaten; sonst werden sie erraten.</translation>
+    </message>
+    <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>Wo stehen die Koordinaten der Zeilen?</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X und Y sind dieselbe Spalte.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -1340,10 +1440,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Map Tools</source>
         <translation>Kartenwerkzeuge</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Kartendaten (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Map elements</source>

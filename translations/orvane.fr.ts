@@ -32,6 +32,14 @@
         <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>« %1 » dans « %2 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>« %1 » est une table sans colonnes de coordonnées.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
@@ -54,6 +62,26 @@
     <message>
         <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
+    </message>
+    <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>« --columns » demande deux noms : « X,Y ».</translation>
+    </message>
+    <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (surfaces)</translation>
+    </message>
+    <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (ignorée)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (lignes)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (points)</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -308,6 +336,10 @@
         <translation>&amp;Nouveau thème à partir des couches visibles...</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>&amp;Nulle part ; ignorer cette table</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>&amp;Nombre de classes :</translation>
     </message>
@@ -400,6 +432,14 @@
         <translation>A&amp;ffichage</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>&amp;X, est ou longitude :</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>&amp;Y, nord ou latitude :</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
@@ -418,6 +458,66 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
+    </message>
+    <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>Choisir les colonnes de coordonnées des tables de la carte</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>Veuillez choisir les colonnes.</translation>
+    </message>
+    <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>Les coordonnées de « %1 » sont dans ces colonnes : %2</translation>
+    </message>
+    <message>
+        <source>First rows</source>
+        <translation>Premières lignes</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>Dans &amp;une colonne de géométries sous forme de texte (WKT)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>Dans &amp;deux colonnes de nombres</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>Données cartographiques (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>Certaines des lignes n'y ont pas de nombres. Elles sont ignorées.</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>Co&amp;lonnes des tables...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>Colonnes des tables</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tables</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>La colonne des tables contenant les géométries sous forme de texte (WKT).</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>Les colonnes de coordonnées des tables ; sinon elles sont devinées.</translation>
+    </message>
+    <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>Où sont les coordonnées des lignes ?</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X et Y sont la même colonne.</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -1340,10 +1440,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Map Tools</source>
         <translation>Outils de carte</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Données cartographiques (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Map elements</source>

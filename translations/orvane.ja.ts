@@ -32,6 +32,14 @@
         <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>「%2」の中の「%1」を読み込めません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>「%1」は座標の列がない表です。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>「%1」が「%2」にありません。</translation>
     </message>
@@ -54,6 +62,26 @@
     <message>
         <source>&quot;%1&quot;, row &quot;%2&quot;: %3 &quot;%4&quot; was replaced by %5.</source>
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
+    </message>
+    <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>「--columns」には 2 つの名前「X,Y」が必要です。</translation>
+    </message>
+    <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (面)</translation>
+    </message>
+    <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (除外)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (線)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (点)</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -308,6 +336,10 @@
         <translation>表示中のレイヤから新しいテーマ(&amp;N)...</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>ない。この表を除外する(&amp;N)</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>階級数(&amp;N):</translation>
     </message>
@@ -400,6 +432,14 @@
         <translation>表示(&amp;V)</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>X、東または経度(&amp;X):</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>Y、北または緯度(&amp;Y):</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
@@ -418,6 +458,66 @@
     <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
+    </message>
+    <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>地図の中の表について、座標の列を選びます</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>列を選んでください。</translation>
+    </message>
+    <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>「%1」の座標の列: %2</translation>
+    </message>
+    <message>
+        <source>First rows</source>
+        <translation>最初の行</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>ジオメトリをテキスト (WKT) で持つ 1 つの列(&amp;O)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>数値の 2 つの列(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>地図データ (%1);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>数値がない行があります。それらの行は除外されます。</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>表の列(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>表の列</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>ジオメトリをテキスト (WKT) で持つ表の列。</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>表の座標の列。指定しない場合は推定されます。</translation>
+    </message>
+    <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>各行の座標はどこにありますか?</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X と Y が同じ列です。</translation>
     </message>
     <message>
         <source>compared: %1</source>
@@ -1340,10 +1440,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Map Tools</source>
         <translation>地図ツール</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>地図データ (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Map elements</source>

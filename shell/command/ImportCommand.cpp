@@ -2,7 +2,6 @@
 #include "shell/command/ImportCommand.h"
 
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/DataFiles.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/DataImport.h"
 
@@ -10,6 +9,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <limits>
 
 namespace Orvane {
@@ -21,33 +21,70 @@ QString ImportText(const char* text)
     return QCoreApplication::translate("ImportCommand", text);
 }
 
-QStringList FilesOf(const QStringList& words)
+// The columns that the command names for its tables; empty: they are guessed.
+struct Wishes {
+    CoordinateColumns columns;
+    QString map;
+};
+
+QStringList NamesIn(const CoordinateColumns& columns)
 {
-    QStringList files;
-    for (const QString& word : words)
-        files << (QFileInfo(word).isDir() ? DataFiles::In(word) : QStringList(word));
-    return files;
+    return columns.wkt.isEmpty() ? QStringList{columns.x, columns.y} : QStringList{columns.wkt};
 }
 
-int Import(const QStringList& files, const QString& map, const Terminal& terminal)
+bool HasAll(const TableRows& table, const QStringList& columns)
+{
+    return std::all_of(columns.begin(), columns.end(), [&](const QString& column) {
+        return table.columns.contains(column);
+    });
+}
+
+// A table without the named columns is left out.
+void ChooseColumns(FoundData& found, const CoordinateColumns& columns)
+{
+    for (TableChoice& table : found.tables)
+        table.columns = HasAll(table.table, NamesIn(columns)) ? columns : CoordinateColumns();
+}
+
+void TellColumns(const FoundData& found, const Terminal& terminal)
+{
+    for (const FoundData::Source& source : found.sources) {
+        for (const SourceLayer& layer : source.layers) {
+            const CoordinateColumns& columns = layer.choice.columns;
+            if (columns.IsEmpty())
+                continue;
+            const QString text = ImportText(
+                QT_TRANSLATE_NOOP("ImportCommand", "Coordinates of \"%1\" are in these columns: %2"));
+            TellLine(
+                terminal,
+                text.arg(QFileInfo(source.path).fileName(), NamesIn(columns).join(QLatin1String(", "))));
+        }
+    }
+}
+
+int Import(const QStringList& files, const Wishes& wishes, const Terminal& terminal)
 {
     Progress progress;
-    const FoundData found = LookInto(files, progress);
+    FoundData found = LookInto(files, progress);
+    if (!wishes.columns.IsEmpty())
+        ChooseColumns(found, wishes.columns);
+    found = WithTablesAsLayers(std::move(found), progress);
     for (const QString& problem : found.problems)
         TellError(terminal, problem);
     if (found.sources.empty()) {
         TellError(terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
         return ExitCode::Problems;
     }
+    TellColumns(found, terminal);
     const auto add = [&found](MapDocument& document) { AddToMap(document, found); };
-    if (QFileInfo::exists(map))
-        add(*MapDocument::Open(map));
+    if (QFileInfo::exists(wishes.map))
+        add(*MapDocument::Open(wishes.map));
     else
-        MapDocument::Make(map, IfExists::Refuse, add);
+        MapDocument::Make(wishes.map, IfExists::Refuse, add);
     TellLine(
         terminal,
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
-            .arg(QFileInfo(map).fileName(), QLocale().toString(qulonglong(LayerCount(found)))));
+            .arg(QFileInfo(wishes.map).fileName(), QLocale().toString(qulonglong(LayerCount(found)))));
     return found.problems.isEmpty() ? ExitCode::Done : ExitCode::Problems;
 }
 
@@ -60,13 +97,22 @@ int ImportCommand(const QStringList& arguments, const Terminal& terminal)
         ImportText(
             QT_TRANSLATE_NOOP("ImportCommand", "The map file to add to; it is made when there is none.")),
         QStringLiteral("MAP"));
+    const QCommandLineOption columns(
+        QStringLiteral("columns"),
+        ImportText(QT_TRANSLATE_NOOP(
+            "ImportCommand", "The columns of tables with the coordinates; without this they are guessed.")),
+        QStringLiteral("X,Y"));
+    const QCommandLineOption wkt(
+        QStringLiteral("wkt"),
+        ImportText(QT_TRANSLATE_NOOP("ImportCommand", "The column of tables with geometries as text (WKT).")),
+        QStringLiteral("COLUMN"));
     CommandReader reader(ImportText(QT_TRANSLATE_NOOP(
         "ImportCommand",
         "Add data to a map file: a group for each file, a layer for each of its layers.\n"
         "Exit code: 0 all was added, 1 something was not, 2 the command was not understood.")));
     reader.AddCommand(QStringLiteral("import"));
     reader.RequireWords(1, std::numeric_limits<qsizetype>::max());
-    reader.Options().addOption(to);
+    reader.Options().addOptions({to, columns, wkt});
     reader.Options().addPositionalArgument(
         QStringLiteral("DATA"),
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Files, or folders with files in them.")),
@@ -76,7 +122,16 @@ int ImportCommand(const QStringList& arguments, const Terminal& terminal)
     if (reader.Value(to).isEmpty())
         return reader.Refuse(
             terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "\"--to MAP\" is missing.")));
-    return Import(FilesOf(reader.Words()), reader.Value(to), terminal);
+    const QStringList pair = reader.Value(columns).split(QLatin1Char(','));
+    if (!reader.Value(columns).isEmpty() && (pair.size() != 2 || pair.contains(QString()))) {
+        return reader.Refuse(
+            terminal,
+            ImportText(QT_TRANSLATE_NOOP("ImportCommand", "\"--columns\" needs two names: \"X,Y\".")));
+    }
+    const CoordinateColumns wished = reader.Value(wkt).isEmpty()
+        ? CoordinateColumns{pair.value(0), pair.value(1), {}}
+        : CoordinateColumns{{}, {}, reader.Value(wkt)};
+    return Import(reader.Words(), {wished, reader.Value(to)}, terminal);
 }
 
 } // namespace Orvane
