@@ -4,6 +4,7 @@
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
+#include "mapkit/data/DataFiles.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/actions/DataActions.h"
@@ -19,6 +20,7 @@
 #include "shell/map/ImportPlan.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
+#include "shell/map/TableQuestions.h"
 #include "shell/output/OutputActions.h"
 #include "shell/tools/ToolActions.h"
 #include "shell/view/MapMenu.h"
@@ -141,8 +143,9 @@ SourceContents MainWindow::ContentsOf(const MapDocument& document)
 void MainWindow::AddData(const QStringList& paths)
 {
     ImportPlan plan = ReadOrGiveUp(
-        this, tr("Opening map data"), [paths, target = TargetOf(Document())](Progress& progress) {
-            return PlanImport(paths, target, progress);
+        this, tr("Opening map data"),
+        [data = TableQuestions::FindData(paths, *this), target = TargetOf(Document())](Progress& progress) {
+            return PlanImport(data, target, progress);
         });
     m_system->Settle(plan);
     const FoundData& found = plan.data;
@@ -196,14 +199,14 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!LocalFiles(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    TakeAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const QStringList paths = LocalFiles(*event->mimeData());
-    event->acceptProposedAction();
+    if (!TakeAsCopy(*event))
+        return;
     Guard(this, [&] {
         if (paths.size() == 1 && IsMapFile(paths.first()))
             OpenMap(paths.first());
@@ -323,10 +326,7 @@ void MainWindow::SaveMapAs()
 void MainWindow::AskForData()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Open Data"), {},
-        tr("Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv "
-           "*.vrt)"
-           ";;All files (*)"));
+        this, tr("Open Data"), {}, tr("Map data (%1);;All files (*)").arg(DataFiles::Patterns()));
     if (!paths.isEmpty())
         AddData(paths);
 }

@@ -32,6 +32,14 @@
         <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>„%1“ in „%2“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>„%1“ ist eine Tabelle ohne Spalten für Koordinaten.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>„%1“ fehlt in „%2“.</translation>
     </message>
@@ -60,6 +68,10 @@
         <translation>„%1“, Zeile „%2“: %3 „%4“ wurde durch %5 ersetzt.</translation>
     </message>
     <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>„--columns“ braucht zwei Namen: „X,Y“.</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -68,12 +80,28 @@ Einheit: %2
 Gültigkeitsbereich: %3</translation>
     </message>
     <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (Flächen)</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (im System der Karte)</translation>
     </message>
     <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (ausgelassen)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (Linien)</translation>
+    </message>
+    <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (Länge, Breite)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (Punkte)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -364,6 +392,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>&amp;Nächste Ansicht</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>&amp;Nirgends; diese Tabelle auslassen</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>A&amp;nzahl der Klassen:</translation>
     </message>
@@ -472,6 +504,14 @@ Gültigkeitsbereich: %3</translation>
         <translation>&amp;Ansicht</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>&amp;X, Osten oder Länge:</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>&amp;Y, Norden oder Breite:</translation>
+    </message>
+    <message>
         <source>&amp;Zoom by Rectangle</source>
         <translation>Auf &amp;Rechteck zoomen</translation>
     </message>
@@ -546,6 +586,14 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Die Farbe unter allen Layern wählen</translation>
     </message>
     <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>Die Spalten mit den Koordinaten der Tabellen in der Karte wählen</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>Bitte wählen Sie die Spalten.</translation>
+    </message>
+    <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>Das Koordinatensystem wählen, in dem die Karte gezeigt wird</translation>
     </message>
@@ -598,6 +646,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>Koordinatensysteme</translation>
     </message>
     <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>Die Koordinaten von „%1“ stehen in diesen Spalten: %2</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>Koordinaten kopieren</translation>
     </message>
@@ -626,6 +678,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>Füllfarben des Layers</translation>
     </message>
     <message>
+        <source>First rows</source>
+        <translation>Erste Zeilen</translation>
+    </message>
+    <message>
         <source>Format:</source>
         <translation>Format:</translation>
     </message>
@@ -644,6 +700,14 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>Greys</source>
         <translation>Grautöne</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>In &amp;einer Spalte mit Geometrien als Text (WKT)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>In &amp;zwei Spalten mit Zahlen</translation>
     </message>
     <message>
         <source>It was assumed or chosen; the source names none.</source>
@@ -694,6 +758,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Map Background</source>
         <translation>Hintergrundfarbe der Karte</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>Kartendaten (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -808,6 +876,30 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Lage einiger Daten ist nicht bekannt. --crs gibt ihr Koordinatensystem an.</translation>
     </message>
     <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>Einige der Zeilen haben dort keine Zahlen. Sie werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>Tabellens&amp;palten...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>Tabellenspalten</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tabellen</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>Die Spalte von Tabellen mit Geometrien als Text (WKT).</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>Die Spalten von Tabellen mit den Koordinaten; sonst werden sie erraten.</translation>
+    </message>
+    <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
         <translation>Das Koordinatensystem der Daten, die keines angeben, zum Beispiel EPSG:25832; Daten, die eines angeben, behalten es. Ohne diese Option werden Grad angenommen, wo sie passen, sonst das System der Karte.</translation>
     </message>
@@ -876,8 +968,16 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Dies ist kein bekanntes Koordinatensystem.</translation>
     </message>
     <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>Wo stehen die Koordinaten der Zeilen?</translation>
+    </message>
+    <message>
         <source>Write JSON, for scripts.</source>
         <translation>JSON schreiben, für Skripte.</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X und Y sind dieselbe Spalte.</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -962,6 +1062,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
+    </message>
+    <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>eine Spalte mit Koordinaten fehlt</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>seine Punkte sind Zahlen in einer Tabelle</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1810,10 +1918,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Map Tools</source>
         <translation>Kartenwerkzeuge</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Kartendaten (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Map elements</source>
@@ -2794,6 +2898,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Value:</source>
         <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>dieses Programm hat keinen Treiber für %1</translation>
     </message>
     <message>
         <source>visible</source>

@@ -32,6 +32,14 @@
         <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>« %1 » dans « %2 » ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>« %1 » est une table sans colonnes de coordonnées.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>« %1 » est absent de « %2 ».</translation>
     </message>
@@ -60,6 +68,10 @@
         <translation>« %1 », ligne « %2 » : %3 « %4 » a été remplacé par %5.</translation>
     </message>
     <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>« --columns » demande deux noms : « X,Y ».</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -68,12 +80,28 @@ Unité : %2
 Zone d’utilisation : %3</translation>
     </message>
     <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (surfaces)</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (dans le système de la carte)</translation>
     </message>
     <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (ignorée)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (lignes)</translation>
+    </message>
+    <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (longitude, latitude)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (points)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -364,6 +392,10 @@ Zone d’utilisation : %3</translation>
         <translation>Vue suiva&amp;nte</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>&amp;Nulle part ; ignorer cette table</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>&amp;Nombre de classes :</translation>
     </message>
@@ -472,6 +504,14 @@ Zone d’utilisation : %3</translation>
         <translation>A&amp;ffichage</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>&amp;X, est ou longitude :</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>&amp;Y, nord ou latitude :</translation>
+    </message>
+    <message>
         <source>&amp;Zoom by Rectangle</source>
         <translation>&amp;Zoom par rectangle</translation>
     </message>
@@ -546,6 +586,14 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>Choisir la couleur sous toutes les couches</translation>
     </message>
     <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>Choisir les colonnes de coordonnées des tables de la carte</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>Veuillez choisir les colonnes.</translation>
+    </message>
+    <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>Choisir le système de coordonnées dans lequel la carte est affichée</translation>
     </message>
@@ -598,6 +646,10 @@ Zone d’utilisation : %3</translation>
         <translation>Systèmes de coordonnées</translation>
     </message>
     <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>Les coordonnées de « %1 » sont dans ces colonnes : %2</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>Copier les coordonnées</translation>
     </message>
@@ -626,6 +678,10 @@ Zone d’utilisation : %3</translation>
         <translation>Couleurs de remplissage de la couche</translation>
     </message>
     <message>
+        <source>First rows</source>
+        <translation>Premières lignes</translation>
+    </message>
+    <message>
         <source>Format:</source>
         <translation>Format :</translation>
     </message>
@@ -644,6 +700,14 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>Greys</source>
         <translation>Gris</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>Dans &amp;une colonne de géométries sous forme de texte (WKT)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>Dans &amp;deux colonnes de nombres</translation>
     </message>
     <message>
         <source>It was assumed or chosen; the source names none.</source>
@@ -694,6 +758,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Map Background</source>
         <translation>Couleur de fond de la carte</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>Données cartographiques (%1);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -808,6 +876,30 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>La position de certaines données n’est pas connue. --crs indique leur système de coordonnées.</translation>
     </message>
     <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>Certaines des lignes n'y ont pas de nombres. Elles sont ignorées.</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>Co&amp;lonnes des tables...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>Colonnes des tables</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tables</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>La colonne des tables contenant les géométries sous forme de texte (WKT).</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>Les colonnes de coordonnées des tables ; sinon elles sont devinées.</translation>
+    </message>
+    <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
         <translation>Le système de coordonnées des données qui n’en indiquent aucun, par exemple EPSG:25832 ; les données qui en indiquent un le gardent. Sans cette option, des degrés sont supposés s’ils conviennent, sinon le système de la carte.</translation>
     </message>
@@ -876,8 +968,16 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Ce n’est pas un système de coordonnées connu.</translation>
     </message>
     <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>Où sont les coordonnées des lignes ?</translation>
+    </message>
+    <message>
         <source>Write JSON, for scripts.</source>
         <translation>Écrire du JSON, pour les scripts.</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X et Y sont la même colonne.</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -962,6 +1062,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
+    </message>
+    <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>il manque une colonne de coordonnées</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>ses points sont des nombres dans une table</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1810,10 +1918,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Map Tools</source>
         <translation>Outils de carte</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>Données cartographiques (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Map elements</source>
@@ -2794,6 +2898,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Value:</source>
         <translation>Valeur :</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>ce programme n'a pas de pilote pour %1</translation>
     </message>
     <message>
         <source>visible</source>

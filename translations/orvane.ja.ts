@@ -32,6 +32,14 @@
         <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; cannot be read.</source>
+        <translation>「%2」の中の「%1」を読み込めません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table without columns for coordinates.</source>
+        <translation>「%1」は座標の列がない表です。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is missing from &quot;%2&quot;.</source>
         <translation>「%1」が「%2」にありません。</translation>
     </message>
@@ -60,6 +68,10 @@
         <translation>「%1」の行「%2」: %3「%4」を %5 に置き換えました。</translation>
     </message>
     <message>
+        <source>&quot;--columns&quot; needs two names: &quot;X,Y&quot;.</source>
+        <translation>「--columns」には 2 つの名前「X,Y」が必要です。</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -68,12 +80,28 @@ Area of use: %3</source>
 適用範囲: %3</translation>
     </message>
     <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (面)</translation>
+    </message>
+    <message>
         <source>%1 (in the map's system)</source>
         <translation>%1 (地図の座標系)</translation>
     </message>
     <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (除外)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (線)</translation>
+    </message>
+    <message>
         <source>%1 (longitude, latitude)</source>
         <translation>%1 (経度, 緯度)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (点)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -364,6 +392,10 @@ Area of use: %3</source>
         <translation>次の表示範囲(&amp;N)</translation>
     </message>
     <message>
+        <source>&amp;Nowhere; leave this table out</source>
+        <translation>ない。この表を除外する(&amp;N)</translation>
+    </message>
+    <message>
         <source>&amp;Number of classes:</source>
         <translation>階級数(&amp;N):</translation>
     </message>
@@ -472,6 +504,14 @@ Area of use: %3</source>
         <translation>表示(&amp;V)</translation>
     </message>
     <message>
+        <source>&amp;X, east or longitude:</source>
+        <translation>X、東または経度(&amp;X):</translation>
+    </message>
+    <message>
+        <source>&amp;Y, north or latitude:</source>
+        <translation>Y、北または緯度(&amp;Y):</translation>
+    </message>
+    <message>
         <source>&amp;Zoom by Rectangle</source>
         <translation>矩形でズーム(&amp;Z)</translation>
     </message>
@@ -546,6 +586,14 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>すべてのレイヤーの下の色を選びます</translation>
     </message>
     <message>
+        <source>Choose the columns with the coordinates of the tables in the map</source>
+        <translation>地図の中の表について、座標の列を選びます</translation>
+    </message>
+    <message>
+        <source>Choose the columns, please.</source>
+        <translation>列を選んでください。</translation>
+    </message>
+    <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>地図を表示する座標系を選択します</translation>
     </message>
@@ -598,6 +646,10 @@ Area of use: %3</source>
         <translation>座標系の一覧</translation>
     </message>
     <message>
+        <source>Coordinates of &quot;%1&quot; are in these columns: %2</source>
+        <translation>「%1」の座標の列: %2</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>座標をコピー</translation>
     </message>
@@ -626,6 +678,10 @@ Area of use: %3</source>
         <translation>レイヤーの塗りつぶしの色</translation>
     </message>
     <message>
+        <source>First rows</source>
+        <translation>最初の行</translation>
+    </message>
+    <message>
         <source>Format:</source>
         <translation>形式:</translation>
     </message>
@@ -644,6 +700,14 @@ Area of use: %3</source>
     <message>
         <source>Greys</source>
         <translation>灰色系</translation>
+    </message>
+    <message>
+        <source>In &amp;one column with geometries as text (WKT)</source>
+        <translation>ジオメトリをテキスト (WKT) で持つ 1 つの列(&amp;O)</translation>
+    </message>
+    <message>
+        <source>In &amp;two columns with numbers</source>
+        <translation>数値の 2 つの列(&amp;T)</translation>
     </message>
     <message>
         <source>It was assumed or chosen; the source names none.</source>
@@ -694,6 +758,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Map Background</source>
         <translation>地図の背景色</translation>
+    </message>
+    <message>
+        <source>Map data (%1);;All files (*)</source>
+        <translation>地図データ (%1);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -808,6 +876,30 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>一部のデータの位置が不明です。座標系は --crs で指定できます。</translation>
     </message>
     <message>
+        <source>Some of the rows below have no numbers there. They are left out.</source>
+        <translation>数値がない行があります。それらの行は除外されます。</translation>
+    </message>
+    <message>
+        <source>Table &amp;Columns...</source>
+        <translation>表の列(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Table Columns</source>
+        <translation>表の列</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>The column of tables with geometries as text (WKT).</source>
+        <translation>ジオメトリをテキスト (WKT) で持つ表の列。</translation>
+    </message>
+    <message>
+        <source>The columns of tables with the coordinates; without this they are guessed.</source>
+        <translation>表の座標の列。指定しない場合は推定されます。</translation>
+    </message>
+    <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
         <translation>座標系が指定されていないデータの座標系 (例: EPSG:25832)。指定のあるデータには適用されません。このオプションがない場合、度として合えば度、そうでなければ地図の座標系とみなします。</translation>
     </message>
@@ -876,8 +968,16 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>既知の座標系ではありません。</translation>
     </message>
     <message>
+        <source>Where are the coordinates of the rows?</source>
+        <translation>各行の座標はどこにありますか?</translation>
+    </message>
+    <message>
         <source>Write JSON, for scripts.</source>
         <translation>スクリプト用に JSON で出力します。</translation>
+    </message>
+    <message>
+        <source>X and Y are the same column.</source>
+        <translation>X と Y が同じ列です。</translation>
     </message>
     <message>
         <source>Yellow to red</source>
@@ -962,6 +1062,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>The table is sorted by a column. Go back to your own order first.</source>
         <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
+    </message>
+    <message>
+        <source>it lacks a column with coordinates</source>
+        <translation>座標の列がありません</translation>
+    </message>
+    <message>
+        <source>its points are numbers in a table</source>
+        <translation>点が表の数値として保存されています</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1810,10 +1918,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Map Tools</source>
         <translation>地図ツール</translation>
-    </message>
-    <message>
-        <source>Map data (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;All files (*)</source>
-        <translation>地図データ (*.gpkg *.shp *.geojson *.json *.kml *.kmz *.gml *.gpx *.dxf *.tab *.mif *.fgb *.csv *.vrt);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Map elements</source>
@@ -2794,6 +2898,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Value:</source>
         <translation>値:</translation>
+    </message>
+    <message>
+        <source>this program has no driver for %1</source>
+        <translation>このプログラムには%1用のドライバーがありません</translation>
     </message>
     <message>
         <source>visible</source>

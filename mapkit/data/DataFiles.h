@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace Orvane {
 
 /// Finds files that hold map data by their names. Other files may hold map data too, if the user chooses one.
@@ -11,9 +13,18 @@ namespace DataFiles {
 /// "*.gpkg *.shp ...": the usual file name extensions, for file dialogs.
 QString Patterns();
 
-/// The data files directly in that folder, with their paths, ordered by name. Files that only accompany
-/// others, such as the .dbf of a .shp, are left out.
-QStringList In(const QString& folder);
+/// The data source to which a path belongs, by its name alone: the path itself for a data file; for a path
+/// within a folder that is one source, such as "town.gdb/a.gdbtable", the folder. Empty for files that only
+/// accompany others, such as the .dbf of a .shp, and for all else.
+QString SourceOf(const QString& path);
+
+/// What is meant by files and folders that the user chose together: the data in a folder (the folder itself
+/// if no file in it is known by its name), and one source for all its files. Each once. atEach: as below.
+QStringList Meant(const QStringList& chosen, const std::function<void()>& atEach = {});
+
+/// The data files in that folder and its subfolders, with their paths, ordered by name; a folder that is one
+/// source counts as one file. Hidden folders are left out. atEach: called for each entry; may raise.
+QStringList In(const QString& folder, const std::function<void()>& atEach = {});
 
 } // namespace DataFiles
 

@@ -7,8 +7,11 @@
 #include "mapkit/coordinates/SystemReference.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
+#include "mapkit/data/LayerDescription.h"
+#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/data/RowGeometry.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -16,7 +19,6 @@
 
 #include <cmath>
 #include <cpl_conv.h>
-#include <gdal_priv.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 #include <utility>
@@ -26,27 +28,7 @@ namespace Orvane {
 namespace {
 
 constexpr GIntBig FeaturesBetweenReports = 64;
-
-std::unique_ptr<GDALDataset> Open(const QString& path)
-{
-    PrepareGdal();
-    constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
-    return std::unique_ptr<GDALDataset>(GDALDataset::Open(path.toUtf8().constData(), flags));
-}
-
-FeatureKind KindOf(OGRwkbGeometryType type)
-{
-    switch (wkbFlatten(OGR_GT_GetLinear(type))) {
-    case wkbPoint:
-    case wkbMultiPoint:
-        return FeatureKind::Point;
-    case wkbLineString:
-    case wkbMultiLineString:
-        return FeatureKind::Line;
-    default:
-        return FeatureKind::Area;
-    }
-}
+constexpr int RowsToShow = 20;
 
 // Empty for one that is not finite.
 Box BoxOf(const OGREnvelope& envelope)
@@ -124,15 +106,17 @@ DataSource::DataSource(const QString& path) : m_path(path)
         throw RunTimeError(SourceUnreadable, whyNot);
     const GdalErrors errors;
     const ReadingBound bound;
-    m_dataset = Open(path);
-    if (!m_dataset)
-        Fail(errors.First());
+    m_data = std::make_unique<OpenedData>(path);
+    if (!m_data->IsEmpty())
+        return;
+    const QString noDriver = WhyNoDriver(path);
+    Fail(noDriver.isEmpty() ? errors.First() : noDriver);
 }
 
 DataSource::~DataSource()
 {
     const GdalErrors quiet;
-    m_dataset.reset();
+    m_data.reset();
 }
 
 std::vector<SourceLayer> DataSource::Layers() const
@@ -140,23 +124,67 @@ std::vector<SourceLayer> DataSource::Layers() const
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<SourceLayer> layers;
-    for (OGRLayer* layer : m_dataset->GetLayers()) {
+    for (const auto& [name, layer, isTable] : m_data->Layers()) {
         if (layer->GetGeomType() == wkbNone)
             continue;
-        layers.push_back(
-            {QString::fromUtf8(layer->GetName()), KindOf(layer->GetGeomType()),
-             SystemText(layer->GetSpatialRef()), ExtentOf(*layer)});
+        layers.push_back(DescribeLayer(*layer, name, m_data->Format()));
+        layers.back().extent = ExtentOf(*layer);
     }
     RequireReadingInTime(m_path);
+    for (const TableRows& table : Tables()) {
+        const CoordinateColumns columns = GuessColumns(table);
+        if (!columns.IsEmpty())
+            layers.push_back(TableAsLayer(table.layer, columns));
+    }
     if (layers.empty() && !errors.First().isEmpty())
         Fail(errors.First());
     return layers;
 }
 
+bool DataSource::Has(const QString& layer) const
+{
+    const GdalErrors quiet;
+    const ReadingBound bound;
+    return m_data->Find(layer) != nullptr;
+}
+
+std::vector<TableRows> DataSource::Tables() const
+{
+    const GdalErrors errors;
+    const ReadingBound bound;
+    std::vector<TableRows> tables;
+    for (const auto& [name, layer, isTable] : m_data->Layers()) {
+        if (!isTable)
+            continue;
+        tables.push_back(FirstRows(*layer, RowsToShow));
+        tables.back().layer = name;
+    }
+    RequireReadingInTime(m_path);
+    std::erase_if(tables, [](const TableRows& table) { return table.columns.isEmpty(); });
+    if (tables.empty() && !errors.First().isEmpty())
+        Fail(errors.First());
+    return tables;
+}
+
+SourceLayer DataSource::TableAsLayer(const QString& table, const CoordinateColumns& columns) const
+{
+    const GdalErrors errors;
+    const ReadingBound bound;
+    SourceLayer found = DescribeTable(FilteredLayer(table, {}, errors), columns);
+    found.name = table;
+    RequireReadingInTime(m_path);
+    return found;
+}
+
+QStringList DataSource::UnopenedFiles() const
+{
+    return m_data->Unopened();
+}
+
 OGRLayer&
 DataSource::FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const
 {
-    OGRLayer* layer = m_dataset->GetLayerByName(name.toUtf8().constData());
+    OGRLayer* layer = m_data->Find(name);
     if (!layer)
         Fail(QCoreApplication::translate("DataSource", "it has no layer named %1").arg(name));
     const QByteArray condition = filter.toUtf8();
@@ -168,21 +196,24 @@ DataSource::FilteredLayer(const QString& name, const QString& filter, const Gdal
 
 FeatureSet DataSource::Read(
     const QString& layerName, const QString& filter, const QString& mapSystem, Progress& progress,
-    const QString& chosenSystem) const
+    const GeometryChoice& choice, const QString& chosenSystem) const
 {
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, filter, errors);
+    RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
+    if (rows.IsLacking())
+        Fail(QCoreApplication::translate("DataSource", "it lacks a column with coordinates"));
     FeatureSet features;
     const OGRSpatialReference own = ReferenceOf(chosenSystem, layer.GetSpatialRef());
     features.SetSourceSystem(own.IsEmpty() ? QString() : SystemText(&own));
-    GeometryReader reader(features, TransformationTo(mapSystem, &own));
+    GeometryReader reader(features, TransformationTo(mapSystem, &own), {choice, own.IsGeographic() != 0});
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
     const double mostBytes = MostBytes();
     GIntBig count = 0;
     size_t gained = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
-        if (const OGRGeometry* geometry = feature->GetGeometryRef())
+        if (const OGRGeometry* geometry = rows.Of(*feature))
             reader.Add(*geometry, feature->GetFID());
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
@@ -201,14 +232,16 @@ FeatureSet DataSource::Read(
     return features;
 }
 
-Box DataSource::MeasureExtent(const QString& layerName, Progress& progress) const
+Box DataSource::MeasureExtent(
+    const QString& layerName, Progress& progress, const GeometryChoice& choice) const
 {
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, {}, errors);
+    RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
     Box extent;
     for (GIntBig count = 1; const OGRFeatureUniquePtr feature{layer.GetNextFeature()}; ++count) {
-        const OGRGeometry* geometry = feature->GetGeometryRef();
+        const OGRGeometry* geometry = rows.Of(*feature);
         OGREnvelope part;
         if (geometry && !geometry->IsEmpty()) {
             geometry->getEnvelope(&part);
@@ -234,8 +267,7 @@ SourceDetails DataSource::Details(const QString& layerName) const
     const ReadingBound bound;
     OGRLayer& layer = FilteredLayer(layerName, {}, errors);
     SourceDetails details;
-    if (GDALDriver* driver = m_dataset->GetDriver())
-        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
+    details.driver = m_data->FormatTitle();
     details.geometry = QString::fromUtf8(OGRGeometryTypeToName(layer.GetGeomType()));
     details.featureCount = layer.GetFeatureCount(FALSE);
     details.system = SystemText(layer.GetSpatialRef());
@@ -299,7 +331,7 @@ std::vector<FeatureAttribute> DataSource::Attributes(const QString& layerName, q
 {
     const GdalErrors quiet;
     const ReadingBound bound;
-    OGRLayer* layer = m_dataset->GetLayerByName(layerName.toUtf8().constData());
+    OGRLayer* layer = m_data->Find(layerName);
     const OGRFeatureUniquePtr feature(layer ? layer->GetFeature(featureID) : nullptr);
     std::vector<FeatureAttribute> attributes;
     for (int i = 0; feature && i < feature->GetFieldCount(); ++i) {

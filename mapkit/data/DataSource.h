@@ -2,7 +2,9 @@
 #pragma once
 
 #include "mapkit/coordinates/Box.h"
+#include "mapkit/data/ColumnGuess.h"
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <QString>
 
@@ -11,12 +13,12 @@
 #include <unordered_map>
 #include <vector>
 
-class GDALDataset;
 class OGRLayer;
 
 namespace Orvane {
 
 class GdalErrors;
+class OpenedData;
 class Progress;
 
 /// The number of the RunTimeError for data that cannot be read.
@@ -25,10 +27,14 @@ inline constexpr int SourceUnreadable = 10101;
 /// One layer of a data source.
 struct SourceLayer {
     QString name; ///< the name in the source
-    FeatureKind kind = FeatureKind::Area; ///< Area for a mixed layer
+    FeatureKind kind = FeatureKind::Area; ///< the lowest one of a mixed layer
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
     Box extent; ///< in its own units; empty if the source does not know it
     QString chosenSystem = {}; ///< what was chosen or assumed for it when the source names none
+    std::vector<FeatureKind> kinds = {}; ///< all kinds that were found, the topmost first
+    GeometryChoice choice = {}; ///< what Read takes to get this layer; the columns of a table
+    bool isEmpty = false; ///< known only for formats that make empty layers, such as GPX
+    QString partsOf = {}; ///< the layer that shows its features as a whole, for the points of GPX tracks
 };
 
 /// What a source tells about one of its layers.
@@ -60,7 +66,8 @@ struct FeatureAttribute {
     bool isNull = false;
 };
 
-/// A file, or another source that GDAL's vector drivers can open, read-only.
+/// A file, or another source that GDAL's vector drivers can open, read-only. An archive with data files is
+/// one source with the layers of all of them; a compressed file is opened as if it were not.
 ///
 ///     DataSource source(path);
 ///     for (const SourceLayer& layer : source.Layers())
@@ -78,19 +85,31 @@ public:
     DataSource(const DataSource&) = delete;
     DataSource& operator=(const DataSource&) = delete;
 
-    /// The layers that have geometry, in the source's order.
+    /// The layers that have geometry, in the source's order; then the tables whose coordinate columns can be
+    /// guessed.
     std::vector<SourceLayer> Layers() const;
+    /// Whether there is a layer or a table of that name.
+    bool Has(const QString& layer) const;
+
+    /// The first rows of each table of a file without geometries; tables beside layers with geometry do not
+    /// count. Raises as Layers does.
+    std::vector<TableRows> Tables() const;
+    /// A table as a layer with these coordinate columns. Reads many rows. Raises for an unknown table.
+    SourceLayer TableAsLayer(const QString& table, const CoordinateColumns& columns) const;
+
+    /// The files in an archive that cannot be opened.
+    QStringList UnopenedFiles() const;
 
     /// Reads a layer's geometries into the map's coordinate system. filter: a condition in GDAL's attribute
     /// filter language, e.g. "continent = 'Asia'"; empty for all features. Raises for an unknown layer, a
-    /// filter that is not understood and damaged data; raises Cancelled. chosenSystem: of the layer, instead
-    /// of the one that the source names; empty for that one.
+    /// filter that is not understood, missing columns and damaged data; raises Cancelled. choice: which
+    /// geometries. chosenSystem: of the layer, instead of the one that the source names; empty for that one.
     FeatureSet Read(
         const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress,
-        const QString& chosenSystem = {}) const;
+        const GeometryChoice& choice = {}, const QString& chosenSystem = {}) const;
     /// The extent of all features of a layer in its own units, which reads them; empty if there are none. For
-    /// layers whose extent the source does not know. Raises as Read does.
-    Box MeasureExtent(const QString& layer, Progress& progress) const;
+    /// layers whose extent the source does not know. choice: its columns count. Raises as Read does.
+    Box MeasureExtent(const QString& layer, Progress& progress, const GeometryChoice& choice = {}) const;
     /// More about a layer, for showing it to the user; raises for an unknown layer. The number of features
     /// and the extent may be missing when finding them means reading all features.
     SourceDetails Details(const QString& layer) const;
@@ -110,7 +129,7 @@ private:
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;
-    std::unique_ptr<GDALDataset> m_dataset;
+    std::unique_ptr<OpenedData> m_data;
 };
 
 } // namespace Orvane

@@ -8,6 +8,7 @@ namespace Orvane {
 void FeatureSet::BeginFeature(FeatureKind kind, qint64 featureID)
 {
     const auto part = quint32(m_partEnds.size());
+    m_kinds[size_t(kind)] = true;
     m_features.push_back({Box(), featureID, part, part, kind});
 }
 

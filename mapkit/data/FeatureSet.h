@@ -53,6 +53,8 @@ public:
     std::span<const QPointF> Part(quint32 index) const&& = delete;
     /// The bounds of all features; empty if there are none.
     const Box& Bounds() const { return m_bounds; }
+    /// Whether there is a feature of that kind.
+    bool Has(FeatureKind kind) const { return m_kinds[size_t(kind)]; }
     size_t VertexCount() const { return m_points.size(); }
     /// The coordinate system that the data were in, as in CoordinateSystems.h; empty if it is not known.
     const QString& SourceSystem() const { return m_sourceSystem; }
@@ -67,6 +69,7 @@ private:
     Box m_bounds;
     size_t m_leftOut = 0;
     QString m_sourceSystem;
+    bool m_kinds[3] = {}; // by kind
 };
 
 } // namespace Orvane

@@ -113,6 +113,7 @@ void PrepareGdal()
         const QByteArray skipped = QByteArray(RemoteDrivers) + ' ' + DriversWithOwnFiles;
         CPLSetConfigOption("GDAL_SKIP", skipped.constData());
         CPLSetConfigOption("GDAL_VRT_ENABLE_PYTHON", "NO");
+        CPLSetConfigOption("CPL_VSIL_GZIP_WRITE_PROPERTIES", "NO"); // a file beside the data
         CPLSetConfigOption("GML_DOWNLOAD_WFS_SCHEMA", "NO");
         OSRSetPROJEnableNetwork(0);
         CPLHTTPSetFetchCallback(FetchNothing, nullptr);

@@ -2,15 +2,18 @@
 #include "mapkit/data/GeometryReader.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/data/Antimeridian.h"
 
+#include <algorithm>
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
 namespace Orvane {
 
 GeometryReader::GeometryReader(
-    FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation)
-    : m_features(features), m_transformation(std::move(transformation))
+    FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation,
+    const GeometryRules& rules)
+    : m_features(features), m_transformation(std::move(transformation)), m_rules(rules)
 {
 }
 
@@ -28,29 +31,35 @@ void GeometryReader::Add(const OGRGeometry& geometry, qint64 featureID)
         AddLinear(*linear);
 }
 
+bool GeometryReader::BeginFeature(FeatureKind kind)
+{
+    const bool isTaken = m_rules.choice.Takes(kind);
+    if (isTaken)
+        m_features.BeginFeature(kind, m_featureID);
+    return isTaken;
+}
+
 void GeometryReader::AddLinear(const OGRGeometry& geometry)
 {
     switch (wkbFlatten(geometry.getGeometryType())) {
     case wkbPoint:
-        m_features.BeginFeature(FeatureKind::Point, m_featureID);
-        m_x.assign(1, geometry.toPoint()->getX());
-        m_y.assign(1, geometry.toPoint()->getY());
-        if (!geometry.IsEmpty())
-            AddCoordinates();
+        if (BeginFeature(FeatureKind::Point) && !geometry.IsEmpty())
+            AddPoint(*geometry.toPoint());
         return;
     case wkbLineString:
-        m_features.BeginFeature(FeatureKind::Line, m_featureID);
-        AddCurve(*geometry.toLineString());
+        if (BeginFeature(FeatureKind::Line))
+            AddCurve(*geometry.toLineString(), FeatureKind::Line);
         return;
     case wkbPolygon:
     case wkbTriangle:
-        m_features.BeginFeature(FeatureKind::Area, m_featureID);
-        AddRings(*geometry.toPolygon());
+        if (BeginFeature(FeatureKind::Area))
+            AddRings(*geometry.toPolygon());
         return;
     case wkbMultiPolygon:
-        m_features.BeginFeature(FeatureKind::Area, m_featureID);
-        for (const OGRPolygon* polygon : geometry.toMultiPolygon())
-            AddRings(*polygon);
+        if (BeginFeature(FeatureKind::Area)) {
+            for (const OGRPolygon* polygon : geometry.toMultiPolygon())
+                AddRings(*polygon);
+        }
         return;
     case wkbPolyhedralSurface:
     case wkbTIN:
@@ -65,13 +74,21 @@ void GeometryReader::AddLinear(const OGRGeometry& geometry)
     }
 }
 
+void GeometryReader::AddPoint(const OGRPoint& point)
+{
+    const double x = point.getX();
+    m_x.assign(1, m_rules.areDegrees ? Antimeridian::Longitude(x) : x);
+    m_y.assign(1, point.getY());
+    AddCoordinates();
+}
+
 void GeometryReader::AddRings(const OGRPolygon& polygon)
 {
     for (const OGRLinearRing* ring : polygon)
-        AddCurve(*ring);
+        AddCurve(*ring, FeatureKind::Area);
 }
 
-void GeometryReader::AddCurve(const OGRSimpleCurve& curve)
+void GeometryReader::AddCurve(const OGRSimpleCurve& curve, FeatureKind kind)
 {
     const auto count = size_t(curve.getNumPoints());
     m_x.resize(count);
@@ -79,7 +96,40 @@ void GeometryReader::AddCurve(const OGRSimpleCurve& curve)
     if (count == 0)
         return;
     curve.getPoints(m_x.data(), sizeof(double), m_y.data(), sizeof(double));
-    AddCoordinates();
+    if (!m_rules.areDegrees || !MayPassMeridian() || !AddCut(kind))
+        AddCoordinates();
+}
+
+// A quick look, because it is taken at every part.
+bool GeometryReader::MayPassMeridian() const
+{
+    const auto [west, east] = std::minmax_element(m_x.begin(), m_x.end());
+    return *east - *west > Antimeridian::HalfTurn || *east > Antimeridian::HalfTurn
+        || *west < -Antimeridian::HalfTurn;
+}
+
+// Returns false if there was nothing to cut.
+bool GeometryReader::AddCut(FeatureKind kind)
+{
+    m_points.resize(m_x.size());
+    for (size_t i = 0; i < m_x.size(); ++i)
+        m_points[i] = {m_x[i], m_y[i]};
+    if (!Antimeridian::IsPassed(m_points)) {
+        std::transform(m_x.begin(), m_x.end(), m_x.begin(), Antimeridian::Longitude);
+        return false;
+    }
+    const std::vector<Antimeridian::Points> parts
+        = kind == FeatureKind::Area ? Antimeridian::CutRing(m_points) : Antimeridian::CutLine(m_points);
+    for (const Antimeridian::Points& part : parts) {
+        m_x.resize(part.size());
+        m_y.resize(part.size());
+        for (size_t i = 0; i < part.size(); ++i) {
+            m_x[i] = part[i].x();
+            m_y[i] = part[i].y();
+        }
+        AddCoordinates();
+    }
+    return true;
 }
 
 void GeometryReader::AddCoordinates()

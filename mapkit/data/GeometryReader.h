@@ -2,16 +2,24 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <memory>
 #include <vector>
 
 class OGRCoordinateTransformation;
 class OGRGeometry;
+class OGRPoint;
 class OGRPolygon;
 class OGRSimpleCurve;
 
 namespace Orvane {
+
+/// What is done with geometries besides the transformation.
+struct GeometryRules {
+    GeometryChoice choice; ///< other kinds are left out
+    bool areDegrees = false; ///< then what passes the meridian of 180 degrees is cut there
+};
 
 /// Adds GDAL geometries of every kind to a feature set, with curves as line strings, and transforms them.
 /// Vertices that cannot be transformed, such as a latitude of 95 degrees, are left out.
@@ -19,20 +27,27 @@ class GeometryReader
 {
 public:
     /// features: filled, not owned. transformation: nullptr leaves coordinates as they are.
-    GeometryReader(FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation);
+    GeometryReader(
+        FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation,
+        const GeometryRules& rules = {});
     ~GeometryReader();
 
     /// Adds one feature, or several for a collection. featureID: the source's ID, for all of them.
     void Add(const OGRGeometry& geometry, qint64 featureID = NoFeatureID);
 
 private:
+    bool BeginFeature(FeatureKind kind);
     void AddLinear(const OGRGeometry& geometry);
+    void AddPoint(const OGRPoint& point);
     void AddRings(const OGRPolygon& polygon);
-    void AddCurve(const OGRSimpleCurve& curve);
+    void AddCurve(const OGRSimpleCurve& curve, FeatureKind kind);
+    bool MayPassMeridian() const;
+    bool AddCut(FeatureKind kind);
     void AddCoordinates();
 
     FeatureSet& m_features;
     std::unique_ptr<OGRCoordinateTransformation> m_transformation;
+    GeometryRules m_rules;
     qint64 m_featureID = NoFeatureID; // of the feature being read
     std::vector<double> m_x, m_y; // the part being read
     std::vector<QPointF> m_points;

@@ -97,13 +97,16 @@ bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference& system)
 
 } // namespace
 
-SourceEditor::SourceEditor(const LayerSource& source) : m_path(source.path), m_chosenSystem(source.system)
+SourceEditor::SourceEditor(const LayerSource& source)
+    : m_path(source.path), m_chosenSystem(source.system), m_choice(source.choice)
 {
     const QString whyNot = WhyNotOpened(m_path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnchangeable, whyNot);
     if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())
         Fail(tr("the file is read only"));
+    if (!source.choice.columns.IsEmpty())
+        Fail(tr("its points are numbers in a table"));
     const GdalErrors errors;
     const ReadingBound bound;
     m_dataset = OpenForUpdate(m_path);
@@ -157,7 +160,7 @@ FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const
     const GdalErrors quiet;
     FeatureSet features;
     const OGRSpatialReference own = ReferenceOf(m_chosenSystem, m_layer->GetSpatialRef());
-    GeometryReader reader(features, TransformationTo(mapSystem, &own));
+    GeometryReader reader(features, TransformationTo(mapSystem, &own), {m_choice, own.IsGeographic() != 0});
     if (const OGRGeometryUniquePtr geometry = FromBinary(binary))
         reader.Add(*geometry, featureID);
     return features;

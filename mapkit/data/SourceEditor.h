@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -58,6 +59,7 @@ private:
 
     QString m_path;
     QString m_chosenSystem; // of the source, if one was chosen
+    GeometryChoice m_choice;
     std::unique_ptr<GDALDataset> m_dataset;
     OGRLayer* m_layer = nullptr; // owned by the dataset
 };

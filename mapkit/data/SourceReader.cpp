@@ -69,8 +69,10 @@ SourceContents ReadSources(std::vector<LayerSource> sources, const QString& mapS
         try {
             progress.StopIfCancelled();
             progress.SetSubject(source.path);
-            auto features = open.At(source.path)
-                                .Read(source.ogrLayer, source.filter, mapSystem, progress, source.system);
+            auto features
+                = open.At(source.path)
+                      .Read(
+                          source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
             contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
         } catch (const RunTimeError& error) {
             contents.failures[source.layerID] = error.Description();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/GeometryChoice.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -21,6 +22,7 @@ struct LayerSource {
     QString ogrLayer; ///< layer within the source
     QString filter; ///< attribute condition; empty for all features
     QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
+    GeometryChoice choice = {}; ///< which geometries
 };
 
 /// The result of reading the sources.

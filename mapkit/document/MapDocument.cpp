@@ -149,7 +149,7 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
     Transaction transaction(*m_database);
     row.Set("Code", LayerRow::LowestFreeCode(*m_database));
     const qint32 layerID = row.StoreNew(*m_database);
-    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter, layer.system});
+    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter, layer.system, layer.choice});
     transaction.Commit();
     return layerID;
 }

@@ -29,7 +29,8 @@ struct NewLayer {
     QString path; ///< absolute path of the data
     QString ogrLayer;
     QString filter;
-    QString system; ///< coordinate system that was chosen for the data; empty: the one that they name
+    QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
+    GeometryChoice choice = {}; ///< which geometries of the data
 };
 
 /// A map file: the layer database with three more tables: LayerSources, which stores where each layer's

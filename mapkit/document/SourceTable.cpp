@@ -13,6 +13,7 @@ namespace {
 const QString SourcesName = QStringLiteral("LayerSources");
 const QString RelativePath = QStringLiteral("RelativePath");
 const QString System = QStringLiteral("System");
+const QString Geometry = QStringLiteral("Geometry");
 
 StoreTable SourcesTable()
 {
@@ -25,7 +26,8 @@ StoreTable SourcesTable()
          {QStringLiteral("OgrLayer"), StoreType::Text, Nulls::Refused},
          {QStringLiteral("Filter"), StoreType::Text, Nulls::Refused, QStringLiteral("''")},
          {RelativePath},
-         {System}},
+         {System},
+         {Geometry}},
         {layerID}};
 }
 
@@ -52,13 +54,13 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
     if (!m_database.HasTable(SourcesName))
         return {};
     // A file that is only read may lack the later columns.
-    const auto columnOrNull = [this](const QString& column) {
-        return m_database.HasColumn(SourcesName, column) ? column : QStringLiteral("NULL");
+    const auto valueOf = [this](const QString& column) {
+        return m_database.HasColumn(SourcesName, column) ? column : QStringLiteral("NULL AS ") + column;
     };
     const auto rows = m_database.OpenQuery(
-        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1 AS RelativePath, %2 AS System"
-                       " FROM LayerSources WHERE %3 ORDER BY LayerID")
-            .arg(columnOrNull(RelativePath), columnOrNull(System), condition),
+        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1, %2, %3"
+                       " FROM LayerSources WHERE %4 ORDER BY LayerID")
+            .arg(valueOf(RelativePath), valueOf(System), valueOf(Geometry), condition),
         values);
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
@@ -69,7 +71,8 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
             ToTextOrNone(rows->Field("Path")), ToTextOrNone(rows->Field("RelativePath"))};
         sources.push_back(
             {*layerID, m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
-             ToTextOrNone(rows->Field("Filter")), ToTextOrNone(rows->Field("System"))});
+             ToTextOrNone(rows->Field("Filter")), ToTextOrNone(rows->Field("System")),
+             GeometryChoice::FromText(ToTextOrNone(rows->Field("Geometry")))});
     }
     return sources;
 }
@@ -79,12 +82,14 @@ void SourceTable::Set(const LayerSource& source)
     const SourcePaths::Place place = m_paths.Store(source.path);
     const auto notNull = [](const QString& text) { return text.isNull() ? QStringLiteral("") : text; };
     m_database.Execute(
-        QStringLiteral("INSERT INTO LayerSources (LayerID, Path, OgrLayer, Filter, RelativePath, System)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6) ON CONFLICT (LayerID) DO UPDATE SET"
+        QStringLiteral("INSERT INTO LayerSources"
+                       " (LayerID, Path, OgrLayer, Filter, RelativePath, System, Geometry)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7) ON CONFLICT (LayerID) DO UPDATE SET"
                        " Path = excluded.Path, OgrLayer = excluded.OgrLayer, Filter = excluded.Filter,"
-                       " RelativePath = excluded.RelativePath, System = excluded.System"),
+                       " RelativePath = excluded.RelativePath, System = excluded.System,"
+                       " Geometry = excluded.Geometry"),
         {source.layerID, notNull(place.path), notNull(source.ogrLayer), notNull(source.filter),
-         notNull(place.relative), notNull(source.system)});
+         notNull(place.relative), notNull(source.system), notNull(source.choice.ToText())});
 }
 
 std::map<qint32, QString> SourceTable::ChosenSystems() const

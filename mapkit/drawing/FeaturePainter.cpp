@@ -72,13 +72,23 @@ void FeaturePainter::Paint(
     const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
     const std::atomic<bool>& cancelled)
 {
+    for (const FeatureKind kind : {FeatureKind::Area, FeatureKind::Line, FeatureKind::Point}) {
+        if (features.Has(kind))
+            PaintKind(kind, features, isChosen, cancelled);
+    }
+}
+
+void FeaturePainter::PaintKind(
+    FeatureKind kind, const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
+    const std::atomic<bool>& cancelled)
+{
     m_painter.setPen(m_look.outline);
     m_painter.setBrush(m_look.fill);
     const std::vector<FeatureSet::Feature>& all = features.Features();
     for (size_t i = 0; i < all.size(); ++i) {
         if (cancelled)
             return;
-        if (all[i].bounds.Intersects(m_extent) && (!isChosen || isChosen(i)))
+        if (all[i].kind == kind && all[i].bounds.Intersects(m_extent) && (!isChosen || isChosen(i)))
             PaintFeature(features, all[i]);
     }
 }

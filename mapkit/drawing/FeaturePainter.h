@@ -32,6 +32,9 @@ public:
         const std::atomic<bool>& cancelled);
 
 private:
+    void PaintKind(
+        FeatureKind kind, const FeatureSet& features, const std::function<bool(size_t)>& isChosen,
+        const std::atomic<bool>& cancelled);
     void PaintFeature(const FeatureSet& features, const FeatureSet::Feature& feature);
     void PaintSymbols(std::span<const QPointF> part);
     void PaintLine(std::span<const QPointF> part, bool clip);

@@ -48,24 +48,24 @@ LayerLook LinesOfClass(const MapLayer& layer, const ClassLook& own)
     return look;
 }
 
-void AppendClass(std::vector<Pass>& passes, const MapLayer& layer, const ClassLook& own, int index)
+// The areas of a class, or all that is not an area.
+Pass PassOfClass(const MapLayer& layer, const ClassLook& own, int index, bool areas)
 {
-    const auto isArea
-        = [&layer](size_t feature) { return layer.features->Features()[feature].kind == FeatureKind::Area; };
-    passes.push_back({AreasOfClass(layer, own), [&layer, isArea, index](size_t feature) {
-                          return isArea(feature) && ClassOf(layer, feature) == index;
-                      }});
-    passes.push_back({LinesOfClass(layer, own), [&layer, isArea, index](size_t feature) {
-                          return !isArea(feature) && ClassOf(layer, feature) == index;
-                      }});
+    return {
+        areas ? AreasOfClass(layer, own) : LinesOfClass(layer, own), [&layer, index, areas](size_t feature) {
+            const bool isArea = layer.features->Features()[feature].kind == FeatureKind::Area;
+            return isArea == areas && ClassOf(layer, feature) == index;
+        }};
 }
 
 std::vector<Pass> GraduatedPasses(const MapLayer& layer)
 {
     std::vector<Pass> passes;
-    AppendClass(passes, layer, UnclassedLook(layer.values), Classification::NoClass);
-    for (size_t i = 0; i < layer.classLooks.size(); ++i)
-        AppendClass(passes, layer, layer.classLooks[i], int(i));
+    for (const bool areas : {true, false}) {
+        passes.push_back(PassOfClass(layer, UnclassedLook(layer.values), Classification::NoClass, areas));
+        for (size_t i = 0; i < layer.classLooks.size(); ++i)
+            passes.push_back(PassOfClass(layer, layer.classLooks[i], int(i), areas));
+    }
     return passes;
 }
 

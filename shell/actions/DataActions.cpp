@@ -6,6 +6,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/dialogs/MissingData.h"
 #include "shell/map/MapSession.h"
+#include "shell/map/TableQuestions.h"
 #include "shell/window/RunWithProgress.h"
 
 #include <QAction>
@@ -24,6 +25,9 @@ DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : 
     m_find = Add(
         menu, before, "actFindData", tr("&Find Missing Data..."),
         tr("Search a folder for the missing data files of the map"));
+    m_columns = Add(
+        menu, before, "actTableColumns", tr("Table &Columns..."),
+        tr("Choose the columns with the coordinates of the tables in the map"));
     m_backdrop = Add(
         menu, before, "actBackdrop", tr("Raster &Backdrop..."),
         tr("Show a picture below all layers of the map"));
@@ -35,6 +39,7 @@ DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : 
         });
     };
     run(m_find, &DataActions::FindData);
+    run(m_columns, &DataActions::AskForColumns);
     run(m_backdrop, &DataActions::AskForBackdrop);
     run(m_noBackdrop, &DataActions::RemoveBackdrop);
     connect(&menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { ShowWhatIsPossible(); }); });
@@ -103,6 +108,7 @@ DataActions::Add(QMenu& menu, QAction* before, const char* name, const QString& 
 void DataActions::ShowWhatIsPossible()
 {
     m_find->setEnabled(!MissingSources(m_session->Document()).empty());
+    m_columns->setEnabled(TableQuestions::HasTables(m_session->Document()));
     m_noBackdrop->setEnabled(!m_session->Document().Backdrop().isEmpty());
 }
 
@@ -129,6 +135,12 @@ void DataActions::FindData()
     TakeFoundData(document, found);
     Reload();
     emit Told(tr("Layers whose data were found: %1 of %2").arg(found.size()).arg(missing.size()));
+}
+
+void DataActions::AskForColumns()
+{
+    if (TableQuestions::ChangeColumns(*m_session, m_window))
+        Reload();
 }
 
 void DataActions::AskForBackdrop()

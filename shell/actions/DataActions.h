@@ -12,8 +12,8 @@ namespace Orvane {
 
 class MapSession;
 
-/// The commands of the File menu for the data of a map: find missing data, put a picture under the map. They
-/// also show the user the problems of the data.
+/// The commands of the File menu for the data of a map: find missing data, choose the columns of tables, put
+/// a picture under the map. They also show the user the problems of the data.
 class DataActions : public QObject
 {
     Q_OBJECT
@@ -41,13 +41,15 @@ private:
     void ShowWhatIsPossible();
     void TellMapIsGone();
     void FindData();
+    void AskForColumns();
     void AskForBackdrop();
     void RemoveBackdrop();
     void Reload();
 
     QWidget& m_window;
     MapSession* m_session = nullptr;
-    QAction* m_find; // all three owned by this object
+    QAction* m_find; // all four owned by this object
+    QAction* m_columns;
     QAction* m_backdrop;
     QAction* m_noBackdrop;
 };

@@ -3,7 +3,6 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/SystemFacts.h"
-#include "mapkit/data/DataFiles.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/ImportPlan.h"
 #include "store/ILayerStore.h"
@@ -14,6 +13,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -26,19 +26,47 @@ QString ImportText(const char* text)
     return QCoreApplication::translate("ImportCommand", text);
 }
 
-QStringList FilesOf(const QStringList& words)
+QStringList NamesIn(const CoordinateColumns& columns)
 {
-    QStringList files;
-    for (const QString& word : words)
-        files << (QFileInfo(word).isDir() ? DataFiles::In(word) : QStringList(word));
-    return files;
+    return columns.wkt.isEmpty() ? QStringList{columns.x, columns.y} : QStringList{columns.wkt};
+}
+
+bool HasAll(const TableRows& table, const QStringList& columns)
+{
+    return std::all_of(columns.begin(), columns.end(), [&](const QString& column) {
+        return table.columns.contains(column);
+    });
+}
+
+// A table without the named columns is left out.
+void ChooseColumns(FoundData& found, const CoordinateColumns& columns)
+{
+    for (TableChoice& table : found.tables)
+        table.columns = HasAll(table.table, NamesIn(columns)) ? columns : CoordinateColumns();
+}
+
+void TellColumns(const FoundData& found, const Terminal& terminal)
+{
+    for (const FoundData::Source& source : found.sources) {
+        for (const SourceLayer& layer : source.layers) {
+            const CoordinateColumns& columns = layer.choice.columns;
+            if (columns.IsEmpty())
+                continue;
+            const QString text = ImportText(
+                QT_TRANSLATE_NOOP("ImportCommand", "Coordinates of \"%1\" are in these columns: %2"));
+            TellLine(
+                terminal,
+                text.arg(QFileInfo(source.path).fileName(), NamesIn(columns).join(QLatin1String(", "))));
+        }
+    }
 }
 
 struct ImportRequest {
-    QStringList files;
+    QStringList files; // or folders
     QString map;
     QString dataSystem; // of data that name none; empty to find it
     QString mapSystem; // empty: the map's own, or the one that the data decide
+    CoordinateColumns columns; // of tables; empty: they are guessed
 };
 
 // The map, if it is there already.
@@ -54,7 +82,10 @@ ImportPlan Plan(const ImportRequest& request, const MapDocument* map)
     if (!request.mapSystem.isEmpty())
         target.system = request.mapSystem;
     Progress progress;
-    return PlanImport(request.files, target, progress);
+    FoundData found = LookInto(request.files, progress);
+    if (!request.columns.IsEmpty())
+        ChooseColumns(found, request.columns);
+    return PlanImport(WithTablesAsLayers(std::move(found), progress), target, progress);
 }
 
 void AddPlanned(MapDocument& document, const ImportRequest& request, const ImportPlan& plan)
@@ -87,6 +118,7 @@ int Import(const ImportRequest& request, const Terminal& terminal)
         TellError(terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
         return ExitCode::Problems;
     }
+    TellColumns(plan.data, terminal);
     const auto add = [&](MapDocument& document) { AddPlanned(document, request, plan); };
     if (map)
         add(*map);
@@ -121,6 +153,15 @@ struct ImportOptions {
             "The coordinate system of the map. Without this option, a map keeps its own; for a new map the "
             "data of the largest area decide.")),
         QStringLiteral("SYSTEM")};
+    QCommandLineOption columns{
+        QStringLiteral("columns"),
+        ImportText(QT_TRANSLATE_NOOP(
+            "ImportCommand", "The columns of tables with the coordinates; without this they are guessed.")),
+        QStringLiteral("X,Y")};
+    QCommandLineOption wkt{
+        QStringLiteral("wkt"),
+        ImportText(QT_TRANSLATE_NOOP("ImportCommand", "The column of tables with geometries as text (WKT).")),
+        QStringLiteral("COLUMN")};
 };
 
 QString MistakeIn(const CommandReader& reader, const ImportOptions& options)
@@ -133,14 +174,26 @@ QString MistakeIn(const CommandReader& reader, const ImportOptions& options)
                        QT_TRANSLATE_NOOP("ImportCommand", "--%1: \"%2\" is not a known coordinate system."))
                 .arg(option.names().constFirst(), reader.Value(option));
     }
+    const QStringList pair = reader.Value(options.columns).split(QLatin1Char(','));
+    if (reader.IsSet(options.columns) && (pair.size() != 2 || pair.contains(QString())))
+        return ImportText(QT_TRANSLATE_NOOP("ImportCommand", "\"--columns\" needs two names: \"X,Y\"."));
     return {};
+}
+
+CoordinateColumns ColumnsIn(const CommandReader& reader, const ImportOptions& options)
+{
+    if (reader.IsSet(options.wkt))
+        return {{}, {}, reader.Value(options.wkt)};
+    const QStringList pair = reader.Value(options.columns).split(QLatin1Char(','));
+    return {pair.value(0), pair.value(1), {}};
 }
 
 void SetUp(CommandReader& reader, const ImportOptions& options)
 {
     reader.AddCommand(QStringLiteral("import"));
     reader.RequireWords(1, std::numeric_limits<qsizetype>::max());
-    reader.Options().addOptions({options.to, options.dataSystem, options.mapSystem});
+    reader.Options().addOptions(
+        {options.to, options.dataSystem, options.mapSystem, options.columns, options.wkt});
     reader.Options().addPositionalArgument(
         QStringLiteral("DATA"),
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Files, or folders with files in them.")),
@@ -164,8 +217,8 @@ int ImportCommand(const QStringList& arguments, const Terminal& terminal)
     if (!mistake.isEmpty())
         return reader.Refuse(terminal, mistake);
     return Import(
-        {FilesOf(reader.Words()), reader.Value(options.to), reader.Value(options.dataSystem),
-         reader.Value(options.mapSystem)},
+        {reader.Words(), reader.Value(options.to), reader.Value(options.dataSystem),
+         reader.Value(options.mapSystem), ColumnsIn(reader, options)},
         terminal);
 }
 

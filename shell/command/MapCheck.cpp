@@ -59,10 +59,7 @@ void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
 // Why the layer cannot be read; empty when it can.
 QString WhyUnreadable(const DataSource& source, const QString& path, const QString& layerName)
 {
-    const std::vector<SourceLayer> layers = source.Layers();
-    const bool known = std::any_of(
-        layers.begin(), layers.end(), [&](const SourceLayer& layer) { return layer.name == layerName; });
-    if (known)
+    if (source.Has(layerName))
         return {};
     return Translate(QT_TRANSLATE_NOOP("MapCheck", "\"%1\" has no layer named \"%2\"."))
         .arg(QFileInfo(path).fileName(), layerName);

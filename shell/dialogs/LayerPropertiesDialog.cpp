@@ -29,12 +29,12 @@ constexpr double MostDegrees = 360;
 constexpr std::chrono::seconds MeasuringTime{2}; // the window is waiting
 
 // Empty if it takes too long.
-Box MeasuredExtent(const DataSource& source, const QString& layer)
+Box MeasuredExtent(const DataSource& data, const LayerSource& source)
 {
     try {
         const ReadingBound soon(MeasuringTime);
         Progress progress;
-        return source.MeasureExtent(layer, progress);
+        return data.MeasureExtent(source.ogrLayer, progress, source.choice);
     } catch (const RunTimeError&) {
         return {};
     }
@@ -144,7 +144,7 @@ void LayerPropertiesDialog::ShowSource(const LayerSource& source)
         const DataSource data(source.path);
         SourceDetails details = data.Details(source.ogrLayer);
         if (details.extent.IsEmpty())
-            details.extent = MeasuredExtent(data, source.ogrLayer);
+            details.extent = MeasuredExtent(data, source);
         m_named = details.system;
         m_isReadable = true;
         ShowDetails(details);

@@ -3,9 +3,11 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/data/DataFiles.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
+#include "shell/map/FoundLayers.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/LayerValues.h>
@@ -15,6 +17,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 
 namespace Orvane {
@@ -51,6 +54,56 @@ int PriorityOf(FeatureKind kind)
     return 170;
 }
 
+void LookIntoFile(const QString& path, FoundData& data)
+{
+    const QString name = QFileInfo(path).fileName();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const DataSource source(path);
+    for (const QString& file : source.UnopenedFiles()) {
+        data.problems
+            << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
+    }
+    std::vector<SourceLayer> layers = source.Layers();
+    std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
+    layers = LayersToShow(layers);
+    const std::vector<TableRows> tables = source.Tables();
+    for (const TableRows& table : tables)
+        data.tables.push_back({absolute, table, GuessColumns(table)});
+    if (!layers.empty())
+        data.sources.push_back({absolute, std::move(layers)});
+    else if (tables.empty())
+        data.problems
+            << QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.").arg(name);
+}
+
+std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
+{
+    std::vector<SourceLayer> layers;
+    for (const TableChoice& table : tables) {
+        if (table.path != path || table.columns.IsEmpty())
+            continue;
+        layers.push_back(DataSource(path).TableAsLayer(table.table.layer, table.columns));
+    }
+    return LayersToShow(layers);
+}
+
+auto Find(FoundData& data, const QString& path)
+{
+    return std::find_if(data.sources.begin(), data.sources.end(), [&](const FoundData::Source& source) {
+        return source.path == path;
+    });
+}
+
+// An archive may have tables and other layers: one source.
+void AddLayers(FoundData& data, const QString& path, const std::vector<SourceLayer>& layers)
+{
+    const auto known = Find(data, path);
+    if (known == data.sources.end())
+        data.sources.push_back({path, layers});
+    else
+        known->layers.insert(known->layers.end(), layers.begin(), layers.end());
+}
+
 } // namespace
 
 size_t LayerCount(const FoundData& data)
@@ -65,7 +118,7 @@ NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 {
     const Colours& colours = Cycle[number % Cycle.size()];
     NewLayer layer;
-    layer.name = found.name;
+    layer.name = LayerTitle(path, found);
     layer.values.color = Bgr(colours.line);
     layer.values.fillForeColor = Bgr(colours.fill);
     layer.values.fillBackColor = TransparentColour;
@@ -73,28 +126,52 @@ NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
     layer.path = path;
     layer.ogrLayer = found.name;
     layer.system = found.chosenSystem;
+    layer.choice = found.choice;
     return layer;
 }
 
 FoundData LookInto(const QStringList& paths, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
+    const QStringList files = DataFiles::Meant(paths, [&] { progress.StopIfCancelled(); });
     FoundData data;
-    for (const QString& path : paths) {
+    double done = 0;
+    for (const QString& path : files) {
         progress.StopIfCancelled();
         progress.SetSubject(path);
-        progress.Report(double(data.sources.size() + size_t(data.problems.size())) / double(paths.size()));
+        progress.Report(done++ / double(files.size()));
         try {
-            std::vector<SourceLayer> layers = DataSource(path).Layers();
-            if (layers.empty())
-                data.problems << QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.")
-                                     .arg(QFileInfo(path).fileName());
-            else
-                data.sources.push_back({QFileInfo(path).absoluteFilePath(), std::move(layers)});
+            LookIntoFile(path, data);
         } catch (const RunTimeError& error) {
             data.problems << error.Description();
         }
     }
+    return data;
+}
+
+FoundData WithTablesAsLayers(FoundData data, Progress& progress)
+{
+    const ReadingBound untilCancelled(progress.CancelledFlag());
+    QStringList paths;
+    for (const TableChoice& table : data.tables)
+        paths << table.path;
+    paths.removeDuplicates();
+    for (const QString& path : paths) {
+        progress.StopIfCancelled();
+        progress.SetSubject(path);
+        try {
+            const std::vector<SourceLayer> layers = LayersOfTables(data.tables, path);
+            if (layers.empty() && Find(data, path) == data.sources.end())
+                data.problems << QCoreApplication::translate(
+                                     "DataImport", "\"%1\" is a table without columns for coordinates.")
+                                     .arg(QFileInfo(path).fileName());
+            else if (!layers.empty())
+                AddLayers(data, path, layers);
+        } catch (const RunTimeError& error) {
+            data.problems << error.Description();
+        }
+    }
+    data.tables.clear();
     return data;
 }
 
@@ -126,7 +203,8 @@ SourceContents ReadFound(const FoundData& data, const QString& system, Progress&
     sources.reserve(LayerCount(data));
     for (const FoundData::Source& source : data.sources) {
         for (const SourceLayer& layer : source.layers)
-            sources.push_back({qint32(sources.size()), source.path, layer.name, {}, layer.chosenSystem});
+            sources.push_back(
+                {qint32(sources.size()), source.path, layer.name, {}, layer.chosenSystem, layer.choice});
     }
     SourceContents contents = ReadSources(std::move(sources), system, progress);
     progress.StopIfCancelled(); // then it is not all
@@ -146,7 +224,7 @@ std::vector<qint32> AddToMap(MapDocument& document, const FoundData& data)
         document.SetSystem(SystemFor(document, data));
     size_t number = document.Sources().size();
     for (const FoundData::Source& source : data.sources) {
-        const qint32 groupID = document.AddGroup(QFileInfo(source.path).completeBaseName(), true);
+        const qint32 groupID = document.AddGroup(SourceTitle(source.path), true);
         for (const SourceLayer& layer : source.layers) {
             database.AskWatcher(double(layerIDs.size()) / double(count));
             layerIDs.push_back(document.AddLayer(LayerFor(source.path, layer, number++)));

@@ -22,17 +22,24 @@ struct FoundData {
         std::vector<SourceLayer> layers;
     };
     std::vector<Source> sources; ///< files with at least one layer
+    std::vector<TableChoice> tables; ///< tables without geometry, with the columns that are guessed
     QStringList problems; ///< one sentence for each file without layers
 };
 
-/// Examines files without reading their features; for any thread. Raises Cancelled.
+/// Examines files, and those in folders, without reading all their features; for any thread. Raises
+/// Cancelled. Layers that would show nothing or what another one shows, as GPX files have them, are left out.
+/// A layer of several kinds of geometry is found as several, one for each kind.
 FoundData LookInto(const QStringList& paths, Progress& progress);
+
+/// The same data with its tables as layers: the columns that the user chose meanwhile count. Tables without
+/// columns are left out; a file of which nothing is left becomes a problem. For any thread. Raises Cancelled.
+FoundData WithTablesAsLayers(FoundData data, Progress& progress);
 
 /// How many layers were found in all files.
 size_t LayerCount(const FoundData& data);
 
-/// A new layer with the data of a source's layer. The number selects its colours; points are drawn over
-/// lines, and lines over areas.
+/// A new layer with the data of a source's layer, named after it and its kind of geometry if it has several.
+/// The number selects its colours; points are drawn over lines, and lines over areas.
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
 
 /// The coordinate system of a layer that was found: the chosen one, or what its source names. Empty for none.

@@ -53,10 +53,10 @@ void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& syste
 }
 
 // A layer that cannot be read is reported when it is read for the map.
-Box MeasuredExtent(const QString& path, const QString& layer, Progress& progress)
+Box MeasuredExtent(const QString& path, const SourceLayer& layer, Progress& progress)
 {
     try {
-        return DataSource(path).MeasureExtent(layer, progress);
+        return DataSource(path).MeasureExtent(layer.name, progress, layer.choice);
     } catch (const RunTimeError&) {
         return {};
     }
@@ -70,7 +70,7 @@ void MeasureExtents(FoundData& data, bool newMap, Progress& progress)
         if (!layer.extent.IsEmpty() || !(newMap || IsUnnamed(layer)))
             return;
         progress.SetSubject(source.path);
-        layer.extent = MeasuredExtent(source.path, layer.name, progress);
+        layer.extent = MeasuredExtent(source.path, layer, progress);
     });
 }
 
@@ -224,9 +224,9 @@ QStringList ImportPlan::NoteTexts(int mostNames) const
     return texts;
 }
 
-ImportPlan PlanImport(const QStringList& paths, const ImportTarget& target, Progress& progress)
+ImportPlan PlanImport(const FoundData& data, const ImportTarget& target, Progress& progress)
 {
-    ImportPlan plan{LookInto(paths, progress), {}};
+    ImportPlan plan{data, {}};
     MeasureExtents(plan.data, target.system.isEmpty(), progress);
     bool hasUnnamed = false;
     ForEachLayer(plan.data, [&](const FoundData::Source&, const SourceLayer& layer) {

@@ -44,9 +44,9 @@ struct ImportPlan {
     QStringList NoteTexts(int mostNames = 0) const;
 };
 
-/// Examines files as LookInto does, and finds systems for the layers that name none, see GuessSystem. Extents
+/// Finds systems for the layers that name none, see GuessSystem. data: with its tables as layers. Extents
 /// that a file does not tell are measured where they matter. For any thread. Raises Cancelled.
-ImportPlan PlanImport(const QStringList& paths, const ImportTarget& target, Progress& progress);
+ImportPlan PlanImport(const FoundData& data, const ImportTarget& target, Progress& progress);
 
 /// The target that a map is.
 ImportTarget TargetOf(const MapDocument& document);

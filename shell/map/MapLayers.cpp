@@ -62,7 +62,7 @@ DrawMode ModeOfRow(const IRecordset& row)
 bool IsSameData(const LayerSource& one, const LayerSource& other)
 {
     return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
-        && one.system == other.system;
+        && one.system == other.system && one.choice == other.choice;
 }
 
 } // namespace

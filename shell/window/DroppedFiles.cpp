@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/window/DroppedFiles.h"
 
+#include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
 
@@ -14,6 +15,16 @@ QStringList LocalFiles(const QMimeData& data)
             paths << url.toLocalFile();
     }
     return paths;
+}
+
+bool TakeAsCopy(QDropEvent& event)
+{
+    const bool isTaken
+        = !LocalFiles(*event.mimeData()).isEmpty() && event.possibleActions().testFlag(Qt::CopyAction);
+    if (isTaken)
+        event.setDropAction(Qt::CopyAction);
+    event.setAccepted(isTaken);
+    return isTaken;
 }
 
 } // namespace Orvane

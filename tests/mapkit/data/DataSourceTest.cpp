@@ -174,9 +174,9 @@ TEST_F(DataSourceTest, AChosenSystemHoldsInsteadOfTheOneThatTheSourceNames)
 {
     const DataSource source(m_folder.WriteSquare("square.geojson", 10, 50));
     Progress progress;
-    const FeatureSet chosen = source.Read("square", {}, "EPSG:4326", progress, "EPSG:3857");
+    const FeatureSet chosen = source.Read("square", {}, "EPSG:4326", progress, {}, "EPSG:3857");
     EXPECT_NEAR(chosen.Bounds().minX, 10 / 111319.49, 1e-6);
-    const FeatureSet named = source.Read("square", {}, "EPSG:4326", progress, "no system");
+    const FeatureSet named = source.Read("square", {}, "EPSG:4326", progress, {}, "no system");
     EXPECT_EQ(named.Bounds().minX, 10);
 }
 

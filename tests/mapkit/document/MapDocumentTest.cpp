@@ -125,6 +125,20 @@ TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
     EXPECT_EQ(source.filter, "kind = 1");
 }
 
+TEST_F(MapDocumentTest, WhatALayerTakesOfItsGeometriesIsFoundAgain)
+{
+    const auto document = MapDocument::Untitled();
+    NewLayer layer;
+    layer.path = m_folder.Path("towns.csv");
+    layer.choice.columns = {"lon", "lat", {}};
+    const qint32 layerID = document->AddLayer(layer);
+    EXPECT_EQ(document->SourceOf(layerID)->choice, layer.choice);
+    LayerSource changed = *document->SourceOf(layerID);
+    changed.choice = {};
+    document->SetSource(changed);
+    EXPECT_EQ(document->SourceOf(layerID)->choice, GeometryChoice());
+}
+
 TEST_F(MapDocumentTest, TheSourceOfOneLayerIsFound)
 {
     const auto document = MapDocument::Untitled();

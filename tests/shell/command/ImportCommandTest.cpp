@@ -52,6 +52,33 @@ TEST_F(ImportCommandTest, AFolderStandsForTheDataInIt)
     EXPECT_EQ(LayersOf(m_map), 2u);
 }
 
+TEST_F(ImportCommandTest, TheColumnsOfATableAreGuessedAndTold)
+{
+    const QString towns = m_folder.Write("towns.csv", "name,Lon,Lat\nA,13,52\n");
+    EXPECT_EQ(Run({"import", towns, "--to", m_map}), ExitCode::Done) << m_errors.toStdString();
+    EXPECT_TRUE(m_out.contains("towns.csv") && m_out.contains("Lon, Lat")) << m_out.toStdString();
+    EXPECT_EQ(MapDocument::Open(m_map)->Sources().at(0).choice.columns.y, "Lat");
+}
+
+TEST_F(ImportCommandTest, TheColumnsOfATableAreNamed)
+{
+    const QString towns = m_folder.Write("towns.csv", "lon,lat,a,b,g\n13,52,1,2,POINT (1 2)\n");
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "a,b"}), ExitCode::Done);
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--wkt", "g"}), ExitCode::Done);
+    const auto sources = MapDocument::Open(m_map)->Sources();
+    ASSERT_EQ(sources.size(), 2u);
+    EXPECT_EQ(sources[0].choice.columns, (CoordinateColumns{"a", "b", {}}));
+    EXPECT_EQ(sources[1].choice.columns, (CoordinateColumns{{}, {}, "g"}));
+}
+
+TEST_F(ImportCommandTest, ATableWithoutTheNamedColumnsIsTold)
+{
+    const QString towns = m_folder.Write("towns.csv", "lon,lat\n13,52\n");
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "a,b"}), ExitCode::Problems);
+    EXPECT_TRUE(m_errors.contains("towns.csv")) << m_errors.toStdString();
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "a"}), ExitCode::Usage);
+}
+
 TEST_F(ImportCommandTest, WhatCannotBeReadIsToldAndTheRestIsAdded)
 {
     EXPECT_EQ(

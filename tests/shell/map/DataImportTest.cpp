@@ -2,11 +2,14 @@
 #include "shell/map/DataImport.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/ZipFile.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
+
+#include <QDir>
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -71,12 +74,61 @@ TEST_F(DataImportTest, FilesThatCannotBeReadAreNamedAndTheOthersTaken)
     EXPECT_EQ(found.sources.size(), 1u);
 }
 
-TEST_F(DataImportTest, ATableWithoutGeometryHoldsNothingToDraw)
+TEST_F(DataImportTest, ATableWithoutCoordinatesIsNamed)
 {
-    const FoundData found = Look({m_folder.Write("table.csv", "name,number\nA,1\n")});
+    const FoundData found
+        = WithTablesAsLayers(Look({m_folder.Write("table.csv", "name,number\nA,1\n")}), m_progress);
     ASSERT_EQ(found.problems.size(), 1);
     EXPECT_TRUE(found.problems[0].contains("table.csv"));
     EXPECT_TRUE(found.sources.empty());
+}
+
+TEST_F(DataImportTest, ATableBecomesALayerWithTheColumnsThatAreChosen)
+{
+    FoundData found = Look({m_folder.Write("towns.csv", "lon,lat,x,y\n13,52,1,2\n")});
+    ASSERT_EQ(found.tables.size(), 1u);
+    EXPECT_EQ(found.tables[0].columns.x, "lon");
+    found.tables[0].columns = {"x", "y", {}};
+    found = WithTablesAsLayers(found, m_progress);
+    AddToMap(*m_document, found);
+    EXPECT_EQ(Names("LayerGroups"), QStringList("towns"));
+    const LayerSource source = m_document->Sources().at(0);
+    EXPECT_EQ(source.choice.columns.x, "x");
+    const SourceContents contents = ReadSources({source}, {}, m_progress);
+    EXPECT_EQ(contents.features.at(source.layerID)->Bounds(), (Box{1, 2, 1, 2}));
+}
+
+TEST_F(DataImportTest, AFolderBringsAllItsData)
+{
+    QDir(m_folder.Path("")).mkpath("data/deep/deeper");
+    m_folder.WriteSquare("data/a.geojson");
+    m_folder.WriteSquare("data/deep/deeper/b.geojson");
+    m_folder.Write("data/deep/notes.txt", "nothing");
+    AddToMap(*m_document, Look({m_folder.Path("data")}));
+    EXPECT_EQ(Names("Layers"), QStringList({"a", "b"}));
+    EXPECT_EQ(Names("LayerGroups"), QStringList({"a", "b"}));
+}
+
+TEST_F(DataImportTest, AFileInAnArchiveThatCannotBeReadIsNamedWithTheArchive)
+{
+    const FoundData found = Look({WriteZip(
+        m_folder.Path("a.zip"),
+        {{"bad.shp", "x"}, {"good.geojson", R"({"type":"Point","coordinates":[1,2]})"}})});
+    EXPECT_EQ(found.sources.size(), 1u);
+    ASSERT_EQ(found.problems.size(), 1);
+    EXPECT_TRUE(found.problems[0].contains("bad.shp") && found.problems[0].contains("a.zip"));
+}
+
+TEST_F(DataImportTest, AnArchiveWithATableAndALayerIsOneGroup)
+{
+    const QString path = WriteZip(
+        m_folder.Path("a.zip"),
+        {{"towns.csv", "lon,lat\n13,52\n"}, {"roads.geojson", R"({"type":"Point","coordinates":[1,2]})"}});
+    const FoundData found = WithTablesAsLayers(Look({path}), m_progress);
+    AddToMap(*m_document, found);
+    EXPECT_EQ(Names("LayerGroups"), QStringList("a"));
+    EXPECT_EQ(Names("Layers"), QStringList({"roads", "towns"}));
+    EXPECT_TRUE(found.problems.isEmpty());
 }
 
 TEST_F(DataImportTest, NothingFoundLeavesTheMapAsItWas)

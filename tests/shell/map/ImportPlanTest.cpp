@@ -25,7 +25,7 @@ protected:
 
     ImportPlan Plan(const QStringList& paths, const ImportTarget& target = {})
     {
-        return PlanImport(paths, target, m_progress);
+        return PlanImport(WithTablesAsLayers(LookInto(paths, m_progress), m_progress), target, m_progress);
     }
 
     static QString System(const ImportPlan& plan, size_t source)

@@ -2,6 +2,7 @@
 #include "shell/map/SourceFollower.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/ZipFile.h"
 #include "mapkit/document/MapDocument.h"
 
 #include <QDir>
@@ -75,6 +76,20 @@ TEST_F(SourceFollowerTest, AFileThatChangesIsReadAgain)
     const SourceContents contents = Next();
     ASSERT_TRUE(contents.features.contains(2));
     EXPECT_EQ(contents.features.at(2)->Bounds().minX, 100);
+}
+
+TEST_F(SourceFollowerTest, AnArchiveThatChangesIsReadAgain)
+{
+    const QString path = m_folder.Path("data/c.zip");
+    WriteZip(path, {{"c.geojson", R"({"type":"Point","coordinates":[1,2]})"}});
+    AddLayer("c", path);
+    m_follower.Follow();
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_TRUE(Next().failures.contains(3));
+    WriteZip(path, {{"c.geojson", R"({"type":"Point","coordinates":[5,6]})"}});
+    const SourceContents contents = Next();
+    ASSERT_TRUE(contents.features.contains(3));
+    EXPECT_EQ(contents.features.at(3)->Bounds().minX, 5);
 }
 
 TEST_F(SourceFollowerTest, AFolderThatGoesAndComesBackIsNoticed)

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/Antimeridian.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvane::Antimeridian {
+
+namespace {
+
+constexpr double Half = HalfTurn;
+constexpr double Turn = 360;
+constexpr double Pole = 90;
+constexpr double EdgeTolerance = 1e-6;
+constexpr double MostTurns = 3; // beyond that the numbers are no longitudes
+
+bool IsAtEdge(const QPointF& point)
+{
+    return std::abs(std::abs(point.x()) - Half) < EdgeTolerance;
+}
+
+// A line that comes to the edge and goes on from the other one. The frame of a map, and the foot of a
+// continent that was cut, run along the edges instead.
+bool GoesOn(std::span<const QPointF> points, size_t to)
+{
+    const bool hasBefore = to >= 2;
+    const bool hasBehind = to + 1 < points.size();
+    return (hasBefore || hasBehind) && (!hasBefore || !IsAtEdge(points[to - 2]))
+        && (!hasBehind || !IsAtEdge(points[to + 1]));
+}
+
+// Whether the step to that point leads past the meridian.
+bool IsJump(std::span<const QPointF> points, size_t to)
+{
+    if (to == 0 || !(std::abs(points[to].x() - points[to - 1].x()) > Half))
+        return false;
+    return !IsAtEdge(points[to - 1]) || !IsAtEdge(points[to]) || GoesOn(points, to);
+}
+
+// Longitudes that go on without jumps.
+Points Unrolled(std::span<const QPointF> points)
+{
+    Points unrolled;
+    unrolled.reserve(points.size());
+    double shift = 0;
+    for (size_t i = 0; i < points.size(); ++i) {
+        if (IsJump(points, i))
+            shift += points[i].x() > points[i - 1].x() ? -Turn : Turn;
+        unrolled.emplace_back(points[i].x() + shift, points[i].y());
+    }
+    return unrolled;
+}
+
+QPointF AtLongitude(const QPointF& from, const QPointF& to, double longitude)
+{
+    const double share = (longitude - from.x()) / (to.x() - from.x());
+    return {longitude, from.y() + share * (to.y() - from.y())};
+}
+
+struct Range {
+    double west;
+    double east;
+};
+
+Range RangeOf(const Points& points)
+{
+    const auto [west, east] = std::minmax_element(
+        points.begin(), points.end(), [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); });
+    return {west->x(), east->x()};
+}
+
+// Keeps what lies on the side of the meridian to which sign (1: east) leads.
+Points RingBeside(const Points& ring, double meridian, double sign)
+{
+    Points kept;
+    for (size_t i = 0; i < ring.size(); ++i) {
+        const QPointF& from = ring[i];
+        const QPointF& to = ring[(i + 1) % ring.size()];
+        const double here = sign * (from.x() - meridian);
+        const double there = sign * (to.x() - meridian);
+        if (here >= 0)
+            kept.push_back(from);
+        if ((here > 0 && there < 0) || (here < 0 && there > 0))
+            kept.push_back(AtLongitude(from, to, meridian));
+    }
+    return kept;
+}
+
+// The unrolled ring ends a turn away from its beginning: it goes around a pole.
+void CloseAroundPole(Points& ring)
+{
+    double north = 0;
+    for (const QPointF& point : ring)
+        north += point.y();
+    const double pole = north < 0 ? -Pole : Pole;
+    const QPointF first = ring.front();
+    const QPointF last = ring.back();
+    ring.insert(ring.end(), {QPointF(last.x(), pole), QPointF(first.x(), pole), first});
+}
+
+Points Shifted(Points points, double shift)
+{
+    for (QPointF& point : points)
+        point.rx() -= shift;
+    return points;
+}
+
+// Each turn of the earth that the points lie in, by its middle.
+template <typename Use> void ForEachTurn(const Points& points, const Use& use)
+{
+    const Range range = RangeOf(points);
+    const double first = std::ceil((range.west - Half) / Turn - EdgeTolerance);
+    const double last = std::floor((range.east + Half) / Turn + EdgeTolerance);
+    for (double turn = first; turn <= last; ++turn)
+        use(turn * Turn);
+}
+
+void AddPiece(std::vector<Points>& pieces, Points& piece)
+{
+    if (piece.size() > 1)
+        pieces.push_back(piece);
+    piece.clear();
+}
+
+// The pieces of the line from west to east of the turn's edges.
+void AddLinesWithin(std::vector<Points>& pieces, const Points& line, double west, double east)
+{
+    Points piece;
+    for (size_t i = 0; i + 1 < line.size(); ++i) {
+        QPointF from = line[i];
+        QPointF to = line[i + 1];
+        if (std::max(from.x(), to.x()) < west || std::min(from.x(), to.x()) > east) {
+            AddPiece(pieces, piece);
+            continue;
+        }
+        const bool leaves = to.x() < west || to.x() > east;
+        const QPointF whole[] = {from, to};
+        if (from.x() < west || from.x() > east)
+            from = AtLongitude(whole[0], whole[1], from.x() < west ? west : east);
+        if (leaves)
+            to = AtLongitude(whole[0], whole[1], to.x() < west ? west : east);
+        if (piece.empty())
+            piece.push_back(from);
+        piece.push_back(to);
+        if (leaves)
+            AddPiece(pieces, piece);
+    }
+    AddPiece(pieces, piece);
+}
+
+bool HasWidth(const Points& points)
+{
+    const Range range = RangeOf(points);
+    return range.east - range.west > EdgeTolerance;
+}
+
+} // namespace
+
+double Longitude(double longitude)
+{
+    if (std::abs(std::abs(longitude) - Half) < EdgeTolerance)
+        return std::clamp(longitude, -Half, Half);
+    const bool isBeyond = std::abs(longitude) > Half && std::abs(longitude) < MostTurns * Half;
+    return isBeyond ? longitude - Turn * std::round(longitude / Turn) : longitude;
+}
+
+bool IsPassed(std::span<const QPointF> points)
+{
+    bool isPassed = false;
+    for (size_t i = 0; i < points.size(); ++i) {
+        if (!(std::abs(points[i].x()) < MostTurns * Half)
+            || !(std::abs(points[i].y()) <= Pole + EdgeTolerance))
+            return false;
+        isPassed = isPassed || std::abs(points[i].x()) > Half + EdgeTolerance || IsJump(points, i);
+    }
+    return isPassed;
+}
+
+std::vector<Points> CutLine(std::span<const QPointF> points)
+{
+    const Points line = Unrolled(points);
+    std::vector<Points> pieces;
+    ForEachTurn(line, [&](double middle) {
+        std::vector<Points> within;
+        AddLinesWithin(within, line, middle - Half, middle + Half);
+        for (Points& piece : within)
+            pieces.push_back(Shifted(std::move(piece), middle));
+    });
+    return pieces;
+}
+
+std::vector<Points> CutRing(std::span<const QPointF> points)
+{
+    Points ring = Unrolled(points);
+    if (std::abs(ring.back().x() - ring.front().x()) > Half)
+        CloseAroundPole(ring);
+    std::vector<Points> pieces;
+    ForEachTurn(ring, [&](double middle) {
+        const Points piece = RingBeside(RingBeside(ring, middle - Half, 1), middle + Half, -1);
+        if (piece.size() > 2 && HasWidth(piece))
+            pieces.push_back(Shifted(piece, middle));
+    });
+    return pieces;
+}
+
+} // namespace Orvane::Antimeridian

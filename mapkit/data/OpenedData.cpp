@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/OpenedData.h"
+
+#include "mapkit/data/DataFiles.h"
+#include "mapkit/data/GdalSetup.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+#include <array>
+#include <cpl_string.h>
+#include <cpl_vsi.h>
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+namespace Orvane {
+
+namespace {
+
+struct Format {
+    const char* suffix;
+    const char* driver; ///< of GDAL
+    const char* name; ///< for the user
+};
+
+// Formats for which a GDAL may have been built without a driver, or whose driver is not used.
+constexpr std::array<Format, 7> OptionalFormats = {{
+    {"parquet", "Parquet", "GeoParquet"},
+    {"geoparquet", "Parquet", "GeoParquet"},
+    {"fgb", "FlatGeobuf", "FlatGeobuf"},
+    {"kmz", "LIBKML", "KMZ"},
+    {"xlsx", "XLSX", "Excel (.xlsx)"},
+    {"xls", "XLS", "Excel (.xls)"},
+    {"ods", "ODS", "OpenDocument (.ods)"},
+}};
+
+bool EndsWith(const QString& path, std::initializer_list<const char*> suffixes)
+{
+    return std::any_of(suffixes.begin(), suffixes.end(), [&](const char* suffix) {
+        return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
+    });
+}
+
+// The beginning of GDAL's names for what is in the archive; empty for other files.
+QString PrefixOfArchive(const QString& path)
+{
+    const char* system = EndsWith(path, {".zip"})     ? "/vsizip/"
+        : EndsWith(path, {".tar", ".tgz", ".tar.gz"}) ? "/vsitar/"
+                                                      : nullptr;
+    if (!system || !QFileInfo(path).isFile())
+        return {};
+    return QLatin1String(system) + QLatin1Char('{') + path + QLatin1Char('}');
+}
+
+bool IsTextTable(const QString& name)
+{
+    const QString plain = EndsWith(name, {".gz"}) ? name.chopped(3) : name;
+    return EndsWith(plain, {".csv", ".tsv", ".psv", ".txt"});
+}
+
+// GDAL knows text tables by their suffix, which may be hidden by that of the compression.
+QString NameForGdal(const QString& path)
+{
+    const bool isCompressed = EndsWith(path, {".gz"}) && QFileInfo(path).isFile();
+    const QString name = isCompressed ? QLatin1String("/vsigzip/") + path : path;
+    const bool isHidden = EndsWith(name, {".txt", ".csv.gz", ".tsv.gz", ".psv.gz", ".txt.gz"});
+    return isHidden ? QLatin1String("CSV:") + name : name;
+}
+
+std::unique_ptr<GDALDataset> OpenDataset(const QString& name)
+{
+    constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
+    const char* const withNumbers[] = {"AUTODETECT_TYPE=YES", nullptr};
+    return std::unique_ptr<GDALDataset>(GDALDataset::Open(
+        name.toUtf8().constData(), flags, nullptr, IsTextTable(name) ? withNumbers : nullptr));
+}
+
+bool IsHidden(const QString& member)
+{
+    return member.startsWith(QLatin1Char('.')) || member.contains(QLatin1String("/."))
+        || member.startsWith(QLatin1String("__MACOSX/"));
+}
+
+// A folder that is a source ends the names of what is in it.
+QStringList DataIn(const QString& archive)
+{
+    char** entries = VSIReadDirRecursive(archive.toUtf8().constData());
+    QStringList found;
+    for (char** entry = entries; entry && *entry; ++entry) {
+        QString member = QString::fromUtf8(*entry);
+        while (member.endsWith(QLatin1Char('/')))
+            member.chop(1);
+        const QString source = DataFiles::SourceOf(member);
+        if (!source.isEmpty() && !IsHidden(source) && !found.contains(source))
+            found << source;
+    }
+    CSLDestroy(entries);
+    found.sort();
+    return found;
+}
+
+bool HasGeometry(GDALDataset& dataset)
+{
+    for (OGRLayer* layer : dataset.GetLayers()) {
+        if (layer->GetGeomType() != wkbNone)
+            return true;
+    }
+    return false;
+}
+
+QString WithoutSuffix(const QString& member)
+{
+    const QFileInfo file(member);
+    return member.chopped(file.fileName().size()) + file.completeBaseName();
+}
+
+} // namespace
+
+OpenedData::OpenedData(const QString& path)
+{
+    PrepareGdal();
+    const QString archive = PrefixOfArchive(path);
+    if (!archive.isEmpty())
+        OpenArchive(archive);
+    else if (auto dataset = OpenDataset(NameForGdal(path)))
+        m_members.push_back({{}, std::move(dataset)});
+}
+
+OpenedData::~OpenedData() = default;
+
+void OpenedData::OpenArchive(const QString& archive)
+{
+    const QStringList names = DataIn(archive);
+    for (const QString& name : names) {
+        if (auto dataset = OpenDataset(archive + QLatin1Char('/') + name))
+            m_members.push_back({WithoutSuffix(name), std::move(dataset)});
+        else
+            m_unopened << name;
+    }
+    if (!names.isEmpty())
+        return;
+    if (auto dataset = OpenDataset(archive)) // it may be a source as a whole
+        m_members.push_back({{}, std::move(dataset)});
+}
+
+std::vector<OpenedData::Layer> OpenedData::Layers() const
+{
+    std::vector<Layer> layers;
+    QHash<QString, int> uses;
+    for (const Member& member : m_members) {
+        const QString fileName = member.name.section(QLatin1Char('/'), -1);
+        const bool isTable = !HasGeometry(*member.dataset);
+        for (OGRLayer* layer : member.dataset->GetLayers()) {
+            const QString name = QString::fromUtf8(layer->GetName());
+            layers.push_back({IsNameless(name) && !fileName.isEmpty() ? fileName : name, layer, isTable});
+            ++uses[layers.back().name];
+        }
+    }
+    size_t index = 0;
+    for (const Member& member : m_members) {
+        for (int i = 0; i < member.dataset->GetLayerCount(); ++i, ++index) {
+            QString& name = layers[index].name;
+            if (uses[name] < 2 || member.name.isEmpty())
+                continue;
+            const bool isAlone = member.name.section(QLatin1Char('/'), -1) == name;
+            name = isAlone ? member.name : member.name + QLatin1Char('/') + name;
+        }
+    }
+    return layers;
+}
+
+OGRLayer* OpenedData::Find(const QString& name) const
+{
+    if (m_members.size() == 1 && m_members.front().name.isEmpty())
+        return m_members.front().dataset->GetLayerByName(name.toUtf8().constData());
+    const std::vector<Layer> layers = Layers();
+    const auto found
+        = std::find_if(layers.begin(), layers.end(), [&](const Layer& layer) { return layer.name == name; });
+    return found == layers.end() ? nullptr : found->layer;
+}
+
+QString OpenedData::Format() const
+{
+    if (m_members.empty() || !m_members.front().dataset->GetDriver())
+        return {};
+    return QString::fromUtf8(m_members.front().dataset->GetDriver()->GetDescription());
+}
+
+QString OpenedData::FormatTitle() const
+{
+    if (m_members.empty() || !m_members.front().dataset->GetDriver())
+        return {};
+    return QString::fromUtf8(m_members.front().dataset->GetDriver()->GetMetadataItem(GDAL_DMD_LONGNAME));
+}
+
+bool OpenedData::IsNameless(const QString& layer)
+{
+    return layer == QLatin1String("OGRGeoJSON");
+}
+
+QString WhyNoDriver(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix();
+    for (const Format& format : OptionalFormats) {
+        const bool isThis = suffix.compare(QLatin1String(format.suffix), Qt::CaseInsensitive) == 0;
+        if (isThis && !GDALGetDriverByName(format.driver)) {
+            return QCoreApplication::translate("DataSource", "this program has no driver for %1")
+                .arg(QLatin1String(format.name));
+        }
+    }
+    return {};
+}
+
+} // namespace Orvane

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class GDALDataset;
+class OGRLayer;
+
+namespace Orvane {
+
+/// What GDAL opens for one path: one dataset for a file or a folder, one for each data file in an archive
+/// (.zip, .tar, .tgz). A file that is compressed alone (.gz) is opened as if it were not. A text table (.csv,
+/// .tsv, .psv, .txt) gets columns of numbers where all its values are numbers.
+///
+/// For the thread that made it. Errors of GDAL are left to the GdalErrors of the caller.
+class OpenedData
+{
+public:
+    struct Layer {
+        QString name; ///< unique; with the path within the archive if the archive has several of that name
+        OGRLayer* layer; ///< owned by this object
+        bool isTable; ///< no layer of its file has geometry
+    };
+
+    explicit OpenedData(const QString& path);
+    ~OpenedData();
+    OpenedData(const OpenedData&) = delete;
+    OpenedData& operator=(const OpenedData&) = delete;
+
+    /// Whether nothing could be opened.
+    bool IsEmpty() const { return m_members.empty(); }
+    std::vector<Layer> Layers() const;
+    /// nullptr if there is no layer of that name.
+    OGRLayer* Find(const QString& name) const;
+    /// GDAL's name for the format: "GPX". That of the first file of an archive.
+    QString Format() const;
+    /// The format for the user: "GPS Exchange Format".
+    QString FormatTitle() const;
+    /// The data files within an archive that cannot be opened, without those that accompany others.
+    const QStringList& Unopened() const { return m_unopened; }
+
+    /// Whether GDAL gave a layer that name because it has none in its file.
+    static bool IsNameless(const QString& layer);
+
+private:
+    struct Member {
+        QString name; ///< within the archive, without its suffix; empty outside of archives
+        std::unique_ptr<GDALDataset> dataset;
+    };
+
+    void OpenArchive(const QString& archive);
+
+    std::vector<Member> m_members;
+    QStringList m_unopened;
+};
+
+/// Why GDAL cannot read files with that suffix, as part of a sentence: the program has no driver for their
+/// format. Empty for other suffixes, and when there is a driver.
+QString WhyNoDriver(const QString& path);
+
+} // namespace Orvane

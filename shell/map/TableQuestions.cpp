@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/TableQuestions.h"
+
+#include "mapkit/common/Progress.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/document/MapDocument.h"
+#include "shell/dialogs/TableColumnsDialog.h"
+#include "shell/map/MapSession.h"
+#include "shell/window/RunWithProgress.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+#include <OrvaneShellLib/Transaction.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace Orvane::TableQuestions {
+
+namespace {
+
+using Purpose = TableColumnsDialog::Purpose;
+
+QString OpeningText()
+{
+    return QCoreApplication::translate("MainWindow", "Opening map data");
+}
+
+bool IsTable(const LayerSource& source)
+{
+    return !source.choice.columns.IsEmpty();
+}
+
+std::vector<LayerSource> TableLayers(const MapDocument& document)
+{
+    std::vector<LayerSource> sources = document.Sources();
+    std::erase_if(sources, [](const LayerSource& source) { return !IsTable(source); });
+    return sources;
+}
+
+// One for each layer; without rows if the file cannot be read.
+std::vector<TableChoice> ChoicesOf(const std::vector<LayerSource>& layers, Progress& progress)
+{
+    const ReadingBound untilCancelled(progress.CancelledFlag());
+    std::vector<TableChoice> choices;
+    for (const LayerSource& layer : layers) {
+        progress.StopIfCancelled();
+        TableChoice& choice = choices.emplace_back();
+        choice.path = layer.path;
+        choice.columns = layer.choice.columns;
+        choice.table.layer = layer.ogrLayer;
+        for (const TableRows& table : DataSource(layer.path).Tables()) {
+            if (table.layer == layer.ogrLayer)
+                choice.table = table;
+        }
+    }
+    return choices;
+}
+
+} // namespace
+
+FoundData FindData(const QStringList& paths, QWidget& window)
+{
+    FoundData found = ReadOrGiveUp(
+        &window, OpeningText(), [paths](Progress& progress) { return LookInto(paths, progress); });
+    if (found.tables.empty())
+        return found;
+    if (!TableColumnsDialog::Ask(found.tables, Purpose::Adding, &window))
+        throw Cancelled();
+    return ReadOrGiveUp(
+        &window, OpeningText(), [found](Progress& progress) { return WithTablesAsLayers(found, progress); });
+}
+
+bool HasTables(const MapDocument& document)
+{
+    return !TableLayers(document).empty();
+}
+
+bool ChangeColumns(MapSession& session, QWidget& window)
+{
+    MapDocument& document = session.Document();
+    std::vector<LayerSource> layers = TableLayers(document);
+    std::vector<TableChoice> choices = ReadOrGiveUp(
+        &window, OpeningText(), [layers](Progress& progress) { return ChoicesOf(layers, progress); });
+    if (choices.empty() || !TableColumnsDialog::Ask(choices, Purpose::Changing, &window))
+        return false;
+    bool isChanged = false;
+    session.Shell().RecordStep([&] {
+        Transaction transaction(document.Database());
+        for (size_t i = 0; i < layers.size(); ++i) {
+            if (layers[i].choice.columns == choices[i].columns)
+                continue;
+            layers[i].choice.columns = choices[i].columns;
+            document.SetSource(layers[i]);
+            isChanged = true;
+        }
+        transaction.Commit();
+        return QCoreApplication::translate("MainWindow", "Table Columns");
+    });
+    return isChanged;
+}
+
+} // namespace Orvane::TableQuestions

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/data/Antimeridian.h"
+
+#include "mapkit/DataFolder.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/data/DataSource.h"
+
+#include <gmock/gmock.h>
+
+namespace Orvane {
+
+using namespace Testing;
+using Antimeridian::Points;
+using testing::ElementsAre;
+
+namespace {
+
+// East of the island is west of the meridian.
+const Points Island = {{178, -18}, {-178, -18}, {-178, -16}, {178, -16}, {178, -18}};
+const Points Frame = {{-180, -60}, {180, -60}, {180, 60}, {-180, 60}, {-180, -60}};
+
+Points Sorted(Points points)
+{
+    std::sort(points.begin(), points.end(), [](const QPointF& a, const QPointF& b) {
+        return std::pair(a.x(), a.y()) < std::pair(b.x(), b.y());
+    });
+    return points;
+}
+
+Points Square(double west, double east)
+{
+    return {{west, 0}, {east, 0}, {east, 10}, {west, 10}, {west, 0}};
+}
+
+double WidestPart(const FeatureSet& features)
+{
+    double widest = 0;
+    for (const FeatureSet::Feature& feature : features.Features()) {
+        for (quint32 part = feature.firstPart; part < feature.endPart; ++part) {
+            Box box;
+            for (const QPointF& point : features.Part(part))
+                box.Add(point);
+            widest = std::max(widest, box.Width());
+        }
+    }
+    return widest;
+}
+
+} // namespace
+
+TEST(Antimeridian, OrdinaryLinesAreLeftAlone)
+{
+    EXPECT_FALSE(Antimeridian::IsPassed(Points{{-170, 0}, {0, 10}, {170, 0}}));
+    EXPECT_FALSE(Antimeridian::IsPassed(Square(0, 10)));
+    EXPECT_FALSE(Antimeridian::IsPassed(Points()));
+}
+
+TEST(Antimeridian, ALineThatJumpsIsCutInTwo)
+{
+    const Points line = {{170, 10}, {-170, 20}};
+    ASSERT_TRUE(Antimeridian::IsPassed(line));
+    EXPECT_THAT(
+        Antimeridian::CutLine(line),
+        ElementsAre(Points{{170, 10}, {180, 15}}, Points{{-180, 15}, {-170, 20}}));
+}
+
+TEST(Antimeridian, ALineThatComesBackKeepsBothItsEnds)
+{
+    const Points line = {{170, 10}, {-170, 10}, {170, 20}};
+    EXPECT_THAT(
+        Antimeridian::CutLine(line),
+        ElementsAre(
+            Points{{170, 10}, {180, 10}}, Points{{180, 15}, {170, 20}},
+            Points{{-180, 10}, {-170, 10}, {-180, 15}}));
+}
+
+TEST(Antimeridian, AnIslandOnItBecomesOneOnEachSide)
+{
+    ASSERT_TRUE(Antimeridian::IsPassed(Island));
+    const std::vector<Points> rings = Antimeridian::CutRing(Island);
+    ASSERT_EQ(rings.size(), 2u);
+    for (const Points& ring : rings) {
+        const bool isEast = ring.front().x() > 0;
+        for (const QPointF& point : ring) {
+            EXPECT_GE(std::abs(point.x()), 178);
+            EXPECT_LE(std::abs(point.x()), 180);
+            EXPECT_EQ(point.x() > 0, isEast);
+        }
+    }
+}
+
+TEST(Antimeridian, LongitudesBeyond180AreBroughtBack)
+{
+    ASSERT_TRUE(Antimeridian::IsPassed(Square(190, 200)));
+    const std::vector<Points> rings = Antimeridian::CutRing(Square(190, 200));
+    ASSERT_EQ(rings.size(), 1u);
+    EXPECT_EQ(Sorted(rings[0]).front(), QPointF(-170, 0));
+    EXPECT_EQ(Sorted(rings[0]).back(), QPointF(-160, 10));
+    EXPECT_EQ(Antimeridian::CutRing(Square(170, 190)).size(), 2u);
+    EXPECT_EQ(Antimeridian::Longitude(200), -160);
+    EXPECT_EQ(Antimeridian::Longitude(180), 180);
+}
+
+TEST(Antimeridian, TheFrameOfTheWorldStaysWhole)
+{
+    EXPECT_FALSE(Antimeridian::IsPassed(Frame));
+    EXPECT_FALSE(Antimeridian::IsPassed(Points{{-180, 45}, {180, 45}})) << "a parallel";
+}
+
+TEST(Antimeridian, AContinentThatWasCutAtItsFootStaysWhole)
+{
+    EXPECT_FALSE(Antimeridian::IsPassed(Points{
+        {-180, -90}, {-180, -84}, {-90, -75}, {0, -70}, {90, -66}, {180, -84}, {180, -90}, {-180, -90}}));
+}
+
+TEST(Antimeridian, AStepFromOneEdgeToTheOtherWithinALineIsAPassage)
+{
+    const Points line = {{179, 5}, {180, 5}, {-180, 5}, {-179, 5}};
+    ASSERT_TRUE(Antimeridian::IsPassed(line));
+    EXPECT_EQ(Antimeridian::CutLine(line).size(), 2u);
+}
+
+TEST(Antimeridian, ARingAroundAPoleReachesThePole)
+{
+    const Points around = {{-120, -70}, {0, -70}, {120, -70}, {-120, -70}};
+    ASSERT_TRUE(Antimeridian::IsPassed(around));
+    const std::vector<Points> rings = Antimeridian::CutRing(around);
+    Box box;
+    for (const Points& ring : rings) {
+        for (const QPointF& point : ring)
+            box.Add(point);
+    }
+    EXPECT_EQ(box, (Box{-180, -90, 180, -70}));
+}
+
+TEST(Antimeridian, NumbersThatAreNoDegreesAreLeftAlone)
+{
+    EXPECT_FALSE(Antimeridian::IsPassed(Points{{400000, 5}, {-400000, 6}}));
+    EXPECT_FALSE(Antimeridian::IsPassed(Points{{170, 500}, {-170, 500}}));
+}
+
+TEST(Antimeridian, DataThatPassItAreReadInPieces)
+{
+    const DataFolder folder;
+    const DataSource source(folder.WriteGeometries(
+        "fiji.geojson",
+        {R"({"type":"Polygon","coordinates":[[[178,-18],[-178,-18],[-178,-16],[178,-16],[178,-18]]]})",
+         R"({"type":"LineString","coordinates":[[170,0],[-170,0]]})",
+         R"({"type":"Point","coordinates":[190,0]})"}));
+    Progress progress;
+    const FeatureSet features = source.Read("fiji", {}, "EPSG:4326", progress);
+    EXPECT_EQ(features.Features().size(), 3u);
+    EXPECT_EQ(WidestPart(features), 10);
+    EXPECT_EQ(features.Bounds(), (Box{-180, -18, 180, 0}));
+}
+
+TEST(Antimeridian, ARoundingErrorLeavesAnEdgeOnItsSide)
+{
+    const DataFolder folder;
+    const DataSource source(folder.WriteGeometries(
+        "cape.geojson",
+        {R"({"type":"Polygon","coordinates":[[[-180.00000000000003,65],[-170,66],[-180.00000000000003,69],)"
+         R"([-180.00000000000003,65]]]})"}));
+    Progress progress;
+    const FeatureSet features = source.Read("cape", {}, "EPSG:8857", progress);
+    EXPECT_LT(features.Bounds().maxX, 0);
+}
+
+TEST(Antimeridian, DataInMetresAreNotCut)
+{
+    const DataFolder folder;
+    const DataSource source(folder.Write(
+        "metres.geojson",
+        R"({"type":"FeatureCollection","crs":{"type":"name","properties":{"name":"EPSG:32632"}},"features":[
+        {"type":"Feature","properties":{},"geometry":{"type":"LineString","coordinates":[[-170,0],[170,0]]}}]})"));
+    Progress progress;
+    EXPECT_EQ(WidestPart(source.Read("metres", {}, "EPSG:32632", progress)), 340);
+}
+
+} // namespace Orvane

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "shell/map/TableQuestions.h"
+
+#include "mapkit/common/Progress.h"
+#include "shell/MainWindowTest.h"
+#include "shell/dialogs/TableColumnsDialog.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+namespace Orvane {
+
+namespace {
+
+using Testing::MainWindowTest;
+
+class TableQuestionsTest : public MainWindowTest
+{
+protected:
+    // Lets act do something in the window for tables when it is open; Enter or Escape must end it.
+    void WhenAsked(const std::function<void(QWidget& window)>& act)
+    {
+        QTimer::singleShot(0, m_window.get(), [this, act] {
+            QWidget* window = QApplication::activeWindow();
+            if (!qobject_cast<TableColumnsDialog*>(window))
+                return WhenAsked(act);
+            ++m_questions;
+            act(*window);
+        });
+    }
+    static void PressEnter(QWidget& window) { QTest::keyClick(&window, Qt::Key_Return); }
+
+    // As the menu shows it when it is opened.
+    QAction* FileCommand(const char* name)
+    {
+        auto* menu = m_window->findChild<QMenu*>("menuFile");
+        emit menu->aboutToShow();
+        for (QAction* action : menu->actions()) {
+            if (action->objectName() == QLatin1String(name))
+                return action;
+        }
+        ADD_FAILURE() << name;
+        return menu->menuAction();
+    }
+
+    QString WriteTowns(const QString& name)
+    {
+        return m_folder.Write(name, "name,lon,lat,x,y\nA,13,52,1,2\nB,14,53,3,4\n");
+    }
+    Box Bounds() { return m_window->Session().Layers().at(0).features->Bounds(); }
+
+    int m_questions = 0;
+};
+
+} // namespace
+
+TEST_F(TableQuestionsTest, ATableIsAddedWithTheColumnsThatAreShown)
+{
+    m_window->Document().SetSystem("EPSG:4326");
+    WhenAsked(PressEnter);
+    m_window->AddData({WriteTowns("towns.csv")});
+    EXPECT_EQ(m_questions, 1);
+    ASSERT_EQ(Count("Layers"), 1);
+    EXPECT_EQ(Bounds(), (Box{13, 52, 14, 53}));
+}
+
+TEST_F(TableQuestionsTest, SeveralTablesAreAskedAboutOnce)
+{
+    WhenAsked(PressEnter);
+    m_window->AddData({WriteTowns("a.csv"), WriteTowns("b.csv"), m_folder.WriteSquare("c.geojson")});
+    EXPECT_EQ(m_questions, 1);
+    EXPECT_EQ(Count("Layers"), 3);
+}
+
+TEST_F(TableQuestionsTest, EscapeAddsNothing)
+{
+    WhenAsked([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+    EXPECT_THROW(m_window->AddData({WriteTowns("a.csv"), m_folder.WriteSquare("c.geojson")}), Cancelled);
+    EXPECT_EQ(Count("Layers"), 0);
+}
+
+TEST_F(TableQuestionsTest, TheColumnsAreChangedLaterAndThatIsUndone)
+{
+    m_window->Document().SetSystem("EPSG:4326");
+    EXPECT_FALSE(FileCommand("actTableColumns")->isEnabled());
+    WhenAsked(PressEnter);
+    m_window->AddData({WriteTowns("towns.csv")});
+    ASSERT_TRUE(FileCommand("actTableColumns")->isEnabled());
+    WhenAsked([](QWidget& window) {
+        QTest::keyClicks(window.findChild<QComboBox*>("cmbX"), "x");
+        QTest::keyClicks(window.findChild<QComboBox*>("cmbY"), "y");
+        PressEnter(window);
+    });
+    FileCommand("actTableColumns")->trigger();
+    EXPECT_EQ(Bounds(), (Box{1, 2, 3, 4}));
+    Action("actUndo")->trigger();
+    EXPECT_EQ(m_window->Document().Sources().at(0).choice.columns.x, "lon");
+}
+
+} // namespace Orvane
