@@ -47,8 +47,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int ShortMessageTime = 8000; // milliseconds
-
 bool IsMapFile(const QString& path)
 {
     return QFileInfo(path).suffix() == QLatin1String("orvane");
