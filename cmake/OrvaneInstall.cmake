@@ -91,7 +91,12 @@ if(ORVANE_BUILD_SHELL)
   install(FILES "${packaging}/orvane-mime.xml" DESTINATION share/mime/packages RENAME orvane.xml COMPONENT program)
   install(FILES "${packaging}/orvane.svg" DESTINATION share/icons/hicolor/scalable/apps COMPONENT program)
   install(FILES "${packaging}/orvane-map.svg" DESTINATION share/icons/hicolor/scalable/mimetypes COMPONENT program)
-  install(CODE "execute_process(COMMAND gzip -9nc \"${packaging}/orvane.1\" \
+  # The manual page has the options as the program's own --help tells them.
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  install(CODE "execute_process(COMMAND \"${Python3_EXECUTABLE}\" \"${PROJECT_SOURCE_DIR}/tools/man_page.py\" \
+    \"$<TARGET_FILE:orvane>\" \"${packaging}/orvane.1.in\" \"${PROJECT_BINARY_DIR}/orvane.1\" \
+    COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND gzip -9nc \"${PROJECT_BINARY_DIR}/orvane.1\" \
     OUTPUT_FILE \"${PROJECT_BINARY_DIR}/orvane.1.gz\" COMMAND_ERROR_IS_FATAL ANY)" COMPONENT program)
   install(FILES "${PROJECT_BINARY_DIR}/orvane.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT program)
 endif()

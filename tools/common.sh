@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Shared by ./dev and the scripts beside this file: packages, steps, counts.
 
-packages_build=(build-essential cmake ninja-build ccache lld pkg-config git
+packages_build=(build-essential cmake ninja-build python3-minimal ccache lld pkg-config git
     qt6-base-dev qt6-svg-dev qt6-tools-dev libgdal-dev libproj-dev libsqlite3-dev)
 packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
 packages_clang=(clang libclang-rt-14-dev)

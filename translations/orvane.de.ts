@@ -748,6 +748,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
 Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
+        <source>List the options.</source>
+        <translation>Die Optionen auflisten.</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>Listen der Layer, die Sie für eine Aufgabe brauchen, ohne Einstellungen</translation>
     </message>

@@ -748,6 +748,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
 Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la commande n’a pas été comprise.</translation>
     </message>
     <message>
+        <source>List the options.</source>
+        <translation>Énumérer les options.</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>Listes des couches utiles à une tâche, sans réglages</translation>
     </message>

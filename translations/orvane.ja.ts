@@ -748,6 +748,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
 終了コード: 0 すべて読めた、1 読めないものがあった、2 コマンドを理解できない。</translation>
     </message>
     <message>
+        <source>List the options.</source>
+        <translation>オプションを一覧表示します。</translation>
+    </message>
+    <message>
         <source>Lists of the layers that you need for one task, without settings</source>
         <translation>ある作業に必要なレイヤーの一覧 (設定は含みません)</translation>
     </message>

@@ -49,7 +49,9 @@ void TellError(const Terminal& terminal, const QString& text)
 CommandReader::CommandReader(const QString& description)
 {
     m_parser.setApplicationDescription(description);
-    m_parser.addHelpOption();
+    m_parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")},
+         QCoreApplication::translate("CommandLine", "List the options.")});
 }
 
 void CommandReader::AddCommand(const QString& name)
