@@ -18,14 +18,6 @@ class HostNotifications : public QObject
 public:
     using QObject::QObject;
 
-    /// What a change of the schemes may have changed besides their names, their order and which one is for
-    /// the opening.
-    enum class SchemeValues {
-        Changed, ///< everything, also which schemes there are and which is current
-        Kept, ///< nothing: each has the values that it had
-    };
-    Q_ENUM(SchemeValues)
-
 Q_SIGNALS:
     /// The drawing properties of these layers were stored: redraw them. Emitted by RedrawMap with all layers
     /// passed to LayerChanged, and after a scheme was loaded.
@@ -38,8 +30,9 @@ Q_SIGNALS:
     void GroupRenamed(qint32 groupID, const QString& name);
     /// Undo or redo has created, deleted or reordered groups, or changed which layers they have.
     void GroupsChanged();
-    /// The current scheme or the set of schemes has changed, or one of them.
-    void SchemesChanged(const QString& currentScheme, SchemeValues values = SchemeValues::Changed);
+    /// The current scheme or the set of schemes has changed, or one of them. areValuesKept: nothing but their
+    /// names, their order and which one is for the opening has changed.
+    void SchemesChanged(const QString& currentScheme, bool areValuesKept = false);
     /// The layers now have the scheme's saved values. Emitted after SchemesChanged and LayersChanged.
     void SchemeLoaded(const QString& scheme);
     /// All schemes were written to the startup database.

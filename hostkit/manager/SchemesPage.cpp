@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/manager/SchemesPage.h"
 
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/SchemeFileDialogs.h"
 #include "hostkit/manager/SchemeOrder.h"
 #include "hostkit/manager/SchemePartsDialog.h"
@@ -50,7 +51,7 @@ SchemesPage::SchemesPage(const ManagerHost& host, QWidget* parent)
     MakeHistory();
     Wire();
     GuardCommand(parent, [this] {
-        ReadAgain(HostNotifications::SchemeValues::Changed);
+        ReadAgain(false);
         m_table->Choose({m_model->CurrentName()});
     });
     EnableCommands();
@@ -59,14 +60,13 @@ SchemesPage::SchemesPage(const ManagerHost& host, QWidget* parent)
 void SchemesPage::Wire()
 {
     connect(&m_counting, &QTimer::timeout, this, &SchemesPage::Count);
-    using Values = HostNotifications::SchemeValues;
-    const auto readAgain = [this](Values values) { GuardCommand(this, [&] { ReadAgain(values); }); };
+    const auto readAgain
+        = [this](bool areValuesKept) { GuardCommand(this, [&] { ReadAgain(areValuesKept); }); };
     connect(
         &m_host.notifications, &HostNotifications::SchemesChanged, this,
-        [readAgain](const QString&, Values values) { readAgain(values); });
-    connect(&m_host.notifications, &HostNotifications::LayersChanged, this, [readAgain] {
-        readAgain(Values::Changed);
-    });
+        [readAgain](const QString&, bool areValuesKept) { readAgain(areValuesKept); });
+    connect(
+        &m_host.notifications, &HostNotifications::LayersChanged, this, [readAgain] { readAgain(false); });
     connect(&m_host.history, &UndoHistory::Changed, this, &SchemesPage::EnableCommands);
     connect(m_table, &SchemesTable::Sorted, this, &SchemesPage::EnableCommands);
     connect(
@@ -171,12 +171,11 @@ QAction* SchemesPage::MakeCommand(
     return action;
 }
 
-void SchemesPage::ReadAgain(HostNotifications::SchemeValues values)
+void SchemesPage::ReadAgain(bool areValuesKept)
 {
     using Counts = SchemesModel::Counts;
-    const bool areKept = values == HostNotifications::SchemeValues::Kept;
     const QStringList chosen = ChosenNames();
-    m_model->Show(Schemes(), areKept ? Counts::Keep : Counts::Forget);
+    m_model->Show(Schemes(), areValuesKept ? Counts::Keep : Counts::Forget);
     m_table->Choose(chosen);
     EnableCommands(); // the choice may be as it was
     m_counting.start(0);

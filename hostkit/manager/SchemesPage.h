@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/ManagerHost.h"
 #include "hostkit/schemes/SchemeDetails.h"
 
@@ -51,7 +50,7 @@ private:
     void Wire();
     QAction*
     MakeCommand(const char* objectName, const QString& text, const QKeySequence& key, Command command);
-    void ReadAgain(HostNotifications::SchemeValues values);
+    void ReadAgain(bool areValuesKept);
     std::vector<SchemeDetails> Schemes();
     void Count();
     void EnableCommands();

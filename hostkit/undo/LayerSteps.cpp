@@ -157,11 +157,8 @@ void LayerSteps::Emit(const Changeset& changed)
         emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
     if (changes.groups)
         emit m_notifications.GroupsChanged();
-    if (changes.schemes) {
-        using Values = HostNotifications::SchemeValues;
-        emit m_notifications.SchemesChanged(
-            LayerSchemes(m_database).Current(), changes.schemeValues ? Values::Changed : Values::Kept);
-    }
+    if (changes.schemes)
+        emit m_notifications.SchemesChanged(LayerSchemes(m_database).Current(), !changes.schemeValues);
 }
 
 } // namespace Orvane

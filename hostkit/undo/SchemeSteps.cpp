@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/undo/SchemeSteps.h"
 
+#include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/StartupSchemes.h"
 #include "hostkit/windows/LongWork.h"
 #include "messages/NameInText.h"
@@ -13,8 +14,6 @@
 #include <utility>
 
 namespace Orvane {
-
-using SchemeValues = HostNotifications::SchemeValues;
 
 SchemeSteps::SchemeSteps(ILayerStore& database, LayerSteps& steps, HostNotifications& notifications)
     : m_database(database), m_steps(steps), m_notifications(notifications), m_schemes(database)
@@ -34,8 +33,8 @@ void SchemeSteps::ListenToChanges()
     QObject::connect(&m_notifications, &HostNotifications::LayerDeleted, &m_context, note);
     QObject::connect(
         &m_notifications, &HostNotifications::SchemesChanged, &m_context,
-        [this](const QString&, SchemeValues values) {
-            if (values == SchemeValues::Changed)
+        [this](const QString&, bool areValuesKept) {
+            if (!areValuesKept)
                 m_differences.Forget();
         });
 }
@@ -95,7 +94,7 @@ void SchemeSteps::DeleteSeveral(const QStringList& names)
 void SchemeSteps::Rename(const QString& name, const QString& newName)
 {
     Run(tr("Rename Scheme \"%1\"").arg(NameInStep(newName)), [&] { m_schemes.Rename(name, newName); });
-    Tell(SchemeValues::Kept);
+    Tell(Values::Kept);
 }
 
 void SchemeSteps::Duplicate(const QString& name, const QString& newName)
@@ -121,7 +120,7 @@ void SchemeSteps::SetOrder(const QStringList& names)
 {
     Run(names.isEmpty() ? tr("Sort Schemes by Name") : tr("Reorder Schemes"),
         [&] { m_schemes.SetOrder(names); });
-    Tell(SchemeValues::Kept);
+    Tell(Values::Kept);
 }
 
 void SchemeSteps::SetAtOpening(const QString& name)
@@ -129,7 +128,7 @@ void SchemeSteps::SetAtOpening(const QString& name)
     const QString text = name.isEmpty() ? tr("Apply No Scheme at Opening")
                                         : tr("Apply Scheme \"%1\" at Opening").arg(NameInStep(name));
     Run(text, [&] { m_schemes.SetAtOpening(name); });
-    Tell(SchemeValues::Kept);
+    Tell(Values::Kept);
 }
 
 std::optional<QString> SchemeSteps::MissingAtOpening()
@@ -200,9 +199,9 @@ void SchemeSteps::Leave(const QString& name)
         &m_context, [this] { m_justLeft.clear(); }, Qt::QueuedConnection);
 }
 
-void SchemeSteps::Tell(SchemeValues values)
+void SchemeSteps::Tell(Values values)
 {
-    emit m_notifications.SchemesChanged(m_schemes.Current(), values);
+    emit m_notifications.SchemesChanged(m_schemes.Current(), values == Values::Kept);
 }
 
 } // namespace Orvane

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hostkit/common/HostNotifications.h"
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeDifferences.h"
 #include "hostkit/schemes/SchemeExchange.h"
@@ -16,6 +15,7 @@
 
 namespace Orvane {
 
+class HostNotifications;
 class ILayerStore;
 
 /// The user's operations on the schemes of a map. Each operation is one step of the history and emits the
@@ -82,7 +82,8 @@ private:
     Run(const QString& text, const std::function<void()>& act,
         ChangeStep::Joins joins = ChangeStep::Joins::No);
     void Leave(const QString& name);
-    void Tell(HostNotifications::SchemeValues values = HostNotifications::SchemeValues::Changed);
+    enum class Values { Changed, Kept };
+    void Tell(Values values = Values::Changed);
 
     ILayerStore& m_database;
     LayerSteps& m_steps;
