@@ -912,6 +912,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Das Koordinatensystem der Karte. Ohne diese Option behält eine Karte ihr eigenes; bei einer neuen Karte entscheiden die Daten mit der größten Ausdehnung.</translation>
     </message>
     <message>
+        <source>The coordinate system that was chosen for &quot;%1&quot; is not known: &quot;%2&quot;.</source>
+        <translation>Das für „%1“ gewählte Koordinatensystem ist nicht bekannt: „%2“.</translation>
+    </message>
+    <message>
         <source>The coordinates in the data stay as they are; the system says where they lie.</source>
         <translation>Die Koordinaten in den Daten bleiben, wie sie sind; das System sagt, wo sie liegen.</translation>
     </message>

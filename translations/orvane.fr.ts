@@ -912,6 +912,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Le système de coordonnées de la carte. Sans cette option, une carte garde le sien ; pour une nouvelle carte, les données les plus étendues décident.</translation>
     </message>
     <message>
+        <source>The coordinate system that was chosen for &quot;%1&quot; is not known: &quot;%2&quot;.</source>
+        <translation>Le système de coordonnées choisi pour « %1 » n’est pas connu : « %2 ».</translation>
+    </message>
+    <message>
         <source>The coordinates in the data stay as they are; the system says where they lie.</source>
         <translation>Les coordonnées des données restent telles quelles ; le système indique où elles se trouvent.</translation>
     </message>

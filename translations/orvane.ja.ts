@@ -912,6 +912,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>地図の座標系。このオプションがない場合、既存の地図の座標系は変わらず、新しい地図では最も広い範囲のデータで決まります。</translation>
     </message>
     <message>
+        <source>The coordinate system that was chosen for &quot;%1&quot; is not known: &quot;%2&quot;.</source>
+        <translation>「%1」に選択された座標系「%2」は不明です。</translation>
+    </message>
+    <message>
         <source>The coordinates in the data stay as they are; the system says where they lie.</source>
         <translation>データの座標はそのままです。座標系はその位置を示します。</translation>
     </message>

@@ -20,7 +20,7 @@ struct ListFreer {
     void operator()(PROJ_CRS_INFO** list) const { proj_crs_info_list_destroy(list); }
 };
 
-bool IsForMaps(const PROJ_CRS_INFO& info)
+bool IsListed(const PROJ_CRS_INFO& info)
 {
     const bool isOnEarth = !info.celestial_body_name || qstrcmp(info.celestial_body_name, "Earth") == 0;
     return isOnEarth && !info.deprecated
@@ -62,7 +62,7 @@ std::vector<KnownSystem> ReadKnownSystems()
             proj_get_crs_info_list_from_database(context.get(), authority, nullptr, &count));
         systems.reserve(systems.size() + size_t(count));
         for (int i = 0; i < count; ++i) {
-            if (IsForMaps(*list.get()[i]))
+            if (IsListed(*list.get()[i]))
                 systems.push_back(SystemIn(*list.get()[i]));
         }
     }

@@ -13,7 +13,7 @@ namespace Orvane {
 namespace {
 
 constexpr int EdgePoints = 21; // as GDAL and others do
-const QString Degrees = QStringLiteral("EPSG:4326");
+const QString LonLat = QStringLiteral("EPSG:4326");
 
 QString UnitOf(const OGRSpatialReference& system)
 {
@@ -71,7 +71,7 @@ QString SystemTitle(const QString& system)
 
 Box InDegrees(const Box& box, const QString& system)
 {
-    return Transformed(box, system, Degrees);
+    return Transformed(box, system, LonLat);
 }
 
 Box Transformed(const Box& box, const QString& from, const QString& to)

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double Hair = 1e-3; // degrees; what rounding may add
 constexpr Box WholeEarth{-180 - Hair, -90 - Hair, 180 + Hair, 90 + Hair};
-constexpr double WorldWide = 150; // degrees of longitude; a system for more than that fits anything
+constexpr double WidestArea = 150; // degrees of longitude; a system for more than that fits anything
 constexpr double Region = 30; // degrees of longitude; the data of a larger area meet anything
 constexpr double UsualOverhang = 6; // degrees; data often reach beyond the area of their system
 
@@ -53,7 +53,7 @@ bool FitsMap(const Box& extent, const MapPlace& map)
     const Box degrees = InDegrees(extent, map.system);
     if (degrees.IsEmpty())
         return false;
-    const bool hasArea = !facts.areaName.isEmpty() && Unwrapped(facts.area).Width() < WorldWide;
+    const bool hasArea = !facts.areaName.isEmpty() && Unwrapped(facts.area).Width() < WidestArea;
     return hasArea ? IsInArea(degrees, facts.area) : MeetsData(extent, map);
 }
 

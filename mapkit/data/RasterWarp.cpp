@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/RasterWarp.h"
 
+#include "mapkit/coordinates/SystemReference.h"
+
 #include <QStringList>
 
 #include <array>
@@ -33,6 +35,12 @@ bool HasSystem(GDALDataset& raster)
     return raster.GetSpatialRef() || raster.GetGCPSpatialRef();
 }
 
+// Empty for a text that is not a system: GDAL would open it as a file.
+QString KnownSystemText(const QString& system)
+{
+    return ReferenceOf(system).IsEmpty() ? QString() : system;
+}
+
 using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
 using WarpOptions = std::unique_ptr<GDALWarpAppOptions, decltype(&GDALWarpAppOptionsFree)>;
 
@@ -57,10 +65,11 @@ std::unique_ptr<GDALDataset, Releaser> Thinned(GDALDataset& raster, int step)
 QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool blend)
 {
     QStringList list = {"-of", "VRT", "-dstalpha", "-ovr", "NONE", "-r", blend ? "bilinear" : "near"};
-    if (!target.system.isEmpty())
-        list << "-t_srs" << target.system;
-    if (!target.system.isEmpty() && !HasSystem(raster))
-        list << "-s_srs" << target.system;
+    const QString system = KnownSystemText(target.system);
+    if (!system.isEmpty())
+        list << "-t_srs" << system;
+    if (!system.isEmpty() && !HasSystem(raster))
+        list << "-s_srs" << system;
     const Box& box = target.extent;
     list << "-te" << Number(box.minX) << Number(box.minY) << Number(box.maxX) << Number(box.maxY);
     list << "-ts" << QString::number(target.pixels.width()) << QString::number(target.pixels.height());
@@ -71,7 +80,7 @@ QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool 
 
 RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem)
 {
-    const QByteArray system = HasSystem(raster) ? mapSystem.toUtf8() : QByteArray();
+    const QByteArray system = HasSystem(raster) ? KnownSystemText(mapSystem).toUtf8() : QByteArray();
     CPLStringList options;
     if (!system.isEmpty())
         options.SetNameValue("DST_SRS", system.constData());

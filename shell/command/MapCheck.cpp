@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/MapCheck.h"
 
+#include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/BackdropPlace.h"
@@ -111,6 +112,17 @@ void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
     }
 }
 
+void AddUnknownSystems(Problems& problems, const std::vector<LayerSource>& sources)
+{
+    const QString text = Translate(QT_TRANSLATE_NOOP(
+        "MapCheck", "The coordinate system that was chosen for \"%1\" is not known: \"%2\"."));
+    for (const LayerSource& source : sources) {
+        if (!source.system.isEmpty() && !FactsOf(source.system).isKnown)
+            problems.push_back(
+                {Kind::UnreadableData, text.arg(QFileInfo(source.path).fileName(), source.system), false});
+    }
+}
+
 void AddBadValues(Problems& problems, SqliteLayerDatabase& database)
 {
     const Problems values = FindValueProblems(database);
@@ -149,7 +161,9 @@ Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path, CheckLim
                 "keep programs busy. --time-limit sets another limit."),
             limit));
     }
-    AddMissingData(problems, SourceTable(database, path).All());
+    const std::vector<LayerSource> sources = SourceTable(database, path).All();
+    AddMissingData(problems, sources);
+    AddUnknownSystems(problems, sources);
     AddBackdrop(problems, FindBackdrop(database, path));
     return problems;
 }

@@ -29,12 +29,12 @@ constexpr double MostDegrees = 360;
 constexpr std::chrono::seconds MeasuringTime{2}; // the window is waiting
 
 // Empty if it takes too long.
-Box MeasuredExtent(const DataSource& data, const LayerSource& source)
+Box ExtentFoundSoon(const DataSource& file, const LayerSource& source)
 {
     try {
         const ReadingBound soon(MeasuringTime);
         Progress progress;
-        return data.MeasureExtent(source.ogrLayer, progress, source.choice);
+        return file.MeasureExtent(source.ogrLayer, progress, source.choice);
     } catch (const RunTimeError&) {
         return {};
     }
@@ -141,10 +141,10 @@ void LayerPropertiesDialog::ShowSource(const LayerSource& source)
     m_ui->lblSourceLayer->setText(NameInText(source.ogrLayer));
     try {
         const ReadingBound soon(ReadingBound::WhileUserWaits);
-        const DataSource data(source.path);
-        SourceDetails details = data.Details(source.ogrLayer);
+        const DataSource file(source.path);
+        SourceDetails details = file.Details(source.ogrLayer);
         if (details.extent.IsEmpty())
-            details.extent = MeasuredExtent(data, source);
+            details.extent = ExtentFoundSoon(file, source);
         m_named = details.system;
         m_isReadable = true;
         ShowDetails(details);

@@ -37,7 +37,7 @@ void ForEachLayer(FoundData& data, const std::function<void(const FoundData::Sou
     }
 }
 
-QString NameOf(const FoundData::Source& source, const SourceLayer& layer)
+QString NotedName(const FoundData::Source& source, const SourceLayer& layer)
 {
     const QString file = QFileInfo(source.path).fileName();
     return source.layers.size() == 1 ? file : QStringLiteral("%1 (%2)").arg(file, NameInText(layer.name));
@@ -124,7 +124,7 @@ void Guess(ImportPlan& plan, const MapPlace& map)
             return;
         const bool isMaps = layer.chosenSystem == map.system;
         AddNote(
-            plan.notes, isMaps ? Reason::Map : Reason::Degrees, layer.chosenSystem, NameOf(source, layer));
+            plan.notes, isMaps ? Reason::Map : Reason::Degrees, layer.chosenSystem, NotedName(source, layer));
     });
 }
 
@@ -151,7 +151,7 @@ void NoteUnknown(ImportPlan& plan)
 {
     ForEachLayer(plan.data, [&](const FoundData::Source& source, SourceLayer& layer) {
         if (IsUnknown(layer))
-            AddNote(plan.notes, Reason::Unknown, {}, NameOf(source, layer));
+            AddNote(plan.notes, Reason::Unknown, {}, NotedName(source, layer));
     });
 }
 

@@ -20,8 +20,8 @@ namespace Orvane {
 namespace {
 
 constexpr std::array ListKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
-constexpr int NameWidth = 34; // times the width of an "x", as the next one
-constexpr int CodeWidth = 14;
+constexpr int NameLetters = 34; // times the width of an "x", as the next one
+constexpr int CodeLetters = 14;
 
 bool IsListKey(const QEvent& event)
 {
@@ -83,8 +83,8 @@ void SystemChooser::Fill(const SystemQuestion& question)
     m_ui->lblQuestion->setVisible(!question.text.isEmpty());
     m_ui->lstSystems->setModel(m_model);
     const int letter = fontMetrics().horizontalAdvance(QLatin1Char('x'));
-    m_ui->lstSystems->setColumnWidth(SystemListModel::Name, NameWidth * letter);
-    m_ui->lstSystems->setColumnWidth(SystemListModel::Code, CodeWidth * letter);
+    m_ui->lstSystems->setColumnWidth(SystemListModel::Name, NameLetters * letter);
+    m_ui->lstSystems->setColumnWidth(SystemListModel::Code, CodeLetters * letter);
     for (const SystemQuestion::Layer& layer : question.layers)
         m_ui->cmbLayer->addItem(NameInText(layer.name), layer.system);
     m_ui->cmbLayer->setCurrentIndex(-1);

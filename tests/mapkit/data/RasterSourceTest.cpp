@@ -9,7 +9,9 @@
 
 #include <QDir>
 
+#include <cpl_conv.h>
 #include <gtest/gtest.h>
+#include <ogr_spatialref.h>
 
 namespace Orvane {
 
@@ -54,6 +56,20 @@ double Halves(int column, int, int band)
 }
 
 } // namespace
+
+TEST_F(RasterSourceTest, OpensNoFileThatTheTextForTheMapsSystemNames)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    OGRSpatialReference mercator;
+    ASSERT_EQ(mercator.importFromEPSG(3857), OGRERR_NONE);
+    char* text = nullptr;
+    mercator.exportToWkt(&text);
+    const QString file = m_folder.Write("system.wkt", text);
+    CPLFree(text);
+    const RasterSource source(Path());
+    EXPECT_EQ(source.ExtentIn(file), source.Extent());
+    EXPECT_NE(source.ExtentIn("EPSG:3857"), source.Extent());
+}
 
 TEST_F(RasterSourceTest, DrawsColoursWhereTheyLie)
 {

@@ -304,6 +304,22 @@ TEST_F(MapCheckTest, ALayerThatItsDataNoLongerHoldIsNamed)
     EXPECT_TRUE(problems[0].text.contains("roads"));
 }
 
+TEST_F(MapCheckTest, AnUnknownSystemOfALayerIsNamed)
+{
+    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:25832' WHERE LayerID = 1");
+    EXPECT_TRUE(CheckMap(m_map).empty());
+    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:0' WHERE LayerID = 1");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
+    EXPECT_TRUE(problems[0].text.contains("EPSG:0"));
+}
+
+TEST_F(MapCheckTest, AMapOfAnEarlierVersionWithoutSystemsOfLayersIsSound)
+{
+    RawDatabase(m_map).Run("ALTER TABLE LayerSources DROP COLUMN System");
+    EXPECT_TRUE(CheckMap(m_map).empty());
+}
+
 TEST_F(MapCheckTest, AMapOfALayerDatabaseAloneIsSound)
 {
     const QString path = m_folder.Path("plain.orvane");

@@ -103,6 +103,17 @@ TEST_F(BackdropTest, CanBeTakenAway)
     EXPECT_EQ(m_session->Document().Backdrop(), "");
 }
 
+TEST_F(BackdropTest, FollowsTheSystemOfTheMap)
+{
+    Show(Square("map.orvane"));
+    m_session->SetBackdrop(m_photo);
+    EXPECT_NEAR(m_canvas.Picture().Backdrop()->Extent().maxX, 1113194.9, 10000);
+    m_session->Document().SetSystem("EPSG:4326");
+    EXPECT_EQ(m_session->ReadAndShow(), "");
+    EXPECT_NEAR(m_canvas.Picture().Backdrop()->Extent().maxX, 10, 0.1);
+    EXPECT_EQ(Drawn().pixelColor(100, 100), QColor(Qt::green));
+}
+
 TEST_F(BackdropTest, AnotherMapDoesNotShowIt)
 {
     Show(Square("map.orvane"));
