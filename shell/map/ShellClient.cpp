@@ -10,6 +10,8 @@
 
 #include <QScreen>
 
+#include <algorithm>
+
 namespace Orvane {
 
 namespace {
@@ -196,20 +198,40 @@ void ShellClient::SetLayerZoom(
     m_zoom = std::move(zoom);
 }
 
-std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
+void ShellClient::AddLayerCommand(LayerCommand command)
 {
-    if (!m_zoom)
-        return {};
-    return {{QStringLiteral("ZoomToLayer"), tr("Zoom to Layer")}};
+    m_commands.push_back(std::move(command));
 }
 
-QString ShellClient::INodeCommands_WhyNot(const QString&, const std::vector<qint32>& layerIDs)
+const ShellClient::LayerCommand* ShellClient::Added(const QString& id) const
 {
+    const auto found = std::find_if(
+        m_commands.begin(), m_commands.end(), [&](const LayerCommand& command) { return command.id == id; });
+    return found == m_commands.end() ? nullptr : &*found;
+}
+
+std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
+{
+    std::vector<NodeCommand> commands;
+    commands.reserve(m_commands.size() + 1);
+    if (m_zoom)
+        commands.push_back({QStringLiteral("ZoomToLayer"), tr("Zoom to Layer")});
+    for (const LayerCommand& command : m_commands)
+        commands.push_back({command.id, command.text});
+    return commands;
+}
+
+QString ShellClient::INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs)
+{
+    if (const LayerCommand* added = Added(id))
+        return added->whyNot(layerIDs);
     return m_canZoom(layerIDs) ? QString() : tr("The map has no features of these layers.");
 }
 
-void ShellClient::INodeCommands_Run(QWidget*, const QString&, const std::vector<qint32>& layerIDs)
+void ShellClient::INodeCommands_Run(QWidget*, const QString& id, const std::vector<qint32>& layerIDs)
 {
+    if (const LayerCommand* added = Added(id))
+        return added->run(layerIDs);
     m_zoom(layerIDs);
 }
 

@@ -52,6 +52,15 @@ public:
     void SetLayerZoom(
         std::function<bool(const std::vector<qint32>& layerIDs)> canZoom,
         std::function<void(const std::vector<qint32>& layerIDs)> zoom);
+    /// A command for layers in the menu of the layer control.
+    struct LayerCommand {
+        QString id; ///< tells the commands apart
+        QString text; ///< in the user's language
+        std::function<QString(const std::vector<qint32>& layerIDs)> whyNot; ///< empty: it is possible
+        std::function<void(const std::vector<qint32>& layerIDs)> run;
+    };
+    /// Adds a command after those that were set before.
+    void AddLayerCommand(LayerCommand command);
     /// The ID of the editor that asked for a new layer, during the notification LayerCreated; empty for none.
     const QString& CreatingEditor() const { return m_creatingEditor; }
 
@@ -69,12 +78,13 @@ protected:
     QString IStyleEditorClient_ThemeName(QWidget* form) const override;
     double IMapScale_CurrentScale() const override;
     QString ILayerSource_Source(qint32 layerID) override;
-    /// "Zoom to Layer", if it was set what that does.
+    /// "Zoom to Layer", if it was set what that does, and the commands that were added.
     std::vector<NodeCommand> INodeCommands_Commands(QWidget* form) override;
     QString INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs) override;
     void INodeCommands_Run(QWidget* form, const QString& id, const std::vector<qint32>& layerIDs) override;
 
 private:
+    const LayerCommand* Added(const QString& id) const;
     EditorDock* DockOf(const QString& editorID) const;
     void PlaceWindow(QWidget& form, const QString& editorID);
     void TakeOutOfDock(QWidget& form);
@@ -92,6 +102,7 @@ private:
     std::function<QString(qint32)> m_sourceOf;
     std::function<bool(const std::vector<qint32>&)> m_canZoom;
     std::function<void(const std::vector<qint32>&)> m_zoom;
+    std::vector<LayerCommand> m_commands;
     QString m_creatingEditor;
 };
 
