@@ -16,6 +16,7 @@
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
 #include "shell/output/OutputActions.h"
+#include "shell/table/AttributeTables.h"
 #include "shell/tools/ToolActions.h"
 #include "shell/window/DroppedFiles.h"
 #include "shell/window/EmptyMapHint.h"
@@ -71,6 +72,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_output = new OutputActions(*this, Canvas());
     m_output->AddTo(*m_ui->menuFile, m_ui->actQuit);
     m_renderings = std::make_unique<RenderingActions>(*this, *m_ui->menuLayers);
+    m_tables = std::make_unique<AttributeTables>(*this, Canvas(), m_tools->Selection(), *m_ui->menuLayers);
     ShareKeys();
     using WindowPlace::Beside;
     WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);
@@ -305,7 +307,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(
-        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock);
+        *m_edits, *m_data, *m_tools, *m_schemes, *m_themes, *m_renderings, *m_output, *m_sharing, *m_dock,
+        *m_tables);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

@@ -15,6 +15,7 @@ class MainWindow;
 
 namespace Orvane {
 
+class AttributeTables;
 class CallTrace;
 class DataActions;
 class DockChoice;
@@ -107,6 +108,7 @@ private:
     LayerControl m_layerControl; // ends before the session, whose client it uses
     std::unique_ptr<RenderingActions> m_renderings;
     std::unique_ptr<DockChoice> m_dock;
+    std::unique_ptr<AttributeTables> m_tables; // end before the selection, which they use
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };

@@ -4,6 +4,34 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>&amp;in</translation>
+    </message>
+    <message>
+        <source>&amp;Next Row</source>
+        <translation>&amp;Nächste Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>&amp;Vorige Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>Auf Auswahl &amp;zoomen</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>„%1“ kann nicht geändert werden: %2.</translation>
     </message>
@@ -404,6 +432,10 @@
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
     <message>
+        <source>All attributes</source>
+        <translation>Alle Attribute</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>Kein Schema beim Öffnen anwenden</translation>
     </message>
@@ -416,12 +448,40 @@
         <translation>Beim Öffnen</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>Attribut&amp;tabelle...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>Attributtabelle</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attribute</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>Attribute von %1</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Sch&amp;ließen</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Ändern des Inhalts von Schema „%1“</translation>
     </message>
     <message>
         <source>compared: %1</source>
         <translation>verglichen: %1</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>Die Zeilen werden kopiert</translation>
     </message>
     <message>
         <source>Holds</source>
@@ -452,12 +512,56 @@
         <translation>Neues Schema</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>Die Zeilen werden gelesen...</translation>
+    </message>
+    <message>
         <source>Reorder Schemes</source>
         <translation>Umordnen der Schemas</translation>
     </message>
     <message>
+        <source>Rows: %1</source>
+        <translation>Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>Zeilen: %1 von %2</translation>
+    </message>
+    <message>
         <source>S&amp;ort by Name</source>
         <translation>Nach Na&amp;men sortieren</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Es wird gesucht...</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>Wählen Sie weniger Layer: Jeder hat ein eigenes Fenster.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>Nur &amp;Ausgewählte zeigen</translation>
+    </message>
+    <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>Zeigt nur die Zeilen, die hier oder auf der Karte ausgewählt sind</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>Zeigt die Attribute aller Objekte eines Layers</translation>
+    </message>
+    <message>
+        <source>Show the selected features on the map</source>
+        <translation>Zeigt die ausgewählten Objekte auf der Karte</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>Zeigt nur die Zeilen, die alle diese Wörter enthalten; F3 geht zur nächsten davon</translation>
     </message>
     <message>
         <source>Sort Schemes by Name</source>
@@ -466,6 +570,26 @@
     <message>
         <source>Sort &amp;Table</source>
         <translation>&amp;Tabelle sortieren</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>Es wird sortiert...</translation>
+    </message>
+    <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>Die Objekte dieses Layers haben keine Attribute.</translation>
+    </message>
+    <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>Der Layer ist auf der Karte nicht wählbar.</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>Die Karte zeigt diese Objekte nicht.</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>Die Karte hat keinen Layer mit Daten.</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
@@ -2230,6 +2354,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Thinnest line</source>
         <translation>Dünnste Linie</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>Dieser Layer hat keine Daten und daher keine Attribute.</translation>
     </message>
     <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>

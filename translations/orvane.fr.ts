@@ -4,6 +4,34 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Rechercher :</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>&amp;dans</translation>
+    </message>
+    <message>
+        <source>&amp;Next Row</source>
+        <translation>Ligne &amp;suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>Ligne &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>&amp;Zoomer sur la sélection</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>« %1 » ne peut pas être modifié : %2.</translation>
     </message>
@@ -404,6 +432,10 @@
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
     <message>
+        <source>All attributes</source>
+        <translation>Tous les attributs</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>N’appliquer aucun schéma à l’ouverture</translation>
     </message>
@@ -416,12 +448,40 @@
         <translation>À l’ouverture</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>&amp;Table attributaire...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>Table attributaire</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attributs</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>Attributs de %1</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>Modification du contenu du schéma « %1 »</translation>
     </message>
     <message>
         <source>compared: %1</source>
         <translation>comparé : %1</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>Copier la &amp;valeur</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>Copie des lignes</translation>
     </message>
     <message>
         <source>Holds</source>
@@ -452,12 +512,56 @@
         <translation>Nouveau schéma</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>Lecture des lignes...</translation>
+    </message>
+    <message>
         <source>Reorder Schemes</source>
         <translation>Réorganisation des schémas</translation>
     </message>
     <message>
+        <source>Rows: %1</source>
+        <translation>Lignes : %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>Lignes : %1 sur %2</translation>
+    </message>
+    <message>
         <source>S&amp;ort by Name</source>
         <translation>&amp;Trier par nom</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Recherche...</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>Sélectionnez moins de couches : chacune a sa propre fenêtre.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Sélectionnées : %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>Afficher la &amp;sélection seule</translation>
+    </message>
+    <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>Afficher seulement les lignes sélectionnées ici ou sur la carte</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>Afficher les attributs de tous les objets d’une couche</translation>
+    </message>
+    <message>
+        <source>Show the selected features on the map</source>
+        <translation>Afficher les objets sélectionnés sur la carte</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>N’affiche que les lignes qui contiennent tous ces mots ; F3 passe à la suivante</translation>
     </message>
     <message>
         <source>Sort Schemes by Name</source>
@@ -466,6 +570,26 @@
     <message>
         <source>Sort &amp;Table</source>
         <translation>Trier le &amp;tableau</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>Tri...</translation>
+    </message>
+    <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>Les objets de cette couche n’ont pas d’attributs.</translation>
+    </message>
+    <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>La couche n’est pas sélectionnable sur la carte.</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>La carte n’affiche pas ces objets.</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>La carte n’a aucune couche avec des données.</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
@@ -2230,6 +2354,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Thinnest line</source>
         <translation>Ligne la plus fine</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>Cette couche n’a pas de données, donc pas d’attributs.</translation>
     </message>
     <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>

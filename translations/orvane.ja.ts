@@ -4,6 +4,34 @@
 <context>
     <name>Orvane</name>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>行をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>対象(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Row</source>
+        <translation>次の行(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>前の行(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>選択範囲にズーム(&amp;Z)</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; cannot be changed: %2.</source>
         <translation>「%1」は変更できません: %2。</translation>
     </message>
@@ -404,6 +432,10 @@
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
     <message>
+        <source>All attributes</source>
+        <translation>すべての属性</translation>
+    </message>
+    <message>
         <source>Apply No Scheme at Opening</source>
         <translation>開いたときにスキームを適用しない</translation>
     </message>
@@ -416,12 +448,40 @@
         <translation>開いたとき</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>属性テーブル(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>属性テーブル</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>%1 の属性</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
+    </message>
+    <message>
         <source>Change What Scheme &quot;%1&quot; Holds</source>
         <translation>スキーム「%1」の内容の変更</translation>
     </message>
     <message>
         <source>compared: %1</source>
         <translation>比較した項目: %1</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>行をコピーしています</translation>
     </message>
     <message>
         <source>Holds</source>
@@ -452,12 +512,56 @@
         <translation>新しいスキーム</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>行を読み込んでいます...</translation>
+    </message>
+    <message>
         <source>Reorder Schemes</source>
         <translation>スキームの並べ替え</translation>
     </message>
     <message>
+        <source>Rows: %1</source>
+        <translation>行数: %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>行数: %1 / %2</translation>
+    </message>
+    <message>
         <source>S&amp;ort by Name</source>
         <translation>名前順に並べる(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>検索しています...</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>選択するレイヤーを減らしてください。レイヤーごとにウィンドウが開きます。</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>選択: %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>選択した行のみ表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>ここまたは地図で選択されている行だけを表示します</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>レイヤーのすべての地物の属性を表示します</translation>
+    </message>
+    <message>
+        <source>Show the selected features on the map</source>
+        <translation>選択した地物を地図に表示します</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>これらの語をすべて含む行だけを表示します。F3 で次の行に移動します</translation>
     </message>
     <message>
         <source>Sort Schemes by Name</source>
@@ -466,6 +570,26 @@
     <message>
         <source>Sort &amp;Table</source>
         <translation>表の並べ替え(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>並べ替えています...</translation>
+    </message>
+    <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>このレイヤーの地物には属性がありません。</translation>
+    </message>
+    <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>このレイヤーは地図上で選択できません。</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>これらの地物は地図に表示されていません。</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>データのあるレイヤーが地図にありません。</translation>
     </message>
     <message>
         <source>The scheme &quot;%1&quot; was applied when the map was opened.</source>
@@ -2230,6 +2354,10 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Thinnest line</source>
         <translation>最も細い線</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>このレイヤーにはデータがないため、属性もありません。</translation>
     </message>
     <message>
         <source>This map is empty. Choose File &gt; Open Data..., or drop data files here.</source>

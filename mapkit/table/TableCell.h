@@ -10,7 +10,7 @@
 namespace Orvane {
 
 /// What the values of a column are.
-enum class ColumnKind {
+enum class CellKind {
     Text, ///< QString; also lists and everything else that is written as text
     Whole, ///< qlonglong
     Real, ///< double
@@ -23,9 +23,9 @@ enum class ColumnKind {
 /// One attribute of a layer, as a column of a table.
 struct TableColumn {
     QString name;
-    ColumnKind kind = ColumnKind::Text;
+    CellKind kind = CellKind::Text;
 
-    bool IsNumber() const { return kind == ColumnKind::Whole || kind == ColumnKind::Real; }
+    bool IsNumber() const { return kind == CellKind::Whole || kind == CellKind::Real; }
     bool operator==(const TableColumn&) const = default;
 };
 

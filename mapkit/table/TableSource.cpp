@@ -30,22 +30,22 @@ constexpr size_t FirstIDs = 256; // enough for the first screen
 constexpr size_t ManyIDs = 65536;
 constexpr GIntBig FeaturesBetweenReports = 64;
 
-ColumnKind KindOf(const OGRFieldDefn& field)
+CellKind KindOf(const OGRFieldDefn& field)
 {
     switch (field.GetType()) {
     case OFTInteger:
     case OFTInteger64:
-        return field.GetSubType() == OFSTBoolean ? ColumnKind::Flag : ColumnKind::Whole;
+        return field.GetSubType() == OFSTBoolean ? CellKind::Flag : CellKind::Whole;
     case OFTReal:
-        return ColumnKind::Real;
+        return CellKind::Real;
     case OFTDate:
-        return ColumnKind::Date;
+        return CellKind::Date;
     case OFTTime:
-        return ColumnKind::Time;
+        return CellKind::Time;
     case OFTDateTime:
-        return ColumnKind::DateTime;
+        return CellKind::DateTime;
     default:
-        return ColumnKind::Text;
+        return CellKind::Text;
     }
 }
 
@@ -54,38 +54,38 @@ QVariant TextOf(OGRFeature& feature, int index)
     return QString::fromUtf8(feature.GetFieldAsString(index));
 }
 
-QVariant MomentOf(OGRFeature& feature, int index, ColumnKind kind)
+QVariant MomentOf(OGRFeature& feature, int index, CellKind kind)
 {
     int year = 0, month = 0, day = 0, hour = 0, minute = 0, zone = 0;
     float second = 0;
     feature.GetFieldAsDateTime(index, &year, &month, &day, &hour, &minute, &second, &zone);
     const QDate date(year, month, day);
     const QTime time(hour, minute, int(second), int(1000 * (second - float(int(second)))));
-    if (kind == ColumnKind::Date && date.isValid())
+    if (kind == CellKind::Date && date.isValid())
         return date;
-    if (kind == ColumnKind::Time && time.isValid())
+    if (kind == CellKind::Time && time.isValid())
         return time;
-    if (kind == ColumnKind::DateTime && date.isValid() && time.isValid())
+    if (kind == CellKind::DateTime && date.isValid() && time.isValid())
         return QDateTime(date, time, Qt::UTC);
     return TextOf(feature, index);
 }
 
-QVariant CellOf(OGRFeature& feature, int index, ColumnKind kind)
+QVariant CellOf(OGRFeature& feature, int index, CellKind kind)
 {
     if (!feature.IsFieldSetAndNotNull(index))
         return {};
     switch (kind) {
-    case ColumnKind::Whole:
+    case CellKind::Whole:
         return qlonglong(feature.GetFieldAsInteger64(index));
-    case ColumnKind::Real:
+    case CellKind::Real:
         return feature.GetFieldAsDouble(index);
-    case ColumnKind::Flag:
+    case CellKind::Flag:
         return feature.GetFieldAsInteger(index) != 0;
-    case ColumnKind::Date:
-    case ColumnKind::Time:
-    case ColumnKind::DateTime:
+    case CellKind::Date:
+    case CellKind::Time:
+    case CellKind::DateTime:
         return MomentOf(feature, index, kind);
-    case ColumnKind::Text:
+    case CellKind::Text:
         break;
     }
     return TextOf(feature, index);
@@ -122,8 +122,8 @@ private:
     void Remove(QStringList& missing, OGRFeature& feature, int index) const
     {
         RemoveFound(missing, QString::fromUtf8(feature.GetFieldAsString(index)));
-        const ColumnKind kind = m_columns[size_t(index)].kind;
-        if (!missing.isEmpty() && kind != ColumnKind::Text)
+        const CellKind kind = m_columns[size_t(index)].kind;
+        if (!missing.isEmpty() && kind != CellKind::Text)
             RemoveFound(missing, CellText(CellOf(feature, index, kind), m_locale));
     }
 
@@ -339,7 +339,7 @@ bool TableSource::SortsItself(int column) const
 {
     const QByteArray driver = m_dataset->GetDriverName();
     const bool isDatabase = driver == "GPKG" || driver == "SQLite";
-    return isDatabase && m_columns[size_t(column)].kind != ColumnKind::Text && *m_layer->GetFIDColumn();
+    return isDatabase && m_columns[size_t(column)].kind != CellKind::Text && *m_layer->GetFIDColumn();
 }
 
 std::vector<qint64>
