@@ -22,6 +22,7 @@
 #include "shell/map/MapSharing.h"
 #include "shell/map/TableQuestions.h"
 #include "shell/output/OutputActions.h"
+#include "shell/table/AttributeTables.h"
 #include "shell/tools/ToolActions.h"
 #include "shell/view/MapMenu.h"
 #include "shell/view/ViewActions.h"
@@ -87,6 +88,7 @@ MainWindow::MainWindow(CallTrace* trace)
     m_properties = std::make_unique<LayerPropertiesActions>(*this, *m_ui->menuLayers, m_system->Catalogue());
     ConnectSystems();
     m_help = std::make_unique<HelpActions>(*this, *m_ui->menuHelp, *m_ui->actAbout);
+    m_tables = std::make_unique<AttributeTables>(*this, Canvas(), m_tools->Selection(), *m_ui->menuLayers);
     ShareKeys();
     using WindowPlace::Beside;
     WindowPlace::Restore(*this, m_dock->IsChosen() ? Beside::Nothing : Beside::LayerControl);
@@ -336,8 +338,8 @@ void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents
     m_session = std::move(session);
     const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
     handOver(
-        *m_edits, *m_data, *m_tools, *m_views, *m_schemes, *m_themes, *m_renderings, *m_mapMenu, *m_output,
-        *m_sharing, *m_dock, *m_system, *m_properties);
+        *m_edits, *m_data, *m_tools, *m_views, *m_schemes, *m_themes, *m_tables, *m_renderings, *m_properties,
+        *m_mapMenu, *m_output, *m_sharing, *m_dock, *m_system);
     const QString path = Document().Path();
     setWindowFilePath(path);
     setWindowTitle(

@@ -15,6 +15,7 @@ class MainWindow;
 
 namespace Orvane {
 
+class AttributeTables;
 class CallTrace;
 class DataActions;
 class DockChoice;
@@ -118,6 +119,7 @@ private:
     std::unique_ptr<LayerPropertiesActions> m_properties;
     std::unique_ptr<DockChoice> m_dock;
     std::unique_ptr<HelpActions> m_help;
+    std::unique_ptr<AttributeTables> m_tables; // end before the selection, which they use
     OutputActions* m_output = nullptr; // owned by this window
     MapStatus* m_status = nullptr; // owned by the status bar
 };

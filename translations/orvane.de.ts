@@ -136,6 +136,18 @@ Gültigkeitsbereich: %3</translation>
         <translation>&amp;Koordinatensystem der Karte...</translation>
     </message>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>&amp;Handbuch</translation>
     </message>
@@ -388,6 +400,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>&amp;Neues Thema aus sichtbaren Layern...</translation>
     </message>
     <message>
+        <source>&amp;Next Row</source>
+        <translation>&amp;Nächste Zeile</translation>
+    </message>
+    <message>
         <source>&amp;Next View</source>
         <translation>&amp;Nächste Ansicht</translation>
     </message>
@@ -414,6 +430,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>&amp;Preview...</source>
         <translation>&amp;Vorschau...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>&amp;Vorige Zeile</translation>
     </message>
     <message>
         <source>&amp;Previous View</source>
@@ -516,6 +536,14 @@ Gültigkeitsbereich: %3</translation>
         <translation>Auf &amp;Rechteck zoomen</translation>
     </message>
     <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>Auf Auswahl &amp;zoomen</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>&amp;in</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 braucht eine Zahl von %2 bis %3.</translation>
     </message>
@@ -532,6 +560,10 @@ Gültigkeitsbereich: %3</translation>
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
 Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>All attributes</source>
+        <translation>Alle Attribute</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -554,12 +586,32 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Beim Öffnen</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>Attribut&amp;tabelle...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>Attributtabelle</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attribute</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>Attribute von %1</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Blau nach Rot, in der Mitte blass</translation>
     </message>
     <message>
         <source>Blues</source>
         <translation>Blautöne</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>Centre Here</source>
@@ -650,8 +702,16 @@ Gültigkeitsbereich: %3</translation>
         <translation>Die Koordinaten von „%1“ stehen in diesen Spalten: %2</translation>
     </message>
     <message>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>Koordinaten kopieren</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>Die Zeilen werden kopiert</translation>
     </message>
     <message>
         <source>Delete Theme &quot;%1&quot;</source>
@@ -724,6 +784,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>Layer Properties</source>
         <translation>Layer-Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Layer Properties...</source>
+        <translation>Layer-Eigenschaften...</translation>
     </message>
     <message>
         <source>Layer Rendering...</source>
@@ -828,6 +892,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Im Handbuch über das Fenster oder Werkzeug lesen, das gerade benutzt wird</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>Die Zeilen werden gelesen...</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
@@ -838,6 +906,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>Thema „%1“ umbenennen</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>Zeilen: %1 von %2</translation>
     </message>
     <message>
         <source>Scale of the map</source>
@@ -852,8 +928,24 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Nach Name, Code oder Gebiet suchen</translation>
     </message>
     <message>
+        <source>Searching...</source>
+        <translation>Es wird gesucht...</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>Wählen Sie zuerst Objekte auf der Karte aus.</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>Wählen Sie weniger Layer: Jeder hat ein eigenes Fenster.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Ausgewählt: %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>Nur &amp;Ausgewählte zeigen</translation>
     </message>
     <message>
         <source>Show all features of the layers that are chosen in the layer control</source>
@@ -864,6 +956,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Alle ausgewählten Objekte zeigen</translation>
     </message>
     <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>Zeigt nur die Zeilen, die hier oder auf der Karte ausgewählt sind</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>Zeigt die Attribute aller Objekte eines Layers</translation>
+    </message>
+    <message>
         <source>Show the data of a layer, and choose their coordinate system</source>
         <translation>Die Daten eines Layers zeigen und ihr Koordinatensystem wählen</translation>
     </message>
@@ -872,8 +972,16 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Den Teil der Karte zeigen, der vorher zu sehen war</translation>
     </message>
     <message>
+        <source>Show the selected features on the map</source>
+        <translation>Zeigt die ausgewählten Objekte auf der Karte</translation>
+    </message>
+    <message>
         <source>Show the view from which you went back</source>
         <translation>Die Ansicht zeigen, von der aus zurückgegangen wurde</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>Zeigt nur die Zeilen, die alle diese Wörter enthalten; F3 geht zur nächsten davon</translation>
     </message>
     <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
@@ -882,6 +990,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Some of the rows below have no numbers there. They are left out.</source>
         <translation>Einige der Zeilen haben dort keine Zahlen. Sie werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>Es wird sortiert...</translation>
     </message>
     <message>
         <source>Table &amp;Columns...</source>
@@ -924,6 +1036,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Daten dieser Layer liegen in keinem Ordner dieses Rechners.</translation>
     </message>
     <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>Die Objekte dieses Layers haben keine Attribute.</translation>
+    </message>
+    <message>
         <source>The folder &quot;%1&quot; cannot be opened.</source>
         <translation>Der Ordner „%1“ kann nicht geöffnet werden.</translation>
     </message>
@@ -936,12 +1052,24 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Das Handbuch ist nicht installiert.</translation>
     </message>
     <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>Der Layer ist auf der Karte nicht wählbar.</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>Die Karte zeigt diese Objekte nicht.</translation>
+    </message>
+    <message>
         <source>The map has no coordinate system yet; click to choose one.</source>
         <translation>Die Karte hat noch kein Koordinatensystem; klicken Sie, um eines zu wählen.</translation>
     </message>
     <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>Die Karte hat keine Objekte der gewählten Layer.</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>Die Karte hat keinen Layer mit Daten.</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
@@ -974,6 +1102,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>This is not a known coordinate system.</source>
         <translation>Dies ist kein bekanntes Koordinatensystem.</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>Dieser Layer hat keine Daten und daher keine Attribute.</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>

@@ -136,6 +136,18 @@ Zone d’utilisation : %3</translation>
         <translation>Système de &amp;coordonnées de la carte...</translation>
     </message>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Rechercher :</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>&amp;Guide</translation>
     </message>
@@ -388,6 +400,10 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Nouveau thème à partir des couches visibles...</translation>
     </message>
     <message>
+        <source>&amp;Next Row</source>
+        <translation>Ligne &amp;suivante</translation>
+    </message>
+    <message>
         <source>&amp;Next View</source>
         <translation>Vue suiva&amp;nte</translation>
     </message>
@@ -414,6 +430,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>&amp;Preview...</source>
         <translation>A&amp;perçu...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>Ligne &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Previous View</source>
@@ -516,6 +536,14 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Zoom par rectangle</translation>
     </message>
     <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>&amp;Zoomer sur la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>&amp;dans</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 demande un nombre de %2 à %3.</translation>
     </message>
@@ -532,6 +560,10 @@ Zone d’utilisation : %3</translation>
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
 Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a pas de position connue, 2 la commande n'a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>All attributes</source>
+        <translation>Tous les attributs</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -554,12 +586,32 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>À l’ouverture</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>&amp;Table attributaire...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>Table attributaire</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attributs</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>Attributs de %1</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Du bleu au rouge, pâle au milieu</translation>
     </message>
     <message>
         <source>Blues</source>
         <translation>Bleus</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Centre Here</source>
@@ -650,8 +702,16 @@ Zone d’utilisation : %3</translation>
         <translation>Les coordonnées de « %1 » sont dans ces colonnes : %2</translation>
     </message>
     <message>
+        <source>Copy &amp;Value</source>
+        <translation>Copier la &amp;valeur</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>Copier les coordonnées</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>Copie des lignes</translation>
     </message>
     <message>
         <source>Delete Theme &quot;%1&quot;</source>
@@ -724,6 +784,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>Layer Properties</source>
         <translation>Propriétés de la couche</translation>
+    </message>
+    <message>
+        <source>Layer Properties...</source>
+        <translation>Propriétés de la couche...</translation>
     </message>
     <message>
         <source>Layer Rendering...</source>
@@ -828,6 +892,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Lire ce qui concerne la fenêtre ou l’outil en cours d’utilisation</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>Lecture des lignes...</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Retirer</translation>
     </message>
@@ -838,6 +906,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>Renommer le thème « %1 »</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Lignes : %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>Lignes : %1 sur %2</translation>
     </message>
     <message>
         <source>Scale of the map</source>
@@ -852,8 +928,24 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Rechercher par nom, code ou zone</translation>
     </message>
     <message>
+        <source>Searching...</source>
+        <translation>Recherche...</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>Sélectionnez d’abord des objets sur la carte.</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>Sélectionnez moins de couches : chacune a sa propre fenêtre.</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>Sélectionnées : %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>Afficher la &amp;sélection seule</translation>
     </message>
     <message>
         <source>Show all features of the layers that are chosen in the layer control</source>
@@ -864,6 +956,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Montrer tous les objets sélectionnés</translation>
     </message>
     <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>Afficher seulement les lignes sélectionnées ici ou sur la carte</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>Afficher les attributs de tous les objets d’une couche</translation>
+    </message>
+    <message>
         <source>Show the data of a layer, and choose their coordinate system</source>
         <translation>Afficher les données d’une couche et choisir leur système de coordonnées</translation>
     </message>
@@ -872,8 +972,16 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Montrer la partie de la carte qui était affichée avant</translation>
     </message>
     <message>
+        <source>Show the selected features on the map</source>
+        <translation>Afficher les objets sélectionnés sur la carte</translation>
+    </message>
+    <message>
         <source>Show the view from which you went back</source>
         <translation>Montrer la vue d’où l’on est revenu</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>N’affiche que les lignes qui contiennent tous ces mots ; F3 passe à la suivante</translation>
     </message>
     <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
@@ -882,6 +990,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Some of the rows below have no numbers there. They are left out.</source>
         <translation>Certaines des lignes n'y ont pas de nombres. Elles sont ignorées.</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>Tri...</translation>
     </message>
     <message>
         <source>Table &amp;Columns...</source>
@@ -924,6 +1036,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Les données de ces couches ne se trouvent dans aucun dossier de cet ordinateur.</translation>
     </message>
     <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>Les objets de cette couche n’ont pas d’attributs.</translation>
+    </message>
+    <message>
         <source>The folder &quot;%1&quot; cannot be opened.</source>
         <translation>Le dossier « %1 » ne peut pas être ouvert.</translation>
     </message>
@@ -936,12 +1052,24 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Le guide n’est pas installé.</translation>
     </message>
     <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>La couche n’est pas sélectionnable sur la carte.</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>La carte n’affiche pas ces objets.</translation>
+    </message>
+    <message>
         <source>The map has no coordinate system yet; click to choose one.</source>
         <translation>La carte n’a pas encore de système de coordonnées ; cliquez pour en choisir un.</translation>
     </message>
     <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>La carte n’a aucun objet des couches choisies.</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>La carte n’a aucune couche avec des données.</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
@@ -974,6 +1102,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>This is not a known coordinate system.</source>
         <translation>Ce n’est pas un système de coordonnées connu.</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>Cette couche n’a pas de données, donc pas d’attributs.</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>

@@ -136,6 +136,18 @@ Area of use: %3</source>
         <translation>地図の座標系(&amp;C)...</translation>
     </message>
     <message>
+        <source>&amp;Copy Rows</source>
+        <translation>行をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>ガイド(&amp;G)</translation>
     </message>
@@ -388,6 +400,10 @@ Area of use: %3</source>
         <translation>表示中のレイヤから新しいテーマ(&amp;N)...</translation>
     </message>
     <message>
+        <source>&amp;Next Row</source>
+        <translation>次の行(&amp;N)</translation>
+    </message>
+    <message>
         <source>&amp;Next View</source>
         <translation>次の表示範囲(&amp;N)</translation>
     </message>
@@ -414,6 +430,10 @@ Area of use: %3</source>
     <message>
         <source>&amp;Preview...</source>
         <translation>プレビュー(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Row</source>
+        <translation>前の行(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Previous View</source>
@@ -516,6 +536,14 @@ Area of use: %3</source>
         <translation>矩形でズーム(&amp;Z)</translation>
     </message>
     <message>
+        <source>&amp;Zoom to Selection</source>
+        <translation>選択範囲にズーム(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>&amp;in</source>
+        <translation>対象(&amp;I)</translation>
+    </message>
+    <message>
         <source>--%1 needs a number from %2 to %3.</source>
         <translation>--%1 には %2 から %3 までの数が必要です。</translation>
     </message>
@@ -532,6 +560,10 @@ Area of use: %3</source>
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
 終了コード: 0 すべて追加、1 追加できないものまたは位置不明のものあり、2 コマンドが正しくありません。</translation>
+    </message>
+    <message>
+        <source>All attributes</source>
+        <translation>すべての属性</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -554,12 +586,32 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>開いたとき</translation>
     </message>
     <message>
+        <source>Attribute &amp;Table...</source>
+        <translation>属性テーブル(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>属性テーブル</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Attributes of %1</source>
+        <translation>%1 の属性</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>青から赤 (中間は淡色)</translation>
     </message>
     <message>
         <source>Blues</source>
         <translation>青系</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
     </message>
     <message>
         <source>Centre Here</source>
@@ -650,8 +702,16 @@ Area of use: %3</source>
         <translation>「%1」の座標の列: %2</translation>
     </message>
     <message>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
         <source>Copy Coordinates</source>
         <translation>座標をコピー</translation>
+    </message>
+    <message>
+        <source>Copying the rows</source>
+        <translation>行をコピーしています</translation>
     </message>
     <message>
         <source>Delete Theme &quot;%1&quot;</source>
@@ -724,6 +784,10 @@ Area of use: %3</source>
     <message>
         <source>Layer Properties</source>
         <translation>レイヤーのプロパティ</translation>
+    </message>
+    <message>
+        <source>Layer Properties...</source>
+        <translation>レイヤーのプロパティ...</translation>
     </message>
     <message>
         <source>Layer Rendering...</source>
@@ -828,6 +892,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>使用中のウィンドウやツールの説明を読みます</translation>
     </message>
     <message>
+        <source>Reading the rows...</source>
+        <translation>行を読み込んでいます...</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>削除</translation>
     </message>
@@ -838,6 +906,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>テーマ「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>行数: %1</translation>
+    </message>
+    <message>
+        <source>Rows: %1 of %2</source>
+        <translation>行数: %1 / %2</translation>
     </message>
     <message>
         <source>Scale of the map</source>
@@ -852,8 +928,24 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>名前、コード、地域で検索</translation>
     </message>
     <message>
+        <source>Searching...</source>
+        <translation>検索しています...</translation>
+    </message>
+    <message>
         <source>Select features on the map first.</source>
         <translation>先に地図上で地物を選択してください。</translation>
+    </message>
+    <message>
+        <source>Select fewer layers: each has a window of its own.</source>
+        <translation>選択するレイヤーを減らしてください。レイヤーごとにウィンドウが開きます。</translation>
+    </message>
+    <message>
+        <source>Selected: %1</source>
+        <translation>選択: %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Selected Only</source>
+        <translation>選択した行のみ表示(&amp;S)</translation>
     </message>
     <message>
         <source>Show all features of the layers that are chosen in the layer control</source>
@@ -864,6 +956,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>選択された地物をすべて表示します</translation>
     </message>
     <message>
+        <source>Show only the rows that are selected, here or on the map</source>
+        <translation>ここまたは地図で選択されている行だけを表示します</translation>
+    </message>
+    <message>
+        <source>Show the attributes of all features of a layer</source>
+        <translation>レイヤーのすべての地物の属性を表示します</translation>
+    </message>
+    <message>
         <source>Show the data of a layer, and choose their coordinate system</source>
         <translation>レイヤーのデータを表示し、その座標系を選択します</translation>
     </message>
@@ -872,8 +972,16 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>前に表示していた範囲を表示します</translation>
     </message>
     <message>
+        <source>Show the selected features on the map</source>
+        <translation>選択した地物を地図に表示します</translation>
+    </message>
+    <message>
         <source>Show the view from which you went back</source>
         <translation>戻る前に表示していた範囲を表示します</translation>
+    </message>
+    <message>
+        <source>Shows only the rows that contain all these words; F3 goes to the next of them</source>
+        <translation>これらの語をすべて含む行だけを表示します。F3 で次の行に移動します</translation>
     </message>
     <message>
         <source>Some data have no known place. --crs tells their coordinate system.</source>
@@ -882,6 +990,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Some of the rows below have no numbers there. They are left out.</source>
         <translation>数値がない行があります。それらの行は除外されます。</translation>
+    </message>
+    <message>
+        <source>Sorting...</source>
+        <translation>並べ替えています...</translation>
     </message>
     <message>
         <source>Table &amp;Columns...</source>
@@ -924,6 +1036,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>これらのレイヤーのデータは、このコンピューターのフォルダーにはありません。</translation>
     </message>
     <message>
+        <source>The features of this layer have no attributes.</source>
+        <translation>このレイヤーの地物には属性がありません。</translation>
+    </message>
+    <message>
         <source>The folder &quot;%1&quot; cannot be opened.</source>
         <translation>フォルダー「%1」を開けません。</translation>
     </message>
@@ -936,12 +1052,24 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>ガイドがインストールされていません。</translation>
     </message>
     <message>
+        <source>The layer is not selectable on the map.</source>
+        <translation>このレイヤーは地図上で選択できません。</translation>
+    </message>
+    <message>
+        <source>The map does not show these features.</source>
+        <translation>これらの地物は地図に表示されていません。</translation>
+    </message>
+    <message>
         <source>The map has no coordinate system yet; click to choose one.</source>
         <translation>地図にはまだ座標系がありません。クリックして選択してください。</translation>
     </message>
     <message>
         <source>The map has no features of the chosen layers.</source>
         <translation>地図に選択されたレイヤーの地物はありません。</translation>
+    </message>
+    <message>
+        <source>The map has no layer with data.</source>
+        <translation>データのあるレイヤーが地図にありません。</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
@@ -974,6 +1102,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>This is not a known coordinate system.</source>
         <translation>既知の座標系ではありません。</translation>
+    </message>
+    <message>
+        <source>This layer has no data, and so no attributes.</source>
+        <translation>このレイヤーにはデータがないため、属性もありません。</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>

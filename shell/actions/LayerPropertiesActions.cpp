@@ -20,7 +20,9 @@ LayerPropertiesActions::LayerPropertiesActions(QWidget& window, QMenu& menu, Sys
     QAction* action = menu.addAction(tr("Layer &Properties..."));
     action->setObjectName(QStringLiteral("actLayerProperties"));
     action->setStatusTip(tr("Show the data of a layer, and choose their coordinate system"));
-    connect(action, &QAction::triggered, this, [this] { Guard(&m_window, [this] { Ask(); }); });
+    connect(action, &QAction::triggered, this, [this] {
+        Guard(&m_window, [this] { Ask(m_session->Shell().ChosenLayers()); });
+    });
     connect(&menu, &QMenu::aboutToShow, this, [this, action] {
         Guard(&m_window, [&] { action->setEnabled(m_session->Document().HasLayers()); });
     });
@@ -30,15 +32,20 @@ void LayerPropertiesActions::Use(MapSession& session)
 {
     m_session = &session;
     m_last = 0;
+    session.Shell().AddLayerCommand(
+        {QStringLiteral("LayerProperties"), tr("Layer Properties..."),
+         [](const std::vector<qint32>&) { return QString(); },
+         [this](const std::vector<qint32>& layerIDs) { Ask(layerIDs); }});
 }
 
-void LayerPropertiesActions::Ask(qint32 layerID)
+// chosen: the first of these is shown first; without them, the layer that was shown last.
+void LayerPropertiesActions::Ask(const std::vector<qint32>& chosen)
 {
     MapDocument& document = m_session->Document();
     if (m_session->Layers().empty())
         return;
     LayerPropertiesDialog dialog(
-        document, m_session->Layers(), layerID != 0 ? layerID : m_last, m_catalogue, &m_window);
+        document, m_session->Layers(), chosen.empty() ? m_last : chosen.front(), m_catalogue, &m_window);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     m_last = dialog.LayerID();
     const std::vector<LayerSource> changes = isAccepted ? dialog.Changes() : std::vector<LayerSource>();

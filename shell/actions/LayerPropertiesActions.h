@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+#include <vector>
+
 class QMenu;
 class QWidget;
 
@@ -12,6 +14,7 @@ class MapSession;
 class SystemCatalogue;
 
 /// The command "Layer Properties...": where a layer's data are, what they are, and their coordinate system.
+/// It is also in the menus of layers, and begins with the chosen layer.
 class LayerPropertiesActions : public QObject
 {
     Q_OBJECT
@@ -22,15 +25,14 @@ public:
 
     /// The command works on the layers of this map from now on; not owned.
     void Use(MapSession& session);
-    /// Shows the properties, at first those of this layer; 0 for the one that was shown last. Raises errors
-    /// of the database.
-    void Ask(qint32 layerID = 0);
 
 signals:
     /// The user has chosen other systems, which are stored; the map is to be read again.
     void SystemsChosen();
 
 private:
+    void Ask(const std::vector<qint32>& chosen);
+
     QWidget& m_window;
     SystemCatalogue& m_catalogue;
     MapSession* m_session = nullptr;

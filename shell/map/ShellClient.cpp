@@ -223,7 +223,7 @@ void ShellClient::IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qin
     TakeChoice(layerIDs);
 }
 
-std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
+void ShellClient::AddLayerCommand(LayerCommand command)
 {
     std::vector<NodeCommand> commands;
     commands.reserve(m_commands.size());

@@ -44,7 +44,8 @@ public:
     /// Sets the map's coordinate system, as in CoordinateSystems.h.
     void SetSystem(const QString& system);
 
-    const FeatureSelection& Selection() const { return m_selection; }
+    /// The features that are selected on the map; another part of the window may select others.
+    FeatureSelection& Selection() { return m_selection; }
 
 private:
     struct Command;

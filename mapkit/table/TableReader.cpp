@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/table/TableReader.h"
+
+#include "mapkit/common/Progress.h"
+#include "mapkit/data/ReadingBound.h"
+
+#include <utility>
+
+namespace Orvane {
+
+TableReader::TableReader(LayerSource source, QObject* parent)
+    : QObject(parent), m_source(std::move(source)), m_reading(std::make_shared<Progress>()),
+      m_rowSource(std::make_shared<std::unique_ptr<TableSource>>())
+{
+    m_rowsPool.setMaxThreadCount(1);
+    m_tablePool.setMaxThreadCount(1);
+}
+
+TableReader::~TableReader()
+{
+    for (const Shared& running : {m_reading, m_opening, m_sorting, m_finding}) {
+        if (running)
+            running->Cancel();
+    }
+    m_rowsPool.waitForDone();
+    m_tablePool.waitForDone();
+}
+
+void TableReader::Open()
+{
+    Open(m_source);
+}
+
+void TableReader::Open(LayerSource source)
+{
+    Cancel();
+    m_reading->Cancel();
+    m_reading = std::make_shared<Progress>();
+    m_rowSource = std::make_shared<std::unique_ptr<TableSource>>();
+    m_source = std::move(source);
+    RunWithAll(
+        m_opening, [this](TableSource& table, const Shared& progress) { return ReadTable(table, progress); });
+}
+
+// On the pool's thread.
+TableReader::Answer TableReader::ReadTable(TableSource& table, const Shared& progress)
+{
+    Deliver(progress, [this, columns = table.Columns(), count = table.KnownCount()] {
+        emit Opened(columns, count);
+    });
+    table.ReadIDs(*progress, [&](std::vector<qint64> ids) {
+        Deliver(progress, [this, ids = std::move(ids)] { emit IDsRead(ids); });
+    });
+    return [this] { emit IDsComplete(); };
+}
+
+void TableReader::ReadRows(std::vector<qint64> ids)
+{
+    Run(m_rowsPool, m_reading,
+        [this, ids = std::move(ids), source = m_source, opened = m_rowSource,
+         progress = m_reading]() -> Answer {
+            if (!*opened)
+                *opened = std::make_unique<TableSource>(source);
+            const auto rows = std::make_shared<const TableSource::RowsByID>((*opened)->Rows(ids, *progress));
+            return [this, ids, rows] { emit RowsRead(ids, rows); };
+        });
+}
+
+void TableReader::Sort(int column, Qt::SortOrder direction, const QLocale& locale)
+{
+    RunWithAll(
+        m_sorting, [this, column, direction, locale](TableSource& table, const Shared& progress) -> Answer {
+            return [this, ids = table.Sorted(column, direction, locale, *progress)] { emit Sorted(ids); };
+        });
+}
+
+void TableReader::Find(const TableFind& find)
+{
+    RunWithAll(m_finding, [this, find](TableSource& table, const Shared& progress) -> Answer {
+        return [this, ids = table.Find(find, *progress)] { emit Found(ids); };
+    });
+}
+
+void TableReader::Cancel()
+{
+    Drop(m_opening);
+    Drop(m_sorting);
+    Drop(m_finding);
+}
+
+void TableReader::Drop(Shared& running)
+{
+    if (!running)
+        return;
+    running->Cancel();
+    running.reset();
+    emit TaskChanged();
+}
+
+TableReader::Task TableReader::Current() const
+{
+    if (m_opening)
+        return Task::Opening;
+    if (m_sorting)
+        return Task::Sorting;
+    return m_finding ? Task::Finding : Task::None;
+}
+
+double TableReader::Done() const
+{
+    const Shared& running = m_opening ? m_opening : m_sorting ? m_sorting : m_finding;
+    return running ? running->Done() : 1;
+}
+
+void TableReader::RunWithAll(Shared& running, Work work)
+{
+    if (running)
+        running->Cancel();
+    running = std::make_shared<Progress>();
+    Run(m_tablePool, running, [source = m_source, progress = running, work = std::move(work)] {
+        TableSource table(source);
+        return work(table, progress);
+    });
+    emit TaskChanged();
+}
+
+void TableReader::Run(QThreadPool& pool, const Shared& progress, std::function<Answer()> work)
+{
+    pool.start([this, progress, work = std::move(work)] {
+        const ReadingBound untilCancelled(progress->CancelledFlag());
+        Answer answer;
+        try {
+            progress->StopIfCancelled();
+            answer = work();
+        } catch (const Cancelled&) {
+            return;
+        } catch (const std::exception& error) {
+            answer = [this, reason = QString::fromUtf8(error.what())] { emit Failed(reason); };
+        }
+        Deliver(progress, [this, progress, answer = std::move(answer)] {
+            Finish(progress);
+            answer();
+        });
+    });
+}
+
+void TableReader::Deliver(const Shared& progress, Answer answer)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, progress, answer = std::move(answer)] {
+            try {
+                if (!progress->IsCancelled())
+                    answer();
+            } catch (const std::exception& error) { // of the receivers, for example no memory
+                emit Failed(QString::fromUtf8(error.what()));
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void TableReader::Finish(const Shared& progress)
+{
+    for (Shared* running : {&m_opening, &m_sorting, &m_finding}) {
+        if (*running == progress) {
+            running->reset();
+            emit TaskChanged();
+        }
+    }
+}
+
+} // namespace Orvane

@@ -1,0 +1,406 @@
+// SPDX-License-Identifier: MIT
+#include "mapkit/table/TableSource.h"
+
+#include "mapkit/common/GdalErrors.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/data/DataSource.h"
+#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/ReadingBound.h"
+#include "mapkit/data/ReadingFailure.h"
+#include "mapkit/table/TableOrder.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QSet>
+
+#include <algorithm>
+#include <cpl_conv.h>
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+namespace Orvane {
+
+namespace {
+
+constexpr int AllColumns = -1;
+constexpr int NoColumn = -2;
+constexpr size_t FirstIDs = 256; // enough for the first screen
+constexpr size_t ManyIDs = 65536;
+constexpr GIntBig FeaturesBetweenReports = 64;
+
+CellKind KindOf(const OGRFieldDefn& field)
+{
+    switch (field.GetType()) {
+    case OFTInteger:
+    case OFTInteger64:
+        return field.GetSubType() == OFSTBoolean ? CellKind::Flag : CellKind::Whole;
+    case OFTReal:
+        return CellKind::Real;
+    case OFTDate:
+        return CellKind::Date;
+    case OFTTime:
+        return CellKind::Time;
+    case OFTDateTime:
+        return CellKind::DateTime;
+    default:
+        return CellKind::Text;
+    }
+}
+
+QVariant TextOf(OGRFeature& feature, int index)
+{
+    return QString::fromUtf8(feature.GetFieldAsString(index));
+}
+
+QVariant MomentOf(OGRFeature& feature, int index, CellKind kind)
+{
+    int year = 0, month = 0, day = 0, hour = 0, minute = 0, zone = 0;
+    float second = 0;
+    feature.GetFieldAsDateTime(index, &year, &month, &day, &hour, &minute, &second, &zone);
+    const QDate date(year, month, day);
+    const QTime time(hour, minute, int(second), int(1000 * (second - float(int(second)))));
+    if (kind == CellKind::Date && date.isValid())
+        return date;
+    if (kind == CellKind::Time && time.isValid())
+        return time;
+    if (kind == CellKind::DateTime && date.isValid() && time.isValid())
+        return QDateTime(date, time, Qt::UTC);
+    return TextOf(feature, index);
+}
+
+QVariant CellOf(OGRFeature& feature, int index, CellKind kind)
+{
+    if (!feature.IsFieldSetAndNotNull(index))
+        return {};
+    switch (kind) {
+    case CellKind::Whole:
+        return qlonglong(feature.GetFieldAsInteger64(index));
+    case CellKind::Real:
+        return feature.GetFieldAsDouble(index);
+    case CellKind::Flag:
+        return feature.GetFieldAsInteger(index) != 0;
+    case CellKind::Date:
+    case CellKind::Time:
+    case CellKind::DateTime:
+        return MomentOf(feature, index, kind);
+    case CellKind::Text:
+        break;
+    }
+    return TextOf(feature, index);
+}
+
+// Whether each word is in one of the columns, as the source writes it or as the locale does.
+class WordMatch
+{
+public:
+    WordMatch(const TableFind& find, const std::vector<TableColumn>& columns)
+        : m_columns(columns), m_locale(find.locale)
+    {
+        const auto blank = [](QChar character) { return character.isSpace(); };
+        for (qsizetype i = 0, end = 0; i < find.words.size(); i = end + 1) {
+            end = std::find_if(find.words.begin() + i, find.words.end(), blank) - find.words.begin();
+            if (end > i)
+                m_words.append(find.words.mid(i, end - i));
+        }
+        m_first = find.column < 0 ? 0 : find.column;
+        m_end = find.column < 0 ? int(columns.size()) : find.column + 1;
+    }
+
+    bool Matches(OGRFeature& feature)
+    {
+        QStringList missing = m_words;
+        for (int i = m_first; i < m_end && !missing.isEmpty(); ++i) {
+            if (feature.IsFieldSetAndNotNull(i))
+                Remove(missing, feature, i);
+        }
+        return missing.isEmpty();
+    }
+
+private:
+    void Remove(QStringList& missing, OGRFeature& feature, int index) const
+    {
+        RemoveFound(missing, QString::fromUtf8(feature.GetFieldAsString(index)));
+        const CellKind kind = m_columns[size_t(index)].kind;
+        if (!missing.isEmpty() && kind != CellKind::Text)
+            RemoveFound(missing, CellText(CellOf(feature, index, kind), m_locale));
+    }
+
+    static void RemoveFound(QStringList& missing, const QString& text)
+    {
+        missing.erase(
+            std::remove_if(
+                missing.begin(), missing.end(),
+                [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }),
+            missing.end());
+    }
+
+    const std::vector<TableColumn>& m_columns;
+    QLocale m_locale;
+    QStringList m_words;
+    int m_first = 0;
+    int m_end = 0;
+};
+
+QString Quoted(const char* name)
+{
+    QString quoted = QString::fromUtf8(name);
+    quoted.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return QLatin1Char('"') + quoted + QLatin1Char('"');
+}
+
+// The memory that sorting may use, in bytes.
+double MostBytesToSort()
+{
+    const auto all = double(CPLGetUsablePhysicalRAM());
+    return all > 0 ? all / 4 : 4e9;
+}
+
+// Closes the result of a query.
+class ResultLayer
+{
+public:
+    ResultLayer(GDALDataset& dataset, const QString& sql)
+        : m_dataset(dataset), m_layer(dataset.ExecuteSQL(sql.toUtf8().constData(), nullptr, nullptr))
+    {
+    }
+    ~ResultLayer() { m_dataset.ReleaseResultSet(m_layer); }
+    ResultLayer(const ResultLayer&) = delete;
+    ResultLayer& operator=(const ResultLayer&) = delete;
+
+    OGRLayer* Get() const { return m_layer; }
+
+private:
+    GDALDataset& m_dataset;
+    OGRLayer* m_layer;
+};
+
+} // namespace
+
+TableSource::TableSource(const LayerSource& source) : m_path(source.path), m_filter(source.filter)
+{
+    const QString whyNot = WhyNotOpened(m_path);
+    if (!whyNot.isEmpty())
+        throw RunTimeError(SourceUnreadable, whyNot);
+    PrepareGdal();
+    const GdalErrors errors;
+    const ReadingBound bound;
+    constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
+    m_dataset.reset(GDALDataset::Open(m_path.toUtf8().constData(), flags));
+    if (!m_dataset)
+        FailReading(m_path, errors.First());
+    m_layer = m_dataset->GetLayerByName(source.ogrLayer.toUtf8().constData());
+    if (!m_layer)
+        FailReading(
+            m_path,
+            QCoreApplication::translate("DataSource", "it has no layer named %1").arg(source.ogrLayer));
+    const QByteArray condition = m_filter.toUtf8();
+    if (!m_filter.isEmpty() && m_layer->SetAttributeFilter(condition.constData()) != OGRERR_NONE)
+        FailReading(m_path, errors.First());
+    ReadColumns();
+    ReadOnly(AllColumns);
+    RequireReadingInTime(m_path);
+}
+
+TableSource::~TableSource()
+{
+    const GdalErrors quiet;
+    m_dataset.reset();
+}
+
+void TableSource::ReadColumns()
+{
+    const OGRFeatureDefn& definition = *m_layer->GetLayerDefn();
+    m_columns.reserve(size_t(definition.GetFieldCount()));
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        const OGRFieldDefn& field = *definition.GetFieldDefn(i);
+        m_columns.push_back({QString::fromUtf8(field.GetNameRef()), KindOf(field)});
+    }
+}
+
+qint64 TableSource::KnownCount() const
+{
+    const GdalErrors quiet;
+    const ReadingBound bound;
+    return m_layer->TestCapability(OLCFastFeatureCount) ? qint64(m_layer->GetFeatureCount(FALSE)) : -1;
+}
+
+// Drivers are several times as fast without what is not needed; a filter may need anything.
+void TableSource::ReadOnly(int column)
+{
+    m_isWithinPass = false;
+    if (!m_filter.isEmpty())
+        return;
+    const OGRFeatureDefn& definition = *m_layer->GetLayerDefn();
+    std::vector<const char*> ignored = {"OGR_GEOMETRY", "OGR_STYLE"};
+    for (int i = 0; i < definition.GetFieldCount(); ++i) {
+        if (column != AllColumns && i != column)
+            ignored.push_back(definition.GetFieldDefn(i)->GetNameRef());
+    }
+    ignored.push_back(nullptr);
+    m_layer->SetIgnoredFields(ignored.data());
+}
+
+void TableSource::ForEach(Progress& progress, const Visit& visit)
+{
+    const GdalErrors errors;
+    ReadingBound bound(ReadingBound::LongestWait);
+    const double expected = double(std::max<GIntBig>(1, m_layer->GetFeatureCount(FALSE)));
+    m_layer->ResetReading();
+    GIntBig count = 0;
+    while (const OGRFeatureUniquePtr feature{m_layer->GetNextFeature()}) {
+        visit(*feature);
+        if (++count % FeaturesBetweenReports == 0) {
+            progress.StopIfCancelled();
+            if (bound.IsOver())
+                FailReading(m_path, {});
+            bound.Renew();
+            progress.Report(std::min(1.0, double(count) / expected));
+        }
+    }
+    RequireReadingInTime(m_path);
+    if (!errors.First().isEmpty())
+        FailReading(m_path, errors.First());
+}
+
+void TableSource::ReadIDs(Progress& progress, const TakeIDs& take)
+{
+    ReadOnly(NoColumn);
+    std::vector<qint64> ids;
+    size_t most = FirstIDs;
+    ForEach(progress, [&](const OGRFeature& feature) {
+        ids.push_back(feature.GetFID());
+        if (ids.size() == most) {
+            take(std::exchange(ids, {}));
+            most = ManyIDs;
+        }
+    });
+    take(std::move(ids));
+}
+
+TableRow TableSource::RowOf(OGRFeature& feature) const
+{
+    TableRow row;
+    row.reserve(m_columns.size());
+    for (size_t i = 0; i < m_columns.size(); ++i)
+        row.push_back(CellOf(feature, int(i), m_columns[i].kind));
+    return row;
+}
+
+TableSource::RowsByID TableSource::Rows(const std::vector<qint64>& ids, Progress& progress)
+{
+    const GdalErrors quiet; // a driver may count a feature that is gone as an error
+    ReadingBound bound(ReadingBound::LongestWait);
+    RowsByID rows;
+    if (m_layer->TestCapability(OLCRandomRead))
+        FillOneByOne(rows, ids, bound, progress);
+    else
+        FillInPasses(rows, ids, bound, progress);
+    RequireReadingInTime(m_path);
+    return rows;
+}
+
+void TableSource::FillOneByOne(
+    RowsByID& rows, const std::vector<qint64>& ids, ReadingBound& bound, Progress& progress)
+{
+    for (const qint64 id : ids) {
+        progress.StopIfCancelled();
+        if (const OGRFeatureUniquePtr feature{m_layer->GetFeature(id)}) {
+            rows.insert_or_assign(id, RowOf(*feature));
+            bound.Renew();
+        }
+    }
+}
+
+void TableSource::FillInPasses(
+    RowsByID& rows, const std::vector<qint64>& ids, ReadingBound& bound, Progress& progress)
+{
+    QSet<qint64> wanted(ids.begin(), ids.end());
+    bool isLastPass = !m_isWithinPass;
+    while (!wanted.isEmpty()) {
+        progress.StopIfCancelled();
+        if (!std::exchange(m_isWithinPass, true))
+            m_layer->ResetReading();
+        const OGRFeatureUniquePtr feature{m_layer->GetNextFeature()};
+        if (feature) {
+            if (wanted.remove(feature->GetFID()))
+                rows.insert_or_assign(feature->GetFID(), RowOf(*feature));
+            bound.Renew();
+            continue;
+        }
+        m_isWithinPass = false;
+        if (std::exchange(isLastPass, true))
+            return;
+    }
+}
+
+bool TableSource::SortsItself(int column) const
+{
+    const QByteArray driver = m_dataset->GetDriverName();
+    const bool isDatabase = driver == "GPKG" || driver == "SQLite";
+    return isDatabase && m_columns[size_t(column)].kind != CellKind::Text && *m_layer->GetFIDColumn();
+}
+
+std::vector<qint64>
+TableSource::Sorted(int column, Qt::SortOrder direction, const QLocale& locale, Progress& progress)
+{
+    if (SortsItself(column))
+        return SortedBySql(column, direction, progress);
+    ReadOnly(column);
+    TableOrder order;
+    const double mostBytes = MostBytesToSort();
+    ForEach(progress, [&](OGRFeature& feature) {
+        order.Add(feature.GetFID(), CellOf(feature, column, m_columns[size_t(column)].kind));
+        if (order.Bytes() > mostBytes)
+            FailReading(
+                m_path,
+                QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
+    });
+    return order.Sorted(direction, locale, progress);
+}
+
+std::vector<qint64> TableSource::SortedBySql(int column, Qt::SortOrder direction, Progress& progress)
+{
+    const GdalErrors errors;
+    ReadingBound bound(ReadingBound::LongestWait);
+    const QString id = Quoted(m_layer->GetFIDColumn());
+    const QString value = Quoted(m_layer->GetLayerDefn()->GetFieldDefn(column)->GetNameRef());
+    // The cast keeps GDAL from taking the ID out of the result.
+    QString sql = QStringLiteral("SELECT CAST(%1 AS INTEGER) AS sorted_row FROM %2")
+                      .arg(id, Quoted(m_layer->GetName()));
+    if (!m_filter.isEmpty())
+        sql += QStringLiteral(" WHERE (") + m_filter + QLatin1Char(')');
+    sql += QStringLiteral(" ORDER BY %1 IS NULL, %1 %2, %3")
+               .arg(value, QLatin1String(direction == Qt::AscendingOrder ? "ASC" : "DESC"), id);
+    const ResultLayer result(*m_dataset, sql);
+    std::vector<qint64> ids;
+    while (result.Get()) {
+        const OGRFeatureUniquePtr feature{result.Get()->GetNextFeature()};
+        if (!feature)
+            break;
+        ids.push_back(feature->GetFieldAsInteger64(0));
+        if (GIntBig(ids.size()) % FeaturesBetweenReports == 0) {
+            progress.StopIfCancelled();
+            bound.Renew();
+        }
+    }
+    RequireReadingInTime(m_path);
+    if (!errors.First().isEmpty())
+        FailReading(m_path, errors.First());
+    return ids;
+}
+
+std::vector<qint64> TableSource::Find(const TableFind& find, Progress& progress)
+{
+    ReadOnly(find.column);
+    WordMatch match(find, m_columns);
+    std::vector<qint64> ids;
+    ForEach(progress, [&](OGRFeature& feature) {
+        if (match.Matches(feature))
+            ids.push_back(feature.GetFID());
+    });
+    return ids;
+}
+
+} // namespace Orvane
