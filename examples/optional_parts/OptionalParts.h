@@ -101,6 +101,11 @@ private:
         return row->AtEOF() ? QString() : ToTextOrNone(row->Field("Name")) + ".gpkg";
     }
 
+    void IChoiceWatch_LayersChosen(QWidget*, const std::vector<qint32>& layerIDs) override
+    {
+        m_map.setEnabled(!layerIDs.empty());
+    }
+
     bool IMapNotes_KeepsNotes() const override { return true; }
     QString IMapNotes_Note(const QString& key) override
     {

@@ -197,10 +197,11 @@ void ShellClient::AddLayerCommand(LayerCommand command)
     m_commands.push_back(std::move(command));
 }
 
-const LayerCommand& ShellClient::CommandOf(const QString& id) const
+const LayerCommand* ShellClient::CommandOf(const QString& id) const
 {
-    return *std::find_if(
+    const auto found = std::find_if(
         m_commands.begin(), m_commands.end(), [&](const LayerCommand& command) { return command.id == id; });
+    return found == m_commands.end() ? nullptr : &*found;
 }
 
 void ShellClient::SetChoiceFollower(std::function<void()> follow)
@@ -234,12 +235,14 @@ void ShellClient::AddLayerCommand(LayerCommand command)
 
 QString ShellClient::INodeCommands_WhyNot(const QString& id, const std::vector<qint32>& layerIDs)
 {
-    return CommandOf(id).whyNot(layerIDs);
+    const LayerCommand* command = CommandOf(id);
+    return command ? command->whyNot(layerIDs) : QString();
 }
 
 void ShellClient::INodeCommands_Run(QWidget*, const QString& id, const std::vector<qint32>& layerIDs)
 {
-    CommandOf(id).run(layerIDs);
+    if (const LayerCommand* command = CommandOf(id))
+        command->run(layerIDs);
 }
 
 } // namespace Orvane

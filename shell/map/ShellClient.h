@@ -84,7 +84,7 @@ protected:
 
 private:
     EditorDock* DockOf(const QString& editorID) const;
-    const LayerCommand& CommandOf(const QString& id) const;
+    const LayerCommand* CommandOf(const QString& id) const;
     void TakeChoice(std::vector<qint32> layerIDs);
     void PlaceWindow(QWidget& form, const QString& editorID);
     void TakeOutOfDock(QWidget& form);
