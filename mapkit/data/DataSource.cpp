@@ -11,7 +11,7 @@
 #include "mapkit/data/OpenedData.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
-#include "mapkit/data/RowGeometry.h"
+#include "mapkit/tables/RowGeometry.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "mapkit/coordinates/Box.h"
-#include "mapkit/data/ColumnGuess.h"
 #include "mapkit/data/FeatureSet.h"
 #include "mapkit/data/GeometryChoice.h"
+#include "mapkit/tables/ColumnGuess.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #include "mapkit/data/GeometryReader.h"
 
 #include "mapkit/common/GdalErrors.h"
-#include "mapkit/data/Antimeridian.h"
+#include "mapkit/coordinates/Antimeridian.h"
 
 #include <algorithm>
 #include <ogr_geometry.h>

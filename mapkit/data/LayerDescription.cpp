@@ -3,7 +3,7 @@
 
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/GeometryKinds.h"
-#include "mapkit/data/RowGeometry.h"
+#include "mapkit/tables/RowGeometry.h"
 
 #include <ogrsf_frmts.h>
 

@@ -170,7 +170,7 @@ void RenderingDialog::ShowLayer()
     ChooseAttribute(*m_ui->cmbClassAttribute, shown.classAttribute);
     m_ui->cmbDivision->setCurrentIndex(int(shown.division));
     m_ui->spnClassCount->setValue(shown.classCount);
-    Choose(*m_ui->cmbRamp, shown.ramp);
+    ChooseAttribute(*m_ui->cmbRamp, shown.ramp);
     m_ui->chkReversed->setChecked(shown.isRampReversed);
 }
 

@@ -83,15 +83,10 @@ void TableColumnsDialog::Connect()
         connect(list, &QComboBox::currentIndexChanged, this, guarded(&TableColumnsDialog::TakeChoice));
 }
 
-TableChoice* TableColumnsDialog::Current()
+const TableChoice* TableColumnsDialog::Current() const
 {
     const int row = m_ui->lstTables->currentRow();
     return row >= 0 && size_t(row) < m_tables.size() ? &m_tables[size_t(row)] : nullptr;
-}
-
-const TableChoice* TableColumnsDialog::Current() const
-{
-    return const_cast<TableColumnsDialog*>(this)->Current();
 }
 
 void TableColumnsDialog::FillTables()
@@ -164,7 +159,7 @@ void TableColumnsDialog::TakeChoice()
 {
     if (m_isShowing || !Current())
         return;
-    Current()->columns = Chosen();
+    m_tables[size_t(m_ui->lstTables->currentRow())].columns = Chosen();
     NameTable();
     MarkColumns();
     UpdateEnabled();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/ColumnGuess.h"
+#include "mapkit/tables/ColumnGuess.h"
 
 #include <QDialog>
 
@@ -44,7 +44,6 @@ private:
     void UpdateEnabled();
     CoordinateColumns Chosen() const;
     QString Problem() const;
-    TableChoice* Current();
     const TableChoice* Current() const;
 
     bool AreUsable() const;

@@ -67,6 +67,7 @@ void LookIntoFile(const QString& path, FoundData& data)
     std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
     layers = LayersToShow(layers);
     const std::vector<TableRows> tables = source.Tables();
+    data.tables.reserve(data.tables.size() + tables.size());
     for (const TableRows& table : tables)
         data.tables.push_back({absolute, table, GuessColumns(table)});
     if (!layers.empty())

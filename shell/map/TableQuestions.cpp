@@ -14,7 +14,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
+#include <utility>
 
 namespace Orvane::TableQuestions {
 
@@ -39,21 +39,30 @@ std::vector<LayerSource> TableLayers(const MapDocument& document)
     return sources;
 }
 
+void ReadRows(TableChoice& choice)
+{
+    try {
+        for (const TableRows& table : DataSource(choice.path).Tables()) {
+            if (table.layer == choice.table.layer)
+                choice.table = table;
+        }
+    } catch (const RunTimeError&) { // it keeps its columns
+    }
+}
+
 // One for each layer; without rows if the file cannot be read.
 std::vector<TableChoice> ChoicesOf(const std::vector<LayerSource>& layers, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
     std::vector<TableChoice> choices;
+    choices.reserve(layers.size());
     for (const LayerSource& layer : layers) {
         progress.StopIfCancelled();
         TableChoice& choice = choices.emplace_back();
         choice.path = layer.path;
         choice.columns = layer.choice.columns;
         choice.table.layer = layer.ogrLayer;
-        for (const TableRows& table : DataSource(layer.path).Tables()) {
-            if (table.layer == layer.ogrLayer)
-                choice.table = table;
-        }
+        ReadRows(choice);
     }
     return choices;
 }
@@ -86,19 +95,19 @@ bool ChangeColumns(MapSession& session, QWidget& window)
     if (choices.empty() || !TableColumnsDialog::Ask(choices, Purpose::Changing, &window))
         return false;
     bool isChanged = false;
+    for (size_t i = 0; i < layers.size(); ++i)
+        isChanged
+            = std::exchange(layers[i].choice.columns, choices[i].columns) != choices[i].columns || isChanged;
+    if (!isChanged)
+        return false;
     session.Shell().RecordStep([&] {
         Transaction transaction(document.Database());
-        for (size_t i = 0; i < layers.size(); ++i) {
-            if (layers[i].choice.columns == choices[i].columns)
-                continue;
-            layers[i].choice.columns = choices[i].columns;
-            document.SetSource(layers[i]);
-            isChanged = true;
-        }
+        for (const LayerSource& layer : layers)
+            document.SetSource(layer);
         transaction.Commit();
         return QCoreApplication::translate("MainWindow", "Table Columns");
     });
-    return isChanged;
+    return true;
 }
 
 } // namespace Orvane::TableQuestions

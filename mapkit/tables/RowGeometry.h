@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/ColumnGuess.h"
-#include "mapkit/data/GeometryChoice.h"
+#include "mapkit/tables/ColumnGuess.h"
+#include "mapkit/tables/CoordinateColumns.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/data/GeometryChoice.h"
+#include "mapkit/tables/CoordinateColumns.h"
 
 #include <QString>
 #include <QStringList>

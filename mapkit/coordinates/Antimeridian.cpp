@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/Antimeridian.h"
+#include "mapkit/coordinates/Antimeridian.h"
 
 #include <algorithm>
 #include <cmath>

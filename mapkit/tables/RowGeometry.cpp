@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/RowGeometry.h"
+#include "mapkit/tables/RowGeometry.h"
 
 #include <cmath>
 #include <ogrsf_frmts.h>

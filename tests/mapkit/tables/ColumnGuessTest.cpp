@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/ColumnGuess.h"
+#include "mapkit/tables/ColumnGuess.h"
 
 #include <gtest/gtest.h>
 
