@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/table/TableReader.h"
+#include "mapkit/attributes/TableReader.h"
 
 #include <QAbstractTableModel>
 #include <QCache>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/table/AttributeTable.h"
 
+#include "mapkit/attributes/TableText.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/common/Progress.h"
-#include "mapkit/table/TableText.h"
 #include "shell/window/RunWithProgress.h"
 #include "ui_AttributeTable.h"
 

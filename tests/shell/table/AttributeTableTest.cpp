@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/table/AttributeTable.h"
 
-#include "mapkit/table/TableFile.h"
+#include "mapkit/attributes/TableFile.h"
 #include "shell/features/FeatureSelection.h"
 
 #include <QAbstractItemModelTester>

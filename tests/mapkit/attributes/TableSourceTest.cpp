@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableSource.h"
+#include "mapkit/attributes/TableSource.h"
 
+#include "mapkit/attributes/TableFile.h"
+#include "mapkit/attributes/TableText.h"
 #include "mapkit/common/Progress.h"
-#include "mapkit/table/TableFile.h"
-#include "mapkit/table/TableText.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

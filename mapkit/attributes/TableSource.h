@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/attributes/TableCell.h"
 #include "mapkit/data/SourceReader.h"
-#include "mapkit/table/TableCell.h"
 
 #include <QLocale>
 #include <QStringList>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableReader.h"
+#include "mapkit/attributes/TableReader.h"
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/ReadingBound.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "mapkit/table/TableSource.h"
+#include "mapkit/attributes/TableSource.h"
 
 #include <QObject>
 #include <QThreadPool>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableSource.h"
+#include "mapkit/attributes/TableSource.h"
 
+#include "mapkit/attributes/TableOrder.h"
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
-#include "mapkit/table/TableOrder.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

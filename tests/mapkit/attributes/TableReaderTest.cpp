@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableReader.h"
+#include "mapkit/attributes/TableReader.h"
 
-#include "mapkit/table/TableFile.h"
+#include "mapkit/attributes/TableFile.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableCell.h"
+#include "mapkit/attributes/TableCell.h"
 
 #include <QDateTime>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableText.h"
+#include "mapkit/attributes/TableText.h"
 
+#include "mapkit/attributes/TableSource.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/ReadingBound.h"
-#include "mapkit/table/TableSource.h"
 
 #include <QStringList>
 

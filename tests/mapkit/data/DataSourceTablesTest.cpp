@@ -17,7 +17,7 @@ using namespace Testing;
 namespace {
 
 /// Tables without geometry, read as layers.
-class TableSourceTest : public testing::Test
+class DataSourceTablesTest : public testing::Test
 {
 protected:
     FeatureSet ReadFirst(const QString& path)
@@ -35,7 +35,7 @@ protected:
 
 } // namespace
 
-TEST_F(TableSourceTest, RowsBecomePoints)
+TEST_F(DataSourceTablesTest, RowsBecomePoints)
 {
     const FeatureSet points
         = ReadFirst(m_folder.Write("places.csv", "name,lat,lon\nA,52,13\nB,53,14\nnowhere,,\n"));
@@ -44,7 +44,7 @@ TEST_F(TableSourceTest, RowsBecomePoints)
     EXPECT_EQ(points.Bounds(), (Box{13, 52, 14, 53}));
 }
 
-TEST_F(TableSourceTest, SemicolonsTabsAndDecimalCommasAreUnderstood)
+TEST_F(DataSourceTablesTest, SemicolonsTabsAndDecimalCommasAreUnderstood)
 {
     const Box place = {13.5, 52.25, 13.5, 52.25};
     EXPECT_EQ(ReadFirst(m_folder.Write("a.csv", "lon;lat\n13,5;52,25\n")).Bounds(), place);
@@ -53,7 +53,7 @@ TEST_F(TableSourceTest, SemicolonsTabsAndDecimalCommasAreUnderstood)
     EXPECT_EQ(ReadFirst(m_folder.Write("d.csv", "lon,lat\n\"13,5\",\"52,25\"\n")).Bounds(), place);
 }
 
-TEST_F(TableSourceTest, GeometriesAsTextBecomeLinesAndAreas)
+TEST_F(DataSourceTablesTest, GeometriesAsTextBecomeLinesAndAreas)
 {
     const QString path = m_folder.Write(
         "shapes.csv", "id;geom\n1;\"LINESTRING (0 0,1 1)\"\n2;\"SRID=4326;POLYGON ((0 0,4 0,4 4,0 0))\"\n");
@@ -65,13 +65,13 @@ TEST_F(TableSourceTest, GeometriesAsTextBecomeLinesAndAreas)
         DataSource(path).Layers().at(0).kinds, testing::ElementsAre(FeatureKind::Line, FeatureKind::Area));
 }
 
-TEST_F(TableSourceTest, TheExtentOfATableIsKnown)
+TEST_F(DataSourceTablesTest, TheExtentOfATableIsKnown)
 {
     const QString path = m_folder.Write("places.csv", "x,y\n1,2\n3,8\n");
     EXPECT_EQ(DataSource(path).Layers().at(0).extent, (Box{1, 2, 3, 8}));
 }
 
-TEST_F(TableSourceTest, NumbersInATextTableAreNumbersForClasses)
+TEST_F(DataSourceTablesTest, NumbersInATextTableAreNumbersForClasses)
 {
     const QString path = m_folder.Write("towns.csv", "name,people,x,y\nA,700,1,2\nB,90,3,4\n");
     const std::vector<SourceField> fields = DataSource(path).Fields("towns");
@@ -79,7 +79,7 @@ TEST_F(TableSourceTest, NumbersInATextTableAreNumbersForClasses)
     EXPECT_EQ(BestAttribute(fields, AttributeUse::Labels), "name");
 }
 
-TEST_F(TableSourceTest, TheFirstRowsAreShown)
+TEST_F(DataSourceTablesTest, TheFirstRowsAreShown)
 {
     const DataSource source(m_folder.Write("towns.csv", "name,x,y\nA,1,2\n"));
     ASSERT_EQ(source.Tables().size(), 1u);
@@ -88,12 +88,12 @@ TEST_F(TableSourceTest, TheFirstRowsAreShown)
     EXPECT_EQ(source.Tables()[0].rows.at(0), QStringList({"A", "1", "2"}));
 }
 
-TEST_F(TableSourceTest, ASourceWithGeometryHasNoTables)
+TEST_F(DataSourceTablesTest, ASourceWithGeometryHasNoTables)
 {
     EXPECT_TRUE(DataSource(m_folder.WriteSquare("square.geojson")).Tables().empty());
 }
 
-TEST_F(TableSourceTest, AMissingColumnIsTold)
+TEST_F(DataSourceTablesTest, AMissingColumnIsTold)
 {
     const DataSource source(m_folder.Write("places.csv", "x,y\n1,2\n"));
     GeometryChoice choice;
@@ -101,7 +101,7 @@ TEST_F(TableSourceTest, AMissingColumnIsTold)
     EXPECT_THROW(source.Read("places", {}, {}, m_progress, choice), RunTimeError);
 }
 
-TEST_F(TableSourceTest, SpreadsheetsAreTables)
+TEST_F(DataSourceTablesTest, SpreadsheetsAreTables)
 {
     GDALAllRegister();
     for (const char* format : {"XLSX", "ODS"}) {
@@ -126,7 +126,7 @@ TEST_F(TableSourceTest, SpreadsheetsAreTables)
     }
 }
 
-TEST_F(TableSourceTest, ThePointsOfATableAreNotMoved)
+TEST_F(DataSourceTablesTest, ThePointsOfATableAreNotMoved)
 {
     LayerSource source;
     source.path = m_folder.Write("places.csv", "x,y\n1,2\n");

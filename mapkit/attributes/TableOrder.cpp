@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/table/TableOrder.h"
+#include "mapkit/attributes/TableOrder.h"
 
 #include "mapkit/common/Progress.h"
 
