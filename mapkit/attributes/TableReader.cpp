@@ -8,9 +8,22 @@
 
 namespace Orvane {
 
+namespace {
+
+// Opening takes long for some formats, and so is done once.
+TableSource& SourceIn(std::unique_ptr<TableSource>& opened, const LayerSource& source)
+{
+    if (!opened)
+        opened = std::make_unique<TableSource>(source);
+    return *opened;
+}
+
+} // namespace
+
 TableReader::TableReader(LayerSource source, QObject* parent)
     : QObject(parent), m_source(std::move(source)), m_reading(std::make_shared<Progress>()),
-      m_rowSource(std::make_shared<std::unique_ptr<TableSource>>())
+      m_rowSource(std::make_shared<std::unique_ptr<TableSource>>()),
+      m_tableSource(std::make_shared<std::unique_ptr<TableSource>>())
 {
     m_rowsPool.setMaxThreadCount(1);
     m_tablePool.setMaxThreadCount(1);
@@ -37,6 +50,7 @@ void TableReader::Open(LayerSource source)
     m_reading->Cancel();
     m_reading = std::make_shared<Progress>();
     m_rowSource = std::make_shared<std::unique_ptr<TableSource>>();
+    m_tableSource = std::make_shared<std::unique_ptr<TableSource>>();
     m_source = std::move(source);
     RunWithAll(
         m_opening, [this](TableSource& table, const Shared& progress) { return ReadTable(table, progress); });
@@ -59,9 +73,8 @@ void TableReader::ReadRows(std::vector<qint64> ids)
     Run(m_rowsPool, m_reading,
         [this, ids = std::move(ids), source = m_source, opened = m_rowSource,
          progress = m_reading]() -> Answer {
-            if (!*opened)
-                *opened = std::make_unique<TableSource>(source);
-            const auto rows = std::make_shared<const TableSource::RowsByID>((*opened)->Rows(ids, *progress));
+            TableSource& table = SourceIn(*opened, source);
+            const auto rows = std::make_shared<const TableSource::RowsByID>(table.Rows(ids, *progress));
             return [this, ids, rows] { emit RowsRead(ids, rows); };
         });
 }
@@ -117,10 +130,10 @@ void TableReader::RunWithAll(Shared& running, Work work)
     if (running)
         running->Cancel();
     running = std::make_shared<Progress>();
-    Run(m_tablePool, running, [source = m_source, progress = running, work = std::move(work)] {
-        TableSource table(source);
-        return work(table, progress);
-    });
+    Run(m_tablePool, running,
+        [source = m_source, opened = m_tableSource, progress = running, work = std::move(work)] {
+            return work(SourceIn(*opened, source), progress);
+        });
     emit TaskChanged();
 }
 

@@ -74,6 +74,7 @@ signals:
 private:
     using Answer = std::function<void()>;
     using Shared = std::shared_ptr<Progress>;
+    using Opening = std::shared_ptr<std::unique_ptr<TableSource>>; // opened by the pool that uses it
     using Work = std::function<Answer(TableSource& table, const Shared& progress)>;
 
     void RunWithAll(Shared& running, Work work);
@@ -87,7 +88,8 @@ private:
     QThreadPool m_rowsPool;
     QThreadPool m_tablePool;
     Shared m_reading; // of rows; never null
-    std::shared_ptr<std::unique_ptr<TableSource>> m_rowSource; // used by the pool of rows only
+    Opening m_rowSource; // of the pool of rows
+    Opening m_tableSource; // of the other pool
     Shared m_opening; // these are null while there is nothing to do
     Shared m_sorting;
     Shared m_finding;

@@ -157,6 +157,19 @@ double MostBytesToSort()
     return all > 0 ? all / 4 : 4e9;
 }
 
+// A pass through all features from the first one; a database is not left locked where it ends.
+class WholePass
+{
+public:
+    explicit WholePass(OGRLayer& layer) : m_layer(layer) { m_layer.ResetReading(); }
+    ~WholePass() { m_layer.ResetReading(); }
+    WholePass(const WholePass&) = delete;
+    WholePass& operator=(const WholePass&) = delete;
+
+private:
+    OGRLayer& m_layer;
+};
+
 // Closes the result of a query.
 class ResultLayer
 {
@@ -247,7 +260,7 @@ void TableSource::ForEach(Progress& progress, const Visit& visit)
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
     const double expected = double(std::max<GIntBig>(1, m_layer->GetFeatureCount(FALSE)));
-    m_layer->ResetReading();
+    const WholePass pass(*m_layer);
     GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{m_layer->GetNextFeature()}) {
         visit(*feature);
