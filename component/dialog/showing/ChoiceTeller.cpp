@@ -31,8 +31,10 @@ std::vector<qint32> ChoiceTeller::ReadChosen() const
 
 void ChoiceTeller::Tell()
 {
+    if (!m_form.isVisible()) // a form that has ended may outlive the host
+        return;
     auto* watch = HostInterface<IChoiceWatch>();
-    if (!watch || !m_form.isVisible())
+    if (!watch)
         return;
     const std::vector<qint32> chosen = ReadChosen();
     if (chosen == m_told)

@@ -108,6 +108,20 @@ TEST_F(ChoiceTellerTest, LetsTheHostEndTheEditor)
     EXPECT_EQ(client.choices.size(), 1u);
 }
 
+TEST_F(ChoiceTellerTest, LeavesAHostAloneThatEndedAfterTheEditor)
+{
+    Close();
+    auto passing = std::make_unique<ChoiceClient>(host);
+    UseClient(*passing);
+    Open();
+    Choose({"Roads"});
+    EditorForm().UnloadWithoutApply();
+    passing.reset();
+    QCoreApplication::processEvents();
+    UseClient(host);
+    EXPECT_THAT(client.choices, IsEmpty());
+}
+
 } // namespace
 
 } // namespace Orvane::Testing
