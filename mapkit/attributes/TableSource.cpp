@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/attributes/TableSource.h"
 
+#include "mapkit/attributes/FeatureCells.h"
 #include "mapkit/attributes/TableOrder.h"
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QSet>
 
 #include <algorithm>
@@ -29,67 +29,6 @@ constexpr int NoColumn = -2;
 constexpr size_t FirstIDs = 256; // enough for the first screen
 constexpr size_t ManyIDs = 65536;
 constexpr GIntBig FeaturesBetweenReports = 64;
-
-CellKind KindOf(const OGRFieldDefn& field)
-{
-    switch (field.GetType()) {
-    case OFTInteger:
-    case OFTInteger64:
-        return field.GetSubType() == OFSTBoolean ? CellKind::Flag : CellKind::Whole;
-    case OFTReal:
-        return CellKind::Real;
-    case OFTDate:
-        return CellKind::Date;
-    case OFTTime:
-        return CellKind::Time;
-    case OFTDateTime:
-        return CellKind::DateTime;
-    default:
-        return CellKind::Text;
-    }
-}
-
-QVariant TextOf(OGRFeature& feature, int index)
-{
-    return QString::fromUtf8(feature.GetFieldAsString(index));
-}
-
-QVariant MomentOf(OGRFeature& feature, int index, CellKind kind)
-{
-    int year = 0, month = 0, day = 0, hour = 0, minute = 0, zone = 0;
-    float second = 0;
-    feature.GetFieldAsDateTime(index, &year, &month, &day, &hour, &minute, &second, &zone);
-    const QDate date(year, month, day);
-    const QTime time(hour, minute, int(second), int(1000 * (second - float(int(second)))));
-    if (kind == CellKind::Date && date.isValid())
-        return date;
-    if (kind == CellKind::Time && time.isValid())
-        return time;
-    if (kind == CellKind::DateTime && date.isValid() && time.isValid())
-        return QDateTime(date, time, Qt::UTC);
-    return TextOf(feature, index);
-}
-
-QVariant CellOf(OGRFeature& feature, int index, CellKind kind)
-{
-    if (!feature.IsFieldSetAndNotNull(index))
-        return {};
-    switch (kind) {
-    case CellKind::Whole:
-        return qlonglong(feature.GetFieldAsInteger64(index));
-    case CellKind::Real:
-        return feature.GetFieldAsDouble(index);
-    case CellKind::Flag:
-        return feature.GetFieldAsInteger(index) != 0;
-    case CellKind::Date:
-    case CellKind::Time:
-    case CellKind::DateTime:
-        return MomentOf(feature, index, kind);
-    case CellKind::Text:
-        break;
-    }
-    return TextOf(feature, index);
-}
 
 // Whether each word is in one of the columns, as the source writes it or as the locale does.
 class WordMatch
@@ -196,14 +135,12 @@ TableSource::TableSource(const LayerSource& source) : m_path(source.path), m_fil
     const QString whyNot = WhyNotOpened(m_path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
-    PrepareGdal();
     const GdalErrors errors;
     const ReadingBound bound;
-    constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
-    m_dataset.reset(GDALDataset::Open(m_path.toUtf8().constData(), flags));
-    if (!m_dataset)
+    m_data = std::make_unique<OpenedData>(m_path);
+    if (m_data->IsEmpty())
         FailReading(m_path, errors.First());
-    m_layer = m_dataset->GetLayerByName(source.ogrLayer.toUtf8().constData());
+    m_layer = m_data->Find(source.ogrLayer);
     if (!m_layer)
         FailReading(
             m_path,
@@ -219,7 +156,7 @@ TableSource::TableSource(const LayerSource& source) : m_path(source.path), m_fil
 TableSource::~TableSource()
 {
     const GdalErrors quiet;
-    m_dataset.reset();
+    m_data.reset();
 }
 
 void TableSource::ReadColumns()
@@ -228,7 +165,7 @@ void TableSource::ReadColumns()
     m_columns.reserve(size_t(definition.GetFieldCount()));
     for (int i = 0; i < definition.GetFieldCount(); ++i) {
         const OGRFieldDefn& field = *definition.GetFieldDefn(i);
-        m_columns.push_back({QString::fromUtf8(field.GetNameRef()), KindOf(field)});
+        m_columns.push_back({QString::fromUtf8(field.GetNameRef()), KindOfCells(field)});
     }
 }
 
@@ -350,7 +287,8 @@ void TableSource::FillInPasses(
 
 bool TableSource::SortsItself(int column) const
 {
-    const QByteArray driver = m_dataset->GetDriverName();
+    GDALDataset* dataset = m_data->DatasetOf(*m_layer);
+    const QByteArray driver = dataset ? dataset->GetDriverName() : "";
     const bool isDatabase = driver == "GPKG" || driver == "SQLite";
     return isDatabase && m_columns[size_t(column)].kind != CellKind::Text && *m_layer->GetFIDColumn();
 }
@@ -386,7 +324,7 @@ std::vector<qint64> TableSource::SortedBySql(int column, Qt::SortOrder direction
         sql += QStringLiteral(" WHERE (") + m_filter + QLatin1Char(')');
     sql += QStringLiteral(" ORDER BY %1 IS NULL, %1 %2, %3")
                .arg(value, QLatin1String(direction == Qt::AscendingOrder ? "ASC" : "DESC"), id);
-    const ResultLayer result(*m_dataset, sql);
+    const ResultLayer result(*m_data->DatasetOf(*m_layer), sql);
     std::vector<qint64> ids;
     while (result.Get()) {
         const OGRFeatureUniquePtr feature{result.Get()->GetNextFeature()};

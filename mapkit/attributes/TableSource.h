@@ -12,12 +12,12 @@
 #include <unordered_map>
 #include <vector>
 
-class GDALDataset;
 class OGRFeature;
 class OGRLayer;
 
 namespace Orvane {
 
+class OpenedData;
 class Progress;
 class ReadingBound;
 
@@ -79,8 +79,8 @@ private:
 
     QString m_path;
     QString m_filter;
-    std::unique_ptr<GDALDataset> m_dataset;
-    OGRLayer* m_layer = nullptr; // owned by the dataset
+    std::unique_ptr<OpenedData> m_data;
+    OGRLayer* m_layer = nullptr; // owned by the data
     std::vector<TableColumn> m_columns;
     bool m_isWithinPass = false; // a pass through all features was begun and not ended
 };

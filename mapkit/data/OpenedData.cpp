@@ -181,6 +181,17 @@ OGRLayer* OpenedData::Find(const QString& name) const
     return found == layers.end() ? nullptr : found->layer;
 }
 
+GDALDataset* OpenedData::DatasetOf(const OGRLayer& layer) const
+{
+    for (const Member& member : m_members) {
+        for (const OGRLayer* known : member.dataset->GetLayers()) {
+            if (known == &layer)
+                return member.dataset.get();
+        }
+    }
+    return nullptr;
+}
+
 QString OpenedData::Format() const
 {
     if (m_members.empty() || !m_members.front().dataset->GetDriver())

@@ -36,6 +36,8 @@ public:
     std::vector<Layer> Layers() const;
     /// nullptr if there is no layer of that name.
     OGRLayer* Find(const QString& name) const;
+    /// The dataset that a layer of this object is in; nullptr for another layer. Owned by this object.
+    GDALDataset* DatasetOf(const OGRLayer& layer) const;
     /// GDAL's name for the format: "GPX". That of the first file of an archive.
     QString Format() const;
     /// The format for the user: "GPS Exchange Format".

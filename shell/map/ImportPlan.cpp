@@ -99,7 +99,7 @@ Box ExtentOfMap(const ImportTarget& target, Progress& progress)
                 continue;
             layer.chosenSystem = used->second;
             if (layer.extent.IsEmpty())
-                layer.extent = MeasuredExtent(path, layer.name, progress);
+                layer.extent = MeasuredExtent(path, layer, progress);
             extent.Add(Transformed(layer.extent, SystemOf(layer), target.system));
         }
     }
