@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/attributes/TableSource.h"
 
-#include "mapkit/attributes/FeatureCells.h"
+#include "mapkit/attributes/FieldCells.h"
 #include "mapkit/attributes/TableOrder.h"
+#include "mapkit/attributes/WordMatch.h"
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
@@ -29,58 +30,6 @@ constexpr int NoColumn = -2;
 constexpr size_t FirstIDs = 256; // enough for the first screen
 constexpr size_t ManyIDs = 65536;
 constexpr GIntBig FeaturesBetweenReports = 64;
-
-// Whether each word is in one of the columns, as the source writes it or as the locale does.
-class WordMatch
-{
-public:
-    WordMatch(const TableFind& find, const std::vector<TableColumn>& columns)
-        : m_columns(columns), m_locale(find.locale)
-    {
-        const auto blank = [](QChar character) { return character.isSpace(); };
-        for (qsizetype i = 0, end = 0; i < find.words.size(); i = end + 1) {
-            end = std::find_if(find.words.begin() + i, find.words.end(), blank) - find.words.begin();
-            if (end > i)
-                m_words.append(find.words.mid(i, end - i));
-        }
-        m_first = find.column < 0 ? 0 : find.column;
-        m_end = find.column < 0 ? int(columns.size()) : find.column + 1;
-    }
-
-    bool Matches(OGRFeature& feature)
-    {
-        QStringList missing = m_words;
-        for (int i = m_first; i < m_end && !missing.isEmpty(); ++i) {
-            if (feature.IsFieldSetAndNotNull(i))
-                Remove(missing, feature, i);
-        }
-        return missing.isEmpty();
-    }
-
-private:
-    void Remove(QStringList& missing, OGRFeature& feature, int index) const
-    {
-        RemoveFound(missing, QString::fromUtf8(feature.GetFieldAsString(index)));
-        const CellKind kind = m_columns[size_t(index)].kind;
-        if (!missing.isEmpty() && kind != CellKind::Text)
-            RemoveFound(missing, CellText(CellOf(feature, index, kind), m_locale));
-    }
-
-    static void RemoveFound(QStringList& missing, const QString& text)
-    {
-        missing.erase(
-            std::remove_if(
-                missing.begin(), missing.end(),
-                [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }),
-            missing.end());
-    }
-
-    const std::vector<TableColumn>& m_columns;
-    QLocale m_locale;
-    QStringList m_words;
-    int m_first = 0;
-    int m_end = 0;
-};
 
 QString Quoted(const char* name)
 {
@@ -165,7 +114,7 @@ void TableSource::ReadColumns()
     m_columns.reserve(size_t(definition.GetFieldCount()));
     for (int i = 0; i < definition.GetFieldCount(); ++i) {
         const OGRFieldDefn& field = *definition.GetFieldDefn(i);
-        m_columns.push_back({QString::fromUtf8(field.GetNameRef()), KindOfCells(field)});
+        m_columns.push_back({QString::fromUtf8(field.GetNameRef()), CellKindOf(field)});
     }
 }
 
@@ -345,7 +294,7 @@ std::vector<qint64> TableSource::SortedBySql(int column, Qt::SortOrder direction
 std::vector<qint64> TableSource::Find(const TableFind& find, Progress& progress)
 {
     ReadOnly(find.column);
-    WordMatch match(find, m_columns);
+    const WordMatch match(find, m_columns);
     std::vector<qint64> ids;
     ForEach(progress, [&](OGRFeature& feature) {
         if (match.Matches(feature))

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/attributes/FeatureCells.h"
+#include "mapkit/attributes/FieldCells.h"
 
 #include <QDateTime>
 
-#include <ogr_feature.h>
+#include <ogrsf_frmts.h>
 
 namespace Orvane {
 
@@ -32,7 +32,7 @@ QVariant MomentOf(OGRFeature& feature, int index, CellKind kind)
 
 } // namespace
 
-CellKind KindOfCells(const OGRFieldDefn& field)
+CellKind CellKindOf(const OGRFieldDefn& field)
 {
     switch (field.GetType()) {
     case OFTInteger:

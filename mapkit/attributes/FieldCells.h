@@ -3,17 +3,15 @@
 
 #include "mapkit/attributes/TableCell.h"
 
-#include <QVariant>
-
 class OGRFeature;
 class OGRFieldDefn;
 
 namespace Orvane {
 
-/// What the cells of a column hold that has this definition.
-CellKind KindOfCells(const OGRFieldDefn& field);
+/// What the values of one of GDAL's fields are as cells of a table.
+CellKind CellKindOf(const OGRFieldDefn& field);
 
-/// The feature's value in a column of that kind; invalid for null. A moment that is none is its text.
+/// The value of a feature's field as in TableRow. index: of the field. kind: that of the field.
 QVariant CellOf(OGRFeature& feature, int index, CellKind kind);
 
 } // namespace Orvane
