@@ -7,6 +7,7 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/OpenedData.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"

@@ -224,7 +224,7 @@ void ShellClient::IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qin
     TakeChoice(layerIDs);
 }
 
-void ShellClient::AddLayerCommand(LayerCommand command)
+std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)
 {
     std::vector<NodeCommand> commands;
     commands.reserve(m_commands.size());
