@@ -19,6 +19,7 @@ public:
     /// columns: of the table; not owned, outlives this object.
     WordMatch(const TableFind& find, const std::vector<TableColumn>& columns);
 
+    /// Null contains nothing.
     bool Matches(OGRFeature& feature) const;
 
 private:
