@@ -128,11 +128,12 @@ TEST_F(AttributeTablesTest, IsACommandOfTheLayerControlForLayersWithData)
     m_window->Document().Database().Execute("DELETE FROM LayerSources WHERE LayerID = 2");
     INodeCommands& commands = m_window->Session().Shell();
     const std::vector<NodeCommand> all = commands.Commands(nullptr);
-    ASSERT_FALSE(all.empty());
-    EXPECT_EQ(all.back().text, "Attribute Table");
-    EXPECT_EQ(commands.WhyNot(all.back().id, {1}), "");
-    EXPECT_EQ(commands.WhyNot(all.back().id, {withoutData}), "This layer has no data, and so no attributes.");
-    commands.Run(nullptr, all.back().id, {1});
+    const auto table = std::find_if(
+        all.begin(), all.end(), [](const NodeCommand& command) { return command.text == "Attribute Table"; });
+    ASSERT_NE(table, all.end());
+    EXPECT_EQ(commands.WhyNot(table->id, {1}), "");
+    EXPECT_EQ(commands.WhyNot(table->id, {withoutData}), "This layer has no data, and so no attributes.");
+    commands.Run(nullptr, table->id, {1});
     ASSERT_EQ(Tables().size(), 1);
 }
 

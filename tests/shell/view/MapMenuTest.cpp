@@ -100,8 +100,8 @@ TEST_F(MapMenuTest, OffersTheCommandsOfTheLayerOnAFeature)
     EXPECT_THAT(
         Texts(OpenMenu({5, 5})),
         ElementsAre(
-            "Square", "Zoom to Layer", "Layer Rendering...", "Open Folder", "Remove", "Zoom to All",
-            "Previous View", "Centre Here", "Copy Coordinates"));
+            "Square", "Zoom to Layer", "Attribute Table", "Layer Rendering...", "Layer Properties...",
+            "Open Folder", "Remove", "Zoom to All", "Previous View", "Centre Here", "Copy Coordinates"));
 }
 
 TEST_F(MapMenuTest, OffersTheCommandsOfTheMapAloneBesideFeatures)
@@ -117,14 +117,18 @@ TEST_F(MapMenuTest, HasAnEntryForEachLayerBelow)
     m_window->AddData({m_folder.WriteSquare("meadow.geojson")});
     const QMenu& menu = OpenMenu({5, 5});
     QStringList texts = Texts(menu);
-    EXPECT_EQ(texts.size(), 10);
+    EXPECT_EQ(texts.size(), 12);
     EXPECT_TRUE(texts.contains("Square") && texts.contains("meadow"));
     QStringList below;
     for (const QAction* action : menu.actions()) {
         if (action->menu() && action->menu()->objectName() != "mnuCopyCoordinates")
             below = Texts(*action->menu());
     }
-    EXPECT_THAT(below, ElementsAre("Zoom to Layer", "Layer Rendering...", "Open Folder", "Remove"));
+    EXPECT_THAT(
+        below,
+        ElementsAre(
+            "Zoom to Layer", "Attribute Table", "Layer Rendering...", "Layer Properties...", "Open Folder",
+            "Remove"));
 }
 
 TEST_F(MapMenuTest, DoesNotOfferALayerThatIsHidden)
