@@ -139,7 +139,8 @@ void FillStylePicker::RepaintSamples()
     const FillColours colours = m_colours();
     const bool hasNone = IsTransparent(colours.fore) && IsTransparent(colours.back);
     m_list.Combo().setToolTip(
-        hasNone ? TranslateMsg("Both fill colours are transparent: the fill has the line colour.") : QString());
+        hasNone ? TranslateMsg("Both fill colours are transparent: the fill has the line colour.")
+                : QString());
     m_list.Combo().update();
 }
 

@@ -18,8 +18,8 @@ class HelpActions : public QObject
 {
     Q_OBJECT
 public:
-    /// Adds the guide to the menu, before about. None is owned; all outlive this object. Errors are shown over
-    /// the window.
+    /// Adds the guide to the menu, before about. None is owned; all outlive this object. Errors are shown
+    /// over the window.
     HelpActions(QWidget& window, QMenu& menu, QAction& about);
     ~HelpActions() override;
 
