@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "component/dialog/showing/NodeMenuFixture.h"
+#include "component/dialog/trees/NodeMenuFixture.h"
 
 #include <OrvaneShellLib/ForwardingClient.h>
 #include <OrvaneShellLib/IStyleEditorForm.h>
