@@ -192,10 +192,6 @@
         <translation>Ab&amp;brechen</translation>
     </message>
     <message>
-        <source>Both fill colours are transparent: the fill has the line colour.</source>
-        <translation>Beide Füllfarben sind transparent: die Füllung hat die Linienfarbe.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -904,8 +900,8 @@
         <translation>Die Layersteuerung wurde nicht initialisiert.</translation>
     </message>
     <message>
-        <source>The pattern of filled areas.</source>
-        <translation>Das Muster gefüllter Flächen.</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
+        <translation>Das Muster gefüllter Flächen. Sind beide Füllfarben transparent, haben Muster und volle Füllungen die Linienfarbe.</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

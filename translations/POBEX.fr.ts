@@ -56,10 +56,6 @@
         <translation>&lt;aucune&gt;</translation>
     </message>
     <message>
-        <source>Both fill colours are transparent: the fill has the line colour.</source>
-        <translation>Les deux couleurs de remplissage sont transparentes : le remplissage prend la couleur du trait.</translation>
-    </message>
-    <message>
         <source>These groups have no layers.</source>
         <translation>Ces groupes ne contiennent aucune couche.</translation>
     </message>
@@ -904,8 +900,8 @@
         <translation>Le contrôle des couches n’a pas été initialisé.</translation>
     </message>
     <message>
-        <source>The pattern of filled areas.</source>
-        <translation>Le motif des surfaces remplies.</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
+        <translation>Le motif des surfaces remplies. Si les deux couleurs de remplissage sont transparentes, motifs et remplissages unis prennent la couleur du trait.</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

@@ -192,10 +192,6 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
-        <source>Both fill colours are transparent: the fill has the line colour.</source>
-        <translation>塗りつぶしの色が両方とも透明なので、線の色で塗ります。</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -904,8 +900,8 @@
         <translation>レイヤーコントロールが初期化されていません。</translation>
     </message>
     <message>
-        <source>The pattern of filled areas.</source>
-        <translation>面の塗りパターンです。</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
+        <translation>面の塗りパターンです。塗りつぶしの色が両方とも透明なときは、パターンも単色の塗りも線の色になります。</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

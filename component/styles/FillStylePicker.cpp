@@ -8,7 +8,6 @@
 #include "component/styles/ItemDescriptions.h"
 #include "component/styles/TranslatedStyleWords.h"
 #include "ovctrls/OvCombo.h"
-#include "samples/BgrColour.h"
 
 #include <OrvaneShellLib/IShellServices.h>
 #include <OrvaneShellLib/LayerValues.h>
@@ -136,11 +135,6 @@ void FillStylePicker::Rebuild()
 
 void FillStylePicker::RepaintSamples()
 {
-    const FillColours colours = m_colours();
-    const bool hasNone = IsTransparent(colours.fore) && IsTransparent(colours.back);
-    m_list.Combo().setToolTip(
-        hasNone ? TranslateMsg("Both fill colours are transparent: the fill has the line colour.")
-                : QString());
     m_list.Combo().update();
 }
 

@@ -243,7 +243,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event)
     bool taken = false;
     Guard(window(), [&] { taken = m_gestures.Press(*event); });
     if (event->button() == Qt::RightButton)
-        m_rightPressTaken = taken;
+        m_rightPressTaken = taken || m_dragging; // a menu would take the release of the other button
     else if (event->button() == Qt::BackButton)
         emit BackPressed();
     else if (event->button() == Qt::ForwardButton)

@@ -30,6 +30,14 @@ void ViewHistory::Clear()
     emit Changed();
 }
 
+void ViewHistory::Restart()
+{
+    m_views = {m_canvas.View()};
+    m_current = 0;
+    m_step = m_canvas.Step();
+    emit Changed();
+}
+
 void ViewHistory::GoBack()
 {
     if (CanGoBack())

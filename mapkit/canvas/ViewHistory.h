@@ -24,6 +24,9 @@ public:
     /// Forgets all views: another map is shown from now on.
     void Clear();
 
+    /// Forgets all views but the one that is shown: the others were in another coordinate system.
+    void Restart();
+
     bool CanGoBack() const { return m_current > 0; }
     bool CanGoForward() const { return m_current + 1 < m_views.size(); }
     /// Shows the previous view; does nothing if there is none.

@@ -32,9 +32,11 @@ bool GoesOn(std::span<const QPointF> points, size_t to)
 // Whether the step to that point leads past the meridian.
 bool IsJump(std::span<const QPointF> points, size_t to)
 {
-    if (to == 0 || !(std::abs(points[to].x() - points[to - 1].x()) > Half))
+    const double step = to == 0 ? 0 : std::abs(points[to].x() - points[to - 1].x());
+    if (!(step > Half))
         return false;
-    return !IsAtEdge(points[to - 1]) || !IsAtEdge(points[to]) || GoesOn(points, to);
+    const bool isWholeTurn = std::abs(step - Turn) < EdgeTolerance; // from edge to edge, or around the earth
+    return !isWholeTurn || (IsAtEdge(points[to]) && GoesOn(points, to));
 }
 
 // Longitudes that go on without jumps.

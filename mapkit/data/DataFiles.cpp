@@ -48,11 +48,14 @@ QString MainFileOf(const QString& path)
     }};
     const QFileInfo file(path);
     for (const Companion& companion : Companions) {
-        const QString main
-            = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + QLatin1String(companion.main));
-        const bool fits = file.suffix().compare(QLatin1String(companion.suffix), Qt::CaseInsensitive) == 0;
-        if (fits && QFileInfo(main).isFile())
-            return main;
+        if (file.suffix().compare(QLatin1String(companion.suffix), Qt::CaseInsensitive) != 0)
+            continue;
+        const QString suffix = QLatin1String(companion.main);
+        for (const QString& written : {suffix, suffix.toUpper()}) {
+            const QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + written);
+            if (QFileInfo(main).isFile())
+                return main;
+        }
     }
     const QString source = SourceOf(path);
     return source.isEmpty() || !QFileInfo(source).isDir() ? path : source;

@@ -239,6 +239,8 @@ Box DataSource::MeasureExtent(
     ReadingBound bound(ReadingBound::LongestWait);
     OGRLayer& layer = FilteredLayer(layerName, {}, errors);
     RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
+    if (rows.IsLacking())
+        Fail(QCoreApplication::translate("DataSource", "it lacks a column with coordinates"));
     Box extent;
     for (GIntBig count = 1; const OGRFeatureUniquePtr feature{layer.GetNextFeature()}; ++count) {
         const OGRGeometry* geometry = rows.Of(*feature);

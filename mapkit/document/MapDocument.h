@@ -101,8 +101,8 @@ public:
     std::optional<LayerSource> SourceOf(qint32 layerID) const;
     /// Sets the layer's data, replacing its former data.
     void SetSource(const LayerSource& source);
-    /// The systems that were chosen for layers' data instead of what these name, by layer ID.
-    std::map<qint32, QString> ChosenSystems() const { return m_sources.ChosenSystems(); }
+    /// How layers are read that are not read plainly, by layer ID: see SourceTable::ChosenReadings.
+    std::map<qint32, QString> ChosenReadings() const { return m_sources.ChosenReadings(); }
     /// The settings for the layers' renderer styles.
     RenderingTable& Renderings() { return m_renderings; }
     const RenderingTable& Renderings() const { return m_renderings; }

@@ -92,16 +92,19 @@ void SourceTable::Set(const LayerSource& source)
          notNull(place.relative), notNull(source.system), notNull(source.choice.ToText())});
 }
 
-std::map<qint32, QString> SourceTable::ChosenSystems() const
+std::map<qint32, QString> SourceTable::ChosenReadings() const
 {
-    const auto rows
-        = m_database.OpenQuery(QStringLiteral("SELECT LayerID, System FROM LayerSources WHERE System <> ''"));
-    std::map<qint32, QString> systems;
+    const auto rows = m_database.OpenQuery(QStringLiteral(
+        "SELECT LayerID, System, Geometry FROM LayerSources WHERE System <> '' OR Geometry <> ''"));
+    std::map<qint32, QString> readings;
     for (; !rows->AtEOF(); rows->MoveNext()) {
         if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
-            systems.emplace(*layerID, ToTextOrNone(rows->Field("System")));
+            readings.emplace(
+                *layerID,
+                ToTextOrNone(rows->Field("System")) + QLatin1Char('\n')
+                    + ToTextOrNone(rows->Field("Geometry")));
     }
-    return systems;
+    return readings;
 }
 
 } // namespace Orvane

@@ -35,9 +35,9 @@ public:
     /// Sets the layer's source, replacing its former one. path: absolute.
     void Set(const LayerSource& source);
 
-    /// The systems that were chosen for layers instead of what their sources name, by layer ID. Needs the
-    /// table as Create leaves it.
-    std::map<qint32, QString> ChosenSystems() const;
+    /// How layers are read that are not read plainly, by layer ID: a text that tells different systems, kinds
+    /// of geometry and columns apart. Needs the table as Create leaves it.
+    std::map<qint32, QString> ChosenReadings() const;
 
 private:
     std::vector<LayerSource> Where(const QString& condition, const std::vector<Value>& values) const;

@@ -36,6 +36,8 @@ const OGRGeometry* RowGeometry::Of(OGRFeature& feature)
 {
     if (!m_isTable)
         return feature.GetGeometryRef();
+    if (m_isLacking)
+        return nullptr;
     m_made = m_wkt >= 0 ? TextOf(feature) : PointOf(feature);
     return m_made.get();
 }

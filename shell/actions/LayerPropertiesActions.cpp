@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QPointer>
 
 namespace Orvane {
 
@@ -41,12 +42,15 @@ void LayerPropertiesActions::Use(MapSession& session)
 // chosen: the first of these is shown first; without them, the layer that was shown last.
 void LayerPropertiesActions::Ask(const std::vector<qint32>& chosen)
 {
+    const QPointer session(m_session); // the map may be saved under another name while it asks
     MapDocument& document = m_session->Document();
     if (m_session->Layers().empty())
         return;
     LayerPropertiesDialog dialog(
         document, m_session->Layers(), chosen.empty() ? m_last : chosen.front(), m_catalogue, &m_window);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    if (!session)
+        return;
     m_last = dialog.LayerID();
     const std::vector<LayerSource> changes = isAccepted ? dialog.Changes() : std::vector<LayerSource>();
     if (changes.empty())

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QLocale>
 #include <QMenu>
+#include <QPointer>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -110,11 +111,12 @@ void MapSystemActions::Tell(const ImportPlan& plan)
 
 void MapSystemActions::Ask()
 {
+    const QPointer session(m_session); // the map may be saved under another name while it asks
     MapDocument& document = m_session->Document();
     const QString before = document.System();
     const QString system = SystemChooser::Ask(
         m_catalogue, {tr("Coordinate System of the Map"), {}, before, SystemsOf(*m_session)}, &m_window);
-    if (system.isEmpty() || system == before)
+    if (!session || system.isEmpty() || system == before)
         return;
     m_session->Shell().RecordStep([&] {
         document.SetSystem(system);

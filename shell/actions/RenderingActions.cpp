@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QColorDialog>
 #include <QMenu>
+#include <QPointer>
 
 namespace Orvane {
 
@@ -55,7 +56,8 @@ void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
     RenderingDialog dialog(session.Document(), session.Layers(), &m_window);
     if (!chosen.empty())
         dialog.Choose(chosen.front());
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer alive(m_session); // the map may be saved under another name while it asks
+    if (dialog.exec() != QDialog::Accepted || !alive)
         return;
     QSet<qint32> changed;
     for (const auto& [layerID, rendering] : dialog.Changes()) {
@@ -67,10 +69,11 @@ void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
 
 void RenderingActions::AskForBackground()
 {
+    const QPointer alive(m_session);
     MapDocument& document = m_session->Document();
     const QColor before = document.Background();
     const QColor chosen = QColorDialog::getColor(before, &m_window, tr("Map Background"));
-    if (!chosen.isValid() || chosen == before)
+    if (!alive || !chosen.isValid() || chosen == before)
         return;
     m_session->Shell().RecordStep([&] {
         document.SetBackground(chosen);

@@ -3,6 +3,7 @@
 
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/undo/UndoHistory.h"
+#include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
@@ -17,6 +18,7 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include <utility>
 #include <vector>
 
 namespace Orvane {
@@ -55,12 +57,12 @@ ThemeActions::ThemeActions(QMenu& menu, LayerControl& control, QWidget& window)
 void ThemeActions::Use(MapSession& session)
 {
     m_session = &session;
-    m_open.clear();
     ShellClient& shell = session.Shell();
     // Queued: the step that is undone still tells the open editors about it.
     connect(
         &shell.History(), &UndoHistory::Changed, this,
-        [this] { Guard(&m_window, [this] { FollowHistory(); }); }, Qt::QueuedConnection);
+        [this] { LongWork::RunAfter(this, [this] { Guard(&m_window, [this] { FollowHistory(); }); }); },
+        Qt::QueuedConnection);
     shell.SetThemeNames([this](const QString& editorID) { return ThemeNameOf(editorID); });
     connect(&shell.Notifications(), &HostNotifications::LayerCreated, this, [this, &shell](qint32 layerID) {
         Guard(&m_window, [&] { AddToTheme(shell.CreatingEditor(), layerID); });
@@ -224,21 +226,24 @@ ThemeActions::OpenTheme ThemeActions::Stored(qint32 themeID) const
 // Undo and redo may change themes whose editors are open.
 void ThemeActions::FollowHistory()
 {
-    std::erase_if(m_open, [this](const auto& entry) { return !m_control.IsShown(EditorIDOf(entry.first)); });
     std::vector<qint32> changed;
     for (const auto& [themeID, known] : m_open) {
-        if (Stored(themeID) != known)
+        if (m_control.IsShown(EditorIDOf(themeID)) && Stored(themeID) != known)
             changed.push_back(themeID);
     }
     for (const qint32 themeID : changed)
         ShowAgain(themeID);
 }
 
+// The title of an editor has the name from when it was opened; its list can change while it is open.
 void ThemeActions::ShowAgain(qint32 themeID)
 {
-    if (!m_control.Close(EditorIDOf(themeID)))
-        return;
-    if (!Stored(themeID).name.isEmpty())
+    const QString editorID = EditorIDOf(themeID);
+    const OpenTheme now = Stored(themeID);
+    const bool hasNewName = std::exchange(m_open[themeID], now).name != now.name;
+    if (!hasNewName)
+        m_control.Show(editorID, std::make_shared<ThemeFilter>(now.layers));
+    else if (m_control.Close(editorID) && !now.name.isEmpty())
         Open(themeID);
 }
 

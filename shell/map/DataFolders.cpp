@@ -41,12 +41,13 @@ QString WithoutArchivePrefix(const QString& path)
 QStringList FoldersOf(const MapDocument& document, const std::vector<qint32>& layerIDs)
 {
     QStringList folders;
-    for (const LayerSource& source : document.Sources()) {
-        if (std::find(layerIDs.begin(), layerIDs.end(), source.layerID) == layerIDs.end())
-            continue;
-        const QString folder = FolderOfData(source.path);
+    for (const qint32 layerID : layerIDs) {
+        const std::optional<LayerSource> source = document.SourceOf(layerID);
+        const QString folder = source ? FolderOfData(source->path) : QString();
         if (!folder.isEmpty() && !folders.contains(folder))
             folders << folder;
+        if (folders.size() > MostFolders)
+            break; // too many already
     }
     return folders;
 }

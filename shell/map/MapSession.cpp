@@ -119,7 +119,7 @@ QString MapSession::ReadAndShow(View view, const SourceContents& known)
 {
     m_client.InvalidateLayerNames();
     const QString before = std::exchange(m_system, m_document->System());
-    m_chosenSystems = m_document->ChosenSystems();
+    m_chosenReadings = m_document->ChosenReadings();
     const bool isReprojected = before != m_system;
     if (isReprojected)
         m_layers.DropAllFeatures();
@@ -331,7 +331,7 @@ QStringList MapSession::LayersWithoutPlace() const
 // Undo and redo change systems too.
 void MapSession::FollowSystems()
 {
-    if (!m_isRead || (m_document->System() == m_system && m_document->ChosenSystems() == m_chosenSystems))
+    if (!m_isRead || (m_document->System() == m_system && m_document->ChosenReadings() == m_chosenReadings))
         return;
     const QString problems = ReadAndShow();
     if (!problems.isEmpty())

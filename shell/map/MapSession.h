@@ -128,7 +128,7 @@ private:
     SourceFollower m_follower;
     bool m_isRead = false; // at least once
     QString m_system; // that the map is shown in
-    std::map<qint32, QString> m_chosenSystems; // of the layers, as they are shown
+    std::map<qint32, QString> m_chosenReadings; // of the layers, as they are shown
     QTimer m_followSoon; // gathers the many changes of the history
     QTimer m_markSoon; // gathers the many steps of a zoom
     QTimer m_readSoon; // gathers the many layers of a step

@@ -11,6 +11,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace Orvane {
 
@@ -170,8 +171,9 @@ void ShellClient::IStyleEditorClient_EditorClosed(QWidget* form)
     const QString editorID = EditorIDOf(form);
     if (m_editors.remove(editorID) && form->isWindow())
         m_places.insert(editorID, form->pos());
+    m_choices.erase(editorID);
     if (editorID == m_choiceOf)
-        TakeChoice({});
+        TakeChoiceOf(m_choices.empty() ? QString() : m_choices.begin()->first);
     if (EditorDock* dock = DockOf(editorID))
         dock->EditorClosed(form);
     StandardClient::IStyleEditorClient_EditorClosed(form);
@@ -209,19 +211,22 @@ void ShellClient::SetChoiceFollower(std::function<void()> follow)
     m_followChoice = std::move(follow);
 }
 
-void ShellClient::TakeChoice(std::vector<qint32> layerIDs)
+void ShellClient::TakeChoiceOf(const QString& editorID)
 {
-    if (layerIDs == m_chosen)
+    m_choiceOf = editorID;
+    const auto found = m_choices.find(editorID);
+    std::vector<qint32> layerIDs = found == m_choices.end() ? std::vector<qint32>() : found->second;
+    if (std::exchange(m_chosen, std::move(layerIDs)) == m_chosen)
         return;
-    m_chosen = std::move(layerIDs);
     if (m_followChoice)
         m_followChoice();
 }
 
 void ShellClient::IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs)
 {
-    m_choiceOf = EditorIDOf(form);
-    TakeChoice(layerIDs);
+    const QString editorID = EditorIDOf(form);
+    m_choices[editorID] = layerIDs;
+    TakeChoiceOf(editorID);
 }
 
 std::vector<NodeCommand> ShellClient::INodeCommands_Commands(QWidget*)

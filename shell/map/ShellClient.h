@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <map>
 
 namespace Orvane {
 
@@ -85,7 +86,7 @@ protected:
 private:
     EditorDock* DockOf(const QString& editorID) const;
     const LayerCommand* CommandOf(const QString& id) const;
-    void TakeChoice(std::vector<qint32> layerIDs);
+    void TakeChoiceOf(const QString& editorID);
     void PlaceWindow(QWidget& form, const QString& editorID);
     void TakeOutOfDock(QWidget& form);
 
@@ -102,7 +103,8 @@ private:
     std::function<QString(qint32)> m_sourceOf;
     std::vector<LayerCommand> m_commands;
     std::vector<qint32> m_chosen;
-    QString m_choiceOf; // ID of the editor in which they are chosen
+    std::map<QString, std::vector<qint32>> m_choices; // by the ID of the editor
+    QString m_choiceOf; // the editor in which m_chosen are chosen
     std::function<void()> m_followChoice;
     QString m_creatingEditor;
 };

@@ -120,14 +120,14 @@ void SourceFollower::ReadAgain(std::vector<LayerSource> sources)
     Stop();
     m_progress = std::make_shared<Progress>();
     m_thread.reset(QThread::create([this, progress = m_progress, system = m_document.System(),
-                                    chosen = m_document.ChosenSystems(), sources = std::move(sources)] {
+                                    chosen = m_document.ChosenReadings(), sources = std::move(sources)] {
         SourceContents contents = ReadSources(sources, system, *progress);
         QMetaObject::invokeMethod(
             this,
             [this, system, chosen, contents = std::move(contents)] {
                 // Otherwise all of it has been read again already.
                 Guard(&m_owner, [&] {
-                    if (m_document.System() == system && m_document.ChosenSystems() == chosen)
+                    if (m_document.System() == system && m_document.ChosenReadings() == chosen)
                         emit Read(contents);
                 });
             },

@@ -13,6 +13,7 @@
 #include <OrvaneShellLib/Transaction.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <utility>
 
@@ -88,11 +89,12 @@ bool HasTables(const MapDocument& document)
 
 bool ChangeColumns(MapSession& session, QWidget& window)
 {
+    const QPointer alive(&session); // the map may be saved under another name while it asks
     MapDocument& document = session.Document();
     std::vector<LayerSource> layers = TableLayers(document);
     std::vector<TableChoice> choices = ReadOrGiveUp(
         &window, OpeningText(), [layers](Progress& progress) { return ChoicesOf(layers, progress); });
-    if (choices.empty() || !TableColumnsDialog::Ask(choices, Purpose::Changing, &window))
+    if (choices.empty() || !TableColumnsDialog::Ask(choices, Purpose::Changing, &window) || !alive)
         return false;
     bool isChanged = false;
     for (size_t i = 0; i < layers.size(); ++i)

@@ -69,7 +69,7 @@ void TableSelection::Step(int step)
 
 void TableSelection::TakeFromMap()
 {
-    if (m_isOwnChange)
+    if (m_isOwnChange || !m_reachesMap)
         return;
     std::set<qint64> ids = OnMap();
     if (ids == m_ids)

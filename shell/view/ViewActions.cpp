@@ -13,6 +13,8 @@
 #include <QMenu>
 #include <QToolBar>
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -102,7 +104,17 @@ void ViewActions::Use(MapSession& session)
 {
     m_session = &session;
     connect(&session, &MapSession::ChosenLayersChanged, this, &ViewActions::ShowWhatIsPossible);
+    connect(
+        &session, &MapSession::LayersRead, this, [this] { Guard(&m_window, [this] { FollowSystem(); }); });
+    m_system = session.Document().System();
     m_history.Clear();
+}
+
+void ViewActions::FollowSystem()
+{
+    const QString system = m_session->Document().System();
+    if (std::exchange(m_system, system) != system)
+        m_history.Restart();
 }
 
 void ViewActions::ShowWhatIsPossible()

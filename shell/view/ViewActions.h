@@ -47,6 +47,7 @@ private:
 
     QAction* Add(const Place& place, const Command& command);
     void Connect(const FeatureSelection& selection);
+    void FollowSystem();
     void ShowWhatIsPossible();
     void ZoomToLayers();
     QString WhyNotLayers() const;
@@ -56,6 +57,7 @@ private:
     MapCanvas& m_canvas;
     const FeatureSelection& m_selection;
     ViewHistory m_history;
+    QString m_system; // of the map, that the views in the history are in
     QPointer<MapSession> m_session;
     QAction* m_layers; // all four owned by the window
     QAction* m_selected;

@@ -58,8 +58,11 @@ void ScaleBox::ShowScale()
 
 void ScaleBox::keyPressEvent(QKeyEvent* event)
 {
+    const QList<int> listKeys = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
     if (event->key() == Qt::Key_Escape)
         Restore();
+    else if (listKeys.contains(event->key()))
+        showPopup(); // the closed list would begin at its end, far from the scale of now
     else
         QComboBox::keyPressEvent(event);
 }

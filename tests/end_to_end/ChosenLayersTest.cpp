@@ -66,12 +66,35 @@ TEST_F(ChosenLayers, AreNoLongerChosenWhenTheLayerControlIsClosed)
     EXPECT_TRUE(QTest::qWaitFor([this] { return !ZoomToLayer().isEnabled(); }));
 }
 
+TEST_F(ChosenLayers, AreThoseOfTheEditorInWhichTheUserClicksLast)
+{
+    const auto chosen = [this] { return m_window->Session().Shell().ChosenLayers(); };
+    ClickLayer(Form(), "Cemetery");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chosen().size() == 1; }));
+    const std::vector<qint32> cemetery = chosen();
+    AnswerPrompt("Town");
+    Choose("menuThemes", "New Theme");
+    QWidget* theme = Form("Theme Control: Town");
+    ASSERT_TRUE(theme);
+    ClickLayer(theme, Listed(theme).first());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chosen() != cemetery; }));
+    ClickLayer(Form(), "Cemetery"); // it is still marked there
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen() == cemetery; }));
+    ClickLayer(theme, Listed(theme).first());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chosen() != cemetery; }));
+    theme->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chosen() == cemetery; })) << "the other editor is still open";
+}
+
 TEST_F(ChosenLayers, HaveTheSameCommandsAsOnTheMap)
 {
     ClickLayer(Form(), "Cemetery");
     const QStringList texts = MenuOfList();
     EXPECT_EQ(
-        texts.mid(texts.size() - 3), QStringList({"Zoom to Layer", "Layer Rendering...", "Open Folder"}));
+        texts.mid(texts.size() - 5),
+        QStringList(
+            {"Zoom to Layer", "Attribute Table", "Layer Rendering...", "Layer Properties...",
+             "Open Folder"}));
 }
 
 TEST_F(ChosenLayers, LeadToTheGuidesSectionAboutStyling)

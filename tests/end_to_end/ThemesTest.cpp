@@ -186,6 +186,20 @@ TEST_F(Themes, ANameThatAnotherThemeHasIsRefused)
     Editor("Village")->close();
 }
 
+TEST_F(Themes, ALayerThatIsDeletedLeavesTheOpenEditor)
+{
+    MakeTheme("Town");
+    QWidget* editor = Editor("Town");
+    const QString layer = Listed(editor).first();
+    MessageBoxRobot user{BoxKey::Yes};
+    ClickLayer(editor, layer);
+    Press(editor, "cmdDelete");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Listed(editor).contains(layer); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Editor("Town"), editor) << "it was not closed";
+    editor->close();
+}
+
 TEST_F(Themes, UndoingANewThemeClosesItsEditor)
 {
     MakeTheme("Town");

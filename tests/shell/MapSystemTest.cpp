@@ -202,4 +202,12 @@ TEST_F(MapSystemTest, AMapThatShowsEverythingGoesOnDoingSoUntilItIsMoved)
     EXPECT_EQ(canvas.View().UnitsPerPixel(), scale);
 }
 
+TEST_F(MapSystemTest, ViewsOfTheFormerSystemCannotBeGoneBackTo)
+{
+    m_window->Canvas().ZoomIn();
+    ASSERT_TRUE(Action("actPreviousView")->isEnabled());
+    Choose("EPSG:3857");
+    EXPECT_FALSE(Action("actPreviousView")->isEnabled());
+}
+
 } // namespace Orvane

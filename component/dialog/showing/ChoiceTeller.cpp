@@ -21,6 +21,11 @@ ChoiceTeller::ChoiceTeller(LayerTrees& trees, QWidget& form) : m_trees(trees), m
     QObject::connect(&trees, &LayerTrees::CurrentNodeChanged, &m_soon, tellSoon);
     QObject::connect(&trees, &LayerTrees::ChosenNodesGone, &m_soon, tellSoon);
     QObject::connect(&trees, &LayerTrees::NodesChanged, &m_soon, tellSoon);
+    // Another editor may have told the host its choice meanwhile.
+    QObject::connect(&trees, &LayerTrees::CurrentNodeClicked, &m_soon, [this] {
+        m_told.reset();
+        TellSoon();
+    });
 }
 
 std::vector<qint32> ChoiceTeller::ReadChosen() const

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 class QWidget;
@@ -29,7 +30,7 @@ private:
     LayerTrees& m_trees;
     QWidget& m_form;
     QTimer m_soon;
-    std::vector<qint32> m_told;
+    std::optional<std::vector<qint32>> m_told = std::vector<qint32>(); // nothing: it is to be told again
 };
 
 } // namespace Orvane

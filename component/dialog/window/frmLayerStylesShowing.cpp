@@ -107,7 +107,10 @@ void frmLayerStyles::resizeEvent(QResizeEvent* event)
 void frmLayerStyles::showEvent(QShowEvent* event)
 {
     StyleEditorWindow::showEvent(event);
-    GuardEvent(this, [this] { m_parts->geometry.KeepOnScreen(); });
+    GuardEvent(this, [this] {
+        m_parts->geometry.KeepOnScreen();
+        m_parts->choice.TellSoon(); // it may have changed behind another tab
+    });
 }
 
 void frmLayerStyles::hideEvent(QHideEvent* event)

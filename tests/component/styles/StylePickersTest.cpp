@@ -105,16 +105,6 @@ TEST_F(StylePickersTest, WithBothFillColoursTransparentAPatternShowsTheLineColou
     EXPECT_EQ(BgrFromQColor(FillSampleAt(3, 2 + 8 * 10 + 5, 2)), 0x112233);
 }
 
-TEST_F(StylePickersTest, TheListSaysThatAFillWithoutColoursHasTheLineColour)
-{
-    pickers.Colour(1).SetColourSelection(TransparentColour);
-    EXPECT_EQ(fillStyles.toolTip(), "");
-    pickers.Colour(2).SetColourSelection(TransparentColour);
-    EXPECT_TRUE(fillStyles.toolTip().contains("line colour")) << qPrintable(fillStyles.toolTip());
-    pickers.Colour(1).SetColourSelection(0x0000FF);
-    EXPECT_EQ(fillStyles.toolTip(), "");
-}
-
 TEST_F(StylePickersTest, AChangedColourRepaintsTheSampleOfTheClosedList)
 {
     pickers.Colour(1).SetColourSelection(0x0000FF);

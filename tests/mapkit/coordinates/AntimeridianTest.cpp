@@ -101,6 +101,19 @@ TEST(Antimeridian, LongitudesBeyond180AreBroughtBack)
     EXPECT_EQ(Antimeridian::Longitude(180), 180);
 }
 
+TEST(Antimeridian, AStripAroundTheEarthFromZeroKeepsItsWidth)
+{
+    const Points strip = Square(0, 360);
+    ASSERT_TRUE(Antimeridian::IsPassed(strip));
+    double width = 0;
+    for (const Points& piece : Antimeridian::CutRing(strip)) {
+        const auto [west, east] = std::minmax_element(
+            piece.begin(), piece.end(), [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); });
+        width += east->x() - west->x();
+    }
+    EXPECT_DOUBLE_EQ(width, 360);
+}
+
 TEST(Antimeridian, TheFrameOfTheWorldStaysWhole)
 {
     EXPECT_FALSE(Antimeridian::IsPassed(Frame));

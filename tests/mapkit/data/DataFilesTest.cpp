@@ -44,6 +44,16 @@ TEST(DataFiles, TheFilesOfOneSourceStandForIt)
         QStringList({folder.Path("a.shp"), folder.Path("b.dbf"), folder.Path("town.gdb")}));
 }
 
+TEST(DataFiles, TheFilesOfAShapefileInCapitalsAreTheShapefile)
+{
+    const DataFolder folder;
+    for (const char* name : {"ROADS.SHP", "ROADS.DBF", "ROADS.PRJ"})
+        folder.Write(name, "");
+    EXPECT_EQ(
+        DataFiles::Meant({folder.Path("ROADS.DBF"), folder.Path("ROADS.SHP"), folder.Path("ROADS.PRJ")}),
+        QStringList(folder.Path("ROADS.SHP")));
+}
+
 TEST(DataFiles, AFolderWithoutKnownFilesIsMeantItself)
 {
     const DataFolder folder;

@@ -348,7 +348,7 @@ TEST_F(MapDocumentTest, TheSystemThatWasChosenForALayerIsKeptInCopiesToo)
         const auto opened = MapDocument::Open(m_folder.Path(name));
         EXPECT_EQ(opened->Sources()[0].system, "EPSG:25832") << name;
         EXPECT_EQ(opened->Sources()[1].system, "") << name;
-        EXPECT_EQ(opened->ChosenSystems(), (std::map<qint32, QString>{{layerID, "EPSG:25832"}})) << name;
+        EXPECT_EQ(opened->ChosenReadings(), (std::map<qint32, QString>{{layerID, "EPSG:25832\n"}})) << name;
     }
 }
 

@@ -98,6 +98,7 @@ TEST_F(TableQuestionsTest, TheColumnsAreChangedLaterAndThatIsUndone)
     EXPECT_EQ(Bounds(), (Box{1, 2, 3, 4}));
     Action("actUndo")->trigger();
     EXPECT_EQ(m_window->Document().Sources().at(0).choice.columns.x, "lon");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Bounds() == Box{13, 52, 14, 53}; })) << "the map follows";
 }
 
 } // namespace Orvane

@@ -253,7 +253,10 @@ TEST_F(AttributeTableTest, SelectsNothingOnTheMapIfTheLayerIsNotSelectable)
     OpenAndWait(false);
     ClickRow(0);
     EXPECT_THAT(m_features.Keys(), IsEmpty());
-    EXPECT_EQ(Count(), "Rows: 4    Selected: 1    The layer is not selectable on the map.");
+    const QString selected = "Rows: 4    Selected: 1    The layer is not selectable on the map.";
+    EXPECT_EQ(Count(), selected);
+    m_features.Set({{7, 1}}); // in another layer
+    EXPECT_EQ(Count(), selected);
 }
 
 TEST_F(AttributeTableTest, AsksTheMapToShowTheSelectedFeatures)

@@ -126,6 +126,15 @@ TEST_F(ScaleBoxTest, OffersUsualScales)
     EXPECT_EQ(Text(), ScaleText(Scale()));
 }
 
+TEST_F(ScaleBoxTest, OpensItsListByAnArrowKeyWithoutZooming)
+{
+    const double before = Scale();
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Scale(), before);
+    EXPECT_TRUE(m_box->view()->isVisible());
+    m_box->hidePopup();
+}
+
 TEST_F(ScaleBoxTest, LeavesTheMapAloneWhenTheWheelTurnsOverIt)
 {
     const double scale = Scale();
