@@ -193,7 +193,7 @@ TEST_F(Themes, ALayerThatIsDeletedLeavesTheOpenEditor)
     const QString layer = Listed(editor).first();
     MessageBoxRobot user{BoxKey::Yes};
     ClickLayer(editor, layer);
-    Press(editor, "cmdDelete");
+    Press(editor, "cmdDeleteLayer");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !Listed(editor).contains(layer); }));
     QCoreApplication::processEvents();
     EXPECT_EQ(Editor("Town"), editor) << "it was not closed";
