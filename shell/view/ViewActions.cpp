@@ -3,6 +3,7 @@
 
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
+#include "mapkit/document/MapDocument.h"
 #include "shell/features/FeatureBounds.h"
 #include "shell/features/FeatureSelection.h"
 #include "shell/map/MapSession.h"
