@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QListView>
 #include <QStatusBar>
 
 namespace Orvane {
@@ -39,6 +40,8 @@ protected:
     static void AnswerFile(const QString& path)
     {
         WhenAsked([path](QDialog& dialog) {
+            // Without the focus, the line would leave the proposed file selected.
+            dialog.findChild<QListView*>("listView")->clearSelection();
             auto* line = dialog.findChild<QLineEdit*>("fileNameEdit");
             line->setText(path);
             QMetaObject::invokeMethod(&dialog, "accept");
