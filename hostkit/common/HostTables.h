@@ -19,7 +19,7 @@ inline constexpr char TableName[] = "HostTables";
 /// 0 when none is stored.
 qint32 VersionOf(ILayerStore& store, const QString& name);
 
-/// Stores the version.
+/// Stores the version. It is not a part of undo steps: undo leaves it as it is.
 void SetVersion(ILayerStore& store, const QString& name, qint32 version);
 
 /// Raises HostError::TablesTooNew if a newer program has written the tables. text: the description, for the
