@@ -49,6 +49,25 @@ bool IsPlaced(GDALDataset& dataset)
     return dataset.GetGeoTransform(transform.data()) == CE_None || dataset.GetGCPCount() > 0;
 }
 
+// "photo.pgw" for "photo.png".
+QString WorldFileOf(const QFileInfo& picture)
+{
+    const QString suffix = picture.suffix();
+    if (suffix.isEmpty())
+        return picture.fileName() + QLatin1String(".wld");
+    return picture.completeBaseName() + QLatin1Char('.') + suffix.front() + suffix.back() + QLatin1Char('w');
+}
+
+[[noreturn]] void FailUnplaced(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString text = QCoreApplication::translate(
+        "RasterSource",
+        "\"%1\" does not say where it lies: there is no world file \"%2\" beside it, and it contains no "
+        "coordinates of its own, as a GeoTIFF does.");
+    throw RunTimeError(RasterNotPlaced, text.arg(file.fileName(), WorldFileOf(file)));
+}
+
 // The pixels of an image of that size that the picture covers.
 QRect CoveredPixels(const Box& picture, const Box& extent, QSize pixels)
 {
@@ -72,14 +91,15 @@ Box MapArea(const QRect& area, const Box& extent, QSize pixels)
 
 } // namespace
 
-RasterSource::RasterSource(const QString& path) : m_path(path)
+RasterSource::RasterSource(const QString& path, const QString& chosenSystem)
+    : m_path(path), m_chosenSystem(chosenSystem)
 {
     PrepareGdal();
     const ReadingBound bound;
     m_dataset = OpenRaster(path);
     const GdalErrors quiet;
     if (!IsPlaced(*m_dataset))
-        FailReading(path, QCoreApplication::translate("RasterSource", "it is not georeferenced"));
+        FailUnplaced(path);
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
     RequireReadingInTime(path);
 }
@@ -93,12 +113,12 @@ RasterSource::~RasterSource()
 QString RasterSource::System() const
 {
     const QMutexLocker lock(&m_mutex);
-    return SystemText(m_dataset->GetSpatialRef());
+    return SystemOfRaster(*m_dataset);
 }
 
 Box RasterSource::Extent() const
 {
-    return ExtentIn(System());
+    return ExtentIn({});
 }
 
 Box RasterSource::ExtentIn(const QString& mapSystem) const
@@ -106,7 +126,22 @@ Box RasterSource::ExtentIn(const QString& mapSystem) const
     const QMutexLocker lock(&m_mutex);
     const GdalErrors quiet;
     const ReadingBound bound;
-    return PlaceRaster(*m_dataset, mapSystem).extent;
+    return PlaceRaster(*m_dataset, {mapSystem, m_chosenSystem}).extent;
+}
+
+RasterDetails RasterSource::Details() const
+{
+    const QMutexLocker lock(&m_mutex);
+    const GdalErrors quiet;
+    RasterDetails details;
+    if (GDALDriver* driver = m_dataset->GetDriver())
+        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
+    details.size = {m_dataset->GetRasterXSize(), m_dataset->GetRasterYSize()};
+    details.bands = m_dataset->GetRasterCount();
+    std::array<double, 6> transform = {};
+    if (m_dataset->GetGeoTransform(transform.data()) == CE_None)
+        details.pixelSize = {std::hypot(transform[1], transform[4]), std::hypot(transform[2], transform[5])};
+    return details;
 }
 
 QImage RasterSource::Draw(
@@ -116,14 +151,15 @@ QImage RasterSource::Draw(
     const GdalErrors errors;
     const ReadingBound untilCancelled(cancelled);
     ReadingBound bound(ReadingBound::LongestWait);
-    const RasterPlace place = PlaceRaster(*m_dataset, mapSystem);
+    const RasterSystems systems{mapSystem, m_chosenSystem};
+    const RasterPlace place = PlaceRaster(*m_dataset, systems);
     if (cancelled || !place.extent.Intersects(extent))
         return {};
     const QRect area = CoveredPixels(place.extent, extent, pixels);
     if (area.isEmpty())
         return {};
     const auto warped = WarpRaster(
-        *m_dataset, place, {mapSystem, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
+        *m_dataset, place, {systems, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
     if (!warped)
         FailReading(m_path, errors.First());
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -135,6 +171,16 @@ QImage RasterSource::Draw(
         bound.Renew();
     }
     return cancelled ? QImage() : image;
+}
+
+SourceLayer DescribeRaster(const QString& path)
+{
+    const RasterSource raster(path);
+    SourceLayer layer;
+    layer.dataKind = DataKind::Raster;
+    layer.system = raster.System();
+    layer.extent = raster.Extent();
+    return layer;
 }
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/RasterWarp.h"
 
+#include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
 
 #include <QStringList>
@@ -30,15 +31,18 @@ QString Number(double value)
     return QString::number(value, 'g', 17);
 }
 
-bool HasSystem(GDALDataset& raster)
-{
-    return raster.GetSpatialRef() || raster.GetGCPSpatialRef();
-}
-
 // Empty for a text that is not a system: GDAL would open it as a file.
 QString KnownSystemText(const QString& system)
 {
     return ReferenceOf(system).IsEmpty() ? QString() : system;
+}
+
+// The system to take instead of the raster's own; empty for its own.
+QString AssumedSystem(GDALDataset& raster, const RasterSystems& systems)
+{
+    if (!systems.chosen.isEmpty())
+        return KnownSystemText(systems.chosen);
+    return SystemOfRaster(raster).isEmpty() ? KnownSystemText(systems.map) : QString();
 }
 
 using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
@@ -65,11 +69,12 @@ std::unique_ptr<GDALDataset, Releaser> Thinned(GDALDataset& raster, int step)
 QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool blend)
 {
     QStringList list = {"-of", "VRT", "-dstalpha", "-ovr", "NONE", "-r", blend ? "bilinear" : "near"};
-    const QString system = KnownSystemText(target.system);
+    const QString system = KnownSystemText(target.systems.map);
+    const QString assumed = AssumedSystem(raster, target.systems);
     if (!system.isEmpty())
         list << "-t_srs" << system;
-    if (!system.isEmpty() && !HasSystem(raster))
-        list << "-s_srs" << system;
+    if (!assumed.isEmpty())
+        list << "-s_srs" << assumed;
     const Box& box = target.extent;
     list << "-te" << Number(box.minX) << Number(box.minY) << Number(box.maxX) << Number(box.maxY);
     list << "-ts" << QString::number(target.pixels.width()) << QString::number(target.pixels.height());
@@ -78,12 +83,21 @@ QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool 
 
 } // namespace
 
-RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem)
+QString SystemOfRaster(GDALDataset& raster)
 {
-    const QByteArray system = HasSystem(raster) ? KnownSystemText(mapSystem).toUtf8() : QByteArray();
+    const QString system = SystemText(raster.GetSpatialRef());
+    return system.isEmpty() ? SystemText(raster.GetGCPSpatialRef()) : system;
+}
+
+RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
+{
+    const QByteArray system = KnownSystemText(systems.map).toUtf8();
+    const QByteArray assumed = AssumedSystem(raster, systems).toUtf8();
     CPLStringList options;
     if (!system.isEmpty())
         options.SetNameValue("DST_SRS", system.constData());
+    if (!assumed.isEmpty())
+        options.SetNameValue("SRC_SRS", assumed.constData());
     void* transformer
         = GDALCreateGenImgProjTransformer2(GDALDataset::ToHandle(&raster), nullptr, options.List());
     if (!transformer)

@@ -32,12 +32,12 @@ protected:
         return RasterSource(Path()).Draw(system, extent, pixels, m_cancelled);
     }
 
-    QString ErrorOf(const QString& path)
+    QString ErrorOf(const QString& path, int number = SourceUnreadable)
     {
         try {
             RasterSource source(path);
         } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.Number(), SourceUnreadable);
+            EXPECT_EQ(error.Number(), number);
             return error.Description();
         }
         ADD_FAILURE() << "no error";
@@ -179,7 +179,8 @@ TEST_F(RasterSourceTest, CancelledDrawingEnds)
 TEST_F(RasterSourceTest, APictureThatDoesNotSayWhereItLiesIsRefused)
 {
     WriteRaster(Path(), {.system = nullptr, .isPlaced = false}, Halves);
-    EXPECT_TRUE(ErrorOf(Path()).contains("photo.tif"));
+    const QString error = ErrorOf(Path(), RasterNotPlaced);
+    EXPECT_TRUE(error.contains("photo.tif") && error.contains("photo.tfw")) << qPrintable(error);
 }
 
 TEST_F(RasterSourceTest, BrokenFilesAreNamed)
