@@ -2,6 +2,7 @@
 #include "mapkit/data/RasterWarp.h"
 
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemReference.h"
 
 #include <QStringList>
@@ -13,10 +14,13 @@
 #include <gdal_alg.h>
 #include <gdal_priv.h>
 #include <gdal_utils.h>
+#include <optional>
 
 namespace Orvane {
 
 namespace {
+
+constexpr double WholeTurn = 359.9; // degrees; some systems leave out the date line itself
 
 CPLStringList Arguments(const QStringList& texts)
 {
@@ -81,15 +85,42 @@ QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool 
     return list;
 }
 
-} // namespace
-
-QString SystemOfRaster(GDALDataset& raster)
+// The box that the raster covers in its own system; nothing if its rows are not parallel to the axes.
+std::optional<Box> OwnBox(GDALDataset& raster)
 {
-    const QString system = SystemText(raster.GetSpatialRef());
-    return system.isEmpty() ? SystemText(raster.GetGCPSpatialRef()) : system;
+    std::array<double, 6> to = {};
+    if (raster.GetGeoTransform(to.data()) != CE_None || to[2] != 0 || to[4] != 0)
+        return std::nullopt;
+    Box box;
+    box.Add(QPointF(to[0], to[3]));
+    box.Add(QPointF(to[0] + to[1] * raster.GetRasterXSize(), to[3] + to[5] * raster.GetRasterYSize()));
+    return box;
 }
 
-RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
+// Without what lies beyond a map of the whole world: web Mercator has no room for the poles.
+Box WithinWorld(Box box, const QString& system, const QString& mapSystem)
+{
+    const SystemFacts map = FactsOf(mapSystem);
+    if (map.isGeographic || map.area.Width() < WholeTurn || !FactsOf(system).isGeographic)
+        return box;
+    box.minY = std::max(box.minY, map.area.minY);
+    box.maxY = std::min(box.maxY, map.area.maxY);
+    return box;
+}
+
+// Empty if it cannot be found from the box alone.
+Box PlacedBox(GDALDataset& raster, const Box& own, const RasterSystems& systems)
+{
+    const QString map = KnownSystemText(systems.map);
+    const QString chosen = KnownSystemText(systems.chosen);
+    const QString system = chosen.isEmpty() ? SystemOfRaster(raster) : chosen;
+    if (map.isEmpty() || system.isEmpty() || map == system)
+        return own;
+    return Transformed(WithinWorld(own, system, map), system, map);
+}
+
+// As GDAL would make a raster of it in the map's system.
+RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
 {
     const QByteArray system = KnownSystemText(systems.map).toUtf8();
     const QByteArray assumed = AssumedSystem(raster, systems).toUtf8();
@@ -113,6 +144,24 @@ RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
     const bool known = result == CE_None
         && std::all_of(box.begin(), box.end(), [](double value) { return std::isfinite(value); });
     return known ? RasterPlace{{box[0], box[1], box[2], box[3]}, std::abs(transform[1])} : RasterPlace();
+}
+
+} // namespace
+
+QString SystemOfRaster(GDALDataset& raster)
+{
+    const QString system = SystemText(raster.GetSpatialRef());
+    return system.isEmpty() ? SystemText(raster.GetGCPSpatialRef()) : system;
+}
+
+RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
+{
+    const std::optional<Box> own = OwnBox(raster);
+    const Box placed = own ? PlacedBox(raster, *own, systems) : Box();
+    if (placed.IsEmpty())
+        return SuggestedPlace(raster, systems);
+    const double pixels = double(raster.GetRasterXSize()) * raster.GetRasterYSize();
+    return {placed, std::sqrt(placed.Width() * placed.Height() / pixels)};
 }
 
 std::unique_ptr<GDALDataset>

@@ -66,7 +66,7 @@ bool IsSameData(const LayerSource& one, const LayerSource& other)
 }
 
 template <typename Data>
-std::shared_ptr<const Data> Find(const std::map<qint32, std::shared_ptr<const Data>>& all, qint32 layerID)
+std::shared_ptr<const Data> DataOf(const std::map<qint32, std::shared_ptr<const Data>>& all, qint32 layerID)
 {
     const auto found = all.find(layerID);
     return found == all.end() ? nullptr : found->second;
@@ -217,8 +217,8 @@ void MapLayers::FitAttributes()
 
 void MapLayers::FitData(MapLayer& layer) const
 {
-    layer.features = Find(m_features, layer.layerID);
-    layer.raster = Find(m_rasters, layer.layerID);
+    layer.features = DataOf(m_features, layer.layerID);
+    layer.raster = DataOf(m_rasters, layer.layerID);
 }
 
 MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
