@@ -51,8 +51,10 @@ QString RasterOf(const QString& path)
 {
     const QFileInfo file(path);
     for (const char* added : {".aux.xml", ".ovr"}) {
-        const QString main = path.chopped(std::min(path.size(), qsizetype(qstrlen(added))));
-        if (path.endsWith(QLatin1String(added), Qt::CaseInsensitive) && QFileInfo(main).isFile())
+        if (!path.endsWith(QLatin1String(added), Qt::CaseInsensitive))
+            continue;
+        const QString main = path.chopped(int(qstrlen(added)));
+        if (QFileInfo(main).isFile())
             return main;
     }
     const bool mayBelong
