@@ -2,12 +2,13 @@
 #include "mapkit/data/MapRaster.h"
 
 #include "mapkit/common/Progress.h"
+#include "mapkit/data/SourceReader.h"
 
 namespace Orvane {
 
-MapRaster::MapRaster(const QString& path, const QString& mapSystem, const QString& chosenSystem)
-    : m_source(path, chosenSystem), m_mapSystem(mapSystem),
-      m_sourceSystem(chosenSystem.isEmpty() ? m_source.System() : chosenSystem),
+MapRaster::MapRaster(const LayerSource& source, const QString& mapSystem)
+    : m_source(source.path, source.ogrLayer, source.system), m_mapSystem(mapSystem),
+      m_sourceSystem(source.system.isEmpty() ? m_source.System() : source.system),
       m_extent(m_source.ExtentIn(mapSystem))
 {
 }

@@ -11,12 +11,14 @@
 
 namespace Orvane {
 
+struct LayerSource;
+
 /// A raster at its place in a map, warped into the map's system. Any thread may draw it.
 class MapRaster
 {
 public:
-    /// Opens the file; raises what RasterSource raises. chosenSystem: as for RasterSource.
-    MapRaster(const QString& path, const QString& mapSystem, const QString& chosenSystem = {});
+    /// Opens the data of a raster layer; raises what RasterSource raises.
+    MapRaster(const LayerSource& source, const QString& mapSystem);
 
     /// In map units; empty if the raster cannot be shown in the map's system.
     const Box& Extent() const { return m_extent; }

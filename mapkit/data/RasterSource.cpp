@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/RasterShades.h"
 #include "mapkit/data/RasterWarp.h"
 #include "mapkit/data/ReadingBound.h"
@@ -26,14 +27,15 @@ namespace {
 
 constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
 
-std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
+std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& member)
 {
     const QString whyNot = WhyNotOpened(path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
+    const QString name = member.isEmpty() ? path : NameInArchive(path, member);
     const GdalErrors errors;
     constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
-    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(path.toUtf8().constData(), flags));
+    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(name.toUtf8().constData(), flags));
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
     RequireReadingInTime(path);
@@ -91,15 +93,15 @@ Box MapArea(const QRect& area, const Box& extent, QSize pixels)
 
 } // namespace
 
-RasterSource::RasterSource(const QString& path, const QString& chosenSystem)
+RasterSource::RasterSource(const QString& path, const QString& member, const QString& chosenSystem)
     : m_path(path), m_chosenSystem(chosenSystem)
 {
     PrepareGdal();
     const ReadingBound bound;
-    m_dataset = OpenRaster(path);
+    m_dataset = OpenRaster(path, member);
     const GdalErrors quiet;
     if (!IsPlaced(*m_dataset))
-        FailUnplaced(path);
+        FailUnplaced(member.isEmpty() ? path : member);
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
     RequireReadingInTime(path);
 }
@@ -173,10 +175,11 @@ QImage RasterSource::Draw(
     return cancelled ? QImage() : image;
 }
 
-SourceLayer DescribeRaster(const QString& path)
+SourceLayer DescribeRaster(const QString& path, const QString& member)
 {
-    const RasterSource raster(path);
+    const RasterSource raster(path, member);
     SourceLayer layer;
+    layer.name = member;
     layer.dataKind = DataKind::Raster;
     layer.system = raster.System();
     layer.extent = raster.Extent();

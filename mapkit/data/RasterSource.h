@@ -42,8 +42,9 @@ class RasterSource
 {
 public:
     /// Raises if no driver can open the file, and RasterNotPlaced if the file is not georeferenced.
-    /// chosenSystem: its coordinate system, instead of the one that it names; empty for that one.
-    explicit RasterSource(const QString& path, const QString& chosenSystem = {});
+    /// member: of an archive, as RastersInArchive names it; empty for a file by itself. chosenSystem: its
+    /// coordinate system, instead of the one that it names; empty for that one.
+    explicit RasterSource(const QString& path, const QString& member = {}, const QString& chosenSystem = {});
     ~RasterSource();
     RasterSource(const RasterSource&) = delete;
     RasterSource& operator=(const RasterSource&) = delete;
@@ -72,7 +73,7 @@ private:
     mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };
 
-/// The raster of a file as a layer that was found. Raises as RasterSource does.
-SourceLayer DescribeRaster(const QString& path);
+/// The raster of a file, or in an archive, as a layer that was found. Raises as RasterSource does.
+SourceLayer DescribeRaster(const QString& path, const QString& member = {});
 
 } // namespace Orvane

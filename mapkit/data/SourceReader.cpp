@@ -44,8 +44,7 @@ void ReadSource(
     Progress& progress)
 {
     if (source.kind == DataKind::Raster) {
-        contents.rasters[source.layerID]
-            = std::make_shared<const MapRaster>(source.path, mapSystem, source.system);
+        contents.rasters[source.layerID] = std::make_shared<const MapRaster>(source, mapSystem);
         return;
     }
     auto features

@@ -86,12 +86,12 @@ void AddMissingFile(Problems& problems, const QString& path)
     problems.push_back({Kind::MissingData, text.arg(path), false});
 }
 
-void AddRaster(Problems& problems, const QString& path)
+void AddRaster(Problems& problems, const QString& path, const QString& member = {})
 {
     if (!QFileInfo::exists(path))
         return AddMissingFile(problems, path);
     try {
-        const RasterSource raster(path);
+        const RasterSource raster(path, member);
     } catch (const RunTimeError& error) {
         problems.push_back({Kind::UnreadableData, error.Description(), false});
     }
@@ -100,10 +100,10 @@ void AddRaster(Problems& problems, const QString& path)
 void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
 {
     std::map<QString, std::set<QString>> layerNames;
-    std::set<QString> rasters;
+    std::set<std::pair<QString, QString>> rasters; // path, name in an archive
     for (const LayerSource& source : sources) {
         if (source.kind == DataKind::Raster)
-            rasters.insert(source.path);
+            rasters.insert({source.path, source.ogrLayer});
         else
             layerNames[source.path].insert(source.ogrLayer);
     }
@@ -113,8 +113,8 @@ void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
         else
             AddMissingFile(problems, path);
     }
-    for (const QString& path : rasters)
-        AddRaster(problems, path);
+    for (const auto& [path, member] : rasters)
+        AddRaster(problems, path, member);
 }
 
 void AddUnknownSystems(Problems& problems, const std::vector<LayerSource>& sources)

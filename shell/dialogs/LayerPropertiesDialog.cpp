@@ -166,7 +166,7 @@ void LayerPropertiesDialog::ReadDetails(const LayerSource& source)
 
 void LayerPropertiesDialog::ReadRaster(const LayerSource& source)
 {
-    const RasterSource raster(source.path);
+    const RasterSource raster(source.path, source.ogrLayer);
     m_named = raster.System();
     ShowRaster(raster.Details());
     m_ui->lblExtent->setText(ExtentText(raster.Extent()));
@@ -191,8 +191,9 @@ void LayerPropertiesDialog::ShowCaptions(bool isRaster)
 {
     m_ui->lblGeometryCaption->setText(isRaster ? tr("Raster:") : tr("Geometry:"));
     m_ui->lblCountCaption->setText(isRaster ? tr("Pixel size:") : tr("Features:"));
-    m_ui->lblSourceLayerCaption->setVisible(!isRaster);
-    m_ui->lblSourceLayer->setVisible(!isRaster);
+    const bool isNamed = !isRaster || !m_stored.at(LayerID()).ogrLayer.isEmpty();
+    m_ui->lblSourceLayerCaption->setVisible(isNamed);
+    m_ui->lblSourceLayer->setVisible(isNamed);
 }
 
 void LayerPropertiesDialog::ShowDetails(const SourceDetails& details)

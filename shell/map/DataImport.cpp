@@ -4,6 +4,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataFiles.h"
+#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
@@ -105,14 +106,14 @@ bool LookForFeatures(const QString& path, FoundData& data)
     return !layers.empty() || !tables.empty();
 }
 
-// Adds the raster of a file. Returns why there is none; empty if there is one.
-QString LookForRaster(const QString& path, FoundData& data, const QString& otherwise)
+// Adds the raster of a file, or one in an archive. Returns why it cannot be added; empty if it was.
+QString TakeRaster(const QString& path, const QString& member, FoundData& data, const QString& otherwise)
 {
     try {
-        AddLayers(data, QFileInfo(path).absoluteFilePath(), {DescribeRaster(path)});
+        AddLayers(data, QFileInfo(path).absoluteFilePath(), {DescribeRaster(path, member)});
         return {};
     } catch (const RunTimeError& error) {
-        const bool isRaster = error.Number() == RasterNotPlaced || DataFiles::IsNamedAsRaster(path);
+        const bool isRaster = error.Number() == RasterNotPlaced || DataFiles::IsNamedAsRaster(path + member);
         return isRaster ? error.Description() : otherwise;
     }
 }
@@ -132,11 +133,14 @@ void LookIntoFile(const QString& path, FoundData& data)
     } catch (const RunTimeError& error) {
         problem = error.Description();
     }
-    if (hasFeatures && !MayHoldBoth(path))
-        return;
-    problem = LookForRaster(path, data, problem);
-    if (!hasFeatures && !problem.isEmpty())
-        data.problems << problem;
+    const QStringList members = RastersInArchive(path);
+    for (const QString& member : members)
+        data.problems << TakeRaster(path, member, data, problem);
+    if (members.isEmpty() && (!hasFeatures || MayHoldBoth(path))) {
+        problem = TakeRaster(path, {}, data, problem);
+        data.problems << (hasFeatures ? QString() : problem);
+    }
+    data.problems.removeAll(QString());
 }
 
 std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)

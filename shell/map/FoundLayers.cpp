@@ -57,6 +57,8 @@ QString LayerTitle(const QString& path, const SourceLayer& layer)
 {
     const bool isNameless = layer.name.isEmpty() || OpenedData::IsNameless(layer.name);
     const QString name = isNameless ? SourceTitle(path) : layer.name;
+    if (layer.dataKind == DataKind::Raster)
+        return SourceTitle(isNameless ? path : layer.name);
     if (layer.choice.kinds.empty())
         return name;
     switch (layer.kind) {

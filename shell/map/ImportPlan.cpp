@@ -89,7 +89,7 @@ std::vector<SourceLayer> LayersIn(const QString& path)
 Box ExtentOfRaster(const LayerSource& source, const QString& system)
 {
     try {
-        return MapRaster(source.path, system, source.system).Extent();
+        return MapRaster(source, system).Extent();
     } catch (const RunTimeError&) { // it is reported when the map is read
         return {};
     }

@@ -4,6 +4,7 @@
 #include "mapkit/Drawings.h"
 #include "mapkit/RasterFile.h"
 #include "mapkit/canvas/MapPicture.h"
+#include "mapkit/data/SourceReader.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -38,7 +39,7 @@ protected:
         MapLayer layer;
         layer.layerID = layerID;
         layer.priority = 255;
-        layer.raster = std::make_shared<const MapRaster>(m_path, "EPSG:4326");
+        layer.raster = std::make_shared<const MapRaster>(LayerSource{layerID, m_path, {}, {}}, "EPSG:4326");
         return layer;
     }
 

@@ -3,6 +3,7 @@
 
 #include "mapkit/DataFolder.h"
 #include "mapkit/RasterFile.h"
+#include "mapkit/data/SourceReader.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -23,6 +24,8 @@ protected:
         WriteRaster(m_path, spec, [](int, int, int band) { return band == 2 ? 255 : 0; });
     }
 
+    LayerSource Source() const { return {1, m_path, {}, {}}; }
+
     QImage Painted(const MapView& view, int scale = 1, double opacity = 1) const
     {
         QImage paper(view.Size() * scale, QImage::Format_ARGB32);
@@ -30,7 +33,7 @@ protected:
         QPainter painter(&paper);
         painter.setOpacity(opacity);
         painter.scale(scale, scale);
-        PaintRaster(painter, MapRaster(m_path, "EPSG:4326"), view, m_cancelled);
+        PaintRaster(painter, MapRaster(Source(), "EPSG:4326"), view, m_cancelled);
         return paper;
     }
 
@@ -70,7 +73,9 @@ TEST_F(RasterPainterTest, NothingIsPaintedBesideTheRasterOrWhenItIsCancelled)
 TEST_F(RasterPainterTest, LiesWhereTheChosenSystemPutsIt)
 {
     Write({.bands = 3, .transform = {0, 1000, 0, 100000, 0, -1000}, .system = nullptr});
-    const MapRaster raster(m_path, "EPSG:4326", "EPSG:3857");
+    LayerSource source = Source();
+    source.system = "EPSG:3857";
+    const MapRaster raster(source, "EPSG:4326");
     EXPECT_NEAR(raster.Extent().maxX, 0.898, 0.01);
     EXPECT_EQ(raster.SourceSystem(), "EPSG:3857");
     EXPECT_EQ(raster.Source().System(), "");

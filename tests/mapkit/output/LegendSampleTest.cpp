@@ -5,6 +5,7 @@
 #include "hostkit/common/FillPatterns.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/RasterFile.h"
+#include "mapkit/data/SourceReader.h"
 #include "mapkit/output/PageSettings.h"
 #include "samples/FillSample.h"
 
@@ -162,7 +163,7 @@ TEST(LegendSample, ARasterShowsItsMiddle)
         return band == (column < 50 ? 1 : 2) ? 255 : 0;
     });
     LegendRow row = Row(FeatureKind::Area, Filled(0));
-    row.raster = std::make_shared<const MapRaster>(path, "EPSG:4326");
+    row.raster = std::make_shared<const MapRaster>(LayerSource{1, path, {}, {}}, "EPSG:4326");
     const QImage image = Painted(row);
     EXPECT_EQ(image.pixelColor(8, 14), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(40, 14), QColor(Qt::green));

@@ -3,12 +3,14 @@
 #include "mapkit/DataFolder.h"
 #include "mapkit/RasterFile.h"
 #include "mapkit/UnnamedFile.h"
+#include "mapkit/ZipFile.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/MapRaster.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/ImportPlan.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <gmock/gmock.h>
 
@@ -23,6 +25,13 @@ const std::array<double, 6> UtmPlace = {500000, 100, 0, 5510000, 0, -100};
 double Grey(int, int, int)
 {
     return 99;
+}
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
 }
 
 class RasterImportTest : public testing::Test
@@ -99,6 +108,36 @@ TEST_F(RasterImportTest, AWorldFileIsEnough)
     ASSERT_EQ(LayerCount(data), 1u);
     EXPECT_EQ(data.sources[0].layers[0].extent, (Box{20, 20, 30, 30}));
     EXPECT_EQ(data.sources[0].layers[0].system, "");
+}
+
+TEST_F(RasterImportTest, RastersInAnArchiveAreLayersAmongItsOtherData)
+{
+    const QString square = m_folder.WriteSquare("square.geojson");
+    const QString zip = m_folder.Path("town.zip");
+    WriteZip(
+        zip,
+        {{"square.geojson", ReadAll(square)},
+         {"photos/east.tif", ReadAll(Raster("a.tif"))},
+         {"west.tif", ReadAll(Raster("b.tif"))}});
+    const FoundData data = Found({zip});
+    EXPECT_TRUE(data.problems.isEmpty()) << qPrintable(data.problems.join(' '));
+    ASSERT_EQ(data.sources.size(), 1u);
+    QStringList names;
+    for (const SourceLayer& layer : data.sources[0].layers)
+        names << LayerFor(zip, layer, 0).name;
+    EXPECT_EQ(names, QStringList({"square", "east", "west"}));
+    const SourceContents contents = ReadFound(data, "EPSG:4326", m_progress);
+    ASSERT_EQ(contents.rasters.size(), 2u) << qPrintable(contents.FailureText());
+    EXPECT_EQ(contents.rasters.at(1)->Extent(), (Box{0, 0, 10, 10}));
+}
+
+TEST_F(RasterImportTest, ABrokenRasterInAnArchiveIsNamedAndTheOthersAreFound)
+{
+    const QString zip = m_folder.Path("town.zip");
+    WriteZip(zip, {{"cut.tif", "II*"}, {"west.tif", ReadAll(Raster("b.tif"))}});
+    const FoundData data = Found({zip});
+    EXPECT_EQ(LayerCount(data), 1u);
+    EXPECT_EQ(data.problems.size(), 1);
 }
 
 TEST_F(RasterImportTest, ABrokenRasterIsNamed)
