@@ -234,6 +234,9 @@ void MainWindow::ConnectActions()
         Guard(this, [this] { ShowLayerControl(); });
     });
     connect(m_recent.get(), &RecentMapsMenu::Chosen, this, &MainWindow::OpenMap);
+    connect(m_data.get(), &DataActions::DataChosen, this, [this](const QStringList& paths) {
+        Guard(this, [&] { AddData(paths); });
+    });
     connect(m_data.get(), &DataActions::SaveAsWanted, m_ui->actSaveMapAs, &QAction::trigger);
     connect(m_data.get(), &DataActions::Told, this, [this](const QString& message) {
         statusBar()->showMessage(message, ShortMessageTime);
@@ -326,7 +329,9 @@ void MainWindow::SaveMapAs()
 void MainWindow::AskForData()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Open Data"), {}, tr("Map data (%1);;All files (*)").arg(DataFiles::Patterns()));
+        this, tr("Open Data"), {},
+        tr("Map data (%1);;All files (*)")
+            .arg(DataFiles::Patterns() + QLatin1Char(' ') + DataFiles::RasterPatterns()));
     if (!paths.isEmpty())
         AddData(paths);
 }

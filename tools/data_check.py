@@ -27,6 +27,12 @@ VECTOR = [
     ("python3-cartopy", "ne_110m_lakes.shp", "EPSG:4326", []),
     ("r-cran-maptools", "shapes/co37_d90.shp", "EPSG:4326", []),  # names no system
 ]
+# package, end of the path in it, coordinate system of the map (that of the data)
+RASTER = [
+    ("r-cran-stars", "tif/L7_ETMs.tif", "EPSG:31985"),
+    ("r-cran-stars", "tif/olinda_dem_utm25s.tif", "EPSG:32725"),
+    ("r-cran-spdata", "raster/elev.tif", "EPSG:4326"),
+]
 TOLERANCE = 2e-6  # ogrinfo prints six decimals
 
 
@@ -69,31 +75,58 @@ def check_drawn(orvane, map_file, picture):
         raise Different("nothing is drawn")
 
 
-def check(orvane, folder, path, system, options):
+def check_extent(box, wanted, tolerance=TOLERANCE):
+    if any(abs(one - other) > tolerance for one, other in zip(box, wanted)):
+        raise Different(f"extent {box} instead of {wanted}")
+
+
+def check_raster(orvane, folder, path, system):
+    map_file = folder / f"{path.stem}.orvane"
+    run(orvane, "import", path, "--to", map_file, "--map-crs", system)
+    layers = json.loads(run(orvane, "list", "--json", map_file))["layers"]
+    info = json.loads(run("gdalinfo", "-json", path))
+    raster = layers[0]["raster"]
+    if len(layers) != 1 or [raster["width"], raster["height"]] != info["size"]:
+        raise Different(f"{layers} instead of one raster of {info['size']} pixels")
+    if raster["bands"] != len(info["bands"]):
+        raise Different(f"{raster['bands']} bands instead of {len(info['bands'])}")
+    corners = [info["cornerCoordinates"][name] for name in ("upperLeft", "lowerRight")]
+    hundredth = abs(info["geoTransform"][1]) / 100  # of a pixel; gdalinfo prints few decimals
+    check_extent(layers[0]["extent"], union([corner * 2 for corner in corners]), hundredth)
+    check_drawn(orvane, map_file, folder / f"{path.stem}.png")
+
+
+def check_vector(orvane, folder, path, system, options):
     map_file = folder / f"{path.stem}.orvane"
     run(orvane, "import", path, "--to", map_file, "--map-crs", system)
     count, box = shown(orvane, map_file)
     wanted_count, wanted_box = expected(path, options)
     if count != wanted_count:
         raise Different(f"{count} features instead of {wanted_count}")
-    if any(abs(one - other) > TOLERANCE for one, other in zip(box, wanted_box)):
-        raise Different(f"extent {box} instead of {wanted_box}")
+    check_extent(box, wanted_box)
     check_drawn(orvane, map_file, folder / f"{path.stem}.png")
 
 
+def check(unpacked, package, ending, compare):
+    """Whether the file of the package passes compare."""
+    paths = [path for path in (unpacked / package).rglob("*") if path.as_posix().endswith("/" + ending)]
+    try:
+        if not paths:
+            raise Different(f"the package {package} has no such file")
+        compare(paths[0])
+    except Different as difference:
+        print(f"{ending}: {difference}")
+        return False
+    print(f"{ending}: as GDAL has it")
+    return True
+
+
 def main(orvane, folder, unpacked):
-    failures = 0
-    for package, ending, system, options in VECTOR:
-        paths = [path for path in (unpacked / package).rglob("*") if path.as_posix().endswith("/" + ending)]
-        try:
-            if not paths:
-                raise Different(f"the package {package} has no such file")
-            check(orvane, folder, paths[0], system, options)
-            print(f"{ending}: as GDAL has it")
-        except Different as difference:
-            failures += 1
-            print(f"{ending}: {difference}")
-    return 1 if failures else 0
+    done = [check(unpacked, package, ending, lambda path: check_vector(orvane, folder, path, system, options))
+            for package, ending, system, options in VECTOR]
+    done += [check(unpacked, package, ending, lambda path: check_raster(orvane, folder, path, system))
+             for package, ending, system in RASTER]
+    return 0 if all(done) else 1
 
 
 if __name__ == "__main__":

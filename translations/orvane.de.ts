@@ -28,6 +28,10 @@
         <translation>„%1“ enthält nichts, was gezeichnet werden kann.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not say where it lies: there is no world file &quot;%2&quot; beside it, and it contains no coordinates of its own, as a GeoTIFF does.</source>
+        <translation>„%1“ gibt nicht an, wo das Bild liegt: Daneben gibt es keine Weltdatei „%2“, und es enthält auch keine eigenen Koordinaten wie ein GeoTIFF.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
@@ -112,8 +116,20 @@ Gültigkeitsbereich: %3</translation>
         <translation>%1 bis %2 Ost, %3 bis %4 Nord</translation>
     </message>
     <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, bands: %3</source>
+        <translation>%1 x %2 Pixel, Kanäle: %3</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: Objekte %2, Ausdehnung %3</translation>
+    </message>
+    <message>
+        <source>%1: raster of %2 x %3 pixels, extent %4</source>
+        <translation>%1: Raster mit %2 x %3 Pixeln, Ausdehnung %4</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -556,6 +572,18 @@ Gültigkeitsbereich: %3</translation>
         <translation>Ein Code wie EPSG:25832, WKT oder ein PROJ-Text</translation>
     </message>
     <message>
+        <source>A raster has no attributes, and so no labels and classes.</source>
+        <translation>Ein Raster hat keine Attribute und daher keine Beschriftungen und Klassen.</translation>
+    </message>
+    <message>
+        <source>A raster has no attributes.</source>
+        <translation>Ein Raster hat keine Attribute.</translation>
+    </message>
+    <message>
+        <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
+        <translation>Luftbilder, gescannte Karten oder Höhenraster zur Karte hinzufügen</translation>
+    </message>
+    <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Daten zu einer Kartendatei hinzufügen: eine Gruppe je Datei, ein Layer je Layer darin.
@@ -876,6 +904,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Ordner öffnen</translation>
     </message>
     <message>
+        <source>Open Ras&amp;ter...</source>
+        <translation>&amp;Raster öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Raster</source>
+        <translation>Raster öffnen</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangetöne</translation>
     </message>
@@ -884,8 +920,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Orvane-Handbuch</translation>
     </message>
     <message>
+        <source>Pixel size:</source>
+        <translation>Pixelgröße:</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>Violetttöne</translation>
+    </message>
+    <message>
+        <source>Raster:</source>
+        <translation>Raster:</translation>
+    </message>
+    <message>
+        <source>Rasters (%1);;All files (*)</source>
+        <translation>Raster (%1);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1768,10 +1816,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>GeoPackages (*.gpkg)</translation>
     </message>
     <message>
-        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
-        <translation>Georeferenzierte Bilder (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
         <translation>Den Layern der Karte die gewählten Werte der Spalte „Nach“ geben.</translation>
     </message>
@@ -2264,10 +2308,6 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
         <translation>Kartendaten werden geöffnet</translation>
     </message>
     <message>
-        <source>Opening the picture</source>
-        <translation>Das Bild wird geöffnet</translation>
-    </message>
-    <message>
         <source>Orientation</source>
         <translation>Ausrichtung</translation>
     </message>
@@ -2358,18 +2398,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Quit Orvane</source>
         <translation>Orvane beenden</translation>
-    </message>
-    <message>
-        <source>R&amp;emove Raster Backdrop</source>
-        <translation>Rasterhintergrund &amp;entfernen</translation>
-    </message>
-    <message>
-        <source>Raster &amp;Backdrop...</source>
-        <translation>Raster&amp;hintergrund...</translation>
-    </message>
-    <message>
-        <source>Raster Backdrop</source>
-        <translation>Rasterhintergrund</translation>
     </message>
     <message>
         <source>Reading &quot;%1&quot; was given up because it does not end.</source>
@@ -2564,10 +2592,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Ausgewählte Objekte: %1</translation>
     </message>
     <message>
-        <source>Show a picture below all layers of the map</source>
-        <translation>Ein Bild unter allen Layern der Karte zeigen</translation>
-    </message>
-    <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>Layer, Gruppen und Schemas zeigen und bearbeiten</translation>
     </message>
@@ -2578,10 +2602,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>Show the attributes of features of enquirable layers</source>
         <translation>Die Attribute von Objekten abfragbarer Layer zeigen</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>Die Karte ohne das Bild zeigen</translation>
     </message>
     <message>
         <source>Show the version.</source>
@@ -3118,10 +3138,6 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>sie ist keine Stileditor-Komponente („%1“ fehlt)</translation>
-    </message>
-    <message>
-        <source>it is not georeferenced</source>
-        <translation>die Georeferenzierung fehlt</translation>
     </message>
     <message>
         <source>it is too large for this computer's memory</source>

@@ -28,6 +28,10 @@
         <translation>« %1 » ne contient rien à dessiner.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not say where it lies: there is no world file &quot;%2&quot; beside it, and it contains no coordinates of its own, as a GeoTIFF does.</source>
+        <translation>« %1 » n’indique pas sa position : il n’y a pas de fichier de calage « %2 » à côté, et il ne contient pas de coordonnées propres comme un GeoTIFF.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
@@ -112,8 +116,20 @@ Zone d’utilisation : %3</translation>
         <translation>%1 à %2 est, %3 à %4 nord</translation>
     </message>
     <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, bands: %3</source>
+        <translation>%1 x %2 pixels, bandes : %3</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1 : entités %2, étendue %3</translation>
+    </message>
+    <message>
+        <source>%1: raster of %2 x %3 pixels, extent %4</source>
+        <translation>%1 : raster de %2 x %3 pixels, étendue %4</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -556,6 +572,18 @@ Zone d’utilisation : %3</translation>
         <translation>Un code tel que EPSG:25832, du WKT ou une chaîne PROJ</translation>
     </message>
     <message>
+        <source>A raster has no attributes, and so no labels and classes.</source>
+        <translation>Un raster n’a pas d’attributs, donc ni étiquettes ni classes.</translation>
+    </message>
+    <message>
+        <source>A raster has no attributes.</source>
+        <translation>Un raster n’a pas d’attributs.</translation>
+    </message>
+    <message>
+        <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
+        <translation>Ajouter à la carte des photos aériennes, des cartes numérisées ou des grilles d’altitude</translation>
+    </message>
+    <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>Ajouter des données à un fichier de carte : un groupe par fichier, une couche par couche du fichier.
@@ -876,6 +904,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Ouvrir le dossier</translation>
     </message>
     <message>
+        <source>Open Ras&amp;ter...</source>
+        <translation>Ouvrir un ras&amp;ter...</translation>
+    </message>
+    <message>
+        <source>Open Raster</source>
+        <translation>Ouvrir un raster</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangés</translation>
     </message>
@@ -884,8 +920,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Guide d’Orvane</translation>
     </message>
     <message>
+        <source>Pixel size:</source>
+        <translation>Taille de pixel :</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>Violets</translation>
+    </message>
+    <message>
+        <source>Raster:</source>
+        <translation>Raster :</translation>
+    </message>
+    <message>
+        <source>Rasters (%1);;All files (*)</source>
+        <translation>Rasters (%1);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1768,10 +1816,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>GeoPackages (*.gpkg)</translation>
     </message>
     <message>
-        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
-        <translation>Images géoréférencées (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
         <translation>Donner aux couches de la carte les valeurs choisies de la colonne « Vers ».</translation>
     </message>
@@ -2264,10 +2308,6 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
         <translation>Ouverture des données</translation>
     </message>
     <message>
-        <source>Opening the picture</source>
-        <translation>Ouverture de l’image</translation>
-    </message>
-    <message>
         <source>Orientation</source>
         <translation>Orientation</translation>
     </message>
@@ -2358,18 +2398,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Quit Orvane</source>
         <translation>Quitter Orvane</translation>
-    </message>
-    <message>
-        <source>R&amp;emove Raster Backdrop</source>
-        <translation>Retirer le fond ras&amp;ter</translation>
-    </message>
-    <message>
-        <source>Raster &amp;Backdrop...</source>
-        <translation>&amp;Fond raster...</translation>
-    </message>
-    <message>
-        <source>Raster Backdrop</source>
-        <translation>Fond raster</translation>
     </message>
     <message>
         <source>Reading &quot;%1&quot; was given up because it does not end.</source>
@@ -2564,10 +2592,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Objets sélectionnés : %1</translation>
     </message>
     <message>
-        <source>Show a picture below all layers of the map</source>
-        <translation>Afficher une image sous toutes les couches de la carte</translation>
-    </message>
-    <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>Afficher et modifier les couches, groupes et schémas</translation>
     </message>
@@ -2578,10 +2602,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>Show the attributes of features of enquirable layers</source>
         <translation>Afficher les attributs des objets des couches interrogeables</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>Afficher la carte sans l’image</translation>
     </message>
     <message>
         <source>Show the version.</source>
@@ -3118,10 +3138,6 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>ce n’est pas un composant d’édition de style (« %1 » est absent)</translation>
-    </message>
-    <message>
-        <source>it is not georeferenced</source>
-        <translation>il n’est pas géoréférencé</translation>
     </message>
     <message>
         <source>it is too large for this computer's memory</source>

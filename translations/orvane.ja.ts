@@ -28,6 +28,10 @@
         <translation>「%1」には描画できるものがありません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; does not say where it lies: there is no world file &quot;%2&quot; beside it, and it contains no coordinates of its own, as a GeoTIFF does.</source>
+        <translation>「%1」の位置が不明です。同じフォルダーにワールドファイル「%2」がなく、GeoTIFF のような座標も含まれていません。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
     </message>
@@ -112,8 +116,20 @@ Area of use: %3</source>
         <translation>東 %1 ～ %2、北 %3 ～ %4</translation>
     </message>
     <message>
+        <source>%1 x %2</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, bands: %3</source>
+        <translation>%1 x %2 ピクセル、バンド数: %3</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: 地物 %2、範囲 %3</translation>
+    </message>
+    <message>
+        <source>%1: raster of %2 x %3 pixels, extent %4</source>
+        <translation>%1: ラスター %2 x %3 ピクセル、範囲 %4</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -556,6 +572,18 @@ Area of use: %3</source>
         <translation>EPSG:25832 などのコード、WKT、PROJ 文字列</translation>
     </message>
     <message>
+        <source>A raster has no attributes, and so no labels and classes.</source>
+        <translation>ラスターには属性がないため、ラベルも分類もありません。</translation>
+    </message>
+    <message>
+        <source>A raster has no attributes.</source>
+        <translation>ラスターには属性がありません。</translation>
+    </message>
+    <message>
+        <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
+        <translation>航空写真、スキャンした地図、標高グリッドを地図に追加します</translation>
+    </message>
+    <message>
         <source>Add data to a map file: a group for each file, a layer for each of its layers.
 Exit code: 0 all was added, 1 something was not or has no known place, 2 the command was not understood.</source>
         <translation>地図ファイルにデータを追加します。ファイルごとにグループ、その中のレイヤーごとにレイヤーができます。
@@ -876,6 +904,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>フォルダーを開く</translation>
     </message>
     <message>
+        <source>Open Ras&amp;ter...</source>
+        <translation>ラスターを開く(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Open Raster</source>
+        <translation>ラスターを開く</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>オレンジ系</translation>
     </message>
@@ -884,8 +920,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>Orvane ガイド</translation>
     </message>
     <message>
+        <source>Pixel size:</source>
+        <translation>ピクセルサイズ:</translation>
+    </message>
+    <message>
         <source>Purples</source>
         <translation>紫系</translation>
+    </message>
+    <message>
+        <source>Raster:</source>
+        <translation>ラスター:</translation>
+    </message>
+    <message>
+        <source>Rasters (%1);;All files (*)</source>
+        <translation>ラスター (%1);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1768,10 +1816,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>GeoPackage (*.gpkg)</translation>
     </message>
     <message>
-        <source>Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;All files (*)</source>
-        <translation>地理参照付き画像 (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc *.hgt *.dem *.ecw *.nc);;すべてのファイル (*)</translation>
-    </message>
-    <message>
         <source>Give the layers of the map the chosen values of the column &quot;To&quot;.</source>
         <translation>選択した「変更後」列の値を地図のレイヤーに設定します。</translation>
     </message>
@@ -2264,10 +2308,6 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
         <translation>地図データを開いています</translation>
     </message>
     <message>
-        <source>Opening the picture</source>
-        <translation>画像を開いています</translation>
-    </message>
-    <message>
         <source>Orientation</source>
         <translation>向き</translation>
     </message>
@@ -2358,18 +2398,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Quit Orvane</source>
         <translation>Orvane を終了します</translation>
-    </message>
-    <message>
-        <source>R&amp;emove Raster Backdrop</source>
-        <translation>ラスター背景を削除(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Raster &amp;Backdrop...</source>
-        <translation>ラスター背景(&amp;B)...</translation>
-    </message>
-    <message>
-        <source>Raster Backdrop</source>
-        <translation>ラスター背景</translation>
     </message>
     <message>
         <source>Reading &quot;%1&quot; was given up because it does not end.</source>
@@ -2564,10 +2592,6 @@ These commands run without a window; each has its own --help:
         <translation>選択された地物: %1</translation>
     </message>
     <message>
-        <source>Show a picture below all layers of the map</source>
-        <translation>地図のすべてのレイヤーの下に画像を表示します</translation>
-    </message>
-    <message>
         <source>Show and edit layers, groups and schemes</source>
         <translation>レイヤー、グループ、スキームを表示して編集します</translation>
     </message>
@@ -2578,10 +2602,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>Show the attributes of features of enquirable layers</source>
         <translation>照会可能なレイヤーの地物の属性を表示します</translation>
-    </message>
-    <message>
-        <source>Show the map without the picture</source>
-        <translation>画像なしで地図を表示します</translation>
     </message>
     <message>
         <source>Show the version.</source>
@@ -3118,10 +3138,6 @@ These commands run without a window; each has its own --help:
     <message>
         <source>it is no style editor component (&quot;%1&quot; is missing)</source>
         <translation>スタイルエディターのコンポーネントではありません (「%1」がありません)</translation>
-    </message>
-    <message>
-        <source>it is not georeferenced</source>
-        <translation>ジオリファレンスがありません</translation>
     </message>
     <message>
         <source>it is too large for this computer's memory</source>

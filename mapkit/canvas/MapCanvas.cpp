@@ -40,15 +40,12 @@ QPointF ArrowDirection(int key)
     }
 }
 
-// The bounds of all features, or of the picture under them if there are no features.
-Box BoundsOf(const std::vector<MapLayer>& layers, const RasterBackdrop* backdrop)
+Box BoundsOf(const std::vector<MapLayer>& layers)
 {
     Box bounds;
-    for (const MapLayer& layer : layers) {
-        if (layer.features)
-            bounds.Add(layer.features->Bounds());
-    }
-    return bounds.IsEmpty() && backdrop ? backdrop->Extent() : bounds;
+    for (const MapLayer& layer : layers)
+        bounds.Add(layer.Bounds());
+    return bounds;
 }
 
 } // namespace
@@ -73,33 +70,24 @@ void MapCanvas::SetLayers(std::vector<MapLayer> layers, double metresPerUnit)
     update();
 }
 
-void MapCanvas::ShowAll(
-    std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit)
+void MapCanvas::ShowAll(std::vector<MapLayer> layers, double metresPerUnit)
 {
-    const Box bounds = BoundsOf(layers, backdrop.get());
-    ShowAt(MapView::Fitting(bounds, size()), std::move(layers), std::move(backdrop), metresPerUnit);
+    const Box bounds = BoundsOf(layers);
+    ShowAt(MapView::Fitting(bounds, size()), std::move(layers), metresPerUnit);
     KeepFitting(bounds);
 }
 
-void MapCanvas::ShowAt(
-    const MapView& view, std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop,
-    double metresPerUnit)
+void MapCanvas::ShowAt(const MapView& view, std::vector<MapLayer> layers, double metresPerUnit)
 {
     m_metresPerUnit = metresPerUnit;
     ++m_step;
     m_view = view;
     m_fitted.reset();
     m_drawSoon.stop();
-    m_picture.Show(
-        std::move(layers), std::move(backdrop), m_view, DenominatorOf(m_view), devicePixelRatioF());
+    m_picture.Show(std::move(layers), m_view, DenominatorOf(m_view), devicePixelRatioF());
     emit LayersChanged();
     emit ViewChanged();
     update();
-}
-
-void MapCanvas::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
-{
-    m_picture.SetBackdrop(std::move(backdrop));
 }
 
 void MapCanvas::SetBackground(const QColor& colour)
@@ -162,7 +150,7 @@ void MapCanvas::ZoomTo(const Box& box)
 
 void MapCanvas::ZoomToAll()
 {
-    const Box bounds = BoundsOf(m_picture.Layers(), m_picture.Backdrop().get());
+    const Box bounds = BoundsOf(m_picture.Layers());
     SetView(MapView::Fitting(bounds, size()));
     KeepFitting(bounds);
 }

@@ -29,19 +29,13 @@ public:
 
     /// Replaces the layers; the view stays. metresPerUnit: length of a map unit, for the scale.
     void SetLayers(std::vector<MapLayer> layers, double metresPerUnit);
-    /// Draws these layers over that picture (nullptr for none), zoomed so that everything is visible. It
-    /// stays so when the size of the map changes, until the view is changed.
-    void ShowAll(
-        std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, double metresPerUnit);
-    /// Draws these layers over that picture at this view, when the map's system is another one.
-    void ShowAt(
-        const MapView& view, std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop,
-        double metresPerUnit);
+    /// Draws these layers, zoomed so that everything is visible. It stays so when the size of the map
+    /// changes, until the view is changed.
+    void ShowAll(std::vector<MapLayer> layers, double metresPerUnit);
+    /// Draws these layers at this view, when the map's system is another one.
+    void ShowAt(const MapView& view, std::vector<MapLayer> layers, double metresPerUnit);
     /// The layers as they were set.
     const std::vector<MapLayer>& Layers() const { return m_picture.Layers(); }
-
-    /// Sets the picture under all layers; nullptr for none.
-    void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
 
     /// Sets the colour under everything, which is white at first.
     void SetBackground(const QColor& colour);
@@ -78,7 +72,7 @@ public:
     QSize sizeHint() const override { return {800, 600}; }
 
 public slots:
-    /// Shows all layers and the picture under them completely.
+    /// Shows all layers completely.
     void ZoomToAll();
     void ZoomIn();
     void ZoomOut();

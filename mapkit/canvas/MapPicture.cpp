@@ -30,6 +30,15 @@ QSet<qint32> ChangedLayers(const std::vector<MapLayer>& before, const std::vecto
     return changed;
 }
 
+template <typename Map> void EraseLayers(Map& images, const QSet<qint32>& layerIDs)
+{
+    std::erase_if(images, [&](const auto& entry) {
+        const std::vector<qint32>& key = entry.first;
+        return std::any_of(
+            key.begin(), key.end(), [&](qint32 layerID) { return layerIDs.contains(layerID); });
+    });
+}
+
 // A picture that is too large for memory stays empty; the user can zoom in or hide layers.
 SheetImage DrawOrNothing(
     const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled)
@@ -60,14 +69,6 @@ void MapPicture::SetLayers(std::vector<MapLayer> layers)
     Refresh();
 }
 
-void MapPicture::SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop)
-{
-    if (backdrop == m_backdrop)
-        return;
-    TakeBackdropSource(std::move(backdrop));
-    Refresh();
-}
-
 void MapPicture::SetBackground(const QColor& colour)
 {
     if (colour == m_background)
@@ -86,11 +87,9 @@ void MapPicture::SetView(const MapView& view, double scaleDenominator, double de
 }
 
 void MapPicture::Show(
-    std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
-    double scaleDenominator, double devicePixelRatio)
+    std::vector<MapLayer> layers, const MapView& view, double scaleDenominator, double devicePixelRatio)
 {
     TakeLayers(std::move(layers));
-    TakeBackdropSource(std::move(backdrop));
     TakeView(view, scaleDenominator, devicePixelRatio);
     Refresh();
 }
@@ -98,29 +97,28 @@ void MapPicture::Show(
 void MapPicture::TakeLayers(std::vector<MapLayer> layers)
 {
     const QSet<qint32> changed = ChangedLayers(m_layers, layers);
-    std::erase_if(m_images, [&](const auto& entry) {
-        const std::vector<qint32>& key = entry.first;
-        return std::any_of(key.begin(), key.end(), [&](qint32 layerID) { return changed.contains(layerID); });
-    });
+    EraseLayers(m_images, changed);
+    EraseLayers(m_earlier, changed);
     m_layers = std::move(layers);
-}
-
-void MapPicture::TakeBackdropSource(std::shared_ptr<const RasterBackdrop> backdrop)
-{
-    if (backdrop == m_backdrop)
-        return;
-    m_backdrop = std::move(backdrop);
-    m_backdropImage = {};
-    m_backdropDrawn = false;
 }
 
 void MapPicture::TakeView(const MapView& view, double scaleDenominator, double devicePixelRatio)
 {
+    KeepRasterImages();
     m_view = view;
     m_scaleDenominator = scaleDenominator;
     m_devicePixelRatio = devicePixelRatio;
     m_images.clear();
-    m_backdropDrawn = false;
+}
+
+// Drawing a raster may take long.
+void MapPicture::KeepRasterImages()
+{
+    for (const Sheet& sheet : m_sheets) {
+        const auto drawn = m_images.find(sheet.Key());
+        if (drawn != m_images.end() && sheet.HasRaster())
+            m_earlier[drawn->first] = {std::move(drawn->second), m_view};
+    }
 }
 
 void MapPicture::Refresh()
@@ -139,12 +137,9 @@ void MapPicture::Refresh()
     }
     m_images = std::move(kept);
     m_sinceShown.start();
-    const bool backdropMissing = m_backdrop && !m_backdropDrawn;
-    SetPending(missing.size() + (backdropMissing ? 1 : 0));
+    SetPending(missing.size());
     for (const Sheet* sheet : missing)
         Start(*sheet);
-    if (backdropMissing)
-        StartBackdrop();
     if (m_pending == 0)
         Compose();
 }
@@ -166,40 +161,22 @@ void MapPicture::Take(quint64 generation, const Sheet& sheet, const SheetImage& 
     if (generation != m_generation)
         return;
     m_images[sheet.Key()] = image;
+    m_earlier.erase(sheet.Key());
     for (const MapLayer& layer : sheet.layers)
         emit LayerDrawn(layer.layerID);
+    for (const auto& [layerID, reason] : image.failures)
+        LeaveOut(layerID);
     Finish();
+    for (const auto& [layerID, reason] : image.failures)
+        emit LayerFailed(layerID, reason);
 }
 
-void MapPicture::StartBackdrop()
+void MapPicture::LeaveOut(qint32 layerID)
 {
-    m_pool.start([this, backdrop = m_backdrop, view = m_view, ratio = m_devicePixelRatio,
-                  cancelled = m_cancelled, generation = m_generation] {
-        QImage image;
-        QString failure;
-        try {
-            image = backdrop->Draw(view, ratio, *cancelled);
-        } catch (const std::exception& error) {
-            failure = QString::fromUtf8(error.what());
-        }
-        QMetaObject::invokeMethod(
-            this, [this, generation, image, failure] { TakeBackdrop(generation, image, failure); },
-            Qt::QueuedConnection);
-    });
-}
-
-void MapPicture::TakeBackdrop(quint64 generation, const QImage& image, const QString& failure)
-{
-    if (generation != m_generation)
-        return;
-    m_backdropImage = image;
-    m_backdropView = m_view;
-    m_backdropDrawn = true;
-    if (!failure.isEmpty())
-        m_backdrop.reset();
-    Finish();
-    if (!failure.isEmpty())
-        emit BackdropFailed(failure);
+    for (MapLayer& layer : m_layers) {
+        if (layer.layerID == layerID)
+            layer.raster.reset();
+    }
 }
 
 void MapPicture::Finish()
@@ -217,24 +194,32 @@ void MapPicture::Compose()
     m_image.setDevicePixelRatio(m_devicePixelRatio);
     m_image.fill(m_background);
     QPainter painter(&m_image);
-    PlaceBackdrop(painter);
     for (const Sheet& sheet : m_sheets) {
         const auto found = m_images.find(sheet.Key());
         if (found != m_images.end())
             PlaceSheet(painter, sheet, found->second);
+        else
+            PlaceEarlier(painter, sheet);
     }
     painter.end();
+    if (m_pending == 0)
+        m_earlier.clear();
     emit Changed();
 }
 
 // Until the image for the present view is drawn, the last one is shown moved and scaled.
-void MapPicture::PlaceBackdrop(QPainter& painter) const
+void MapPicture::PlaceEarlier(QPainter& painter, const Sheet& sheet) const
 {
-    if (m_backdropImage.isNull())
+    const auto found = m_earlier.find(sheet.Key());
+    if (found == m_earlier.end())
         return;
-    const QPointF topLeft = m_view.ToPixel(m_backdropView.ToMap({0, 0}));
-    const double stretch = m_backdropView.UnitsPerPixel() / m_view.UnitsPerPixel();
-    painter.drawImage(QRectF(topLeft, QSizeF(m_backdropView.Size()) * stretch), m_backdropImage);
+    const MapView& view = found->second.view;
+    painter.save();
+    painter.translate(m_view.ToPixel(view.ToMap({0, 0})));
+    const double stretch = view.UnitsPerPixel() / m_view.UnitsPerPixel();
+    painter.scale(stretch, stretch);
+    PlaceSheet(painter, sheet, found->second.image);
+    painter.restore();
 }
 
 void MapPicture::SetPending(size_t pending)

@@ -3,7 +3,6 @@
 
 #include "mapkit/drawing/MapLayer.h"
 #include "mapkit/drawing/MapView.h"
-#include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/drawing/Sheets.h"
 
 #include <QElapsedTimer>
@@ -37,20 +36,16 @@ public:
 
     /// Replaces the layers, which are identified by their IDs.
     void SetLayers(std::vector<MapLayer> layers);
-    /// Sets the picture under all layers; nullptr for none.
-    void SetBackdrop(std::shared_ptr<const RasterBackdrop> backdrop);
     /// The colour under everything; white at first.
     void SetBackground(const QColor& colour);
     /// Shows another part of the map. Drawing of the former part is cancelled.
     void SetView(const MapView& view, double scaleDenominator, double devicePixelRatio);
-    /// Sets all three, and draws only once.
-    void Show(
-        std::vector<MapLayer> layers, std::shared_ptr<const RasterBackdrop> backdrop, const MapView& view,
-        double scaleDenominator, double devicePixelRatio);
+    /// Sets both, and draws only once.
+    void
+    Show(std::vector<MapLayer> layers, const MapView& view, double scaleDenominator, double devicePixelRatio);
 
     const QColor& Background() const { return m_background; }
     const std::vector<MapLayer>& Layers() const { return m_layers; }
-    const std::shared_ptr<const RasterBackdrop>& Backdrop() const { return m_backdrop; }
     /// The last picture; null before the first one is drawn.
     const QImage& Image() const { return m_image; }
     /// The view that Image shows; while drawing is in progress, it may be an earlier view.
@@ -63,33 +58,33 @@ signals:
     void BusyChanged(bool busy);
     /// A layer was drawn again.
     void LayerDrawn(qint32 layerID);
-    /// The picture under the layers cannot be read; emitted once per picture.
-    void BackdropFailed(const QString& reason);
+    /// The layer's raster cannot be drawn. It is left out until SetLayers or Show sets it again.
+    void LayerFailed(qint32 layerID, const QString& reason);
 
 private:
-    using Images = std::map<std::vector<qint32>, SheetImage>;
+    using Images = std::map<std::vector<qint32>, SheetImage>; // by Sheet::Key
+    struct EarlierImage {
+        SheetImage image;
+        MapView view;
+    };
 
     void TakeLayers(std::vector<MapLayer> layers);
-    void TakeBackdropSource(std::shared_ptr<const RasterBackdrop> backdrop);
     void TakeView(const MapView& view, double scaleDenominator, double devicePixelRatio);
+    void KeepRasterImages();
     void Refresh();
     void Start(const Sheet& sheet);
     void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);
-    void StartBackdrop();
-    void TakeBackdrop(quint64 generation, const QImage& image, const QString& failure);
+    void LeaveOut(qint32 layerID);
     void Finish();
     void Compose();
-    void PlaceBackdrop(QPainter& painter) const;
+    void PlaceEarlier(QPainter& painter, const Sheet& sheet) const;
     void SetPending(size_t pending);
 
     QColor m_background = Qt::white;
     std::vector<MapLayer> m_layers;
     std::vector<Sheet> m_sheets;
     Images m_images; // of m_view
-    std::shared_ptr<const RasterBackdrop> m_backdrop;
-    QImage m_backdropImage; // shows m_backdropView
-    MapView m_backdropView;
-    bool m_backdropDrawn = false; // for m_view
+    std::map<std::vector<qint32>, EarlierImage> m_earlier; // of rasters that are being drawn, by Sheet::Key
     MapView m_view;
     double m_scaleDenominator = 1;
     double m_devicePixelRatio = 1;

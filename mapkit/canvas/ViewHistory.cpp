@@ -62,8 +62,7 @@ void ViewHistory::GoTo(size_t index)
 void ViewHistory::Note()
 {
     const MapView& view = m_canvas.View();
-    const bool isEmpty = m_canvas.Layers().empty() && !m_canvas.Picture().Backdrop();
-    if (m_isGoing || isEmpty)
+    if (m_isGoing || m_canvas.Layers().empty())
         return;
     const bool continues = !m_views.empty() && m_step == m_canvas.Step();
     m_step = m_canvas.Step();

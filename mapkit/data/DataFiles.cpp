@@ -16,12 +16,58 @@ const QString& FolderSuffix()
     return suffix;
 }
 
+constexpr auto RasterSuffixes = "tif tiff jp2 img asc hgt dem dt0 dt1 dt2 bil ecw sid nc mbtiles grd ers";
+constexpr auto PictureSuffixes = "png jpg jpeg gif bmp webp"; // most of them are no maps
+
 bool IsDataFile(const QString& name)
 {
     static const QStringList patterns = Patterns().split(QLatin1Char(' '));
     return std::any_of(patterns.begin(), patterns.end(), [&](const QString& pattern) {
         return name.endsWith(pattern.mid(1), Qt::CaseInsensitive);
     });
+}
+
+bool HasSuffix(const QString& path, const char* suffixes)
+{
+    const QStringList list = QString::fromLatin1(suffixes).split(QLatin1Char(' '));
+    return list.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
+// Of such a file beside a picture: "photo.pgw", "photo.pngw", "photo.wld" or "photo.png.aux.xml".
+bool HasPlaceBeside(const QString& picture)
+{
+    const QFileInfo file(picture);
+    const QString suffix = file.suffix();
+    const QString base = file.dir().filePath(file.completeBaseName()) + QLatin1Char('.');
+    const QStringList beside
+        = {base + suffix.front() + suffix.back() + QLatin1Char('w'), base + suffix + QLatin1Char('w'),
+           base + QLatin1String("wld"), picture + QLatin1String(".aux.xml")};
+    return std::any_of(
+        beside.begin(), beside.end(), [](const QString& path) { return QFileInfo::exists(path); });
+}
+
+// What a world file, overview or other companion of a raster belongs to; empty if it is none.
+QString RasterOf(const QString& path)
+{
+    const QFileInfo file(path);
+    for (const char* added : {".aux.xml", ".ovr"}) {
+        if (!path.endsWith(QLatin1String(added), Qt::CaseInsensitive))
+            continue;
+        const QString main = path.chopped(int(qstrlen(added)));
+        if (QFileInfo(main).isFile())
+            return main;
+    }
+    const bool mayBelong
+        = file.suffix().endsWith(QLatin1Char('w'), Qt::CaseInsensitive) || HasSuffix(path, "wld prj");
+    if (!mayBelong)
+        return {};
+    const QString all = QLatin1String(RasterSuffixes) + QLatin1Char(' ') + QLatin1String(PictureSuffixes);
+    for (const QString& suffix : (all + QLatin1Char(' ') + all.toUpper()).split(QLatin1Char(' '))) {
+        const QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + suffix);
+        if (QFileInfo(main).isFile())
+            return main;
+    }
+    return {};
 }
 
 // What the .dbf of a .shp, and the like, belongs to; the path itself if it belongs to nothing.
@@ -57,6 +103,9 @@ QString MainFileOf(const QString& path)
                 return main;
         }
     }
+    const QString raster = RasterOf(path);
+    if (!raster.isEmpty())
+        return raster;
     const QString source = SourceOf(path);
     return source.isEmpty() || !QFileInfo(source).isDir() ? path : source;
 }
@@ -84,6 +133,23 @@ QString Patterns()
         "*.geojson.gz *.json.gz *.csv.gz *.gml.gz *.gpx.gz *.kml.gz");
 }
 
+QString RasterPatterns()
+{
+    QStringList suffixes = QString::fromLatin1(RasterSuffixes).split(QLatin1Char(' '));
+    suffixes << QStringLiteral("vrt") << QString::fromLatin1(PictureSuffixes).split(QLatin1Char(' '));
+    return QLatin1String("*.") + suffixes.join(QLatin1String(" *."));
+}
+
+bool IsNamedAsRaster(const QString& path)
+{
+    return HasSuffix(path, RasterSuffixes) || HasSuffix(path, PictureSuffixes);
+}
+
+bool IsRaster(const QString& path)
+{
+    return HasSuffix(path, RasterSuffixes) || (HasSuffix(path, PictureSuffixes) && HasPlaceBeside(path));
+}
+
 QString SourceOf(const QString& path)
 {
     qsizetype end = 0;
@@ -106,7 +172,7 @@ QStringList In(const QString& folder, const std::function<void()>& atEach)
                 atEach();
             const QString path = entries.next();
             const QFileInfo entry = entries.fileInfo();
-            const bool isSource = !SourceOf(entry.fileName()).isEmpty();
+            const bool isSource = !SourceOf(entry.fileName()).isEmpty() || IsRaster(path);
             const bool isFolder = entry.isDir();
             if (isSource && isFolder == entry.fileName().endsWith(FolderSuffix(), Qt::CaseInsensitive))
                 found << path;

@@ -13,6 +13,16 @@ namespace DataFiles {
 /// "*.gpkg *.shp ...": the usual file name extensions, for file dialogs.
 QString Patterns();
 
+/// The same for rasters.
+QString RasterPatterns();
+
+/// Whether a file has the name of a raster.
+bool IsNamedAsRaster(const QString& path);
+
+/// Whether a file is most likely a raster of a map, by its name; an ordinary picture, such as a .png, only if
+/// a file beside it says where it lies.
+bool IsRaster(const QString& path);
+
 /// The data source to which a path belongs, by its name alone: the path itself for a data file; for a path
 /// within a folder that is one source, such as "town.gdb/a.gdbtable", the folder. Empty for files that only
 /// accompany others, such as the .dbf of a .shp, and for all else.

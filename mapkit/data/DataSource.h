@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mapkit/coordinates/Box.h"
+#include "mapkit/data/DataKind.h"
 #include "mapkit/data/FeatureSet.h"
 #include "mapkit/data/GeometryChoice.h"
 #include "mapkit/tables/ColumnGuess.h"
@@ -26,7 +27,7 @@ inline constexpr int SourceUnreadable = 10101;
 
 /// One layer of a data source.
 struct SourceLayer {
-    QString name; ///< the name in the source
+    QString name; ///< the name in the source; of a raster its name in an archive, or empty
     FeatureKind kind = FeatureKind::Area; ///< the lowest one of a mixed layer
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
     Box extent; ///< in its own units; empty if the source does not know it
@@ -35,6 +36,7 @@ struct SourceLayer {
     GeometryChoice choice = {}; ///< what Read takes to get this layer; the columns of a table
     bool isEmpty = false; ///< known only for formats that make empty layers, such as GPX
     QString partsOf = {}; ///< the layer that shows its features as a whole, for the points of GPX tracks
+    DataKind dataKind = DataKind::Features;
 };
 
 /// What a source tells about one of its layers.

@@ -83,20 +83,29 @@ bool IsHidden(const QString& member)
         || member.startsWith(QLatin1String("__MACOSX/"));
 }
 
-// A folder that is a source ends the names of what is in it.
-QStringList DataIn(const QString& archive)
+QStringList MembersOf(const QString& archive)
 {
     char** entries = VSIReadDirRecursive(archive.toUtf8().constData());
-    QStringList found;
+    QStringList members;
     for (char** entry = entries; entry && *entry; ++entry) {
         QString member = QString::fromUtf8(*entry);
         while (member.endsWith(QLatin1Char('/')))
             member.chop(1);
+        members << member;
+    }
+    CSLDestroy(entries);
+    return members;
+}
+
+// A folder that is a source ends the names of what is in it.
+QStringList DataIn(const QString& archive)
+{
+    QStringList found;
+    for (const QString& member : MembersOf(archive)) {
         const QString source = DataFiles::SourceOf(member);
         if (!source.isEmpty() && !IsHidden(source) && !found.contains(source))
             found << source;
     }
-    CSLDestroy(entries);
     found.sort();
     return found;
 }
@@ -209,6 +218,26 @@ QString OpenedData::FormatTitle() const
 bool OpenedData::IsNameless(const QString& layer)
 {
     return layer == QLatin1String("OGRGeoJSON");
+}
+
+QString NameInArchive(const QString& archive, const QString& member)
+{
+    const QString prefix = PrefixOfArchive(archive);
+    return prefix.isEmpty() ? QString() : prefix + QLatin1Char('/') + member;
+}
+
+QStringList RastersInArchive(const QString& path)
+{
+    PrepareGdal();
+    const QString archive = PrefixOfArchive(path);
+    QStringList rasters = archive.isEmpty() ? QStringList() : MembersOf(archive);
+    rasters.erase(
+        std::remove_if(
+            rasters.begin(), rasters.end(),
+            [](const QString& member) { return IsHidden(member) || !DataFiles::IsRaster(member); }),
+        rasters.end());
+    rasters.sort();
+    return rasters;
 }
 
 QString WhyNoDriver(const QString& path)

@@ -60,6 +60,12 @@ private:
     QStringList m_unopened;
 };
 
+/// GDAL's name for a file within an archive (.zip, .tar, .tgz); empty if there is no such archive.
+QString NameInArchive(const QString& archive, const QString& member);
+/// The rasters within an archive, by their names there; none for other files. Pictures such as .png are not
+/// among them.
+QStringList RastersInArchive(const QString& path);
+
 /// Why GDAL cannot read files with that suffix, as part of a sentence: the program has no driver for their
 /// format. Empty for other suffixes, and when there is a driver.
 QString WhyNoDriver(const QString& path);

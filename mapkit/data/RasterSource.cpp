@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/GdalSetup.h"
+#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/RasterShades.h"
 #include "mapkit/data/RasterWarp.h"
 #include "mapkit/data/ReadingBound.h"
@@ -26,14 +27,15 @@ namespace {
 
 constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
 
-std::unique_ptr<GDALDataset> OpenRaster(const QString& path)
+std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& member)
 {
     const QString whyNot = WhyNotOpened(path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
+    const QString name = member.isEmpty() ? path : NameInArchive(path, member);
     const GdalErrors errors;
     constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
-    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(path.toUtf8().constData(), flags));
+    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(name.toUtf8().constData(), flags));
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
     RequireReadingInTime(path);
@@ -47,6 +49,25 @@ bool IsPlaced(GDALDataset& dataset)
 {
     std::array<double, 6> transform = {};
     return dataset.GetGeoTransform(transform.data()) == CE_None || dataset.GetGCPCount() > 0;
+}
+
+// "photo.pgw" for "photo.png".
+QString WorldFileOf(const QFileInfo& picture)
+{
+    const QString suffix = picture.suffix();
+    if (suffix.isEmpty())
+        return picture.fileName() + QLatin1String(".wld");
+    return picture.completeBaseName() + QLatin1Char('.') + suffix.front() + suffix.back() + QLatin1Char('w');
+}
+
+[[noreturn]] void FailUnplaced(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString text = QCoreApplication::translate(
+        "RasterSource",
+        "\"%1\" does not say where it lies: there is no world file \"%2\" beside it, and it contains no "
+        "coordinates of its own, as a GeoTIFF does.");
+    throw RunTimeError(RasterNotPlaced, text.arg(file.fileName(), WorldFileOf(file)));
 }
 
 // The pixels of an image of that size that the picture covers.
@@ -72,14 +93,15 @@ Box MapArea(const QRect& area, const Box& extent, QSize pixels)
 
 } // namespace
 
-RasterSource::RasterSource(const QString& path) : m_path(path)
+RasterSource::RasterSource(const QString& path, const QString& member, const QString& chosenSystem)
+    : m_path(path), m_chosenSystem(chosenSystem)
 {
     PrepareGdal();
     const ReadingBound bound;
-    m_dataset = OpenRaster(path);
+    m_dataset = OpenRaster(path, member);
     const GdalErrors quiet;
     if (!IsPlaced(*m_dataset))
-        FailReading(path, QCoreApplication::translate("RasterSource", "it is not georeferenced"));
+        FailUnplaced(member.isEmpty() ? path : member);
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
     RequireReadingInTime(path);
 }
@@ -93,12 +115,12 @@ RasterSource::~RasterSource()
 QString RasterSource::System() const
 {
     const QMutexLocker lock(&m_mutex);
-    return SystemText(m_dataset->GetSpatialRef());
+    return SystemOfRaster(*m_dataset);
 }
 
 Box RasterSource::Extent() const
 {
-    return ExtentIn(System());
+    return ExtentIn({});
 }
 
 Box RasterSource::ExtentIn(const QString& mapSystem) const
@@ -106,7 +128,22 @@ Box RasterSource::ExtentIn(const QString& mapSystem) const
     const QMutexLocker lock(&m_mutex);
     const GdalErrors quiet;
     const ReadingBound bound;
-    return PlaceRaster(*m_dataset, mapSystem).extent;
+    return PlaceRaster(*m_dataset, {mapSystem, m_chosenSystem}).extent;
+}
+
+RasterDetails RasterSource::Details() const
+{
+    const QMutexLocker lock(&m_mutex);
+    const GdalErrors quiet;
+    RasterDetails details;
+    if (GDALDriver* driver = m_dataset->GetDriver())
+        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
+    details.size = {m_dataset->GetRasterXSize(), m_dataset->GetRasterYSize()};
+    details.bands = m_dataset->GetRasterCount();
+    std::array<double, 6> transform = {};
+    if (m_dataset->GetGeoTransform(transform.data()) == CE_None)
+        details.pixelSize = {std::hypot(transform[1], transform[4]), std::hypot(transform[2], transform[5])};
+    return details;
 }
 
 QImage RasterSource::Draw(
@@ -116,14 +153,15 @@ QImage RasterSource::Draw(
     const GdalErrors errors;
     const ReadingBound untilCancelled(cancelled);
     ReadingBound bound(ReadingBound::LongestWait);
-    const RasterPlace place = PlaceRaster(*m_dataset, mapSystem);
+    const RasterSystems systems{mapSystem, m_chosenSystem};
+    const RasterPlace place = PlaceRaster(*m_dataset, systems);
     if (cancelled || !place.extent.Intersects(extent))
         return {};
     const QRect area = CoveredPixels(place.extent, extent, pixels);
     if (area.isEmpty())
         return {};
     const auto warped = WarpRaster(
-        *m_dataset, place, {mapSystem, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
+        *m_dataset, place, {systems, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
     if (!warped)
         FailReading(m_path, errors.First());
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -135,6 +173,17 @@ QImage RasterSource::Draw(
         bound.Renew();
     }
     return cancelled ? QImage() : image;
+}
+
+SourceLayer DescribeRaster(const QString& path, const QString& member)
+{
+    const RasterSource raster(path, member);
+    SourceLayer layer;
+    layer.name = member;
+    layer.dataKind = DataKind::Raster;
+    layer.system = raster.System();
+    layer.extent = raster.Extent();
+    return layer;
 }
 
 } // namespace Orvane

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QMutex>
 #include <QSize>
+#include <QSizeF>
 #include <QString>
 
 #include <atomic>
@@ -16,6 +17,18 @@ class GDALDataset;
 namespace Orvane {
 
 class RasterShades;
+struct SourceLayer;
+
+/// The number of the RunTimeError for a picture that does not say where it lies.
+inline constexpr int RasterNotPlaced = 10105;
+
+/// What a file tells about its raster.
+struct RasterDetails {
+    QString driver; ///< the format, "GeoTIFF"
+    QSize size; ///< pixels
+    int bands = 0;
+    QSizeF pixelSize; ///< in units of its system; empty if it has no fixed size
+};
 
 /// A georeferenced picture that one of GDAL's raster drivers opens, such as an aerial photograph, read-only.
 /// Elevation grids and similar data are shown in shades of grey from their lowest to their highest value.
@@ -24,24 +37,27 @@ class RasterShades;
 ///     QImage image = photo.Draw(map.System(), view.Extent(), window.size(), cancelled);
 ///
 /// Any thread may draw, but only one draws at a time. Errors are RunTimeError with SourceUnreadable and a
-/// sentence that names the file.
+/// sentence that names the file, unless another number is stated.
 class RasterSource
 {
 public:
-    /// Raises if no driver can open the file, or if the file is not georeferenced.
-    explicit RasterSource(const QString& path);
+    /// Raises if no driver can open the file, and RasterNotPlaced if the file is not georeferenced.
+    /// member: of an archive, as RastersInArchive names it; empty for a file by itself. chosenSystem: its
+    /// coordinate system, instead of the one that it names; empty for that one.
+    explicit RasterSource(const QString& path, const QString& member = {}, const QString& chosenSystem = {});
     ~RasterSource();
     RasterSource(const RasterSource&) = delete;
     RasterSource& operator=(const RasterSource&) = delete;
 
     const QString& Path() const { return m_path; }
-    /// Its coordinate system, as in CoordinateSystems.h; empty if it has none; then the map's system is
-    /// assumed.
+    /// The coordinate system that it names, as in CoordinateSystems.h; empty if it names none; then the map's
+    /// system is assumed, unless one was chosen.
     QString System() const;
-    /// The area that it covers, in units of its own system; ExtentIn uses the map's system. Empty if it
-    /// cannot be shown in that system.
+    /// The area that it covers, in units of its own system.
     Box Extent() const;
+    /// The same in the map's system. Empty if it cannot be shown in that system.
     Box ExtentIn(const QString& mapSystem) const;
+    RasterDetails Details() const;
 
     /// Draws the part of the map, warped into its system, transparent where there is no picture. Reads only
     /// the data that the image needs. Null if nothing is in view, or if cancelled becomes true. Raises for
@@ -51,9 +67,13 @@ public:
 
 private:
     QString m_path;
+    QString m_chosenSystem;
     std::unique_ptr<GDALDataset> m_dataset;
     std::unique_ptr<const RasterShades> m_shades;
     mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };
+
+/// The raster of a file, or in an archive, as a layer that was found. Raises as RasterSource does.
+SourceLayer DescribeRaster(const QString& path, const QString& member = {});
 
 } // namespace Orvane

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/RasterWarp.h"
 
+#include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemReference.h"
 
 #include <QStringList>
@@ -12,10 +14,13 @@
 #include <gdal_alg.h>
 #include <gdal_priv.h>
 #include <gdal_utils.h>
+#include <optional>
 
 namespace Orvane {
 
 namespace {
+
+constexpr double WholeTurn = 359.9; // degrees; some systems leave out the date line itself
 
 CPLStringList Arguments(const QStringList& texts)
 {
@@ -30,15 +35,18 @@ QString Number(double value)
     return QString::number(value, 'g', 17);
 }
 
-bool HasSystem(GDALDataset& raster)
-{
-    return raster.GetSpatialRef() || raster.GetGCPSpatialRef();
-}
-
 // Empty for a text that is not a system: GDAL would open it as a file.
 QString KnownSystemText(const QString& system)
 {
     return ReferenceOf(system).IsEmpty() ? QString() : system;
+}
+
+// The system to take instead of the raster's own; empty for its own.
+QString AssumedSystem(GDALDataset& raster, const RasterSystems& systems)
+{
+    if (!systems.chosen.isEmpty())
+        return KnownSystemText(systems.chosen);
+    return SystemOfRaster(raster).isEmpty() ? KnownSystemText(systems.map) : QString();
 }
 
 using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
@@ -65,25 +73,62 @@ std::unique_ptr<GDALDataset, Releaser> Thinned(GDALDataset& raster, int step)
 QStringList WarpArguments(GDALDataset& raster, const RasterTarget& target, bool blend)
 {
     QStringList list = {"-of", "VRT", "-dstalpha", "-ovr", "NONE", "-r", blend ? "bilinear" : "near"};
-    const QString system = KnownSystemText(target.system);
+    const QString system = KnownSystemText(target.systems.map);
+    const QString assumed = AssumedSystem(raster, target.systems);
     if (!system.isEmpty())
         list << "-t_srs" << system;
-    if (!system.isEmpty() && !HasSystem(raster))
-        list << "-s_srs" << system;
+    if (!assumed.isEmpty())
+        list << "-s_srs" << assumed;
     const Box& box = target.extent;
     list << "-te" << Number(box.minX) << Number(box.minY) << Number(box.maxX) << Number(box.maxY);
     list << "-ts" << QString::number(target.pixels.width()) << QString::number(target.pixels.height());
     return list;
 }
 
-} // namespace
-
-RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem)
+// The box that the raster covers in its own system; nothing if its rows are not parallel to the axes.
+std::optional<Box> OwnBox(GDALDataset& raster)
 {
-    const QByteArray system = HasSystem(raster) ? KnownSystemText(mapSystem).toUtf8() : QByteArray();
+    std::array<double, 6> to = {};
+    if (raster.GetGeoTransform(to.data()) != CE_None || to[2] != 0 || to[4] != 0)
+        return std::nullopt;
+    Box box;
+    box.Add(QPointF(to[0], to[3]));
+    box.Add(QPointF(to[0] + to[1] * raster.GetRasterXSize(), to[3] + to[5] * raster.GetRasterYSize()));
+    return box;
+}
+
+// Without what lies beyond a map of the whole world: web Mercator has no room for the poles.
+Box WithinWorld(Box box, const QString& system, const QString& mapSystem)
+{
+    const SystemFacts map = FactsOf(mapSystem);
+    if (map.isGeographic || map.area.Width() < WholeTurn || !FactsOf(system).isGeographic)
+        return box;
+    box.minY = std::max(box.minY, map.area.minY);
+    box.maxY = std::min(box.maxY, map.area.maxY);
+    return box;
+}
+
+// Empty if it cannot be found from the box alone.
+Box PlacedBox(GDALDataset& raster, const Box& own, const RasterSystems& systems)
+{
+    const QString map = KnownSystemText(systems.map);
+    const QString chosen = KnownSystemText(systems.chosen);
+    const QString system = chosen.isEmpty() ? SystemOfRaster(raster) : chosen;
+    if (map.isEmpty() || system.isEmpty() || map == system)
+        return own;
+    return Transformed(WithinWorld(own, system, map), system, map);
+}
+
+// As GDAL would make a raster of it in the map's system.
+RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
+{
+    const QByteArray system = KnownSystemText(systems.map).toUtf8();
+    const QByteArray assumed = AssumedSystem(raster, systems).toUtf8();
     CPLStringList options;
     if (!system.isEmpty())
         options.SetNameValue("DST_SRS", system.constData());
+    if (!assumed.isEmpty())
+        options.SetNameValue("SRC_SRS", assumed.constData());
     void* transformer
         = GDALCreateGenImgProjTransformer2(GDALDataset::ToHandle(&raster), nullptr, options.List());
     if (!transformer)
@@ -99,6 +144,24 @@ RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem)
     const bool known = result == CE_None
         && std::all_of(box.begin(), box.end(), [](double value) { return std::isfinite(value); });
     return known ? RasterPlace{{box[0], box[1], box[2], box[3]}, std::abs(transform[1])} : RasterPlace();
+}
+
+} // namespace
+
+QString SystemOfRaster(GDALDataset& raster)
+{
+    const QString system = SystemText(raster.GetSpatialRef());
+    return system.isEmpty() ? SystemText(raster.GetGCPSpatialRef()) : system;
+}
+
+RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
+{
+    const std::optional<Box> own = OwnBox(raster);
+    const Box placed = own ? PlacedBox(raster, *own, systems) : Box();
+    if (placed.IsEmpty())
+        return SuggestedPlace(raster, systems);
+    const double pixels = double(raster.GetRasterXSize()) * raster.GetRasterYSize();
+    return {placed, std::sqrt(placed.Width() * placed.Height() / pixels)};
 }
 
 std::unique_ptr<GDALDataset>

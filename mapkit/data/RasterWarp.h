@@ -18,16 +18,24 @@ struct RasterPlace {
     double unitsPerPixel = 0; ///< size of one of its pixels in map units
 };
 
+/// The coordinate systems between which a raster is warped.
+struct RasterSystems {
+    QString map; ///< empty if the map has none
+    QString chosen; ///< for the raster, instead of the one that it names; empty for that one
+};
+
 /// Part of a map, to be filled with pixels.
 struct RasterTarget {
-    QString system;
+    RasterSystems systems;
     Box extent;
     QSize pixels;
 };
 
-/// Finds the raster's place in a map of that system. A raster without a system is assumed to have the map's
-/// system.
-RasterPlace PlaceRaster(GDALDataset& raster, const QString& mapSystem);
+/// The coordinate system that the raster names; empty for none.
+QString SystemOfRaster(GDALDataset& raster);
+
+/// Finds the raster's place in a map. A raster without a system is assumed to have the map's system.
+RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems);
 
 /// A virtual raster of the target's size whose pixels are computed when they are read, from source pixels
 /// thinned to about its resolution. Its last band is 0 where there is no picture. blend: pixels may be mixed

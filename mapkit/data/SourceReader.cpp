@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/MapRaster.h"
 #include "mapkit/data/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -38,7 +39,33 @@ private:
     std::unique_ptr<DataSource> m_source;
 };
 
+void ReadSource(
+    SourceContents& contents, const LayerSource& source, const QString& mapSystem, OpenSource& open,
+    Progress& progress)
+{
+    if (source.kind == DataKind::Raster) {
+        contents.rasters[source.layerID] = std::make_shared<const MapRaster>(source, mapSystem);
+        return;
+    }
+    auto features
+        = open.At(source.path)
+              .Read(source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
+    contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
+}
+
 } // namespace
+
+bool SourceContents::Has(qint32 layerID) const
+{
+    return features.contains(layerID) || rasters.contains(layerID) || failures.contains(layerID);
+}
+
+void SourceContents::Add(SourceContents other)
+{
+    features.merge(other.features);
+    rasters.merge(other.rasters);
+    failures.merge(other.failures);
+}
 
 QString SourceContents::FailureText() const
 {
@@ -69,11 +96,7 @@ SourceContents ReadSources(std::vector<LayerSource> sources, const QString& mapS
         try {
             progress.StopIfCancelled();
             progress.SetSubject(source.path);
-            auto features
-                = open.At(source.path)
-                      .Read(
-                          source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
-            contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
+            ReadSource(contents, source, mapSystem, open, progress);
         } catch (const RunTimeError& error) {
             contents.failures[source.layerID] = error.Description();
         } catch (const Cancelled&) {

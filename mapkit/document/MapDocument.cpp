@@ -3,7 +3,7 @@
 
 #include "hostkit/common/LayerRow.h"
 #include "hostkit/common/StoredScale.h"
-#include "mapkit/document/BackdropPlace.h"
+#include "mapkit/document/EarlierBackdrop.h"
 #include "mapkit/document/MapSettings.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
@@ -15,6 +15,21 @@
 #include <QFileInfo>
 
 namespace Orvane {
+
+namespace {
+
+constexpr int LowestPriority = 255;
+
+} // namespace
+
+NewLayer NewLayer::OfRaster()
+{
+    NewLayer layer;
+    layer.kind = DataKind::Raster;
+    layer.priority = LowestPriority;
+    layer.values = ValuesWithoutInk();
+    return layer;
+}
 
 std::unique_ptr<MapDocument> MapDocument::Untitled()
 {
@@ -67,6 +82,7 @@ MapDocument::MapDocument(std::unique_ptr<ILayerStore> database, const QString& p
     m_sources.Create();
     m_renderings.Create();
     MapSettings::Prepare(*m_database);
+    EarlierBackdrop::MakeLayer(*this);
 }
 
 MapDocument::~MapDocument() = default;
@@ -85,7 +101,6 @@ void MapDocument::SaveCopy(const QString& path) const
         Transaction transaction(copy.Database());
         for (const LayerSource& source : Sources())
             copy.SetSource(source);
-        copy.SetBackdrop(Backdrop());
         transaction.Commit();
     });
 }
@@ -117,20 +132,6 @@ void MapDocument::SetBackground(const QColor& colour)
     MapSettings::Write(*m_database, QStringLiteral("Background"), colour.name());
 }
 
-QString MapDocument::Backdrop() const
-{
-    return FindBackdrop(*m_database, m_path);
-}
-
-void MapDocument::SetBackdrop(const QString& path)
-{
-    const SourcePaths::Place place = path.isEmpty() ? SourcePaths::Place() : SourcePaths(m_path).Store(path);
-    Transaction transaction(*m_database);
-    MapSettings::Write(*m_database, QStringLiteral("Backdrop"), place.path);
-    MapSettings::Write(*m_database, QStringLiteral("BackdropRelative"), place.relative);
-    transaction.Commit();
-}
-
 qint32 MapDocument::AddLayer(const NewLayer& layer)
 {
     LayerRow row;
@@ -149,7 +150,7 @@ qint32 MapDocument::AddLayer(const NewLayer& layer)
     Transaction transaction(*m_database);
     row.Set("Code", LayerRow::LowestFreeCode(*m_database));
     const qint32 layerID = row.StoreNew(*m_database);
-    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter, layer.system, layer.choice});
+    SetSource({layerID, layer.path, layer.ogrLayer, layer.filter, layer.system, layer.choice, layer.kind});
     transaction.Commit();
     return layerID;
 }

@@ -31,10 +31,15 @@ struct NewLayer {
     QString filter;
     QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
     GeometryChoice choice = {}; ///< which geometries of the data
+    DataKind kind = DataKind::Features; ///< what the data are
+
+    /// A raster layer, which lies below the others and shows nothing in lists of lines and fills. Name and
+    /// path are missing.
+    static NewLayer OfRaster();
 };
 
 /// A map file: the layer database with three more tables: LayerSources, which stores where each layer's
-/// features come from, LayerRendering and MapSettings. Changes are stored as they are made.
+/// data come from, LayerRendering and MapSettings. Changes are stored as they are made.
 ///
 /// Data is found again if it was moved together with the map, or into the folder of the map. All calls are
 /// made on the user-interface thread; errors are those of the database.
@@ -55,7 +60,7 @@ public:
     /// Creates a new file that replaces an existing one. If it cannot be created, or the old file is open
     /// anywhere, the old file stays.
     static std::unique_ptr<MapDocument> CreateOver(const QString& path);
-    /// Opens a map file.
+    /// Opens a map file. One of an earlier version is brought up to date.
     static std::unique_ptr<MapDocument> Open(const QString& path);
     /// Opens a copy of a map file as if it were the original: its data is found, and stored, relative to the
     /// original's location, and Path() is the path of the original.
@@ -84,10 +89,6 @@ public:
     QColor Background() const;
     void SetBackground(const QColor& colour);
 
-    /// The picture under all layers, as an absolute path; empty for none.
-    QString Backdrop() const;
-    void SetBackdrop(const QString& path);
-
     /// Adds the layer on top of the list and returns its ID.
     qint32 AddLayer(const NewLayer& layer);
     /// Adds a group at the end and returns its ID.
@@ -95,12 +96,14 @@ public:
     /// Adds the layer at the end of the group.
     void AddMember(qint32 groupID, qint32 layerID);
 
-    /// Where the layers' features come from, with absolute paths.
+    /// Where the layers' data come from, with absolute paths.
     std::vector<LayerSource> Sources() const;
     /// The same for one layer; nothing if it has none.
     std::optional<LayerSource> SourceOf(qint32 layerID) const;
     /// Sets the layer's data, replacing its former data.
     void SetSource(const LayerSource& source);
+    /// Sets only where the layer's data are, as it is stored.
+    void SetPlace(qint32 layerID, const SourcePaths::Place& place) { m_sources.SetPlace(layerID, place); }
     /// How layers are read that are not read plainly, by layer ID: see SourceTable::ChosenReadings.
     std::map<qint32, QString> ChosenReadings() const { return m_sources.ChosenReadings(); }
     /// The settings for the layers' renderer styles.

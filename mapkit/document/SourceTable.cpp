@@ -14,6 +14,7 @@ const QString SourcesName = QStringLiteral("LayerSources");
 const QString RelativePath = QStringLiteral("RelativePath");
 const QString System = QStringLiteral("System");
 const QString Geometry = QStringLiteral("Geometry");
+const QString Kind = QStringLiteral("Kind");
 
 StoreTable SourcesTable()
 {
@@ -27,7 +28,8 @@ StoreTable SourcesTable()
          {QStringLiteral("Filter"), StoreType::Text, Nulls::Refused, QStringLiteral("''")},
          {RelativePath},
          {System},
-         {Geometry}},
+         {Geometry},
+         {Kind}},
         {layerID}};
 }
 
@@ -58,9 +60,9 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
         return m_database.HasColumn(SourcesName, column) ? column : QStringLiteral("NULL AS ") + column;
     };
     const auto rows = m_database.OpenQuery(
-        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1, %2, %3"
-                       " FROM LayerSources WHERE %4 ORDER BY LayerID")
-            .arg(valueOf(RelativePath), valueOf(System), valueOf(Geometry), condition),
+        QStringLiteral("SELECT LayerID, Path, OgrLayer, Filter, %1, %2, %3, %4"
+                       " FROM LayerSources WHERE %5 ORDER BY LayerID")
+            .arg(valueOf(RelativePath), valueOf(System), valueOf(Geometry), valueOf(Kind), condition),
         values);
     std::vector<LayerSource> sources;
     for (; !rows->AtEOF(); rows->MoveNext()) {
@@ -72,7 +74,8 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
         sources.push_back(
             {*layerID, m_paths.Find(place), ToTextOrNone(rows->Field("OgrLayer")),
              ToTextOrNone(rows->Field("Filter")), ToTextOrNone(rows->Field("System")),
-             GeometryChoice::FromText(ToTextOrNone(rows->Field("Geometry")))});
+             GeometryChoice::FromText(ToTextOrNone(rows->Field("Geometry"))),
+             KindInText(ToTextOrNone(rows->Field("Kind")))});
     }
     return sources;
 }
@@ -83,13 +86,21 @@ void SourceTable::Set(const LayerSource& source)
     const auto notNull = [](const QString& text) { return text.isNull() ? QStringLiteral("") : text; };
     m_database.Execute(
         QStringLiteral("INSERT INTO LayerSources"
-                       " (LayerID, Path, OgrLayer, Filter, RelativePath, System, Geometry)"
-                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7) ON CONFLICT (LayerID) DO UPDATE SET"
+                       " (LayerID, Path, OgrLayer, Filter, RelativePath, System, Geometry, Kind)"
+                       " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8) ON CONFLICT (LayerID) DO UPDATE SET"
                        " Path = excluded.Path, OgrLayer = excluded.OgrLayer, Filter = excluded.Filter,"
                        " RelativePath = excluded.RelativePath, System = excluded.System,"
-                       " Geometry = excluded.Geometry"),
+                       " Geometry = excluded.Geometry, Kind = excluded.Kind"),
         {source.layerID, notNull(place.path), notNull(source.ogrLayer), notNull(source.filter),
-         notNull(place.relative), notNull(source.system), notNull(source.choice.ToText())});
+         notNull(place.relative), notNull(source.system), notNull(source.choice.ToText()),
+         notNull(TextOfKind(source.kind))});
+}
+
+void SourceTable::SetPlace(qint32 layerID, const SourcePaths::Place& place)
+{
+    m_database.Execute(
+        QStringLiteral("UPDATE LayerSources SET Path = ?2, RelativePath = ?3 WHERE LayerID = ?1"),
+        {layerID, place.path, place.relative});
 }
 
 std::map<qint32, QString> SourceTable::ChosenReadings() const

@@ -14,7 +14,7 @@ namespace Orvane {
 
 class ILayerStore;
 
-/// The table LayerSources of a map file: where each layer's features come from. When a layer is deleted, its
+/// The table LayerSources of a map file: where each layer's data come from. When a layer is deleted, its
 /// row is removed too. Errors are those of the database.
 class SourceTable
 {
@@ -34,6 +34,9 @@ public:
 
     /// Sets the layer's source, replacing its former one. path: absolute.
     void Set(const LayerSource& source);
+
+    /// Sets only the place of the layer's data, as it is stored.
+    void SetPlace(qint32 layerID, const SourcePaths::Place& place);
 
     /// How layers are read that are not read plainly, by layer ID: a text that tells different systems, kinds
     /// of geometry and columns apart. Needs the table as Create leaves it.

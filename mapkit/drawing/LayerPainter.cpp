@@ -2,6 +2,7 @@
 #include "mapkit/drawing/LayerPainter.h"
 
 #include "mapkit/drawing/FeaturePainter.h"
+#include "mapkit/drawing/RasterPainter.h"
 
 namespace Orvane {
 
@@ -103,6 +104,8 @@ std::vector<Pass> PassesOf(const MapLayer& layer)
 void PaintLayer(
     QPainter& painter, const MapLayer& layer, const MapView& view, const std::atomic<bool>& cancelled)
 {
+    if (layer.raster)
+        return PaintRaster(painter, *layer.raster, view, cancelled);
     for (const Pass& pass : PassesOf(layer))
         FeaturePainter(painter, view, pass.look).Paint(*layer.features, pass.isChosen, cancelled);
 }

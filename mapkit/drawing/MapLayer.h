@@ -3,6 +3,7 @@
 
 #include "mapkit/data/AttributeColumn.h"
 #include "mapkit/data/FeatureSet.h"
+#include "mapkit/data/MapRaster.h"
 #include "mapkit/looks/Classification.h"
 #include "mapkit/looks/LayerLook.h"
 
@@ -22,7 +23,7 @@ enum class DrawMode {
     Hidden = 2, ///< not drawn
 };
 
-/// What the user may do with a layer's features on the map.
+/// What the user may do with a layer's features on the map; nothing of it concerns rasters.
 struct LayerFlags {
     bool selectable = true;
     bool locked = false; ///< its features cannot be moved
@@ -43,7 +44,8 @@ struct MapLayer {
     double maxDenominator = std::numeric_limits<double>::infinity(); ///< ... to 1 : this
     DrawingValues values;
     LayerLook look; ///< derived from the values
-    std::shared_ptr<const FeatureSet> features; ///< nullptr if they cannot be read
+    std::shared_ptr<const FeatureSet> features; ///< nullptr for a raster, and if they cannot be read
+    std::shared_ptr<const MapRaster> raster = {}; ///< nullptr for features, and if it cannot be read
     std::shared_ptr<const AttributeColumn> labels; ///< nullptr for no labels, and until they are read
     std::shared_ptr<const Classification> classes; ///< nullptr for no classes, and until they are known
     std::vector<ClassLook> classLooks; ///< derived from values and classes, one per class
@@ -51,6 +53,15 @@ struct MapLayer {
     QString name; ///< the layer's own, without markers
     LayerFlags flags;
 
+    /// True when the layer's data could be read.
+    bool IsRead() const { return features || raster; }
+    /// Of all its data, in map units; empty if they cannot be read.
+    Box Bounds() const { return features ? features->Bounds() : raster ? raster->Extent() : Box(); }
+    /// The coordinate system that its data were in; empty if it is not known.
+    QString SourceSystem() const
+    {
+        return features ? features->SourceSystem() : raster ? raster->SourceSystem() : QString();
+    }
     /// True when the layer is shown at the scale 1 : denominator.
     bool IsInScale(double denominator) const
     {
@@ -59,7 +70,7 @@ struct MapLayer {
     /// True when the map shows the layer at that scale, judging by the layer's own values only.
     bool IsShownAt(double denominator) const
     {
-        return visible && mode != DrawMode::Hidden && features && IsInScale(denominator);
+        return visible && mode != DrawMode::Hidden && IsRead() && IsInScale(denominator);
     }
     /// A key that sorts layers in drawing order, the lowest first.
     auto Height() const { return std::tuple(mode != DrawMode::Backdrop, -priority, layerID); }
@@ -67,6 +78,8 @@ struct MapLayer {
     /// True when both layers would be drawn identically.
     bool LooksLike(const MapLayer& other) const
     {
+        if (raster || other.raster) // without lines and fills
+            return raster == other.raster;
         return values == other.values && features == other.features && labels == other.labels
             && classes == other.classes
             && std::equal(

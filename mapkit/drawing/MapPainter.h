@@ -24,7 +24,7 @@ namespace Orvane {
 ///
 /// Nothing is painted outside the view, and no background. layers: in any order; invisible and hidden ones
 /// and those out of scale are left out. Stops soon after cancelled becomes true, with part of the map
-/// painted, and returns false then. The painter's state is restored.
+/// painted, and returns false then. The painter's state is restored. Raises for a raster with damaged data.
 bool PaintMap(
     QPainter& painter, const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator,
     const std::atomic<bool>& cancelled);

@@ -5,6 +5,8 @@
 #include "mapkit/drawing/LayerPainter.h"
 #include "mapkit/drawing/PixelGeometry.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QPainter>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ constexpr qint32 LabelMark = std::numeric_limits<qint32>::min();
 
 bool IsDrawn(const MapLayer& layer, const Box& extent, double scaleDenominator)
 {
-    return layer.IsShownAt(scaleDenominator) && layer.features->Bounds().Intersects(extent);
+    return layer.IsShownAt(scaleDenominator) && layer.Bounds().Intersects(extent);
 }
 
 // The pixels that the sheet's layers can touch.
@@ -30,10 +32,21 @@ QRect CoveredArea(const Sheet& sheet, const MapView& view)
         return window.toRect();
     QRectF covered;
     for (const MapLayer& layer : sheet.layers) {
-        const double margin = layer.look.Reach();
-        covered |= ToPixels(layer.features->Bounds(), view).adjusted(-margin, -margin, margin, margin);
+        const double margin = layer.raster ? 0 : layer.look.Reach();
+        covered |= ToPixels(layer.Bounds(), view).adjusted(-margin, -margin, margin, margin);
     }
     return (covered & window).toAlignedRect();
+}
+
+void DrawLayer(
+    SheetImage& result, QPainter& painter, const MapLayer& layer, const MapView& view,
+    const std::atomic<bool>& cancelled)
+{
+    try {
+        PaintLayer(painter, layer, view, cancelled);
+    } catch (const RunTimeError& error) {
+        result.failures[layer.layerID] = error.Description();
+    }
 }
 
 // Appends sheets for the layers, bottom first, and above them for their labels.
@@ -54,6 +67,12 @@ void AppendSheets(
 }
 
 } // namespace
+
+bool Sheet::HasRaster() const
+{
+    return std::any_of(
+        layers.begin(), layers.end(), [](const MapLayer& layer) { return layer.raster != nullptr; });
+}
 
 std::vector<qint32> Sheet::Key() const
 {
@@ -94,12 +113,16 @@ SheetImage DrawSheet(
     if (area.isEmpty())
         return {};
     const QSizeF pixels = QSizeF(area.size()) * devicePixelRatio;
-    SheetImage result{QImage(pixels.toSize(), QImage::Format_ARGB32_Premultiplied), area.topLeft()};
+    SheetImage result{QImage(pixels.toSize(), QImage::Format_ARGB32_Premultiplied), area.topLeft(), {}};
     result.image.setDevicePixelRatio(devicePixelRatio);
     result.image.fill(Qt::transparent);
     QPainter painter(&result.image);
     painter.translate(-area.topLeft());
-    PaintSheet(painter, sheet, view, cancelled);
+    if (sheet.labels)
+        PaintSheet(painter, sheet, view, cancelled);
+    else
+        for (const MapLayer& layer : sheet.layers)
+            DrawLayer(result, painter, layer, view, cancelled);
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include <QPoint>
 
 #include <atomic>
+#include <map>
 #include <vector>
 
 class QPainter;
@@ -23,6 +24,9 @@ struct Sheet {
     bool backdrop = false; ///< drawn pale
     bool labels = false; ///< shows the layers' labels, not their features
 
+    /// Whether one of the layers is a raster.
+    bool HasRaster() const;
+
     /// A marker for labels, followed by the layers' IDs in order; identifies the sheet's image.
     std::vector<qint32> Key() const;
 };
@@ -31,6 +35,7 @@ struct Sheet {
 struct SheetImage {
     QImage image; ///< null if nothing is in view
     QPoint topLeft; ///< logical pixels of the view
+    std::map<qint32, QString> failures = {}; ///< why a raster could not be drawn, by layer ID
 };
 
 /// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID.
@@ -40,12 +45,13 @@ struct SheetImage {
 std::vector<Sheet> PlanSheets(
     const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator, size_t maxSheets = 64);
 
-/// Draws a sheet, on any thread. Stops soon after cancelled becomes true, with part of it drawn.
+/// Draws a sheet, on any thread. Stops soon after cancelled becomes true, with part of it drawn. A raster
+/// with damaged data is left out.
 SheetImage DrawSheet(
     const Sheet& sheet, const MapView& view, double devicePixelRatio, const std::atomic<bool>& cancelled);
 
 /// Paints a sheet's layers, on any thread. painter: in logical pixels of the view. Stops soon after cancelled
-/// becomes true.
+/// becomes true. Raises for a raster with damaged data.
 void PaintSheet(
     QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled);
 

@@ -169,6 +169,15 @@ ClassLook UnclassedLook(const DrawingValues& values)
     return {values.fillStyle == HollowFill ? QBrush(Qt::NoBrush) : QBrush(grey), grey};
 }
 
+DrawingValues ValuesWithoutInk()
+{
+    DrawingValues values;
+    values.outlineStyle = NoLinePattern;
+    values.fillStyle = HollowFill;
+    values.fillBackColor = TransparentColour;
+    return values;
+}
+
 std::optional<QColor> ColourFromBgr(qint32 bgr)
 {
     if ((quint32(bgr) & 0xff000000u) != 0)

@@ -27,6 +27,9 @@ struct DrawingValues {
     bool operator==(const DrawingValues&) const = default;
 };
 
+/// Values with which lines and areas show nothing: for layers whose data are neither.
+DrawingValues ValuesWithoutInk();
+
 /// The pens of a line with edges.
 struct CasedLine {
     QPen casing; ///< drawn first, under all cores

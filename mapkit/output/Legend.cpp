@@ -40,6 +40,7 @@ LegendRow RowOf(const MapLayer& layer, const QString& name, const IShellServices
     row.backdrop = layer.mode == DrawMode::Backdrop;
     row.values = layer.values;
     row.look = layer.look;
+    row.raster = layer.raster;
     if (IsPatterned(layer.values.fillStyle))
         row.fillPattern = services.FillPattern(FillPatternKind, layer.values.fillStyle);
     if (layer.features && !layer.features->Features().empty())

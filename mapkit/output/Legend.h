@@ -25,6 +25,7 @@ struct LegendRow {
     DrawingValues values;
     LayerLook look; ///< derived from the values
     MonochromeBitmap fillPattern; ///< for a fill style with a pattern
+    std::shared_ptr<const MapRaster> raster; ///< for a raster, whose sample shows the middle of it
 
     static LegendRow Heading(const QString& text)
     {

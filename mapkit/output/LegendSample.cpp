@@ -2,6 +2,7 @@
 #include "mapkit/output/LegendSample.h"
 
 #include "mapkit/drawing/FeaturePainter.h"
+#include "mapkit/drawing/RasterPainter.h"
 #include "mapkit/drawing/Sheets.h"
 #include "mapkit/output/PageFonts.h"
 #include "mapkit/output/PageSettings.h"
@@ -10,6 +11,8 @@
 #include "samples/BgrColour.h"
 #include "samples/FillSample.h"
 #include "samples/StyleStrings.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QPainter>
 
@@ -105,13 +108,24 @@ void PaintPoint(QPainter& painter, const QRect& area, const LayerLook& look)
     FeaturePainter(painter, MapView({0, 0}, 1, area.size()), look).Paint(point, cancelled);
 }
 
-} // namespace
-
-void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& row)
+// The middle of the raster, as large as fits. One that cannot be read is told by the map.
+void PaintPartOfRaster(QPainter& painter, const QRect& area, const MapRaster& raster)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(row.backdrop ? BackdropOpacity : 1);
+    const Box& extent = raster.Extent();
+    const QPointF middle((extent.minX + extent.maxX) / 2, (extent.minY + extent.maxY) / 2);
+    const double unitsPerPixel = std::min(extent.Width() / area.width(), extent.Height() / area.height());
+    if (!(unitsPerPixel > 0))
+        return;
+    const std::atomic<bool> cancelled = false;
+    painter.translate(area.topLeft());
+    try {
+        PaintRaster(painter, raster, MapView(middle, unitsPerPixel, area.size()), cancelled);
+    } catch (const RunTimeError&) {
+    }
+}
+
+void PaintFeature(QPainter& painter, const QRect& area, const LegendRow& row)
+{
     switch (row.kind) {
     case FeatureKind::Point:
         PaintPoint(painter, area, row.look);
@@ -126,6 +140,19 @@ void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& ro
         PaintArea(painter, area, row);
         break;
     }
+}
+
+} // namespace
+
+void PaintLegendSample(QPainter& painter, const QRect& area, const LegendRow& row)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(row.backdrop ? BackdropOpacity : 1);
+    if (row.raster)
+        PaintPartOfRaster(painter, area, *row.raster);
+    else
+        PaintFeature(painter, area, row);
     painter.restore();
 }
 

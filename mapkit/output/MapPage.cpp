@@ -44,6 +44,8 @@ DrawnLayers(const std::vector<MapLayer>& layers, const MapView& view, double den
 
 bool HasPatterns(const MapLayer& layer)
 {
+    if (layer.raster)
+        return false;
     const auto isPattern = [](const QBrush& fill) { return fill.style() == Qt::TexturePattern; };
     return isPattern(layer.look.fill)
         || std::any_of(layer.classLooks.begin(), layer.classLooks.end(), [&](const ClassLook& look) {
@@ -146,8 +148,6 @@ void MapPage::PaintMapFrame(QPainter& painter, const std::atomic<bool>& cancelle
 
 void MapPage::PaintLayers(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
-    if (m_contents.backdrop)
-        m_contents.backdrop->Paint(painter, m_view, cancelled);
     if (KnowsPatterns(painter))
         PaintMap(painter, m_contents.layers, m_view, ScaleDenominator(), cancelled);
     else

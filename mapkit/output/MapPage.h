@@ -4,7 +4,6 @@
 #include "mapkit/coordinates/Box.h"
 #include "mapkit/drawing/MapLayer.h"
 #include "mapkit/drawing/MapView.h"
-#include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/output/PageLayout.h"
 
 #include <QColor>
@@ -25,7 +24,6 @@ struct PageContents {
     std::vector<MapLayer> layers; ///< their looks are created again for paper
     QString system; ///< coordinate system of the map
     Box area; ///< shown completely, or around its middle if the settings have a scale
-    std::shared_ptr<const RasterBackdrop> backdrop = nullptr; ///< under all layers; nullptr for none
     QColor background = Qt::white; ///< of the map; the rest of the page is white
 };
 
@@ -55,7 +53,7 @@ public:
     const PageSettings& Settings() const { return m_settings; }
 
     /// Paints the page, including the white paper, on any thread. painter: in page pixels. Stops soon after
-    /// cancelled becomes true.
+    /// cancelled becomes true. Raises for a raster with damaged data.
     void Paint(QPainter& painter, const std::atomic<bool>& cancelled) const;
 
 private:

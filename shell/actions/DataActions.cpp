@@ -3,6 +3,7 @@
 
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
+#include "mapkit/data/DataFiles.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/dialogs/MissingData.h"
 #include "shell/map/MapSession.h"
@@ -22,26 +23,23 @@ DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : 
 {
     const QList<QAction*> commands = menu.actions();
     QAction* before = commands.value(commands.indexOf(behind) + 1);
+    QAction* raster = Add(
+        menu, before, "actOpenRaster", tr("Open Ras&ter..."),
+        tr("Add aerial photographs, scanned maps or elevation grids to the map"));
     m_find = Add(
         menu, before, "actFindData", tr("&Find Missing Data..."),
         tr("Search a folder for the missing data files of the map"));
     m_columns = Add(
         menu, before, "actTableColumns", tr("Table &Columns..."),
         tr("Choose the columns with the coordinates of the tables in the map"));
-    m_backdrop = Add(
-        menu, before, "actBackdrop", tr("Raster &Backdrop..."),
-        tr("Show a picture below all layers of the map"));
-    m_noBackdrop = Add(
-        menu, before, "actNoBackdrop", tr("R&emove Raster Backdrop"), tr("Show the map without the picture"));
     const auto run = [this](QAction* action, void (DataActions::*command)()) {
         connect(action, &QAction::triggered, this, [this, command] {
             Guard(&m_window, [&] { (this->*command)(); });
         });
     };
+    run(raster, &DataActions::AskForRasters);
     run(m_find, &DataActions::FindData);
     run(m_columns, &DataActions::AskForColumns);
-    run(m_backdrop, &DataActions::AskForBackdrop);
-    run(m_noBackdrop, &DataActions::RemoveBackdrop);
     connect(&menu, &QMenu::aboutToShow, this, [this] { Guard(&m_window, [this] { ShowWhatIsPossible(); }); });
 }
 
@@ -109,7 +107,6 @@ void DataActions::ShowWhatIsPossible()
 {
     m_find->setEnabled(!MissingSources(m_session->Document()).empty());
     m_columns->setEnabled(TableQuestions::HasTables(m_session->Document()));
-    m_noBackdrop->setEnabled(!m_session->Document().Backdrop().isEmpty());
 }
 
 void DataActions::FindData()
@@ -143,23 +140,12 @@ void DataActions::AskForColumns()
         Reload();
 }
 
-void DataActions::AskForBackdrop()
+void DataActions::AskForRasters()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Raster Backdrop"), {},
-        tr("Georeferenced pictures (*.tif *.tiff *.vrt *.jp2 *.png *.jpg *.jpeg *.gpkg *.mbtiles *.img *.asc"
-           " *.hgt *.dem *.ecw *.nc)"
-           ";;All files (*)"));
-    if (path.isEmpty())
-        return;
-    m_session->SetBackdrop(path);
-    emit DataChanged();
-}
-
-void DataActions::RemoveBackdrop()
-{
-    m_session->SetBackdrop({});
-    emit DataChanged();
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        &m_window, tr("Open Raster"), {}, tr("Rasters (%1);;All files (*)").arg(DataFiles::RasterPatterns()));
+    if (!paths.isEmpty())
+        emit DataChosen(paths);
 }
 
 void DataActions::Reload()

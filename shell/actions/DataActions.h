@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class QAction;
 class QMenu;
@@ -12,8 +13,8 @@ namespace Orvane {
 
 class MapSession;
 
-/// The commands of the File menu for the data of a map: find missing data, choose the columns of tables, put
-/// a picture under the map. They also show the user the problems of the data.
+/// The commands of the File menu for the data of a map: open rasters, find missing data, choose the columns
+/// of tables. They also show the user the problems of the data.
 class DataActions : public QObject
 {
     Q_OBJECT
@@ -31,6 +32,8 @@ public:
 signals:
     /// The map shows other data than before.
     void DataChanged();
+    /// The user has chosen these files to be added to the map.
+    void DataChosen(const QStringList& paths);
     /// What a command has done, for the status bar.
     void Told(const QString& message);
     /// The map is to be saved under another name.
@@ -42,16 +45,13 @@ private:
     void TellMapIsGone();
     void FindData();
     void AskForColumns();
-    void AskForBackdrop();
-    void RemoveBackdrop();
+    void AskForRasters();
     void Reload();
 
     QWidget& m_window;
     MapSession* m_session = nullptr;
-    QAction* m_find; // all four owned by this object
+    QAction* m_find; // both owned by this object
     QAction* m_columns;
-    QAction* m_backdrop;
-    QAction* m_noBackdrop;
 };
 
 } // namespace Orvane

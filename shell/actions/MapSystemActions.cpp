@@ -39,8 +39,9 @@ std::vector<SystemQuestion::Layer> SystemsOf(const MapSession& session)
 {
     std::vector<SystemQuestion::Layer> layers;
     for (const MapLayer& layer : session.Layers()) {
-        if (layer.features && !layer.features->SourceSystem().isEmpty())
-            layers.push_back({layer.name, layer.features->SourceSystem()});
+        const QString system = layer.SourceSystem();
+        if (!system.isEmpty())
+            layers.push_back({layer.name, system});
     }
     return layers;
 }

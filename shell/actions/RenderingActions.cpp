@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace Orvane {
 
 RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(window)
@@ -22,7 +24,7 @@ RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(wind
     Add(menu, "actMapBackground", tr("Map &Background..."), tr("Choose the colour under all layers"),
         [this] { AskForBackground(); });
     connect(&menu, &QMenu::aboutToShow, this, [this, rendering] {
-        Guard(&m_window, [&] { rendering->setEnabled(m_session->Document().HasLayers()); });
+        Guard(&m_window, [&] { rendering->setEnabled(!LayersToRender().empty()); });
     });
 }
 
@@ -31,8 +33,24 @@ void RenderingActions::Use(MapSession& session)
     m_session = &session;
     session.Shell().AddLayerCommand(
         {QStringLiteral("LayerRendering"), tr("Layer Rendering..."),
-         [](const std::vector<qint32>&) { return QString(); },
+         [this](const std::vector<qint32>& layerIDs) { return WhyNoRendering(layerIDs); },
          [this](const std::vector<qint32>& layerIDs) { AskForRenderings(layerIDs); }});
+}
+
+std::vector<MapLayer> RenderingActions::LayersToRender() const
+{
+    std::vector<MapLayer> layers = m_session->Layers();
+    std::erase_if(layers, [](const MapLayer& layer) { return layer.raster != nullptr; });
+    return layers;
+}
+
+QString RenderingActions::WhyNoRendering(const std::vector<qint32>& layerIDs) const
+{
+    const bool areRasters = std::all_of(layerIDs.begin(), layerIDs.end(), [this](qint32 layerID) {
+        const std::optional<LayerSource> source = m_session->Document().SourceOf(layerID);
+        return source && source->kind == DataKind::Raster;
+    });
+    return areRasters ? tr("A raster has no attributes, and so no labels and classes.") : QString();
 }
 
 QAction* RenderingActions::Add(
@@ -51,9 +69,10 @@ QAction* RenderingActions::Add(
 void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
 {
     MapSession& session = *m_session;
-    if (session.Layers().empty())
+    const std::vector<MapLayer> layers = LayersToRender();
+    if (layers.empty())
         return;
-    RenderingDialog dialog(session.Document(), session.Layers(), &m_window);
+    RenderingDialog dialog(session.Document(), layers, &m_window);
     if (!chosen.empty())
         dialog.Choose(chosen.front());
     const QPointer alive(m_session); // the map may be saved under another name while it asks

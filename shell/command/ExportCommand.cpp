@@ -12,8 +12,6 @@
 #include "shell/map/MapLayers.h"
 #include "store/ILayerStore.h"
 
-#include <OrvaneShellLib/RunTimeError.h>
-
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -29,8 +27,8 @@ Box BoundsOf(const std::vector<MapLayer>& layers)
 {
     Box bounds;
     for (const MapLayer& layer : layers) {
-        if (layer.features && layer.visible && layer.mode != DrawMode::Hidden)
-            bounds.Add(layer.features->Bounds());
+        if (layer.visible && layer.mode != DrawMode::Hidden)
+            bounds.Add(layer.Bounds());
     }
     const double room = bounds.IsEmpty() ? 0 : Room * std::max(bounds.Width(), bounds.Height());
     return {bounds.minX - room, bounds.minY - room, bounds.maxX + room, bounds.maxY + room};
@@ -42,24 +40,6 @@ void TellFailures(const SourceContents& contents, const Terminal& terminal)
     const QStringList reasons = contents.FailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString& reason : reasons)
         TellError(terminal, reason);
-}
-
-// The picture under the map, or why it cannot be shown; neither if the map has none.
-struct OpenedBackdrop {
-    std::shared_ptr<const RasterBackdrop> picture;
-    QString failure;
-};
-
-OpenedBackdrop OpenBackdrop(const MapDocument& document)
-{
-    const QString path = document.Backdrop();
-    try {
-        if (path.isEmpty())
-            return {};
-        return {std::make_shared<const RasterBackdrop>(path, document.System()), {}};
-    } catch (const RunTimeError& error) {
-        return {nullptr, error.Description()};
-    }
 }
 
 int Export(const ExportRequest& request, const Terminal& terminal)
@@ -75,18 +55,12 @@ int Export(const ExportRequest& request, const Terminal& terminal)
     layers.ReadAll();
     layers.TakeFeatures(contents);
     layers.ReadMissingAttributes(progress);
-    const OpenedBackdrop backdrop = OpenBackdrop(document);
-    Box area = BoundsOf(layers.All());
-    if (area.IsEmpty() && backdrop.picture)
-        area = backdrop.picture->Extent();
     const MapPage page(
         document.Database(), services,
-        {layers.All(), document.System(), area, backdrop.picture, document.Background()}, request.page);
+        {layers.All(), document.System(), BoundsOf(layers.All()), document.Background()}, request.page);
     WritePage(page, request.file, progress);
     TellFailures(contents, terminal);
-    if (!backdrop.failure.isEmpty())
-        TellError(terminal, backdrop.failure);
-    return contents.failures.empty() && backdrop.failure.isEmpty() ? ExitCode::Done : ExitCode::Problems;
+    return contents.failures.empty() ? ExitCode::Done : ExitCode::Problems;
 }
 
 } // namespace

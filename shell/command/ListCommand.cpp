@@ -25,10 +25,10 @@ QString ListText(const char* text)
     return QCoreApplication::translate("ListCommand", text);
 }
 
-// West, south, east, north; empty without features.
+// West, south, east, north; empty without data.
 std::vector<double> ExtentOf(const MapLayer& layer)
 {
-    const Box bounds = layer.features ? layer.features->Bounds() : Box();
+    const Box bounds = layer.Bounds();
     if (bounds.IsEmpty())
         return {};
     return {bounds.minX, bounds.minY, bounds.maxX, bounds.maxY};
@@ -44,8 +44,22 @@ QString LineOf(const MapLayer& layer)
     QStringList extent;
     for (const double number : ExtentOf(layer))
         extent << QString::number(number, 'g', ExtentDigits);
-    return ListText(QT_TRANSLATE_NOOP("ListCommand", "%1: features %2, extent %3"))
-        .arg(layer.name, QString::number(CountOf(layer)), extent.join(QLatin1Char(' ')));
+    const QString place = extent.join(QLatin1Char(' '));
+    if (!layer.raster)
+        return ListText(QT_TRANSLATE_NOOP("ListCommand", "%1: features %2, extent %3"))
+            .arg(layer.name, QString::number(CountOf(layer)), place);
+    const RasterDetails details = layer.raster->Source().Details();
+    return ListText(QT_TRANSLATE_NOOP("ListCommand", "%1: raster of %2 x %3 pixels, extent %4"))
+        .arg(
+            layer.name, QString::number(details.size.width()), QString::number(details.size.height()), place);
+}
+
+QJsonObject RasterObject(const RasterDetails& details)
+{
+    return {
+        {QStringLiteral("width"), details.size.width()},
+        {QStringLiteral("height"), details.size.height()},
+        {QStringLiteral("bands"), details.bands}};
 }
 
 QJsonObject ObjectOf(const MapLayer& layer)
@@ -53,10 +67,13 @@ QJsonObject ObjectOf(const MapLayer& layer)
     QJsonArray extent;
     for (const double number : ExtentOf(layer))
         extent.append(number);
-    return {
+    QJsonObject object{
         {QStringLiteral("name"), layer.name},
         {QStringLiteral("features"), CountOf(layer)},
         {QStringLiteral("extent"), extent}};
+    if (layer.raster)
+        object.insert(QStringLiteral("raster"), RasterObject(layer.raster->Source().Details()));
+    return object;
 }
 
 void TellJson(const Terminal& terminal, const QString& system, const std::vector<MapLayer>& layers)

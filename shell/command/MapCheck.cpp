@@ -4,7 +4,7 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/RasterSource.h"
-#include "mapkit/document/BackdropPlace.h"
+#include "mapkit/document/EarlierBackdrop.h"
 #include "mapkit/document/SourceTable.h"
 #include "shell/command/ValueCheck.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
@@ -86,14 +86,12 @@ void AddMissingFile(Problems& problems, const QString& path)
     problems.push_back({Kind::MissingData, text.arg(path), false});
 }
 
-void AddBackdrop(Problems& problems, const QString& path)
+void AddRaster(Problems& problems, const QString& path, const QString& member = {})
 {
-    if (path.isEmpty())
-        return;
     if (!QFileInfo::exists(path))
         return AddMissingFile(problems, path);
     try {
-        const RasterSource picture(path);
+        const RasterSource raster(path, member);
     } catch (const RunTimeError& error) {
         problems.push_back({Kind::UnreadableData, error.Description(), false});
     }
@@ -102,14 +100,21 @@ void AddBackdrop(Problems& problems, const QString& path)
 void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
 {
     std::map<QString, std::set<QString>> layerNames;
-    for (const LayerSource& source : sources)
-        layerNames[source.path].insert(source.ogrLayer);
+    std::set<std::pair<QString, QString>> rasters; // path, name in an archive
+    for (const LayerSource& source : sources) {
+        if (source.kind == DataKind::Raster)
+            rasters.insert({source.path, source.ogrLayer});
+        else
+            layerNames[source.path].insert(source.ogrLayer);
+    }
     for (const auto& [path, names] : layerNames) {
         if (QFileInfo::exists(path))
             AddUnreadable(problems, path, names);
         else
             AddMissingFile(problems, path);
     }
+    for (const auto& [path, member] : rasters)
+        AddRaster(problems, path, member);
 }
 
 void AddUnknownSystems(Problems& problems, const std::vector<LayerSource>& sources)
@@ -164,7 +169,9 @@ Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path, CheckLim
     const std::vector<LayerSource> sources = SourceTable(database, path).All();
     AddMissingData(problems, sources);
     AddUnknownSystems(problems, sources);
-    AddBackdrop(problems, FindBackdrop(database, path));
+    const QString backdrop = EarlierBackdrop::Find(database, path);
+    if (!backdrop.isEmpty())
+        AddRaster(problems, backdrop);
     return problems;
 }
 

@@ -5,6 +5,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/RasterSource.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
@@ -128,6 +129,7 @@ void LayerPropertiesDialog::ShowLayer()
     ShowDetails({});
     m_ui->lblProblem->hide();
     const auto stored = m_stored.find(LayerID());
+    ShowCaptions(stored != m_stored.end() && stored->second.kind == DataKind::Raster);
     if (stored != m_stored.end())
         ShowSource(stored->second);
     else
@@ -141,17 +143,57 @@ void LayerPropertiesDialog::ShowSource(const LayerSource& source)
     m_ui->lblSourceLayer->setText(NameInText(source.ogrLayer));
     try {
         const ReadingBound soon(ReadingBound::WhileUserWaits);
-        const DataSource file(source.path);
-        SourceDetails details = file.Details(source.ogrLayer);
-        if (details.extent.IsEmpty())
-            details.extent = ExtentFoundSoon(file, source);
-        m_named = details.system;
+        if (source.kind == DataKind::Raster)
+            ReadRaster(source);
+        else
+            ReadDetails(source);
         m_isReadable = true;
-        ShowDetails(details);
     } catch (const RunTimeError& error) {
         m_ui->lblProblem->setText(error.Description());
         m_ui->lblProblem->show();
     }
+}
+
+void LayerPropertiesDialog::ReadDetails(const LayerSource& source)
+{
+    const DataSource file(source.path);
+    SourceDetails details = file.Details(source.ogrLayer);
+    if (details.extent.IsEmpty())
+        details.extent = ExtentFoundSoon(file, source);
+    m_named = details.system;
+    ShowDetails(details);
+}
+
+void LayerPropertiesDialog::ReadRaster(const LayerSource& source)
+{
+    const RasterSource raster(source.path, source.ogrLayer);
+    m_named = raster.System();
+    ShowRaster(raster.Details());
+    m_ui->lblExtent->setText(ExtentText(raster.Extent()));
+}
+
+void LayerPropertiesDialog::ShowRaster(const RasterDetails& details)
+{
+    const QLocale locale;
+    m_ui->lblFormat->setText(details.driver);
+    m_ui->lblGeometry->setText(tr("%1 x %2 pixels, bands: %3")
+                                   .arg(
+                                       locale.toString(details.size.width()),
+                                       locale.toString(details.size.height()),
+                                       locale.toString(details.bands)));
+    const QSizeF pixel = details.pixelSize;
+    m_ui->lblCount->setText(
+        pixel.isEmpty() ? tr("not known")
+                        : tr("%1 x %2").arg(locale.toString(pixel.width()), locale.toString(pixel.height())));
+}
+
+void LayerPropertiesDialog::ShowCaptions(bool isRaster)
+{
+    m_ui->lblGeometryCaption->setText(isRaster ? tr("Raster:") : tr("Geometry:"));
+    m_ui->lblCountCaption->setText(isRaster ? tr("Pixel size:") : tr("Features:"));
+    const bool isNamed = !isRaster || !m_stored.at(LayerID()).ogrLayer.isEmpty();
+    m_ui->lblSourceLayerCaption->setVisible(isNamed);
+    m_ui->lblSourceLayer->setVisible(isNamed);
 }
 
 void LayerPropertiesDialog::ShowDetails(const SourceDetails& details)

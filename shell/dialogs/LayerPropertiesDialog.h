@@ -18,6 +18,7 @@ namespace Orvane {
 
 class MapDocument;
 class SystemCatalogue;
+struct RasterDetails;
 struct SourceDetails;
 
 /// Shows where a layer's data are and what they are, and lets the user choose their coordinate system.
@@ -46,7 +47,11 @@ private:
     void Connect();
     void ShowLayer();
     void ShowSource(const LayerSource& source);
+    void ReadDetails(const LayerSource& source);
     void ShowDetails(const SourceDetails& details);
+    void ReadRaster(const LayerSource& source);
+    void ShowRaster(const RasterDetails& details);
+    void ShowCaptions(bool isRaster);
     void ShowSystem();
     void ChangeSystem();
     void TakeSystem(const QString& system);

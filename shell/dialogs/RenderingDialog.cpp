@@ -31,11 +31,11 @@ QString StyleName(qint32 style)
     return RenderingDialog::tr("Standard");
 }
 
-// Empty when the source cannot be read.
+// Empty when the source cannot be read, and for a raster.
 std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID)
 {
     for (const LayerSource& source : document.Sources()) {
-        if (source.layerID != layerID)
+        if (source.layerID != layerID || source.kind == DataKind::Raster)
             continue;
         try {
             const ReadingBound soon(ReadingBound::WhileUserWaits);

@@ -4,6 +4,8 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataFiles.h"
+#include "mapkit/data/OpenedData.h"
+#include "mapkit/data/RasterSource.h"
 #include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
 #include "samples/BgrColour.h"
@@ -54,38 +56,15 @@ int PriorityOf(FeatureKind kind)
     return 170;
 }
 
-void LookIntoFile(const QString& path, FoundData& data)
+NewLayer NewFeatureLayer(FeatureKind kind, size_t number)
 {
-    const QString name = QFileInfo(path).fileName();
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    const DataSource source(path);
-    for (const QString& file : source.UnopenedFiles()) {
-        data.problems
-            << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
-    }
-    std::vector<SourceLayer> layers = source.Layers();
-    std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
-    layers = LayersToShow(layers);
-    const std::vector<TableRows> tables = source.Tables();
-    data.tables.reserve(data.tables.size() + tables.size());
-    for (const TableRows& table : tables)
-        data.tables.push_back({absolute, table, GuessColumns(table)});
-    if (!layers.empty())
-        data.sources.push_back({absolute, std::move(layers)});
-    else if (tables.empty())
-        data.problems
-            << QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.").arg(name);
-}
-
-std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
-{
-    std::vector<SourceLayer> layers;
-    for (const TableChoice& table : tables) {
-        if (table.path != path || table.columns.IsEmpty())
-            continue;
-        layers.push_back(DataSource(path).TableAsLayer(table.table.layer, table.columns));
-    }
-    return LayersToShow(layers);
+    const Colours& colours = Cycle[number % Cycle.size()];
+    NewLayer layer;
+    layer.values.color = Bgr(colours.line);
+    layer.values.fillForeColor = Bgr(colours.fill);
+    layer.values.fillBackColor = TransparentColour;
+    layer.priority = PriorityOf(kind);
+    return layer;
 }
 
 auto Find(FoundData& data, const QString& path)
@@ -105,6 +84,76 @@ void AddLayers(FoundData& data, const QString& path, const std::vector<SourceLay
         known->layers.insert(known->layers.end(), layers.begin(), layers.end());
 }
 
+// Adds the features of a file. False if there are none; raises if no driver for features opens the file.
+bool LookForFeatures(const QString& path, FoundData& data)
+{
+    const QString name = QFileInfo(path).fileName();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const DataSource source(path);
+    for (const QString& file : source.UnopenedFiles()) {
+        data.problems
+            << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
+    }
+    std::vector<SourceLayer> layers = source.Layers();
+    std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
+    layers = LayersToShow(layers);
+    const std::vector<TableRows> tables = source.Tables();
+    data.tables.reserve(data.tables.size() + tables.size());
+    for (const TableRows& table : tables)
+        data.tables.push_back({absolute, table, GuessColumns(table)});
+    if (!layers.empty())
+        AddLayers(data, absolute, layers);
+    return !layers.empty() || !tables.empty();
+}
+
+// Adds the raster of a file, or one in an archive. Returns why it cannot be added; empty if it was.
+QString TakeRaster(const QString& path, const QString& member, FoundData& data, const QString& otherwise)
+{
+    try {
+        AddLayers(data, QFileInfo(path).absoluteFilePath(), {DescribeRaster(path, member)});
+        return {};
+    } catch (const RunTimeError& error) {
+        const bool isRaster = error.Number() == RasterNotPlaced || DataFiles::IsNamedAsRaster(path + member);
+        return isRaster ? error.Description() : otherwise;
+    }
+}
+
+bool MayHoldBoth(const QString& path)
+{
+    return path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive);
+}
+
+void LookIntoFile(const QString& path, FoundData& data)
+{
+    QString problem = QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.")
+                          .arg(QFileInfo(path).fileName());
+    bool hasFeatures = false;
+    try {
+        hasFeatures = LookForFeatures(path, data);
+    } catch (const RunTimeError& error) {
+        problem = error.Description();
+    }
+    const QStringList members = RastersInArchive(path);
+    for (const QString& member : members)
+        data.problems << TakeRaster(path, member, data, problem);
+    if (members.isEmpty() && (!hasFeatures || MayHoldBoth(path))) {
+        problem = TakeRaster(path, {}, data, problem);
+        data.problems << (hasFeatures ? QString() : problem);
+    }
+    data.problems.removeAll(QString());
+}
+
+std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
+{
+    std::vector<SourceLayer> layers;
+    for (const TableChoice& table : tables) {
+        if (table.path != path || table.columns.IsEmpty())
+            continue;
+        layers.push_back(DataSource(path).TableAsLayer(table.table.layer, table.columns));
+    }
+    return LayersToShow(layers);
+}
+
 } // namespace
 
 size_t LayerCount(const FoundData& data)
@@ -117,17 +166,14 @@ size_t LayerCount(const FoundData& data)
 
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number)
 {
-    const Colours& colours = Cycle[number % Cycle.size()];
-    NewLayer layer;
+    const bool isRaster = found.dataKind == DataKind::Raster;
+    NewLayer layer = isRaster ? NewLayer::OfRaster() : NewFeatureLayer(found.kind, number);
     layer.name = LayerTitle(path, found);
-    layer.values.color = Bgr(colours.line);
-    layer.values.fillForeColor = Bgr(colours.fill);
-    layer.values.fillBackColor = TransparentColour;
-    layer.priority = PriorityOf(found.kind);
     layer.path = path;
     layer.ogrLayer = found.name;
     layer.system = found.chosenSystem;
     layer.choice = found.choice;
+    layer.kind = found.dataKind;
     return layer;
 }
 
@@ -141,11 +187,7 @@ FoundData LookInto(const QStringList& paths, Progress& progress)
         progress.StopIfCancelled();
         progress.SetSubject(path);
         progress.Report(done++ / double(files.size()));
-        try {
-            LookIntoFile(path, data);
-        } catch (const RunTimeError& error) {
-            data.problems << error.Description();
-        }
+        LookIntoFile(path, data);
     }
     return data;
 }
@@ -205,7 +247,13 @@ SourceContents ReadFound(const FoundData& data, const QString& system, Progress&
     for (const FoundData::Source& source : data.sources) {
         for (const SourceLayer& layer : source.layers)
             sources.push_back(
-                {qint32(sources.size()), source.path, layer.name, {}, layer.chosenSystem, layer.choice});
+                {qint32(sources.size()),
+                 source.path,
+                 layer.name,
+                 {},
+                 layer.chosenSystem,
+                 layer.choice,
+                 layer.dataKind});
     }
     SourceContents contents = ReadSources(std::move(sources), system, progress);
     progress.StopIfCancelled(); // then it is not all
@@ -241,6 +289,8 @@ SourceContents WithIDs(const SourceContents& contents, const std::vector<qint32>
     SourceContents named;
     for (const auto& [number, features] : contents.features)
         named.features.emplace(layerIDs.at(size_t(number)), features);
+    for (const auto& [number, raster] : contents.rasters)
+        named.rasters.emplace(layerIDs.at(size_t(number)), raster);
     for (const auto& [number, reason] : contents.failures)
         named.failures.emplace(layerIDs.at(size_t(number)), reason);
     return named;

@@ -28,7 +28,8 @@ struct FoundData {
 
 /// Examines files, and those in folders, without reading all their features; for any thread. Raises
 /// Cancelled. Layers that would show nothing or what another one shows, as GPX files have them, are left out.
-/// A layer of several kinds of geometry is found as several, one for each kind.
+/// A layer of several kinds of geometry is found as several, one for each kind. A georeferenced raster is a
+/// layer; a picture that does not say where it lies is a problem.
 FoundData LookInto(const QStringList& paths, Progress& progress);
 
 /// The same data with its tables as layers: the columns that the user chose meanwhile count. Tables without
@@ -39,7 +40,8 @@ FoundData WithTablesAsLayers(FoundData data, Progress& progress);
 size_t LayerCount(const FoundData& data);
 
 /// A new layer with the data of a source's layer, named after it and its kind of geometry if it has several.
-/// The number selects its colours; points are drawn over lines, and lines over areas.
+/// The number selects its colours; points are drawn over lines, lines over areas, and all over
+/// rasters.
 NewLayer LayerFor(const QString& path, const SourceLayer& found, size_t number);
 
 /// The coordinate system of a layer that was found: the chosen one, or what its source names. Empty for none.
@@ -51,7 +53,7 @@ std::vector<PlacedExtent> PlacesOf(const FoundData& data);
 /// SystemToShow chooses for all of them. Empty if their systems are not known.
 QString SystemFor(const MapDocument& document, const FoundData& data);
 
-/// Reads the features of all layers that were found; for any thread. system: as SystemFor returns it. The
+/// Reads the data of all layers that were found; for any thread. system: as SystemFor returns it. The
 /// layers have the numbers from 0 on in place of IDs, in the order in which AddToMap returns them. Raises
 /// Cancelled.
 SourceContents ReadFound(const FoundData& data, const QString& system, Progress& progress);

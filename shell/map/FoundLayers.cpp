@@ -55,7 +55,10 @@ std::vector<SourceLayer> LayersToShow(const std::vector<SourceLayer>& layers)
 
 QString LayerTitle(const QString& path, const SourceLayer& layer)
 {
-    const QString name = OpenedData::IsNameless(layer.name) ? SourceTitle(path) : layer.name;
+    const bool isNameless = layer.name.isEmpty() || OpenedData::IsNameless(layer.name);
+    const QString name = isNameless ? SourceTitle(path) : layer.name;
+    if (layer.dataKind == DataKind::Raster)
+        return SourceTitle(isNameless ? path : layer.name);
     if (layer.choice.kinds.empty())
         return name;
     switch (layer.kind) {

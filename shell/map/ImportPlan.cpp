@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemGuess.h"
+#include "mapkit/data/MapRaster.h"
 #include "mapkit/data/ReadingBound.h"
 #include "messages/NameInText.h"
 
@@ -40,7 +41,9 @@ void ForEachLayer(FoundData& data, const std::function<void(const FoundData::Sou
 QString NotedName(const FoundData::Source& source, const SourceLayer& layer)
 {
     const QString file = QFileInfo(source.path).fileName();
-    return source.layers.size() == 1 ? file : QStringLiteral("%1 (%2)").arg(file, NameInText(layer.name));
+    return source.layers.size() == 1 || layer.name.isEmpty()
+        ? file
+        : QStringLiteral("%1 (%2)").arg(file, NameInText(layer.name));
 }
 
 void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& system, const QString& name)
@@ -83,14 +86,28 @@ std::vector<SourceLayer> LayersIn(const QString& path)
     }
 }
 
+Box ExtentOfRaster(const LayerSource& source, const QString& system)
+{
+    try {
+        return MapRaster(source, system).Extent();
+    } catch (const RunTimeError&) { // it is reported when the map is read
+        return {};
+    }
+}
+
 // Of the data that the map has.
 Box ExtentOfMap(const ImportTarget& target, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
     std::map<QString, std::map<QString, QString>> chosen; // by path and layer
-    for (const LayerSource& source : target.sources)
-        chosen[source.path][source.ogrLayer] = source.system;
     Box extent;
+    for (const LayerSource& source : target.sources) {
+        progress.StopIfCancelled();
+        if (source.kind == DataKind::Raster)
+            extent.Add(ExtentOfRaster(source, target.system));
+        else
+            chosen[source.path][source.ogrLayer] = source.system;
+    }
     for (const auto& [path, systems] : chosen) {
         for (SourceLayer& layer : LayersIn(path)) {
             progress.StopIfCancelled();

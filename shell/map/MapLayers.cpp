@@ -62,7 +62,14 @@ DrawMode ModeOfRow(const IRecordset& row)
 bool IsSameData(const LayerSource& one, const LayerSource& other)
 {
     return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
-        && one.system == other.system && one.choice == other.choice;
+        && one.system == other.system && one.choice == other.choice && one.kind == other.kind;
+}
+
+template <typename Data>
+std::shared_ptr<const Data> DataOf(const std::map<qint32, std::shared_ptr<const Data>>& all, qint32 layerID)
+{
+    const auto found = all.find(layerID);
+    return found == all.end() ? nullptr : found->second;
 }
 
 } // namespace
@@ -105,12 +112,14 @@ void MapLayers::DropFeaturesOfOtherData()
 void MapLayers::DropFeatures(qint32 layerID)
 {
     m_features.erase(layerID);
+    m_rasters.erase(layerID);
     m_unreadable.remove(layerID);
 }
 
 void MapLayers::DropAllFeatures()
 {
     m_features.clear();
+    m_rasters.clear();
     m_unreadable.clear();
 }
 
@@ -118,11 +127,13 @@ void MapLayers::DropAllFeatures()
 void MapLayers::DropFeaturesExcept(const QSet<qint32>& withSource)
 {
     std::vector<qint32> gone;
-    gone.reserve(m_features.size());
-    for (const auto& [layerID, features] : m_features) {
-        if (!withSource.contains(layerID))
-            gone.push_back(layerID);
-    }
+    gone.reserve(m_features.size() + m_rasters.size());
+    const auto add = [&](const auto& entry) {
+        if (!withSource.contains(entry.first))
+            gone.push_back(entry.first);
+    };
+    std::for_each(m_features.begin(), m_features.end(), add);
+    std::for_each(m_rasters.begin(), m_rasters.end(), add);
     for (const qint32 layerID : gone) {
         DropFeatures(layerID);
         m_attributes.Forget(layerID);
@@ -147,24 +158,28 @@ void MapLayers::Read(const QSet<qint32>& layerIDs)
 void MapLayers::TakeFeatures(const SourceContents& contents)
 {
     for (const auto& [layerID, features] : contents.features) {
+        DropFeatures(layerID);
         m_features[layerID] = features;
-        m_unreadable.remove(layerID);
+    }
+    for (const auto& [layerID, raster] : contents.rasters) {
+        DropFeatures(layerID);
+        m_rasters[layerID] = raster;
     }
     for (const auto& [layerID, reason] : contents.failures) {
-        m_features.erase(layerID);
+        DropFeatures(layerID);
         m_unreadable.insert(layerID);
     }
-    for (MapLayer& layer : m_layers) {
-        const auto found = m_features.find(layer.layerID);
-        layer.features = found != m_features.end() ? found->second : nullptr;
-    }
+    for (MapLayer& layer : m_layers)
+        FitData(layer);
     FitAttributes();
 }
 
 std::vector<LayerSource> MapLayers::MissingSources() const
 {
     std::vector<LayerSource> sources = m_document.Sources();
-    std::erase_if(sources, [&](const LayerSource& source) { return m_features.contains(source.layerID); });
+    std::erase_if(sources, [&](const LayerSource& source) {
+        return m_features.contains(source.layerID) || m_rasters.contains(source.layerID);
+    });
     return sources;
 }
 
@@ -200,6 +215,12 @@ void MapLayers::FitAttributes()
         m_attributes.Fit(layer, m_services);
 }
 
+void MapLayers::FitData(MapLayer& layer) const
+{
+    layer.features = DataOf(m_features, layer.layerID);
+    layer.raster = DataOf(m_rasters, layer.layerID);
+}
+
 MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
 {
     MapLayer layer;
@@ -217,9 +238,7 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
         layer.maxDenominator = limit;
     layer.values = ValuesOfRow(row);
     layer.look = LookOf(layer.values, m_services, m_pixelsPerMillimetre);
-    const auto features = m_features.find(layer.layerID);
-    if (features != m_features.end())
-        layer.features = features->second;
+    FitData(layer);
     return layer;
 }
 

@@ -32,16 +32,17 @@ public:
     /// Reads at least these layers' rows again; a layer without a row is removed from the list.
     void Read(const QSet<qint32>& layerIDs);
 
-    /// Drops the features of layers whose data are no longer those of the last call: the ID of a deleted
-    /// layer may now belong to a new one. Drops those of layers that have no source any more, too. Call
-    /// before ReadAll.
+    /// Drops the features and rasters of layers whose data are no longer those of the last call: the ID of a
+    /// deleted layer may now belong to a new one. Drops those of layers that have no source any more, too.
+    /// Call before ReadAll.
     void DropFeaturesOfOtherData();
-    /// Drops the features of all layers: they are in a coordinate system that the map no longer has.
+    /// Drops the features and rasters of all layers: they are in a coordinate system that the map no longer
+    /// has.
     void DropAllFeatures();
-    /// Takes over the features that were read, and the layers that could not be read; the features of other
-    /// layers stay.
+    /// Takes over the features and rasters that were read, and the layers that could not be read; those of
+    /// other layers stay.
     void TakeFeatures(const SourceContents& contents);
-    /// The sources of layers that have no features yet.
+    /// The sources of layers that have no features or raster yet.
     std::vector<LayerSource> MissingSources() const;
     /// The layers whose source could not be read when it was last tried.
     const QSet<qint32>& Unreadable() const { return m_unreadable; }
@@ -58,6 +59,7 @@ private:
     MapLayer LayerOfRow(const IRecordset& row) const;
     void Replace(qint32 layerID, const IRecordset& row);
     void FitAttributes();
+    void FitData(MapLayer& layer) const;
     void DropFeatures(qint32 layerID);
     void DropFeaturesExcept(const QSet<qint32>& withSource);
 
@@ -66,6 +68,7 @@ private:
     double m_pixelsPerMillimetre;
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
+    std::map<qint32, std::shared_ptr<const MapRaster>> m_rasters;
     std::map<qint32, LayerSource> m_sources; // known so far; also of deleted layers
     QSet<qint32> m_unreadable;
     LayerAttributes m_attributes;

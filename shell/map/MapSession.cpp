@@ -9,10 +9,8 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/drawing/RasterBackdrop.h"
 #include "mapkit/drawing/ReprojectedView.h"
 #include "mapkit/output/PageSettings.h"
 #include "shell/map/LayerCreation.h"
@@ -21,7 +19,6 @@
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
-#include <OrvaneShellLib/Transaction.h>
 
 #include <QDir>
 #include <QStandardPaths>
@@ -63,10 +60,7 @@ MapSession::MapSession(
     Connect();
 }
 
-MapSession::~MapSession()
-{
-    m_canvas.SetBackdrop(nullptr);
-}
+MapSession::~MapSession() = default;
 
 void MapSession::AddCommands()
 {
@@ -88,8 +82,8 @@ Box MapSession::BoundsOf(const std::vector<qint32>& layerIDs) const
     const QSet<qint32> wanted(layerIDs.begin(), layerIDs.end());
     Box bounds;
     for (const MapLayer& layer : m_layers.All()) {
-        if (layer.features && wanted.contains(layer.layerID))
-            bounds.Add(layer.features->Bounds());
+        if (wanted.contains(layer.layerID))
+            bounds.Add(layer.Bounds());
     }
     return bounds;
 }
@@ -128,17 +122,14 @@ QString MapSession::ReadAndShow(View view, const SourceContents& known)
     SourceContents contents = known;
     const QString givenUp = ReadMissing(contents);
     m_layers.TakeFeatures(contents);
-    const OpenedBackdrop backdrop = OpenBackdrop();
-    if (view == View::All) {
-        ShowAll(backdrop.picture);
-    } else if (isReprojected) {
-        ShowInSystem(backdrop.picture, before);
-    } else {
-        m_canvas.SetBackdrop(backdrop.picture);
+    if (view == View::All)
+        ShowAll();
+    else if (isReprojected)
+        ShowInSystem(before);
+    else
         Show();
-    }
     emit LayersRead();
-    QStringList problems = {contents.FailureText(), givenUp, backdrop.problem};
+    QStringList problems = {contents.FailureText(), givenUp};
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
 }
@@ -157,73 +148,32 @@ void MapSession::ReadRows()
 QString MapSession::ReadMissing(SourceContents& contents) const
 {
     std::vector<LayerSource> missing = m_layers.MissingSources();
-    std::erase_if(missing, [&](const LayerSource& source) {
-        return contents.features.contains(source.layerID) || contents.failures.contains(source.layerID);
-    });
+    std::erase_if(missing, [&](const LayerSource& source) { return contents.Has(source.layerID); });
     try {
-        SourceContents read = ReadOrGiveUp(
+        contents.Add(ReadOrGiveUp(
             &m_mainWindow, tr("Reading map data"),
             [missing = std::move(missing), system = m_document->System()](Progress& progress) {
                 return ReadSources(missing, system, progress);
-            });
-        contents.features.merge(read.features);
-        contents.failures.merge(read.failures);
+            }));
     } catch (const ReadingGivenUp& error) {
         return error.Description();
     }
     return {};
 }
 
-MapSession::OpenedBackdrop MapSession::OpenBackdrop() const
-{
-    const QString path = m_document->Backdrop();
-    const std::shared_ptr<const RasterBackdrop> shown = m_canvas.Picture().Backdrop();
-    if (path.isEmpty() || (shown && shown->Source().Path() == path && shown->System() == m_system))
-        return {path.isEmpty() ? nullptr : shown, {}};
-    try {
-        return {ReadBackdrop(path), {}};
-    } catch (const Cancelled&) {
-        return {};
-    } catch (const RunTimeError& error) {
-        return {nullptr, error.Description()};
-    }
-}
-
-std::shared_ptr<const RasterBackdrop> MapSession::ReadBackdrop(const QString& path) const
-{
-    return ReadOrGiveUp(
-        &m_mainWindow, tr("Opening the picture"), [path, system = m_document->System()](Progress& progress) {
-            const ReadingBound untilCancelled(progress.CancelledFlag());
-            progress.SetSubject(path);
-            return std::make_shared<const RasterBackdrop>(path, system);
-        });
-}
-
-void MapSession::SetBackdrop(const QString& path)
-{
-    std::shared_ptr<const RasterBackdrop> backdrop;
-    const bool first = m_document->System().isEmpty();
-    if (!path.isEmpty())
-        backdrop = ReadBackdrop(path);
-    Transaction transaction(m_document->Database());
-    if (backdrop && first) {
-        const RasterSource& source = backdrop->Source();
-        m_document->SetSystem(SystemToShow(source.System(), source.Extent()));
-        m_system = m_document->System();
-        backdrop = std::make_shared<const RasterBackdrop>(path, m_system);
-    }
-    m_document->SetBackdrop(path);
-    transaction.Commit();
-    if (backdrop && first)
-        ShowAll(backdrop);
-    else
-        m_canvas.SetBackdrop(backdrop);
-}
-
 void MapSession::TakeFeatures(const SourceContents& contents)
 {
     m_layers.TakeFeatures(contents);
     Show();
+}
+
+// The picture has found damage in a raster that could be opened.
+void MapSession::TakeFailure(qint32 layerID, const QString& reason)
+{
+    SourceContents contents;
+    contents.failures.emplace(layerID, reason);
+    TakeFeatures(contents);
+    emit DataFailed(reason);
 }
 
 void MapSession::Connect()
@@ -249,7 +199,10 @@ void MapSession::Connect()
         LongWork::RunAfter(this, [this] { Guard(&m_mainWindow, [this] { FollowSystems(); }); });
     });
     connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
-    connect(&m_canvas.Picture(), &MapPicture::BackdropFailed, this, &MapSession::DataFailed);
+    connect(
+        &m_canvas.Picture(), &MapPicture::LayerFailed, this, [this](qint32 layerID, const QString& reason) {
+            Guard(&m_mainWindow, [&] { TakeFailure(layerID, reason); });
+        });
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(&m_client.History(), &UndoHistory::Changed, this, [this] { // a step may have stored another one
@@ -302,19 +255,19 @@ void MapSession::Show()
     FollowLayers();
 }
 
-void MapSession::ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop)
+void MapSession::ShowAll()
 {
-    m_canvas.ShowAll(m_layers.All(), backdrop, MetresPerUnit(m_document->System()));
+    m_canvas.ShowAll(m_layers.All(), MetresPerUnit(m_document->System()));
     FollowLayers();
 }
 
 // Where the middle of the view has no position in the new system, everything is shown.
-void MapSession::ShowInSystem(const std::shared_ptr<const RasterBackdrop>& backdrop, const QString& before)
+void MapSession::ShowInSystem(const QString& before)
 {
     const auto view = ReprojectedView(m_canvas.View(), before, m_system);
     if (!view)
-        return ShowAll(backdrop);
-    m_canvas.ShowAt(*view, m_layers.All(), backdrop, MetresPerUnit(m_system));
+        return ShowAll();
+    m_canvas.ShowAt(*view, m_layers.All(), MetresPerUnit(m_system));
     FollowLayers();
 }
 
@@ -322,7 +275,8 @@ QStringList MapSession::LayersWithoutPlace() const
 {
     QStringList names;
     for (const MapLayer& layer : m_layers.All()) {
-        if (layer.features && layer.features->LeftOutCount() > 0)
+        const bool isPart = layer.features && layer.features->LeftOutCount() > 0;
+        if (isPart || (layer.raster && layer.raster->Extent().IsEmpty()))
             names << layer.name;
     }
     return names;

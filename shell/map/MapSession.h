@@ -24,7 +24,6 @@ namespace Orvane {
 class MapCanvas;
 class MapDocument;
 class CallTrace;
-class RasterBackdrop;
 
 /// One open map: its file, its layers, its client for the component, and the canvas that shows it. The
 /// component's changes are drawn at once; data files that reappear or change are shown again; and the layer
@@ -55,29 +54,26 @@ public:
     /// Returns the scheme; nothing if the map was not changed. Raises errors of the database.
     std::optional<QString> ApplySchemeAtOpening();
 
-    /// True if the map has features of these layers; those that are hidden count too.
+    /// True if the map has features or a raster of these layers; those that are hidden count too.
     bool HasFeatures(const std::vector<qint32>& layerIDs) const { return !BoundsOf(layerIDs).IsEmpty(); }
-    /// Shows all features of these layers; does nothing if there are none.
+    /// Shows all data of these layers; does nothing if there are none.
     void ZoomTo(const std::vector<qint32>& layerIDs);
 
     /// Which part of the map is shown after reading.
     enum class View { Stays, All };
 
-    /// Reads all rows, and the features of layers that have none yet, with progress; then draws. Returns why
+    /// Reads all rows, and the data of layers that have none yet, with progress; then draws. Returns why
     /// layers could not be read, empty when all could. Raises errors of the database. known: what was read
-    /// already, features and failures. If the map has another coordinate system than before, all layers are
+    /// already, and failures. If the map has another coordinate system than before, all layers are
     /// read, and the view stays at its place on the ground.
     QString ReadAndShow(View view = View::Stays, const SourceContents& known = {});
     /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
 
-    /// Puts a picture under the map and stores it with the map; an empty path removes it. Raises for a file
-    /// that is not a georeferenced picture, and errors of the database; the map is then as before.
-    void SetBackdrop(const QString& path);
     /// The names of the layers that are not shown completely, because the map's coordinate system has no
     /// place for some of their positions.
     QStringList LayersWithoutPlace() const;
-    /// Shows these features instead of those that the layers had.
+    /// Shows these data instead of those that the layers had.
     void TakeFeatures(const SourceContents& contents);
 
 signals:
@@ -98,22 +94,16 @@ private:
     void ConnectLayerNews(const HostNotifications& events);
     void ReadNews();
     void FollowSystems();
-    struct OpenedBackdrop {
-        std::shared_ptr<const RasterBackdrop> picture; ///< nullptr for none
-        QString problem; ///< why it cannot be shown
-    };
-
-    OpenedBackdrop OpenBackdrop() const;
-    std::shared_ptr<const RasterBackdrop> ReadBackdrop(const QString& path) const;
+    void TakeFailure(qint32 layerID, const QString& reason);
     void ReadRows();
     // Reads what contents lacks. Returns why the reading was given up; empty if it was not.
     QString ReadMissing(SourceContents& contents) const;
     void Show();
-    void ShowAll(const std::shared_ptr<const RasterBackdrop>& backdrop);
-    void ShowInSystem(const std::shared_ptr<const RasterBackdrop>& backdrop, const QString& before);
+    void ShowAll();
+    void ShowInSystem(const QString& before);
     void FollowLayers();
     void MarkNames();
-    // Of the features of these layers that were read; hidden ones count too.
+    // Of the data of these layers that were read; hidden ones count too.
     Box BoundsOf(const std::vector<qint32>& layerIDs) const;
 
     MapCanvas& m_canvas;

@@ -123,8 +123,7 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
     return {
         document.Database(),
         m_services,
-        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), m_canvas.Picture().Backdrop(),
-         document.Background()},
+        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), document.Background()},
         settings};
 }
 

@@ -79,7 +79,7 @@ void AttributeTables::Show(qint32 layerID)
     const MapLayer* layer = Layer(layerID);
     const std::optional<TableLayer> shown = layer ? TableLayerOf(*layer) : std::nullopt;
     if (!shown)
-        throw RunTimeError(NoTable, tr("This layer has no data, and so no attributes."));
+        throw RunTimeError(NoTable, WhyNoAttributes(layerID));
     Entry& entry = m_tables[layerID];
     if (!entry.window) {
         entry = {new AttributeTable(*shown, m_selection, &m_window), layer->features};
@@ -118,17 +118,29 @@ QString AttributeTables::WhyNot(const std::vector<qint32>& layerIDs) const
     constexpr size_t MostAtOnce = 10;
     if (layerIDs.size() > MostAtOnce)
         return tr("Select fewer layers: each has a window of its own.");
-    const bool haveData = std::all_of(layerIDs.begin(), layerIDs.end(), [this](qint32 layerID) {
-        return m_session->Document().SourceOf(layerID).has_value();
-    });
-    return haveData ? QString() : tr("This layer has no data, and so no attributes.");
+    for (const qint32 layerID : layerIDs) {
+        const QString reason = WhyNoAttributes(layerID);
+        if (!reason.isEmpty())
+            return reason;
+    }
+    return {};
+}
+
+QString AttributeTables::WhyNoAttributes(qint32 layerID) const
+{
+    const std::optional<LayerSource> source = m_session->Document().SourceOf(layerID);
+    if (!source)
+        return tr("This layer has no data, and so no attributes.");
+    return source->kind == DataKind::Raster ? tr("A raster has no attributes.") : QString();
 }
 
 std::vector<const MapLayer*> AttributeTables::LayersWithData() const
 {
     std::set<qint32> withSource;
-    for (const LayerSource& source : m_session->Document().Sources())
-        withSource.insert(source.layerID);
+    for (const LayerSource& source : m_session->Document().Sources()) {
+        if (source.kind == DataKind::Features)
+            withSource.insert(source.layerID);
+    }
     std::vector<const MapLayer*> layers;
     for (const MapLayer& layer : m_session->Layers()) {
         if (withSource.contains(layer.layerID))
@@ -159,7 +171,7 @@ const MapLayer* AttributeTables::Layer(qint32 layerID) const
 std::optional<TableLayer> AttributeTables::TableLayerOf(const MapLayer& layer) const
 {
     const std::optional<LayerSource> source = m_session->Document().SourceOf(layer.layerID);
-    if (!source)
+    if (!source || source->kind == DataKind::Raster)
         return std::nullopt;
     return TableLayer{layer.name, *source, layer.flags.selectable && layer.flags.hitable};
 }

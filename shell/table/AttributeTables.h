@@ -48,6 +48,8 @@ private:
 
     void Ask();
     QString WhyNot(const std::vector<qint32>& layerIDs) const;
+    // Empty if it has some.
+    QString WhyNoAttributes(qint32 layerID) const;
     std::vector<const MapLayer*> LayersWithData() const;
     std::optional<qint32> SelectedLayer() const;
     const MapLayer* Layer(qint32 layerID) const;

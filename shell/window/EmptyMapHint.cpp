@@ -29,7 +29,7 @@ EmptyMapHint::~EmptyMapHint()
 
 void EmptyMapHint::Paint(QPainter& painter, const MapView&) const
 {
-    if (!m_canvas.Layers().empty() || m_canvas.Picture().Backdrop())
+    if (!m_canvas.Layers().empty())
         return;
     painter.setFont(m_canvas.font());
     const bool isLight = qGray(m_canvas.Picture().Background().rgb()) >= LeastLight;

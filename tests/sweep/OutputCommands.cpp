@@ -29,8 +29,7 @@ struct OpenPage {
     MapPage Made() const
     {
         const std::vector<MapLayer> layers{FilledLayer(1, Qt::red, Area(500000, 5300000, 501000, 5301000))};
-        const PageContents contents{
-            layers, QStringLiteral("EPSG:32632"), layers.front().features->Bounds(), nullptr};
+        const PageContents contents{layers, QStringLiteral("EPSG:32632"), layers.front().features->Bounds()};
         return {map->Database(), services, contents, SmallPage};
     }
 };

@@ -24,7 +24,7 @@ protected:
     {
         m_canvas.resize(200, 200);
         m_canvas.show();
-        m_canvas.ShowAll({FilledLayer(1, Qt::blue, Area(0, 0, 100, 100))}, nullptr, 1);
+        m_canvas.ShowAll({FilledLayer(1, Qt::blue, Area(0, 0, 100, 100))}, 1);
         m_first = m_canvas.View();
     }
 
@@ -55,7 +55,7 @@ protected:
 class CountingHistoryTest : public ViewHistoryTest
 {
 protected:
-    CountingHistoryTest() { m_canvas.ShowAll(m_canvas.Layers(), nullptr, 1); } // the history has seen it
+    CountingHistoryTest() { m_canvas.ShowAll(m_canvas.Layers(), 1); } // the history has seen it
 
     int StepsBack()
     {
@@ -70,7 +70,7 @@ protected:
 
 TEST_F(ViewHistoryTest, HasNothingToGoBackToInTheFirstView)
 {
-    m_canvas.ShowAll(m_canvas.Layers(), nullptr, 1);
+    m_canvas.ShowAll(m_canvas.Layers(), 1);
     EXPECT_FALSE(m_history.CanGoBack());
     m_history.GoBack();
     EXPECT_EQ(m_canvas.View(), m_first);

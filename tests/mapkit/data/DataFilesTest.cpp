@@ -54,6 +54,31 @@ TEST(DataFiles, TheFilesOfAShapefileInCapitalsAreTheShapefile)
         QStringList(folder.Path("ROADS.SHP")));
 }
 
+TEST(DataFiles, TheFilesOfARasterStandForIt)
+{
+    const DataFolder folder;
+    for (const char* name : {"a.tif", "a.tfw", "a.tif.aux.xml", "a.tif.ovr", "a.prj", "b.PNG", "b.pgw"})
+        folder.Write(name, "x");
+    QStringList chosen;
+    for (const char* name : {"a.tfw", "a.tif.aux.xml", "a.tif.ovr", "a.prj", "b.pgw"})
+        chosen << folder.Path(name);
+    EXPECT_EQ(DataFiles::Meant(chosen), QStringList({folder.Path("a.tif"), folder.Path("b.PNG")}));
+}
+
+TEST(DataFiles, RastersInAFolderAreFoundAndPicturesWithAPlaceBesideThem)
+{
+    const DataFolder folder;
+    for (const char* name : {"a.tif", "b.ASC", "c.png", "c.pgw", "d.jpg", "d.jpg.aux.xml", "e.jpg", "f.png"})
+        folder.Write(name, "x");
+    EXPECT_EQ(
+        DataFiles::In(folder.Path("")),
+        QStringList(
+            {folder.Path("a.tif"), folder.Path("b.ASC"), folder.Path("c.png"), folder.Path("d.jpg")}));
+    EXPECT_TRUE(DataFiles::IsNamedAsRaster("e.jpg"));
+    EXPECT_FALSE(DataFiles::IsRaster(folder.Path("e.jpg")));
+    EXPECT_TRUE(DataFiles::RasterPatterns().startsWith("*.tif ")) << qPrintable(DataFiles::RasterPatterns());
+}
+
 TEST(DataFiles, AFolderWithoutKnownFilesIsMeantItself)
 {
     const DataFolder folder;

@@ -32,12 +32,12 @@ protected:
         return RasterSource(Path()).Draw(system, extent, pixels, m_cancelled);
     }
 
-    QString ErrorOf(const QString& path)
+    QString ErrorOf(const QString& path, int number = SourceUnreadable)
     {
         try {
             RasterSource source(path);
         } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.Number(), SourceUnreadable);
+            EXPECT_EQ(error.Number(), number);
             return error.Description();
         }
         ADD_FAILURE() << "no error";
@@ -111,6 +111,26 @@ TEST_F(RasterSourceTest, NothingIsDrawnBesideTheGlobe)
     EXPECT_EQ(qAlpha(image.pixel(296, 146)), 0);
 }
 
+TEST_F(RasterSourceTest, AWorldUpToThePolesFitsIntoWebMercator)
+{
+    WriteRaster(Path(), {.bands = 3, .transform = {-180, 3.6, 0, 90, 0, -1.8}}, Halves);
+    const Box world = RasterSource(Path()).ExtentIn("EPSG:3857");
+    EXPECT_NEAR(world.minX, -20037508, 1);
+    EXPECT_NEAR(world.maxX, 20037508, 1);
+    EXPECT_NEAR(world.maxY, 20048966, 20000);
+    const QImage image = Draw(world, {100, 100}, "EPSG:3857");
+    EXPECT_EQ(image.pixelColor(25, 50), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(75, 5), QColor(Qt::blue));
+}
+
+TEST_F(RasterSourceTest, ARasterThatIsTurnedHasItsPlaceToo)
+{
+    WriteRaster(Path(), {.bands = 3, .transform = {5, 0.05, 0.05, 5, 0.05, -0.05}}, Halves);
+    const Box place = RasterSource(Path()).ExtentIn("EPSG:3857");
+    EXPECT_NEAR(place.minX, 556597, 20000);
+    EXPECT_NEAR(place.maxX, 1669792, 20000);
+}
+
 TEST_F(RasterSourceTest, APictureWithoutASystemLiesInTheMaps)
 {
     WriteRaster(Path(), {.bands = 3, .transform = {0, 10, 0, 1000, 0, -10}, .system = nullptr}, Halves);
@@ -179,7 +199,8 @@ TEST_F(RasterSourceTest, CancelledDrawingEnds)
 TEST_F(RasterSourceTest, APictureThatDoesNotSayWhereItLiesIsRefused)
 {
     WriteRaster(Path(), {.system = nullptr, .isPlaced = false}, Halves);
-    EXPECT_TRUE(ErrorOf(Path()).contains("photo.tif"));
+    const QString error = ErrorOf(Path(), RasterNotPlaced);
+    EXPECT_TRUE(error.contains("photo.tif") && error.contains("photo.tfw")) << qPrintable(error);
 }
 
 TEST_F(RasterSourceTest, BrokenFilesAreNamed)

@@ -3,6 +3,9 @@
 
 #include "hostkit/StandardShellServices.h"
 #include "hostkit/common/FillPatterns.h"
+#include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
+#include "mapkit/data/SourceReader.h"
 #include "mapkit/output/PageSettings.h"
 #include "samples/FillSample.h"
 
@@ -14,6 +17,8 @@
 #include <gtest/gtest.h>
 
 namespace Orvane {
+
+using namespace Testing;
 
 namespace {
 
@@ -148,6 +153,23 @@ TEST(LegendSample, APointIsTheMapsSymbolInTheMiddle)
     const QImage image = Painted(Row(FeatureKind::Point, Drawn(0, 0)));
     EXPECT_EQ(image.pixelColor(Place.center()), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(Place.left() + 2, Place.center().y()), QColor(Qt::white));
+}
+
+TEST(LegendSample, ARasterShowsItsMiddle)
+{
+    const DataFolder folder;
+    const QString path = folder.Path("photo.tif");
+    WriteRaster(path, {.bands = 3}, [](int column, int, int band) {
+        return band == (column < 50 ? 1 : 2) ? 255 : 0;
+    });
+    LegendRow row = Row(FeatureKind::Area, Filled(0));
+    row.raster = std::make_shared<const MapRaster>(LayerSource{1, path, {}, {}}, "EPSG:4326");
+    const QImage image = Painted(row);
+    EXPECT_EQ(image.pixelColor(8, 14), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(40, 14), QColor(Qt::green));
+    EXPECT_EQ(image.pixelColor(2, 14), QColor(Qt::white));
+    ASSERT_TRUE(QFile::resize(path, 1000));
+    EXPECT_EQ(Painted(row).pixelColor(2, 14), QColor(Qt::white)) << "damaged";
 }
 
 TEST(LegendSample, ABackdropIsPale)

@@ -36,11 +36,7 @@ protected:
         Box area;
         for (const MapLayer& layer : m_layers)
             area.Add(layer.features->Bounds());
-        return {
-            m_document->Database(),
-            m_services,
-            {m_layers, "EPSG:32632", area, nullptr, m_background},
-            settings};
+        return {m_document->Database(), m_services, {m_layers, "EPSG:32632", area, m_background}, settings};
     }
 
     /// A square page with only a map.

@@ -123,7 +123,7 @@ TEST_F(ExportCommandTest, WhatIsNoMapIsAProblem)
         Run({m_folder.Write("text.orvane", "x"), "--export", m_folder.Path("a.pdf")}), ExitCode::Problems);
 }
 
-TEST_F(ExportCommandTest, DataAndBackdropThatWereMovedAlongWithTheMapAreDrawn)
+TEST_F(ExportCommandTest, FeaturesAndRastersThatWereMovedAlongWithTheMapAreDrawn)
 {
     QDir(m_folder.Path("")).mkpath("old/data");
     const QString picture = m_folder.Path("old/data/green.tif");
@@ -133,13 +133,16 @@ TEST_F(ExportCommandTest, DataAndBackdropThatWereMovedAlongWithTheMapAreDrawn)
         LayerSource source = document->Sources().at(0);
         source.path = m_folder.WriteSquare("old/data/square.geojson", 5);
         document->SetSource(source);
-        document->SetBackdrop(picture);
+        NewLayer raster = NewLayer::OfRaster();
+        raster.name = "green";
+        raster.path = picture;
+        document->AddLayer(raster);
     }
     ASSERT_TRUE(QFile::rename(m_folder.Path("old"), m_folder.Path("new")));
     const QImage image = Exported(m_folder.Path("new/map.orvane"));
     EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::red)) << m_errors.toStdString();
-    const QRgb beside = image.pixel(2, 100);
-    EXPECT_GT(qGreen(beside), qRed(beside)) << "the backdrop, which the square only half covers";
+    const QRgb beside = image.pixel(40, 100);
+    EXPECT_GT(qGreen(beside), qRed(beside)) << "the raster, which the square only half covers";
     EXPECT_TRUE(m_errors.isEmpty()) << m_errors.toStdString();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ListCommand.h"
 
+#include "mapkit/RasterFile.h"
 #include "shell/command/CommandFixture.h"
 
 #include <QJsonArray>
@@ -28,6 +29,21 @@ TEST_F(ListCommandTest, JsonHasTheSameForScripts)
     EXPECT_EQ(layer["name"].toString(), "Square");
     EXPECT_EQ(layer["features"].toInt(), 1);
     EXPECT_EQ(layer["extent"].toArray(), (QJsonArray{0, 0, 10, 10}));
+}
+
+TEST_F(ListCommandTest, ARasterHasItsPixels)
+{
+    const QString photo = m_folder.Path("photo.tif");
+    WriteRaster(photo, {.width = 50, .bands = 3}, [](int, int, int) { return 1; });
+    const QString map = m_folder.Path("rasters.orvane");
+    ASSERT_EQ(Run({"import", photo, "--to", map, "--map-crs", "EPSG:4326"}), ExitCode::Done);
+    m_out.clear();
+    EXPECT_EQ(Run({"list", map}), ExitCode::Done) << m_errors.toStdString();
+    EXPECT_EQ(m_out, "EPSG:4326\nphoto: raster of 50 x 100 pixels, extent 0 0 5 10\n");
+    m_out.clear();
+    EXPECT_EQ(Run({"list", "--json", map}), ExitCode::Done);
+    const QJsonObject layer = QJsonDocument::fromJson(m_out.toUtf8())["layers"][0].toObject();
+    EXPECT_EQ(layer["raster"], (QJsonObject{{"width", 50}, {"height", 100}, {"bands", 3}}));
 }
 
 TEST_F(ListCommandTest, ALayerWithoutItsDataIsReportedAndTheOthersAreListed)

@@ -6,6 +6,7 @@
 #include "mapkit/RasterFile.h"
 #include "mapkit/RawDatabase.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/document/MapSettings.h"
 #include "shell/map/MapThemes.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "store/sqlite/files/PlainTables.h"
@@ -349,16 +350,24 @@ TEST_F(MapCheckTest, AFileCutShortIsAnErrorAndStays)
     EXPECT_EQ(Bytes(), before);
 }
 
-TEST_F(MapCheckTest, ABackdropThatIsMissingOrNoPictureIsAProblem)
+TEST_F(MapCheckTest, ARasterThatIsMissingOrCannotBeReadIsAProblem)
 {
     const QString picture = m_folder.Path("photo.tif");
     WriteRaster(picture, {}, [](int, int, int) { return 1; });
-    MapDocument::Open(m_map)->SetBackdrop(picture);
+    NewLayer raster = NewLayer::OfRaster();
+    raster.path = picture;
+    MapDocument::Open(m_map)->AddLayer(raster);
     EXPECT_TRUE(CheckMap(m_map).empty());
     ASSERT_TRUE(QFile::remove(picture));
     EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
     m_folder.Write("photo.tif", "no picture");
     EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::UnreadableData));
+}
+
+TEST_F(MapCheckTest, ThePictureUnderAMapOfAnEarlierVersionIsCheckedToo)
+{
+    MapSettings::Write(*SqliteLayerDatabase::Open(m_map), "Backdrop", "gone.tif");
+    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
 }
 
 } // namespace Orvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/view/MapMenu.h"
 
+#include "mapkit/RasterFile.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "shell/MainWindowTest.h"
 #include "support/MessageBoxRobot.h"
@@ -129,6 +130,19 @@ TEST_F(MapMenuTest, HasAnEntryForEachLayerBelow)
         ElementsAre(
             "Zoom to Layer", "Attribute Table", "Layer Rendering...", "Layer Properties...", "Open Folder",
             "Remove"));
+}
+
+TEST_F(MapMenuTest, OffersTheCommandsOfARasterBesideFeatures)
+{
+    const QString photo = m_folder.Path("photo.tif");
+    WriteRaster(photo, {.transform = {0, 0.2, 0, 20, 0, -0.2}}, [](int, int, int) { return 9; });
+    m_window->AddData({photo});
+    Canvas().ZoomToAll();
+    const QMenu& menu = OpenMenu({15, 15});
+    EXPECT_EQ(Texts(menu).value(0), "photo");
+    EXPECT_FALSE(Entry(menu, "AttributeTable").isEnabled());
+    EXPECT_NE(Entry(menu, "AttributeTable").toolTip(), "");
+    EXPECT_TRUE(Entry(menu, "ZoomToLayer").isEnabled());
 }
 
 TEST_F(MapMenuTest, DoesNotOfferALayerThatIsHidden)
