@@ -2,7 +2,7 @@
 #include "mapkit/attributes/TableReader.h"
 
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <utility>
 

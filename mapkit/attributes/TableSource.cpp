@@ -7,10 +7,10 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/GdalSetup.h"
-#include "mapkit/data/OpenedData.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/OpenedData.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -3,7 +3,7 @@
 
 #include "mapkit/attributes/TableSource.h"
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <QStringList>
 

@@ -5,12 +5,12 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
-#include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/LayerDescription.h"
-#include "mapkit/data/OpenedData.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/OpenedData.h"
+#include "mapkit/files/ReadingBound.h"
 #include "mapkit/tables/RowGeometry.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -3,8 +3,8 @@
 
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/SystemReference.h"
-#include "mapkit/data/GdalSetup.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -4,12 +4,12 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/GdalSetup.h"
-#include "mapkit/data/OpenedData.h"
 #include "mapkit/data/RasterShades.h"
 #include "mapkit/data/RasterWarp.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/OpenedData.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

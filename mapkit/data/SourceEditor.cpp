@@ -4,11 +4,11 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
-#include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/GeometryReader.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/data/SourceReader.h"
+#include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -4,7 +4,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/MapRaster.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 

@@ -3,8 +3,8 @@
 
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
-#include "mapkit/data/DataFiles.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/DataFiles.h"
 #include "shell/dialogs/MissingData.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/TableQuestions.h"

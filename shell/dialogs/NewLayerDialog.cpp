@@ -2,7 +2,7 @@
 #include "shell/dialogs/NewLayerDialog.h"
 
 #include "mapkit/common/Guard.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 #include "ui_NewLayerDialog.h"
 

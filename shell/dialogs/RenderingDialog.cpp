@@ -3,8 +3,8 @@
 
 #include "mapkit/common/Guard.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/ReadingBound.h"
 #include "mapkit/looks/ColourRamps.h"
 #include "mapkit/looks/RendererStyles.h"
 #include "ui_RenderingDialog.h"

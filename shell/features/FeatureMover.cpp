@@ -3,9 +3,9 @@
 
 #include "hostkit/common/HostErrors.h"
 #include "hostkit/undo/UndoHistory.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/ReadingBound.h"
 #include "shell/features/FeatureSubset.h"
 #include "shell/map/MapSession.h"
 #include "shell/window/RunWithProgress.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/FoundLayers.h"
 
-#include "mapkit/data/OpenedData.h"
+#include "mapkit/files/OpenedData.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -6,7 +6,7 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemGuess.h"
 #include "mapkit/data/MapRaster.h"
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

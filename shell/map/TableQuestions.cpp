@@ -2,8 +2,8 @@
 #include "shell/map/TableQuestions.h"
 
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/ReadingBound.h"
 #include "shell/dialogs/TableColumnsDialog.h"
 #include "shell/map/MapSession.h"
 #include "shell/window/RunWithProgress.h"

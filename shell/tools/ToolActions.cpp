@@ -3,8 +3,8 @@
 
 #include "hostkit/undo/UndoHistory.h"
 #include "mapkit/canvas/MapCanvas.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/ReadingBound.h"
 #include "shell/features/FeatureMover.h"
 #include "shell/map/MapSession.h"
 #include "shell/tools/IdentifyPanel.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mapkit/coordinates/Box.h"
-#include "mapkit/data/GdalSetup.h"
+#include "mapkit/files/GdalSetup.h"
 
 #include <QFileInfo>
 #include <QString>

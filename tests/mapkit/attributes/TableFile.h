@@ -3,8 +3,8 @@
 
 #include "mapkit/DataFolder.h"
 #include "mapkit/common/GdalErrors.h"
-#include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/SourceReader.h"
+#include "mapkit/files/GdalSetup.h"
 
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>

@@ -7,9 +7,9 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/EmptyLayer.h"
 #include "mapkit/data/RasterSource.h"
-#include "mapkit/data/ReadingBound.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/data/SourceReader.h"
+#include "mapkit/files/ReadingBound.h"
 #include "support/ProcessorTime.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

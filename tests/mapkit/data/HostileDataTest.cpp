@@ -3,9 +3,9 @@
 #include "mapkit/DataFolder.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
-#include "mapkit/data/GdalSetup.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/data/SourceReader.h"
+#include "mapkit/files/GdalSetup.h"
 #include "support/ProcessorTime.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/GdalSetup.h"
+#include "mapkit/files/GdalSetup.h"
 
-#include "mapkit/data/OrdinaryFiles.h"
+#include "mapkit/files/OrdinaryFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/OpenedData.h"
+#include "mapkit/files/OpenedData.h"
 
-#include "mapkit/data/DataFiles.h"
-#include "mapkit/data/GdalSetup.h"
+#include "mapkit/files/DataFiles.h"
+#include "mapkit/files/GdalSetup.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

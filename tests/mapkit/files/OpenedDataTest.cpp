@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/OpenedData.h"
+#include "mapkit/files/OpenedData.h"
 
 #include "mapkit/DataFolder.h"
 #include "mapkit/ZipFile.h"

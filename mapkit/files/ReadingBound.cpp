@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <sqlite3.h>
 

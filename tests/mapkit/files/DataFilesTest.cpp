@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/DataFiles.h"
+#include "mapkit/files/DataFiles.h"
 
 #include "mapkit/DataFolder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "mapkit/data/OrdinaryFiles.h"
+#include "mapkit/files/OrdinaryFiles.h"
 
-#include "mapkit/data/ReadingBound.h"
+#include "mapkit/files/ReadingBound.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
