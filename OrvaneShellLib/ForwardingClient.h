@@ -187,7 +187,7 @@ protected:
         return source ? source->Source(layerID) : QString();
     }
 
-    /// Nothing happens if the other client does not want to know it.
+    /// Nothing happens if the other client does not want to know it; the component tells it all the same.
     void IChoiceWatch_LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs) override
     {
         if (auto* watch = dynamic_cast<IChoiceWatch*>(&m_client))

@@ -31,9 +31,10 @@ public:
     IChoiceWatch(const IChoiceWatch&) = delete;
     IChoiceWatch& operator=(const IChoiceWatch&) = delete;
 
-    /// Other layers are chosen now in that editor. Called after the event that chose them, and only if they
-    /// are others than at the last call; not called when the editor ends, with which its choice ends too.
-    /// What it raises is shown to the user. form: the editor's form; not owned. layerIDs: the chosen layers
+    /// These layers are chosen now in that editor. Called after the event that chose others, and after each
+    /// click on a node even if the same are chosen, since another editor may have told its own meanwhile. Not
+    /// called when the editor ends: its choice ends with it, see IEditorWatch. What it raises is shown to the
+    /// user. form: the editor's form; not owned. layerIDs: the chosen layers
     /// and those of chosen groups, each once; empty for none.
     void LayersChosen(QWidget* form, const std::vector<qint32>& layerIDs)
     {

@@ -60,6 +60,7 @@ private:
     void IEditorWatch_EditorEnded(QWidget* form) override
     {
         m_editors.remove(form);
+        m_map.setEnabled(false); // its choice ends too
         ForwardingClient::IEditorWatch_EditorEnded(form);
     }
 
