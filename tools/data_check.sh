@@ -14,7 +14,7 @@ fetch() { # fetch PACKAGE: downloads and unpacks it once, without installing it 
     dpkg -x "$folder"/fetch/"$1"_*.deb "$folder/unpacked/$1"
 }
 
-for package in r-cran-spdata r-cran-sf r-cran-spdep r-cran-maptools r-cran-stars python3-cartopy; do
+for package in r-cran-spdata r-cran-sf r-cran-maptools r-cran-stars python3-cartopy python3-geopandas; do
     fetch "$package"
 done
 QT_QPA_PLATFORM=offscreen python3 tools/data_check.py "$build/bin/orvane" "$folder/maps" "$folder/unpacked"
