@@ -10,7 +10,6 @@ namespace {
 
 constexpr double Half = HalfTurn;
 constexpr double Turn = 360;
-constexpr double Pole = 90;
 constexpr double EdgeTolerance = 1e-6;
 constexpr double MostTurns = 3; // beyond that the numbers are no longitudes
 
@@ -107,12 +106,12 @@ Points Shifted(Points points, double shift)
     return points;
 }
 
-// Each turn of the earth that the points lie in, by its middle.
-template <typename Use> void ForEachTurn(const Points& points, const Use& use)
+// Each turn of the earth that the points lie in, by how far it is from the turn around the map's middle.
+template <typename Use> void ForEachTurn(const Points& points, double middle, const Use& use)
 {
     const Range range = RangeOf(points);
-    const double first = std::ceil((range.west - Half) / Turn - EdgeTolerance);
-    const double last = std::floor((range.east + Half) / Turn + EdgeTolerance);
+    const double first = std::ceil((range.west - middle - Half) / Turn - EdgeTolerance);
+    const double last = std::floor((range.east - middle + Half) / Turn + EdgeTolerance);
     for (double turn = first; turn <= last; ++turn)
         use(turn * Turn);
 }
@@ -166,41 +165,42 @@ double Longitude(double longitude)
     return isBeyond ? longitude - Turn * std::round(longitude / Turn) : longitude;
 }
 
-bool IsPassed(std::span<const QPointF> points)
+bool IsPassed(std::span<const QPointF> points, double middle)
 {
     bool isPassed = false;
     for (size_t i = 0; i < points.size(); ++i) {
         if (!(std::abs(points[i].x()) < MostTurns * Half)
             || !(std::abs(points[i].y()) <= Pole + EdgeTolerance))
             return false;
-        isPassed = isPassed || std::abs(points[i].x()) > Half + EdgeTolerance || IsJump(points, i);
+        isPassed = isPassed || std::abs(points[i].x() - middle) > Half + EdgeTolerance || IsJump(points, i);
     }
     return isPassed;
 }
 
-std::vector<Points> CutLine(std::span<const QPointF> points)
+std::vector<Points> CutLine(std::span<const QPointF> points, double middle)
 {
     const Points line = Unrolled(points);
     std::vector<Points> pieces;
-    ForEachTurn(line, [&](double middle) {
+    ForEachTurn(line, middle, [&](double shift) {
         std::vector<Points> within;
-        AddLinesWithin(within, line, middle - Half, middle + Half);
+        AddLinesWithin(within, line, middle + shift - Half, middle + shift + Half);
         for (Points& piece : within)
-            pieces.push_back(Shifted(std::move(piece), middle));
+            pieces.push_back(Shifted(std::move(piece), shift));
     });
     return pieces;
 }
 
-std::vector<Points> CutRing(std::span<const QPointF> points)
+std::vector<Points> CutRing(std::span<const QPointF> points, double middle)
 {
     Points ring = Unrolled(points);
     if (std::abs(ring.back().x() - ring.front().x()) > Half)
         CloseAroundPole(ring);
     std::vector<Points> pieces;
-    ForEachTurn(ring, [&](double middle) {
-        const Points piece = RingBeside(RingBeside(ring, middle - Half, 1), middle + Half, -1);
+    ForEachTurn(ring, middle, [&](double shift) {
+        const double centre = middle + shift;
+        const Points piece = RingBeside(RingBeside(ring, centre - Half, 1), centre + Half, -1);
         if (piece.size() > 2 && HasWidth(piece))
-            pieces.push_back(Shifted(piece, middle));
+            pieces.push_back(Shifted(piece, shift));
     });
     return pieces;
 }

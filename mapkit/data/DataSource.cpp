@@ -207,7 +207,7 @@ FeatureSet DataSource::Read(
     FeatureSet features;
     const OGRSpatialReference own = ReferenceOf(chosenSystem, layer.GetSpatialRef());
     features.SetSourceSystem(own.IsEmpty() ? QString() : SystemText(&own));
-    GeometryReader reader(features, TransformationTo(mapSystem, &own), {choice, own.IsGeographic() != 0});
+    GeometryReader reader(features, TransformationTo(mapSystem, &own), RulesFor(own, mapSystem, choice));
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
     const double mostBytes = MostBytes();
     GIntBig count = 0;

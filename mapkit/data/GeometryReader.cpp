@@ -5,10 +5,30 @@
 #include "mapkit/coordinates/Antimeridian.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
 namespace Orvane {
+
+namespace {
+
+constexpr double EdgeWidth = 1e-9; // degrees
+constexpr double RoundingErrors = 1e-6; // degrees
+
+// Not beyond most degrees from the middle; what is farther away than widest is no such coordinate.
+double Within(double value, double middle, double most, double widest)
+{
+    const bool isOne = std::abs(value - middle) <= widest + RoundingErrors;
+    return isOne ? std::clamp(value, middle - most, middle + most) : value;
+}
+
+} // namespace
+
+GeometryRules RulesFor(const OGRSpatialReference& own, const QString& mapSystem, const GeometryChoice& choice)
+{
+    return {choice, own.IsGeographic() ? std::optional(EdgesOf(mapSystem)) : std::nullopt};
+}
 
 GeometryReader::GeometryReader(
     FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation,
@@ -77,7 +97,7 @@ void GeometryReader::AddLinear(const OGRGeometry& geometry)
 void GeometryReader::AddPoint(const OGRPoint& point)
 {
     const double x = point.getX();
-    m_x.assign(1, m_rules.areDegrees ? Antimeridian::Longitude(x) : x);
+    m_x.assign(1, m_rules.edges ? Antimeridian::Longitude(x) : x);
     m_y.assign(1, point.getY());
     AddCoordinates();
 }
@@ -96,16 +116,19 @@ void GeometryReader::AddCurve(const OGRSimpleCurve& curve, FeatureKind kind)
     if (count == 0)
         return;
     curve.getPoints(m_x.data(), sizeof(double), m_y.data(), sizeof(double));
-    if (!m_rules.areDegrees || !MayPassMeridian() || !AddCut(kind))
+    if (!m_rules.edges)
         AddCoordinates();
+    else if (!MayPassMeridian() || !AddCut(kind))
+        AddWithinEdges();
 }
 
 // A quick look, because it is taken at every part.
 bool GeometryReader::MayPassMeridian() const
 {
     const auto [west, east] = std::minmax_element(m_x.begin(), m_x.end());
-    return *east - *west > Antimeridian::HalfTurn || *east > Antimeridian::HalfTurn
-        || *west < -Antimeridian::HalfTurn;
+    const double middle = m_rules.edges->middle;
+    return *east - *west > Antimeridian::HalfTurn || *east > middle + Antimeridian::HalfTurn
+        || *west < middle - Antimeridian::HalfTurn;
 }
 
 // Returns false if there was nothing to cut.
@@ -114,12 +137,14 @@ bool GeometryReader::AddCut(FeatureKind kind)
     m_points.resize(m_x.size());
     for (size_t i = 0; i < m_x.size(); ++i)
         m_points[i] = {m_x[i], m_y[i]};
-    if (!Antimeridian::IsPassed(m_points)) {
+    const double middle = m_rules.edges->middle;
+    if (!Antimeridian::IsPassed(m_points, middle)) {
         std::transform(m_x.begin(), m_x.end(), m_x.begin(), Antimeridian::Longitude);
         return false;
     }
-    const std::vector<Antimeridian::Points> parts
-        = kind == FeatureKind::Area ? Antimeridian::CutRing(m_points) : Antimeridian::CutLine(m_points);
+    const std::vector<Antimeridian::Points> parts = kind == FeatureKind::Area
+        ? Antimeridian::CutRing(m_points, middle)
+        : Antimeridian::CutLine(m_points, middle);
     for (const Antimeridian::Points& part : parts) {
         m_x.resize(part.size());
         m_y.resize(part.size());
@@ -127,9 +152,21 @@ bool GeometryReader::AddCut(FeatureKind kind)
             m_x[i] = part[i].x();
             m_y[i] = part[i].y();
         }
-        AddCoordinates();
+        AddWithinEdges();
     }
     return true;
+}
+
+// What lies on an edge itself may be drawn at the other one.
+void GeometryReader::AddWithinEdges()
+{
+    const MapEdges& edges = *m_rules.edges;
+    const double most = Antimeridian::HalfTurn - (edges.middle == 0 ? 0 : EdgeWidth);
+    for (double& x : m_x)
+        x = Within(x, edges.middle, most, Antimeridian::HalfTurn);
+    for (double& y : m_y)
+        y = Within(y, 0, edges.mostLatitude, Antimeridian::Pole);
+    AddCoordinates();
 }
 
 void GeometryReader::AddCoordinates()

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/coordinates/MapEdges.h"
 #include "mapkit/data/FeatureSet.h"
 #include "mapkit/data/GeometryChoice.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class OGRCoordinateTransformation;
@@ -12,14 +14,21 @@ class OGRGeometry;
 class OGRPoint;
 class OGRPolygon;
 class OGRSimpleCurve;
+class OGRSpatialReference;
 
 namespace Orvane {
 
 /// What is done with geometries besides the transformation.
 struct GeometryRules {
     GeometryChoice choice; ///< other kinds are left out
-    bool areDegrees = false; ///< then what passes the meridian of 180 degrees is cut there
+    /// Set for coordinates in degrees: what passes the edges of the map is cut there, and what lies beyond
+    /// its latitudes is moved to them.
+    std::optional<MapEdges> edges = std::nullopt;
 };
+
+/// The rules for data in that system on a map in a system as in CoordinateSystems.h.
+GeometryRules
+RulesFor(const OGRSpatialReference& own, const QString& mapSystem, const GeometryChoice& choice);
 
 /// Adds GDAL geometries of every kind to a feature set, with curves as line strings, and transforms them.
 /// Vertices that cannot be transformed, such as a latitude of 95 degrees, are left out.
@@ -43,6 +52,7 @@ private:
     void AddCurve(const OGRSimpleCurve& curve, FeatureKind kind);
     bool MayPassMeridian() const;
     bool AddCut(FeatureKind kind);
+    void AddWithinEdges();
     void AddCoordinates();
 
     FeatureSet& m_features;

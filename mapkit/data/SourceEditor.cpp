@@ -160,7 +160,7 @@ FeatureSet SourceEditor::Shown(const QByteArray& binary, qint64 featureID, const
     const GdalErrors quiet;
     FeatureSet features;
     const OGRSpatialReference own = ReferenceOf(m_chosenSystem, m_layer->GetSpatialRef());
-    GeometryReader reader(features, TransformationTo(mapSystem, &own), {m_choice, own.IsGeographic() != 0});
+    GeometryReader reader(features, TransformationTo(mapSystem, &own), RulesFor(own, mapSystem, m_choice));
     if (const OGRGeometryUniquePtr geometry = FromBinary(binary))
         reader.Add(*geometry, featureID);
     return features;

@@ -55,6 +55,26 @@ TEST(Antimeridian, OrdinaryLinesAreLeftAlone)
     EXPECT_FALSE(Antimeridian::IsPassed(Points()));
 }
 
+TEST(Antimeridian, AMapWithAnotherMiddleIsCutAtItsOwnEdge)
+{
+    const double middle = 150; // from -30 to 330
+    EXPECT_FALSE(Antimeridian::IsPassed(Square(0, 10), middle));
+    const std::vector<Points> rings = Antimeridian::CutRing(Square(-40, -20), middle);
+    ASSERT_EQ(rings.size(), 2u);
+    EXPECT_EQ(Sorted(rings[0]).back().x(), 330);
+    EXPECT_EQ(Sorted(rings[1]).front().x(), -30);
+    const std::vector<Points> lines = Antimeridian::CutLine(Points{{-40, 5}, {-20, 5}}, middle);
+    EXPECT_THAT(lines, ElementsAre(Points{{320, 5}, {330, 5}}, Points{{-30, 5}, {-20, 5}}));
+}
+
+TEST(Antimeridian, WhatPassesTheDateLineIsWholeOnAMapOfThePacific)
+{
+    const std::vector<Points> rings = Antimeridian::CutRing(Island, 150);
+    ASSERT_EQ(rings.size(), 1u);
+    EXPECT_EQ(Sorted(rings[0]).front().x(), 178);
+    EXPECT_EQ(Sorted(rings[0]).back().x(), 182);
+}
+
 TEST(Antimeridian, ALineThatJumpsIsCutInTwo)
 {
     const Points line = {{170, 10}, {-170, 20}};
@@ -177,6 +197,31 @@ TEST(Antimeridian, ARoundingErrorLeavesAnEdgeOnItsSide)
     Progress progress;
     const FeatureSet features = source.Read("cape", {}, "EPSG:8857", progress);
     EXPECT_LT(features.Bounds().maxX, 0);
+}
+
+TEST(Antimeridian, DataThatPassTheEdgeOfTheMapAreReadInPieces)
+{
+    const DataFolder folder;
+    const DataSource source(folder.WriteGeometries(
+        "ocean.geojson",
+        {R"({"type":"Polygon","coordinates":[[[-40,0],[-20,0],[-20,10],[-40,10],[-40,0]]]})",
+         R"({"type":"LineString","coordinates":[[-40,5],[-20,5]]})"}));
+    Progress progress;
+    const double degree = 111320; // metres at the equator
+    EXPECT_NEAR(WidestPart(source.Read("ocean", {}, "EPSG:3832", progress)), 10 * degree, degree);
+    EXPECT_NEAR(WidestPart(source.Read("ocean", {}, "EPSG:3857", progress)), 20 * degree, degree);
+}
+
+TEST(Antimeridian, ThePolesAreLeftOutOfAMercatorMap)
+{
+    const DataFolder folder;
+    const DataSource source(folder.WriteGeometries(
+        "ice.geojson",
+        {R"({"type":"Polygon","coordinates":[[[-180,-90],[180,-90],[180,-70],[-180,-70],[-180,-90]]]})"}));
+    Progress progress;
+    const Box bounds = source.Read("ice", {}, "EPSG:3857", progress).Bounds();
+    EXPECT_NEAR(bounds.minY, bounds.minX, 20000) << "a square";
+    EXPECT_EQ(source.Read("ice", {}, "EPSG:4326", progress).Bounds().minY, -90);
 }
 
 TEST(Antimeridian, DataInMetresAreNotCut)
