@@ -900,8 +900,8 @@
         <translation>Die Layersteuerung wurde nicht initialisiert.</translation>
     </message>
     <message>
-        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
-        <translation>Das Muster gefüllter Flächen. Sind beide Füllfarben transparent, haben Muster und volle Füllungen die Linienfarbe.</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns have the line colour.</source>
+        <translation>Das Muster gefüllter Flächen. Sind beide Füllfarben transparent, haben Muster die Linienfarbe.</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

@@ -900,8 +900,8 @@
         <translation>Le contrôle des couches n’a pas été initialisé.</translation>
     </message>
     <message>
-        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
-        <translation>Le motif des surfaces remplies. Si les deux couleurs de remplissage sont transparentes, motifs et remplissages unis prennent la couleur du trait.</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns have the line colour.</source>
+        <translation>Le motif des surfaces remplies. Si les deux couleurs de remplissage sont transparentes, les motifs prennent la couleur du trait.</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

@@ -900,8 +900,8 @@
         <translation>レイヤーコントロールが初期化されていません。</translation>
     </message>
     <message>
-        <source>The pattern of filled areas. If both fill colours are transparent, patterns and plain fills have the line colour.</source>
-        <translation>面の塗りパターンです。塗りつぶしの色が両方とも透明なときは、パターンも単色の塗りも線の色になります。</translation>
+        <source>The pattern of filled areas. If both fill colours are transparent, patterns have the line colour.</source>
+        <translation>面の塗りパターンです。塗りつぶしの色が両方とも透明なときは、パターンは線の色になります。</translation>
     </message>
     <message>
         <source>The pattern or the width of lines and outlines.</source>

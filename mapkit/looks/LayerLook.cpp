@@ -72,14 +72,14 @@ QBrush FillOf(const DrawingValues& values, const IShellServices& services)
 {
     std::optional<QColor> fore = ColourFromBgr(values.fillForeColor);
     const std::optional<QColor> back = ColourFromBgr(values.fillBackColor);
-    if (!fore && !back)
-        fore = OpaqueFromBgr(values.color); // as in the preview of the fill picker
     if (values.fillStyle == HollowFill)
         return back ? QBrush(*back) : QBrush(Qt::NoBrush);
     if (values.fillStyle == SolidFill)
         return fore ? QBrush(*fore) : QBrush(Qt::NoBrush);
     if (values.fillStyle < 0 || values.fillStyle >= FillPatternCount)
         return QBrush(Qt::NoBrush);
+    if (!fore && !back)
+        fore = OpaqueFromBgr(values.color); // as in the preview of the fill picker
     const MonochromeBitmap pattern = services.FillPattern(FillPatternKind, values.fillStyle);
     return PatternBrush(pattern, fore.value_or(Qt::transparent), back.value_or(Qt::transparent));
 }

@@ -93,6 +93,7 @@ TEST(LayerLook, ASolidFillTakesTheForeColourAndAHollowOneTheBackColour)
 TEST(LayerLook, ATransparentColourFillsNothing)
 {
     EXPECT_EQ(LookFor(Filled(0, Transparent, Red)).fill.style(), Qt::NoBrush);
+    EXPECT_EQ(LookFor(Filled(0, Transparent, Transparent)).fill.style(), Qt::NoBrush);
     EXPECT_EQ(LookFor(Filled(15, Blue, Transparent)).fill.style(), Qt::NoBrush);
 }
 
