@@ -110,14 +110,18 @@ MapDocument& MainWindow::Document()
 
 void MainWindow::OpenMap(const QString& path)
 {
-    if ((!Document().IsAt(path) && !m_sharing->MayOpen(path)) || !LeaveMap())
+    if (!Document().IsAt(path) && !m_sharing->MayOpen(path))
         return;
-    const bool again = Document().IsAt(path);
-    LetGoOf(path);
-    std::unique_ptr<MapDocument> document = MapDocument::Open(path);
-    const SourceContents contents = again ? SourceContents() : ContentsOf(*document);
-    Use(std::move(document), contents, Opening::ByUser);
-    RecentMaps::Add(Document().Path());
+    m_layerControl.WithAnotherMap([&] {
+        if (!KeepUntitledMap())
+            return;
+        const bool again = Document().IsAt(path);
+        LetGoOf(path);
+        std::unique_ptr<MapDocument> document = MapDocument::Open(path);
+        const SourceContents contents = again ? SourceContents() : ContentsOf(*document);
+        Use(std::move(document), contents, Opening::ByUser);
+        RecentMaps::Add(Document().Path());
+    });
 }
 
 // Before the map takes the place of the other, which stays when the user cancels. A map whose reading does
@@ -298,11 +302,13 @@ void MainWindow::NewMap()
         return;
     const QString folder = QFileInfo(MapFileDialog::Proposed(Document())).path();
     const QString path = MapFileDialog::Ask(tr("New Map"), folder + QLatin1Char('/'), this);
-    if (path.isEmpty() || !m_layerControl.Close())
+    if (path.isEmpty())
         return;
-    LetGoOf(path);
-    Use(MapDocument::CreateOver(path));
-    RecentMaps::Add(Document().Path());
+    m_layerControl.WithAnotherMap([&] {
+        LetGoOf(path);
+        Use(MapDocument::CreateOver(path));
+        RecentMaps::Add(Document().Path());
+    });
 }
 
 void MainWindow::AskForMap()

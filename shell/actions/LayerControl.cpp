@@ -87,7 +87,18 @@ bool LayerControl::IsShown(const QString& editorID) const
 
 bool LayerControl::WithEditorsClosed(const std::function<void()>& act)
 {
-    const std::vector<Entry> shown = Shown();
+    return Reopening(Shown(), act);
+}
+
+bool LayerControl::WithAnotherMap(const std::function<void()>& act)
+{
+    std::vector<Entry> shown = Shown();
+    std::erase_if(shown, [](const Entry& entry) { return entry.editorID != QLatin1String(MainEditorID); });
+    return Reopening(shown, act);
+}
+
+bool LayerControl::Reopening(const std::vector<Entry>& entries, const std::function<void()>& act)
+{
     const QPointer<QWidget> active = QApplication::activeWindow();
     if (!Close())
         return false;
@@ -97,9 +108,9 @@ bool LayerControl::WithEditorsClosed(const std::function<void()>& act)
     } catch (...) {
         failure = std::current_exception();
     }
-    for (const Entry& entry : shown)
+    for (const Entry& entry : entries)
         Show(entry.editorID, entry.filter);
-    if (active && active->isVisible() && !shown.empty())
+    if (active && active->isVisible() && !entries.empty())
         active->activateWindow();
     if (failure)
         std::rethrow_exception(failure);

@@ -51,6 +51,8 @@ public:
     /// Closes all editors, calls act and opens the same editors again, also when act raises; the active
     /// window stays active. False, without calling act, when an editor stays open.
     bool WithEditorsClosed(const std::function<void()>& act);
+    /// The same, for what may open another map: only the editor of all layers opens again.
+    bool WithAnotherMap(const std::function<void()>& act);
 
 private:
     struct Entry {
@@ -61,6 +63,7 @@ private:
     IStyleEditor* Editor(const QString& editorID) const;
     IStyleEditor* NewEditor(const Entry& entry);
     std::vector<Entry> Shown() const;
+    bool Reopening(const std::vector<Entry>& entries, const std::function<void()>& act);
     void Load();
 
     CallTrace* m_trace;

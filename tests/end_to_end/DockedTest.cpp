@@ -92,6 +92,18 @@ TEST_F(Docked, ItIsOpenInTheDockInTheFirstRun)
     EXPECT_EQ(m_window->dockWidgetArea(&Dock()), Qt::RightDockWidgetArea);
 }
 
+TEST_F(Docked, ItStaysOpenWhenAnotherMapIsOpened)
+{
+    OpenLayerControl();
+    const QString other = m_folder.filePath("other.orvane");
+    QFile::copy(MapPath(), other);
+    m_window->OpenMap(other);
+    EXPECT_TRUE(DockedForm());
+    Dock().close();
+    m_window->OpenMap(MapPath());
+    EXPECT_FALSE(DockedForm()) << "nor does it open by itself";
+}
+
 TEST_F(Docked, TheMapHasMoreThanHalfOfTheWindowAtFirst)
 {
     OpenLayerControl();
