@@ -140,7 +140,6 @@ void TableColumnsDialog::ShowRows()
             m_ui->tblRows->setItem(row, column, new QTableWidgetItem(text));
         }
     }
-    m_ui->tblRows->resizeColumnsToContents();
 }
 
 void TableColumnsDialog::ShowChoice()
@@ -184,6 +183,7 @@ void TableColumnsDialog::MarkColumns()
         for (int row = 0; row < m_ui->tblRows->rowCount(); ++row)
             MakeBold(*m_ui->tblRows->item(row, column), isChosen);
     }
+    m_ui->tblRows->resizeColumnsToContents();
 }
 
 // What the user should know about the choice; empty if it is fine.
