@@ -84,8 +84,11 @@ std::vector<QString> ClassTexts(const Classification& classes)
         return decimals < 0 ? locale.toString(limit, 'g', 6) : locale.toString(limit, 'f', decimals);
     };
     texts.reserve(limits.size());
-    for (size_t i = 1; i < limits.size(); ++i)
-        texts.push_back(text(limits[i - 1]) + QStringLiteral(" – ") + text(limits[i]));
+    for (size_t i = 1; i < limits.size(); ++i) {
+        const QString from = text(limits[i - 1]);
+        const QString to = text(limits[i]);
+        texts.push_back(from == to ? to : from + QStringLiteral(" – ") + to);
+    }
     return texts;
 }
 
