@@ -124,6 +124,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>%1 x %2 Pixel, Kanäle: %3</translation>
     </message>
     <message>
+        <source>%1. It shows neither labels nor classes: choose another in the layer control.</source>
+        <translation>%1. Damit werden weder Beschriftungen noch Klassen gezeigt: Wählen Sie in der Layersteuerung eine andere.</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: Objekte %2, Ausdehnung %3</translation>
     </message>

@@ -124,6 +124,10 @@ Zone d’utilisation : %3</translation>
         <translation>%1 x %2 pixels, bandes : %3</translation>
     </message>
     <message>
+        <source>%1. It shows neither labels nor classes: choose another in the layer control.</source>
+        <translation>%1. Il ne montre ni étiquettes ni classes : choisissez-en un autre dans le contrôle des couches.</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1 : entités %2, étendue %3</translation>
     </message>

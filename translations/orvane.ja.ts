@@ -124,6 +124,10 @@ Area of use: %3</source>
         <translation>%1 x %2 ピクセル、バンド数: %3</translation>
     </message>
     <message>
+        <source>%1. It shows neither labels nor classes: choose another in the layer control.</source>
+        <translation>%1。ラベルも区分も表示しません。レイヤーコントロールで別のスタイルを選んでください。</translation>
+    </message>
+    <message>
         <source>%1: features %2, extent %3</source>
         <translation>%1: 地物 %2、範囲 %3</translation>
     </message>

@@ -78,12 +78,15 @@ void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
     const QPointer alive(m_session); // the map may be saved under another name while it asks
     if (dialog.exec() != QDialog::Accepted || !alive)
         return;
-    QSet<qint32> changed;
-    for (const auto& [layerID, rendering] : dialog.Changes()) {
-        session.Document().Renderings().Set(layerID, rendering);
-        changed.insert(layerID);
-    }
-    session.DrawAgain(changed);
+    const std::map<qint32, LayerRendering> changes = dialog.Changes();
+    if (changes.empty())
+        return;
+    session.Shell().RecordStep([&] {
+        for (const auto& [layerID, rendering] : changes)
+            session.Document().Renderings().Set(layerID, rendering);
+        return tr("Layer Rendering");
+    });
+    session.FollowRenderings();
 }
 
 void RenderingActions::AskForBackground()

@@ -31,6 +31,16 @@ QString StyleName(qint32 style)
     return RenderingDialog::tr("Standard");
 }
 
+// Says so where the settings of this dialog have no effect.
+QString StyleText(qint32 style)
+{
+    if (RendererStyles::Has(style, RendererStyles::Labelled | RendererStyles::Graduated))
+        return StyleName(style);
+    return RenderingDialog::tr(
+               "%1. It shows neither labels nor classes: choose another in the layer control.")
+        .arg(StyleName(style));
+}
+
 // Empty when the source cannot be read, and for a raster.
 std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID)
 {
@@ -164,7 +174,7 @@ void RenderingDialog::ShowLayer()
     const auto stored = m_stored.find(LayerID());
     const LayerRendering known = stored == m_stored.end() ? LayerRendering() : stored->second;
     const LayerRendering& shown = m_chosen.try_emplace(LayerID(), known).first->second;
-    m_ui->lblStyle->setText(StyleName(m_styles[LayerID()]));
+    m_ui->lblStyle->setText(StyleText(m_styles[LayerID()]));
     ShowFields();
     ChooseAttribute(*m_ui->cmbLabelAttribute, shown.labelAttribute);
     ChooseAttribute(*m_ui->cmbClassAttribute, shown.classAttribute);

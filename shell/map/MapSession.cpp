@@ -114,6 +114,7 @@ QString MapSession::ReadAndShow(View view, const SourceContents& known)
     m_client.InvalidateLayerNames();
     const QString before = std::exchange(m_system, m_document->System());
     m_chosenReadings = m_document->ChosenReadings();
+    m_renderings = m_document->Renderings().All();
     const bool isReprojected = before != m_system;
     if (isReprojected)
         m_layers.DropAllFeatures();
@@ -196,7 +197,12 @@ void MapSession::Connect()
     m_followSoon.setSingleShot(true);
     connect(&m_client.History(), &UndoHistory::Changed, &m_followSoon, qOverload<>(&QTimer::start));
     connect(&m_followSoon, &QTimer::timeout, this, [this] {
-        LongWork::RunAfter(this, [this] { Guard(&m_mainWindow, [this] { FollowSystems(); }); });
+        LongWork::RunAfter(this, [this] {
+            Guard(&m_mainWindow, [this] {
+                FollowSystems();
+                FollowRenderings();
+            });
+        });
     });
     connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
     connect(
@@ -290,6 +296,21 @@ void MapSession::FollowSystems()
     const QString problems = ReadAndShow();
     if (!problems.isEmpty())
         emit DataFailed(problems);
+}
+
+void MapSession::FollowRenderings()
+{
+    std::map<qint32, LayerRendering> before = std::exchange(m_renderings, m_document->Renderings().All());
+    QSet<qint32> changed;
+    for (const auto& [layerID, rendering] : m_renderings) {
+        const auto known = before.extract(layerID);
+        if ((known ? known.mapped() : LayerRendering()) != rendering)
+            changed.insert(layerID);
+    }
+    for (const auto& [layerID, rendering] : before)
+        changed.insert(layerID);
+    if (!changed.isEmpty())
+        DrawAgain(changed);
 }
 
 void MapSession::FollowLayers()

@@ -69,6 +69,8 @@ public:
     QString ReadAndShow(View view = View::Stays, const SourceContents& known = {});
     /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
+    /// Draws the layers again whose renderings were changed in the map.
+    void FollowRenderings();
 
     /// The names of the layers that are not shown completely, because the map's coordinate system has no
     /// place for some of their positions.
@@ -119,6 +121,7 @@ private:
     bool m_isRead = false; // at least once
     QString m_system; // that the map is shown in
     std::map<qint32, QString> m_chosenReadings; // of the layers, as they are shown
+    std::map<qint32, LayerRendering> m_renderings; // the same
     QTimer m_followSoon; // gathers the many changes of the history
     QTimer m_markSoon; // gathers the many steps of a zoom
     QTimer m_readSoon; // gathers the many layers of a step

@@ -93,6 +93,15 @@ TEST_F(RenderingDialogTest, BeginsWithALayerWhoseStyleUsesAttributes)
     EXPECT_EQ(Find<QLabel>("lblStyle").text(), "Labelled");
 }
 
+TEST_F(RenderingDialogTest, SaysWhereTheStyleUsesNoAttributes)
+{
+    Open();
+    Pick(Find("cmbLayer"), "Apple");
+    EXPECT_EQ(
+        Find<QLabel>("lblStyle").text(),
+        "Standard. It shows neither labels nor classes: choose another in the layer control.");
+}
+
 TEST_F(RenderingDialogTest, OffersTheAttributesThatCanServe)
 {
     Open();
