@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cpl_conv.h>
 #include <cpl_string.h>
 #include <cpl_vsi.h>
 #include <gdal_priv.h>
@@ -73,6 +74,9 @@ std::unique_ptr<GDALDataset> OpenDataset(const QString& name)
 {
     constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
     const char* const withNumbers[] = {"AUTODETECT_TYPE=YES", nullptr};
+    // Its own index is faster, but needs nodes in the order of their numbers; servers write them otherwise.
+    const CPLConfigOptionSetter index(
+        "OSM_USE_CUSTOM_INDEXING", EndsWith(name, {".osm"}) ? "NO" : "YES", true);
     return std::unique_ptr<GDALDataset>(GDALDataset::Open(
         name.toUtf8().constData(), flags, nullptr, IsTextTable(name) ? withNumbers : nullptr));
 }

@@ -60,6 +60,15 @@ protected:
 
 } // namespace
 
+TEST_F(OpenedDataTest, StreetDataNeedNoOrderOfNumbers)
+{
+    const QString path = m_folder.Write(
+        "streets.osm",
+        R"(<osm version="0.6"><node id="9" lat="2" lon="1"/><node id="3" lat="4" lon="3"/>
+        <way id="1"><nd ref="9"/><nd ref="3"/><tag k="highway" v="path"/></way></osm>)");
+    EXPECT_EQ(BoundsOf(path, "lines"), (Box{1, 2, 3, 4}));
+}
+
 TEST_F(OpenedDataTest, AnArchiveIsOneSourceWithTheLayersOfItsFiles)
 {
     const QString path
