@@ -78,8 +78,10 @@ void PaintCasedLine(QPainter& painter, const QRect& area, const CasedLine& cased
     PaintStroke(painter, area, cased.core);
 }
 
-void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
+void PaintFill(QPainter& painter, const QRect& area, const LegendRow& row)
 {
+    if (row.look.fill.style() == Qt::NoBrush)
+        return; // the sample of a list would show its line colour
     const DrawingValues& values = row.values;
     const FillColours colours{values.color, values.fillForeColor, values.fillBackColor};
     const FillSample sample{values.fillStyle, row.fillPattern, colours, White};
@@ -88,6 +90,11 @@ void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
         paint(painter);
     else
         PaintAsPicture(painter, area, SampleResolution, paint);
+}
+
+void PaintArea(QPainter& painter, const QRect& area, const LegendRow& row)
+{
+    PaintFill(painter, area, row);
     QPen outline = row.look.outline;
     outline.setWidthF(std::min(outline.widthF(), area.height() * WidestOutline));
     outline.setJoinStyle(Qt::MiterJoin);

@@ -98,6 +98,8 @@ TEST(LegendSample, TransparentColoursShowThePaper)
     DrawingValues values = Filled(0);
     values.fillForeColor = Transparent;
     EXPECT_EQ(Painted(Row(FeatureKind::Area, values)).pixelColor(24, 14), QColor(Qt::white));
+    values.fillBackColor = Transparent;
+    EXPECT_EQ(Painted(Row(FeatureKind::Area, values)).pixelColor(24, 14), QColor(Qt::white));
 }
 
 TEST(LegendSample, AnAreaHasItsOutline)
