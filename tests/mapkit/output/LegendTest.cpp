@@ -130,6 +130,16 @@ TEST_F(LegendTest, TheLimitsOfClassesAreWrittenOut)
     EXPECT_THAT(Texts(), ElementsAre("Inhabitants", "- 1 – 698,857,500", "- 698,857,500 – 1,397,715,000"));
 }
 
+TEST_F(LegendTest, AClassOfOneValueIsOneNumber)
+{
+    Add("Boroughs");
+    MapLayer& layer = m_layers.back();
+    const std::vector<double> numbers{1, 2, 7, 7, 7, 7};
+    layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::Quantiles, 2);
+    layer.classLooks = {{QBrush(Qt::yellow), Qt::yellow}, {QBrush(Qt::red), Qt::red}};
+    EXPECT_THAT(Texts(), ElementsAre("Boroughs", "- 1 – 7", "- 7"));
+}
+
 TEST_F(LegendTest, TheAttributeStandsAboveItsClassesAndFeaturesWithoutDataBelow)
 {
     AddTo(m_document->AddGroup("Land", true), "Countries");
