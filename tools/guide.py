@@ -199,7 +199,32 @@ class Guide:
         press("ctrl+v")
         self.part("paste-settings", self.active_window("Paste Settings"))
         press("Escape")
-        self.active_window("Layer Control")
+        self.active_window("town - Orvane")
+
+    def look_at_a_table_of_places(self):
+        press("ctrl+d")
+        self.answer_file_dialog("Open Data", self.town / "shops.csv")
+        self.part("table-columns", self.active_window("Table Columns"))
+        press("Escape")
+        self.active_window("town - Orvane")
+
+    def look_at_attributes(self):
+        self.select("houses")
+        press("F6")
+        window = self.active_window("Attributes of houses")
+        self.settle()
+        self.part("attributes", window)
+        press("alt+F4")
+        self.active_window("town - Orvane")
+
+    def choose_a_system(self):
+        press("alt+v", "c")
+        window = self.active_window("Coordinate System of the Map")
+        type_text("wgs utm 32n")
+        wait_for("the systems found", lambda: "EPSG:32632" in [node.get_name() for node in walk(window)])
+        self.part("systems", window)
+        press("Escape")
+        self.active_window("town - Orvane")
 
     def has_question(self):
         return any(node.get_role_name() == "alert" for node in walk(self.program.application()))
@@ -283,6 +308,9 @@ def main():
         guide.find()
         guide.style_a_layer()
         guide.paste_settings()
+        guide.look_at_a_table_of_places()
+        guide.look_at_attributes()
+        guide.choose_a_system()
         guide.choose_several()
         guide.show_only_these()
         guide.show_samples()
