@@ -884,6 +884,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>%1: Kein Koordinatensystem angegeben. Das gewählte wird verwendet: %2.</translation>
     </message>
     <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>Wo die Daten von %1 liegen, ist nicht bekannt: Sie konnten nicht bis zum Ende gelesen werden.</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
         <translation>%1: Kein Koordinatensystem angegeben. Die Koordinaten passen zu Grad, daher wird %2 angenommen.</translation>
     </message>

@@ -884,6 +884,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>%1 : aucun système de coordonnées n’est indiqué. Le système choisi est utilisé : %2.</translation>
     </message>
     <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>L’emplacement des données de %1 n’est pas connu : elles n’ont pas pu être lues jusqu’au bout.</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
         <translation>%1 : aucun système de coordonnées n’est indiqué. Les coordonnées correspondent à des degrés ; %2 est donc supposé.</translation>
     </message>

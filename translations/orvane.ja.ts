@@ -884,6 +884,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>%1 には座標系が指定されていません。選択された %2 とみなします。</translation>
     </message>
     <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>%1 のデータの位置は不明です。最後まで読み込めませんでした。</translation>
+    </message>
+    <message>
         <source>No coordinate system is named by %1. The coordinates fit degrees, so it is taken as %2.</source>
         <translation>%1 には座標系が指定されていません。座標が度の範囲に収まるため、%2 とみなします。</translation>
     </message>
