@@ -128,6 +128,32 @@ TEST_F(GuideTest, OpensAtMovingForTheMapAndAtToolsForATool)
     EXPECT_EQ(ShownSection(), "Use the tools on the map");
 }
 
+TEST_F(GuideTest, OpensAtTheAttributeTableInItsWindow)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_F6);
+    auto* table = m_window->findChild<QWidget*>("AttributeTable");
+    ASSERT_NE(table, nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == table; }));
+    QTest::keyClick(table->windowHandle(), Qt::Key_F1);
+    EXPECT_EQ(ShownSection(), "The attribute table");
+}
+
+TEST_F(GuideTest, OpensAtCoordinateSystemsWhereOneIsChosen)
+{
+    QString section;
+    QTimer::singleShot(0, m_window.get(), [&] {
+        QWidget* chooser = QApplication::activeModalWidget();
+        ASSERT_NE(chooser, nullptr);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == chooser; }));
+        QTest::keyClick(chooser->focusWidget(), Qt::Key_F1);
+        section = ShownSection();
+        QTest::keyClick(chooser, Qt::Key_Escape);
+    });
+    QTest::mouseClick(m_window->findChild<QWidget*>("cmdMapSystem"), Qt::LeftButton);
+    EXPECT_EQ(section, "Coordinate systems");
+}
+
 TEST_F(GuideTest, ShowsTheSectionThatIsChosenInTheContents)
 {
     PressF1();
