@@ -924,6 +924,22 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Guide d’Orvane</translation>
     </message>
     <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
         <source>Pixel size:</source>
         <translation>Taille de pixel :</translation>
     </message>

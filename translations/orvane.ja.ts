@@ -924,6 +924,22 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>Orvane ガイド</translation>
     </message>
     <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
         <source>Pixel size:</source>
         <translation>ピクセルサイズ:</translation>
     </message>
