@@ -148,7 +148,7 @@ void MainWindow::AddData(const QStringList& paths)
 {
     ImportPlan plan = ReadOrGiveUp(
         this, tr("Opening map data"),
-        [data = TableQuestions::FindData(paths, *this), target = TargetOf(Document())](Progress& progress) {
+        [data = TableQuestions::FindData(paths, *this), target = TargetOf(*m_session)](Progress& progress) {
             return PlanImport(data, target, progress);
         });
     m_system->Settle(plan);

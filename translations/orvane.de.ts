@@ -634,6 +634,14 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Attribute von %1</translation>
     </message>
     <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Blau nach Rot, in der Mitte blass</translation>
     </message>
@@ -778,6 +786,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>Format:</translation>
     </message>
     <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>Von dunkel nach hell, für eine Karte mit dunklem Hintergrund</translation>
     </message>
@@ -902,6 +914,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
         <translation>Nicht alles in diesen Layern hat einen Platz in %1: %2. In einem System, das einen hat, ist es wieder zu sehen.</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1162,6 +1178,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Where are the coordinates of the rows?</source>
         <translation>Wo stehen die Koordinaten der Zeilen?</translation>
+    </message>
+    <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>Wo die Daten von %1 liegen, ist nicht bekannt: Sie konnten nicht bis zum Ende gelesen werden.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>

@@ -634,6 +634,14 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>Attributs de %1</translation>
     </message>
     <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Début</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Du bleu au rouge, pâle au milieu</translation>
     </message>
@@ -778,6 +786,10 @@ Zone d’utilisation : %3</translation>
         <translation>Format :</translation>
     </message>
     <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>Du foncé au clair, pour une carte à fond sombre</translation>
     </message>
@@ -902,6 +914,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
         <translation>Tout n’a pas sa place dans %1 pour ces couches : %2. Le reste réapparaît dans un système qui le permet.</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1162,6 +1178,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Where are the coordinates of the rows?</source>
         <translation>Où sont les coordonnées des lignes ?</translation>
+    </message>
+    <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>L’emplacement des données de %1 n’est pas connu : elles n’ont pas pu être lues jusqu’au bout.</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>

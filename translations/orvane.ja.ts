@@ -634,6 +634,14 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>%1 の属性</translation>
     </message>
     <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>青から赤 (中間は淡色)</translation>
     </message>
@@ -778,6 +786,10 @@ Area of use: %3</source>
         <translation>形式:</translation>
     </message>
     <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
         <source>From dark to light, for a map with a dark background</source>
         <translation>暗い色から明るい色へ (背景が暗い地図用)</translation>
     </message>
@@ -902,6 +914,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Not everything in these layers has a place in %1: %2. It is shown again in a system that has one.</source>
         <translation>次のレイヤーには、%1 で表せない部分があります: %2。表せる座標系に変えると再び表示されます。</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1162,6 +1178,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Where are the coordinates of the rows?</source>
         <translation>各行の座標はどこにありますか?</translation>
+    </message>
+    <message>
+        <source>Where the data of %1 lie is not known: they could not be read to the end.</source>
+        <translation>%1 のデータの位置は不明です。最後まで読み込めませんでした。</translation>
     </message>
     <message>
         <source>Write JSON, for scripts.</source>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCollator>
+#include <QLocale>
 
 namespace Orvane {
 
@@ -12,6 +13,8 @@ namespace Orvane {
 inline QCollator NaturalOrder()
 {
     QCollator order;
+    if (order.locale().language() == QLocale::C) // it knows no order of numbers
+        order.setLocale(QLocale(QLocale::English));
     order.setCaseSensitivity(Qt::CaseInsensitive);
     order.setNumericMode(true);
     return order;

@@ -4,6 +4,7 @@
 #include "hostkit/common/HostNotifications.h"
 #include "hostkit/manager/DifferencesModel.h"
 #include "hostkit/manager/TakeOver.h"
+#include "hostkit/undo/SchemeSteps.h"
 #include "hostkit/windows/LongWork.h"
 #include "hostkit/windows/UserQuestions.h"
 #include "messages/NameInText.h"
@@ -23,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace Orvane {
 
@@ -197,12 +199,13 @@ void ComparePage::Wire()
     connect(&m_host.notifications, &HostNotifications::LayersChanged, this, &ComparePage::CompareSoon);
 }
 
-// Keeps what is chosen as long as it exists.
+// Keeps what is chosen as long as it exists, also under another name.
 void ComparePage::FillLists()
 {
+    const std::vector<SchemeDetails> before = std::exchange(m_known, m_host.schemes.All());
     const QStringList names = m_host.client.GetSchemeNames();
     for (QComboBox* list : {m_from, m_to}) {
-        const QString chosen = list->currentData().toString();
+        const QString chosen = NameNow(list->currentData().toString(), before);
         list->clear();
         if (list == m_from)
             list->addItem(tr("The map as it is"));
@@ -211,6 +214,16 @@ void ComparePage::FillLists()
         Choose(*list, chosen);
     }
     CompareSoon();
+}
+
+QString ComparePage::NameNow(const QString& name, const std::vector<SchemeDetails>& before) const
+{
+    const auto was = std::find_if(
+        before.begin(), before.end(), [&](const SchemeDetails& scheme) { return scheme.name == name; });
+    const auto now = std::find_if(m_known.begin(), m_known.end(), [&](const SchemeDetails& scheme) {
+        return was != before.end() && scheme.id == was->id;
+    });
+    return now == m_known.end() ? name : now->name;
 }
 
 void ComparePage::CompareSoon()

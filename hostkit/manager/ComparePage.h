@@ -3,12 +3,14 @@
 
 #include "hostkit/manager/ManagerHost.h"
 #include "hostkit/manager/SchemeValueTexts.h"
+#include "hostkit/schemes/SchemeDetails.h"
 
 #include <QList>
 #include <QTimer>
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 class QAction;
 class QComboBox;
@@ -53,6 +55,8 @@ private:
     QWidget* MakeFoot();
     void Wire();
     void FillLists();
+    // Of a scheme with that name in the list from before.
+    QString NameNow(const QString& name, const std::vector<SchemeDetails>& before) const;
     void CompareSoon();
     void Compare();
     void ShowCount();
@@ -64,6 +68,7 @@ private:
 
     ManagerHost m_host;
     SchemeValueTexts m_texts;
+    std::vector<SchemeDetails> m_known; // when the lists were filled
     SchemeParts m_compared = WholeScheme;
     DifferencesModel* m_model;
     QComboBox* m_from;

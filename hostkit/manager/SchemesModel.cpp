@@ -71,6 +71,19 @@ QStringList SchemesModel::Names() const
     return names;
 }
 
+QStringList SchemesModel::NamesOf(const std::vector<SchemeDetails>& schemes) const
+{
+    QStringList names;
+    for (const Scheme& scheme : m_schemes) {
+        const bool isWanted = std::any_of(schemes.begin(), schemes.end(), [&](const SchemeDetails& details) {
+            return AreSame(details, scheme.details);
+        });
+        if (isWanted)
+            names << scheme.details.name;
+    }
+    return names;
+}
+
 int SchemesModel::RowOf(const QString& name) const
 {
     const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](std::size_t position) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/coordinates/Antimeridian.h"
 
+#include "mapkit/coordinates/Box.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -38,14 +40,47 @@ bool IsJump(std::span<const QPointF> points, size_t to)
     return !isWholeTurn || (IsAtEdge(points[to]) && GoesOn(points, to));
 }
 
+Box BoxAround(std::span<const QPointF> points)
+{
+    Box box;
+    for (const QPointF& point : points)
+        box.Add(point);
+    return box;
+}
+
+bool IsOnEdgeOf(const Box& box, const QPointF& point)
+{
+    return point.x() == box.minX || point.x() == box.maxX || point.y() == box.minY || point.y() == box.maxY;
+}
+
+bool IsRectangle(std::span<const QPointF> points, const Box& box)
+{
+    for (size_t i = 1; i < points.size(); ++i) {
+        const bool isAlongAxis = points[i].x() == points[i - 1].x() || points[i].y() == points[i - 1].y();
+        if (!isAlongAxis || !IsOnEdgeOf(box, points[i]))
+            return false;
+    }
+    return points.size() > 4 && points.front() == points.back();
+}
+
+// A rectangle is all there is of an island across the meridian, or of the bounds of almost the whole earth.
+// It is what is nearer to a square.
+bool IsWideRectangle(std::span<const QPointF> points)
+{
+    const Box box = BoxAround(points);
+    const double widthAcross = Turn - box.Width();
+    return box.Height() * box.Height() > box.Width() * widthAcross && IsRectangle(points, box);
+}
+
 // Longitudes that go on without jumps.
 Points Unrolled(std::span<const QPointF> points)
 {
+    const bool isWide = IsWideRectangle(points);
     Points unrolled;
     unrolled.reserve(points.size());
     double shift = 0;
     for (size_t i = 0; i < points.size(); ++i) {
-        if (IsJump(points, i))
+        if (!isWide && IsJump(points, i))
             shift += points[i].x() > points[i - 1].x() ? -Turn : Turn;
         unrolled.emplace_back(points[i].x() + shift, points[i].y());
     }
@@ -167,14 +202,16 @@ double Longitude(double longitude)
 
 bool IsPassed(std::span<const QPointF> points, double middle)
 {
-    bool isPassed = false;
+    bool isBeyond = false;
+    bool hasJump = false;
     for (size_t i = 0; i < points.size(); ++i) {
         if (!(std::abs(points[i].x()) < MostTurns * Half)
             || !(std::abs(points[i].y()) <= Pole + EdgeTolerance))
             return false;
-        isPassed = isPassed || std::abs(points[i].x() - middle) > Half + EdgeTolerance || IsJump(points, i);
+        isBeyond = isBeyond || std::abs(points[i].x() - middle) > Half + EdgeTolerance;
+        hasJump = hasJump || IsJump(points, i);
     }
-    return isPassed;
+    return isBeyond || (hasJump && !IsWideRectangle(points));
 }
 
 std::vector<Points> CutLine(std::span<const QPointF> points, double middle)

@@ -16,7 +16,8 @@ namespace Orvane {
 ///         for (const auto& part : Antimeridian::CutRing(points)) ...
 ///
 /// A step of more than 180 degrees of longitude counts as the shorter way around the earth, unless it leads
-/// from one edge of the map to the other, as at the end of a continent that was cut already.
+/// from one edge of the map to the other, as at the end of a continent that was cut already. A rectangle is
+/// taken the way in which it is nearer to a square: an island, or the bounds of almost the whole earth.
 namespace Antimeridian {
 
 using Points = std::vector<QPointF>;

@@ -12,6 +12,7 @@ namespace Orvane {
 
 namespace {
 
+constexpr double Turn = 360; // degrees
 constexpr int EdgePoints = 21; // as GDAL and others do
 const QString LonLat = QStringLiteral("EPSG:4326");
 
@@ -39,6 +40,28 @@ void AddArea(SystemFacts& facts, const OGRSpatialReference& system)
 bool IsForMaps(const OGRSpatialReference& system)
 {
     return system.IsGeographic() || system.IsProjected();
+}
+
+// Degrees across 180 have minX above maxX.
+Box TransformedBounds(const Box& box, const QString& from, const QString& to)
+{
+    const GdalErrors quiet;
+    const OGRSpatialReference source = ReferenceOf(from);
+    const OGRSpatialReference target = ReferenceOf(to);
+    if (box.IsEmpty() || source.IsEmpty() || target.IsEmpty())
+        return {};
+    if (source.IsSame(&target))
+        return box;
+    const std::unique_ptr<OGRCoordinateTransformation> transformation(
+        OGRCreateCoordinateTransformation(&source, &target));
+    Box result;
+    const bool done = transformation
+        && transformation->TransformBounds(
+            box.minX, box.minY, box.maxX, box.maxY, &result.minX, &result.minY, &result.maxX, &result.maxY,
+            EdgePoints);
+    const bool isFinite = done && std::isfinite(result.minX) && std::isfinite(result.maxX)
+        && std::isfinite(result.minY) && std::isfinite(result.maxY);
+    return isFinite ? result : Box();
 }
 
 } // namespace
@@ -71,28 +94,16 @@ QString SystemTitle(const QString& system)
 
 Box InDegrees(const Box& box, const QString& system)
 {
-    return Transformed(box, system, LonLat);
+    Box degrees = TransformedBounds(box, system, LonLat);
+    if (std::isfinite(degrees.minX) && degrees.minX > degrees.maxX) // across 180 degrees
+        degrees.maxX += Turn;
+    return degrees;
 }
 
 Box Transformed(const Box& box, const QString& from, const QString& to)
 {
-    const GdalErrors quiet;
-    const OGRSpatialReference source = ReferenceOf(from);
-    const OGRSpatialReference target = ReferenceOf(to);
-    if (box.IsEmpty() || source.IsEmpty() || target.IsEmpty())
-        return {};
-    if (source.IsSame(&target))
-        return box;
-    const std::unique_ptr<OGRCoordinateTransformation> transformation(
-        OGRCreateCoordinateTransformation(&source, &target));
-    Box result;
-    const bool done = transformation
-        && transformation->TransformBounds(
-            box.minX, box.minY, box.maxX, box.maxY, &result.minX, &result.minY, &result.maxX, &result.maxY,
-            EdgePoints);
-    const bool isFinite = done && std::isfinite(result.minX) && std::isfinite(result.maxX)
-        && std::isfinite(result.minY) && std::isfinite(result.maxY);
-    return isFinite ? result : Box();
+    const Box result = TransformedBounds(box, from, to);
+    return result.IsEmpty() ? Box() : result;
 }
 
 } // namespace Orvane

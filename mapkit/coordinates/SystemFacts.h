@@ -25,11 +25,12 @@ SystemFacts FactsOf(const QString& system);
 /// system.
 QString SystemTitle(const QString& system);
 
-/// The extent in degrees of longitude and latitude (WGS 84) of a box in that system. Empty if it cannot be
-/// transformed, or the system is not known.
+/// The extent in degrees of longitude and latitude (WGS 84) of a box in that system; across 180 degrees
+/// the longitudes go on, as 170 to 190. Empty if it cannot be transformed, or the system is not known.
 Box InDegrees(const Box& box, const QString& system);
 
-/// The same box in another system; empty if it cannot be transformed or a system is not known.
+/// The same box in another system; empty if it cannot be transformed or a system is not known, and for
+/// degrees across 180.
 Box Transformed(const Box& box, const QString& from, const QString& to);
 
 } // namespace Orvane

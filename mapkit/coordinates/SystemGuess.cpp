@@ -9,6 +9,8 @@ namespace {
 
 constexpr double Hair = 1e-3; // degrees; what rounding may add
 constexpr Box WholeEarth{-180 - Hair, -90 - Hair, 180 + Hair, 90 + Hair};
+constexpr Box EarthTwice{-360, -90 - Hair, 360, 90 + Hair};
+constexpr double Turn = 360; // degrees
 constexpr double WidestArea = 150; // degrees of longitude; a system for more than that fits anything
 constexpr double Region = 30; // degrees of longitude; the data of a larger area meet anything
 constexpr double UsualOverhang = 6; // degrees; data often reach beyond the area of their system
@@ -24,19 +26,36 @@ Box Grown(const Box& box, double by)
     return {box.minX - by, box.minY - by, box.maxX + by, box.maxY + by};
 }
 
+Box Moved(const Box& box, double east)
+{
+    return {box.minX + east, box.minY, box.maxX + east, box.maxY};
+}
+
+bool IsAcross(const Box& box, double meridian)
+{
+    return box.minX < meridian && meridian < box.maxX;
+}
+
+// Where data lie across the date line, longitudes may go on beyond it.
+bool FitsDegrees(const Box& box)
+{
+    const bool isAcross = IsAcross(box, Turn / 2) || IsAcross(box, -Turn / 2);
+    return Contains(WholeEarth, box) || (isAcross && box.Width() <= Turn / 2 && Contains(EarthTwice, box));
+}
+
 // Across the date line the western limit is the larger number.
 Box Unwrapped(Box area)
 {
     if (area.minX > area.maxX)
-        area.maxX += 360;
+        area.maxX += Turn;
     return area;
 }
 
 bool IsInArea(const Box& degrees, const Box& area)
 {
     const Box near = Grown(Unwrapped(area), UsualOverhang);
-    const Box fromEast{degrees.minX + 360, degrees.minY, degrees.maxX + 360, degrees.maxY};
-    return Contains(near, degrees) || Contains(near, fromEast);
+    return Contains(near, degrees) || Contains(near, Moved(degrees, Turn))
+        || Contains(near, Moved(degrees, -Turn));
 }
 
 bool MeetsData(const Box& extent, const MapPlace& map)
@@ -70,7 +89,7 @@ QString GuessSystem(const Box& extent, const MapPlace& map)
 {
     if (extent.IsEmpty())
         return {};
-    if (Contains(WholeEarth, extent))
+    if (FitsDegrees(extent))
         return HasSmallNumbersToo(extent, map) ? map.system : QString::fromLatin1(AssumedDegrees);
     return FitsMap(extent, map) ? map.system : QString();
 }

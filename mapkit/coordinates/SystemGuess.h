@@ -19,6 +19,7 @@ struct MapPlace {
 /// The system that data which names none most likely has, from its extent: degrees if it fits them, else the
 /// map's system if it fits that. Empty if it fits neither, or is empty.
 ///
+/// Longitudes fit degrees from -180 to 180; across the date line they may go on, as 170 to 190.
 /// Coordinates that fit degrees are nevertheless those of a map in a projection if its own data have
 /// coordinates as small, at the same place. An extent fits the map's system if it is in the area where that
 /// is used. A system for the whole world has no such area: the extent must then meet the map's data, and

@@ -125,6 +125,7 @@ void DataActions::FindData()
         QMessageBox box(
             QMessageBox::Information, tr("Find Missing Data"),
             tr("None of the missing files is in \"%1\".").arg(folder), QMessageBox::Ok, &m_window);
+        box.setObjectName(QStringLiteral("dlgFindData"));
         box.setTextFormat(Qt::PlainText);
         box.exec();
         return;

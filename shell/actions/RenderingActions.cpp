@@ -94,11 +94,13 @@ void RenderingActions::AskForBackground()
     const QPointer alive(m_session);
     MapDocument& document = m_session->Document();
     const QColor before = document.Background();
-    const QColor chosen = QColorDialog::getColor(before, &m_window, tr("Map Background"));
-    if (!alive || !chosen.isValid() || chosen == before)
+    QColorDialog dialog(before, &m_window);
+    dialog.setObjectName(QStringLiteral("dlgMapBackground"));
+    dialog.setWindowTitle(tr("Map Background"));
+    if (dialog.exec() != QDialog::Accepted || !alive || dialog.selectedColor() == before)
         return;
     m_session->Shell().RecordStep([&] {
-        document.SetBackground(chosen);
+        document.SetBackground(dialog.selectedColor());
         return tr("Map Background");
     });
 }

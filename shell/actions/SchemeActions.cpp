@@ -132,6 +132,7 @@ bool SchemeActions::MayLeaveCurrent(const QString& next)
     QMessageBox box(
         QMessageBox::Question, tr("Switch Scheme"), question.arg(NameInText(Current()), NameInText(next)),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setObjectName(QStringLiteral("dlgSwitchScheme"));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();

@@ -163,6 +163,7 @@ void ThemeActions::Rename(qint32 themeID)
         QMessageBox box(
             QMessageBox::Information, tr("Rename Theme"),
             tr("There is already a theme \"%1\".").arg(NameInText(*name)), QMessageBox::Ok, &m_window);
+        box.setObjectName(QStringLiteral("dlgThemeName"));
         box.setTextFormat(Qt::PlainText);
         box.exec();
         return;

@@ -129,7 +129,7 @@ int Import(const ImportRequest& request, const Terminal& terminal)
         terminal,
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
             .arg(QFileInfo(request.map).fileName(), QLocale().toString(qulonglong(LayerCount(plan.data)))));
-    const bool isAll = plan.data.problems.isEmpty() && plan.Unknown().isEmpty();
+    const bool isAll = plan.data.problems.isEmpty() && plan.IsPlaced();
     return isAll ? ExitCode::Done : ExitCode::Problems;
 }
 

@@ -50,6 +50,7 @@ QString Ask(const QString& title, const QString& proposed, QWidget* parent)
     const QFileInfo file(proposed);
     const QString kind = QCoreApplication::translate("MapFileDialog", "Maps (*.orvane)");
     QFileDialog dialog(parent, title, file.path(), kind);
+    dialog.setObjectName(QStringLiteral("dlgMapFile"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("orvane"));
     if (!file.fileName().isEmpty())

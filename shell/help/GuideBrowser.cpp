@@ -10,6 +10,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QImage>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextTable>
@@ -59,8 +60,44 @@ void GuideBrowser::ShowPage(const QString& path)
 void GuideBrowser::ShowSection(const QString& section)
 {
     const QTextBlock block = BlockOfSection(*document(), section);
+    setTextCursor(QTextCursor(block.isValid() ? block : document()->begin())); // where finding begins
     const double top = block.isValid() ? document()->documentLayout()->blockBoundingRect(block).top() : 0;
     verticalScrollBar()->setValue(int(top));
+}
+
+void GuideBrowser::Open(const QString& page)
+{
+    if (page != document()->baseUrl().toLocalFile())
+        ShowPage(page);
+}
+
+void GuideBrowser::Visit(const QString& page, const QString& section)
+{
+    m_history.Leave(verticalScrollBar()->value());
+    Open(page);
+    ShowSection(section);
+    m_history.Visit(page, section);
+    emit Visited();
+}
+
+void GuideBrowser::Step(int steps)
+{
+    if (!m_history.Has(steps))
+        return;
+    m_history.Leave(verticalScrollBar()->value());
+    Open(m_history.At(steps).page);
+    m_history.Go(steps);
+    ShowSection(m_history.At(0).section); // lays a new page out
+    verticalScrollBar()->setValue(m_history.At(0).top);
+    emit Visited();
+}
+
+void GuideBrowser::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::BackButton || event->button() == Qt::ForwardButton)
+        Guard(window(), [&] { Step(event->button() == Qt::BackButton ? -1 : 1); });
+    else
+        QTextBrowser::mousePressEvent(event);
 }
 
 std::vector<GuideBrowser::Heading> GuideBrowser::Headings() const
@@ -88,9 +125,7 @@ void GuideBrowser::Follow(const QUrl& link)
         QDesktopServices::openUrl(target);
         return;
     }
-    if (target.path() != document()->baseUrl().path())
-        ShowPage(target.toLocalFile());
-    ShowSection(target.fragment());
+    Visit(target.toLocalFile(), target.fragment());
 }
 
 void GuideBrowser::ShapeHeadings()

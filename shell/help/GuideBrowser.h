@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/help/GuideHistory.h"
+
 #include <QTextBrowser>
 
 #include <vector>
@@ -23,6 +25,13 @@ public:
     /// Scrolls to that section of the page; to the beginning if it has none of that name.
     void ShowSection(const QString& section);
 
+    /// Shows that section of that page, from which Step leads back. Raises as ShowPage does.
+    void Visit(const QString& page, const QString& section);
+    /// Shows the place that was visited that many steps before (-1) or after (1), as it was left; does
+    /// nothing if there is none. Raises as ShowPage does.
+    void Step(int steps);
+    const GuideHistory& History() const { return m_history; }
+
     struct Heading {
         QString text;
         int level = 1;
@@ -33,15 +42,22 @@ public:
 signals:
     /// Another page is shown.
     void PageChanged();
+    /// Another place is the present one of the history.
+    void Visited();
 
 protected:
     /// A picture that is wider than a page is made smaller.
     QVariant loadResource(int type, const QUrl& name) override;
+    /// The side buttons of the mouse go back and forward.
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void Open(const QString& page);
     void Follow(const QUrl& link);
     void ShapeHeadings();
     void ShapeTables();
+
+    GuideHistory m_history;
 };
 
 } // namespace Orvane

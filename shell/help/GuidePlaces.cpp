@@ -24,6 +24,10 @@ constexpr auto Styling = "3-style-the-layers";
 constexpr auto Schemes = "4-save-two-looks";
 constexpr auto Tools = "use-the-tools-on-the-map";
 constexpr auto Output = "5-export-and-print";
+constexpr auto Rendering = "labels-classes-lines-with-edges";
+constexpr auto Systems = "coordinate-systems";
+constexpr auto Attributes = "the-attribute-table";
+constexpr auto Missing = "when-something-is-missing";
 
 constexpr std::array Entries{
     Entry{"canvas", Moving},
@@ -39,7 +43,18 @@ constexpr std::array Entries{
     Entry{"frmLayerStyles", Styling},
     Entry{"frmPasteSettings", Styling},
     Entry{"NewLayerDialog", Styling},
-    Entry{"RenderingDialog", "labels-classes-lines-with-edges"},
+    Entry{"RenderingDialog", Rendering},
+    Entry{"dlgMapBackground", Rendering},
+    Entry{"LayerPropertiesDialog", Systems},
+    Entry{"SystemChooser", Systems},
+    Entry{"cmdMapSystem", Systems},
+    Entry{"framNotice", Systems},
+    Entry{"AttributeTable", Attributes},
+    Entry{"dlgTableLayer", Attributes},
+    Entry{"TableColumnsDialog", "tables-with-coordinates"},
+    Entry{"dlgMapFile", "2-save-the-map"},
+    Entry{"dlgThemeName", "themes"},
+    Entry{"dlgSwitchScheme", Schemes},
     Entry{"dlgSchemeManager", Schemes},
     Entry{"dlgSchemeParts", Schemes},
     Entry{"dlgSchemeReport", Schemes},
@@ -47,8 +62,10 @@ constexpr std::array Entries{
     Entry{"dlgImportScheme", Schemes},
     Entry{"PageDialog", Output},
     Entry{"dlgPreview", Output},
-    Entry{"dlgProblems", "when-something-is-missing"},
-    Entry{"dlgMapGone", "when-something-is-missing"},
+    Entry{"dlgExportFile", Output},
+    Entry{"dlgProblems", Missing},
+    Entry{"dlgMapGone", Missing},
+    Entry{"dlgFindData", Missing},
 };
 
 QString SectionOfName(const QString& name)

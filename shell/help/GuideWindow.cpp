@@ -1,27 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "shell/help/GuideWindow.h"
 
+#include "mapkit/common/Guard.h"
 #include "shell/help/GuideBrowser.h"
+#include "shell/help/GuideFind.h"
 #include "shell/help/GuidePlaces.h"
 #include "shell/window/Icons.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QDir>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSplitter>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <QVBoxLayout>
+
+#include <functional>
 
 namespace Orvane {
 
 namespace {
 
 constexpr int ContentsWidth = 240; // pixels
+constexpr int Gap = 4; // pixels
 constexpr int SectionRole = Qt::UserRole;
+
+QString SectionOfItem(const QTreeWidgetItem& item)
+{
+    return item.data(0, SectionRole).toString();
+}
 
 } // namespace
 
@@ -54,32 +67,82 @@ GuideWindow::GuideWindow(QWidget* parent)
     splitter->addWidget(m_browser);
     splitter->setSizes({ContentsWidth, sizeHint().width() - ContentsWidth});
     splitter->setStretchFactor(1, 1);
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(splitter);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Gap, Gap, Gap, 0);
+    AddSteps(*row);
+    layout->addLayout(row);
+    layout->addWidget(splitter, 1);
     connect(m_browser, &GuideBrowser::PageChanged, this, &GuideWindow::FillContents);
+    connect(m_browser, &GuideBrowser::Visited, this, &GuideWindow::ShowPlace);
     connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (item)
-            m_browser->ShowSection(item->data(0, SectionRole).toString());
+        if (item && SectionOfItem(*item) != m_browser->History().Section()) // else it follows the page
+            Guard(this, [&] { VisitItem(*item); });
+    });
+    connect(m_contents, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) {
+        Guard(this, [&] { VisitItem(*item); });
     });
     m_browser->ShowPage(m_firstPage);
     m_browser->setFocus();
 }
 
+void GuideWindow::AddSteps(QHBoxLayout& row)
+{
+    m_back = AddStep(row, "actBack", tr("Back"), QKeySequence(Qt::ALT | Qt::Key_Left));
+    m_forward = AddStep(row, "actForward", tr("Forward"), QKeySequence(Qt::ALT | Qt::Key_Right));
+    QAction* begin = AddStep(row, "actBeginning", tr("Beginning"), QKeySequence(Qt::ALT | Qt::Key_Home));
+    m_back->setEnabled(false);
+    m_forward->setEnabled(false);
+    const auto onClick = [this](QAction* action, const std::function<void()>& act) {
+        connect(action, &QAction::triggered, this, [this, act] { Guard(this, act); });
+    };
+    onClick(m_back, [this] { m_browser->Step(-1); });
+    onClick(m_forward, [this] { m_browser->Step(1); });
+    onClick(begin, [this] { ShowSection({}); });
+    row.addStretch(1);
+    row.addWidget(new GuideFind(*m_browser, this));
+}
+
+QAction*
+GuideWindow::AddStep(QHBoxLayout& row, const char* name, const QString& text, const QKeySequence& key)
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    action->setToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
+    addAction(action);
+    auto* button = new QToolButton(this);
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    row.addWidget(button);
+    return action;
+}
+
 void GuideWindow::ShowSection(const QString& section)
 {
-    if (m_browser->document()->baseUrl().toLocalFile() != m_firstPage)
-        m_browser->ShowPage(m_firstPage);
-    QTreeWidgetItem* item = ItemOf(section);
-    m_contents->setCurrentItem(item);
-    m_browser->ShowSection(item ? section : QString()); // also if it was the current one
+    m_browser->Visit(m_firstPage, section);
+}
+
+void GuideWindow::VisitItem(const QTreeWidgetItem& item)
+{
+    m_browser->Visit(m_browser->document()->baseUrl().toLocalFile(), SectionOfItem(item));
+}
+
+// The contents follow, whatever led to the place.
+void GuideWindow::ShowPlace()
+{
+    const GuideHistory& history = m_browser->History();
+    m_back->setEnabled(history.Has(-1));
+    m_forward->setEnabled(history.Has(1));
+    m_contents->setCurrentItem(ItemOf(history.Section()));
 }
 
 // Nothing for the beginning, which is before all sections.
 QTreeWidgetItem* GuideWindow::ItemOf(const QString& section) const
 {
     for (QTreeWidgetItemIterator item(m_contents); *item; ++item) {
-        if ((*item)->data(0, SectionRole).toString() == section)
+        if (SectionOfItem(**item) == section)
             return *item;
     }
     return nullptr;

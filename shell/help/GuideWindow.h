@@ -3,6 +3,9 @@
 
 #include <QWidget>
 
+class QAction;
+class QHBoxLayout;
+class QKeySequence;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -10,7 +13,8 @@ namespace Orvane {
 
 class GuideBrowser;
 
-/// The guide in a window: its contents at the left, a page at the right.
+/// The guide in a window: its contents at the left, a page at the right, above them the ways back and forward
+/// and a field that finds words.
 class GuideWindow : public QWidget
 {
     Q_OBJECT
@@ -32,11 +36,17 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void AddSteps(QHBoxLayout& row);
+    QAction* AddStep(QHBoxLayout& row, const char* name, const QString& text, const QKeySequence& key);
     void FillContents();
+    void VisitItem(const QTreeWidgetItem& item);
+    void ShowPlace();
     QTreeWidgetItem* ItemOf(const QString& section) const;
 
-    GuideBrowser* m_browser; // both owned by this window
+    GuideBrowser* m_browser; // all owned by this window
     QTreeWidget* m_contents;
+    QAction* m_back = nullptr;
+    QAction* m_forward = nullptr;
     QString m_firstPage;
 };
 

@@ -5,9 +5,10 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemGuess.h"
-#include "mapkit/data/MapRaster.h"
 #include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
+#include "shell/map/MapExtent.h"
+#include "shell/map/MapSession.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -17,7 +18,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
 
 namespace Orvane {
 
@@ -55,72 +55,28 @@ void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& syste
     note.names << name;
 }
 
-// A layer that cannot be read is reported when it is read for the map.
-Box MeasuredExtent(const QString& path, const SourceLayer& layer, Progress& progress)
+// Layers of which it is not known in time are noted.
+Box MeasuredExtent(
+    const FoundData::Source& source, const SourceLayer& layer, ImportPlan& plan, Progress& progress)
 {
     try {
-        return DataSource(path).MeasureExtent(layer.name, progress, layer.choice);
+        return DataSource(source.path).MeasureExtent(layer.name, progress, layer.choice);
     } catch (const RunTimeError&) {
+        AddNote(plan.notes, Reason::Unmeasured, {}, NotedName(source, layer));
         return {};
     }
 }
 
-void MeasureExtents(FoundData& data, bool newMap, Progress& progress)
+void MeasureExtents(ImportPlan& plan, bool newMap, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
-    ForEachLayer(data, [&](const FoundData::Source& source, SourceLayer& layer) {
+    ForEachLayer(plan.data, [&](const FoundData::Source& source, SourceLayer& layer) {
         progress.StopIfCancelled();
         if (!layer.extent.IsEmpty() || !(newMap || IsUnnamed(layer)))
             return;
         progress.SetSubject(source.path);
-        layer.extent = MeasuredExtent(source.path, layer, progress);
+        layer.extent = MeasuredExtent(source, layer, plan, progress);
     });
-}
-
-std::vector<SourceLayer> LayersIn(const QString& path)
-{
-    try {
-        return DataSource(path).Layers();
-    } catch (const RunTimeError&) { // it is reported when the map is read
-        return {};
-    }
-}
-
-Box ExtentOfRaster(const LayerSource& source, const QString& system)
-{
-    try {
-        return MapRaster(source, system).Extent();
-    } catch (const RunTimeError&) { // it is reported when the map is read
-        return {};
-    }
-}
-
-// Of the data that the map has.
-Box ExtentOfMap(const ImportTarget& target, Progress& progress)
-{
-    const ReadingBound untilCancelled(progress.CancelledFlag());
-    std::map<QString, std::map<QString, QString>> chosen; // by path and layer
-    Box extent;
-    for (const LayerSource& source : target.sources) {
-        progress.StopIfCancelled();
-        if (source.kind == DataKind::Raster)
-            extent.Add(ExtentOfRaster(source, target.system));
-        else
-            chosen[source.path][source.ogrLayer] = source.system;
-    }
-    for (const auto& [path, systems] : chosen) {
-        for (SourceLayer& layer : LayersIn(path)) {
-            progress.StopIfCancelled();
-            const auto used = systems.find(layer.name);
-            if (used == systems.end())
-                continue;
-            layer.chosenSystem = used->second;
-            if (layer.extent.IsEmpty())
-                layer.extent = MeasuredExtent(path, layer, progress);
-            extent.Add(Transformed(layer.extent, SystemOf(layer), target.system));
-        }
-    }
-    return extent;
 }
 
 void AddPlaced(Box& extent, FoundData& data, const QString& system)
@@ -152,7 +108,8 @@ void GuessAll(ImportPlan& plan, const ImportTarget& target, Progress& progress)
         Guess(plan, map);
         map.system = SystemToShow(PlacesOf(plan.data));
     } else {
-        map.data = ExtentOfMap(target, progress);
+        map.data = target.data;
+        map.data.Add(ExtentOfMap(target.sources, target.system, progress));
     }
     AddPlaced(map.data, plan.data, map.system);
     Guess(plan, map);
@@ -191,6 +148,9 @@ QString TextOf(Reason reason)
     case Reason::Chosen:
         return PlanText(QT_TRANSLATE_NOOP(
             "ImportPlan", "No coordinate system is named by %1. It is taken as the chosen one, %2."));
+    case Reason::Unmeasured:
+        return PlanText(QT_TRANSLATE_NOOP(
+            "ImportPlan", "Where the data of %1 lie is not known: they could not be read to the end."));
     case Reason::Unknown:
         break;
     }
@@ -210,6 +170,13 @@ QString Joined(const QStringList& names, int most)
 }
 
 } // namespace
+
+bool ImportPlan::IsPlaced() const
+{
+    return std::none_of(notes.begin(), notes.end(), [](const SystemNote& note) {
+        return note.reason == Reason::Unknown || note.reason == Reason::Unmeasured;
+    });
+}
 
 QStringList ImportPlan::Unknown() const
 {
@@ -244,7 +211,7 @@ QStringList ImportPlan::NoteTexts(int mostNames) const
 ImportPlan PlanImport(const FoundData& data, const ImportTarget& target, Progress& progress)
 {
     ImportPlan plan{data, {}};
-    MeasureExtents(plan.data, target.system.isEmpty(), progress);
+    MeasureExtents(plan, target.system.isEmpty(), progress);
     bool hasUnnamed = false;
     ForEachLayer(plan.data, [&](const FoundData::Source&, const SourceLayer& layer) {
         hasUnnamed |= IsUnnamed(layer);
@@ -260,6 +227,14 @@ ImportPlan PlanImport(const FoundData& data, const ImportTarget& target, Progres
 ImportTarget TargetOf(const MapDocument& document)
 {
     return {document.System(), document.Sources(), {}};
+}
+
+ImportTarget TargetOf(MapSession& session)
+{
+    ImportTarget target{session.Document().System(), {}, {}};
+    for (const MapLayer& layer : session.Layers())
+        target.data.Add(layer.Bounds());
+    return target;
 }
 
 } // namespace Orvane

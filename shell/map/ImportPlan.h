@@ -10,11 +10,14 @@
 
 namespace Orvane {
 
+class MapSession;
+
 /// The map that data is to be added to, as far as finding the data's place needs it.
 struct ImportTarget {
     QString system; ///< of the map; empty if the data decide it
-    std::vector<LayerSource> sources; ///< what the map has already
+    std::vector<LayerSource> sources; ///< of the map's layers that are to be read to know where they lie
     QString forUnnamed; ///< the system of all data that name none; empty to find it
+    Box data = {}; ///< of the map's other layers, in its system
 };
 
 /// What is assumed about layers whose data name no coordinate system.
@@ -24,10 +27,11 @@ struct SystemNote {
         Map, ///< they fit the map's system
         Chosen, ///< the user chose it
         Unknown, ///< nothing is assumed: the coordinates are taken as they are
+        Unmeasured, ///< reading failed, so where the data lie is not known
     };
 
     Reason reason = Reason::Unknown;
-    QString system; ///< empty for Unknown
+    QString system; ///< empty for Unknown and Unmeasured
     QStringList names; ///< "roads.shp", or "town.gpkg (roads)" where a file has several layers
 };
 
@@ -36,6 +40,8 @@ struct ImportPlan {
     FoundData data;
     std::vector<SystemNote> notes; ///< each system and reason once
 
+    /// Whether it is known, or assumed, where all the data lie.
+    bool IsPlaced() const;
     /// The layers of which nothing was found out, named as in SystemNote.
     QStringList Unknown() const;
     /// Gives these layers that system.
@@ -48,7 +54,9 @@ struct ImportPlan {
 /// that a file does not tell are measured where they matter. For any thread. Raises Cancelled.
 ImportPlan PlanImport(const FoundData& data, const ImportTarget& target, Progress& progress);
 
-/// The target that a map is.
+/// The target that a map is which was not read: its data are read where they matter.
 ImportTarget TargetOf(const MapDocument& document);
+/// The same for an open map, of which nothing is read again.
+ImportTarget TargetOf(MapSession& session);
 
 } // namespace Orvane

@@ -143,6 +143,7 @@ QString OutputActions::AskForFile() const
         = settings.value(QLatin1String(FolderKey), QFileInfo(m_session->Document().Path()).absolutePath())
               .toString();
     QFileDialog dialog(&m_window, tr("Export Map"), folder);
+    dialog.setObjectName(QStringLiteral("dlgExportFile"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
     for (const QString& filter : filters) {

@@ -106,11 +106,17 @@ void AttributeTables::Ask()
     if (layers.size() == 1)
         return Show(layers.front()->layerID);
     const QStringList names = DifferentNames(layers);
-    bool isChosen = false;
-    const QString name
-        = QInputDialog::getItem(&m_window, tr("Attribute Table"), tr("&Layer:"), names, 0, false, &isChosen);
-    if (isChosen)
-        Show(layers[size_t(names.indexOf(name))]->layerID);
+    std::vector<qint32> layerIDs; // the layers may be read again meanwhile
+    layerIDs.reserve(layers.size());
+    for (const MapLayer* layer : layers)
+        layerIDs.push_back(layer->layerID);
+    QInputDialog dialog(&m_window);
+    dialog.setObjectName(QStringLiteral("dlgTableLayer"));
+    dialog.setWindowTitle(tr("Attribute Table"));
+    dialog.setLabelText(tr("&Layer:"));
+    dialog.setComboBoxItems(names);
+    if (dialog.exec() == QDialog::Accepted)
+        Show(layerIDs[size_t(names.indexOf(dialog.textValue()))]);
 }
 
 QString AttributeTables::WhyNot(const std::vector<qint32>& layerIDs) const

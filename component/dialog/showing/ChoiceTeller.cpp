@@ -20,7 +20,7 @@ ChoiceTeller::ChoiceTeller(LayerTrees& trees, QWidget& form) : m_trees(trees), m
     const auto tellSoon = [this] { TellSoon(); };
     QObject::connect(&trees, &LayerTrees::CurrentNodeChanged, &m_soon, tellSoon);
     QObject::connect(&trees, &LayerTrees::ChosenNodesGone, &m_soon, tellSoon);
-    QObject::connect(&trees, &LayerTrees::NodesChanged, &m_soon, tellSoon);
+    QObject::connect(&trees, &LayerTrees::NodesRead, &m_soon, tellSoon); // groups may have other layers
     // Another editor may have told the host its choice meanwhile.
     QObject::connect(&trees, &LayerTrees::CurrentNodeClicked, &m_soon, [this] {
         m_told.reset();

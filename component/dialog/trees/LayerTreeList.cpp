@@ -64,6 +64,7 @@ void LayerTreeList::Wire()
         &LayerTreeList::FollowSelection);
     connect(m_model, &QAbstractItemModel::modelReset, this, &LayerTreeList::NodesChanged);
     connect(m_model, &QAbstractItemModel::rowsInserted, this, &LayerTreeList::NodesChanged);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &LayerTreeList::NodesRead);
     connect(m_view, &QTreeView::clicked, this, &LayerTreeList::FollowClick);
     connect(m_view, &QTreeView::doubleClicked, this, &LayerTreeList::FollowDoubleClick);
     m_view->installEventFilter(this);
@@ -108,12 +109,14 @@ void LayerTreeList::ShowGroups(std::vector<GroupEntry> groups)
     }
     Refill([&] { m_model->SetGroups(std::move(groups)); }, std::move(expanded));
     m_view->setRootIsDecorated(true);
+    emit NodesRead();
 }
 
 void LayerTreeList::ShowLayers(std::vector<LayerEntry> layers)
 {
     Refill([&] { m_model->SetLayers(std::move(layers)); }, {});
     m_view->setRootIsDecorated(false);
+    emit NodesRead();
 }
 
 void LayerTreeList::Refill(const std::function<void()>& fill, std::vector<qint32> expandedGroups)

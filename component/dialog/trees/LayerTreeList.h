@@ -103,6 +103,8 @@ signals:
     void ExpansionChanged(qint32 groupID, bool expanded);
     /// Nodes were replaced or added, or a find shows others.
     void NodesChanged();
+    /// Nodes were replaced or added; not emitted by a find.
+    void NodesRead();
     /// The user gave a node another name; its editor is closed.
     void NameEntered(const Orvane::NodeReference& node, const QString& name);
 

@@ -63,6 +63,7 @@ void LayerTrees::Wire(LayerTreeList& list)
             GuardAfterEvent(this, &list.View(), [this] { emit CurrentNodeClicked(); });
     });
     connect(&list, &LayerTreeList::NodesChanged, this, &LayerTrees::NodesChanged);
+    connect(&list, &LayerTreeList::NodesRead, this, &LayerTrees::NodesRead);
     connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByUser);
     connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
         GuardEvent(&list.View(), [&] { StoreGroupExpanded(Client(), groupID, expanded); });

@@ -164,6 +164,8 @@ signals:
     void CurrentNodeClicked();
     /// Nodes of a list were replaced or added, or a find shows others: see CountFound.
     void NodesChanged();
+    /// Nodes of a list were replaced or added; not emitted by a find.
+    void NodesRead();
     /// The user pressed Delete in a tree.
     void DeleteRequested();
     /// The menu of the nodes in the list shown is about to open: receivers add their entries. It opens only

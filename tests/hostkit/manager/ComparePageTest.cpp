@@ -69,6 +69,20 @@ TEST_F(CompareWindow, ComparesTheChosenSchemeWithTheMap)
     });
 }
 
+TEST_F(CompareWindow, AnUndoneNameLeavesTheSchemeCompared)
+{
+    InWindow([&] {
+        ClickScheme(Night);
+        TypeName(QStringLiteral("Zenith"));
+        PressKey(Qt::Key_F2);
+        ClickTab(1);
+        EXPECT_EQ(Find<QComboBox>("cmbTo").currentText(), QStringLiteral("Zenith"));
+        PressKey(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Find<QComboBox>("cmbTo").currentText(), Night);
+        EXPECT_EQ(Find<QComboBox>("cmbFrom").currentIndex(), 0);
+    });
+}
+
 TEST_F(CompareWindow, ComparesTwoChosenSchemes)
 {
     Set(1, "Color", 9);

@@ -44,6 +44,21 @@ TEST_F(SchemeWindow, RenamesAndTakesItBackByKeys)
     });
 }
 
+TEST_F(SchemeWindow, AnUndoneNameLeavesTheSchemeChosen)
+{
+    InWindow([&] {
+        ClickScheme(Day);
+        TypeName(QStringLiteral("Zenith"));
+        PressKey(Qt::Key_F2);
+        PressKey(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_TRUE(Table().selectionModel()->isRowSelected(0, {}));
+        EXPECT_EQ(Table().currentIndex().row(), 0);
+        PressKey(Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_TRUE(Table().selectionModel()->isRowSelected(2, {}));
+        EXPECT_EQ(Table().currentIndex().row(), 2);
+    });
+}
+
 TEST_F(SchemeWindow, KeepsANameThatAnotherSchemeHas)
 {
     InWindow([&] {

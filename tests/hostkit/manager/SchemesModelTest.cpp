@@ -51,6 +51,20 @@ protected:
     QAbstractItemModelTester m_tester{&m_model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
+TEST_F(SchemesInATable, FollowsSchemesToTheirNewNames)
+{
+    SchemeDetails day = Named(QStringLiteral("Day"));
+    day.id = 1;
+    const SchemeDetails hosts = Named(QStringLiteral("Host's own"));
+    SchemeDetails renamed = Named(QStringLiteral("Zenith"));
+    renamed.id = 1;
+    m_model.Show({Named(QStringLiteral("Day")), hosts, renamed});
+    EXPECT_THAT(m_model.NamesOf({day, hosts}), ElementsAre(hosts.name, renamed.name));
+    SchemeDetails gone = day;
+    gone.id = 2;
+    EXPECT_TRUE(m_model.NamesOf({gone}).isEmpty());
+}
+
 TEST_F(SchemesInATable, ShowNamesAndTheCurrentOne)
 {
     EXPECT_EQ(Text(0, SchemesModel::Name), QStringLiteral("Day"));

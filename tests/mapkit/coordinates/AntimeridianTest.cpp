@@ -27,9 +27,14 @@ Points Sorted(Points points)
     return points;
 }
 
+Points Rectangle(double west, double east, double south, double north)
+{
+    return {{west, south}, {east, south}, {east, north}, {west, north}, {west, south}};
+}
+
 Points Square(double west, double east)
 {
-    return {{west, 0}, {east, 0}, {east, 10}, {west, 10}, {west, 0}};
+    return Rectangle(west, east, 0, 10);
 }
 
 double WidestPart(const FeatureSet& features)
@@ -65,6 +70,15 @@ TEST(Antimeridian, AMapWithAnotherMiddleIsCutAtItsOwnEdge)
     EXPECT_EQ(Sorted(rings[1]).front().x(), -30);
     const std::vector<Points> lines = Antimeridian::CutLine(Points{{-40, 5}, {-20, 5}}, middle);
     EXPECT_THAT(lines, ElementsAre(Points{{320, 5}, {330, 5}}, Points{{-30, 5}, {-20, 5}}));
+}
+
+TEST(Antimeridian, TheBoundsOfTheEarthAreCutAtTheEdgeOfTheMapOnly)
+{
+    const Points bounds = {{-170, -80}, {170, -80}, {170, 80}, {-170, 80}, {-170, -80}};
+    double width = 0;
+    for (const Points& ring : Antimeridian::CutRing(bounds, 150))
+        width += Sorted(ring).back().x() - Sorted(ring).front().x();
+    EXPECT_NEAR(width, 340, 1e-9);
 }
 
 TEST(Antimeridian, WhatPassesTheDateLineIsWholeOnAMapOfThePacific)
@@ -138,6 +152,41 @@ TEST(Antimeridian, TheFrameOfTheWorldStaysWhole)
 {
     EXPECT_FALSE(Antimeridian::IsPassed(Frame));
     EXPECT_FALSE(Antimeridian::IsPassed(Points{{-180, 45}, {180, 45}})) << "a parallel";
+}
+
+TEST(Antimeridian, BoundsOfAlmostTheWholeEarthStayWhole)
+{
+    EXPECT_FALSE(Antimeridian::IsPassed(Rectangle(-170, 170, -60, 80)));
+    EXPECT_FALSE(Antimeridian::IsPassed(Rectangle(-179.99, 179.99, -85, 85)));
+    EXPECT_FALSE(Antimeridian::IsPassed(Rectangle(-179.99, 179.99, 0, 10))) << "a belt around the earth";
+    EXPECT_FALSE(Antimeridian::IsPassed(Rectangle(-180, 170, -56, 84)));
+    EXPECT_FALSE(Antimeridian::IsPassed(
+        Points{{-170, -60}, {-170, 0}, {-170, 80}, {0, 80}, {170, 80}, {170, -60}, {-170, -60}}))
+        << "with points within its edges";
+}
+
+TEST(Antimeridian, BoundsThatGoOnAlmostTo360KeepTheirWidth)
+{
+    const Points grid = Rectangle(0, 359.75, -90, 90);
+    ASSERT_TRUE(Antimeridian::IsPassed(grid));
+    double width = 0;
+    for (const Points& piece : Antimeridian::CutRing(grid))
+        width += Sorted(piece).back().x() - Sorted(piece).front().x();
+    EXPECT_DOUBLE_EQ(width, 359.75);
+}
+
+TEST(Antimeridian, RectanglesAcrossItAreNotTakenForBounds)
+{
+    EXPECT_TRUE(Antimeridian::IsPassed(Rectangle(-179, 179, -20, -15)));
+    EXPECT_TRUE(Antimeridian::IsPassed(Rectangle(-179.999, 179.999, -16.801, -16.8))) << "a house";
+    EXPECT_TRUE(Antimeridian::IsPassed(Rectangle(-171, 160, -56, -25))) << "the sea around New Zealand";
+    EXPECT_TRUE(Antimeridian::IsPassed(Rectangle(-100, 120, -60, 60))) << "the Pacific Ocean";
+}
+
+TEST(Antimeridian, ATallAreaAcrossItThatIsNoRectangleIsCut)
+{
+    EXPECT_TRUE(Antimeridian::IsPassed(Points{{170, -60}, {-175, -60}, {-170, 60}, {175, 60}, {170, -60}}))
+        << "what a satellite saw";
 }
 
 TEST(Antimeridian, AContinentThatWasCutAtItsFootStaysWhole)

@@ -54,6 +54,14 @@ TEST(CoordinateSystems, TheLargestDataDecideForAllWhateverTheirOrder)
     EXPECT_EQ(SystemToShow(std::vector<PlacedExtent>()), "");
 }
 
+TEST(CoordinateSystems, DataAcrossTheDateLineCountByTheirArea)
+{
+    const PlacedExtent islands{"EPSG:3832", {2000000, -3000000, 5000000, 0}};
+    const PlacedExtent town{"EPSG:32632", {500000, 5500000, 510000, 5510000}};
+    EXPECT_EQ(SystemToShow({town, islands}), "EPSG:8857") << "together they go round the world";
+    EXPECT_EQ(SystemToShow({{"EPSG:2193", {1700000, 5400000, 1800000, 5500000}}, islands}), "EPSG:3832");
+}
+
 TEST(CoordinateSystems, DataThatTogetherGoRoundTheWorldAreShownInItsProjection)
 {
     EXPECT_EQ(

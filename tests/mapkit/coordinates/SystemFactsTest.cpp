@@ -48,4 +48,14 @@ TEST(SystemFacts, ABoxIsTransformedWithItsEdges)
     EXPECT_TRUE(InDegrees({}, "EPSG:32632").IsEmpty());
 }
 
+TEST(SystemFacts, ABoxAcrossTheDateLineGoesOnBeyondIt)
+{
+    const Box zealand = InDegrees({1000000, 4700000, 2800000, 6300000}, "EPSG:2193");
+    EXPECT_NEAR(zealand.minX, 165, 0.1);
+    EXPECT_NEAR(zealand.maxX, 188.7, 0.1);
+    EXPECT_EQ(InDegrees({170, -10, 190, 10}, "EPSG:4326"), (Box{170, -10, 190, 10}));
+    EXPECT_NEAR(InDegrees({170, -10, 190, 10}, "EPSG:4258").maxX, 190, 1e-6);
+    EXPECT_TRUE(Transformed({1000000, 4700000, 2800000, 6300000}, "EPSG:2193", "EPSG:4326").IsEmpty());
+}
+
 } // namespace Orvane

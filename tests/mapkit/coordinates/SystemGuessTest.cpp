@@ -26,6 +26,22 @@ TEST(SystemGuess, MoreThanTheEarthIsNoDegrees)
     EXPECT_EQ(GuessSystem({0, 0, 10, 91}, NewMap), "");
 }
 
+TEST(SystemGuess, DegreesGoOnAcrossTheDateLine)
+{
+    EXPECT_EQ(GuessSystem({170, -20, 190, -10}, NewMap), AssumedDegrees);
+    EXPECT_EQ(GuessSystem({-190, -20, -170, -10}, NewMap), AssumedDegrees);
+    EXPECT_EQ(GuessSystem({0, 0, 300, 80}, NewMap), "") << "a plan in metres";
+    EXPECT_EQ(GuessSystem({190, 0, 200, 10}, NewMap), "");
+}
+
+TEST(SystemGuess, AnAreaAcrossTheDateLineIsMetFromBothSides)
+{
+    const QString newZealand = "EPSG:2193";
+    EXPECT_EQ(GuessSystem({1000000, 4700000, 2300000, 6300000}, {newZealand, {}}), newZealand);
+    const QString east = "EPSG:32601"; // from -180 to -174
+    EXPECT_EQ(GuessSystem({150000, 7000000, 400000, 7200000}, {east, {}}), east);
+}
+
 TEST(SystemGuess, NothingIsAssumedWithoutAnExtent)
 {
     EXPECT_EQ(GuessSystem({}, Utm), "");

@@ -85,6 +85,25 @@ TEST_F(Live, TheListsFollowTheProject)
     EXPECT_THAT(ListedLayers(), testing::UnorderedElementsAre("Streets", "Woods"));
 }
 
+TEST_F(Live, SeveralLayersAreRemovedTogether)
+{
+    AddLayer("Woods");
+    Settle();
+    std::vector<qsizetype> asked; // how many layers each time
+    session->Client().SetCommands({{}, [&](const QList<QgsMapLayer*>& layers) {
+                                       asked.push_back(layers.size());
+                                       project.removeMapLayers(layers);
+                                   }});
+    const QStringList listed = ListedLayers();
+    user.ClickNodes(2, {int(listed.indexOf("Roads")), int(listed.indexOf("Woods"))});
+    ASSERT_TRUE(user.Pick(2, "Delete"));
+    Settle();
+    EXPECT_THAT(asked, testing::ElementsAre(2));
+    EXPECT_EQ(project.count(), 1);
+    EXPECT_EQ(ListedLayers(), QStringList{"Lakes"});
+    EXPECT_EQ(told, QStringList());
+}
+
 TEST_F(Live, TheSettingsFollowTheSelectedLayer)
 {
     Select(*roads);

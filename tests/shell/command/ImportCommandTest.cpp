@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/ImportCommand.h"
 
+#include "mapkit/UnmeasurableFile.h"
 #include "mapkit/UnnamedFile.h"
 #include "shell/command/CommandFixture.h"
 #include "support/FileSizeLimit.h"
@@ -144,6 +145,14 @@ TEST_F(ImportCommandTest, DataOfUnknownPlaceAreAddedAndReportedAsAProblem)
     EXPECT_TRUE(m_errors.contains("--crs")) << qPrintable(m_errors);
     EXPECT_EQ(LayersOf(m_map), 1u);
     EXPECT_EQ(MapDocument::Open(m_map)->System(), "");
+}
+
+TEST_F(ImportCommandTest, DataThatCannotBeReadToTheEndAreReported)
+{
+    const QString data = WriteUnmeasurable(m_folder.Path("view.gpkg"));
+    EXPECT_EQ(Run({"import", data, "--to", m_map}), ExitCode::Problems);
+    EXPECT_TRUE(m_out.contains("view.gpkg")) << qPrintable(m_out);
+    EXPECT_FALSE(m_errors.contains("--crs")) << qPrintable(m_errors);
 }
 
 TEST_F(ImportCommandTest, ASystemCanBeGivenForDataThatNameNone)

@@ -2,9 +2,12 @@
 #include "shell/map/ImportPlan.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/UnmeasurableFile.h"
 #include "mapkit/UnnamedFile.h"
+#include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
+#include "shell/map/MapSession.h"
 
 #include <gmock/gmock.h>
 
@@ -73,6 +76,30 @@ TEST_F(ImportPlanTest, WhatTheMapShowsAlreadyCounts)
     const LayerSource shown{1, m_folder.WriteSquare("shown.geojson"), "shown", {}};
     EXPECT_EQ(System(Plan({Unnamed("a.shp", mercator)}, {"EPSG:3857", {shown}, {}}), 0), "EPSG:3857");
     EXPECT_EQ(System(Plan({m_folder.Path("a.shp")}, {"EPSG:3857", {}, {}}), 0), "");
+}
+
+TEST_F(ImportPlanTest, OfAnOpenMapNothingIsReadAgain)
+{
+    Progress progress;
+    auto document = MapDocument::Untitled();
+    document->SetSystem("EPSG:3857");
+    AddToMap(*document, LookInto({m_folder.WriteSquare("shown.geojson")}, progress));
+    MapCanvas canvas;
+    MapSession session(std::move(document), canvas, canvas, nullptr);
+    ASSERT_EQ(session.ReadAndShow(), "");
+    ASSERT_TRUE(QFile::remove(m_folder.Path("shown.geojson")));
+    const Box mercator{0, 0, 1100000, 1100000};
+    EXPECT_EQ(System(Plan({Unnamed("a.shp", mercator)}, TargetOf(session)), 0), "EPSG:3857");
+}
+
+TEST_F(ImportPlanTest, DataThatCannotBeMeasuredAreNoted)
+{
+    const ImportPlan plan = Plan({WriteUnmeasurable(m_folder.Path("view.gpkg"))});
+    ASSERT_EQ(plan.notes.size(), 1u);
+    EXPECT_EQ(plan.notes[0].reason, Reason::Unmeasured);
+    EXPECT_FALSE(plan.IsPlaced());
+    EXPECT_TRUE(plan.Unknown().isEmpty()) << "there is nothing to choose a system for";
+    EXPECT_TRUE(plan.NoteTexts().value(0).contains("view.gpkg")) << qPrintable(plan.NoteTexts().value(0));
 }
 
 TEST_F(ImportPlanTest, WhatFitsNothingIsUnknownUntilItIsChosen)

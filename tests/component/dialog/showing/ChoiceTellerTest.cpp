@@ -5,6 +5,8 @@
 #include <OrvaneShellLib/IStyleEditorForm.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QLineEdit>
+
 namespace Orvane::Testing {
 
 namespace {
@@ -90,8 +92,8 @@ TEST_F(ChoiceTellerTest, TellsTheSameChoiceAgainOnlyAfterAClick)
     EditorForm().Refresh();
     QCoreApplication::processEvents();
     EXPECT_EQ(client.choices.size(), 1u);
-    ChooseAndWait({"Roads"}); // another editor may have told its choice meanwhile
-    EXPECT_EQ(client.choices.size(), 2u);
+    Choose({"Roads"}); // another editor may have told its choice meanwhile
+    EXPECT_TRUE(QTest::qWaitFor([&] { return client.choices.size() == 2; }));
 }
 
 TEST_F(ChoiceTellerTest, ShowsTheErrorOfTheHost)
@@ -111,16 +113,37 @@ TEST_F(ChoiceTellerTest, LetsTheHostEndTheEditor)
 
 TEST_F(ChoiceTellerTest, LeavesAHostAloneThatEndedAfterTheEditor)
 {
-    Close();
-    auto passing = std::make_unique<ChoiceClient>(host);
-    UseClient(*passing);
-    Open();
     Choose({"Roads"});
     EditorForm().UnloadWithoutApply();
-    passing.reset();
+    host.ClearLog();
     QCoreApplication::processEvents();
-    UseClient(host);
     EXPECT_THAT(client.choices, IsEmpty());
+    EXPECT_THAT(host.Log().Trace(), IsEmpty());
+}
+
+TEST_F(ChoiceTellerTest, ReadsNoLayersOfAGroupWhileAFindIsTyped)
+{
+    ClickTab(1);
+    ClickGroup("Transport");
+    QCoreApplication::processEvents();
+    host.ClearLog();
+    for (const char letter : {'t', 'r', 'a'}) {
+        QTest::keyClick(&Find<QLineEdit>("txtFind1"), letter);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_THAT(host.Log().CallsTo("OpenRecordset"), IsEmpty());
+    EXPECT_EQ(client.choices.size(), 1u);
+}
+
+TEST_F(ChoiceTellerTest, TellsTheLayersThatAGroupHasAfterItWasReadAgain)
+{
+    ClickTab(1);
+    ClickGroup("Transport");
+    QCoreApplication::processEvents();
+    host.AddMember(10, 3);
+    EditorForm().Refresh();
+    QCoreApplication::processEvents();
+    EXPECT_THAT(client.choices.back(), testing::UnorderedElementsAre(1, 2, 3));
 }
 
 } // namespace

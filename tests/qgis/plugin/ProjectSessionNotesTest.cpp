@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// "Show Only These" in a QGIS project, and several layers at once.
+// The notes of "Show Only These", which a session keeps in its project.
 #include "hostkit/undo/UndoHistory.h"
 #include "qgis/plugin/DialogFixture.h"
 
@@ -9,10 +9,10 @@ namespace Orvane::Testing {
 
 namespace {
 
-class ShowOnly : public DialogFixture
+class ProjectSessionNotes : public DialogFixture
 {
 protected:
-    ShowOnly() : woods(AddLayer("Woods"))
+    ProjectSessionNotes() : woods(AddLayer("Woods"))
     {
         Settle();
         project.layerTreeRoot()->findLayer(lakes)->setItemVisibilityChecked(false);
@@ -66,7 +66,7 @@ protected:
     QgsVectorLayer* woods;
 };
 
-TEST_F(ShowOnly, HidesTheOtherLayersInQgisAndBringsThemBack)
+TEST_F(ProjectSessionNotes, HideTheOtherLayersInQgisAndBringThemBack)
 {
     ShowOnlyRoads();
     EXPECT_TRUE(IsTicked(*roads));
@@ -81,7 +81,7 @@ TEST_F(ShowOnly, HidesTheOtherLayersInQgisAndBringsThemBack)
     EXPECT_EQ(told, QStringList());
 }
 
-TEST_F(ShowOnly, IsOneStepWithItsNote)
+TEST_F(ProjectSessionNotes, AreOneStepWithWhatTheyShow)
 {
     ShowOnlyRoads();
     ASSERT_TRUE(HasEntry());
@@ -98,7 +98,7 @@ TEST_F(ShowOnly, IsOneStepWithItsNote)
     EXPECT_EQ(BarText(), "Only 1 of 3 layers is shown.");
 }
 
-TEST_F(ShowOnly, ComesBackFromASavedProject)
+TEST_F(ProjectSessionNotes, ComeBackFromASavedProject)
 {
     ShowOnlyRoads();
     Open(Saved(project));
@@ -110,7 +110,7 @@ TEST_F(ShowOnly, ComesBackFromASavedProject)
     EXPECT_FALSE(IsTicked(*lakes));
 }
 
-TEST_F(ShowOnly, ComesBackFromAProjectThatWasSavedWithoutThePlugin)
+TEST_F(ProjectSessionNotes, ComeBackFromAProjectThatWasSavedWithoutThePlugin)
 {
     ShowOnlyRoads();
     QgsProject plain;
@@ -124,7 +124,7 @@ TEST_F(ShowOnly, ComesBackFromAProjectThatWasSavedWithoutThePlugin)
     EXPECT_TRUE(IsTicked(*lakes)) << "what the user has shown in QGIS stays";
 }
 
-TEST_F(ShowOnly, IsNothingInAnotherProject)
+TEST_F(ProjectSessionNotes, AreNotThoseOfAnotherProject)
 {
     ShowOnlyRoads();
     QgsProject other;
@@ -134,23 +134,6 @@ TEST_F(ShowOnly, IsNothingInAnotherProject)
     EXPECT_EQ(BarText(), "");
     user.ClickNode(2, 0);
     EXPECT_FALSE(ShowAllAgain());
-}
-
-TEST_F(ShowOnly, SeveralLayersAreRemovedTogether)
-{
-    std::vector<qsizetype> asked; // how many layers each time
-    session->Client().SetCommands({{}, [&](const QList<QgsMapLayer*>& layers) {
-                                       asked.push_back(layers.size());
-                                       project.removeMapLayers(layers);
-                                   }});
-    const QStringList listed = ListedLayers();
-    user.ClickNodes(2, {int(listed.indexOf("Roads")), int(listed.indexOf("Woods"))});
-    ASSERT_TRUE(user.Pick(2, "Delete"));
-    Settle();
-    EXPECT_THAT(asked, testing::ElementsAre(2));
-    EXPECT_EQ(project.count(), 1);
-    EXPECT_EQ(ListedLayers(), QStringList{"Lakes"});
-    EXPECT_EQ(told, QStringList());
 }
 
 } // namespace
