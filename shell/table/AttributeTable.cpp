@@ -40,6 +40,12 @@ QSize SizeOfWindow(const QWidget& window)
     return size.boundedTo(window.screen()->availableSize());
 }
 
+bool HasSameRows(const LayerSource& one, const LayerSource& other)
+{
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
+        && one.choice == other.choice;
+}
+
 QString TaskText(TableReader::Task task)
 {
     switch (task) {
@@ -173,8 +179,7 @@ void AttributeTable::ConnectReader()
 
 void AttributeTable::Follow(const TableLayer& layer)
 {
-    const bool isOther = layer.source.path != m_layer.source.path
-        || layer.source.ogrLayer != m_layer.source.ogrLayer || layer.source.filter != m_layer.source.filter;
+    const bool isOther = !HasSameRows(layer.source, m_layer.source);
     m_layer = layer;
     setWindowTitle(tr("Attributes of %1").arg(layer.name));
     m_selection->SetReachesMap(layer.isSelectable);

@@ -322,6 +322,18 @@ TEST_F(AttributeTableTest, TellsThatTheDataAreMissingAndShowsThemWhenTheyAreBack
     EXPECT_EQ(pages.currentIndex(), 0);
 }
 
+TEST_F(AttributeTableTest, ShowsTheRowsOfTheKindsThatItsLayerShowsNow)
+{
+    OpenAndWait();
+    m_source.choice.kinds = {FeatureKind::Line};
+    m_table->Follow({"Towns", m_source, true});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return View().model()->rowCount() == 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Count() == "Rows: 0"; })) << qPrintable(Count());
+    m_source.choice.kinds = {FeatureKind::Point};
+    m_table->Follow({"Towns", m_source, true});
+    EXPECT_TRUE(WaitFor(FileOrder));
+}
+
 TEST_F(AttributeTableTest, TellsThatThereAreNoAttributes)
 {
     m_source.path = m_folder.Write(
