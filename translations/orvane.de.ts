@@ -1120,6 +1120,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Karte hat keinen Layer mit Daten.</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>Die Zeilen bleiben, wie sie waren. %1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
     </message>

@@ -1120,6 +1120,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>La carte n’a aucune couche avec des données.</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>Les lignes restent telles quelles. %1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
     </message>

@@ -1120,6 +1120,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>データのあるレイヤーが地図にありません。</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>行は元のままです。%1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
     </message>

@@ -102,6 +102,21 @@ protected:
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
+    // Writes over the data while they are open; returns what was there.
+    QByteArray SpoilData() const
+    {
+        QFile file(m_source.path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        Write(QByteArray(content.size(), 'x'));
+        return content;
+    }
+    void Write(const QByteArray& content) const
+    {
+        QFile file(m_source.path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        EXPECT_EQ(file.write(content), content.size());
+    }
     QString Count() const { return Part<QLabel>("lblCount").text(); }
 
     DataFolder m_folder;
@@ -320,6 +335,34 @@ TEST_F(AttributeTableTest, TellsThatTheDataAreMissingAndShowsThemWhenTheyAreBack
     m_table->ReadAgain();
     EXPECT_TRUE(WaitFor(FileOrder));
     EXPECT_EQ(pages.currentIndex(), 0);
+}
+
+TEST_F(AttributeTableTest, KeepsItsRowsAndTellsWhyWhenTheyCannotBeSorted)
+{
+    OpenAndWait();
+    SpoilData();
+    ClickHeader(1);
+    auto& failure = Part<QLabel>("lblFailure");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return failure.isVisible(); }));
+    EXPECT_TRUE(failure.text().contains("towns.gpkg")) << qPrintable(failure.text());
+    EXPECT_EQ(Shown(), FileOrder);
+    EXPECT_TRUE(View().isVisible());
+    EXPECT_NE(View().horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(AttributeTableTest, KeepsItsRowsAndTellsWhyWhenTheyCannotBeSearched)
+{
+    OpenAndWait();
+    const QByteArray content = SpoilData();
+    Key(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "by");
+    auto& failure = Part<QLabel>("lblFailure");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return failure.isVisible(); }));
+    EXPECT_EQ(Shown(), FileOrder);
+    Write(content);
+    m_table->ReadAgain();
+    EXPECT_TRUE(WaitFor({"Aue", Brueck}));
+    EXPECT_FALSE(failure.isVisible());
 }
 
 TEST_F(AttributeTableTest, ShowsTheRowsOfTheKindsThatItsLayerShowsNow)
