@@ -365,6 +365,32 @@ TEST_F(AttributeTableTest, KeepsItsRowsAndTellsWhyWhenTheyCannotBeSearched)
     EXPECT_FALSE(failure.isVisible());
 }
 
+// Each is a range of its own; to compare each with each would take minutes.
+TEST_F(AttributeTableTest, FollowsTheMapFromManySingleRowsToOthers)
+{
+    constexpr int Count = 60000;
+    QByteArray rows = "number,name\n";
+    FeatureKeys even;
+    FeatureKeys odd;
+    for (int id = 1; id <= Count; ++id) {
+        rows += QByteArray::number(id) + ",a\n";
+        (id % 2 == 0 ? even : odd).insert({1, id});
+    }
+    m_source.path = m_folder.Write("many.csv", rows);
+    m_source.ogrLayer = "many";
+    m_features.Set(even);
+    Open();
+    const QItemSelectionModel& selected = *View().selectionModel();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return selected.model()->rowCount() == Count; }));
+    EXPECT_EQ(selected.selection().size(), Count / 2);
+    EXPECT_TRUE(selected.isRowSelected(Count - 1, {}));
+    m_features.Set(odd);
+    EXPECT_EQ(selected.selection().size(), Count / 2);
+    EXPECT_TRUE(selected.isRowSelected(Count - 2, {}));
+    EXPECT_FALSE(selected.isRowSelected(Count - 1, {}));
+    EXPECT_EQ(m_features.Keys(), odd);
+}
+
 TEST_F(AttributeTableTest, ShowsTheRowsOfTheKindsThatItsLayerShowsNow)
 {
     OpenAndWait();
