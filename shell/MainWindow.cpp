@@ -43,6 +43,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTimer>
 
 namespace Orvane {
 
@@ -207,11 +208,14 @@ void MainWindow::dropEvent(QDropEvent* event)
     const QStringList paths = LocalFiles(*event->mimeData());
     if (!TakeAsCopy(*event))
         return;
-    Guard(this, [&] {
-        if (paths.size() == 1 && IsMapFile(paths.first()))
-            OpenMap(paths.first());
-        else
-            AddData(paths);
+    // The program that the files come from waits until the drop has ended.
+    QTimer::singleShot(0, this, [this, paths] {
+        Guard(this, [&] {
+            if (paths.size() == 1 && IsMapFile(paths.first()))
+                OpenMap(paths.first());
+            else
+                AddData(paths);
+        });
     });
 }
 
