@@ -630,6 +630,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Attribute von %1</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>Band %1</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Blau nach Rot, in der Mitte blass</translation>
     </message>
@@ -752,6 +756,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>Extent:</source>
         <translation>Ausdehnung:</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>Gefundene Objekte: %1, Raster: %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -928,12 +936,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Violetttöne</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>Raster:</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>Raster (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>Gefundene Raster: %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1264,6 +1280,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>seine Punkte sind Zahlen in einer Tabelle</translation>
     </message>
     <message>
+        <source>no data</source>
+        <translation>keine Daten</translation>
+    </message>
+    <message>
         <source>not stated</source>
         <translation>nicht angegeben</translation>
     </message>
@@ -1498,8 +1518,8 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
         <translation>Klassen</translation>
     </message>
     <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>Klicken zeigt die Attribute eines Objekts.</translation>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>Klicken zeigt die Attribute eines Objekts oder die Werte eines Rasters.</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>

@@ -630,6 +630,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>Attributs de %1</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>Bande %1</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>Du bleu au rouge, pâle au milieu</translation>
     </message>
@@ -752,6 +756,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>Extent:</source>
         <translation>Étendue :</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>Objets trouvés : %1, rasters : %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -928,12 +936,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Violets</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>Raster :</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>Rasters (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>Rasters trouvés : %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1264,6 +1280,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>ses points sont des nombres dans une table</translation>
     </message>
     <message>
+        <source>no data</source>
+        <translation>aucune donnée</translation>
+    </message>
+    <message>
         <source>not stated</source>
         <translation>non indiquée</translation>
     </message>
@@ -1498,8 +1518,8 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
         <translation>Classes</translation>
     </message>
     <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>Cliquez sur un objet pour voir ses attributs.</translation>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>Cliquez sur un objet pour voir ses attributs, ou sur un raster pour voir ses valeurs.</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>

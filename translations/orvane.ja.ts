@@ -630,6 +630,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>%1 の属性</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>バンド %1</translation>
+    </message>
+    <message>
         <source>Blue to red, pale in the middle</source>
         <translation>青から赤 (中間は淡色)</translation>
     </message>
@@ -752,6 +756,10 @@ Area of use: %3</source>
     <message>
         <source>Extent:</source>
         <translation>範囲:</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>見つかった地物: %1、ラスター: %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -928,12 +936,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>紫系</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>ラスター</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>ラスター:</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>ラスター (%1);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>見つかったラスター: %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1264,6 +1280,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>点が表の数値として保存されています</translation>
     </message>
     <message>
+        <source>no data</source>
+        <translation>データなし</translation>
+    </message>
+    <message>
         <source>not stated</source>
         <translation>記載なし</translation>
     </message>
@@ -1498,8 +1518,8 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
         <translation>階級</translation>
     </message>
     <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>地物をクリックすると属性が表示されます。</translation>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>地物をクリックすると属性が、ラスターをクリックすると値が表示されます。</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>
