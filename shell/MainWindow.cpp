@@ -148,7 +148,7 @@ void MainWindow::AddData(const QStringList& paths)
         [data = TableQuestions::FindData(paths, *this), target = TargetOf(Document())](Progress& progress) {
             return PlanImport(data, target, progress);
         });
-    m_system->Settle(plan);
+    m_system->Settle(plan, this);
     const FoundData& found = plan.data;
     const SourceContents contents = ReadOrGiveUp(
         this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
