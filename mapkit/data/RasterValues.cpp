@@ -20,7 +20,7 @@ double WithoutFalseDigits(double value, GDALDataType type)
 {
     if (type != GDT_Float32)
         return value;
-    char text[32];
+    char text[32] = {};
     const auto written = std::to_chars(std::begin(text), std::end(text), float(value));
     double exact = value;
     std::from_chars(std::begin(text), written.ptr, exact);
