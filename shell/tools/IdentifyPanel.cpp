@@ -102,6 +102,7 @@ void IdentifyPanel::AddFeature(const IdentifiedFeature& feature)
     top->setFont(NameColumn, font);
     for (const FeatureAttribute& attribute : feature.attributes)
         top->addChild(AttributeItem(attribute, palette()));
+    top->setExpanded(feature.isRaster); // few values, which are what was asked for
 }
 
 void IdentifyPanel::TellCurrent(const QTreeWidgetItem* item)
