@@ -43,6 +43,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTimer>
 
 namespace Orvane {
 
@@ -151,7 +152,7 @@ void MainWindow::AddData(const QStringList& paths)
         [data = TableQuestions::FindData(paths, *this), target = TargetOf(*m_session)](Progress& progress) {
             return PlanImport(data, target, progress);
         });
-    m_system->Settle(plan);
+    m_system->Settle(plan, this);
     const FoundData& found = plan.data;
     const SourceContents contents = ReadOrGiveUp(
         this, tr("Reading map data"), [found, system = SystemFor(Document(), found)](Progress& progress) {
@@ -211,11 +212,14 @@ void MainWindow::dropEvent(QDropEvent* event)
     const QStringList paths = LocalFiles(*event->mimeData());
     if (!TakeAsCopy(*event))
         return;
-    Guard(this, [&] {
-        if (paths.size() == 1 && IsMapFile(paths.first()))
-            OpenMap(paths.first());
-        else
-            AddData(paths);
+    // The program that the files come from waits until the drop has ended.
+    QTimer::singleShot(0, this, [this, paths] {
+        Guard(this, [&] {
+            if (paths.size() == 1 && IsMapFile(paths.first()))
+                OpenMap(paths.first());
+            else
+                AddData(paths);
+        });
     });
 }
 

@@ -638,6 +638,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Zurück</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>Band %1</translation>
+    </message>
+    <message>
         <source>Beginning</source>
         <translation>Anfang</translation>
     </message>
@@ -688,6 +692,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
     <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>Das Koordinatensystem wählen, in dem die Karte gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>Klicken zeigt die Attribute eines Objekts oder die Werte eines Rasters.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -764,6 +772,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>Extent:</source>
         <translation>Ausdehnung:</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>Gefundene Objekte: %1, Raster: %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -948,12 +960,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Violetttöne</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>Raster:</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>Raster (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>Gefundene Raster: %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1140,6 +1160,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Karte hat keinen Layer mit Daten.</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>Die Zeilen bleiben, wie sie waren. %1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
     </message>
@@ -1282,6 +1306,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>its points are numbers in a table</source>
         <translation>seine Punkte sind Zahlen in einer Tabelle</translation>
+    </message>
+    <message>
+        <source>no data</source>
+        <translation>keine Daten</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1516,10 +1544,6 @@ Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht v
     <message>
         <source>Classes</source>
         <translation>Klassen</translation>
-    </message>
-    <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>Klicken zeigt die Attribute eines Objekts.</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>

@@ -638,6 +638,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>Précédent</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>Bande %1</translation>
+    </message>
+    <message>
         <source>Beginning</source>
         <translation>Début</translation>
     </message>
@@ -688,6 +692,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
     <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>Choisir le système de coordonnées dans lequel la carte est affichée</translation>
+    </message>
+    <message>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>Cliquez sur un objet pour voir ses attributs, ou sur un raster pour voir ses valeurs.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -764,6 +772,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>Extent:</source>
         <translation>Étendue :</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>Objets trouvés : %1, rasters : %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -948,12 +960,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Violets</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>Raster :</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>Rasters (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>Rasters trouvés : %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1140,6 +1160,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>La carte n’a aucune couche avec des données.</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>Les lignes restent telles quelles. %1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
     </message>
@@ -1282,6 +1306,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>its points are numbers in a table</source>
         <translation>ses points sont des nombres dans une table</translation>
+    </message>
+    <message>
+        <source>no data</source>
+        <translation>aucune donnée</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1516,10 +1544,6 @@ Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pa
     <message>
         <source>Classes</source>
         <translation>Classes</translation>
-    </message>
-    <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>Cliquez sur un objet pour voir ses attributs.</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>

@@ -638,6 +638,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>戻る</translation>
     </message>
     <message>
+        <source>Band %1</source>
+        <translation>バンド %1</translation>
+    </message>
+    <message>
         <source>Beginning</source>
         <translation>先頭</translation>
     </message>
@@ -688,6 +692,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
     <message>
         <source>Choose the coordinate system that the map is shown in</source>
         <translation>地図を表示する座標系を選択します</translation>
+    </message>
+    <message>
+        <source>Click a feature to see its attributes, or a raster to see its values.</source>
+        <translation>地物をクリックすると属性が、ラスターをクリックすると値が表示されます。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -764,6 +772,10 @@ Area of use: %3</source>
     <message>
         <source>Extent:</source>
         <translation>範囲:</translation>
+    </message>
+    <message>
+        <source>Features found: %1, rasters: %2</source>
+        <translation>見つかった地物: %1、ラスター: %2</translation>
     </message>
     <message>
         <source>Features:</source>
@@ -948,12 +960,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>紫系</translation>
     </message>
     <message>
+        <source>Raster</source>
+        <translation>ラスター</translation>
+    </message>
+    <message>
         <source>Raster:</source>
         <translation>ラスター:</translation>
     </message>
     <message>
         <source>Rasters (%1);;All files (*)</source>
         <translation>ラスター (%1);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Rasters found: %1</source>
+        <translation>見つかったラスター: %1</translation>
     </message>
     <message>
         <source>Read about the window or the tool that is in use</source>
@@ -1140,6 +1160,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>データのあるレイヤーが地図にありません。</translation>
     </message>
     <message>
+        <source>The rows stay as they were. %1</source>
+        <translation>行は元のままです。%1</translation>
+    </message>
+    <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
     </message>
@@ -1282,6 +1306,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>its points are numbers in a table</source>
         <translation>点が表の数値として保存されています</translation>
+    </message>
+    <message>
+        <source>no data</source>
+        <translation>データなし</translation>
     </message>
     <message>
         <source>not stated</source>
@@ -1516,10 +1544,6 @@ Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</s
     <message>
         <source>Classes</source>
         <translation>階級</translation>
-    </message>
-    <message>
-        <source>Click a feature to see its attributes.</source>
-        <translation>地物をクリックすると属性が表示されます。</translation>
     </message>
     <message>
         <source>Click a feature with the Identify tool.</source>

@@ -52,25 +52,26 @@ void TableReader::Open(LayerSource source)
     m_rowSource = std::make_shared<std::unique_ptr<TableSource>>();
     m_tableSource = std::make_shared<std::unique_ptr<TableSource>>();
     m_source = std::move(source);
-    RunWithAll(
-        m_opening, [this](TableSource& table, const Shared& progress) { return ReadTable(table, progress); });
+    RunWithAll(Task::Opening, [this](TableSource& table, const Shared& progress) {
+        return ReadTable(table, progress);
+    });
 }
 
 // On the pool's thread.
 TableReader::Answer TableReader::ReadTable(TableSource& table, const Shared& progress)
 {
-    Deliver(progress, [this, columns = table.Columns(), count = table.KnownCount()] {
+    Deliver(Task::Opening, progress, [this, columns = table.Columns(), count = table.KnownCount()] {
         emit Opened(columns, count);
     });
     table.ReadIDs(*progress, [&](std::vector<qint64> ids) {
-        Deliver(progress, [this, ids = std::move(ids)] { emit IDsRead(ids); });
+        Deliver(Task::Opening, progress, [this, ids = std::move(ids)] { emit IDsRead(ids); });
     });
     return [this] { emit IDsComplete(); };
 }
 
 void TableReader::ReadRows(std::vector<qint64> ids)
 {
-    Run(m_rowsPool, m_reading,
+    Run(m_rowsPool, Task::None, m_reading,
         [this, ids = std::move(ids), source = m_source, opened = m_rowSource,
          progress = m_reading]() -> Answer {
             TableSource& table = SourceIn(*opened, source);
@@ -82,14 +83,15 @@ void TableReader::ReadRows(std::vector<qint64> ids)
 void TableReader::Sort(int column, Qt::SortOrder direction, const QLocale& locale)
 {
     RunWithAll(
-        m_sorting, [this, column, direction, locale](TableSource& table, const Shared& progress) -> Answer {
+        Task::Sorting,
+        [this, column, direction, locale](TableSource& table, const Shared& progress) -> Answer {
             return [this, ids = table.Sorted(column, direction, locale, *progress)] { emit Sorted(ids); };
         });
 }
 
 void TableReader::Find(const TableFind& find)
 {
-    RunWithAll(m_finding, [this, find](TableSource& table, const Shared& progress) -> Answer {
+    RunWithAll(Task::Finding, [this, find](TableSource& table, const Shared& progress) -> Answer {
         return [this, ids = table.Find(find, *progress)] { emit Found(ids); };
     });
 }
@@ -125,21 +127,37 @@ double TableReader::Done() const
     return running ? running->Done() : 1;
 }
 
-void TableReader::RunWithAll(Shared& running, Work work)
+TableReader::Shared& TableReader::Running(Task task)
 {
+    switch (task) {
+    case Task::Opening:
+        return m_opening;
+    case Task::Sorting:
+        return m_sorting;
+    case Task::Finding:
+        return m_finding;
+    case Task::None:
+        break;
+    }
+    return m_reading;
+}
+
+void TableReader::RunWithAll(Task task, Work work)
+{
+    Shared& running = Running(task);
     if (running)
         running->Cancel();
     running = std::make_shared<Progress>();
-    Run(m_tablePool, running,
+    Run(m_tablePool, task, running,
         [source = m_source, opened = m_tableSource, progress = running, work = std::move(work)] {
             return work(SourceIn(*opened, source), progress);
         });
     emit TaskChanged();
 }
 
-void TableReader::Run(QThreadPool& pool, const Shared& progress, std::function<Answer()> work)
+void TableReader::Run(QThreadPool& pool, Task task, const Shared& progress, std::function<Answer()> work)
 {
-    pool.start([this, progress, work = std::move(work)] {
+    pool.start([this, task, progress, work = std::move(work)] {
         const ReadingBound untilCancelled(progress->CancelledFlag());
         Answer answer;
         try {
@@ -148,25 +166,25 @@ void TableReader::Run(QThreadPool& pool, const Shared& progress, std::function<A
         } catch (const Cancelled&) {
             return;
         } catch (const std::exception& error) {
-            answer = [this, reason = QString::fromUtf8(error.what())] { emit Failed(reason); };
+            answer = [this, task, reason = QString::fromUtf8(error.what())] { emit Failed(task, reason); };
         }
-        Deliver(progress, [this, progress, answer = std::move(answer)] {
+        Deliver(task, progress, [this, progress, answer = std::move(answer)] {
             Finish(progress);
             answer();
         });
     });
 }
 
-void TableReader::Deliver(const Shared& progress, Answer answer)
+void TableReader::Deliver(Task task, const Shared& progress, Answer answer)
 {
     QMetaObject::invokeMethod(
         this,
-        [this, progress, answer = std::move(answer)] {
+        [this, task, progress, answer = std::move(answer)] {
             try {
                 if (!progress->IsCancelled())
                     answer();
             } catch (const std::exception& error) { // of the receivers, for example no memory
-                emit Failed(QString::fromUtf8(error.what()));
+                emit Failed(task, QString::fromUtf8(error.what()));
             }
         },
         Qt::QueuedConnection);

@@ -66,8 +66,8 @@ signals:
         const std::vector<qint64>& asked, const std::shared_ptr<const Orvane::TableSource::RowsByID>& rows);
     void Sorted(const std::vector<qint64>& ids);
     void Found(const std::vector<qint64>& ids);
-    /// Something could not be read.
-    void Failed(const QString& reason);
+    /// Something could not be read. task: for what it was read; None for single rows.
+    void Failed(Orvane::TableReader::Task task, const QString& reason);
     /// Current has changed.
     void TaskChanged();
 
@@ -77,10 +77,11 @@ private:
     using Opening = std::shared_ptr<std::unique_ptr<TableSource>>; // opened by the pool that uses it
     using Work = std::function<Answer(TableSource& table, const Shared& progress)>;
 
-    void RunWithAll(Shared& running, Work work);
-    void Run(QThreadPool& pool, const Shared& progress, std::function<Answer()> work);
+    void RunWithAll(Task task, Work work);
+    void Run(QThreadPool& pool, Task task, const Shared& progress, std::function<Answer()> work);
     Answer ReadTable(TableSource& table, const Shared& progress);
-    void Deliver(const Shared& progress, Answer answer);
+    void Deliver(Task task, const Shared& progress, Answer answer);
+    Shared& Running(Task task);
     void Finish(const Shared& progress);
     void Drop(Shared& running);
 

@@ -7,10 +7,12 @@
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/GeometryKinds.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/files/GdalSetup.h"
 #include "mapkit/files/OpenedData.h"
 #include "mapkit/files/ReadingBound.h"
+#include "mapkit/tables/RowGeometry.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -80,7 +82,8 @@ private:
 
 } // namespace
 
-TableSource::TableSource(const LayerSource& source) : m_path(source.path), m_filter(source.filter)
+TableSource::TableSource(const LayerSource& source)
+    : m_path(source.path), m_filter(source.filter), m_choice(source.choice)
 {
     const QString whyNot = WhyNotOpened(m_path);
     if (!whyNot.isEmpty())
@@ -98,6 +101,8 @@ TableSource::TableSource(const LayerSource& source) : m_path(source.path), m_fil
     const QByteArray condition = m_filter.toUtf8();
     if (!m_filter.isEmpty() && m_layer->SetAttributeFilter(condition.constData()) != OGRERR_NONE)
         FailReading(m_path, errors.First());
+    if (!m_choice.kinds.empty())
+        m_geometries = std::make_unique<RowGeometry>(*m_layer->GetLayerDefn(), m_choice.columns);
     ReadColumns();
     ReadOnly(AllColumns);
     RequireReadingInTime(m_path);
@@ -123,14 +128,16 @@ qint64 TableSource::KnownCount() const
 {
     const GdalErrors quiet;
     const ReadingBound bound;
-    return m_layer->TestCapability(OLCFastFeatureCount) ? qint64(m_layer->GetFeatureCount(FALSE)) : -1;
+    const bool isKnown = !m_geometries && m_layer->TestCapability(OLCFastFeatureCount);
+    return isKnown ? qint64(m_layer->GetFeatureCount(FALSE)) : -1;
 }
 
-// Drivers are several times as fast without what is not needed; a filter may need anything.
+// Drivers are several times as fast without what is not needed; a filter may need anything, and a kind of
+// geometry the geometry or the column that holds it.
 void TableSource::ReadOnly(int column)
 {
     m_isWithinPass = false;
-    if (!m_filter.isEmpty())
+    if (!m_filter.isEmpty() || m_geometries)
         return;
     const OGRFeatureDefn& definition = *m_layer->GetLayerDefn();
     std::vector<const char*> ignored = {"OGR_GEOMETRY", "OGR_STYLE"};
@@ -142,6 +149,14 @@ void TableSource::ReadOnly(int column)
     m_layer->SetIgnoredFields(ignored.data());
 }
 
+bool TableSource::IsRow(OGRFeature& feature)
+{
+    if (!m_geometries)
+        return true;
+    const OGRGeometry* geometry = m_geometries->Of(feature);
+    return geometry && HasAnyOf(*geometry, m_choice);
+}
+
 void TableSource::ForEach(Progress& progress, const Visit& visit)
 {
     const GdalErrors errors;
@@ -150,7 +165,8 @@ void TableSource::ForEach(Progress& progress, const Visit& visit)
     const WholePass pass(*m_layer);
     GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{m_layer->GetNextFeature()}) {
-        visit(*feature);
+        if (IsRow(*feature))
+            visit(*feature);
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
             if (bound.IsOver())
@@ -240,7 +256,8 @@ bool TableSource::SortsItself(int column) const
     GDALDataset* dataset = m_data->DatasetOf(*m_layer);
     const QByteArray driver = dataset ? dataset->GetDriverName() : "";
     const bool isDatabase = driver == "GPKG" || driver == "SQLite";
-    return isDatabase && m_columns[size_t(column)].kind != CellKind::Text && *m_layer->GetFIDColumn();
+    return isDatabase && !m_geometries && m_columns[size_t(column)].kind != CellKind::Text
+        && *m_layer->GetFIDColumn();
 }
 
 std::vector<qint64>

@@ -20,6 +20,7 @@ namespace Orvane {
 class OpenedData;
 class Progress;
 class ReadingBound;
+class RowGeometry;
 
 /// Which rows to look for.
 struct TableFind {
@@ -42,7 +43,8 @@ public:
     using TakeIDs = std::function<void(std::vector<qint64> ids)>;
     using RowsByID = std::unordered_map<qint64, TableRow>;
 
-    /// Only the features of the source's filter are rows.
+    /// Only the features of the source's filter are rows, and of those of its kinds of geometry, if it has
+    /// some.
     explicit TableSource(const LayerSource& source);
     ~TableSource();
     TableSource(const TableSource&) = delete;
@@ -68,6 +70,7 @@ private:
 
     void ReadColumns();
     void ReadOnly(int column); // -1: all, -2: none
+    bool IsRow(OGRFeature& feature);
     void ForEach(Progress& progress, const Visit& visit);
     void
     FillOneByOne(RowsByID& rows, const std::vector<qint64>& ids, ReadingBound& bound, Progress& progress);
@@ -79,9 +82,11 @@ private:
 
     QString m_path;
     QString m_filter;
+    GeometryChoice m_choice;
     std::unique_ptr<OpenedData> m_data;
     OGRLayer* m_layer = nullptr; // owned by the data
     std::vector<TableColumn> m_columns;
+    std::unique_ptr<RowGeometry> m_geometries; // nullptr if all kinds are rows
     bool m_isWithinPass = false; // a pass through all features was begun and not ended
 };
 

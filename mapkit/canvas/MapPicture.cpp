@@ -74,8 +74,24 @@ void MapPicture::SetBackground(const QColor& colour)
     if (colour == m_background)
         return;
     m_background = colour;
-    if (!m_image.isNull())
+    if (m_image.isNull())
+        return;
+    if (ForgetLabels())
+        Refresh();
+    else
         Compose();
+}
+
+// Their halos have the colour of the background. Returns whether there are any.
+bool MapPicture::ForgetLabels()
+{
+    bool hasLabels = false;
+    for (const Sheet& sheet : m_sheets) {
+        if (sheet.labels)
+            m_images.erase(sheet.Key());
+        hasLabels |= sheet.labels;
+    }
+    return hasLabels;
 }
 
 void MapPicture::SetView(const MapView& view, double scaleDenominator, double devicePixelRatio)
@@ -129,7 +145,8 @@ void MapPicture::Refresh()
     m_sheets = PlanSheets(m_layers, m_view, m_scaleDenominator);
     Images kept;
     std::vector<const Sheet*> missing;
-    for (const Sheet& sheet : m_sheets) {
+    for (Sheet& sheet : m_sheets) {
+        sheet.background = m_background;
         if (auto node = m_images.extract(sheet.Key()))
             kept.insert(std::move(node));
         else

@@ -75,6 +75,7 @@ private:
     void Start(const Sheet& sheet);
     void Take(quint64 generation, const Sheet& sheet, const SheetImage& image);
     void LeaveOut(qint32 layerID);
+    bool ForgetLabels();
     void Finish();
     void Compose();
     void PlaceEarlier(QPainter& painter, const Sheet& sheet) const;

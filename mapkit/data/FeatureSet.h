@@ -61,6 +61,8 @@ public:
     void SetSourceSystem(const QString& system) { m_sourceSystem = system; }
     /// How many vertices were left out.
     size_t LeftOutCount() const { return m_leftOut; }
+    /// Counts vertices that were left out of what is copied into this set.
+    void AddLeftOut(size_t count) { m_leftOut += count; }
 
 private:
     std::vector<QPointF> m_points;

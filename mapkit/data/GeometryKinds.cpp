@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/GeometryKinds.h"
 
+#include "mapkit/data/GeometryChoice.h"
+
+#include <algorithm>
 #include <ogrsf_frmts.h>
 #include <optional>
 
@@ -67,6 +70,14 @@ std::vector<FeatureKind> KindsOf(OGRLayer& layer)
     layer.ResetReading();
     const std::vector<FeatureKind> found = collector.Kinds();
     return found.empty() ? std::vector<FeatureKind>{FeatureKind::Area} : found;
+}
+
+bool HasAnyOf(const OGRGeometry& geometry, const GeometryChoice& choice)
+{
+    KindCollector collector;
+    collector.Add(geometry);
+    const std::vector<FeatureKind> kinds = collector.Kinds();
+    return std::any_of(kinds.begin(), kinds.end(), [&](FeatureKind kind) { return choice.Takes(kind); });
 }
 
 bool HasFeatures(OGRLayer& layer)

@@ -10,6 +10,8 @@ class OGRLayer;
 
 namespace Orvane {
 
+struct GeometryChoice;
+
 /// The kinds of geometry in a layer of a source, lines before areas and points before both. A layer that does
 /// not declare its kind is looked into: only its first features count, so that a large one takes no time.
 /// Area if nothing tells.
@@ -25,6 +27,9 @@ public:
 private:
     bool m_found[3] = {}; // by kind
 };
+
+/// Whether a layer of that choice shows something of a geometry.
+bool HasAnyOf(const OGRGeometry& geometry, const GeometryChoice& choice);
 
 /// Whether a layer has at least one feature. Reads at most the first one.
 bool HasFeatures(OGRLayer& layer);

@@ -29,6 +29,9 @@ public:
     /// Draws that part of the map, as RasterSource::Draw does.
     QImage Draw(const Box& extent, QSize pixels, const std::atomic<bool>& cancelled) const;
 
+    /// The values at a place in map units, as RasterSource::ValuesAt returns them.
+    std::vector<RasterValue> ValuesAt(QPointF place) const { return m_source.ValuesAt(m_mapSystem, place); }
+
 private:
     RasterSource m_source;
     QString m_mapSystem;

@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/RasterShades.h"
+#include "mapkit/data/RasterValues.h"
 #include "mapkit/data/RasterWarp.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/files/GdalSetup.h"
@@ -173,6 +174,26 @@ QImage RasterSource::Draw(
         bound.Renew();
     }
     return cancelled ? QImage() : image;
+}
+
+std::vector<RasterValue> RasterSource::ValuesAt(const QString& mapSystem, QPointF place) const
+{
+    const QMutexLocker lock(&m_mutex);
+    const GdalErrors errors;
+    const ReadingBound bound(ReadingBound::LongestWait);
+    const std::optional<QPoint> pixel = PixelAt(*m_dataset, {mapSystem, m_chosenSystem}, place);
+    if (!pixel)
+        return {};
+    std::vector<RasterValue> values;
+    values.reserve(size_t(m_dataset->GetRasterCount()));
+    for (GDALRasterBand* band : m_dataset->GetBands()) {
+        const std::optional<RasterValue> value = ValueAt(*band, *pixel);
+        RequireReadingInTime(m_path);
+        if (!value)
+            FailReading(m_path, errors.First());
+        values.push_back(*value);
+    }
+    return values;
 }
 
 SourceLayer DescribeRaster(const QString& path, const QString& member)

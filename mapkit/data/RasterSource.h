@@ -5,12 +5,15 @@
 
 #include <QImage>
 #include <QMutex>
+#include <QPointF>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
 
 #include <atomic>
 #include <memory>
+#include <optional>
+#include <vector>
 
 class GDALDataset;
 
@@ -30,14 +33,24 @@ struct RasterDetails {
     QSizeF pixelSize; ///< in units of its system; empty if it has no fixed size
 };
 
+/// What one band of a raster has at one place.
+struct RasterValue {
+    int band = 1; ///< from 1
+    QString description; ///< of the band; empty if the file gives none
+    std::optional<double>
+        number; ///< as it is meant: scaled as the file says; nothing where there are no data
+    QString unit; ///< of the number, such as "m"; empty if the file names none
+    QString category; ///< what the number stands for, such as "Forest"; empty if the file names none
+};
+
 /// A georeferenced picture that one of GDAL's raster drivers opens, such as an aerial photograph, read-only.
 /// Elevation grids and similar data are shown in shades of grey from their lowest to their highest value.
 ///
 ///     const RasterSource photo(path);
 ///     QImage image = photo.Draw(map.System(), view.Extent(), window.size(), cancelled);
 ///
-/// Any thread may draw, but only one draws at a time. Errors are RunTimeError with SourceUnreadable and a
-/// sentence that names the file, unless another number is stated.
+/// Any thread may draw and ask for values, but only one does so at a time. Errors are RunTimeError with
+/// SourceUnreadable and a sentence that names the file, unless another number is stated.
 class RasterSource
 {
 public:
@@ -64,6 +77,10 @@ public:
     /// damaged data.
     QImage
     Draw(const QString& mapSystem, const Box& extent, QSize pixels, const std::atomic<bool>& cancelled) const;
+
+    /// The values of all bands at a place in units of the map's system; none where the raster has no pixel.
+    /// Raises for damaged data.
+    std::vector<RasterValue> ValuesAt(const QString& mapSystem, QPointF place) const;
 
 private:
     QString m_path;

@@ -52,6 +52,12 @@ QString AssumedSystem(GDALDataset& raster, const RasterSystems& systems)
 using TranslateOptions = std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>;
 using WarpOptions = std::unique_ptr<GDALWarpAppOptions, decltype(&GDALWarpAppOptionsFree)>;
 
+// Without this, places would be shown again outside the valid area of a world projection.
+class OnEarthOnly
+{
+    CPLConfigOptionSetter m_option{"CHECK_WITH_INVERT_PROJ", "YES", false};
+};
+
 // Releases a dataset that others may still read from.
 struct Releaser {
     void operator()(GDALDataset* dataset) const { dataset->ReleaseRef(); }
@@ -119,8 +125,10 @@ Box PlacedBox(GDALDataset& raster, const Box& own, const RasterSystems& systems)
     return Transformed(WithinWorld(own, system, map), system, map);
 }
 
-// As GDAL would make a raster of it in the map's system.
-RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
+using Transformer = std::unique_ptr<void, decltype(&GDALDestroyGenImgProjTransformer)>;
+
+// From the raster's pixels to map units; nullptr if GDAL knows no way.
+Transformer TransformerToMap(GDALDataset& raster, const RasterSystems& systems)
 {
     const QByteArray system = KnownSystemText(systems.map).toUtf8();
     const QByteArray assumed = AssumedSystem(raster, systems).toUtf8();
@@ -129,8 +137,15 @@ RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
         options.SetNameValue("DST_SRS", system.constData());
     if (!assumed.isEmpty())
         options.SetNameValue("SRC_SRS", assumed.constData());
-    void* transformer
-        = GDALCreateGenImgProjTransformer2(GDALDataset::ToHandle(&raster), nullptr, options.List());
+    return {
+        GDALCreateGenImgProjTransformer2(GDALDataset::ToHandle(&raster), nullptr, options.List()),
+        GDALDestroyGenImgProjTransformer};
+}
+
+// As GDAL would make a raster of it in the map's system.
+RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
+{
+    const Transformer transformer = TransformerToMap(raster, systems);
     if (!transformer)
         return {};
     std::array<double, 6> transform = {};
@@ -138,9 +153,8 @@ RasterPlace SuggestedPlace(GDALDataset& raster, const RasterSystems& systems)
     int width = 0;
     int height = 0;
     const CPLErr result = GDALSuggestedWarpOutput2(
-        GDALDataset::ToHandle(&raster), GDALGenImgProjTransform, transformer, transform.data(), &width,
+        GDALDataset::ToHandle(&raster), GDALGenImgProjTransform, transformer.get(), transform.data(), &width,
         &height, box.data(), 0);
-    GDALDestroyGenImgProjTransformer(transformer);
     const bool known = result == CE_None
         && std::all_of(box.begin(), box.end(), [](double value) { return std::isfinite(value); });
     return known ? RasterPlace{{box[0], box[1], box[2], box[3]}, std::abs(transform[1])} : RasterPlace();
@@ -164,6 +178,21 @@ RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems)
     return {placed, std::sqrt(placed.Width() * placed.Height() / pixels)};
 }
 
+std::optional<QPoint> PixelAt(GDALDataset& raster, const RasterSystems& systems, QPointF place)
+{
+    const OnEarthOnly onEarthOnly;
+    const Transformer transformer = TransformerToMap(raster, systems);
+    double x = place.x();
+    double y = place.y();
+    double z = 0;
+    int isKnown = FALSE;
+    if (!transformer || !GDALGenImgProjTransform(transformer.get(), TRUE, 1, &x, &y, &z, &isKnown))
+        return std::nullopt;
+    const bool isWithin
+        = isKnown && x >= 0 && y >= 0 && x < raster.GetRasterXSize() && y < raster.GetRasterYSize();
+    return isWithin ? std::optional(QPoint(int(x), int(y))) : std::nullopt;
+}
+
 std::unique_ptr<GDALDataset>
 WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& target, bool blend)
 {
@@ -172,8 +201,7 @@ WarpRaster(GDALDataset& raster, const RasterPlace& place, const RasterTarget& ta
     const auto thinned = Thinned(raster, int(step));
     if (!thinned)
         return nullptr;
-    // Without this, places would be shown again outside the valid area of a world projection.
-    const CPLConfigOptionSetter onEarthOnly("CHECK_WITH_INVERT_PROJ", "YES", false);
+    const OnEarthOnly onEarthOnly;
     CPLStringList arguments = Arguments(WarpArguments(raster, target, blend));
     const WarpOptions options(GDALWarpAppOptionsNew(arguments.List(), nullptr), GDALWarpAppOptionsFree);
     GDALDatasetH source = GDALDataset::ToHandle(thinned.get());

@@ -3,10 +3,13 @@
 
 #include "mapkit/coordinates/Box.h"
 
+#include <QPoint>
+#include <QPointF>
 #include <QSize>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class GDALDataset;
 
@@ -36,6 +39,9 @@ QString SystemOfRaster(GDALDataset& raster);
 
 /// Finds the raster's place in a map. A raster without a system is assumed to have the map's system.
 RasterPlace PlaceRaster(GDALDataset& raster, const RasterSystems& systems);
+
+/// The raster's pixel at a place in map units, counted from its upper left one; nothing where it has none.
+std::optional<QPoint> PixelAt(GDALDataset& raster, const RasterSystems& systems, QPointF place);
 
 /// A virtual raster of the target's size whose pixels are computed when they are read, from source pixels
 /// thinned to about its resolution. Its last band is 0 where there is no picture. blend: pixels may be mixed

@@ -20,6 +20,10 @@ namespace {
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr double Padding = 2; // pixels around a label that no other may enter
 constexpr double HaloWidth = 3; // pixels, half of it outside the letters
+constexpr float LightHalo = 0.7F; // least lightness
+constexpr float DarkHalo = 0.3F; // greatest lightness
+constexpr float LightestOnLight = 0.35F;
+constexpr float DarkestOnDark = 0.75F;
 constexpr double Detail = 1; // pixels by which geometry may be simplified here
 constexpr double SameTextApart = 220; // pixels between labels of lines with the same text
 constexpr double SymbolGrid = 4; // pixels
@@ -189,6 +193,23 @@ private:
     std::vector<Label> m_labels;
 };
 
+QColor HaloOn(const QColor& background)
+{
+    const auto lightness = float(background.lightnessF());
+    const bool isClear = lightness >= LightHalo || lightness <= DarkHalo;
+    return isClear ? QColor(background.rgb()) : QColor(Qt::white);
+}
+
+// The layer's colour, as dark or as light as the halo needs it.
+QColor TextOn(const QColor& halo, const QColor& colour)
+{
+    const QColor text = colour.isValid() ? colour : QColor(Qt::black);
+    const auto own = float(text.lightnessF());
+    const bool isDark = halo.lightnessF() <= DarkHalo;
+    const float lightness = isDark ? std::max(own, DarkestOnDark) : std::min(own, LightestOnLight);
+    return QColor::fromHslF(std::max(0.F, float(text.hslHueF())), float(text.hslSaturationF()), lightness);
+}
+
 } // namespace
 
 QFont LabelFont()
@@ -211,8 +232,9 @@ PlaceLabels(std::span<const MapLayer> layers, const MapView& view, const std::at
     return placer.Take();
 }
 
-void PaintLabels(QPainter& painter, std::span<const Label> labels)
+void PaintLabels(QPainter& painter, std::span<const Label> labels, const QColor& background)
 {
+    const QColor halo = HaloOn(background);
     const QFont font = LabelFont();
     const QFontMetricsF metrics(font);
     painter.save();
@@ -226,8 +248,8 @@ void PaintLabels(QPainter& painter, std::span<const Label> labels)
         painter.save();
         painter.translate(label.spot.centre);
         painter.rotate(label.spot.angle);
-        painter.strokePath(letters, QPen(Qt::white, HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.setPen(label.colour);
+        painter.strokePath(letters, QPen(halo, HaloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(TextOn(halo, label.colour));
         painter.drawText(origin, label.text);
         painter.restore();
     }

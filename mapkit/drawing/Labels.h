@@ -34,8 +34,9 @@ QFont LabelFont();
 std::vector<Label>
 PlaceLabels(std::span<const MapLayer> layers, const MapView& view, const std::atomic<bool>& cancelled);
 
-/// Paints the labels, each with a halo that separates it from the map. painter: in logical pixels of the
-/// view.
-void PaintLabels(QPainter& painter, std::span<const Label> labels);
+/// Paints the labels, each with a halo that separates it from the map: in the colour under the map if that is
+/// light or dark, else in white. Letters that are hardly darker or lighter are made so. painter: in logical
+/// pixels of the view.
+void PaintLabels(QPainter& painter, std::span<const Label> labels, const QColor& background = Qt::white);
 
 } // namespace Orvane

@@ -23,7 +23,8 @@ enum class DrawMode {
     Hidden = 2, ///< not drawn
 };
 
-/// What the user may do with a layer's features on the map; nothing of it concerns rasters.
+/// What the user may do with a layer's features on the map. Of rasters only the values are shown, if they are
+/// hitable and enquirable.
 struct LayerFlags {
     bool selectable = true;
     bool locked = false; ///< its features cannot be moved

@@ -10,12 +10,13 @@ namespace Orvane {
 namespace {
 
 void PaintSheets(
-    QPainter& painter, const std::vector<Sheet>& sheets, const MapView& view,
-    const std::atomic<bool>& cancelled)
+    QPainter& painter, std::vector<Sheet> sheets, const MapView& view, const std::atomic<bool>& cancelled,
+    const QColor& background)
 {
     painter.save();
     painter.setClipRect(QRectF({0, 0}, QSizeF(view.Size())), Qt::IntersectClip);
-    for (const Sheet& sheet : sheets) {
+    for (Sheet& sheet : sheets) {
+        sheet.background = background;
         painter.setOpacity(SheetOpacity(sheet));
         PaintSheet(painter, sheet, view, cancelled);
     }
@@ -26,19 +27,19 @@ void PaintSheets(
 
 bool PaintMap(
     QPainter& painter, const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator,
-    const std::atomic<bool>& cancelled)
+    const std::atomic<bool>& cancelled, const QColor& background)
 {
-    PaintSheets(painter, PlanSheets(layers, view, scaleDenominator), view, cancelled);
+    PaintSheets(painter, PlanSheets(layers, view, scaleDenominator), view, cancelled, background);
     return !cancelled;
 }
 
 void PaintMapLabels(
     QPainter& painter, const std::vector<MapLayer>& layers, const MapView& view, double scaleDenominator,
-    const std::atomic<bool>& cancelled)
+    const std::atomic<bool>& cancelled, const QColor& background)
 {
     std::vector<Sheet> sheets = PlanSheets(layers, view, scaleDenominator);
     std::erase_if(sheets, [](const Sheet& sheet) { return !sheet.labels; });
-    PaintSheets(painter, sheets, view, cancelled);
+    PaintSheets(painter, std::move(sheets), view, cancelled, background);
 }
 
 } // namespace Orvane

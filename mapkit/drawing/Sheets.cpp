@@ -130,7 +130,7 @@ void PaintSheet(
     QPainter& painter, const Sheet& sheet, const MapView& view, const std::atomic<bool>& cancelled)
 {
     if (sheet.labels)
-        return PaintLabels(painter, PlaceLabels(sheet.layers, view, cancelled));
+        return PaintLabels(painter, PlaceLabels(sheet.layers, view, cancelled), sheet.background);
     for (const MapLayer& layer : sheet.layers)
         PaintLayer(painter, layer, view, cancelled);
 }

@@ -4,6 +4,7 @@
 #include "mapkit/drawing/MapLayer.h"
 #include "mapkit/drawing/MapView.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPoint>
 
@@ -23,6 +24,7 @@ struct Sheet {
     std::vector<MapLayer> layers; ///< bottom first; at least one
     bool backdrop = false; ///< drawn pale
     bool labels = false; ///< shows the layers' labels, not their features
+    QColor background = Qt::white; ///< under the map; for the halos of labels
 
     /// Whether one of the layers is a raster.
     bool HasRaster() const;

@@ -27,7 +27,6 @@ constexpr float PaleColour = 0.6f; // lightness from which a colour is too pale 
 constexpr float StrongSaturation = 0.5f;
 constexpr double ThinnestCased = 4; // pixels
 constexpr double EdgePart = 0.15; // of a cased line's width, on each side
-constexpr float LightestText = 0.35f;
 
 QColor OpaqueFromBgr(qint32 bgr)
 {
@@ -134,13 +133,6 @@ qint32 BgrOf(const QColor& colour)
     return colour.red() | colour.green() << 8 | colour.blue() << 16;
 }
 
-// Letters are on a white halo, so colours that are too light are darkened.
-QColor TextColour(const QColor& colour)
-{
-    const double lightness = std::min(colour.lightnessF(), LightestText);
-    return QColor::fromHslF(std::max(0.f, colour.hslHueF()), colour.hslSaturationF(), float(lightness));
-}
-
 } // namespace
 
 double LayerLook::Reach() const
@@ -191,7 +183,7 @@ LayerLook LookOf(const DrawingValues& values, const IShellServices& services, do
     look.outline = OutlineOf(values, pixelsPerMillimetre);
     look.fill = FillOf(values, services);
     look.symbol = ColourFromBgr(values.color).value_or(QColor::fromRgb(OwnSymbolColour));
-    look.text = TextColour(OpaqueFromBgr(values.color));
+    look.text = OpaqueFromBgr(values.color);
     if (RendererStyles::Has(values.style, RendererStyles::Cased))
         look.cased = CasedLineOf(values, look.outline);
     look.symbolRadius = 2 + PenWidth(values.lineThickness, pixelsPerMillimetre) / 2;

@@ -48,7 +48,7 @@ struct LayerLook {
     QBrush fill;
     QColor symbol; ///< colour of points
     double symbolRadius = 3; ///< logical pixels
-    QColor text; ///< of labels
+    QColor text; ///< of labels, whose letters are made darker or lighter than their halo
     std::optional<CasedLine> cased; ///< for renderer styles with cased lines
 
     /// The largest distance from a feature's geometry at which anything is painted, in logical pixels.

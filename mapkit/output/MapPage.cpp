@@ -149,7 +149,7 @@ void MapPage::PaintMapFrame(QPainter& painter, const std::atomic<bool>& cancelle
 void MapPage::PaintLayers(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
     if (KnowsPatterns(painter))
-        PaintMap(painter, m_contents.layers, m_view, ScaleDenominator(), cancelled);
+        PaintMap(painter, m_contents.layers, m_view, ScaleDenominator(), cancelled, m_contents.background);
     else
         PaintWithPictures(painter, cancelled);
 }
@@ -170,7 +170,7 @@ void MapPage::PaintWithPictures(QPainter& painter, const std::atomic<bool>& canc
         }
         PaintMap(painter, {layer}, m_view, denominator, cancelled);
     }
-    PaintMapLabels(painter, m_contents.layers, m_view, denominator, cancelled);
+    PaintMapLabels(painter, m_contents.layers, m_view, denominator, cancelled, m_contents.background);
 }
 
 void MapPage::PaintScaleBar(QPainter& painter) const

@@ -46,6 +46,14 @@ std::vector<SystemQuestion::Layer> SystemsOf(const MapSession& session)
     return layers;
 }
 
+QStringList LinesOf(const ImportPlan& plan)
+{
+    QStringList lines = plan.NoteTexts(MostNames);
+    if (!lines.isEmpty())
+        lines << MapSystemActions::tr("Layers > Layer Properties... changes this.");
+    return lines;
+}
+
 } // namespace
 
 MapSystemActions::MapSystemActions(QWidget& window, QMenu& menu, QStatusBar& bar, MapNotice& notice)
@@ -68,6 +76,10 @@ void MapSystemActions::Use(MapSession& session)
     m_session = &session;
     m_shown = session.Document().System();
     m_notice.Show({});
+    m_toldLast.clear();
+    session.SetImportQuestions(
+        {[this](ImportPlan& plan, QWidget* over) { Settle(plan, over); },
+         [this](const ImportPlan& plan) { TellWithNextReading(plan); }});
     ShowSystem();
     connect(&session, &MapSession::LayersRead, this, &MapSystemActions::OnRead);
 }
@@ -83,7 +95,7 @@ void MapSystemActions::ShowSystem()
     m_button->setAccessibleName(tr("Coordinate system of the map: %1").arg(title));
 }
 
-void MapSystemActions::Settle(ImportPlan& plan)
+void MapSystemActions::Settle(ImportPlan& plan, QWidget* over)
 {
     const QStringList unknown = plan.Unknown();
     if (unknown.isEmpty())
@@ -97,17 +109,21 @@ void MapSystemActions::Settle(ImportPlan& plan)
                   unknown.mid(0, MostNames).join(QLatin1String(", "))
                   + (unknown.size() > MostNames ? QStringLiteral(", ...") : QString()));
     question.layers = SystemsOf(*m_session);
-    const QString system = SystemChooser::Ask(m_catalogue, question, &m_window);
+    const QString system = SystemChooser::Ask(m_catalogue, question, over);
     if (!system.isEmpty())
         plan.Choose(system);
 }
 
 void MapSystemActions::Tell(const ImportPlan& plan)
 {
-    QStringList lines = plan.NoteTexts(MostNames);
-    if (!lines.isEmpty())
-        lines << tr("Layers > Layer Properties... changes this.");
-    m_notice.Show(lines);
+    m_notice.Show(LinesOf(plan));
+}
+
+// The map may get its system by that, which takes away what was told before.
+void MapSystemActions::TellWithNextReading(const ImportPlan& plan)
+{
+    m_toldLast = LinesOf(plan);
+    m_notice.Show(m_toldLast);
 }
 
 void MapSystemActions::Ask()
@@ -131,9 +147,10 @@ void MapSystemActions::OnRead()
     Guard(&m_window, [this] {
         ShowSystem();
         const QString system = m_session->Document().System();
+        const QStringList told = std::exchange(m_toldLast, {});
         if (std::exchange(m_shown, system) == system)
             return;
-        m_notice.Show(WithoutPlaceTexts());
+        m_notice.Show(told + WithoutPlaceTexts());
         emit SystemShown();
     });
 }

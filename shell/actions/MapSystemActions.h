@@ -33,9 +33,9 @@ public:
 
     /// The systems to choose from.
     SystemCatalogue& Catalogue() { return m_catalogue; }
-    /// Asks for the system of the data of which nothing was found out, if there are any. When the user
-    /// cancels, they stay as they are.
-    void Settle(ImportPlan& plan);
+    /// Asks over the window for the system of the data of which nothing was found out, if there are any. When
+    /// the user cancels, they stay as they are.
+    void Settle(ImportPlan& plan, QWidget* over);
     /// Tells what was assumed, without waiting for the user.
     void Tell(const ImportPlan& plan);
 
@@ -47,6 +47,7 @@ signals:
 
 private:
     void Ask();
+    void TellWithNextReading(const ImportPlan& plan);
     void OnRead();
     QStringList WithoutPlaceTexts() const;
 
@@ -56,6 +57,7 @@ private:
     MapSession* m_session = nullptr;
     SystemCatalogue m_catalogue;
     QString m_shown; // the system
+    QStringList m_toldLast; // until the map is read
 };
 
 } // namespace Orvane

@@ -14,8 +14,8 @@
 
 namespace Orvane {
 
-NewLayerDialog::NewLayerDialog(const QString& dataFile, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::NewLayerDialog>())
+NewLayerDialog::NewLayerDialog(const QString& dataFile, Look look, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::NewLayerDialog>()), m_look(std::move(look))
 {
     m_ui->setupUi(this);
     m_ui->cmbKind->addItems({tr("Points"), tr("Lines"), tr("Areas")});
@@ -47,7 +47,7 @@ QString NewLayerDialog::File() const
     return path.trimmed().isEmpty() ? QString() : QFileInfo(path.trimmed()).absoluteFilePath();
 }
 
-const SourceLayer& NewLayerDialog::Source() const
+const OfferedLayer& NewLayerDialog::Source() const
 {
     return m_layers.at(size_t(m_ui->cmbSourceLayer->currentIndex()));
 }
@@ -100,12 +100,12 @@ void NewLayerDialog::ShowSource()
     m_shownSource = File();
     m_ui->cmbSourceLayer->clear();
     m_ui->lblProblem->setText(ReadSource());
-    for (const SourceLayer& layer : m_layers)
-        m_ui->cmbSourceLayer->addItem(NameInText(layer.name));
+    for (const OfferedLayer& layer : m_layers)
+        m_ui->cmbSourceLayer->addItem(NameInText(layer.title));
     UpdateEnabled();
 }
 
-// Returns why there is no layer; empty when there is one, or no source is needed yet.
+// Returns what cannot be read; empty when all can, or no source is needed yet.
 QString NewLayerDialog::ReadSource()
 {
     m_layers.clear();
@@ -113,19 +113,19 @@ QString NewLayerDialog::ReadSource()
         return {};
     try {
         const ReadingBound soon(ReadingBound::WhileUserWaits);
-        m_layers = DataSource(File()).Layers();
+        LayerOffer offer = m_look(File());
+        m_layers = std::move(offer.layers);
+        return offer.problem;
     } catch (const RunTimeError& error) {
         return error.Description();
     }
-    return m_layers.empty() ? tr("\"%1\" contains nothing to draw.").arg(QFileInfo(File()).fileName())
-                            : QString();
 }
 
 void NewLayerDialog::TakeNameOfSource()
 {
     const int index = m_ui->cmbSourceLayer->currentIndex();
     if (!m_nameIsOwn && index >= 0 && size_t(index) < m_layers.size())
-        m_ui->edtName->setText(m_layers[size_t(index)].name);
+        m_ui->edtName->setText(m_layers[size_t(index)].title);
 }
 
 void NewLayerDialog::UpdateEnabled()

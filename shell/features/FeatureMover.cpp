@@ -13,6 +13,8 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace Orvane {
 
@@ -35,17 +37,54 @@ const MapLayer* LayerOf(const MapSession& session, qint32 layerID)
     return found == layers.end() ? nullptr : &*found;
 }
 
+// What tells how the map shows its data.
+struct MapData {
+    std::vector<LayerSource> sources;
+    QString system;
+};
+
+MapData MapDataOf(MapSession& session)
+{
+    return {session.Document().Sources(), session.Document().System()};
+}
+
+// A geometry as the layers of its data show it, by their choice and the system chosen for the data.
+using ShownGeometry = std::map<std::pair<QString, QString>, FeatureSet>;
+
+std::pair<QString, QString> ReadingOf(const LayerSource& source)
+{
+    return {source.choice.ToText(), source.system};
+}
+
+// The points of a table stay, whatever geometry its rows have too.
+bool ShowsGeometryOf(const LayerSource& source, const LayerSource& other)
+{
+    return source.path == other.path && source.ogrLayer == other.ogrLayer && source.choice.columns.IsEmpty();
+}
+
+ShownGeometry
+Shown(const MapData& map, const LayerSource& changed, const QByteArray& geometry, qint64 featureID)
+{
+    ShownGeometry shown;
+    for (const LayerSource& source : map.sources) {
+        if (ShowsGeometryOf(source, changed) && !shown.contains(ReadingOf(source)))
+            shown[ReadingOf(source)] = SourceEditor(source).Shown(geometry, featureID, map.system);
+    }
+    return shown;
+}
+
 // Replaces the feature in every layer that shows the same data.
-void ShowGeometry(MapSession& session, const GeometryChange& change, const FeatureSet& now)
+void ShowGeometry(MapSession& session, const GeometryChange& change, const ShownGeometry& shown)
 {
     SourceContents contents;
     for (const LayerSource& source : session.Document().Sources()) {
-        if (source.path != change.source.path || source.ogrLayer != change.source.ogrLayer)
+        const auto now = shown.find(ReadingOf(source));
+        if (!ShowsGeometryOf(source, change.source) || now == shown.end())
             continue;
         const MapLayer* layer = LayerOf(session, source.layerID);
         if (layer && layer->features)
-            contents.features[source.layerID]
-                = std::make_shared<const FeatureSet>(WithFeature(*layer->features, change.featureID, now));
+            contents.features[source.layerID] = std::make_shared<const FeatureSet>(
+                WithFeature(*layer->features, change.featureID, now->second));
     }
     session.TakeFeatures(contents);
 }
@@ -74,15 +113,15 @@ public:
 private:
     void Swap(QByteArray& expected, QByteArray& wanted)
     {
-        FeatureSet shown;
-        const QString system = m_session.Document().System();
+        ShownGeometry shown;
+        const MapData map = MapDataOf(m_session);
         RunWithProgress(
             &m_window, QCoreApplication::translate("FeatureMover", "Moving the feature"),
             [&](Progress& progress) {
                 if (Stored(m_change.source, m_change.featureID, progress) != expected)
                     throw RunTimeError(int(HostError::StepOutdated), Outdated());
                 wanted = Written(m_change.source, m_change.featureID, wanted);
-                shown = SourceEditor(m_change.source).Shown(wanted, m_change.featureID, system);
+                shown = Shown(map, m_change.source, wanted, m_change.featureID);
             });
         ShowGeometry(m_session, m_change, shown);
     }
@@ -120,17 +159,17 @@ void FeatureMover::Check(const FeatureKey& key)
 void FeatureMover::Move(const FeatureKey& key, QPointF offset)
 {
     GeometryChange change{SourceOf(m_session, key.layerID), key.featureID, {}, {}};
-    FeatureSet shown;
-    const QString system = m_session.Document().System();
+    ShownGeometry shown;
+    const MapData map = MapDataOf(m_session);
     RunWithProgress(&m_window, tr("Moving the feature"), [&](Progress& progress) {
         {
             const ReadingBound untilCancelled(progress.CancelledFlag());
             SourceEditor editor(change.source);
             change.before = editor.Geometry(change.featureID);
-            change.after = editor.Moved(change.before, offset, system);
+            change.after = editor.Moved(change.before, offset, map.system);
         }
         change.after = Written(change.source, change.featureID, change.after);
-        shown = SourceEditor(change.source).Shown(change.after, change.featureID, system);
+        shown = Shown(map, change.source, change.after, change.featureID);
     });
     ShowGeometry(m_session, change, shown);
     const MapLayer* layer = LayerOf(m_session, key.layerID);

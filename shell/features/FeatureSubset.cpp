@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/features/FeatureSubset.h"
 
+#include <utility>
+
 namespace Orvane {
 
 namespace {
@@ -29,6 +31,7 @@ FeatureSet WithFeature(const FeatureSet& features, qint64 featureID, const Featu
 {
     FeatureSet result;
     result.SetSourceSystem(features.SourceSystem());
+    result.AddLeftOut(features.LeftOutCount());
     bool replaced = false;
     for (size_t i = 0; i < features.Features().size(); ++i) {
         if (features.FeatureId(i) != featureID) {
@@ -37,7 +40,8 @@ FeatureSet WithFeature(const FeatureSet& features, qint64 featureID, const Featu
         }
         for (size_t now = 0; !replaced && now < replacement.Features().size(); ++now)
             Copy(replacement, now, result);
-        replaced = true;
+        if (!std::exchange(replaced, true))
+            result.AddLeftOut(replacement.LeftOutCount());
     }
     return result;
 }

@@ -190,6 +190,21 @@ std::vector<Hit> HitTest::At(QPointF pixel, const Condition& wanted) const
     return hits;
 }
 
+std::vector<const MapLayer*> HitTest::RastersAt(QPointF pixel, const Condition& wanted) const
+{
+    Box place;
+    place.Add(m_view.ToMap(pixel));
+    std::vector<const MapLayer*> rasters;
+    for (const MapLayer& layer : m_layers) {
+        if (layer.raster && layer.Bounds().Intersects(place) && wanted(layer))
+            rasters.push_back(&layer);
+    }
+    std::sort(rasters.begin(), rasters.end(), [](const MapLayer* a, const MapLayer* b) {
+        return b->Height() < a->Height();
+    });
+    return rasters;
+}
+
 std::vector<Hit> HitTest::Within(const QRectF& pixels, const Condition& wanted) const
 {
     Box box;

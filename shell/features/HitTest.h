@@ -27,7 +27,7 @@ struct Hit {
 ///     HitTest test(canvas.Layers(), canvas.View());
 ///     for (const Hit& hit : test.At(pixel, [](const MapLayer& layer) { return layer.flags.enquirable; }))
 ///
-/// Refers to the layers, which outlive it. Layers without features are never hit; the condition decides
+/// Refers to the layers, which outlive it. Layers without data are never found; the condition decides
 /// whether a layer must be shown.
 class HitTest
 {
@@ -39,6 +39,8 @@ public:
     /// The features within a few pixels of the pixel, of layers that meet the condition: topmost layer first,
     /// within a layer the nearest, then the last drawn; areas without fill that are hit inside come last.
     std::vector<Hit> At(QPointF pixel, const Condition& wanted) const;
+    /// The layers that meet the condition and whose raster covers the pixel; topmost first.
+    std::vector<const MapLayer*> RastersAt(QPointF pixel, const Condition& wanted) const;
     /// The features that touch the rectangle, in pixels; topmost layer first.
     std::vector<Hit> Within(const QRectF& pixels, const Condition& wanted) const;
     /// The map point to snap to: the nearest vertex in reach of the pixel, else the nearest point of an edge.

@@ -3,13 +3,15 @@
 
 #include "hostkit/StandardClient.h"
 #include "mapkit/common/Guard.h"
-#include "mapkit/coordinates/CoordinateSystems.h"
-#include "mapkit/coordinates/SystemGuess.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/EmptyLayer.h"
 #include "mapkit/document/MapDocument.h"
 #include "messages/NameInText.h"
 #include "shell/dialogs/NewLayerDialog.h"
 #include "shell/map/DataImport.h"
+#include "shell/map/FoundLayers.h"
+#include "shell/map/ImportPlan.h"
+#include "shell/window/RunWithProgress.h"
 #include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/Transaction.h>
@@ -34,28 +36,47 @@ QString DataFileOf(const MapDocument& document)
     return map.absoluteDir().filePath(map.completeBaseName() + QLatin1String("-layers.gpkg"));
 }
 
+// As for data that are opened, with the columns that are guessed for tables.
+LayerOffer OfferOf(const QString& path)
+{
+    Progress progress;
+    const FoundData found = WithTablesAsLayers(LookInto({path}, progress), progress);
+    LayerOffer offer;
+    offer.problem = found.problems.join(QLatin1Char('\n'));
+    offer.layers.reserve(LayerCount(found));
+    for (const FoundData::Source& source : found.sources) {
+        for (const SourceLayer& layer : source.layers)
+            offer.layers.push_back({source.path, layer, LayerTitle(source.path, layer)});
+    }
+    return offer;
+}
+
 } // namespace
 
 qint32 LayerCreation::Ask(QWidget* owner)
 {
-    NewLayerDialog dialog(DataFileOf(m_document), owner);
+    NewLayerDialog dialog(DataFileOf(m_document), OfferOf, owner);
     while (dialog.exec() == QDialog::Accepted) {
         qint32 layerID = NoLayer;
-        if (Guard(&dialog, [&] { layerID = Make(dialog); }))
+        if (Guard(&dialog, [&] { layerID = Make(dialog, owner); }))
             return layerID;
     }
     return NoLayer;
 }
 
-qint32 LayerCreation::Make(const NewLayerDialog& wishes)
+qint32 LayerCreation::Make(const NewLayerDialog& wishes, QWidget* owner)
 {
+    const bool isEmpty = wishes.IsEmptyLayer();
+    const ImportPlan plan = isEmpty ? ImportPlan() : PlanFor(wishes.Source(), owner);
     qint32 layerID = NoLayer;
     m_client.RecordStep([&] {
         Transaction transaction(m_document.Database());
-        layerID = wishes.IsEmptyLayer() ? MakeEmpty(wishes) : MakeFromSource(wishes);
+        layerID = isEmpty ? MakeEmpty(wishes) : MakeFromSource(plan, wishes.Name());
         transaction.Commit();
         return tr("Create \"%1\"").arg(NameInStep(wishes.Name()));
     });
+    if (!isEmpty && m_questions.tell)
+        m_questions.tell(plan);
     return layerID;
 }
 
@@ -74,15 +95,26 @@ qint32 LayerCreation::MakeEmpty(const NewLayerDialog& wishes)
     return m_document.AddLayer(layer);
 }
 
-qint32 LayerCreation::MakeFromSource(const NewLayerDialog& wishes)
+ImportPlan LayerCreation::PlanFor(const OfferedLayer& offered, QWidget* owner) const
 {
-    SourceLayer source = wishes.Source();
-    if (source.system.isEmpty())
-        source.chosenSystem = GuessSystem(source.extent, {m_document.System(), {}});
+    FoundData data;
+    data.sources.push_back({offered.path, {offered.layer}});
+    ImportPlan plan = ReadOrGiveUp(
+        owner, tr("Opening map data"), [data, target = TargetOf(m_document)](Progress& progress) {
+            return PlanImport(data, target, progress);
+        });
+    if (m_questions.settle)
+        m_questions.settle(plan, owner);
+    return plan;
+}
+
+qint32 LayerCreation::MakeFromSource(const ImportPlan& plan, const QString& name)
+{
+    const FoundData::Source& source = plan.data.sources.at(0);
     if (m_document.System().isEmpty())
-        m_document.SetSystem(SystemToShow({{SystemOf(source), source.extent}}));
-    NewLayer layer = LayerFor(wishes.File(), source, m_document.Sources().size());
-    layer.name = wishes.Name();
+        m_document.SetSystem(SystemFor(m_document, plan.data));
+    NewLayer layer = LayerFor(source.path, source.layers.at(0), m_document.Sources().size());
+    layer.name = name;
     return m_document.AddLayer(layer);
 }
 

@@ -13,7 +13,6 @@
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/drawing/ReprojectedView.h"
 #include "mapkit/output/PageSettings.h"
-#include "shell/map/LayerCreation.h"
 #include "shell/map/SourceText.h"
 #include "shell/window/RunWithProgress.h"
 #include "store/ILayerStore.h"
@@ -52,7 +51,7 @@ MapSession::MapSession(
     m_client.SetStartupFile(StartupFile());
     m_client.SetAppliesSchemeAtOpening(true);
     m_client.SetLayerMaker(
-        [this](QWidget* owner) { return LayerCreation(*m_document, m_client).Ask(owner); });
+        [this](QWidget* owner) { return LayerCreation(*m_document, m_client, m_questions).Ask(owner); });
     m_client.SetMapScale([this] { return m_document->HasLayers() ? m_canvas.ScaleDenominator() : 0; });
     m_client.SetLayerSource([this](qint32 layerID) { return SourceText(m_document->SourceOf(layerID)); });
     m_client.SetChoiceFollower([this] { emit ChosenLayersChanged(); });

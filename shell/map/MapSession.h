@@ -5,6 +5,7 @@
 #include "hostkit/tracing/TracingClient.h"
 #include "mapkit/coordinates/Box.h"
 #include "shell/map/AttributeLoader.h"
+#include "shell/map/LayerCreation.h"
 #include "shell/map/LayerStates.h"
 #include "shell/map/MapLayers.h"
 #include "shell/map/ShellClient.h"
@@ -18,6 +19,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace Orvane {
 
@@ -78,6 +80,9 @@ public:
     /// Shows these data instead of those that the layers had.
     void TakeFeatures(const SourceContents& contents);
 
+    /// What the user is asked and told when a new layer takes the data of a file; nothing at first.
+    void SetImportQuestions(ImportQuestions questions) { m_questions = std::move(questions); }
+
 signals:
     /// The map's file is no longer at its path; the open map can still be saved under another name.
     void MapFileGone();
@@ -114,6 +119,7 @@ private:
     std::unique_ptr<MapDocument> m_document;
     MapLayers m_layers;
     LayerStates m_states;
+    ImportQuestions m_questions;
     AttributeLoader m_attributes;
     ShellClient m_client;
     std::unique_ptr<TracingClient> m_traced;

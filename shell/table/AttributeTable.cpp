@@ -40,6 +40,12 @@ QSize SizeOfWindow(const QWidget& window)
     return size.boundedTo(window.screen()->availableSize());
 }
 
+bool HasSameRows(const LayerSource& one, const LayerSource& other)
+{
+    return one.path == other.path && one.ogrLayer == other.ogrLayer && one.filter == other.filter
+        && one.choice == other.choice;
+}
+
 QString TaskText(TableReader::Task task)
 {
     switch (task) {
@@ -64,6 +70,7 @@ AttributeTable::AttributeTable(const TableLayer& layer, FeatureSelection& select
     m_ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     SetUpView();
+    SetUpFailure();
     m_selection = std::make_unique<TableSelection>(*m_ui->tblRows, m_model, selection, layer.source.layerID);
     ConnectActions();
     ConnectFind();
@@ -99,6 +106,16 @@ void AttributeTable::SetUpView()
         Guard(this, [&] { SortBy(column); });
     });
     ShowSorting();
+}
+
+void AttributeTable::SetUpFailure()
+{
+    QLabel& failure = *m_ui->lblFailure;
+    failure.setAutoFillBackground(true);
+    failure.setBackgroundRole(QPalette::ToolTipBase);
+    failure.setForegroundRole(QPalette::ToolTipText);
+    failure.setMargin(fontMetrics().height() / 4);
+    failure.hide();
 }
 
 void AttributeTable::ConnectActions()
@@ -166,15 +183,14 @@ void AttributeTable::ConnectReader()
     connect(&m_reader, &TableReader::Found, this, [this](const std::vector<qint64>& ids) {
         Guard(this, [&] { ShowFound(ids); });
     });
-    connect(&m_reader, &TableReader::Failed, this, [this](const QString& reason) {
-        Guard(this, [&] { ShowMessage(reason); });
+    connect(&m_reader, &TableReader::Failed, this, [this](TableReader::Task task, const QString& reason) {
+        Guard(this, [&] { TakeFailure(task, reason); });
     });
 }
 
 void AttributeTable::Follow(const TableLayer& layer)
 {
-    const bool isOther = layer.source.path != m_layer.source.path
-        || layer.source.ogrLayer != m_layer.source.ogrLayer || layer.source.filter != m_layer.source.filter;
+    const bool isOther = !HasSameRows(layer.source, m_layer.source);
     m_layer = layer;
     setWindowTitle(tr("Attributes of %1").arg(layer.name));
     m_selection->SetReachesMap(layer.isSelectable);
@@ -206,6 +222,7 @@ void AttributeTable::TakeColumns()
     if (m_model.Columns().empty())
         return ShowMessage(tr("The features of this layer have no attributes."));
     m_ui->pages->setCurrentWidget(m_ui->pageRows);
+    m_ui->lblFailure->hide();
     ShowCount();
     QComboBox& columns = *m_ui->cmbFindIn;
     QStringList names = {tr("All attributes")};
@@ -248,6 +265,7 @@ void AttributeTable::SortBy(int column)
 
 void AttributeTable::Sort()
 {
+    m_ui->lblFailure->hide();
     if (m_wanted.column >= 0)
         return m_reader.Sort(m_wanted.column, m_wanted.direction, QLocale());
     m_reader.CancelSort();
@@ -263,6 +281,7 @@ void AttributeTable::ShowSorting()
 void AttributeTable::FindNow()
 {
     m_findSoon.stop();
+    m_ui->lblFailure->hide();
     const QString words = m_ui->edtFind->text().trimmed();
     if (!words.isEmpty())
         return m_reader.Find({words, m_ui->cmbFindIn->currentIndex() - 1, QLocale()});
@@ -275,6 +294,19 @@ void AttributeTable::ShowFound(const std::vector<qint64>& ids)
 {
     m_model.SetFound(ids);
     ShowCount();
+}
+
+// A sort or a search that fails takes no rows away.
+void AttributeTable::TakeFailure(TableReader::Task task, const QString& reason)
+{
+    if (task != TableReader::Task::Sorting && task != TableReader::Task::Finding)
+        return ShowMessage(reason);
+    if (task == TableReader::Task::Sorting) {
+        m_wanted = m_shown;
+        ShowSorting();
+    }
+    m_ui->lblFailure->setText(tr("The rows stay as they were. %1").arg(reason));
+    m_ui->lblFailure->show();
 }
 
 void AttributeTable::OnSelectionChanged(bool onMap)

@@ -57,6 +57,7 @@ private:
     };
 
     void SetUpView();
+    void SetUpFailure();
     void ConnectActions();
     void ConnectFind();
     void ConnectReader();
@@ -67,6 +68,7 @@ private:
     void ShowSorting();
     void FindNow();
     void ShowFound(const std::vector<qint64>& ids);
+    void TakeFailure(TableReader::Task task, const QString& reason);
     void OnSelectionChanged(bool onMap);
     void ShowOnlySelected();
     void CopyRows();

@@ -12,8 +12,10 @@
 #include <OrvaneShellLib/RunTimeError.h>
 
 #include <QAction>
+#include <QHash>
 #include <QInputDialog>
 #include <QMenu>
+#include <QSet>
 
 #include <algorithm>
 
@@ -28,10 +30,16 @@ QStringList DifferentNames(const std::vector<const MapLayer*>& layers)
 {
     QStringList names;
     names.reserve(int(layers.size()));
+    QSet<QString> taken;
+    QHash<QString, int> numbers; // the last one that was given to a name
     for (const MapLayer* layer : layers) {
         QString name = layer->name;
-        for (int number = 2; names.contains(name); ++number)
+        while (taken.contains(name)) {
+            int& number = numbers[layer->name];
+            number = std::max(number + 1, 2);
             name = QStringLiteral("%1 (%2)").arg(layer->name).arg(number);
+        }
+        taken.insert(name);
         names << name;
     }
     return names;

@@ -26,7 +26,9 @@ TableSelection::TableSelection(
     connect(&features, &FeatureSelection::Changed, this, guarded(&TableSelection::TakeFromMap));
     connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, guarded(&TableSelection::NotePlace));
     connect(&model, &QAbstractItemModel::modelReset, this, guarded(&TableSelection::ReturnToPlace));
-    connect(&model, &QAbstractItemModel::rowsInserted, this, guarded(&TableSelection::SelectRows));
+    connect(&model, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
+        Guard(&m_view, [&] { SelectInserted(first, last); });
+    });
 }
 
 std::set<qint64> TableSelection::OnMap() const
@@ -103,11 +105,32 @@ void TableSelection::TakeFromView()
     emit Changed(false);
 }
 
+// Cleared first: an old and a new selection of many ranges are compared each with each.
 void TableSelection::SelectRows()
 {
     const QScopedValueRollback<bool> own(m_isOwnChange, true);
+    QItemSelectionModel& selected = *m_view.selectionModel();
+    selected.select(QItemSelection(), QItemSelectionModel::Clear);
+    selected.select(SelectionOf(m_model.RowsOf(m_ids)), QItemSelectionModel::Select);
+}
+
+void TableSelection::SelectInserted(int first, int last)
+{
+    std::vector<int> rows;
+    for (int row = first; row <= last && !m_ids.empty(); ++row) {
+        if (m_ids.contains(m_model.IDs()[size_t(row)]))
+            rows.push_back(row);
+    }
+    if (rows.empty())
+        return;
+    const QScopedValueRollback<bool> own(m_isOwnChange, true);
+    m_view.selectionModel()->select(SelectionOf(rows), QItemSelectionModel::Select);
+}
+
+// rows: ascending. Neighbours are one range.
+QItemSelection TableSelection::SelectionOf(const std::vector<int>& rows) const
+{
     QItemSelection selection;
-    const std::vector<int> rows = m_model.RowsOf(m_ids);
     const int lastColumn = m_model.columnCount() - 1;
     for (size_t begin = 0, end = 0; begin < rows.size() && lastColumn >= 0; begin = end) {
         for (end = begin + 1; end < rows.size() && rows[end] == rows[end - 1] + 1;)
@@ -115,7 +138,7 @@ void TableSelection::SelectRows()
         selection.append(
             QItemSelectionRange(m_model.index(rows[begin], 0), m_model.index(rows[end - 1], lastColumn)));
     }
-    m_view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    return selection;
 }
 
 void TableSelection::NotePlace()

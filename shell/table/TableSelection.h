@@ -3,6 +3,7 @@
 
 #include "shell/table/AttributeModel.h"
 
+#include <QItemSelection>
 #include <QObject>
 
 #include <optional>
@@ -53,6 +54,8 @@ private:
     void TakeFromMap();
     void TakeFromView();
     void SelectRows();
+    void SelectInserted(int first, int last);
+    QItemSelection SelectionOf(const std::vector<int>& rows) const;
     void NotePlace();
     void ReturnToPlace();
 

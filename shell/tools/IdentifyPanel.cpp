@@ -28,7 +28,8 @@ QTreeWidgetItem* AttributeItem(const FeatureAttribute& attribute, const QPalette
     auto* item = new QTreeWidgetItem({attribute.name, attribute.value});
     item->setToolTip(ValueColumn, PlainToolTip(attribute.value));
     if (attribute.isNull) {
-        item->setText(ValueColumn, IdentifyPanel::tr("no value"));
+        if (attribute.value.isEmpty())
+            item->setText(ValueColumn, IdentifyPanel::tr("no value"));
         item->setForeground(ValueColumn, palette.brush(QPalette::Disabled, QPalette::Text));
     }
     return item;
@@ -91,7 +92,8 @@ void IdentifyPanel::Clear()
 
 void IdentifyPanel::AddFeature(const IdentifiedFeature& feature)
 {
-    auto* top = new QTreeWidgetItem(m_tree, {feature.layerName, tr("Feature %1").arg(feature.key.featureID)});
+    const QString what = feature.isRaster ? tr("Raster") : tr("Feature %1").arg(feature.key.featureID);
+    auto* top = new QTreeWidgetItem(m_tree, {feature.layerName, what});
     top->setData(NameColumn, LayerRole, feature.key.layerID);
     top->setData(NameColumn, FeatureRole, feature.key.featureID);
     top->setToolTip(NameColumn, PlainToolTip(feature.layerName));
@@ -100,6 +102,7 @@ void IdentifyPanel::AddFeature(const IdentifiedFeature& feature)
     top->setFont(NameColumn, font);
     for (const FeatureAttribute& attribute : feature.attributes)
         top->addChild(AttributeItem(attribute, palette()));
+    top->setExpanded(feature.isRaster); // few values, which are what was asked for
 }
 
 void IdentifyPanel::TellCurrent(const QTreeWidgetItem* item)

@@ -20,7 +20,8 @@ class IdentifyPanel : public QDockWidget
 public:
     explicit IdentifyPanel(QWidget* parent);
 
-    /// Lists these, topmost first; the first one is expanded and current. reason: shown when there are none.
+    /// Lists these, topmost first; the first one is expanded and current, and rasters are expanded. reason:
+    /// shown when there are none.
     void Show(const std::vector<IdentifiedFeature>& features, const QString& reason);
     /// Lists nothing.
     void Clear();

@@ -8,6 +8,7 @@
 #include "shell/features/FeatureMover.h"
 #include "shell/map/MapSession.h"
 #include "shell/tools/IdentifyPanel.h"
+#include "shell/tools/RasterTexts.h"
 #include "shell/tools/StatusText.h"
 #include "shell/window/RunWithProgress.h"
 
@@ -27,26 +28,29 @@ constexpr QRgb SelectedColour = 0xffffc400;
 constexpr QRgb IdentifiedColour = 0xffe0457b;
 
 std::vector<FeatureAttribute>
-AttributesOf(const FeatureKey& key, const std::vector<LayerSource>& sources, Progress& progress)
+AttributesOf(const IdentifyQuestion& question, const std::vector<LayerSource>& sources, Progress& progress)
 {
     const auto source = std::find_if(sources.begin(), sources.end(), [&](const LayerSource& entry) {
-        return entry.layerID == key.layerID;
+        return entry.layerID == question.key.layerID;
     });
     if (source == sources.end())
         return {};
     progress.SetSubject(source->path);
-    return DataSource(source->path).Attributes(source->ogrLayer, key.featureID);
+    if (question.raster)
+        return ValuesAsAttributes(question.raster->ValuesAt(question.place));
+    return DataSource(source->path).Attributes(source->ogrLayer, question.key.featureID);
 }
 
-std::vector<std::vector<FeatureAttribute>>
-AttributesOf(const std::vector<FeatureKey>& keys, const std::vector<LayerSource>& sources, Progress& progress)
+std::vector<std::vector<FeatureAttribute>> AttributesOf(
+    const std::vector<IdentifyQuestion>& questions, const std::vector<LayerSource>& sources,
+    Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
     std::vector<std::vector<FeatureAttribute>> attributes;
-    attributes.reserve(keys.size());
-    for (const FeatureKey& key : keys) {
+    attributes.reserve(questions.size());
+    for (const IdentifyQuestion& question : questions) {
         progress.StopIfCancelled();
-        attributes.push_back(AttributesOf(key, sources, progress));
+        attributes.push_back(AttributesOf(question, sources, progress));
     }
     return attributes;
 }
@@ -65,7 +69,9 @@ ToolActions::ToolActions(QMainWindow& window, MapCanvas& canvas, QMenu& menu, QT
     : m_window(window), m_canvas(canvas), m_menu(menu), m_toolBar(toolBar),
       m_selected(canvas, SelectedColour), m_identified(canvas, IdentifiedColour), m_hover(canvas),
       m_zoom(canvas),
-      m_identify(canvas, [this](const std::vector<FeatureKey>& keys) { return ReadAttributes(keys); }),
+      m_identify(
+          canvas,
+          [this](const std::vector<IdentifyQuestion>& questions) { return ReadAttributes(questions); }),
       m_select(canvas, m_selection), m_measureLine(canvas, MeasureTool::Kind::Line),
       m_measureArea(canvas, MeasureTool::Kind::Area),
       m_move(
@@ -221,12 +227,13 @@ void ToolActions::ShowIdentified(const std::vector<IdentifiedFeature>& features)
     m_panel->raise();
 }
 
-std::vector<std::vector<FeatureAttribute>> ToolActions::ReadAttributes(const std::vector<FeatureKey>& keys)
+std::vector<std::vector<FeatureAttribute>>
+ToolActions::ReadAttributes(const std::vector<IdentifyQuestion>& questions)
 {
     return ReadOrGiveUp(
         &m_window, tr("Reading attributes"),
-        [keys, sources = m_session->Document().Sources()](Progress& progress) {
-            return AttributesOf(keys, sources, progress);
+        [questions, sources = m_session->Document().Sources()](Progress& progress) {
+            return AttributesOf(questions, sources, progress);
         });
 }
 

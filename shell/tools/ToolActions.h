@@ -56,7 +56,7 @@ private:
     void AddToggles();
     void ConnectTools();
     void ShowIdentified(const std::vector<IdentifiedFeature>& features);
-    std::vector<std::vector<FeatureAttribute>> ReadAttributes(const std::vector<FeatureKey>& keys);
+    std::vector<std::vector<FeatureAttribute>> ReadAttributes(const std::vector<IdentifyQuestion>& questions);
     void ForgetMove();
 
     QMainWindow& m_window;

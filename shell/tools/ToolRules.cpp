@@ -80,6 +80,11 @@ std::vector<Hit> ToolSearch::At(QPointF pixel) const
     return m_test.At(pixel, [this](const MapLayer& layer) { return Serves(layer); });
 }
 
+std::vector<const MapLayer*> ToolSearch::RastersAt(QPointF pixel) const
+{
+    return m_test.RastersAt(pixel, [this](const MapLayer& layer) { return Serves(layer); });
+}
+
 std::vector<Hit> ToolSearch::Within(const QRectF& pixels) const
 {
     return m_test.Within(pixels, [this](const MapLayer& layer) { return Serves(layer); });
@@ -93,15 +98,25 @@ std::optional<QPointF> ToolSearch::SnapPoint(QPointF pixel) const
 Miss ToolSearch::MissAt(QPointF pixel) const
 {
     for (const bool seen : {true, false}) {
-        const auto hits = m_test.At(pixel, [&](const MapLayer& layer) {
-            return layer.IsShownAt(m_denominator) == seen && !Serves(layer);
+        const MapLayer* layer = LayerAt(pixel, [&](const MapLayer& refused) {
+            return refused.IsShownAt(m_denominator) == seen && !Serves(refused);
         });
-        if (!hits.empty()) {
-            const MapLayer& layer = *hits.front().layer;
-            return {RefusalOf(layer, m_use, m_denominator), layer.name};
-        }
+        if (layer)
+            return {RefusalOf(*layer, m_use, m_denominator), layer->name};
     }
     return {};
+}
+
+// The topmost one; nullptr for none.
+const MapLayer* ToolSearch::LayerAt(QPointF pixel, const HitTest::Condition& wanted) const
+{
+    const std::vector<Hit> hits = m_test.At(pixel, wanted);
+    if (!hits.empty())
+        return hits.front().layer;
+    if (m_use != ToolUse::Identify)
+        return nullptr;
+    const std::vector<const MapLayer*> rasters = m_test.RastersAt(pixel, wanted);
+    return rasters.empty() ? nullptr : rasters.front();
 }
 
 bool ToolSearch::Serves(const MapLayer& layer) const

@@ -51,13 +51,16 @@ public:
 
     /// Like HitTest, but only for layers that are available for the use.
     std::vector<Hit> At(QPointF pixel) const;
+    /// Like HitTest, but only layers that are available for the use.
+    std::vector<const MapLayer*> RastersAt(QPointF pixel) const;
     std::vector<Hit> Within(const QRectF& pixels) const;
     std::optional<QPointF> SnapPoint(QPointF pixel) const;
 
-    /// Why At finds nothing there: a layer that is shown comes before one that is not.
+    /// Why there is nothing: a layer that is shown comes before one that is not. Only Identify uses rasters.
     Miss MissAt(QPointF pixel) const;
 
 private:
+    const MapLayer* LayerAt(QPointF pixel, const HitTest::Condition& wanted) const;
     bool Serves(const MapLayer& layer) const;
 
     HitTest m_test;

@@ -38,22 +38,6 @@ QString MenuName(QString name)
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-// The topmost first.
-std::vector<const MapLayer*> RastersAt(const std::vector<MapLayer>& layers, QPointF point, double denominator)
-{
-    Box place;
-    place.Add(point);
-    std::vector<const MapLayer*> rasters;
-    for (const MapLayer& layer : layers) {
-        if (layer.raster && layer.IsShownAt(denominator) && layer.Bounds().Intersects(place))
-            rasters.push_back(&layer);
-    }
-    std::sort(rasters.begin(), rasters.end(), [](const MapLayer* a, const MapLayer* b) {
-        return b->Height() < a->Height();
-    });
-    return rasters;
-}
-
 void AddTitle(QMenu& menu, const QString& name)
 {
     QAction* title = menu.addAction(MenuName(name));
@@ -108,14 +92,14 @@ std::vector<const MapLayer*> MapMenu::LayersAt(QPointF pixel) const
 {
     const double denominator = m_canvas.ScaleDenominator();
     const HitTest test(m_canvas.Layers(), m_canvas.View());
+    const auto isShown = [=](const MapLayer& layer) { return layer.IsShownAt(denominator); };
     std::vector<const MapLayer*> layers;
-    for (const Hit& hit :
-         test.At(pixel, [=](const MapLayer& layer) { return layer.IsShownAt(denominator); })) {
+    for (const Hit& hit : test.At(pixel, isShown)) {
         const bool isListed = std::find(layers.begin(), layers.end(), hit.layer) != layers.end();
         if (!isListed && layers.size() < MostLayers)
             layers.push_back(hit.layer);
     }
-    for (const MapLayer* raster : RastersAt(m_canvas.Layers(), m_canvas.View().ToMap(pixel), denominator)) {
+    for (const MapLayer* raster : test.RastersAt(pixel, isShown)) {
         if (layers.size() < MostLayers)
             layers.push_back(raster);
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "end_to_end/TownWindow.h"
+#include "mapkit/RasterFile.h"
 #include "mapkit/canvas/MapCanvas.h"
 
 #include <QComboBox>
@@ -55,6 +56,26 @@ protected:
         Type(dialog, "edtSource", path);
     }
 
+    QString Write(const QString& name, const QByteArray& content) const
+    {
+        QFile file(PathOf(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+    QString WriteTable(const QString& name, QPointF place) const
+    {
+        const auto number = [](double value) { return QByteArray::number(value, 'f', 3); };
+        return Write(name, "x,y,name\n" + number(place.x()) + ',' + number(place.y()) + ",a\n");
+    }
+    Box Town() const
+    {
+        Box town;
+        for (const MapLayer& layer : m_window->Canvas().Layers())
+            town.Add(layer.Bounds());
+        return town;
+    }
+
     int m_before = 0;
 };
 
@@ -88,6 +109,60 @@ TEST_F(NewLayers, ALayerIsMadeOfAFileAndDrawn)
     const MapLayer& drawn = m_window->Canvas().Layers().back();
     ASSERT_TRUE(drawn.features);
     EXPECT_EQ(drawn.features->Features().size(), 1u);
+}
+
+TEST_F(NewLayers, AFileThatNamesNoCoordinateSystemIsToldAsOpenedDataAre)
+{
+    const QPointF corner(Town().maxX, Town().maxY);
+    const QString path = WriteTable("kiosks.csv", corner);
+    Answer([&](QDialog& dialog) { TypeSource(dialog, path); }, QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_window->Canvas().Layers().size() == size_t(m_before + 1); }));
+    EXPECT_TRUE(LabelText("lblNotice").contains("kiosks.csv")) << qPrintable(LabelText("lblNotice"));
+    EXPECT_TRUE(LabelText("lblNotice").contains("The coordinates fit the map"));
+    EXPECT_NEAR(m_window->Canvas().Layers().back().Bounds().maxX, corner.x(), 0.01);
+}
+
+TEST_F(NewLayers, AFileWhoseSystemIsNotFoundOutAsksForIt)
+{
+    const QString path = WriteTable("far.csv", {9e8, 9e8});
+    QString question;
+    Answer(
+        [&](QDialog& dialog) {
+            TypeSource(dialog, path);
+            WhenAsked([&](QDialog& chooser) {
+                question = chooser.windowTitle();
+                QTest::keyClick(&chooser, Qt::Key_Escape);
+            });
+        },
+        QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    EXPECT_EQ(question, "Coordinate System of the Data");
+    EXPECT_TRUE(Listed(Form()).contains("far"));
+    EXPECT_TRUE(LabelText("lblNotice").contains("taken as those of the map"));
+}
+
+TEST_F(NewLayers, ARasterAndOneKindOfAMixedFileAreOffered)
+{
+    const QString photo = PathOf("photo.tif");
+    WriteRaster(photo, {}, [](int column, int, int) { return column; });
+    const QString mixed = Write(
+        "mixed.geojson",
+        R"({"type":"GeometryCollection","geometries":[{"type":"Point","coordinates":[1,1]},)"
+        R"({"type":"LineString","coordinates":[[0,0],[1,1]]}]})");
+    Answer(
+        [&](QDialog& dialog) {
+            TypeSource(dialog, mixed);
+            const auto& offered = *dialog.findChild<QComboBox*>("cmbSourceLayer");
+            EXPECT_EQ(offered.count(), 2);
+            EXPECT_EQ(offered.itemText(1), "mixed (lines)");
+            Type(dialog, "edtSource", photo);
+        },
+        QDialogButtonBox::Ok);
+    Press(Form(), "cmdNewLayer");
+    ASSERT_TRUE(Listed(Form()).contains("photo")) << qPrintable(Listed(Form()).join('\n'));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_window->Canvas().Layers().size() == size_t(m_before + 1); }));
+    EXPECT_TRUE(m_window->Canvas().Layers().back().raster);
 }
 
 TEST_F(NewLayers, CancellingMakesNothing)

@@ -13,15 +13,12 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -30,19 +27,6 @@ namespace Orvane {
 using namespace Testing;
 
 namespace {
-
-void Drop(MainWindow& window, const QStringList& paths)
-{
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString& path : paths)
-        urls << QUrl::fromLocalFile(path);
-    data.setUrls(urls);
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &enter);
-    QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &event);
-}
 
 // Cancels each file dialog that opens while it exists.
 class FileDialogs
@@ -169,9 +153,7 @@ TEST_F(MainWindowTest, AFileThatIsNoMapLeavesTheMapThatIsOpen)
 TEST_F(MainWindowTest, DroppedDataJoinTheMap)
 {
     m_window->OpenMap(MakeMap("map.orvane"));
-    Drop(
-        *m_window,
-        {m_folder.WriteSquare("more.geojson", 20, 20), m_folder.WriteSquare("again.geojson", 40, 0)});
+    Drop({m_folder.WriteSquare("more.geojson", 20, 20), m_folder.WriteSquare("again.geojson", 40, 0)});
     EXPECT_EQ(m_window->Canvas().Layers().size(), 3u);
     for (const MapLayer& layer : m_window->Canvas().Layers())
         EXPECT_TRUE(layer.features) << layer.layerID;
@@ -180,7 +162,7 @@ TEST_F(MainWindowTest, DroppedDataJoinTheMap)
 TEST_F(MainWindowTest, ADroppedMapIsOpened)
 {
     const QString path = MakeMap("map.orvane");
-    Drop(*m_window, {path});
+    Drop({path});
     EXPECT_EQ(m_window->Document().Path(), path);
 }
 
@@ -189,12 +171,22 @@ TEST_F(MainWindowTest, ADroppedFileThatIsBrokenIsToldInOneMessage)
     m_window->OpenMap(MakeMap("map.orvane"));
     MessageBoxRobot user{BoxKey::Enter};
     Drop(
-        *m_window,
         {m_folder.Write("bad.gpkg", "x"), m_folder.Write("worse.shp", "y"),
          m_folder.WriteSquare("good.geojson")});
     EXPECT_TRUE(user.Only().text.contains("bad.gpkg"));
     EXPECT_TRUE(user.Only().text.contains("worse.shp"));
     EXPECT_EQ(m_window->Canvas().Layers().size(), 2u);
+}
+
+TEST_F(MainWindowTest, ADropHasEndedBeforeTheUserIsAsked)
+{
+    {
+        MessageBoxRobot nobody{};
+        LetGo({m_folder.Write("bad.gpkg", "x")});
+    }
+    MessageBoxRobot user{BoxKey::Enter};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return user.Boxes().size() == 1; }));
+    EXPECT_TRUE(user.Only().text.contains("bad.gpkg"));
 }
 
 TEST_F(MainWindowTest, TheZoomCommandsWork)

@@ -9,8 +9,13 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QSettings>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +30,26 @@ protected:
         QSettings().clear();
         m_window = std::make_unique<MainWindow>();
         m_window->show();
+    }
+
+    // Drops files on the window.
+    void LetGo(const QStringList& paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &enter);
+        QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &event);
+    }
+    // The same, and returns when they are opened.
+    void Drop(const QStringList& paths)
+    {
+        LetGo(paths);
+        QApplication::processEvents();
     }
 
     QString MakeMap(const QString& name)

@@ -10,13 +10,10 @@
 #include "support/MessageBoxRobot.h"
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QMenu>
-#include <QMimeData>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 
 namespace Orvane {
 
@@ -31,19 +28,6 @@ protected:
     {
         WriteRaster(m_folder.Path(name), spec, [](int column, int, int) { return column; });
         return m_folder.Path(name);
-    }
-
-    void Drop(const QStringList& paths)
-    {
-        QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& path : paths)
-            urls << QUrl::fromLocalFile(path);
-        data.setUrls(urls);
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_window.get(), &enter);
-        QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_window.get(), &event);
     }
 
     const std::vector<MapLayer>& Layers() const { return m_window->Canvas().Layers(); }

@@ -78,9 +78,14 @@ TEST_F(TableReaderTest, TellsWhyTheSourceCannotBeRead)
     QFile::remove(m_source.path);
     TableReader reader(m_source);
     QString reason;
-    QObject::connect(&reader, &TableReader::Failed, [&](const QString& text) { reason = text; });
+    TableReader::Task failed = TableReader::Task::None;
+    QObject::connect(&reader, &TableReader::Failed, [&](TableReader::Task task, const QString& text) {
+        failed = task;
+        reason = text;
+    });
     reader.Open();
     ASSERT_TRUE(WaitForTask(reader));
+    EXPECT_EQ(failed, TableReader::Task::Opening);
     EXPECT_TRUE(reason.contains("towns.gpkg")) << qPrintable(reason);
 }
 

@@ -197,4 +197,70 @@ TEST(TableSource, ReadsAFileWithoutRandomAccessInPasses)
     EXPECT_THAT(table.Rows({4}, progress), IsEmpty());
 }
 
+namespace {
+
+constexpr auto MixedRows = "name,shape\n"
+                           "tree,POINT (1 2)\n"
+                           "road,\"LINESTRING (1 2,3 4)\"\n"
+                           "nowhere,\n"
+                           "park,\"GEOMETRYCOLLECTION (POINT (5 6),POLYGON ((0 0,1 0,1 1,0 0)))\"\n"
+                           "bush,POINT (3 4)\n";
+
+// Rows of several kinds, of which a layer shows only some.
+class DividedTableTest : public testing::Test
+{
+protected:
+    DividedTableTest()
+    {
+        m_source.path = m_folder.Write("mixed.csv", MixedRows);
+        m_source.ogrLayer = "mixed";
+        m_source.choice.columns.wkt = "shape";
+    }
+
+    std::vector<qint64> IDs(std::vector<FeatureKind> kinds)
+    {
+        m_source.choice.kinds = std::move(kinds);
+        TableSource table(m_source);
+        std::vector<qint64> all;
+        table.ReadIDs(m_progress, [&](const std::vector<qint64>& ids) {
+            all.insert(all.end(), ids.begin(), ids.end());
+        });
+        return all;
+    }
+
+    DataFolder m_folder;
+    LayerSource m_source;
+    Progress m_progress;
+};
+
+} // namespace
+
+TEST_F(DividedTableTest, HasOnlyTheRowsOfTheKindsThatTheLayerShows)
+{
+    EXPECT_THAT(IDs({FeatureKind::Point}), ElementsAre(1, 4, 5));
+    EXPECT_THAT(IDs({FeatureKind::Line}), ElementsAre(2));
+    EXPECT_THAT(IDs({FeatureKind::Line, FeatureKind::Area}), ElementsAre(2, 4));
+    EXPECT_THAT(IDs({}), ElementsAre(1, 2, 3, 4, 5));
+}
+
+TEST_F(DividedTableTest, SortsAndFindsOnlyTheseRows)
+{
+    m_source.choice.kinds = {FeatureKind::Point};
+    TableSource table(m_source);
+    EXPECT_EQ(table.KnownCount(), -1);
+    EXPECT_THAT(table.Sorted(0, Qt::AscendingOrder, QLocale::c(), m_progress), ElementsAre(5, 4, 1));
+    EXPECT_THAT(table.Find({"r", 0, QLocale::c()}, m_progress), ElementsAre(1, 4));
+}
+
+TEST_F(DividedTableTest, ADatabaseThatSortsItselfHasOnlyTheseRowsToo)
+{
+    m_source = WriteTowns(m_folder, "towns.gpkg", "GPKG");
+    m_source.choice.kinds = {FeatureKind::Line};
+    TableSource lines(m_source);
+    EXPECT_THAT(lines.Sorted(1, Qt::AscendingOrder, QLocale::c(), m_progress), IsEmpty());
+    m_source.choice.kinds = {FeatureKind::Point};
+    TableSource points(m_source);
+    EXPECT_THAT(points.Sorted(1, Qt::AscendingOrder, QLocale::c(), m_progress), ElementsAre(2, 4, 1, 3));
+}
+
 } // namespace Orvane

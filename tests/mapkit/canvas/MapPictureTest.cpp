@@ -183,4 +183,27 @@ TEST(MapPicture, EndingItWhileItDrawsIsHarmless)
     EXPECT_TRUE(picture.IsBusy());
 }
 
+TEST_F(MapPictureTest, AnotherBackgroundDrawsTheLabelsAgainWithItsHalo)
+{
+    MapLayer named = FilledLayer(1, Qt::gray, Area(0, 0, 100, 100));
+    AttributeColumn column;
+    column.texts = {"Oslo"};
+    named.labels = std::make_shared<const AttributeColumn>(column);
+    Show({named});
+    const QColor night(20, 24, 40);
+    const auto count = [&](const QColor& colour) {
+        int pixels = 0;
+        for (int x = 0; x < 100; ++x) {
+            for (int y = 0; y < 100; ++y)
+                pixels += At(x, y) == colour;
+        }
+        return pixels;
+    };
+    ASSERT_GT(count(Qt::white), 10);
+    m_picture.SetBackground(night);
+    Wait();
+    EXPECT_GT(count(night), 10);
+    EXPECT_EQ(count(Qt::white), 0);
+}
+
 } // namespace Orvane

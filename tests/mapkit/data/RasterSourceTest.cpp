@@ -237,4 +237,59 @@ TEST_F(RasterSourceTest, AVirtualPictureThatReadsItselfEnds)
     }
 }
 
+TEST_F(RasterSourceTest, TellsTheValuesOfAllBandsAtAPlace)
+{
+    WriteRaster(
+        Path(), {.bands = 2}, [](int column, int row, int band) { return band * 100 + column - row; });
+    const std::vector<RasterValue> values = RasterSource(Path()).ValuesAt(Degrees, {5.05, 9.95});
+    ASSERT_EQ(values.size(), 2u);
+    EXPECT_EQ(values[0].band, 1);
+    EXPECT_EQ(values[0].number, 150);
+    EXPECT_EQ(values[1].number, 250);
+}
+
+TEST_F(RasterSourceTest, TellsNoValuesBesideThePicture)
+{
+    WriteRaster(Path(), {}, [](int, int, int) { return 1; });
+    const RasterSource source(Path());
+    EXPECT_TRUE(source.ValuesAt(Degrees, {10.01, 5}).empty());
+    EXPECT_TRUE(source.ValuesAt(Degrees, {-0.01, 5}).empty());
+    EXPECT_EQ(source.ValuesAt(Degrees, {0.01, 0.01}).size(), 1u);
+}
+
+TEST_F(RasterSourceTest, FindsTheValuesInTheMapsSystemAndInAChosenOne)
+{
+    WriteRaster(Path(), {.system = nullptr}, [](int column, int row, int) { return column + row; });
+    const RasterSource source(Path(), {}, Degrees);
+    EXPECT_EQ(source.ValuesAt({}, {5.05, 9.95}).size(), 1u);
+    const std::vector<RasterValue> inMercator = source.ValuesAt("EPSG:3857", {562163, 1113000});
+    ASSERT_EQ(inMercator.size(), 1u);
+    EXPECT_EQ(inMercator[0].number, 50);
+}
+
+TEST_F(RasterSourceTest, TellsWhereThereAreNoDataAndWhatANumberMeans)
+{
+    WriteRaster(
+        Path(), {.type = GDT_Float32}, [](int column, int, int) { return column < 50 ? -9999 : 0.1; });
+    {
+        const std::unique_ptr<GDALDataset> file(
+            GDALDataset::Open(Path().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_UPDATE));
+        GDALRasterBand& band = *file->GetRasterBand(1);
+        band.SetNoDataValue(-9999);
+        band.SetUnitType("m");
+        band.SetDescription("Height");
+        band.SetScale(2);
+        band.SetOffset(100);
+    }
+    const RasterSource source(Path());
+    const std::vector<RasterValue> none = source.ValuesAt(Degrees, {1, 5});
+    ASSERT_EQ(none.size(), 1u);
+    EXPECT_EQ(none[0].number, std::nullopt);
+    const std::vector<RasterValue> some = source.ValuesAt(Degrees, {9, 5});
+    ASSERT_EQ(some.size(), 1u);
+    EXPECT_EQ(some[0].number, 2 * 0.1 + 100);
+    EXPECT_EQ(some[0].unit, "m");
+    EXPECT_EQ(some[0].description, "Height");
+}
+
 } // namespace Orvane

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace Orvane {
@@ -149,6 +150,43 @@ TEST(Labels, AHaloPartsTheLettersFromTheMap)
     EXPECT_GT(halo, 30);
     EXPECT_GT(letters, 30);
     EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::black));
+}
+
+TEST(Labels, OnADarkMapTheHaloIsDarkAndTheLettersAreLight)
+{
+    QImage image(200, 60, QImage::Format_RGB32);
+    const QColor night(20, 24, 40);
+    image.fill(Qt::gray); // an area of the map
+    QPainter painter(&image);
+    PaintLabels(painter, std::vector<Label>{{"Oslo", {{100, 30}}, Qt::darkRed}}, night);
+    painter.end();
+    int halo = 0, letters = 0, white = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            const QColor colour = image.pixelColor(x, y);
+            halo += colour == night;
+            white += colour == QColor(Qt::white);
+            letters += colour.lightnessF() > 0.7 && colour.red() > colour.green() + 60;
+        }
+    }
+    EXPECT_GT(halo, 30);
+    EXPECT_GT(letters, 10);
+    EXPECT_EQ(white, 0);
+}
+
+TEST(Labels, OnALightMapPaleLettersAreDarkened)
+{
+    QImage image(200, 60, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintLabels(painter, std::vector<Label>{{"Oslo", {{100, 30}}, Qt::yellow}});
+    painter.end();
+    double darkest = 1;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            darkest = std::min(darkest, double(image.pixelColor(x, y).lightnessF()));
+    }
+    EXPECT_LT(darkest, 0.45);
 }
 
 } // namespace Orvane

@@ -5,6 +5,7 @@
 #include "hostkit/undo/UndoHistory.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/common/Progress.h"
 #include "mapkit/data/SourceEditor.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/MapSession.h"
@@ -64,6 +65,23 @@ protected:
             wests.push_back(editor.Shown(editor.Geometry(featureID), featureID, System).Bounds().minX);
         return wests;
     }
+    qint32 AddMixed(const QString& path, std::vector<FeatureKind> kinds)
+    {
+        NewLayer layer;
+        layer.path = path;
+        layer.ogrLayer = "mixed";
+        layer.choice.kinds = std::move(kinds);
+        const qint32 layerID = m_session->Document().AddLayer(layer);
+        EXPECT_EQ(m_session->ReadAndShow(), "");
+        return layerID;
+    }
+    const FeatureSet& Features(qint32 layerID) const
+    {
+        const std::vector<MapLayer>& layers = m_canvas.Layers();
+        return *std::find_if(layers.begin(), layers.end(), [=](const MapLayer& layer) {
+                    return layer.layerID == layerID;
+                })->features;
+    }
     UndoHistory& History() { return m_session->Shell().History(); }
     void Move(qint64 featureID, QPointF offset)
     {
@@ -72,6 +90,7 @@ protected:
 
     DataFolder m_folder;
     MapCanvas m_canvas;
+    Progress m_progress;
     std::unique_ptr<MapSession> m_session;
 };
 
@@ -128,6 +147,45 @@ TEST_F(FeatureMoverTest, WhatSomebodyElseMovedMeanwhileStaysWhereItIs)
     EXPECT_THROW(History().Undo(), RunTimeError);
     EXPECT_THAT(StoredWests(), ElementsAre(0, 131));
     EXPECT_FALSE(History().CanUndo());
+}
+
+TEST_F(FeatureMoverTest, ALayerOfAnotherKindShowsItsPartOfTheMovedFeature)
+{
+    const QString path = m_folder.WriteGeometries(
+        "mixed.geojson",
+        {R"({"type":"GeometryCollection","geometries":[{"type":"Point","coordinates":[9,50]},)"
+         R"({"type":"LineString","coordinates":[[9,50],[9.1,50]]}]})"});
+    const qint32 points = AddMixed(path, {FeatureKind::Point});
+    const qint32 lines = AddMixed(path, {FeatureKind::Line});
+    const double before = Features(lines).Bounds().minX;
+    const qint64 featureID = Features(points).FeatureId(0);
+    FeatureMover(*m_session, m_canvas).Move({points, featureID}, {1000, 0});
+    for (const qint32 layerID : {points, lines}) {
+        ASSERT_EQ(Features(layerID).Features().size(), 1u);
+        EXPECT_NEAR(Features(layerID).Bounds().minX, before + 1000, 0.1);
+    }
+    EXPECT_EQ(Features(lines).Features()[0].kind, FeatureKind::Line);
+    History().Undo();
+    EXPECT_NEAR(Features(lines).Bounds().minX, before, 0.1);
+    EXPECT_FALSE(Features(lines).Has(FeatureKind::Point));
+}
+
+TEST_F(FeatureMoverTest, ALayerThatReadsTheDataInAnotherSystemShowsTheFeatureThere)
+{
+    NewLayer layer;
+    layer.path = m_session->Document().Sources().at(0).path;
+    layer.ogrLayer = "trees";
+    layer.system = "EPSG:32633";
+    const qint32 layerID = m_session->Document().AddLayer(layer);
+    EXPECT_EQ(m_session->ReadAndShow(), "");
+    Move(2, {30, 0});
+    const FeatureSet moved = Features(layerID);
+    m_session->TakeFeatures(
+        ReadSources(m_session->Document().Sources(), m_session->Document().System(), m_progress));
+    const FeatureSet& read = Features(layerID);
+    EXPECT_GT(std::abs(read.Bounds().maxX - 130), 1000);
+    EXPECT_NEAR(moved.Bounds().maxX, read.Bounds().maxX, 1e-6);
+    EXPECT_NEAR(moved.Bounds().minX, read.Bounds().minX, 1e-6);
 }
 
 TEST_F(FeatureMoverTest, ASourceThatCannotBeChangedLeavesMapAndHistoryAsTheyAre)

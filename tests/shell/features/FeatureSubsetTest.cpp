@@ -2,6 +2,7 @@
 #include "shell/features/FeatureSubset.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace Orvane {
 
@@ -33,6 +34,20 @@ TEST(FeatureSubset, AReplacementStandsWhereTheFeatureStood)
     EXPECT_EQ(result.Features()[1].kind, FeatureKind::Line);
     EXPECT_EQ(result.FeatureId(2), 7);
     EXPECT_EQ(result.Bounds().maxX, 61);
+}
+
+TEST(FeatureSubset, AReplacementKeepsTheCountOfVerticesThatWereLeftOut)
+{
+    constexpr double Nowhere = std::numeric_limits<double>::infinity();
+    FeatureSet set;
+    set.BeginFeature(FeatureKind::Line, 5);
+    set.AddPart(std::vector<QPointF>{{1, 0}, {Nowhere, 0}, {2, 0}});
+    FeatureSet other;
+    other.BeginFeature(FeatureKind::Line, 6);
+    other.AddPart(std::vector<QPointF>{{60, 0}, {61, Nowhere}});
+    EXPECT_EQ(WithFeature(set, 6, other).LeftOutCount(), 1u);
+    set.BeginFeature(FeatureKind::Line, 6);
+    EXPECT_EQ(WithFeature(set, 6, other).LeftOutCount(), 2u);
 }
 
 } // namespace Orvane

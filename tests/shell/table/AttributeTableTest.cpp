@@ -102,6 +102,21 @@ protected:
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
+    // Writes over the data while they are open; returns what was there.
+    QByteArray SpoilData() const
+    {
+        QFile file(m_source.path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        Write(QByteArray(content.size(), 'x'));
+        return content;
+    }
+    void Write(const QByteArray& content) const
+    {
+        QFile file(m_source.path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        EXPECT_EQ(file.write(content), content.size());
+    }
     QString Count() const { return Part<QLabel>("lblCount").text(); }
 
     DataFolder m_folder;
@@ -320,6 +335,72 @@ TEST_F(AttributeTableTest, TellsThatTheDataAreMissingAndShowsThemWhenTheyAreBack
     m_table->ReadAgain();
     EXPECT_TRUE(WaitFor(FileOrder));
     EXPECT_EQ(pages.currentIndex(), 0);
+}
+
+TEST_F(AttributeTableTest, KeepsItsRowsAndTellsWhyWhenTheyCannotBeSorted)
+{
+    OpenAndWait();
+    SpoilData();
+    ClickHeader(1);
+    auto& failure = Part<QLabel>("lblFailure");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return failure.isVisible(); }));
+    EXPECT_TRUE(failure.text().contains("towns.gpkg")) << qPrintable(failure.text());
+    EXPECT_EQ(Shown(), FileOrder);
+    EXPECT_TRUE(View().isVisible());
+    EXPECT_NE(View().horizontalHeader()->sortIndicatorSection(), 1);
+}
+
+TEST_F(AttributeTableTest, KeepsItsRowsAndTellsWhyWhenTheyCannotBeSearched)
+{
+    OpenAndWait();
+    const QByteArray content = SpoilData();
+    Key(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), "by");
+    auto& failure = Part<QLabel>("lblFailure");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return failure.isVisible(); }));
+    EXPECT_EQ(Shown(), FileOrder);
+    Write(content);
+    m_table->ReadAgain();
+    EXPECT_TRUE(WaitFor({"Aue", Brueck}));
+    EXPECT_FALSE(failure.isVisible());
+}
+
+// Each is a range of its own; to compare each with each would take minutes.
+TEST_F(AttributeTableTest, FollowsTheMapFromManySingleRowsToOthers)
+{
+    constexpr int Count = 60000;
+    QByteArray rows = "number,name\n";
+    FeatureKeys even;
+    FeatureKeys odd;
+    for (int id = 1; id <= Count; ++id) {
+        rows += QByteArray::number(id) + ",a\n";
+        (id % 2 == 0 ? even : odd).insert({1, id});
+    }
+    m_source.path = m_folder.Write("many.csv", rows);
+    m_source.ogrLayer = "many";
+    m_features.Set(even);
+    Open();
+    const QItemSelectionModel& selected = *View().selectionModel();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return selected.model()->rowCount() == Count; }));
+    EXPECT_EQ(selected.selection().size(), Count / 2);
+    EXPECT_TRUE(selected.isRowSelected(Count - 1, {}));
+    m_features.Set(odd);
+    EXPECT_EQ(selected.selection().size(), Count / 2);
+    EXPECT_TRUE(selected.isRowSelected(Count - 2, {}));
+    EXPECT_FALSE(selected.isRowSelected(Count - 1, {}));
+    EXPECT_EQ(m_features.Keys(), odd);
+}
+
+TEST_F(AttributeTableTest, ShowsTheRowsOfTheKindsThatItsLayerShowsNow)
+{
+    OpenAndWait();
+    m_source.choice.kinds = {FeatureKind::Line};
+    m_table->Follow({"Towns", m_source, true});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return View().model()->rowCount() == 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Count() == "Rows: 0"; })) << qPrintable(Count());
+    m_source.choice.kinds = {FeatureKind::Point};
+    m_table->Follow({"Towns", m_source, true});
+    EXPECT_TRUE(WaitFor(FileOrder));
 }
 
 TEST_F(AttributeTableTest, TellsThatThereAreNoAttributes)

@@ -20,6 +20,7 @@
 namespace Orvane {
 
 using namespace Testing;
+using testing::UnorderedElementsAre;
 
 namespace {
 
@@ -97,6 +98,21 @@ TEST_F(AttributeTablesTest, AsksForTheLayerIfThereAreSeveral)
     PressF6();
     ASSERT_EQ(Tables().size(), 1);
     EXPECT_EQ(Tables()[0]->windowTitle(), "Attributes of Square");
+}
+
+TEST_F(AttributeTablesTest, TellsLayersOfTheSameNameApartByANumber)
+{
+    OpenMap();
+    for (const char* name : {"Square", "Square", "Square (2)"})
+        AddSquare(name);
+    InDialog([](QInputDialog& dialog) {
+        EXPECT_THAT(
+            dialog.comboBoxItems(),
+            UnorderedElementsAre("Square", "Square (2)", "Square (3)", "Square (2) (2)"));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    PressF6();
+    EXPECT_TRUE(Tables().isEmpty());
 }
 
 TEST_F(AttributeTablesTest, OpensTheTableOfTheLayerThatIsSelectedOnTheMap)

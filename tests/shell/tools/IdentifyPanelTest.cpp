@@ -48,6 +48,19 @@ TEST_F(IdentifyPanelTest, ListsEachFeatureWithItsAttributesAndOpensTheFirst)
     EXPECT_TRUE(Tree().isVisible());
 }
 
+TEST_F(IdentifyPanelTest, ListsTheValuesOfARaster)
+{
+    m_panel.Show(
+        {{{1, 12}, "Roads", {}},
+         {{3, NoFeatureID}, "Heights", {{"Band 1", "512.5 m"}, {"Band 2", "no data", true}}, true}},
+        {});
+    const QTreeWidgetItem* heights = Tree().topLevelItem(1);
+    EXPECT_TRUE(heights->isExpanded());
+    EXPECT_EQ(heights->text(1), "Raster");
+    EXPECT_EQ(heights->child(0)->text(1), "512.5 m");
+    EXPECT_EQ(heights->child(1)->text(1), "no data");
+}
+
 TEST_F(IdentifyPanelTest, TellsWhichFeatureIsCurrent)
 {
     std::vector<FeatureKey> current;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tools/IdentifyTool.h"
 
+#include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
+#include "mapkit/data/SourceReader.h"
+#include "shell/tools/RasterTexts.h"
 #include "shell/tools/ToolCanvas.h"
 
 namespace Orvane {
@@ -38,13 +42,31 @@ protected:
     MapLayer m_lakes;
     int m_reads = 0;
     std::vector<IdentifiedFeature> m_found;
-    IdentifyTool m_tool{m_canvas, [this](const std::vector<FeatureKey>& keys) {
-                            ++m_reads;
-                            std::vector<std::vector<FeatureAttribute>> attributes;
-                            for (const FeatureKey& key : keys)
-                                attributes.push_back({{"id", QString::number(key.featureID)}});
-                            return attributes;
-                        }};
+    MapLayer Photo(qint32 layerID, const QString& name, int priority = 255)
+    {
+        const QString path = m_folder.Path(name + ".tif");
+        WriteRaster(path, {.transform = {0, 1, 0, 100, 0, -1}}, [](int column, int row, int) {
+            return column + row;
+        });
+        MapLayer layer = NamedLayer(layerID, name, nullptr, priority);
+        LayerSource source;
+        source.path = path;
+        layer.raster = std::make_shared<const MapRaster>(source, QString());
+        return layer;
+    }
+
+    DataFolder m_folder;
+    IdentifyTool m_tool{
+        m_canvas, [this](const std::vector<IdentifyQuestion>& questions) {
+            ++m_reads;
+            std::vector<std::vector<FeatureAttribute>> attributes;
+            for (const auto& [key, raster, place] : questions) {
+                attributes.push_back(
+                    raster ? ValuesAsAttributes(raster->ValuesAt(place))
+                           : std::vector<FeatureAttribute>{{"id", QString::number(key.featureID)}});
+            }
+            return attributes;
+        }};
 };
 
 } // namespace
@@ -101,6 +123,32 @@ TEST_F(IdentifyToolTest, OfVeryManyFeaturesOnlyTheTopmostAreAsked)
     Click(20, 20);
     ASSERT_THAT(m_found, SizeIs(50));
     EXPECT_EQ(m_found[0].key.featureID, 200);
+}
+
+TEST_F(IdentifyToolTest, RastersFollowTheFeaturesWithTheirValuesThere)
+{
+    Show({Photo(7, "Low"), m_lakes, Photo(8, "High", 1)});
+    Click(20, 20);
+    EXPECT_THAT(
+        Keys(), ElementsAre(FeatureKey{2, 1}, FeatureKey{8, NoFeatureID}, FeatureKey{7, NoFeatureID}));
+    EXPECT_EQ(m_found[1].layerName, "High");
+    ASSERT_THAT(m_found[1].attributes, SizeIs(1));
+    EXPECT_EQ(m_found[1].attributes[0].name, "Band 1");
+    EXPECT_EQ(m_found[1].attributes[0].value, "100"); // column 20, row 80
+    EXPECT_EQ(m_status, "Features found: 1, rasters: 2");
+    Click(90, 90);
+    EXPECT_EQ(m_status, "Rasters found: 2");
+}
+
+TEST_F(IdentifyToolTest, ARasterThatIsNotEnquirableIsNotAskedAndSaysSo)
+{
+    MapLayer photo = Photo(7, "Photo");
+    photo.flags.enquirable = false;
+    Show({photo});
+    Click(20, 20);
+    EXPECT_THAT(m_found, IsEmpty());
+    EXPECT_EQ(m_status, "Photo is here but not enquirable.");
+    EXPECT_EQ(m_reads, 0);
 }
 
 TEST_F(IdentifyToolTest, ADragMovesTheMap)
