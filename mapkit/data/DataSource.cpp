@@ -97,6 +97,18 @@ FieldValue ValueOf(OGRFeature& feature, int index, bool isNumber)
     return value;
 }
 
+// The name of the layer that its file, which holds the other one too, calls so; empty if there is none.
+QString NameBeside(const OpenedData& data, const OpenedData::Layer& other, const QString& nameInFile)
+{
+    if (nameInFile.isEmpty())
+        return {};
+    for (const OpenedData::Layer& layer : data.Layers()) {
+        if (layer.dataset == other.dataset && nameInFile == QString::fromUtf8(layer.layer->GetName()))
+            return layer.name;
+    }
+    return {};
+}
+
 } // namespace
 
 DataSource::DataSource(const QString& path) : m_path(path)
@@ -124,11 +136,14 @@ std::vector<SourceLayer> DataSource::Layers() const
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<SourceLayer> layers;
-    for (const auto& [name, layer, isTable] : m_data->Layers()) {
-        if (layer->GetGeomType() == wkbNone)
+    for (const OpenedData::Layer& opened : m_data->Layers()) {
+        if (opened.layer->GetGeomType() == wkbNone)
             continue;
-        layers.push_back(DescribeLayer(*layer, name, m_data->Format()));
-        layers.back().extent = ExtentOf(*layer);
+        layers.push_back(DescribeLayer(*opened.layer, m_data->FormatOf(*opened.layer)));
+        SourceLayer& layer = layers.back();
+        layer.name = opened.name;
+        layer.partsOf = NameBeside(*m_data, opened, layer.partsOf);
+        layer.extent = ExtentOf(*opened.layer);
     }
     RequireReadingInTime(m_path);
     for (const TableRows& table : Tables()) {
@@ -153,11 +168,11 @@ std::vector<TableRows> DataSource::Tables() const
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<TableRows> tables;
-    for (const auto& [name, layer, isTable] : m_data->Layers()) {
-        if (!isTable)
+    for (const OpenedData::Layer& opened : m_data->Layers()) {
+        if (!opened.isTable)
             continue;
-        tables.push_back(FirstRows(*layer, RowsToShow));
-        tables.back().layer = name;
+        tables.push_back(FirstRows(*opened.layer, RowsToShow));
+        tables.back().layer = opened.name;
     }
     RequireReadingInTime(m_path);
     std::erase_if(tables, [](const TableRows& table) { return table.columns.isEmpty(); });
@@ -269,7 +284,7 @@ SourceDetails DataSource::Details(const QString& layerName) const
     const ReadingBound bound;
     OGRLayer& layer = FilteredLayer(layerName, {}, errors);
     SourceDetails details;
-    details.driver = m_data->FormatTitle();
+    details.driver = m_data->FormatTitleOf(layer);
     details.geometry = QString::fromUtf8(OGRGeometryTypeToName(layer.GetGeomType()));
     details.featureCount = layer.GetFeatureCount(FALSE);
     details.system = SystemText(layer.GetSpatialRef());

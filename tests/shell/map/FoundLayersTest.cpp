@@ -2,6 +2,7 @@
 #include "shell/map/FoundLayers.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/ZipFile.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/DataImport.h"
@@ -58,6 +59,15 @@ protected:
 TEST_F(FoundLayersTest, ATourShowsItsTracksAndWaypointsButNotEachPointOfATrack)
 {
     EXPECT_EQ(Import({m_folder.Write("tour.gpx", Tour)}).keys(), QStringList({"tracks", "waypoints"}));
+}
+
+TEST_F(FoundLayersTest, ToursInAnArchiveShowTheSame)
+{
+    const QString path
+        = WriteZip(m_folder.Path("tours.zip"), {{"lake.kml", Kml}, {"one.gpx", Tour}, {"two.gpx", Tour}});
+    EXPECT_EQ(
+        Import({path}).keys(),
+        QStringList({"Lake", "Pier", "one/tracks", "one/waypoints", "two/tracks", "two/waypoints"}));
 }
 
 TEST_F(FoundLayersTest, ATourWithoutAnythingHasNothingToDraw)
