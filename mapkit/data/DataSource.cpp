@@ -131,12 +131,14 @@ DataSource::~DataSource()
     m_data.reset();
 }
 
-std::vector<SourceLayer> DataSource::Layers() const
+std::vector<SourceLayer> DataSource::LayersWithGeometry() const
 {
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<SourceLayer> layers;
+    bool hasTables = false;
     for (const OpenedData::Layer& opened : m_data->Layers()) {
+        hasTables = hasTables || (opened.isTable && opened.layer->GetLayerDefn()->GetFieldCount() > 0);
         if (opened.layer->GetGeomType() == wkbNone)
             continue;
         layers.push_back(DescribeLayer(*opened.layer, m_data->FormatOf(*opened.layer)));
@@ -146,13 +148,19 @@ std::vector<SourceLayer> DataSource::Layers() const
         layer.extent = ExtentOf(*opened.layer);
     }
     RequireReadingInTime(m_path);
+    if (layers.empty() && !hasTables && !errors.First().isEmpty())
+        Fail(errors.First());
+    return layers;
+}
+
+std::vector<SourceLayer> DataSource::Layers() const
+{
+    std::vector<SourceLayer> layers = LayersWithGeometry();
     for (const TableRows& table : Tables()) {
         const CoordinateColumns columns = GuessColumns(table);
         if (!columns.IsEmpty())
             layers.push_back(TableAsLayer(table.layer, columns));
     }
-    if (layers.empty() && !errors.First().isEmpty())
-        Fail(errors.First());
     return layers;
 }
 

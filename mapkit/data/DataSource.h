@@ -88,8 +88,10 @@ public:
     DataSource& operator=(const DataSource&) = delete;
 
     /// The layers that have geometry, in the source's order; then the tables whose coordinate columns can be
-    /// guessed.
+    /// guessed, of which many rows are read.
     std::vector<SourceLayer> Layers() const;
+    /// The same without tables.
+    std::vector<SourceLayer> LayersWithGeometry() const;
     /// Whether there is a layer or a table of that name.
     bool Has(const QString& layer) const;
 

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/data/OpenSource.h"
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/DataFiles.h"
@@ -94,9 +95,7 @@ bool LookForFeatures(const QString& path, FoundData& data)
         data.problems
             << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
     }
-    std::vector<SourceLayer> layers = source.Layers();
-    std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
-    layers = LayersToShow(layers);
+    const std::vector<SourceLayer> layers = LayersToShow(source.LayersWithGeometry());
     const std::vector<TableRows> tables = source.Tables();
     data.tables.reserve(data.tables.size() + tables.size());
     for (const TableRows& table : tables)
@@ -145,11 +144,12 @@ void LookIntoFile(const QString& path, FoundData& data)
 
 std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
 {
+    OpenSource open;
     std::vector<SourceLayer> layers;
     for (const TableChoice& table : tables) {
         if (table.path != path || table.columns.IsEmpty())
             continue;
-        layers.push_back(DataSource(path).TableAsLayer(table.table.layer, table.columns));
+        layers.push_back(open.At(path).TableAsLayer(table.table.layer, table.columns));
     }
     return LayersToShow(layers);
 }

@@ -6,6 +6,7 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemGuess.h"
 #include "mapkit/data/MapRaster.h"
+#include "mapkit/data/OpenSource.h"
 #include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 
@@ -56,10 +57,10 @@ void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& syste
 }
 
 // A layer that cannot be read is reported when it is read for the map.
-Box MeasuredExtent(const QString& path, const SourceLayer& layer, Progress& progress)
+Box MeasuredExtent(OpenSource& open, const QString& path, const SourceLayer& layer, Progress& progress)
 {
     try {
-        return DataSource(path).MeasureExtent(layer.name, progress, layer.choice);
+        return open.At(path).MeasureExtent(layer.name, progress, layer.choice);
     } catch (const RunTimeError&) {
         return {};
     }
@@ -68,19 +69,20 @@ Box MeasuredExtent(const QString& path, const SourceLayer& layer, Progress& prog
 void MeasureExtents(FoundData& data, bool newMap, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
+    OpenSource open;
     ForEachLayer(data, [&](const FoundData::Source& source, SourceLayer& layer) {
         progress.StopIfCancelled();
         if (!layer.extent.IsEmpty() || !(newMap || IsUnnamed(layer)))
             return;
         progress.SetSubject(source.path);
-        layer.extent = MeasuredExtent(source.path, layer, progress);
+        layer.extent = MeasuredExtent(open, source.path, layer, progress);
     });
 }
 
-std::vector<SourceLayer> LayersIn(const QString& path)
+std::vector<SourceLayer> LayersIn(OpenSource& open, const QString& path)
 {
     try {
-        return DataSource(path).Layers();
+        return open.At(path).Layers();
     } catch (const RunTimeError&) { // it is reported when the map is read
         return {};
     }
@@ -100,6 +102,7 @@ Box ExtentOfMap(const ImportTarget& target, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
     std::map<QString, std::map<QString, QString>> chosen; // by path and layer
+    OpenSource open;
     Box extent;
     for (const LayerSource& source : target.sources) {
         progress.StopIfCancelled();
@@ -109,14 +112,14 @@ Box ExtentOfMap(const ImportTarget& target, Progress& progress)
             chosen[source.path][source.ogrLayer] = source.system;
     }
     for (const auto& [path, systems] : chosen) {
-        for (SourceLayer& layer : LayersIn(path)) {
+        for (SourceLayer& layer : LayersIn(open, path)) {
             progress.StopIfCancelled();
             const auto used = systems.find(layer.name);
             if (used == systems.end())
                 continue;
             layer.chosenSystem = used->second;
             if (layer.extent.IsEmpty())
-                layer.extent = MeasuredExtent(path, layer, progress);
+                layer.extent = MeasuredExtent(open, path, layer, progress);
             extent.Add(Transformed(layer.extent, SystemOf(layer), target.system));
         }
     }
