@@ -3,6 +3,7 @@
 
 #include "mapkit/files/DataFiles.h"
 #include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/TextTable.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -54,12 +55,6 @@ QString PrefixOfArchive(const QString& path)
     return QLatin1String(system) + QLatin1Char('{') + path + QLatin1Char('}');
 }
 
-bool IsTextTable(const QString& name)
-{
-    const QString plain = EndsWith(name, {".gz"}) ? name.chopped(3) : name;
-    return EndsWith(plain, {".csv", ".tsv", ".psv", ".txt"});
-}
-
 // GDAL knows text tables by their suffix, which may be hidden by that of the compression.
 QString NameForGdal(const QString& path)
 {
@@ -71,10 +66,10 @@ QString NameForGdal(const QString& path)
 
 std::unique_ptr<GDALDataset> OpenDataset(const QString& name)
 {
+    if (IsTextTable(name))
+        return OpenTextTable(name);
     constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
-    const char* const withNumbers[] = {"AUTODETECT_TYPE=YES", nullptr};
-    return std::unique_ptr<GDALDataset>(GDALDataset::Open(
-        name.toUtf8().constData(), flags, nullptr, IsTextTable(name) ? withNumbers : nullptr));
+    return std::unique_ptr<GDALDataset>(GDALDataset::Open(name.toUtf8().constData(), flags));
 }
 
 bool IsHidden(const QString& member)

@@ -14,7 +14,7 @@ namespace Orvane {
 
 /// What GDAL opens for one path: one dataset for a file or a folder, one for each data file in an archive
 /// (.zip, .tar, .tgz). A file that is compressed alone (.gz) is opened as if it were not. A text table (.csv,
-/// .tsv, .psv, .txt) gets columns of numbers where all its values are numbers.
+/// .tsv, .psv, .txt) gets columns of numbers where that loses nothing, see OpenTextTable.
 ///
 /// For the thread that made it. Errors of GDAL are left to the GdalErrors of the caller.
 class OpenedData
