@@ -32,6 +32,10 @@
         <translation>„%1“ gibt nicht an, wo das Bild liegt: Daneben gibt es keine Weltdatei „%2“, und es enthält auch keine eigenen Koordinaten wie ein GeoTIFF.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no column named &quot;%2&quot;. Its columns are: %3</source>
+        <translation>„%1“ hat keine Spalte namens „%2“. Die Spalten sind: %3</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
@@ -1130,6 +1134,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>The source says so.</source>
         <translation>Die Quelle gibt es so an.</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
+        <translation>In der Tabelle „%1“ von „%2“ fehlt die Spalte „%3“ mit Koordinaten.</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>

@@ -32,6 +32,10 @@
         <translation>« %1 » n’indique pas sa position : il n’y a pas de fichier de calage « %2 » à côté, et il ne contient pas de coordonnées propres comme un GeoTIFF.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no column named &quot;%2&quot;. Its columns are: %3</source>
+        <translation>« %1 » n’a pas de colonne nommée « %2 ». Ses colonnes sont : %3</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
@@ -1130,6 +1134,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>The source says so.</source>
         <translation>La source l’indique.</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
+        <translation>La table « %1 » de « %2 » n’a pas la colonne de coordonnées « %3 ».</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>

@@ -85,6 +85,13 @@ void AddLayers(FoundData& data, const QString& path, const std::vector<SourceLay
         known->layers.insert(known->layers.end(), layers.begin(), layers.end());
 }
 
+// Does nothing if text is empty.
+void AddProblem(FoundData& data, const QString& path, const QString& text)
+{
+    if (!text.isEmpty())
+        data.problems.push_back({path, text});
+}
+
 // Adds the features of a file. False if there are none; raises if no driver for features opens the file.
 bool LookForFeatures(const QString& path, FoundData& data)
 {
@@ -92,8 +99,9 @@ bool LookForFeatures(const QString& path, FoundData& data)
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const DataSource source(path);
     for (const QString& file : source.UnopenedFiles()) {
-        data.problems
-            << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
+        AddProblem(
+            data, path,
+            QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name));
     }
     const std::vector<SourceLayer> layers = LayersToShow(source.LayersWithGeometry());
     const std::vector<TableRows> tables = source.Tables();
@@ -134,12 +142,11 @@ void LookIntoFile(const QString& path, FoundData& data)
     }
     const QStringList members = RastersInArchive(path);
     for (const QString& member : members)
-        data.problems << TakeRaster(path, member, data, problem);
+        AddProblem(data, path, TakeRaster(path, member, data, problem));
     if (members.isEmpty() && (!hasFeatures || MayHoldBoth(path))) {
         problem = TakeRaster(path, {}, data, problem);
-        data.problems << (hasFeatures ? QString() : problem);
+        AddProblem(data, path, hasFeatures ? QString() : problem);
     }
-    data.problems.removeAll(QString());
 }
 
 std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
@@ -155,6 +162,15 @@ std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, 
 }
 
 } // namespace
+
+QString FoundData::ProblemText() const
+{
+    QStringList lines;
+    lines.reserve(qsizetype(problems.size()));
+    for (const DataProblem& problem : problems)
+        lines << problem.text;
+    return lines.join(QLatin1Char('\n'));
+}
 
 size_t LayerCount(const FoundData& data)
 {
@@ -205,13 +221,15 @@ FoundData WithTablesAsLayers(FoundData data, Progress& progress)
         try {
             const std::vector<SourceLayer> layers = LayersOfTables(data.tables, path);
             if (layers.empty() && Find(data, path) == data.sources.end())
-                data.problems << QCoreApplication::translate(
-                                     "DataImport", "\"%1\" is a table without columns for coordinates.")
-                                     .arg(QFileInfo(path).fileName());
+                AddProblem(
+                    data, path,
+                    QCoreApplication::translate(
+                        "DataImport", "\"%1\" is a table without columns for coordinates.")
+                        .arg(QFileInfo(path).fileName()));
             else if (!layers.empty())
                 AddLayers(data, path, layers);
         } catch (const RunTimeError& error) {
-            data.problems << error.Description();
+            AddProblem(data, path, error.Description());
         }
     }
     data.tables.clear();

@@ -47,13 +47,16 @@ QString NotedName(const FoundData::Source& source, const SourceLayer& layer)
         : QStringLiteral("%1 (%2)").arg(file, NameInText(layer.name));
 }
 
-void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& system, const QString& name)
+void AddNote(ImportPlan& plan, Reason reason, const FoundData::Source& source, const SourceLayer& layer)
 {
+    std::vector<SystemNote>& notes = plan.notes;
+    const QString& system = layer.chosenSystem;
     const auto same = std::find_if(notes.begin(), notes.end(), [&](const SystemNote& note) {
         return note.reason == reason && note.system == system;
     });
-    SystemNote& note = same == notes.end() ? notes.emplace_back(SystemNote{reason, system, {}}) : *same;
-    note.names << name;
+    SystemNote& note = same == notes.end() ? notes.emplace_back(SystemNote{reason, system, {}, {}}) : *same;
+    note.names << NotedName(source, layer);
+    note.paths << source.path;
 }
 
 // A layer that cannot be read is reported when it is read for the map.
@@ -143,8 +146,7 @@ void Guess(ImportPlan& plan, const MapPlace& map)
         if (layer.chosenSystem.isEmpty())
             return;
         const bool isMaps = layer.chosenSystem == map.system;
-        AddNote(
-            plan.notes, isMaps ? Reason::Map : Reason::Degrees, layer.chosenSystem, NotedName(source, layer));
+        AddNote(plan, isMaps ? Reason::Map : Reason::Degrees, source, layer);
     });
 }
 
@@ -171,7 +173,7 @@ void NoteUnknown(ImportPlan& plan)
 {
     ForEachLayer(plan.data, [&](const FoundData::Source& source, SourceLayer& layer) {
         if (IsUnknown(layer))
-            AddNote(plan.notes, Reason::Unknown, {}, NotedName(source, layer));
+            AddNote(plan, Reason::Unknown, source, layer);
     });
 }
 
@@ -229,7 +231,7 @@ void ImportPlan::Choose(const QString& system)
     });
     for (SystemNote& note : notes) {
         if (note.reason == Reason::Unknown)
-            note = {Reason::Chosen, system, note.names};
+            note = {Reason::Chosen, system, note.names, note.paths};
     }
 }
 

@@ -76,8 +76,8 @@ TEST_F(FoundLayersTest, ATourWithoutAnythingHasNothingToDraw)
         "empty.gpx", R"(<gpx version="1.1" creator="t" xmlns="http://www.topografix.com/GPX/1/1"></gpx>)");
     const FoundData found = LookInto({path}, m_progress);
     EXPECT_TRUE(found.sources.empty());
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("empty.gpx"));
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("empty.gpx"));
 }
 
 TEST_F(FoundLayersTest, AKmlThatNamesNoGeometryIsDrawnInOrder)
