@@ -802,6 +802,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>In &amp;zwei Spalten mit Zahlen</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>Es wurde angenommen oder gewählt; die Quelle kann nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>Es wurde angenommen oder gewählt; die Quelle gibt keines an.</translation>
     </message>
@@ -1126,6 +1130,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
+    </message>
+    <message>
+        <source>The source cannot be read.</source>
+        <translation>Die Quelle kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>

@@ -802,6 +802,10 @@ Zone d’utilisation : %3</translation>
         <translation>Dans &amp;deux colonnes de nombres</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>Il a été supposé ou choisi ; la source ne peut pas être lue.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>Il a été supposé ou choisi ; la source n’en indique aucun.</translation>
     </message>
@@ -1126,6 +1130,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
+    </message>
+    <message>
+        <source>The source cannot be read.</source>
+        <translation>La source ne peut pas être lue.</translation>
     </message>
     <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>

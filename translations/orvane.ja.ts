@@ -802,6 +802,10 @@ Area of use: %3</source>
         <translation>数値の 2 つの列(&amp;T)</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>推定または選択されました。データを読み込めません。</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>推定または選択されました。データには指定がありません。</translation>
     </message>
@@ -1126,6 +1130,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
+    </message>
+    <message>
+        <source>The source cannot be read.</source>
+        <translation>データを読み込めません。</translation>
     </message>
     <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>

@@ -5,6 +5,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
+#include "mapkit/data/GeometryKinds.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/LayerDescription.h"
 #include "mapkit/data/ReadingFailure.h"
@@ -43,6 +44,19 @@ Box ExtentOf(OGRLayer& layer)
     if (layer.GetExtent(&envelope, FALSE) != OGRERR_NONE)
         return {};
     return BoxOf(envelope);
+}
+
+// Of the parts that the choice takes.
+Box ExtentOf(const OGRGeometry& geometry, const GeometryChoice& choice)
+{
+    Box extent;
+    ForEachKind(geometry, [&](const OGRGeometry& part, FeatureKind kind) {
+        OGREnvelope envelope;
+        part.getEnvelope(&envelope);
+        if (choice.Takes(kind) && !part.IsEmpty())
+            extent.Add(BoxOf(envelope));
+    });
+    return extent;
 }
 
 // The memory that one layer may use, in bytes.
@@ -255,8 +269,8 @@ FeatureSet DataSource::Read(
     return features;
 }
 
-Box DataSource::MeasureExtent(
-    const QString& layerName, Progress& progress, const GeometryChoice& choice) const
+LayerMeasure
+DataSource::Measure(const QString& layerName, Progress& progress, const GeometryChoice& choice) const
 {
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
@@ -264,14 +278,12 @@ Box DataSource::MeasureExtent(
     RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
     if (rows.IsLacking())
         Fail(QCoreApplication::translate("DataSource", "it lacks a column with coordinates"));
-    Box extent;
+    LayerMeasure measure;
     for (GIntBig count = 1; const OGRFeatureUniquePtr feature{layer.GetNextFeature()}; ++count) {
         const OGRGeometry* geometry = rows.Of(*feature);
-        OGREnvelope part;
-        if (geometry && !geometry->IsEmpty()) {
-            geometry->getEnvelope(&part);
-            extent.Add(BoxOf(part));
-        }
+        const Box part = geometry ? ExtentOf(*geometry, choice) : Box();
+        measure.extent.Add(part);
+        measure.featureCount += part.IsEmpty() ? 0 : 1;
         if (count % FeaturesBetweenReports != 0)
             continue;
         progress.StopIfCancelled();
@@ -283,7 +295,7 @@ Box DataSource::MeasureExtent(
     RequireReadingInTime(m_path);
     if (!errors.First().isEmpty())
         Fail(errors.First());
-    return extent;
+    return measure;
 }
 
 SourceDetails DataSource::Details(const QString& layerName) const

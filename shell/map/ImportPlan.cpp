@@ -63,7 +63,7 @@ void AddNote(ImportPlan& plan, Reason reason, const FoundData::Source& source, c
 Box MeasuredExtent(OpenSource& open, const QString& path, const SourceLayer& layer, Progress& progress)
 {
     try {
-        return open.At(path).MeasureExtent(layer.name, progress, layer.choice);
+        return open.At(path).Measure(layer.name, progress, layer.choice).extent;
     } catch (const RunTimeError&) {
         return {};
     }

@@ -122,7 +122,7 @@ TEST_F(DataSourceTablesTest, AMissingColumnIsTold)
     GeometryChoice choice;
     choice.columns = {"lon", "lat", {}};
     EXPECT_THROW(source.Read("places", {}, {}, m_progress, choice), RunTimeError);
-    EXPECT_THROW(source.MeasureExtent("places", m_progress, choice), RunTimeError);
+    EXPECT_THROW(source.Measure("places", m_progress, choice), RunTimeError);
 }
 
 TEST_F(DataSourceTablesTest, SpreadsheetsAreTables)
