@@ -161,7 +161,7 @@ void MainWindow::AddData(const QStringList& paths)
     if (!m_layerControl.WithEditorsClosed([&] { AddFound(found, contents); }))
         return;
     m_system->Tell(plan);
-    m_data->ShowProblems(found.problems.join(QLatin1Char('\n')));
+    m_data->ShowProblems(found.ProblemText());
 }
 
 void MainWindow::AddFound(const FoundData& found, const SourceContents& contents)

@@ -32,6 +32,10 @@
         <translation>„%1“ gibt nicht an, wo das Bild liegt: Daneben gibt es keine Weltdatei „%2“, und es enthält auch keine eigenen Koordinaten wie ein GeoTIFF.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no column named &quot;%2&quot;. Its columns are: %3</source>
+        <translation>„%1“ hat keine Spalte namens „%2“. Die Spalten sind: %3</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>„%1“ hat keinen Layer namens „%2“.</translation>
     </message>
@@ -826,6 +830,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>In &amp;zwei Spalten mit Zahlen</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>Es wurde angenommen oder gewählt; die Quelle kann nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>Es wurde angenommen oder gewählt; die Quelle gibt keines an.</translation>
     </message>
@@ -1168,12 +1176,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
     </message>
     <message>
+        <source>The source cannot be read.</source>
+        <translation>Die Quelle kann nicht gelesen werden.</translation>
+    </message>
+    <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>
         <translation>Die Quelle gibt keines an; die Koordinaten werden als die der Karte genommen.</translation>
     </message>
     <message>
         <source>The source says so.</source>
         <translation>Die Quelle gibt es so an.</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
+        <translation>In der Tabelle „%1“ von „%2“ fehlt die Spalte „%3“ mit Koordinaten.</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>

@@ -32,6 +32,10 @@
         <translation>« %1 » n’indique pas sa position : il n’y a pas de fichier de calage « %2 » à côté, et il ne contient pas de coordonnées propres comme un GeoTIFF.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no column named &quot;%2&quot;. Its columns are: %3</source>
+        <translation>« %1 » n’a pas de colonne nommée « %2 ». Ses colonnes sont : %3</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>« %1 » ne contient pas de couche nommée « %2 ».</translation>
     </message>
@@ -826,6 +830,10 @@ Zone d’utilisation : %3</translation>
         <translation>Dans &amp;deux colonnes de nombres</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>Il a été supposé ou choisi ; la source ne peut pas être lue.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>Il a été supposé ou choisi ; la source n’en indique aucun.</translation>
     </message>
@@ -1168,12 +1176,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
     </message>
     <message>
+        <source>The source cannot be read.</source>
+        <translation>La source ne peut pas être lue.</translation>
+    </message>
+    <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>
         <translation>La source n’en indique aucun ; les coordonnées sont prises pour celles de la carte.</translation>
     </message>
     <message>
         <source>The source says so.</source>
         <translation>La source l’indique.</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
+        <translation>La table « %1 » de « %2 » n’a pas la colonne de coordonnées « %3 ».</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>

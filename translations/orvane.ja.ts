@@ -32,6 +32,10 @@
         <translation>「%1」の位置が不明です。同じフォルダーにワールドファイル「%2」がなく、GeoTIFF のような座標も含まれていません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; has no column named &quot;%2&quot;. Its columns are: %3</source>
+        <translation>「%1」に「%2」という列はありません。列は次のとおりです: %3</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no layer named &quot;%2&quot;.</source>
         <translation>「%1」には「%2」という名前のレイヤーがありません。</translation>
     </message>
@@ -826,6 +830,10 @@ Area of use: %3</source>
         <translation>数値の 2 つの列(&amp;T)</translation>
     </message>
     <message>
+        <source>It was assumed or chosen; the source cannot be read.</source>
+        <translation>推定または選択されました。データを読み込めません。</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source names none.</source>
         <translation>推定または選択されました。データには指定がありません。</translation>
     </message>
@@ -1168,12 +1176,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
     </message>
     <message>
+        <source>The source cannot be read.</source>
+        <translation>データを読み込めません。</translation>
+    </message>
+    <message>
         <source>The source names none; the coordinates are taken as those of the map.</source>
         <translation>データに指定がありません。座標は地図のものとみなします。</translation>
     </message>
     <message>
         <source>The source says so.</source>
         <translation>データの指定によります。</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
+        <translation>「%2」の表「%1」に座標の列「%3」がありません。</translation>
     </message>
     <message>
         <source>There is already a theme &quot;%1&quot;.</source>

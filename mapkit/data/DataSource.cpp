@@ -5,6 +5,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
+#include "mapkit/data/GeometryKinds.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/LayerDescription.h"
 #include "mapkit/data/ReadingFailure.h"
@@ -43,6 +44,19 @@ Box ExtentOf(OGRLayer& layer)
     if (layer.GetExtent(&envelope, FALSE) != OGRERR_NONE)
         return {};
     return BoxOf(envelope);
+}
+
+// Of the parts that the choice takes.
+Box ExtentOf(const OGRGeometry& geometry, const GeometryChoice& choice)
+{
+    Box extent;
+    ForEachKind(geometry, [&](const OGRGeometry& part, FeatureKind kind) {
+        OGREnvelope envelope;
+        part.getEnvelope(&envelope);
+        if (choice.Takes(kind) && !part.IsEmpty())
+            extent.Add(BoxOf(envelope));
+    });
+    return extent;
 }
 
 // The memory that one layer may use, in bytes.
@@ -97,6 +111,18 @@ FieldValue ValueOf(OGRFeature& feature, int index, bool isNumber)
     return value;
 }
 
+// The name of the layer that its file, which holds the other one too, calls so; empty if there is none.
+QString NameBeside(const OpenedData& data, const OpenedData::Layer& other, const QString& nameInFile)
+{
+    if (nameInFile.isEmpty())
+        return {};
+    for (const OpenedData::Layer& layer : data.Layers()) {
+        if (layer.dataset == other.dataset && nameInFile == QString::fromUtf8(layer.layer->GetName()))
+            return layer.name;
+    }
+    return {};
+}
+
 } // namespace
 
 DataSource::DataSource(const QString& path) : m_path(path)
@@ -119,25 +145,36 @@ DataSource::~DataSource()
     m_data.reset();
 }
 
-std::vector<SourceLayer> DataSource::Layers() const
+std::vector<SourceLayer> DataSource::LayersWithGeometry() const
 {
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<SourceLayer> layers;
-    for (const auto& [name, layer, isTable] : m_data->Layers()) {
-        if (layer->GetGeomType() == wkbNone)
+    bool hasTables = false;
+    for (const OpenedData::Layer& opened : m_data->Layers()) {
+        hasTables = hasTables || (opened.isTable && opened.layer->GetLayerDefn()->GetFieldCount() > 0);
+        if (opened.layer->GetGeomType() == wkbNone)
             continue;
-        layers.push_back(DescribeLayer(*layer, name, m_data->Format()));
-        layers.back().extent = ExtentOf(*layer);
+        layers.push_back(DescribeLayer(*opened.layer, m_data->FormatOf(*opened.layer)));
+        SourceLayer& layer = layers.back();
+        layer.name = opened.name;
+        layer.partsOf = NameBeside(*m_data, opened, layer.partsOf);
+        layer.extent = ExtentOf(*opened.layer);
     }
     RequireReadingInTime(m_path);
+    if (layers.empty() && !hasTables && !errors.First().isEmpty())
+        Fail(errors.First());
+    return layers;
+}
+
+std::vector<SourceLayer> DataSource::Layers() const
+{
+    std::vector<SourceLayer> layers = LayersWithGeometry();
     for (const TableRows& table : Tables()) {
         const CoordinateColumns columns = GuessColumns(table);
         if (!columns.IsEmpty())
             layers.push_back(TableAsLayer(table.layer, columns));
     }
-    if (layers.empty() && !errors.First().isEmpty())
-        Fail(errors.First());
     return layers;
 }
 
@@ -153,11 +190,11 @@ std::vector<TableRows> DataSource::Tables() const
     const GdalErrors errors;
     const ReadingBound bound;
     std::vector<TableRows> tables;
-    for (const auto& [name, layer, isTable] : m_data->Layers()) {
-        if (!isTable)
+    for (const OpenedData::Layer& opened : m_data->Layers()) {
+        if (!opened.isTable)
             continue;
-        tables.push_back(FirstRows(*layer, RowsToShow));
-        tables.back().layer = name;
+        tables.push_back(FirstRows(*opened.layer, RowsToShow));
+        tables.back().layer = opened.name;
     }
     RequireReadingInTime(m_path);
     std::erase_if(tables, [](const TableRows& table) { return table.columns.isEmpty(); });
@@ -232,8 +269,8 @@ FeatureSet DataSource::Read(
     return features;
 }
 
-Box DataSource::MeasureExtent(
-    const QString& layerName, Progress& progress, const GeometryChoice& choice) const
+LayerMeasure
+DataSource::Measure(const QString& layerName, Progress& progress, const GeometryChoice& choice) const
 {
     const GdalErrors errors;
     ReadingBound bound(ReadingBound::LongestWait);
@@ -241,14 +278,12 @@ Box DataSource::MeasureExtent(
     RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
     if (rows.IsLacking())
         Fail(QCoreApplication::translate("DataSource", "it lacks a column with coordinates"));
-    Box extent;
+    LayerMeasure measure;
     for (GIntBig count = 1; const OGRFeatureUniquePtr feature{layer.GetNextFeature()}; ++count) {
         const OGRGeometry* geometry = rows.Of(*feature);
-        OGREnvelope part;
-        if (geometry && !geometry->IsEmpty()) {
-            geometry->getEnvelope(&part);
-            extent.Add(BoxOf(part));
-        }
+        const Box part = geometry ? ExtentOf(*geometry, choice) : Box();
+        measure.extent.Add(part);
+        measure.featureCount += part.IsEmpty() ? 0 : 1;
         if (count % FeaturesBetweenReports != 0)
             continue;
         progress.StopIfCancelled();
@@ -260,7 +295,7 @@ Box DataSource::MeasureExtent(
     RequireReadingInTime(m_path);
     if (!errors.First().isEmpty())
         Fail(errors.First());
-    return extent;
+    return measure;
 }
 
 SourceDetails DataSource::Details(const QString& layerName) const
@@ -269,7 +304,7 @@ SourceDetails DataSource::Details(const QString& layerName) const
     const ReadingBound bound;
     OGRLayer& layer = FilteredLayer(layerName, {}, errors);
     SourceDetails details;
-    details.driver = m_data->FormatTitle();
+    details.driver = m_data->FormatTitleOf(layer);
     details.geometry = QString::fromUtf8(OGRGeometryTypeToName(layer.GetGeomType()));
     details.featureCount = layer.GetFeatureCount(FALSE);
     details.system = SystemText(layer.GetSpatialRef());

@@ -48,6 +48,12 @@ struct SourceDetails {
     Box extent; ///< in its own units; empty if the source does not know it
 };
 
+/// What reading all features of a layer tells.
+struct LayerMeasure {
+    Box extent; ///< in its own units; empty if there are none
+    qint64 featureCount = 0; ///< those with a geometry that is not empty
+};
+
 /// One attribute of a source layer.
 struct SourceField {
     QString name;
@@ -88,8 +94,10 @@ public:
     DataSource& operator=(const DataSource&) = delete;
 
     /// The layers that have geometry, in the source's order; then the tables whose coordinate columns can be
-    /// guessed.
+    /// guessed, of which many rows are read.
     std::vector<SourceLayer> Layers() const;
+    /// The same without tables.
+    std::vector<SourceLayer> LayersWithGeometry() const;
     /// Whether there is a layer or a table of that name.
     bool Has(const QString& layer) const;
 
@@ -109,11 +117,12 @@ public:
     FeatureSet Read(
         const QString& layer, const QString& filter, const QString& mapSystem, Progress& progress,
         const GeometryChoice& choice = {}, const QString& chosenSystem = {}) const;
-    /// The extent of all features of a layer in its own units, which reads them; empty if there are none. For
-    /// layers whose extent the source does not know. choice: its columns count. Raises as Read does.
-    Box MeasureExtent(const QString& layer, Progress& progress, const GeometryChoice& choice = {}) const;
-    /// More about a layer, for showing it to the user; raises for an unknown layer. The number of features
-    /// and the extent may be missing when finding them means reading all features.
+    /// Reads all features of a layer for their number and extent. For layers whose extent the source does not
+    /// know, and for parts of a layer, of which it knows nothing. choice: which geometries count. Raises as
+    /// Read does.
+    LayerMeasure Measure(const QString& layer, Progress& progress, const GeometryChoice& choice = {}) const;
+    /// More about a whole layer, for showing it to the user; raises for an unknown layer. The number of
+    /// features and the extent may be missing when finding them means reading all features.
     SourceDetails Details(const QString& layer) const;
 
     /// The attributes of a layer, in the source's order; raises for an unknown layer.

@@ -33,15 +33,23 @@ std::optional<FeatureKind> KindOfType(OGRwkbGeometryType type)
 
 } // namespace
 
-void KindCollector::Add(const OGRGeometry& geometry)
+void ForEachKind(
+    const OGRGeometry& geometry, const std::function<void(const OGRGeometry&, FeatureKind)>& visit)
 {
     const OGRwkbGeometryType type = geometry.getGeometryType();
     if (const auto kind = KindOfType(type)) {
-        m_found[size_t(*kind)] = m_found[size_t(*kind)] || !geometry.IsEmpty();
+        visit(geometry, *kind);
     } else if (OGR_GT_IsSubClassOf(type, wkbGeometryCollection)) {
         for (const OGRGeometry* member : geometry.toGeometryCollection())
-            Add(*member);
+            ForEachKind(*member, visit);
     }
+}
+
+void KindCollector::Add(const OGRGeometry& geometry)
+{
+    ForEachKind(geometry, [this](const OGRGeometry& part, FeatureKind kind) {
+        m_found[size_t(kind)] = m_found[size_t(kind)] || !part.IsEmpty();
+    });
 }
 
 std::vector<FeatureKind> KindCollector::Kinds() const

@@ -3,6 +3,7 @@
 
 #include "mapkit/data/FeatureSet.h"
 
+#include <functional>
 #include <vector>
 
 class OGRGeometry;
@@ -30,6 +31,10 @@ private:
 
 /// Whether a layer of that choice shows something of a geometry.
 bool HasAnyOf(const OGRGeometry& geometry, const GeometryChoice& choice);
+
+/// Calls visit with the geometry and its kind, or with each member of a collection that holds several kinds.
+void ForEachKind(
+    const OGRGeometry& geometry, const std::function<void(const OGRGeometry&, FeatureKind)>& visit);
 
 /// Whether a layer has at least one feature. Reads at most the first one.
 bool HasFeatures(OGRLayer& layer);

@@ -46,14 +46,14 @@ QString WholeOfGpx(const QString& layer)
 
 } // namespace
 
-SourceLayer DescribeLayer(OGRLayer& layer, const QString& name, const QString& format)
+SourceLayer DescribeLayer(OGRLayer& layer, const QString& format)
 {
     SourceLayer found;
-    found.name = name;
+    found.name = QString::fromUtf8(layer.GetName());
     found.system = SystemText(layer.GetSpatialRef());
     found.isEmpty = MakesEmptyLayers(format) && !HasFeatures(layer);
     if (format == QLatin1String("GPX"))
-        found.partsOf = WholeOfGpx(name);
+        found.partsOf = WholeOfGpx(found.name);
     SetKinds(found, KindsOf(layer));
     return found;
 }

@@ -4,6 +4,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/MapRaster.h"
+#include "mapkit/data/OpenSource.h"
 #include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -19,25 +20,6 @@ namespace Orvane {
 namespace {
 
 constexpr int MostLines = 8;
-
-// Keeps the last file open, because the sources are ordered by file.
-class OpenSource
-{
-public:
-    const DataSource& At(const QString& path)
-    {
-        if (!m_source || path != m_path) {
-            m_source.reset();
-            m_source = std::make_unique<DataSource>(path);
-            m_path = path;
-        }
-        return *m_source;
-    }
-
-private:
-    QString m_path;
-    std::unique_ptr<DataSource> m_source;
-};
 
 void ReadSource(
     SourceContents& contents, const LayerSource& source, const QString& mapSystem, OpenSource& open,

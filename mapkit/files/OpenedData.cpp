@@ -3,6 +3,7 @@
 
 #include "mapkit/files/DataFiles.h"
 #include "mapkit/files/GdalSetup.h"
+#include "mapkit/files/TextTable.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -55,12 +56,6 @@ QString PrefixOfArchive(const QString& path)
     return QLatin1String(system) + QLatin1Char('{') + path + QLatin1Char('}');
 }
 
-bool IsTextTable(const QString& name)
-{
-    const QString plain = EndsWith(name, {".gz"}) ? name.chopped(3) : name;
-    return EndsWith(plain, {".csv", ".tsv", ".psv", ".txt"});
-}
-
 // GDAL knows text tables by their suffix, which may be hidden by that of the compression.
 QString NameForGdal(const QString& path)
 {
@@ -72,13 +67,13 @@ QString NameForGdal(const QString& path)
 
 std::unique_ptr<GDALDataset> OpenDataset(const QString& name)
 {
+    if (IsTextTable(name))
+        return OpenTextTable(name);
     constexpr unsigned flags = GDAL_OF_VECTOR | GDAL_OF_READONLY;
-    const char* const withNumbers[] = {"AUTODETECT_TYPE=YES", nullptr};
     // Its own index is faster, but needs nodes in the order of their numbers; servers write them otherwise.
     const CPLConfigOptionSetter index(
         "OSM_USE_CUSTOM_INDEXING", EndsWith(name, {".osm"}) ? "NO" : "YES", true);
-    return std::unique_ptr<GDALDataset>(GDALDataset::Open(
-        name.toUtf8().constData(), flags, nullptr, IsTextTable(name) ? withNumbers : nullptr));
+    return std::unique_ptr<GDALDataset>(GDALDataset::Open(name.toUtf8().constData(), flags));
 }
 
 bool IsHidden(const QString& member)
@@ -123,10 +118,29 @@ bool HasGeometry(GDALDataset& dataset)
     return false;
 }
 
+// "roads" for "north/roads.shp" in an archive.
+QString TitleOf(const QString& member)
+{
+    return QFileInfo(member).completeBaseName();
+}
+
 QString WithoutSuffix(const QString& member)
 {
-    const QFileInfo file(member);
-    return member.chopped(file.fileName().size()) + file.completeBaseName();
+    return member.chopped(QFileInfo(member).fileName().size()) + TitleOf(member);
+}
+
+using Layers = std::vector<OpenedData::Layer>;
+
+// Gives each layer whose name others have too the other name, unless it is empty.
+void RenameShared(Layers& layers, const std::vector<QString>& otherNames)
+{
+    QHash<QString, int> uses;
+    for (const OpenedData::Layer& layer : layers)
+        ++uses[layer.name];
+    for (size_t i = 0; i < layers.size(); ++i) {
+        if (uses[layers[i].name] > 1 && !otherNames[i].isEmpty())
+            layers[i].name = otherNames[i];
+    }
 }
 
 } // namespace
@@ -148,7 +162,7 @@ void OpenedData::OpenArchive(const QString& archive)
     const QStringList names = DataIn(archive);
     for (const QString& name : names) {
         if (auto dataset = OpenDataset(archive + QLatin1Char('/') + name))
-            m_members.push_back({WithoutSuffix(name), std::move(dataset)});
+            m_members.push_back({name, std::move(dataset)});
         else
             m_unopened << name;
     }
@@ -158,40 +172,49 @@ void OpenedData::OpenArchive(const QString& archive)
         m_members.push_back({{}, std::move(dataset)});
 }
 
-std::vector<OpenedData::Layer> OpenedData::Layers() const
+std::vector<OpenedData::Layer> OpenedData::NamedLayers() const
 {
     std::vector<Layer> layers;
-    QHash<QString, int> uses;
+    std::vector<QString> withFolder;
+    std::vector<QString> withSuffix;
     for (const Member& member : m_members) {
-        const QString fileName = member.name.section(QLatin1Char('/'), -1);
+        const QString title = TitleOf(member.name);
         const bool isTable = !HasGeometry(*member.dataset);
         for (OGRLayer* layer : member.dataset->GetLayers()) {
-            const QString name = QString::fromUtf8(layer->GetName());
-            layers.push_back({IsNameless(name) && !fileName.isEmpty() ? fileName : name, layer, isTable});
-            ++uses[layers.back().name];
+            QString name = QString::fromUtf8(layer->GetName());
+            if (IsNameless(name) && !title.isEmpty())
+                name = title;
+            layers.push_back({name, layer, isTable, member.dataset.get()});
+            const QString within = name == title ? QString() : QLatin1Char('/') + name;
+            withFolder.push_back(member.name.isEmpty() ? QString() : WithoutSuffix(member.name) + within);
+            withSuffix.push_back(member.name.isEmpty() ? QString() : member.name + within);
         }
     }
-    size_t index = 0;
-    for (const Member& member : m_members) {
-        for (int i = 0; i < member.dataset->GetLayerCount(); ++i, ++index) {
-            QString& name = layers[index].name;
-            if (uses[name] < 2 || member.name.isEmpty())
-                continue;
-            const bool isAlone = member.name.section(QLatin1Char('/'), -1) == name;
-            name = isAlone ? member.name : member.name + QLatin1Char('/') + name;
-        }
-    }
+    RenameShared(layers, withFolder);
+    for (Layer& layer : layers)
+        layer.earlierName = layer.name;
+    RenameShared(layers, withSuffix);
     return layers;
+}
+
+const std::vector<OpenedData::Layer>& OpenedData::Layers() const
+{
+    if (m_layers.empty())
+        m_layers = NamedLayers();
+    return m_layers;
 }
 
 OGRLayer* OpenedData::Find(const QString& name) const
 {
     if (m_members.size() == 1 && m_members.front().name.isEmpty())
         return m_members.front().dataset->GetLayerByName(name.toUtf8().constData());
-    const std::vector<Layer> layers = Layers();
-    const auto found
-        = std::find_if(layers.begin(), layers.end(), [&](const Layer& layer) { return layer.name == name; });
-    return found == layers.end() ? nullptr : found->layer;
+    for (QString Layer::*known : {&Layer::name, &Layer::earlierName}) {
+        for (const Layer& layer : Layers()) {
+            if (layer.*known == name)
+                return layer.layer;
+        }
+    }
+    return nullptr;
 }
 
 GDALDataset* OpenedData::DatasetOf(const OGRLayer& layer) const
@@ -205,18 +228,19 @@ GDALDataset* OpenedData::DatasetOf(const OGRLayer& layer) const
     return nullptr;
 }
 
-QString OpenedData::Format() const
+QString OpenedData::FormatOf(const OGRLayer& layer) const
 {
-    if (m_members.empty() || !m_members.front().dataset->GetDriver())
-        return {};
-    return QString::fromUtf8(m_members.front().dataset->GetDriver()->GetDescription());
+    GDALDataset* dataset = DatasetOf(layer);
+    return dataset && dataset->GetDriver() ? QString::fromUtf8(dataset->GetDriver()->GetDescription())
+                                           : QString();
 }
 
-QString OpenedData::FormatTitle() const
+QString OpenedData::FormatTitleOf(const OGRLayer& layer) const
 {
-    if (m_members.empty() || !m_members.front().dataset->GetDriver())
-        return {};
-    return QString::fromUtf8(m_members.front().dataset->GetDriver()->GetMetadataItem(GDAL_DMD_LONGNAME));
+    GDALDataset* dataset = DatasetOf(layer);
+    return dataset && dataset->GetDriver()
+        ? QString::fromUtf8(dataset->GetDriver()->GetMetadataItem(GDAL_DMD_LONGNAME))
+        : QString();
 }
 
 bool OpenedData::IsNameless(const QString& layer)

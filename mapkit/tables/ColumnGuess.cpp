@@ -126,22 +126,46 @@ CoordinateColumns FindPair(const TableRows& table, const char* east, const char*
     return {};
 }
 
+std::optional<double> PlainNumber(const QString& text)
+{
+    bool isNumber = false;
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator);
+    const double value = plain.toDouble(text, &isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
+}
+
+// Without what parts groups of three digits and is no decimal sign anywhere: apostrophes and spaces. A comma
+// or a point that stands there more than once parts groups, too.
+QString WithoutGroups(const QString& text)
+{
+    static const QRegularExpression grouped(
+        QStringLiteral("^[+-]?[0-9]{1,3}(['\\x{2019}\\x{20}\\x{a0}\\x{202f}\\x{2009}])[0-9]{3}(\\1[0-9]{3})*("
+                       "[.,][0-9]*)?$"));
+    static const QRegularExpression several(QStringLiteral("^[+-]?[0-9]{1,3}([.,])[0-9]{3}(\\1[0-9]{3})+$"));
+    for (const QRegularExpression& groups : {grouped, several}) {
+        const QRegularExpressionMatch match = groups.match(text);
+        if (match.hasMatch())
+            return QString(text).remove(match.captured(1));
+    }
+    return text;
+}
+
 } // namespace
 
 std::optional<double> NumberOf(const QString& text)
 {
     QString number = text.trimmed();
+    if (const auto plain = PlainNumber(number))
+        return plain;
+    number = WithoutGroups(number);
     const qsizetype comma = number.lastIndexOf(QLatin1Char(','));
     const qsizetype point = number.lastIndexOf(QLatin1Char('.'));
     if (comma > point)
         number.remove(QLatin1Char('.')).replace(QLatin1Char(','), QLatin1Char('.'));
     else if (comma >= 0)
         number.remove(QLatin1Char(','));
-    bool isNumber = false;
-    QLocale plain = QLocale::c();
-    plain.setNumberOptions(QLocale::RejectGroupSeparator);
-    const double value = plain.toDouble(number, &isNumber);
-    return isNumber ? std::optional(value) : std::nullopt;
+    return PlainNumber(number);
 }
 
 CoordinateColumns GuessColumns(const TableRows& table)

@@ -26,7 +26,8 @@ struct TableChoice {
 };
 
 /// A number as people and programs write it: with a decimal point or a decimal comma, with or without
-/// thousands separators. Nothing for other texts.
+/// thousands separators: points, commas, apostrophes or spaces. A single point or comma is a decimal one.
+/// Nothing for other texts.
 std::optional<double> NumberOf(const QString& text);
 
 /// Guesses which columns hold the coordinates, from the usual names of several languages ("lon" and "lat",

@@ -7,6 +7,7 @@
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/output/MapPage.h"
 #include "mapkit/output/PageWriter.h"
+#include "shell/command/DataSentences.h"
 #include "shell/command/ExportOptions.h"
 #include "shell/command/MapCopy.h"
 #include "shell/map/MapLayers.h"
@@ -34,14 +35,6 @@ Box BoundsOf(const std::vector<MapLayer>& layers)
     return {bounds.minX - room, bounds.minY - room, bounds.maxX + room, bounds.maxY + room};
 }
 
-// Writes one line for each reason to the errors.
-void TellFailures(const SourceContents& contents, const Terminal& terminal)
-{
-    const QStringList reasons = contents.FailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString& reason : reasons)
-        TellError(terminal, reason);
-}
-
 int Export(const ExportRequest& request, const Terminal& terminal)
 {
     const MapCopy copy(request.map);
@@ -59,7 +52,8 @@ int Export(const ExportRequest& request, const Terminal& terminal)
         document.Database(), services,
         {layers.All(), document.System(), BoundsOf(layers.All()), document.Background()}, request.page);
     WritePage(page, request.file, progress);
-    TellFailures(contents, terminal);
+    for (const QString& failure : FailuresWithPaths(contents, document.Sources()))
+        TellError(terminal, failure);
     return contents.failures.empty() ? ExitCode::Done : ExitCode::Problems;
 }
 

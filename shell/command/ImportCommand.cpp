@@ -4,6 +4,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/document/MapDocument.h"
+#include "shell/command/DataSentences.h"
 #include "shell/map/ImportPlan.h"
 #include "store/ILayerStore.h"
 
@@ -31,18 +32,56 @@ QStringList NamesIn(const CoordinateColumns& columns)
     return columns.wkt.isEmpty() ? QStringList{columns.x, columns.y} : QStringList{columns.wkt};
 }
 
-bool HasAll(const TableRows& table, const QStringList& columns)
+// The table's name for that column; without an exact one, that which differs in case. Empty for none.
+QString ColumnNamed(const TableRows& table, const QString& column)
 {
-    return std::all_of(columns.begin(), columns.end(), [&](const QString& column) {
-        return table.columns.contains(column);
+    if (column.isEmpty() || table.columns.contains(column))
+        return column;
+    const auto same = std::find_if(table.columns.begin(), table.columns.end(), [&](const QString& known) {
+        return known.compare(column, Qt::CaseInsensitive) == 0;
     });
+    return same == table.columns.end() ? QString() : *same;
 }
 
-// A table without the named columns is left out.
+// A sentence for the first column that the table lacks.
+QString LackIn(const TableChoice& table, const CoordinateColumns& columns)
+{
+    const QStringList names = NamesIn(columns);
+    const auto missing = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+        return ColumnNamed(table.table, name).isEmpty();
+    });
+    const QString file = QFileInfo(table.path).fileName();
+    const bool isAlone = table.table.layer == QFileInfo(table.path).completeBaseName();
+    return ImportText(
+               QT_TRANSLATE_NOOP("ImportCommand", "\"%1\" has no column named \"%2\". Its columns are: %3"))
+        .arg(
+            isAlone ? file : QStringLiteral("%1 (%2)").arg(file, table.table.layer),
+            missing == names.end() ? QString() : *missing, table.table.columns.join(QLatin1String(", ")));
+}
+
+bool IsFileUsed(const FoundData& found, const QString& path)
+{
+    const auto hasLayers = [&](const FoundData::Source& source) { return source.path == path; };
+    return std::any_of(found.sources.begin(), found.sources.end(), hasLayers)
+        || std::any_of(found.tables.begin(), found.tables.end(), [&](const TableChoice& table) {
+               return table.path == path && !table.columns.IsEmpty();
+           });
+}
+
+// A table without the named columns is left out; a problem if nothing of its file is left.
 void ChooseColumns(FoundData& found, const CoordinateColumns& columns)
 {
-    for (TableChoice& table : found.tables)
-        table.columns = HasAll(table.table, NamesIn(columns)) ? columns : CoordinateColumns();
+    for (TableChoice& table : found.tables) {
+        const CoordinateColumns own
+            = {ColumnNamed(table.table, columns.x), ColumnNamed(table.table, columns.y),
+               ColumnNamed(table.table, columns.wkt)};
+        table.columns = own;
+    }
+    for (const TableChoice& table : found.tables) {
+        if (!IsFileUsed(found, table.path))
+            found.problems.push_back({table.path, LackIn(table, columns)});
+    }
+    std::erase_if(found.tables, [](const TableChoice& table) { return table.columns.IsEmpty(); });
 }
 
 void TellColumns(const FoundData& found, const Terminal& terminal)
@@ -54,9 +93,7 @@ void TellColumns(const FoundData& found, const Terminal& terminal)
                 continue;
             const QString text = ImportText(
                 QT_TRANSLATE_NOOP("ImportCommand", "Coordinates of \"%1\" are in these columns: %2"));
-            TellLine(
-                terminal,
-                text.arg(QFileInfo(source.path).fileName(), NamesIn(columns).join(QLatin1String(", "))));
+            TellLine(terminal, text.arg(PathToTell(source.path), NamesIn(columns).join(QLatin1String(", "))));
         }
     }
 }
@@ -99,8 +136,9 @@ void AddPlanned(MapDocument& document, const ImportRequest& request, const Impor
 
 void TellNotes(const ImportPlan& plan, const Terminal& terminal)
 {
-    for (const QString& note : plan.NoteTexts())
-        TellLine(terminal, note);
+    const QStringList notes = plan.NoteTexts();
+    for (qsizetype i = 0; i < notes.size(); ++i)
+        TellLine(terminal, WithPaths(notes[i], plan.notes[size_t(i)].paths));
     if (!plan.Unknown().isEmpty())
         TellError(
             terminal,
@@ -112,8 +150,8 @@ int Import(const ImportRequest& request, const Terminal& terminal)
 {
     const std::unique_ptr<MapDocument> map = ExistingMap(request.map);
     const ImportPlan plan = Plan(request, map.get());
-    for (const QString& problem : plan.data.problems)
-        TellError(terminal, problem);
+    for (const DataProblem& problem : plan.data.problems)
+        TellError(terminal, WithPath(problem.text, problem.path));
     if (plan.data.sources.empty()) {
         TellError(terminal, ImportText(QT_TRANSLATE_NOOP("ImportCommand", "There is nothing to import.")));
         return ExitCode::Problems;
@@ -129,7 +167,7 @@ int Import(const ImportRequest& request, const Terminal& terminal)
         terminal,
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
             .arg(QFileInfo(request.map).fileName(), QLocale().toString(qulonglong(LayerCount(plan.data)))));
-    const bool isAll = plan.data.problems.isEmpty() && plan.IsPlaced();
+    const bool isAll = plan.data.problems.empty() && plan.IsPlaced();
     return isAll ? ExitCode::Done : ExitCode::Problems;
 }
 

@@ -5,6 +5,7 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/output/PageSettings.h"
+#include "shell/command/DataSentences.h"
 #include "shell/command/MapCopy.h"
 #include "shell/map/MapLayers.h"
 
@@ -107,7 +108,8 @@ int List(const QString& map, bool isJson, const Terminal& terminal)
     (isJson ? TellJson : TellLines)(terminal, document.System(), layers.All());
     if (contents.failures.empty())
         return ExitCode::Done;
-    TellError(terminal, contents.FailureText());
+    for (const QString& failure : FailuresWithPaths(contents, document.Sources()))
+        TellError(terminal, failure);
     return ExitCode::Problems;
 }
 

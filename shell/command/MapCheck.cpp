@@ -6,6 +6,7 @@
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/EarlierBackdrop.h"
 #include "mapkit/document/SourceTable.h"
+#include "shell/command/DataSentences.h"
 #include "shell/command/ValueCheck.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "store/sqlite/repair/DanglingRows.h"
@@ -23,6 +24,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <tuple>
 
 namespace Orvane {
 
@@ -57,27 +59,64 @@ void AddDanglingRows(Problems& problems, SqliteLayerDatabase& database)
     }
 }
 
-// Why the layer cannot be read; empty when it can.
-QString WhyUnreadable(const DataSource& source, const QString& path, const QString& layerName)
+void AddUnreadable(Problems& problems, const QString& path, const QString& reason)
 {
-    if (source.Has(layerName))
-        return {};
-    return Translate(QT_TRANSLATE_NOOP("MapCheck", "\"%1\" has no layer named \"%2\"."))
-        .arg(QFileInfo(path).fileName(), layerName);
+    problems.push_back({Kind::UnreadableData, WithPath(reason, path), false});
 }
 
-void AddUnreadable(Problems& problems, const QString& path, const std::set<QString>& layerNames)
+// The layers of the map that one layer of a file is shown in: their columns.
+using ColumnsByLayer = std::map<QString, QStringList>;
+
+// Why the layer cannot be read; empty when it can.
+QString WhyUnreadable(const DataSource& source, const QString& name, const QString& layer)
+{
+    return source.Has(layer)
+        ? QString()
+        : Translate(QT_TRANSLATE_NOOP("MapCheck", "\"%1\" has no layer named \"%2\".")).arg(name, layer);
+}
+
+bool HasField(const DataSource& source, const QString& layer, const QString& column)
+{
+    const std::vector<SourceField> fields = source.Fields(layer);
+    return std::any_of(fields.begin(), fields.end(), [&](const SourceField& field) {
+        return field.name.compare(column, Qt::CaseInsensitive) == 0;
+    });
+}
+
+void CheckLayers(Problems& problems, const QString& path, const ColumnsByLayer& layers)
+{
+    const DataSource source(path);
+    const QString name = QFileInfo(path).fileName();
+    for (const auto& [layer, columns] : layers) {
+        const QString reason = WhyUnreadable(source, name, layer);
+        if (!reason.isEmpty()) {
+            AddUnreadable(problems, path, reason);
+            continue;
+        }
+        for (const QString& column : columns) {
+            const QString text = Translate(QT_TRANSLATE_NOOP(
+                "MapCheck", "The table \"%1\" of \"%2\" lacks the column \"%3\" with coordinates."));
+            if (!HasField(source, layer, column))
+                AddUnreadable(problems, path, text.arg(layer, name, column));
+        }
+    }
+}
+
+void AddUnreadable(Problems& problems, const QString& path, const ColumnsByLayer& layers)
 {
     try {
-        const DataSource source(path);
-        for (const QString& layerName : layerNames) {
-            const QString reason = WhyUnreadable(source, path, layerName);
-            if (!reason.isEmpty())
-                problems.push_back({Kind::UnreadableData, reason, false});
-        }
+        CheckLayers(problems, path, layers);
     } catch (const RunTimeError& error) {
-        problems.push_back({Kind::UnreadableData, error.Description(), false});
+        AddUnreadable(problems, path, error.Description());
     }
+}
+
+// Each once, without empty ones.
+void AddNames(QStringList& names, const CoordinateColumns& columns)
+{
+    names << columns.x << columns.y << columns.wkt;
+    names.removeAll(QString());
+    names.removeDuplicates();
 }
 
 void AddMissingFile(Problems& problems, const QString& path)
@@ -93,23 +132,23 @@ void AddRaster(Problems& problems, const QString& path, const QString& member = 
     try {
         const RasterSource raster(path, member);
     } catch (const RunTimeError& error) {
-        problems.push_back({Kind::UnreadableData, error.Description(), false});
+        AddUnreadable(problems, path, error.Description());
     }
 }
 
 void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
 {
-    std::map<QString, std::set<QString>> layerNames;
+    std::map<QString, ColumnsByLayer> layers; // by path
     std::set<std::pair<QString, QString>> rasters; // path, name in an archive
     for (const LayerSource& source : sources) {
         if (source.kind == DataKind::Raster)
             rasters.insert({source.path, source.ogrLayer});
         else
-            layerNames[source.path].insert(source.ogrLayer);
+            AddNames(layers[source.path][source.ogrLayer], source.choice.columns);
     }
-    for (const auto& [path, names] : layerNames) {
+    for (const auto& [path, found] : layers) {
         if (QFileInfo::exists(path))
-            AddUnreadable(problems, path, names);
+            AddUnreadable(problems, path, found);
         else
             AddMissingFile(problems, path);
     }
@@ -117,14 +156,24 @@ void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
         AddRaster(problems, path, member);
 }
 
+// "roads.shp", or "town.gpkg (roads)".
+QString NameOfLayer(const LayerSource& source)
+{
+    const QFileInfo file(source.path);
+    const bool isAlone = source.ogrLayer.isEmpty() || source.ogrLayer == file.completeBaseName();
+    return isAlone ? file.fileName() : QStringLiteral("%1 (%2)").arg(file.fileName(), source.ogrLayer);
+}
+
 void AddUnknownSystems(Problems& problems, const std::vector<LayerSource>& sources)
 {
     const QString text = Translate(QT_TRANSLATE_NOOP(
         "MapCheck", "The coordinate system that was chosen for \"%1\" is not known: \"%2\"."));
+    std::set<std::tuple<QString, QString, QString>> told; // parts of a layer have the same system
     for (const LayerSource& source : sources) {
-        if (!source.system.isEmpty() && !FactsOf(source.system).isKnown)
-            problems.push_back(
-                {Kind::UnreadableData, text.arg(QFileInfo(source.path).fileName(), source.system), false});
+        if (source.system.isEmpty() || FactsOf(source.system).isKnown)
+            continue;
+        if (told.insert({source.path, source.ogrLayer, source.system}).second)
+            AddUnreadable(problems, source.path, text.arg(NameOfLayer(source), source.system));
     }
 }
 

@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <optional>
 
 namespace Orvane {
 
@@ -29,16 +30,30 @@ constexpr double MostDegrees = 360;
 
 constexpr std::chrono::seconds MeasuringTime{2}; // the window is waiting
 
-// Empty if it takes too long.
-Box ExtentFoundSoon(const DataSource& file, const LayerSource& source)
+// Nothing if it takes too long.
+std::optional<LayerMeasure> MeasuredSoon(const DataSource& file, const LayerSource& source)
 {
     try {
         const ReadingBound soon(MeasuringTime);
         Progress progress;
-        return file.MeasureExtent(source.ogrLayer, progress, source.choice);
+        return file.Measure(source.ogrLayer, progress, source.choice);
     } catch (const RunTimeError&) {
-        return {};
+        return std::nullopt;
     }
+}
+
+// The format and the geometry are those of the whole.
+SourceDetails DetailsOf(const DataSource& file, const LayerSource& source)
+{
+    SourceDetails details = file.Details(source.ogrLayer);
+    const bool isPart = !source.choice.kinds.empty();
+    if (!isPart && !details.extent.IsEmpty())
+        return details;
+    const std::optional<LayerMeasure> measured = MeasuredSoon(file, source);
+    details.extent = measured ? measured->extent : Box();
+    if (isPart)
+        details.featureCount = measured ? measured->featureCount : -1;
+    return details;
 }
 
 // Small numbers are degrees, or as fine.
@@ -157,9 +172,7 @@ void LayerPropertiesDialog::ShowSource(const LayerSource& source)
 void LayerPropertiesDialog::ReadDetails(const LayerSource& source)
 {
     const DataSource file(source.path);
-    SourceDetails details = file.Details(source.ogrLayer);
-    if (details.extent.IsEmpty())
-        details.extent = ExtentFoundSoon(file, source);
+    const SourceDetails details = DetailsOf(file, source);
     m_named = details.system;
     ShowDetails(details);
 }
@@ -205,20 +218,26 @@ void LayerPropertiesDialog::ShowDetails(const SourceDetails& details)
     m_ui->lblExtent->setText(ExtentText(details.extent));
 }
 
+// Where the system of the shown layer comes from. chosen: empty if none was chosen.
+QString LayerPropertiesDialog::OriginText(const QString& chosen) const
+{
+    if (!m_isReadable)
+        return chosen.isEmpty() ? tr("The source cannot be read.")
+                                : tr("It was assumed or chosen; the source cannot be read.");
+    if (chosen.isEmpty())
+        return m_named.isEmpty() ? tr("The source names none; the coordinates are taken as those of the map.")
+                                 : tr("The source says so.");
+    return m_named.isEmpty() ? tr("It was assumed or chosen; the source names none.")
+                             : tr("It was chosen; the source says %1.").arg(SystemTitle(m_named));
+}
+
 void LayerPropertiesDialog::ShowSystem()
 {
     const auto found = m_chosen.find(LayerID());
     const QString chosen = found == m_chosen.end() ? QString() : found->second;
     const QString& used = chosen.isEmpty() ? m_named : chosen;
     m_ui->lblSystem->setText(used.isEmpty() ? tr("not known") : SystemTitle(used));
-    QString origin = tr("The source says so.");
-    if (!chosen.isEmpty())
-        origin = m_named.isEmpty() ? tr("It was assumed or chosen; the source names none.")
-                                   : tr("It was chosen; the source says %1.").arg(SystemTitle(m_named));
-    else if (m_named.isEmpty())
-        origin = m_isReadable ? tr("The source names none; the coordinates are taken as those of the map.")
-                              : QString();
-    m_ui->lblOrigin->setText(origin);
+    m_ui->lblOrigin->setText(found == m_chosen.end() ? QString() : OriginText(chosen));
     m_ui->cmdChange->setEnabled(found != m_chosen.end());
     m_ui->cmdAsSource->setEnabled(!chosen.isEmpty());
 }

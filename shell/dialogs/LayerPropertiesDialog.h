@@ -53,6 +53,7 @@ private:
     void ShowRaster(const RasterDetails& details);
     void ShowCaptions(bool isRaster);
     void ShowSystem();
+    QString OriginText(const QString& chosen) const;
     void ChangeSystem();
     void TakeSystem(const QString& system);
 

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
+#include "mapkit/data/OpenSource.h"
 #include "mapkit/data/RasterSource.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/DataFiles.h"
@@ -84,6 +85,13 @@ void AddLayers(FoundData& data, const QString& path, const std::vector<SourceLay
         known->layers.insert(known->layers.end(), layers.begin(), layers.end());
 }
 
+// Does nothing if text is empty.
+void AddProblem(FoundData& data, const QString& path, const QString& text)
+{
+    if (!text.isEmpty())
+        data.problems.push_back({path, text});
+}
+
 // Adds the features of a file. False if there are none; raises if no driver for features opens the file.
 bool LookForFeatures(const QString& path, FoundData& data)
 {
@@ -91,12 +99,11 @@ bool LookForFeatures(const QString& path, FoundData& data)
     const QString absolute = QFileInfo(path).absoluteFilePath();
     const DataSource source(path);
     for (const QString& file : source.UnopenedFiles()) {
-        data.problems
-            << QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name);
+        AddProblem(
+            data, path,
+            QCoreApplication::translate("DataImport", "\"%1\" in \"%2\" cannot be read.").arg(file, name));
     }
-    std::vector<SourceLayer> layers = source.Layers();
-    std::erase_if(layers, [](const SourceLayer& layer) { return !layer.choice.columns.IsEmpty(); });
-    layers = LayersToShow(layers);
+    const std::vector<SourceLayer> layers = LayersToShow(source.LayersWithGeometry());
     const std::vector<TableRows> tables = source.Tables();
     data.tables.reserve(data.tables.size() + tables.size());
     for (const TableRows& table : tables)
@@ -135,26 +142,35 @@ void LookIntoFile(const QString& path, FoundData& data)
     }
     const QStringList members = RastersInArchive(path);
     for (const QString& member : members)
-        data.problems << TakeRaster(path, member, data, problem);
+        AddProblem(data, path, TakeRaster(path, member, data, problem));
     if (members.isEmpty() && (!hasFeatures || MayHoldBoth(path))) {
         problem = TakeRaster(path, {}, data, problem);
-        data.problems << (hasFeatures ? QString() : problem);
+        AddProblem(data, path, hasFeatures ? QString() : problem);
     }
-    data.problems.removeAll(QString());
 }
 
 std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, const QString& path)
 {
+    OpenSource open;
     std::vector<SourceLayer> layers;
     for (const TableChoice& table : tables) {
         if (table.path != path || table.columns.IsEmpty())
             continue;
-        layers.push_back(DataSource(path).TableAsLayer(table.table.layer, table.columns));
+        layers.push_back(open.At(path).TableAsLayer(table.table.layer, table.columns));
     }
     return LayersToShow(layers);
 }
 
 } // namespace
+
+QString FoundData::ProblemText() const
+{
+    QStringList lines;
+    lines.reserve(qsizetype(problems.size()));
+    for (const DataProblem& problem : problems)
+        lines << problem.text;
+    return lines.join(QLatin1Char('\n'));
+}
 
 size_t LayerCount(const FoundData& data)
 {
@@ -205,13 +221,15 @@ FoundData WithTablesAsLayers(FoundData data, Progress& progress)
         try {
             const std::vector<SourceLayer> layers = LayersOfTables(data.tables, path);
             if (layers.empty() && Find(data, path) == data.sources.end())
-                data.problems << QCoreApplication::translate(
-                                     "DataImport", "\"%1\" is a table without columns for coordinates.")
-                                     .arg(QFileInfo(path).fileName());
+                AddProblem(
+                    data, path,
+                    QCoreApplication::translate(
+                        "DataImport", "\"%1\" is a table without columns for coordinates.")
+                        .arg(QFileInfo(path).fileName()));
             else if (!layers.empty())
                 AddLayers(data, path, layers);
         } catch (const RunTimeError& error) {
-            data.problems << error.Description();
+            AddProblem(data, path, error.Description());
         }
     }
     data.tables.clear();

@@ -15,6 +15,12 @@ namespace Orvane {
 
 class Progress;
 
+/// Why a file has no layers, or one of its parts has none.
+struct DataProblem {
+    QString path; ///< as it was given
+    QString text; ///< a sentence that names the file without its folder
+};
+
 /// What was found in files.
 struct FoundData {
     struct Source {
@@ -23,7 +29,10 @@ struct FoundData {
     };
     std::vector<Source> sources; ///< files with at least one layer
     std::vector<TableChoice> tables; ///< tables without geometry, with the columns that are guessed
-    QStringList problems; ///< one sentence for each file without layers
+    std::vector<DataProblem> problems; ///< at least one for each file without layers
+
+    /// The sentences of the problems, as lines.
+    QString ProblemText() const;
 };
 
 /// Examines files, and those in folders, without reading all their features; for any thread. Raises

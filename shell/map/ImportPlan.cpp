@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemGuess.h"
+#include "mapkit/data/OpenSource.h"
 #include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 #include "shell/map/MapExtent.h"
@@ -46,23 +47,27 @@ QString NotedName(const FoundData::Source& source, const SourceLayer& layer)
         : QStringLiteral("%1 (%2)").arg(file, NameInText(layer.name));
 }
 
-void AddNote(std::vector<SystemNote>& notes, Reason reason, const QString& system, const QString& name)
+void AddNote(ImportPlan& plan, Reason reason, const FoundData::Source& source, const SourceLayer& layer)
 {
+    std::vector<SystemNote>& notes = plan.notes;
+    const QString& system = layer.chosenSystem;
     const auto same = std::find_if(notes.begin(), notes.end(), [&](const SystemNote& note) {
         return note.reason == reason && note.system == system;
     });
-    SystemNote& note = same == notes.end() ? notes.emplace_back(SystemNote{reason, system, {}}) : *same;
-    note.names << name;
+    SystemNote& note = same == notes.end() ? notes.emplace_back(SystemNote{reason, system, {}, {}}) : *same;
+    note.names << NotedName(source, layer);
+    note.paths << source.path;
 }
 
 // Layers of which it is not known in time are noted.
 Box MeasuredExtent(
-    const FoundData::Source& source, const SourceLayer& layer, ImportPlan& plan, Progress& progress)
+    OpenSource& open, const FoundData::Source& source, const SourceLayer& layer, ImportPlan& plan,
+    Progress& progress)
 {
     try {
-        return DataSource(source.path).MeasureExtent(layer.name, progress, layer.choice);
+        return open.At(source.path).Measure(layer.name, progress, layer.choice).extent;
     } catch (const RunTimeError&) {
-        AddNote(plan.notes, Reason::Unmeasured, {}, NotedName(source, layer));
+        AddNote(plan, Reason::Unmeasured, source, layer);
         return {};
     }
 }
@@ -70,12 +75,13 @@ Box MeasuredExtent(
 void MeasureExtents(ImportPlan& plan, bool newMap, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
+    OpenSource open;
     ForEachLayer(plan.data, [&](const FoundData::Source& source, SourceLayer& layer) {
         progress.StopIfCancelled();
         if (!layer.extent.IsEmpty() || !(newMap || IsUnnamed(layer)))
             return;
         progress.SetSubject(source.path);
-        layer.extent = MeasuredExtent(source, layer, plan, progress);
+        layer.extent = MeasuredExtent(open, source, layer, plan, progress);
     });
 }
 
@@ -96,8 +102,7 @@ void Guess(ImportPlan& plan, const MapPlace& map)
         if (layer.chosenSystem.isEmpty())
             return;
         const bool isMaps = layer.chosenSystem == map.system;
-        AddNote(
-            plan.notes, isMaps ? Reason::Map : Reason::Degrees, layer.chosenSystem, NotedName(source, layer));
+        AddNote(plan, isMaps ? Reason::Map : Reason::Degrees, source, layer);
     });
 }
 
@@ -125,7 +130,7 @@ void NoteUnknown(ImportPlan& plan)
 {
     ForEachLayer(plan.data, [&](const FoundData::Source& source, SourceLayer& layer) {
         if (IsUnknown(layer))
-            AddNote(plan.notes, Reason::Unknown, {}, NotedName(source, layer));
+            AddNote(plan, Reason::Unknown, source, layer);
     });
 }
 
@@ -193,7 +198,7 @@ void ImportPlan::Choose(const QString& system)
     });
     for (SystemNote& note : notes) {
         if (note.reason == Reason::Unknown)
-            note = {Reason::Chosen, system, note.names};
+            note = {Reason::Chosen, system, note.names, note.paths};
     }
 }
 

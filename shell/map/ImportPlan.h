@@ -33,6 +33,7 @@ struct SystemNote {
     Reason reason = Reason::Unknown;
     QString system; ///< empty for Unknown and Unmeasured
     QStringList names; ///< "roads.shp", or "town.gpkg (roads)" where a file has several layers
+    QStringList paths; ///< of the files that are named, in that order
 };
 
 /// Data that were found, each with its place.

@@ -49,7 +49,7 @@ public:
         SourceLayer layer = Found(source);
         layer.chosenSystem = source.system;
         if (layer.extent.IsEmpty())
-            layer.extent = m_data.MeasureExtent(layer.name, m_progress, layer.choice);
+            layer.extent = m_data.Measure(layer.name, m_progress, layer.choice).extent;
         return Transformed(layer.extent, SystemOf(layer), system);
     }
 

@@ -15,7 +15,8 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-#include <utility>
+#include <algorithm>
+#include <map>
 
 namespace Orvane::TableQuestions {
 
@@ -40,32 +41,74 @@ std::vector<LayerSource> TableLayers(const MapDocument& document)
     return sources;
 }
 
-void ReadRows(TableChoice& choice)
+// By their names; none if the file cannot be read.
+std::map<QString, TableRows> TablesIn(const QString& path)
 {
+    std::map<QString, TableRows> tables;
     try {
-        for (const TableRows& table : DataSource(choice.path).Tables()) {
-            if (table.layer == choice.table.layer)
-                choice.table = table;
-        }
-    } catch (const RunTimeError&) { // it keeps its columns
+        for (const TableRows& table : DataSource(path).Tables())
+            tables.emplace(table.layer, table);
+    } catch (const RunTimeError&) { // the layers keep their columns
     }
+    return tables;
 }
 
-// One for each layer; without rows if the file cannot be read.
-std::vector<TableChoice> ChoicesOf(const std::vector<LayerSource>& layers, Progress& progress)
+// Layers that show one table with the same columns: all of it, or each one kind of geometry.
+using TableParts = std::vector<LayerSource>;
+
+bool IsSameTable(const LayerSource& one, const LayerSource& other)
+{
+    return one.path == other.path && one.ogrLayer == other.ogrLayer
+        && one.choice.columns == other.choice.columns;
+}
+
+std::vector<TableParts> TablesOf(const MapDocument& document)
+{
+    std::vector<TableParts> tables;
+    for (const LayerSource& layer : TableLayers(document)) {
+        const auto known = std::find_if(tables.begin(), tables.end(), [&](const TableParts& parts) {
+            return IsSameTable(parts.front(), layer);
+        });
+        if (known == tables.end())
+            tables.push_back({layer});
+        else
+            known->push_back(layer);
+    }
+    return tables;
+}
+
+// One for each table; without rows if the file cannot be read.
+std::vector<TableChoice> ChoicesOf(const std::vector<TableParts>& tables, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
+    std::map<QString, std::map<QString, TableRows>> rows; // by path
     std::vector<TableChoice> choices;
-    choices.reserve(layers.size());
-    for (const LayerSource& layer : layers) {
+    choices.reserve(tables.size());
+    for (const TableParts& table : tables) {
         progress.StopIfCancelled();
+        const LayerSource& layer = table.front();
+        const auto [file, isNew] = rows.try_emplace(layer.path);
+        if (isNew)
+            file->second = TablesIn(layer.path);
         TableChoice& choice = choices.emplace_back();
         choice.path = layer.path;
         choice.columns = layer.choice.columns;
+        choice.table = file->second[layer.ogrLayer];
         choice.table.layer = layer.ogrLayer;
-        ReadRows(choice);
     }
     return choices;
+}
+
+// The rows of X and Y are points. If no part shows points, the first one then shows all.
+void Choose(TableParts& parts, const CoordinateColumns& columns)
+{
+    for (LayerSource& part : parts)
+        part.choice.columns = columns;
+    const bool isShown = std::any_of(parts.begin(), parts.end(), [](const LayerSource& part) {
+        return part.choice.Takes(FeatureKind::Point);
+    });
+    if (columns.wkt.isEmpty() && !isShown)
+        parts.front().choice.kinds.clear();
 }
 
 } // namespace
@@ -91,20 +134,23 @@ bool ChangeColumns(MapSession& session, QWidget& window)
 {
     const QPointer alive(&session); // the map may be saved under another name while it asks
     MapDocument& document = session.Document();
-    std::vector<LayerSource> layers = TableLayers(document);
+    std::vector<TableParts> tables = TablesOf(document);
     std::vector<TableChoice> choices = ReadOrGiveUp(
-        &window, OpeningText(), [layers](Progress& progress) { return ChoicesOf(layers, progress); });
+        &window, OpeningText(), [tables](Progress& progress) { return ChoicesOf(tables, progress); });
     if (choices.empty() || !TableColumnsDialog::Ask(choices, Purpose::Changing, &window) || !alive)
         return false;
-    bool isChanged = false;
-    for (size_t i = 0; i < layers.size(); ++i)
-        isChanged
-            = std::exchange(layers[i].choice.columns, choices[i].columns) != choices[i].columns || isChanged;
-    if (!isChanged)
+    std::vector<LayerSource> changed;
+    for (size_t i = 0; i < tables.size(); ++i) {
+        if (tables[i].front().choice.columns == choices[i].columns)
+            continue;
+        Choose(tables[i], choices[i].columns);
+        changed.insert(changed.end(), tables[i].begin(), tables[i].end());
+    }
+    if (changed.empty())
         return false;
     session.Shell().RecordStep([&] {
         Transaction transaction(document.Database());
-        for (const LayerSource& layer : layers)
+        for (const LayerSource& layer : changed)
             document.SetSource(layer);
         transaction.Commit();
         return QCoreApplication::translate("MainWindow", "Table Columns");

@@ -174,6 +174,41 @@ TEST_F(MapSystemTest, LayerPropertiesChangeTheSystemOfDataAndUndoTakesItBack)
     EXPECT_EQ(m_window->Document().Sources().at(0).system, "");
 }
 
+TEST_F(MapSystemTest, LayerPropertiesOfAPartShowWhatTheLayerShows)
+{
+    m_window->AddData({m_folder.WriteGeometries(
+        "plan.geojson",
+        {R"({"type":"Point","coordinates":[1,2]})", R"({"type":"Point","coordinates":[3,4]})",
+         R"({"type":"LineString","coordinates":[[50,60],[55,65]]})"})});
+    QStringList shown;
+    InWindow<QDialog>(
+        [this] { Action("actLayerProperties")->trigger(); },
+        [&](QDialog& dialog) {
+            QTest::keyClicks(dialog.findChild<QComboBox*>("cmbLayer"), "plan (points)");
+            shown << dialog.findChild<QLabel*>("lblCount")->text()
+                  << dialog.findChild<QLabel*>("lblExtent")->text();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+    EXPECT_EQ(shown.value(0), "2");
+    EXPECT_TRUE(shown.value(1).contains("1.0000 to 3.0000")) << qPrintable(shown.value(1));
+}
+
+TEST_F(MapSystemTest, LayerPropertiesSayWhenTheSourceCannotBeRead)
+{
+    LayerSource source = m_window->Document().Sources().at(0);
+    source.system = "EPSG:4326";
+    m_window->Document().SetSource(source);
+    m_folder.Write("square.geojson", "broken");
+    QString origin;
+    InWindow<QDialog>(
+        [this] { Action("actLayerProperties")->trigger(); },
+        [&](QDialog& dialog) {
+            origin = dialog.findChild<QLabel*>("lblOrigin")->text();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+    EXPECT_EQ(origin, "It was assumed or chosen; the source cannot be read.");
+}
+
 TEST_F(MapSystemTest, AMapWithoutDataHasNoSystem)
 {
     m_window = std::make_unique<MainWindow>();

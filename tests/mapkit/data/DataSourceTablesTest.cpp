@@ -79,6 +79,29 @@ TEST_F(DataSourceTablesTest, NumbersInATextTableAreNumbersForClasses)
     EXPECT_EQ(BestAttribute(fields, AttributeUse::Labels), "name");
 }
 
+TEST_F(DataSourceTablesTest, NumbersThatMeanMoreThanTheirValueStayText)
+{
+    const QString path = m_folder.Write(
+        "towns.csv",
+        "code,key,people,share,x,y\n"
+        "1067,12345678901234567890,700,0.5,1,2\n"
+        "01234,12345678901234567891,90,0,3,4\n");
+    const DataSource source(path);
+    QStringList texts;
+    for (const SourceField& field : source.Fields("towns"))
+        texts << (field.isText ? field.name : QString());
+    EXPECT_EQ(texts, QStringList({"code", "key", "", "", "", ""}));
+    EXPECT_EQ(source.Tables().at(0).rows.at(1).at(0), "01234");
+    EXPECT_EQ(source.Attributes("towns", 1).at(1).value, "12345678901234567890");
+    EXPECT_EQ(source.Attributes("towns", 2).at(0).value, "01234");
+}
+
+TEST_F(DataSourceTablesTest, CoordinatesWithLeadingZerosAreCoordinates)
+{
+    EXPECT_EQ(
+        ReadFirst(m_folder.Write("a.csv", "lon,lat\n007.5,01.25\n")).Bounds(), (Box{7.5, 1.25, 7.5, 1.25}));
+}
+
 TEST_F(DataSourceTablesTest, TheFirstRowsAreShown)
 {
     const DataSource source(m_folder.Write("towns.csv", "name,x,y\nA,1,2\n"));
@@ -99,7 +122,7 @@ TEST_F(DataSourceTablesTest, AMissingColumnIsTold)
     GeometryChoice choice;
     choice.columns = {"lon", "lat", {}};
     EXPECT_THROW(source.Read("places", {}, {}, m_progress, choice), RunTimeError);
-    EXPECT_THROW(source.MeasureExtent("places", m_progress, choice), RunTimeError);
+    EXPECT_THROW(source.Measure("places", m_progress, choice), RunTimeError);
 }
 
 TEST_F(DataSourceTablesTest, SpreadsheetsAreTables)

@@ -184,7 +184,7 @@ TEST_F(DataSourceTest, AnExtentThatTheSourceDoesNotKnowIsMeasured)
 {
     const DataSource source(m_folder.WriteSquare("square.geojson", 10, 50));
     Progress progress;
-    EXPECT_EQ(source.MeasureExtent("square", progress), (Box{10, 50, 20, 60}));
+    EXPECT_EQ(source.Measure("square", progress).extent, (Box{10, 50, 20, 60}));
 }
 
 TEST_F(DataSourceTest, TellsFormatGeometryAndCountOfALayer)
@@ -196,6 +196,22 @@ TEST_F(DataSourceTest, TellsFormatGeometryAndCountOfALayer)
     EXPECT_EQ(details.featureCount, 1);
     EXPECT_EQ(details.system, "EPSG:4326");
     EXPECT_TRUE(details.extent.IsEmpty()); // this format knows it only after reading
+}
+
+TEST_F(DataSourceTest, OnlyTheChosenKindsAreMeasured)
+{
+    const QString path = m_folder.WriteGeometries(
+        "plan.geojson",
+        {R"({"type":"Point","coordinates":[1,2]})",
+         R"({"type":"LineString","coordinates":[[50,60],[55,65]]})",
+         R"({"type":"GeometryCollection","geometries":[{"type":"Point","coordinates":[3,4]},
+             {"type":"LineString","coordinates":[[70,0],[71,1]]}]})"});
+    GeometryChoice points;
+    points.kinds = {FeatureKind::Point};
+    const LayerMeasure measure = DataSource(path).Measure("plan", m_progress, points);
+    EXPECT_EQ(measure.extent, (Box{1, 2, 3, 4}));
+    EXPECT_EQ(measure.featureCount, 2);
+    EXPECT_EQ(DataSource(path).Measure("plan", m_progress).featureCount, 3);
 }
 
 } // namespace Orvane

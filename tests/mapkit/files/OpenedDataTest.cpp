@@ -86,6 +86,44 @@ TEST_F(OpenedDataTest, LayersOfOneNameAreToldApartByTheirFolders)
     EXPECT_EQ(BoundsOf(path, "south/roads"), (Box{8, 9, 8, 9}));
 }
 
+TEST_F(OpenedDataTest, FilesOfOneNameAreToldApartByTheirSuffixes)
+{
+    const QString path = WriteZip(
+        m_folder.Path("a.zip"),
+        {{"roads.csv", "lon,lat\n13.5,52.5\n"}, {"roads.geojson", Point}, {"town.geojson", OtherPoint}});
+    EXPECT_EQ(Names(path), QStringList({"roads.geojson", "town", "roads.csv"}));
+    EXPECT_EQ(BoundsOf(path, "roads.geojson"), (Box{1, 2, 1, 2}));
+    EXPECT_EQ(DataSource(path).Tables().at(0).layer, "roads.csv");
+    EXPECT_EQ(DataSource(path).TableAsLayer("roads.csv", {"lon", "lat", {}}).extent.minX, 13.5);
+}
+
+TEST_F(OpenedDataTest, FilesOfOneNameInOneFolderAreToldApartToo)
+{
+    const QString path = WriteZip(
+        m_folder.Path("a.zip"),
+        {{"a/roads.geojson", Point}, {"b/roads.geojson", OtherPoint}, {"b/roads.json", Point}});
+    EXPECT_EQ(Names(path), QStringList({"a/roads", "b/roads.geojson", "b/roads.json"}));
+    EXPECT_EQ(BoundsOf(path, "b/roads.geojson"), (Box{8, 9, 8, 9}));
+    EXPECT_EQ(BoundsOf(path, "b/roads.json"), (Box{1, 2, 1, 2}));
+}
+
+TEST_F(OpenedDataTest, AnEarlierNameOfSeveralFilesStillOpensTheFirst)
+{
+    const QString path
+        = WriteZip(m_folder.Path("a.zip"), {{"roads.geojson", Point}, {"roads.json", OtherPoint}});
+    EXPECT_TRUE(DataSource(path).Has("roads"));
+    EXPECT_EQ(BoundsOf(path, "roads"), (Box{1, 2, 1, 2}));
+}
+
+TEST_F(OpenedDataTest, TheFormatOfALayerIsThatOfItsFile)
+{
+    const QString path = WriteZip(
+        m_folder.Path("a.zip"), {{"a.geojson", Point}, {"b.kml", R"(<kml><Document><Folder><name>b</name>
+<Placemark><Point><coordinates>1,2</coordinates></Point></Placemark></Folder></Document></kml>)"}});
+    EXPECT_EQ(DataSource(path).Details("a").driver, "GeoJSON");
+    EXPECT_TRUE(DataSource(path).Details("b").driver.contains("KML"));
+}
+
 TEST_F(OpenedDataTest, AZippedShapefileIsReadWithItsCompanions)
 {
     QDir(m_folder.Path("")).mkdir("shapes");

@@ -91,7 +91,31 @@ TEST(ColumnGuess, NumbersAreReadAsPeopleWriteThem)
     EXPECT_EQ(NumberOf("4.567.890,5"), 4567890.5);
     EXPECT_EQ(NumberOf("4,567,890.5"), 4567890.5);
     EXPECT_EQ(NumberOf("12 km"), std::nullopt);
+    EXPECT_EQ(NumberOf("2,600"), 2.6);
+    EXPECT_EQ(NumberOf("2.600"), 2.6);
     EXPECT_EQ(NumberOf(""), std::nullopt);
+}
+
+TEST(ColumnGuess, NumbersInGroupsOfThreeAreRead)
+{
+    EXPECT_EQ(NumberOf("2'600'000"), 2600000);
+    EXPECT_EQ(NumberOf("2\u2019600\u2019000.25"), 2600000.25);
+    EXPECT_EQ(NumberOf("-2 600 000,5"), -2600000.5);
+    EXPECT_EQ(NumberOf("2\u00a0600\u00a0000"), 2600000);
+    EXPECT_EQ(NumberOf("2\u202f600\u202f000"), 2600000);
+    EXPECT_EQ(NumberOf("2,600,000.5"), 2600000.5);
+    EXPECT_EQ(NumberOf("2,600,000"), 2600000);
+    EXPECT_EQ(NumberOf("2.600.000"), 2600000);
+    EXPECT_EQ(NumberOf("1 200"), 1200);
+}
+
+TEST(ColumnGuess, OtherTextsWithSeparatorsAreNoNumbers)
+{
+    EXPECT_EQ(NumberOf("48 52 30"), std::nullopt);
+    EXPECT_EQ(NumberOf("12 3456"), std::nullopt);
+    EXPECT_EQ(NumberOf("2'600 000"), std::nullopt);
+    EXPECT_EQ(NumberOf("'600"), std::nullopt);
+    EXPECT_EQ(NumberOf("1.2.2020"), std::nullopt);
 }
 
 } // namespace Orvane

@@ -80,6 +80,40 @@ TEST_F(ImportCommandTest, ATableWithoutTheNamedColumnsIsTold)
     EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "a"}), ExitCode::Usage);
 }
 
+TEST_F(ImportCommandTest, ColumnsAreFoundInAnyCaseIfNoneIsExactlyNamed)
+{
+    const QString towns = m_folder.Write("towns.csv", "LON,Lat,lat,GEOM\n13,52,53,POINT (1 2)\n");
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "lon,lat"}), ExitCode::Done);
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--wkt", "geom"}), ExitCode::Done);
+    const auto sources = MapDocument::Open(m_map)->Sources();
+    EXPECT_EQ(sources.at(0).choice.columns, (CoordinateColumns{"LON", "lat", {}}));
+    EXPECT_EQ(sources.at(1).choice.columns, (CoordinateColumns{{}, {}, "GEOM"}));
+}
+
+TEST_F(ImportCommandTest, AMissingColumnIsNamedWithThoseThatThereAre)
+{
+    const QString towns = m_folder.Write("towns.csv", "lon,lat,name\n13,52,A\n");
+    EXPECT_EQ(Run({"import", towns, "--to", m_map, "--columns", "lon,height"}), ExitCode::Problems);
+    EXPECT_TRUE(m_errors.contains("\"height\"")) << qPrintable(m_errors);
+    EXPECT_TRUE(m_errors.contains("lon, lat, name")) << qPrintable(m_errors);
+    EXPECT_EQ(m_errors.count("towns.csv"), 1) << qPrintable(m_errors);
+}
+
+TEST_F(ImportCommandTest, FilesOfOneNameAreToldWithTheirFolders)
+{
+    for (const char* folder : {"north", "south"})
+        QDir(m_folder.Path("")).mkdir(folder);
+    const QStringList bad = {m_folder.Write("north/bad.shp", "x"), m_folder.Write("south/bad.shp", "x")};
+    const QStringList plans
+        = {WriteUnnamed(m_folder.Path("north/plan.shp"), {500000, 5500000, 510000, 5510000}),
+           WriteUnnamed(m_folder.Path("south/plan.shp"), {500000, 5500000, 510000, 5510000})};
+    EXPECT_EQ(Run(QStringList("import") + bad + plans + QStringList({"--to", m_map})), ExitCode::Problems);
+    for (const QString& path : bad)
+        EXPECT_TRUE(m_errors.contains(path)) << qPrintable(m_errors);
+    for (const QString& path : plans)
+        EXPECT_TRUE(m_out.contains(path)) << qPrintable(m_out);
+}
+
 TEST_F(ImportCommandTest, WhatCannotBeReadIsToldAndTheRestIsAdded)
 {
     EXPECT_EQ(

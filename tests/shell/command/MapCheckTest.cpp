@@ -305,6 +305,43 @@ TEST_F(MapCheckTest, ALayerThatItsDataNoLongerHoldIsNamed)
     EXPECT_TRUE(problems[0].text.contains("roads"));
 }
 
+TEST_F(MapCheckTest, ATableWithoutTheColumnsOfTheMapIsNamed)
+{
+    NewLayer towns;
+    towns.path = m_folder.Write("towns.csv", "name,lon,lat\nA,13,52\n");
+    towns.ogrLayer = "towns";
+    towns.choice.columns = {"Lon", "lat", {}};
+    MapDocument::Open(m_map)->AddLayer(towns);
+    EXPECT_TRUE(CheckMap(m_map).empty());
+    m_folder.Write("towns.csv", "name,x,lat\nA,13,52\n");
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
+    EXPECT_TRUE(problems[0].text.contains("\"Lon\"")) << qPrintable(problems[0].text);
+    EXPECT_TRUE(problems[0].text.contains(towns.path)) << qPrintable(problems[0].text);
+}
+
+TEST_F(MapCheckTest, EachLayerOfAFileWithAnUnknownSystemIsNamedOnce)
+{
+    const auto document = MapDocument::Open(m_map);
+    for (const FeatureKind kind : {FeatureKind::Point, FeatureKind::Area}) {
+        NewLayer part;
+        part.path = m_folder.Path("a.geojson");
+        part.ogrLayer = "plan";
+        part.system = "EPSG:0";
+        part.choice.kinds = {kind};
+        document->AddLayer(part);
+    }
+    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:0' WHERE LayerID = 1");
+    QStringList texts;
+    for (const MapProblem& problem : CheckMap(m_map)) {
+        if (problem.text.contains("EPSG:0"))
+            texts << problem.text;
+    }
+    ASSERT_EQ(texts.size(), 2) << qPrintable(texts.join(' '));
+    EXPECT_TRUE(texts[0].contains(m_folder.Path("a.geojson")));
+    EXPECT_TRUE(texts[1].contains("a.geojson (plan)"));
+}
+
 TEST_F(MapCheckTest, AnUnknownSystemOfALayerIsNamed)
 {
     RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:25832' WHERE LayerID = 1");

@@ -69,8 +69,8 @@ TEST_F(DataImportTest, DataDecideTheSystemOfANewMapAndLaterOnesKeepIt)
 TEST_F(DataImportTest, FilesThatCannotBeReadAreNamedAndTheOthersTaken)
 {
     const FoundData found = Look({m_folder.Write("bad.shp", "x"), m_folder.WriteSquare("good.geojson")});
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("bad.shp"));
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("bad.shp"));
     EXPECT_EQ(found.sources.size(), 1u);
 }
 
@@ -78,8 +78,8 @@ TEST_F(DataImportTest, ATableWithoutCoordinatesIsNamed)
 {
     const FoundData found
         = WithTablesAsLayers(Look({m_folder.Write("table.csv", "name,number\nA,1\n")}), m_progress);
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("table.csv"));
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("table.csv"));
     EXPECT_TRUE(found.sources.empty());
 }
 
@@ -115,8 +115,8 @@ TEST_F(DataImportTest, AFileInAnArchiveThatCannotBeReadIsNamedWithTheArchive)
         m_folder.Path("a.zip"),
         {{"bad.shp", "x"}, {"good.geojson", R"({"type":"Point","coordinates":[1,2]})"}})});
     EXPECT_EQ(found.sources.size(), 1u);
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("bad.shp") && found.problems[0].contains("a.zip"));
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("bad.shp") && found.problems[0].text.contains("a.zip"));
 }
 
 TEST_F(DataImportTest, AnArchiveWithATableAndALayerIsOneGroup)
@@ -128,7 +128,7 @@ TEST_F(DataImportTest, AnArchiveWithATableAndALayerIsOneGroup)
     AddToMap(*m_document, found);
     EXPECT_EQ(Names("LayerGroups"), QStringList("a"));
     EXPECT_EQ(Names("Layers"), QStringList({"roads", "towns"}));
-    EXPECT_TRUE(found.problems.isEmpty());
+    EXPECT_TRUE(found.problems.empty());
 }
 
 TEST_F(DataImportTest, NothingFoundLeavesTheMapAsItWas)
@@ -169,9 +169,9 @@ TEST_F(DataImportTest, AVirtualFileThatNamesAPipeIsToldWithTheReason)
         "layers.vrt",
         "<OGRVRTDataSource><OGRVRTLayer name=\"a\"><SrcDataSource>" + pipe.toUtf8()
             + "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>")});
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("layers.vrt")) << qPrintable(found.problems[0]);
-    EXPECT_TRUE(found.problems[0].contains("pipe.geojson")) << qPrintable(found.problems[0]);
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("layers.vrt")) << qPrintable(found.problems[0].text);
+    EXPECT_TRUE(found.problems[0].text.contains("pipe.geojson")) << qPrintable(found.problems[0].text);
 }
 
 TEST_F(DataImportTest, ACancelledLookEnds)

@@ -2,6 +2,7 @@
 #include "shell/map/FoundLayers.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/ZipFile.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/DataImport.h"
@@ -60,14 +61,23 @@ TEST_F(FoundLayersTest, ATourShowsItsTracksAndWaypointsButNotEachPointOfATrack)
     EXPECT_EQ(Import({m_folder.Write("tour.gpx", Tour)}).keys(), QStringList({"tracks", "waypoints"}));
 }
 
+TEST_F(FoundLayersTest, ToursInAnArchiveShowTheSame)
+{
+    const QString path
+        = WriteZip(m_folder.Path("tours.zip"), {{"lake.kml", Kml}, {"one.gpx", Tour}, {"two.gpx", Tour}});
+    EXPECT_EQ(
+        Import({path}).keys(),
+        QStringList({"Lake", "Pier", "one/tracks", "one/waypoints", "two/tracks", "two/waypoints"}));
+}
+
 TEST_F(FoundLayersTest, ATourWithoutAnythingHasNothingToDraw)
 {
     const QString path = m_folder.Write(
         "empty.gpx", R"(<gpx version="1.1" creator="t" xmlns="http://www.topografix.com/GPX/1/1"></gpx>)");
     const FoundData found = LookInto({path}, m_progress);
     EXPECT_TRUE(found.sources.empty());
-    ASSERT_EQ(found.problems.size(), 1);
-    EXPECT_TRUE(found.problems[0].contains("empty.gpx"));
+    ASSERT_EQ(found.problems.size(), 1u);
+    EXPECT_TRUE(found.problems[0].text.contains("empty.gpx"));
 }
 
 TEST_F(FoundLayersTest, AKmlThatNamesNoGeometryIsDrawnInOrder)

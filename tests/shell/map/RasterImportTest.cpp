@@ -63,7 +63,7 @@ TEST_F(RasterImportTest, ARasterIsALayer)
     EXPECT_EQ(layer.dataKind, DataKind::Raster);
     EXPECT_EQ(layer.system, "EPSG:4326");
     EXPECT_EQ(layer.extent, (Box{0, 0, 10, 10}));
-    EXPECT_TRUE(data.problems.isEmpty());
+    EXPECT_TRUE(data.problems.empty());
 }
 
 TEST_F(RasterImportTest, ItIsNamedAfterItsFileAndLiesBelowAllOthers)
@@ -95,9 +95,9 @@ TEST_F(RasterImportTest, APictureWithoutAPlaceIsRefusedWithWhatIsMissing)
 {
     const FoundData data = Found({Raster("photo.tif", {.system = nullptr, .isPlaced = false})});
     EXPECT_EQ(LayerCount(data), 0u);
-    ASSERT_EQ(data.problems.size(), 1);
-    EXPECT_TRUE(data.problems[0].contains("photo.tif") && data.problems[0].contains("photo.tfw"))
-        << qPrintable(data.problems[0]);
+    ASSERT_EQ(data.problems.size(), 1u);
+    EXPECT_TRUE(data.problems[0].text.contains("photo.tif") && data.problems[0].text.contains("photo.tfw"))
+        << qPrintable(data.problems[0].text);
 }
 
 TEST_F(RasterImportTest, AWorldFileIsEnough)
@@ -120,7 +120,7 @@ TEST_F(RasterImportTest, RastersInAnArchiveAreLayersAmongItsOtherData)
          {"photos/east.tif", ReadAll(Raster("a.tif"))},
          {"west.tif", ReadAll(Raster("b.tif"))}});
     const FoundData data = Found({zip});
-    EXPECT_TRUE(data.problems.isEmpty()) << qPrintable(data.problems.join(' '));
+    EXPECT_TRUE(data.problems.empty()) << qPrintable(data.ProblemText());
     ASSERT_EQ(data.sources.size(), 1u);
     QStringList names;
     for (const SourceLayer& layer : data.sources[0].layers)
@@ -137,14 +137,14 @@ TEST_F(RasterImportTest, ABrokenRasterInAnArchiveIsNamedAndTheOthersAreFound)
     WriteZip(zip, {{"cut.tif", "II*"}, {"west.tif", ReadAll(Raster("b.tif"))}});
     const FoundData data = Found({zip});
     EXPECT_EQ(LayerCount(data), 1u);
-    EXPECT_EQ(data.problems.size(), 1);
+    EXPECT_EQ(data.problems.size(), 1u);
 }
 
 TEST_F(RasterImportTest, ABrokenRasterIsNamed)
 {
     const FoundData data = Found({m_folder.Write("cut.tif", "II*")});
-    ASSERT_EQ(data.problems.size(), 1);
-    EXPECT_TRUE(data.problems[0].contains("cut.tif"));
+    ASSERT_EQ(data.problems.size(), 1u);
+    EXPECT_TRUE(data.problems[0].text.contains("cut.tif"));
 }
 
 TEST_F(RasterImportTest, AFolderGivesItsRastersButNoPhotosFromElsewhere)
@@ -154,7 +154,7 @@ TEST_F(RasterImportTest, AFolderGivesItsRastersButNoPhotosFromElsewhere)
     m_folder.Write("data/holiday.jpg", "any picture");
     const FoundData data = Found({m_folder.Path("data")});
     EXPECT_EQ(LayerCount(data), 1u);
-    EXPECT_TRUE(data.problems.isEmpty()) << qPrintable(data.problems.join(' '));
+    EXPECT_TRUE(data.problems.empty()) << qPrintable(data.ProblemText());
 }
 
 TEST_F(RasterImportTest, DegreesAreAssumedForARasterThatNamesNoSystemAndTold)

@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
@@ -99,6 +101,46 @@ TEST_F(TableQuestionsTest, TheColumnsAreChangedLaterAndThatIsUndone)
     Action("actUndo")->trigger();
     EXPECT_EQ(m_window->Document().Sources().at(0).choice.columns.x, "lon");
     EXPECT_TRUE(QTest::qWaitFor([this] { return Bounds() == Box{13, 52, 14, 53}; })) << "the map follows";
+}
+
+TEST_F(TableQuestionsTest, TheLayersOfOneTableAreAskedAboutOnce)
+{
+    const QString path = m_folder.Write(
+        "sites.csv", "geom;x;y\n\"LINESTRING (0 0,1 1)\";5;6\n\"POLYGON ((0 0,4 0,4 4,0 0))\";7;8\n");
+    WhenAsked([](QWidget& window) {
+        window.findChild<QRadioButton*>("optGeometry")->click();
+        QTest::keyClicks(window.findChild<QComboBox*>("cmbGeometry"), "geom");
+        PressEnter(window);
+    });
+    m_window->AddData({path});
+    ASSERT_EQ(Count("Layers"), 2);
+    int tables = 0;
+    WhenAsked([&](QWidget& window) {
+        tables = window.findChild<QListWidget*>("lstTables")->count();
+        PressEnter(window);
+    });
+    FileCommand("actTableColumns")->trigger();
+    EXPECT_EQ(tables, 1);
+}
+
+TEST_F(TableQuestionsTest, ALayerOfLinesShowsThePointsOfOtherColumns)
+{
+    LayerSource lines;
+    lines.layerID = m_window->Document().AddLayer(NewLayer());
+    lines.path = m_folder.Write("sites.csv", "geom;x;y\n\"LINESTRING (0 0,1 1)\";5;6\n");
+    lines.ogrLayer = "sites";
+    lines.choice = {{{}, {}, "geom"}, {FeatureKind::Line}};
+    m_window->Document().SetSource(lines);
+    WhenAsked([](QWidget& window) {
+        window.findChild<QRadioButton*>("optNumbers")->click();
+        QTest::keyClicks(window.findChild<QComboBox*>("cmbX"), "x");
+        QTest::keyClicks(window.findChild<QComboBox*>("cmbY"), "y");
+        PressEnter(window);
+    });
+    FileCommand("actTableColumns")->trigger();
+    const GeometryChoice choice = m_window->Document().Sources().at(0).choice;
+    EXPECT_EQ(choice.columns.x, "x");
+    EXPECT_TRUE(choice.Takes(FeatureKind::Point));
 }
 
 } // namespace Orvane

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace Orvane {
+
+class DataSource;
+
+/// Keeps the file open that was asked for last: opening one with many layers takes longer than reading one of
+/// them. Ask for the layers of a file one after the other. For the thread that uses it only.
+///
+///     OpenSource open;
+///     for (const LayerSource& layer : layers)
+///         open.At(layer.path).Read(...);
+class OpenSource
+{
+public:
+    OpenSource();
+    ~OpenSource();
+    OpenSource(const OpenSource&) = delete;
+    OpenSource& operator=(const OpenSource&) = delete;
+
+    /// The source with that path; opens it unless it is the last one. Valid until the next call. Raises as
+    /// DataSource does.
+    const DataSource& At(const QString& path);
+
+private:
+    QString m_path;
+    std::unique_ptr<const DataSource> m_source;
+};
+
+} // namespace Orvane
