@@ -42,7 +42,7 @@ LayerOffer OfferOf(const QString& path)
     Progress progress;
     const FoundData found = WithTablesAsLayers(LookInto({path}, progress), progress);
     LayerOffer offer;
-    offer.problem = found.problems.join(QLatin1Char('\n'));
+    offer.problem = found.ProblemText();
     offer.layers.reserve(LayerCount(found));
     for (const FoundData::Source& source : found.sources) {
         for (const SourceLayer& layer : source.layers)
