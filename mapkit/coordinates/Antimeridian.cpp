@@ -11,7 +11,6 @@ namespace Orvane::Antimeridian {
 namespace {
 
 constexpr double Half = HalfTurn;
-constexpr double Turn = 360;
 constexpr double EdgeTolerance = 1e-6;
 constexpr double MostTurns = 3; // beyond that the numbers are no longitudes
 

@@ -24,6 +24,7 @@ using Points = std::vector<QPointF>;
 
 inline constexpr double HalfTurn = 180; ///< degrees
 inline constexpr double Pole = 90; ///< degrees of latitude
+inline constexpr double Turn = 360; ///< degrees
 
 /// A longitude from -180 to 180 for one that may go on beyond, such as 200; others stay. What is beyond by a
 /// rounding error only, such as -180.00000000000003, stays on its side.

@@ -2,6 +2,7 @@
 #include "mapkit/coordinates/SystemFacts.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/coordinates/Antimeridian.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
 
@@ -12,7 +13,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr double Turn = 360; // degrees
 constexpr int EdgePoints = 21; // as GDAL and others do
 const QString LonLat = QStringLiteral("EPSG:4326");
 
@@ -96,7 +96,7 @@ Box InDegrees(const Box& box, const QString& system)
 {
     Box degrees = TransformedBounds(box, system, LonLat);
     if (std::isfinite(degrees.minX) && degrees.minX > degrees.maxX) // across 180 degrees
-        degrees.maxX += Turn;
+        degrees.maxX += Antimeridian::Turn;
     return degrees;
 }
 

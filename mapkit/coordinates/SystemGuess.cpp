@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/coordinates/SystemGuess.h"
 
+#include "mapkit/coordinates/Antimeridian.h"
 #include "mapkit/coordinates/SystemFacts.h"
 
 namespace Orvane {
@@ -10,7 +11,6 @@ namespace {
 constexpr double Hair = 1e-3; // degrees; what rounding may add
 constexpr Box WholeEarth{-180 - Hair, -90 - Hair, 180 + Hair, 90 + Hair};
 constexpr Box EarthTwice{-360, -90 - Hair, 360, 90 + Hair};
-constexpr double Turn = 360; // degrees
 constexpr double WidestArea = 150; // degrees of longitude; a system for more than that fits anything
 constexpr double Region = 30; // degrees of longitude; the data of a larger area meet anything
 constexpr double UsualOverhang = 6; // degrees; data often reach beyond the area of their system
@@ -39,23 +39,24 @@ bool IsAcross(const Box& box, double meridian)
 // Where data lie across the date line, longitudes may go on beyond it.
 bool FitsDegrees(const Box& box)
 {
-    const bool isAcross = IsAcross(box, Turn / 2) || IsAcross(box, -Turn / 2);
-    return Contains(WholeEarth, box) || (isAcross && box.Width() <= Turn / 2 && Contains(EarthTwice, box));
+    const bool isAcross = IsAcross(box, Antimeridian::HalfTurn) || IsAcross(box, -Antimeridian::HalfTurn);
+    return Contains(WholeEarth, box)
+        || (isAcross && box.Width() <= Antimeridian::HalfTurn && Contains(EarthTwice, box));
 }
 
 // Across the date line the western limit is the larger number.
 Box Unwrapped(Box area)
 {
     if (area.minX > area.maxX)
-        area.maxX += Turn;
+        area.maxX += Antimeridian::Turn;
     return area;
 }
 
 bool IsInArea(const Box& degrees, const Box& area)
 {
     const Box near = Grown(Unwrapped(area), UsualOverhang);
-    return Contains(near, degrees) || Contains(near, Moved(degrees, Turn))
-        || Contains(near, Moved(degrees, -Turn));
+    return Contains(near, degrees) || Contains(near, Moved(degrees, Antimeridian::Turn))
+        || Contains(near, Moved(degrees, -Antimeridian::Turn));
 }
 
 bool MeetsData(const Box& extent, const MapPlace& map)

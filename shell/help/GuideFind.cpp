@@ -23,6 +23,7 @@ GuideFind::GuideFind(QTextBrowser& browser, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_answer);
+    row->addSpacing(caption->fontMetrics().averageCharWidth());
     row->addWidget(caption);
     row->addWidget(m_words);
     connect(m_words, &QLineEdit::textChanged, this, [this] { Guard(window(), [this] { FindTyped(); }); });

@@ -28,7 +28,7 @@ namespace Orvane {
 namespace {
 
 constexpr int ContentsWidth = 240; // pixels
-constexpr int Gap = 4; // pixels
+constexpr int RowMargin = 4; // pixels
 constexpr int SectionRole = Qt::UserRole;
 
 QString SectionOfItem(const QTreeWidgetItem& item)
@@ -70,7 +70,7 @@ GuideWindow::GuideWindow(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(Gap, Gap, Gap, 0);
+    row->setContentsMargins(RowMargin, RowMargin, RowMargin, 0);
     AddSteps(*row);
     layout->addLayout(row);
     layout->addWidget(splitter, 1);
