@@ -214,12 +214,8 @@ void MainWindow::dropEvent(QDropEvent* event)
         return;
     // The program that the files come from waits until the drop has ended.
     QTimer::singleShot(0, this, [this, paths] {
-        Guard(this, [&] {
-            if (paths.size() == 1 && IsMapFile(paths.first()))
-                OpenMap(paths.first());
-            else
-                AddData(paths);
-        });
+        const bool isMap = paths.size() == 1 && IsMapFile(paths.first());
+        Guard(this, [&] { isMap ? OpenMap(paths.first()) : AddData(paths); });
     });
 }
 

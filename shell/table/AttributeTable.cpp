@@ -4,6 +4,7 @@
 #include "mapkit/attributes/TableText.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/common/Progress.h"
+#include "shell/table/ColumnWidths.h"
 #include "shell/window/RunWithProgress.h"
 #include "ui_AttributeTable.h"
 
@@ -25,9 +26,6 @@ constexpr auto SizeKey = "AttributeTable/Size";
 constexpr std::chrono::milliseconds FindDelay{250};
 constexpr std::chrono::milliseconds BusyInterval{150};
 // Characters of a mean width.
-constexpr int WidestColumn = 40;
-constexpr int NarrowestColumn = 8;
-constexpr int MoreThanFirstRows = 3; // later ones are often longer
 constexpr int NarrowestFind = 16;
 constexpr QSize FirstSize{140, 30}; // characters and lines
 
@@ -392,17 +390,8 @@ void AttributeTable::ShowBusy()
 
 void AttributeTable::FitColumns()
 {
-    if (!std::exchange(m_fitsColumns, false))
-        return;
-    QTableView& view = *m_ui->tblRows;
-    const int character = view.fontMetrics().averageCharWidth();
-    const int widest = WidestColumn * character;
-    const int narrowest = NarrowestColumn * character;
-    const int more = MoreThanFirstRows * character;
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        view.resizeColumnToContents(column);
-        view.setColumnWidth(column, qBound(narrowest, view.columnWidth(column) + more, widest));
-    }
+    if (std::exchange(m_fitsColumns, false))
+        FitToFirstRows(*m_ui->tblRows);
 }
 
 } // namespace Orvane
