@@ -28,6 +28,18 @@ namespace {
 
 constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
 
+std::atomic<int> keptOpen = 0; // of all rasters, because the limit holds for the whole process
+
+bool MayKeepOpen()
+{
+    int kept = keptOpen;
+    while (kept < RasterSource::MostKeptOpen) {
+        if (keptOpen.compare_exchange_weak(kept, kept + 1))
+            return true;
+    }
+    return false;
+}
+
 std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& member)
 {
     const QString whyNot = WhyNotOpened(path);
@@ -71,6 +83,19 @@ QString WorldFileOf(const QFileInfo& picture)
     throw RunTimeError(RasterNotPlaced, text.arg(file.fileName(), WorldFileOf(file)));
 }
 
+RasterDetails DetailsOf(GDALDataset& raster)
+{
+    RasterDetails details;
+    if (GDALDriver* driver = raster.GetDriver())
+        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
+    details.size = {raster.GetRasterXSize(), raster.GetRasterYSize()};
+    details.bands = raster.GetRasterCount();
+    std::array<double, 6> transform = {};
+    if (raster.GetGeoTransform(transform.data()) == CE_None)
+        details.pixelSize = {std::hypot(transform[1], transform[4]), std::hypot(transform[2], transform[5])};
+    return details;
+}
+
 // The pixels of an image of that size that the picture covers.
 QRect CoveredPixels(const Box& picture, const Box& extent, QSize pixels)
 {
@@ -94,8 +119,33 @@ Box MapArea(const QRect& area, const Box& extent, QSize pixels)
 
 } // namespace
 
+// An open raster, for as long as this object lives at least. The raster is locked by the caller.
+class RasterSource::Use
+{
+public:
+    explicit Use(const RasterSource& raster) : m_raster(raster)
+    {
+        if (!raster.m_dataset)
+            raster.m_dataset = OpenRaster(raster.m_path, raster.m_member);
+    }
+    ~Use()
+    {
+        m_raster.m_isKept = m_raster.m_isKept || MayKeepOpen();
+        const GdalErrors quiet;
+        if (!m_raster.m_isKept)
+            m_raster.m_dataset.reset();
+    }
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
+
+    GDALDataset& Dataset() const { return *m_raster.m_dataset; }
+
+private:
+    const RasterSource& m_raster;
+};
+
 RasterSource::RasterSource(const QString& path, const QString& member, const QString& chosenSystem)
-    : m_path(path), m_chosenSystem(chosenSystem)
+    : m_path(path), m_member(member), m_chosenSystem(chosenSystem)
 {
     PrepareGdal();
     const ReadingBound bound;
@@ -104,19 +154,18 @@ RasterSource::RasterSource(const QString& path, const QString& member, const QSt
     if (!IsPlaced(*m_dataset))
         FailUnplaced(member.isEmpty() ? path : member);
     m_shades = std::make_unique<const RasterShades>(*m_dataset);
+    m_system = SystemOfRaster(*m_dataset);
+    m_details = DetailsOf(*m_dataset);
     RequireReadingInTime(path);
+    const Use untilHere(*this);
 }
 
 RasterSource::~RasterSource()
 {
     const GdalErrors quiet;
     m_dataset.reset();
-}
-
-QString RasterSource::System() const
-{
-    const QMutexLocker lock(&m_mutex);
-    return SystemOfRaster(*m_dataset);
+    if (m_isKept)
+        --keptOpen;
 }
 
 Box RasterSource::Extent() const
@@ -129,22 +178,8 @@ Box RasterSource::ExtentIn(const QString& mapSystem) const
     const QMutexLocker lock(&m_mutex);
     const GdalErrors quiet;
     const ReadingBound bound;
-    return PlaceRaster(*m_dataset, {mapSystem, m_chosenSystem}).extent;
-}
-
-RasterDetails RasterSource::Details() const
-{
-    const QMutexLocker lock(&m_mutex);
-    const GdalErrors quiet;
-    RasterDetails details;
-    if (GDALDriver* driver = m_dataset->GetDriver())
-        details.driver = QString::fromUtf8(driver->GetMetadataItem(GDAL_DMD_LONGNAME));
-    details.size = {m_dataset->GetRasterXSize(), m_dataset->GetRasterYSize()};
-    details.bands = m_dataset->GetRasterCount();
-    std::array<double, 6> transform = {};
-    if (m_dataset->GetGeoTransform(transform.data()) == CE_None)
-        details.pixelSize = {std::hypot(transform[1], transform[4]), std::hypot(transform[2], transform[5])};
-    return details;
+    const Use raster(*this);
+    return PlaceRaster(raster.Dataset(), {mapSystem, m_chosenSystem}).extent;
 }
 
 QImage RasterSource::Draw(
@@ -154,15 +189,16 @@ QImage RasterSource::Draw(
     const GdalErrors errors;
     const ReadingBound untilCancelled(cancelled);
     ReadingBound bound(ReadingBound::LongestWait);
+    const Use raster(*this);
     const RasterSystems systems{mapSystem, m_chosenSystem};
-    const RasterPlace place = PlaceRaster(*m_dataset, systems);
+    const RasterPlace place = PlaceRaster(raster.Dataset(), systems);
     if (cancelled || !place.extent.Intersects(extent))
         return {};
     const QRect area = CoveredPixels(place.extent, extent, pixels);
     if (area.isEmpty())
         return {};
     const auto warped = WarpRaster(
-        *m_dataset, place, {systems, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
+        raster.Dataset(), place, {systems, MapArea(area, extent, pixels), area.size()}, m_shades->MayBlend());
     if (!warped)
         FailReading(m_path, errors.First());
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -181,12 +217,14 @@ std::vector<RasterValue> RasterSource::ValuesAt(const QString& mapSystem, QPoint
     const QMutexLocker lock(&m_mutex);
     const GdalErrors errors;
     const ReadingBound bound(ReadingBound::LongestWait);
-    const std::optional<QPoint> pixel = PixelAt(*m_dataset, {mapSystem, m_chosenSystem}, place);
+    const Use raster(*this);
+    GDALDataset& dataset = raster.Dataset();
+    const std::optional<QPoint> pixel = PixelAt(dataset, {mapSystem, m_chosenSystem}, place);
     if (!pixel)
         return {};
     std::vector<RasterValue> values;
-    values.reserve(size_t(m_dataset->GetRasterCount()));
-    for (GDALRasterBand* band : m_dataset->GetBands()) {
+    values.reserve(size_t(dataset.GetRasterCount()));
+    for (GDALRasterBand* band : dataset.GetBands()) {
         const std::optional<RasterValue> value = ValueAt(*band, *pixel);
         RequireReadingInTime(m_path);
         if (!value)

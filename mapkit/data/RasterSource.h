@@ -51,9 +51,15 @@ struct RasterValue {
 ///
 /// Any thread may draw and ask for values, but only one does so at a time. Errors are RunTimeError with
 /// SourceUnreadable and a sentence that names the file, unless another number is stated.
+///
+/// The system limits how many files a program has open. So only the files of some rasters stay open, the
+/// first ones; each other one is opened whenever it is read, which takes little time compared with reading.
 class RasterSource
 {
 public:
+    /// How many rasters of the program stay open.
+    static constexpr int MostKeptOpen = 100;
+
     /// Raises if no driver can open the file, and RasterNotPlaced if the file is not georeferenced.
     /// member: of an archive, as RastersInArchive names it; empty for a file by itself. chosenSystem: its
     /// coordinate system, instead of the one that it names; empty for that one.
@@ -65,12 +71,12 @@ public:
     const QString& Path() const { return m_path; }
     /// The coordinate system that it names, as in CoordinateSystems.h; empty if it names none; then the map's
     /// system is assumed, unless one was chosen.
-    QString System() const;
+    const QString& System() const { return m_system; }
     /// The area that it covers, in units of its own system.
     Box Extent() const;
     /// The same in the map's system. Empty if it cannot be shown in that system.
     Box ExtentIn(const QString& mapSystem) const;
-    RasterDetails Details() const;
+    const RasterDetails& Details() const { return m_details; }
 
     /// Draws the part of the map, warped into its system, transparent where there is no picture. Reads only
     /// the data that the image needs. Null if nothing is in view, or if cancelled becomes true. Raises for
@@ -83,9 +89,15 @@ public:
     std::vector<RasterValue> ValuesAt(const QString& mapSystem, QPointF place) const;
 
 private:
+    class Use;
+
     QString m_path;
+    QString m_member;
     QString m_chosenSystem;
-    std::unique_ptr<GDALDataset> m_dataset;
+    QString m_system;
+    RasterDetails m_details;
+    mutable std::unique_ptr<GDALDataset> m_dataset; // nullptr while it is closed
+    mutable bool m_isKept = false; // it stays open
     std::unique_ptr<const RasterShades> m_shades;
     mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };

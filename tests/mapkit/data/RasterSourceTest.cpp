@@ -11,7 +11,10 @@
 
 #include <cpl_conv.h>
 #include <gtest/gtest.h>
+#include <memory>
 #include <ogr_spatialref.h>
+#include <sys/resource.h>
+#include <vector>
 
 namespace Orvane {
 
@@ -48,6 +51,25 @@ protected:
     std::atomic<bool> m_cancelled = false;
 };
 
+/// While it exists the program can have no more files open than that.
+class OpenFilesLimit
+{
+public:
+    explicit OpenFilesLimit(int files)
+    {
+        EXPECT_EQ(getrlimit(RLIMIT_NOFILE, &m_before), 0);
+        rlimit limit = m_before;
+        limit.rlim_cur = rlim_t(files);
+        EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
+    }
+    ~OpenFilesLimit() { setrlimit(RLIMIT_NOFILE, &m_before); }
+    OpenFilesLimit(const OpenFilesLimit&) = delete;
+    OpenFilesLimit& operator=(const OpenFilesLimit&) = delete;
+
+private:
+    rlimit m_before = {};
+};
+
 // West is red, east is blue.
 double Halves(int column, int, int band)
 {
@@ -69,6 +91,33 @@ TEST_F(RasterSourceTest, OpensNoFileThatTheTextForTheMapsSystemNames)
     const RasterSource source(Path());
     EXPECT_EQ(source.ExtentIn(file), source.Extent());
     EXPECT_NE(source.ExtentIn("EPSG:3857"), source.Extent());
+}
+
+TEST_F(RasterSourceTest, MoreAreDrawnThanTheSystemLetsBeOpen)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    const OpenFilesLimit limit(RasterSource::MostKeptOpen + 60);
+    std::vector<std::unique_ptr<const RasterSource>> rasters;
+    for (int i = 0; i < 300; ++i)
+        rasters.push_back(std::make_unique<const RasterSource>(Path()));
+    for (const auto& raster : rasters)
+        EXPECT_EQ(raster->Draw(Degrees, World, {20, 20}, m_cancelled).pixelColor(5, 5), QColor(Qt::red));
+}
+
+TEST_F(RasterSourceTest, ARasterThatIsGoneWhenItIsDrawnIsNamed)
+{
+    WriteRaster(Path(), {.bands = 3}, Halves);
+    std::vector<std::unique_ptr<const RasterSource>> rasters;
+    for (int i = 0; i <= RasterSource::MostKeptOpen; ++i)
+        rasters.push_back(std::make_unique<const RasterSource>(Path()));
+    QFile::remove(Path());
+    EXPECT_FALSE(rasters.front()->Draw(Degrees, World, {20, 20}, m_cancelled).isNull());
+    try {
+        rasters.back()->Draw(Degrees, World, {20, 20}, m_cancelled);
+        ADD_FAILURE() << "no error";
+    } catch (const RunTimeError& error) {
+        EXPECT_TRUE(error.Description().contains("photo.tif"));
+    }
 }
 
 TEST_F(RasterSourceTest, DrawsColoursWhereTheyLie)
