@@ -6,7 +6,6 @@
 #include "mapkit/common/Guard.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
-#include "mapkit/files/DataFiles.h"
 #include "shell/actions/DataActions.h"
 #include "shell/actions/DockChoice.h"
 #include "shell/actions/EditActions.h"
@@ -228,7 +227,6 @@ void MainWindow::ConnectActions()
     run(m_ui->actNewMap, &MainWindow::NewMap);
     run(m_ui->actOpenMap, &MainWindow::AskForMap);
     run(m_ui->actSaveMapAs, &MainWindow::SaveMapAs);
-    run(m_ui->actOpenData, &MainWindow::AskForData);
     run(m_ui->actLayerControl, &MainWindow::SwitchLayerControl);
     connect(m_ui->actQuit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
@@ -330,16 +328,6 @@ void MainWindow::SaveMapAs()
     });
     if (isSaved)
         RecentMaps::Add(path);
-}
-
-void MainWindow::AskForData()
-{
-    const QStringList paths = QFileDialog::getOpenFileNames(
-        this, tr("Open Data"), {},
-        tr("Map data (%1);;All files (*)")
-            .arg(DataFiles::Patterns() + QLatin1Char(' ') + DataFiles::RasterPatterns()));
-    if (!paths.isEmpty())
-        AddData(paths);
 }
 
 void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents, Opening opening)

@@ -83,7 +83,6 @@ private:
     void NewMap();
     void AskForMap();
     void SaveMapAs();
-    void AskForData();
 
     void ConnectSystems();
     void ShowSystem();

@@ -71,6 +71,15 @@ QStringList SchemesModel::Names() const
     return names;
 }
 
+std::vector<SchemeDetails> SchemesModel::DetailsOf(const QStringList& names) const
+{
+    std::vector<SchemeDetails> details;
+    details.reserve(std::size_t(names.size()));
+    for (const QString& name : names)
+        details.push_back(DetailsAt(RowOf(name)));
+    return details;
+}
+
 QStringList SchemesModel::NamesOf(const std::vector<SchemeDetails>& schemes) const
 {
     QStringList names;

@@ -38,6 +38,8 @@ public:
     QStringList Names() const;
     QString NameAt(int row) const { return At(row).details.name; }
     const SchemeDetails& DetailsAt(int row) const { return At(row).details; }
+    /// names: of schemes in this model.
+    std::vector<SchemeDetails> DetailsOf(const QStringList& names) const;
     /// The names that these schemes have now, also after a renaming; without those that are gone.
     QStringList NamesOf(const std::vector<SchemeDetails>& schemes) const;
     /// -1 if there is none of that name.

@@ -174,11 +174,8 @@ QAction* SchemesPage::MakeCommand(
 void SchemesPage::ReadAgain(bool areValuesKept)
 {
     using Counts = SchemesModel::Counts;
-    const QStringList names = ChosenNames();
-    std::vector<SchemeDetails> chosen; // they may have other names now
-    chosen.reserve(std::size_t(names.size()));
-    for (const QString& name : names)
-        chosen.push_back(m_model->DetailsAt(m_model->RowOf(name)));
+    const std::vector<SchemeDetails> chosen
+        = m_model->DetailsOf(ChosenNames()); // they may have other names now
     m_model->Show(Schemes(), areValuesKept ? Counts::Keep : Counts::Forget);
     m_table->Choose(m_model->NamesOf(chosen));
     EnableCommands(); // the choice may be as it was

@@ -19,10 +19,10 @@
 
 namespace Orvane {
 
-DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : m_window(window)
+DataActions::DataActions(QMenu& menu, const QAction* openData, QWidget& window) : m_window(window)
 {
     const QList<QAction*> commands = menu.actions();
-    QAction* before = commands.value(commands.indexOf(behind) + 1);
+    QAction* before = commands.value(commands.indexOf(openData) + 1);
     QAction* raster = Add(
         menu, before, "actOpenRaster", tr("Open Ras&ter..."),
         tr("Add aerial photographs, scanned maps or elevation grids to the map"));
@@ -32,11 +32,12 @@ DataActions::DataActions(QMenu& menu, const QAction* behind, QWidget& window) : 
     m_columns = Add(
         menu, before, "actTableColumns", tr("Table &Columns..."),
         tr("Choose the columns with the coordinates of the tables in the map"));
-    const auto run = [this](QAction* action, void (DataActions::*command)()) {
+    const auto run = [this](const QAction* action, void (DataActions::*command)()) {
         connect(action, &QAction::triggered, this, [this, command] {
             Guard(&m_window, [&] { (this->*command)(); });
         });
     };
+    run(openData, &DataActions::AskForData);
     run(raster, &DataActions::AskForRasters);
     run(m_find, &DataActions::FindData);
     run(m_columns, &DataActions::AskForColumns);
@@ -139,6 +140,16 @@ void DataActions::AskForColumns()
 {
     if (TableQuestions::ChangeColumns(*m_session, m_window))
         Reload();
+}
+
+void DataActions::AskForData()
+{
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        &m_window, tr("Open Data"), {},
+        tr("Map data (%1);;All files (*)")
+            .arg(DataFiles::Patterns() + QLatin1Char(' ') + DataFiles::RasterPatterns()));
+    if (!paths.isEmpty())
+        emit DataChosen(paths);
 }
 
 void DataActions::AskForRasters()

@@ -13,14 +13,14 @@ namespace Orvane {
 
 class MapSession;
 
-/// The commands of the File menu for the data of a map: open rasters, find missing data, choose the columns
-/// of tables. They also show the user the problems of the data.
+/// The commands of the File menu for the data of a map: open data, open rasters, find missing data, choose
+/// the columns of tables. They also show the user the problems of the data.
 class DataActions : public QObject
 {
     Q_OBJECT
 public:
-    /// Adds the commands to the menu, after that one. The window outlives this object.
-    DataActions(QMenu& menu, const QAction* behind, QWidget& window);
+    /// Adds the commands to the menu, after the one that opens data. The window outlives this object.
+    DataActions(QMenu& menu, const QAction* openData, QWidget& window);
 
     /// The commands work on the data of this map from now on, and its files are watched; not owned.
     void Use(MapSession& session);
@@ -45,6 +45,7 @@ private:
     void TellMapIsGone();
     void FindData();
     void AskForColumns();
+    void AskForData();
     void AskForRasters();
     void Reload();
 

@@ -1,20 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "shell/command/MapCheck.h"
-
-#include "hostkit/schemes/LayerSchemes.h"
-#include "mapkit/DataFolder.h"
-#include "mapkit/RasterFile.h"
-#include "mapkit/RawDatabase.h"
-#include "mapkit/document/MapDocument.h"
-#include "mapkit/document/MapSettings.h"
+#include "shell/command/MapCheckFixture.h"
 #include "shell/map/MapThemes.h"
-#include "store/sqlite/SqliteLayerDatabase.h"
 #include "store/sqlite/files/PlainTables.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
-#include <OrvaneShellLib/ValueConversions.h>
-
-#include <gmock/gmock.h>
 
 namespace Orvane {
 
@@ -23,56 +12,7 @@ using namespace Testing;
 namespace {
 
 using Kind = MapProblem::Kind;
-
-class MapCheckTest : public testing::Test
-{
-protected:
-    MapCheckTest()
-    {
-        const auto document = MapDocument::Create(m_map);
-        const qint32 groupID = document->AddGroup("Group", true);
-        for (const char* name : {"a", "b"}) {
-            NewLayer layer;
-            layer.name = name;
-            layer.path = m_folder.WriteSquare(name + QString(".geojson"));
-            layer.ogrLayer = name;
-            document->AddMember(groupID, document->AddLayer(layer));
-        }
-        LayerSchemes(document->Database()).Create("Night");
-    }
-
-    // So many that checking them takes more steps than SQLite makes between two looks at the clock.
-    void AddManyLayers() const
-    {
-        RawDatabase(m_map).Run(
-            "WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 5000)"
-            " INSERT INTO Layers (Name) SELECT 'many' FROM n");
-    }
-
-    std::vector<Kind> Kinds(const std::vector<MapProblem>& problems) const
-    {
-        std::vector<Kind> kinds;
-        for (const MapProblem& problem : problems)
-            kinds.push_back(problem.kind);
-        return kinds;
-    }
-
-    int Count(const char* table) const
-    {
-        const auto database = SqliteLayerDatabase::Open(m_map, OpenMode::ReadOnly);
-        return ToInt32(database->OpenQuery(QString("SELECT count(*) AS N FROM ") + table)->Field("N"));
-    }
-
-    QByteArray Bytes() const
-    {
-        QFile file(m_map);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    DataFolder m_folder;
-    const QString m_map = m_folder.Path("map.orvane");
-};
+using MapCheckTest = MapCheckFixture;
 
 } // namespace
 
@@ -279,85 +219,6 @@ TEST_F(MapCheckTest, EveryTableOfAMapIsKnownToTheCheckBeforeOpening)
     }
 }
 
-TEST_F(MapCheckTest, MissingDataAreNamedOnceAndStay)
-{
-    ASSERT_TRUE(QFile::remove(m_folder.Path("a.geojson")));
-    const std::vector<MapProblem> problems = RepairMap(m_map);
-    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::MissingData));
-    EXPECT_TRUE(problems[0].text.contains(m_folder.Path("a.geojson")));
-    EXPECT_FALSE(problems[0].repairable);
-    EXPECT_EQ(Count("LayerSources"), 2);
-}
-
-TEST_F(MapCheckTest, DataThatCannotBeReadAreNamed)
-{
-    m_folder.Write("a.geojson", "broken");
-    const std::vector<MapProblem> problems = CheckMap(m_map);
-    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
-    EXPECT_TRUE(problems[0].text.contains("a.geojson"));
-}
-
-TEST_F(MapCheckTest, ALayerThatItsDataNoLongerHoldIsNamed)
-{
-    RawDatabase(m_map).Run("UPDATE LayerSources SET OgrLayer = 'roads' WHERE LayerID = 1");
-    const std::vector<MapProblem> problems = CheckMap(m_map);
-    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
-    EXPECT_TRUE(problems[0].text.contains("roads"));
-}
-
-TEST_F(MapCheckTest, ATableWithoutTheColumnsOfTheMapIsNamed)
-{
-    NewLayer towns;
-    towns.path = m_folder.Write("towns.csv", "name,lon,lat\nA,13,52\n");
-    towns.ogrLayer = "towns";
-    towns.choice.columns = {"Lon", "lat", {}};
-    MapDocument::Open(m_map)->AddLayer(towns);
-    EXPECT_TRUE(CheckMap(m_map).empty());
-    m_folder.Write("towns.csv", "name,x,lat\nA,13,52\n");
-    const std::vector<MapProblem> problems = CheckMap(m_map);
-    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
-    EXPECT_TRUE(problems[0].text.contains("\"Lon\"")) << qPrintable(problems[0].text);
-    EXPECT_TRUE(problems[0].text.contains(towns.path)) << qPrintable(problems[0].text);
-}
-
-TEST_F(MapCheckTest, EachLayerOfAFileWithAnUnknownSystemIsNamedOnce)
-{
-    const auto document = MapDocument::Open(m_map);
-    for (const FeatureKind kind : {FeatureKind::Point, FeatureKind::Area}) {
-        NewLayer part;
-        part.path = m_folder.Path("a.geojson");
-        part.ogrLayer = "plan";
-        part.system = "EPSG:0";
-        part.choice.kinds = {kind};
-        document->AddLayer(part);
-    }
-    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:0' WHERE LayerID = 1");
-    QStringList texts;
-    for (const MapProblem& problem : CheckMap(m_map)) {
-        if (problem.text.contains("EPSG:0"))
-            texts << problem.text;
-    }
-    ASSERT_EQ(texts.size(), 2) << qPrintable(texts.join(' '));
-    EXPECT_TRUE(texts[0].contains(m_folder.Path("a.geojson")));
-    EXPECT_TRUE(texts[1].contains("a.geojson (plan)"));
-}
-
-TEST_F(MapCheckTest, AnUnknownSystemOfALayerIsNamed)
-{
-    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:25832' WHERE LayerID = 1");
-    EXPECT_TRUE(CheckMap(m_map).empty());
-    RawDatabase(m_map).Run("UPDATE LayerSources SET System = 'EPSG:0' WHERE LayerID = 1");
-    const std::vector<MapProblem> problems = CheckMap(m_map);
-    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::UnreadableData));
-    EXPECT_TRUE(problems[0].text.contains("EPSG:0"));
-}
-
-TEST_F(MapCheckTest, AMapOfAnEarlierVersionWithoutSystemsOfLayersIsSound)
-{
-    RawDatabase(m_map).Run("ALTER TABLE LayerSources DROP COLUMN System");
-    EXPECT_TRUE(CheckMap(m_map).empty());
-}
-
 TEST_F(MapCheckTest, AMapOfALayerDatabaseAloneIsSound)
 {
     const QString path = m_folder.Path("plain.orvane");
@@ -385,26 +246,6 @@ TEST_F(MapCheckTest, AFileCutShortIsAnErrorAndStays)
     const QByteArray before = Bytes();
     EXPECT_THROW(RepairMap(m_map), RunTimeError);
     EXPECT_EQ(Bytes(), before);
-}
-
-TEST_F(MapCheckTest, ARasterThatIsMissingOrCannotBeReadIsAProblem)
-{
-    const QString picture = m_folder.Path("photo.tif");
-    WriteRaster(picture, {}, [](int, int, int) { return 1; });
-    NewLayer raster = NewLayer::OfRaster();
-    raster.path = picture;
-    MapDocument::Open(m_map)->AddLayer(raster);
-    EXPECT_TRUE(CheckMap(m_map).empty());
-    ASSERT_TRUE(QFile::remove(picture));
-    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
-    m_folder.Write("photo.tif", "no picture");
-    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::UnreadableData));
-}
-
-TEST_F(MapCheckTest, ThePictureUnderAMapOfAnEarlierVersionIsCheckedToo)
-{
-    MapSettings::Write(*SqliteLayerDatabase::Open(m_map), "Backdrop", "gone.tif");
-    EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::MissingData));
 }
 
 } // namespace Orvane
