@@ -27,7 +27,7 @@ inline constexpr int SourceUnreadable = 10101;
 
 /// One layer of a data source.
 struct SourceLayer {
-    QString name; ///< the name in the source; of a raster its name in an archive, or empty
+    QString name; ///< the name in the source; of a raster its name in an archive or a GeoPackage, or empty
     FeatureKind kind = FeatureKind::Area; ///< the lowest one of a mixed layer
     QString system; ///< coordinate system, as in CoordinateSystems.h; empty when the source names none
     Box extent; ///< in its own units; empty if the source does not know it

@@ -40,15 +40,33 @@ bool MayKeepOpen()
     return false;
 }
 
+constexpr unsigned OpenFlags = GDAL_OF_RASTER | GDAL_OF_READONLY;
+
+std::unique_ptr<GDALDataset> OpenDataset(const QString& name)
+{
+    return std::unique_ptr<GDALDataset>(GDALDataset::Open(name.toUtf8().constData(), OpenFlags));
+}
+
+// One of the rasters in a GeoPackage.
+std::unique_ptr<GDALDataset> OpenTable(const QString& path, const QString& table)
+{
+    const char* const drivers[] = {"GPKG", nullptr};
+    const QByteArray option = "TABLE=" + table.toUtf8();
+    const char* const options[] = {option.constData(), nullptr};
+    return std::unique_ptr<GDALDataset>(
+        GDALDataset::Open(path.toUtf8().constData(), OpenFlags, drivers, options));
+}
+
 std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& member)
 {
     const QString whyNot = WhyNotOpened(path);
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
-    const QString name = member.isEmpty() ? path : NameInArchive(path, member);
     const GdalErrors errors;
-    constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
-    std::unique_ptr<GDALDataset> dataset(GDALDataset::Open(name.toUtf8().constData(), flags));
+    const QString archived = member.isEmpty() ? QString() : NameInArchive(path, member);
+    const bool isTable = !member.isEmpty() && archived.isEmpty();
+    std::unique_ptr<GDALDataset> dataset
+        = isTable ? OpenTable(path, member) : OpenDataset(archived.isEmpty() ? path : archived);
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
     RequireReadingInTime(path);

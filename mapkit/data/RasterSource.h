@@ -61,8 +61,8 @@ public:
     static constexpr int MostKeptOpen = 100;
 
     /// Raises if no driver can open the file, and RasterNotPlaced if the file is not georeferenced.
-    /// member: of an archive, as RastersInArchive names it; empty for a file by itself. chosenSystem: its
-    /// coordinate system, instead of the one that it names; empty for that one.
+    /// member: of an archive or a GeoPackage, as RastersWithin names it; empty for a file by itself.
+    /// chosenSystem: its coordinate system, instead of the one that it names; empty for that one.
     explicit RasterSource(const QString& path, const QString& member = {}, const QString& chosenSystem = {});
     ~RasterSource();
     RasterSource(const RasterSource&) = delete;
@@ -102,7 +102,7 @@ private:
     mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };
 
-/// The raster of a file, or in an archive, as a layer that was found. Raises as RasterSource does.
+/// The raster of a file, or one of those in it, as a layer that was found. Raises as RasterSource does.
 SourceLayer DescribeRaster(const QString& path, const QString& member = {});
 
 } // namespace Orvane

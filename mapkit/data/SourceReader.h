@@ -21,7 +21,8 @@ class Progress;
 struct LayerSource {
     qint32 layerID = 0;
     QString path; ///< absolute, or another name that GDAL opens
-    QString ogrLayer; ///< layer within the source; of a raster its name in an archive, or empty
+    QString
+        ogrLayer; ///< layer within the source; of a raster its name in an archive or a GeoPackage, or empty
     QString filter; ///< attribute condition; empty for all features
     QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
     GeometryChoice choice = {}; ///< which geometries

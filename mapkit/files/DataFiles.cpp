@@ -150,6 +150,11 @@ bool IsRaster(const QString& path)
     return HasSuffix(path, RasterSuffixes) || (HasSuffix(path, PictureSuffixes) && HasPlaceBeside(path));
 }
 
+bool MayHoldBoth(const QString& path)
+{
+    return path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive);
+}
+
 QString SourceOf(const QString& path)
 {
     qsizetype end = 0;

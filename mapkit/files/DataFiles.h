@@ -23,6 +23,9 @@ bool IsNamedAsRaster(const QString& path);
 /// a file beside it says where it lies.
 bool IsRaster(const QString& path);
 
+/// Whether a file may hold features and rasters, by its name: a GeoPackage.
+bool MayHoldBoth(const QString& path);
+
 /// The data source to which a path belongs, by its name alone: the path itself for a data file; for a path
 /// within a folder that is one source, such as "town.gdb/a.gdbtable", the folder. Empty for files that only
 /// accompany others, such as the .dbf of a .shp, and for all else.

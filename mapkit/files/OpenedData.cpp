@@ -124,6 +124,27 @@ QString TitleOf(const QString& member)
     return QFileInfo(member).completeBaseName();
 }
 
+// The tables of rasters in a GeoPackage that has several.
+QStringList RasterTablesOf(const QString& path)
+{
+    const char* const drivers[] = {"GPKG", nullptr};
+    constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
+    const std::unique_ptr<GDALDataset> file(GDALDataset::Open(path.toUtf8().constData(), flags, drivers));
+    char** listed = file ? file->GetMetadata("SUBDATASETS") : nullptr;
+    const QString prefix = QLatin1String("GPKG:") + path + QLatin1Char(':');
+    QStringList tables;
+    for (int i = 1; listed; ++i) {
+        const QByteArray key = "SUBDATASET_" + QByteArray::number(i) + "_NAME";
+        const char* name = CSLFetchNameValue(listed, key.constData());
+        if (!name)
+            break;
+        const QString table = QString::fromUtf8(name);
+        if (table.startsWith(prefix))
+            tables << table.mid(prefix.size());
+    }
+    return tables;
+}
+
 QString WithoutSuffix(const QString& member)
 {
     return member.chopped(QFileInfo(member).fileName().size()) + TitleOf(member);
@@ -254,11 +275,13 @@ QString NameInArchive(const QString& archive, const QString& member)
     return prefix.isEmpty() ? QString() : prefix + QLatin1Char('/') + member;
 }
 
-QStringList RastersInArchive(const QString& path)
+QStringList RastersWithin(const QString& path)
 {
     PrepareGdal();
     const QString archive = PrefixOfArchive(path);
-    QStringList rasters = archive.isEmpty() ? QStringList() : MembersOf(archive);
+    if (archive.isEmpty())
+        return DataFiles::MayHoldBoth(path) ? RasterTablesOf(path) : QStringList();
+    QStringList rasters = MembersOf(archive);
     rasters.erase(
         std::remove_if(
             rasters.begin(), rasters.end(),

@@ -113,21 +113,17 @@ bool LookForFeatures(const QString& path, FoundData& data)
     return !layers.empty() || !tables.empty();
 }
 
-// Adds the raster of a file, or one in an archive. Returns why it cannot be added; empty if it was.
+// Adds the raster of a file, or one of those in it. Returns why it cannot be added; empty if it was.
 QString TakeRaster(const QString& path, const QString& member, FoundData& data, const QString& otherwise)
 {
     try {
         AddLayers(data, QFileInfo(path).absoluteFilePath(), {DescribeRaster(path, member)});
         return {};
     } catch (const RunTimeError& error) {
-        const bool isRaster = error.Number() == RasterNotPlaced || DataFiles::IsNamedAsRaster(path + member);
+        const bool isRaster
+            = error.Number() == RasterNotPlaced || !member.isEmpty() || DataFiles::IsNamedAsRaster(path);
         return isRaster ? error.Description() : otherwise;
     }
-}
-
-bool MayHoldBoth(const QString& path)
-{
-    return path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive);
 }
 
 void LookIntoFile(const QString& path, FoundData& data)
@@ -140,10 +136,10 @@ void LookIntoFile(const QString& path, FoundData& data)
     } catch (const RunTimeError& error) {
         problem = error.Description();
     }
-    const QStringList members = RastersInArchive(path);
+    const QStringList members = RastersWithin(path);
     for (const QString& member : members)
         AddProblem(data, path, TakeRaster(path, member, data, problem));
-    if (members.isEmpty() && (!hasFeatures || MayHoldBoth(path))) {
+    if (members.isEmpty() && (!hasFeatures || DataFiles::MayHoldBoth(path))) {
         problem = TakeRaster(path, {}, data, problem);
         AddProblem(data, path, hasFeatures ? QString() : problem);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/FoundLayers.h"
 
+#include "mapkit/files/DataFiles.h"
 #include "mapkit/files/OpenedData.h"
 
 #include <QCoreApplication>
@@ -58,7 +59,7 @@ QString LayerTitle(const QString& path, const SourceLayer& layer)
     const bool isNameless = layer.name.isEmpty() || OpenedData::IsNameless(layer.name);
     const QString name = isNameless ? SourceTitle(path) : layer.name;
     if (layer.dataKind == DataKind::Raster)
-        return SourceTitle(isNameless ? path : layer.name);
+        return isNameless || DataFiles::MayHoldBoth(path) ? name : SourceTitle(layer.name);
     if (layer.choice.kinds.empty())
         return name;
     switch (layer.kind) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFile>
 #include <QString>
 
 #include <array>
+#include <cpl_string.h>
 #include <functional>
 #include <gdal_priv.h>
 #include <gtest/gtest.h>
@@ -48,6 +50,24 @@ WriteRaster(const QString& path, const RasterSpec& spec, const std::function<dou
                 CE_None);
         }
     }
+}
+
+/// Writes a raster of that value into a table of a GeoPackage, which is made if it does not exist.
+inline void WriteRasterTable(const QString& path, const char* table, int value)
+{
+    const bool isNew = !QFile::exists(path);
+    const QString picture = QStringLiteral("/vsimem/") + QLatin1String(table) + QStringLiteral(".tif");
+    WriteRaster(picture, {.bands = 3}, [value](int, int, int) { return value; });
+    const std::unique_ptr<GDALDataset> from(GDALDataset::Open(picture.toUtf8().constData(), GDAL_OF_RASTER));
+    CPLStringList options;
+    options.SetNameValue("RASTER_TABLE", table);
+    options.SetNameValue("TILE_FORMAT", "PNG");
+    if (!isNew)
+        options.SetNameValue("APPEND_SUBDATASET", "YES");
+    GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("GPKG");
+    const std::unique_ptr<GDALDataset> made(
+        driver->CreateCopy(path.toUtf8().constData(), from.get(), FALSE, options.List(), nullptr, nullptr));
+    EXPECT_TRUE(made) << table;
 }
 
 } // namespace Orvane::Testing

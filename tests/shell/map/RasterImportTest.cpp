@@ -9,6 +9,8 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/ImportPlan.h"
 
+#include <OrvaneShellLib/RunTimeError.h>
+
 #include <QDir>
 #include <QFile>
 
@@ -51,6 +53,7 @@ protected:
 
     DataFolder m_folder;
     Progress m_progress;
+    std::atomic<bool> m_cancelled = false;
 };
 
 } // namespace
@@ -129,6 +132,44 @@ TEST_F(RasterImportTest, RastersInAnArchiveAreLayersAmongItsOtherData)
     const SourceContents contents = ReadFound(data, "EPSG:4326", m_progress);
     ASSERT_EQ(contents.rasters.size(), 2u) << qPrintable(contents.FailureText());
     EXPECT_EQ(contents.rasters.at(1)->Extent(), (Box{0, 0, 10, 10}));
+}
+
+TEST_F(RasterImportTest, EachRasterOfAGeoPackageIsALayerBesideItsFeatures)
+{
+    const QString path
+        = WriteVector("GPKG", m_folder.Path("town.gpkg"), "roads", wkbLineString, {"LINESTRING(0 0,1 1)"});
+    WriteRasterTable(path, "ortho.2020", 50);
+    WriteRasterTable(path, "ortho.2021", 150);
+    const FoundData data = Found({path});
+    EXPECT_TRUE(data.problems.empty()) << qPrintable(data.ProblemText());
+    ASSERT_EQ(data.sources.size(), 1u);
+    QStringList names;
+    for (const SourceLayer& layer : data.sources[0].layers)
+        names << LayerFor(path, layer, 0).name;
+    EXPECT_EQ(names, QStringList({"roads", "ortho.2020", "ortho.2021"}));
+    const SourceContents contents = ReadFound(data, "EPSG:4326", m_progress);
+    ASSERT_EQ(contents.rasters.size(), 2u) << qPrintable(contents.FailureText());
+    for (const auto& [number, grey] : {std::pair(1, 50), std::pair(2, 150)}) {
+        const QImage image = contents.rasters.at(number)->Draw({0, 0, 10, 10}, {10, 10}, m_cancelled);
+        EXPECT_EQ(image.pixelColor(5, 5), QColor(grey, grey, grey));
+    }
+}
+
+TEST_F(RasterImportTest, TheOnlyRasterOfAGeoPackageNeedsNoName)
+{
+    const QString path = m_folder.Path("photo.gpkg");
+    WriteRasterTable(path, "tiles", 50);
+    const FoundData data = Found({path});
+    ASSERT_EQ(LayerCount(data), 1u) << qPrintable(data.ProblemText());
+    EXPECT_EQ(data.sources[0].layers[0].name, "");
+    EXPECT_EQ(LayerFor(path, data.sources[0].layers[0], 0).name, "photo");
+}
+
+TEST_F(RasterImportTest, ARasterThatIsNotInItsGeoPackageIsNotReplacedByAnother)
+{
+    const QString path = m_folder.Path("photo.gpkg");
+    WriteRasterTable(path, "tiles", 50);
+    EXPECT_THROW(RasterSource(path, "others"), RunTimeError);
 }
 
 TEST_F(RasterImportTest, ABrokenRasterInAnArchiveIsNamedAndTheOthersAreFound)
