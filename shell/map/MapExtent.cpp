@@ -28,9 +28,9 @@ Box ExtentOfRaster(const LayerSource& source, const QString& system)
 }
 
 // Two layers may show the same data in different systems, or other columns of one table.
-using Reading = std::tuple<QString, QString, QString>; // layer, system, columns
+using Part = std::tuple<QString, QString, QString>; // layer, system, columns
 
-Reading ReadingOf(const LayerSource& source)
+Part PartOf(const LayerSource& source)
 {
     return {source.ogrLayer, source.system, GeometryChoice{source.choice.columns, {}}.ToText()};
 }
@@ -71,15 +71,15 @@ private:
     Progress& m_progress;
 };
 
-using FileReadings = std::map<Reading, const LayerSource*>;
+using FileParts = std::map<Part, const LayerSource*>;
 
 // What cannot be read is reported when the map is read.
-Box ExtentOfFile(const QString& path, const FileReadings& readings, const QString& system, Progress& progress)
+Box ExtentOfFile(const QString& path, const FileParts& parts, const QString& system, Progress& progress)
 {
     Box extent;
     try {
         const FileExtent file(path, progress);
-        for (const auto& [reading, source] : readings) {
+        for (const auto& [part, source] : parts) {
             progress.StopIfCancelled();
             try {
                 extent.Add(file.Of(*source, system));
@@ -98,17 +98,17 @@ Box ExtentOfFile(const QString& path, const FileReadings& readings, const QStrin
 Box ExtentOfMap(const std::vector<LayerSource>& sources, const QString& system, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
-    std::map<QString, FileReadings> files; // each is opened once
+    std::map<QString, FileParts> files; // each is opened once
     Box extent;
     for (const LayerSource& source : sources) {
         progress.StopIfCancelled();
         if (source.kind == DataKind::Raster)
             extent.Add(ExtentOfRaster(source, system));
         else
-            files[source.path].emplace(ReadingOf(source), &source);
+            files[source.path].emplace(PartOf(source), &source);
     }
-    for (const auto& [path, readings] : files)
-        extent.Add(ExtentOfFile(path, readings, system, progress));
+    for (const auto& [path, parts] : files)
+        extent.Add(ExtentOfFile(path, parts, system, progress));
     return extent;
 }
 
