@@ -53,7 +53,7 @@ QString RasterOf(const QString& path)
     for (const char* added : {".aux.xml", ".ovr"}) {
         if (!path.endsWith(QLatin1String(added), Qt::CaseInsensitive))
             continue;
-        const QString main = path.chopped(int(qstrlen(added)));
+        QString main = path.chopped(int(qstrlen(added)));
         if (QFileInfo(main).isFile())
             return main;
     }
@@ -63,7 +63,7 @@ QString RasterOf(const QString& path)
         return {};
     const QString all = QLatin1String(RasterSuffixes) + QLatin1Char(' ') + QLatin1String(PictureSuffixes);
     for (const QString& suffix : (all + QLatin1Char(' ') + all.toUpper()).split(QLatin1Char(' '))) {
-        const QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + suffix);
+        QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + suffix);
         if (QFileInfo(main).isFile())
             return main;
     }
@@ -98,12 +98,12 @@ QString MainFileOf(const QString& path)
             continue;
         const QString suffix = QLatin1String(companion.main);
         for (const QString& written : {suffix, suffix.toUpper()}) {
-            const QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + written);
+            QString main = file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + written);
             if (QFileInfo(main).isFile())
                 return main;
         }
     }
-    const QString raster = RasterOf(path);
+    QString raster = RasterOf(path);
     if (!raster.isEmpty())
         return raster;
     const QString source = SourceOf(path);

@@ -146,6 +146,7 @@ std::vector<QColor> ColoursBetween(const QColor& low, const QColor& high, int co
 {
     const std::array<QRgb, 2> ends = {low.rgb(), high.rgb()};
     std::vector<QColor> colours;
+    colours.reserve(size_t(std::max(0, count)));
     for (int i = 0; i < count; ++i)
         colours.push_back(ColourAt(ends, count > 1 ? double(i) / (count - 1) : 1));
     return colours;

@@ -172,7 +172,7 @@ CoordinateColumns GuessColumns(const TableRows& table)
 {
     for (const bool isAlone : {true, false}) {
         for (const auto& [east, north] : CoordinateWords) {
-            const CoordinateColumns found = FindPair(table, east, north, isAlone);
+            CoordinateColumns found = FindPair(table, east, north, isAlone);
             if (!found.IsEmpty())
                 return found;
         }

@@ -88,7 +88,7 @@ QString SectionAt(const QObject* place)
 {
     for (; place; place = place->parent()) {
         const QString ofTool = SectionOfTool(place);
-        const QString section = ofTool.isEmpty() ? SectionOfName(place->objectName()) : ofTool;
+        QString section = ofTool.isEmpty() ? SectionOfName(place->objectName()) : ofTool;
         if (!section.isEmpty())
             return section;
     }

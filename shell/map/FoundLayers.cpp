@@ -57,7 +57,7 @@ std::vector<SourceLayer> LayersToShow(const std::vector<SourceLayer>& layers)
 QString LayerTitle(const QString& path, const SourceLayer& layer)
 {
     const bool isNameless = layer.name.isEmpty() || OpenedData::IsNameless(layer.name);
-    const QString name = isNameless ? SourceTitle(path) : layer.name;
+    QString name = isNameless ? SourceTitle(path) : layer.name;
     if (layer.dataKind == DataKind::Raster)
         return isNameless || DataFiles::MayHoldBoth(path) ? name : SourceTitle(layer.name);
     if (layer.choice.kinds.empty())

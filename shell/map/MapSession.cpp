@@ -128,8 +128,8 @@ QString MapSession::ReadAndShow(View view, const SourceContents& known)
         ShowInSystem(before);
     else
         Show();
-    emit LayersRead();
     QStringList problems = {contents.FailureText(), givenUp};
+    emit LayersRead();
     problems.removeAll(QString());
     return problems.join(QLatin1Char('\n'));
 }

@@ -66,7 +66,7 @@ QString SystemChooser::Ask(SystemCatalogue& catalogue, const SystemQuestion& que
     SystemChooser dialog(catalogue, question, parent);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    const QString system = dialog.System();
+    QString system = dialog.System();
     RecentSystems::Add(system);
     return system;
 }

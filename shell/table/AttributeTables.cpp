@@ -133,7 +133,7 @@ QString AttributeTables::WhyNot(const std::vector<qint32>& layerIDs) const
     if (layerIDs.size() > MostAtOnce)
         return tr("Select fewer layers: each has a window of its own.");
     for (const qint32 layerID : layerIDs) {
-        const QString reason = WhyNoAttributes(layerID);
+        QString reason = WhyNoAttributes(layerID);
         if (!reason.isEmpty())
             return reason;
     }
