@@ -21,6 +21,7 @@ enum class ErrorNumber {
     NotALayerDatabase = 3003, ///< the file is not a layer database, or is damaged
     DatabaseTooNew = 3004, ///< the layer database was written by a newer version
     DatabaseReadOnly = 3005, ///< the layer database cannot be written
+    ConnectionLost = 3006, ///< the server does not answer; what was not stored can be tried again
     PluginFailure = 4001, ///< the component could not be loaded, or has a different contract version
 };
 

@@ -4,6 +4,7 @@
 #include <orvane/OrvaneShellLib/ILayerDatabase.h>
 #include <orvane/OrvaneShellLib/Value.h>
 #include <orvane/store/StoreOptions.h>
+#include <orvane/store/StoreTable.h>
 #include <orvane/store/StoreWatcher.h>
 
 #include <QString>
@@ -18,7 +19,7 @@ namespace Orvane {
 
 class ChangeRecorder;
 class Changeset;
-struct StoreTable;
+class IChangeNews;
 
 /// A layer database as the host kit uses it, independent of the kind of store.
 ///
@@ -33,6 +34,11 @@ struct StoreTable;
 /// Update, and raises if the row is gone. Query cursors that are open while rows are changed may be read into
 /// memory, so close long ones first.
 ///
+/// A store on a server may keep the writes of a transaction until it is read from or committed. It shows them
+/// to its own cursors at once. An Update of a row that is gone, or of a value that is refused, then raises
+/// there instead of in Update. It may also read rows before they are sought: outside of a transaction, a
+/// table cursor then gives a row as it was at any time since the present action of the user began.
+///
 /// Errors never leave half of a transaction in the store: after an error that ends a transaction, or leaves
 /// it uncertain, each further write in it raises until its outermost level is rolled back. If a store cannot
 /// undo what failed, it refuses everything else until it can. Transactions begin and end with BeginTrans,
@@ -45,6 +51,10 @@ public:
     /// reads.
     virtual qint64 Execute(const QString& sql, const std::vector<Value>& values = {}) = 0;
 
+    /// As Execute, for a caller that does not need the number of rows: a store on a server may keep the
+    /// statement until the transaction is read from or committed, and raises then what Execute raises.
+    virtual void Send(const QString& sql, const std::vector<Value>& values = {}) { Execute(sql, values); }
+
     /// A cursor over a query with parameters. The caller owns it and destroys it before the store.
     virtual std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values = {})
         = 0;
@@ -55,6 +65,11 @@ public:
     virtual bool HasTable(const QString& table) = 0;
     /// True when the table exists and has that column.
     virtual bool HasColumn(const QString& table, const QString& column) = 0;
+    /// All tables with their columns, those of layers and groups too; PrepareTable could make each of them
+    /// elsewhere. What StoreTable has no words for is left out, such as a default that is computed. In a
+    /// file, flags in tables of layers and of earlier versions count as whole numbers. Empty for a kind of
+    /// store that cannot tell.
+    virtual std::vector<StoreTable> Tables() { return {}; }
 
     /// Records changes from now on; the caller owns the recorder and destroys it before the store.
     virtual std::unique_ptr<ChangeRecorder> RecordChanges() = 0;
@@ -66,6 +81,9 @@ public:
     /// A number that differs from the one returned earlier if other connections have committed changes since
     /// then. Changes made through this object do not count.
     virtual qint64 ForeignChanges() = 0;
+    /// Tells what others change, and who has the store open; nullptr for a store that does not tell: ask
+    /// ForeignChanges there. Owned by the store.
+    virtual IChangeNews* News() { return nullptr; }
 
     /// The watcher is called now and then while statements run, and by AskWatcher. When it returns false, the
     /// running operation raises UserCancelled, as does everything else until the next call of SetWatcher;

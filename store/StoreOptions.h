@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QtGlobal>
 
 #include <chrono>
 #include <functional>
@@ -10,6 +11,7 @@
 namespace Orvane {
 
 class ILayerStore;
+class IServerLogin;
 
 /// How a layer database file is opened.
 enum class OpenMode {
@@ -25,6 +27,17 @@ struct StoreOptions {
     std::chrono::milliseconds busyTimeout{5000};
     /// The path that errors name, for a file that stands for another one; empty for the file's own.
     QString shownPath = {};
+    /// How long to wait for a server to take the connection.
+    std::chrono::milliseconds connectTimeout{10000};
+    /// How long a server may be silent in the middle of its work before the connection counts as lost. While
+    /// a watcher can cancel the work, the server may take as long as it likes.
+    std::chrono::milliseconds answerTimeout{15000};
+    /// How many bytes a server may answer to one statement before the connection is given up: such an answer
+    /// would take that much memory, and perhaps has no end.
+    qint64 longestAnswer = qint64(1) << 30;
+    /// Asks for the passwords that a server wants and nobody has stored; nullptr for nobody. Not owned,
+    /// outlives the store.
+    IServerLogin* login = nullptr;
 };
 
 /// What happens to a file that exists where a new one is to be made.

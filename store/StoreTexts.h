@@ -93,4 +93,89 @@ inline constexpr const char* ChangesNotKept
 inline constexpr const char* ChangesNotRecorded = QT_TRANSLATE_NOOP(
     "LayerStore", "There was not enough memory to record the changes to \"^1\"; they cannot be undone.");
 
+inline constexpr const char* NoServers = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The map \"^1\" is on a server. This program was built without PostgreSQL and cannot reach it.");
+inline constexpr const char* PlaceUnclear = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "\"^1\" is not the place of a map on a server, such as postgresql://server/database?schema=Map.");
+inline constexpr const char* PlaceOption = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The place \"^1\" contains the setting \"^2\", which may only be in a service file of PostgreSQL.");
+inline constexpr const char* PlacePassword = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The place \"^1\" contains a password. Leave it out: it belongs in PostgreSQL's password file, or you "
+    "are asked for it.");
+inline constexpr const char* MapNameTooLong
+    = QT_TRANSLATE_NOOP("LayerStore", "The name \"^1\" is too long for a map on a server.");
+inline constexpr const char* MapNotReadable = QT_TRANSLATE_NOOP(
+    "LayerStore", "You may not read the map \"^1\". Its owner can give you the right to.");
+inline constexpr const char* NotOwner
+    = QT_TRANSLATE_NOOP("LayerStore", "Who may use the map \"^1\" can only be changed by its owner, ^2.");
+inline constexpr const char* CannotConnect
+    = QT_TRANSLATE_NOOP("LayerStore", "The server of \"^1\" cannot be reached: ^2");
+inline constexpr const char* ConnectionLost = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The connection to the server of \"^1\" was lost: ^2. What was not stored can be tried again.");
+inline constexpr const char* ServerSilent = QT_TRANSLATE_NOOP(
+    "LayerStore", "The server of \"^1\" does not answer. What was not stored can be tried again.");
+inline constexpr const char* AnswerTooLong = QT_TRANSLATE_NOOP(
+    "LayerStore", "The server of \"^1\" answers with more than fits into memory. The connection was ended.");
+inline constexpr const char* ConnectionShared = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The server of \"^1\" shares one connection between several programs. Connect without the program that "
+    "does so, or let it pool sessions: ^2");
+inline constexpr const char* ServerFull = QT_TRANSLATE_NOOP(
+    "LayerStore", "The server of \"^1\" takes no more connections at present. Try again in a moment.");
+inline constexpr const char* ServerMemory
+    = QT_TRANSLATE_NOOP("LayerStore", "The server of \"^1\" has not enough memory for this.");
+inline constexpr const char* ServerTooOld = QT_TRANSLATE_NOOP(
+    "LayerStore", "The server of \"^1\" runs PostgreSQL ^2. Version 13 or a newer one is needed.");
+inline constexpr const char* LoginRefused
+    = QT_TRANSLATE_NOOP("LayerStore", "The server of \"^1\" refused the user or the password: ^2");
+inline constexpr const char* NotSecure
+    = QT_TRANSLATE_NOOP("LayerStore", "There is no secure connection to the server of \"^1\": ^2");
+inline constexpr const char* NotAllowed
+    = QT_TRANSLATE_NOOP("LayerStore", "The server does not allow this to you on \"^1\": ^2");
+inline constexpr const char* ValueRefused
+    = QT_TRANSLATE_NOOP("LayerStore", "A value cannot be stored in \"^1\": ^2");
+inline constexpr const char* NotAStatementHere
+    = QT_TRANSLATE_NOOP("LayerStore", "The statement ^2 cannot be run on \"^1\" by itself.");
+inline constexpr const char* CannotRecord = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "Changes to \"^1\" cannot be undone because your role may not make temporary tables in its database.");
+inline constexpr const char* ChangesMissed = QT_TRANSLATE_NOOP(
+    "LayerStore", "It is not known what the last operation changed in \"^1\"; it cannot be undone.");
+inline constexpr const char* UnsoundObject = QT_TRANSLATE_NOOP(
+    "LayerStore", "The map \"^1\" is not sound: it contains \"^2\", which does not belong in a map.");
+inline constexpr const char* UnsoundSilence = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The map \"^1\" is not sound: the table \"^2\" lacks a trigger that tells others what has changed.");
+inline constexpr const char* UnsoundReference = QT_TRANSLATE_NOOP(
+    "LayerStore", "The map \"^1\" is not sound: the table \"^2\" is joined with others outside of it.");
+inline constexpr const char* UnsoundRights = QT_TRANSLATE_NOOP(
+    "LayerStore", "The map \"^1\" is not sound: everybody may create objects in the schema \"^2\".");
+inline constexpr const char* OpenByOthers
+    = QT_TRANSLATE_NOOP("LayerStore", "The map \"^1\" is open: ^2. Try again when it is closed there.");
+inline constexpr const char* MoreThanMap = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "The map \"^1\" can be neither replaced nor removed, because more would be lost: ^2. Move "
+    "that away first.");
+inline constexpr const char* MapExists = QT_TRANSLATE_NOOP(
+    "LayerStore", "The map \"^1\" cannot be created because the server has something of that name already.");
+inline constexpr const char* NoMapOfThatName
+    = QT_TRANSLATE_NOOP("LayerStore", "There is no map \"^1\" on this server.");
+inline constexpr const char* NotCopyable
+    = QT_TRANSLATE_NOOP("LayerStore", "The layers of \"^1\" are kept in a way that cannot be copied.");
+inline constexpr const char* ValuesUnfit = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "\"^1\" cannot be copied because values do not fit their columns: ^2. In a map file, \"orvane check "
+    "--repair\" replaces such values.");
+inline constexpr const char* RowsDangling = QT_TRANSLATE_NOOP(
+    "LayerStore",
+    "\"^1\" cannot be copied because rows of the table \"^2\" refer to rows that are missing. In a map file, "
+    "\"orvane check --repair\" removes such rows.");
+inline constexpr const char* RowsMissing = QT_TRANSLATE_NOOP(
+    "LayerStore", "\"^1\" was not copied because rows of the table \"^2\" are missing in the copy.");
+
 } // namespace Orvane::StoreTexts

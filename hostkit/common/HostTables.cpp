@@ -3,12 +3,11 @@
 
 #include "hostkit/common/HostErrors.h"
 #include "store/ILayerStore.h"
+#include "store/StorePlace.h"
 #include "store/StoreTable.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
-
-#include <QFileInfo>
 
 namespace Orvane {
 
@@ -48,7 +47,7 @@ void HostTables::RequireVersion(ILayerStore& store, const QString& name, qint32 
 {
     if (VersionOf(store, name) > newest) {
         throw RunTimeError(
-            int(HostError::TablesTooNew), text.arg(QFileInfo(store.Path()).fileName()),
+            int(HostError::TablesTooNew), text.arg(StorePlace::FileNameOf(store.Path())),
             QString::fromLatin1(HostTables::TableName));
     }
 }
