@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/sqlite/PendingEdit.h"
+#include "store/shared/PendingEdit.h"
 #include "store/sqlite/engine/StatementPool.h"
 
 #include <QString>

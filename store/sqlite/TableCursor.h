@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/shared/PendingEdit.h"
 #include "store/sqlite/OpenRows.h"
-#include "store/sqlite/PendingEdit.h"
 #include "store/sqlite/engine/StatementPool.h"
 
 #include <OrvaneShellLib/IRecordset.h>

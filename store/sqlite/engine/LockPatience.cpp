@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/engine/LockPatience.h"
 
-#include <QThread>
-
 #include <algorithm>
 #include <array>
 #include <sqlite3.h>
@@ -40,31 +38,12 @@ void LockPatience::Attach(sqlite3* handle)
 // Adds up the pauses that it asks for, as SQLite's own waiting does.
 bool LockPatience::Wait(int attempt)
 {
-    const milliseconds pause = std::min(PauseBefore(attempt), m_limit - m_waited);
+    const milliseconds pause = std::min(PauseBefore(attempt), m_action.Left());
     if (pause <= milliseconds(0))
         return false;
-    ExpectEndOfAction();
-    m_waited += pause;
+    m_action.Spend(pause);
     sqlite3_sleep(int(pause.count()));
     return true;
-}
-
-void LockPatience::ExpectEndOfAction()
-{
-    if (m_expectsEnd)
-        return;
-    const auto endAction = [this] {
-        m_expectsEnd = false;
-        m_waited = milliseconds(0);
-    };
-    QMetaObject::invokeMethod(&m_loop, endAction, Qt::QueuedConnection);
-    m_expectsEnd = true;
-}
-
-void LockPatience::NoteSuccess()
-{
-    if (m_waited > milliseconds(0) && QThread::currentThread()->loopLevel() == 0)
-        m_waited = milliseconds(0);
 }
 
 } // namespace Orvane

@@ -2,7 +2,7 @@
 #include "store/sqlite/engine/RegularFiles.h"
 
 #include "store/StoreTexts.h"
-#include "store/sqlite/engine/StoreErrors.h"
+#include "store/shared/StoreErrors.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,6 +4,7 @@
 #include "store/StoreTexts.h"
 #include "store/sqlite/engine/NoMemoryError.h"
 #include "store/sqlite/engine/RegularFiles.h"
+#include "store/sqlite/engine/SqliteErrors.h"
 
 #include <OrvaneShellLib/Cancellation.h>
 
@@ -165,7 +166,7 @@ RunTimeError SqliteConnection::ErrorOf(int resultCode) const
     if ((resultCode & 0xFF) == SQLITE_INTERRUPT && m_watch.IsCancelled())
         return m_errors.Error(UserCancelled, StoreTexts::Cancelled);
     const char* message = Handle() ? sqlite3_errmsg(Handle()) : sqlite3_errstr(resultCode);
-    return m_errors.FromSqlite(resultCode, message);
+    return SqliteError(m_errors, resultCode, message);
 }
 
 void SqliteConnection::Raise(int resultCode) const

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "store/StoreOptions.h"
+#include "store/shared/StoreErrors.h"
 #include "store/sqlite/engine/LockPatience.h"
 #include "store/sqlite/engine/StatementWatch.h"
-#include "store/sqlite/engine/StoreErrors.h"
 
 #include <QByteArray>
 #include <QString>

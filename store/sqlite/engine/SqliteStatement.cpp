@@ -2,11 +2,11 @@
 #include "store/sqlite/engine/SqliteStatement.h"
 
 #include "store/StoreTexts.h"
+#include "store/shared/IntegerValue.h"
 #include "store/sqlite/engine/SqliteConnection.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
-#include <limits>
 #include <sqlite3.h>
 
 namespace Orvane {
@@ -30,16 +30,6 @@ sqlite3_stmt* Prepared(SqliteConnection& connection, const QByteArray& sql)
     return statement;
 }
 
-Value IntegerValue(sqlite3_int64 number, bool isColour)
-{
-    using Limits = std::numeric_limits<qint32>;
-    if (number >= Limits::min() && number <= Limits::max())
-        return qint32(number);
-    if (isColour && number >= 0 && number <= std::numeric_limits<quint32>::max())
-        return qint32(quint32(number));
-    return double(number);
-}
-
 } // namespace
 
 void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const
@@ -50,7 +40,16 @@ void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const
 SqliteStatement::SqliteStatement(SqliteConnection& connection, const QString& sql)
     : m_connection(connection), m_statement(Prepared(connection, sql.toUtf8()))
 {
-    m_columns.Read(m_statement.get());
+    ReadColumns();
+}
+
+void SqliteStatement::ReadColumns()
+{
+    m_columns.Clear();
+    for (int i = 0; i < ColumnCount(); ++i) {
+        const char* name = sqlite3_column_name(m_statement.get(), i);
+        m_columns.Add(name ? name : "");
+    }
 }
 
 bool SqliteStatement::IsReadOnly() const
@@ -153,7 +152,7 @@ int SqliteStatement::FindColumn(std::string_view name)
 {
     // If a host adds a column, "*" stands for more columns.
     if (sqlite3_column_count(m_statement.get()) != m_columns.Count())
-        m_columns.Read(m_statement.get());
+        ReadColumns();
     return m_columns.Find(name);
 }
 
@@ -179,6 +178,20 @@ Value SqliteStatement::Column(int position) const
         return QString::fromUtf8(text, sqlite3_column_bytes(statement, position));
     }
     }
+}
+
+Value SqliteStatement::ExactColumn(int position) const
+{
+    if (sqlite3_column_type(m_statement.get(), position) == SQLITE_BLOB)
+        return {};
+    Value value = Column(position);
+    const auto* text = value.Get<QString>();
+    // What is not UTF-8 is read as this character.
+    if (!text || !text->contains(QChar(QChar::ReplacementCharacter)))
+        return value;
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(m_statement.get(), position));
+    const int size = sqlite3_column_bytes(m_statement.get(), position);
+    return text->toUtf8() == QByteArray::fromRawData(bytes, size) ? value : Value();
 }
 
 } // namespace Orvane

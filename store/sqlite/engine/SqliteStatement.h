@@ -2,7 +2,7 @@
 #pragma once
 
 #include "store/ChangeCoding.h"
-#include "store/sqlite/engine/ColumnMap.h"
+#include "store/shared/ColumnMap.h"
 
 #include <OrvaneShellLib/Value.h>
 
@@ -56,11 +56,15 @@ public:
     /// The value in the current row: 32-bit integers as integers, larger ones as double, an unsigned 32-bit
     /// colour as the signed integer with the same bits, blobs as text.
     Value Column(int position) const;
+    /// As Column, but Empty for what no value can hold as it is stored: a blob, or a text that is not UTF-8.
+    Value ExactColumn(int position) const;
 
 private:
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const;
     };
+
+    void ReadColumns();
 
     SqliteConnection& m_connection;
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;

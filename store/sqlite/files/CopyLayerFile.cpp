@@ -16,8 +16,6 @@ void CopyLayerFile(const QString& from, const QString& to)
     LayerSchema::CheckVersion(connection);
     RequirePlainTables(connection);
     LayerSchema::Check(connection);
-    // SQLite treats a copy as a write, although it does not change this file.
-    connection.Run("PRAGMA query_only = OFF");
     NewLayerFile copy(to, IfExists::Refuse, {});
     copy.CopyFrom(connection);
     copy.PutInPlace();

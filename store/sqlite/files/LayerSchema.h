@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <OrvaneShellLib/LayerColumns.h>
+#include "store/shared/LayerVersions.h"
 
 #include <QtGlobal>
-
-#include <algorithm>
 
 namespace Orvane {
 
@@ -16,9 +14,8 @@ namespace LayerSchema {
 
 /// Marks a file as a layer database: "ORVN", in the header's application ID.
 inline constexpr quint32 ApplicationID = 0x4F52564E;
-/// Version 1 has the three tables and the two indexes used to look up rows; version 2 adds the indexes that
-/// make lists and groups fast. The columns of layers and their versions are in LayerColumns.
-inline constexpr qint32 CurrentVersion = std::max(2, NewestLayerColumn());
+/// The version of new files. Version 1 has besides the tables the two indexes used to look up rows.
+inline constexpr qint32 CurrentVersion = NewestLayerVersion;
 
 /// Marks an empty database as a layer database and creates its tables.
 void Create(SqliteConnection& connection);

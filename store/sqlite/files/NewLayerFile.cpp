@@ -4,6 +4,7 @@
 #include "files/DiskSync.h"
 #include "files/FileReplacement.h"
 #include "store/StoreTexts.h"
+#include "store/sqlite/engine/SqliteErrors.h"
 #include "store/sqlite/engine/SqliteStatement.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerFileUse.h"
@@ -44,6 +45,30 @@ void MakeEmptyFile(const QString& path, const StoreErrors& errors)
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         throw errors.Failure(StoreTexts::CannotCreate, WhyNotWritten(path, file.errorString()));
 }
+
+/// SQLite treats a copy as a write, although it does not change the original: lets a connection copy that
+/// refuses writes, as long as it exists.
+class CopyPermit
+{
+public:
+    explicit CopyPermit(SqliteConnection& original)
+        : m_original(original), m_refuses(original.Number("PRAGMA query_only") == 1)
+    {
+        if (m_refuses)
+            m_original.Run("PRAGMA query_only = OFF");
+    }
+    ~CopyPermit()
+    {
+        if (m_refuses)
+            sqlite3_exec(m_original.Handle(), "PRAGMA query_only = ON", nullptr, nullptr, nullptr);
+    }
+    CopyPermit(const CopyPermit&) = delete;
+    CopyPermit& operator=(const CopyPermit&) = delete;
+
+private:
+    SqliteConnection& m_original;
+    bool m_refuses;
+};
 
 // Closing a connection writes the log too, but does not say whether it could.
 void WriteLogIntoFile(SqliteConnection& connection)
@@ -100,6 +125,7 @@ NewLayerFile::NewLayerFile(const QString& place, IfExists ifExists, const StoreO
 
 void NewLayerFile::CopyFrom(SqliteConnection& original) const
 {
+    const CopyPermit permit(original);
     SqliteStatement copy(original, QStringLiteral("VACUUM INTO ?1"));
     copy.BindAll({m_path});
     int result = SQLITE_ROW;
@@ -108,7 +134,7 @@ void NewLayerFile::CopyFrom(SqliteConnection& original) const
     if (result == SQLITE_DONE)
         return;
     const StoreErrors& errors = IsAboutOriginal(result) ? original.Errors() : m_errors;
-    throw errors.FromSqlite(result, sqlite3_errmsg(original.Handle()));
+    throw SqliteError(errors, result, sqlite3_errmsg(original.Handle()));
 }
 
 void NewLayerFile::PutInPlace()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "store/StoreOptions.h"
-#include "store/sqlite/engine/StoreErrors.h"
+#include "store/shared/StoreErrors.h"
 #include "store/sqlite/files/LayerFileJournals.h"
 
 #include <QString>

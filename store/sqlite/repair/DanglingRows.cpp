@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/repair/DanglingRows.h"
 
+#include "store/shared/SqlName.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
@@ -20,16 +21,11 @@ constexpr auto DeclaredReferences
       " WHERE m.type = 'table' AND p.type = 'table' AND p.name = f.\"table\" COLLATE NOCASE"
       " AND NOT EXISTS (SELECT 1 FROM pragma_foreign_key_list(m.name) AS g WHERE g.id = f.id AND g.seq > 0)";
 
-QString Quoted(QString name)
-{
-    return QLatin1Char('"') + name.replace(QLatin1Char('"'), QLatin1String("\"\"")) + QLatin1Char('"');
-}
-
 // The part FROM ... WHERE ... of a statement that selects the dangling rows.
 QString DanglingIn(const DanglingRows& rows)
 {
     return QStringLiteral(" FROM %1 WHERE %2 IS NOT NULL AND %2 NOT IN (SELECT %4 FROM %3)")
-        .arg(Quoted(rows.table), Quoted(rows.column), Quoted(rows.parent), Quoted(rows.parentColumn));
+        .arg(SqlName(rows.table), SqlName(rows.column), SqlName(rows.parent), SqlName(rows.parentColumn));
 }
 
 std::vector<DanglingRows>

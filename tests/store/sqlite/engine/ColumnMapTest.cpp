@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/engine/ColumnMap.h"
+#include "store/shared/ColumnMap.h"
 
 #include "store/sqlite/engine/SqliteConnection.h"
 #include "store/sqlite/engine/SqliteStatement.h"

@@ -5,19 +5,19 @@
 #include <string_view>
 #include <vector>
 
-struct sqlite3_stmt;
-
 namespace Orvane {
 
-/// Finds the columns of a statement's rows by name; names are compared case-insensitively.
+/// Finds the columns of rows by name; names are compared case-insensitively.
 ///
 /// Rows are read in loops that use the same columns in the same order. Each name that was looked up stores
 /// the name that was looked up after it, so nearly every look-up is one short comparison.
 class ColumnMap
 {
 public:
-    /// Reads the columns of a prepared statement.
-    void Read(sqlite3_stmt* statement);
+    /// Forgets all columns.
+    void Clear();
+    /// Adds a column behind the others.
+    void Add(std::string_view name);
 
     int Count() const { return int(m_columns.size()); }
     /// The column's position, from 0; -1 if there is none. If two columns have the same name, the first one

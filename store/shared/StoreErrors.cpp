@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/engine/StoreErrors.h"
-
-#include "store/StoreTexts.h"
+#include "store/shared/StoreErrors.h"
 
 #include <QCoreApplication>
 #include <QDir>
-
-#include <sqlite3.h>
 
 namespace Orvane {
 
@@ -31,7 +27,7 @@ QString Filled(const QString& text, const QString& name, const QString& detail)
 } // namespace
 
 StoreErrors::StoreErrors(const QString& path)
-    : m_name(path.isEmpty() ? QStringLiteral(":memory:") : QDir::toNativeSeparators(path))
+    : StoreErrors(Named{path.isEmpty() ? QStringLiteral(":memory:") : QDir::toNativeSeparators(path)})
 {
 }
 
@@ -44,28 +40,6 @@ RunTimeError StoreErrors::Error(ErrorNumber number, const char* english, const Q
 RunTimeError StoreErrors::Failure(const char* english, const QString& detail) const
 {
     return Error(ErrorNumber::DatabaseFailure, english, detail);
-}
-
-RunTimeError StoreErrors::FromSqlite(int resultCode, const char* message) const
-{
-    switch (resultCode & 0xFF) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return Error(ErrorNumber::DatabaseLocked, StoreTexts::Locked);
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return Error(ErrorNumber::NotALayerDatabase, StoreTexts::Damaged);
-    case SQLITE_READONLY:
-        return Error(ErrorNumber::DatabaseReadOnly, StoreTexts::ReadOnly);
-    case SQLITE_INTERRUPT: // by TimeBound; the connection knows when the user cancelled
-        return Failure(StoreTexts::TooLong);
-    case SQLITE_FULL:
-        return Failure(StoreTexts::DiskFull);
-    case SQLITE_CANTOPEN:
-        return Failure(StoreTexts::CannotOpen, QString::fromUtf8(message));
-    default:
-        return Failure(StoreTexts::Refused, QString::fromUtf8(message));
-    }
 }
 
 } // namespace Orvane

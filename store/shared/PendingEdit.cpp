@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/PendingEdit.h"
+#include "store/shared/PendingEdit.h"
 
 namespace Orvane {
 

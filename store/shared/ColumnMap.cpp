@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/engine/ColumnMap.h"
+#include "store/shared/ColumnMap.h"
 
 #include <algorithm>
-#include <sqlite3.h>
 
 namespace Orvane {
 
 namespace {
 
 constexpr size_t MaxSpellings = 256;
+
+char InLowerCase(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
+}
 
 bool NamesAColour(std::string_view name)
 {
@@ -19,18 +23,20 @@ bool NamesAColour(std::string_view name)
 
 bool SameName(std::string_view left, std::string_view right)
 {
-    return left.size() == right.size() && sqlite3_strnicmp(left.data(), right.data(), int(left.size())) == 0;
+    const auto isSame = [](char one, char other) { return InLowerCase(one) == InLowerCase(other); };
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), isSame);
 }
 
-void ColumnMap::Read(sqlite3_stmt* statement)
+void ColumnMap::Clear()
 {
     m_columns.clear();
     m_spellings.clear();
     m_last = 0;
-    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
-        const char* name = sqlite3_column_name(statement, i);
-        m_columns.push_back({name ? name : "", name && NamesAColour(name)});
-    }
+}
+
+void ColumnMap::Add(std::string_view name)
+{
+    m_columns.push_back({std::string(name), NamesAColour(name)});
 }
 
 int ColumnMap::Find(std::string_view name)
