@@ -8,17 +8,12 @@
 
 namespace Orvane::Testing {
 
-HostKitTest::HostKitTest() : m_database(SqliteLayerDatabase::CreateInMemory())
-{
-}
-
 void HostKitTest::AddLayer(qint32 layerID, const QString& name, const Value& code)
 {
     AddLayer(*m_database, layerID, name, code);
 }
 
-void HostKitTest::AddLayer(
-    SqliteLayerDatabase& database, qint32 layerID, const QString& name, const Value& code)
+void HostKitTest::AddLayer(ILayerStore& database, qint32 layerID, const QString& name, const Value& code)
 {
     database.Execute(
         QStringLiteral("INSERT INTO Layers (LayerID, Name, Code) VALUES (?1, ?2, ?3)"),
@@ -45,7 +40,7 @@ Value HostKitTest::Get(qint32 layerID, const char* column)
     return Get(*m_database, layerID, column);
 }
 
-Value HostKitTest::Get(SqliteLayerDatabase& database, qint32 layerID, const char* column)
+Value HostKitTest::Get(ILayerStore& database, qint32 layerID, const char* column)
 {
     const auto layer
         = database.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});

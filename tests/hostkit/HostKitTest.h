@@ -2,7 +2,9 @@
 #pragma once
 
 #include "hosts/ValueMatchers.h"
-#include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
+#include "store/any/StoreDifferences.h"
+#include "store/any/StoreMaker.h"
 #include "support/Errors.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -18,28 +20,32 @@ class QWidget;
 
 namespace Orvane::Testing {
 
-/// Scenarios on a layer database in memory.
+/// Scenarios on a layer database. Each program that contains them has another kind of store.
 class HostKitTest : public testing::Test
 {
 protected:
-    HostKitTest();
+    void SetUp() override { SkipDifferences(); }
 
-    SqliteLayerDatabase& Database() { return *m_database; }
+    ILayerStore& Database() { return *m_database; }
+    /// Makes other maps.
+    StoreMaker& Maker() { return m_maker; }
+    /// The place of one other map.
+    QString OtherMap() const { return m_maker.PlaceOf(QStringLiteral("map.ovl")); }
 
     void AddLayer(qint32 layerID, const QString& name, const Value& code = Value::Null());
-    static void
-    AddLayer(SqliteLayerDatabase& database, qint32 layerID, const QString& name, const Value& code);
+    static void AddLayer(ILayerStore& database, qint32 layerID, const QString& name, const Value& code);
     void AddLayers(int count);
     void Set(qint32 layerID, const char* column, const Value& value);
     Value Get(qint32 layerID, const char* column);
-    static Value Get(SqliteLayerDatabase& database, qint32 layerID, const char* column);
+    static Value Get(ILayerStore& database, qint32 layerID, const char* column);
     /// The number of rows that the query returns.
     int Rows(const QString& query);
     /// The texts of the statements that the act runs.
     QStringList StatementsOf(const std::function<void()>& act);
 
 private:
-    std::unique_ptr<SqliteLayerDatabase> m_database;
+    StoreMaker m_maker;
+    std::unique_ptr<ILayerStore> m_database = m_maker.CreateNameless();
 };
 
 /// Calls act, the user's operation, with the next modal window as soon as its event loop runs. The operation

@@ -6,6 +6,8 @@
 #include "hostkit/common/LayerNames.h"
 #include "hostkit/schemes/LayerSchemes.h"
 
+#include <utility>
+
 namespace Orvane::Testing {
 namespace {
 
@@ -131,8 +133,7 @@ TEST_F(Factory, TellsWhatGoesWithSeveralLayersEachGroupOnce)
 TEST_F(Factory, DeletingSeveralIsOneTransaction)
 {
     AddLayers(2);
-    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
-                                      " WHEN old.LayerID = 2 BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Delete, QStringLiteral("Layers"), 2);
     const std::vector<qint32> both{1, 2};
     EXPECT_EQ(ErrorOf([&] { m_factory.Delete(both); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM Layers")), 2);
@@ -152,8 +153,7 @@ TEST_F(Factory, DeletingIsOneTransaction)
     AddLayers(1);
     Database().Execute(QStringLiteral("INSERT INTO LayerGroups (ID, Name) VALUES (5, 'Group')"));
     Database().Execute(QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID) VALUES (5, 1)"));
-    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
-                                      " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Delete, QStringLiteral("Layers"), 1);
     EXPECT_EQ(ErrorOf([&] { m_factory.Delete(1); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_EQ(Rows(QStringLiteral("SELECT LayerID FROM LayerGroupMembers")), 1);
     EXPECT_EQ(m_names.Name(1), QStringLiteral("Layer 1"));

@@ -138,7 +138,7 @@ TEST_F(LayerListTest, AnExpandedNodeIsNoChangeOfGroups)
 {
     QSignalSpy told(&m_list, &LayerList::GroupsChanged);
     m_client.RecordStep([this] {
-        Database().Execute(QStringLiteral("UPDATE LayerGroups SET Expanded = 1"));
+        Database().Execute(QStringLiteral("UPDATE LayerGroups SET Expanded = TRUE"));
         return QStringLiteral("Expand");
     });
     History().Undo();

@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace Orvane::Testing {
@@ -238,7 +237,7 @@ TEST_F(Client, SavesSchemesToTheStartupDatabaseAndTakesThemFromThere)
     const QSignalSpy saved(&Signals(), &HostNotifications::SchemesSavedToStartup);
     Host().SaveSchemesToStartup();
     EXPECT_EQ(saved.count(), 1);
-    const auto map = SqliteLayerDatabase::CreateInMemory();
+    const auto map = Maker().CreateNameless();
     StandardClient other(*map, m_services);
     other.SetStartupFile(PathOf("startup.ovl"));
     other.LoadSchemesFromStartup();

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/MemoryStore.h"
 
-#include "store/sqlite/SqliteLayerDatabase.h"
+#include "hosts/LooseStore.h"
+#include "store/ILayerStore.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
 namespace Orvane::Testing {
 
-MemoryStore::MemoryStore() : m_database(SqliteLayerDatabase::CreateInMemory())
+MemoryStore::MemoryStore() : m_database(NewLooseStore())
 {
-    m_database->Execute(QStringLiteral("PRAGMA foreign_keys = OFF"));
 }
 
 MemoryStore::~MemoryStore() = default;

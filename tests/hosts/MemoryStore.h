@@ -11,13 +11,13 @@
 #include <vector>
 
 namespace Orvane {
-class SqliteLayerDatabase;
+class ILayerStore;
 }
 
 namespace Orvane::Testing {
 
-/// A layer database without a file, with the few operations that set up a test. Rows may refer to rows that
-/// do not exist.
+/// A layer database that ends with the test, with the few operations that set up a test. Rows may refer to
+/// rows that do not exist.
 class MemoryStore
 {
 public:
@@ -48,7 +48,7 @@ private:
     SetColumn(const QString& table, const QString& key, qint32 id, const char* column, const Value& value);
     Value FirstValue(const QString& sql, const std::vector<Value>& values, const char* column);
 
-    std::unique_ptr<SqliteLayerDatabase> m_database;
+    std::unique_ptr<ILayerStore> m_database;
 };
 
 } // namespace Orvane::Testing

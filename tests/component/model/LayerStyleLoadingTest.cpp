@@ -6,6 +6,7 @@
 #include "hosts/MemoryHost.h"
 #include "hosts/PatchingClient.h"
 #include "hosts/ValueMatchers.h"
+#include "store/any/StoreDifferences.h"
 #include "support/Errors.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +24,8 @@ constexpr qint32 redNotForSymbols = qint32(0xFF0000FFU);
 class Loading : public testing::Test
 {
 protected:
+    void SetUp() override { SkipDifferences(); }
+
     LayerStyle Loaded(qint32 layerID)
     {
         LayerStyle style;

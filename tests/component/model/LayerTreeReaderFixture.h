@@ -3,6 +3,7 @@
 
 #include "component/model/LayerTreeReader.h"
 #include "hosts/MemoryHost.h"
+#include "store/any/StoreDifferences.h"
 
 #include <OrvaneShellLib/IStyleFilter.h>
 
@@ -16,6 +17,8 @@ inline const TreeTexts texts{QStringLiteral("not found"), QStringLiteral("no nam
 class ReadingOfTrees : public testing::Test
 {
 protected:
+    void SetUp() override { SkipDifferences(); }
+
     std::vector<GroupEntry> Tree(const std::optional<QString>& groupFilter = std::nullopt)
     {
         return LoadLayerTree(host, groupFilter, texts).groups;

@@ -5,6 +5,7 @@
 #include "hosts/FailingClient.h"
 #include "hosts/MemoryHost.h"
 #include "hosts/ValueMatchers.h"
+#include "store/any/StoreDifferences.h"
 #include "support/Errors.h"
 
 #include <gtest/gtest.h>
@@ -138,6 +139,8 @@ namespace {
 class LayersRead : public testing::Test
 {
 protected:
+    void SetUp() override { SkipDifferences(); }
+
     LayersRead()
     {
         for (qint32 layerID = 1; layerID <= 4; ++layerID)

@@ -57,7 +57,7 @@ TEST_F(Names, OfAFewLayersAreReadAgain)
     Set(1, "Name", QStringLiteral("Roads"));
     Database().Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 2"));
     const QStringList statements = StatementsOf([&] { m_names.ReadAgain({1, 2}); });
-    EXPECT_EQ(statements.size(), 2);
+    EXPECT_EQ(statements.size(), 1);
     EXPECT_EQ(m_names.All(), (QSet<QString>{QStringLiteral("Roads"), QStringLiteral("Layer 3")}));
 }
 

@@ -2,6 +2,7 @@
 #include "hostkit/common/MapNotes.h"
 
 #include "hostkit/HostKitTest.h"
+#include "store/opening/LayerStores.h"
 
 #include <QTemporaryDir>
 
@@ -58,7 +59,7 @@ TEST_F(MapNotesTest, GoWithACopyOfTheMapAndAreReadFromOneThatCannotBeChanged)
     const QString path = folder.filePath(QStringLiteral("copy.ovl"));
     MapNotes::Write(Database(), Key, QStringLiteral("text"));
     Database().CopyToFile(path);
-    const auto copy = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const auto copy = LayerStores::Open(path, OpenMode::ReadOnly);
     EXPECT_EQ(MapNotes::Read(*copy, Key), QStringLiteral("text"));
 }
 

@@ -29,7 +29,7 @@ TEST_F(LayerGroupsTest, ANewGroupIsTheLastAndHasItsLayersInTheirOrder)
     EXPECT_EQ(Create("Water", {2}), 2);
     EXPECT_THAT(Order(), ElementsAre(1, 2));
     EXPECT_THAT(LayersOf(1), ElementsAre(3, 1));
-    EXPECT_EQ(Rows(QStringLiteral("SELECT ID FROM LayerGroups WHERE Name = 'Ways' AND Pseudo = 0")), 1);
+    EXPECT_EQ(Rows(QStringLiteral("SELECT ID FROM LayerGroups WHERE Name = 'Ways' AND Pseudo = FALSE")), 1);
 }
 
 TEST_F(LayerGroupsTest, AGroupIsRenamed)

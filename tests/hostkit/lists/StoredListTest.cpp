@@ -92,7 +92,7 @@ TEST_F(StoredListTest, GroupsAreAddedRemovedAndReordered)
 TEST_F(StoredListTest, AnExpandedGroupStaysAsTheUserLeftIt)
 {
     Update();
-    Database().Execute(QStringLiteral("UPDATE LayerGroups SET Expanded = 0"));
+    Database().Execute(QStringLiteral("UPDATE LayerGroups SET Expanded = FALSE"));
     groups[1].name = QStringLiteral("Everything");
     EXPECT_TRUE(Update());
     EXPECT_FALSE(StoredList::Groups(Database())[1].expanded);

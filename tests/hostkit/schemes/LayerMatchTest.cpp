@@ -21,7 +21,7 @@ protected:
     }
     Matches Found() { return MatchLayers(Database(), *m_here); }
 
-    std::unique_ptr<SqliteLayerDatabase> m_here = SqliteLayerDatabase::CreateInMemory();
+    std::unique_ptr<ILayerStore> m_here = Maker().CreateNameless();
 };
 
 TEST_F(Matching, GoesByCodeBeforeName)

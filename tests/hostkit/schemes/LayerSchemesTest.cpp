@@ -4,8 +4,6 @@
 #include "hostkit/HostKitTest.h"
 #include "hostkit/common/HostErrors.h"
 
-#include <QTemporaryDir>
-
 namespace Orvane::Testing {
 namespace {
 
@@ -150,16 +148,15 @@ TEST_F(Schemes, ANewSchemeIsCurrent)
 
 TEST_F(Schemes, TheLoadedSchemeIsCurrentAndStaysSoInTheFile)
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    const QString path = OtherMap();
     {
-        const auto database = SqliteLayerDatabase::Create(path);
+        const auto database = Maker().Create(path);
         LayerSchemes schemes(*database);
         schemes.Create(Night);
         schemes.Load(Standard);
         schemes.Load(Night);
     }
-    const auto database = SqliteLayerDatabase::Open(path);
+    const auto database = Maker().Open(path);
     EXPECT_EQ(LayerSchemes(*database).Current(), Night);
 }
 
@@ -269,9 +266,7 @@ TEST_F(Schemes, ALoadThatFailsChangesNothing)
     m_schemes.Names();
     m_schemes.Create(Night);
     Database().Execute(QStringLiteral("UPDATE Layers SET Color = 5"));
-    Database().Execute(
-        QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE UPDATE ON Layers WHEN OLD.LayerID = 2"
-                       " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Update, QStringLiteral("Layers"), 2);
     EXPECT_EQ(ErrorOf([&] { m_schemes.Load(Standard); }), int(ErrorNumber::DatabaseFailure));
     EXPECT_THAT(Hue(1), IsNumber(5));
     EXPECT_EQ(m_schemes.Current(), Night);
@@ -283,8 +278,7 @@ TEST_F(Schemes, ASaveThatFailsKeepsTheSavedValues)
     SetHue(1, 10);
     m_schemes.Names();
     SetHue(1, 20);
-    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
-                                      " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Insert, QStringLiteral("LayerSchemeValues"), 1);
     EXPECT_EQ(ErrorOf([&] { m_schemes.Save(Standard); }), int(ErrorNumber::DatabaseFailure));
     m_schemes.Load(Standard);
     EXPECT_THAT(Hue(1), IsNumber(10));
@@ -329,17 +323,16 @@ TEST_F(Schemes, AMereLookMakesNone)
     AddLayers(1);
     EXPECT_EQ(m_schemes.CurrentName(), Standard);
     EXPECT_TRUE(m_schemes.LayersThatDiffer().isEmpty());
-    EXPECT_EQ(Rows(QStringLiteral("SELECT name FROM sqlite_master WHERE name = 'LayerSchemes'")), 0);
+    EXPECT_FALSE(Database().HasTable(QStringLiteral("LayerSchemes")));
     m_schemes.Create(Night);
     EXPECT_EQ(m_schemes.CurrentName(), Night);
 }
 
 TEST_F(Schemes, AReadOnlyMapShowsTheStandardSchemeAndCannotSave)
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
-    SqliteLayerDatabase::Create(path);
-    const auto database = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const QString path = OtherMap();
+    Maker().Create(path);
+    const auto database = Maker().Open(path, OpenMode::ReadOnly);
     LayerSchemes schemes(*database);
     EXPECT_THAT(schemes.Names(), ElementsAre(Standard));
     EXPECT_EQ(schemes.Current(), Standard);

@@ -6,8 +6,6 @@
 #include "hostkit/schemes/LayerSchemes.h"
 #include "hostkit/schemes/SchemeColumns.h"
 
-#include <QTemporaryDir>
-
 namespace Orvane::Testing {
 namespace {
 
@@ -97,10 +95,9 @@ TEST_F(Comparison, TellsOfLayersThatOneSideDoesNotHave)
 
 TEST_F(Comparison, OfAReadOnlyMapWithoutSchemesFindsNothing)
 {
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
-    SqliteLayerDatabase::Create(path);
-    const auto database = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const QString path = OtherMap();
+    Maker().Create(path);
+    const auto database = Maker().Open(path, OpenMode::ReadOnly);
     const QString standard = LayerSchemes(*database).Current();
     EXPECT_TRUE(SchemeComparison::Compare(*database, std::nullopt, standard).empty());
     EXPECT_EQ(LayerSchemes(*database).CountThatDiffer(standard), 0);

@@ -19,21 +19,28 @@ const QString Rivers = QStringLiteral("Rivers");
 class Exchange : public HostKitTest
 {
 protected:
-    // Roads (code 7) and Rivers (no code), each column of each with its own value at night.
+    // What Roads has at night in the column of that number.
+    static qint32 NightValue(int column)
+    {
+        const bool isFlag = SchemeColumns::All.at(std::size_t(column)).kind == ColumnKind::Flag;
+        return isFlag ? (column + 1) % 2 : column + 1;
+    }
+
+    // Roads (code 7) and Rivers (no code), each column of each with a value for the night.
     SchemeDocument ExportNight()
     {
         AddLayer(1, Roads, 7);
         AddLayer(2, Rivers);
         m_schemes.Names();
         for (int column = 0; column < int(SchemeColumns::Count); ++column) {
-            Set(1, SchemeColumns::All.at(std::size_t(column)).name, qint32(column + 1));
+            Set(1, SchemeColumns::All.at(std::size_t(column)).name, NightValue(column));
             Set(2, SchemeColumns::All.at(std::size_t(column)).name, Value::Null());
         }
         m_schemes.Create(Night);
         return SchemeExchange::Export(Database(), Night);
     }
 
-    static std::unique_ptr<SqliteLayerDatabase> Map() { return SqliteLayerDatabase::CreateInMemory(); }
+    std::unique_ptr<ILayerStore> Map() { return Maker().CreateNameless(); }
 
     LayerSchemes m_schemes{Database()};
 };
@@ -47,7 +54,8 @@ TEST_F(Exchange, EveryEditedColumnArrivesInAnotherMap)
     EXPECT_EQ(SchemeExchange::Import(*map, night).matched, 2);
     LayerSchemes(*map).Load(Night);
     for (int column = 0; column < int(SchemeColumns::Count); ++column) {
-        EXPECT_THAT(Get(*map, 40, SchemeColumns::All.at(std::size_t(column)).name), IsNumber(column + 1))
+        EXPECT_THAT(
+            Get(*map, 40, SchemeColumns::All.at(std::size_t(column)).name), IsNumber(NightValue(column)))
             << SchemeColumns::All.at(std::size_t(column)).name;
         EXPECT_THAT(Get(*map, 41, SchemeColumns::All.at(std::size_t(column)).name), IsNullValue())
             << SchemeColumns::All.at(std::size_t(column)).name;
@@ -149,8 +157,7 @@ TEST_F(Exchange, AnImportReplacesASchemeOfItsName)
 TEST_F(Exchange, AnImportThatFailsChangesNothing)
 {
     const SchemeDocument night = ExportNight();
-    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE INSERT ON LayerSchemeValues"
-                                      " WHEN NEW.LayerID = 2 BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Insert, QStringLiteral("LayerSchemeValues"), 2);
     EXPECT_EQ(ErrorOf([&] { SchemeExchange::Import(Database(), night); }), int(ErrorNumber::DatabaseFailure));
     Set(1, "Priority", 99);
     m_schemes.Load(Night);

@@ -83,8 +83,8 @@ TEST_F(PartialSchemes, SaveOnlyWhatTheyHold)
 {
     m_schemes.Save(Locks);
     EXPECT_EQ(
-        Rows(QStringLiteral("SELECT LayerID FROM LayerSchemeValues, LayerSchemes USING (SchemeID)"
-                            " WHERE Name = 'Locks' AND Color IS NULL AND locked = 0")),
+        Rows(QStringLiteral("SELECT LayerID FROM LayerSchemeValues JOIN LayerSchemes USING (SchemeID)"
+                            " WHERE Name = 'Locks' AND Color IS NULL AND locked = FALSE")),
         2);
     Set(1, "locked", true);
     m_schemes.Load(Locks);
@@ -172,7 +172,7 @@ TEST_F(PartialSchemes, ArriveInAnotherMapAsAFile)
 {
     const SchemeDocument locks = SchemeDocument::FromJson(SchemeExchange::Export(Database(), Locks).ToJson());
     EXPECT_EQ(locks.holds, SchemeParts(SchemePart::Flags));
-    const auto map = SqliteLayerDatabase::CreateInMemory();
+    const auto map = Maker().CreateNameless();
     AddLayer(*map, 40, QStringLiteral("Roads"), 1);
     map->Execute(QStringLiteral("UPDATE Layers SET Color = 3"));
     SchemeExchange::Import(*map, locks);
@@ -223,7 +223,7 @@ TEST_F(PartialSchemes, GoIntoNewMapsWithOrderAndDate)
     m_schemes.SetOrder({Standard, Locks});
     m_schemes.SetAtOpening(Locks);
     StartupSchemes::Save(Database(), file);
-    const auto map = SqliteLayerDatabase::CreateInMemory();
+    const auto map = Maker().CreateNameless();
     AddLayer(*map, 40, QStringLiteral("Roads"), 1);
     StartupSchemes::Load(*map, file);
     LayerSchemes schemes(*map);
@@ -287,18 +287,17 @@ TEST_F(PartialSchemes, TablesOfAnEarlierVersionGetTheColumns)
     EXPECT_EQ(m_schemes.AtOpening(), Locks);
 }
 
-TEST(PartialSchemesTest, TablesOfAnEarlierVersionInAFileThatCannotBeWrittenAreRead)
+TEST_F(PartialSchemes, TablesOfAnEarlierVersionInAFileThatCannotBeWrittenAreRead)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    const QString path = OtherMap();
     {
-        const auto database = SqliteLayerDatabase::Create(path);
+        const auto database = Maker().Create(path);
         LayerSchemes(*database).Create(Look);
         for (const char* column : {"Holds", "SavedAt", "Place", "AtOpening"})
             database->Execute(
                 QStringLiteral("ALTER TABLE LayerSchemes DROP COLUMN %1").arg(QLatin1String(column)));
     }
-    const auto database = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const auto database = Maker().Open(path, OpenMode::ReadOnly);
     LayerSchemes schemes(*database);
     EXPECT_EQ(schemes.All()[0].holds, WholeScheme);
     EXPECT_EQ(schemes.CountThatDiffer(Look), 0);

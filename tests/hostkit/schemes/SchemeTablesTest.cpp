@@ -6,8 +6,6 @@
 #include "hostkit/common/HostTables.h"
 #include "hostkit/schemes/LayerSchemes.h"
 
-#include <QTemporaryDir>
-
 namespace Orvane::Testing {
 namespace {
 
@@ -76,31 +74,34 @@ TEST_F(OlderSchemes, OfANewerProgramAreRefusedByName)
     EXPECT_TRUE(DescriptionOf([&] { tables.HaveSchemes(); }).contains(QStringLiteral("layer schemes")));
 }
 
-TEST(SchemeTablesTest, OlderOnesInAFileThatCannotBeWrittenCountAsMissing)
+/// Tables of schemes in a map that cannot be changed.
+class TablesOfAReadOnlyMap : public HostKitTest
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+};
+
+TEST_F(TablesOfAReadOnlyMap, CountAsMissingIfTheyAreOlder)
+{
+    const QString path = OtherMap();
     {
-        const auto database = SqliteLayerDatabase::Create(path);
+        const auto database = Maker().Create(path);
         LayerSchemes(*database).Create(Night);
         database->Execute(QStringLiteral("ALTER TABLE LayerSchemeValues DROP COLUMN Priority"));
         database->Execute(QStringLiteral("DROP TABLE HostTables"));
     }
-    const auto database = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const auto database = Maker().Open(path, OpenMode::ReadOnly);
     EXPECT_FALSE(SchemeTables(*database).HaveSchemes());
     EXPECT_EQ(LayerSchemes(*database).Names(), QStringList{Standard});
 }
 
-TEST(SchemeTablesTest, ThoseOfTheFirstVersionInAFileThatCannotBeWrittenCanBeRead)
+TEST_F(TablesOfAReadOnlyMap, CanBeReadIfTheyAreOfTheFirstVersion)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+    const QString path = OtherMap();
     {
-        const auto database = SqliteLayerDatabase::Create(path);
+        const auto database = Maker().Create(path);
         LayerSchemes(*database).Create(Night);
         database->Execute(QStringLiteral("DROP TABLE HostTables"));
     }
-    const auto database = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const auto database = Maker().Open(path, OpenMode::ReadOnly);
     EXPECT_EQ(LayerSchemes(*database).Current(), Night);
 }
 

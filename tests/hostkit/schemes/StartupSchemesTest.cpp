@@ -3,6 +3,7 @@
 
 #include "hostkit/HostKitTest.h"
 #include "hostkit/schemes/LayerSchemes.h"
+#include "store/opening/LayerStores.h"
 #include "support/FileSizeLimit.h"
 
 #include <QDir>
@@ -21,9 +22,9 @@ class Startup : public HostKitTest
 {
 protected:
     QString File() const { return m_folder.filePath(QStringLiteral("startup.ovl")); }
-    std::unique_ptr<SqliteLayerDatabase> OpenStartup() const { return SqliteLayerDatabase::Open(File()); }
+    std::unique_ptr<ILayerStore> OpenStartup() const { return LayerStores::Open(File()); }
 
-    static void Hue(SqliteLayerDatabase& database, qint32 layerID, qint32 colour)
+    static void Hue(ILayerStore& database, qint32 layerID, qint32 colour)
     {
         database.Execute(
             QStringLiteral("UPDATE Layers SET Color = ?2 WHERE LayerID = ?1"), {layerID, colour});
@@ -106,7 +107,7 @@ TEST_F(Startup, ANewMapTakesTheValuesOfTheLayersThatItShares)
 {
     MakeTwoSchemes();
     StartupSchemes::Save(Database(), File());
-    const auto map = SqliteLayerDatabase::CreateInMemory();
+    const auto map = Maker().CreateNameless();
     AddLayer(*map, 40, QStringLiteral("Streets"), 7); // the same by its code
     AddLayer(*map, 41, QStringLiteral("Rivers"), 8);
     Hue(*map, 41, 0x123456);
@@ -155,7 +156,7 @@ TEST_F(Startup, LayersWithTwinsAreCopiedOnceIntoAMapThatHasOne)
     Hue(Database(), 1, 11);
     Hue(Database(), 2, 22);
     StartupSchemes::Save(Database(), File());
-    const auto map = SqliteLayerDatabase::CreateInMemory();
+    const auto map = Maker().CreateNameless();
     AddLayer(*map, 5, QStringLiteral("Roads"), Value::Null());
     StartupSchemes::Load(*map, File());
     LayerSchemes(*map).Load(Standard);

@@ -117,10 +117,11 @@ protected:
     // Every value that steps may change.
     QStringList Everything()
     {
-        return RowsOf(
-                   QStringLiteral("SELECT LayerID || Name || Code || Visible || Color AS Line FROM Layers"))
-            + RowsOf(QStringLiteral("SELECT GroupID || '/' || LayerID AS Line FROM LayerGroupMembers"))
-            + RowsOf(QStringLiteral("SELECT ID || Name AS Line FROM LayerGroups"))
+        return RowsOf(QStringLiteral("SELECT LayerID || Name || Code || Visible || Color AS Line FROM Layers"
+                                     " ORDER BY LayerID"))
+            + RowsOf(QStringLiteral("SELECT GroupID || '/' || LayerID AS Line FROM LayerGroupMembers"
+                                    " ORDER BY GroupID, LayerID"))
+            + RowsOf(QStringLiteral("SELECT ID || Name AS Line FROM LayerGroups ORDER BY ID"))
             + RowsOf(QStringLiteral("SELECT Name || IsCurrent AS Line FROM LayerSchemes ORDER BY Name"))
             + RowsOf(QStringLiteral("SELECT SchemeID || '/' || LayerID || '/' || Color AS Line"
                                     " FROM LayerSchemeValues ORDER BY SchemeID, LayerID"));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/undo/LayerStepsFixture.h"
-#include "store/ChangeRecorder.h"
-#include "store/ILayerStore.h"
+#include "hosts/ForwardingStore.h"
+#include "store/StoreTable.h"
 
 namespace Orvane::Testing {
 
@@ -76,7 +76,11 @@ TEST_F(Steps, DeletingALayerIsOneThatBringsItsPlacesBack)
 
 TEST_F(Steps, WhatAHostDoesToItsOwnTablesIsOne)
 {
-    Database().Execute(QStringLiteral("CREATE TABLE Notes (LayerID INTEGER PRIMARY KEY, Text TEXT)"));
+    Database().PrepareTable(
+        {QStringLiteral("Notes"),
+         {{QStringLiteral("LayerID"), StoreType::Whole, StoreColumn::Nulls::Refused},
+          {QStringLiteral("Text")}},
+         {QStringLiteral("LayerID")}});
     m_client.RecordStep([this] {
         Database().Execute(QStringLiteral("INSERT INTO Notes VALUES (1, 'wet')"));
         Host().RenameLayer(1, QStringLiteral("Streets")); // a part of it
@@ -100,8 +104,7 @@ TEST_F(Steps, WhatChangesNothingIsNone)
 
 TEST_F(Steps, WhatFailsIsNone)
 {
-    Database().Execute(QStringLiteral("CREATE TEMP TRIGGER Refuse BEFORE DELETE ON Layers"
-                                      " BEGIN SELECT RAISE(ABORT, 'kept'); END"));
+    StoreMaker::Refuse(Database(), RowAct::Delete, QStringLiteral("Layers"), 1);
     EXPECT_NE(ErrorOf([&] { Host().DeleteLayer(1); }), 0);
     EXPECT_NE(ErrorOf([&] { Host().LoadScheme(QStringLiteral("nowhere")); }), 0);
     EXPECT_FALSE(History().CanUndo());
@@ -246,25 +249,11 @@ TEST_F(Steps, BringBackADeletedLayerWithAnyName)
 }
 
 /// A store that forgets how it was changed.
-class ForgetfulStore final : public ILayerStore
+class ForgetfulStore final : public ForwardingStore
 {
 public:
-    explicit ForgetfulStore(ILayerStore& store) : m_store(store) { }
+    using ForwardingStore::ForwardingStore;
 
-    qint64 Execute(const QString& sql, const std::vector<Value>& values) override
-    {
-        return m_store.Execute(sql, values);
-    }
-    std::unique_ptr<IRecordset> OpenQuery(const QString& sql, const std::vector<Value>& values) override
-    {
-        return m_store.OpenQuery(sql, values);
-    }
-    void PrepareTable(const StoreTable& table) override { m_store.PrepareTable(table); }
-    bool HasTable(const QString& table) override { return m_store.HasTable(table); }
-    bool HasColumn(const QString& table, const QString& column) override
-    {
-        return m_store.HasColumn(table, column);
-    }
     std::unique_ptr<ChangeRecorder> RecordChanges() override
     {
         class Recorder final : public ChangeRecorder
@@ -274,35 +263,10 @@ public:
                 throw RunTimeError(ErrorNumber::DatabaseFailure, QStringLiteral("no memory"));
             }
         };
-        return isForgetful ? std::make_unique<Recorder>() : m_store.RecordChanges();
-    }
-    std::optional<Changeset> Apply(const Changeset& changes) override { return m_store.Apply(changes); }
-    qint64 ForeignChanges() override { return m_store.ForeignChanges(); }
-    void SetWatcher(StoreWatcher watcher) override { m_store.SetWatcher(std::move(watcher)); }
-    void AskWatcher(double done) override { m_store.AskWatcher(done); }
-    bool IsReadOnly() const override { return m_store.IsReadOnly(); }
-    QString Path() const override { return m_store.Path(); }
-    void CopyToFile(const QString& path, IfExists ifExists, const StoreFiller& change) override
-    {
-        m_store.CopyToFile(path, ifExists, change);
-    }
-    void SetQueryListener(std::function<void(const QString&)> listener) override
-    {
-        m_store.SetQueryListener(std::move(listener));
+        return isForgetful ? std::make_unique<Recorder>() : ForwardingStore::RecordChanges();
     }
 
     bool isForgetful = false;
-
-private:
-    std::unique_ptr<IRecordset> ILayerDatabase_OpenRecordset(const QString& source) override
-    {
-        return m_store.OpenRecordset(source);
-    }
-    void ILayerDatabase_BeginTrans() override { m_store.BeginTrans(); }
-    void ILayerDatabase_CommitTrans() override { m_store.CommitTrans(); }
-    void ILayerDatabase_Rollback() override { m_store.Rollback(); }
-
-    ILayerStore& m_store;
 };
 
 TEST_F(Steps, AStepThatCannotBeRecordedKeepsThoseBeforeItAndIsTold)

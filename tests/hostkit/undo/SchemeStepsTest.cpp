@@ -4,8 +4,6 @@
 #include "hostkit/schemes/SchemeTables.h"
 #include "hostkit/undo/LayerStepsFixture.h"
 
-#include <QTemporaryDir>
-
 namespace Orvane::Testing {
 
 namespace {
@@ -133,18 +131,22 @@ TEST_F(Steps, LayersOfASchemeAreToldEvenIfWhatFollowsFails)
     QObject::disconnect(listener);
 }
 
-TEST(SchemeOfAReadOnlyMap, ForTheOpeningIsNotLoaded)
+/// A map that cannot be changed.
+class SchemeOfAReadOnlyMap : public HostKitTest
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.ovl"));
+};
+
+TEST_F(SchemeOfAReadOnlyMap, ForTheOpeningIsNotLoaded)
+{
+    const QString path = OtherMap();
     {
-        const auto map = SqliteLayerDatabase::Create(path);
+        const auto map = Maker().Create(path);
         map->Execute(QStringLiteral("INSERT INTO Layers (LayerID, Name) VALUES (1, 'Roads')"));
         LayerSchemes schemes(*map);
         schemes.SetAtOpening(schemes.Current());
         map->Execute(QStringLiteral("UPDATE Layers SET Color = 5"));
     }
-    const auto map = SqliteLayerDatabase::Open(path, OpenMode::ReadOnly);
+    const auto map = Maker().Open(path, OpenMode::ReadOnly);
     StandardShellServices services;
     SilentClient client(*map, services);
     EXPECT_EQ(LayerSchemes(*map).AtOpening(), Standard);

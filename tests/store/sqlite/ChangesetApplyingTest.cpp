@@ -2,255 +2,30 @@
 #include "store/ChangeRecorder.h"
 #include "store/sqlite/StoreTest.h"
 
-#include <gmock/gmock.h>
-
 namespace Orvane::Testing {
 
 namespace {
 
-using testing::ElementsAre;
-
-class AppliedChanges : public StoreTest
+/// Changes that were recorded in a file, and are applied to it.
+class ChangesOfFiles : public StoreTest
 {
-protected:
-    AppliedChanges()
-    {
-        for (int id = 1; id <= 3; ++id)
-            AddLayer(*m_database, id, QStringLiteral("Layer %1").arg(id));
-        AddGroup(*m_database, 5, QStringLiteral("Group"), 0);
-        AddMember(*m_database, 5, 1, 0);
-        AddMember(*m_database, 5, 2, 1);
-    }
-
-    void Run(const char* sql) { m_database->Execute(QString::fromUtf8(sql)); }
-
-    Changeset Recorded(std::initializer_list<const char*> statements)
-    {
-        const auto recorder = m_database->RecordChanges();
-        for (const char* sql : statements)
-            Run(sql);
-        return recorder->Changes();
-    }
-
-    // All rows of all tables, as one text.
-    std::string Everything()
-    {
-        RawDatabase other(m_database->Path());
-        return other.Text("SELECT coalesce(group_concat(LayerID || Name || Code || Visible || Color), '')"
-                          " FROM Layers")
-            + '/' + other.Text("SELECT coalesce(group_concat(ID || Name || Expanded), '') FROM LayerGroups")
-            + '/'
-            + other.Text("SELECT coalesce(group_concat(GroupID || '-' || LayerID || '-' || Ordering), '')"
-                         " FROM LayerGroupMembers");
-    }
-
-    // Undoes and redoes the statements, and checks the database each time.
-    void ExpectThereAndBack(std::initializer_list<const char*> statements)
-    {
-        const std::string before = Everything();
-        const Changeset changes = Recorded(statements);
-        const std::string after = Everything();
-        ASSERT_NE(before, after);
-        const auto undone = m_database->Apply(changes.Inverted());
-        ASSERT_TRUE(undone);
-        EXPECT_EQ(Everything(), before);
-        const auto redone = m_database->Apply(undone->Inverted());
-        ASSERT_TRUE(redone);
-        EXPECT_EQ(Everything(), after);
-    }
-
-    const std::unique_ptr<SqliteLayerDatabase> m_database
-        = SqliteLayerDatabase::Create(PathOf(QStringLiteral("map.ovl")), Impatient());
 };
 
 } // namespace
 
-TEST_F(AppliedChanges, BringUpdatedRowsThereAndBack)
+TEST_F(ChangesOfFiles, BringBackValuesThatNoColumnTypeHolds)
 {
-    ExpectThereAndBack(
-        {"UPDATE Layers SET Color = 77, Name = 'x' || LayerID", "UPDATE LayerGroups SET Name = 'y'"});
-}
-
-TEST_F(AppliedChanges, BringInsertedRowsThereAndBack)
-{
-    ExpectThereAndBack(
-        {"INSERT INTO Layers (LayerID, Name) VALUES (9, 'New')",
-         "INSERT INTO LayerGroupMembers (GroupID, LayerID) VALUES (5, 9)"});
-}
-
-TEST_F(AppliedChanges, BringDeletedRowsThereAndBackWithTheRowsThatWentWithThem)
-{
-    ExpectThereAndBack({"DELETE FROM Layers WHERE LayerID < 3"});
-}
-
-TEST_F(AppliedChanges, BringBackAGroupWithItsMembers)
-{
-    ExpectThereAndBack({"DELETE FROM LayerGroups"});
-}
-
-TEST_F(AppliedChanges, BringTextsBackAsTheyWere)
-{
-    const QString name = QString::fromUtf8("\"It's\" \U0001F6E3 طريق\n\t") + QString(10000, u'x');
-    m_database->Execute(QStringLiteral("UPDATE Layers SET Name = ?1 WHERE LayerID = 1"), {name});
-    const Changeset changes = Recorded({"DELETE FROM Layers WHERE LayerID = 1"});
-    ASSERT_TRUE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(NameOfLayer(*m_database, 1), name);
-}
-
-TEST_F(AppliedChanges, TellWhatWentAlongWithThem)
-{
-    const Changeset changes = Recorded({"INSERT INTO Layers (LayerID, Name) VALUES (9, 'New')"});
-    AddMember(*m_database, 5, 9, 2);
-    const auto undone = m_database->Apply(changes.Inverted());
-    ASSERT_TRUE(undone);
-    ASSERT_TRUE(m_database->Apply(undone->Inverted()));
-    EXPECT_THAT(
-        Column(
-            *m_database, QStringLiteral("SELECT LayerID FROM LayerGroupMembers ORDER BY LayerID"), "LayerID"),
-        ElementsAre(1, 2, 9));
-}
-
-TEST_F(AppliedChanges, DoNothingWhenARowWasChangedBySomebodyElse)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Color = LayerID"});
-    RawDatabase other(m_database->Path());
-    other.Run("UPDATE Layers SET Color = 1000 WHERE LayerID = 2");
-    const std::string before = Everything();
-    EXPECT_FALSE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(Everything(), before);
-}
-
-TEST_F(AppliedChanges, LeaveAloneWhatSomebodyElseChangedInOtherColumns)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Color = LayerID"});
-    RawDatabase other(m_database->Path());
-    other.Run("UPDATE Layers SET Name = 'theirs' WHERE LayerID = 2");
-    EXPECT_TRUE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(NameOfLayer(*m_database, 2), QStringLiteral("theirs"));
-    EXPECT_EQ(other.Text("SELECT Color FROM Layers WHERE LayerID = 2"), "0");
-}
-
-TEST_F(AppliedChanges, DoNothingWhenAChangedRowIsGone)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Color = LayerID"});
-    RawDatabase(m_database->Path()).Run("DELETE FROM Layers WHERE LayerID = 3");
-    const std::string before = Everything();
-    EXPECT_FALSE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(Everything(), before);
-}
-
-TEST_F(AppliedChanges, DoNothingWhenAnotherRowStandsInTheirPlace)
-{
-    const Changeset changes = Recorded({"DELETE FROM Layers WHERE LayerID = 3"});
-    RawDatabase(m_database->Path()).Run("INSERT INTO Layers (LayerID, Name) VALUES (3, 'theirs')");
-    EXPECT_FALSE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(NameOfLayer(*m_database, 3), QStringLiteral("theirs"));
-}
-
-TEST_F(AppliedChanges, DoNothingWhenARowWouldReferToNone)
-{
-    const Changeset changes = Recorded({"DELETE FROM LayerGroupMembers WHERE LayerID = 2"});
-    RawDatabase(m_database->Path()).Run("DELETE FROM Layers WHERE LayerID = 2");
-    const std::string before = Everything();
-    EXPECT_FALSE(m_database->Apply(changes.Inverted()));
-    EXPECT_EQ(Everything(), before);
-}
-
-TEST_F(AppliedChanges, MayFindARowGoneThatIsToGo)
-{
-    const Changeset changes = Recorded({"INSERT INTO Layers (LayerID, Name) VALUES (9, 'New')"});
-    RawDatabase(m_database->Path()).Run("DELETE FROM Layers WHERE LayerID = 9");
-    EXPECT_TRUE(m_database->Apply(changes.Inverted()));
-}
-
-TEST_F(AppliedChanges, RaiseWhileAnotherProgramWritesAndLeaveNothingOpen)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Color = 5"});
-    {
-        RawDatabase other(m_database->Path());
-        other.Run("BEGIN IMMEDIATE");
-        EXPECT_EQ(ErrorOf([&] { m_database->Apply(changes.Inverted()); }), int(ErrorNumber::DatabaseLocked));
-    }
-    EXPECT_TRUE(m_database->Apply(changes.Inverted()));
-}
-
-TEST_F(AppliedChanges, CannotBeMadeInAReadOnlyDatabase)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Color = 5"});
-    const auto reader = SqliteLayerDatabase::Open(m_database->Path(), OpenMode::ReadOnly);
-    EXPECT_EQ(ErrorOf([&] { reader->Apply(changes.Inverted()); }), int(ErrorNumber::DatabaseReadOnly));
-}
-
-TEST_F(AppliedChanges, KeepCursorsValid)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Name = 'x' WHERE LayerID = 2"});
-    const auto layer = SeekLayer(*m_database, 2);
-    EXPECT_EQ(ToText(layer->Field("Name")), QStringLiteral("x"));
-    ASSERT_TRUE(m_database->Apply(changes.Inverted()));
-    layer->Seek("=", 2);
-    EXPECT_EQ(ToText(layer->Field("Name")), QStringLiteral("Layer 2"));
-}
-
-TEST_F(AppliedChanges, TwoInARowAreOne)
-{
-    const std::string before = Everything();
-    const Changeset first = Recorded({"UPDATE Layers SET Color = 5", "DELETE FROM LayerGroups"});
-    const Changeset second
-        = Recorded({"UPDATE Layers SET Color = 6", "DELETE FROM Layers WHERE LayerID = 1"});
-    ASSERT_TRUE(m_database->Apply(first.Then(second).Inverted()));
-    EXPECT_EQ(Everything(), before);
-}
-
-TEST_F(AppliedChanges, TwoInARowAreOneAlsoIfTheTableGotAColumnBetween)
-{
-    Run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, Name TEXT)");
-    const Changeset first = Recorded({"INSERT INTO Notes VALUES (1, 'a')"});
-    Run("ALTER TABLE Notes ADD COLUMN Size INTEGER");
-    const Changeset second = Recorded({"UPDATE Notes SET Size = 7 WHERE ID = 1"});
-    const Changeset both = first.Then(second);
-    ASSERT_TRUE(m_database->Apply(both.Inverted()));
-    EXPECT_TRUE(m_database->OpenQuery("SELECT * FROM Notes")->AtEOF());
-    ASSERT_TRUE(m_database->Apply(both));
-    EXPECT_EQ(ToInt32(m_database->OpenQuery("SELECT Size FROM Notes")->Field("Size")), 7);
-}
-
-TEST_F(AppliedChanges, OfNothingChangeNothing)
-{
-    const std::string before = Everything();
-    ASSERT_TRUE(m_database->Apply(Changeset().Inverted()));
-    EXPECT_TRUE(Changeset().Then(Changeset()).IsEmpty());
-    EXPECT_EQ(Everything(), before);
-}
-
-TEST_F(AppliedChanges, BringBackUniqueValuesThatChangedPlaces)
-{
-    Run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, Name TEXT UNIQUE)");
-    Run("INSERT INTO Notes VALUES (1, 'a'), (2, 'b')");
-    const Changeset changes = Recorded(
-        {"UPDATE Notes SET Name = 'c' WHERE ID = 1", "UPDATE Notes SET Name = 'a' WHERE ID = 2",
-         "INSERT INTO Notes VALUES (3, 'b')"});
-    ASSERT_TRUE(m_database->Apply(changes.Inverted()));
-    RawDatabase other(m_database->Path());
-    EXPECT_EQ(other.Text("SELECT group_concat(ID || Name) FROM Notes"), "1a,2b");
-}
-
-TEST_F(AppliedChanges, BringBackValuesOfEveryKindExactly)
-{
-    Run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, A, B, C, D, E)");
-    Run("INSERT INTO Notes VALUES (1, 9007199254740993, 0.1, x'00ff00', NULL, 'Text')");
-    const Changeset changes = Recorded({"UPDATE Notes SET A = 1, B = 2, C = 3, D = 4, E = 'TEXT'"});
-    ASSERT_TRUE(m_database->Apply(changes.Inverted()));
-    RawDatabase other(m_database->Path());
+    const auto database = SqliteLayerDatabase::Create(PathOf(QStringLiteral("map.ovl")));
+    const auto run = [&](const char* sql) { database->Execute(QString::fromUtf8(sql)); };
+    run("CREATE TABLE Notes (ID INTEGER PRIMARY KEY, A, B, C, D, E)");
+    run("INSERT INTO Notes VALUES (1, 9007199254740993, 0.1, x'00ff00', NULL, 'Text')");
+    const auto recorder = database->RecordChanges();
+    run("UPDATE Notes SET A = 1, B = 2, C = 3, D = 4, E = 'TEXT'");
+    ASSERT_TRUE(database->Apply(recorder->Changes().Inverted()));
+    RawDatabase other(database->Path());
     EXPECT_EQ(
         other.Text("SELECT A || ' ' || B || ' ' || hex(C) || ' ' || coalesce(D, 'none') || E FROM Notes"),
         "9007199254740993 0.1 00FF00 noneText");
-}
-
-TEST_F(AppliedChanges, DoNothingWhenANameChangedOnlyInItsCase)
-{
-    const Changeset changes = Recorded({"UPDATE Layers SET Name = 'Roads' WHERE LayerID = 1"});
-    RawDatabase(m_database->Path()).Run("UPDATE Layers SET Name = 'ROADS' WHERE LayerID = 1");
-    EXPECT_FALSE(m_database->Apply(changes.Inverted()));
 }
 
 } // namespace Orvane::Testing

@@ -202,6 +202,20 @@ TEST_F(FailingTransactions, AGuardWhoseRollbackFailsTakesTheOuterOneWithIt)
     EXPECT_EQ(Stored(), "As it was");
 }
 
+TEST_F(FailingTransactions, AfterTheDatabaseGaveUpATransactionNothingIsWrittenOutsideIt)
+{
+    m_database->BeginTrans();
+    Rename("Changed");
+    m_database->Execute(QStringLiteral("ROLLBACK")); // as SQLite does by itself when the disk is full
+    EXPECT_EQ(ErrorOf([&] { Rename("Stray"); }), Failure);
+    EXPECT_EQ(ErrorOf([&] { m_database->BeginTrans(); }), Failure);
+    EXPECT_EQ(ErrorOf([&] { m_database->CommitTrans(); }), Failure);
+    m_database->Rollback();
+    EXPECT_EQ(Stored(), "As it was");
+    Rename("Later");
+    EXPECT_EQ(Stored(), "Later");
+}
+
 TEST_F(FailingTransactions, ATransactionThatEndedByItselfIsLostOnAllLevels)
 {
     m_database->BeginTrans();

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/QueryCursor.h"
-
-#include "store/sqlite/StoreTest.h"
+#include "store/any/AnyStoreTest.h"
 
 namespace Orvane::Testing {
 
@@ -9,7 +7,7 @@ namespace {
 
 const auto Failure = int(ErrorNumber::DatabaseFailure);
 
-class QueryCursorTest : public StoreTest
+class QueryCursorTest : public AnyStoreTest
 {
 protected:
     QueryCursorTest()
@@ -21,7 +19,7 @@ protected:
     std::unique_ptr<IRecordset> Layers() { return m_database->OpenRecordset(m_sql); }
 
     const QString m_sql = QStringLiteral("SELECT * FROM Layers ORDER BY LayerID");
-    const std::unique_ptr<SqliteLayerDatabase> m_database = SqliteLayerDatabase::CreateInMemory();
+    const std::unique_ptr<ILayerStore> m_database = NamelessStore();
 };
 
 } // namespace

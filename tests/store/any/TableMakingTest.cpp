@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/TableMaking.h"
-
 #include "store/StoreTable.h"
-#include "store/sqlite/StoreTest.h"
+#include "store/any/AnyStoreTest.h"
 
 namespace Orvane::Testing {
 
 namespace {
 
-class TableMaking : public StoreTest
+class TableMaking : public AnyStoreTest
 {
 protected:
     static StoreTable Notes()
@@ -34,7 +32,7 @@ protected:
         return ErrorOf([&] { m_database->Execute(QString::fromUtf8(sql)); });
     }
 
-    const std::unique_ptr<SqliteLayerDatabase> m_database = SqliteLayerDatabase::CreateInMemory();
+    const std::unique_ptr<ILayerStore> m_database = NamelessStore();
 };
 
 } // namespace
@@ -90,7 +88,7 @@ TEST_F(TableMaking, RefusesUniqueValuesTwice)
 
 TEST_F(TableMaking, CannotBeDoneInAReadOnlyDatabase)
 {
-    const auto reader = SqliteLayerDatabase::Open(MadeFile(), OpenMode::ReadOnly);
+    const auto reader = Opened(MadeStore(), OpenMode::ReadOnly);
     EXPECT_EQ(ErrorOf([&] { reader->PrepareTable(Notes()); }), int(ErrorNumber::DatabaseReadOnly));
 }
 

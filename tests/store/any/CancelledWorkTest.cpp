@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/ChangeRecorder.h"
-#include "store/sqlite/SqliteLayerDatabase.h"
-#include "store/sqlite/StoreTest.h"
+#include "store/any/AnyStoreTest.h"
 
 #include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -12,17 +11,18 @@ namespace {
 
 constexpr int LayerCount = 500; // a statement over all of them takes several looks
 
-const QString Thicken = QStringLiteral("UPDATE Layers SET Priority = Priority + 3, MaxVisScale = 17");
+const QString Thicken = QStringLiteral("UPDATE Layers SET Priority = Priority + 3, MaxVisScale = 17 WHERE ")
+    + StoreMaker::Dawdling();
 
 /// A map with many layers, whose work is cancelled when the test asks for it.
-class CancelledWork : public StoreTest
+class CancelledWork : public AnyStoreTest
 {
 protected:
-    SqliteLayerDatabase& Map() { return *m_map; }
+    ILayerStore& Map() { return *m_map; }
     // All that the map holds.
     std::vector<qint32> Content()
     {
-        return Column(Map(), QStringLiteral("SELECT Priority FROM Layers"), "Priority");
+        return Column(Map(), QStringLiteral("SELECT Priority FROM Layers ORDER BY LayerID"), "Priority");
     }
     void CancelAfter(int looks)
     {
@@ -31,7 +31,7 @@ protected:
     void CancelNothing() { Map().SetWatcher({}); }
 
 private:
-    std::unique_ptr<SqliteLayerDatabase> m_map = SqliteLayerDatabase::Open(MadeFile(LayerCount));
+    const std::unique_ptr<ILayerStore> m_map = Opened(MadeStore(LayerCount));
 };
 
 TEST_F(CancelledWork, OfOneStatementLeavesTheRows)
