@@ -7,7 +7,9 @@
 #include "store/sqlite/QueryCursor.h"
 #include "store/sqlite/SqliteSession.h"
 #include "store/sqlite/TableCursor.h"
+#include "store/sqlite/TableList.h"
 #include "store/sqlite/TableMaking.h"
+#include "store/sqlite/TableTransfer.h"
 #include "store/sqlite/engine/TimeBound.h"
 #include "store/sqlite/files/LayerFileCheck.h"
 #include "store/sqlite/files/LayerFileJournals.h"
@@ -19,6 +21,7 @@
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
 
+#include <limits>
 #include <sqlite3.h>
 
 namespace Orvane {
@@ -177,6 +180,46 @@ bool SqliteLayerDatabase::HasTable(const QString& table)
 bool SqliteLayerDatabase::HasColumn(const QString& table, const QString& column)
 {
     return Orvane::HasColumn(*m_session, table, column);
+}
+
+std::vector<StoreTable> SqliteLayerDatabase::Tables()
+{
+    return TablesOf(*m_session);
+}
+
+std::vector<qint64> SqliteLayerDatabase::CountRows(const std::vector<StoreTable>& tables)
+{
+    return Orvane::CountRows(*m_session, tables);
+}
+
+qint64 SqliteLayerDatabase::CountDangling(const StoreTable& table, const StoreColumn& column)
+{
+    return Orvane::CountDangling(*m_session, table, column);
+}
+
+void SqliteLayerDatabase::ReadRows(const StoreTable& table, const RowVisitor& visitor)
+{
+    Orvane::ReadRows(*m_session, table, visitor);
+}
+
+void SqliteLayerDatabase::RemoveRows(const StoreTable& table)
+{
+    Orvane::RemoveRows(*m_session, table);
+}
+
+void SqliteLayerDatabase::AddRows(
+    const StoreTable& table, const std::function<void(const RowVisitor& add)>& source)
+{
+    Orvane::AddRows(*m_session, table, source);
+}
+
+qsizetype SqliteLayerDatabase::LongestIndexedText() const
+{
+    return std::numeric_limits<int>::max();
+}
+
+void SqliteLayerDatabase::FinishRows(const std::vector<StoreTable>&)
+{
 }
 
 std::unique_ptr<ChangeRecorder> SqliteLayerDatabase::RecordChanges()

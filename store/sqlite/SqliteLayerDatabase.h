@@ -3,6 +3,7 @@
 
 #include "store/ILayerStore.h"
 #include "store/StoreOptions.h"
+#include "store/shared/ITableTransfer.h"
 
 #include <QString>
 
@@ -28,7 +29,7 @@ struct SqliteSession;
 /// and views work only as temporary ones. Errors: DatabaseLocked when another program kept the file locked
 /// for longer than StoreOptions allows, NotALayerDatabase also when damage is found only while reading,
 /// DatabaseReadOnly, and DatabaseFailure for everything else.
-class SqliteLayerDatabase final : public ILayerStore
+class SqliteLayerDatabase final : public ILayerStore, public ITableTransfer
 {
 public:
     /// Creates a new file with empty tables. Raises DatabaseFailure if a file of that name exists or cannot
@@ -61,6 +62,7 @@ public:
     void PrepareTable(const StoreTable& table) override;
     bool HasTable(const QString& table) override;
     bool HasColumn(const QString& table, const QString& column) override;
+    std::vector<StoreTable> Tables() override;
     std::unique_ptr<ChangeRecorder> RecordChanges() override;
     std::optional<Changeset> Apply(const Changeset& changes) override;
     qint64 ForeignChanges() override;
@@ -71,6 +73,16 @@ public:
     void CopyToFile(
         const QString& path, IfExists ifExists = IfExists::Refuse, const StoreFiller& change = {}) override;
     void SetQueryListener(std::function<void(const QString& sql)> listener) override;
+
+    std::vector<qint64> CountRows(const std::vector<StoreTable>& tables) override;
+    qint64 CountDangling(const StoreTable& table, const StoreColumn& column) override;
+    void ReadRows(const StoreTable& table, const RowVisitor& visitor) override;
+    void RemoveRows(const StoreTable& table) override;
+    void AddRows(const StoreTable& table, const std::function<void(const RowVisitor& add)>& source) override;
+    /// As long as a text may be anywhere.
+    qsizetype LongestIndexedText() const override;
+    /// Nothing is left to do in SQLite.
+    void FinishRows(const std::vector<StoreTable>& tables) override;
 
     /// Runs work, whose statements end with an error once the time is over. Returns false if one was ended;
     /// raises what work raises otherwise. Not to be nested.

@@ -2,6 +2,7 @@
 #include "store/sqlite/TableMaking.h"
 
 #include "store/StoreTable.h"
+#include "store/shared/SqlName.h"
 #include "store/sqlite/SqliteSession.h"
 
 #include <QStringList>
@@ -17,6 +18,8 @@ QLatin1String TypeName(StoreType type)
         return QLatin1String("REAL");
     case StoreType::Text:
         return QLatin1String("TEXT");
+    case StoreType::Flag:
+        return QLatin1String("BOOLEAN"); // stored as whole numbers are, but known as a flag
     default:
         return QLatin1String("INTEGER");
     }
@@ -24,21 +27,24 @@ QLatin1String TypeName(StoreType type)
 
 QString Definition(const StoreColumn& column)
 {
-    QString text = column.name + u' ' + TypeName(column.type);
+    QString text = SqlName(column.name) + u' ' + TypeName(column.type);
     if (column.nulls == StoreColumn::Nulls::Refused)
         text += QLatin1String(" NOT NULL");
     if (!column.defaultValue.isEmpty())
         text += QLatin1String(" DEFAULT ") + column.defaultValue;
     if (!column.refersTo.isEmpty()) {
-        text += QLatin1String(" REFERENCES ") + column.refersTo + QLatin1String(" (") + column.refersToColumn
-            + QLatin1String(") ON DELETE CASCADE");
+        text += QLatin1String(" REFERENCES ") + SqlName(column.refersTo) + QLatin1String(" (")
+            + SqlName(column.refersToColumn) + QLatin1String(") ON DELETE CASCADE");
     }
     return text;
 }
 
 QString Listed(const std::vector<QString>& names)
 {
-    return QStringList(names.begin(), names.end()).join(QLatin1String(", "));
+    QStringList parts;
+    for (const QString& name : names)
+        parts << SqlName(name);
+    return parts.join(QLatin1String(", "));
 }
 
 QString Creation(const StoreTable& table)
@@ -52,9 +58,11 @@ QString Creation(const StoreTable& table)
     if (joins)
         parts << QStringLiteral("PRIMARY KEY (%1)").arg(Listed(table.key));
     for (const QString& column : table.unique)
-        parts << QStringLiteral("UNIQUE (%1)").arg(column);
+        parts << QStringLiteral("UNIQUE (%1)").arg(SqlName(column));
     return QStringLiteral("CREATE TABLE %1 (%2)%3")
-        .arg(table.name, parts.join(QLatin1String(", ")), QLatin1String(joins ? " WITHOUT ROWID" : ""));
+        .arg(
+            SqlName(table.name), parts.join(QLatin1String(", ")),
+            QLatin1String(joins ? " WITHOUT ROWID" : ""));
 }
 
 void Run(SqliteSession& session, const QString& sql)
@@ -67,14 +75,17 @@ void AddMissingColumns(SqliteSession& session, const StoreTable& table)
 {
     for (const StoreColumn& column : table.columns) {
         if (!HasColumn(session, table.name, column.name))
-            Run(session, QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(table.name, Definition(column)));
+            Run(session,
+                QStringLiteral("ALTER TABLE %1 ADD COLUMN %2").arg(SqlName(table.name), Definition(column)));
     }
 }
 
 void MakeIndexes(SqliteSession& session, const StoreTable& table)
 {
     for (const QString& column : table.indexed) {
-        Run(session, QStringLiteral("CREATE INDEX %1%2IDX ON %1 (%2)").arg(table.name, column));
+        const QString name = SqlName(table.name + column + QLatin1String("IDX"));
+        Run(session,
+            QStringLiteral("CREATE INDEX %1 ON %2 (%3)").arg(name, SqlName(table.name), SqlName(column)));
     }
 }
 
