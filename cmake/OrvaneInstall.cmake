@@ -18,7 +18,11 @@ set_target_properties(orvane_store PROPERTIES EXPORT_NAME LayerStore)
 set_target_properties(orvane_hostkit PROPERTIES EXPORT_NAME HostKit)
 set_target_properties(ovctrls PROPERTIES EXPORT_NAME Controls)
 set_target_properties(style_samples PROPERTIES EXPORT_NAME Samples)
-install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store orvane_hostkit ovctrls style_samples
+if(TARGET orvane_store_postgres)
+  set_target_properties(orvane_store_postgres PROPERTIES EXPORT_NAME PostgresStore)
+  set(orvane_server_stores orvane_store_postgres)
+endif()
+install(TARGETS OrvaneShellLib orvane_messages orvane_files orvane_store ${orvane_server_stores} orvane_hostkit ovctrls style_samples
   EXPORT OrvaneTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
 foreach(header IN LISTS ORVANE_PUBLIC_HEADERS)

@@ -50,11 +50,14 @@ if(QT_VERSION_MAJOR EQUAL 5)
 else()
   set(qt_development qt6-base-dev)
 endif()
+if(TARGET orvane_store_postgres)
+  set(server_development ", libpq-dev")
+endif()
 orvane_package(development liborvane-dev SECTION libdevel
   SYNOPSIS "host kit for the Orvane layer control"
   DESCRIPTION "Headers, libraries and CMake files with which a Qt program becomes a host
 of the layer control, with a guide and examples."
-  DEPENDS "orvane-layer-control (= ${PROJECT_VERSION}), ${qt_development}, libsqlite3-dev")
+  DEPENDS "orvane-layer-control (= ${PROJECT_VERSION}), ${qt_development}, libsqlite3-dev${server_development}")
 if(ORVANE_BUILD_SHELL)
   orvane_package(program orvane SECTION science
     SYNOPSIS "small desktop map program"

@@ -2,7 +2,7 @@
 # Shared by ./dev and the scripts beside this file: packages, steps, counts.
 
 packages_build=(build-essential cmake ninja-build python3-minimal ccache lld pkg-config git
-    qt6-base-dev qt6-svg-dev qt6-tools-dev libgdal-dev libproj-dev libsqlite3-dev)
+    qt6-base-dev qt6-svg-dev qt6-tools-dev libgdal-dev libproj-dev libsqlite3-dev libpq-dev)
 packages_run=(libqt6gui6 qt6-translations-l10n fonts-dejavu-core)
 packages_clang=(clang libclang-rt-14-dev)
 packages_qt5=(qtbase5-dev)

@@ -58,4 +58,13 @@ INSTANTIATE_TEST_SUITE_P(
         Fuzzed{"values", FuzzValues}, Fuzzed{"view_state", FuzzViewState}),
     [](const testing::TestParamInfo<Fuzzed>& info) { return std::string(info.param.corpus); });
 
+#ifdef ORVANE_FUZZES_SERVERS
+INSTANTIATE_TEST_SUITE_P(
+    Servers, Corpus,
+    testing::Values(
+        Fuzzed{"array_text", FuzzArrayText}, Fuzzed{"row_text", FuzzRowText},
+        Fuzzed{"server_place", FuzzServerPlace}, Fuzzed{"statement_text", FuzzStatementText}),
+    [](const testing::TestParamInfo<Fuzzed>& info) { return std::string(info.param.corpus); });
+#endif
+
 } // namespace Orvane::Testing
