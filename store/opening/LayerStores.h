@@ -5,19 +5,26 @@
 
 #include <QString>
 
+#include <chrono>
 #include <memory>
 
 namespace Orvane {
 
 class ILayerStore;
 
-/// Opens layer stores by their location. At present a location is the path of a file.
+/// Opens layer stores by their place: the path of a file, or a map on a server, as StorePlace tells them
+/// apart. In a program that was built without PostgreSQL, Create, Make and Open raise DatabaseFailure for a
+/// place on a server.
 ///
 ///     const auto map = LayerStores::Open(place);
 namespace LayerStores {
 
+/// StoreOptions::answerTimeout for work on a whole map, such as copying it: a server is silent while it
+/// checks all references. That a network is dead is noticed sooner.
+inline constexpr std::chrono::minutes WholeMapTimeout{5};
+
 /// Creates a store with empty tables. Raises DatabaseFailure if the store already exists or cannot be
-/// created; no incomplete file remains then.
+/// created; no incomplete store remains then.
 std::unique_ptr<ILayerStore> Create(const QString& place, const StoreOptions& options = {});
 
 /// Makes a store with empty tables, which fill may change, and puts it at that place when it is complete. A
@@ -27,7 +34,7 @@ std::unique_ptr<ILayerStore> Create(const QString& place, const StoreOptions& op
 void Make(
     const QString& place, IfExists ifExists, const StoreFiller& fill = {}, const StoreOptions& options = {});
 
-/// Removes a store that is not open. Does nothing if it is missing; raises nothing.
+/// Removes a store that is not open. Does nothing if it is missing, or if the user may not; raises nothing.
 void Remove(const QString& place);
 
 /// Opens a store. Raises NotALayerDatabase for a foreign or damaged file, DatabaseTooNew for a store of a
@@ -36,11 +43,16 @@ void Remove(const QString& place);
 std::unique_ptr<ILayerStore>
 Open(const QString& place, OpenMode mode = OpenMode::ReadWrite, const StoreOptions& options = {});
 
+/// True when there is a file, or on a server a schema, at that place, whatever it holds. Raises database
+/// errors if the server cannot be asked.
+bool Exists(const QString& place, const StoreOptions& options = {});
+
 /// Creates empty tables in memory, which exist as long as the object.
 std::unique_ptr<ILayerStore> CreateInMemory(const StoreOptions& options = {});
 
 /// True while the store is open anywhere, including in this program. If it is missing or is not a layer
-/// store, it is not in use. Raises only for lack of memory.
+/// store, it is not in use; nor is a map on a server that cannot be asked. Many may have a map on a server
+/// open: it can only not be replaced or removed meanwhile. Raises only for lack of memory.
 bool IsInUse(const QString& place);
 
 } // namespace LayerStores

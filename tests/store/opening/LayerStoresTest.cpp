@@ -35,6 +35,27 @@ TEST_F(LayerStoresTest, AStoreIsInUseWhileItIsOpen)
     EXPECT_FALSE(LayerStores::IsInUse(m_place));
 }
 
+TEST_F(LayerStoresTest, APlaceOnAServerIsNotTakenForAFile)
+{
+    const QString place = QStringLiteral("postgresql:///maps?host=/nowhere&schema=Town");
+    for (const auto& act : std::vector<std::function<void()>>{
+             [&] { LayerStores::Open(place); }, [&] { LayerStores::Create(place); },
+             [&] { LayerStores::Make(place, IfExists::Replace); }}) {
+        const QString told = DescriptionOf(act);
+        EXPECT_TRUE(told.contains(QStringLiteral("server"))) << qPrintable(told);
+        EXPECT_TRUE(told.contains(QStringLiteral("Town"))) << qPrintable(told);
+    }
+    EXPECT_FALSE(LayerStores::IsInUse(place));
+    EXPECT_NO_THROW(LayerStores::Remove(place));
+}
+
+TEST_F(LayerStoresTest, AFileExistsOnceItIsMade)
+{
+    EXPECT_FALSE(LayerStores::Exists(m_place));
+    LayerStores::Make(m_place, IfExists::Refuse);
+    EXPECT_TRUE(LayerStores::Exists(m_place));
+}
+
 TEST_F(LayerStoresTest, OneInMemoryHasNoPlace)
 {
     EXPECT_TRUE(LayerStores::CreateInMemory()->Path().isEmpty());
@@ -60,6 +81,18 @@ TEST_F(LayerStoresTest, ACopyHoldsEverything)
     EXPECT_EQ(
         ToText(copy->OpenQuery(QStringLiteral("SELECT Name FROM Layers"))->Field("Name")),
         QStringLiteral("Roads"));
+}
+
+TEST_F(LayerStoresTest, AStoreThatIsOnlyReadIsCopiedAndStaysReadOnly)
+{
+    LayerStores::Create(m_place)->Execute(QStringLiteral("INSERT INTO Layers (LayerID) VALUES (7)"));
+    const auto store = LayerStores::Open(m_place, OpenMode::ReadOnly);
+    const QString place = PathOf(QStringLiteral("copy.ovl"));
+    store->CopyToFile(place);
+    EXPECT_FALSE(LayerStores::Open(place)->OpenQuery(QStringLiteral("SELECT LayerID FROM Layers"))->AtEOF());
+    EXPECT_EQ(
+        ErrorOf([&] { store->Execute(QStringLiteral("DELETE FROM Layers")); }),
+        int(ErrorNumber::DatabaseReadOnly));
 }
 
 TEST_F(LayerStoresTest, AStoreIsMadeWithItsFirstContentAndRemoved)
