@@ -5,9 +5,11 @@
 #include "hostkit/common/FillPatterns.h"
 #include "hostkit/common/LayerNames.h"
 #include "hostkit/common/LayerRow.h"
+#include "hostkit/common/NextNumbers.h"
 #include "hostkit/common/StoredScale.h"
 #include "hostkit/schemes/SchemeTables.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -54,31 +56,34 @@ NamesOfAny(ILayerStore& database, const QString& query, const std::unordered_set
     return names;
 }
 
-void DeleteRows(ILayerStore& database, qint32 layerID)
+void DeleteRows(ILayerStore& database, const std::vector<qint32>& layerIDs)
 {
-    database.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
-    // The layer's values in schemes refer to this row and are removed with it.
-    database.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        database.Send(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID IN ") + list, values);
+        // The layers' values in schemes refer to these rows and are removed with them.
+        database.Send(QStringLiteral("DELETE FROM Layers WHERE LayerID IN ") + list, values);
+    });
 }
 
 } // namespace
 
 qint32 LayerFactory::Create()
 {
-    const QString name = UnusedName();
-    Transaction transaction(m_database);
-    const qint32 layerID = Insert(name);
-    transaction.Commit();
-    m_names.Set(layerID, name);
-    return layerID;
+    return StoreWithNextNumbers(
+        [this] { return LayerRow::FreeIDs(m_database, 1).front(); },
+        [this](qint32 layerID) {
+            const QString name = UnusedName();
+            Transaction transaction(m_database);
+            Insert(layerID, name);
+            transaction.Commit();
+            m_names.Set(layerID, name);
+            return layerID;
+        });
 }
 
 void LayerFactory::Delete(qint32 layerID)
 {
-    Transaction transaction(m_database);
-    DeleteRows(m_database, layerID);
-    transaction.Commit();
-    m_names.Remove(layerID);
+    Delete(std::vector{layerID});
 }
 
 LayerDeletion LayerFactory::WhatGoes(qint32 layerID)
@@ -103,8 +108,7 @@ LayerDeletion LayerFactory::WhatGoes(qint32 layerID)
 void LayerFactory::Delete(const std::vector<qint32>& layerIDs)
 {
     Transaction transaction(m_database);
-    for (const qint32 layerID : layerIDs)
-        DeleteRows(m_database, layerID);
+    DeleteRows(m_database, layerIDs);
     transaction.Commit();
     for (const qint32 layerID : layerIDs)
         m_names.Remove(layerID);
@@ -141,6 +145,21 @@ bool LayerFactory::CanDelete(qint32 layerID)
             .arg(layerID));
 }
 
+std::vector<qint32> LayerFactory::Deletable(const std::vector<qint32>& layerIDs)
+{
+    std::unordered_set<qint32> found;
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto rows = m_database.OpenQuery(
+            QStringLiteral("SELECT LayerID FROM Layers WHERE SystemLayer IS NOT TRUE AND LayerID IN ") + list,
+            values);
+        for (; !rows->AtEOF(); rows->MoveNext())
+            found.insert(ToInt32(rows->Field("LayerID")));
+    });
+    std::vector<qint32> deletable = layerIDs;
+    std::erase_if(deletable, [&](qint32 layerID) { return found.count(layerID) == 0; });
+    return deletable;
+}
+
 bool LayerFactory::IsCodeAssigned(qint16 code)
 {
     return HasRow(m_database, QStringLiteral("SELECT LayerID FROM Layers WHERE Code = %1 LIMIT 1").arg(code));
@@ -156,7 +175,7 @@ QString LayerFactory::UnusedName()
     return name;
 }
 
-qint32 LayerFactory::Insert(const QString& name)
+void LayerFactory::Insert(qint32 layerID, const QString& name)
 {
     LayerRow layer;
     layer.Set("Name", name);
@@ -164,7 +183,7 @@ qint32 LayerFactory::Insert(const QString& name)
     layer.Set("FillBackColor", TransparentColour);
     layer.Set("FillStyle", HollowFill);
     layer.Set("Priority", DefaultPriority);
-    return layer.StoreNew(m_database);
+    layer.StoreAs(layerID, m_database);
 }
 
 } // namespace Orvane

@@ -43,13 +43,15 @@ public:
 
     /// True when the layer exists and is not a system layer.
     bool CanDelete(qint32 layerID);
+    /// Those of the layers for which that is true, in the same order.
+    std::vector<qint32> Deletable(const std::vector<qint32>& layerIDs);
 
     /// True when a layer has that code.
     bool IsCodeAssigned(qint16 code);
 
 private:
     QString UnusedName();
-    qint32 Insert(const QString& name);
+    void Insert(qint32 layerID, const QString& name);
 
     ILayerStore& m_database;
     LayerNames& m_names;

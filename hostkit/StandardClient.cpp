@@ -21,9 +21,6 @@
 
 #include <QLocale>
 
-#include <algorithm>
-#include <iterator>
-
 namespace Orvane {
 
 StandardClient::StandardClient(ILayerStore& database, IShellServices& shellServices)
@@ -223,11 +220,7 @@ void StandardClient::IStyleEditorClient_DeleteLayer(qint32 layerID)
 
 void StandardClient::IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs)
 {
-    std::vector<qint32> deleted;
-    deleted.reserve(layerIDs.size());
-    std::copy_if(layerIDs.begin(), layerIDs.end(), std::back_inserter(deleted), [this](qint32 layerID) {
-        return m_parts->factory.CanDelete(layerID);
-    });
+    const std::vector<qint32> deleted = m_parts->factory.Deletable(layerIDs);
     if (deleted.size() < 2) {
         if (!deleted.empty())
             DeleteLayer(deleted.front());

@@ -4,11 +4,13 @@
 #include <OrvaneShellLib/ILayerDatabase.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QStringList>
+
 namespace Orvane {
 
 namespace {
 
-constexpr int MostNamesOneByOne = 100; // all are read by one query
+constexpr int MostNamesInOneList = 100; // more are read with those of all layers
 
 QString NameIn(const IRecordset& layers)
 {
@@ -44,14 +46,17 @@ void LayerNames::Remove(qint32 layerID)
 
 void LayerNames::ReadAgain(const QSet<qint32>& layerIDs)
 {
-    if (layerIDs.size() > MostNamesOneByOne)
+    if (layerIDs.size() > MostNamesInOneList)
         Invalidate();
     if (!m_loaded)
         return;
+    QStringList listed;
     for (const qint32 layerID : layerIDs) {
         m_names.remove(layerID);
-        ReadOne(layerID);
+        listed << QString::number(layerID);
     }
+    if (!listed.isEmpty())
+        m_names.insert(Read(QStringLiteral(" WHERE LayerID IN (%1)").arg(listed.join(QLatin1String(", ")))));
 }
 
 void LayerNames::Invalidate()
@@ -64,15 +69,21 @@ void LayerNames::Load()
 {
     if (m_loaded)
         return;
+    m_names = Read({});
+    m_loaded = true;
+}
+
+QHash<qint32, QString> LayerNames::Read(const QString& condition)
+{
     QHash<qint32, QString> names;
-    const auto layers = m_database.OpenRecordset(QStringLiteral("SELECT LayerID, Name FROM Layers"));
+    const auto layers
+        = m_database.OpenRecordset(QStringLiteral("SELECT LayerID, Name FROM Layers") + condition);
     for (; !layers->AtEOF(); layers->MoveNext()) {
         // One row with an ID beyond 32 bits must not hide the names of all others.
         if (const std::optional<qint32> layerID = Int32In(layers->Field("LayerID")))
             names.insert(*layerID, NameIn(*layers));
     }
-    m_names = std::move(names);
-    m_loaded = true;
+    return names;
 }
 
 QString LayerNames::ReadOne(qint32 layerID)

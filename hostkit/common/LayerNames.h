@@ -28,14 +28,15 @@ public:
     void Set(qint32 layerID, const QString& name);
     /// Records that the layer was removed.
     void Remove(qint32 layerID);
-    /// Records that the names of these layers were changed without notifying this object. Many are all read
-    /// again when next needed.
+    /// Records that the names of these layers were changed without notifying this object. A few are read by
+    /// one query; many are all read again when next needed.
     void ReadAgain(const QSet<qint32>& layerIDs);
     /// Forgets all names: they are read again when next needed.
     void Invalidate();
 
 private:
     void Load();
+    QHash<qint32, QString> Read(const QString& condition);
     QString ReadOne(qint32 layerID);
 
     ILayerDatabase& m_database;

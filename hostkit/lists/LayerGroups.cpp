@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostkit/lists/LayerGroups.h"
 
+#include "hostkit/common/NextNumbers.h"
 #include "hostkit/lists/ListedIDs.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -15,27 +17,6 @@
 namespace Orvane {
 
 namespace {
-
-bool HasID(ILayerStore& store, const QString& query, qint32 id)
-{
-    return !store.OpenQuery(query, {id})->AtEOF();
-}
-
-void RequireGroup(ILayerStore& store, qint32 groupID)
-{
-    if (!HasID(store, QStringLiteral("SELECT ID FROM LayerGroups WHERE ID = ?1"), groupID))
-        ListedIDs::RaiseUnknownGroup(groupID);
-}
-
-void RequireLayers(ILayerStore& store, const std::vector<qint32>& layerIDs)
-{
-    ListedIDs::RequireOnceEach(layerIDs);
-    const auto query = QStringLiteral("SELECT LayerID FROM Layers WHERE LayerID = ?1");
-    for (const qint32 layerID : layerIDs) {
-        if (!HasID(store, query, layerID))
-            ListedIDs::RaiseUnknownLayer(layerID);
-    }
-}
 
 std::vector<qint32>
 NumbersIn(ILayerStore& store, const QString& query, const char* column, const std::vector<Value>& values)
@@ -55,36 +36,80 @@ qint32 NumberAfter(ILayerStore& store, const QString& query, const std::vector<V
     return ToInt32(ToDouble(highest->Field("Highest")) + 1);
 }
 
-QHash<qint32, double> Orderings(ILayerStore& store, qint32 groupID)
+QSet<qint32>
+Found(ILayerStore& store, const QString& query, const char* column, const std::vector<qint32>& ids)
 {
-    QHash<qint32, double> orderings;
-    const auto members = store.OpenQuery(
-        QStringLiteral("SELECT LayerID, Ordering FROM LayerGroupMembers WHERE GroupID = ?1"), {groupID});
-    for (; !members->AtEOF(); members->MoveNext()) {
-        const double ordering = NumberIn(members->Field("Ordering")).value_or(-1);
-        orderings.insert(ToInt32(members->Field("LayerID")), ordering);
+    QSet<qint32> found;
+    KeyLists::ForEachBlock(ids, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const std::vector<qint32> block = NumbersIn(store, query + list, column, values);
+        found.unite({block.begin(), block.end()});
+    });
+    return found;
+}
+
+void RequireGroups(ILayerStore& store, const std::vector<qint32>& groupIDs)
+{
+    const QSet<qint32> found
+        = Found(store, QStringLiteral("SELECT ID FROM LayerGroups WHERE ID IN "), "ID", groupIDs);
+    for (const qint32 groupID : groupIDs) {
+        if (!found.contains(groupID))
+            ListedIDs::RaiseUnknownGroup(groupID);
     }
+}
+
+void RequireGroup(ILayerStore& store, qint32 groupID)
+{
+    RequireGroups(store, {groupID});
+}
+
+void RequireLayers(ILayerStore& store, const std::vector<qint32>& layerIDs)
+{
+    const QSet<qint32> found
+        = Found(store, QStringLiteral("SELECT LayerID FROM Layers WHERE LayerID IN "), "LayerID", layerIDs);
+    for (const qint32 layerID : layerIDs) {
+        if (!found.contains(layerID))
+            ListedIDs::RaiseUnknownLayer(layerID);
+    }
+}
+
+using Orderings = QHash<qint32, double>; // of layers
+
+QHash<qint32, Orderings> StoredOrderings(ILayerStore& store, const std::vector<qint32>& groupIDs)
+{
+    QHash<qint32, Orderings> orderings;
+    KeyLists::ForEachBlock(groupIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto members = store.OpenQuery(
+            QStringLiteral("SELECT GroupID, LayerID, Ordering FROM LayerGroupMembers WHERE GroupID IN ")
+                + list,
+            values);
+        for (; !members->AtEOF(); members->MoveNext()) {
+            const double ordering = NumberIn(members->Field("Ordering")).value_or(-1);
+            orderings[ToInt32(members->Field("GroupID"))].insert(
+                ToInt32(members->Field("LayerID")), ordering);
+        }
+    });
     return orderings;
 }
 
 void StoreMember(ILayerStore& store, qint32 groupID, qint32 layerID, qint32 ordering)
 {
-    store.Execute(
+    store.Send(
         QStringLiteral("INSERT INTO LayerGroupMembers (GroupID, LayerID, Ordering) VALUES (?1, ?2, ?3)"
                        " ON CONFLICT (GroupID, LayerID) DO UPDATE SET Ordering = excluded.Ordering"),
         {groupID, layerID, ordering});
 }
 
-void RemoveMember(ILayerStore& store, qint32 groupID, qint32 layerID)
+void RemoveMembers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs)
 {
-    store.Execute(
-        QStringLiteral("DELETE FROM LayerGroupMembers WHERE GroupID = ?1 AND LayerID = ?2"),
-        {groupID, layerID});
+    KeyLists::ForEachBlock(layerIDs, {groupID}, [&](const QString& list, const std::vector<Value>& values) {
+        store.Send(
+            QStringLiteral("DELETE FROM LayerGroupMembers WHERE GroupID = ?1 AND LayerID IN ") + list,
+            values);
+    });
 }
 
-void NumberMembers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs)
+void NumberMembers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs, Orderings stored)
 {
-    QHash<qint32, double> stored = Orderings(store, groupID);
     qint32 ordering = 0;
     for (const qint32 layerID : layerIDs) {
         ++ordering;
@@ -93,15 +118,14 @@ void NumberMembers(ILayerStore& store, qint32 groupID, const std::vector<qint32>
             StoreMember(store, groupID, layerID, ordering);
         stored.remove(layerID);
     }
-    for (auto left = stored.keyBegin(); left != stored.keyEnd(); ++left)
-        RemoveMember(store, groupID, *left);
+    RemoveMembers(store, groupID, {stored.keyBegin(), stored.keyEnd()});
 }
 
 void NumberGroups(ILayerStore& store, const std::vector<qint32>& groupIDs)
 {
     qint32 ordering = 0;
     for (const qint32 groupID : groupIDs) {
-        store.Execute(
+        store.Send(
             QStringLiteral("UPDATE LayerGroups SET GroupOrdering = ?2"
                            " WHERE ID = ?1 AND (GroupOrdering IS NULL OR GroupOrdering <> ?2)"),
             {groupID, ++ordering});
@@ -112,18 +136,22 @@ void NumberGroups(ILayerStore& store, const std::vector<qint32>& groupIDs)
 
 qint32 LayerGroups::Create(ILayerStore& store, const QString& name, const std::vector<qint32>& layerIDs)
 {
-    Transaction transaction(store);
-    RequireLayers(store, layerIDs);
-    const qint32 groupID
-        = NumberAfter(store, QStringLiteral("SELECT COALESCE(MAX(ID), 0) AS Highest FROM LayerGroups"));
-    const qint32 ordering = NumberAfter(
-        store, QStringLiteral("SELECT COALESCE(MAX(GroupOrdering), 0) AS Highest FROM LayerGroups"));
-    store.Execute(
-        QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering) VALUES (?1, ?2, ?3)"),
-        {groupID, name, ordering});
-    NumberMembers(store, groupID, layerIDs);
-    transaction.Commit();
-    return groupID;
+    const auto nextID = [&] {
+        return NumberAfter(store, QStringLiteral("SELECT COALESCE(MAX(ID), 0) AS Highest FROM LayerGroups"));
+    };
+    return StoreWithNextNumbers(nextID, [&](qint32 groupID) {
+        Transaction transaction(store);
+        ListedIDs::RequireOnceEach(layerIDs);
+        RequireLayers(store, layerIDs);
+        const qint32 ordering = NumberAfter(
+            store, QStringLiteral("SELECT COALESCE(MAX(GroupOrdering), 0) AS Highest FROM LayerGroups"));
+        store.Execute(
+            QStringLiteral("INSERT INTO LayerGroups (ID, Name, GroupOrdering) VALUES (?1, ?2, ?3)"),
+            {groupID, name, ordering});
+        NumberMembers(store, groupID, layerIDs, {});
+        transaction.Commit();
+        return groupID;
+    });
 }
 
 void LayerGroups::Rename(ILayerStore& store, qint32 groupID, const QString& name)
@@ -134,10 +162,17 @@ void LayerGroups::Rename(ILayerStore& store, qint32 groupID, const QString& name
 
 void LayerGroups::Delete(ILayerStore& store, qint32 groupID)
 {
+    Delete(store, std::vector{groupID});
+}
+
+void LayerGroups::Delete(ILayerStore& store, const std::vector<qint32>& groupIDs)
+{
     Transaction transaction(store);
-    store.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE GroupID = ?1"), {groupID});
-    if (store.Execute(QStringLiteral("DELETE FROM LayerGroups WHERE ID = ?1"), {groupID}) == 0)
-        ListedIDs::RaiseUnknownGroup(groupID);
+    RequireGroups(store, groupIDs);
+    KeyLists::ForEachBlock(groupIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        store.Send(QStringLiteral("DELETE FROM LayerGroupMembers WHERE GroupID IN ") + list, values);
+        store.Send(QStringLiteral("DELETE FROM LayerGroups WHERE ID IN ") + list, values);
+    });
     transaction.Commit();
 }
 
@@ -145,8 +180,9 @@ void LayerGroups::AddLayers(ILayerStore& store, qint32 groupID, const std::vecto
 {
     Transaction transaction(store);
     RequireGroup(store, groupID);
+    ListedIDs::RequireOnceEach(layerIDs);
     RequireLayers(store, layerIDs);
-    const QHash<qint32, double> stored = Orderings(store, groupID);
+    const Orderings stored = StoredOrderings(store, {groupID}).value(groupID);
     qint32 ordering = NumberAfter(
         store,
         QStringLiteral("SELECT COALESCE(MAX(Ordering), 0) AS Highest FROM LayerGroupMembers"
@@ -163,8 +199,7 @@ void LayerGroups::RemoveLayers(ILayerStore& store, qint32 groupID, const std::ve
 {
     Transaction transaction(store);
     RequireGroup(store, groupID);
-    for (const qint32 layerID : layerIDs)
-        RemoveMember(store, groupID, layerID);
+    RemoveMembers(store, groupID, layerIDs);
     transaction.Commit();
 }
 
@@ -180,10 +215,25 @@ std::vector<qint32> LayerGroups::Layers(ILayerStore& store, qint32 groupID)
 
 void LayerGroups::SetLayers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs)
 {
+    SetLayers(store, {{groupID, layerIDs}});
+}
+
+void LayerGroups::SetLayers(ILayerStore& store, const std::map<qint32, std::vector<qint32>>& groups)
+{
     Transaction transaction(store);
-    RequireGroup(store, groupID);
+    std::vector<qint32> groupIDs;
+    std::vector<qint32> layerIDs;
+    groupIDs.reserve(groups.size());
+    for (const auto& [groupID, layers] : groups) {
+        ListedIDs::RequireOnceEach(layers);
+        groupIDs.push_back(groupID);
+        layerIDs.insert(layerIDs.end(), layers.begin(), layers.end());
+    }
+    RequireGroups(store, groupIDs);
     RequireLayers(store, layerIDs);
-    NumberMembers(store, groupID, layerIDs);
+    const QHash<qint32, Orderings> stored = StoredOrderings(store, groupIDs);
+    for (const auto& [groupID, layers] : groups)
+        NumberMembers(store, groupID, layers, stored.value(groupID));
     transaction.Commit();
 }
 

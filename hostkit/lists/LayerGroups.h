@@ -4,6 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <map>
 #include <vector>
 
 namespace Orvane {
@@ -33,6 +34,8 @@ void Rename(ILayerStore& store, qint32 groupID, const QString& name);
 
 /// Removes the group; its layers stay.
 void Delete(ILayerStore& store, qint32 groupID);
+/// The same for many.
+void Delete(ILayerStore& store, const std::vector<qint32>& groupIDs);
 
 /// Adds layers at the end of the group, in this order. Those that are in it already stay where they are.
 void AddLayers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs);
@@ -45,6 +48,8 @@ std::vector<qint32> Layers(ILayerStore& store, qint32 groupID);
 
 /// Gives the group exactly these layers in this order.
 void SetLayers(ILayerStore& store, qint32 groupID, const std::vector<qint32>& layerIDs);
+/// The same for many groups, by their IDs.
+void SetLayers(ILayerStore& store, const std::map<qint32, std::vector<qint32>>& groups);
 
 /// The IDs of all groups, pseudo ones too, in the order of the tree.
 std::vector<qint32> Order(ILayerStore& store);

@@ -6,6 +6,7 @@
 #include "hostkit/lists/ListedFields.h"
 #include "hostkit/lists/ListedIDs.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/Transaction.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -14,6 +15,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <map>
 
 namespace Orvane {
 
@@ -54,15 +56,17 @@ void StoreColumns(ILayerStore& store, qint32 layerID, const std::vector<ColumnVa
         values.push_back(column.value);
         assignments << QStringLiteral("%1 = ?%2").arg(QLatin1String(column.column)).arg(values.size());
     }
-    store.Execute(
+    store.Send(
         QStringLiteral("UPDATE Layers SET %1 WHERE LayerID = ?1").arg(assignments.join(QLatin1String(", "))),
         values);
 }
 
-void DeleteListedLayer(ILayerStore& store, qint32 layerID)
+void DeleteListedLayers(ILayerStore& store, const std::vector<qint32>& layerIDs)
 {
-    store.Execute(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID = ?1"), {layerID});
-    store.Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = ?1"), {layerID});
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        store.Send(QStringLiteral("DELETE FROM LayerGroupMembers WHERE LayerID IN ") + list, values);
+        store.Send(QStringLiteral("DELETE FROM Layers WHERE LayerID IN ") + list, values);
+    });
 }
 
 bool UpdateLayers(ILayerStore& store, const std::vector<ListedLayer>& layers)
@@ -83,37 +87,34 @@ bool UpdateLayers(ILayerStore& store, const std::vector<ListedLayer>& layers)
         differs |= !columns.empty();
         stored.remove(layer.id);
     }
-    for (auto left = stored.keyBegin(); left != stored.keyEnd(); ++left)
-        DeleteListedLayer(store, *left);
+    DeleteListedLayers(store, {stored.keyBegin(), stored.keyEnd()});
     return differs || !stored.isEmpty();
 }
 
 void AddListedGroup(ILayerStore& store, const ListedGroup& group)
 {
-    store.Execute(
+    store.Send(
         QStringLiteral("INSERT INTO LayerGroups (ID, Name, Pseudo, Expanded) VALUES (?1, ?2, ?3, ?4)"),
         {group.id, group.name, group.pseudo, group.expanded});
 }
 
 void StoreListedGroup(ILayerStore& store, const ListedGroup& group)
 {
-    store.Execute(
+    store.Send(
         QStringLiteral("UPDATE LayerGroups SET Name = ?2, Pseudo = ?3 WHERE ID = ?1"),
         {group.id, group.name, group.pseudo});
 }
 
 // known: as it is stored; nullptr for a new group.
-bool UpdateGroup(ILayerStore& store, const ListedGroup& group, const ListedGroup* known)
+bool UpdateName(ILayerStore& store, const ListedGroup& group, const ListedGroup* known)
 {
-    const bool isAsNamed = known && known->name == group.name && known->pseudo == group.pseudo;
-    const bool hasLayers = known && known->layers == group.layers;
-    if (!known)
-        AddListedGroup(store, group);
-    else if (!isAsNamed)
+    if (known && known->name == group.name && known->pseudo == group.pseudo)
+        return false;
+    if (known)
         StoreListedGroup(store, group);
-    if (!hasLayers)
-        LayerGroups::SetLayers(store, group.id, group.layers);
-    return !isAsNamed || !hasLayers;
+    else
+        AddListedGroup(store, group);
+    return true;
 }
 
 bool UpdateGroups(ILayerStore& store, const std::vector<ListedGroup>& groups)
@@ -122,17 +123,21 @@ bool UpdateGroups(ILayerStore& store, const std::vector<ListedGroup>& groups)
     ListedIDs::RequireOnceEach(wanted);
     const std::vector<ListedGroup> before = StoredList::Groups(store);
     QHash<qint32, ListedGroup> stored = ByID(before);
+    std::map<qint32, std::vector<qint32>> otherLayers;
     bool differs = IDsOf(before) != wanted;
     for (const ListedGroup& group : groups) {
-        const auto known = stored.constFind(group.id);
-        differs |= UpdateGroup(store, group, known == stored.constEnd() ? nullptr : &*known);
+        const auto found = stored.constFind(group.id);
+        const ListedGroup* known = found == stored.constEnd() ? nullptr : &*found;
+        differs |= UpdateName(store, group, known);
+        if (!known || known->layers != group.layers)
+            otherLayers.emplace(group.id, group.layers);
         stored.remove(group.id);
     }
-    for (auto left = stored.keyBegin(); left != stored.keyEnd(); ++left)
-        LayerGroups::Delete(store, *left);
+    LayerGroups::SetLayers(store, otherLayers);
+    LayerGroups::Delete(store, std::vector<qint32>(stored.keyBegin(), stored.keyEnd()));
     if (IDsOf(before) != wanted)
         LayerGroups::SetOrder(store, wanted);
-    return differs;
+    return differs || !otherLayers.empty();
 }
 
 void ReadMembers(ILayerStore& store, std::vector<ListedGroup>& groups)

@@ -5,6 +5,7 @@
 #include "hostkit/common/NaturalOrder.h"
 #include "hostkit/schemes/SchemeColumns.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/Transaction.h>
@@ -56,10 +57,10 @@ QString DifferingOrUnknownQuery(SchemeParts parts, const char* wanted = "Layers.
         + SchemeColumns::Difference(parts) + u')';
 }
 
-QSet<qint32> LayersOf(ILayerStore& database, const QString& query, qint32 schemeID)
+QSet<qint32> LayersOf(ILayerStore& database, const QString& query, const std::vector<Value>& values)
 {
     QSet<qint32> layerIDs;
-    const auto layers = database.OpenQuery(query, {schemeID});
+    const auto layers = database.OpenQuery(query, values);
     for (; !layers->AtEOF(); layers->MoveNext()) {
         if (const std::optional<qint32> layerID = Int32In(layers->Field("LayerID")))
             layerIDs.insert(*layerID);
@@ -134,8 +135,8 @@ QSet<qint32> LayerSchemes::Load(const QString& name)
     Transaction transaction(m_database);
     const qint32 schemeID = IDOf(name);
     const SchemeParts holds = m_tables.HoldsOf(schemeID);
-    QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(holds), schemeID);
-    m_database.Execute(
+    QSet<qint32> changed = LayersOf(m_database, DifferingLayersQuery(holds), {schemeID});
+    m_database.Send(
         QStringLiteral("UPDATE Layers SET ") + SchemeColumns::Assignments(holds)
             + QStringLiteral(" FROM LayerSchemeValues WHERE") + DifferingLayers(holds),
         {schemeID});
@@ -194,7 +195,7 @@ QSet<qint32> LayerSchemes::LayersThatDiffer()
     if (!m_tables.HaveSchemes())
         return {};
     const SchemeDetails current = m_tables.Current();
-    return LayersOf(m_database, DifferingOrUnknownQuery(current.holds), current.id);
+    return LayersOf(m_database, DifferingOrUnknownQuery(current.holds), {current.id});
 }
 
 QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
@@ -203,11 +204,12 @@ QSet<qint32> LayerSchemes::LayersThatDiffer(const QSet<qint32>& layerIDs)
     if (!m_tables.HaveSchemes())
         return differing;
     const SchemeDetails current = m_tables.Current();
-    const QString query = DifferingOrUnknownQuery(current.holds) + QStringLiteral(" AND Layers.LayerID = ?2");
-    for (const qint32 layerID : layerIDs) {
-        if (!m_database.OpenQuery(query, {current.id, layerID})->AtEOF())
-            differing.insert(layerID);
-    }
+    const QString query = DifferingOrUnknownQuery(current.holds) + QStringLiteral(" AND Layers.LayerID IN ");
+    KeyLists::ForEachBlock(
+        {layerIDs.begin(), layerIDs.end()}, {current.id},
+        [&](const QString& list, const std::vector<Value>& values) {
+            differing.unite(LayersOf(m_database, query + list, values));
+        });
     return differing;
 }
 

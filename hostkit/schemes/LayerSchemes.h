@@ -79,7 +79,7 @@ public:
     /// The layers whose values differ from the current scheme, or that are not in it. Empty for a database
     /// without schemes; no scheme is created.
     QSet<qint32> LayersThatDiffer();
-    /// As above, but only for these layers, each looked up by its ID.
+    /// As above, but only for these layers, which are looked up by their IDs, many in one query.
     QSet<qint32> LayersThatDiffer(const QSet<qint32>& layerIDs);
     /// How many layers differ from that scheme, or are not in it. Raises HostError::UnknownScheme.
     qsizetype CountThatDiffer(const QString& name);

@@ -40,7 +40,7 @@ QJsonValue ToJsonValue(const Value& value, const QString& layer, const LayerColu
 {
     if (value.IsNull())
         return QJsonValue::Null;
-    if (value.IsNumber())
+    if (value.IsNumber() || value.IsBoolean())
         return ToDouble(value);
     RaiseDamage(
         HostError::SchemeValueUnknown,

@@ -9,8 +9,7 @@
 #include <OrvaneShellLib/ValueConversions.h>
 
 #include <QSet>
-
-#include <algorithm>
+#include <QStringList>
 
 namespace Orvane::SchemeExchange {
 
@@ -51,21 +50,28 @@ void UnsetOthers(SchemeDocument::Values& values, SchemeParts holds)
     }
 }
 
-// Values that are missing in the document are taken from the layer.
-SchemeDocument::Values
-Completed(ILayerStore& map, qint32 layerID, SchemeDocument::Values values, SchemeParts holds)
+// Those that are missing in the document are the layer's present ones. keys: the layer and the scheme.
+void StoreLayer(ILayerStore& map, const std::vector<Value>& keys, const SchemeDocument::Values& values)
 {
-    UnsetOthers(values, holds);
-    const bool saysAll
-        = std::none_of(values.begin(), values.end(), [](const Value& value) { return value.IsEmpty(); });
-    if (saysAll)
-        return values;
-    const auto layer = map.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});
+    std::vector<Value> row = keys;
+    row.reserve(keys.size() + values.size());
+    QStringList stored{QStringLiteral("?1"), QStringLiteral("?2")};
+    bool saysAll = true;
     for (std::size_t column = 0; column < values.size(); ++column) {
-        if (values.at(column).IsEmpty())
-            values.at(column) = layer->Field(SchemeColumns::All.at(column).name);
+        if (values.at(column).IsEmpty()) {
+            stored << QLatin1String("Layers.") + QLatin1String(SchemeColumns::All.at(column).name);
+            saysAll = false;
+            continue;
+        }
+        row.push_back(values.at(column));
+        stored << u'?' + QString::number(row.size());
     }
-    return values;
+    const QString source = saysAll ? QStringLiteral("VALUES (%1)")
+                                   : QStringLiteral("SELECT %1 FROM Layers WHERE LayerID = ?1");
+    map.Send(
+        QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) ").arg(SchemeColumns::List())
+            + source.arg(stored.join(QLatin1String(", "))),
+        row);
 }
 
 using Visitor = SchemeFile::Reader::Visitor;
@@ -90,9 +96,6 @@ StoreValues(ILayerStore& map, const SchemeHead& head, const EachLayer& each, QSt
 {
     const qint32 schemeID = EmptyScheme(map, head);
     const LayerMatcher matcher = MatcherOf(map, each);
-    const QString insertion
-        = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)")
-              .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
     QSet<qint32> stored;
     each([&](const SchemeDocument::Layer& layer, double done) {
         map.AskWatcher((1 + done) / 2);
@@ -102,10 +105,9 @@ StoreValues(ILayerStore& map, const SchemeHead& head, const EachLayer& each, QSt
             return;
         }
         stored.insert(*layerID);
-        std::vector<Value> row{*layerID, schemeID};
-        const SchemeDocument::Values values = Completed(map, *layerID, layer.values, head.holds);
-        row.insert(row.end(), values.begin(), values.end());
-        map.Execute(insertion, row);
+        SchemeDocument::Values values = layer.values;
+        UnsetOthers(values, head.holds);
+        StoreLayer(map, {*layerID, schemeID}, values);
     });
     return stored;
 }

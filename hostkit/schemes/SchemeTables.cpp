@@ -66,6 +66,17 @@ SchemeParts PartsIn(const Value& number)
     return PartsOfNumber(Int32In(number).value_or(0));
 }
 
+Value StoredParts(SchemeParts holds)
+{
+    return holds == WholeScheme ? Value::Null() : Value(NumberOf(holds));
+}
+
+Value StoredTime(const QDateTime& time)
+{
+    const QString text = TextOfTime(time);
+    return text.isEmpty() ? Value::Null() : Value(text);
+}
+
 // haveDetails: whether the row has the columns that came later.
 SchemeDetails DetailsAt(const IRecordset& row, bool haveDetails)
 {
@@ -228,39 +239,72 @@ qint32 SchemeTables::Insert(const QString& name)
     return IDOf(name);
 }
 
+QHash<qint32, qint32> SchemeTables::Replace(const std::vector<SchemeDetails>& schemes)
+{
+    const QHash<QString, qint32> present = IDs();
+    for (const SchemeDetails& scheme : schemes) {
+        if (!present.contains(scheme.name))
+            m_database.Send(QStringLiteral("INSERT INTO LayerSchemes (Name) VALUES (?1)"), {scheme.name});
+    }
+    const QHash<QString, qint32> known = IDs();
+    QHash<qint32, qint32> replaced;
+    for (const SchemeDetails& scheme : schemes) {
+        const qint32 schemeID = known.value(scheme.name);
+        DropValues(schemeID);
+        StoreHead(schemeID, scheme);
+        replaced.insert(scheme.id, schemeID);
+    }
+    StoreVersion();
+    return replaced;
+}
+
+QHash<QString, qint32> SchemeTables::IDs()
+{
+    QHash<QString, qint32> ids;
+    for (const SchemeDetails& scheme : All())
+        ids.insert(scheme.name, scheme.id);
+    return ids;
+}
+
+void SchemeTables::StoreHead(qint32 schemeID, const SchemeHead& head)
+{
+    m_database.Send(
+        QStringLiteral("UPDATE LayerSchemes SET Holds = ?2, SavedAt = ?3 WHERE SchemeID = ?1"),
+        {schemeID, StoredParts(head.holds), StoredTime(head.saved)});
+}
+
 void SchemeTables::MakeCurrent(qint32 schemeID)
 {
-    m_database.Execute(QStringLiteral("UPDATE LayerSchemes SET IsCurrent = (SchemeID = ?1)"), {schemeID});
+    m_database.Send(QStringLiteral("UPDATE LayerSchemes SET IsCurrent = (SchemeID = ?1)"), {schemeID});
 }
 
 void SchemeTables::SetHolds(qint32 schemeID, SchemeParts holds)
 {
-    const Value number = holds == WholeScheme ? Value::Null() : Value(NumberOf(holds));
     m_database.Execute(
-        QStringLiteral("UPDATE LayerSchemes SET Holds = ?2 WHERE SchemeID = ?1"), {schemeID, number});
+        QStringLiteral("UPDATE LayerSchemes SET Holds = ?2 WHERE SchemeID = ?1"),
+        {schemeID, StoredParts(holds)});
     StoreVersion();
 }
 
 void SchemeTables::SetHead(qint32 schemeID, const SchemeHead& head)
 {
-    SetHolds(schemeID, head.holds);
-    SetSaved(schemeID, head.saved);
+    StoreHead(schemeID, head);
+    StoreVersion();
 }
 
 void SchemeTables::SetSaved(qint32 schemeID, const QDateTime& saved)
 {
-    const QString text = TextOfTime(saved);
     m_database.Execute(
         QStringLiteral("UPDATE LayerSchemes SET SavedAt = ?2 WHERE SchemeID = ?1"),
-        {schemeID, text.isEmpty() ? Value::Null() : Value(text)});
+        {schemeID, StoredTime(saved)});
 }
 
 void SchemeTables::SetOrder(const QStringList& names)
 {
-    m_database.Execute(QStringLiteral("UPDATE LayerSchemes SET Place = NULL"));
+    m_database.Send(QStringLiteral("UPDATE LayerSchemes SET Place = NULL"));
     qint32 place = 0;
     for (const QString& name : names)
-        m_database.Execute(
+        m_database.Send(
             QStringLiteral("UPDATE LayerSchemes SET Place = ?2 WHERE Name = ?1"), {name, place++});
 }
 
@@ -271,7 +315,7 @@ void SchemeTables::SetAtOpening(qint32 schemeID)
 
 void SchemeTables::DropValues(qint32 schemeID)
 {
-    m_database.Execute(QStringLiteral("DELETE FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
+    m_database.Send(QStringLiteral("DELETE FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
 }
 
 void SchemeTables::Remove(qint32 schemeID)

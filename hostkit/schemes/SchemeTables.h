@@ -4,6 +4,7 @@
 #include <orvane/OrvaneShellLib/LayerColumns.h>
 #include <orvane/hostkit/schemes/SchemeDetails.h>
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -62,6 +63,9 @@ public:
 
     /// Adds a whole scheme without values and returns its ID.
     qint32 Insert(const QString& name);
+    /// Makes schemes with the names and heads of these, without values; those of the same names lose theirs.
+    /// Returns the IDs by the IDs of these schemes.
+    QHash<qint32, qint32> Replace(const std::vector<SchemeDetails>& schemes);
     void MakeCurrent(qint32 schemeID);
     /// What the scheme holds.
     SchemeParts HoldsOf(qint32 schemeID) { return DetailsOf(schemeID).holds; }
@@ -83,6 +87,8 @@ public:
 
 private:
     bool AreCurrent();
+    QHash<QString, qint32> IDs();
+    void StoreHead(qint32 schemeID, const SchemeHead& head);
     bool HaveDetails();
     bool IsTooNew();
     void StoreVersion();

@@ -7,6 +7,7 @@
 #include "hostkit/schemes/SchemeColumns.h"
 #include "hostkit/schemes/SchemeTables.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
 
@@ -32,12 +33,29 @@ SchemeTransfer::SchemeTransfer(ILayerStore& from, ILayerStore& to)
 
 void SchemeTransfer::AddMissingLayers()
 {
+    const std::vector<qint32> missing = MissingLayers();
+    const std::vector<qint32> newIDs = LayerRow::FreeIDs(m_to, qsizetype(missing.size()));
+    auto newID = newIDs.begin();
+    KeyLists::ForEachBlock(missing, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto layers = m_from.OpenQuery(
+            QStringLiteral("SELECT * FROM Layers WHERE LayerID IN %1 ORDER BY LayerID").arg(list), values);
+        for (; !layers->AtEOF(); layers->MoveNext(), ++newID) {
+            LayerRow(*layers).StoreAs(*newID, m_to);
+            m_matches.insert(ToInt32(layers->Field("LayerID")), *newID);
+        }
+    });
+}
+
+std::vector<qint32> SchemeTransfer::MissingLayers()
+{
+    std::vector<qint32> missing;
     const auto layers = m_from.OpenQuery(QStringLiteral("SELECT LayerID FROM Layers ORDER BY LayerID"));
     for (; !layers->AtEOF(); layers->MoveNext()) {
         const std::optional<qint32> layerID = Int32In(layers->Field("LayerID"));
         if (layerID && !m_matches.contains(*layerID))
-            AddLayer(*layerID);
+            missing.push_back(*layerID);
     }
+    return missing;
 }
 
 void SchemeTransfer::CopySchemes()
@@ -48,14 +66,7 @@ void SchemeTransfer::CopySchemes()
         return;
     const bool hasCurrent = target.HaveSchemes();
     target.Create();
-    for (const SchemeDetails& scheme : source.All()) {
-        qint32 newSchemeID = target.IDOf(scheme.name);
-        if (newSchemeID == SchemeTables::NoScheme)
-            newSchemeID = target.Insert(scheme.name);
-        target.DropValues(newSchemeID);
-        target.SetHead(newSchemeID, scheme);
-        CopyValues(scheme.id, newSchemeID);
-    }
+    CopyValues(target.Replace(source.All()));
     CopyOrder();
     if (!hasCurrent)
         target.MakeCurrent(target.IDOf(source.CurrentName()));
@@ -80,29 +91,24 @@ void SchemeTransfer::CopyOrder()
     target.SetOrder(names);
 }
 
-void SchemeTransfer::AddLayer(qint32 layerID)
-{
-    const auto layer = m_from.OpenQuery(QStringLiteral("SELECT * FROM Layers WHERE LayerID = ?1"), {layerID});
-    m_matches.insert(layerID, LayerRow(*layer).StoreNew(m_to));
-}
-
-void SchemeTransfer::CopyValues(qint32 schemeID, qint32 newSchemeID)
+void SchemeTransfer::CopyValues(const QHash<qint32, qint32>& schemes)
 {
     // Two layers of the source may match one layer of the target: the values of the first are kept.
     const QString insertion
         = QStringLiteral("INSERT INTO LayerSchemeValues (LayerID, SchemeID, %1) VALUES (?1, ?2, %2)"
                          " ON CONFLICT DO NOTHING")
               .arg(SchemeColumns::List(), SchemeColumns::Parameters(3));
-    const auto rows
-        = m_from.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemeValues WHERE SchemeID = ?1"), {schemeID});
+    const auto rows = m_from.OpenQuery(QStringLiteral("SELECT * FROM LayerSchemeValues ORDER BY LayerID"));
     for (; !rows->AtEOF(); rows->MoveNext()) {
         const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"));
-        const auto match = layerID ? m_matches.constFind(*layerID) : m_matches.constEnd();
-        if (match == m_matches.constEnd())
+        const auto layer = layerID ? m_matches.constFind(*layerID) : m_matches.constEnd();
+        const auto scheme
+            = schemes.constFind(Int32In(rows->Field("SchemeID")).value_or(SchemeTables::NoScheme));
+        if (layer == m_matches.constEnd() || scheme == schemes.constEnd())
             continue;
-        std::vector<Value> values{*match, newSchemeID};
+        std::vector<Value> values{*layer, *scheme};
         AppendSchemeColumns(values, *rows);
-        m_to.Execute(insertion, values);
+        m_to.Send(insertion, values);
     }
 }
 

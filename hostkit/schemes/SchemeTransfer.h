@@ -4,6 +4,8 @@
 #include <QHash>
 #include <QtGlobal>
 
+#include <vector>
+
 namespace Orvane {
 
 class ILayerStore;
@@ -24,9 +26,9 @@ public:
     void CopySchemes();
 
 private:
-    void AddLayer(qint32 layerID);
+    std::vector<qint32> MissingLayers();
     void CopyOrder();
-    void CopyValues(qint32 schemeID, qint32 newSchemeID);
+    void CopyValues(const QHash<qint32, qint32>& schemes); // from the ID in the source to that in the target
 
     ILayerStore& m_from;
     ILayerStore& m_to;

@@ -12,10 +12,12 @@
 #include "messages/NameInText.h"
 #include "store/ChangeRecorder.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QHash>
 #include <QLocale>
 #include <QScopedValueRollback>
 
@@ -23,12 +25,16 @@ namespace Orvane {
 
 namespace {
 
-QString GroupName(ILayerStore& database, qint32 groupID)
+QHash<qint32, QString> GroupNames(ILayerStore& database, const std::vector<qint32>& groupIDs)
 {
-    const auto group
-        = database.OpenQuery(QStringLiteral("SELECT Name FROM LayerGroups WHERE ID = ?1"), {groupID});
-    const Value name = group->AtEOF() ? Value::Null() : group->Field("Name");
-    return ToTextOrNone(name);
+    QHash<qint32, QString> names;
+    KeyLists::ForEachBlock(groupIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto groups = database.OpenQuery(
+            QStringLiteral("SELECT ID, Name FROM LayerGroups WHERE ID IN ") + list, values);
+        for (; !groups->AtEOF(); groups->MoveNext())
+            names.insert(ToInt32(groups->Field("ID")), ToTextOrNone(groups->Field("Name")));
+    });
+    return names;
 }
 
 } // namespace
@@ -153,8 +159,10 @@ void LayerSteps::Emit(const Changeset& changed)
         emit m_notifications.LayersChanged(changes.changed);
     for (const qint32 layerID : changes.renamed)
         emit m_notifications.LayerRenamed(layerID, m_names.Name(layerID));
+    const QHash<qint32, QString> groupNames
+        = GroupNames(m_database, {changes.renamedGroups.begin(), changes.renamedGroups.end()});
     for (const qint32 groupID : changes.renamedGroups)
-        emit m_notifications.GroupRenamed(groupID, GroupName(m_database, groupID));
+        emit m_notifications.GroupRenamed(groupID, groupNames.value(groupID));
     if (changes.groups)
         emit m_notifications.GroupsChanged();
     if (changes.schemes)

@@ -38,6 +38,21 @@ TEST_F(Factory, ANewLayersIDIsAboveAllOthers)
     EXPECT_EQ(m_factory.Create(), 42);
 }
 
+TEST_F(Factory, ALayerThatSomebodyAddsAtTheSameMomentKeepsItsNumberAndItsCode)
+{
+    const auto ours = Maker().Create(OtherMap());
+    const auto theirs = Maker().Open(OtherMap());
+    bool isAdded = false;
+    ours->SetQueryListener([&](const QString& sql) {
+        if (sql.contains(QLatin1String("Code")) && !std::exchange(isAdded, true))
+            AddLayer(*theirs, 1, QStringLiteral("Theirs"), 0);
+    });
+    LayerNames names(*ours);
+    EXPECT_EQ(LayerFactory(*ours, names).Create(), 2);
+    EXPECT_THAT(Get(*ours, 2, "Code"), IsNumber(1));
+    EXPECT_THAT(Get(*ours, 1, "Name"), IsValue(QStringLiteral("Theirs")));
+}
+
 TEST_F(Factory, TheFirstLayerOfAMapHasIDOneAndCodeZero)
 {
     const qint32 layerID = m_factory.Create();

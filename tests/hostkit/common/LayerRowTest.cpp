@@ -3,6 +3,8 @@
 
 #include "hostkit/HostKitTest.h"
 
+#include <gmock/gmock.h>
+
 namespace Orvane::Testing {
 namespace {
 
@@ -75,6 +77,36 @@ TEST_F(LayerRowTest, CodesBeyondTheirRangeLeaveTheLowOnesFree)
     AddLayer(2, QStringLiteral("Last"), 32767);
     AddLayer(3, QStringLiteral("First"), 0);
     EXPECT_EQ(LayerRow::LowestFreeCode(Database()), 1);
+}
+
+TEST_F(LayerRowTest, ManyNewLayersFillTheGapsAmongTheCodes)
+{
+    AddLayer(1, QStringLiteral("First"), 1);
+    AddLayer(2, QStringLiteral("Last"), 4);
+    EXPECT_THAT(LayerRow::FreeCodes(Database(), 5), testing::ElementsAre(0, 2, 3, 5, 6));
+}
+
+TEST_F(LayerRowTest, AFractionalCodeTakesNoneOfManyNewLayers)
+{
+    AddLayer(1, QStringLiteral("First"), 1);
+    AddLayer(2, QStringLiteral("Between"), 2.5);
+    EXPECT_THAT(LayerRow::FreeCodes(Database(), 3), testing::ElementsAre(0, 2, 3));
+}
+
+TEST_F(LayerRowTest, NewLayersGetNoCodeWhenAllAreTaken)
+{
+    AddLayer(1, QStringLiteral("Last"), 32767);
+    const std::vector<qint16> codes = LayerRow::FreeCodes(Database(), 32769);
+    EXPECT_EQ(codes.at(32766), 32766);
+    EXPECT_EQ(codes.at(32767), LayerRow::NoCode);
+    EXPECT_EQ(codes.at(32768), LayerRow::NoCode);
+}
+
+TEST_F(LayerRowTest, NewLayersWhoseIDsWouldBeTooHighAreRefused)
+{
+    AddLayer(2147483646, QStringLiteral("Far"));
+    EXPECT_THAT(LayerRow::FreeIDs(Database(), 1), testing::ElementsAre(2147483647));
+    EXPECT_EQ(ErrorOf([this] { LayerRow::FreeIDs(Database(), 2); }), int(ErrorNumber::Overflow));
 }
 
 } // namespace
