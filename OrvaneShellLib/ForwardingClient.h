@@ -3,6 +3,7 @@
 
 #include <orvane/OrvaneShellLib/IChoiceWatch.h>
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
+#include <orvane/OrvaneShellLib/IEditPermission.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
 #include <orvane/OrvaneShellLib/ILayerSource.h>
 #include <orvane/OrvaneShellLib/IManyLayers.h>
@@ -30,7 +31,8 @@ class ForwardingClient : public IStyleEditorClient,
                          public IMapNotes,
                          public INodeCommands,
                          public ILayerSource,
-                         public IChoiceWatch
+                         public IChoiceWatch,
+                         public IEditPermission
 {
 public:
     /// client: not owned; outlives this object.
@@ -142,6 +144,13 @@ protected:
     {
         const auto* scale = dynamic_cast<const IMapScale*>(&m_client);
         return scale ? scale->CurrentScale() : 0;
+    }
+
+    /// Empty if the other client does not tell.
+    QString IEditPermission_WhyNotEdited() const override
+    {
+        const auto* permission = dynamic_cast<const IEditPermission*>(&m_client);
+        return permission ? permission->WhyNotEdited() : QString();
     }
 
     /// False if the other client keeps none.

@@ -289,6 +289,13 @@ void StandardClient::IEditorWatch_EditorEnded(QWidget* form)
         emit m_parts->notifications.EditorClosed(form);
 }
 
+QString StandardClient::IEditPermission_WhyNotEdited() const
+{
+    return m_database.IsReadOnly()
+        ? tr("The map is read-only. You can look at everything, but change nothing.")
+        : QString();
+}
+
 bool StandardClient::IMapNotes_KeepsNotes() const
 {
     return m_parts->keepsNotes && !m_database.IsReadOnly();

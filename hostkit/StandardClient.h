@@ -2,6 +2,7 @@
 #pragma once
 
 #include <orvane/OrvaneShellLib/IConflictQuestion.h>
+#include <orvane/OrvaneShellLib/IEditPermission.h>
 #include <orvane/OrvaneShellLib/IEditorWatch.h>
 #include <orvane/OrvaneShellLib/IManyLayers.h>
 #include <orvane/OrvaneShellLib/IMapNotes.h>
@@ -45,7 +46,8 @@ class StandardClient : public IStyleEditorClient,
                        public IManyLayers,
                        public ISchemeManager,
                        public IMapNotes,
-                       public INodeCommands
+                       public INodeCommands,
+                       public IEditPermission
 {
     Q_DECLARE_TR_FUNCTIONS(StandardClient)
 
@@ -185,6 +187,9 @@ protected:
     /// A window that lists, renames, copies, deletes, exports, imports and compares the schemes; each change
     /// is one step of the history. It remembers its size in the settings.
     void ISchemeManager_ManageSchemes(QWidget* form) override;
+
+    /// A sentence if the layer database cannot be changed.
+    QString IEditPermission_WhyNotEdited() const override;
 
     /// As set by SetKeepsNotes; false if the layer database cannot be changed.
     bool IMapNotes_KeepsNotes() const override;

@@ -193,6 +193,12 @@ void TracingClient::ISchemeManager_ManageSchemes(QWidget* form)
         "client.ManageSchemes", [&] { ForwardingClient::ISchemeManager_ManageSchemes(form); }, Form);
 }
 
+QString TracingClient::IEditPermission_WhyNotEdited() const
+{
+    return m_trace.Question(
+        "client.WhyNotEdited", [&] { return ForwardingClient::IEditPermission_WhyNotEdited(); });
+}
+
 bool TracingClient::IMapNotes_KeepsNotes() const
 {
     return m_trace.Question("client.KeepsNotes", [&] { return ForwardingClient::IMapNotes_KeepsNotes(); });

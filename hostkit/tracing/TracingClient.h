@@ -55,6 +55,7 @@ protected:
     void IManyLayers_DeleteLayers(const std::vector<qint32>& layerIDs) override;
     double IMapScale_CurrentScale() const override;
     void ISchemeManager_ManageSchemes(QWidget* form) override;
+    QString IEditPermission_WhyNotEdited() const override;
     bool IMapNotes_KeepsNotes() const override;
     QString IMapNotes_Note(const QString& key) override;
     void IMapNotes_SetNote(const QString& key, const QString& text) override;

@@ -192,6 +192,22 @@ TEST_F(Forwarding, NotesAreKeptOnlyByAClientThatKeepsThem)
     EXPECT_EQ(outer.Note(QStringLiteral("k")), QStringLiteral("kktext"));
 }
 
+TEST_F(Forwarding, ThePermissionIsThatOfTheOtherClient)
+{
+    EXPECT_EQ(client.WhyNotEdited(), QString());
+    class ForbiddingClient : public ForwardingClient
+    {
+    public:
+        using ForwardingClient::ForwardingClient;
+
+    private:
+        QString IEditPermission_WhyNotEdited() const override { return QStringLiteral("no"); }
+    };
+    ForbiddingClient forbidding(host);
+    const ForwardingClient outer(static_cast<IStyleEditorClient&>(forbidding));
+    EXPECT_EQ(outer.WhyNotEdited(), QStringLiteral("no"));
+}
+
 TEST_F(Forwarding, CommandsAreThoseOfTheOtherClient)
 {
     EXPECT_TRUE(client.Commands(nullptr).empty());

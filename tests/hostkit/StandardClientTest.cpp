@@ -36,6 +36,12 @@ TEST_F(Client, KeepsNotesUnlessItsDatabaseIsNotWhatIsSaved)
     EXPECT_FALSE(notes.KeepsNotes());
 }
 
+TEST_F(Client, LetsAMapBeEditedThatCanBeChanged)
+{
+    const IEditPermission& permission = m_client;
+    EXPECT_EQ(permission.WhyNotEdited(), QString());
+}
+
 TEST_F(Client, HasNoCommandsOfItsOwn)
 {
     INodeCommands& commands = m_client;

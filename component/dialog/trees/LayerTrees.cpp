@@ -2,6 +2,7 @@
 #include "component/dialog/trees/LayerTrees.h"
 
 #include "component/common/Component.h"
+#include "component/common/EditPermission.h"
 #include "component/common/EventGuard.h"
 #include "component/common/MessageBoxes.h"
 #include "component/common/Messages.h"
@@ -66,7 +67,10 @@ void LayerTrees::Wire(LayerTreeList& list)
     connect(&list, &LayerTreeList::NodesRead, this, &LayerTrees::NodesRead);
     connect(&list, &LayerTreeList::NameEntered, this, &LayerTrees::RenameByUser);
     connect(&list, &LayerTreeList::ExpansionChanged, this, [&list](qint32 groupID, bool expanded) {
-        GuardEvent(&list.View(), [&] { StoreGroupExpanded(Client(), groupID, expanded); });
+        GuardEvent(&list.View(), [&] {
+            if (WhyNotEdited().isEmpty()) // others may still look into groups
+                StoreGroupExpanded(Client(), groupID, expanded);
+        });
     });
     const auto mayRename
         = [this] { return !ChosenNodes().IsMany() && CurrentNode() && CanEditNode(*CurrentNode()); };
@@ -382,7 +386,7 @@ void LayerTrees::EditCurrentName()
 void LayerTrees::ExpandAll(LayerTreeList& list, bool expanded)
 {
     const BusyPointer busy;
-    if (!list.IsFinding())
+    if (!list.IsFinding() && WhyNotEdited().isEmpty())
         StoreGroupsExpanded(Client(), list.GroupsWithout(expanded), expanded);
     list.SetAllExpanded(expanded);
 }

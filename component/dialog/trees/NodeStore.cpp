@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/trees/NodeStore.h"
 
+#include "component/common/EditPermission.h"
 #include "component/model/CheckedColumns.h"
 #include "component/model/LayerCursors.h"
 
@@ -28,6 +29,8 @@ bool NodeExists(IStyleEditorClient& client, const NodeReference& node)
 
 bool CanEditNode(IStyleEditorClient& client, const NodeReference& node)
 {
+    if (!WhyNotEdited().isEmpty())
+        return false;
     const auto row = RowOf(client, node);
     return row && (node.isGroup || !FlagIsSet(*row, "SystemLayer"));
 }

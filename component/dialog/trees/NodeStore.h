@@ -17,7 +17,8 @@ class IStyleEditorClient;
 /// True when the node's layer or group has a row.
 bool NodeExists(IStyleEditorClient& client, const NodeReference& node);
 
-/// True if the node may be renamed: its layer or group has a row, and it is not a system layer.
+/// True if the node may be renamed: the host lets the map be changed, its layer or group has a row, and it is
+/// not a system layer.
 bool CanEditNode(IStyleEditorClient& client, const NodeReference& node);
 
 /// The stored name, without the additions of the listed text; empty if there is no row or no name.

@@ -151,6 +151,22 @@ void EditorLayout::ShowCover(Cover cover)
         covered ? static_cast<QWidget*>(m_ui.picHideLayerSettings) : m_ui.scrSettings);
 }
 
+// The scroll bar of the settings stays usable. A height that depended on the width would take that of the
+// lists.
+void EditorLayout::ShowWhyNotEdited(const QString& reason)
+{
+    const bool isEdited = reason.isEmpty();
+    QLabel& why = *m_ui.lblWhyNotEdited;
+    why.setText(reason);
+    QSizePolicy policy = why.sizePolicy();
+    policy.setHeightForWidth(false);
+    why.setSizePolicy(policy);
+    why.setFixedHeight(isEdited ? 0 : why.heightForWidth(SettingsWidth() - SpaceAround()));
+    why.setVisible(!isEdited);
+    m_ui.picSettings->setEnabled(isEdited);
+    m_ui.picLayerControls->setEnabled(isEdited);
+}
+
 void EditorLayout::ShowExpansion()
 {
     m_ui.picLayerStyle->setVisible(m_expanded);

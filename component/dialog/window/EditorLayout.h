@@ -52,6 +52,9 @@ public:
     void ShowTab(ListTab tab);
     /// Covers the settings with a hint, or shows them.
     void ShowCover(Cover cover);
+    /// Disables the settings and the commands for layers, and shows the reason above the settings; enables
+    /// them if it is empty. The list stays usable.
+    void ShowWhyNotEdited(const QString& reason);
 
 private:
     void ShowExpansion();

@@ -2,6 +2,7 @@
 #include "component/dialog/window/frmLayerStyles.h"
 
 #include "component/common/Component.h"
+#include "component/common/EditPermission.h"
 #include "component/common/EventGuard.h"
 #include "component/common/FirstError.h"
 #include "component/common/Messages.h"
@@ -262,6 +263,15 @@ void frmLayerStyles::ShowCover(bool isNode)
     using Cover = EditorLayout::Cover;
     const Cover cover = isNode ? Cover::None : Cover::NothingSelected;
     m_parts->layout.ShowCover(m_tab == ListTab::Schemes ? Cover::Schemes : cover);
+    ShowPermission();
+}
+
+void frmLayerStyles::ShowPermission()
+{
+    const QString whyNot = WhyNotEdited();
+    m_parts->layout.ShowWhyNotEdited(whyNot);
+    if (!whyNot.isEmpty())
+        m_parts->quickModes.SetEnabled(false);
 }
 
 void frmLayerStyles::LoadList()

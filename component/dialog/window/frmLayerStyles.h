@@ -98,6 +98,7 @@ private:
 
     void EnableButtons(bool modified);
     void ShowCover(bool isNode);
+    void ShowPermission();
     void LoadList();
     void LoadNodes();
     void OnDeleteAsked();
