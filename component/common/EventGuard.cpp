@@ -21,13 +21,22 @@ QString TextOf(const std::exception& error)
     return TranslateMsg("An unexpected error stopped the action: ^1", QString::fromUtf8(error.what()));
 }
 
-void Show(QWidget* owner, const QString& text)
+BoxAnswer Show(QWidget* owner, const QString& text, BoxStyle style = BoxStyle::OkExclamation)
 {
     static bool showing = false;
     if (showing)
-        return;
+        return BoxAnswer::Close;
     const QScopedValueRollback guard(showing, true);
-    ShowMessageBox(owner ? owner : QApplication::activeWindow(), text, BoxStyle::OkExclamation);
+    return ShowMessageBox(owner ? owner : QApplication::activeWindow(), text, style);
+}
+
+// Nothing was wrong with what the user wanted, only with the moment.
+bool MayPass(const std::exception& error)
+{
+    const auto* known = dynamic_cast<const RunTimeError*>(&error);
+    return known
+        && (known->Number() == int(ErrorNumber::DatabaseLocked)
+            || known->Number() == int(ErrorNumber::ConnectionLost));
 }
 
 } // namespace
@@ -39,6 +48,19 @@ void ReportError(QWidget* owner, const std::exception& error) noexcept
     try {
         Show(owner, TextOf(error));
     } catch (...) { // no memory for a message: nothing more can be shown
+    }
+}
+
+bool ReportOrAskAgain(QWidget* owner, const std::exception& error) noexcept
+{
+    if (!MayPass(error)) {
+        ReportError(owner, error);
+        return false;
+    }
+    try {
+        return Show(owner, TextOf(error), BoxStyle::TryAgainExclamation) == BoxAnswer::TryAgain;
+    } catch (...) { // as above
+        return false;
     }
 }
 

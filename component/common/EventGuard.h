@@ -14,6 +14,9 @@ namespace Orvane {
 /// general text for anything else, nothing if the user cancelled. While one error is shown, further errors
 /// are dropped; otherwise a handler that fails at each paint would block the user. Never raises.
 void ReportError(QWidget* owner, const std::exception& error) noexcept;
+/// As ReportError, for an error of a command that can be run again. Where the layer database was locked, or
+/// its server was not reached, it asks whether to try again. True if the user wants to.
+bool ReportOrAskAgain(QWidget* owner, const std::exception& error) noexcept;
 /// The same for an exception of unknown type.
 void ReportUnknownError(QWidget* owner) noexcept;
 
@@ -32,6 +35,27 @@ template <typename Action> bool GuardEvent(QWidget* owner, Action&& action) noex
         ReportUnknownError(alive);
     }
     return false;
+}
+
+/// The guard of a command that has done nothing, or can be run again, when it raises: as GuardEvent, but the
+/// user may try it again where that can help; see ReportOrAskAgain. It then runs once more after the event.
+/// owner: the command does not outlive it.
+template <typename Command> void GuardRepeatable(QWidget& owner, Command command) noexcept
+{
+    const QPointer<QWidget> alive = &owner;
+    bool isWantedAgain = false;
+    try {
+        command();
+    } catch (const std::exception& error) {
+        isWantedAgain = ReportOrAskAgain(alive, error);
+    } catch (...) {
+        ReportUnknownError(alive);
+    }
+    if (!isWantedAgain || !alive)
+        return;
+    GuardEvent(alive, [&] {
+        QTimer::singleShot(0, alive.data(), [alive, command] { GuardRepeatable(*alive, command); });
+    });
 }
 
 /// Runs the guarded action after the current event. Use it for everything that waits for the user (a

@@ -22,6 +22,7 @@ QMessageBox::Icon IconOf(BoxStyle style)
     case BoxStyle::OkInformation:
         return QMessageBox::Information;
     case BoxStyle::OkExclamation:
+    case BoxStyle::TryAgainExclamation:
         return QMessageBox::Warning;
     case BoxStyle::YesNoQuestion:
         return QMessageBox::Question;
@@ -40,16 +41,34 @@ QPushButton* AddButton(QMessageBox& box, QMessageBox::StandardButton kind, const
     return button;
 }
 
+// The first button is the default.
+void AddPair(
+    QMessageBox& box, QMessageBox::StandardButton first, const QString& firstText,
+    QMessageBox::StandardButton escape, const QString& escapeText)
+{
+    box.setDefaultButton(AddButton(box, first, firstText));
+    AddButton(box, escape, escapeText);
+    box.setEscapeButton(escape);
+}
+
 void AddButtons(QMessageBox& box, BoxStyle style)
 {
-    if (!IsQuestion(style)) {
-        box.setDefaultButton(AddButton(box, QMessageBox::Ok, TranslateMsg("OK")));
-        box.setEscapeButton(QMessageBox::Ok);
-        return;
-    }
-    box.setDefaultButton(AddButton(box, QMessageBox::Yes, TranslateMsg("&Yes")));
-    AddButton(box, QMessageBox::No, TranslateMsg("&No"));
-    box.setEscapeButton(QMessageBox::No);
+    if (IsQuestion(style))
+        return AddPair(box, QMessageBox::Yes, TranslateMsg("&Yes"), QMessageBox::No, TranslateMsg("&No"));
+    if (style == BoxStyle::TryAgainExclamation)
+        return AddPair(
+            box, QMessageBox::Retry, TranslateMsg("&Try Again"), QMessageBox::Close, TranslateMsg("&Close"));
+    box.setDefaultButton(AddButton(box, QMessageBox::Ok, TranslateMsg("OK")));
+    box.setEscapeButton(QMessageBox::Ok);
+}
+
+BoxAnswer AnswerOf(BoxStyle style, int pressed)
+{
+    if (IsQuestion(style))
+        return pressed == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+    if (style == BoxStyle::TryAgainExclamation)
+        return pressed == QMessageBox::Retry ? BoxAnswer::TryAgain : BoxAnswer::Close;
+    return BoxAnswer::Ok;
 }
 
 QMessageBox* MakeBox(QWidget* owner, const QString& text, BoxStyle style)
@@ -70,9 +89,7 @@ BoxAnswer ShowMessageBox(QWidget* owner, const QString& translatedText, BoxStyle
     const QPointer<QMessageBox> box = MakeBox(owner, translatedText, style);
     const int pressed = box->exec();
     delete box;
-    if (!IsQuestion(style))
-        return BoxAnswer::Ok;
-    return pressed == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+    return AnswerOf(style, pressed);
 }
 
 } // namespace Orvane

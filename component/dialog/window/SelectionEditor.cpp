@@ -251,6 +251,14 @@ bool SelectionEditor::Apply()
     return true;
 }
 
+void SelectionEditor::ApplyOrRead()
+{
+    if (m_modified)
+        Apply();
+    else
+        Load();
+}
+
 AppliedEdits SelectionEditor::Write(const PanelEdits& edits)
 {
     m_modified = false;

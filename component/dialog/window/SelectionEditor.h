@@ -93,6 +93,9 @@ public:
     /// If all layers are gone, the user is told, and the edits stay. False if the user cancelled or the form
     /// was destroyed.
     bool Apply();
+    /// As Apply, for a command that may be run again after it has raised: if the edits were stored then, and
+    /// only showing what is stored failed, it shows that.
+    void ApplyOrRead();
 
     /// If there are edits, asks whether to apply them and does so if the answer is Yes. False if the form was
     /// destroyed: the host may close it while the question waits. Raises if the user then cancels.

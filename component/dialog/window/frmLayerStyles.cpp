@@ -57,7 +57,7 @@ void frmLayerStyles::Wire()
     connect(m_ui->tsLists, &QTabBar::currentChanged, this, &frmLayerStyles::OnTabChanged);
     connect(m_ui->tsLists, &QTabBar::tabBarClicked, this, &frmLayerStyles::OnTabClicked);
     connect(m_ui->cmdApply, &QAbstractButton::clicked, this, [this] {
-        GuardEvent(this, [this] { m_selection->Apply(); });
+        GuardRepeatable(*this, [this] { m_selection->ApplyOrRead(); });
     });
     connect(m_ui->cmdCancel, &QAbstractButton::clicked, this, [this] {
         GuardEvent(this, [this] { m_selection->Cancel(); });

@@ -7,6 +7,8 @@
 #include <OrvaneShellLib/Cancellation.h>
 #include <OrvaneShellLib/RunTimeError.h>
 
+#include <QCoreApplication>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -104,6 +106,63 @@ TEST(GuardEvent, ShowsOneErrorAtATime)
     EXPECT_EQ(user.Boxes().size(), 1u);
     GuardEvent(nullptr, RaiseLocked);
     EXPECT_EQ(user.Boxes().size(), 2u);
+}
+
+TEST(GuardRepeatable, RunsTheCommandAgainAsOftenAsTheUserWants)
+{
+    QWidget window;
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Enter};
+    int runs = 0;
+    GuardRepeatable(window, [&] {
+        if (++runs < 3)
+            RaiseLocked();
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return runs == 3; }));
+    ASSERT_EQ(user.Boxes().size(), 2u);
+    EXPECT_EQ(user.Boxes()[0].text, QString("The database is locked."));
+    EXPECT_EQ(user.Boxes()[0].buttons, QStringList({"&Try Again", "&Close"}));
+    EXPECT_EQ(user.Boxes()[0].icon, QMessageBox::Warning);
+}
+
+TEST(GuardRepeatable, RunsItOnceWhenTheUserClosesTheBox)
+{
+    QWidget window;
+    MessageBoxRobot user{BoxKey::Escape};
+    int runs = 0;
+    GuardRepeatable(window, [&] {
+        ++runs;
+        throw RunTimeError(ErrorNumber::ConnectionLost, "The connection was lost.");
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(user.Only().text, QString("The connection was lost."));
+}
+
+TEST(GuardRepeatable, OffersNothingWhereTryingAgainDoesNotHelp)
+{
+    QWidget window;
+    for (const auto number : {ErrorNumber::DatabaseFailure, ErrorNumber::DatabaseReadOnly}) {
+        MessageBoxRobot user{BoxKey::Enter};
+        GuardRepeatable(window, [&] { throw RunTimeError(number, "No."); });
+        EXPECT_EQ(user.Only().buttons, QStringList("OK"));
+    }
+    MessageBoxRobot user{};
+    GuardRepeatable(window, [] { throw RunTimeError(UserCancelled, "Cancelled."); });
+    EXPECT_TRUE(user.Boxes().empty());
+}
+
+TEST(GuardRepeatable, BearsAnOwnerThatIsDestroyedWhileTheBoxIsShown)
+{
+    auto window = std::make_unique<QWidget>();
+    MessageBoxRobot user{};
+    user.BeforeAnswer([&](QMessageBox&) { window.reset(); });
+    int runs = 0;
+    GuardRepeatable(*window, [&] {
+        ++runs;
+        RaiseLocked();
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs, 1);
 }
 
 TEST(GuardPaint, StopsEveryErrorWithoutAWindow)

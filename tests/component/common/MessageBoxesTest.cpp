@@ -97,7 +97,12 @@ INSTANTIATE_TEST_SUITE_P(
         BoxRow{
             "Do you wish to apply the changes to the '^2' ^1?", BoxStyle::YesNo, QMessageBox::NoIcon,
             YesAndNo},
-        Plain("Unknown Fill Style!")));
+        Plain("Unknown Fill Style!"),
+        BoxRow{
+            "The connection to the server was lost.",
+            BoxStyle::TryAgainExclamation,
+            QMessageBox::Warning,
+            {"&Try Again", "&Close"}}));
 
 TEST_P(EveryQuestion, AnswersWhatIsPressed)
 {
@@ -126,6 +131,13 @@ TEST_P(EveryNotice, AnswersOkToEnterAndToEscape)
 INSTANTIATE_TEST_SUITE_P(
     MessageBoxes, EveryNotice,
     testing::Values(BoxStyle::Ok, BoxStyle::OkInformation, BoxStyle::OkExclamation));
+
+TEST(MessageBoxes, AnswerTryAgainToEnterAndCloseToEscape)
+{
+    MessageBoxRobot user{BoxKey::Enter, BoxKey::Escape};
+    EXPECT_EQ(Ask(BoxStyle::TryAgainExclamation), BoxAnswer::TryAgain);
+    EXPECT_EQ(Ask(BoxStyle::TryAgainExclamation), BoxAnswer::Close);
+}
 
 TEST(MessageBoxes, StandOverTheWindowOfTheirOwner)
 {
