@@ -12,6 +12,8 @@ namespace {
 
 constexpr double Half = HalfTurn;
 constexpr double EdgeTolerance = 1e-6;
+constexpr double LowestBounds = 45; // degrees of latitude
+constexpr double WidestSeam = 0.1; // degrees that a belt around the earth may leave open
 constexpr double MostTurns = 3; // beyond that the numbers are no longitudes
 
 bool IsAtEdge(const QPointF& point)
@@ -63,12 +65,13 @@ bool IsRectangle(std::span<const QPointF> points, const Box& box)
 }
 
 // A rectangle is all there is of an island across the meridian, or of the bounds of almost the whole earth.
-// It is what is nearer to a square.
+// It is what is nearer to a square; but a low one with a gap is a strip along the meridian.
 bool IsWideRectangle(std::span<const QPointF> points)
 {
     const Box box = BoxAround(points);
-    const double widthAcross = Turn - box.Width();
-    return box.Height() * box.Height() > box.Width() * widthAcross && IsRectangle(points, box);
+    const double gap = Turn - box.Width();
+    const bool isLow = box.Height() < LowestBounds && gap > WidestSeam;
+    return !isLow && box.Height() * box.Height() > box.Width() * gap && IsRectangle(points, box);
 }
 
 // Longitudes that go on without jumps.

@@ -14,6 +14,7 @@ namespace {
 
 constexpr size_t BytesLookedAt = 1'000'000; // as many as GDAL looks at
 constexpr size_t MostExactDigits = 15; // of a double
+constexpr size_t FewestToDial = 7; // digits with the code of the country
 constexpr size_t MostWholeDigits = 18; // of a whole number; GDAL cuts larger ones
 
 std::unique_ptr<GDALDataset> OpenTable(const QString& name, const char* const* options)
@@ -34,13 +35,39 @@ bool IsNumber(const OGRFieldDefn& field)
     return type == OFTInteger || type == OFTInteger64 || type == OFTReal;
 }
 
+size_t DigitsAt(const char* text)
+{
+    return std::strspn(text, "0123456789");
+}
+
+// "+4930123456", unlike the number "+25".
+bool IsTelephoneNumber(const char* text)
+{
+    text += std::strspn(text, " ");
+    const size_t digits = text[0] == '+' ? DigitsAt(text + 1) : 0;
+    return digits >= FewestToDial && text[1 + digits] == '\0';
+}
+
+// "2E3"; programs write numbers as "2.0E3" or "2e+03".
+bool IsCodeWithE(const char* text)
+{
+    text += std::strspn(text, " ");
+    const size_t digits = DigitsAt(text);
+    if (digits == 0 || (text[digits] != 'E' && text[digits] != 'e'))
+        return false;
+    const char* behind = text + digits + 1;
+    return IsDigit(*behind) && behind[DigitsAt(behind)] == '\0';
+}
+
 // Whether a number would be written otherwise than this text. isWhole: read as a whole number.
 bool IsLostInNumber(const char* text, bool isWhole)
 {
+    if (IsTelephoneNumber(text) || IsCodeWithE(text))
+        return true;
     text += std::strspn(text, " +-");
     if (text[0] == '0' && IsDigit(text[1]))
         return true;
-    const size_t digits = std::strspn(text, "0123456789");
+    const size_t digits = DigitsAt(text);
     return text[digits] == '\0' && digits > (isWhole ? MostWholeDigits : MostExactDigits);
 }
 

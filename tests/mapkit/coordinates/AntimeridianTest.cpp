@@ -183,6 +183,16 @@ TEST(Antimeridian, RectanglesAcrossItAreNotTakenForBounds)
     EXPECT_TRUE(Antimeridian::IsPassed(Rectangle(-100, 120, -60, 60))) << "the Pacific Ocean";
 }
 
+TEST(Antimeridian, ATallStripAlongItStaysNarrow)
+{
+    const Points strip = {{179, 0}, {-179, 0}, {-179, 30}, {179, 30}, {179, 0}};
+    ASSERT_TRUE(Antimeridian::IsPassed(strip));
+    double width = 0;
+    for (const Points& piece : Antimeridian::CutRing(strip))
+        width += Sorted(piece).back().x() - Sorted(piece).front().x();
+    EXPECT_DOUBLE_EQ(width, 2);
+}
+
 TEST(Antimeridian, ATallAreaAcrossItThatIsNoRectangleIsCut)
 {
     EXPECT_TRUE(Antimeridian::IsPassed(Points{{170, -60}, {-175, -60}, {-170, 60}, {175, 60}, {170, -60}}))

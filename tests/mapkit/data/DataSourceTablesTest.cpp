@@ -96,6 +96,22 @@ TEST_F(DataSourceTablesTest, NumbersThatMeanMoreThanTheirValueStayText)
     EXPECT_EQ(source.Attributes("towns", 2).at(0).value, "01234");
 }
 
+TEST_F(DataSourceTablesTest, TelephoneNumbersAndCodesStayText)
+{
+    const QString path = m_folder.Write(
+        "towns.csv",
+        "telephone,code,warmer,people,share,x,y\n"
+        "+4930123456,1E5,+2,1.0E5,1e-05,1,2\n"
+        "+4940123456,2E3,-1,2.5E3,2e+03,3,4\n");
+    const DataSource source(path);
+    QStringList texts;
+    for (const SourceField& field : source.Fields("towns"))
+        texts << (field.isText ? field.name : QString());
+    EXPECT_EQ(texts, QStringList({"telephone", "code", "", "", "", "", ""}));
+    EXPECT_EQ(source.Attributes("towns", 1).at(0).value, "+4930123456");
+    EXPECT_EQ(source.Attributes("towns", 2).at(1).value, "2E3");
+}
+
 TEST_F(DataSourceTablesTest, CoordinatesWithLeadingZerosAreCoordinates)
 {
     EXPECT_EQ(
