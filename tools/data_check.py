@@ -92,8 +92,8 @@ def check_raster(orvane, folder, path, system):
     run(orvane, "import", path, "--to", map_file, "--map-crs", system)
     layers = json.loads(run(orvane, "list", "--json", map_file))["layers"]
     info = json.loads(run("gdalinfo", "-json", path))
-    raster = layers[0]["raster"]
-    if len(layers) != 1 or [raster["width"], raster["height"]] != info["size"]:
+    raster = layers[0].get("raster") if len(layers) == 1 else None
+    if not raster or [raster["width"], raster["height"]] != info["size"]:
         raise Different(f"{layers} instead of one raster of {info['size']} pixels")
     if raster["bands"] != len(info["bands"]):
         raise Different(f"{raster['bands']} bands instead of {len(info['bands'])}")

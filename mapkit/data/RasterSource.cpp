@@ -8,6 +8,7 @@
 #include "mapkit/data/RasterValues.h"
 #include "mapkit/data/RasterWarp.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/files/DataFiles.h"
 #include "mapkit/files/GdalSetup.h"
 #include "mapkit/files/OpenedData.h"
 #include "mapkit/files/ReadingBound.h"
@@ -21,12 +22,14 @@
 #include <array>
 #include <cmath>
 #include <gdal_priv.h>
+#include <mutex>
 
 namespace Orvane {
 
 namespace {
 
 constexpr int RowsAtOnce = 64; // between checks whether drawing was cancelled
+constexpr int MillisecondsBetweenChecks = 20; // while another thread uses the raster
 
 std::atomic<int> keptOpen = 0; // of all rasters, because the limit holds for the whole process
 
@@ -57,6 +60,22 @@ std::unique_ptr<GDALDataset> OpenTable(const QString& path, const QString& table
         GDALDataset::Open(path.toUtf8().constData(), OpenFlags, drivers, options));
 }
 
+// nullptr if there is none.
+std::unique_ptr<GDALDataset> OpenFirstTable(const QString& path)
+{
+    const QStringList tables = RastersWithin(path);
+    const bool isKnown = DataFiles::MayHoldBoth(path) && !tables.isEmpty();
+    return isKnown ? OpenTable(path, tables.front()) : nullptr;
+}
+
+// May be held by another thread for as long as it draws; meanwhile reading can be cancelled.
+std::unique_lock<QMutex> LockInTime(QMutex& mutex, const QString& path)
+{
+    while (!mutex.tryLock(MillisecondsBetweenChecks))
+        RequireReadingInTime(path);
+    return std::unique_lock(mutex, std::adopt_lock);
+}
+
 std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& member)
 {
     const QString whyNot = WhyNotOpened(path);
@@ -67,6 +86,8 @@ std::unique_ptr<GDALDataset> OpenRaster(const QString& path, const QString& memb
     const bool isTable = !member.isEmpty() && archived.isEmpty();
     std::unique_ptr<GDALDataset> dataset
         = isTable ? OpenTable(path, member) : OpenDataset(archived.isEmpty() ? path : archived);
+    if (dataset && dataset->GetRasterCount() == 0 && member.isEmpty()) // it had only one when it was added
+        dataset = OpenFirstTable(path);
     if (dataset && dataset->GetRasterCount() > 0)
         return dataset;
     RequireReadingInTime(path);
@@ -197,7 +218,17 @@ Box RasterSource::ExtentIn(const QString& mapSystem) const
     const GdalErrors quiet;
     const ReadingBound bound;
     const Use raster(*this);
-    return PlaceRaster(raster.Dataset(), {mapSystem, m_chosenSystem}).extent;
+    return PlaceIn(mapSystem, raster.Dataset()).extent;
+}
+
+// Finding it takes longer than drawing a small raster.
+const RasterPlace& RasterSource::PlaceIn(const QString& mapSystem, GDALDataset& raster) const
+{
+    if (!m_place || m_placeSystem != mapSystem) {
+        m_place = std::make_unique<const RasterPlace>(PlaceRaster(raster, {mapSystem, m_chosenSystem}));
+        m_placeSystem = mapSystem;
+    }
+    return *m_place;
 }
 
 QImage RasterSource::Draw(
@@ -209,7 +240,7 @@ QImage RasterSource::Draw(
     ReadingBound bound(ReadingBound::LongestWait);
     const Use raster(*this);
     const RasterSystems systems{mapSystem, m_chosenSystem};
-    const RasterPlace place = PlaceRaster(raster.Dataset(), systems);
+    const RasterPlace& place = PlaceIn(mapSystem, raster.Dataset());
     if (cancelled || !place.extent.Intersects(extent))
         return {};
     const QRect area = CoveredPixels(place.extent, extent, pixels);
@@ -232,7 +263,7 @@ QImage RasterSource::Draw(
 
 std::vector<RasterValue> RasterSource::ValuesAt(const QString& mapSystem, QPointF place) const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::unique_lock<QMutex> lock = LockInTime(m_mutex, m_path);
     const GdalErrors errors;
     const ReadingBound bound(ReadingBound::LongestWait);
     const Use raster(*this);

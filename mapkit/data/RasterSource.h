@@ -20,6 +20,7 @@ class GDALDataset;
 namespace Orvane {
 
 class RasterShades;
+struct RasterPlace;
 struct SourceLayer;
 
 /// The number of the RunTimeError for a picture that does not say where it lies.
@@ -49,8 +50,9 @@ struct RasterValue {
 ///     const RasterSource photo(path);
 ///     QImage image = photo.Draw(map.System(), view.Extent(), window.size(), cancelled);
 ///
-/// Any thread may draw and ask for values, but only one does so at a time. Errors are RunTimeError with
-/// SourceUnreadable and a sentence that names the file, unless another number is stated.
+/// Any thread may draw and ask for values, but only one does so at a time; asking for values is cancelled by
+/// a ReadingBound while it waits for its turn. Errors are RunTimeError with SourceUnreadable and a sentence
+/// that names the file, unless another number is stated.
 ///
 /// The system limits how many files a program has open. So only the files of some rasters stay open, the
 /// first ones; each other one is opened whenever it is read, which takes little time compared with reading.
@@ -91,6 +93,8 @@ public:
 private:
     class Use;
 
+    const RasterPlace& PlaceIn(const QString& mapSystem, GDALDataset& raster) const;
+
     QString m_path;
     QString m_member;
     QString m_chosenSystem;
@@ -98,6 +102,8 @@ private:
     RasterDetails m_details;
     mutable std::unique_ptr<GDALDataset> m_dataset; // nullptr while it is closed
     mutable bool m_isKept = false; // it stays open
+    mutable std::unique_ptr<const RasterPlace> m_place; // in the map's system that was asked for last
+    mutable QString m_placeSystem;
     std::unique_ptr<const RasterShades> m_shades;
     mutable QMutex m_mutex; // a GDAL dataset may be used by only one thread at a time
 };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/data/RasterWarp.h"
 
+#include "mapkit/coordinates/BoxOnMap.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
-#include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/coordinates/SystemReference.h"
 
 #include <QStringList>
@@ -19,8 +19,6 @@
 namespace Orvane {
 
 namespace {
-
-constexpr double WholeTurn = 359.9; // degrees; some systems leave out the date line itself
 
 CPLStringList Arguments(const QStringList& texts)
 {
@@ -103,17 +101,6 @@ std::optional<Box> OwnBox(GDALDataset& raster)
     return box;
 }
 
-// Without what lies beyond a map of the whole world: web Mercator has no room for the poles.
-Box WithinWorld(Box box, const QString& system, const QString& mapSystem)
-{
-    const SystemFacts map = FactsOf(mapSystem);
-    if (map.isGeographic || map.area.Width() < WholeTurn || !FactsOf(system).isGeographic)
-        return box;
-    box.minY = std::max(box.minY, map.area.minY);
-    box.maxY = std::min(box.maxY, map.area.maxY);
-    return box;
-}
-
 // Empty if it cannot be found from the box alone.
 Box PlacedBox(GDALDataset& raster, const Box& own, const RasterSystems& systems)
 {
@@ -122,7 +109,7 @@ Box PlacedBox(GDALDataset& raster, const Box& own, const RasterSystems& systems)
     const QString system = chosen.isEmpty() ? SystemOfRaster(raster) : chosen;
     if (map.isEmpty() || system.isEmpty() || map == system)
         return own;
-    return Transformed(WithinWorld(own, system, map), system, map);
+    return BoxOnMap(own, system, map);
 }
 
 using Transformer = std::unique_ptr<void, decltype(&GDALDestroyGenImgProjTransformer)>;

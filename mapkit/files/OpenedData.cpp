@@ -124,24 +124,22 @@ QString TitleOf(const QString& member)
     return QFileInfo(member).completeBaseName();
 }
 
-// The tables of rasters in a GeoPackage that has several.
+// The tables of rasters in a GeoPackage, the oldest first.
 QStringList RasterTablesOf(const QString& path)
 {
     const char* const drivers[] = {"GPKG", nullptr};
     constexpr unsigned flags = GDAL_OF_RASTER | GDAL_OF_READONLY;
     const std::unique_ptr<GDALDataset> file(GDALDataset::Open(path.toUtf8().constData(), flags, drivers));
-    char** listed = file ? file->GetMetadata("SUBDATASETS") : nullptr;
-    const QString prefix = QLatin1String("GPKG:") + path + QLatin1Char(':');
+    const char* sql
+        = "SELECT table_name FROM gpkg_contents WHERE data_type IN ('tiles', '2d-gridded-coverage')"
+          " ORDER BY rowid";
+    OGRLayer* found = file ? file->ExecuteSQL(sql, nullptr, nullptr) : nullptr;
+    if (!found)
+        return {};
     QStringList tables;
-    for (int i = 1; listed; ++i) {
-        const QByteArray key = "SUBDATASET_" + QByteArray::number(i) + "_NAME";
-        const char* name = CSLFetchNameValue(listed, key.constData());
-        if (!name)
-            break;
-        const QString table = QString::fromUtf8(name);
-        if (table.startsWith(prefix))
-            tables << table.mid(prefix.size());
-    }
+    while (const OGRFeatureUniquePtr row{found->GetNextFeature()})
+        tables << QString::fromUtf8(row->GetFieldAsString(0));
+    file->ReleaseResultSet(found);
     return tables;
 }
 

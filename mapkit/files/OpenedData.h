@@ -66,9 +66,8 @@ private:
 
 /// GDAL's name for a file within an archive (.zip, .tar, .tgz); empty if there is no such archive.
 QString NameInArchive(const QString& archive, const QString& member);
-/// The rasters within a file that has several, by their names there: those of an archive, where pictures such
-/// as .png are not among them, and those of a GeoPackage. None for other files, also for a GeoPackage with
-/// one.
+/// The rasters within a file, by their names there: those of an archive, where pictures such as .png are not
+/// among them, and those of a GeoPackage, the oldest first. None for other files.
 QStringList RastersWithin(const QString& path);
 
 /// Why GDAL cannot read files with that suffix, as part of a sentence: the program has no driver for their

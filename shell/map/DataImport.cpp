@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/DataImport.h"
 
+#include "mapkit/common/GdalErrors.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/data/OpenSource.h"
 #include "mapkit/data/RasterSource.h"
+#include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/DataFiles.h"
 #include "mapkit/files/OpenedData.h"
@@ -126,6 +128,28 @@ QString TakeRaster(const QString& path, const QString& member, FoundData& data, 
     }
 }
 
+// The rasters within a file. Raises if finding them takes too long.
+QStringList RastersIn(const QString& path)
+{
+    const GdalErrors quiet;
+    const ReadingBound bound;
+    QStringList rasters = RastersWithin(path);
+    RequireReadingInTime(path);
+    return rasters;
+}
+
+// hasFeatures: whether some were found. otherwise: the problem with a file that is no raster either.
+void LookForRasters(const QString& path, FoundData& data, bool hasFeatures, const QString& otherwise)
+{
+    const QStringList members = RastersIn(path);
+    for (const QString& member : members)
+        AddProblem(data, path, TakeRaster(path, member, data, otherwise));
+    if (!members.isEmpty() || (hasFeatures && !DataFiles::MayHoldBoth(path)))
+        return;
+    const QString problem = TakeRaster(path, {}, data, otherwise);
+    AddProblem(data, path, hasFeatures ? QString() : problem);
+}
+
 void LookIntoFile(const QString& path, FoundData& data)
 {
     QString problem = QCoreApplication::translate("DataImport", "\"%1\" contains nothing to draw.")
@@ -136,12 +160,10 @@ void LookIntoFile(const QString& path, FoundData& data)
     } catch (const RunTimeError& error) {
         problem = error.Description();
     }
-    const QStringList members = RastersWithin(path);
-    for (const QString& member : members)
-        AddProblem(data, path, TakeRaster(path, member, data, problem));
-    if (members.isEmpty() && (!hasFeatures || DataFiles::MayHoldBoth(path))) {
-        problem = TakeRaster(path, {}, data, problem);
-        AddProblem(data, path, hasFeatures ? QString() : problem);
+    try {
+        LookForRasters(path, data, hasFeatures, problem);
+    } catch (const RunTimeError& error) {
+        AddProblem(data, path, error.Description());
     }
 }
 

@@ -172,6 +172,30 @@ TEST_F(RasterSourceTest, AWorldUpToThePolesFitsIntoWebMercator)
     EXPECT_EQ(image.pixelColor(75, 5), QColor(Qt::blue));
 }
 
+TEST_F(RasterSourceTest, AWorldFromZeroTo360IsDrawnOnBothSidesOfGreenwich)
+{
+    WriteRaster(Path(), {.bands = 3, .transform = {0, 3.6, 0, 90, 0, -1.8}}, Halves);
+    const std::pair<const char*, double> halves[] = {{"EPSG:8857", 17243959}, {"EPSG:3857", 20037508}};
+    for (const auto& [system, half] : halves) {
+        const QImage image = Draw({-half, -half / 2, half, half / 2}, {200, 100}, system);
+        EXPECT_EQ(image.pixelColor(4, 50), QColor(Qt::blue)) << system;
+        EXPECT_EQ(image.pixelColor(90, 50), QColor(Qt::blue)) << system;
+        EXPECT_EQ(image.pixelColor(110, 50), QColor(Qt::red)) << system;
+        EXPECT_EQ(image.pixelColor(196, 50), QColor(Qt::red)) << system;
+    }
+}
+
+TEST_F(RasterSourceTest, APictureOfThePoleReachesTheTopOfWebMercator)
+{
+    WriteRaster(
+        Path(), {.transform = {-4e6, 8e4, 0, 4e6, 0, -8e4}, .system = "EPSG:3413"},
+        [](int, int, int) { return 99; });
+    const Box place = RasterSource(Path()).ExtentIn("EPSG:3857");
+    const QImage image = Draw(place, {200, 100}, "EPSG:3857");
+    for (int x = 0; x < image.width(); ++x)
+        EXPECT_EQ(qAlpha(image.pixel(x, 1)), 255) << x;
+}
+
 TEST_F(RasterSourceTest, ARasterThatIsTurnedHasItsPlaceToo)
 {
     WriteRaster(Path(), {.bands = 3, .transform = {5, 0.05, 0.05, 5, 0.05, -0.05}}, Halves);

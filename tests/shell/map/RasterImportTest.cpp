@@ -2,12 +2,15 @@
 // Rasters among the data that are opened.
 #include "mapkit/DataFolder.h"
 #include "mapkit/RasterFile.h"
+#include "mapkit/RawDatabase.h"
 #include "mapkit/UnnamedFile.h"
 #include "mapkit/ZipFile.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/data/MapRaster.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/files/ReadingBound.h"
 #include "shell/map/ImportPlan.h"
+#include "support/ProcessorTime.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 
@@ -155,14 +158,39 @@ TEST_F(RasterImportTest, EachRasterOfAGeoPackageIsALayerBesideItsFeatures)
     }
 }
 
-TEST_F(RasterImportTest, TheOnlyRasterOfAGeoPackageNeedsNoName)
+TEST_F(RasterImportTest, TheOnlyRasterOfAGeoPackageStaysTheSameBesideALaterOne)
 {
     const QString path = m_folder.Path("photo.gpkg");
     WriteRasterTable(path, "tiles", 50);
     const FoundData data = Found({path});
     ASSERT_EQ(LayerCount(data), 1u) << qPrintable(data.ProblemText());
-    EXPECT_EQ(data.sources[0].layers[0].name, "");
-    EXPECT_EQ(LayerFor(path, data.sources[0].layers[0], 0).name, "photo");
+    EXPECT_EQ(data.sources[0].layers[0].name, "tiles");
+    EXPECT_EQ(LayerFor(path, data.sources[0].layers[0], 0).name, "tiles");
+    WriteRasterTable(path, "later", 150);
+    const SourceContents contents = ReadFound(data, "EPSG:4326", m_progress);
+    ASSERT_EQ(contents.rasters.size(), 1u) << qPrintable(contents.FailureText());
+    const QImage image = contents.rasters.at(0)->Draw({0, 0, 10, 10}, {10, 10}, m_cancelled);
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(50, 50, 50));
+}
+
+TEST_F(RasterImportTest, AGeoPackageWhoseRastersAreCountedWithoutAnEndIsGivenUpByName)
+{
+    const QString path = m_folder.Path("photo.gpkg");
+    WriteRasterTable(path, "tiles", 50);
+    {
+        RawDatabase file(path);
+        file.Run("DROP TABLE gpkg_tile_matrix_set");
+        file.Run("CREATE VIEW gpkg_tile_matrix_set AS"
+                 " WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                 " SELECT 'x' || i AS table_name, 4326 AS srs_id, 0 AS min_x, 0 AS min_y, 9 AS max_x,"
+                 " 9 AS max_y FROM n");
+    }
+    const ProcessorTime time{std::chrono::seconds(20)};
+    const ReadingBound soon(std::chrono::milliseconds(200));
+    const FoundData data = Found({path});
+    ASSERT_EQ(data.problems.size(), 1u) << qPrintable(data.ProblemText());
+    EXPECT_TRUE(data.problems[0].text.contains("photo.gpkg")) << qPrintable(data.ProblemText());
+    EXPECT_TRUE(data.problems[0].text.contains("takes too long")) << qPrintable(data.ProblemText());
 }
 
 TEST_F(RasterImportTest, ARasterThatIsNotInItsGeoPackageIsNotReplacedByAnother)
