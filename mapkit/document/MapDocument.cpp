@@ -5,6 +5,7 @@
 #include "hostkit/common/StoredScale.h"
 #include "mapkit/document/EarlierBackdrop.h"
 #include "mapkit/document/MapSettings.h"
+#include "mapkit/looks/LayerPriority.h"
 #include "store/ILayerStore.h"
 #include "store/opening/LayerStores.h"
 
@@ -15,12 +16,6 @@
 #include <QFileInfo>
 
 namespace Orvane {
-
-namespace {
-
-constexpr int LowestPriority = 255;
-
-} // namespace
 
 NewLayer NewLayer::OfRaster()
 {

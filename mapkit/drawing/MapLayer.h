@@ -6,6 +6,7 @@
 #include "mapkit/data/MapRaster.h"
 #include "mapkit/looks/Classification.h"
 #include "mapkit/looks/LayerLook.h"
+#include "mapkit/looks/LayerPriority.h"
 
 #include <QString>
 
@@ -19,7 +20,7 @@ namespace Orvane {
 /// How a layer is drawn in the map, as stored in Layers.OverrideMode.
 enum class DrawMode {
     Normal = 0,
-    Backdrop = 1, ///< pale, and below every normal layer
+    Backdrop = 1, ///< pale, and below every normal layer but rasters of the lowest priority
     Hidden = 2, ///< not drawn
 };
 
@@ -40,7 +41,7 @@ struct MapLayer {
     qint32 layerID = 0;
     bool visible = true;
     DrawMode mode = DrawMode::Normal;
-    int priority = 0; ///< 1 is drawn on top, 255 at the bottom
+    int priority = 0; ///< 1 is drawn on top, LowestPriority at the bottom
     double minDenominator = 0; ///< shown at scales from 1 : this ...
     double maxDenominator = std::numeric_limits<double>::infinity(); ///< ... to 1 : this
     DrawingValues values;
@@ -73,8 +74,14 @@ struct MapLayer {
     {
         return visible && mode != DrawMode::Hidden && IsRead() && IsInScale(denominator);
     }
+    /// True for a raster of the lowest priority: it lies below all other layers, because it would hide them.
+    /// One in the mode Backdrop is pale, and lies above it.
+    bool IsGround() const { return raster && mode != DrawMode::Backdrop && priority >= LowestPriority; }
     /// A key that sorts layers in drawing order, the lowest first.
-    auto Height() const { return std::tuple(mode != DrawMode::Backdrop, -priority, layerID); }
+    auto Height() const
+    {
+        return std::tuple(!IsGround(), mode != DrawMode::Backdrop, -priority, !raster, layerID);
+    }
 
     /// True when both layers would be drawn identically.
     bool LooksLike(const MapLayer& other) const

@@ -97,11 +97,14 @@ std::vector<Sheet> PlanSheets(
         return a.Height() < b.Height();
     });
 
+    const auto aboveGround
+        = std::find_if(drawn.begin(), drawn.end(), [](const MapLayer& layer) { return !layer.IsGround(); });
     const auto firstNormal = std::find_if(
-        drawn.begin(), drawn.end(), [](const MapLayer& layer) { return layer.mode != DrawMode::Backdrop; });
+        aboveGround, drawn.end(), [](const MapLayer& layer) { return layer.mode != DrawMode::Backdrop; });
     const size_t perSheet = (drawn.size() + maxSheets - 1) / maxSheets;
     std::vector<Sheet> sheets;
-    AppendSheets(sheets, {drawn.begin(), firstNormal}, true, perSheet);
+    AppendSheets(sheets, {drawn.begin(), aboveGround}, false, perSheet);
+    AppendSheets(sheets, {aboveGround, firstNormal}, true, perSheet);
     AppendSheets(sheets, {firstNormal, drawn.end()}, false, perSheet);
     return sheets;
 }

@@ -40,7 +40,8 @@ struct SheetImage {
     std::map<qint32, QString> failures = {}; ///< why a raster could not be drawn, by layer ID
 };
 
-/// The sheets of a map, bottom first: backdrop layers below normal ones, then by priority, then by layer ID.
+/// The sheets of a map, bottom first: rasters of the lowest priority, then backdrop layers, then normal ones;
+/// among them by priority, then rasters below features, then by layer ID.
 /// Layers that are invisible, hidden, out of scale, out of view or not read are left out. There are at most
 /// about maxSheets sheets for any number of layers, which limits the memory that they use. Labels are on
 /// separate sheets above all layers; those of backdrop layers are directly above the backdrop.

@@ -14,7 +14,6 @@ namespace Orvane {
 
 namespace {
 
-constexpr int MaximumPriority = 255;
 constexpr qsizetype FewLayers = 64; // from here on reading all rows at once is faster
 
 // A column that is null or holds no number counts as the value given: the rest of the map is drawn.
@@ -230,7 +229,7 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
     layer.visible = WholeOr(row, "Visible", 1) != 0;
     layer.flags = FlagsOfRow(row);
     layer.mode = ModeOfRow(row);
-    layer.priority = WholeOr(row, "Priority", MaximumPriority);
+    layer.priority = WholeOr(row, "Priority", LowestPriority);
     const double minimum = NumberOr(row, "MinVisScale", 0);
     layer.minDenominator = minimum < StoredScale::BeyondAllScales ? minimum : StoredScale::NoLimit;
     const double limit = NumberOr(row, "MaxVisScale", 0);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/drawing/Sheets.h"
 
+#include "mapkit/DataFolder.h"
 #include "mapkit/Drawings.h"
+#include "mapkit/RasterFile.h"
 
 #include <QPainter>
 
@@ -33,6 +35,19 @@ MapLayer Layer(qint32 layerID, int priority = 128)
     return FilledLayer(layerID, Qt::blue, Area(20, 20, 60, 60), priority);
 }
 
+MapLayer RasterLayer(const DataFolder& folder, qint32 layerID, int priority = LowestPriority)
+{
+    const QString path = folder.Path("photo.tif");
+    WriteRaster(
+        path, {.bands = 3, .transform = {0, 1, 0, 100, 0, -1}, .system = nullptr},
+        [](int, int, int band) { return band == 2 ? 255 : 0; });
+    MapLayer layer;
+    layer.layerID = layerID;
+    layer.priority = priority;
+    layer.raster = std::make_shared<const MapRaster>(LayerSource{layerID, path, {}, {}}, QString());
+    return layer;
+}
+
 QImage Picture(const std::vector<MapLayer>& layers, size_t maxSheets = 64)
 {
     QImage image(View.Size(), QImage::Format_RGB32);
@@ -61,6 +76,32 @@ TEST(Sheets, BackdropLayersLieBelowAllOthers)
     MapLayer backdrop = Layer(1, 1);
     backdrop.mode = DrawMode::Backdrop;
     EXPECT_THAT(IDsOf({backdrop, Layer(2, 255)}), ElementsAre(1, 2));
+}
+
+TEST(Sheets, ARasterOfTheLowestPriorityLiesBelowAllFeatures)
+{
+    const DataFolder folder;
+    MapLayer backdrop = Layer(1, 200);
+    backdrop.mode = DrawMode::Backdrop;
+    const std::vector<MapLayer> layers = {RasterLayer(folder, 9), backdrop, Layer(2, LowestPriority)};
+    EXPECT_THAT(IDsOf(layers), ElementsAre(9, 1, 2));
+    EXPECT_EQ(Picture(layers).pixelColor(5, 5), QColor(Qt::green)) << "not pale";
+    EXPECT_NE(Picture({layers[0], backdrop}).pixelColor(40, 60), QColor(Qt::green))
+        << "the pale layer is seen";
+}
+
+TEST(Sheets, ARasterOfAnyPriorityLiesBelowFeaturesOfTheSame)
+{
+    const DataFolder folder;
+    EXPECT_THAT(IDsOf({RasterLayer(folder, 9, 100), Layer(1, 100), Layer(2, 200)}), ElementsAre(2, 9, 1));
+}
+
+TEST(Sheets, ARasterThatIsABackdropIsSeenAboveOneThatIsNot)
+{
+    const DataFolder folder;
+    MapLayer backdrop = RasterLayer(folder, 1);
+    backdrop.mode = DrawMode::Backdrop;
+    EXPECT_THAT(IDsOf({RasterLayer(folder, 9), backdrop, Layer(2)}), ElementsAre(9, 1, 2));
 }
 
 TEST(Sheets, HiddenAndInvisibleLayersAreLeftOut)
