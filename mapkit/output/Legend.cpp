@@ -54,6 +54,7 @@ LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
     LegendRow row = layer;
     const qint32 colour = BgrFromQColor(look.colour);
     row.values.fillForeColor = colour;
+    row.look.fill = look.fill;
     row.look.symbol = look.colour;
     if (row.look.cased)
         row.look.cased->core.setColor(look.colour);
@@ -61,6 +62,15 @@ LegendRow RowOfClass(const LegendRow& layer, const ClassLook& look)
         row.values.color = colour;
         row.look.outline.setColor(look.colour);
     }
+    return row;
+}
+
+// Features in no class are filled plainly, whatever the pattern of the others.
+LegendRow RowOfUnclassed(const LegendRow& layer, const MapLayer& drawn)
+{
+    LegendRow row = RowOfClass(layer, UnclassedLook(drawn.values));
+    if (row.look.fill.style() != Qt::NoBrush)
+        row.values.fillStyle = SolidFill;
     return row;
 }
 
@@ -82,8 +92,8 @@ void AddClasses(std::vector<LegendRow>& rows, const LegendRow& row, const MapLay
     for (size_t i = 0; i < std::min(texts.size(), layer.classLooks.size()); ++i)
         rows.push_back(RowBelow(texts[i], RowOfClass(row, layer.classLooks[i])));
     if (layer.classes->HasUnclassed())
-        rows.push_back(RowBelow(
-            QCoreApplication::translate("Legend", "No data"), RowOfClass(row, UnclassedLook(layer.values))));
+        rows.push_back(
+            RowBelow(QCoreApplication::translate("Legend", "No data"), RowOfUnclassed(row, layer)));
 }
 
 // Adds the layer's row, and below it the rows of its classes.

@@ -4,7 +4,13 @@
 #include "hostkit/StandardShellServices.h"
 #include "mapkit/Drawings.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/output/LegendSample.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
+
+#include <OrvaneShellLib/LayerValues.h>
+
+#include <QImage>
+#include <QPainter>
 
 #include <gmock/gmock.h>
 
@@ -46,6 +52,35 @@ protected:
                 (row.heading ? "# " : std::string(size_t(row.indent), '-') + (row.indent ? " " : ""))
                 + row.text.toStdString());
         return texts;
+    }
+
+    // The last layer becomes one of areas in two classes, with a feature in neither.
+    void Classify(int fillStyle)
+    {
+        MapLayer& layer = m_layers.back();
+        layer.values.fillStyle = fillStyle;
+        layer.values.fillForeColor = TransparentColour;
+        layer.values.fillBackColor = TransparentColour;
+        layer.look = LookOf(layer.values, m_services, 4);
+        const std::vector<double> numbers{1, std::numeric_limits<double>::quiet_NaN(), 20};
+        layer.classes = std::make_shared<const Classification>(numbers, ClassDivision::EqualSteps, 2);
+        layer.classLooks = ClassLooksOf(layer.values, {}, m_services, 2);
+    }
+
+    // The colour in the middle of each row's sample; white for none.
+    std::vector<QColor> Samples() const
+    {
+        std::vector<QColor> colours;
+        for (const LegendRow& row : Rows()) {
+            QImage image(48, 28, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            if (row.sample)
+                PaintLegendSample(painter, image.rect(), row);
+            painter.end();
+            colours.push_back(image.pixelColor(24, 14));
+        }
+        return colours;
     }
 
     const std::unique_ptr<MapDocument> m_document = MapDocument::Untitled();
@@ -152,6 +187,31 @@ TEST_F(LegendTest, TheAttributeStandsAboveItsClassesAndFeaturesWithoutDataBelow)
         Texts(), ElementsAre("Countries", "- population", "- 1.0 – 10.5", "- 10.5 – 20.0", "- No data"));
     EXPECT_FALSE(Rows()[1].sample);
     EXPECT_EQ(ColourFromBgr(Rows()[4].values.fillForeColor), UnclassedLook(layer.values).colour);
+}
+
+TEST_F(LegendTest, ClassesOfATransparentFillShowWhatTheMapFillsThemWith)
+{
+    Add("Countries");
+    Classify(SolidFill);
+    const std::vector<ClassLook>& looks = m_layers.back().classLooks;
+    const QColor grey = UnclassedLook(m_layers.back().values).colour;
+    EXPECT_THAT(Samples(), ElementsAre(Qt::white, looks[0].colour, looks[1].colour, grey));
+}
+
+TEST_F(LegendTest, FeaturesWithoutDataHaveAPlainFillBesideAPattern)
+{
+    constexpr int Pattern = 5;
+    Add("Countries");
+    Classify(Pattern);
+    EXPECT_EQ(Samples().back(), UnclassedLook(m_layers.back().values).colour);
+    EXPECT_EQ(Rows().back().values.fillStyle, SolidFill);
+}
+
+TEST_F(LegendTest, ClassesOfAHollowFillStayHollow)
+{
+    Add("Countries");
+    Classify(HollowFill);
+    EXPECT_THAT(Samples(), testing::Each(QColor(Qt::white)));
 }
 
 TEST_F(LegendTest, TheClassesOfLinesDifferInTheirColour)
