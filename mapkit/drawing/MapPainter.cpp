@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/drawing/MapPainter.h"
 
+#include "mapkit/drawing/PainterState.h"
 #include "mapkit/drawing/Sheets.h"
-
-#include <QPainter>
 
 namespace Orvane {
 
@@ -13,14 +12,13 @@ void PaintSheets(
     QPainter& painter, std::vector<Sheet> sheets, const MapView& view, const std::atomic<bool>& cancelled,
     const QColor& background)
 {
-    painter.save();
+    const PainterState before(painter);
     painter.setClipRect(QRectF({0, 0}, QSizeF(view.Size())), Qt::IntersectClip);
     for (Sheet& sheet : sheets) {
         sheet.background = background;
         painter.setOpacity(SheetOpacity(sheet));
         PaintSheet(painter, sheet, view, cancelled);
     }
-    painter.restore();
 }
 
 } // namespace

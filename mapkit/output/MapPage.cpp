@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/GroundScale.h"
 #include "mapkit/drawing/MapPainter.h"
 #include "mapkit/drawing/MapView.h"
+#include "mapkit/drawing/PainterState.h"
 #include "mapkit/drawing/ScaleText.h"
 #include "mapkit/drawing/Sheets.h"
 #include "mapkit/output/PageFonts.h"
@@ -117,7 +118,7 @@ MapView MapPage::ViewFor(const PageLayout& layout) const
 
 void MapPage::Paint(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
-    painter.save();
+    const PainterState before(painter);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(QRectF({0, 0}, m_layout.page), Qt::white);
     PaintMapFrame(painter, cancelled);
@@ -127,16 +128,16 @@ void MapPage::Paint(QPainter& painter, const std::atomic<bool>& cancelled) const
         LegendBlock(m_legend, LegendPlace(m_settings)).Paint(painter, m_layout.legend);
     if (m_settings.scaleBar)
         PaintScaleBar(painter);
-    painter.restore();
 }
 
 void MapPage::PaintMapFrame(QPainter& painter, const std::atomic<bool>& cancelled) const
 {
-    painter.save();
-    painter.fillRect(m_layout.map, m_contents.background);
-    painter.translate(m_layout.map.topLeft());
-    PaintLayers(painter, cancelled);
-    painter.restore();
+    {
+        const PainterState before(painter);
+        painter.fillRect(m_layout.map, m_contents.background);
+        painter.translate(m_layout.map.topLeft());
+        PaintLayers(painter, cancelled);
+    }
     if (m_settings.margin <= 0)
         return;
     if (!KnowsPatterns(painter))

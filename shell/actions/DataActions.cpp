@@ -64,11 +64,12 @@ void DataActions::ShowProblems(const QString& problems)
 void DataActions::Use(MapSession& session)
 {
     m_session = &session;
-    // Queued: saving the map under another name ends the session that emits the signal.
+    // Queued: saving the map under another name ends the session that emits the signal. A session that has
+    // ended has nothing to tell any more.
     connect(
-        &session, &MapSession::DataFailed, this,
-        [this](const QString& reason) {
-            LongWork::RunAfter(this, [this, reason] { Guard(&m_window, [&] { ShowProblems(reason); }); });
+        &session, &MapSession::DataFailed, &session,
+        [this, &session](const QString& reason) {
+            LongWork::RunAfter(&session, [this, reason] { Guard(&m_window, [&] { ShowProblems(reason); }); });
         },
         Qt::QueuedConnection);
     connect(

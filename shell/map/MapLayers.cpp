@@ -112,6 +112,7 @@ void MapLayers::DropFeatures(qint32 layerID)
 {
     m_features.erase(layerID);
     m_rasters.erase(layerID);
+    m_damaged.erase(layerID);
     m_unreadable.remove(layerID);
 }
 
@@ -119,6 +120,7 @@ void MapLayers::DropAllFeatures()
 {
     m_features.clear();
     m_rasters.clear();
+    m_damaged.clear();
     m_unreadable.clear();
 }
 
@@ -126,13 +128,14 @@ void MapLayers::DropAllFeatures()
 void MapLayers::DropFeaturesExcept(const QSet<qint32>& withSource)
 {
     std::vector<qint32> gone;
-    gone.reserve(m_features.size() + m_rasters.size());
+    gone.reserve(m_features.size() + m_rasters.size() + m_damaged.size());
     const auto add = [&](const auto& entry) {
         if (!withSource.contains(entry.first))
             gone.push_back(entry.first);
     };
     std::for_each(m_features.begin(), m_features.end(), add);
     std::for_each(m_rasters.begin(), m_rasters.end(), add);
+    std::for_each(m_damaged.begin(), m_damaged.end(), add);
     for (const qint32 layerID : gone) {
         DropFeatures(layerID);
         m_attributes.Forget(layerID);
@@ -173,11 +176,34 @@ void MapLayers::TakeFeatures(const SourceContents& contents)
     FitAttributes();
 }
 
+void MapLayers::LeaveOut(const QSet<qint32>& damaged)
+{
+    for (const qint32 layerID : damaged) {
+        if (auto raster = m_rasters.extract(layerID)) {
+            m_damaged.insert(std::move(raster));
+            m_unreadable.insert(layerID);
+        }
+    }
+    for (MapLayer& layer : m_layers)
+        FitData(layer);
+}
+
+std::vector<MapLayer> MapLayers::WithDamaged() const
+{
+    std::vector<MapLayer> layers = m_layers;
+    for (MapLayer& layer : layers) {
+        if (m_damaged.contains(layer.layerID))
+            layer.raster = DataOf(m_damaged, layer.layerID);
+    }
+    return layers;
+}
+
 std::vector<LayerSource> MapLayers::MissingSources() const
 {
     std::vector<LayerSource> sources = m_document.Sources();
     std::erase_if(sources, [&](const LayerSource& source) {
-        return m_features.contains(source.layerID) || m_rasters.contains(source.layerID);
+        return m_features.contains(source.layerID) || m_rasters.contains(source.layerID)
+            || m_damaged.contains(source.layerID);
     });
     return sources;
 }

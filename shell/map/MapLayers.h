@@ -42,6 +42,11 @@ public:
     /// Takes over the features and rasters that were read, and the layers that could not be read; those of
     /// other layers stay.
     void TakeFeatures(const SourceContents& contents);
+    /// Leaves the rasters of these layers out of All, because they turned out to be damaged. Such a layer
+    /// counts as unreadable, and its data as read: not as missing.
+    void LeaveOut(const QSet<qint32>& damaged);
+    /// All, with the rasters that were left out: for a page, which must not lack a layer without an error.
+    std::vector<MapLayer> WithDamaged() const;
     /// The sources of layers that have no features or raster yet.
     std::vector<LayerSource> MissingSources() const;
     /// The layers whose source could not be read when it was last tried.
@@ -69,6 +74,7 @@ private:
     std::vector<MapLayer> m_layers;
     std::map<qint32, std::shared_ptr<const FeatureSet>> m_features;
     std::map<qint32, std::shared_ptr<const MapRaster>> m_rasters;
+    std::map<qint32, std::shared_ptr<const MapRaster>> m_damaged; // that were left out
     std::map<qint32, LayerSource> m_sources; // known so far; also of deleted layers
     QSet<qint32> m_unreadable;
     LayerAttributes m_attributes;

@@ -167,13 +167,23 @@ void MapSession::TakeFeatures(const SourceContents& contents)
     Show();
 }
 
-// The picture has found damage in a raster that could be opened.
-void MapSession::TakeFailure(qint32 layerID, const QString& reason)
+// The picture has found damage in rasters that could be opened.
+void MapSession::TakeFailures()
 {
-    SourceContents contents;
-    contents.failures.emplace(layerID, reason);
-    TakeFeatures(contents);
-    emit DataFailed(reason);
+    if (m_canvas.Picture().IsBusy()) // its end leads here again
+        return;
+    QSet<qint32> layerIDs;
+    SourceContents toTell;
+    for (const auto& [layerID, reason] : std::exchange(m_failures, {})) {
+        layerIDs.insert(layerID);
+        const std::optional<LayerSource> source = m_document->SourceOf(layerID);
+        if (source && m_damaged.emplace(source->path, source->ogrLayer).second)
+            toTell.failures.emplace(layerID, reason);
+    }
+    m_layers.LeaveOut(layerIDs);
+    Show();
+    if (!toTell.failures.empty())
+        emit DataFailed(toTell.FailureText());
 }
 
 void MapSession::Connect()
@@ -204,10 +214,7 @@ void MapSession::Connect()
         });
     });
     connect(&m_follower, &SourceFollower::MapFileGone, this, &MapSession::MapFileGone);
-    connect(
-        &m_canvas.Picture(), &MapPicture::LayerFailed, this, [this](qint32 layerID, const QString& reason) {
-            Guard(&m_mainWindow, [&] { TakeFailure(layerID, reason); });
-        });
+    ConnectPicture();
     const HostNotifications& events = m_client.Notifications();
     connect(&events, &HostNotifications::LayersChanged, this, &MapSession::DrawAgain);
     connect(&m_client.History(), &UndoHistory::Changed, this, [this] { // a step may have stored another one
@@ -215,6 +222,25 @@ void MapSession::Connect()
     });
     connect(&events, &HostNotifications::StepNotRecorded, this, &MapSession::StepNotRecorded);
     ConnectLayerNews(events);
+}
+
+void MapSession::ConnectPicture()
+{
+    const MapPicture& picture = m_canvas.Picture();
+    m_failSoon.setSingleShot(true);
+    connect(&picture, &MapPicture::LayerFailed, this, [this](qint32 layerID, const QString& reason) {
+        if (!m_isShown) // a layer of the map before
+            return;
+        Guard(&m_mainWindow, [&] { m_failures.insert_or_assign(layerID, reason); });
+        m_failSoon.start();
+    });
+    connect(&picture, &MapPicture::BusyChanged, this, [this](bool busy) {
+        if (!busy && !m_failures.empty())
+            m_failSoon.start();
+    });
+    connect(&m_failSoon, &QTimer::timeout, this, [this] {
+        LongWork::RunAfter(this, [this] { Guard(&m_mainWindow, [this] { TakeFailures(); }); });
+    });
 }
 
 // One step may create, rename or delete thousands of layers, and reports each.
@@ -314,6 +340,7 @@ void MapSession::FollowRenderings()
 
 void MapSession::FollowLayers()
 {
+    m_isShown = true;
     MarkNames();
     m_attributes.Load(m_layers.MissingAttributes());
 }

@@ -19,6 +19,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace Orvane {
@@ -42,6 +43,8 @@ public:
     MapDocument& Document() { return *m_document; }
     /// The layers as they are drawn.
     const std::vector<MapLayer>& Layers() const { return m_layers.All(); }
+    /// The same for a page, with the rasters that are not drawn because of damage: painting these raises.
+    std::vector<MapLayer> LayersForPage() const { return m_layers.WithDamaged(); }
     /// The client itself.
     ShellClient& Shell() { return m_client; }
     /// What to pass to the component: the client, traced when there is a trace.
@@ -86,7 +89,7 @@ public:
 signals:
     /// The map's file is no longer at its path; the open map can still be saved under another name.
     void MapFileGone();
-    /// Data that were shown cannot be read any more.
+    /// Data that were shown cannot be read any more, as lines of text. Each damaged raster is named once.
     void DataFailed(const QString& reason);
     /// A change was stored, but cannot be undone.
     void StepNotRecorded(const QString& reason);
@@ -101,7 +104,8 @@ private:
     void ConnectLayerNews(const HostNotifications& events);
     void ReadNews();
     void FollowSystems();
-    void TakeFailure(qint32 layerID, const QString& reason);
+    void ConnectPicture();
+    void TakeFailures();
     void ReadRows();
     // Reads what contents lacks. Returns why the reading was given up; empty if it was not.
     QString ReadMissing(SourceContents& contents) const;
@@ -125,10 +129,14 @@ private:
     std::unique_ptr<TracingClient> m_traced;
     SourceFollower m_follower;
     bool m_isRead = false; // at least once
+    bool m_isShown = false; // the canvas has the layers of this map
+    std::map<qint32, QString> m_failures; // of rasters, that the picture has found since the last were told
+    std::set<std::pair<QString, QString>> m_damaged; // path and layer of those that were told
     QString m_system; // that the map is shown in
     std::map<qint32, QString> m_chosenReadings; // of the layers, as they are shown
     std::map<qint32, LayerRendering> m_renderings; // the same
     QTimer m_followSoon; // gathers the many changes of the history
+    QTimer m_failSoon; // gathers the rasters of one picture
     QTimer m_markSoon; // gathers the many steps of a zoom
     QTimer m_readSoon; // gathers the many layers of a step
     QSet<qint32> m_newsOf; // layers that were renamed or deleted since they were read

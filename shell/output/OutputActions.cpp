@@ -100,7 +100,8 @@ void OutputActions::PrintMap()
     preview.resize(SizeOf(preview));
     const PageSettings settings = dialog.Settings();
     connect(&preview, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter* paper) {
-        Guard(&m_window, [&] { Paint(*paper, settings); });
+        if (!Guard(&m_window, [&] { Paint(*paper, settings); }))
+            QMetaObject::invokeMethod(&preview, &QDialog::reject, Qt::QueuedConnection);
     });
     preview.exec();
 }
@@ -123,7 +124,7 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
     return {
         document.Database(),
         m_services,
-        {m_canvas.Layers(), document.System(), m_canvas.View().Extent(), document.Background()},
+        {m_session->LayersForPage(), document.System(), m_canvas.View().Extent(), document.Background()},
         settings};
 }
 

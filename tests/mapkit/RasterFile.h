@@ -52,6 +52,15 @@ WriteRaster(const QString& path, const RasterSpec& spec, const std::function<dou
     }
 }
 
+/// Writes a GeoTIFF from 0 to 10 degrees that can be opened, but not drawn as a whole: its end is cut off.
+inline void WriteDamagedRaster(const QString& path)
+{
+    WriteRaster(
+        path, {.width = 400, .height = 400, .bands = 3, .transform = {0, 0.025, 0, 10, 0, -0.025}},
+        [](int, int, int) { return 9; });
+    EXPECT_TRUE(QFile::resize(path, 100000));
+}
+
 /// Writes a raster of that value into a table of a GeoPackage, which is made if it does not exist.
 inline void WriteRasterTable(const QString& path, const char* table, int value)
 {

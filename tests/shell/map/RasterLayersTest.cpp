@@ -9,6 +9,7 @@
 #include "shell/map/MapSession.h"
 #include "store/ILayerStore.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QSignalSpy>
 #include <QTest>
@@ -76,6 +77,11 @@ protected:
             return !m_canvas.Picture().IsBusy() && m_canvas.Picture().ImageView() == m_canvas.View();
         }));
         return m_canvas.grab().toImage();
+    }
+    // Until the raster is left out because of its damage.
+    bool WaitForMarks()
+    {
+        return QTest::qWaitFor([&] { return !m_canvas.Picture().IsBusy() && !RasterLayer().raster; });
     }
     QColor Middle() { return Drawn().pixelColor(100, 100); }
 
@@ -223,13 +229,10 @@ TEST_F(RasterLayersTest, AreReadAgainWhenTheFileChanges)
 
 TEST_F(RasterLayersTest, OneThatIsDamagedIsToldOnceAndTheOthersAreDrawn)
 {
-    WriteRaster(
-        m_photo, {.width = 1000, .height = 1000, .bands = 3, .transform = {0, 0.01, 0, 10, 0, -0.01}},
-        [](int, int, int) { return 9; });
-    ASSERT_TRUE(QFile::resize(m_photo, 300000));
+    WriteDamagedRaster(m_photo);
     Show(SquareOnPhoto("map.orvane"));
     QSignalSpy failed(m_session.get(), &MapSession::DataFailed);
-    Drawn();
+    ASSERT_TRUE(WaitForMarks());
     m_canvas.ZoomIn();
     Drawn();
     ASSERT_EQ(failed.count(), 1);
@@ -238,6 +241,65 @@ TEST_F(RasterLayersTest, OneThatIsDamagedIsToldOnceAndTheOthersAreDrawn)
     const Box bounds = m_canvas.Layers()[0].features->Bounds();
     const QPoint edge = m_canvas.View().ToPixel({bounds.minX, bounds.maxY / 2}).toPoint();
     EXPECT_EQ(Drawn().pixelColor(edge), QColor(Qt::red));
+}
+
+TEST_F(RasterLayersTest, SeveralThatAreDamagedAreToldTogether)
+{
+    WriteDamagedRaster(m_photo);
+    auto document = SquareOnPhoto("map.orvane");
+    for (const char* name : {"second.tif", "third.tif"}) {
+        WriteDamagedRaster(m_folder.Path(name));
+        Add(*document, m_folder.Path(name));
+    }
+    Show(std::move(document));
+    QSignalSpy failed(m_session.get(), &MapSession::DataFailed);
+    ASSERT_TRUE(WaitForMarks());
+    ASSERT_EQ(failed.count(), 1);
+    for (const char* name : {"photo.tif", "second.tif", "third.tif"})
+        EXPECT_TRUE(failed[0][0].toString().contains(name)) << name;
+}
+
+TEST_F(RasterLayersTest, OneThatIsDamagedIsNotToldAgainWhenTheMapIsReadAgain)
+{
+    WriteDamagedRaster(m_photo);
+    Show(SquareOnPhoto("map.orvane"));
+    QSignalSpy failed(m_session.get(), &MapSession::DataFailed);
+    ASSERT_TRUE(WaitForMarks());
+    m_session->ReadAndShow();
+    EXPECT_FALSE(RasterLayer().raster) << "it is not drawn again in vain";
+    m_session->Document().SetSystem("EPSG:4326");
+    m_session->ReadAndShow();
+    EXPECT_TRUE(RasterLayer().raster) << "it may be whole in the other system's view";
+    m_canvas.ZoomToAll();
+    ASSERT_TRUE(WaitForMarks());
+    EXPECT_EQ(failed.count(), 1);
+}
+
+TEST_F(RasterLayersTest, DamageInTheMapBeforeIsNotToldOfTheNextOne)
+{
+    WriteDamagedRaster(m_photo);
+    Show(SquareOnPhoto("map.orvane"));
+    m_session.reset();
+    auto other = Square("other.orvane");
+    WriteRaster(m_folder.Path("whole.tif"), {}, [](int, int, int) { return 9; });
+    Add(*other, m_folder.Path("whole.tif")); // with the ID of the damaged one
+    m_session = std::make_unique<MapSession>(std::move(other), m_canvas, m_canvas, nullptr);
+    QSignalSpy drawn(&m_canvas.Picture(), &MapPicture::LayerFailed);
+    QSignalSpy failed(m_session.get(), &MapSession::DataFailed);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return drawn.count() == 1 && !m_canvas.Picture().IsBusy(); }));
+    m_session->ReadAndShow();
+    Drawn();
+    QApplication::processEvents();
+    EXPECT_EQ(failed.count(), 0);
+}
+
+TEST_F(RasterLayersTest, APageStillHasTheDamagedOnes)
+{
+    WriteDamagedRaster(m_photo);
+    Show(SquareOnPhoto("map.orvane"));
+    ASSERT_TRUE(WaitForMarks());
+    EXPECT_FALSE(m_session->Layers().back().raster);
+    EXPECT_TRUE(m_session->LayersForPage().back().raster);
 }
 
 TEST_F(RasterLayersTest, OneThatHasNoPlaceInTheMapsSystemIsNamed)

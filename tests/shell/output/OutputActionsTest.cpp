@@ -2,9 +2,12 @@
 #include "shell/output/OutputActions.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/RasterFile.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
+#include "shell/map/MapSession.h"
 #include "shell/output/PageDialog.h"
+#include "store/ILayerStore.h"
 #include "support/MessageBoxRobot.h"
 
 #include <QAction>
@@ -113,6 +116,20 @@ protected:
     }
     ~OutputActionsTest() override { QSettings().clear(); }
 
+    // Returns when the window has told the damage.
+    void AddDamagedRaster()
+    {
+        WriteDamagedRaster(m_folder.Path("photo.tif"));
+        NewLayer raster = NewLayer::OfRaster();
+        raster.name = "Photo";
+        raster.path = m_folder.Path("photo.tif");
+        m_window->Document().AddLayer(raster);
+        MessageBoxRobot told{BoxKey::Enter};
+        m_window->Session().ReadAndShow(MapSession::View::All);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return told.Boxes().size() == 1; }));
+        EXPECT_TRUE(told.Only().text.contains("photo.tif"));
+    }
+
     void Trigger(const char* action) const { m_window->findChild<QAction*>(action)->trigger(); }
 
     DataFolder m_folder;
@@ -170,6 +187,39 @@ TEST_F(OutputActionsTest, WhatCannotBeWrittenIsTold)
     Trigger("actExport");
     EXPECT_TRUE(reader.Only().text.contains("town.gif")) << reader.Only().text.toStdString();
     EXPECT_FALSE(blocked.exists());
+}
+
+TEST_F(OutputActionsTest, AMapWithADamagedRasterIsNotExportedAndTheRasterIsNamed)
+{
+    AddDamagedRaster();
+    QSettings().setValue("Output/Resolution", 50);
+    for (const char* name : {"town.png", "town.pdf"}) {
+        MessageBoxRobot told{BoxKey::Enter};
+        const User user(m_folder.Path(name));
+        Trigger("actExport");
+        EXPECT_TRUE(told.Only().text.contains("photo.tif")) << qPrintable(told.Only().text);
+        EXPECT_FALSE(QFile::exists(m_folder.Path(name)));
+    }
+}
+
+TEST_F(OutputActionsTest, AMapWithADamagedRasterIsNotPrintedAndTheRasterIsNamed)
+{
+    AddDamagedRaster();
+    MessageBoxRobot told{BoxKey::Enter};
+    const User user;
+    Trigger("actPrint");
+    EXPECT_TRUE(told.Only().text.contains("photo.tif")) << qPrintable(told.Only().text);
+}
+
+TEST_F(OutputActionsTest, AMapWithAHiddenDamagedRasterIsExported)
+{
+    AddDamagedRaster();
+    m_window->Document().Database().Execute("UPDATE Layers SET Visible = 0 WHERE Name = 'Photo'");
+    m_window->Session().ReadAndShow();
+    QSettings().setValue("Output/Resolution", 50);
+    const User user(m_folder.Path("town.png"));
+    Trigger("actExport");
+    EXPECT_TRUE(QFile::exists(m_folder.Path("town.png")));
 }
 
 TEST_F(OutputActionsTest, PrintingShowsAPreviewOfOnePage)
