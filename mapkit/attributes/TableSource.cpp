@@ -9,6 +9,7 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/GeometryKinds.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/files/GdalSetup.h"
 #include "mapkit/files/OpenedData.h"
 #include "mapkit/files/ReadingBound.h"
@@ -85,7 +86,8 @@ private:
 TableSource::TableSource(const LayerSource& source)
     : m_path(source.path), m_filter(source.filter), m_choice(source.choice)
 {
-    const QString whyNot = WhyNotOpened(m_path);
+    const QString noFile = WhyNoFile(source);
+    const QString whyNot = noFile.isEmpty() ? WhyNotOpened(m_path) : noFile;
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnreadable, whyNot);
     const GdalErrors errors;

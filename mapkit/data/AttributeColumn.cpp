@@ -2,7 +2,7 @@
 #include "mapkit/data/AttributeColumn.h"
 
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/DataSource.h"
+#include "mapkit/data/SourceAttributes.h"
 #include "mapkit/files/ReadingBound.h"
 
 #include <QRegularExpression>
@@ -75,13 +75,12 @@ QString BestAttribute(const std::vector<SourceField>& fields, AttributeUse use)
 AttributeColumn ReadAttribute(const AttributeRequest& request, Progress& progress)
 {
     const ReadingBound untilCancelled(progress.CancelledFlag());
-    const DataSource source(request.source.path);
+    const SourceAttributes source(request.source);
     AttributeColumn column;
-    column.attribute = AttributeToRead(request, source.Fields(request.source.ogrLayer));
+    column.attribute = AttributeToRead(request, source.Fields());
     if (column.attribute.isEmpty())
         return column;
-    const auto values
-        = source.ReadField(request.source.ogrLayer, request.source.filter, column.attribute, progress);
+    const auto values = source.ReadField(column.attribute, progress);
     const auto count = request.features->Features().size();
     for (size_t i = 0; i < count; ++i) {
         const auto found = values.find(request.features->FeatureId(i));

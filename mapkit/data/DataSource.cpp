@@ -2,6 +2,7 @@
 #include "mapkit/data/DataSource.h"
 
 #include "mapkit/common/GdalErrors.h"
+#include "mapkit/common/MemoryBound.h"
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
@@ -19,7 +20,6 @@
 #include <QCoreApplication>
 
 #include <cmath>
-#include <cpl_conv.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 #include <utility>
@@ -57,25 +57,6 @@ Box ExtentOf(const OGRGeometry& geometry, const GeometryChoice& choice)
             extent.Add(BoxOf(envelope));
     });
     return extent;
-}
-
-// The memory that one layer may use, in bytes.
-double MostBytes()
-{
-    const auto all = double(CPLGetUsablePhysicalRAM());
-    return all > 0 ? all / 4 : 4e9;
-}
-
-double BytesOf(const FeatureSet& features)
-{
-    return double(features.VertexCount()) * sizeof(QPointF)
-        + double(features.Features().size()) * sizeof(FeatureSet::Feature);
-}
-
-double BytesOf(const FieldValue& value)
-{
-    constexpr double Node = 4 * sizeof(void*); // of the table, for each value
-    return Node + sizeof value + double(value.text.size()) * sizeof(QChar);
 }
 
 // Reads attributes without geometries, which is several times as fast if the driver supports it.
@@ -124,6 +105,12 @@ QString NameBeside(const OpenedData& data, const OpenedData::Layer& other, const
 }
 
 } // namespace
+
+double FieldValue::Bytes() const
+{
+    constexpr double Node = 4 * sizeof(void*); // of the table, for each value
+    return Node + sizeof *this + double(text.size()) * sizeof(QChar);
+}
 
 DataSource::DataSource(const QString& path) : m_path(path)
 {
@@ -246,7 +233,7 @@ FeatureSet DataSource::Read(
     features.SetSourceSystem(own.IsEmpty() ? QString() : SystemText(&own));
     GeometryReader reader(features, TransformationTo(mapSystem, &own), RulesFor(own, mapSystem, choice));
     const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
-    const double mostBytes = MostBytes();
+    const double mostBytes = MemoryBound::MostBytes();
     GIntBig count = 0;
     size_t gained = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
@@ -254,7 +241,7 @@ FeatureSet DataSource::Read(
             reader.Add(*geometry, feature->GetFID());
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
-            if (BytesOf(features) > mostBytes)
+            if (features.Bytes() > mostBytes)
                 FailTooLarge();
             if (std::exchange(gained, features.Features().size()) != features.Features().size())
                 bound.Renew();
@@ -339,14 +326,14 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
     const bool isNumber = IsNumber(*layer.GetLayerDefn()->GetFieldDefn(index));
     const WithoutGeometry sparing(layer);
     std::unordered_map<qint64, FieldValue> values;
-    const double mostBytes = MostBytes();
+    const double mostBytes = MemoryBound::MostBytes();
     double bytes = 0;
     GIntBig count = 0;
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (feature->IsFieldSetAndNotNull(index)) {
             const auto [place, isNew]
                 = values.insert_or_assign(feature->GetFID(), ValueOf(*feature, index, isNumber));
-            bytes += isNew ? BytesOf(place->second) : 0;
+            bytes += isNew ? place->second.Bytes() : 0;
             if (isNew)
                 bound.Renew();
         }

@@ -65,6 +65,9 @@ struct SourceField {
 struct FieldValue {
     QString text; ///< trimmed, as the source writes it; empty for null
     double number = std::numeric_limits<double>::quiet_NaN(); ///< NaN for null and for a text
+
+    /// How much memory it uses in a table by feature ID.
+    double Bytes() const;
 };
 
 /// One attribute of a feature, for showing it to the user.

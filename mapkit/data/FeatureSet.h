@@ -56,6 +56,11 @@ public:
     /// Whether there is a feature of that kind.
     bool Has(FeatureKind kind) const { return m_kinds[size_t(kind)]; }
     size_t VertexCount() const { return m_points.size(); }
+    /// How much memory the features use.
+    double Bytes() const
+    {
+        return double(m_points.size() * sizeof(QPointF) + m_features.size() * sizeof(Feature));
+    }
     /// The coordinate system that the data were in, as in CoordinateSystems.h; empty if it is not known.
     const QString& SourceSystem() const { return m_sourceSystem; }
     void SetSourceSystem(const QString& system) { m_sourceSystem = system; }

@@ -6,6 +6,7 @@
 #include "mapkit/coordinates/SystemReference.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/ReadingFailure.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/data/SourceReader.h"
 #include "mapkit/files/GdalSetup.h"
 #include "mapkit/files/ReadingBound.h"
@@ -100,7 +101,8 @@ bool IsOnEarth(const OGRGeometry& geometry, const OGRSpatialReference& system)
 SourceEditor::SourceEditor(const LayerSource& source)
     : m_path(source.path), m_chosenSystem(source.system), m_choice(source.choice)
 {
-    const QString whyNot = WhyNotOpened(m_path);
+    const QString noFile = WhyNoFile(source);
+    const QString whyNot = noFile.isEmpty() ? WhyNotOpened(m_path) : noFile;
     if (!whyNot.isEmpty())
         throw RunTimeError(SourceUnchangeable, whyNot);
     if (QFileInfo(m_path).isFile() && !QFileInfo(m_path).isWritable())

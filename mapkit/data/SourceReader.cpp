@@ -5,6 +5,7 @@
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/MapRaster.h"
 #include "mapkit/data/OpenSource.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/files/ReadingBound.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -29,8 +30,9 @@ void ReadSource(
         contents.rasters[source.layerID] = std::make_shared<const MapRaster>(source, mapSystem);
         return;
     }
-    auto features
-        = open.At(source.path)
+    auto features = IsServerTable(source.path)
+        ? TablesOf(source).Read(source, mapSystem, progress)
+        : open.At(source.path)
               .Read(source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
     contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
 }

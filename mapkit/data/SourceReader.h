@@ -16,17 +16,19 @@ namespace Orvane {
 
 class MapRaster;
 class Progress;
+class ServerTables;
 
 /// Where a layer's data come from.
 struct LayerSource {
     qint32 layerID = 0;
-    QString path; ///< absolute, or another name that GDAL opens
+    QString path; ///< absolute, ServerTablePath, or another name that GDAL opens
     QString
         ogrLayer; ///< layer within the source; of a raster its name in an archive or a GeoPackage, or empty
     QString filter; ///< attribute condition; empty for all features
     QString system = {}; ///< coordinate system that was chosen for the data; empty: the one that they name
     GeometryChoice choice = {}; ///< which geometries
     DataKind kind = DataKind::Features; ///< what the source is read as
+    std::shared_ptr<const ServerTables> server = {}; ///< what reads a path that is ServerTablePath
 };
 
 /// The result of reading the sources.
