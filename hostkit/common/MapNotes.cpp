@@ -36,6 +36,11 @@ bool HasNotes(ILayerStore& store)
 
 } // namespace
 
+void MapNotes::Prepare(ILayerStore& store)
+{
+    store.PrepareTable(NotesTable());
+}
+
 QString MapNotes::Read(ILayerStore& store, const QString& key)
 {
     if (!HasNotes(store))
@@ -48,7 +53,7 @@ void MapNotes::Write(ILayerStore& store, const QString& key, const QString& text
 {
     if (text.isEmpty() && !store.HasTable(NotesTable().name))
         return;
-    store.PrepareTable(NotesTable());
+    Prepare(store);
     if (text.isEmpty()) {
         store.Execute(QStringLiteral("DELETE FROM MapNotes WHERE Name = ?1"), {key});
         return;

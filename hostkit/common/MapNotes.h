@@ -12,6 +12,9 @@ class ILayerStore;
 /// of the map have it, and recorded changes include it.
 namespace MapNotes {
 
+/// Makes the table if it is missing, for a map in which it cannot be made later.
+void Prepare(ILayerStore& store);
+
 /// The text under the key; empty if there is none.
 QString Read(ILayerStore& store, const QString& key);
 

@@ -33,7 +33,7 @@ QString Find(ILayerStore& database, const QString& mapPath)
 void MakeLayer(MapDocument& map)
 {
     ILayerStore& database = map.Database();
-    if (PlaceIn(database).path.isEmpty())
+    if (database.IsReadOnly() || PlaceIn(database).path.isEmpty())
         return;
     Transaction transaction(database);
     const SourcePaths::Place place = PlaceIn(database); // another program may have been faster

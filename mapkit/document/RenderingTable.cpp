@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/RenderingTable.h"
 
+#include "mapkit/document/NotNull.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 #include "store/StoreTable.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
@@ -30,11 +32,6 @@ StoreTable RenderingsTable()
         {layerID}};
 }
 
-QString NotNull(const QString& text)
-{
-    return text.isNull() ? QStringLiteral("") : text;
-}
-
 LayerRendering RenderingOfRow(const IRecordset& row)
 {
     LayerRendering rendering;
@@ -49,6 +46,14 @@ LayerRendering RenderingOfRow(const IRecordset& row)
     return rendering;
 }
 
+void TakeRenderings(std::map<qint32, LayerRendering>& renderings, IRecordset& rows)
+{
+    for (; !rows.AtEOF(); rows.MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(rows.Field("LayerID")))
+            renderings[*layerID] = RenderingOfRow(rows);
+    }
+}
+
 } // namespace
 
 void RenderingTable::Create()
@@ -59,24 +64,30 @@ void RenderingTable::Create()
 std::map<qint32, LayerRendering> RenderingTable::All() const
 {
     std::map<qint32, LayerRendering> all;
-    const auto rows = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering"));
-    for (; !rows->AtEOF(); rows->MoveNext()) {
-        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID")))
-            all[*layerID] = RenderingOfRow(*rows);
-    }
+    TakeRenderings(all, *m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering")));
     return all;
+}
+
+std::map<qint32, LayerRendering> RenderingTable::Of(const std::vector<qint32>& layerIDs) const
+{
+    std::map<qint32, LayerRendering> renderings;
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto rows = m_database.OpenQuery(
+            QStringLiteral("SELECT * FROM LayerRendering WHERE LayerID IN ") + list, values);
+        TakeRenderings(renderings, *rows);
+    });
+    return renderings;
 }
 
 LayerRendering RenderingTable::Of(qint32 layerID) const
 {
-    const auto row
-        = m_database.OpenQuery(QStringLiteral("SELECT * FROM LayerRendering WHERE LayerID = ?1"), {layerID});
-    return row->AtEOF() ? LayerRendering() : RenderingOfRow(*row);
+    const std::map<qint32, LayerRendering> found = Of(std::vector{layerID});
+    return found.empty() ? LayerRendering() : found.begin()->second;
 }
 
 void RenderingTable::Set(qint32 layerID, const LayerRendering& rendering)
 {
-    m_database.Execute(
+    m_database.Send(
         QStringLiteral(
             "INSERT INTO LayerRendering"
             " (LayerID, LabelAttribute, ClassAttribute, Division, ClassCount, Ramp,"

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <map>
+#include <vector>
 
 namespace Orvane {
 
@@ -25,6 +26,8 @@ public:
 
     /// Every row by layer ID. Values that are not valid for a column are replaced by its default.
     std::map<qint32, LayerRendering> All() const;
+    /// Those of these layers, by one query for many; a layer without a row is missing.
+    std::map<qint32, LayerRendering> Of(const std::vector<qint32>& layerIDs) const;
     LayerRendering Of(qint32 layerID) const;
     /// Stores the row of an existing layer, replacing its former row.
     void Set(qint32 layerID, const LayerRendering& rendering);

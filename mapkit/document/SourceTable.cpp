@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "mapkit/document/SourceTable.h"
 
+#include "mapkit/data/ServerTables.h"
+#include "mapkit/document/NotNull.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 #include "store/StoreTable.h"
 
 #include <OrvaneShellLib/ValueConversions.h>
@@ -45,9 +48,19 @@ std::vector<LayerSource> SourceTable::All() const
     return Where(QStringLiteral("TRUE"), {});
 }
 
+std::vector<LayerSource> SourceTable::Of(const std::vector<qint32>& layerIDs) const
+{
+    std::vector<LayerSource> sources;
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const std::vector<LayerSource> found = Where(QStringLiteral("LayerID IN ") + list, values);
+        sources.insert(sources.end(), found.begin(), found.end());
+    });
+    return sources;
+}
+
 std::optional<LayerSource> SourceTable::Of(qint32 layerID) const
 {
-    const std::vector<LayerSource> found = Where(QStringLiteral("LayerID = ?1"), {layerID});
+    const std::vector<LayerSource> found = Of(std::vector{layerID});
     return found.empty() ? std::nullopt : std::optional(found.front());
 }
 
@@ -76,6 +89,8 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
              ToTextOrNone(rows->Field("Filter")), ToTextOrNone(rows->Field("System")),
              GeometryChoice::FromText(ToTextOrNone(rows->Field("Geometry"))),
              KindInText(ToTextOrNone(rows->Field("Kind")))});
+        if (IsServerTable(place.path))
+            sources.back().server = m_server;
     }
     return sources;
 }
@@ -83,24 +98,53 @@ std::vector<LayerSource> SourceTable::Where(const QString& condition, const std:
 void SourceTable::Set(const LayerSource& source)
 {
     const SourcePaths::Place place = m_paths.Store(source.path);
-    const auto notNull = [](const QString& text) { return text.isNull() ? QStringLiteral("") : text; };
-    m_database.Execute(
+    m_database.Send(
         QStringLiteral("INSERT INTO LayerSources"
                        " (LayerID, Path, OgrLayer, Filter, RelativePath, System, Geometry, Kind)"
                        " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8) ON CONFLICT (LayerID) DO UPDATE SET"
                        " Path = excluded.Path, OgrLayer = excluded.OgrLayer, Filter = excluded.Filter,"
                        " RelativePath = excluded.RelativePath, System = excluded.System,"
                        " Geometry = excluded.Geometry, Kind = excluded.Kind"),
-        {source.layerID, notNull(place.path), notNull(source.ogrLayer), notNull(source.filter),
-         notNull(place.relative), notNull(source.system), notNull(source.choice.ToText()),
-         notNull(TextOfKind(source.kind))});
+        {source.layerID, NotNull(place.path), NotNull(source.ogrLayer), NotNull(source.filter),
+         NotNull(place.relative), NotNull(source.system), NotNull(source.choice.ToText()),
+         NotNull(TextOfKind(source.kind))});
 }
 
 void SourceTable::SetPlace(qint32 layerID, const SourcePaths::Place& place)
 {
-    m_database.Execute(
+    m_database.Send(
         QStringLiteral("UPDATE LayerSources SET Path = ?2, RelativePath = ?3 WHERE LayerID = ?1"),
         {layerID, place.path, place.relative});
+}
+
+void SourceTable::Relocate(const SourcePaths& former)
+{
+    const auto move
+        = QStringLiteral("UPDATE LayerSources SET Path = ?1, RelativePath = ?2 WHERE LayerID IN ");
+    for (const auto& [stored, layerIDs] : LayersByPlace()) {
+        const SourcePaths::Place old{stored.first, stored.second};
+        const SourcePaths::Place place = m_paths.StoreFrom(former, old);
+        if (place.path == old.path && place.relative == old.relative)
+            continue;
+        const std::vector<Value> values{NotNull(place.path), NotNull(place.relative)};
+        KeyLists::ForEachBlock(layerIDs, values, [&](const QString& list, const std::vector<Value>& all) {
+            m_database.Send(move + list, all);
+        });
+    }
+}
+
+SourceTable::LayersOfPlaces SourceTable::LayersByPlace() const
+{
+    const auto rows
+        = m_database.OpenQuery(QStringLiteral("SELECT LayerID, Path, RelativePath FROM LayerSources"));
+    LayersOfPlaces layers;
+    for (; !rows->AtEOF(); rows->MoveNext()) {
+        if (const std::optional<qint32> layerID = Int32In(rows->Field("LayerID"))) {
+            const QString path = ToTextOrNone(rows->Field("Path"));
+            layers[{path, ToTextOrNone(rows->Field("RelativePath"))}].push_back(*layerID);
+        }
+    }
+    return layers;
 }
 
 std::map<qint32, QString> SourceTable::ChosenReadings() const

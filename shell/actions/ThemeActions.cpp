@@ -6,11 +6,11 @@
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
+#include "mapkit/document/MapThemes.h"
 #include "messages/NameInText.h"
 #include "shell/actions/LayerControl.h"
 #include "shell/actions/ThemeFilter.h"
 #include "shell/map/MapSession.h"
-#include "shell/map/MapThemes.h"
 #include "shell/window/Confirm.h"
 
 #include <OrvaneShellLib/PromptRequest.h>

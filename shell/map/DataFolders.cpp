@@ -41,9 +41,8 @@ QString WithoutArchivePrefix(const QString& path)
 QStringList FoldersOf(const MapDocument& document, const std::vector<qint32>& layerIDs)
 {
     QStringList folders;
-    for (const qint32 layerID : layerIDs) {
-        const std::optional<LayerSource> source = document.SourceOf(layerID);
-        const QString folder = source ? FolderOfData(source->path) : QString();
+    for (const LayerSource& source : document.SourcesOf(layerIDs)) {
+        const QString folder = FolderOfData(source.path);
         if (!folder.isEmpty() && !folders.contains(folder))
             folders << folder;
         if (folders.size() > MostFolders)

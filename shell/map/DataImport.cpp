@@ -179,6 +179,25 @@ std::vector<SourceLayer> LayersOfTables(const std::vector<TableChoice>& tables, 
     return LayersToShow(layers);
 }
 
+std::vector<NewLayer> NewLayersFor(const FoundData& data, size_t firstNumber)
+{
+    std::vector<NewLayer> layers;
+    layers.reserve(LayerCount(data));
+    for (const FoundData::Source& source : data.sources) {
+        for (const SourceLayer& layer : source.layers)
+            layers.push_back(LayerFor(source.path, layer, firstNumber + layers.size()));
+    }
+    return layers;
+}
+
+QStringList TitlesOf(const FoundData& data)
+{
+    QStringList titles;
+    for (const FoundData::Source& source : data.sources)
+        titles << SourceTitle(source.path);
+    return titles;
+}
+
 } // namespace
 
 QString FoundData::ProblemText() const
@@ -301,20 +320,15 @@ std::vector<qint32> AddToMap(MapDocument& document, const FoundData& data)
     std::vector<qint32> layerIDs;
     if (data.sources.empty())
         return layerIDs;
-    ILayerStore& database = document.Database();
-    const size_t count = LayerCount(data);
-    layerIDs.reserve(count);
-    Transaction transaction(database);
+    Transaction transaction(document.Database());
     if (document.System().isEmpty())
         document.SetSystem(SystemFor(document, data));
-    size_t number = document.Sources().size();
-    for (const FoundData::Source& source : data.sources) {
-        const qint32 groupID = document.AddGroup(SourceTitle(source.path), true);
-        for (const SourceLayer& layer : source.layers) {
-            database.AskWatcher(double(layerIDs.size()) / double(count));
-            layerIDs.push_back(document.AddLayer(LayerFor(source.path, layer, number++)));
-            document.AddMember(groupID, layerIDs.back());
-        }
+    layerIDs = document.AddLayers(NewLayersFor(data, document.Sources().size()));
+    const std::vector<qint32> groupIDs = document.AddGroups(TitlesOf(data), true);
+    auto added = layerIDs.begin();
+    for (size_t i = 0; i < data.sources.size(); ++i) {
+        for (size_t left = data.sources[i].layers.size(); left > 0; --left)
+            document.AddMember(groupIDs[i], *added++);
     }
     transaction.Commit();
     return layerIDs;

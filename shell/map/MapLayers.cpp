@@ -4,6 +4,7 @@
 #include "hostkit/common/StoredScale.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/ILayerStore.h"
+#include "store/KeyLists.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
 #include <OrvaneShellLib/ValueConversions.h>
@@ -147,14 +148,32 @@ void MapLayers::Read(const QSet<qint32>& layerIDs)
 {
     if (layerIDs.size() > FewLayers)
         return ReadAll();
-    const auto table = m_document.Database().OpenRecordset(QStringLiteral("Layers"));
-    table->Index("LayerIDIDX");
-    for (const qint32 layerID : layerIDs) {
-        table->Seek("=", layerID);
-        Replace(layerID, *table);
-        m_attributes.SetRendering(layerID, m_document.Renderings().Of(layerID));
+    const std::vector<qint32> wanted(layerIDs.begin(), layerIDs.end());
+    const std::vector<MapLayer> layers = LayersWithIDs(wanted);
+    std::map<qint32, LayerRendering> renderings = m_document.Renderings().Of(wanted);
+    QSet<qint32> missing = layerIDs;
+    for (const MapLayer& layer : layers) {
+        Replace(layer);
+        missing.remove(layer.layerID);
     }
+    for (const qint32 layerID : missing)
+        Remove(layerID);
+    for (const qint32 layerID : wanted)
+        m_attributes.SetRendering(layerID, renderings[layerID]);
     FitAttributes();
+}
+
+std::vector<MapLayer> MapLayers::LayersWithIDs(const std::vector<qint32>& layerIDs) const
+{
+    std::vector<MapLayer> layers;
+    layers.reserve(layerIDs.size());
+    KeyLists::ForEachBlock(layerIDs, {}, [&](const QString& list, const std::vector<Value>& values) {
+        const auto rows = m_document.Database().OpenQuery(
+            QStringLiteral("SELECT * FROM Layers WHERE LayerID IN ") + list, values);
+        for (; !rows->AtEOF(); rows->MoveNext())
+            layers.push_back(LayerOfRow(*rows));
+    });
+    return layers;
 }
 
 void MapLayers::TakeFeatures(const SourceContents& contents)
@@ -267,21 +286,28 @@ MapLayer MapLayers::LayerOfRow(const IRecordset& row) const
     return layer;
 }
 
-void MapLayers::Replace(qint32 layerID, const IRecordset& row)
+void MapLayers::Replace(const MapLayer& layer)
 {
-    const auto known = std::find_if(
-        m_layers.begin(), m_layers.end(), [&](const MapLayer& layer) { return layer.layerID == layerID; });
-    if (row.NoMatch()) {
-        if (known != m_layers.end())
-            m_layers.erase(known);
-        DropFeatures(layerID);
-        m_attributes.Forget(layerID);
-        return;
-    }
+    const auto known = Find(layer.layerID);
     if (known == m_layers.end())
-        m_layers.push_back(LayerOfRow(row));
+        m_layers.push_back(layer);
     else
-        *known = LayerOfRow(row);
+        *known = layer;
+}
+
+void MapLayers::Remove(qint32 layerID)
+{
+    const auto known = Find(layerID);
+    if (known != m_layers.end())
+        m_layers.erase(known);
+    DropFeatures(layerID);
+    m_attributes.Forget(layerID);
+}
+
+std::vector<MapLayer>::iterator MapLayers::Find(qint32 layerID)
+{
+    return std::find_if(
+        m_layers.begin(), m_layers.end(), [&](const MapLayer& layer) { return layer.layerID == layerID; });
 }
 
 } // namespace Orvane

@@ -62,7 +62,10 @@ public:
 
 private:
     MapLayer LayerOfRow(const IRecordset& row) const;
-    void Replace(qint32 layerID, const IRecordset& row);
+    std::vector<MapLayer> LayersWithIDs(const std::vector<qint32>& layerIDs) const;
+    void Replace(const MapLayer& layer);
+    void Remove(qint32 layerID);
+    std::vector<MapLayer>::iterator Find(qint32 layerID);
     void FitAttributes();
     void FitData(MapLayer& layer) const;
     void DropFeatures(qint32 layerID);

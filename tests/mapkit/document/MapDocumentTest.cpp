@@ -113,6 +113,21 @@ TEST_F(MapDocumentTest, AGroupIsAddedBesideOneWithAnIDBeyond32Bits)
     EXPECT_EQ(document->AddGroup("Second", true), 2);
 }
 
+TEST_F(MapDocumentTest, AMapOnAServerHasANameAndNoFile)
+{
+    const QString data = m_folder.WriteSquare("square.geojson");
+    const QString place = "postgresql:///?service=team&schema=Old%20town";
+    MapDocument::Create(m_folder.Path("map.orvane"));
+    const auto document = MapDocument::OpenCopy(m_folder.Path("map.orvane"), place);
+    const qint32 layerID = document->AddLayer(LayerOf(data));
+    EXPECT_EQ(document->Path(), place);
+    EXPECT_EQ(document->FilePath(), QString());
+    EXPECT_EQ(document->Name(), "Old town");
+    EXPECT_TRUE(document->IsAt(place));
+    EXPECT_FALSE(document->IsAt(m_folder.Path("map.orvane")));
+    EXPECT_EQ(document->SourceOf(layerID)->path, data);
+}
+
 TEST_F(MapDocumentTest, TheSourceOfALayerIsFoundAgain)
 {
     const auto document = MapDocument::Untitled();

@@ -2,6 +2,7 @@
 #include "mapkit/document/SourcePaths.h"
 
 #include "mapkit/DataFolder.h"
+#include "mapkit/data/ServerTables.h"
 
 #include <QDir>
 
@@ -95,8 +96,8 @@ TEST_F(SourcePathsTest, AMapWithoutAFileKeepsPathsAsTheyAre)
 {
     Write("old/data/a.gpkg");
     const QString path = m_folder.Path("old/data/a.gpkg");
-    EXPECT_EQ(SourcePaths({}).Store(path).path, path);
-    EXPECT_EQ(SourcePaths({}).Find({path, {}}), path);
+    EXPECT_EQ(SourcePaths(QString()).Store(path).path, path);
+    EXPECT_EQ(SourcePaths(QString()).Find({path, {}}), path);
 }
 
 TEST_F(SourcePathsTest, AFolderWhoseNameBeginsWithDotsIsNotAbove)
@@ -104,6 +105,55 @@ TEST_F(SourcePathsTest, AFolderWhoseNameBeginsWithDotsIsNotAbove)
     QDir(m_folder.Path("")).mkpath("old/maps/..data");
     Write("old/maps/..data/a.gpkg");
     EXPECT_EQ(m_kept.Store(m_folder.Path("old/maps/..data/a.gpkg")).path, "..data/a.gpkg");
+}
+
+TEST_F(SourcePathsTest, DataOfAMapInNoFolderAreFoundFromAFolderOfTheUser)
+{
+    const QString path = m_folder.Write("old/data/a.gpkg", "data");
+    const SourcePaths::Place place = SourcePaths::InFolder(m_folder.Path("old")).Store(path);
+    EXPECT_EQ(place.path, "data/a.gpkg");
+    const QString elsewhere = m_folder.Write("new/data/a.gpkg", "data");
+    EXPECT_EQ(SourcePaths::InFolder(m_folder.Path("new")).Find(place), elsewhere);
+}
+
+TEST_F(SourcePathsTest, WithoutAFolderARelativePathIsAMissingFileAlsoInTheWorkingDirectory)
+{
+    Write("new/data/a.gpkg");
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(m_folder.Path("new")));
+    const SourcePaths none = SourcePaths::InFolder({});
+    for (const SourcePaths::Place& place :
+         {SourcePaths::Place{"data/a.gpkg", "data/a.gpkg"}, SourcePaths::Place{"data/a.gpkg", {}}}) {
+        const QString found = none.Find(place);
+        EXPECT_FALSE(QFileInfo::exists(found)) << found.toStdString();
+        EXPECT_TRUE(found.endsWith("data/a.gpkg")) << found.toStdString();
+        EXPECT_EQ(none.Store(found).path, "data/a.gpkg");
+    }
+    QDir::setCurrent(before);
+    EXPECT_EQ(none.Find({"PG:dbname=town", {}}), "PG:dbname=town");
+}
+
+TEST_F(SourcePathsTest, ACopyKeepsARelativePathForThoseWhoHaveTheDataInAnotherFolder)
+{
+    Write("old/maps/data/a.gpkg");
+    const QString path = m_folder.Path("old/maps/data/a.gpkg");
+    const SourcePaths none = SourcePaths::InFolder({});
+    const SourcePaths::Place onServer = none.StoreFrom(m_kept, m_kept.Store(path));
+    EXPECT_EQ(onServer.path, path);
+    EXPECT_EQ(onServer.relative, "data/a.gpkg");
+
+    const SourcePaths::Place shared{"data/a.gpkg", "data/a.gpkg"};
+    const SourcePaths::Place copied = none.StoreFrom(none, shared);
+    EXPECT_EQ(copied.path, "data/a.gpkg");
+    EXPECT_EQ(copied.relative, "data/a.gpkg");
+    EXPECT_EQ(m_kept.Find(m_kept.StoreFrom(none, shared)), path);
+}
+
+TEST_F(SourcePathsTest, ATableOnAServerIsNoFileInAFolder)
+{
+    const SourcePaths paths = SourcePaths::InFolder(m_folder.Path("old"));
+    EXPECT_EQ(paths.Store(ServerTablePath).path, ServerTablePath);
+    EXPECT_EQ(paths.Find({ServerTablePath, {}}), ServerTablePath);
 }
 
 } // namespace Orvane

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "mapkit/document/MapThemes.h"
 #include "shell/command/MapCheckFixture.h"
-#include "shell/map/MapThemes.h"
 #include "store/sqlite/files/PlainTables.h"
 
 #include <OrvaneShellLib/RunTimeError.h>

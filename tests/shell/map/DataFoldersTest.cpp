@@ -3,6 +3,7 @@
 
 #include "mapkit/DataFolder.h"
 #include "mapkit/document/MapDocument.h"
+#include "store/ILayerStore.h"
 
 #include <QDir>
 
@@ -46,6 +47,23 @@ TEST_F(DataFoldersTest, TheFolderOfAFileInAnArchiveIsThatOfTheArchive)
     EXPECT_EQ(FolderOfData("/vsizip/" + archive + "/roads/roads.shp"), Folder());
     EXPECT_EQ(FolderOfData("/vsizip/{" + archive + "}/roads.shp"), Folder());
     EXPECT_EQ(FolderOfData("/vsitar//vsigzip/" + archive + "/roads.shp"), Folder());
+}
+
+TEST_F(DataFoldersTest, ManyLayersAreAskedForByAsManyStatementsAsOne)
+{
+    const auto document = MapDocument::Untitled();
+    std::vector<qint32> layerIDs;
+    for (int layer = 0; layer < 40; ++layer)
+        layerIDs.push_back(AddLayer(*document, m_file));
+    const LayerCommand command = OpenFolderCommand(*document);
+    const auto statementsOf = [&](const std::vector<qint32>& chosen) {
+        int statements = 0;
+        document->Database().SetQueryListener([&](const QString&) { ++statements; });
+        EXPECT_EQ(command.whyNot(chosen), QString());
+        document->Database().SetQueryListener({});
+        return statements;
+    };
+    EXPECT_EQ(statementsOf(layerIDs), statementsOf({layerIDs.front()}));
 }
 
 TEST_F(DataFoldersTest, AFolderOfDataIsItsOwnFolder)

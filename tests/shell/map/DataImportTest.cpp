@@ -131,6 +131,27 @@ TEST_F(DataImportTest, AnArchiveWithATableAndALayerIsOneGroup)
     EXPECT_TRUE(found.problems.empty());
 }
 
+TEST_F(DataImportTest, ManyFilesAreAddedWithNoMoreQuestionsToTheMapThanAFew)
+{
+    const auto questionsFor = [this](size_t files) {
+        FoundData found;
+        for (size_t file = 0; file < files; ++file)
+            found.sources.push_back(
+                {QStringLiteral("/data/%1.gpkg").arg(file), {SourceLayer(), SourceLayer()}});
+        int questions = 0;
+        m_document = MapDocument::Untitled();
+        m_document->Database().SetQueryListener(
+            [&](const QString& sql) { questions += sql.startsWith("SELECT") ? 1 : 0; });
+        EXPECT_EQ(AddToMap(*m_document, found).size(), 2 * files);
+        m_document->Database().SetQueryListener({});
+        return questions;
+    };
+    const int few = questionsFor(2);
+    EXPECT_EQ(questionsFor(100), few);
+    EXPECT_EQ(Names("LayerGroups").size(), 100);
+    EXPECT_EQ(Names("Layers").size(), 200);
+}
+
 TEST_F(DataImportTest, NothingFoundLeavesTheMapAsItWas)
 {
     AddToMap(*m_document, FoundData());

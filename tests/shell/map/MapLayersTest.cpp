@@ -114,6 +114,23 @@ TEST_F(MapLayersTest, AnUnknownModeCountsAsNormal)
     EXPECT_EQ(First().mode, DrawMode::Normal);
 }
 
+TEST_F(MapLayersTest, ManyLayersAreReadAgainByAsManyStatementsAsOne)
+{
+    m_document->AddLayers(std::vector<NewLayer>(30));
+    const auto statementsOf = [this](const QSet<qint32>& layerIDs) {
+        int statements = 0;
+        m_document->Database().SetQueryListener([&](const QString&) { ++statements; });
+        m_layers.Read(layerIDs);
+        m_document->Database().SetQueryListener({});
+        return statements;
+    };
+    QSet<qint32> many;
+    for (qint32 layerID = 1; layerID <= 32; ++layerID)
+        many.insert(layerID);
+    EXPECT_EQ(statementsOf(many), statementsOf({2}));
+    EXPECT_EQ(m_layers.All().size(), 32u);
+}
+
 TEST_F(MapLayersTest, OnlyTheLayersAskedForAreReadAgain)
 {
     Change("Priority = 3");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/map/MapThemes.h"
+#include "mapkit/document/MapThemes.h"
 
 #include "hostkit/common/NaturalOrder.h"
 #include "store/ILayerStore.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/map/MapThemes.h"
+#include "mapkit/document/MapThemes.h"
 
 #include "store/sqlite/SqliteLayerDatabase.h"
 
