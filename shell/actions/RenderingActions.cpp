@@ -5,15 +5,28 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/dialogs/RenderingDialog.h"
 #include "shell/map/MapSession.h"
+#include "store/ILayerStore.h"
+
+#include <OrvaneShellLib/Transaction.h>
 
 #include <QAction>
 #include <QColorDialog>
 #include <QMenu>
 #include <QPointer>
+#include <QSet>
 
 #include <algorithm>
 
 namespace Orvane {
+
+namespace {
+
+bool IsLayer(qint32 layerID, const MapLayer& layer)
+{
+    return layer.layerID == layerID;
+}
+
+} // namespace
 
 RenderingActions::RenderingActions(QWidget& window, QMenu& menu) : m_window(window)
 {
@@ -39,8 +52,13 @@ void RenderingActions::Use(MapSession& session)
 
 std::vector<MapLayer> RenderingActions::LayersToRender() const
 {
+    QSet<qint32> rasters; // also those that cannot be read
+    for (const LayerSource& source : m_session->Document().Sources()) {
+        if (source.kind == DataKind::Raster)
+            rasters.insert(source.layerID);
+    }
     std::vector<MapLayer> layers = m_session->Layers();
-    std::erase_if(layers, [](const MapLayer& layer) { return layer.raster != nullptr; });
+    std::erase_if(layers, [&](const MapLayer& layer) { return rasters.contains(layer.layerID); });
     return layers;
 }
 
@@ -65,7 +83,7 @@ QAction* RenderingActions::Add(
     return action;
 }
 
-// chosen: the first of these is shown first; may be empty.
+// chosen: the first of these that has something to choose is shown first; may be empty.
 void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
 {
     MapSession& session = *m_session;
@@ -73,8 +91,10 @@ void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
     if (layers.empty())
         return;
     RenderingDialog dialog(session.Document(), layers, &m_window);
-    if (!chosen.empty())
-        dialog.Choose(chosen.front());
+    if (const auto first
+        = std::find_first_of(chosen.begin(), chosen.end(), layers.begin(), layers.end(), IsLayer);
+        first != chosen.end())
+        dialog.Choose(*first);
     const QPointer alive(m_session); // the map may be saved under another name while it asks
     if (dialog.exec() != QDialog::Accepted || !alive)
         return;
@@ -82,8 +102,10 @@ void RenderingActions::AskForRenderings(const std::vector<qint32>& chosen)
     if (changes.empty())
         return;
     session.Shell().RecordStep([&] {
+        Transaction transaction(session.Document().Database());
         for (const auto& [layerID, rendering] : changes)
             session.Document().Renderings().Set(layerID, rendering);
+        transaction.Commit();
         return tr("Layer Rendering");
     });
     session.FollowRenderings();

@@ -2,6 +2,7 @@
 #include "shell/dialogs/NewLayerDialog.h"
 
 #include "mapkit/common/Guard.h"
+#include "mapkit/files/DataFiles.h"
 #include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 #include "ui_NewLayerDialog.h"
@@ -10,9 +11,22 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPushButton>
 
 namespace Orvane {
+
+namespace {
+
+constexpr qsizetype MostProblems = 3; // in the dialog
+constexpr qsizetype MostInToolTip = 20;
+
+bool IsPlainFolder(const QString& path)
+{
+    return QFileInfo(path).isDir() && DataFiles::SourceOf(path).isEmpty();
+}
+
+} // namespace
 
 NewLayerDialog::NewLayerDialog(const QString& dataFile, Look look, QWidget* parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::NewLayerDialog>()), m_look(std::move(look))
@@ -99,26 +113,40 @@ void NewLayerDialog::ShowSource()
         return;
     m_shownSource = File();
     m_ui->cmbSourceLayer->clear();
-    m_ui->lblProblem->setText(ReadSource());
+    ShowProblems(ReadSource());
     for (const OfferedLayer& layer : m_layers)
         m_ui->cmbSourceLayer->addItem(NameInText(layer.title));
     UpdateEnabled();
 }
 
 // Returns what cannot be read; empty when all can, or no source is needed yet.
-QString NewLayerDialog::ReadSource()
+QStringList NewLayerDialog::ReadSource()
 {
     m_layers.clear();
     if (IsEmptyLayer() || File().isEmpty())
         return {};
+    if (IsPlainFolder(File()))
+        return {
+            tr("This is a folder: choose a file in it, or drop the folder on the map to add all its data.")};
     try {
         const ReadingBound soon(ReadingBound::WhileUserWaits);
         LayerOffer offer = m_look(File());
         m_layers = std::move(offer.layers);
-        return offer.problem;
+        return offer.problems;
     } catch (const RunTimeError& error) {
-        return error.Description();
+        return {error.Description()};
     }
+}
+
+void NewLayerDialog::ShowProblems(const QStringList& problems)
+{
+    QStringList shown = problems.mid(0, MostProblems);
+    const qsizetype more = problems.size() - shown.size();
+    if (more > 0)
+        shown << tr("... and %1 more.").arg(QLocale().toString(more));
+    const QString all = problems.mid(0, MostInToolTip).join(QLatin1Char('\n'));
+    m_ui->lblProblem->setText(shown.join(QLatin1Char('\n')));
+    m_ui->lblProblem->setToolTip(more > 0 ? Qt::convertFromPlainText(all) : QString());
 }
 
 void NewLayerDialog::TakeNameOfSource()

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -26,10 +27,11 @@ struct OfferedLayer {
 /// What a file offers.
 struct LayerOffer {
     std::vector<OfferedLayer> layers;
-    QString problem; ///< for the user: what cannot be read of the file
+    QStringList problems; ///< sentences for the user: what cannot be read of the file
 };
 
-/// Asks what a new layer is to contain: no features yet, in a GeoPackage, or a layer of a data source.
+/// Asks what a new layer is to contain: no features yet, in a GeoPackage, or a layer of a data source. A
+/// folder is no data source, unless its format makes it one.
 class NewLayerDialog : public QDialog
 {
     Q_OBJECT
@@ -57,7 +59,8 @@ private:
     void BrowseForPackage();
     void BrowseForSource();
     void ShowSource();
-    QString ReadSource();
+    QStringList ReadSource();
+    void ShowProblems(const QStringList& problems);
     void TakeNameOfSource();
     void UpdateEnabled();
 

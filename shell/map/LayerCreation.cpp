@@ -42,7 +42,9 @@ LayerOffer OfferOf(const QString& path)
     Progress progress;
     const FoundData found = WithTablesAsLayers(LookInto({path}, progress), progress);
     LayerOffer offer;
-    offer.problem = found.ProblemText();
+    offer.problems.reserve(qsizetype(found.problems.size()));
+    for (const DataProblem& problem : found.problems)
+        offer.problems << problem.text;
     offer.layers.reserve(LayerCount(found));
     for (const FoundData::Source& source : found.sources) {
         for (const SourceLayer& layer : source.layers)

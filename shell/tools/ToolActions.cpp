@@ -3,6 +3,7 @@
 
 #include "hostkit/undo/UndoHistory.h"
 #include "mapkit/canvas/MapCanvas.h"
+#include "mapkit/data/SourceAttributes.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/ReadingBound.h"
 #include "shell/features/FeatureMover.h"
@@ -11,6 +12,8 @@
 #include "shell/tools/RasterTexts.h"
 #include "shell/tools/StatusText.h"
 #include "shell/window/RunWithProgress.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QActionGroup>
 #include <QMainWindow>
@@ -38,7 +41,19 @@ AttributesOf(const IdentifyQuestion& question, const std::vector<LayerSource>& s
     progress.SetSubject(source->path);
     if (question.raster)
         return ValuesAsAttributes(question.raster->ValuesAt(question.place));
-    return DataSource(source->path).Attributes(source->ogrLayer, question.key.featureID);
+    return SourceAttributes(*source).OfFeature(question.key.featureID);
+}
+
+// What cannot be read keeps the user from no other answer.
+std::vector<FeatureAttribute> AttributesOrReason(
+    const IdentifyQuestion& question, const std::vector<LayerSource>& sources, Progress& progress)
+{
+    try {
+        return AttributesOf(question, sources, progress);
+    } catch (const RunTimeError& error) {
+        progress.StopIfCancelled();
+        return {{ToolActions::tr("Cannot be read"), error.Description(), true}};
+    }
 }
 
 std::vector<std::vector<FeatureAttribute>> AttributesOf(
@@ -50,7 +65,7 @@ std::vector<std::vector<FeatureAttribute>> AttributesOf(
     attributes.reserve(questions.size());
     for (const IdentifyQuestion& question : questions) {
         progress.StopIfCancelled();
-        attributes.push_back(AttributesOf(question, sources, progress));
+        attributes.push_back(AttributesOrReason(question, sources, progress));
     }
     return attributes;
 }

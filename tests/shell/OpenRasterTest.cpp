@@ -5,11 +5,13 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "shell/MainWindowTest.h"
 #include "shell/dialogs/LayerPropertiesDialog.h"
+#include "shell/dialogs/RenderingDialog.h"
 #include "shell/map/LayerCommand.h"
 #include "shell/map/MapSession.h"
 #include "support/MessageBoxRobot.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMenu>
 #include <QTest>
@@ -105,6 +107,43 @@ TEST_F(OpenRasterTest, ARasterHasNoAttributesAndItsCommandsSaySo)
     EXPECT_NE(Command("LayerRendering").whyNot(layers), "");
     EXPECT_EQ(Command("ZoomToLayer").whyNot(layers), "");
     EXPECT_EQ(Command("OpenFolder").whyNot(layers), "");
+}
+
+TEST_F(OpenRasterTest, TheRenderingOfLayersChosenWithARasterBeginsWithTheFirstOfTheseLayers)
+{
+    m_window->OpenMap(MakeMap("map.orvane"));
+    Drop({m_folder.WriteSquare("second.geojson"), Raster("photo.tif")});
+    ASSERT_EQ(Layers().size(), 3u);
+    QString shown;
+    QTimer::singleShot(0, m_window.get(), [&] {
+        auto* dialog = qobject_cast<RenderingDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        shown = dialog->findChild<QComboBox*>("cmbLayer")->currentText();
+        dialog->reject();
+    });
+    Command("LayerRendering").run({Layers()[2].layerID, Layers()[0].layerID});
+    EXPECT_EQ(shown, "Square");
+}
+
+TEST_F(OpenRasterTest, TheRenderingOffersNoRasterThatCannotBeRead)
+{
+    const QString map = MakeMap("map.orvane");
+    NewLayer raster = NewLayer::OfRaster();
+    raster.name = "photo";
+    raster.path = m_folder.Path("gone.tif");
+    MapDocument::Open(map)->AddLayer(raster);
+    MessageBoxRobot user{BoxKey::Enter};
+    m_window->OpenMap(map);
+    ASSERT_EQ(Layers().size(), 2u);
+    int offered = 0;
+    QTimer::singleShot(0, m_window.get(), [&] {
+        auto* dialog = qobject_cast<RenderingDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        offered = dialog->findChild<QComboBox*>("cmbLayer")->count();
+        dialog->reject();
+    });
+    Action("actLayerRendering")->trigger();
+    EXPECT_EQ(offered, 1);
 }
 
 TEST_F(OpenRasterTest, ItsPropertiesAreThoseOfARaster)

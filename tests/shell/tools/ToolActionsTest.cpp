@@ -5,6 +5,7 @@
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
+#include "shell/map/MapSession.h"
 #include "shell/tools/StatusText.h"
 
 #include <QAction>
@@ -103,6 +104,25 @@ TEST_F(ToolActionsTest, IdentifyListsTheAttributesOfTheSource)
     ClickOn({10.3, 10.3});
     EXPECT_EQ(Status(), "No layer here.");
     EXPECT_EQ(Attributes()->topLevelItemCount(), 0);
+}
+
+TEST_F(ToolActionsTest, IdentifyTellsWhatCannotBeReadAmongTheOtherAnswers)
+{
+    NewLayer gone;
+    gone.name = "Gone";
+    gone.path = m_folder.WriteSquare("gone.geojson");
+    gone.ogrLayer = "gone";
+    gone.priority = 1;
+    m_window->Document().AddLayer(gone);
+    m_window->Session().ReadAndShow();
+    ASSERT_TRUE(QFile::remove(gone.path));
+    Action("actIdentify")->trigger();
+    ClickOn({5, 5});
+    ASSERT_EQ(Attributes()->topLevelItemCount(), 2);
+    EXPECT_EQ(Attributes()->topLevelItem(0)->text(0), "Gone");
+    ASSERT_EQ(Attributes()->topLevelItem(0)->childCount(), 1);
+    EXPECT_TRUE(Attributes()->topLevelItem(0)->child(0)->text(1).contains("gone.geojson"));
+    EXPECT_EQ(Attributes()->topLevelItem(1)->child(0)->text(1), "a");
 }
 
 TEST_F(ToolActionsTest, AClickBesideEverythingOpensNoPanel)
