@@ -15,7 +15,9 @@ COMMANDS = [
     (["--export"], "MAP --export FILE"),
     (["import"], "import DATA... --to MAP"),
     (["list"], "list MAP"),
+    (["share"], "share PLACE"),
     (["check"], "check MAP"),
+    (["copy"], "copy MAP NEW"),
 ]
 
 SYNOPSES = [words for _, words in COMMANDS]

@@ -2,9 +2,9 @@
 #include "shell/command/CheckCommand.h"
 
 #include "shell/command/MapCheck.h"
+#include "store/StorePlace.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <optional>
 
@@ -53,7 +53,7 @@ int Check(const QString& map, bool repairs, CheckLimit limit, const Terminal& te
         TellLine(
             terminal,
             CheckText(QT_TRANSLATE_NOOP("CheckCommand", "No problems were found in \"%1\"."))
-                .arg(QFileInfo(map).fileName()));
+                .arg(StorePlace::FileNameOf(map)));
     }
     return problems.empty() ? ExitCode::Done : ExitCode::Problems;
 }
@@ -65,14 +65,15 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
     const CheckOptions options;
     CommandReader reader(CheckText(QT_TRANSLATE_NOOP(
         "CheckCommand",
-        "Check a map file for damage, invalid values, broken references and missing data.\nExit code: 0 no "
+        "Check a map for damage, invalid values, broken references and missing data.\nExit code: 0 no "
         "problems, 1 "
         "problems found, 2 the command was not understood.")));
     reader.AddCommand(QStringLiteral("check"));
     reader.RequireWords(1, 1);
     reader.Options().addOptions({options.repair, options.timeLimit});
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), CheckText(QT_TRANSLATE_NOOP("CheckCommand", "The map file.")));
+        QStringLiteral("MAP"),
+        CheckText(QT_TRANSLATE_NOOP("CheckCommand", "The map: a file, or a place on a server.")));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     const auto limit = LimitOf(reader.Value(options.timeLimit));
@@ -81,7 +82,14 @@ int CheckCommand(const QStringList& arguments, const Terminal& terminal)
             terminal,
             CheckText(QT_TRANSLATE_NOOP("CheckCommand", "--time-limit needs a whole number of seconds.")));
     }
-    return Check(reader.Words().first(), reader.IsSet(options.repair), *limit, terminal);
+    const QString map = reader.Words().first();
+    if (reader.IsSet(options.repair) && !StorePlace::IsFile(map)) {
+        return reader.Refuse(
+            terminal,
+            CheckText(QT_TRANSLATE_NOOP(
+                "CheckCommand", "--repair is for map files; a map on a server is only checked.")));
+    }
+    return Check(map, reader.IsSet(options.repair), *limit, terminal);
 }
 
 } // namespace Orvane

@@ -2,9 +2,11 @@
 #include "shell/command/CommandLine.h"
 
 #include "shell/command/CheckCommand.h"
+#include "shell/command/CopyCommand.h"
 #include "shell/command/ExportCommand.h"
 #include "shell/command/ImportCommand.h"
 #include "shell/command/ListCommand.h"
+#include "shell/command/ShareCommand.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -37,8 +39,10 @@ QString HelpText()
         "CommandLine",
         "Orvane, a small desktop map program.\n\nThese commands run without a window; each has its own "
         "--help:\n  orvane MAP --export FILE     draw a map as PDF, SVG or PNG\n  orvane import DATA --to "
-        "MAP  add data to a map file\n  orvane check MAP             check a map file for problems\n  orvane "
-        "list MAP              list the layers of a map file"));
+        "MAP  add data to a map\n  orvane check MAP             check a map for problems\n  orvane "
+        "list MAP              list the layers of a map\n  orvane copy MAP NEW          copy a map, also to "
+        "or "
+        "from a server\n  orvane share PLACE           choose who may use a map on a server"));
 }
 
 bool IsExport(const QStringList& arguments)
@@ -77,7 +81,8 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
     CommandReader reader(HelpText());
     reader.Options().addOptions({options.version, options.trace, options.control});
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), CommandText(QT_TRANSLATE_NOOP("CommandLine", "The map file to open.")),
+        QStringLiteral("MAP"),
+        CommandText(QT_TRANSLATE_NOOP("CommandLine", "The map to open: a file, or a place on a server.")),
         QStringLiteral("[MAP]"));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
@@ -91,7 +96,8 @@ std::variant<int, WindowRequest> ReadWindowRequest(const QStringList& arguments,
 bool NeedsNoWindow(const QStringList& arguments)
 {
     static const QStringList commands{
-        QStringLiteral("import"), QStringLiteral("check"), QStringLiteral("list")};
+        QStringLiteral("import"), QStringLiteral("check"), QStringLiteral("list"), QStringLiteral("copy"),
+        QStringLiteral("share")};
     static const QStringList answers{
         QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("-v"), QStringLiteral("--version")};
     return commands.contains(arguments.value(1)) || IsExport(arguments)
@@ -108,6 +114,10 @@ std::variant<int, WindowRequest> RunCommandLine(const QStringList& arguments, co
         return Told(terminal, [&] { return CheckCommand(arguments, terminal); });
     if (arguments.value(1) == QLatin1String("list"))
         return Told(terminal, [&] { return ListCommand(arguments, terminal); });
+    if (arguments.value(1) == QLatin1String("copy"))
+        return Told(terminal, [&] { return CopyCommand(arguments, terminal); });
+    if (arguments.value(1) == QLatin1String("share"))
+        return Told(terminal, [&] { return ShareCommand(arguments, terminal); });
     if (IsExport(arguments))
         return Told(terminal, [&] { return ExportCommand(arguments, terminal); });
     return ReadWindowRequest(arguments, terminal);

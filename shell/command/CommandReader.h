@@ -61,6 +61,8 @@ public:
     QStringList Words() const;
     bool IsSet(const QCommandLineOption& option) const { return m_parser.isSet(option); }
     QString Value(const QCommandLineOption& option) const { return m_parser.value(option); }
+    /// Of an option that may be given several times.
+    QStringList Values(const QCommandLineOption& option) const { return m_parser.values(option); }
 
     /// Reports a mistake in the arguments; returns ExitCode::Usage.
     int Refuse(const Terminal& terminal, const QString& mistake) const;

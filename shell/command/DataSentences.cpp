@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/command/DataSentences.h"
 
+#include "mapkit/data/ServerTables.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -34,7 +36,7 @@ QString PathToTell(const QString& path)
 QString WithPath(const QString& sentence, const QString& path)
 {
     const QString folder = QDir::toNativeSeparators(QFileInfo(path).absolutePath());
-    if (path.isEmpty() || sentence.contains(folder))
+    if (path.isEmpty() || IsServerTable(path) || sentence.contains(folder))
         return sentence;
     const QString withPath = WithPaths(sentence, {path});
     const QString told = PathToTell(path);

@@ -152,7 +152,8 @@ std::variant<int, ExportRequest> ReadExportOptions(const QStringList& arguments,
         {options.file, options.scheme, options.scale, options.size, options.portrait, options.resolution,
          options.title, options.noLegend, options.noScaleBar, options.mapOnly});
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), ExportText(QT_TRANSLATE_NOOP("ExportCommand", "The map file.")));
+        QStringLiteral("MAP"),
+        ExportText(QT_TRANSLATE_NOOP("ExportCommand", "The map: a file, or a place on a server.")));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     try {

@@ -6,7 +6,10 @@
 #include "mapkit/document/MapDocument.h"
 #include "shell/command/DataSentences.h"
 #include "shell/map/ImportPlan.h"
+#include "shell/servers/ServerAccess.h"
 #include "store/ILayerStore.h"
+#include "store/StorePlace.h"
+#include "store/opening/LayerStores.h"
 
 #include <OrvaneShellLib/Transaction.h>
 
@@ -107,9 +110,9 @@ struct ImportRequest {
 };
 
 // The map, if it is there already.
-std::unique_ptr<MapDocument> ExistingMap(const QString& path)
+std::unique_ptr<MapDocument> ExistingMap(const QString& place)
 {
-    return QFileInfo::exists(path) ? MapDocument::Open(path) : nullptr;
+    return LayerStores::Exists(place) ? MapDocument::Open(place, AccessHere(place)) : nullptr;
 }
 
 ImportPlan Plan(const ImportRequest& request, const MapDocument* map)
@@ -161,12 +164,12 @@ int Import(const ImportRequest& request, const Terminal& terminal)
     if (map)
         add(*map);
     else
-        MapDocument::Make(request.map, IfExists::Refuse, add);
+        MapDocument::Make(request.map, IfExists::Refuse, add, AccessHere(request.map));
     TellNotes(plan, terminal);
     TellLine(
         terminal,
         ImportText(QT_TRANSLATE_NOOP("ImportCommand", "Layers added to \"%1\": %2"))
-            .arg(QFileInfo(request.map).fileName(), QLocale().toString(qulonglong(LayerCount(plan.data)))));
+            .arg(StorePlace::FileNameOf(request.map), QLocale().toString(qulonglong(LayerCount(plan.data)))));
     const bool isAll = plan.data.problems.empty() && plan.IsPlaced();
     return isAll ? ExitCode::Done : ExitCode::Problems;
 }
@@ -174,8 +177,9 @@ int Import(const ImportRequest& request, const Terminal& terminal)
 struct ImportOptions {
     QCommandLineOption to{
         QStringLiteral("to"),
-        ImportText(
-            QT_TRANSLATE_NOOP("ImportCommand", "The map file to add to; it is made when there is none.")),
+        ImportText(QT_TRANSLATE_NOOP(
+            "ImportCommand",
+            "The map to add to: a file, or a place on a server; it is made when there is none.")),
         QStringLiteral("MAP")};
     QCommandLineOption dataSystem{
         QStringLiteral("crs"),

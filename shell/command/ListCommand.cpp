@@ -128,7 +128,8 @@ int ListCommand(const QStringList& arguments, const Terminal& terminal)
     reader.RequireWords(1, 1);
     reader.Options().addOption(json);
     reader.Options().addPositionalArgument(
-        QStringLiteral("MAP"), ListText(QT_TRANSLATE_NOOP("ListCommand", "The map file.")));
+        QStringLiteral("MAP"),
+        ListText(QT_TRANSLATE_NOOP("ListCommand", "The map: a file, or a place on a server.")));
     if (const auto ended = reader.Read(arguments, terminal))
         return *ended;
     return List(reader.Words().first(), reader.IsSet(json), terminal);

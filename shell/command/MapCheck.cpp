@@ -4,10 +4,14 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/RasterSource.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/document/EarlierBackdrop.h"
 #include "mapkit/document/SourceTable.h"
 #include "shell/command/DataSentences.h"
+#include "shell/command/TemporaryMap.h"
 #include "shell/command/ValueCheck.h"
+#include "shell/servers/ServerAccess.h"
+#include "store/StorePlace.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 #include "store/sqlite/repair/DanglingRows.h"
 #include "store/sqlite/repair/FileDamage.h"
@@ -66,6 +70,9 @@ void AddUnreadable(Problems& problems, const QString& path, const QString& reaso
 
 // The layers of the map that one layer of a file is shown in: their columns.
 using ColumnsByLayer = std::map<QString, QStringList>;
+using ColumnsByPath = std::map<QString, ColumnsByLayer>;
+// Path, and name in an archive.
+using RasterNames = std::set<std::pair<QString, QString>>;
 
 // Why the layer cannot be read; empty when it can.
 QString WhyUnreadable(const DataSource& source, const QString& name, const QString& layer)
@@ -125,10 +132,8 @@ void AddMissingFile(Problems& problems, const QString& path)
     problems.push_back({Kind::MissingData, text.arg(path), false});
 }
 
-void AddRaster(Problems& problems, const QString& path, const QString& member = {})
+void AddRaster(Problems& problems, const QString& path, const QString& member)
 {
-    if (!QFileInfo::exists(path))
-        return AddMissingFile(problems, path);
     try {
         const RasterSource raster(path, member);
     } catch (const RunTimeError& error) {
@@ -136,22 +141,39 @@ void AddRaster(Problems& problems, const QString& path, const QString& member = 
     }
 }
 
-void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources)
+// Removes what is in files that are not there, and names each file once.
+void AddMissingFiles(Problems& problems, ColumnsByPath& layers, RasterNames& rasters)
 {
-    std::map<QString, ColumnsByLayer> layers; // by path
-    std::set<std::pair<QString, QString>> rasters; // path, name in an archive
+    std::set<QString> missing;
+    const auto isMissing = [&](const auto& entry) {
+        if (QFileInfo::exists(entry.first))
+            return false;
+        if (missing.insert(entry.first).second)
+            AddMissingFile(problems, entry.first);
+        return true;
+    };
+    std::erase_if(layers, isMissing);
+    std::erase_if(rasters, isMissing);
+}
+
+// backdrop: the picture under a map of an earlier version; empty for none.
+void AddMissingData(Problems& problems, const std::vector<LayerSource>& sources, const QString& backdrop)
+{
+    ColumnsByPath layers;
+    RasterNames rasters;
+    if (!backdrop.isEmpty())
+        rasters.insert({backdrop, QString()});
     for (const LayerSource& source : sources) {
+        if (IsServerTable(source.path))
+            continue; // no file
         if (source.kind == DataKind::Raster)
             rasters.insert({source.path, source.ogrLayer});
         else
             AddNames(layers[source.path][source.ogrLayer], source.choice.columns);
     }
-    for (const auto& [path, found] : layers) {
-        if (QFileInfo::exists(path))
-            AddUnreadable(problems, path, found);
-        else
-            AddMissingFile(problems, path);
-    }
+    AddMissingFiles(problems, layers, rasters);
+    for (const auto& [path, found] : layers)
+        AddUnreadable(problems, path, found);
     for (const auto& [path, member] : rasters)
         AddRaster(problems, path, member);
 }
@@ -199,7 +221,8 @@ MapProblem Unfinished(const char* text, CheckLimit limit)
     return {Kind::Unfinished, Translate(text).arg(QLocale().toString(qint64(seconds))), false};
 }
 
-Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path, CheckLimit limit)
+Problems
+ProblemsIn(SqliteLayerDatabase& database, const QString& path, const SourcePaths& paths, CheckLimit limit)
 {
     Problems problems;
     const bool finished = IsFinished(database, limit, [&] {
@@ -215,12 +238,23 @@ Problems ProblemsIn(SqliteLayerDatabase& database, const QString& path, CheckLim
                 "keep programs busy. --time-limit sets another limit."),
             limit));
     }
-    const std::vector<LayerSource> sources = SourceTable(database, path).All();
-    AddMissingData(problems, sources);
+    const std::vector<LayerSource> sources = SourceTable(database, paths).All();
+    AddMissingData(problems, sources, EarlierBackdrop::Find(database, path));
     AddUnknownSystems(problems, sources);
-    const QString backdrop = EarlierBackdrop::Find(database, path);
-    if (!backdrop.isEmpty())
-        AddRaster(problems, backdrop);
+    return problems;
+}
+
+// What is wrong with the values and the data, and with references that the tables do not declare.
+Problems ProblemsOnServer(const QString& place, CheckLimit limit)
+{
+    const TemporaryMap copy(place);
+    StoreOptions options;
+    options.shownPath = StorePlace::NameOf(place);
+    const auto database = SqliteLayerDatabase::Open(copy.Path(), OpenMode::ReadOnly, options);
+    Problems problems
+        = ProblemsIn(*database, place, SourcePaths::InFolder(AccessHere(place).dataFolder), limit);
+    for (MapProblem& problem : problems)
+        problem.repairable = false;
     return problems;
 }
 
@@ -257,16 +291,18 @@ std::optional<QStringList> Repair(const QString& path, const Problems& problems,
 
 } // namespace
 
-std::vector<MapProblem> CheckMap(const QString& path, CheckLimit limit)
+std::vector<MapProblem> CheckMap(const QString& map, CheckLimit limit)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    const auto database = SqliteLayerDatabase::Open(absolute, OpenMode::ReadOnly);
-    return ProblemsIn(*database, absolute, limit);
+    const QString place = StorePlace::Canonical(map);
+    if (!StorePlace::IsFile(place))
+        return ProblemsOnServer(place, limit);
+    const auto database = SqliteLayerDatabase::Open(place, OpenMode::ReadOnly);
+    return ProblemsIn(*database, place, SourcePaths(place), limit);
 }
 
 std::vector<MapProblem> RepairMap(const QString& path, QStringList* replaced, CheckLimit limit)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString absolute = StorePlace::Canonical(path);
     Problems problems = CheckMap(absolute, limit);
     const bool repairable = std::any_of(
         problems.begin(), problems.end(), [](const MapProblem& problem) { return problem.repairable; });

@@ -10,7 +10,7 @@
 
 namespace Orvane {
 
-/// One thing that is wrong with a map file.
+/// One thing that is wrong with a map.
 struct MapProblem {
     enum class Kind {
         Damage, ///< the file is inconsistent
@@ -30,10 +30,10 @@ struct MapProblem {
 using CheckLimit = std::optional<std::chrono::milliseconds>;
 inline constexpr std::chrono::minutes LongestMapCheck{10};
 
-/// The problems of the map file, worst first; empty if there are none. The file is not changed, and may be
-/// open elsewhere. Raises what LayerStores::Open raises for a file that is missing, is not a map, or is too
-/// damaged to be opened.
-std::vector<MapProblem> CheckMap(const QString& path, CheckLimit limit = LongestMapCheck);
+/// The problems of a map, worst first; empty if there are none. The map is not changed, and may be open
+/// elsewhere. A map on a server is checked in a copy, and none of its problems is repairable. Raises what
+/// LayerStores::Open raises for a map that is missing, is none, or is too damaged to be opened.
+std::vector<MapProblem> CheckMap(const QString& map, CheckLimit limit = LongestMapCheck);
 
 /// Repairs what can be repaired in one transaction, and returns the remaining problems. A map without such
 /// problems is not written; neither is one whose repair takes longer than the limit. Raises the errors of

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QTemporaryDir>
+#include "shell/command/TemporaryMap.h"
 
 #include <memory>
 
@@ -9,13 +9,12 @@ namespace Orvane {
 
 class MapDocument;
 
-/// A copy of a map file that can be changed freely and is removed with this object. The map itself is opened
-/// for reading only, so it may be in a read-only folder, and open elsewhere.
+/// A copy of a map that can be changed freely and is removed with this object. The map may be on a server.
 class MapCopy
 {
 public:
-    /// Raises the errors of opening a layer database, and DatabaseFailure if there is no room for the copy.
-    explicit MapCopy(const QString& path);
+    /// Raises what TemporaryMap raises.
+    explicit MapCopy(const QString& map);
     ~MapCopy();
     MapCopy(const MapCopy&) = delete;
     MapCopy& operator=(const MapCopy&) = delete;
@@ -23,7 +22,7 @@ public:
     MapDocument& Document() const { return *m_document; }
 
 private:
-    QTemporaryDir m_folder;
+    TemporaryMap m_copy;
     std::unique_ptr<MapDocument> m_document;
 };
 

@@ -107,6 +107,23 @@ TEST_F(MapCheckDataTest, ARasterThatIsMissingOrCannotBeReadIsAProblem)
     EXPECT_THAT(Kinds(CheckMap(m_map)), testing::ElementsAre(Kind::UnreadableData));
 }
 
+TEST_F(MapCheckDataTest, AMissingFileIsNamedOnceForItsFeaturesAndAllItsRasters)
+{
+    const auto document = MapDocument::Open(m_map);
+    NewLayer raster = NewLayer::OfRaster();
+    for (const auto& [file, member] :
+         {std::pair("a.geojson", "x"), std::pair("gone.gpkg", "x"), std::pair("gone.gpkg", "y")}) {
+        raster.path = m_folder.Path(file);
+        raster.ogrLayer = member;
+        document->AddLayer(raster);
+    }
+    ASSERT_TRUE(QFile::remove(m_folder.Path("a.geojson")));
+    const std::vector<MapProblem> problems = CheckMap(m_map);
+    ASSERT_THAT(Kinds(problems), testing::ElementsAre(Kind::MissingData, Kind::MissingData));
+    EXPECT_TRUE(problems[0].text.contains("a.geojson"));
+    EXPECT_TRUE(problems[1].text.contains("gone.gpkg"));
+}
+
 TEST_F(MapCheckDataTest, ThePictureUnderAMapOfAnEarlierVersionIsCheckedToo)
 {
     MapSettings::Write(*SqliteLayerDatabase::Open(m_map), "Backdrop", "gone.tif");
