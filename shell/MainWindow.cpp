@@ -4,7 +4,6 @@
 #include "hostkit/windows/LongWork.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/common/Guard.h"
-#include "mapkit/data/ReadingFailure.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/actions/DataActions.h"
 #include "shell/actions/DockChoice.h"
@@ -14,13 +13,14 @@
 #include "shell/actions/RenderingActions.h"
 #include "shell/actions/SchemeActions.h"
 #include "shell/actions/ThemeActions.h"
-#include "shell/dialogs/MapFileDialog.h"
 #include "shell/help/HelpActions.h"
 #include "shell/map/ImportPlan.h"
 #include "shell/map/MapSession.h"
 #include "shell/map/MapSharing.h"
+#include "shell/map/TableImport.h"
 #include "shell/map/TableQuestions.h"
 #include "shell/output/OutputActions.h"
+#include "shell/servers/ServerActions.h"
 #include "shell/table/AttributeTables.h"
 #include "shell/tools/ToolActions.h"
 #include "shell/view/MapMenu.h"
@@ -30,7 +30,6 @@
 #include "shell/window/Icons.h"
 #include "shell/window/MapNotice.h"
 #include "shell/window/MapStatus.h"
-#include "shell/window/RecentMaps.h"
 #include "shell/window/RecentMapsMenu.h"
 #include "shell/window/RunWithProgress.h"
 #include "shell/window/WindowPlace.h"
@@ -38,11 +37,11 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QTimer>
+
+#include <exception>
 
 namespace Orvane {
 
@@ -76,6 +75,13 @@ MainWindow::MainWindow(CallTrace* trace)
         = std::make_unique<MapMenu>(Canvas(), *this, MapMenu::Shared{*m_ui->actZoomAll, m_views->Previous()});
     m_schemes = std::make_unique<SchemeActions>(*m_ui->menuSchemes, *statusBar(), m_layerControl, *this);
     m_sharing = std::make_unique<MapSharing>(*this, [this] { ShowMapAgain(); });
+    m_servers = std::make_unique<ServerActions>(*m_ui->menuFile, m_ui->actSaveMapAs, *this);
+    m_sharing->ShowIn(*statusBar());
+    m_files = std::make_unique<MapFiles>(MapFiles::Window{
+        *this, m_layerControl, *m_sharing, *m_servers, [this]() -> MapDocument& { return Document(); },
+        [this](auto document, const SourceContents& contents, MapFiles::Opening opening) {
+            Use(std::move(document), contents, opening);
+        }});
     m_themes = std::make_unique<ThemeActions>(*m_ui->menuThemes, m_layerControl, *this);
     m_dock = std::make_unique<DockChoice>(*m_ui->actDockLayerControl, *this);
     m_dock->AddSwitchTo(*m_ui->menuView, *m_ui->toolBar, *m_ui->actLayerControl);
@@ -110,38 +116,7 @@ MapDocument& MainWindow::Document()
 
 void MainWindow::OpenMap(const QString& path)
 {
-    if (!Document().IsAt(path) && !m_sharing->MayOpen(path))
-        return;
-    m_layerControl.WithAnotherMap([&] {
-        if (!KeepUntitledMap())
-            return;
-        const bool again = Document().IsAt(path);
-        LetGoOf(path);
-        std::unique_ptr<MapDocument> document = MapDocument::Open(path);
-        const SourceContents contents = again ? SourceContents() : ContentsOf(*document);
-        Use(std::move(document), contents, Opening::ByUser);
-        RecentMaps::Add(Document().Path());
-    });
-}
-
-// Before the map takes the place of the other, which stays when the user cancels. A map whose reading does
-// not end then is opened without its data: another file must not keep it closed.
-SourceContents MainWindow::ContentsOf(const MapDocument& document)
-{
-    const std::vector<LayerSource> sources = document.Sources();
-    try {
-        return ReadOrGiveUp(
-            this, tr("Reading map data"), [sources, system = document.System()](Progress& progress) {
-                SourceContents contents = ReadSources(sources, system, progress);
-                progress.StopIfCancelled(); // then it is not all
-                return contents;
-            });
-    } catch (const ReadingGivenUp& error) {
-        SourceContents nothing;
-        for (const LayerSource& source : sources)
-            nothing.failures.emplace(source.layerID, error.Description());
-        return nothing;
-    }
+    m_files->Open(path);
 }
 
 void MainWindow::AddData(const QStringList& paths)
@@ -151,6 +126,23 @@ void MainWindow::AddData(const QStringList& paths)
         [data = TableQuestions::FindData(paths, *this), target = TargetOf(*m_session)](Progress& progress) {
             return PlanImport(data, target, progress);
         });
+    AddPlanned(std::move(plan));
+}
+
+void MainWindow::AddTables()
+{
+    const QStringList tables = m_servers->AskForTables();
+    if (tables.isEmpty())
+        return;
+    AddPlanned(ReadOrGiveUp(
+        this, tr("Opening map data"),
+        [tables, server = Document().Tables(), target = TargetOf(*m_session)](Progress& progress) {
+            return PlanImport(LookIntoTables(server, tables, progress), target, progress);
+        }));
+}
+
+void MainWindow::AddPlanned(ImportPlan plan)
+{
     m_system->Settle(plan, this);
     const FoundData& found = plan.data;
     const SourceContents contents = ReadOrGiveUp(
@@ -224,10 +216,8 @@ void MainWindow::ConnectActions()
         connect(
             action, &QAction::triggered, this, [this, command] { Guard(this, [&] { (this->*command)(); }); });
     };
-    run(m_ui->actNewMap, &MainWindow::NewMap);
-    run(m_ui->actOpenMap, &MainWindow::AskForMap);
-    run(m_ui->actSaveMapAs, &MainWindow::SaveMapAs);
     run(m_ui->actLayerControl, &MainWindow::SwitchLayerControl);
+    ConnectFiles();
     connect(m_ui->actQuit, &QAction::triggered, this, &QWidget::close);
     connect(m_ui->actZoomIn, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomIn);
     connect(m_ui->actZoomOut, &QAction::triggered, m_ui->canvas, &MapCanvas::ZoomOut);
@@ -244,6 +234,34 @@ void MainWindow::ConnectActions()
         statusBar()->showMessage(message, ShortMessageTime);
     });
     connect(m_data.get(), &DataActions::DataChanged, this, &MainWindow::ShowSystem);
+}
+
+void MainWindow::ConnectFiles()
+{
+    const auto run = [this](QAction* action, void (MapFiles::*command)()) {
+        connect(action, &QAction::triggered, this, [this, command] {
+            Guard(this, [&] { ((*m_files).*command)(); });
+        });
+    };
+    run(m_ui->actNewMap, &MapFiles::New);
+    run(m_ui->actOpenMap, &MapFiles::AskAndOpen);
+    run(m_ui->actSaveMapAs, &MapFiles::SaveAs);
+    ConnectServers();
+}
+
+void MainWindow::ConnectServers()
+{
+    const auto run = [this](void (ServerActions::*wanted)(), void (MapFiles::*command)()) {
+        connect(m_servers.get(), wanted, this, [this, command] {
+            Guard(this, [&] { ((*m_files).*command)(); });
+        });
+    };
+    run(&ServerActions::OpenWanted, &MapFiles::AskAndOpenFromServer);
+    run(&ServerActions::SaveWanted, &MapFiles::SaveOnServer);
+    run(&ServerActions::DataFolderChanged, &MapFiles::OpenAgain);
+    connect(m_servers.get(), &ServerActions::TablesWanted, this, [this] {
+        Guard(this, [this] { AddTables(); });
+    });
 }
 
 void MainWindow::ConnectSystems()
@@ -294,82 +312,39 @@ void MainWindow::SwitchLayerControl()
         ShowLayerControl();
 }
 
-void MainWindow::NewMap()
-{
-    if (!KeepUntitledMap())
-        return;
-    const QString folder = QFileInfo(MapFileDialog::Proposed(Document())).path();
-    const QString path = MapFileDialog::Ask(tr("New Map"), folder + QLatin1Char('/'), this);
-    if (path.isEmpty())
-        return;
-    m_layerControl.WithAnotherMap([&] {
-        LetGoOf(path);
-        Use(MapDocument::CreateOver(path));
-        RecentMaps::Add(Document().Path());
-    });
-}
-
-void MainWindow::AskForMap()
-{
-    const QString path
-        = QFileDialog::getOpenFileName(this, tr("Open Map"), {}, tr("Maps (*.orvane);;All files (*)"));
-    if (!path.isEmpty())
-        OpenMap(path);
-}
-
-void MainWindow::SaveMapAs()
-{
-    const QString path = MapFileDialog::Ask(tr("Save Map As"), MapFileDialog::Proposed(Document()), this);
-    if (path.isEmpty() || Document().IsAt(path))
-        return;
-    const bool isSaved = m_layerControl.WithEditorsClosed([&] {
-        Document().SaveCopy(path);
-        Use(MapDocument::Open(path));
-    });
-    if (isSaved)
-        RecentMaps::Add(path);
-}
-
-void MainWindow::Use(std::unique_ptr<MapDocument> document, const SourceContents& contents, Opening opening)
+// Nothing keeps the session that ends, even if one of its users cannot use the new one.
+void MainWindow::Use(
+    std::unique_ptr<MapDocument> document, const SourceContents& contents, MapFiles::Opening opening)
 {
     auto session = std::make_unique<MapSession>(std::move(document), Canvas(), *this, m_trace);
     m_layerControl.Use(*session); // first: it still uses the client of the old session
     m_session = std::move(session);
-    const auto handOver = [this](auto&... users) { (users.Use(*m_session), ...); };
+    std::exception_ptr failure;
+    const auto handOne = [&](auto& user, auto& used) {
+        try {
+            user.Use(used);
+        } catch (...) {
+            failure = failure ? failure : std::current_exception();
+        }
+    };
+    const auto handOver = [&](auto&... users) { (handOne(users, *m_session), ...); };
     handOver(
         *m_edits, *m_data, *m_tools, *m_views, *m_schemes, *m_themes, *m_tables, *m_renderings, *m_properties,
         *m_mapMenu, *m_output, *m_sharing, *m_dock, *m_system);
-    const QString path = Document().Path();
-    setWindowFilePath(path);
-    setWindowTitle(
-        path.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(QFileInfo(path).completeBaseName()));
-    if (opening == Opening::ByUser)
-        m_schemes->ApplyAtOpening();
+    handOne(*m_servers, Document());
+    const QString name = Document().Name();
+    setWindowFilePath(Document().FilePath());
+    setWindowTitle(name.isEmpty() ? tr("New map - Orvane") : tr("%1 - Orvane").arg(m_servers->TitleOfMap()));
+    if (opening == MapFiles::Opening::ByUser && !failure && !m_sharing->IsShared())
+        m_schemes->ApplyAtOpening(); // it would take back what others are doing
     ReadMap(MapSession::View::All, contents);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 bool MainWindow::LeaveMap()
 {
-    return m_layerControl.Close() && KeepUntitledMap();
-}
-
-bool MainWindow::KeepUntitledMap()
-{
-    if (!Document().Path().isEmpty() || !Document().HasLayers())
-        return true;
-    const auto answer = QMessageBox::question(
-        this, tr("New map"), tr("Save this map before closing it?"),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    if (answer == QMessageBox::Save)
-        SaveMapAs();
-    return answer == QMessageBox::Discard || !Document().Path().isEmpty();
-}
-
-// A file that is opened twice in one program, or replaced while it is open, would lose its locks.
-void MainWindow::LetGoOf(const QString& path)
-{
-    if (Document().IsAt(path))
-        Use(MapDocument::Untitled());
+    return m_layerControl.Close() && m_files->KeepUntitledMap();
 }
 
 void MainWindow::ShowMapAgain()

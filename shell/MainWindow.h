@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/MapFiles.h"
 #include "shell/actions/LayerControl.h"
 #include "shell/map/MapSession.h"
 
@@ -35,9 +36,11 @@ class RenderingActions;
 class RecentMapsMenu;
 class ToolActions;
 class SchemeActions;
+class ServerActions;
 class ThemeActions;
 class ViewActions;
 struct FoundData;
+struct ImportPlan;
 
 /// Orvane's window: one map, its menus and tools, and the layer control beside it.
 ///
@@ -80,23 +83,18 @@ private:
     void ShareKeys();
     void SetIcons();
     void SwitchLayerControl();
-    void NewMap();
-    void AskForMap();
-    void SaveMapAs();
-
+    void ConnectFiles();
+    void ConnectServers();
     void ConnectSystems();
     void ShowSystem();
+    void AddTables();
+    void AddPlanned(ImportPlan plan);
     void AddFound(const FoundData& found, const SourceContents& contents);
-    SourceContents ContentsOf(const MapDocument& document);
-    // ByUser: the scheme that is chosen for the opening is loaded.
-    enum class Opening { ByUser, Other };
     void
     Use(std::unique_ptr<MapDocument> document, const SourceContents& contents = {},
-        Opening opening = Opening::Other);
+        MapFiles::Opening opening = MapFiles::Opening::Other);
     bool LeaveMap();
-    void LetGoOf(const QString& path);
     void ShowMapAgain();
-    bool KeepUntitledMap();
     void ReadMap(MapSession::View view, const SourceContents& known = {});
 
     std::unique_ptr<Ui::MainWindow> m_ui;
@@ -109,6 +107,8 @@ private:
     std::unique_ptr<SchemeActions> m_schemes;
     std::unique_ptr<ThemeActions> m_themes;
     std::unique_ptr<MapSharing> m_sharing;
+    std::unique_ptr<ServerActions> m_servers; // asks for passwords as long as the map is open
+    std::unique_ptr<MapFiles> m_files;
     std::unique_ptr<MapSession> m_session;
     std::unique_ptr<DataActions> m_data;
     std::unique_ptr<RecentMapsMenu> m_recent;

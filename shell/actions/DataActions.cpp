@@ -80,7 +80,7 @@ void DataActions::Use(MapSession& session)
 
 void DataActions::TellMapIsGone()
 {
-    const QString name = QFileInfo(m_session->Document().Path()).fileName();
+    const QString name = QFileInfo(m_session->Document().FilePath()).fileName();
     QMessageBox box(
         QMessageBox::Warning, tr("Map File"),
         tr("The map file \"%1\" was moved or deleted. What you change is kept only when you save the map "
@@ -116,7 +116,7 @@ void DataActions::FindData()
     MapDocument& document = m_session->Document();
     const std::vector<LayerSource> missing = MissingSources(document);
     const QString folder = QFileDialog::getExistingDirectory(
-        &m_window, tr("Find Missing Data"), QFileInfo(document.Path()).path());
+        &m_window, tr("Find Missing Data"), QFileInfo(document.FilePath()).path());
     if (folder.isEmpty())
         return;
     std::vector<LayerSource> found;

@@ -33,6 +33,7 @@ void SchemeStatus::Use(MapSession& session)
     connect(&events, &HostNotifications::LayerDeleted, this, &SchemeStatus::Refresh);
     connect(&events, &HostNotifications::SchemesChanged, this, &SchemeStatus::Refresh);
     connect(&session, &MapSession::LayersRead, this, &SchemeStatus::Refresh);
+    connect(&session, &MapSession::OthersFollowed, this, &SchemeStatus::Refresh);
     Refresh();
 }
 

@@ -6,10 +6,12 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/RasterSource.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/ReadingBound.h"
 #include "messages/NameInText.h"
 #include "shell/systems/SystemChooser.h"
+#include "shell/window/RunWithProgress.h"
 #include "ui_LayerPropertiesDialog.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -171,6 +173,14 @@ void LayerPropertiesDialog::ShowSource(const LayerSource& source)
 
 void LayerPropertiesDialog::ReadDetails(const LayerSource& source)
 {
+    if (IsServerTable(source.path)) {
+        const SourceDetails known = ReadOrGiveUp(this, tr("Reading map data"), [source](Progress&) {
+            return TablesOf(source).Details(source.ogrLayer);
+        });
+        m_named = known.system;
+        ShowDetails(known);
+        return;
+    }
     const DataSource file(source.path);
     const SourceDetails details = DetailsOf(file, source);
     m_named = details.system;

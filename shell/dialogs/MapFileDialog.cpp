@@ -25,6 +25,15 @@ QString NameOfData(const std::vector<LayerSource>& sources)
     return isOne ? first.completeBaseName() : first.dir().dirName();
 }
 
+// That of a map on a server is made fit for a file.
+QString NameFor(const MapDocument& document, const std::vector<LayerSource>& sources)
+{
+    QString name = document.Name().replace(u'/', u'-');
+    if (!name.isEmpty())
+        return name;
+    return sources.empty() ? QCoreApplication::translate("MapFileDialog", "New map") : NameOfData(sources);
+}
+
 QString WritableFolder(const QString& folder)
 {
     return QFileInfo(folder).isWritable()
@@ -36,13 +45,11 @@ QString WritableFolder(const QString& folder)
 
 QString Proposed(const MapDocument& document)
 {
-    if (!document.Path().isEmpty())
-        return document.Path();
+    if (!document.FilePath().isEmpty())
+        return document.FilePath();
     const std::vector<LayerSource> sources = document.Sources();
     const QString folder = sources.empty() ? QString() : QFileInfo(sources.front().path).path();
-    const QString name
-        = sources.empty() ? QCoreApplication::translate("MapFileDialog", "New map") : NameOfData(sources);
-    return QDir(WritableFolder(folder)).filePath(name + QStringLiteral(".orvane"));
+    return QDir(WritableFolder(folder)).filePath(NameFor(document, sources) + QStringLiteral(".orvane"));
 }
 
 QString Ask(const QString& title, const QString& proposed, QWidget* parent)

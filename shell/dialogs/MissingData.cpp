@@ -2,6 +2,7 @@
 #include "shell/dialogs/MissingData.h"
 
 #include "mapkit/common/Progress.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/document/MapDocument.h"
 #include "store/ILayerStore.h"
 
@@ -25,7 +26,9 @@ QString NameOf(const LayerSource& source)
 std::vector<LayerSource> MissingSources(const MapDocument& document)
 {
     std::vector<LayerSource> sources = document.Sources();
-    std::erase_if(sources, [](const LayerSource& source) { return QFileInfo::exists(source.path); });
+    std::erase_if(sources, [](const LayerSource& source) {
+        return IsServerTable(source.path) || QFileInfo::exists(source.path);
+    });
     return sources;
 }
 

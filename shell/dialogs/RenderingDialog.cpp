@@ -2,11 +2,14 @@
 #include "shell/dialogs/RenderingDialog.h"
 
 #include "mapkit/common/Guard.h"
-#include "mapkit/data/DataSource.h"
+#include "mapkit/common/Progress.h"
+#include "mapkit/data/ServerTables.h"
+#include "mapkit/data/SourceAttributes.h"
 #include "mapkit/document/MapDocument.h"
 #include "mapkit/files/ReadingBound.h"
 #include "mapkit/looks/ColourRamps.h"
 #include "mapkit/looks/RendererStyles.h"
+#include "shell/window/RunWithProgress.h"
 #include "ui_RenderingDialog.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -41,15 +44,25 @@ QString StyleText(qint32 style)
         .arg(StyleName(style));
 }
 
+// A server may be silent.
+std::vector<SourceField> FieldsOf(const LayerSource& source, QWidget* parent)
+{
+    const auto read = [source](Progress&) { return SourceAttributes(source).Fields(); };
+    if (IsServerTable(source.path))
+        return ReadOrGiveUp(parent, RenderingDialog::tr("Reading attributes"), read);
+    const ReadingBound soon(ReadingBound::WhileUserWaits);
+    Progress progress;
+    return read(progress);
+}
+
 // Empty when the source cannot be read, and for a raster.
-std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID)
+std::vector<SourceField> FieldsOf(const MapDocument& document, qint32 layerID, QWidget* parent)
 {
     for (const LayerSource& source : document.Sources()) {
         if (source.layerID != layerID || source.kind == DataKind::Raster)
             continue;
         try {
-            const ReadingBound soon(ReadingBound::WhileUserWaits);
-            return DataSource(source.path).Fields(source.ogrLayer);
+            return FieldsOf(source, parent);
         } catch (const RunTimeError&) { // the dialog says so
         }
     }
@@ -186,7 +199,7 @@ void RenderingDialog::ShowLayer()
 
 void RenderingDialog::ShowFields()
 {
-    const std::vector<SourceField> fields = FieldsOf(m_document, LayerID());
+    const std::vector<SourceField> fields = FieldsOf(m_document, LayerID(), this);
     m_ui->lblProblem->setVisible(fields.empty());
     m_ui->framLabels->setEnabled(!fields.empty());
     m_ui->framClasses->setEnabled(!BestAttribute(fields, AttributeUse::Classes).isEmpty());

@@ -27,6 +27,7 @@ constexpr auto Output = "5-export-and-print";
 constexpr auto Rendering = "labels-classes-lines-with-edges";
 constexpr auto Systems = "coordinate-systems";
 constexpr auto Attributes = "the-attribute-table";
+constexpr auto Servers = "maps-on-a-server";
 constexpr auto Missing = "when-something-is-missing";
 
 constexpr std::array Entries{
@@ -53,6 +54,12 @@ constexpr std::array Entries{
     Entry{"dlgTableLayer", Attributes},
     Entry{"TableColumnsDialog", "tables-with-coordinates"},
     Entry{"dlgMapFile", "2-save-the-map"},
+    Entry{"ServerMapDialog", Servers},
+    Entry{"AddServerDialog", Servers},
+    Entry{"PasswordDialog", Servers},
+    Entry{"RightsDialog", Servers},
+    Entry{"TablesDialog", Servers},
+    Entry{"lblReadOnly", Servers},
     Entry{"dlgThemeName", "themes"},
     Entry{"dlgSwitchScheme", Schemes},
     Entry{"dlgSchemeManager", Schemes},

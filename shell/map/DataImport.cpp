@@ -308,7 +308,8 @@ SourceContents ReadFound(const FoundData& data, const QString& system, Progress&
                  {},
                  layer.chosenSystem,
                  layer.choice,
-                 layer.dataKind});
+                 layer.dataKind,
+                 source.server});
     }
     SourceContents contents = ReadSources(std::move(sources), system, progress);
     progress.StopIfCancelled(); // then it is not all

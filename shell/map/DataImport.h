@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 namespace Orvane {
@@ -26,6 +27,7 @@ struct FoundData {
     struct Source {
         QString path;
         std::vector<SourceLayer> layers;
+        std::shared_ptr<const ServerTables> server = {}; ///< for a path that is ServerTablePath
     };
     std::vector<Source> sources; ///< files with at least one layer
     std::vector<TableChoice> tables; ///< tables without geometry, with the columns that are guessed

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/map/FoundLayers.h"
 
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/files/DataFiles.h"
 #include "mapkit/files/OpenedData.h"
 
@@ -75,6 +76,8 @@ QString LayerTitle(const QString& path, const SourceLayer& layer)
 
 QString SourceTitle(const QString& path)
 {
+    if (IsServerTable(path))
+        return QCoreApplication::translate("DataImport", "Tables on the server");
     const QFileInfo file(path);
     const bool isCompressed = file.suffix().compare(QLatin1String("gz"), Qt::CaseInsensitive) == 0;
     return isCompressed ? QFileInfo(file.completeBaseName()).completeBaseName() : file.completeBaseName();

@@ -29,10 +29,10 @@ constexpr auto SystemOfEmptyMap = "EPSG:3857"; // suits any place
 // Beside the map, so that both are moved together.
 QString DataFileOf(const MapDocument& document)
 {
-    if (document.Path().isEmpty())
+    if (document.FilePath().isEmpty())
         return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
             .filePath(QStringLiteral("layers.gpkg"));
-    const QFileInfo map(document.Path());
+    const QFileInfo map(document.FilePath());
     return map.absoluteDir().filePath(map.completeBaseName() + QLatin1String("-layers.gpkg"));
 }
 

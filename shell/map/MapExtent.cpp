@@ -5,6 +5,7 @@
 #include "mapkit/coordinates/SystemFacts.h"
 #include "mapkit/data/DataSource.h"
 #include "mapkit/data/MapRaster.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/files/ReadingBound.h"
 #include "shell/map/DataImport.h"
 
@@ -71,6 +72,17 @@ private:
     Progress& m_progress;
 };
 
+Box ExtentOfTable(const LayerSource& source, const QString& system, Progress& progress)
+{
+    try {
+        SourceLayer layer = TablesOf(source).Describe(source.ogrLayer, progress);
+        layer.chosenSystem = source.system;
+        return Transformed(layer.extent, SystemOf(layer), system);
+    } catch (const RunTimeError&) { // it is reported when the map is read
+        return {};
+    }
+}
+
 using FileParts = std::map<Part, const LayerSource*>;
 
 // What cannot be read is reported when the map is read.
@@ -104,6 +116,8 @@ Box ExtentOfMap(const std::vector<LayerSource>& sources, const QString& system, 
         progress.StopIfCancelled();
         if (source.kind == DataKind::Raster)
             extent.Add(ExtentOfRaster(source, system));
+        else if (IsServerTable(source.path))
+            extent.Add(ExtentOfTable(source, system, progress));
         else
             files[source.path].emplace(PartOf(source), &source);
     }

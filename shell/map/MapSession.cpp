@@ -280,6 +280,28 @@ void MapSession::DrawAgain(const QSet<qint32>& layerIDs)
     });
 }
 
+bool MapSession::FollowOthers(const QSet<qint32>& layerIDs)
+{
+    if (!HasRowsOf(layerIDs))
+        return false;
+    m_layers.Read(layerIDs);
+    if (!HasRowsOf(layerIDs))
+        return false;
+    Show();
+    m_client.RefreshEditors(layerIDs);
+    emit OthersFollowed();
+    return true;
+}
+
+bool MapSession::HasRowsOf(const QSet<qint32>& layerIDs) const
+{
+    const std::vector<MapLayer>& layers = m_layers.All();
+    return std::count_if(
+               layers.begin(), layers.end(),
+               [&](const MapLayer& layer) { return layerIDs.contains(layer.layerID); })
+        == layerIDs.size();
+}
+
 void MapSession::Show()
 {
     m_canvas.SetLayers(m_layers.All(), MetresPerUnit(m_document->System()));

@@ -74,6 +74,10 @@ public:
     QString ReadAndShow(View view = View::Stays, const SourceContents& known = {});
     /// Reads these layers' rows again and draws them.
     void DrawAgain(const QSet<qint32>& layerIDs);
+    /// Follows somebody else who has changed the rows of these layers: draws them again, and has the open
+    /// editors show them; edits that are not applied stay. False if some of them are new or gone: then the
+    /// whole map is to be read again. Raises errors of the database.
+    bool FollowOthers(const QSet<qint32>& layerIDs);
     /// Draws the layers again whose renderings were changed in the map.
     void FollowRenderings();
 
@@ -95,6 +99,8 @@ signals:
     void StepNotRecorded(const QString& reason);
     /// All layers were read again.
     void LayersRead();
+    /// FollowOthers has shown the changes of somebody else.
+    void OthersFollowed();
     /// The user has chosen other layers: ShellClient::ChosenLayers.
     void ChosenLayersChanged();
 
@@ -114,6 +120,7 @@ private:
     void ShowInSystem(const QString& before);
     void FollowLayers();
     void MarkNames();
+    bool HasRowsOf(const QSet<qint32>& layerIDs) const;
     // Of the data of these layers that were read; hidden ones count too.
     Box BoundsOf(const std::vector<qint32>& layerIDs) const;
 

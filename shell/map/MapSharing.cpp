@@ -4,8 +4,12 @@
 #include "mapkit/common/Guard.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/map/MapSession.h"
+#include "shell/window/SharingStatus.h"
 #include "store/ILayerStore.h"
+#include "store/StorePlace.h"
 #include "store/opening/LayerStores.h"
+
+#include <OrvaneShellLib/RunTimeError.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -41,18 +45,23 @@ bool IsBusy()
 MapSharing::MapSharing(QWidget& window, ShowAgain showAgain)
     : m_window(window), m_showAgain(std::move(showAgain))
 {
-    const auto look = [this] {
-        if (m_document && m_window.isVisible() && !IsBusy())
-            Guard(&m_window, [this] { Look(); });
-    };
-    connect(&m_lookAgain, &QTimer::timeout, this, look);
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, look);
+    connect(&m_lookAgain, &QTimer::timeout, this, &MapSharing::LookIfFree);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, &MapSharing::LookIfFree);
     m_lookAgain.start(LookInterval);
+}
+
+void MapSharing::ShowIn(QStatusBar& bar)
+{
+    m_status = new SharingStatus(bar);
+    connect(m_status, &SharingStatus::TryAgainWanted, this, [this] {
+        if (m_news)
+            m_news->TryAgain();
+    });
 }
 
 bool MapSharing::MayOpen(const QString& path)
 {
-    if (!LayerStores::IsInUse(path))
+    if (!StorePlace::IsFile(path) || !LayerStores::IsInUse(path))
         return true;
     QMessageBox box(
         QMessageBox::Question, tr("Open Map"),
@@ -69,16 +78,76 @@ bool MapSharing::MayOpen(const QString& path)
 
 void MapSharing::Use(MapSession& session)
 {
-    m_document = &session.Document();
-    m_version = m_document->Database().ForeignChanges();
+    m_session = &session;
+    m_change = {};
+    ILayerStore& store = session.Document().Database();
+    m_news = store.News();
+    if (m_news)
+        Listen(*m_news);
+    else
+        m_version = store.ForeignChanges();
+    ShowState();
+}
+
+// A connection that is lost at this moment is told by its state, and made again.
+void MapSharing::Listen(IChangeNews& news)
+{
+    const auto take = [this](const ForeignChange& change) {
+        Guard(&m_window, [&] { Take(change); });
+        LookIfFree();
+    };
+    try {
+        news.SetListener({take, [this] { Guard(&m_window, [this] { ShowState(); }); }});
+    } catch (const RunTimeError& error) {
+        if (error.Number() != int(ErrorNumber::ConnectionLost))
+            throw;
+    }
+}
+
+void MapSharing::LookIfFree()
+{
+    if (m_session && m_window.isVisible() && !IsBusy())
+        Guard(&m_window, [this] { m_news ? Follow() : Look(); });
 }
 
 // Whatever goes wrong while showing is reported once, not with each look.
 void MapSharing::Look()
 {
-    const qint64 now = m_document->Database().ForeignChanges();
+    const qint64 now = m_session->Document().Database().ForeignChanges();
     if (std::exchange(m_version, now) != now)
         m_showAgain();
+}
+
+void MapSharing::Take(const ForeignChange& change)
+{
+    m_change.layerIDs += change.layerIDs;
+    m_change.all |= change.all;
+}
+
+// As above; but a lost connection is told in the status bar, and the changes are shown when it is back.
+void MapSharing::Follow()
+{
+    if (m_news->State() != IChangeNews::Link::Present || (!m_change.all && m_change.layerIDs.isEmpty()))
+        return;
+    const ForeignChange change = std::exchange(m_change, {});
+    try {
+        if (change.all || !m_session->FollowOthers(change.layerIDs))
+            m_showAgain();
+    } catch (const RunTimeError& error) {
+        if (error.Number() != int(ErrorNumber::ConnectionLost))
+            throw;
+        m_change.all = true;
+    }
+}
+
+void MapSharing::ShowState()
+{
+    if (!m_status)
+        return;
+    if (m_news)
+        m_status->Show(m_news->Users(), m_news->State());
+    else
+        m_status->ShowNothing();
 }
 
 } // namespace Orvane

@@ -3,6 +3,7 @@
 
 #include "mapkit/common/Guard.h"
 #include "mapkit/common/Progress.h"
+#include "mapkit/data/ServerTables.h"
 #include "mapkit/document/MapDocument.h"
 
 #include <QDir>
@@ -58,6 +59,8 @@ SourceFollower::Stamps SourceFollower::StampsOf(const std::vector<LayerSource>& 
     std::map<QString, Stamp> known;
     Stamps stamps;
     for (const LayerSource& source : sources) {
+        if (IsServerTable(source.path))
+            continue;
         const auto [stamp, isNew] = known.try_emplace(source.path);
         if (isNew) {
             const QFileInfo file(source.path);
@@ -77,8 +80,9 @@ void SourceFollower::Watch()
         if (stamp.changed.isValid())
             files.insert(stamp.path);
     }
-    if (!m_document.Path().isEmpty())
-        wanted.insert(FolderOf(m_document.Path()));
+    const QString map = m_document.FilePath();
+    if (!map.isEmpty())
+        wanted.insert(FolderOf(map));
     if (files.size() <= MostFiles)
         wanted += files;
     const QStringList watchedPaths = m_watcher.files() + m_watcher.directories();
@@ -93,7 +97,7 @@ void SourceFollower::Watch()
 
 void SourceFollower::LookForMap()
 {
-    const QString path = m_document.Path();
+    const QString path = m_document.FilePath();
     const bool isThere = path.isEmpty() || QFileInfo::exists(path);
     const bool wasThere = std::exchange(m_mapIsThere, isThere);
     if (wasThere && !isThere)
@@ -106,7 +110,7 @@ void SourceFollower::LookAgain()
     Stamps now = StampsOf(sources);
     std::erase_if(sources, [&](const LayerSource& source) {
         const auto was = m_stamps.find(source.layerID);
-        return was == m_stamps.end() || was->second == now[source.layerID];
+        return IsServerTable(source.path) || was == m_stamps.end() || was->second == now[source.layerID];
     });
     m_stamps = std::move(now);
     Watch();

@@ -130,8 +130,8 @@ MapPage OutputActions::PageFor(const PageSettings& settings) const
 
 QString OutputActions::MapName() const
 {
-    const QString path = m_session->Document().Path();
-    return path.isEmpty() ? tr("New map") : QFileInfo(path).completeBaseName();
+    const QString name = m_session->Document().Name();
+    return name.isEmpty() ? tr("New map") : name;
 }
 
 QString OutputActions::AskForFile() const
@@ -141,7 +141,7 @@ QString OutputActions::AskForFile() const
     const QSettings settings;
     const QString ending = settings.value(QLatin1String(FormatKey), QLatin1String(UsualFormat)).toString();
     const QString folder
-        = settings.value(QLatin1String(FolderKey), QFileInfo(m_session->Document().Path()).absolutePath())
+        = settings.value(QLatin1String(FolderKey), QFileInfo(m_session->Document().FilePath()).absolutePath())
               .toString();
     QFileDialog dialog(&m_window, tr("Export Map"), folder);
     dialog.setObjectName(QStringLiteral("dlgExportFile"));

@@ -14,7 +14,7 @@ bool HasWords(const KnownSystem& system, const QStringList& words)
         words.begin(), words.end(), [&](const QString& word) { return system.searchText.contains(word); });
 }
 
-QString CellText(const KnownSystem& system, int column)
+QString SystemInColumn(const KnownSystem& system, int column)
 {
     switch (column) {
     case SystemListModel::Name:
@@ -79,7 +79,7 @@ QVariant SystemListModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= rowCount())
         return {};
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return CellText(At(index.row()), index.column());
+        return SystemInColumn(At(index.row()), index.column());
     return {};
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/window/RecentMaps.h"
 
+#include "store/StorePlace.h"
+
 #include <QFileInfo>
 #include <QSettings>
 
@@ -12,6 +14,11 @@ constexpr auto Key = "RecentMaps";
 
 } // namespace
 
+bool MayExist(const QString& place)
+{
+    return !StorePlace::IsFile(place) || QFileInfo::exists(place);
+}
+
 QStringList All()
 {
     return QSettings().value(QLatin1String(Key)).toStringList();
@@ -20,7 +27,7 @@ QStringList All()
 QString Latest()
 {
     for (const QString& path : All()) {
-        if (QFileInfo::exists(path))
+        if (MayExist(path))
             return path;
     }
     return {};

@@ -5,14 +5,16 @@
 
 namespace Orvane {
 
-/// The map files that the user worked with last, latest first, kept in the application's settings.
+/// The maps that the user worked with last, latest first, kept in the application's settings.
 namespace RecentMaps {
 
 inline constexpr int Most = 8;
 
-/// As absolute paths, including files that no longer exist.
+/// As absolute paths of files, including those that no longer exist, and as places on servers.
 QStringList All();
-/// The latest that still exists; empty for none.
+/// False for a file that no longer exists; a server is not asked.
+bool MayExist(const QString& place);
+/// The latest that MayExist; empty for none.
 QString Latest();
 /// Puts the map first.
 void Add(const QString& path);

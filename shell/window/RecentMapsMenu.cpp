@@ -3,12 +3,22 @@
 
 #include "mapkit/common/Guard.h"
 #include "shell/window/RecentMaps.h"
+#include "store/StorePlace.h"
 
-#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 
 namespace Orvane {
+
+namespace {
+
+// A map on a server may have any name.
+QString ActionText(const QString& place)
+{
+    return StorePlace::TitleOf(place).replace(u'&', QLatin1String("&&"));
+}
+
+} // namespace
 
 RecentMapsMenu::RecentMapsMenu(QMenu& menu, QWidget& window) : m_menu(menu), m_window(window)
 {
@@ -19,7 +29,7 @@ void RecentMapsMenu::Fill()
 {
     m_menu.clear();
     for (const QString& path : RecentMaps::All()) {
-        QAction* action = m_menu.addAction(QFileInfo(path).fileName());
+        QAction* action = m_menu.addAction(ActionText(path));
         action->setStatusTip(path);
         connect(action, &QAction::triggered, this, [this, path] { Guard(&m_window, [&] { Choose(path); }); });
     }
@@ -29,7 +39,7 @@ void RecentMapsMenu::Fill()
 
 void RecentMapsMenu::Choose(const QString& path)
 {
-    if (QFileInfo::exists(path)) {
+    if (RecentMaps::MayExist(path)) {
         emit Chosen(path);
         return;
     }

@@ -109,6 +109,16 @@ void RunOrGiveUp(
     throw ReadingGivenUp(subject.isEmpty() ? what : subject);
 }
 
+UnattendedWork::UnattendedWork()
+{
+    ++givenUpWorks;
+}
+
+UnattendedWork::~UnattendedWork()
+{
+    --givenUpWorks;
+}
+
 bool IsGivenUpWorkRunning()
 {
     return givenUpWorks > 0;

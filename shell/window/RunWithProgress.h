@@ -43,8 +43,18 @@ template <typename Work> auto ReadOrGiveUp(QWidget* parent, const QString& what,
     return std::move(**result);
 }
 
-/// Whether work that was given up still runs. The program must then end without destroying static objects,
-/// which the work may use.
+/// Exists in a thread as long as that may use static objects, for one that nobody waits for at the end.
+class UnattendedWork
+{
+public:
+    UnattendedWork();
+    ~UnattendedWork();
+    UnattendedWork(const UnattendedWork&) = delete;
+    UnattendedWork& operator=(const UnattendedWork&) = delete;
+};
+
+/// Whether work that was given up, or is unattended, still runs. The program must then end without destroying
+/// static objects, which the work may use.
 bool IsGivenUpWorkRunning();
 
 } // namespace Orvane

@@ -27,7 +27,8 @@ protected:
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
         QSettings().setValue("LayerControl/Docked", false); // its keys end with the window
         QFile::remove(StartupFile());
-        CityMap::Make(MapPath());
+        m_map = PathOf("town.orvane");
+        CityMap::Make(m_map);
         m_window = std::make_unique<MainWindow>();
         m_window->resize(1000, 700);
         m_window->show();

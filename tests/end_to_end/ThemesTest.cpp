@@ -40,7 +40,7 @@ TEST_F(Themes, ItsListShowsItsLayersOnly)
     MakeTheme("Town");
     const QStringList listed = Listed(Editor("Town"));
     EXPECT_FALSE(listed.contains("Fields"));
-    EXPECT_EQ(listed.size(), Count("Layers WHERE Visible <> 0 AND Code > -2"));
+    EXPECT_EQ(listed.size(), Count("Layers WHERE Visible AND Code > -2"));
     Editor("Town")->close();
 }
 
@@ -120,7 +120,7 @@ TEST_F(Themes, ABlankNameIsRefusedAndCancellingMakesNone)
 
 TEST_F(Themes, WithoutAVisibleLayerThereIsNothingToMakeAThemeOf)
 {
-    Database().Execute("UPDATE Layers SET Visible = 0");
+    Database().Execute("UPDATE Layers SET Visible = FALSE");
     MessageBoxRobot user{BoxKey::Enter};
     Choose("menuThemes", "New Theme");
     EXPECT_TRUE(user.Only().text.contains("visible"));

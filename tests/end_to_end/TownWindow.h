@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "examples/sample_maps/SampleMap.h"
+#include "end_to_end/Town.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
 #include "mapkit/document/MapDocument.h"
@@ -42,14 +42,14 @@ protected:
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
         QFile::remove(StartupFile());
-        MakeTownMap(MapPath());
+        m_map = MakeTown(m_folder, "town.orvane");
         m_window = std::make_unique<MainWindow>();
         m_window->resize(700, 450);
         m_window->show();
         m_window->OpenMap(MapPath());
     }
 
-    QString MapPath() const { return m_folder.filePath("town.orvane"); }
+    QString MapPath() const { return m_map; }
     QString PathOf(const QString& name) const { return m_folder.filePath(name); }
     static QString StartupFile()
     {
@@ -188,6 +188,7 @@ protected:
     }
 
     QTemporaryDir m_folder;
+    QString m_map; // its place
     std::unique_ptr<MainWindow> m_window;
 };
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "examples/sample_maps/SampleMap.h"
+#include "end_to_end/Town.h"
 #include "hostkit/StyleEditorPlugin.h"
 #include "hostkit/common/SettingsStore.h"
 #include "hostkit/tracing/CallTrace.h"
 #include "mapkit/canvas/MapCanvas.h"
 #include "mapkit/document/MapDocument.h"
 #include "shell/MainWindow.h"
-#include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/ILayerStore.h"
 #include "support/MessageBoxRobot.h"
 #include "support/ShownEditor.h"
 
@@ -46,12 +46,12 @@ protected:
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
         SettingsStore().Write(ViewStateKey, ViewState);
         QSettings().setValue("LayerControl/Docked", false); // the map keeps its size
-        MakeTownMap(m_folder.filePath("town.orvane"));
+        const QString map = MakeTown(m_folder, "town.orvane");
         m_traceBuffer.open(QIODevice::WriteOnly);
         m_window = std::make_unique<MainWindow>(&m_trace);
         m_window->resize(600, 400);
         m_window->show();
-        m_window->OpenMap(m_folder.filePath("town.orvane"));
+        m_window->OpenMap(map);
         m_layerID = ToInt32(Row("Name", "'Fields'")->Field("LayerID"));
     }
 
@@ -246,15 +246,15 @@ TEST_F(TypicalSession, EndingTheProgramWithAnOpenEditorIsHarmless)
 
 TEST_F(TypicalSession, AnotherMapIsOpenedInTheSameEditorsPlace)
 {
-    MakeTownMap(m_folder.filePath("other.orvane"));
+    const QString other = MakeTown(m_folder, "other.orvane");
     OpenLayerControl();
-    m_window->OpenMap(m_folder.filePath("other.orvane"));
+    m_window->OpenMap(other);
     ASSERT_TRUE(Form()) << "it opens again by itself";
     ClickLayer(Layer);
     ClickVisible();
     Apply();
     EXPECT_FALSE(ToBoolean(Stored("Visible")));
-    EXPECT_EQ(m_window->Document().Path(), m_folder.filePath("other.orvane"));
+    EXPECT_EQ(m_window->Document().Path(), other);
     Form()->close();
 }
 

@@ -2,7 +2,7 @@
 #include "end_to_end/TownWindow.h"
 #include "mapkit/DataFolder.h"
 #include "mapkit/canvas/MapCanvas.h"
-#include "store/sqlite/SqliteLayerDatabase.h"
+#include "store/opening/LayerStores.h"
 
 #include <QComboBox>
 
@@ -176,14 +176,14 @@ TEST_F(UndoSession, AGroupGoesBackAtOnce)
         "SELECT LayerGroups.Name FROM LayerGroups JOIN LayerGroupMembers ON GroupID = ID"
         " JOIN Layers USING (LayerID) WHERE Layers.Name = ?1",
         {QString(Layer)});
-    const int visible = Count("Layers WHERE Visible <> 0");
+    const int visible = Count("Layers WHERE Visible");
     ClickGroup(ToText(group->Field("Name")));
     for (int click = 0; click < 2 && VisibleBox().checkState() != Qt::Unchecked; ++click)
         ClickVisible(Form());
     Press(Form(), "cmdApply");
-    ASSERT_LT(Count("Layers WHERE Visible <> 0"), visible - 1);
+    ASSERT_LT(Count("Layers WHERE Visible"), visible - 1);
     Undo();
-    EXPECT_EQ(Count("Layers WHERE Visible <> 0"), visible);
+    EXPECT_EQ(Count("Layers WHERE Visible"), visible);
     EXPECT_FALSE(CanUndo());
 }
 
@@ -270,8 +270,7 @@ TEST_F(UndoSession, AnotherMapHasAHistoryOfItsOwn)
 {
     SwitchVisible(Layer);
     EXPECT_TRUE(CanUndo());
-    MakeTownMap(PathOf("other.orvane"));
-    m_window->OpenMap(PathOf("other.orvane"));
+    m_window->OpenMap(MakeTown(m_folder, "other.orvane"));
     EXPECT_FALSE(CanUndo());
 }
 
@@ -279,13 +278,13 @@ TEST_F(UndoSession, WhatAnotherProgramChangedIsNotTouched)
 {
     SwitchVisible(Layer);
     {
-        const auto other = SqliteLayerDatabase::Open(MapPath());
-        other->Execute("UPDATE Layers SET Visible = 5 WHERE Name = 'Fields'");
+        const auto other = LayerStores::Open(MapPath());
+        other->Execute("UPDATE Layers SET Visible = NULL WHERE Name = 'Fields'");
     }
     MessageBoxRobot user{BoxKey::Enter};
     Undo();
     EXPECT_TRUE(user.Only().text.contains("another program")) << qPrintable(user.Only().text);
-    EXPECT_EQ(ToInt32(Stored(Layer, "Visible")), 5);
+    EXPECT_TRUE(Stored(Layer, "Visible").IsNull());
     EXPECT_FALSE(CanUndo());
 }
 

@@ -55,6 +55,13 @@ TEST_F(MapFileDialogTest, AnEmptyMapIsProposedForTheDocuments)
     EXPECT_EQ(QFileInfo(Proposed()).suffix(), "orvane");
 }
 
+TEST_F(MapFileDialogTest, AMapOnAServerIsProposedUnderItsName)
+{
+    MapDocument::Create(m_folder.Path("copy.orvane"));
+    m_document = MapDocument::OpenCopy(m_folder.Path("copy.orvane"), "postgresql:///?schema=Town%2FOld");
+    EXPECT_EQ(QFileInfo(Proposed()).fileName(), "Town-Old.orvane");
+}
+
 TEST_F(MapFileDialogTest, AStoredMapKeepsItsPlaceAndName)
 {
     m_document = MapDocument::Create(m_folder.Path("town.orvane"));

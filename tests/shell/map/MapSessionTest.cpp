@@ -104,6 +104,30 @@ TEST_F(MapSessionTest, ShowsTheDataOfTheMap)
     EXPECT_EQ(Middle(), QColor(Qt::red));
 }
 
+TEST_F(MapSessionTest, FollowsSomebodyElseWhoChangesALayer)
+{
+    QSignalSpy followed(m_session.get(), &MapSession::OthersFollowed);
+    m_session->Document().Database().Execute(
+        "UPDATE Layers SET FillForeColor = 16711680, Name = 'Other' WHERE LayerID = 2");
+    EXPECT_TRUE(m_session->FollowOthers({2}));
+    WaitForPicture();
+    EXPECT_EQ(m_drawn->count(), 1);
+    EXPECT_EQ(Middle(), QColor(Qt::blue));
+    EXPECT_EQ(followed.count(), 1);
+    EXPECT_EQ(m_session->Client().LayerDisplayName(2), "Other");
+}
+
+TEST_F(MapSessionTest, WantsToBeReadAgainWhenSomebodyElseAddsOrDeletesALayer)
+{
+    ILayerStore& database = m_session->Document().Database();
+    database.Execute("INSERT INTO Layers (LayerID, Name) VALUES (3, 'New')");
+    EXPECT_FALSE(m_session->FollowOthers({2, 3}));
+    m_session->ReadAndShow();
+    EXPECT_TRUE(m_session->FollowOthers({2, 3}));
+    database.Execute("DELETE FROM Layers WHERE LayerID = 3");
+    EXPECT_FALSE(m_session->FollowOthers({3}));
+}
+
 TEST_F(MapSessionTest, AChangedLayerIsDrawnAgainAlone)
 {
     Apply(2, "FillForeColor", 0xff0000);

@@ -154,6 +154,13 @@ TEST_F(MapSharingTest, OpeningAMapThatIsOpenElsewhereAsksFirst)
     EXPECT_EQ(third.Canvas().Layers().size(), 1u);
 }
 
+TEST_F(MapSharingTest, AMapOnAServerIsSharedWithoutAQuestion)
+{
+    QWidget window;
+    MapSharing sharing(window, [] {});
+    EXPECT_TRUE(sharing.MayOpen("postgresql:///?service=team&schema=Town"));
+}
+
 TEST_F(MapSharingTest, AMapThatNobodyElseHasOpenIsOpenedWithoutAQuestion)
 {
     const QString path = MapDocument::Create(m_folder.Path("free.orvane"))->Path();

@@ -57,6 +57,22 @@ protected:
 
 } // namespace
 
+TEST_F(SourceFollowerTest, AMapOnAServerIsNotMissedAsAFile)
+{
+    MapDocument::Create(m_folder.Path("copy.orvane"));
+    const auto document = MapDocument::OpenCopy(m_folder.Path("copy.orvane"), "postgresql:///?schema=Town");
+    NewLayer layer;
+    layer.path = m_folder.Path("data/a.geojson");
+    document->AddLayer(layer);
+    SourceFollower follower(*document, m_window);
+    follower.Follow();
+    const QSignalSpy read(&follower, &SourceFollower::Read);
+    const QSignalSpy gone(&follower, &SourceFollower::MapFileGone);
+    QFile::remove(layer.path);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return read.count() == 1; }));
+    EXPECT_EQ(gone.count(), 0);
+}
+
 TEST_F(SourceFollowerTest, AFileThatGoesFailsAndComesBack)
 {
     ASSERT_TRUE(QFile::remove(m_folder.Path("data/a.geojson")));

@@ -57,6 +57,16 @@ TEST_F(RecentMapsTest, TheLatestIsOneThatIsStillThere)
     EXPECT_EQ(RecentMaps::All().size(), 2);
 }
 
+TEST_F(RecentMapsTest, AMapOnAServerIsKeptWithoutALookForAFile)
+{
+    const QString town = "postgresql:///?service=team&schema=Town";
+    RecentMaps::Add(Map(1));
+    RecentMaps::Add(town);
+    EXPECT_TRUE(RecentMaps::MayExist(town));
+    EXPECT_FALSE(RecentMaps::MayExist(m_folder.Path("2.orvane")));
+    EXPECT_EQ(RecentMaps::Latest(), town);
+}
+
 TEST_F(RecentMapsTest, AMapCanBeTakenOffTheList)
 {
     const QString path = Map(1);
