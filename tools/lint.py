@@ -4,7 +4,8 @@
 
 Most of the time is spent on included headers, so the sources that a build with CMAKE_UNITY_BUILD compiles together are
 checked together. Precompiled headers are left out, so a source that does not include what it uses is more likely to be
-found. A batch is skipped when nothing it reads has changed since it passed.
+found. A batch is skipped when nothing it reads has changed since it passed, in this or another copy of the sources:
+what passed is noted in the user's cache.
 """
 import bisect
 import concurrent.futures
@@ -16,6 +17,7 @@ import shlex
 import subprocess
 import sys
 import tempfile
+import time
 
 SKIPPED = {"-c", "-fpch-preprocess", "-Winvalid-pch"}
 SKIPPED_WITH_VALUE = {"-o", "-include"}
@@ -23,6 +25,8 @@ SKIPPED_WITH_VALUE = {"-o", "-include"}
 # The analyser stops examining a function after this many states (its default is 225,000): the few functions that reach
 # the limit take four fifths of its time.
 STATES = ["--extra-arg=" + word for word in ("-Xclang", "-analyzer-config", "-Xclang", "max-nodes=30000")]
+
+DAYS_KEPT = 60  # of a note that nobody asked for
 
 
 def flags_of(entry):
@@ -64,20 +68,40 @@ def files_read(build):
     return read
 
 
+def noted_passes():
+    """The folder of what passed: an empty file each, named by what was read. Removes those of long ago."""
+    cache = os.environ.get("XDG_CACHE_HOME") or os.path.expanduser("~/.cache")
+    folder = os.path.join(cache, "orvane", "lint")
+    os.makedirs(folder, exist_ok=True)
+    for note in os.scandir(folder):
+        if note.stat().st_mtime < time.time() - DAYS_KEPT * 24 * 3600:
+            os.remove(note.path)
+    return folder
+
+
+def linter():
+    """The version of clang-tidy and how it is called."""
+    version = subprocess.run(["clang-tidy", "--version"], capture_output=True, text=True, check=True).stdout
+    return version + open(__file__, encoding="utf-8").read()
+
+
 class Batch:
-    def __init__(self, build, entry, asked, read):
+    def __init__(self, entry, asked, read, start, passes):
         self.sources = [source for source in sources_of(entry) if source in asked]
         self.flags = flags_of(entry)
         words = shlex.split(entry["command"])
         made = words[words.index("-o") + 1]
-        digest = hashlib.sha256(repr(self.flags).encode())
+        digest = hashlib.sha256((start + repr(self.flags).replace(os.getcwd(), ".")).encode())
         for path in sorted({".clang-tidy", *self.sources, *read.get(made, [])}):
             if os.path.exists(path):
                 digest.update(open(path, "rb").read())
-        self.stamp = os.path.join(build, "lint", digest.hexdigest())
+        self.note = os.path.join(passes, digest.hexdigest())
 
     def is_due(self):
-        return self.sources and not os.path.exists(self.stamp)
+        if self.sources and os.path.exists(self.note):
+            os.utime(self.note)
+            return False
+        return bool(self.sources)
 
     def check(self):
         """The findings of clang-tidy; empty when the batch is clean."""
@@ -94,7 +118,7 @@ class Batch:
                  "-I.", *folders],
                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
         if run.returncode == 0:
-            open(self.stamp, "w").close()
+            open(self.note, "w").close()
             return ""
 
         def place(match):
@@ -107,10 +131,9 @@ class Batch:
 
 def main():
     build, asked = sys.argv[1], {os.path.relpath(path) for path in sys.argv[2:]}
-    os.makedirs(os.path.join(build, "lint"), exist_ok=True)
-    read = files_read(build)
+    read, start, passes = files_read(build), linter(), noted_passes()
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as commands:
-        batches = [Batch(build, entry, asked, read) for entry in json.load(commands)]
+        batches = [Batch(entry, asked, read, start, passes) for entry in json.load(commands)]
     due = [batch for batch in batches if batch.is_due()]
     failed = False
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
