@@ -90,6 +90,7 @@ if(ORVANE_BUILD_SHELL)
   install(TARGETS orvane RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT program)
   # With the program, not with the documents: some systems leave those out.
   install(DIRECTORY docs/guide DESTINATION share/orvane COMPONENT program)
+  install(FILES docs/teams.md DESTINATION share/orvane COMPONENT program)
   set(packaging "${PROJECT_SOURCE_DIR}/packaging")
   install(FILES "${packaging}/orvane.desktop" DESTINATION share/applications COMPONENT program)
   install(FILES "${packaging}/orvane-mime.xml" DESTINATION share/mime/packages RENAME orvane.xml COMPONENT program)
