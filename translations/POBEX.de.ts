@@ -1028,6 +1028,14 @@
         <translation>&amp;Ja</translation>
     </message>
     <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
         <source>yes</source>
         <translation>ja</translation>
     </message>

@@ -1028,6 +1028,14 @@
         <translation>&amp;Oui</translation>
     </message>
     <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
         <source>yes</source>
         <translation>oui</translation>
     </message>

@@ -1028,6 +1028,14 @@
         <translation>はい(&amp;Y)</translation>
     </message>
     <message>
+        <source>&amp;Try Again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
         <source>yes</source>
         <translation>はい</translation>
     </message>

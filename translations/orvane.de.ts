@@ -44,6 +44,14 @@
         <translation>„%1“ in „%2“ kann nicht gelesen werden.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is a table on a server. It can only be read by a map on that server.</source>
+        <translation>„%1“ ist eine Tabelle auf einem Server. Nur eine Karte auf diesem Server kann sie lesen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table on a server. This works only with data in files.</source>
+        <translation>„%1“ ist eine Tabelle auf einem Server. Dies ist nur mit Daten in Dateien möglich.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a table without columns for coordinates.</source>
         <translation>„%1“ ist eine Tabelle ohne Spalten für Koordinaten.</translation>
     </message>
@@ -80,6 +88,10 @@
         <translation>„--columns“ braucht zwei Namen: „X,Y“.</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; is not the place of a map on a server, such as postgresql://server/database?schema=Map.</source>
+        <translation>„^1“ ist kein Ort einer Karte auf einem Server, wie etwa postgresql://server/datenbank?schema=Karte.</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -112,6 +124,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>%1 (Punkte)</translation>
     </message>
     <message>
+        <source>%1 (read-only)</source>
+        <translation>%1 (schreibgeschützt)</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
     </message>
@@ -136,8 +152,20 @@ Gültigkeitsbereich: %3</translation>
         <translation>%1: Objekte %2, Ausdehnung %3</translation>
     </message>
     <message>
+        <source>%1: may edit</source>
+        <translation>%1: darf bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1: may read</source>
+        <translation>%1: darf lesen</translation>
+    </message>
+    <message>
         <source>%1: raster of %2 x %3 pixels, extent %4</source>
         <translation>%1: Raster mit %2 x %3 Pixeln, Ausdehnung %4</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -172,6 +200,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>&amp;Suchen:</translation>
     </message>
     <message>
+        <source>&amp;Give</source>
+        <translation>&amp;Erteilen</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>&amp;Handbuch</translation>
     </message>
@@ -182,6 +214,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>&amp;Move Up</source>
         <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the map:</source>
+        <translation>&amp;Name der Karte:</translation>
     </message>
     <message>
         <source>&amp;New...</source>
@@ -440,6 +476,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>A&amp;nzahl der Klassen:</translation>
     </message>
     <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
         <source>&amp;Open Map...</source>
         <translation>Karte ö&amp;ffnen...</translation>
     </message>
@@ -465,11 +505,15 @@ Gültigkeitsbereich: %3</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
-        <translation>&amp;Drucken...</translation>
+        <translation>Druc&amp;ken...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Map...</source>
+        <translation>Karte en&amp;tfernen...</translation>
     </message>
     <message>
         <source>&amp;Rename Theme</source>
@@ -492,6 +536,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>Zum gespeicherten Schema &amp;zurück</translation>
     </message>
     <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
         <source>&amp;Save Map As...</source>
         <translation>Karte &amp;speichern unter...</translation>
     </message>
@@ -512,6 +560,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>Au&amp;swählen</translation>
     </message>
     <message>
+        <source>&amp;Service, or address of the database:</source>
+        <translation>&amp;Dienst oder Adresse der Datenbank:</translation>
+    </message>
+    <message>
         <source>&amp;Size:</source>
         <translation>&amp;Größe:</translation>
     </message>
@@ -522,6 +574,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>&amp;System:</source>
         <translation>&amp;System:</translation>
+    </message>
+    <message>
+        <source>&amp;Take Back</source>
+        <translation>En&amp;tziehen</translation>
     </message>
     <message>
         <source>&amp;Take Over</source>
@@ -588,6 +644,30 @@ Gültigkeitsbereich: %3</translation>
         <translation>Ein Raster hat keine Attribute.</translation>
     </message>
     <message>
+        <source>A service is an entry of PostgreSQL&apos;s file pg_service.conf, which your administrator may have set up. Leave the password out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>Ein Dienst ist ein Eintrag in der Datei pg_service.conf von PostgreSQL, die Ihre Systemverwaltung eingerichtet haben kann. Lassen Sie das Kennwort weg: Es gehört in die Kennwortdatei von PostgreSQL, oder Sie werden danach gefragt.</translation>
+    </message>
+    <message>
+        <source>A value cannot be stored in &quot;^1&quot;: ^2</source>
+        <translation>Ein Wert lässt sich in „^1“ nicht speichern: ^2</translation>
+    </message>
+    <message>
+        <source>Add PostGIS tables of the map&apos;s server to the map</source>
+        <translation>PostGIS-Tabellen vom Server der Karte zur Karte hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Server</source>
+        <translation>Server hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Ta&amp;bles from Server...</source>
+        <translation>&amp;Tabellen vom Server hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Add Tables from Server</source>
+        <translation>Tabellen vom Server hinzufügen</translation>
+    </message>
+    <message>
         <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
         <translation>Luftbilder, gescannte Karten oder Höhenraster zur Karte hinzufügen</translation>
     </message>
@@ -598,8 +678,20 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
 Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
+        <source>Add the server of your team. Your administrator knows its name.</source>
+        <translation>Fügen Sie den Server Ihres Teams hinzu. Ihre Systemverwaltung kennt seinen Namen.</translation>
+    </message>
+    <message>
         <source>All attributes</source>
         <translation>Alle Attribute</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1</source>
+        <translation>Auch geöffnet von: %1</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1 and %2 more</source>
+        <translation>Auch geöffnet von: %1 und %2 weitere</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -616,6 +708,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
     <message>
         <source>As this &amp;layer:</source>
         <translation>Wie dieser &amp;Layer:</translation>
+    </message>
+    <message>
+        <source>Asking the server...</source>
+        <translation>Der Server wird gefragt...</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -662,6 +758,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Sch&amp;ließen</translation>
     </message>
     <message>
+        <source>Cannot be read</source>
+        <translation>Nicht lesbar</translation>
+    </message>
+    <message>
         <source>Centre Here</source>
         <translation>Hier zentrieren</translation>
     </message>
@@ -698,6 +798,20 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
         <translation>Das Koordinatensystem wählen, in dem die Karte gezeigt wird</translation>
     </message>
     <message>
+        <source>Choose where the files with the data of the map are on this computer</source>
+        <translation>Festlegen, wo auf diesem Computer die Dateien mit den Daten der Karte liegen</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit a map on a server; without options, list them. A role is a user of the server or a group of users; &quot;public&quot; is everybody. Only the owner of the map can change this.
+Exit code: 0 done, 1 not done, 2 the command was not understood.</source>
+        <translation>Festlegen, wer eine Karte auf einem Server lesen und bearbeiten darf; ohne Optionen wird dies aufgelistet. Eine Rolle ist ein Benutzer des Servers oder eine Gruppe von Benutzern; „public“ sind alle. Nur wem die Karte gehört, kann dies ändern.
+Rückgabewert: 0 erledigt, 1 nicht erledigt, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit the map on its server</source>
+        <translation>Festlegen, wer die Karte auf ihrem Server lesen und bearbeiten darf</translation>
+    </message>
+    <message>
         <source>Click a feature to see its attributes, or a raster to see its values.</source>
         <translation>Klicken zeigt die Attribute eines Objekts oder die Werte eines Rasters.</translation>
     </message>
@@ -708,6 +822,10 @@ Rückgabewert: 0 alles wurde hinzugefügt, 1 etwas nicht oder ohne bekannte Lage
     <message>
         <source>Code</source>
         <translation>Code</translation>
+    </message>
+    <message>
+        <source>Connecting to the server</source>
+        <translation>Verbindung zum Server wird hergestellt</translation>
     </message>
     <message>
         <source>Contents</source>
@@ -774,6 +892,14 @@ Gültigkeitsbereich: %3</translation>
         <translation>Ziehen Sie ein Rechteck auf, um darauf zu zoomen. Ein Klick vergrößert, mit Strg verkleinert er.</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Everybody</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
         <source>Extent:</source>
         <translation>Ausdehnung:</translation>
     </message>
@@ -796,6 +922,18 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>First rows</source>
         <translation>Erste Zeilen</translation>
+    </message>
+    <message>
+        <source>Folder of S&amp;hared Data...</source>
+        <translation>Ordner der &amp;gemeinsamen Daten...</translation>
+    </message>
+    <message>
+        <source>Folder of Shared Data</source>
+        <translation>Ordner der gemeinsamen Daten</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>Ver&amp;gessen</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -830,6 +968,10 @@ Gültigkeitsbereich: %3</translation>
         <translation>In &amp;zwei Spalten mit Zahlen</translation>
     </message>
     <message>
+        <source>It is used until Orvane ends, and stored nowhere.</source>
+        <translation>Es wird verwendet, bis Orvane beendet wird, und nirgends gespeichert.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source cannot be read.</source>
         <translation>Es wurde angenommen oder gewählt; die Quelle kann nicht gelesen werden.</translation>
     </message>
@@ -840,6 +982,10 @@ Gültigkeitsbereich: %3</translation>
     <message>
         <source>It was chosen; the source says %1.</source>
         <translation>Es wurde gewählt; die Quelle gibt %1 an.</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Letzte Änderung</translation>
     </message>
     <message>
         <source>Layer &amp;Properties...</source>
@@ -870,6 +1016,14 @@ Gültigkeitsbereich: %3</translation>
         <translation>Layer, deren Daten gefunden wurden: %1 von %2</translation>
     </message>
     <message>
+        <source>Let ROLE read and change the map.</source>
+        <translation>ROLE darf die Karte lesen und ändern.</translation>
+    </message>
+    <message>
+        <source>Let ROLE read the map.</source>
+        <translation>ROLE darf die Karte lesen.</translation>
+    </message>
+    <message>
         <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
 Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
         <translation>Die Layer einer Karte auflisten: die Zahl der Objekte und die Ausdehnung im Koordinatensystem der Karte als Westen, Süden, Osten und Norden.
@@ -884,6 +1038,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Listen der Layer, die Sie für eine Aufgabe brauchen, ohne Einstellungen</translation>
     </message>
     <message>
+        <source>Looking for tables</source>
+        <translation>Tabellen werden gesucht</translation>
+    </message>
+    <message>
         <source>Map &amp;Background...</source>
         <translation>&amp;Hintergrundfarbe der Karte...</translation>
     </message>
@@ -894,6 +1052,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Map data (%1);;All files (*)</source>
         <translation>Kartendaten (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Maps on the server</source>
+        <translation>Karten auf dem Server</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -940,8 +1102,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Nicht gefunden</translation>
     </message>
     <message>
+        <source>Only maps on a server can be shared.</source>
+        <translation>Nur Karten auf einem Server können geteilt werden.</translation>
+    </message>
+    <message>
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open Map from Ser&amp;ver...</source>
+        <translation>Karte &amp;vom Server öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Map from Server</source>
+        <translation>Karte vom Server öffnen</translation>
     </message>
     <message>
         <source>Open Ras&amp;ter...</source>
@@ -952,6 +1126,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Raster öffnen</translation>
     </message>
     <message>
+        <source>Open a map that a team shares on a PostgreSQL server</source>
+        <translation>Eine Karte öffnen, die ein Team auf einem PostgreSQL-Server teilt</translation>
+    </message>
+    <message>
+        <source>Open by</source>
+        <translation>Geöffnet von</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangetöne</translation>
     </message>
@@ -960,12 +1142,32 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Orvane-Handbuch</translation>
     </message>
     <message>
+        <source>Owner</source>
+        <translation>Besitzer</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Password of &quot;%1&quot; on the server &quot;%2&quot;:</source>
+        <translation>Kennwort von „%1“ auf dem Server „%2“:</translation>
+    </message>
+    <message>
         <source>Pixel size:</source>
         <translation>Pixelgröße:</translation>
     </message>
     <message>
         <source>Purples</source>
         <translation>Violetttöne</translation>
+    </message>
+    <message>
+        <source>R&amp;ights...</source>
+        <translation>Re&amp;chte...</translation>
+    </message>
+    <message>
+        <source>R&amp;ole:</source>
+        <translation>R&amp;olle:</translation>
     </message>
     <message>
         <source>Raster</source>
@@ -984,8 +1186,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Gefundene Raster: %1</translation>
     </message>
     <message>
+        <source>Re&amp;fresh</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
         <source>Read about the window or the tool that is in use</source>
         <translation>Im Handbuch über das Fenster oder Werkzeug lesen, das gerade benutzt wird</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
     </message>
     <message>
         <source>Reading the rows...</source>
@@ -996,12 +1210,40 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Entfernen</translation>
     </message>
     <message>
+        <source>Remove Map</source>
+        <translation>Karte entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the map &quot;%1&quot; from the server? All its layers, groups and schemes are lost, for everybody. This cannot be undone.</source>
+        <translation>Die Karte „%1“ vom Server entfernen? Alle ihre Layer, Gruppen und Schemas gehen für alle verloren. Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
         <source>Rename Theme</source>
         <translation>Thema umbenennen</translation>
     </message>
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>Thema „%1“ umbenennen</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Recht</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>Rechte</translation>
+    </message>
+    <message>
+        <source>Rights on &quot;%1&quot;</source>
+        <translation>Rechte an „%1“</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Roles are the users of the server, and groups of them. Those who may read see everything in the map; those who may edit can change it, too.</source>
+        <translation>Rollen sind die Benutzer des Servers und Gruppen von ihnen. Wer lesen darf, sieht alles in der Karte; wer bearbeiten darf, kann sie auch ändern.</translation>
     </message>
     <message>
         <source>Rows: %1</source>
@@ -1012,12 +1254,28 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Zeilen: %1 von %2</translation>
     </message>
     <message>
+        <source>Save &amp;Map on Server...</source>
+        <translation>Karte auf de&amp;m Server speichern...</translation>
+    </message>
+    <message>
+        <source>Save Map on Server</source>
+        <translation>Karte auf dem Server speichern</translation>
+    </message>
+    <message>
+        <source>Saving the map</source>
+        <translation>Karte wird gespeichert</translation>
+    </message>
+    <message>
         <source>Scale of the map</source>
         <translation>Maßstab der Karte</translation>
     </message>
     <message>
         <source>Search</source>
         <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Nach Namen suchen</translation>
     </message>
     <message>
         <source>Search by name, code or area</source>
@@ -1038,6 +1296,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Selected: %1</source>
         <translation>Ausgewählt: %1</translation>
+    </message>
+    <message>
+        <source>Ser&amp;ver:</source>
+        <translation>Ser&amp;ver:</translation>
     </message>
     <message>
         <source>Show &amp;Selected Only</source>
@@ -1092,6 +1354,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Es wird sortiert...</translation>
     </message>
     <message>
+        <source>Store the map on a PostgreSQL server and continue with it there</source>
+        <translation>Die Karte auf einem PostgreSQL-Server speichern und dort mit ihr weiterarbeiten</translation>
+    </message>
+    <message>
         <source>Table &amp;Columns...</source>
         <translation>Tabellens&amp;palten...</translation>
     </message>
@@ -1104,12 +1370,64 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Tabellen</translation>
     </message>
     <message>
+        <source>Tables on the server</source>
+        <translation>Tabellen auf dem Server</translation>
+    </message>
+    <message>
+        <source>Tables with geometries</source>
+        <translation>Tabellen mit Geometrien</translation>
+    </message>
+    <message>
+        <source>Take all rights on the map back from ROLE.</source>
+        <translation>ROLE alle Rechte an der Karte entziehen.</translation>
+    </message>
+    <message>
+        <source>Take the server off this list; its maps stay</source>
+        <translation>Den Server aus dieser Liste nehmen; seine Karten bleiben</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; can be neither replaced nor removed, because more would be lost: ^2. Move that away first.</source>
+        <translation>Die Karte „^1“ kann weder ersetzt noch entfernt werden, weil mehr verloren ginge: ^2. Verschieben Sie das zuerst an einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>The server has not answered yet. If you close this now, you will not learn whether it was done. Close it?</source>
+        <translation>Der Server hat noch nicht geantwortet. Wenn Sie jetzt schließen, erfahren Sie nicht, ob es ausgeführt wurde. Trotzdem schließen?</translation>
+    </message>
+    <message>
+        <source>There is no secure connection to the server of &quot;^1&quot;: ^2</source>
+        <translation>Es gibt keine sichere Verbindung zum Server von „^1“: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; answers with more than fits into memory. The connection was ended.</source>
+        <translation>Der Server von „^1“ antwortet mit mehr, als in den Speicher passt. Die Verbindung wurde beendet.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; shares one connection between several programs. Connect without the program that does so, or let it pool sessions: ^2</source>
+        <translation>Der Server von „^1“ teilt eine Verbindung unter mehreren Programmen auf. Verbinden Sie sich ohne das Programm, das dies tut, oder lassen Sie es ganze Sitzungen vergeben: ^2</translation>
+    </message>
+    <message>
+        <source>The name &quot;^1&quot; is too long for a map on a server.</source>
+        <translation>Der Name „^1“ ist zu lang für eine Karte auf einem Server.</translation>
+    </message>
+    <message>
+        <source>You may not read the map &quot;^1&quot;. Its owner can give you the right to.</source>
+        <translation>Sie dürfen die Karte „^1“ nicht lesen. Ihr Eigentümer kann Ihnen das Recht dazu geben.</translation>
+    </message>
+    <message>
+        <source>Who may use the map &quot;^1&quot; can only be changed by its owner, ^2.</source>
+        <translation>Wer die Karte „^1“ benutzen darf, kann nur ihr Eigentümer ändern: ^2.</translation>
+    </message>
+    <message>
         <source>The column of tables with geometries as text (WKT).</source>
         <translation>Die Spalte von Tabellen mit Geometrien als Text (WKT).</translation>
     </message>
     <message>
         <source>The columns of tables with the coordinates; without this they are guessed.</source>
         <translation>Die Spalten von Tabellen mit den Koordinaten; sonst werden sie erraten.</translation>
+    </message>
+    <message>
+        <source>The connection to the server of &quot;^1&quot; was lost: ^2. What was not stored can be tried again.</source>
+        <translation>Die Verbindung zum Server von „^1“ ist abgebrochen: ^2. Was nicht gespeichert wurde, können Sie noch einmal versuchen.</translation>
     </message>
     <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
@@ -1152,6 +1470,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Der Layer ist auf der Karte nicht wählbar.</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; belongs to %2. Choose another name.</source>
+        <translation>Die Karte „%1“ gehört %2. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open by %2 and cannot be replaced now.</source>
+        <translation>Die Karte „%1“ ist bei %2 geöffnet und kann jetzt nicht ersetzt werden.</translation>
+    </message>
+    <message>
         <source>The map does not show these features.</source>
         <translation>Die Karte zeigt diese Objekte nicht.</translation>
     </message>
@@ -1168,12 +1494,150 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Karte hat keinen Layer mit Daten.</translation>
     </message>
     <message>
+        <source>The map is read-only. You can look at everything, but change nothing.</source>
+        <translation>Die Karte ist schreibgeschützt. Sie können alles ansehen, aber nichts ändern.</translation>
+    </message>
+    <message>
+        <source>The map, such as &quot;postgresql:///maps?schema=Town&quot;.</source>
+        <translation>Die Karte, zum Beispiel „postgresql:///maps?schema=Town“.</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains a password. Leave it out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>Der Ort „^1“ enthält ein Kennwort. Lassen Sie es weg: Es gehört in die Kennwortdatei von PostgreSQL, oder Sie werden danach gefragt.</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains the setting &quot;^2&quot;, which may only be in a service file of PostgreSQL.</source>
+        <translation>Der Ort „^1“ enthält die Einstellung „^2“, die nur in einer Dienstdatei von PostgreSQL stehen darf.</translation>
+    </message>
+    <message>
         <source>The rows stay as they were. %1</source>
         <translation>Die Zeilen bleiben, wie sie waren. %1</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>Der Maßstab der Karte. Geben Sie einen anderen ein, zum Beispiel %1, und drücken Sie die Eingabetaste.</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password.</source>
+        <translation>Der Server hat das Kennwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this to you on &quot;^1&quot;: ^2</source>
+        <translation>Der Server erlaubt Ihnen das bei „^1“ nicht: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; cannot be reached: ^2</source>
+        <translation>Der Server von „^1“ ist nicht erreichbar: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; does not answer. What was not stored can be tried again.</source>
+        <translation>Der Server von „^1“ antwortet nicht. Was nicht gespeichert wurde, können Sie noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; has not enough memory for this.</source>
+        <translation>Dem Server von „^1“ fehlt dafür der Arbeitsspeicher.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; refused the user or the password: ^2</source>
+        <translation>Der Server von „^1“ hat den Benutzer oder das Kennwort abgelehnt: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; runs PostgreSQL ^2. Version 13 or a newer one is needed.</source>
+        <translation>Auf dem Server von „^1“ läuft PostgreSQL ^2. Nötig ist Version 13 oder eine neuere.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; takes no more connections at present. Try again in a moment.</source>
+        <translation>Der Server von „^1“ nimmt zurzeit keine weiteren Verbindungen an. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is open: ^2. Try again when it is closed there.</source>
+        <translation>Die Karte „^1“ ist geöffnet: ^2. Versuchen Sie es noch einmal, wenn sie dort geschlossen ist.</translation>
+    </message>
+    <message>
+        <source>There are no PostGIS tables on this server that you may read.</source>
+        <translation>Auf diesem Server gibt es keine PostGIS-Tabellen, die Sie lesen dürfen.</translation>
+    </message>
+    <message>
+        <source>There are no maps on this server yet that you may open.</source>
+        <translation>Auf diesem Server gibt es noch keine Karten, die Sie öffnen dürfen.</translation>
+    </message>
+    <message>
+        <source>There is a map &quot;%1&quot; on the server already. Replace it, for everybody?</source>
+        <translation>Auf dem Server gibt es bereits eine Karte „%1“. Soll sie für alle ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>There is no map &quot;^1&quot; on this server.</source>
+        <translation>Auf diesem Server gibt es keine Karte „^1“.</translation>
+    </message>
+    <message>
+        <source>The map: a file, or a place on a server.</source>
+        <translation>Die Karte: eine Datei oder ein Ort auf einem Server.</translation>
+    </message>
+    <message>
+        <source>--repair is for map files; a map on a server is only checked.</source>
+        <translation>--repair ist für Kartendateien; eine Karte auf einem Server wird nur geprüft.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was copied to &quot;%2&quot;.</source>
+        <translation>„%1“ wurde nach „%2“ kopiert.</translation>
+    </message>
+    <message>
+        <source>Replace the map that is at the new place, unless it is open anywhere.</source>
+        <translation>Die Karte am neuen Ort ersetzen, sofern sie nirgends geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Where the copy is made: a file, or a place on a server.</source>
+        <translation>Wo die Kopie entsteht: eine Datei oder ein Ort auf einem Server.</translation>
+    </message>
+    <message>
+        <source>Copy a map with all its layers, groups, schemes and themes: a file to a server, a map on a server to a file, or one to another of the same kind. The data of the layers stay where they are. A place on a server is written as postgresql://SERVER/DATABASE?schema=MAP.
+Exit code: 0 the copy is complete, 1 there is none, 2 the command was not understood.</source>
+        <translation>Eine Karte mit allen Layern, Gruppen, Schemas und Themen kopieren: eine Datei auf einen Server, eine Karte auf einem Server in eine Datei oder beides innerhalb derselben Art. Die Daten der Layer bleiben, wo sie sind. Ein Ort auf einem Server wird als postgresql://SERVER/DATENBANK?schema=KARTE geschrieben.
+Rückgabewert: 0 die Kopie ist vollständig, 1 es gibt keine, 2 der Befehl wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>The layers of &quot;^1&quot; are kept in a way that cannot be copied.</source>
+        <translation>Die Layer von „^1“ liegen in einer Form vor, die nicht kopiert werden kann.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because values do not fit their columns: ^2. In a map file, &quot;orvane check --repair&quot; replaces such values.</source>
+        <translation>„^1“ kann nicht kopiert werden, weil Werte nicht in ihre Spalten passen: ^2. In einer Kartendatei ersetzt „orvane check --repair“ solche Werte.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; was not copied because rows of the table &quot;^2&quot; are missing in the copy.</source>
+        <translation>„^1“ wurde nicht kopiert, weil in der Kopie Zeilen der Tabelle „^2“ fehlen.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because rows of the table &quot;^2&quot; refer to rows that are missing. In a map file, &quot;orvane check --repair&quot; removes such rows.</source>
+        <translation>„^1“ kann nicht kopiert werden, weil Zeilen der Tabelle „^2“ auf fehlende Zeilen verweisen. In einer Kartendatei entfernt „orvane check --repair“ solche Zeilen.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created because the server has something of that name already.</source>
+        <translation>Die Karte „^1“ kann nicht angelegt werden, weil es auf dem Server schon etwas mit diesem Namen gibt.</translation>
+    </message>
+    <message>
+        <source>Changes to &quot;^1&quot; cannot be undone because your role may not make temporary tables in its database.</source>
+        <translation>Änderungen an „^1“ lassen sich nicht rückgängig machen, weil Ihre Rolle in der Datenbank keine temporären Tabellen anlegen darf.</translation>
+    </message>
+    <message>
+        <source>It is not known what the last operation changed in &quot;^1&quot;; it cannot be undone.</source>
+        <translation>Es ist nicht bekannt, was der letzte Vorgang in „^1“ geändert hat; er lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains &quot;^2&quot;, which does not belong in a map.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Sie enthält „^2“, was nicht in eine Karte gehört.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; is joined with others outside of it.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Die Tabelle „^2“ ist mit Tabellen außerhalb der Karte verknüpft.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; lacks a trigger that tells others what has changed.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Der Tabelle „^2“ fehlt ein Trigger, der anderen mitteilt, was sich geändert hat.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: everybody may create objects in the schema &quot;^2&quot;.</source>
+        <translation>Die Karte „^1“ ist fehlerhaft: Im Schema „^2“ darf jeder Objekte anlegen.</translation>
     </message>
     <message>
         <source>The source cannot be read.</source>
@@ -1186,6 +1650,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>The source says so.</source>
         <translation>Die Quelle gibt es so an.</translation>
+    </message>
+    <message>
+        <source>The statement ^2 cannot be run on &quot;^1&quot; by itself.</source>
+        <translation>Die Anweisung ^2 kann auf „^1“ nicht für sich ausgeführt werden.</translation>
     </message>
     <message>
         <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
@@ -1204,8 +1672,16 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Es gibt keine spätere Ansicht.</translation>
     </message>
     <message>
+        <source>There is no table &quot;%1&quot; with geometries on the server that you may read.</source>
+        <translation>Auf dem Server gibt es keine Tabelle „%1“ mit Geometrien, die Sie lesen dürfen.</translation>
+    </message>
+    <message>
         <source>These layers are in too many different folders.</source>
         <translation>Diese Layer liegen in zu vielen verschiedenen Ordnern.</translation>
+    </message>
+    <message>
+        <source>This is a folder: choose a file in it, or drop the folder on the map to add all its data.</source>
+        <translation>Das ist ein Ordner: Wählen Sie eine Datei darin, oder ziehen Sie den Ordner auf die Karte, um alle seine Daten hinzuzufügen.</translation>
     </message>
     <message>
         <source>This is not a known coordinate system.</source>
@@ -1214,6 +1690,10 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>This layer has no data, and so no attributes.</source>
         <translation>Dieser Layer hat keine Daten und daher keine Attribute.</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>
@@ -1238,6 +1718,14 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
     <message>
         <source>Yellow to violet</source>
         <translation>Gelb nach Violett</translation>
+    </message>
+    <message>
+        <source>You may</source>
+        <translation>Sie dürfen</translation>
+    </message>
+    <message>
+        <source>You may read this map, but not change it. Its owner can give you the right to edit it.</source>
+        <translation>Sie dürfen diese Karte lesen, aber nicht ändern. Der Besitzer kann Ihnen das Recht dazu geben.</translation>
     </message>
     <message>
         <source>Zoom to &amp;Layer</source>
@@ -1316,12 +1804,20 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Die Tabelle ist nach einer Spalte sortiert. Gehen Sie zuerst zur eigenen Reihenfolge zurück.</translation>
     </message>
     <message>
+        <source>conditions are not supported for tables on a server</source>
+        <translation>Bedingungen werden für Tabellen auf einem Server nicht unterstützt</translation>
+    </message>
+    <message>
         <source>it lacks a column with coordinates</source>
         <translation>eine Spalte mit Koordinaten fehlt</translation>
     </message>
     <message>
         <source>its points are numbers in a table</source>
         <translation>seine Punkte sind Zahlen in einer Tabelle</translation>
+    </message>
+    <message>
+        <source>its primary key is not one whole number</source>
+        <translation>der Primärschlüssel ist nicht eine einzelne ganze Zahl</translation>
     </message>
     <message>
         <source>no data</source>
@@ -1548,9 +2044,9 @@ Rückgabewert: 0 alles wurde gelesen, 1 etwas nicht, 2 der Befehl wurde nicht ve
         <translation>Änderungen in einem Fenster werden sofort gespeichert und erscheinen innerhalb einer Sekunde im anderen.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, invalid values, broken references and missing data.
+        <source>Check a map for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Eine Kartendatei auf Schäden, ungültige Werte, ungültige Verweise und fehlende Daten prüfen.
+        <translation>Eine Karte auf Schäden, ungültige Werte, ungültige Verweise und fehlende Daten prüfen.
 Rückgabewert: 0 keine Probleme, 1 Probleme gefunden, 2 der Befehl wurde nicht verstanden.</translation>
     </message>
     <message>
@@ -1750,6 +2246,34 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
     <message>
         <source>Drawing...</source>
         <translation>Zeichnen...</translation>
+    </message>
+    <message>
+        <source>Others who have the map open: %1</source>
+        <translation>Andere, die die Karte geöffnet haben: %1</translation>
+    </message>
+    <message>
+        <source>Connection lost, trying again</source>
+        <translation>Verbindung verloren, neuer Versuch folgt</translation>
+    </message>
+    <message>
+        <source>The server of the map cannot be reached. What is not applied stays here.</source>
+        <translation>Der Server der Karte ist nicht erreichbar. Was nicht angewendet ist, bleibt hier erhalten.</translation>
+    </message>
+    <message>
+        <source>Connecting again...</source>
+        <translation>Verbindung wird hergestellt...</translation>
+    </message>
+    <message>
+        <source>The server of the map is being contacted again.</source>
+        <translation>Der Server der Karte wird erneut angesprochen.</translation>
+    </message>
+    <message>
+        <source>Try Now</source>
+        <translation>Jetzt versuchen</translation>
+    </message>
+    <message>
+        <source>Connect to the server of the map now</source>
+        <translation>Jetzt mit dem Server der Karte verbinden</translation>
     </message>
     <message>
         <source>Duplicate Scheme</source>
@@ -2384,16 +2908,20 @@ Rückgabewert: 0 alles wurde gezeichnet, 1 etwas nicht, 2 der Befehl wurde nicht
 
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems
-  orvane list MAP              list the layers of a map file</source>
+  orvane import DATA --to MAP  add data to a map
+  orvane check MAP             check a map for problems
+  orvane list MAP              list the layers of a map
+  orvane copy MAP NEW          copy a map, also to or from a server
+  orvane share PLACE           choose who may use a map on a server</source>
         <translation>Orvane, ein kleines Kartenprogramm.
 
 Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
   orvane MAP --export FILE     eine Karte als PDF, SVG oder PNG zeichnen
-  orvane import DATA --to MAP  Daten zu einer Kartendatei hinzufügen
-  orvane check MAP             eine Kartendatei auf Probleme prüfen
-  orvane list MAP              die Layer einer Kartendatei auflisten</translation>
+  orvane import DATA --to MAP  Daten zu einer Karte hinzufügen
+  orvane check MAP             eine Karte auf Probleme prüfen
+  orvane list MAP              die Layer einer Karte auflisten
+  orvane copy MAP NEW          eine Karte kopieren, auch auf einen oder von einem Server
+  orvane share PLACE           festlegen, wer eine Karte auf einem Server nutzen darf</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -2828,6 +3356,10 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Karte „^1“ ist fehlerhaft: Die Tabelle „^2“ hat eine Bedingung.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is on a server. This program was built without PostgreSQL and cannot reach it.</source>
+        <translation>Die Karte „^1“ liegt auf einem Server. Dieses Programm wurde ohne PostgreSQL gebaut und kann ihn nicht erreichen.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>Die Karte „^1“ ist schreibgeschützt und kann nicht geändert werden.</translation>
     </message>
@@ -2852,20 +3384,16 @@ Diese Befehle laufen ohne Fenster und haben jeweils ein eigenes --help:
         <translation>Die Kartendatei ist beschädigt: %1.</translation>
     </message>
     <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>Die Kartendatei, zu der hinzugefügt wird; fehlt sie, wird sie angelegt.</translation>
+        <source>The map to add to: a file, or a place on a server; it is made when there is none.</source>
+        <translation>Die Karte, der etwas hinzugefügt wird: eine Datei oder ein Ort auf einem Server; sie wird angelegt, wenn es sie nicht gibt.</translation>
     </message>
     <message>
-        <source>The map file to open.</source>
-        <translation>Die Kartendatei, die geöffnet werden soll.</translation>
+        <source>The map to open: a file, or a place on a server.</source>
+        <translation>Die zu öffnende Karte: eine Datei oder ein Ort auf einem Server.</translation>
     </message>
     <message>
         <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
         <translation>Die Kartendatei wurde in %1 Sekunden nicht bis zum Ende geprüft. Sie ist vielleicht sehr groß oder so gemacht, dass sie Programme aufhält. --time-limit setzt eine andere Grenze.</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>Die Kartendatei.</translation>
     </message>
     <message>
         <source>The map has no features of these layers.</source>

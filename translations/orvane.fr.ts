@@ -44,6 +44,14 @@
         <translation>« %1 » dans « %2 » ne peut pas être lu.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is a table on a server. It can only be read by a map on that server.</source>
+        <translation>« %1 » est une table sur un serveur. Seule une carte de ce serveur peut la lire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table on a server. This works only with data in files.</source>
+        <translation>« %1 » est une table sur un serveur. Cette opération n’est possible qu’avec des données dans des fichiers.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a table without columns for coordinates.</source>
         <translation>« %1 » est une table sans colonnes de coordonnées.</translation>
     </message>
@@ -80,6 +88,10 @@
         <translation>« --columns » demande deux noms : « X,Y ».</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; is not the place of a map on a server, such as postgresql://server/database?schema=Map.</source>
+        <translation>« ^1 » n’est pas l’emplacement d’une carte sur un serveur, comme postgresql://serveur/base?schema=Carte.</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -112,6 +124,10 @@ Zone d’utilisation : %3</translation>
         <translation>%1 (points)</translation>
     </message>
     <message>
+        <source>%1 (read-only)</source>
+        <translation>%1 (lecture seule)</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1 et %2 de plus</translation>
     </message>
@@ -136,8 +152,20 @@ Zone d’utilisation : %3</translation>
         <translation>%1 : entités %2, étendue %3</translation>
     </message>
     <message>
+        <source>%1: may edit</source>
+        <translation>%1 : peut modifier</translation>
+    </message>
+    <message>
+        <source>%1: may read</source>
+        <translation>%1 : peut lire</translation>
+    </message>
+    <message>
         <source>%1: raster of %2 x %3 pixels, extent %4</source>
         <translation>%1 : raster de %2 x %3 pixels, étendue %4</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Ajouter...</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -172,6 +200,10 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Rechercher :</translation>
     </message>
     <message>
+        <source>&amp;Give</source>
+        <translation>&amp;Accorder</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>&amp;Guide</translation>
     </message>
@@ -182,6 +214,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>&amp;Move Up</source>
         <translation>M&amp;onter</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the map:</source>
+        <translation>&amp;Nom de la carte :</translation>
     </message>
     <message>
         <source>&amp;New...</source>
@@ -440,6 +476,10 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Nombre de classes :</translation>
     </message>
     <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
         <source>&amp;Open Map...</source>
         <translation>&amp;Ouvrir une carte...</translation>
     </message>
@@ -472,6 +512,10 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Quitter</translation>
     </message>
     <message>
+        <source>&amp;Remove Map...</source>
+        <translation>&amp;Supprimer la carte...</translation>
+    </message>
+    <message>
         <source>&amp;Rename Theme</source>
         <translation>&amp;Renommer un thème</translation>
     </message>
@@ -492,8 +536,12 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Revenir au schéma enregistré</translation>
     </message>
     <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
         <source>&amp;Save Map As...</source>
-        <translation>&amp;Enregistrer la carte sous...</translation>
+        <translation>Enregistrer la carte so&amp;us...</translation>
     </message>
     <message>
         <source>&amp;Save Scheme</source>
@@ -512,6 +560,10 @@ Zone d’utilisation : %3</translation>
         <translation>&amp;Sélectionner</translation>
     </message>
     <message>
+        <source>&amp;Service, or address of the database:</source>
+        <translation>&amp;Service ou adresse de la base de données :</translation>
+    </message>
+    <message>
         <source>&amp;Size:</source>
         <translation>Ta&amp;ille :</translation>
     </message>
@@ -522,6 +574,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>&amp;System:</source>
         <translation>&amp;Système :</translation>
+    </message>
+    <message>
+        <source>&amp;Take Back</source>
+        <translation>&amp;Retirer</translation>
     </message>
     <message>
         <source>&amp;Take Over</source>
@@ -588,6 +644,30 @@ Zone d’utilisation : %3</translation>
         <translation>Un raster n’a pas d’attributs.</translation>
     </message>
     <message>
+        <source>A service is an entry of PostgreSQL&apos;s file pg_service.conf, which your administrator may have set up. Leave the password out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>Un service est une entrée du fichier pg_service.conf de PostgreSQL, que votre administrateur a peut-être préparé. N’indiquez pas le mot de passe : il a sa place dans le fichier de mots de passe de PostgreSQL, ou il vous sera demandé.</translation>
+    </message>
+    <message>
+        <source>A value cannot be stored in &quot;^1&quot;: ^2</source>
+        <translation>Une valeur ne peut pas être enregistrée dans « ^1 » : ^2</translation>
+    </message>
+    <message>
+        <source>Add PostGIS tables of the map&apos;s server to the map</source>
+        <translation>Ajouter à la carte des tables PostGIS de son serveur</translation>
+    </message>
+    <message>
+        <source>Add Server</source>
+        <translation>Ajouter un serveur</translation>
+    </message>
+    <message>
+        <source>Add Ta&amp;bles from Server...</source>
+        <translation>Ajouter des ta&amp;bles du serveur...</translation>
+    </message>
+    <message>
+        <source>Add Tables from Server</source>
+        <translation>Ajouter des tables du serveur</translation>
+    </message>
+    <message>
         <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
         <translation>Ajouter à la carte des photos aériennes, des cartes numérisées ou des grilles d’altitude</translation>
     </message>
@@ -598,8 +678,20 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
 Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a pas de position connue, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
+        <source>Add the server of your team. Your administrator knows its name.</source>
+        <translation>Ajoutez le serveur de votre équipe. Votre administrateur en connaît le nom.</translation>
+    </message>
+    <message>
         <source>All attributes</source>
         <translation>Tous les attributs</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1</source>
+        <translation>Aussi ouverte par : %1</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1 and %2 more</source>
+        <translation>Aussi ouverte par : %1 et %2 autres</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -616,6 +708,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
     <message>
         <source>As this &amp;layer:</source>
         <translation>Comme cette co&amp;uche :</translation>
+    </message>
+    <message>
+        <source>Asking the server...</source>
+        <translation>Interrogation du serveur...</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -662,6 +758,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>&amp;Fermer</translation>
     </message>
     <message>
+        <source>Cannot be read</source>
+        <translation>Illisible</translation>
+    </message>
+    <message>
         <source>Centre Here</source>
         <translation>Centrer ici</translation>
     </message>
@@ -698,6 +798,20 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
         <translation>Choisir le système de coordonnées dans lequel la carte est affichée</translation>
     </message>
     <message>
+        <source>Choose where the files with the data of the map are on this computer</source>
+        <translation>Indiquer où se trouvent, sur cet ordinateur, les fichiers de données de la carte</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit a map on a server; without options, list them. A role is a user of the server or a group of users; &quot;public&quot; is everybody. Only the owner of the map can change this.
+Exit code: 0 done, 1 not done, 2 the command was not understood.</source>
+        <translation>Choisir qui peut lire et modifier une carte sur un serveur ; sans option, en afficher la liste. Un rôle est un utilisateur du serveur ou un groupe d’utilisateurs ; « public » désigne tout le monde. Seul le propriétaire de la carte peut changer cela.
+Code de retour : 0 effectué, 1 non effectué, 2 commande non comprise.</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit the map on its server</source>
+        <translation>Choisir qui peut lire et modifier la carte sur son serveur</translation>
+    </message>
+    <message>
         <source>Click a feature to see its attributes, or a raster to see its values.</source>
         <translation>Cliquez sur un objet pour voir ses attributs, ou sur un raster pour voir ses valeurs.</translation>
     </message>
@@ -708,6 +822,10 @@ Code de sortie : 0 tout a été ajouté, 1 quelque chose ne l'a pas été ou n'a
     <message>
         <source>Code</source>
         <translation>Code</translation>
+    </message>
+    <message>
+        <source>Connecting to the server</source>
+        <translation>Connexion au serveur</translation>
     </message>
     <message>
         <source>Contents</source>
@@ -774,6 +892,14 @@ Zone d’utilisation : %3</translation>
         <translation>Tracez un rectangle pour zoomer dessus. Un clic zoome en avant, avec Ctrl en arrière.</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Everybody</source>
+        <translation>Tout le monde</translation>
+    </message>
+    <message>
         <source>Extent:</source>
         <translation>Étendue :</translation>
     </message>
@@ -796,6 +922,18 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>First rows</source>
         <translation>Premières lignes</translation>
+    </message>
+    <message>
+        <source>Folder of S&amp;hared Data...</source>
+        <translation>Dossier des données &amp;partagées...</translation>
+    </message>
+    <message>
+        <source>Folder of Shared Data</source>
+        <translation>Dossier des données partagées</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>Ou&amp;blier</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -830,6 +968,10 @@ Zone d’utilisation : %3</translation>
         <translation>Dans &amp;deux colonnes de nombres</translation>
     </message>
     <message>
+        <source>It is used until Orvane ends, and stored nowhere.</source>
+        <translation>Il sert jusqu’à la fermeture d’Orvane et n’est enregistré nulle part.</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source cannot be read.</source>
         <translation>Il a été supposé ou choisi ; la source ne peut pas être lue.</translation>
     </message>
@@ -840,6 +982,10 @@ Zone d’utilisation : %3</translation>
     <message>
         <source>It was chosen; the source says %1.</source>
         <translation>Il a été choisi ; la source indique %1.</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Dernière modification</translation>
     </message>
     <message>
         <source>Layer &amp;Properties...</source>
@@ -870,6 +1016,14 @@ Zone d’utilisation : %3</translation>
         <translation>Couches dont les données ont été trouvées : %1 sur %2</translation>
     </message>
     <message>
+        <source>Let ROLE read and change the map.</source>
+        <translation>Permettre à ROLE de lire et de modifier la carte.</translation>
+    </message>
+    <message>
+        <source>Let ROLE read the map.</source>
+        <translation>Permettre à ROLE de lire la carte.</translation>
+    </message>
+    <message>
         <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
 Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
         <translation>Énumérer les couches d’une carte : le nombre d’entités, et l’étendue dans le système de coordonnées de la carte : ouest, sud, est et nord.
@@ -884,6 +1038,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Listes des couches utiles à une tâche, sans réglages</translation>
     </message>
     <message>
+        <source>Looking for tables</source>
+        <translation>Recherche des tables</translation>
+    </message>
+    <message>
         <source>Map &amp;Background...</source>
         <translation>Couleur de &amp;fond de la carte...</translation>
     </message>
@@ -894,6 +1052,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Map data (%1);;All files (*)</source>
         <translation>Données cartographiques (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Maps on the server</source>
+        <translation>Cartes du serveur</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -940,8 +1102,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Introuvable</translation>
     </message>
     <message>
+        <source>Only maps on a server can be shared.</source>
+        <translation>Seules les cartes d’un serveur peuvent être partagées.</translation>
+    </message>
+    <message>
         <source>Open Folder</source>
         <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Open Map from Ser&amp;ver...</source>
+        <translation>Ouvrir une carte du ser&amp;veur...</translation>
+    </message>
+    <message>
+        <source>Open Map from Server</source>
+        <translation>Ouvrir une carte du serveur</translation>
     </message>
     <message>
         <source>Open Ras&amp;ter...</source>
@@ -952,6 +1126,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Ouvrir un raster</translation>
     </message>
     <message>
+        <source>Open a map that a team shares on a PostgreSQL server</source>
+        <translation>Ouvrir une carte qu’une équipe partage sur un serveur PostgreSQL</translation>
+    </message>
+    <message>
+        <source>Open by</source>
+        <translation>Ouverte par</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>Orangés</translation>
     </message>
@@ -960,12 +1142,32 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Guide d’Orvane</translation>
     </message>
     <message>
+        <source>Owner</source>
+        <translation>Propriétaire</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Password of &quot;%1&quot; on the server &quot;%2&quot;:</source>
+        <translation>Mot de passe de « %1 » sur le serveur « %2 » :</translation>
+    </message>
+    <message>
         <source>Pixel size:</source>
         <translation>Taille de pixel :</translation>
     </message>
     <message>
         <source>Purples</source>
         <translation>Violets</translation>
+    </message>
+    <message>
+        <source>R&amp;ights...</source>
+        <translation>Droit&amp;s...</translation>
+    </message>
+    <message>
+        <source>R&amp;ole:</source>
+        <translation>Rô&amp;le :</translation>
     </message>
     <message>
         <source>Raster</source>
@@ -984,8 +1186,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Rasters trouvés : %1</translation>
     </message>
     <message>
+        <source>Re&amp;fresh</source>
+        <translation>Act&amp;ualiser</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
         <source>Read about the window or the tool that is in use</source>
         <translation>Lire ce qui concerne la fenêtre ou l’outil en cours d’utilisation</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Lecture seule</translation>
     </message>
     <message>
         <source>Reading the rows...</source>
@@ -996,12 +1210,40 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Retirer</translation>
     </message>
     <message>
+        <source>Remove Map</source>
+        <translation>Supprimer la carte</translation>
+    </message>
+    <message>
+        <source>Remove the map &quot;%1&quot; from the server? All its layers, groups and schemes are lost, for everybody. This cannot be undone.</source>
+        <translation>Supprimer la carte « %1 » du serveur ? Toutes ses couches, tous ses groupes et tous ses schémas seront perdus, pour tout le monde. Cette opération ne peut pas être annulée.</translation>
+    </message>
+    <message>
         <source>Rename Theme</source>
         <translation>Renommer un thème</translation>
     </message>
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>Renommer le thème « %1 »</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droit</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>Droits</translation>
+    </message>
+    <message>
+        <source>Rights on &quot;%1&quot;</source>
+        <translation>Droits sur « %1 »</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>Rôle</translation>
+    </message>
+    <message>
+        <source>Roles are the users of the server, and groups of them. Those who may read see everything in the map; those who may edit can change it, too.</source>
+        <translation>Les rôles sont les utilisateurs du serveur et leurs groupes. Qui peut lire voit tout le contenu de la carte ; qui peut modifier peut aussi la changer.</translation>
     </message>
     <message>
         <source>Rows: %1</source>
@@ -1012,12 +1254,28 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Lignes : %1 sur %2</translation>
     </message>
     <message>
+        <source>Save &amp;Map on Server...</source>
+        <translation>Enregistrer la &amp;carte sur un serveur...</translation>
+    </message>
+    <message>
+        <source>Save Map on Server</source>
+        <translation>Enregistrer la carte sur un serveur</translation>
+    </message>
+    <message>
+        <source>Saving the map</source>
+        <translation>Enregistrement de la carte</translation>
+    </message>
+    <message>
         <source>Scale of the map</source>
         <translation>Échelle de la carte</translation>
     </message>
     <message>
         <source>Search</source>
         <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>Rechercher par nom</translation>
     </message>
     <message>
         <source>Search by name, code or area</source>
@@ -1038,6 +1296,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Selected: %1</source>
         <translation>Sélectionnées : %1</translation>
+    </message>
+    <message>
+        <source>Ser&amp;ver:</source>
+        <translation>Ser&amp;veur :</translation>
     </message>
     <message>
         <source>Show &amp;Selected Only</source>
@@ -1092,6 +1354,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Tri...</translation>
     </message>
     <message>
+        <source>Store the map on a PostgreSQL server and continue with it there</source>
+        <translation>Enregistrer la carte sur un serveur PostgreSQL et y poursuivre le travail</translation>
+    </message>
+    <message>
         <source>Table &amp;Columns...</source>
         <translation>Co&amp;lonnes des tables...</translation>
     </message>
@@ -1104,12 +1370,64 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Tables</translation>
     </message>
     <message>
+        <source>Tables on the server</source>
+        <translation>Tables du serveur</translation>
+    </message>
+    <message>
+        <source>Tables with geometries</source>
+        <translation>Tables avec géométries</translation>
+    </message>
+    <message>
+        <source>Take all rights on the map back from ROLE.</source>
+        <translation>Retirer à ROLE tous ses droits sur la carte.</translation>
+    </message>
+    <message>
+        <source>Take the server off this list; its maps stay</source>
+        <translation>Retirer le serveur de cette liste ; ses cartes restent</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; can be neither replaced nor removed, because more would be lost: ^2. Move that away first.</source>
+        <translation>La carte « ^1 » ne peut être ni remplacée ni supprimée, car d’autres éléments seraient perdus : ^2. Déplacez-les d’abord.</translation>
+    </message>
+    <message>
+        <source>The server has not answered yet. If you close this now, you will not learn whether it was done. Close it?</source>
+        <translation>Le serveur n’a pas encore répondu. Si vous fermez maintenant, vous ne saurez pas si cela a été fait. Fermer quand même ?</translation>
+    </message>
+    <message>
+        <source>There is no secure connection to the server of &quot;^1&quot;: ^2</source>
+        <translation>Il n’y a pas de connexion sécurisée au serveur de « ^1 » : ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; answers with more than fits into memory. The connection was ended.</source>
+        <translation>Le serveur de « ^1 » envoie une réponse trop longue pour la mémoire. La connexion a été fermée.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; shares one connection between several programs. Connect without the program that does so, or let it pool sessions: ^2</source>
+        <translation>Le serveur de « ^1 » partage une connexion entre plusieurs programmes. Connectez-vous sans l’intermédiaire qui le fait, ou réglez-le sur le partage par session : ^2</translation>
+    </message>
+    <message>
+        <source>The name &quot;^1&quot; is too long for a map on a server.</source>
+        <translation>Le nom « ^1 » est trop long pour une carte sur un serveur.</translation>
+    </message>
+    <message>
+        <source>You may not read the map &quot;^1&quot;. Its owner can give you the right to.</source>
+        <translation>Vous n’avez pas le droit de lire la carte « ^1 ». Son propriétaire peut vous le donner.</translation>
+    </message>
+    <message>
+        <source>Who may use the map &quot;^1&quot; can only be changed by its owner, ^2.</source>
+        <translation>Seul le propriétaire de la carte « ^1 », ^2, peut changer qui a le droit de l’utiliser.</translation>
+    </message>
+    <message>
         <source>The column of tables with geometries as text (WKT).</source>
         <translation>La colonne des tables contenant les géométries sous forme de texte (WKT).</translation>
     </message>
     <message>
         <source>The columns of tables with the coordinates; without this they are guessed.</source>
         <translation>Les colonnes de coordonnées des tables ; sinon elles sont devinées.</translation>
+    </message>
+    <message>
+        <source>The connection to the server of &quot;^1&quot; was lost: ^2. What was not stored can be tried again.</source>
+        <translation>La connexion au serveur de « ^1 » a été perdue : ^2. Ce qui n’a pas été enregistré peut être tenté de nouveau.</translation>
     </message>
     <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
@@ -1152,6 +1470,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>La couche n’est pas sélectionnable sur la carte.</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; belongs to %2. Choose another name.</source>
+        <translation>La carte « %1 » appartient à %2. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open by %2 and cannot be replaced now.</source>
+        <translation>La carte « %1 » est ouverte par %2 et ne peut pas être remplacée maintenant.</translation>
+    </message>
+    <message>
         <source>The map does not show these features.</source>
         <translation>La carte n’affiche pas ces objets.</translation>
     </message>
@@ -1168,12 +1494,150 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>La carte n’a aucune couche avec des données.</translation>
     </message>
     <message>
+        <source>The map is read-only. You can look at everything, but change nothing.</source>
+        <translation>La carte est en lecture seule. Vous pouvez tout consulter, mais rien modifier.</translation>
+    </message>
+    <message>
+        <source>The map, such as &quot;postgresql:///maps?schema=Town&quot;.</source>
+        <translation>La carte, par exemple « postgresql:///maps?schema=Town ».</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains a password. Leave it out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>L’emplacement « ^1 » contient un mot de passe. Retirez-le : il a sa place dans le fichier de mots de passe de PostgreSQL, ou il vous sera demandé.</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains the setting &quot;^2&quot;, which may only be in a service file of PostgreSQL.</source>
+        <translation>L’emplacement « ^1 » contient le réglage « ^2 », qui n’est permis que dans un fichier de services de PostgreSQL.</translation>
+    </message>
+    <message>
         <source>The rows stay as they were. %1</source>
         <translation>Les lignes restent telles quelles. %1</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>L’échelle de la carte. Saisissez-en une autre, par exemple %1, et appuyez sur Entrée.</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password.</source>
+        <translation>Le serveur n’a pas accepté le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this to you on &quot;^1&quot;: ^2</source>
+        <translation>Le serveur ne vous permet pas cela sur « ^1 » : ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; cannot be reached: ^2</source>
+        <translation>Le serveur de « ^1 » est injoignable : ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; does not answer. What was not stored can be tried again.</source>
+        <translation>Le serveur de « ^1 » ne répond pas. Ce qui n’a pas été enregistré peut être tenté de nouveau.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; has not enough memory for this.</source>
+        <translation>Le serveur de « ^1 » n’a pas assez de mémoire pour cela.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; refused the user or the password: ^2</source>
+        <translation>Le serveur de « ^1 » a refusé l’utilisateur ou le mot de passe : ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; runs PostgreSQL ^2. Version 13 or a newer one is needed.</source>
+        <translation>Le serveur de « ^1 » utilise PostgreSQL ^2. Il faut la version 13 ou une version plus récente.</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; takes no more connections at present. Try again in a moment.</source>
+        <translation>Le serveur de « ^1 » n’accepte plus de connexions pour le moment. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is open: ^2. Try again when it is closed there.</source>
+        <translation>La carte « ^1 » est ouverte : ^2. Réessayez lorsqu’elle y sera fermée.</translation>
+    </message>
+    <message>
+        <source>There are no PostGIS tables on this server that you may read.</source>
+        <translation>Il n’y a sur ce serveur aucune table PostGIS que vous puissiez lire.</translation>
+    </message>
+    <message>
+        <source>There are no maps on this server yet that you may open.</source>
+        <translation>Il n’y a encore sur ce serveur aucune carte que vous puissiez ouvrir.</translation>
+    </message>
+    <message>
+        <source>There is a map &quot;%1&quot; on the server already. Replace it, for everybody?</source>
+        <translation>Il y a déjà une carte « %1 » sur le serveur. La remplacer, pour tout le monde ?</translation>
+    </message>
+    <message>
+        <source>There is no map &quot;^1&quot; on this server.</source>
+        <translation>Il n’y a pas de carte « ^1 » sur ce serveur.</translation>
+    </message>
+    <message>
+        <source>The map: a file, or a place on a server.</source>
+        <translation>La carte : un fichier, ou un emplacement sur un serveur.</translation>
+    </message>
+    <message>
+        <source>--repair is for map files; a map on a server is only checked.</source>
+        <translation>--repair s’applique aux fichiers de carte ; une carte sur un serveur est seulement vérifiée.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was copied to &quot;%2&quot;.</source>
+        <translation>« %1 » a été copiée vers « %2 ».</translation>
+    </message>
+    <message>
+        <source>Replace the map that is at the new place, unless it is open anywhere.</source>
+        <translation>Remplacer la carte qui se trouve au nouvel emplacement, sauf si elle est ouverte quelque part.</translation>
+    </message>
+    <message>
+        <source>Where the copy is made: a file, or a place on a server.</source>
+        <translation>Où la copie est créée : un fichier, ou un emplacement sur un serveur.</translation>
+    </message>
+    <message>
+        <source>Copy a map with all its layers, groups, schemes and themes: a file to a server, a map on a server to a file, or one to another of the same kind. The data of the layers stay where they are. A place on a server is written as postgresql://SERVER/DATABASE?schema=MAP.
+Exit code: 0 the copy is complete, 1 there is none, 2 the command was not understood.</source>
+        <translation>Copier une carte avec toutes ses couches, ses groupes, ses schémas et ses thèmes : un fichier vers un serveur, une carte d’un serveur vers un fichier, ou entre deux emplacements de même nature. Les données des couches restent où elles sont. Un emplacement sur un serveur s’écrit postgresql://SERVEUR/BASE?schema=CARTE.
+Code de sortie : 0 la copie est complète, 1 il n’y en a pas, 2 la commande n’a pas été comprise.</translation>
+    </message>
+    <message>
+        <source>The layers of &quot;^1&quot; are kept in a way that cannot be copied.</source>
+        <translation>Les couches de « ^1 » sont conservées d’une manière qui ne permet pas de les copier.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because values do not fit their columns: ^2. In a map file, &quot;orvane check --repair&quot; replaces such values.</source>
+        <translation>« ^1 » ne peut pas être copiée, car des valeurs ne conviennent pas à leurs colonnes : ^2. Dans un fichier de carte, « orvane check --repair » remplace ces valeurs.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; was not copied because rows of the table &quot;^2&quot; are missing in the copy.</source>
+        <translation>« ^1 » n’a pas été copiée, car des lignes de la table « ^2 » manquent dans la copie.</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because rows of the table &quot;^2&quot; refer to rows that are missing. In a map file, &quot;orvane check --repair&quot; removes such rows.</source>
+        <translation>« ^1 » ne peut pas être copiée, car des lignes de la table « ^2 » renvoient à des lignes absentes. Dans un fichier de carte, « orvane check --repair » supprime ces lignes.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created because the server has something of that name already.</source>
+        <translation>La carte « ^1 » ne peut pas être créée, car le serveur contient déjà quelque chose de ce nom.</translation>
+    </message>
+    <message>
+        <source>Changes to &quot;^1&quot; cannot be undone because your role may not make temporary tables in its database.</source>
+        <translation>Les modifications de « ^1 » ne peuvent pas être annulées, car votre rôle ne peut pas créer de tables temporaires dans la base de données.</translation>
+    </message>
+    <message>
+        <source>It is not known what the last operation changed in &quot;^1&quot;; it cannot be undone.</source>
+        <translation>On ne sait pas ce que la dernière opération a modifié dans « ^1 » ; elle ne peut pas être annulée.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains &quot;^2&quot;, which does not belong in a map.</source>
+        <translation>La carte « ^1 » est incorrecte : elle contient « ^2 », qui n’a rien à faire dans une carte.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; is joined with others outside of it.</source>
+        <translation>La carte « ^1 » est incorrecte : la table « ^2 » est liée à des tables extérieures.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; lacks a trigger that tells others what has changed.</source>
+        <translation>La carte « ^1 » est incorrecte : il manque à la table « ^2 » un déclencheur qui signale aux autres ce qui a changé.</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: everybody may create objects in the schema &quot;^2&quot;.</source>
+        <translation>La carte « ^1 » est incorrecte : tout le monde peut créer des objets dans le schéma « ^2 ».</translation>
     </message>
     <message>
         <source>The source cannot be read.</source>
@@ -1186,6 +1650,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>The source says so.</source>
         <translation>La source l’indique.</translation>
+    </message>
+    <message>
+        <source>The statement ^2 cannot be run on &quot;^1&quot; by itself.</source>
+        <translation>L’instruction ^2 ne peut pas être exécutée à part sur « ^1 ».</translation>
     </message>
     <message>
         <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
@@ -1204,8 +1672,16 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Il n’y a pas de vue ultérieure.</translation>
     </message>
     <message>
+        <source>There is no table &quot;%1&quot; with geometries on the server that you may read.</source>
+        <translation>Il n’y a sur le serveur aucune table « %1 » avec géométries que vous puissiez lire.</translation>
+    </message>
+    <message>
         <source>These layers are in too many different folders.</source>
         <translation>Ces couches se trouvent dans trop de dossiers différents.</translation>
+    </message>
+    <message>
+        <source>This is a folder: choose a file in it, or drop the folder on the map to add all its data.</source>
+        <translation>C'est un dossier : choisissez un fichier qu'il contient, ou déposez le dossier sur la carte pour ajouter toutes ses données.</translation>
     </message>
     <message>
         <source>This is not a known coordinate system.</source>
@@ -1214,6 +1690,10 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>This layer has no data, and so no attributes.</source>
         <translation>Cette couche n’a pas de données, donc pas d’attributs.</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>
@@ -1238,6 +1718,14 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
     <message>
         <source>Yellow to violet</source>
         <translation>Du jaune au violet</translation>
+    </message>
+    <message>
+        <source>You may</source>
+        <translation>Vous pouvez</translation>
+    </message>
+    <message>
+        <source>You may read this map, but not change it. Its owner can give you the right to edit it.</source>
+        <translation>Vous pouvez lire cette carte, mais pas la modifier. Son propriétaire peut vous en donner le droit.</translation>
     </message>
     <message>
         <source>Zoom to &amp;Layer</source>
@@ -1316,12 +1804,20 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Le tableau est trié par une colonne. Revenez d’abord à votre ordre.</translation>
     </message>
     <message>
+        <source>conditions are not supported for tables on a server</source>
+        <translation>les conditions ne sont pas prises en charge pour les tables d’un serveur</translation>
+    </message>
+    <message>
         <source>it lacks a column with coordinates</source>
         <translation>il manque une colonne de coordonnées</translation>
     </message>
     <message>
         <source>its points are numbers in a table</source>
         <translation>ses points sont des nombres dans une table</translation>
+    </message>
+    <message>
+        <source>its primary key is not one whole number</source>
+        <translation>sa clé primaire n’est pas un nombre entier unique</translation>
     </message>
     <message>
         <source>no data</source>
@@ -1548,9 +2044,9 @@ Code de sortie : 0 tout a été lu, 1 quelque chose ne l’a pas été, 2 la com
         <translation>Les modifications faites dans une fenêtre sont enregistrées immédiatement et apparaissent dans l’autre en moins d’une seconde.</translation>
     </message>
     <message>
-        <source>Check a map file for damage, invalid values, broken references and missing data.
+        <source>Check a map for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>Rechercher dans un fichier de carte les dégâts, les valeurs non valides, les références non valides et les données absentes.
+        <translation>Rechercher dans une carte les dégâts, les valeurs non valides, les références non valides et les données absentes.
 Code de sortie : 0 aucun problème, 1 problèmes trouvés, 2 la commande n'a pas été comprise.</translation>
     </message>
     <message>
@@ -1750,6 +2246,34 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
     <message>
         <source>Drawing...</source>
         <translation>Dessin...</translation>
+    </message>
+    <message>
+        <source>Others who have the map open: %1</source>
+        <translation>Autres personnes qui ont ouvert la carte : %1</translation>
+    </message>
+    <message>
+        <source>Connection lost, trying again</source>
+        <translation>Connexion perdue, nouvel essai en cours</translation>
+    </message>
+    <message>
+        <source>The server of the map cannot be reached. What is not applied stays here.</source>
+        <translation>Le serveur de la carte est injoignable. Ce qui n’est pas appliqué reste ici.</translation>
+    </message>
+    <message>
+        <source>Connecting again...</source>
+        <translation>Reconnexion...</translation>
+    </message>
+    <message>
+        <source>The server of the map is being contacted again.</source>
+        <translation>Le serveur de la carte est contacté à nouveau.</translation>
+    </message>
+    <message>
+        <source>Try Now</source>
+        <translation>Essayer maintenant</translation>
+    </message>
+    <message>
+        <source>Connect to the server of the map now</source>
+        <translation>Se connecter maintenant au serveur de la carte</translation>
     </message>
     <message>
         <source>Duplicate Scheme</source>
@@ -2384,16 +2908,20 @@ Code de sortie : 0 tout a été dessiné, 1 quelque chose ne l'a pas été, 2 la
 
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems
-  orvane list MAP              list the layers of a map file</source>
+  orvane import DATA --to MAP  add data to a map
+  orvane check MAP             check a map for problems
+  orvane list MAP              list the layers of a map
+  orvane copy MAP NEW          copy a map, also to or from a server
+  orvane share PLACE           choose who may use a map on a server</source>
         <translation>Orvane, un petit logiciel de cartes.
 
 Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
   orvane MAP --export FILE     dessiner une carte en PDF, SVG ou PNG
-  orvane import DATA --to MAP  ajouter des données à un fichier de carte
-  orvane check MAP             rechercher les problèmes dans un fichier de carte
-  orvane list MAP              énumérer les couches d’un fichier de carte</translation>
+  orvane import DATA --to MAP  ajouter des données à une carte
+  orvane check MAP             rechercher les problèmes dans une carte
+  orvane list MAP              énumérer les couches d’une carte
+  orvane copy MAP NEW          copier une carte, aussi vers un serveur ou depuis un serveur
+  orvane share PLACE           choisir qui peut utiliser une carte sur un serveur</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -2828,6 +3356,10 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>La carte « ^1 » est incorrecte : la table « ^2 » a une condition.</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is on a server. This program was built without PostgreSQL and cannot reach it.</source>
+        <translation>La carte « ^1 » se trouve sur un serveur. Ce programme a été compilé sans PostgreSQL et ne peut pas y accéder.</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>La carte « ^1 » est en lecture seule et ne peut pas être modifiée.</translation>
     </message>
@@ -2852,20 +3384,16 @@ Ces commandes s’exécutent sans fenêtre ; chacune a son propre --help :
         <translation>Le fichier de carte est endommagé : %1.</translation>
     </message>
     <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>Le fichier de carte à compléter ; il est créé s'il n'existe pas.</translation>
+        <source>The map to add to: a file, or a place on a server; it is made when there is none.</source>
+        <translation>La carte à compléter : un fichier, ou un emplacement sur un serveur ; elle est créée si elle n’existe pas.</translation>
     </message>
     <message>
-        <source>The map file to open.</source>
-        <translation>Le fichier de carte à ouvrir.</translation>
+        <source>The map to open: a file, or a place on a server.</source>
+        <translation>La carte à ouvrir : un fichier, ou un emplacement sur un serveur.</translation>
     </message>
     <message>
         <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
         <translation>Le fichier de carte n'a pas été vérifié jusqu'au bout en %1 secondes. Il est peut-être très volumineux, ou conçu pour occuper les programmes. --time-limit fixe une autre limite.</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>Le fichier de carte.</translation>
     </message>
     <message>
         <source>The map has no features of these layers.</source>

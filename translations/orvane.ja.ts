@@ -44,6 +44,14 @@
         <translation>「%2」の中の「%1」を読み込めません。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is a table on a server. It can only be read by a map on that server.</source>
+        <translation>「%1」はサーバー上のテーブルです。そのサーバー上の地図からのみ読み込めます。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a table on a server. This works only with data in files.</source>
+        <translation>「%1」はサーバー上のテーブルです。この操作はファイルのデータに対してのみ行えます。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; is a table without columns for coordinates.</source>
         <translation>「%1」は座標の列がない表です。</translation>
     </message>
@@ -80,6 +88,10 @@
         <translation>「--columns」には 2 つの名前「X,Y」が必要です。</translation>
     </message>
     <message>
+        <source>&quot;^1&quot; is not the place of a map on a server, such as postgresql://server/database?schema=Map.</source>
+        <translation>「^1」はサーバー上のマップの場所ではありません（例：postgresql://server/database?schema=Map）。</translation>
+    </message>
+    <message>
         <source>%1
 Unit: %2
 Area of use: %3</source>
@@ -112,6 +124,10 @@ Area of use: %3</source>
         <translation>%1 (点)</translation>
     </message>
     <message>
+        <source>%1 (read-only)</source>
+        <translation>%1 (読み取り専用)</translation>
+    </message>
+    <message>
         <source>%1 and %2 more</source>
         <translation>%1、ほか %2 件</translation>
     </message>
@@ -136,8 +152,20 @@ Area of use: %3</source>
         <translation>%1: 地物 %2、範囲 %3</translation>
     </message>
     <message>
+        <source>%1: may edit</source>
+        <translation>%1: 編集できます</translation>
+    </message>
+    <message>
+        <source>%1: may read</source>
+        <translation>%1: 閲覧できます</translation>
+    </message>
+    <message>
         <source>%1: raster of %2 x %3 pixels, extent %4</source>
         <translation>%1: ラスター %2 x %3 ピクセル、範囲 %4</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>追加(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;Apply When the Map Is Opened</source>
@@ -172,6 +200,10 @@ Area of use: %3</source>
         <translation>検索(&amp;F):</translation>
     </message>
     <message>
+        <source>&amp;Give</source>
+        <translation>与える(&amp;G)</translation>
+    </message>
+    <message>
         <source>&amp;Guide</source>
         <translation>ガイド(&amp;G)</translation>
     </message>
@@ -182,6 +214,10 @@ Area of use: %3</source>
     <message>
         <source>&amp;Move Up</source>
         <translation>上へ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the map:</source>
+        <translation>地図の名前(&amp;N):</translation>
     </message>
     <message>
         <source>&amp;New...</source>
@@ -440,6 +476,10 @@ Area of use: %3</source>
         <translation>階級数(&amp;N):</translation>
     </message>
     <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
         <source>&amp;Open Map...</source>
         <translation>地図を開く(&amp;O)...</translation>
     </message>
@@ -472,6 +512,10 @@ Area of use: %3</source>
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
+        <source>&amp;Remove Map...</source>
+        <translation>地図を削除(&amp;R)...</translation>
+    </message>
+    <message>
         <source>&amp;Rename Theme</source>
         <translation>テーマの名前を変更(&amp;R)</translation>
     </message>
@@ -490,6 +534,10 @@ Area of use: %3</source>
     <message>
         <source>&amp;Revert to Saved Scheme</source>
         <translation>保存したスキームに戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Save Map As...</source>
@@ -512,6 +560,10 @@ Area of use: %3</source>
         <translation>選択(&amp;S)</translation>
     </message>
     <message>
+        <source>&amp;Service, or address of the database:</source>
+        <translation>サービスまたはデータベースのアドレス(&amp;S):</translation>
+    </message>
+    <message>
         <source>&amp;Size:</source>
         <translation>大きさ(&amp;S):</translation>
     </message>
@@ -522,6 +574,10 @@ Area of use: %3</source>
     <message>
         <source>&amp;System:</source>
         <translation>座標系(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Take Back</source>
+        <translation>取り消す(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Take Over</source>
@@ -588,6 +644,30 @@ Area of use: %3</source>
         <translation>ラスターには属性がありません。</translation>
     </message>
     <message>
+        <source>A service is an entry of PostgreSQL&apos;s file pg_service.conf, which your administrator may have set up. Leave the password out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>サービスとは、PostgreSQL のファイル pg_service.conf の項目で、管理者が設定している場合があります。パスワードは書かないでください。PostgreSQL のパスワードファイルに書くか、求められたときに入力します。</translation>
+    </message>
+    <message>
+        <source>A value cannot be stored in &quot;^1&quot;: ^2</source>
+        <translation>値を「^1」に保存できません: ^2</translation>
+    </message>
+    <message>
+        <source>Add PostGIS tables of the map&apos;s server to the map</source>
+        <translation>地図のサーバーにある PostGIS テーブルを地図に追加します</translation>
+    </message>
+    <message>
+        <source>Add Server</source>
+        <translation>サーバーの追加</translation>
+    </message>
+    <message>
+        <source>Add Ta&amp;bles from Server...</source>
+        <translation>サーバーのテーブルを追加(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Add Tables from Server</source>
+        <translation>サーバーのテーブルを追加</translation>
+    </message>
+    <message>
         <source>Add aerial photographs, scanned maps or elevation grids to the map</source>
         <translation>航空写真、スキャンした地図、標高グリッドを地図に追加します</translation>
     </message>
@@ -598,8 +678,20 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
 終了コード: 0 すべて追加、1 追加できないものまたは位置不明のものあり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
+        <source>Add the server of your team. Your administrator knows its name.</source>
+        <translation>チームのサーバーを追加してください。名前は管理者にお尋ねください。</translation>
+    </message>
+    <message>
         <source>All attributes</source>
         <translation>すべての属性</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1</source>
+        <translation>他に開いている人: %1</translation>
+    </message>
+    <message>
+        <source>Also opened by: %1 and %2 more</source>
+        <translation>他に開いている人: %1、ほか %2 人</translation>
     </message>
     <message>
         <source>Apply No Scheme at Opening</source>
@@ -616,6 +708,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
     <message>
         <source>As this &amp;layer:</source>
         <translation>このレイヤーと同じ(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Asking the server...</source>
+        <translation>サーバーに問い合わせています...</translation>
     </message>
     <message>
         <source>At opening</source>
@@ -662,6 +758,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>閉じる(&amp;L)</translation>
     </message>
     <message>
+        <source>Cannot be read</source>
+        <translation>読み込めません</translation>
+    </message>
+    <message>
         <source>Centre Here</source>
         <translation>ここを中心に表示</translation>
     </message>
@@ -698,6 +798,20 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
         <translation>地図を表示する座標系を選択します</translation>
     </message>
     <message>
+        <source>Choose where the files with the data of the map are on this computer</source>
+        <translation>地図のデータファイルがこのコンピューターのどこにあるかを選びます</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit a map on a server; without options, list them. A role is a user of the server or a group of users; &quot;public&quot; is everybody. Only the owner of the map can change this.
+Exit code: 0 done, 1 not done, 2 the command was not understood.</source>
+        <translation>サーバー上の地図を誰が閲覧、編集できるかを決めます。オプションがなければ一覧を表示します。ロールとは、サーバーのユーザーまたはユーザーのグループです。「public」は全員を表します。変更できるのは地図の所有者だけです。
+終了コード: 0 完了、1 未完了、2 コマンドを解釈できません。</translation>
+    </message>
+    <message>
+        <source>Choose who may read and edit the map on its server</source>
+        <translation>サーバー上の地図を誰が閲覧、編集できるかを決めます</translation>
+    </message>
+    <message>
         <source>Click a feature to see its attributes, or a raster to see its values.</source>
         <translation>地物をクリックすると属性が、ラスターをクリックすると値が表示されます。</translation>
     </message>
@@ -708,6 +822,10 @@ Exit code: 0 all was added, 1 something was not or has no known place, 2 the com
     <message>
         <source>Code</source>
         <translation>コード</translation>
+    </message>
+    <message>
+        <source>Connecting to the server</source>
+        <translation>サーバーに接続しています</translation>
     </message>
     <message>
         <source>Contents</source>
@@ -774,6 +892,14 @@ Area of use: %3</source>
         <translation>矩形をドラッグするとその範囲にズームします。クリックで拡大、Ctrl を押しながらで縮小します。</translation>
     </message>
     <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Everybody</source>
+        <translation>全員</translation>
+    </message>
+    <message>
         <source>Extent:</source>
         <translation>範囲:</translation>
     </message>
@@ -796,6 +922,18 @@ Area of use: %3</source>
     <message>
         <source>First rows</source>
         <translation>最初の行</translation>
+    </message>
+    <message>
+        <source>Folder of S&amp;hared Data...</source>
+        <translation>共有データのフォルダー(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>Folder of Shared Data</source>
+        <translation>共有データのフォルダー</translation>
+    </message>
+    <message>
+        <source>For&amp;get</source>
+        <translation>一覧から外す(&amp;G)</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -830,6 +968,10 @@ Area of use: %3</source>
         <translation>数値の 2 つの列(&amp;T)</translation>
     </message>
     <message>
+        <source>It is used until Orvane ends, and stored nowhere.</source>
+        <translation>Orvane を終了するまで使われ、どこにも保存されません。</translation>
+    </message>
+    <message>
         <source>It was assumed or chosen; the source cannot be read.</source>
         <translation>推定または選択されました。データを読み込めません。</translation>
     </message>
@@ -840,6 +982,10 @@ Area of use: %3</source>
     <message>
         <source>It was chosen; the source says %1.</source>
         <translation>選択されました。データの指定は %1 です。</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>最終変更</translation>
     </message>
     <message>
         <source>Layer &amp;Properties...</source>
@@ -870,6 +1016,14 @@ Area of use: %3</source>
         <translation>データが見つかったレイヤー: %2 のうち %1</translation>
     </message>
     <message>
+        <source>Let ROLE read and change the map.</source>
+        <translation>ROLE に地図の閲覧と変更を許可します。</translation>
+    </message>
+    <message>
+        <source>Let ROLE read the map.</source>
+        <translation>ROLE に地図の閲覧を許可します。</translation>
+    </message>
+    <message>
         <source>List the layers of a map: the number of features, and the extent in the map&apos;s coordinate system as west, south, east and north.
 Exit code: 0 all was read, 1 something was not, 2 the command was not understood.</source>
         <translation>地図のレイヤーを一覧表示します: 地物の数と、地図の座標系での範囲 (西、南、東、北)。
@@ -884,6 +1038,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>ある作業に必要なレイヤーの一覧 (設定は含みません)</translation>
     </message>
     <message>
+        <source>Looking for tables</source>
+        <translation>テーブルを探しています</translation>
+    </message>
+    <message>
         <source>Map &amp;Background...</source>
         <translation>地図の背景色(&amp;B)...</translation>
     </message>
@@ -894,6 +1052,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Map data (%1);;All files (*)</source>
         <translation>地図データ (%1);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Maps on the server</source>
+        <translation>サーバー上の地図</translation>
     </message>
     <message>
         <source>Named sets of the settings of all layers</source>
@@ -940,8 +1102,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>見つかりません</translation>
     </message>
     <message>
+        <source>Only maps on a server can be shared.</source>
+        <translation>共有できるのはサーバー上の地図だけです。</translation>
+    </message>
+    <message>
         <source>Open Folder</source>
         <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Open Map from Ser&amp;ver...</source>
+        <translation>サーバーから地図を開く(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Open Map from Server</source>
+        <translation>サーバーから地図を開く</translation>
     </message>
     <message>
         <source>Open Ras&amp;ter...</source>
@@ -952,6 +1126,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>ラスターを開く</translation>
     </message>
     <message>
+        <source>Open a map that a team shares on a PostgreSQL server</source>
+        <translation>チームが PostgreSQL サーバーで共有している地図を開きます</translation>
+    </message>
+    <message>
+        <source>Open by</source>
+        <translation>開いている人</translation>
+    </message>
+    <message>
         <source>Oranges</source>
         <translation>オレンジ系</translation>
     </message>
@@ -960,12 +1142,32 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>Orvane ガイド</translation>
     </message>
     <message>
+        <source>Owner</source>
+        <translation>所有者</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Password of &quot;%1&quot; on the server &quot;%2&quot;:</source>
+        <translation>サーバー「%2」での「%1」のパスワード:</translation>
+    </message>
+    <message>
         <source>Pixel size:</source>
         <translation>ピクセルサイズ:</translation>
     </message>
     <message>
         <source>Purples</source>
         <translation>紫系</translation>
+    </message>
+    <message>
+        <source>R&amp;ights...</source>
+        <translation>権限(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>R&amp;ole:</source>
+        <translation>ロール(&amp;O):</translation>
     </message>
     <message>
         <source>Raster</source>
@@ -984,8 +1186,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>見つかったラスター: %1</translation>
     </message>
     <message>
+        <source>Re&amp;fresh</source>
+        <translation>更新(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>閲覧</translation>
+    </message>
+    <message>
         <source>Read about the window or the tool that is in use</source>
         <translation>使用中のウィンドウやツールの説明を読みます</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>読み取り専用</translation>
     </message>
     <message>
         <source>Reading the rows...</source>
@@ -996,12 +1210,40 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>削除</translation>
     </message>
     <message>
+        <source>Remove Map</source>
+        <translation>地図の削除</translation>
+    </message>
+    <message>
+        <source>Remove the map &quot;%1&quot; from the server? All its layers, groups and schemes are lost, for everybody. This cannot be undone.</source>
+        <translation>地図「%1」をサーバーから削除しますか? すべてのレイヤー、グループ、スキームが全員にとって失われます。この操作は元に戻せません。</translation>
+    </message>
+    <message>
         <source>Rename Theme</source>
         <translation>テーマの名前を変更</translation>
     </message>
     <message>
         <source>Rename Theme &quot;%1&quot;</source>
         <translation>テーマ「%1」の名前の変更</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>Rights on &quot;%1&quot;</source>
+        <translation>「%1」の権限</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Roles are the users of the server, and groups of them. Those who may read see everything in the map; those who may edit can change it, too.</source>
+        <translation>ロールとは、サーバーのユーザーとそのグループです。閲覧できる人は地図の内容をすべて見ることができ、編集できる人は変更もできます。</translation>
     </message>
     <message>
         <source>Rows: %1</source>
@@ -1012,12 +1254,28 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>行数: %1 / %2</translation>
     </message>
     <message>
+        <source>Save &amp;Map on Server...</source>
+        <translation>地図をサーバーに保存(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Save Map on Server</source>
+        <translation>地図をサーバーに保存</translation>
+    </message>
+    <message>
+        <source>Saving the map</source>
+        <translation>地図を保存しています</translation>
+    </message>
+    <message>
         <source>Scale of the map</source>
         <translation>地図の縮尺</translation>
     </message>
     <message>
         <source>Search</source>
         <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search by name</source>
+        <translation>名前で検索</translation>
     </message>
     <message>
         <source>Search by name, code or area</source>
@@ -1038,6 +1296,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Selected: %1</source>
         <translation>選択: %1</translation>
+    </message>
+    <message>
+        <source>Ser&amp;ver:</source>
+        <translation>サーバー(&amp;V):</translation>
     </message>
     <message>
         <source>Show &amp;Selected Only</source>
@@ -1092,6 +1354,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>並べ替えています...</translation>
     </message>
     <message>
+        <source>Store the map on a PostgreSQL server and continue with it there</source>
+        <translation>地図を PostgreSQL サーバーに保存し、そこで作業を続けます</translation>
+    </message>
+    <message>
         <source>Table &amp;Columns...</source>
         <translation>表の列(&amp;C)...</translation>
     </message>
@@ -1104,12 +1370,64 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>表</translation>
     </message>
     <message>
+        <source>Tables on the server</source>
+        <translation>サーバー上のテーブル</translation>
+    </message>
+    <message>
+        <source>Tables with geometries</source>
+        <translation>ジオメトリを持つテーブル</translation>
+    </message>
+    <message>
+        <source>Take all rights on the map back from ROLE.</source>
+        <translation>ROLE から地図に対するすべての権限を取り消します。</translation>
+    </message>
+    <message>
+        <source>Take the server off this list; its maps stay</source>
+        <translation>サーバーをこの一覧から外します。地図は残ります</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; can be neither replaced nor removed, because more would be lost: ^2. Move that away first.</source>
+        <translation>地図「^1」は置き換えも削除もできません。ほかのものも失われるためです: ^2。先にそれを別の場所へ移してください。</translation>
+    </message>
+    <message>
+        <source>The server has not answered yet. If you close this now, you will not learn whether it was done. Close it?</source>
+        <translation>サーバーからの応答がまだありません。今閉じると、実行されたかどうかは分かりません。閉じますか?</translation>
+    </message>
+    <message>
+        <source>There is no secure connection to the server of &quot;^1&quot;: ^2</source>
+        <translation>「^1」のサーバーに安全に接続できません: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; answers with more than fits into memory. The connection was ended.</source>
+        <translation>「^1」のサーバーの応答が長すぎてメモリーに収まりません。接続を終了しました。</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; shares one connection between several programs. Connect without the program that does so, or let it pool sessions: ^2</source>
+        <translation>「^1」のサーバーは、1 つの接続を複数のプログラムで共有しています。共有を行うプログラムを介さずに接続するか、セッション単位の共有に設定してください: ^2</translation>
+    </message>
+    <message>
+        <source>The name &quot;^1&quot; is too long for a map on a server.</source>
+        <translation>名前「^1」は、サーバー上の地図の名前として長すぎます。</translation>
+    </message>
+    <message>
+        <source>You may not read the map &quot;^1&quot;. Its owner can give you the right to.</source>
+        <translation>地図「^1」を読み取る権限がありません。所有者が権限を与えることができます。</translation>
+    </message>
+    <message>
+        <source>Who may use the map &quot;^1&quot; can only be changed by its owner, ^2.</source>
+        <translation>地図「^1」の利用者を変更できるのは、所有者の ^2 だけです。</translation>
+    </message>
+    <message>
         <source>The column of tables with geometries as text (WKT).</source>
         <translation>ジオメトリをテキスト (WKT) で持つ表の列。</translation>
     </message>
     <message>
         <source>The columns of tables with the coordinates; without this they are guessed.</source>
         <translation>表の座標の列。指定しない場合は推定されます。</translation>
+    </message>
+    <message>
+        <source>The connection to the server of &quot;^1&quot; was lost: ^2. What was not stored can be tried again.</source>
+        <translation>「^1」のサーバーとの接続が切れました: ^2。保存されなかった変更は、もう一度試すことができます。</translation>
     </message>
     <message>
         <source>The coordinate system of the data that name none, such as EPSG:25832; data that name one keep it. Without this option, degrees are assumed where they fit, else the map's system.</source>
@@ -1152,6 +1470,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>このレイヤーは地図上で選択できません。</translation>
     </message>
     <message>
+        <source>The map &quot;%1&quot; belongs to %2. Choose another name.</source>
+        <translation>地図「%1」の所有者は %2 です。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; is open by %2 and cannot be replaced now.</source>
+        <translation>地図「%1」は %2 が開いているため、今は置き換えられません。</translation>
+    </message>
+    <message>
         <source>The map does not show these features.</source>
         <translation>これらの地物は地図に表示されていません。</translation>
     </message>
@@ -1168,12 +1494,150 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>データのあるレイヤーが地図にありません。</translation>
     </message>
     <message>
+        <source>The map is read-only. You can look at everything, but change nothing.</source>
+        <translation>この地図は読み取り専用です。すべて閲覧できますが、変更はできません。</translation>
+    </message>
+    <message>
+        <source>The map, such as &quot;postgresql:///maps?schema=Town&quot;.</source>
+        <translation>地図。例:「postgresql:///maps?schema=Town」</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains a password. Leave it out: it belongs in PostgreSQL&apos;s password file, or you are asked for it.</source>
+        <translation>場所「^1」にパスワードが含まれています。パスワードは PostgreSQL のパスワードファイルに書くか、求められたときに入力してください。</translation>
+    </message>
+    <message>
+        <source>The place &quot;^1&quot; contains the setting &quot;^2&quot;, which may only be in a service file of PostgreSQL.</source>
+        <translation>場所「^1」に設定「^2」が含まれていますが、この設定は PostgreSQL のサービスファイルにのみ書けます。</translation>
+    </message>
+    <message>
         <source>The rows stay as they were. %1</source>
         <translation>行は元のままです。%1</translation>
     </message>
     <message>
         <source>The scale of the map. Type another one, such as %1, and press Enter.</source>
         <translation>地図の縮尺です。%1 のように別の縮尺を入力して Enter キーを押します。</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password.</source>
+        <translation>サーバーはパスワードを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The server does not allow this to you on &quot;^1&quot;: ^2</source>
+        <translation>サーバーは「^1」でのこの操作を許可していません: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; cannot be reached: ^2</source>
+        <translation>「^1」のサーバーに接続できません: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; does not answer. What was not stored can be tried again.</source>
+        <translation>「^1」のサーバーが応答しません。保存されなかった変更は、もう一度試すことができます。</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; has not enough memory for this.</source>
+        <translation>「^1」のサーバーのメモリが不足しています。</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; refused the user or the password: ^2</source>
+        <translation>「^1」のサーバーがユーザーまたはパスワードを拒否しました: ^2</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; runs PostgreSQL ^2. Version 13 or a newer one is needed.</source>
+        <translation>「^1」のサーバーは PostgreSQL ^2 です。バージョン 13 以降が必要です。</translation>
+    </message>
+    <message>
+        <source>The server of &quot;^1&quot; takes no more connections at present. Try again in a moment.</source>
+        <translation>「^1」のサーバーは現在、これ以上の接続を受け付けません。しばらくしてからもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is open: ^2. Try again when it is closed there.</source>
+        <translation>地図「^1」は開かれています: ^2。そこで閉じられてからもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>There are no PostGIS tables on this server that you may read.</source>
+        <translation>このサーバーには、閲覧できる PostGIS テーブルがありません。</translation>
+    </message>
+    <message>
+        <source>There are no maps on this server yet that you may open.</source>
+        <translation>このサーバーには、開くことのできる地図がまだありません。</translation>
+    </message>
+    <message>
+        <source>There is a map &quot;%1&quot; on the server already. Replace it, for everybody?</source>
+        <translation>サーバーには既に地図「%1」があります。全員に対して置き換えますか?</translation>
+    </message>
+    <message>
+        <source>There is no map &quot;^1&quot; on this server.</source>
+        <translation>このサーバーに地図「^1」はありません。</translation>
+    </message>
+    <message>
+        <source>The map: a file, or a place on a server.</source>
+        <translation>地図: ファイル、またはサーバー上の場所。</translation>
+    </message>
+    <message>
+        <source>--repair is for map files; a map on a server is only checked.</source>
+        <translation>--repair は地図ファイル用です。サーバー上の地図は検査だけ行われます。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was copied to &quot;%2&quot;.</source>
+        <translation>「%1」を「%2」にコピーしました。</translation>
+    </message>
+    <message>
+        <source>Replace the map that is at the new place, unless it is open anywhere.</source>
+        <translation>コピー先にある地図を置き換えます。ただし、どこかで開かれている場合を除きます。</translation>
+    </message>
+    <message>
+        <source>Where the copy is made: a file, or a place on a server.</source>
+        <translation>コピー先: ファイル、またはサーバー上の場所。</translation>
+    </message>
+    <message>
+        <source>Copy a map with all its layers, groups, schemes and themes: a file to a server, a map on a server to a file, or one to another of the same kind. The data of the layers stay where they are. A place on a server is written as postgresql://SERVER/DATABASE?schema=MAP.
+Exit code: 0 the copy is complete, 1 there is none, 2 the command was not understood.</source>
+        <translation>地図をすべてのレイヤー、グループ、スキーム、テーマとともにコピーします: ファイルからサーバーへ、サーバー上の地図からファイルへ、または同じ種類の間で。レイヤーのデータは元の場所に残ります。サーバー上の場所は postgresql://サーバー/データベース?schema=地図 と書きます。
+終了コード: 0 コピーは完全、1 コピーはない、2 コマンドを理解できない。</translation>
+    </message>
+    <message>
+        <source>The layers of &quot;^1&quot; are kept in a way that cannot be copied.</source>
+        <translation>「^1」のレイヤーは、コピーできない方法で保存されています。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because values do not fit their columns: ^2. In a map file, &quot;orvane check --repair&quot; replaces such values.</source>
+        <translation>列に合わない値があるため、「^1」をコピーできません: ^2。地図ファイルでは「orvane check --repair」がそのような値を置き換えます。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; was not copied because rows of the table &quot;^2&quot; are missing in the copy.</source>
+        <translation>コピーにテーブル「^2」の行が足りないため、「^1」はコピーされませんでした。</translation>
+    </message>
+    <message>
+        <source>&quot;^1&quot; cannot be copied because rows of the table &quot;^2&quot; refer to rows that are missing. In a map file, &quot;orvane check --repair&quot; removes such rows.</source>
+        <translation>テーブル「^2」の行が存在しない行を参照しているため、「^1」をコピーできません。地図ファイルでは「orvane check --repair」がそのような行を削除します。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; cannot be created because the server has something of that name already.</source>
+        <translation>その名前のものがすでにサーバーにあるため、地図「^1」を作成できません。</translation>
+    </message>
+    <message>
+        <source>Changes to &quot;^1&quot; cannot be undone because your role may not make temporary tables in its database.</source>
+        <translation>データベースに一時テーブルを作成する権限がロールにないため、「^1」への変更は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>It is not known what the last operation changed in &quot;^1&quot;; it cannot be undone.</source>
+        <translation>最後の操作が「^1」の何を変更したのか分からないため、元に戻せません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: it contains &quot;^2&quot;, which does not belong in a map.</source>
+        <translation>地図「^1」は正しくありません: 地図に属さない「^2」が含まれています。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; is joined with others outside of it.</source>
+        <translation>地図「^1」は正しくありません: テーブル「^2」が地図の外のテーブルと関連付けられています。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: the table &quot;^2&quot; lacks a trigger that tells others what has changed.</source>
+        <translation>地図「^1」は正しくありません: 変更内容をほかの利用者に知らせるトリガーがテーブル「^2」にありません。</translation>
+    </message>
+    <message>
+        <source>The map &quot;^1&quot; is not sound: everybody may create objects in the schema &quot;^2&quot;.</source>
+        <translation>地図「^1」は正しくありません: スキーマ「^2」に誰でもオブジェクトを作成できます。</translation>
     </message>
     <message>
         <source>The source cannot be read.</source>
@@ -1186,6 +1650,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>The source says so.</source>
         <translation>データの指定によります。</translation>
+    </message>
+    <message>
+        <source>The statement ^2 cannot be run on &quot;^1&quot; by itself.</source>
+        <translation>文 ^2 を「^1」で単独で実行することはできません。</translation>
     </message>
     <message>
         <source>The table &quot;%1&quot; of &quot;%2&quot; lacks the column &quot;%3&quot; with coordinates.</source>
@@ -1204,8 +1672,16 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>これより後の表示範囲はありません。</translation>
     </message>
     <message>
+        <source>There is no table &quot;%1&quot; with geometries on the server that you may read.</source>
+        <translation>サーバーには、閲覧できるジオメトリ付きのテーブル「%1」がありません。</translation>
+    </message>
+    <message>
         <source>These layers are in too many different folders.</source>
         <translation>これらのレイヤーは多くのフォルダーに分かれています。</translation>
+    </message>
+    <message>
+        <source>This is a folder: choose a file in it, or drop the folder on the map to add all its data.</source>
+        <translation>これはフォルダーです。中のファイルを選択するか、フォルダーを地図にドロップしてすべてのデータを追加してください。</translation>
     </message>
     <message>
         <source>This is not a known coordinate system.</source>
@@ -1214,6 +1690,10 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>This layer has no data, and so no attributes.</source>
         <translation>このレイヤーにはデータがないため、属性もありません。</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>Where are the coordinates of the rows?</source>
@@ -1238,6 +1718,14 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
     <message>
         <source>Yellow to violet</source>
         <translation>黄から紫</translation>
+    </message>
+    <message>
+        <source>You may</source>
+        <translation>できること</translation>
+    </message>
+    <message>
+        <source>You may read this map, but not change it. Its owner can give you the right to edit it.</source>
+        <translation>この地図は閲覧できますが、変更はできません。編集の権限は所有者から得られます。</translation>
     </message>
     <message>
         <source>Zoom to &amp;Layer</source>
@@ -1316,12 +1804,20 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>表は列で並べ替えられています。先に自分の順序に戻してください。</translation>
     </message>
     <message>
+        <source>conditions are not supported for tables on a server</source>
+        <translation>サーバー上のテーブルでは条件を使用できません</translation>
+    </message>
+    <message>
         <source>it lacks a column with coordinates</source>
         <translation>座標の列がありません</translation>
     </message>
     <message>
         <source>its points are numbers in a table</source>
         <translation>点が表の数値として保存されています</translation>
+    </message>
+    <message>
+        <source>its primary key is not one whole number</source>
+        <translation>主キーが一つの整数ではありません</translation>
     </message>
     <message>
         <source>no data</source>
@@ -1548,9 +2044,9 @@ Exit code: 0 all was read, 1 something was not, 2 the command was not understood
         <translation>一方のウィンドウでの変更はすぐに保存され、1秒以内にもう一方にも表示されます。</translation>
     </message>
     <message>
-        <source>Check a map file for damage, invalid values, broken references and missing data.
+        <source>Check a map for damage, invalid values, broken references and missing data.
 Exit code: 0 no problems, 1 problems found, 2 the command was not understood.</source>
-        <translation>地図ファイルの問題 (破損、無効な値、参照先のない行、見つからないデータ) を調べます。
+        <translation>地図の問題 (破損、無効な値、参照先のない行、見つからないデータ) を調べます。
 終了コード: 0 問題なし、1 問題あり、2 コマンドが正しくありません。</translation>
     </message>
     <message>
@@ -1750,6 +2246,34 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
     <message>
         <source>Drawing...</source>
         <translation>描画中...</translation>
+    </message>
+    <message>
+        <source>Others who have the map open: %1</source>
+        <translation>この地図を開いている他の人: %1</translation>
+    </message>
+    <message>
+        <source>Connection lost, trying again</source>
+        <translation>接続が切れました。再接続を試みます</translation>
+    </message>
+    <message>
+        <source>The server of the map cannot be reached. What is not applied stays here.</source>
+        <translation>地図のサーバーに接続できません。適用していない内容はここに残ります。</translation>
+    </message>
+    <message>
+        <source>Connecting again...</source>
+        <translation>再接続しています...</translation>
+    </message>
+    <message>
+        <source>The server of the map is being contacted again.</source>
+        <translation>地図のサーバーにもう一度接続しています。</translation>
+    </message>
+    <message>
+        <source>Try Now</source>
+        <translation>今すぐ試す</translation>
+    </message>
+    <message>
+        <source>Connect to the server of the map now</source>
+        <translation>今すぐ地図のサーバーに接続する</translation>
     </message>
     <message>
         <source>Duplicate Scheme</source>
@@ -2384,16 +2908,20 @@ Exit code: 0 all was drawn, 1 something was not, 2 the command was not understoo
 
 These commands run without a window; each has its own --help:
   orvane MAP --export FILE     draw a map as PDF, SVG or PNG
-  orvane import DATA --to MAP  add data to a map file
-  orvane check MAP             check a map file for problems
-  orvane list MAP              list the layers of a map file</source>
+  orvane import DATA --to MAP  add data to a map
+  orvane check MAP             check a map for problems
+  orvane list MAP              list the layers of a map
+  orvane copy MAP NEW          copy a map, also to or from a server
+  orvane share PLACE           choose who may use a map on a server</source>
         <translation>Orvane は小さなデスクトップ地図プログラムです。
 
 ウィンドウなしで次のことができます。それぞれに --help があります:
   orvane MAP --export FILE     地図を PDF、SVG、PNG として描く
-  orvane import DATA --to MAP  地図ファイルにデータを追加する
-  orvane check MAP             地図ファイルの問題を調べる
-  orvane list MAP              地図ファイルのレイヤーを一覧表示</translation>
+  orvane import DATA --to MAP  地図にデータを追加する
+  orvane check MAP             地図の問題を調べる
+  orvane list MAP              地図のレイヤーを一覧表示
+  orvane copy MAP NEW          地図をコピーする (サーバーとの間でも)
+  orvane share PLACE           サーバー上の地図を使える人を決めます</translation>
     </message>
     <message>
         <source>Outline only</source>
@@ -2828,6 +3356,10 @@ These commands run without a window; each has its own --help:
         <translation>地図「^1」は正しくありません: テーブル「^2」に条件があります。</translation>
     </message>
     <message>
+        <source>The map &quot;^1&quot; is on a server. This program was built without PostgreSQL and cannot reach it.</source>
+        <translation>地図「^1」はサーバーにあります。このプログラムは PostgreSQL なしでビルドされているため、接続できません。</translation>
+    </message>
+    <message>
         <source>The map &quot;^1&quot; is read-only and cannot be changed.</source>
         <translation>地図「^1」は読み取り専用のため、変更できません。</translation>
     </message>
@@ -2852,20 +3384,16 @@ These commands run without a window; each has its own --help:
         <translation>地図ファイルが壊れています: %1。</translation>
     </message>
     <message>
-        <source>The map file to add to; it is made when there is none.</source>
-        <translation>追加先の地図ファイル。なければ作成します。</translation>
+        <source>The map to add to: a file, or a place on a server; it is made when there is none.</source>
+        <translation>追加先の地図。ファイルまたはサーバー上の場所です。なければ作成されます。</translation>
     </message>
     <message>
-        <source>The map file to open.</source>
-        <translation>開く地図ファイル。</translation>
+        <source>The map to open: a file, or a place on a server.</source>
+        <translation>開く地図。ファイルまたはサーバー上の場所です。</translation>
     </message>
     <message>
         <source>The map file was not checked to its end within %1 seconds. It may be very large, or made to keep programs busy. --time-limit sets another limit.</source>
         <translation>地図ファイルの検査は%1秒以内に終わりませんでした。ファイルが非常に大きいか、プログラムを占有するように作られている可能性があります。--time-limit で制限を変えられます。</translation>
-    </message>
-    <message>
-        <source>The map file.</source>
-        <translation>地図ファイル。</translation>
     </message>
     <message>
         <source>The map has no features of these layers.</source>
