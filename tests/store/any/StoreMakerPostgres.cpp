@@ -8,7 +8,9 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -57,6 +59,15 @@ bool IsAwaited(Stranger& holder, const std::atomic<bool>& isOver)
     return true;
 }
 
+// A server beside other busy programs may be silent for longer than somebody at a window would wait.
+StoreOptions Patient(StoreOptions options)
+{
+    constexpr std::chrono::minutes patience{5};
+    options.answerTimeout = std::max<std::chrono::milliseconds>(options.answerTimeout, patience);
+    options.connectTimeout = std::max<std::chrono::milliseconds>(options.connectTimeout, patience);
+    return options;
+}
+
 } // namespace
 
 // The schemas disappear with the server.
@@ -80,13 +91,13 @@ QString StoreMaker::PlaceOf(const QString& name) const
 
 std::unique_ptr<ILayerStore> StoreMaker::Create(const QString& place, const StoreOptions& options) const
 {
-    return PostgresLayerDatabase::Create(place, options);
+    return PostgresLayerDatabase::Create(place, Patient(options));
 }
 
 std::unique_ptr<ILayerStore>
 StoreMaker::Open(const QString& place, OpenMode mode, const StoreOptions& options) const
 {
-    return PostgresLayerDatabase::Open(place, mode, options);
+    return PostgresLayerDatabase::Open(place, mode, Patient(options));
 }
 
 std::unique_ptr<ILayerStore> StoreMaker::CreateNameless()
