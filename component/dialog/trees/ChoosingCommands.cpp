@@ -123,7 +123,7 @@ private:
 
 void ChoosingCommands::Select(QTreeView& view, const QItemSelection& ranges, const QModelIndex& current)
 {
-    const QuietView quiet(view);
+    const QuietView quiet(view, ranges);
     view.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     view.selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
 }

@@ -254,7 +254,7 @@ void LayerTreeList::Select(const QModelIndex& index)
 void LayerTreeList::SelectMany(const QItemSelection& ranges, const QModelIndex& current)
 {
     const QScopedValueRollback quiet(m_quiet, true);
-    const QuietView quietView(*m_view);
+    const QuietView quietView(*m_view, ranges);
     if (m_view->currentIndex() != current)
         m_view->setCurrentIndex(current); // Shift then selects from here
     ChoosingCommands::Select(*m_view, ranges, current);

@@ -2,6 +2,7 @@
 #include "component/dialog/trees/ChoosingCommands.h"
 #include "component/dialog/trees/LayerTreeList.h"
 #include "component/dialog/trees/LayerTreeModel.h"
+#include "support/PaintWatch.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
@@ -144,6 +145,33 @@ TEST_F(LayerTreesScaleTest, ALayerAtTheEndIsFoundAndKeptAcrossAReload)
     EXPECT_EQ(view.layouts, 1);
     EXPECT_EQ(list.CurrentNode(), last);
     EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())));
+}
+
+TEST_F(LayerTreesScaleTest, AChoiceOfOneNodePaintsOnlyTheRowsThatChange)
+{
+    Show();
+    list.ShowGroups(ManyGroups(false));
+    list.MakeCurrent({.isGroup = true, .groupID = 2});
+    Testing::PaintWatch painted(*view.viewport());
+    list.MakeCurrent({.isGroup = true, .groupID = 5});
+    EXPECT_TRUE(painted.Region().intersects(view.visualRect(list.Model().index(1, 0))));
+    EXPECT_TRUE(painted.Region().intersects(view.visualRect(list.Model().index(4, 0))));
+    EXPECT_FALSE(painted.Region().intersects(view.visualRect(list.Model().index(7, 0))));
+}
+
+TEST_F(LayerTreesScaleTest, LeavingManySingleNodesPaintsTheWholeListAtOnce)
+{
+    Show();
+    list.ShowGroups(ManyGroups(false));
+    AcceptChoices();
+    QItemSelection everySecond;
+    for (int row = 0; row < GroupCount; row += 2)
+        everySecond.select(list.Model().index(row, 0), list.Model().index(row, 0));
+    view.selectionModel()->select(everySecond, QItemSelectionModel::ClearAndSelect);
+    ASSERT_EQ(list.Chosen().Nodes().size(), size_t(GroupCount / 2));
+    Testing::PaintWatch painted(*view.viewport());
+    list.MakeCurrent({.isGroup = true, .groupID = 2});
+    EXPECT_EQ(painted.Region(), QRegion(view.viewport()->rect()));
 }
 
 TEST_F(LayerTreesScaleTest, AllNodesAreChosenAtOnceAndKeptAcrossAReload)
