@@ -234,7 +234,9 @@ void CheckBoxPlus::ShowColours()
 
 void CheckBoxPlus::SetCheckValue(qint16 value)
 {
-    m_check1->setCheckState(StateOf(value));
+    const Qt::CheckState state = StateOf(value);
+    if (m_check1->checkState() != state) // the same would be painted again
+        m_check1->setCheckState(state);
 }
 
 void CheckBoxPlus::OnKeyPressed(const QKeyEvent& event, bool& swallow)

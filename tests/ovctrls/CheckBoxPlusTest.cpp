@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ovctrls/CheckBoxPlusFixture.h"
+#include "support/PaintWatch.h"
 #include "support/QtMessageGuard.h"
 
 #include <QAccessible>
@@ -95,6 +96,16 @@ TEST_F(CheckBoxPlusTest, AMouseUpAloneSetsTheLastNextValue)
     m_box.setValue(2);
     QTest::mouseRelease(Inner(), Qt::LeftButton);
     EXPECT_EQ(m_box.Value(), 1);
+}
+
+TEST_F(CheckBoxPlusTest, ItIsPaintedAgainOnlyForAnotherValue)
+{
+    m_box.setValue(2);
+    PaintWatch paints(*Inner());
+    m_box.setValue(2);
+    EXPECT_EQ(paints.Count(), 0);
+    m_box.setValue(1);
+    EXPECT_EQ(paints.Count(), 1);
 }
 
 TEST_F(CheckBoxPlusTest, ADoubleClickIsTwoClicks)
