@@ -13,6 +13,8 @@
 #include <OrvaneShellLib/LayerValues.h>
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <QPainter>
+
 namespace Orvane {
 
 namespace {
@@ -20,6 +22,11 @@ namespace {
 using Special = PickerList::Special;
 
 constexpr int mostRows = 10;
+
+bool AreSame(const FillColours& left, const FillColours& right)
+{
+    return left.line == right.line && left.fore == right.fore && left.back == right.back;
+}
 
 } // namespace
 
@@ -133,16 +140,20 @@ void FillStylePicker::Rebuild()
     m_list.Redraw([this](qint32 style) { return ItemOf(style); }, QString());
 }
 
-void FillStylePicker::RepaintSamples()
+void FillStylePicker::FollowColours()
 {
-    m_list.Combo().update();
+    if (!m_painted || !AreSame(*m_painted, m_colours()))
+        m_list.Combo().update();
 }
 
 void FillStylePicker::PaintItem(QPainter& painter, int index, const QRect& item)
 {
     const qint32 style = m_list.Combo().ItemData(index);
+    const FillColours colours = m_colours();
     PaintFillItem(
-        painter, item, {style, m_pictures.Picture(style), m_colours(), ShellServices().ListBackColour()});
+        painter, item, {style, m_pictures.Picture(style), colours, ShellServices().ListBackColour()});
+    if (painter.device() == &m_list.Combo())
+        m_painted = colours;
 }
 
 } // namespace Orvane

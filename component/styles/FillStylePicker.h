@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class QPainter;
 class QRect;
@@ -46,8 +47,8 @@ public:
     /// Translates the items again; the selection stays.
     void Rebuild();
 
-    /// Paints the sample of the closed list again, in the current colours.
-    void RepaintSamples();
+    /// Paints the sample of the closed list again if the colours have changed since.
+    void FollowColours();
 
     const PickerList& List() const { return m_list; }
 
@@ -69,6 +70,7 @@ private:
     QString m_stylePrefix;
     ReadColours m_colours;
     FillPictures m_pictures;
+    std::optional<FillColours> m_painted; ///< the colours of the sample in the closed list
 };
 
 } // namespace Orvane

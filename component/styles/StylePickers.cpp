@@ -35,7 +35,7 @@ StylePickers::StylePickers(const Lists& lists, const QString& stylePrefix)
         auto& picker = m_colours[size_t(index)];
         picker = std::make_unique<ColourPicker>(*list, stylePrefix, offer);
         connect(picker.get(), &ColourPicker::Changed, this, [this, list] {
-            m_fillStyles.RepaintSamples();
+            m_fillStyles.FollowColours();
             emit Changed(list);
         });
     }

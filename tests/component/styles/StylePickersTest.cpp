@@ -3,6 +3,7 @@
 
 #include "component/styles/PickersFixture.h"
 #include "samples/BgrColour.h"
+#include "support/PaintWatch.h"
 #include "support/PseudoLanguage.h"
 
 #include <OrvaneShellLib/RunTimeError.h>
@@ -36,20 +37,6 @@ protected:
     OvCombo fillStyles{&window};
     OvCombo lineStyles{&window};
     StylePickers pickers{{{&colours[0], &colours[1], &colours[2]}, &fillStyles, &lineStyles}, "@"};
-};
-
-/// How often a widget was painted since this object was made.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
 };
 
 int RaisedBy(const StylePickers& pickers, int index)
@@ -120,10 +107,27 @@ TEST_F(StylePickersTest, AChangedColourSendsThePaintEvent)
 {
     fillStyles.move(20, 120);
     QCoreApplication::processEvents();
-    const PaintCounter paints(fillStyles);
+    PaintWatch paints(fillStyles);
     Choose(colours[1], 5);
     QCoreApplication::processEvents();
-    EXPECT_GT(paints.count, 0);
+    EXPECT_GT(paints.Count(), 0);
+}
+
+TEST_F(StylePickersTest, ALayerOfTheSameColoursPaintsNothingAgain)
+{
+    const auto showLayer = [this] {
+        for (int index = 0; index < StylePickers::ColourCount; ++index)
+            pickers.Colour(index).SetColourSelection(0x0000FF);
+        pickers.FillStyles().SetFillStyleSelection(2);
+    };
+    fillStyles.move(20, 120);
+    QCoreApplication::processEvents();
+    showLayer();
+    PaintWatch paints(fillStyles);
+    showLayer();
+    EXPECT_EQ(paints.Count(), 0);
+    pickers.Colour(2).SetColourSelection(0x00FF00);
+    EXPECT_EQ(paints.Count(), 1);
 }
 
 TEST_F(StylePickersTest, SaysWhichListChanged)
