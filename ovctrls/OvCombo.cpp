@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Orvane {
 
@@ -25,15 +26,36 @@ int ToTwips(int pixels, int dotsPerInch)
     return int(std::lround(pixels * TwipsPerInch / dotsPerInch));
 }
 
+// Those of QComboBox are not public classes.
+bool HasDefaultDelegate(const QComboBox& combo)
+{
+    return QByteArray(combo.itemDelegate()->metaObject()->className()).startsWith("QCombo");
+}
+
 } // namespace
 
 OvCombo::OvCombo(QWidget* parent) : QComboBox(parent)
 {
-    setItemDelegate(new OvComboDelegate(this));
     // Without a placeholder the first item that is added would be selected at once.
     setPlaceholderText(QStringLiteral(" "));
+}
+
+// The list takes longer to make than all else here, and most lists are never opened.
+void OvCombo::PrepareList()
+{
+    if (std::exchange(m_hasList, true))
+        return;
+    if (HasDefaultDelegate(*this))
+        setItemDelegate(new OvComboDelegate(this));
     // Some styles open lists as menus, which show all rows whatever DropDownRows says.
-    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    if (styleSheet().isEmpty())
+        setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+void OvCombo::showPopup()
+{
+    PrepareList();
+    QComboBox::showPopup();
 }
 
 void OvCombo::SetRenderer(const StyleStringRenderer& renderer)

@@ -75,6 +75,9 @@ public:
     /// selection colours. An underlined font applies to the closed box only.
     void PaintItem(QPainter& painter, const QRect& rectangle, int index, bool isSelected);
 
+    /// Opens the list, which is made when it is opened first.
+    void showPopup() override;
+
 Q_SIGNALS:
     /// A user-drawn item must be painted, in the list or in the closed box. rectangle: pixels of the painter.
     /// A listener must not raise.
@@ -86,6 +89,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void PrepareList();
     bool HasCommands(int index) const;
     void PaintPlain(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look) const;
     void PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look);
@@ -95,6 +99,7 @@ private:
 
     StyleStringRenderer m_renderer;
     int m_newIndex = -1;
+    bool m_hasList = false;
     int m_tabColumn = 0; // pixels; after the widest label of all items
 };
 
