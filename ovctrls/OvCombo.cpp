@@ -61,7 +61,7 @@ void OvCombo::showPopup()
 void OvCombo::SetRenderer(const StyleStringRenderer& renderer)
 {
     m_renderer = renderer;
-    FindTabColumn();
+    m_tabColumn.reset();
     update();
 }
 
@@ -69,26 +69,27 @@ void OvCombo::Clear()
 {
     clear();
     m_newIndex = -1;
-    m_tabColumn = 0;
+    m_tabColumn.reset();
 }
 
 void OvCombo::Insert(const QString& item, int position)
 {
     m_newIndex = std::clamp(position, 0, count());
     insertItem(m_newIndex, m_renderer.PlainText(item), item);
-    m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(item, font()));
+    m_tabColumn.reset();
 }
 
 void OvCombo::Replace(int index, const QString& item)
 {
     setItemText(index, m_renderer.PlainText(item));
     setItemData(index, item, commandsRole);
-    FindTabColumn();
+    m_tabColumn.reset();
 }
 
 void OvCombo::Remove(int index)
 {
     removeItem(index);
+    m_tabColumn.reset();
     if (m_newIndex == index)
         m_newIndex = -1;
     else if (m_newIndex > index)
@@ -198,28 +199,33 @@ void OvCombo::changeEvent(QEvent* event)
 {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        FindTabColumn();
+        m_tabColumn.reset();
 }
 
 // An item without a label begins at the left, whatever labels the others have.
-int OvCombo::TabColumn(int index) const
+int OvCombo::TabColumn(int index)
 {
-    return HasCommands(index) && m_renderer.LabelWidth(List(index), font()) > 0 ? m_tabColumn : 0;
+    if (!HasCommands(index) || m_renderer.LabelWidth(List(index), font()) == 0)
+        return 0;
+    if (!m_tabColumn)
+        m_tabColumn = WidestLabel();
+    return *m_tabColumn;
+}
+
+int OvCombo::WidestLabel() const
+{
+    int widest = 0;
+    for (int index = 0; index < count(); ++index) {
+        if (HasCommands(index))
+            widest = std::max(widest, m_renderer.LabelWidth(List(index), font()));
+    }
+    return widest;
 }
 
 QColor OvCombo::TextColour(bool isSelected) const
 {
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     return palette().color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
-}
-
-void OvCombo::FindTabColumn()
-{
-    m_tabColumn = 0;
-    for (int index = 0; index < count(); ++index) {
-        if (HasCommands(index))
-            m_tabColumn = std::max(m_tabColumn, m_renderer.LabelWidth(List(index), font()));
-    }
 }
 
 } // namespace Orvane

@@ -5,6 +5,8 @@
 
 #include <QComboBox>
 
+#include <optional>
+
 namespace Orvane {
 
 /// A combo box whose items are drawing commands (see StyleStringRenderer), each with a 32-bit number
@@ -93,14 +95,14 @@ private:
     bool HasCommands(int index) const;
     void PaintPlain(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look) const;
     void PaintContent(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look);
-    int TabColumn(int index) const;
+    int TabColumn(int index);
+    int WidestLabel() const;
     QColor TextColour(bool isSelected) const;
-    void FindTabColumn();
 
     StyleStringRenderer m_renderer;
     int m_newIndex = -1;
     bool m_hasList = false;
-    int m_tabColumn = 0; // pixels; after the widest label of all items
+    std::optional<int> m_tabColumn; // pixels; after the widest label of all items, when that was measured
 };
 
 } // namespace Orvane
