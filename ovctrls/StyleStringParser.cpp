@@ -188,7 +188,10 @@ std::optional<StyleElement> CommandIn(const QString& body)
 class ItemReader
 {
 public:
-    ItemReader(const QString& item, const QString& prefix) : m_item(item), m_prefix(prefix) { }
+    ItemReader(const QString& item, const QString& prefix, bool withDrawings)
+        : m_item(item), m_prefix(prefix), m_withDrawings(withDrawings)
+    {
+    }
 
     std::vector<StyleElement> Read()
     {
@@ -214,7 +217,9 @@ private:
     {
         const qsizetype start = m_position + m_prefix.size();
         const qsizetype end = EndOfCommand(m_item, start);
-        if (const auto element = CommandIn(m_item.mid(start, end - start)))
+        const QString body = m_item.mid(start, end - start);
+        const auto element = m_withDrawings || !IsDrawing(body) ? CommandIn(body) : std::nullopt;
+        if (element)
             m_elements.push_back(*element);
         m_position = end + 1;
     }
@@ -238,6 +243,7 @@ private:
 
     const QString& m_item;
     const QString& m_prefix;
+    bool m_withDrawings;
     qsizetype m_position = 0;
     std::vector<StyleElement> m_elements;
 };
@@ -246,7 +252,12 @@ private:
 
 std::vector<StyleElement> ParseStyleString(const QString& item, const QString& prefix)
 {
-    return ItemReader(item, prefix).Read();
+    return ItemReader(item, prefix, true).Read();
+}
+
+std::vector<StyleElement> ParseStyleTexts(const QString& item, const QString& prefix)
+{
+    return ItemReader(item, prefix, false).Read();
 }
 
 } // namespace Orvane

@@ -57,5 +57,7 @@ using StyleElement = std::variant<TextRun, TabStop, ForeColour, FontChange, Draw
 /// Never fails: an unknown command is skipped, and a broken one is kept up to the damage. Coordinates beyond
 /// 32767 pixels are clamped to that.
 std::vector<StyleElement> ParseStyleString(const QString& item, const QString& prefix);
+/// The same without the drawings, whose coordinates take long to read.
+std::vector<StyleElement> ParseStyleTexts(const QString& item, const QString& prefix);
 
 } // namespace Orvane

@@ -132,7 +132,7 @@ private:
 
 bool StyleStringRenderer::IsUserDrawn(const QString& item) const
 {
-    const auto elements = ParseStyleString(item, m_prefix);
+    const auto elements = ParseStyleTexts(item, m_prefix);
     return std::any_of(elements.begin(), elements.end(), [](const StyleElement& element) {
         return std::holds_alternative<UserDrawn>(element);
     });
@@ -141,7 +141,7 @@ bool StyleStringRenderer::IsUserDrawn(const QString& item) const
 QString StyleStringRenderer::PlainText(const QString& item) const
 {
     QString text;
-    for (const StyleElement& element : ParseStyleString(item, m_prefix)) {
+    for (const StyleElement& element : ParseStyleTexts(item, m_prefix)) {
         if (const auto* run = std::get_if<TextRun>(&element))
             text += run->text;
     }
@@ -151,7 +151,7 @@ QString StyleStringRenderer::PlainText(const QString& item) const
 int StyleStringRenderer::LabelWidth(const QString& item, const QFont& font) const
 {
     int width = 0;
-    for (const StyleElement& element : ParseStyleString(item, m_prefix)) {
+    for (const StyleElement& element : ParseStyleTexts(item, m_prefix)) {
         if (std::holds_alternative<TabStop>(element))
             return width;
         if (const auto* run = std::get_if<TextRun>(&element))

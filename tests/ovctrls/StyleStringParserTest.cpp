@@ -43,6 +43,15 @@ TEST(StyleStringParser, PlainTextIsOneRun)
     EXPECT_TRUE(Parse("").empty());
 }
 
+TEST(StyleStringParser, TheTextsOfAnItemComeWithoutItsDrawings)
+{
+    const auto elements = ParseStyleTexts("@FG=3.2 mm\t@DRP=0:M0,1:D5.5,5.@UD.", "@");
+    ASSERT_EQ(elements.size(), 4u);
+    EXPECT_EQ(std::get<TextRun>(elements[1]).text, "2 mm");
+    EXPECT_TRUE(std::holds_alternative<TabStop>(elements[2]));
+    EXPECT_TRUE(std::holds_alternative<UserDrawn>(elements[3]));
+}
+
 TEST(StyleStringParser, AForeColourIsASignedOrUnsignedNumber)
 {
     EXPECT_EQ(Only<ForeColour>("@FG=255.").colour, 255);
