@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ovctrls/OvCombo.h"
 
+#include "ovctrls/ComboSize.h"
 #include "ovctrls/OvComboDelegate.h"
 #include "ovctrls/TwipsPerInch.h"
 
@@ -50,6 +51,25 @@ void OvCombo::PrepareList()
     // Some styles open lists as menus, which show all rows whatever DropDownRows says.
     if (styleSheet().isEmpty())
         setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+bool OvCombo::HasOwnSize() const
+{
+    return minimumContentsLength() > 0 && sizeAdjustPolicy() == AdjustToContentsOnFirstShow;
+}
+
+QSize OvCombo::sizeHint() const
+{
+    if (!HasOwnSize())
+        return QComboBox::sizeHint();
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return ComboSizeForLength(*this, option);
+}
+
+QSize OvCombo::minimumSizeHint() const
+{
+    return HasOwnSize() ? sizeHint() : QComboBox::minimumSizeHint();
 }
 
 void OvCombo::showPopup()

@@ -77,6 +77,11 @@ public:
     /// selection colours. An underlined font applies to the closed box only.
     void PaintItem(QPainter& painter, const QRect& rectangle, int index, bool isSelected);
 
+    /// With a minimumContentsLength, and unless another sizeAdjustPolicy was set, the box has room for that
+    /// many letters and an icon, whatever its items.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     /// Opens the list, which is made when it is opened first.
     void showPopup() override;
 
@@ -91,6 +96,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool HasOwnSize() const;
     void PrepareList();
     bool HasCommands(int index) const;
     void PaintPlain(QPainter& painter, const QRect& rectangle, int index, const StyleStringLook& look) const;

@@ -61,6 +61,21 @@ TEST_F(OvComboListTest, TheListLooksTheSameIfAReaderHasAskedForItBefore)
     EXPECT_EQ(Opened(asked), Opened(m_combo));
 }
 
+TEST_F(OvComboListTest, WithAMinimumOfLettersItIsAsWideAsThese)
+{
+    OvCombo adjusted;
+    Fill(adjusted);
+    adjusted.Append("@FG=0.words that are wider than the letters");
+    m_combo.Append("@FG=0.words that are wider than the letters");
+    const QSize all = m_combo.sizeHint();
+    adjusted.setMinimumContentsLength(12);
+    m_combo.setMinimumContentsLength(12);
+    adjusted.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    EXPECT_EQ(m_combo.sizeHint(), adjusted.sizeHint());
+    EXPECT_EQ(m_combo.minimumSizeHint(), adjusted.minimumSizeHint());
+    EXPECT_LT(m_combo.sizeHint().width(), all.width());
+}
+
 TEST_F(OvComboListTest, ADelegateAndAStyleSheetThatAHostHasSetStay)
 {
     auto* delegate = new QStyledItemDelegate(&m_combo);
