@@ -87,19 +87,26 @@ public:
     {
     }
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    // Each row shows one of few images. On a scaled screen a pixmap might lie between its pixels.
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
-        PaintNodeImage(*painter, rect, m_isGroup, m_quickMode, ColourFor(mode));
+        if (painter->deviceTransform().type() > QTransform::TxTranslate)
+            PaintNodeImage(*painter, rect, m_isGroup, m_quickMode, ColourFor(mode));
+        else
+            painter->drawPixmap(rect.topLeft(), pixmap(rect.size(), mode, state));
     }
 
     // The default leaves the pixels between the lines undefined.
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
+        QPixmap& painted = m_painted[mode];
+        if (painted.size() == size)
+            return painted;
+        painted = QPixmap(size);
+        painted.fill(Qt::transparent);
+        QPainter painter(&painted);
+        PaintNodeImage(painter, painted.rect(), m_isGroup, m_quickMode, ColourFor(mode));
+        return painted;
     }
 
     QIconEngine* clone() const override { return new NodeIconEngine(*this); }
@@ -115,6 +122,7 @@ private:
     bool m_isGroup;
     qint16 m_quickMode;
     Colours m_colours;
+    std::map<QIcon::Mode, QPixmap> m_painted; ///< in the size in which it was last asked for
 };
 
 } // namespace

@@ -30,6 +30,31 @@ QImage Painted(const Kind& kind, int side)
     return image;
 }
 
+// On a screen of that scale; with an icon, the icon paints it.
+QImage PaintedAt(double scale, int side, const Kind& kind, const QIcon* icon)
+{
+    QImage image(int(side * scale), int(side * scale), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    const QRect area(0, 0, side, side);
+    if (icon)
+        icon->paint(&painter, area);
+    else
+        PaintNodeImage(painter, area, kind.isGroup, kind.quickMode, Qt::black);
+    return image;
+}
+
+int LargestDifference(const QImage& left, const QImage& right)
+{
+    int largest = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x)
+            largest = std::max(largest, std::abs(qGray(left.pixel(x, y)) - qGray(right.pixel(x, y))));
+    }
+    return largest;
+}
+
 int DifferingPixels(const QImage& left, const QImage& right)
 {
     int differing = 0;
@@ -102,6 +127,22 @@ TEST(NodeImages, TakeTheTextColoursOfThePalette)
     const QIcon icon = images.Icon(false, 1, PaletteOf(Qt::yellow, Qt::cyan), QPalette::Active);
     EXPECT_TRUE(HasPixel(icon.pixmap(32, 32).toImage(), Qt::yellow));
     EXPECT_TRUE(HasPixel(icon.pixmap(QSize(32, 32), QIcon::Selected).toImage(), Qt::cyan));
+}
+
+TEST(NodeImages, LookTheSameAsIconsAtEverySizeAndScale)
+{
+    const NodeImages images;
+    for (const Kind& kind : AllKinds) {
+        const QIcon icon
+            = images.Icon(kind.isGroup, kind.quickMode, PaletteOf(Qt::black, Qt::cyan), QPalette::Active);
+        for (const int side : {16, 24, 16}) {
+            for (const double scale : {1.0, 1.5, 2.0}) {
+                const QImage painted = PaintedAt(scale, side, kind, nullptr);
+                // A pixmap rounds once more.
+                EXPECT_LE(LargestDifference(PaintedAt(scale, side, kind, &icon), painted), 2);
+            }
+        }
+    }
 }
 
 TEST(NodeImages, AreMadeOnceForAPaletteAndAnewForAnother)
