@@ -22,6 +22,7 @@ RendererStyleEditor::RendererStyleEditor(QComboBox& list) : m_list(list)
 void RendererStyleEditor::FillStyles(const std::vector<RendererStyle>& styles)
 {
     m_list.clear();
+    m_list.setPlaceholderText(QStringLiteral(" ")); // without one Qt would select the first entry
     m_list.addItem(TranslateMsg("Standard"), 0);
     for (const RendererStyle& style : styles)
         m_list.addItem(style.name, style.number);
@@ -44,7 +45,7 @@ void RendererStyleEditor::Show(const LayerStyle&, const LayerStyle& shown)
 {
     const Value style = shown.lsGet(Slot::RendererStyle);
     m_showsVarious = style.IsNull();
-    // Never empty: without a placeholder Qt would select the first entry if none was selected.
+    // Never empty, for the same reason.
     m_list.setPlaceholderText(m_showsVarious ? TranslateMsg("various") : ToText(style));
     m_list.setCurrentIndex(m_showsVarious ? -1 : FindByItemData(m_list, ToInt32(style)));
 }

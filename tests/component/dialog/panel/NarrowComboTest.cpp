@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "component/dialog/panel/NarrowCombo.h"
 
+#include "component/dialog/EditorFixture.h"
+
 #include <QAbstractItemView>
 
 #include <gtest/gtest.h>
 
-namespace Orvane {
+namespace Orvane::Testing {
 
 namespace {
 
@@ -19,7 +21,24 @@ void Fill(QComboBox& list, int letters, const QString& placeholder, int points)
     list.addItems({"short", "a name that is much longer than the list is wide"});
 }
 
+class ListsOfTheForm : public EditorFixture
+{
+};
+
 } // namespace
+
+TEST_F(ListsOfTheForm, AreMadeWhenTheUserOpensThem)
+{
+    AddTown();
+    Open();
+    ClickLayer("Roads");
+    for (const QComboBox* list : Form()->findChildren<QComboBox*>())
+        EXPECT_EQ(list->findChild<QAbstractItemView*>(), nullptr) << list->objectName().toStdString();
+    auto& style = Find<QComboBox>("cboStyle");
+    style.showPopup();
+    EXPECT_NE(style.findChild<QAbstractItemView*>(), nullptr);
+    style.hidePopup();
+}
 
 TEST(NarrowCombo, HasTheSizeOfAComboBoxThatAdjustsToItsLengthAlone)
 {
@@ -47,4 +66,4 @@ TEST(NarrowCombo, IsShownWithoutMakingItsList)
     EXPECT_EQ(list.findChild<QAbstractItemView*>(), nullptr);
 }
 
-} // namespace Orvane
+} // namespace Orvane::Testing
