@@ -4,9 +4,13 @@
 #include <QSysInfo>
 #include <QtGlobal>
 
+#include <cstdlib>
 #include <fstream>
 #include <sqlite3.h>
 #include <thread>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 namespace Orvane::Benchmarks {
 
@@ -33,6 +37,13 @@ std::string MachineDescription()
         + std::to_string(std::thread::hardware_concurrency()) + " cores\n"
         + "System: " + QSysInfo::prettyProductName().toStdString() + ", " + QSysInfo::buildAbi().toStdString()
         + "\nQt " + qVersion() + ", SQLite " + sqlite3_libversion() + ", compiler " + __VERSION__ + "\n";
+}
+
+void GiveMemoryBack()
+{
+#if defined(__GLIBC__)
+    malloc_trim(0);
+#endif
 }
 
 void ResetPeakMemory()

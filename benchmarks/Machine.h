@@ -8,6 +8,9 @@ namespace Orvane::Benchmarks {
 /// Processor, cores and the versions of the measured software, one per line.
 std::string MachineDescription();
 
+/// Gives free memory back to the system, where the system's allocator can do that.
+void GiveMemoryBack();
+
 /// Resets the peak memory count, where the system supports that.
 void ResetPeakMemory();
 

@@ -1,74 +1,120 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/Measurement.h"
 
-#include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Machine.h"
 
 #include <benchmark/benchmark.h>
-#include <string>
+#include <memory>
+#include <set>
 
 namespace Orvane::Benchmarks {
 
 namespace {
 
-std::vector<JobSize> SizesOf(Job job)
+constexpr int LeastForBytesEach = 10000; // of fewer, a page of memory more or less would decide
+constexpr int Million = 1000000;
+constexpr int RepetitionsOfMillion = 3;
+
+struct Announced {
+    Measured measured;
+    bool isLarge;
+};
+
+// Constants of other files add to it, so it is made at the first use.
+std::vector<Announced>& AllAnnounced()
 {
-    std::vector<JobSize> sizes;
-    for (const int layers : {1000, 10000, 100000}) {
-        if (job != Job::SelectGroup && job != Job::ApplyToGroup) {
-            sizes.push_back({layers, 0});
-            continue;
-        }
-        for (const int members : {50, 1000, layers}) {
-            if (sizes.empty() || sizes.back().layers != layers || sizes.back().members != members)
-                sizes.push_back({layers, members});
-        }
-    }
-    return sizes;
+    static std::vector<Announced> all;
+    return all;
 }
 
-void Measure(benchmark::State& state, const MakeRun& makeRun)
+void Do(const Work& work)
 {
-    const JobSize size{int(state.range(0)), int(state.range(1))};
-    const Run run = makeRun(BenchmarkMap(size.layers), size);
-    run(); // prepares statements and caches pages, equally at all levels
+    if (work.before)
+        work.before();
+    work.act();
+}
+
+// In a pass of its own, because giving memory back to the system makes the next run slower.
+MemoryUse MemoryOf(const Work& work, const JobSize& size)
+{
+    if (work.before)
+        work.before();
+    GiveMemoryBack();
     ResetPeakMemory();
-    for ([[maybe_unused]] auto _ : state)
-        run();
-    state.counters["peak_MB"] = PeakMemoryInMegabytes();
+    const double before = PeakMemoryInMegabytes();
+    work.act();
+    const double peak = PeakMemoryInMegabytes();
+    const bool isPrecise = size.Worked() >= LeastForBytesEach;
+    return {peak, isPrecise ? (peak - before) * 1024 * 1024 / size.Worked() : 0};
+}
+
+void MeasureTime(benchmark::State& state, const Work& work)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        if (work.before) {
+            state.PauseTiming();
+            work.before();
+            state.ResumeTiming();
+        }
+        work.act();
+    }
+}
+
+/// Measures one job at one level; memory only once, and not for what mostly waits.
+class Measurer
+{
+public:
+    Measurer(const Measured& measured, FigureTable& table) : m_measured(measured), m_table(table) { }
+
+    void operator()(benchmark::State& state)
+    {
+        const JobSize size{int(state.range(0)), int(state.range(1))};
+        const Work work = m_measured.makeWork(size);
+        Do(work); // prepares statements and caches pages, equally at all levels
+        if (!m_measured.isOnTheClock && m_withMemory->insert(size).second)
+            m_table.SetMemory(m_measured.job, m_measured.level, size, MemoryOf(work, size));
+        MeasureTime(state, work);
+    }
+
+private:
+    Measured m_measured;
+    FigureTable& m_table;
+    std::shared_ptr<std::set<JobSize>> m_withMemory = std::make_shared<std::set<JobSize>>();
+};
+
+void Register(
+    const Measured& measured, const std::vector<JobSize>& sizes, const Choice& choice, FigureTable& table)
+{
+    const std::string name = measured.job + '/' + measured.level;
+    for (const JobSize& size : sizes) {
+        auto* registered = benchmark::RegisterBenchmark(name.c_str(), Measurer(measured, table));
+        registered->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->Args({size.layers, size.members});
+        if (measured.isOnTheClock)
+            registered->UseRealTime();
+        if (choice.isSmoke)
+            registered->Iterations(1)->Repetitions(1);
+        else if (size.layers >= Million)
+            registered->Iterations(1)->Repetitions(RepetitionsOfMillion);
+    }
 }
 
 } // namespace
 
-const char* NameOf(Job job)
+Announcement::Announcement(Measured measured, bool isLarge)
 {
-    switch (job) {
-    case Job::OpenFlatList:
-        return "Open flat list";
-    case Job::OpenGroupedTree:
-        return "Open grouped tree";
-    case Job::SelectGroup:
-        return "Select group";
-    case Job::ApplyToGroup:
-        return "Apply to group";
-    case Job::ScrollFlatList:
-        return "Scroll flat list";
-    case Job::FindInFlatList:
-        return "Find in flat list";
-    case Job::FindInGroupedTree:
-        return "Find in grouped tree";
-    }
-    return "";
+    AllAnnounced().push_back({std::move(measured), isLarge});
 }
 
-Registration::Registration(Job job, const char* level, const MakeRun& makeRun)
+void RegisterAnnounced(const Choice& choice, FigureTable& table)
 {
-    const std::string name = std::string(NameOf(job)) + "/" + level;
-    auto* measured = benchmark::RegisterBenchmark(
-        name.c_str(), [makeRun](benchmark::State& state) { Measure(state, makeRun); });
-    measured->Unit(benchmark::kMillisecond);
-    for (const JobSize& size : SizesOf(job))
-        measured->Args({size.layers, size.members});
+    for (const auto& [measured, isLarge] : AllAnnounced()) {
+        if (isLarge && !choice.isMillion)
+            continue;
+        if (choice.isSmoke)
+            Register(measured, {measured.sizes.front()}, choice, table);
+        else
+            Register(measured, measured.sizes, choice, table);
+    }
 }
 
 } // namespace Orvane::Benchmarks

@@ -1,49 +1,63 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "benchmarks/FigureTable.h"
+#include "benchmarks/JobSize.h"
 
 #include <functional>
-#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace Orvane::Benchmarks {
 
-/// One size at which a job is measured.
-struct JobSize {
-    int layers; ///< in the database, in groups of 50
-    int members; ///< of the group that the job works on; 0 for jobs on all layers
+/// How a job is done at one level. Made once for each repetition, outside the measured time.
+struct Work {
+    /// Without anything before. Implicit, because most jobs are just a lambda.
+    template <typename Callable, typename = std::enable_if_t<!std::is_same_v<std::decay_t<Callable>, Work>>>
+    Work(Callable&& callable) : act(std::forward<Callable>(callable))
+    {
+    }
+    /// prepare: becomes before.
+    Work(std::function<void()> prepare, std::function<void()> measured)
+        : before(std::move(prepare)), act(std::move(measured))
+    {
+    }
+
+    std::function<void()> before; ///< runs before each act, and is not measured; may be empty
+    std::function<void()> act; ///< what is measured
 };
 
-/// The jobs that are measured at every level, from the bare loop to the dialog. The names are those in the
-/// report.
-enum class Job {
-    OpenFlatList,
-    OpenGroupedTree,
-    SelectGroup,
-    ApplyToGroup, ///< one flag was changed; all properties that the layers share are written
-    ScrollFlatList, ///< fifty pages from top to bottom, each painted
-    FindInFlatList, ///< one key in the find field, until the list is painted
-    FindInGroupedTree, ///< the same above the groups
+/// One job at one level and all its sizes.
+struct Measured {
+    std::string job;
+    std::string level; ///< BareLevel, or what is compared to it
+    std::vector<JobSize> sizes; ///< the smallest first
+    std::function<Work(const JobSize& size)> makeWork;
+    /// Others wait meanwhile, such as for a server: time on the clock decides how often it is repeated.
+    bool isOnTheClock = false;
 };
 
-/// How a job is done at one level. Made once for each size, outside the measured time; called for each run.
-using Run = std::function<void()>;
-using MakeRun = std::function<Run(const QString& mapPath, const JobSize& size)>;
+/// What the command line chooses.
+struct Choice {
+    bool isSmoke = false; ///< only the smallest size of each job, once
+    bool isMillion = false; ///< a million layers, too
+};
 
-/// Adds a job at a level to the report; each job has a level "bare", which the others are compared to.
+/// Has a job measured at one level, as a constant beside the functions that do it:
 ///
-///     const Registration flatList(Job::OpenFlatList, "model", [](const QString& path, const JobSize&) {
-///         auto host = std::make_shared<Host>(path);
-///         return [host] { ReloadLayerList(*host); };
-///     });
-class Registration
+///     const Announcement reading({"Read a layer", BareLevel, {{1000, 0}}, [](const JobSize& size) {
+///         return [data = Data(size.layers)] { Read(data); };
+///     }});
+class Announcement
 {
 public:
-    Registration(Job job, const char* level, const MakeRun& makeRun);
+    /// isLarge: only a run with a million layers measures it.
+    explicit Announcement(Measured measured, bool isLarge = false);
 };
 
-/// The name of a job in the report.
-const char* NameOf(Job job);
+/// Hands all announced jobs to Google Benchmark. table: gets the memory that they need; outlives the run.
+void RegisterAnnounced(const Choice& choice, FigureTable& table);
 
 } // namespace Orvane::Benchmarks

@@ -1,35 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "benchmarks/FigureTable.h"
+
 #include <benchmark/benchmark.h>
-#include <map>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace Orvane::Benchmarks {
 
-/// Prints each run as it ends, and after the last one a table that compares each level with the bare loop.
-///
-/// Times are processor times, the minimum of all repetitions: other programs on the machine slow down both
-/// sides unevenly, and they disturb the minimum least.
+/// Prints each run as it ends, and after the last one the machine and the table of all figures.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
+    /// table: gets the times. Not owned, outlives this object.
+    explicit RatioReporter(FigureTable& table) : m_table(table) { }
+
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
+    /// True when a run has ended with an error.
+    bool HasFailed() const { return m_hasFailed; }
+
 private:
-    struct Figure {
-        double milliseconds = 0;
-        double peakMegabytes = 0;
-    };
-    using Case = std::pair<std::string, std::pair<int, int>>; // job, layers and members
-
     void Take(const Run& run);
-    void PrintCase(const Case& measured, const std::map<std::string, Figure>& levels);
 
-    std::map<Case, std::map<std::string, Figure>> m_figures;
+    FigureTable& m_table;
+    bool m_hasFailed = false;
 };
 
 } // namespace Orvane::Benchmarks

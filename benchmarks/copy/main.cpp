@@ -2,11 +2,11 @@
 // How long it takes to copy a map of many layers to a server and back, as a ratio against COPY of the same
 // rows with bare libpq, and how much memory that needs.
 //
-//     orvane_copy_benchmark
+//     orvane_copy_benchmark [LAYERS]
 //
 // It starts a server of its own, which ends with it.
-#include "benchmarks/BenchmarkMap.h"
 #include "benchmarks/Machine.h"
+#include "benchmarks/layers/BenchmarkMap.h"
 #include "store/ILayerStore.h"
 #include "store/copying/StoreCopy.h"
 #include "store/opening/LayerStores.h"
@@ -16,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -131,7 +132,8 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const Testing::PrivateServer server;
     const QString place = server.Place(QStringLiteral("Measured"));
-    for (const int layers : {FewLayers, ManyLayers})
+    const int many = argc > 1 ? std::max(FewLayers, std::atoi(argv[1])) : ManyLayers;
+    for (const int layers : {FewLayers, many})
         Measure(layers, place);
     MeasureBare(server.Connection());
     return 0;

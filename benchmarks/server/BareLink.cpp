@@ -72,9 +72,9 @@ BareLink::Result BareLink::Checked(pg_result* result)
     return owned;
 }
 
-BareLink::BareLink(Distance distance) : m_connection(PQconnectdb(ServerMap::Connection(distance).constData()))
+BareLink::BareLink(const ServerMap& map) : m_connection(PQconnectdb(map.Connection().constData()))
 {
-    Checked(PQexec(m_connection.get(), ServerMap::SearchPath().constData()));
+    Checked(PQexec(m_connection.get(), map.SearchPath().constData()));
     Prepare("list", "SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name");
     Prepare("members", "SELECT LayerID FROM LayerGroupMembers WHERE GroupID = $1");
     Prepare("layers", "SELECT * FROM Layers WHERE LayerID = ANY ($1::integer[])");

@@ -19,7 +19,7 @@ namespace Orvane::Benchmarks {
 class BareLink
 {
 public:
-    explicit BareLink(Distance distance);
+    explicit BareLink(const ServerMap& map);
 
     /// All columns of all layers, by name.
     void ReadFlatList();

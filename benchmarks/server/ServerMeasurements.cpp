@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "benchmarks/Measurement.h"
 #include "benchmarks/server/BareLink.h"
 #include "component/model/LayerStyle.h"
 #include "component/model/LayerStyleApplying.h"
@@ -11,46 +12,44 @@
 #include <OrvaneShellLib/LayerQueries.h>
 
 #include <benchmark/benchmark.h>
-#include <functional>
 #include <string>
 
 namespace Orvane::Benchmarks {
 
 namespace {
 
-using Run = std::function<void()>;
-using MakeRun = Run (*)(Distance distance);
+using MakeOnServer = Work (*)(const ServerMap& map);
 
 /// A host like that of an application, on the map in the server.
 struct Host {
-    explicit Host(Distance distance) : database(PostgresLayerDatabase::Open(ServerMap::Place(distance))) { }
+    explicit Host(const ServerMap& map) : database(PostgresLayerDatabase::Open(map.Place())) { }
 
     std::unique_ptr<PostgresLayerDatabase> database;
     StandardShellServices services;
     StandardClient client{*database, services};
 };
 
-Run BareList(Distance distance)
+Work BareList(const ServerMap& map)
 {
-    return [link = std::make_shared<BareLink>(distance)] { link->ReadFlatList(); };
+    return [link = std::make_shared<BareLink>(map)] { link->ReadFlatList(); };
 }
 
-Run BareRead(Distance distance)
+Work BareRead(const ServerMap& map)
 {
-    return [link = std::make_shared<BareLink>(distance)] { link->ReadMembers(); };
+    return [link = std::make_shared<BareLink>(map)] { link->ReadMembers(); };
 }
 
-Run BareWrite(Distance distance)
+Work BareWrite(const ServerMap& map)
 {
-    return [link = std::make_shared<BareLink>(distance), visible = false]() mutable {
+    return [link = std::make_shared<BareLink>(map), visible = false]() mutable {
         visible = !visible;
         link->WriteMembers(visible);
     };
 }
 
-Run StoreList(Distance distance)
+Work StoreList(const ServerMap& map)
 {
-    return [host = std::make_shared<Host>(distance)] {
+    return [host = std::make_shared<Host>(map)] {
         const auto rows = host->database->OpenRecordset(LayerQueries::LayerList());
         for (; !rows->AtEOF(); rows->MoveNext()) {
             for (const char* column : {"LayerID", "Name", "Code", "OverrideMode", "SystemLayer", "Pseudo"})
@@ -59,25 +58,25 @@ Run StoreList(Distance distance)
     };
 }
 
-Run ModelList(Distance distance)
+Work ModelList(const ServerMap& map)
 {
-    return [host = std::make_shared<Host>(distance)] {
+    return [host = std::make_shared<Host>(map)] {
         host->client.InvalidateLayerNames();
         benchmark::DoNotOptimize(ReloadLayerList(host->client, nullptr));
     };
 }
 
-Run ModelRead(Distance distance)
+Work ModelRead(const ServerMap& map)
 {
-    return [host = std::make_shared<Host>(distance)] {
+    return [host = std::make_shared<Host>(map)] {
         LayerStyle style;
         LoadGroupStyle(host->client, ServerMap::Group, style);
     };
 }
 
-Run ModelWrite(Distance distance)
+Work ModelWrite(const ServerMap& map)
 {
-    auto host = std::make_shared<Host>(distance);
+    auto host = std::make_shared<Host>(map);
     LayerStyle style;
     LoadGroupStyle(host->client, ServerMap::Group, style);
     return [host, style, visible = false]() mutable {
@@ -87,32 +86,23 @@ Run ModelWrite(Distance distance)
     };
 }
 
-// The user waits for the server, so the time on the clock is measured.
-void Measure(benchmark::State& state, MakeRun makeRun, Distance distance)
-{
-    const Run run = makeRun(distance);
-    run();
-    for ([[maybe_unused]] auto _ : state)
-        run();
-}
-
-bool Register(const std::string& job, const char* level, MakeRun makeRun)
+// The user waits for the server, so time on the clock counts.
+bool Announce(const std::string& job, const char* level, MakeOnServer make)
 {
     for (const Distance distance : {Distance::Local, Distance::Far}) {
-        const std::string name = job + (distance == Distance::Far ? ", 20 ms/" : ", local/") + level;
-        auto* measured
-            = benchmark::RegisterBenchmark(name.c_str(), [makeRun, distance](benchmark::State& state) {
-                  Measure(state, makeRun, distance);
-              });
-        measured->Unit(benchmark::kMillisecond)->UseRealTime()->Args({ServerMap::Layers, ServerMap::Members});
+        const std::string name = job + (distance == Distance::Far ? ", 20 ms" : ", local");
+        const auto makeWork
+            = [make, distance](const JobSize& size) { return make(ServerMap(size.layers, distance)); };
+        Announcement(
+            {name, level, {{2000, ServerMap::Members}, {100000, ServerMap::Members}}, makeWork, true});
     }
     return true;
 }
 
-const bool AreRegistered = Register("Server list", "bare", BareList)
-    && Register("Server list", "store", StoreList) && Register("Server list", "model", ModelList)
-    && Register("Server read", "bare", BareRead) && Register("Server read", "model", ModelRead)
-    && Register("Server apply", "bare", BareWrite) && Register("Server apply", "model", ModelWrite);
+const bool AreAnnounced = Announce("Server list", BareLevel, BareList)
+    && Announce("Server list", "store", StoreList) && Announce("Server list", "model", ModelList)
+    && Announce("Server read", BareLevel, BareRead) && Announce("Server read", "model", ModelRead)
+    && Announce("Server apply", BareLevel, BareWrite) && Announce("Server apply", "model", ModelWrite);
 
 } // namespace
 

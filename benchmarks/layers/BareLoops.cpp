@@ -1,68 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include "benchmarks/BareLoops.h"
+#include "benchmarks/layers/BareLoops.h"
 
 #include <sqlite3.h>
-#include <stdexcept>
 
 namespace Orvane::Benchmarks {
 
-namespace {
-
-sqlite3* Opened(const QString& path)
-{
-    sqlite3* handle = nullptr;
-    if (sqlite3_open(path.toUtf8().constData(), &handle) != SQLITE_OK)
-        throw std::runtime_error("the benchmark's map cannot be opened");
-    return handle;
-}
-
-} // namespace
-
-void BareLoops::Closer::operator()(sqlite3* handle) const
-{
-    sqlite3_close(handle);
-}
-
-void BareLoops::Finalizer::operator()(sqlite3_stmt* statement) const
-{
-    sqlite3_finalize(statement);
-}
-
 BareLoops::BareLoops(const QString& mapPath)
-    : m_handle(Opened(mapPath)),
-      m_flatList(Prepared("SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name")),
-      m_groupedTree(Prepared(
+    : m_sql(mapPath), m_flatList(m_sql.Prepared("SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name")),
+      m_groupedTree(m_sql.Prepared(
           "SELECT Layers.*, LayerGroupMembers.GroupID, LayerGroupMembers.Ordering"
           " FROM LayerGroupMembers, LayerGroups, Layers WHERE LayerGroupMembers.LayerID=Layers.LayerID"
           " AND LayerGroupMembers.GroupID=LayerGroups.ID AND LayerGroups.Pseudo = False"
           " ORDER BY LayerGroups.GroupOrdering, Ordering, Layers.LayerID")),
-      m_members(Prepared("SELECT LayerID FROM LayerGroupMembers WHERE GroupID=?1")),
-      m_layer(
-          Prepared("SELECT Name, Code, Visible, Selectable, locked, Hitable, SnapRequired, Enquirable, Color,"
-                   " FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, MinVisScale,"
-                   " MaxVisScale, Priority, Style FROM Layers WHERE LayerID = ?1")),
-      m_update(Prepared("UPDATE Layers SET OverrideMode = ?2, Visible = ?3, Selectable = ?4, locked = ?5,"
-                        " Hitable = ?6, SnapRequired = ?7, Enquirable = ?8, FillForeColor = ?9,"
-                        " FillBackColor = ?10, Color = ?11, OutlineStyle = ?12, FillStyle = ?13,"
-                        " LineThickness = ?14, MinVisScale = ?15, MaxVisScale = ?16, Priority = ?17,"
-                        " Style = ?18 WHERE LayerID = ?1"))
+      m_members(m_sql.Prepared("SELECT LayerID FROM LayerGroupMembers WHERE GroupID=?1")),
+      m_layer(m_sql.Prepared(
+          "SELECT Name, Code, Visible, Selectable, locked, Hitable, SnapRequired, Enquirable, Color,"
+          " FillForeColor, FillBackColor, OutlineStyle, FillStyle, LineThickness, MinVisScale,"
+          " MaxVisScale, Priority, Style FROM Layers WHERE LayerID = ?1")),
+      m_update(
+          m_sql.Prepared("UPDATE Layers SET OverrideMode = ?2, Visible = ?3, Selectable = ?4, locked = ?5,"
+                         " Hitable = ?6, SnapRequired = ?7, Enquirable = ?8, FillForeColor = ?9,"
+                         " FillBackColor = ?10, Color = ?11, OutlineStyle = ?12, FillStyle = ?13,"
+                         " LineThickness = ?14, MinVisScale = ?15, MaxVisScale = ?16, Priority = ?17,"
+                         " Style = ?18 WHERE LayerID = ?1"))
 {
-}
-
-BareLoops::~BareLoops() = default;
-
-BareLoops::Statement BareLoops::Prepared(const char* sql) const
-{
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(m_handle.get(), sql, -1, &statement, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(m_handle.get()));
-    return Statement(statement);
-}
-
-void BareLoops::Execute(const char* sql) const
-{
-    if (sqlite3_exec(m_handle.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(m_handle.get()));
 }
 
 void BareLoops::ReadFlatList()
@@ -114,17 +75,17 @@ std::vector<int> BareLoops::MembersOf(qint32 groupID) const
 
 void BareLoops::ReadMembers(qint32 groupID)
 {
-    Execute("BEGIN");
+    m_sql.Execute("BEGIN");
     for (const int layerID : MembersOf(groupID)) {
         sqlite3_bind_int(m_layer.get(), 1, layerID);
         ReadAll(m_layer.get());
     }
-    Execute("COMMIT");
+    m_sql.Execute("COMMIT");
 }
 
 void BareLoops::WriteMembers(qint32 groupID, bool visible)
 {
-    Execute("BEGIN");
+    m_sql.Execute("BEGIN");
     sqlite3_stmt* update = m_update.get();
     for (const int layerID : MembersOf(groupID)) {
         sqlite3_bind_int(update, 1, layerID);
@@ -132,11 +93,9 @@ void BareLoops::WriteMembers(qint32 groupID, bool visible)
             sqlite3_bind_int(update, number, number);
         sqlite3_bind_int(update, 3, visible);
         sqlite3_bind_double(update, 15, 500.5);
-        if (sqlite3_step(update) != SQLITE_DONE)
-            throw std::runtime_error(sqlite3_errmsg(m_handle.get()));
-        sqlite3_reset(update);
+        m_sql.Run(update);
     }
-    Execute("COMMIT");
+    m_sql.Execute("COMMIT");
 }
 
 } // namespace Orvane::Benchmarks

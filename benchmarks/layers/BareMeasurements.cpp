@@ -1,30 +1,30 @@
 // SPDX-License-Identifier: MIT
-#include "benchmarks/BareLoops.h"
-#include "benchmarks/BenchmarkMap.h"
-#include "benchmarks/Measurement.h"
+#include "benchmarks/layers/BareLoops.h"
+#include "benchmarks/layers/BenchmarkMap.h"
+#include "benchmarks/layers/LayerJobs.h"
 
 namespace Orvane::Benchmarks {
 
 namespace {
 
-Run FlatList(const QString& path, const JobSize&)
+Work FlatList(const QString& path, const JobSize&)
 {
     return [loops = std::make_shared<BareLoops>(path)] { loops->ReadFlatList(); };
 }
 
-Run GroupedTree(const QString& path, const JobSize&)
+Work GroupedTree(const QString& path, const JobSize&)
 {
     return [loops = std::make_shared<BareLoops>(path)] { loops->ReadGroupedTree(); };
 }
 
-Run Select(const QString& path, const JobSize& size)
+Work Select(const QString& path, const JobSize& size)
 {
     return [loops = std::make_shared<BareLoops>(path), group = GroupOf(size.members)] {
         loops->ReadMembers(group);
     };
 }
 
-Run Apply(const QString& path, const JobSize& size)
+Work Apply(const QString& path, const JobSize& size)
 {
     return [loops = std::make_shared<BareLoops>(path), group = GroupOf(size.members),
             visible = false]() mutable {
@@ -34,10 +34,10 @@ Run Apply(const QString& path, const JobSize& size)
 }
 
 const Registration Registrations[] = {
-    {Job::OpenFlatList, "bare", FlatList},
-    {Job::OpenGroupedTree, "bare", GroupedTree},
-    {Job::SelectGroup, "bare", Select},
-    {Job::ApplyToGroup, "bare", Apply},
+    {Job::OpenFlatList, BareLevel, FlatList},
+    {Job::OpenGroupedTree, BareLevel, GroupedTree},
+    {Job::SelectGroup, BareLevel, Select},
+    {Job::ApplyToGroup, BareLevel, Apply},
 };
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "benchmarks/BenchmarkMap.h"
+#include "benchmarks/layers/BenchmarkMap.h"
 
 #include "store/sqlite/SqliteLayerDatabase.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "benchmarks/BenchmarkMap.h"
-#include "benchmarks/Measurement.h"
+#include "benchmarks/layers/BenchmarkMap.h"
+#include "benchmarks/layers/LayerJobs.h"
 #include "store/sqlite/SqliteLayerDatabase.h"
 
 #include <OrvaneShellLib/Transaction.h>
@@ -87,14 +87,14 @@ Database Opened(const QString& path)
     return SqliteLayerDatabase::Open(path);
 }
 
-Run FlatList(const QString& path, const JobSize&)
+Work FlatList(const QString& path, const JobSize&)
 {
     return [database = Opened(path)] {
         ReadAll(*database, QStringLiteral("SELECT Layers.* FROM Layers WHERE Code > -2 ORDER BY Name"));
     };
 }
 
-Run GroupedTree(const QString& path, const JobSize&)
+Work GroupedTree(const QString& path, const JobSize&)
 {
     return [database = Opened(path)] {
         ReadAll(
@@ -107,12 +107,12 @@ Run GroupedTree(const QString& path, const JobSize&)
     };
 }
 
-Run Select(const QString& path, const JobSize& size)
+Work Select(const QString& path, const JobSize& size)
 {
     return [database = Opened(path), group = GroupOf(size.members)] { ReadMembers(*database, group); };
 }
 
-Run Apply(const QString& path, const JobSize& size)
+Work Apply(const QString& path, const JobSize& size)
 {
     return [database = Opened(path), group = GroupOf(size.members), visible = false]() mutable {
         visible = !visible;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "benchmarks/BenchmarkMap.h"
-#include "benchmarks/Measurement.h"
+#include "benchmarks/layers/BenchmarkMap.h"
+#include "benchmarks/layers/LayerJobs.h"
 #include "component/model/LayerStyle.h"
 #include "component/model/LayerStyleApplying.h"
 #include "component/model/LayerStyleLoading.h"
@@ -24,7 +24,7 @@ struct Host {
     StandardClient client{*database, services};
 };
 
-Run FlatList(const QString& path, const JobSize&)
+Work FlatList(const QString& path, const JobSize&)
 {
     return [host = std::make_shared<Host>(path)] {
         host->client.InvalidateLayerNames();
@@ -32,7 +32,7 @@ Run FlatList(const QString& path, const JobSize&)
     };
 }
 
-Run GroupedTree(const QString& path, const JobSize&)
+Work GroupedTree(const QString& path, const JobSize&)
 {
     return [host = std::make_shared<Host>(path)] {
         host->client.InvalidateLayerNames();
@@ -40,7 +40,7 @@ Run GroupedTree(const QString& path, const JobSize&)
     };
 }
 
-Run Select(const QString& path, const JobSize& size)
+Work Select(const QString& path, const JobSize& size)
 {
     return [host = std::make_shared<Host>(path), group = GroupOf(size.members)] {
         LayerStyle style;
@@ -48,7 +48,7 @@ Run Select(const QString& path, const JobSize& size)
     };
 }
 
-Run Apply(const QString& path, const JobSize& size)
+Work Apply(const QString& path, const JobSize& size)
 {
     auto host = std::make_shared<Host>(path);
     LayerStyle style;

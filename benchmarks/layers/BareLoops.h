@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "benchmarks/layers/BareSql.h"
+
 #include <QString>
 #include <QtGlobal>
 
-#include <memory>
 #include <vector>
-
-struct sqlite3;
-struct sqlite3_stmt;
 
 namespace Orvane::Benchmarks {
 
@@ -18,9 +16,6 @@ class BareLoops
 {
 public:
     explicit BareLoops(const QString& mapPath);
-    ~BareLoops();
-    BareLoops(const BareLoops&) = delete;
-    BareLoops& operator=(const BareLoops&) = delete;
 
     /// All columns of all layers, by name.
     void ReadFlatList();
@@ -35,21 +30,13 @@ public:
     qint64 Checksum() const { return m_checksum; }
 
 private:
-    struct Closer {
-        void operator()(sqlite3* handle) const;
-    };
-    struct Finalizer {
-        void operator()(sqlite3_stmt* statement) const;
-    };
-    using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
+    using Statement = BareSql::Statement;
 
-    Statement Prepared(const char* sql) const;
-    void Execute(const char* sql) const;
     void ReadAll(sqlite3_stmt* statement);
     void ReadRow(sqlite3_stmt* statement);
     std::vector<int> MembersOf(qint32 groupID) const;
 
-    std::unique_ptr<sqlite3, Closer> m_handle;
+    BareSql m_sql;
     Statement m_flatList;
     Statement m_groupedTree;
     Statement m_members;
