@@ -9,7 +9,7 @@ packages_qt5=(qtbase5-dev)
 packages_qgis=(libqgis-dev qgis python3-qgis qtbase5-dev)
 packages_abi=(abigail-tools binutils python3)
 packages_test=("${packages_clang[@]}" libgtest-dev libgmock-dev libqt6opengl6-dev qt6-translations-l10n fonts-dejavu-core
-    postgresql postgresql-postgis openssl)
+    postgresql postgresql-postgis openssl libbenchmark-dev python3)
 packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-core
     python3-gi gir1.2-atspi-2.0)
 packages_guide=(gdal-bin)
