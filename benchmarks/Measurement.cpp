@@ -64,13 +64,17 @@ void MeasureTime(benchmark::State& state, const Work& work)
 class Measurer
 {
 public:
-    Measurer(const Measured& measured, FigureTable& table) : m_measured(measured), m_table(table) { }
+    Measurer(const Measured& measured, const Choice& choice, FigureTable& table)
+        : m_measured(measured), m_choice(choice), m_table(table)
+    {
+    }
 
     void operator()(benchmark::State& state)
     {
         const JobSize size{int(state.range(0)), int(state.range(1))};
         const Work work = m_measured.makeWork(size);
-        Do(work); // prepares statements and caches pages, equally at all levels
+        if (!m_choice.isSmoke)
+            Do(work); // prepares statements and caches pages, equally at all levels
         if (!m_measured.isOnTheClock && m_withMemory->insert(size).second)
             m_table.SetMemory(m_measured.job, m_measured.level, size, MemoryOf(work, size));
         MeasureTime(state, work);
@@ -78,6 +82,7 @@ public:
 
 private:
     Measured m_measured;
+    Choice m_choice;
     FigureTable& m_table;
     std::shared_ptr<std::set<JobSize>> m_withMemory = std::make_shared<std::set<JobSize>>();
 };
@@ -87,7 +92,7 @@ void Register(
 {
     const std::string name = measured.job + '/' + measured.level;
     for (const JobSize& size : sizes) {
-        auto* registered = benchmark::RegisterBenchmark(name.c_str(), Measurer(measured, table));
+        auto* registered = benchmark::RegisterBenchmark(name.c_str(), Measurer(measured, choice, table));
         registered->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->Args({size.layers, size.members});
         if (measured.isOnTheClock)
             registered->UseRealTime();
