@@ -15,7 +15,7 @@ packages_tour=(xvfb xauth x11-utils openbox xdotool imagemagick dbus at-spi2-cor
 packages_guide=(gdal-bin)
 packages_data=(gdal-bin python3)
 packages_package=(debootstrap lintian)
-packages_bench=(libbenchmark-dev libgtest-dev libgmock-dev postgresql)
+packages_bench=(libbenchmark-dev libgtest-dev libgmock-dev postgresql python3)
 packages_check=(clang-format clang-tidy libbenchmark-dev python3 doxygen graphviz)
 
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
