@@ -69,26 +69,6 @@ void FillLayer(OGRLayer& layer, int areaCount, AreaMaker& areas)
     }
 }
 
-void WriteFile(const QString& path, int layerCount, int areasOfLayer)
-{
-    GDALAllRegister();
-    GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("GPKG");
-    Require(driver);
-    const GDALDatasetUniquePtr file(driver->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
-    Require(file != nullptr);
-    OGRSpatialReference system;
-    Require(system.SetFromUserInput(System.toUtf8().constData()) == OGRERR_NONE);
-    OGRFieldDefn field("number", OFTInteger);
-    AreaMaker areas(layerCount * areasOfLayer);
-    Require(file->StartTransaction() == OGRERR_NONE);
-    for (int number = 0; number < layerCount; ++number) {
-        OGRLayer* layer = file->CreateLayer(LayerName(number).toUtf8().constData(), &system, wkbPolygon);
-        Require(layer && layer->CreateField(&field) == OGRERR_NONE);
-        FillLayer(*layer, areasOfLayer, areas);
-    }
-    Require(file->CommitTransaction() == OGRERR_NONE);
-}
-
 NewLayer MapLayerOf(int number, const QString& file, int layersInFile)
 {
     NewLayer layer;
@@ -131,6 +111,26 @@ QString PathOf(const QString& name)
 QString LayerName(int number)
 {
     return QStringLiteral("layer %1").arg(number);
+}
+
+void WriteFile(const QString& path, int layerCount, int areasOfLayer)
+{
+    GDALAllRegister();
+    GDALDriver* driver = GetGDALDriverManager()->GetDriverByName("GPKG");
+    Require(driver);
+    const GDALDatasetUniquePtr file(driver->Create(path.toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
+    Require(file != nullptr);
+    OGRSpatialReference system;
+    Require(system.SetFromUserInput(System.toUtf8().constData()) == OGRERR_NONE);
+    OGRFieldDefn field("number", OFTInteger);
+    AreaMaker areas(layerCount * areasOfLayer);
+    Require(file->StartTransaction() == OGRERR_NONE);
+    for (int number = 0; number < layerCount; ++number) {
+        OGRLayer* layer = file->CreateLayer(LayerName(number).toUtf8().constData(), &system, wkbPolygon);
+        Require(layer && layer->CreateField(&field) == OGRERR_NONE);
+        FillLayer(*layer, areasOfLayer, areas);
+    }
+    Require(file->CommitTransaction() == OGRERR_NONE);
 }
 
 QString File(int layerCount, int areasOfLayer)

@@ -16,6 +16,8 @@ inline constexpr int AreasOfLayer = 50;
 
 /// A GeoPackage with that many layers "layer 0", "layer 1" and so on, of areas with nine corners.
 QString File(int layerCount, int areasOfLayer = AreasOfLayer);
+/// Writes the data of File as a new file at that path.
+void WriteFile(const QString& path, int layerCount, int areasOfLayer = AreasOfLayer);
 /// A map with that many layers, each of which shows a layer of its own of one GeoPackage.
 QString Map(int layerCount);
 /// A map with that many layers that are all hidden; many of them show the same data.

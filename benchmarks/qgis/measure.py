@@ -283,6 +283,72 @@ def paste_style():
     must(len(colours()) == 1 and colours() != before, "the pasted colour in all layers")
 
 
+# ---- projects
+
+
+def save_and_open():
+    """The project with its many layers is written, and read again by the same QGIS."""
+    path = os.path.join(OUT, "many.qgz")
+    count = len(many_layers())
+    limited("save")
+    note("save", timed(lambda: must(QgsProject.instance().write(path), "a saved project")))
+    signal.alarm(0)
+    QgsProject.instance().clear()
+    settle()
+    limited("open")
+    note("open", timed(lambda: must(QgsProject.instance().read(path), "an opened project")))
+    signal.alarm(0)
+    must(len(many_layers()) == count, "all layers in the opened project")
+
+
+# ---- maps of real layers
+
+
+def add_real(path, count):
+    """All layers of one GeoPackage, in the group."""
+    group = QgsProject.instance().layerTreeRoot().addGroup(GROUP)
+    layers = [QgsVectorLayer("%s|layername=layer %d" % (path, number), "Layer %d" % number, "ogr")
+              for number in range(count)]
+    must(all(layer.isValid() for layer in layers), "layers that can be read")
+    for layer in layers:
+        symbol = QgsFillSymbol.createSimple({"color": "#80c0c0", "outline_color": "#404040"})
+        layer.setRenderer(QgsSingleSymbolRenderer(symbol))
+    QgsProject.instance().addMapLayers(layers, False)
+    group.insertChildNodes(-1, [QgsLayerTreeLayer(layer) for layer in layers])
+    settle()
+
+
+def until_drawn(act):
+    """Wall and processor time of act, until the map is drawn."""
+    drawn = []
+    iface.mapCanvas().mapCanvasRefreshed.connect(lambda: drawn.append(True))
+    return timed(act, lambda: drawn)
+
+
+def draw_real():
+    """A project is opened without its map being drawn, then drawn, and drawn again after a change of one layer."""
+    canvas = iface.mapCanvas()
+    canvas.resize(800, 600)
+    path = os.path.join(OUT, "real.qgz")
+    must(QgsProject.instance().write(path), "a saved project")
+    QgsProject.instance().clear()
+    settle()
+    limited("map-open")
+    note("map-open", timed(lambda: must(QgsProject.instance().read(path), "an opened project")))
+    canvas.setRenderFlag(True)
+    canvas.setExtent(canvas.fullExtent())
+    limited("map-draw")
+    note("map-draw", until_drawn(canvas.refreshAllLayers))
+    layers = many_layers()
+    times = []
+    for number in range(ROUNDS):
+        layer = layers[len(layers) // 2]
+        layer.renderer().symbol().setColor(QColor(20 * number, 90, 120))
+        times.append(until_drawn(layer.triggerRepaint))
+    signal.alarm(0)
+    note("map-redraw", middle(times))
+
+
 # ---- all
 
 
@@ -312,13 +378,18 @@ def measure_layer_control():
 
 def run():
     try:
-        add_many(int(os.environ["ORVANE_LAYERS"]))
+        count = int(os.environ["ORVANE_LAYERS"])
+        add_real(os.environ["ORVANE_DATA"], count) if PART == "map" else add_many(count)
         print("QGIS", Qgis.QGIS_VERSION, "layers", len(many_layers()), flush=True)
         arrange_tree()
         if PART == "control":
             measure_layer_control()
         elif PART == "paste":
             paste_style()
+        elif PART == "project":
+            save_and_open()
+        elif PART == "map":
+            draw_real()
         else:
             make_themes()
             switch_theme()

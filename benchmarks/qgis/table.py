@@ -13,6 +13,8 @@ ROWS = [  # text, part, name, compared with
     ("the same again", "control", "apply-again", ("paste", "paste")),
     ("QGIS: another map theme", "theme", "theme", None),
     ("dialog: another scheme", "control", "scheme", ("theme", "theme")),
+    ("QGIS: project saved", "project", "save", None),
+    ("QGIS: project opened", "project", "open", None),
     ("dock opened, project read", "control", "dock", None),
     ("QGIS alone: one layer renamed", "control", "alone-rename", None),
     ("with the dialog, which shows another layer", "control", "other-shown-rename", ("control", "alone-rename")),
@@ -56,7 +58,7 @@ def main():
     out, counts = sys.argv[1], sys.argv[2:]
     for count in counts:
         trees = [{part: figures(os.path.join(out, "%s-%s-%s" % (count, tree, part), "figures"))
-                  for part in ("control", "paste", "theme")} for tree in ("collapsed", "expanded")]
+                  for part in ("control", "paste", "theme", "project")} for tree in ("collapsed", "expanded")]
         print("\n| %s layers, seconds | tree collapsed | | tree expanded | |\n|---|---|---|---|---|" % format(int(count), ","))
         for text, part, name, other in ROWS:
             cells = []
@@ -66,4 +68,5 @@ def main():
             print("| %s | %s |" % (text, " | ".join(cells)))
 
 
-main()
+if __name__ == "__main__":
+    main()
