@@ -8,6 +8,8 @@
 
 #include <OrvaneShellLib/ValueConversions.h>
 
+#include <algorithm>
+#include <bit>
 #include <map>
 #include <optional>
 #include <sqlite3.h>
@@ -16,9 +18,26 @@ namespace Orvane {
 
 namespace {
 
-constexpr int NoKey = -1; // instead of the position of a table
+constexpr int NoTable = -1; // instead of the position of a table
 
 using ValueReader = int (*)(sqlite3*, int, sqlite3_value**);
+
+// A value as SQLite reports it, in SQLite's own memory.
+struct Seen {
+    sqlite3_value* value = nullptr;
+    int type = SQLITE_NULL;
+    bool isReal = false; // SQLite stores and reports whole numbers of such columns as integers
+};
+
+// False when SQLite runs out of memory.
+bool See(sqlite3* handle, ValueReader read, int column, bool isReal, Seen& seen)
+{
+    if (read(handle, column, &seen.value) != SQLITE_OK || !seen.value)
+        return false;
+    seen.type = sqlite3_value_type(seen.value);
+    seen.isReal = seen.type == SQLITE_FLOAT || (isReal && seen.type == SQLITE_INTEGER);
+    return true;
+}
 
 std::optional<std::string_view> Content(sqlite3_value* value, const void* data)
 {
@@ -28,57 +47,51 @@ std::optional<std::string_view> Content(sqlite3_value* value, const void* data)
     return std::string_view(static_cast<const char*>(data), data ? size : 0);
 }
 
-// False when SQLite runs out of memory.
-bool Code(std::string& bytes, sqlite3_value* value, bool isReal)
+std::optional<std::string_view> ContentAsStored(const Seen& seen)
 {
-    bytes.clear();
-    switch (sqlite3_value_type(value)) {
-    case SQLITE_INTEGER:
-        if (isReal) // SQLite stores and reports whole numbers as integers
-            ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
-        else
-            ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(value));
-        return true;
-    case SQLITE_FLOAT:
-        ChangeCoding::AppendReal(bytes, sqlite3_value_double(value));
-        return true;
-    case SQLITE_TEXT: {
-        const auto text = Content(value, sqlite3_value_text(value));
-        ChangeCoding::AppendText(bytes, text.value_or(std::string_view()));
-        return text.has_value();
-    }
-    case SQLITE_BLOB: {
-        const auto blob = Content(value, sqlite3_value_blob(value));
-        ChangeCoding::AppendBlob(bytes, blob.value_or(std::string_view()));
-        return blob.has_value();
-    }
-    default:
-        ChangeCoding::AppendNull(bytes);
-        return true;
-    }
+    return Content(seen.value, sqlite3_value_blob(seen.value));
 }
 
-// False when SQLite runs out of memory.
-bool ReadAll(
-    sqlite3* handle, ValueReader read, const std::vector<bool>& isReal, std::vector<std::string>& values)
+// Texts are compared as they are stored, in whatever encoding: the other functions would copy them.
+bool AreSame(const Seen& one, const Seen& other)
 {
-    values.resize(isReal.size());
-    for (size_t column = 0; column < values.size(); ++column) {
-        sqlite3_value* value = nullptr;
-        if (read(handle, int(column), &value) != SQLITE_OK || !value)
-            return false;
-        if (!Code(values[column], value, isReal[column]))
-            return false;
+    if (one.isReal && other.isReal)
+        return std::bit_cast<quint64>(sqlite3_value_double(one.value))
+            == std::bit_cast<quint64>(sqlite3_value_double(other.value));
+    if (one.type != other.type)
+        return false;
+    if (one.type == SQLITE_INTEGER)
+        return sqlite3_value_int64(one.value) == sqlite3_value_int64(other.value);
+    if (one.type == SQLITE_NULL)
+        return true;
+    const auto content = ContentAsStored(one);
+    return content && content == ContentAsStored(other);
+}
+
+// Appends the value. False when SQLite runs out of memory.
+bool Code(std::string& bytes, const Seen& seen)
+{
+    if (seen.isReal) {
+        ChangeCoding::AppendReal(bytes, sqlite3_value_double(seen.value));
+    } else if (seen.type == SQLITE_INTEGER) {
+        ChangeCoding::AppendInteger(bytes, sqlite3_value_int64(seen.value));
+    } else if (seen.type == SQLITE_TEXT) {
+        const auto text = Content(seen.value, sqlite3_value_text(seen.value));
+        ChangeCoding::AppendText(bytes, text.value_or(std::string_view()));
+        return text.has_value();
+    } else if (seen.type == SQLITE_BLOB) {
+        const auto blob = ContentAsStored(seen);
+        ChangeCoding::AppendBlob(bytes, blob.value_or(std::string_view()));
+        return blob.has_value();
+    } else {
+        ChangeCoding::AppendNull(bytes);
     }
     return true;
 }
 
-std::string Key(const ChangedTable& table, const std::vector<std::string>& values)
+bool IsKey(const ChangedTable& table, int column)
 {
-    std::string key;
-    for (const int column : table.keys)
-        key += values[size_t(column)];
-    return key;
+    return std::find(table.keys.begin(), table.keys.end(), column) != table.keys.end();
 }
 
 // SQLite's rule for deriving the type of a column from its declaration.
@@ -154,6 +167,7 @@ void ChangeWatch::ForgetRows()
         return;
     m_log.Clear();
     m_isReal.clear();
+    m_lastTable = NoTable;
 }
 
 Changeset ChangeWatch::ChangesSince(size_t place) const
@@ -168,12 +182,13 @@ void ChangeWatch::Note(int operation, const char* tableName) noexcept
 {
     try {
         const int table = TableNamed(tableName);
-        if (table == NoKey)
+        if (table == NoTable)
             return;
         if (operation == SQLITE_UPDATE)
-            NoteUpdate(table);
+            m_hasGaps |= !NoteUpdate(table);
         else
-            NoteWholeRow(table, operation == SQLITE_INSERT ? ChangeKind::Inserted : ChangeKind::Deleted);
+            m_hasGaps |= !NoteWholeRow(
+                table, operation == SQLITE_INSERT ? ChangeKind::Inserted : ChangeKind::Deleted);
     } catch (const std::exception&) {
         m_hasGaps = true;
     }
@@ -181,57 +196,84 @@ void ChangeWatch::Note(int operation, const char* tableName) noexcept
 
 int ChangeWatch::TableNamed(const char* name)
 {
-    const int count = sqlite3_preupdate_count(m_connection.Handle());
-    const int known = m_log.FindTable(name);
-    if (known >= 0 && int(m_log.Table(known).columns.size()) == count)
-        return m_log.Table(known).keys.empty() ? NoKey : known;
+    const auto count = size_t(sqlite3_preupdate_count(m_connection.Handle()));
+    const bool isLast = m_lastTable != NoTable && m_log.Table(m_lastTable).name == name;
+    const int known = isLast ? m_lastTable : m_log.FindTable(name);
+    const bool fits = known != NoTable && m_log.Table(known).columns.size() == count;
+    m_lastTable = fits ? known : AddTable(name);
+    return m_log.Table(m_lastTable).keys.empty() ? NoTable : m_lastTable;
+}
+
+int ChangeWatch::AddTable(const char* name)
+{
     const StatementWatch::Pause whole(m_connection.Watch());
     std::vector<bool> isReal;
     m_isReal.reserve(m_isReal.size() + 1); // both lists grow, or neither
     const int added = m_log.AddTable(ReadTable(m_connection, name, isReal));
     m_isReal.push_back(std::move(isReal));
-    return m_log.Table(added).keys.empty() ? NoKey : added;
+    return added;
 }
 
-void ChangeWatch::NoteWholeRow(int table, ChangeKind kind)
+bool ChangeWatch::IsReal(int table, int column) const
 {
-    const bool isNew = kind == ChangeKind::Inserted;
-    std::vector<std::string>& values = isNew ? m_after : m_before;
-    const ValueReader read = isNew ? sqlite3_preupdate_new : sqlite3_preupdate_old;
-    if (!ReadAll(m_connection.Handle(), read, m_isReal[size_t(table)], values)) {
-        m_hasGaps = true;
-        return;
+    return m_isReal[size_t(table)][size_t(column)];
+}
+
+// Codes the key, and starts the row.
+bool ChangeWatch::BeginRow(int table, ChangeKind kind, ValueReader read)
+{
+    m_key.clear();
+    for (const int column : m_log.Table(table).keys) {
+        Seen seen;
+        if (!See(m_connection.Handle(), read, column, IsReal(table, column), seen) || !Code(m_key, seen))
+            return false;
     }
-    NoteRow(table, kind);
+    m_log.BeginRow(table, kind, m_key);
+    return true;
 }
 
-void ChangeWatch::NoteUpdate(int table)
+bool ChangeWatch::NoteWholeRow(int table, ChangeKind kind)
 {
-    const ChangedTable& described = m_log.Table(table);
-    const std::vector<bool>& isReal = m_isReal[size_t(table)];
-    if (!ReadAll(m_connection.Handle(), sqlite3_preupdate_old, isReal, m_before)
-        || !ReadAll(m_connection.Handle(), sqlite3_preupdate_new, isReal, m_after)) {
-        m_hasGaps = true;
-        return;
-    }
-    if (Key(described, m_before) == Key(described, m_after))
-        return NoteRow(table, ChangeKind::Updated);
-    NoteRow(table, ChangeKind::Deleted); // with another key it is another row
-    NoteRow(table, ChangeKind::Inserted);
-}
-
-void ChangeWatch::NoteRow(int table, ChangeKind kind)
-{
-    const bool isNew = kind == ChangeKind::Inserted;
-    const auto& values = isNew ? m_after : m_before;
-    m_log.BeginRow(table, kind, Key(m_log.Table(table), values));
-    for (size_t column = 0; column < values.size(); ++column) {
-        if (kind != ChangeKind::Updated)
-            m_log.AddColumn(int(column), values[column], values[column]);
-        else if (m_before[column] != m_after[column])
-            m_log.AddColumn(int(column), m_before[column], m_after[column]);
+    const auto read = kind == ChangeKind::Inserted ? sqlite3_preupdate_new : sqlite3_preupdate_old;
+    if (!BeginRow(table, kind, read))
+        return false;
+    const auto count = int(m_log.Table(table).columns.size());
+    for (int column = 0; column < count; ++column) {
+        Seen seen;
+        m_value.clear();
+        if (!See(m_connection.Handle(), read, column, IsReal(table, column), seen) || !Code(m_value, seen))
+            return false;
+        m_log.AddColumn(column, m_value, m_value);
     }
     m_log.FinishRow();
+    return true;
+}
+
+// Most columns of most rows stay as they are: they are only compared.
+bool ChangeWatch::NoteUpdate(int table)
+{
+    sqlite3* const handle = m_connection.Handle();
+    if (!BeginRow(table, ChangeKind::Updated, sqlite3_preupdate_old))
+        return false;
+    const auto count = int(m_log.Table(table).columns.size());
+    for (int column = 0; column < count; ++column) {
+        Seen before;
+        Seen after;
+        if (!See(handle, sqlite3_preupdate_old, column, IsReal(table, column), before)
+            || !See(handle, sqlite3_preupdate_new, column, IsReal(table, column), after))
+            return false;
+        if (AreSame(before, after))
+            continue;
+        if (IsKey(m_log.Table(table), column)) // with another key it is another row
+            return NoteWholeRow(table, ChangeKind::Deleted) && NoteWholeRow(table, ChangeKind::Inserted);
+        m_value.clear();
+        m_after.clear();
+        if (!Code(m_value, before) || !Code(m_after, after))
+            return false;
+        m_log.AddColumn(column, m_value, m_after);
+    }
+    m_log.FinishRow();
+    return true;
 }
 
 } // namespace Orvane

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+struct sqlite3;
+struct sqlite3_value;
+
 namespace Orvane {
 
 class SqliteConnection;
@@ -35,18 +38,26 @@ public:
     Changeset ChangesSince(size_t place) const;
 
 private:
+    // Reads a value of the row before or after the change.
+    using ValueReader = int (*)(sqlite3*, int, sqlite3_value**);
+
     void ForgetRows();
     void Note(int operation, const char* table) noexcept;
     int TableNamed(const char* name);
-    void NoteWholeRow(int table, ChangeKind kind);
-    void NoteUpdate(int table);
-    void NoteRow(int table, ChangeKind kind);
+    int AddTable(const char* name);
+    bool IsReal(int table, int column) const;
+    // These return false when SQLite runs out of memory.
+    bool NoteWholeRow(int table, ChangeKind kind);
+    bool NoteUpdate(int table);
+    bool BeginRow(int table, ChangeKind kind, ValueReader read);
 
     SqliteConnection& m_connection;
     ChangeLog m_log;
     std::vector<std::vector<bool>> m_isReal; // for each table and column: true if it has the type REAL
-    std::vector<std::string> m_before; // the coded values of the row that is changed
-    std::vector<std::string> m_after;
+    int m_lastTable = -1; // most changes are to the same table as the one before
+    std::string m_key; // coded, as are the others
+    std::string m_value;
+    std::string m_after;
     int m_watchers = 0;
     bool m_hasGaps = false;
 };
