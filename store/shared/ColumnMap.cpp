@@ -42,18 +42,23 @@ void ColumnMap::Add(std::string_view name)
 int ColumnMap::Find(std::string_view name)
 {
     if (!m_spellings.empty()) {
-        const size_t guess = m_spellings[m_last].follower;
-        if (m_spellings[guess].name == name) {
-            m_last = guess;
-            return m_spellings[guess].position;
+        const Followers& guesses = m_spellings[m_last].followers;
+        for (const size_t guess : {guesses.latest, guesses.earlier}) {
+            if (m_spellings[guess].name == name)
+                return Follow(guess);
         }
     }
     const size_t found = FindSpelling(name);
-    if (found == m_spellings.size())
-        return -1;
-    m_spellings[m_last].follower = found;
-    m_last = found;
-    return m_spellings[found].position;
+    return found == m_spellings.size() ? -1 : Follow(found);
+}
+
+int ColumnMap::Follow(size_t spelling)
+{
+    Followers& followers = m_spellings[m_last].followers;
+    if (followers.latest != spelling)
+        followers = {spelling, followers.latest};
+    m_last = spelling;
+    return m_spellings[spelling].position;
 }
 
 size_t ColumnMap::FindSpelling(std::string_view name)
@@ -70,7 +75,7 @@ size_t ColumnMap::FindSpelling(std::string_view name)
         m_spellings.clear();
         m_last = 0;
     }
-    m_spellings.push_back({std::string(name), position, 0});
+    m_spellings.push_back({std::string(name), position, {}});
     return m_spellings.size() - 1;
 }
 

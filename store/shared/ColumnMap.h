@@ -9,8 +9,9 @@ namespace Orvane {
 
 /// Finds the columns of rows by name; names are compared case-insensitively.
 ///
-/// Rows are read in loops that use the same columns in the same order. Each name that was looked up stores
-/// the name that was looked up after it, so nearly every look-up is one short comparison.
+/// Rows are read in loops that use the same columns in the same order, or in two: rows are read and written.
+/// Each name that was looked up stores the two names that were looked up after it last, so nearly every
+/// look-up is one or two short comparisons.
 class ColumnMap
 {
 public:
@@ -32,12 +33,17 @@ private:
         std::string name;
         bool isColour = false;
     };
+    struct Followers {
+        size_t latest = 0;
+        size_t earlier = 0;
+    };
     struct Spelling {
         std::string name;
         int position = -1;
-        size_t follower = 0;
+        Followers followers;
     };
 
+    int Follow(size_t spelling);
     size_t FindSpelling(std::string_view name);
     int FindColumn(std::string_view name) const;
 

@@ -30,12 +30,12 @@ struct Seen {
 };
 
 // False when SQLite runs out of memory.
-bool See(sqlite3* handle, ValueReader read, int column, bool isReal, Seen& seen)
+bool See(sqlite3* handle, ValueReader read, int column, const std::vector<char>& isReal, Seen& seen)
 {
     if (read(handle, column, &seen.value) != SQLITE_OK || !seen.value)
         return false;
     seen.type = sqlite3_value_type(seen.value);
-    seen.isReal = seen.type == SQLITE_FLOAT || (isReal && seen.type == SQLITE_INTEGER);
+    seen.isReal = seen.type == SQLITE_FLOAT || (seen.type == SQLITE_INTEGER && isReal[size_t(column)]);
     return true;
 }
 
@@ -104,7 +104,7 @@ bool NamesReal(const QString& type)
     return has("REAL") || has("FLOA") || has("DOUB");
 }
 
-ChangedTable ReadTable(SqliteConnection& connection, const char* name, std::vector<bool>& isReal)
+ChangedTable ReadTable(SqliteConnection& connection, const char* name, std::vector<char>& isReal)
 {
     ChangedTable table{name, {}, {}};
     std::map<qint32, int> keys; // by their position in the primary key
@@ -207,25 +207,21 @@ int ChangeWatch::TableNamed(const char* name)
 int ChangeWatch::AddTable(const char* name)
 {
     const StatementWatch::Pause whole(m_connection.Watch());
-    std::vector<bool> isReal;
+    std::vector<char> isReal;
     m_isReal.reserve(m_isReal.size() + 1); // both lists grow, or neither
     const int added = m_log.AddTable(ReadTable(m_connection, name, isReal));
     m_isReal.push_back(std::move(isReal));
     return added;
 }
 
-bool ChangeWatch::IsReal(int table, int column) const
-{
-    return m_isReal[size_t(table)][size_t(column)];
-}
-
 // Codes the key, and starts the row.
 bool ChangeWatch::BeginRow(int table, ChangeKind kind, ValueReader read)
 {
+    const std::vector<char>& isReal = m_isReal[size_t(table)];
     m_key.clear();
     for (const int column : m_log.Table(table).keys) {
         Seen seen;
-        if (!See(m_connection.Handle(), read, column, IsReal(table, column), seen) || !Code(m_key, seen))
+        if (!See(m_connection.Handle(), read, column, isReal, seen) || !Code(m_key, seen))
             return false;
     }
     m_log.BeginRow(table, kind, m_key);
@@ -237,11 +233,11 @@ bool ChangeWatch::NoteWholeRow(int table, ChangeKind kind)
     const auto read = kind == ChangeKind::Inserted ? sqlite3_preupdate_new : sqlite3_preupdate_old;
     if (!BeginRow(table, kind, read))
         return false;
-    const auto count = int(m_log.Table(table).columns.size());
-    for (int column = 0; column < count; ++column) {
+    const std::vector<char>& isReal = m_isReal[size_t(table)];
+    for (int column = 0; column < int(isReal.size()); ++column) {
         Seen seen;
         m_value.clear();
-        if (!See(m_connection.Handle(), read, column, IsReal(table, column), seen) || !Code(m_value, seen))
+        if (!See(m_connection.Handle(), read, column, isReal, seen) || !Code(m_value, seen))
             return false;
         m_log.AddColumn(column, m_value, m_value);
     }
@@ -255,12 +251,12 @@ bool ChangeWatch::NoteUpdate(int table)
     sqlite3* const handle = m_connection.Handle();
     if (!BeginRow(table, ChangeKind::Updated, sqlite3_preupdate_old))
         return false;
-    const auto count = int(m_log.Table(table).columns.size());
-    for (int column = 0; column < count; ++column) {
+    const std::vector<char>& isReal = m_isReal[size_t(table)];
+    for (int column = 0; column < int(isReal.size()); ++column) {
         Seen before;
         Seen after;
-        if (!See(handle, sqlite3_preupdate_old, column, IsReal(table, column), before)
-            || !See(handle, sqlite3_preupdate_new, column, IsReal(table, column), after))
+        if (!See(handle, sqlite3_preupdate_old, column, isReal, before)
+            || !See(handle, sqlite3_preupdate_new, column, isReal, after))
             return false;
         if (AreSame(before, after))
             continue;

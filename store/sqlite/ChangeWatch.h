@@ -45,7 +45,6 @@ private:
     void Note(int operation, const char* table) noexcept;
     int TableNamed(const char* name);
     int AddTable(const char* name);
-    bool IsReal(int table, int column) const;
     // These return false when SQLite runs out of memory.
     bool NoteWholeRow(int table, ChangeKind kind);
     bool NoteUpdate(int table);
@@ -53,7 +52,7 @@ private:
 
     SqliteConnection& m_connection;
     ChangeLog m_log;
-    std::vector<std::vector<bool>> m_isReal; // for each table and column: true if it has the type REAL
+    std::vector<std::vector<char>> m_isReal; // for each table and column: 1 if it has the type REAL
     int m_lastTable = -1; // most changes are to the same table as the one before
     std::string m_key; // coded, as are the others
     std::string m_value;

@@ -164,11 +164,12 @@ int SqliteStatement::ColumnCount() const
 Value SqliteStatement::Column(int position) const
 {
     sqlite3_stmt* statement = m_statement.get();
-    switch (sqlite3_column_type(statement, position)) {
+    sqlite3_value* value = sqlite3_column_value(statement, position); // each look-up of a column takes time
+    switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
-        return IntegerValue(sqlite3_column_int64(statement, position), m_columns.IsColour(position));
+        return IntegerValue(sqlite3_value_int64(value), m_columns.IsColour(position));
     case SQLITE_FLOAT:
-        return sqlite3_column_double(statement, position);
+        return sqlite3_value_double(value);
     case SQLITE_NULL:
         return Value::Null();
     default: {
