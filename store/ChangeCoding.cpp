@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/ChangeCoding.h"
 
+#include <array>
 #include <cstring>
 
 namespace Orvane {
@@ -39,9 +40,12 @@ void AppendSized(std::string& bytes, char tag, std::string_view content)
 // Seven bits in each byte, the low ones first. The eighth bit is set if more bytes follow.
 void ChangeCoding::AppendCount(std::string& bytes, quint64 count)
 {
+    std::array<char, 10> coded; // 64 bits by seven
+    size_t size = 0;
     for (; count >= 0x80; count >>= 7)
-        bytes += char(count | 0x80);
-    bytes += char(count);
+        coded[size++] = char(count | 0x80);
+    coded[size++] = char(count);
+    bytes.append(coded.data(), size);
 }
 
 void ChangeCoding::AppendNull(std::string& bytes)
@@ -74,12 +78,14 @@ void ChangeCoding::AppendBlob(std::string& bytes, std::string_view blob)
 quint64 ChangeBytes::Count()
 {
     quint64 count = 0;
-    for (int shift = 0;; shift += 7) {
-        const auto byte = static_cast<unsigned char>(Take(1).front());
-        count |= quint64(byte & 0x7F) << shift;
-        if (byte < 0x80)
-            return count;
-    }
+    size_t size = 0;
+    unsigned char byte = 0;
+    do {
+        byte = static_cast<unsigned char>(m_rest[size]);
+        count |= quint64(byte & 0x7F) << (7 * size++);
+    } while (byte >= 0x80);
+    m_rest.remove_prefix(size);
+    return count;
 }
 
 std::string_view ChangeBytes::CodedValue()

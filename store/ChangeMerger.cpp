@@ -133,7 +133,7 @@ ChangeMerger::Changes ChangeMerger::Read(quint64 start)
     for (quint64 next = start; next < m_log.Size();) {
         const quint64 place = next;
         ChangeBytes bytes(m_log.Read(next, m_buffer));
-        ChangedRows::Read(bytes, m_tables, row);
+        ChangedRows::ReadHead(bytes, m_tables, row);
         changes.push_back({place, std::hash<std::string_view>()(row.key) ^ (row.table * HashStep)});
     }
     return changes;
@@ -163,9 +163,19 @@ Changeset ChangeMerger::Merged(Changes& changes)
     return maker.Finish();
 }
 
+bool ChangeMerger::IsAlone(Changes::const_iterator change, Changes::const_iterator end)
+{
+    const auto next = std::next(change);
+    return next == end || next->hash != change->hash;
+}
+
 // Adds the row that first changed there; or several, if their hashes are the same.
 void ChangeMerger::AddRow(ChangesetMaker& maker, Changes::const_iterator first, Changes::const_iterator end)
 {
+    if (IsAlone(first, end)) {
+        quint64 place = first->place;
+        return maker.Add(m_log.Read(place, m_buffer));
+    }
     std::deque<MergedRow> merged; // which are not moved
     ChangedRow row;
     for (auto change = first; change != end && change->hash == first->hash; ++change) {

@@ -37,6 +37,7 @@ private:
     Changes Read(quint64 start);
     Changeset AsTheyAre(quint64 start);
     Changeset Merged(Changes& changes);
+    static bool IsAlone(Changes::const_iterator change, Changes::const_iterator end);
     void AddRow(ChangesetMaker& maker, Changes::const_iterator first, Changes::const_iterator end);
 
     const SpooledBytes& m_log;

@@ -122,11 +122,16 @@ void ChangedRows::Append(std::string& bytes, const ChangedRow& row)
         AppendColumn(bytes, row.kind, column);
 }
 
-void ChangedRows::Read(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row)
+void ChangedRows::ReadHead(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row)
 {
     row.table = size_t(bytes.Count());
     row.kind = ChangeKind(bytes.Count());
     row.key = ReadKey(bytes, tables[row.table].keys.size());
+}
+
+void ChangedRows::Read(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row)
+{
+    ReadHead(bytes, tables, row);
     row.columns.resize(bytes.Count());
     for (ChangedRow::Column& column : row.columns) {
         column.position = int(bytes.Count());

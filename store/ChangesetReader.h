@@ -56,7 +56,9 @@ void Append(std::string& bytes, const ChangedRow& row);
 /// Appends the head of a row; columnCount columns must follow.
 void AppendHead(std::string& bytes, size_t table, ChangeKind kind, std::string_view key, size_t columnCount);
 void AppendColumn(std::string& bytes, ChangeKind kind, const ChangedRow::Column& column);
-/// Reads one row. tables: those that the row may belong to.
+/// Reads the table, kind and key of a row; its columns follow. tables: those that the row may belong to.
+void ReadHead(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row);
+/// Reads one whole row.
 void Read(ChangeBytes& bytes, const std::vector<ChangedTable>& tables, ChangedRow& row);
 
 } // namespace ChangedRows

@@ -105,6 +105,13 @@ std::vector<int> PositionsOf(const ChangedRow& row)
     return positions;
 }
 
+bool HasPositions(const ChangedRow& row, const std::vector<int>& positions)
+{
+    return std::equal(
+        positions.begin(), positions.end(), row.columns.begin(), row.columns.end(),
+        [](int position, const ChangedRow::Column& column) { return position == column.position; });
+}
+
 } // namespace
 
 RowChanger::Outcome RowChanger::Change(const ChangedTable& table, const ChangedRow& row)
@@ -116,16 +123,21 @@ RowChanger::Outcome RowChanger::Change(const ChangedTable& table, const ChangedR
 
 SqliteStatement& RowChanger::StatementFor(const ChangedTable& table, const ChangedRow& row)
 {
-    const std::vector<int> positions = PositionsOf(row);
-    const auto found = std::find_if(m_known.begin(), m_known.end(), [&](const Known& known) {
-        return known.table == row.table && known.kind == row.kind && known.positions == positions;
-    });
+    const auto fits = [&](const Known& known) {
+        return known.table == row.table && known.kind == row.kind && HasPositions(row, known.positions);
+    };
+    if (m_last < m_known.size() && fits(m_known[m_last]))
+        return *m_known[m_last].statement;
+    const auto found = std::find_if(m_known.begin(), m_known.end(), fits);
+    m_last = size_t(found - m_known.begin());
     if (found != m_known.end())
         return *found->statement;
+    auto statement = std::make_unique<SqliteStatement>(m_session.connection, StatementText(table, row));
     if (m_known.size() == MaxKnown)
         m_known.clear();
-    auto statement = std::make_unique<SqliteStatement>(m_session.connection, StatementText(table, row));
-    return *m_known.emplace_back(Known{row.table, row.kind, positions, std::move(statement)}).statement;
+    m_last = m_known.size();
+    m_known.push_back({row.table, row.kind, PositionsOf(row), std::move(statement)});
+    return *m_known.back().statement;
 }
 
 RowChanger::Outcome

@@ -42,6 +42,7 @@ private:
 
     SqliteSession& m_session;
     std::vector<Known> m_known;
+    size_t m_last = 0; // the one used last: rows that changed alike follow each other
 };
 
 } // namespace Orvane
