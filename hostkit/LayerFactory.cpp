@@ -17,6 +17,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <optional>
 #include <unordered_set>
 #include <utility>
@@ -24,6 +25,9 @@
 namespace Orvane {
 
 namespace {
+
+constexpr int FewNames = 8; // at first; nearly always the first ones are free
+constexpr int ManyNames = 512; // in one query at most
 
 bool HasRow(ILayerDatabase& database, const QString& query)
 {
@@ -54,6 +58,26 @@ NamesOfAny(ILayerStore& database, const QString& query, const std::unordered_set
             names << ToTextOrNone(rows->Field("Name"));
     }
     return names;
+}
+
+// Those of the names that layers have, and perhaps others that the store counts as equal.
+QSet<QString> TakenOf(ILayerStore& database, const QStringList& names)
+{
+    QStringList parameters;
+    std::vector<Value> values;
+    values.reserve(size_t(names.size()));
+    for (const QString& name : names) {
+        values.emplace_back(name);
+        parameters << u'?' + QString::number(values.size());
+    }
+    QSet<QString> taken;
+    const auto layers = database.OpenQuery(
+        QStringLiteral("SELECT Name FROM Layers WHERE Name IN (%1)")
+            .arg(parameters.join(QLatin1String(", "))),
+        values);
+    for (; !layers->AtEOF(); layers->MoveNext())
+        taken.insert(ToTextOrNone(layers->Field("Name")));
+    return taken;
 }
 
 void DeleteRows(ILayerStore& database, const std::vector<qint32>& layerIDs)
@@ -89,7 +113,7 @@ void LayerFactory::Delete(qint32 layerID)
 LayerDeletion LayerFactory::WhatGoes(qint32 layerID)
 {
     LayerDeletion deletion;
-    deletion.layer = m_names.Name(layerID);
+    deletion.layer = m_names.NameOfOne(layerID);
     deletion.groups = NamesOf(
         m_database,
         QStringLiteral("SELECT Name FROM LayerGroups JOIN LayerGroupMembers ON GroupID = ID"
@@ -165,14 +189,26 @@ bool LayerFactory::IsCodeAssigned(qint16 code)
     return HasRow(m_database, QStringLiteral("SELECT LayerID FROM Layers WHERE Code = %1 LIMIT 1").arg(code));
 }
 
+// Names are looked up in blocks, so that many new layers take few queries and the names of others none.
 QString LayerFactory::UnusedName()
 {
-    const QSet<QString> taken = m_names.All();
+    int next = 1;
+    for (int count = FewNames;; count = std::min(2 * count, ManyNames)) {
+        QStringList names;
+        for (const int end = next + count; next < end; ++next)
+            names << NewName(next);
+        const QSet<QString> taken = TakenOf(m_database, names);
+        for (const QString& name : names) {
+            if (!taken.contains(name))
+                return name;
+        }
+    }
+}
+
+QString LayerFactory::NewName(int number)
+{
     const QString first = tr("New layer");
-    QString name = first;
-    for (int number = 2; taken.contains(name); ++number)
-        name = tr("%1 %2", "a new layer's name and its number").arg(first).arg(number);
-    return name;
+    return number == 1 ? first : tr("%1 %2", "a new layer's name and its number").arg(first).arg(number);
 }
 
 void LayerFactory::Insert(qint32 layerID, const QString& name)

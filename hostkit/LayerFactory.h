@@ -51,6 +51,7 @@ public:
 
 private:
     QString UnusedName();
+    static QString NewName(int number);
     void Insert(qint32 layerID, const QString& name);
 
     ILayerStore& m_database;

@@ -197,7 +197,7 @@ qint32 StandardClient::IStyleEditorClient_CreateLayer()
     qint32 layerID = 0;
     RecordStep([&] {
         layerID = m_parts->factory.Create();
-        return tr("Create \"%1\"").arg(NameInStep(m_parts->names.Name(layerID)));
+        return tr("Create \"%1\"").arg(NameInStep(m_parts->names.NameOfOne(layerID)));
     });
     emit m_parts->notifications.LayerCreated(layerID);
     return layerID;

@@ -27,6 +27,11 @@ QString LayerNames::Name(qint32 layerID)
     return known != m_names.constEnd() ? *known : ReadOne(layerID);
 }
 
+QString LayerNames::NameOfOne(qint32 layerID)
+{
+    return m_loaded ? Name(layerID) : ReadOne(layerID);
+}
+
 QSet<QString> LayerNames::All()
 {
     Load();
@@ -92,7 +97,10 @@ QString LayerNames::ReadOne(qint32 layerID)
         = m_database.OpenRecordset(QStringLiteral("SELECT Name FROM Layers WHERE LayerID = %1").arg(layerID));
     if (layer->AtEOF())
         return {};
-    return *m_names.insert(layerID, NameIn(*layer));
+    const QString name = NameIn(*layer);
+    if (m_loaded)
+        m_names.insert(layerID, name);
+    return name;
 }
 
 } // namespace Orvane

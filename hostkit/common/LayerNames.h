@@ -21,6 +21,9 @@ public:
     /// object is read when its name is first requested.
     QString Name(qint32 layerID);
 
+    /// The same for a single layer: no other names are read.
+    QString NameOfOne(qint32 layerID);
+
     /// The names of all layers, each once.
     QSet<QString> All();
 

@@ -122,7 +122,7 @@ QString LayerSteps::EditText(const Changeset& changes)
     const LayerChanges edited = LayerChanges::Of(changes);
     if (edited.changed.size() != 1)
         return tr("Change %1 Layers").arg(QLocale().toString(edited.changed.size()));
-    const QString name = NameInStep(m_names.Name(*edited.changed.begin()));
+    const QString name = NameInStep(m_names.NameOfOne(*edited.changed.begin()));
     return edited.onlyCodes ? tr("Change Code of \"%1\"").arg(name) : tr("Change \"%1\"").arg(name);
 }
 

@@ -67,6 +67,32 @@ TEST_F(Factory, NewLayersHaveNamesOfTheirOwn)
     EXPECT_EQ(m_names.Name(m_factory.Create()), QStringLiteral("New layer 3"));
 }
 
+TEST_F(Factory, NewLayersAreCountedOnHoweverManyThereAre)
+{
+    AddLayer(1, QStringLiteral("New layer"), 0);
+    for (qint32 number = 2; number <= 60; ++number)
+        AddLayer(number, QStringLiteral("New layer %1").arg(number), number);
+    EXPECT_THAT(Get(m_factory.Create(), "Name"), IsValue(QStringLiteral("New layer 61")));
+    Database().Execute(QStringLiteral("DELETE FROM Layers WHERE LayerID = 37"));
+    EXPECT_THAT(Get(m_factory.Create(), "Name"), IsValue(QStringLiteral("New layer 37")));
+}
+
+TEST_F(Factory, ANameInAnotherSpellingIsNotTaken)
+{
+    AddLayer(1, QStringLiteral("NEW LAYER"), 0);
+    EXPECT_THAT(Get(m_factory.Create(), "Name"), IsValue(QStringLiteral("New layer")));
+}
+
+TEST_F(Factory, ForANewLayerTheNamesOfOthersAreNotRead)
+{
+    AddLayer(1, QStringLiteral("Roads"), 0);
+    const QStringList statements = StatementsOf([&] { m_factory.Create(); });
+    for (const QString& statement : statements)
+        EXPECT_FALSE(statement.contains(QLatin1String("LayerID, Name FROM Layers")))
+            << statement.toStdString();
+    EXPECT_FALSE(statements.isEmpty());
+}
+
 TEST_F(Factory, ANameThatBecameFreeIsUsedAgain)
 {
     const qint32 first = m_factory.Create();

@@ -22,6 +22,18 @@ TEST_F(Names, OfAllLayersAreReadByOneQuery)
     EXPECT_EQ(statements.size(), 1);
 }
 
+TEST_F(Names, OfOneLayerAreReadWithoutThoseOfOthers)
+{
+    AddLayers(3);
+    const QStringList statements
+        = StatementsOf([&] { EXPECT_EQ(m_names.NameOfOne(2), QStringLiteral("Layer 2")); });
+    ASSERT_EQ(statements.size(), 1);
+    EXPECT_TRUE(statements.first().contains(QLatin1String("WHERE LayerID = 2")));
+    Set(2, "Name", QStringLiteral("Roads"));
+    EXPECT_EQ(m_names.NameOfOne(2), QStringLiteral("Roads")); // nothing is kept that nobody keeps up to date
+    EXPECT_TRUE(m_names.NameOfOne(9).isEmpty());
+}
+
 TEST_F(Names, AreNotReadBeforeTheFirstQuestion)
 {
     AddLayers(1);
