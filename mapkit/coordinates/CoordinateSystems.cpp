@@ -74,8 +74,12 @@ QString SystemText(const OGRSpatialReference* system)
     return result;
 }
 
-std::unique_ptr<OGRCoordinateTransformation>
-TransformationTo(const QString& mapSystem, const OGRSpatialReference* source)
+void TransformationKeeper::operator()(OGRCoordinateTransformation* transformation) const
+{
+    OGRCoordinateTransformation::DestroyCT(transformation);
+}
+
+KeptTransformation TransformationTo(const QString& mapSystem, const OGRSpatialReference* source)
 {
     const OGRSpatialReference target = ReferenceOf(mapSystem);
     if (!source || source->IsEmpty() || target.IsEmpty())
@@ -85,7 +89,7 @@ TransformationTo(const QString& mapSystem, const OGRSpatialReference* source)
     if (own.IsSame(&target))
         return nullptr;
     const GdalErrors quiet;
-    return std::unique_ptr<OGRCoordinateTransformation>(OGRCreateCoordinateTransformation(&own, &target));
+    return KeptTransformation(OGRCreateCoordinateTransformation(&own, &target));
 }
 
 } // namespace Orvane

@@ -37,9 +37,17 @@ QString SystemToShow(const std::vector<PlacedExtent>& data);
 /// The text for a system that a data source names; empty for none, and for a local one of unknown place.
 QString SystemText(const OGRSpatialReference* system);
 
+/// Gives a transformation back to GDAL, which keeps the last ones: making one takes as long as transforming
+/// thousands of vertices.
+struct TransformationKeeper {
+    void operator()(OGRCoordinateTransformation* transformation) const;
+};
+
+/// A transformation of coordinates, or none. For one thread at a time.
+using KeptTransformation = std::unique_ptr<OGRCoordinateTransformation, TransformationKeeper>;
+
 /// Transforms coordinates from a source's system to the map's. nullptr if no transformation is needed,
 /// because the systems are equal or one of them is unknown (nullptr or empty).
-std::unique_ptr<OGRCoordinateTransformation>
-TransformationTo(const QString& mapSystem, const OGRSpatialReference* source);
+KeptTransformation TransformationTo(const QString& mapSystem, const OGRSpatialReference* source);
 
 } // namespace Orvane

@@ -24,7 +24,7 @@ bool IsGeographic(const QString& system)
     return !known.IsEmpty() && known.IsGeographic();
 }
 
-std::unique_ptr<OGRCoordinateTransformation> ToDegrees(const QString& system)
+KeptTransformation ToDegrees(const QString& system)
 {
     const OGRSpatialReference known = ReferenceOf(system);
     if (known.IsEmpty())

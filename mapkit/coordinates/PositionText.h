@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mapkit/coordinates/CoordinateSystems.h"
+
 #include <QPointF>
 #include <QString>
 
-#include <memory>
 #include <optional>
-
-class OGRCoordinateTransformation;
 
 namespace Orvane {
 
@@ -31,8 +30,8 @@ public:
 private:
     bool IsOnEarth(QPointF map, double longitude, double latitude) const;
 
-    std::unique_ptr<OGRCoordinateTransformation> m_toDegrees;
-    std::unique_ptr<OGRCoordinateTransformation> m_fromDegrees;
+    KeptTransformation m_toDegrees;
+    KeptTransformation m_fromDegrees;
     bool m_inDegrees;
 };
 

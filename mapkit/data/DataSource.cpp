@@ -6,9 +6,11 @@
 #include "mapkit/common/Progress.h"
 #include "mapkit/coordinates/CoordinateSystems.h"
 #include "mapkit/coordinates/SystemReference.h"
+#include "mapkit/data/FeatureWatch.h"
 #include "mapkit/data/GeometryKinds.h"
 #include "mapkit/data/GeometryReader.h"
 #include "mapkit/data/LayerDescription.h"
+#include "mapkit/data/LeftOutParts.h"
 #include "mapkit/data/ReadingFailure.h"
 #include "mapkit/files/GdalSetup.h"
 #include "mapkit/files/OpenedData.h"
@@ -22,7 +24,6 @@
 #include <cmath>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
-#include <utility>
 
 namespace Orvane {
 
@@ -58,23 +59,6 @@ Box ExtentOf(const OGRGeometry& geometry, const GeometryChoice& choice)
     });
     return extent;
 }
-
-// Reads attributes without geometries, which is several times as fast if the driver supports it.
-class WithoutGeometry
-{
-public:
-    explicit WithoutGeometry(OGRLayer& layer) : m_layer(layer)
-    {
-        const char* ignored[] = {"OGR_GEOMETRY", nullptr};
-        m_layer.SetIgnoredFields(ignored);
-    }
-    ~WithoutGeometry() { m_layer.SetIgnoredFields(nullptr); }
-    WithoutGeometry(const WithoutGeometry&) = delete;
-    WithoutGeometry& operator=(const WithoutGeometry&) = delete;
-
-private:
-    OGRLayer& m_layer;
-};
 
 bool IsNumber(const OGRFieldDefn& field)
 {
@@ -223,32 +207,23 @@ FeatureSet DataSource::Read(
     const GeometryChoice& choice, const QString& chosenSystem) const
 {
     const GdalErrors errors;
-    ReadingBound bound(ReadingBound::LongestWait);
+    FeatureSet features;
+    FeatureWatch watch(m_path, features, progress);
     OGRLayer& layer = FilteredLayer(layerName, filter, errors);
     RowGeometry rows(*layer.GetLayerDefn(), choice.columns);
     if (rows.IsLacking())
         Fail(QCoreApplication::translate("DataSource", "it lacks a column with coordinates"));
-    FeatureSet features;
     const OGRSpatialReference own = ReferenceOf(chosenSystem, layer.GetSpatialRef());
     features.SetSourceSystem(own.IsEmpty() ? QString() : SystemText(&own));
     GeometryReader reader(features, TransformationTo(mapSystem, &own), RulesFor(own, mapSystem, choice));
-    const double expected = double(std::max<GIntBig>(1, layer.GetFeatureCount(FALSE)));
-    const double mostBytes = MemoryBound::MostBytes();
-    GIntBig count = 0;
-    size_t gained = 0;
+    watch.Expect(layer.GetFeatureCount(FALSE));
+    const bool isGeometryAll = filter.isEmpty() && choice.columns.IsEmpty();
+    const LeftOutParts sparing(
+        layer, isGeometryAll ? LeftOutParts::AttributesOf(m_data->FormatOf(layer)) : LeftOutParts::Nothing);
     while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
         if (const OGRGeometry* geometry = rows.Of(*feature))
             reader.Add(*geometry, feature->GetFID());
-        if (++count % FeaturesBetweenReports == 0) {
-            progress.StopIfCancelled();
-            if (features.Bytes() > mostBytes)
-                FailTooLarge();
-            if (std::exchange(gained, features.Features().size()) != features.Features().size())
-                bound.Renew();
-            if (bound.IsOver())
-                Fail({});
-            progress.Report(std::min(1.0, double(count) / expected));
-        }
+        watch.Count();
     }
     RequireReadingInTime(m_path);
     if (!errors.First().isEmpty())
@@ -324,7 +299,7 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
     if (index < 0)
         Fail(QCoreApplication::translate("DataSource", "it has no attribute named %1").arg(field));
     const bool isNumber = IsNumber(*layer.GetLayerDefn()->GetFieldDefn(index));
-    const WithoutGeometry sparing(layer);
+    const LeftOutParts sparing(layer, LeftOutParts::Geometry);
     std::unordered_map<qint64, FieldValue> values;
     const double mostBytes = MemoryBound::MostBytes();
     double bytes = 0;
@@ -340,7 +315,7 @@ std::unordered_map<qint64, FieldValue> DataSource::ReadField(
         if (++count % FeaturesBetweenReports == 0) {
             progress.StopIfCancelled();
             if (bytes > mostBytes)
-                FailTooLarge();
+                FailTooLarge(m_path);
             if (bound.IsOver())
                 Fail({});
         }
@@ -365,11 +340,6 @@ std::vector<FeatureAttribute> DataSource::Attributes(const QString& layerName, q
     }
     RequireReadingInTime(m_path);
     return attributes;
-}
-
-void DataSource::FailTooLarge() const
-{
-    Fail(QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
 }
 
 void DataSource::Fail(const QString& reason) const

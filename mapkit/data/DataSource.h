@@ -139,7 +139,6 @@ public:
 
 private:
     OGRLayer& FilteredLayer(const QString& name, const QString& filter, const GdalErrors& errors) const;
-    [[noreturn]] void FailTooLarge() const;
     [[noreturn]] void Fail(const QString& reason) const;
 
     QString m_path;

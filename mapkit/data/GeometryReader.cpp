@@ -3,6 +3,7 @@
 
 #include "mapkit/common/GdalErrors.h"
 #include "mapkit/coordinates/Antimeridian.h"
+#include "mapkit/geopackage/BlobGeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,6 +24,19 @@ double Within(double value, double middle, double most, double widest)
     return isOne ? std::clamp(value, middle - most, middle + most) : value;
 }
 
+FeatureKind KindOfShape(ShapeKind kind)
+{
+    switch (kind) {
+    case ShapeKind::Point:
+        return FeatureKind::Point;
+    case ShapeKind::Line:
+        return FeatureKind::Line;
+    case ShapeKind::Area:
+        break;
+    }
+    return FeatureKind::Area;
+}
+
 } // namespace
 
 GeometryRules RulesFor(const OGRSpatialReference& own, const QString& mapSystem, const GeometryChoice& choice)
@@ -31,7 +45,7 @@ GeometryRules RulesFor(const OGRSpatialReference& own, const QString& mapSystem,
 }
 
 GeometryReader::GeometryReader(
-    FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation,
+    FeatureSet& features, std::shared_ptr<OGRCoordinateTransformation> transformation,
     const GeometryRules& rules)
     : m_features(features), m_transformation(std::move(transformation)), m_rules(rules)
 {
@@ -51,6 +65,33 @@ void GeometryReader::Add(const OGRGeometry& geometry, qint64 featureID)
         AddLinear(*linear);
 }
 
+void GeometryReader::Add(const BlobGeometry& geometry, qint64 featureID)
+{
+    m_featureID = featureID;
+    for (const BlobGeometry::Shape& shape : geometry.Shapes()) {
+        const FeatureKind kind = KindOfShape(shape.kind);
+        if (!BeginFeature(kind))
+            continue;
+        for (size_t part = shape.firstPart; part < shape.endPart; ++part)
+            AddPart(geometry, part, kind);
+    }
+}
+
+void GeometryReader::AddPart(const BlobGeometry& geometry, size_t part, FeatureKind kind)
+{
+    const std::span<const double> x = geometry.X(part);
+    const std::span<const double> y = geometry.Y(part);
+    if (x.empty())
+        return;
+    if (kind == FeatureKind::Point) {
+        AddPoint(x.front(), y.front());
+        return;
+    }
+    m_x.assign(x.begin(), x.end());
+    m_y.assign(y.begin(), y.end());
+    AddVertices(kind);
+}
+
 bool GeometryReader::BeginFeature(FeatureKind kind)
 {
     const bool isTaken = m_rules.choice.Takes(kind);
@@ -64,7 +105,7 @@ void GeometryReader::AddLinear(const OGRGeometry& geometry)
     switch (wkbFlatten(geometry.getGeometryType())) {
     case wkbPoint:
         if (BeginFeature(FeatureKind::Point) && !geometry.IsEmpty())
-            AddPoint(*geometry.toPoint());
+            AddPoint(geometry.toPoint()->getX(), geometry.toPoint()->getY());
         return;
     case wkbLineString:
         if (BeginFeature(FeatureKind::Line))
@@ -94,11 +135,10 @@ void GeometryReader::AddLinear(const OGRGeometry& geometry)
     }
 }
 
-void GeometryReader::AddPoint(const OGRPoint& point)
+void GeometryReader::AddPoint(double x, double y)
 {
-    const double x = point.getX();
     m_x.assign(1, m_rules.edges ? Antimeridian::Longitude(x) : x);
-    m_y.assign(1, point.getY());
+    m_y.assign(1, y);
     AddCoordinates();
 }
 
@@ -116,6 +156,11 @@ void GeometryReader::AddCurve(const OGRSimpleCurve& curve, FeatureKind kind)
     if (count == 0)
         return;
     curve.getPoints(m_x.data(), sizeof(double), m_y.data(), sizeof(double));
+    AddVertices(kind);
+}
+
+void GeometryReader::AddVertices(FeatureKind kind)
+{
     if (!m_rules.edges)
         AddCoordinates();
     else if (!MayPassMeridian() || !AddCut(kind))

@@ -11,12 +11,13 @@
 
 class OGRCoordinateTransformation;
 class OGRGeometry;
-class OGRPoint;
 class OGRPolygon;
 class OGRSimpleCurve;
 class OGRSpatialReference;
 
 namespace Orvane {
+
+class BlobGeometry;
 
 /// What is done with geometries besides the transformation.
 struct GeometryRules {
@@ -37,26 +38,30 @@ class GeometryReader
 public:
     /// features: filled, not owned. transformation: nullptr leaves coordinates as they are.
     GeometryReader(
-        FeatureSet& features, std::unique_ptr<OGRCoordinateTransformation> transformation,
+        FeatureSet& features, std::shared_ptr<OGRCoordinateTransformation> transformation,
         const GeometryRules& rules = {});
     ~GeometryReader();
 
     /// Adds one feature, or several for a collection. featureID: the source's ID, for all of them.
     void Add(const OGRGeometry& geometry, qint64 featureID = NoFeatureID);
+    /// The same for a geometry that was read past GDAL.
+    void Add(const BlobGeometry& geometry, qint64 featureID);
 
 private:
     bool BeginFeature(FeatureKind kind);
     void AddLinear(const OGRGeometry& geometry);
-    void AddPoint(const OGRPoint& point);
+    void AddPart(const BlobGeometry& geometry, size_t part, FeatureKind kind);
+    void AddPoint(double x, double y);
     void AddRings(const OGRPolygon& polygon);
     void AddCurve(const OGRSimpleCurve& curve, FeatureKind kind);
+    void AddVertices(FeatureKind kind);
     bool MayPassMeridian() const;
     bool AddCut(FeatureKind kind);
     void AddWithinEdges();
     void AddCoordinates();
 
     FeatureSet& m_features;
-    std::unique_ptr<OGRCoordinateTransformation> m_transformation;
+    std::shared_ptr<OGRCoordinateTransformation> m_transformation;
     GeometryRules m_rules;
     qint64 m_featureID = NoFeatureID; // of the feature being read
     std::vector<double> m_x, m_y; // the part being read

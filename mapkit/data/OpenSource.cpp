@@ -2,6 +2,10 @@
 #include "mapkit/data/OpenSource.h"
 
 #include "mapkit/data/DataSource.h"
+#include "mapkit/data/PackageReader.h"
+#include "mapkit/data/SourceReader.h"
+
+#include <utility>
 
 namespace Orvane {
 
@@ -17,6 +21,21 @@ const DataSource& OpenSource::At(const QString& path)
         m_path = path;
     }
     return *m_source;
+}
+
+PackageReader& OpenSource::PackageAt(const QString& path)
+{
+    if (!m_package || path != m_package->Path())
+        m_package = std::make_unique<PackageReader>(path);
+    return *m_package;
+}
+
+FeatureSet OpenSource::Read(const LayerSource& source, const QString& mapSystem, Progress& progress)
+{
+    if (auto features = PackageAt(source.path).Read(source, mapSystem, progress))
+        return std::move(*features);
+    return At(source.path)
+        .Read(source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
 }
 
 } // namespace Orvane

@@ -35,6 +35,12 @@ void FailReading(const QString& path, const QString& reason)
     throw RunTimeError(SourceUnreadable, why.isEmpty() ? unknown.arg(name) : known.arg(name, why));
 }
 
+void FailTooLarge(const QString& path)
+{
+    FailReading(
+        path, QCoreApplication::translate("DataSource", "it is too large for this computer's memory"));
+}
+
 void RequireReadingInTime(const QString& path)
 {
     if (ReadingBound::IsOverHere())

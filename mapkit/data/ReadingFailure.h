@@ -23,6 +23,9 @@ QString WhyReadingFailed(const QString& reason);
 /// reason: GDAL's message; may be empty.
 [[noreturn]] void FailReading(const QString& path, const QString& reason);
 
+/// Raises as FailReading does, for data that need too much memory.
+[[noreturn]] void FailTooLarge(const QString& path);
+
 /// Raises as FailReading does if a ReadingBound of this thread is over: what GDAL gave back is not all.
 void RequireReadingInTime(const QString& path);
 

@@ -2,7 +2,6 @@
 #include "mapkit/data/SourceReader.h"
 
 #include "mapkit/common/Progress.h"
-#include "mapkit/data/DataSource.h"
 #include "mapkit/data/MapRaster.h"
 #include "mapkit/data/OpenSource.h"
 #include "mapkit/data/ServerTables.h"
@@ -30,10 +29,8 @@ void ReadSource(
         contents.rasters[source.layerID] = std::make_shared<const MapRaster>(source, mapSystem);
         return;
     }
-    auto features = IsServerTable(source.path)
-        ? TablesOf(source).Read(source, mapSystem, progress)
-        : open.At(source.path)
-              .Read(source.ogrLayer, source.filter, mapSystem, progress, source.choice, source.system);
+    auto features = IsServerTable(source.path) ? TablesOf(source).Read(source, mapSystem, progress)
+                                               : open.Read(source, mapSystem, progress);
     contents.features[source.layerID] = std::make_shared<const FeatureSet>(std::move(features));
 }
 
