@@ -3,8 +3,8 @@
 
 #include <QtEndian>
 
-#include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <optional>
 
@@ -78,10 +78,17 @@ private:
         return true;
     }
 
-    template <typename Number> Number NumberAt(size_t place, bool isLittleEndian) const
+    quint32 NumberAt(size_t place, bool isLittleEndian) const
     {
         const uint8_t* bytes = m_bytes.data() + place;
-        return isLittleEndian ? qFromLittleEndian<Number>(bytes) : qFromBigEndian<Number>(bytes);
+        return isLittleEndian ? qFromLittleEndian<quint32>(bytes) : qFromBigEndian<quint32>(bytes);
+    }
+
+    double CoordinateAt(size_t place, bool isLittleEndian) const
+    {
+        const uint8_t* bytes = m_bytes.data() + place;
+        return std::bit_cast<double>(
+            isLittleEndian ? qFromLittleEndian<quint64>(bytes) : qFromBigEndian<quint64>(bytes));
     }
 
     std::optional<WkbHeader> ReadHeader()
@@ -90,7 +97,7 @@ private:
             return std::nullopt;
         WkbHeader header;
         header.isLittleEndian = m_bytes[0] == 1;
-        const auto type = NumberAt<quint32>(1, header.isLittleEndian);
+        const auto type = NumberAt(1, header.isLittleEndian);
         header.type = type % TypesPerDimension;
         header.dimension = type / TypesPerDimension;
         if (header.dimension >= ValuesOfVertex.size())
@@ -104,7 +111,7 @@ private:
     {
         if (m_bytes.size() < sizeof(quint32))
             return std::nullopt;
-        const auto count = NumberAt<quint32>(0, header.isLittleEndian);
+        const auto count = NumberAt(0, header.isLittleEndian);
         m_bytes = m_bytes.subspan(sizeof(quint32));
         return m_bytes.size() / smallest >= count ? std::optional(count) : std::nullopt;
     }
@@ -164,8 +171,8 @@ private:
         const size_t size = ValuesOfVertex[header.dimension] * sizeof(double);
         if (m_bytes.size() < size)
             return false;
-        const auto x = NumberAt<double>(0, header.isLittleEndian);
-        const auto y = NumberAt<double>(sizeof(double), header.isLittleEndian);
+        const auto x = CoordinateAt(0, header.isLittleEndian);
+        const auto y = CoordinateAt(sizeof(double), header.isLittleEndian);
         m_bytes = m_bytes.subspan(size);
         return ReadShape(ShapeKind::Point, [&] {
             if (std::isnan(x) && std::isnan(y))
@@ -197,8 +204,8 @@ private:
         m_target.m_x.resize(first + *count);
         m_target.m_y.resize(first + *count);
         for (size_t i = 0; i < *count; ++i) {
-            m_target.m_x[first + i] = NumberAt<double>(i * size, header.isLittleEndian);
-            m_target.m_y[first + i] = NumberAt<double>(i * size + sizeof(double), header.isLittleEndian);
+            m_target.m_x[first + i] = CoordinateAt(i * size, header.isLittleEndian);
+            m_target.m_y[first + i] = CoordinateAt(i * size + sizeof(double), header.isLittleEndian);
         }
         m_target.m_partEnds.push_back(m_target.m_x.size());
         m_bytes = m_bytes.subspan(*count * size);

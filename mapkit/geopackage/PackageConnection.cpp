@@ -17,6 +17,7 @@ constexpr auto Switches = {
 
 // Far above what a statement here needs, far below what a crafted schema could use.
 constexpr auto Limits = {
+    std::pair(SQLITE_LIMIT_LENGTH, 100'000'000), // bytes of a value
     std::pair(SQLITE_LIMIT_SQL_LENGTH, 1'000'000), // bytes
     std::pair(SQLITE_LIMIT_EXPR_DEPTH, 200),       std::pair(SQLITE_LIMIT_COMPOUND_SELECT, 50),
     std::pair(SQLITE_LIMIT_VDBE_OP, 250'000),      std::pair(SQLITE_LIMIT_ATTACHED, 0),

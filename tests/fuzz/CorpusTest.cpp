@@ -52,10 +52,11 @@ TEST_P(Corpus, IsReadWithoutAFault)
 INSTANTIATE_TEST_SUITE_P(
     All, Corpus,
     testing::Values(
-        Fuzzed{"copied_settings", FuzzCopiedSettings}, Fuzzed{"map_file", FuzzMapFile},
-        Fuzzed{"messages", FuzzMessages}, Fuzzed{"node_key", FuzzNodeKey}, Fuzzed{"scheme", FuzzScheme},
-        Fuzzed{"shown_only", FuzzShownOnly}, Fuzzed{"style_string", FuzzStyleString},
-        Fuzzed{"values", FuzzValues}, Fuzzed{"view_state", FuzzViewState}),
+        Fuzzed{"copied_settings", FuzzCopiedSettings}, Fuzzed{"geometry_blob", FuzzGeometryBlob},
+        Fuzzed{"map_file", FuzzMapFile}, Fuzzed{"messages", FuzzMessages}, Fuzzed{"node_key", FuzzNodeKey},
+        Fuzzed{"scheme", FuzzScheme}, Fuzzed{"shown_only", FuzzShownOnly},
+        Fuzzed{"style_string", FuzzStyleString}, Fuzzed{"values", FuzzValues},
+        Fuzzed{"view_state", FuzzViewState}),
     [](const testing::TestParamInfo<Fuzzed>& info) { return std::string(info.param.corpus); });
 
 #ifdef ORVANE_FUZZES_SERVERS

@@ -11,6 +11,7 @@ namespace Orvane::Testing {
 
 int FuzzArrayText(const uint8_t* data, size_t size); ///< texts that a server gets in one parameter, by lines
 int FuzzCopiedSettings(const uint8_t* data, size_t size); ///< settings on the clipboard
+int FuzzGeometryBlob(const uint8_t* data, size_t size); ///< a geometry in a GeoPackage
 int FuzzMapFile(const uint8_t* data, size_t size); ///< a map file, opened for reading
 int FuzzMessages(const uint8_t* data, size_t size); ///< a message file
 int FuzzNodeKey(const uint8_t* data, size_t size); ///< the key of a node and, after a tab, of its image

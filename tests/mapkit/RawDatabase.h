@@ -20,6 +20,9 @@ public:
     RawDatabase(const RawDatabase&) = delete;
     RawDatabase& operator=(const RawDatabase&) = delete;
 
+    /// Triggers may need functions that only the program of the file has.
+    void LeaveTriggersOut() { sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr); }
+
     void Run(const char* sql)
     {
         EXPECT_EQ(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr), SQLITE_OK)
