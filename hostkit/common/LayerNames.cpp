@@ -97,7 +97,7 @@ QString LayerNames::ReadOne(qint32 layerID)
         = m_database.OpenRecordset(QStringLiteral("SELECT Name FROM Layers WHERE LayerID = %1").arg(layerID));
     if (layer->AtEOF())
         return {};
-    const QString name = NameIn(*layer);
+    QString name = NameIn(*layer);
     if (m_loaded)
         m_names.insert(layerID, name);
     return name;
